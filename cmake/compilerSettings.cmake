@@ -1,0 +1,23 @@
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+option(QUORVANE_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" ON)
+option(QUORVANE_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+option(QUORVANE_COVERAGE "Build so that the tests' coverage can be measured" OFF)
+
+# Settings for our own targets only: they are not part of what a consumer of the library gets.
+add_library(quorvaneSettings INTERFACE)
+target_compile_options(quorvaneSettings INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+    $<$<BOOL:${QUORVANE_WARNINGS_AS_ERRORS}>:-Werror>)
+if(QUORVANE_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
+                        -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+if(QUORVANE_COVERAGE)
+    add_compile_options(--coverage -fprofile-update=atomic)
+    add_link_options(--coverage)
+endif()
