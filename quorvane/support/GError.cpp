@@ -1,0 +1,103 @@
+#include "quorvane/support/GError.h"
+
+#include <memory>
+
+#include "quorvane/support/currentError.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr int productNameResource = 8700;
+constexpr int informationStyle = 64;
+
+std::string productName(Platform& platform) {
+    return platform.resourceString(productNameResource).value_or("");
+}
+
+std::string joined(const ProgramVersion& version, const char* separator) {
+    return std::to_string(version.major) + separator + std::to_string(version.minor) + separator +
+           std::to_string(version.revision);
+}
+
+std::string sourceOfCurrentError() {
+    const RtfError* error = currentError();
+    return error ? error->source : std::string();
+}
+
+/// Runs the action with the error as the thread's current one, and makes it the current one again
+/// whatever was raised meanwhile. True when the action threw nothing.
+template <class Action>
+bool succeedsUnder(const RtfError& error, Action&& action) {
+    bool succeeded = true;
+    setCurrentError(error);
+    try {
+        action();
+    } catch (...) {
+        succeeded = false;
+    }
+    setCurrentError(error);
+    return succeeded;
+}
+
+}  // namespace
+
+void GError::handleError(const RtfError& error, const std::string& moduleName,
+                         const std::string& procedureName, const std::string& extraInfo) noexcept {
+    try {
+        // A copy: the error may be the thread's current one, which the steps below replace.
+        const AbsorbedError absorbed{error, moduleName, procedureName};
+        const RtfError& reported = absorbed.error;
+
+        // A copy again: the observer may replace itself while it runs.
+        const Observer observer = observer_;
+        if (observer) {
+            succeedsUnder(reported, [&] { observer(absorbed); });
+        }
+
+        const bool delivered = reporterSwitch_ && succeedsUnder(reported, [&] {
+                                   sendToReporter(reported.number, reported.description, moduleName,
+                                                  procedureName, extraInfo);
+                               });
+        if (!delivered && reported.is(RunTimeError::CannotCreateObject)) {
+            succeedsUnder(reported, [&] {
+                showError(reported.number, reported.description, moduleName, procedureName);
+            });
+        }
+        setCurrentError(reported);
+    } catch (...) {
+        // Not even memory for a copy of the error: there is nobody left to tell.
+    }
+}
+
+std::string GError::formatError(std::int32_t number, const std::string& description,
+                                const std::string& moduleName, const std::string& procedureName) {
+    return "Number: " + std::to_string(number) + "\r\nDescription: " + description +
+           "\r\nModule: " + moduleName + "\r\nFuntion: " + procedureName +
+           "\r\nSource: " + sourceOfCurrentError();
+}
+
+void GError::showError(std::int32_t number, const std::string& description,
+                       const std::string& moduleName, const std::string& procedureName) const {
+    platform_.showMessageBox(formatError(number, description, moduleName, procedureName),
+                             informationStyle, productName(platform_));
+}
+
+void GError::sendToReporter(std::int32_t number, const std::string& description,
+                            const std::string& moduleName, const std::string& procedureName,
+                            const std::string& extraInfo) const {
+    const std::unique_ptr<ErrorReporter> reporter = platform_.createReporter("Vantrel.CVantrel");
+    const ProgramVersion version = platform_.programVersion();
+    std::string applicationId =
+        platform_.programFolder() + "\\" + platform_.programFileName() + joined(version, "-");
+    reporter->Create(productName(platform_), applicationId);
+    reporter->sendError({.number = number,
+                         .description = description,
+                         .moduleName = moduleName,
+                         .procedureName = procedureName,
+                         .version = joined(version, "."),
+                         .source = sourceOfCurrentError(),
+                         .extraInfo = extraInfo});
+}
+
+}  // namespace quorvane

@@ -1,0 +1,89 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <utility>
+
+#include "quorvane/support/Platform.h"
+#include "quorvane/support/RtfError.h"
+
+namespace quorvane {
+
+/// An error that ended a procedure without reaching the host, and the procedure that it ended.
+struct AbsorbedError {
+    RtfError error;
+    /// File name of the module, such as "CRtfDoc.cls".
+    std::string moduleName;
+    /// Name of the procedure, such as "Commit".
+    std::string procedureName;
+};
+
+/// The error module of one document: where an error goes that no procedure could handle. It is
+/// absorbed there; only error 429 (an automation object that cannot be created) is shown, in a
+/// message box. With the reporter switch on, the external error collection is told of every error.
+class GError {
+public:
+    /// Called with every error that is absorbed. What it throws is swallowed. It may call into the
+    /// library and may replace itself by another, but must not destroy the error module.
+    using Observer = std::function<void(const AbsorbedError&)>;
+
+    /// The platform must outlive the error module.
+    explicit GError(Platform& platform) : platform_(platform) {}
+    GError(const GError&) = delete;
+    GError& operator=(const GError&) = delete;
+
+    /// The platform whose services the reports go through.
+    Platform& platform() const noexcept { return platform_; }
+
+    /// Takes the error that ended the procedure: tells the observer, then the external error
+    /// collection when the reporter switch is on. With the switch off, or when the delivery fails,
+    /// error 429 is shown in a message box and any other error leaves no trace. Never raises,
+    /// whatever observer, reporter and message box do. Afterwards the error is the thread's current
+    /// error.
+    void handleError(const RtfError& error, const std::string& moduleName,
+                     const std::string& procedureName, const std::string& extraInfo = {}) noexcept;
+
+    /// The report of an error: five lines, broken by CR LF, with number, description, module,
+    /// procedure and the source of the thread's current error. "Funtion: " is spelled so.
+    static std::string formatError(std::int32_t number, const std::string& description,
+                                   const std::string& moduleName, const std::string& procedureName);
+
+    /// Shows the report of an error in a message box with an information icon, titled with the
+    /// string resource 8700. Raises what the platform raises.
+    void showError(std::int32_t number, const std::string& description,
+                   const std::string& moduleName, const std::string& procedureName) const;
+
+    /// Delivers an error to the external error collection "Vantrel.CVantrel". Error 429 when it
+    /// cannot be created; otherwise raises what it raises.
+    void sendToReporter(std::int32_t number, const std::string& description,
+                        const std::string& moduleName, const std::string& procedureName,
+                        const std::string& extraInfo) const;
+
+    /// True when errors go to the external error collection. Initially false.
+    bool ReporterSwitch() const noexcept { return reporterSwitch_; }
+    void setReporterSwitch(bool on) noexcept { reporterSwitch_ = on; }
+
+    /// Sets the observer; an empty function removes it.
+    void setObserver(Observer observer) { observer_ = std::move(observer); }
+
+    /// Runs the body. An `RtfError` that it raises goes to `handleError` with the two names; true
+    /// when none was raised. Any other exception, such as `std::bad_alloc`, passes.
+    template <class Body>
+    bool absorbing(const char* moduleName, const char* procedureName, Body&& body) {
+        try {
+            std::forward<Body>(body)();
+            return true;
+        } catch (const RtfError& error) {
+            handleError(error, moduleName, procedureName);
+            return false;
+        }
+    }
+
+private:
+    Platform& platform_;
+    Observer observer_;
+    bool reporterSwitch_ = false;
+};
+
+}  // namespace quorvane

@@ -1,0 +1,114 @@
+#include "quorvane/support/GFileSystem.h"
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+
+#include "quorvane/support/codePage1252.h"
+#include "quorvane/support/currentError.h"
+#include "quorvane/support/trimming.h"
+#include "quorvane/support/utf8.h"
+
+namespace quorvane::GFileSystem {
+
+namespace {
+
+constexpr const char* moduleName = "GFileSystem.bas";
+
+/// The text is encoded and written in pieces of this many bytes, so that a large document is never
+/// in memory twice.
+constexpr std::size_t blockSize = 64 * 1024;
+
+/// A UTF-8 sequence has at most this many bytes after its first.
+constexpr std::size_t longestContinuation = 3;
+
+bool continuesCharacter(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+}
+
+/// Length of the first piece of the text: a block or, where its border would cut a character, the
+/// block up to that character.
+std::size_t lengthOfFirstBlock(std::string_view text) {
+    if (text.size() <= blockSize) {
+        return text.size();
+    }
+    for (std::size_t length = blockSize; length >= blockSize - longestContinuation; --length) {
+        if (!continuesCharacter(text[length])) {
+            return length;
+        }
+    }
+    return blockSize;  // no UTF-8 there, so there is no character to cut
+}
+
+void writeText(OutputFile& file, std::string_view text) {
+    std::string bytes;
+    while (!text.empty()) {
+        const std::size_t length = lengthOfFirstBlock(text);
+        bytes.clear();
+        appendCodePage1252(text.substr(0, length), bytes);
+        file.write(bytes);
+        text.remove_prefix(length);
+    }
+}
+
+}  // namespace
+
+bool saveStringToFile(GError& errors, const std::string& path, std::string_view text,
+                      bool keepExisting) {
+    return errors.absorbing(moduleName, "saveStringToFile", [&] {
+        if (!fileExists(errors.platform(), path)) {
+            saveString(errors, path, text);
+        } else if (!keepExisting) {
+            errors.platform().deleteFile(path);
+            saveString(errors, path, text);
+        }
+    });
+}
+
+void saveString(GError& errors, const std::string& path, std::string_view text) {
+    errors.absorbing(moduleName, "saveString", [&] {
+        const std::unique_ptr<OutputFile> file = errors.platform().createFile(path);
+        writeText(*file, text);
+        file->close();
+    });
+}
+
+bool fileExists(Platform& platform, const std::string& path) {
+    return platform.fileExists(path);
+}
+
+std::string loadStringFromFile(Platform& platform, const std::string& path) {
+    const RtfError* pending = currentError();
+    const std::optional<RtfError> errorBefore =
+        pending ? std::optional<RtfError>(*pending) : std::nullopt;
+    try {
+        return utf8FromCodePage1252(platform.readFile(path));
+    } catch (const RtfError&) {
+        if (errorBefore) {
+            setCurrentError(*errorBefore);
+        } else {
+            clearCurrentError();
+        }
+        return {};
+    }
+}
+
+std::string getPathTail(std::string_view path, std::string_view separator, bool takeAfter) {
+    path = TrimEx(path);
+    if (path.ends_with('\\')) {
+        path.remove_suffix(1);
+    }
+    const std::size_t position =
+        characterCount(separator) == 1 ? path.rfind(separator) : std::string_view::npos;
+    if (position == std::string_view::npos) {
+        return {};
+    }
+    const std::size_t end = position + separator.size();
+    return std::string(takeAfter ? path.substr(end) : path.substr(0, end));
+}
+
+std::string getFileExtension(std::string_view path) {
+    return getPathTail(path, ".", true);
+}
+
+}  // namespace quorvane::GFileSystem
