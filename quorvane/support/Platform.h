@@ -58,14 +58,15 @@ public:
     /// True when a file or folder of that path exists, or, for a file name with the wildcards * and
     /// ?, when anything matches it. Never fails.
     virtual bool fileExists(const std::string& path) = 0;
-    /// All bytes of a file. Errors: 53 no such file, 76 no such folder, 75 it is a folder or may
-    /// not be read, 67 too many open files, 57 anything else.
+    /// All bytes of a file, or of a pipe until its end. Errors: 53 no such file, 76 no such folder,
+    /// 75 it is a folder or a device or may not be read, 67 too many open files, 57 anything else.
     virtual std::string readFile(const std::string& path) = 0;
-    /// Removes a file. Errors: 53, 76, and 75 when it is held open, is a folder or may not go.
+    /// Removes a file; wildcards are letters like any other. Errors: 53, 76, 75 when it is held
+    /// open, is a folder, a device or a pipe, or may not go, 57 anything else.
     virtual void deleteFile(const std::string& path) = 0;
-    /// Opens a file for writing from its first byte; it is made when missing. Errors: 75 not
-    /// permitted, held open or a folder, 76 no such folder, 61 disk full, 67 too many open files,
-    /// 57 anything else.
+    /// Opens a file for writing from its first byte; it is made when missing, and not shortened
+    /// when it is there. Errors: 75 not permitted, held open or a folder, 76 no such folder, 61
+    /// disk full, 67 too many open files, 57 anything else.
     virtual std::unique_ptr<OutputFile> createFile(const std::string& path) = 0;
 
     /// Puts a plain text on the system clipboard, where there is one.
