@@ -1,0 +1,179 @@
+#include "quorvane/support/CMap.h"
+
+#include <algorithm>
+#include <bit>
+#include <utility>
+
+#include "quorvane/support/RtfError.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr std::size_t smallestSlotCount = 16;
+// What an empty slot holds, and the position of an absent key.
+constexpr std::uint32_t nowhere = UINT32_MAX;
+
+}  // namespace
+
+bool CMap::Exists(const Value& Key) const {
+    return positionOf(Key) != nowhere;
+}
+
+CMap::List CMap::Items() const {
+    if (entries_.empty()) {
+        return std::nullopt;
+    }
+    std::vector<Value> items;
+    items.reserve(entries_.size());
+    for (const Entry& entry : entries_) {
+        items.push_back(entry.value);
+    }
+    return items;
+}
+
+CMap::List CMap::Keys() const {
+    if (entries_.empty()) {
+        return std::nullopt;
+    }
+    std::vector<Value> keys;
+    keys.reserve(entries_.size());
+    for (const Entry& entry : entries_) {
+        keys.push_back(entry.key);
+    }
+    return keys;
+}
+
+void CMap::Key(const Value& Old, Value New) {
+    const std::uint32_t position = requiredPositionOf(Old);
+    const std::uint32_t taken = positionOf(New);
+    if (taken != nowhere && taken != position) {
+        raise(RunTimeError::DuplicateKey);
+    }
+    Entry& entry = entries_[position];
+    entry.hash = ValueHash{}(New);
+    entry.key = std::move(New);
+    fillSlots();
+}
+
+std::int32_t CMap::Count() const {
+    return static_cast<std::int32_t>(entries_.size());
+}
+
+const Value& CMap::Item(const Value& Key) const {
+    return entries_[requiredPositionOf(Key)].value;
+}
+
+void CMap::setItem(const Value& Key, Value value) {
+    const std::uint32_t position = positionOf(Key);
+    if (position == nowhere) {
+        append(Key, std::move(value));
+    } else {
+        entries_[position].value = std::move(value);
+    }
+}
+
+void CMap::RemoveAll() {
+    entries_.clear();
+    slots_.clear();
+}
+
+void CMap::Remove(const Value& Key) {
+    entries_.erase(entries_.begin() + requiredPositionOf(Key));
+    fillSlots();
+}
+
+void CMap::add(Value Key, Value value) {
+    if (Exists(Key)) {
+        raise(RunTimeError::DuplicateKey);
+    }
+    append(std::move(Key), std::move(value));
+}
+
+CMap::List CMap::Keys2Values(const List& vKeys) const {
+    if (!vKeys) {
+        return std::nullopt;
+    }
+    CMap wanted;
+    for (const Value& key : *vKeys) {
+        wanted.setItem(key, Empty{});
+    }
+    std::vector<Value> values;
+    for (const Entry& entry : entries_) {
+        if (wanted.Exists(entry.key)) {
+            values.push_back(entry.value);
+        }
+    }
+    return values.empty() ? List() : List(std::move(values));
+}
+
+std::shared_ptr<CMap> CMap::subMap(const List& vKeys) const {
+    if (!vKeys || IsMapEmpty()) {
+        return nullptr;
+    }
+    auto map = std::make_shared<CMap>();
+    for (const Value& key : *vKeys) {
+        const std::uint32_t position = positionOf(key);
+        if (position != nowhere) {
+            map->setItem(key, entries_[position].value);
+        }
+    }
+    return map;
+}
+
+std::size_t CMap::firstSlot(std::size_t hash) const {
+    // Hashes of numbers and objects differ in few of their bits; the product's upper bits depend on
+    // all of them.
+    const std::uint64_t mixed = std::uint64_t{hash} * 0x9E3779B97F4A7C15u;
+    return static_cast<std::size_t>(mixed >> (64 - std::countr_zero(slots_.size())));
+}
+
+std::uint32_t CMap::positionOf(const Value& key) const {
+    if (slots_.empty()) {
+        return nowhere;
+    }
+    const std::size_t hash = ValueHash{}(key);
+    for (std::size_t slot = firstSlot(hash); slots_[slot] != nowhere; slot = nextSlot(slot)) {
+        const Entry& entry = entries_[slots_[slot]];
+        if (entry.hash == hash && entry.key == key) {
+            return slots_[slot];
+        }
+    }
+    return nowhere;
+}
+
+std::uint32_t CMap::requiredPositionOf(const Value& key) const {
+    const std::uint32_t position = positionOf(key);
+    if (position == nowhere) {
+        raise(RunTimeError::InvalidProcedureCall);
+    }
+    return position;
+}
+
+void CMap::append(Value key, Value value) {
+    const std::size_t hash = ValueHash{}(key);
+    const std::size_t slotsNeeded = 2 * (entries_.size() + 1);
+    if (slotsNeeded > slots_.size()) {
+        slots_.resize(std::max(std::bit_ceil(slotsNeeded), smallestSlotCount));
+        fillSlots();
+    }
+    entries_.push_back({std::move(key), std::move(value), hash});
+    takeSlot(entries_.size() - 1);
+}
+
+void CMap::fillSlots() {
+    std::fill(slots_.begin(), slots_.end(), nowhere);
+    for (std::size_t position = 0; position < entries_.size(); ++position) {
+        takeSlot(position);
+    }
+}
+
+void CMap::takeSlot(std::size_t position) {
+    std::size_t slot = firstSlot(entries_[position].hash);
+    while (slots_[slot] != nowhere) {
+        slot = nextSlot(slot);
+    }
+    slots_[slot] = static_cast<std::uint32_t>(position);
+}
+
+}  // namespace quorvane

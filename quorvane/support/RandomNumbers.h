@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstdint>
+#include <random>
+
+namespace quorvane {
+
+/// A source of random numbers, for choices that must not be foreseen, such as a sort's pivots.
+class RandomNumbers {
+public:
+    /// Seeded by the clock.
+    RandomNumbers();
+    /// Gives the same numbers for the same seed.
+    explicit RandomNumbers(std::uint32_t seed) : engine_(seed) {}
+
+    /// A whole number from low to high, both inclusive, each as likely as the other. `low` must not
+    /// be above `high`.
+    std::int32_t between(std::int32_t low, std::int32_t high);
+
+private:
+    /// A number in [0, 1).
+    double next();
+
+    std::mt19937 engine_;
+};
+
+}  // namespace quorvane

@@ -1,0 +1,139 @@
+#include "quorvane/support/recordStrings.h"
+
+#include <algorithm>
+
+#include "quorvane/support/textCase.h"
+#include "quorvane/support/textSearch.h"
+#include "quorvane/support/utf8.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr char delimiterOfSubFields = '^';
+constexpr char commentMark = ';';
+
+// The text's next line, without its line break, which is taken off the text too.
+std::string_view takeLine(std::string_view& text) {
+    const auto* lineEnd = std::find_if(text.begin(), text.end(), [](char character) {
+        return character == '\n' || character == '\r';
+    });
+    const auto length = static_cast<std::size_t>(lineEnd - text.begin());
+    const std::string_view line = text.substr(0, length);
+    text.remove_prefix(length);
+    if (text.starts_with("\r\n")) {
+        text.remove_prefix(2);
+    } else if (!text.empty()) {
+        text.remove_prefix(1);
+    }
+    return line;
+}
+
+}  // namespace
+
+std::optional<SubFieldView> findSubField(std::string_view text, std::size_t position) {
+    const std::size_t begin = text.find(delimiterOfSubFields, position);
+    if (begin == std::string_view::npos) {
+        return std::nullopt;
+    }
+    const std::size_t codeBegin = begin + 1;
+    const std::size_t end = std::min(text.find(delimiterOfSubFields, codeBegin), text.size());
+    SubFieldView field{begin, text.substr(begin, end - begin), {}, {}};
+    if (codeBegin < text.size()) {
+        field.code = text.substr(codeBegin, utf8CharacterAt(text, codeBegin).length);
+        field.content = field.whole.substr(std::min(1 + field.code.size(), field.whole.size()));
+    }
+    return field;
+}
+
+std::optional<SubFieldView> findSubFieldOf(std::string_view text, std::string_view code) {
+    if (code.empty()) {
+        return std::nullopt;
+    }
+    std::optional<SubFieldView> field = findSubField(text);
+    while (field && !equalIgnoringCase(field->code, code)) {
+        field = findSubField(text, field->position + 1);
+    }
+    return field;
+}
+
+bool IsIsisFormated(std::string_view text) {
+    return text.size() > 1 && text.front() == delimiterOfSubFields;
+}
+
+std::string GetSubField(std::string_view text, std::string_view code) {
+    const std::optional<SubFieldView> field = findSubFieldOf(text, code);
+    return field ? std::string(field->content) : std::string();
+}
+
+std::string subFieldContents(std::string_view text, std::string_view codes) {
+    std::string contents;
+    while (!codes.empty()) {
+        const std::size_t length = utf8CharacterAt(codes, 0).length;
+        contents += GetSubField(text, codes.substr(0, length));
+        codes.remove_prefix(length);
+    }
+    return contents;
+}
+
+bool AllSubFieldsEmpty(std::string_view text) {
+    if (text.empty()) {
+        return true;
+    }
+    if (!IsIsisFormated(text)) {
+        return false;
+    }
+    std::optional<SubFieldView> field = findSubField(text);
+    while (field && TrimEx(field->content).empty()) {
+        field = findSubField(text, field->position + 1);
+    }
+    return !field;
+}
+
+std::string GetValue(std::string_view text, std::string_view separator) {
+    const std::size_t found = separator.empty() ? std::string_view::npos : text.find(separator);
+    if (found == std::string_view::npos) {
+        return {};
+    }
+    return std::string(TrimEx(text.substr(found + separator.size())));
+}
+
+std::vector<std::string> Parse(std::string_view text, std::string_view delimiter) {
+    std::vector<std::string> pieces;
+    if (text.empty()) {
+        return pieces;
+    }
+    std::size_t begin = 0;
+    for (const std::size_t found : findAll(text, delimiter, Occurrences::Separate)) {
+        pieces.emplace_back(text.substr(begin, found - begin));
+        begin = found + delimiter.size();
+    }
+    pieces.emplace_back(text.substr(begin));
+    return pieces;
+}
+
+std::string ReplaceString(std::string_view text, std::string_view search,
+                          std::string_view replacement) {
+    std::string replaced;
+    std::size_t begin = 0;
+    for (const std::size_t found : findAll(text, search, Occurrences::Separate)) {
+        replaced.append(text, begin, found - begin);
+        replaced.append(replacement);
+        begin = found + search.size();
+    }
+    replaced.append(text, begin);
+    return replaced;
+}
+
+std::vector<SourceLine> PreProcessRawData(std::string_view text) {
+    std::vector<SourceLine> lines;
+    for (int number = 1; !text.empty(); ++number) {
+        const std::string_view line = trimWhitespace(takeLine(text));
+        if (!line.empty() && line.front() != commentMark) {
+            lines.push_back({std::string(line), number});
+        }
+    }
+    return lines;
+}
+
+}  // namespace quorvane
