@@ -15,7 +15,7 @@
 
 #include "quorvane/support/Platform.h"
 #include "quorvane/support/errnoToRunTimeError.h"
-#include "quorvane/support/wildcards.h"
+#include "quorvane/support/fileNamePattern.h"
 
 namespace quorvane {
 
@@ -147,7 +147,7 @@ bool anyFileMatches(const std::string& folder, std::string_view pattern) {
     std::error_code failure;
     std::filesystem::directory_iterator entry(folder, failure);
     while (!failure && entry != std::filesystem::directory_iterator()) {
-        if (matchesWildcards(pattern, entry->path().filename().native())) {
+        if (matchesFileNamePattern(pattern, entry->path().filename().native())) {
             return true;
         }
         entry.increment(failure);
