@@ -49,22 +49,25 @@ void GError::handleError(const RtfError& error, const std::string& moduleName,
         const AbsorbedError absorbed{error, moduleName, procedureName};
         const RtfError& reported = absorbed.error;
 
-        // A copy again: the observer may replace itself while it runs.
-        const Observer observer = observer_;
-        if (observer) {
-            succeedsUnder(reported, [&] { observer(absorbed); });
-        }
+        const auto tellObserver = [&] {
+            const Observer observer = observer_;  // a copy: it may replace itself while it runs
+            if (observer) {
+                observer(absorbed);
+            }
+        };
+        const auto tellReporter = [&] {
+            sendToReporter(reported.number, reported.description, moduleName, procedureName,
+                           extraInfo);
+        };
+        const auto show = [&] {
+            showError(reported.number, reported.description, moduleName, procedureName);
+        };
 
-        const bool delivered = reporterSwitch_ && succeedsUnder(reported, [&] {
-                                   sendToReporter(reported.number, reported.description, moduleName,
-                                                  procedureName, extraInfo);
-                               });
+        succeedsUnder(reported, tellObserver);
+        const bool delivered = reporterSwitch_ && succeedsUnder(reported, tellReporter);
         if (!delivered && reported.is(RunTimeError::CannotCreateObject)) {
-            succeedsUnder(reported, [&] {
-                showError(reported.number, reported.description, moduleName, procedureName);
-            });
+            succeedsUnder(reported, show);
         }
-        setCurrentError(reported);
     } catch (...) {
         // Not even memory for a copy of the error: there is nobody left to tell.
     }

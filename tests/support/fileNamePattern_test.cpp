@@ -7,25 +7,25 @@
 namespace quorvane {
 namespace {
 
-TEST(FileNamePattern, AreStarAndQuestionMark) {
+TEST(FileNamePattern, HasTheWildcardsStarAndQuestionMark) {
     EXPECT_TRUE(hasWildcard("a*.rtf"));
     EXPECT_TRUE(hasWildcard("a?.rtf"));
     EXPECT_FALSE(hasWildcard("a[b].rtf"));
     EXPECT_FALSE(hasWildcard(""));
 }
 
-TEST(FileNamePattern, ANameWithoutThemMatchesItself) {
+TEST(FileNamePattern, MatchesItselfWithoutWildcards) {
     EXPECT_TRUE(matchesFileNamePattern("a.rtf", "a.rtf"));
     EXPECT_FALSE(matchesFileNamePattern("a.rtf", "b.rtf"));
     EXPECT_FALSE(matchesFileNamePattern("a.rtf", "a.rtfss"));
     EXPECT_FALSE(matchesFileNamePattern("a.rtfss", "a.rtf"));
 }
 
-TEST(FileNamePattern, CountCapitalsAsLettersOfTheirOwn) {
+TEST(FileNamePattern, CountsCapitalsAsLettersOfTheirOwn) {
     EXPECT_FALSE(matchesFileNamePattern("A*", "a.rtf"));
 }
 
-TEST(FileNamePattern, StarStandsForAnyNumberOfCharacters) {
+TEST(FileNamePattern, HasAStarForAnyNumberOfCharacters) {
     EXPECT_TRUE(matchesFileNamePattern("*", ""));
     EXPECT_TRUE(matchesFileNamePattern("*", "a.rtf"));
     EXPECT_TRUE(matchesFileNamePattern("a*", "a"));
@@ -35,19 +35,19 @@ TEST(FileNamePattern, StarStandsForAnyNumberOfCharacters) {
     EXPECT_FALSE(matchesFileNamePattern("a*", "ba"));
 }
 
-TEST(FileNamePattern, StarGivesBackWhatTheRestNeeds) {
+TEST(FileNamePattern, LetsAStarGiveBackWhatTheRestNeeds) {
     EXPECT_TRUE(matchesFileNamePattern("*ab", "aab"));
     EXPECT_TRUE(matchesFileNamePattern("*.rtf", "a.rtf.rtf"));
     EXPECT_TRUE(matchesFileNamePattern("*a*b*c", "xxaxxbxxbxxc"));
     EXPECT_FALSE(matchesFileNamePattern("*a*b*c", "xxaxxcxxb"));
 }
 
-TEST(FileNamePattern, StarsInARowAreOne) {
+TEST(FileNamePattern, TakesStarsInARowForOne) {
     EXPECT_TRUE(matchesFileNamePattern("a**", "a"));
     EXPECT_TRUE(matchesFileNamePattern("**a**b**", "ab"));
 }
 
-TEST(FileNamePattern, QuestionMarkStandsForExactlyOneCharacter) {
+TEST(FileNamePattern, HasAQuestionMarkForExactlyOneCharacter) {
     EXPECT_TRUE(matchesFileNamePattern("?", "a"));
     EXPECT_TRUE(matchesFileNamePattern("a?.rtf", "ab.rtf"));
     EXPECT_FALSE(matchesFileNamePattern("?", ""));
@@ -55,18 +55,18 @@ TEST(FileNamePattern, QuestionMarkStandsForExactlyOneCharacter) {
     EXPECT_FALSE(matchesFileNamePattern("?", "ab"));
 }
 
-TEST(FileNamePattern, QuestionMarkStandsForACharacterOfSeveralBytes) {
+TEST(FileNamePattern, HasAQuestionMarkForACharacterOfSeveralBytes) {
     EXPECT_TRUE(matchesFileNamePattern("caf?", "caf\xC3\xA9"));
     EXPECT_FALSE(matchesFileNamePattern("caf??", "caf\xC3\xA9"));
     EXPECT_TRUE(matchesFileNamePattern("*?", "\xE2\x82\xAC"));
 }
 
-TEST(FileNamePattern, TheEmptyPatternMatchesTheEmptyNameOnly) {
+TEST(FileNamePattern, MatchesTheEmptyNameOnlyWhenEmpty) {
     EXPECT_TRUE(matchesFileNamePattern("", ""));
     EXPECT_FALSE(matchesFileNamePattern("", "a"));
 }
 
-TEST(FileNamePattern, ManyStarsDoNotTakeLong) {
+TEST(FileNamePattern, TakesNotLongWithManyStars) {
     const std::string name(5000, 'a');
     std::string pattern;
     for (int i = 0; i < 500; ++i) {
