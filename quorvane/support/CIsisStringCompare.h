@@ -18,7 +18,7 @@ public:
     const std::string& SubField() const { return subField_; }
     void setSubField(std::string SubField) { subField_ = std::move(SubField); }
 
-    /// -1, 0 or 1. Raises nothing: strings that cannot be compared count as equal.
+    /// -1, 0 or 1; an absent subfield is empty. Raises nothing.
     std::int32_t comp(std::string_view A, std::string_view B) const noexcept override;
 
 private:

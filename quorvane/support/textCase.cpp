@@ -8,7 +8,15 @@ namespace quorvane {
 
 namespace {
 
-char32_t lowerCode(char32_t code) {
+char32_t takeLowerCode(std::string_view text, std::size_t& position) {
+    const Utf8Character character = utf8CharacterAt(text, position);
+    position += character.length;
+    return lowerCode(character.code);
+}
+
+}  // namespace
+
+char32_t lowerCode(char32_t code) noexcept {
     if (code >= U'A' && code <= U'Z') {
         return code + 0x20;
     }
@@ -32,14 +40,6 @@ char32_t lowerCode(char32_t code) {
             return code;
     }
 }
-
-char32_t takeLowerCode(std::string_view text, std::size_t& position) {
-    const Utf8Character character = utf8CharacterAt(text, position);
-    position += character.length;
-    return lowerCode(character.code);
-}
-
-}  // namespace
 
 std::string lowerCase(std::string_view text) {
     std::string lowered;

@@ -8,6 +8,9 @@ namespace quorvane {
 // Case is known of the letters of ASCII and of code page 1252, whatever the locale; every other
 // character, and every byte that is not well-formed UTF-8, stands for itself.
 
+/// The character in lower case, as its code point.
+char32_t lowerCode(char32_t code) noexcept;
+
 /// The text with its capital letters in lower case.
 std::string lowerCase(std::string_view text);
 
