@@ -56,6 +56,13 @@ INSTANTIATE_TEST_SUITE_P(
                       "This key is already associated with an element of this collection"}),
     [](const auto& instance) { return "Error" + std::to_string(instance.param.number); });
 
+TEST(RtfError, HasNoTextForANumberThatTheLibraryDoesNotRaise) {
+    const RtfError error(static_cast<RunTimeError>(438));
+
+    EXPECT_EQ(error.number, 438);
+    EXPECT_EQ(error.description, "");
+}
+
 TEST(RtfError, KeepsNumberDescriptionAndSource) {
     const RtfError error(445, "Bad keyword", "CRtfDriver.ParseFile");
 
