@@ -1,0 +1,150 @@
+#include "quorvane/docmodel/CRtfDoc.h"
+
+#include <functional>
+#include <utility>
+
+#include "quorvane/docmodel/measures.h"
+#include "quorvane/support/GFileSystem.h"
+#include "quorvane/support/RtfError.h"
+#include "quorvane/support/currentError.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr const char* moduleName = "CRtfDoc.cls";
+
+std::string lockedFileMessage(const std::string& path) {
+    return "Error accessing " + path +
+           ". The file seems to be opened with exclusive rights by some other application (maybe "
+           "MS Word) and Quorvane can't modify it.  Use a diferent file name or close it.";
+}
+
+}  // namespace
+
+void retain(CRtfDoc* document) noexcept {
+    document->counts_.retain();
+}
+
+void release(CRtfDoc* document) noexcept {
+    document->counts_.release(static_cast<TableDocument*>(document));
+}
+
+Ref<CRtfDoc> CRtfDoc::create(Platform& platform) {
+    return Ref<CRtfDoc>(new CRtfDoc(platform));
+}
+
+CRtfDoc::CRtfDoc(Platform& platform)
+    : errors_(platform), styleSheet_(std::make_unique<CRtfGrpStyleSheetTable>(*this, platform)) {
+    initAllGroups();
+}
+
+const std::string& CRtfDoc::Contents() {
+    clearCurrentError();
+    if (changed_) {
+        Refresh();
+    }
+    return contents_;
+}
+
+void CRtfDoc::setStyleSheetFile(const std::string& sName) {
+    clearCurrentError();
+    styleSheet_->setStyleSheetFile(sName);
+}
+
+void CRtfDoc::Commit(const std::string& sPath) {
+    clearCurrentError();
+    if (changed_) {
+        Refresh();
+    }
+    if (GFileSystem::saveStringToFile(errors_, sPath, contents_, false)) {
+        return;
+    }
+    const RtfError failure = *currentError();
+    if (failure.is(RunTimeError::PathFileAccessError)) {
+        raise(RtfError(failure.number, lockedFileMessage(sPath)));
+    }
+    errors_.handleError(failure, moduleName, "Commit");
+}
+
+void CRtfDoc::LoadStyleSheetFromMemmory(std::string_view sStyleSheet) {
+    clearCurrentError();
+    styleSheet_->loadStyleSheetFromMemory(sStyleSheet);
+}
+
+void CRtfDoc::Refresh() {
+    clearCurrentError();
+    // The stale text makes room first: its memory serves the new one. Should rendering fail for
+    // want of memory, the document still counts as changed.
+    std::string rtf = std::move(contents_);
+    contents_ = "{}";
+    changed_ = true;
+    rtf.assign(1, '{');
+    header_.render(rtf);
+    fontTable_.render(rtf);
+    colorTable_.render(rtf);
+    styleSheet_->render(rtf);
+    format_->render(rtf);
+    body_->render(rtf);
+    rtf += '}';
+    contents_ = std::move(rtf);
+    changed_ = false;
+}
+
+tColorIndex CRtfDoc::getCellStyleBackColor(std::string_view sName) const {
+    return static_cast<tColorIndex>(cellStyleColor(sName));
+}
+
+void CRtfDoc::ClearStructure() {
+    clearCurrentError();
+    initAllGroups();
+}
+
+void CRtfDoc::setAbsorbedErrorObserver(GError::Observer observer) {
+    errors_.setObserver(std::move(observer));
+}
+
+std::int32_t CRtfDoc::TextAreaWidth() const {
+    return difference(difference(format_->PaperWidth(), format_->RightMargin()),
+                      format_->LeftMargin());
+}
+
+std::string_view CRtfDoc::GetParagraphStyle(std::string_view sName) const {
+    const std::string_view words = styleSheet_->GetParagraphStyle(sName);
+    return words.empty() ? std::string_view(" ") : words;
+}
+
+std::string_view CRtfDoc::GetCharacterStyle(std::string_view sName) const {
+    return styleSheet_->GetCharacterStyle(sName);
+}
+
+// The fixed groups hold nothing that could change, and the stylesheet stays: only page and table
+// begin anew.
+void CRtfDoc::initAllGroups() {
+    auto format = std::make_unique<CRtfGrpDocumentFormat>(*this);
+    body_ = std::make_unique<CRtfGrpBody>(*this);
+    format_ = std::move(format);
+}
+
+void CRtfDoc::letGo() noexcept {
+    body_.reset();
+    format_.reset();
+    styleSheet_.reset();
+    contents_ = {};
+    names_ = {};
+    errors_.setObserver({});
+}
+
+std::int32_t CRtfDoc::cellStyleColor(std::string_view sName) const {
+    return styleSheet_->getCellStyleBackColor(sName);
+}
+
+SharedText CRtfDoc::sharedName(std::string_view sName) {
+    SharedText& kept = names_[std::hash<std::string_view>{}(sName) % names_.size()];
+    if (kept.view() != sName) {
+        kept = SharedText(sName);
+    }
+    return kept;
+}
+
+}  // namespace quorvane

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "quorvane/docmodel/TableDocument.h"
+#include "quorvane/docmodel/enumerations.h"
+#include "quorvane/docmodel/references.h"
+#include "quorvane/support/Counted.h"
+#include "quorvane/support/KeyedList.h"
+#include "quorvane/support/Ref.h"
+#include "quorvane/support/SharedText.h"
+#include "quorvane/support/Value.h"
+
+namespace quorvane {
+
+/// One paragraph of a cell. It is made by its cell's `Paragraphs`, and keeps what it holds when it
+/// has been removed there. A setter that marks the document changed raises error 91 when the
+/// document is gone; the value is set all the same.
+class CRtfParagraph final : public KeyedListElement {
+public:
+    /// The owning cell, also after the paragraph was removed from it; Nothing when the cell is gone.
+    Ref<CRtfTableCell> Parent() const;
+
+    /// The text as it is written into the document: RTF control words and inline styles such as
+    /// `<bold-red=Total>` take effect. Empty by default; a paragraph without text writes nothing.
+    std::string Text() const { return text_.text(); }
+    /// An empty text is ignored. Any other marks the document changed.
+    void setText(std::string_view text);
+
+    /// Name of the paragraph's style; empty by default. Whether it exists is not checked.
+    std::string Style() const { return style_.text(); }
+    /// Marks the document changed, also when the name is the same.
+    void setStyle(std::string_view sName);
+
+    /// Colour of the text; `eNoColor` (0), the default, writes no colour.
+    tColorIndex ForeColor() const { return static_cast<tColorIndex>(foreColor_); }
+    /// Marks the document changed, also when the colour is the same.
+    void setForeColor(tColorIndex color);
+
+    /// Alignment; `eNoDefault` (0) by default. 1 to 4 write an alignment, other values none.
+    tCellAlign Align() const { return static_cast<tCellAlign>(align_); }
+    /// Does not mark the document changed.
+    void setAlign(tCellAlign align) { align_ = align; }
+
+    /// Makes the paragraph a marked text field with the given data: a text or a 16-bit or 32-bit
+    /// integer. Data of another type is refused without an error: the paragraph is marked all the
+    /// same and keeps the data it had. Does not mark the document changed.
+    void asMarkedField(const Value& vFieldData);
+
+private:
+    friend class CRtfParagraphs;
+    friend class CRtfTableCell;
+    friend void retain(CRtfParagraph* paragraph) noexcept;
+    friend void release(CRtfParagraph* paragraph) noexcept;
+
+    explicit CRtfParagraph(CRtfTableCell& cell) : parent_(&cell) {}
+    ~CRtfParagraph() = default;
+
+    void setParent(CRtfTableCell& cell) { parent_ = WeakRef<CRtfTableCell>(&cell); }
+    void takeOver(const CRtfParagraph& old);
+    TableDocument* document() const noexcept;
+    void render(const TableDocument& document, std::size_t position, std::string& rtf) const;
+
+    Counted counts_;
+    WeakRef<CRtfTableCell> parent_;
+    SharedText text_;
+    SharedText style_;
+    std::int32_t foreColor_ = eNoColor;
+    std::int32_t align_ = eNoDefault;
+    // Hexadecimal data of a marked field; null when the paragraph is none.
+    std::unique_ptr<std::string> markedField_;
+};
+
+/// The document that a cell belongs to, for its paragraphs; null when it is gone.
+TableDocument* documentOf(const CRtfTableCell& cell) noexcept;
+
+}  // namespace quorvane

@@ -1,0 +1,61 @@
+#include "quorvane/docmodel/CRtfParagraphs.h"
+
+#include <utility>
+
+#include "quorvane/support/RtfError.h"
+#include "quorvane/support/currentError.h"
+
+namespace quorvane {
+
+std::int32_t CRtfParagraphs::indexOf(const CRtfParagraph* paragraph) const {
+    clearCurrentError();
+    if (!paragraph) {
+        raise(RtfError(static_cast<std::int32_t>(RunTimeError::ObjectNotSet),
+                       "The paragraph object is set to Nothing"));
+    }
+    return static_cast<std::int32_t>(list_.requiredPositionOf(*paragraph));
+}
+
+Ref<CRtfParagraph> CRtfParagraphs::refile(const Ref<CRtfParagraph>& old, std::string_view key) {
+    clearCurrentError();
+    TableDocument& owner = required(document());
+    const std::size_t position = list_.requiredPositionOf(*old);
+    Ref<CRtfParagraph> fresh(new CRtfParagraph(cell_));
+    list_.replaceAt(position, fresh, key);
+    fresh->takeOver(*old);
+    owner.markChanged();
+    return fresh;
+}
+
+void CRtfParagraphs::insertNew(const List::Place& place, TableDocument&) {
+    list_.insert(place, Ref<CRtfParagraph>(new CRtfParagraph(cell_)));
+}
+
+void CRtfParagraphs::takeFrom(CRtfParagraphs& other) {
+    list_ = std::move(other.list_);
+    for (CRtfParagraph* paragraph : list_) {
+        paragraph->setParent(cell_);
+    }
+}
+
+void CRtfParagraphs::setForeColors(tColorIndex color) noexcept {
+    for (CRtfParagraph* paragraph : list_) {
+        paragraph->foreColor_ = color;
+    }
+}
+
+void CRtfParagraphs::setAligns(tCellAlign align) noexcept {
+    for (CRtfParagraph* paragraph : list_) {
+        paragraph->align_ = align;
+    }
+}
+
+void CRtfParagraphs::render(const TableDocument& document, std::string& rtf) const {
+    std::size_t position = 0;
+    for (const CRtfParagraph* paragraph : list_) {
+        rtf += "\r\n";
+        paragraph->render(document, ++position, rtf);
+    }
+}
+
+}  // namespace quorvane

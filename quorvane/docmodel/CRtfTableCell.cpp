@@ -1,0 +1,190 @@
+#include "quorvane/docmodel/CRtfTableCell.h"
+
+#include "quorvane/rtfgroups/GTextMarkedFields.h"
+#include "quorvane/support/RtfError.h"
+#include "quorvane/support/appendNumber.h"
+#include "quorvane/support/currentError.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr std::uint64_t bit(tColorIndex color) {
+    return std::uint64_t{1} << color;
+}
+
+constexpr std::uint64_t darkColors =
+    bit(eBlack) | bit(eBlue) | bit(eBrown) | bit(eDarkCyan) | bit(eDarkGray) | bit(eDarkGreen) |
+    bit(eDarkMagenta) | bit(eDarkRed) | bit(eDarkSlateBlue) | bit(eDarkYellow) |
+    bit(eDeepSkyBlue) | bit(eGray) | bit(eNavyBlue) | bit(eOliveGreen) | bit(ePurple) |
+    bit(eSeaGreen) | bit(eBrick) | bit(eCork) | bit(eDarkCork) | bit(eGrayBlue) |
+    bit(eDarkNavyBlue) | bit(eViolet) | bit(eSargassoGreen) | bit(eRoyalBlue) | bit(eDeepPurple) |
+    bit(eSteelBlue) | bit(eAsphalt) | bit(eDarkGrass) | bit(eRedBrick);
+
+struct SideWords {
+    BorderSide side;
+    std::string_view words;
+};
+
+constexpr std::array<SideWords, 4> borderWords{{
+    {BorderSide::Bottom, R"(\clbrdrb\brdrs\brdrw)"},
+    {BorderSide::Left, R"(\clbrdrl\brdrs\brdrw)"},
+    {BorderSide::Right, R"(\clbrdrr\brdrs\brdrw)"},
+    {BorderSide::Top, R"(\clbrdrt\brdrs\brdrw)"},
+}};
+
+}  // namespace
+
+bool isDarkColor(tColorIndex color) noexcept {
+    return color >= 0 && color < 64 && (darkColors >> color & 1U) != 0;
+}
+
+void retain(CRtfTableCell* cell) noexcept {
+    cell->counts_.retain();
+}
+
+void release(CRtfTableCell* cell) noexcept {
+    cell->counts_.release(cell);
+}
+
+void retainWeak(CRtfTableCell* cell) noexcept {
+    cell->counts_.retainWeak();
+}
+
+void releaseWeak(CRtfTableCell* cell) noexcept {
+    cell->counts_.releaseWeak(cell);
+}
+
+bool isAlive(const CRtfTableCell* cell) noexcept {
+    return cell->counts_.isAlive();
+}
+
+void retain(CRtfParagraphs* paragraphs) noexcept {
+    retain(&paragraphs->cell_);
+}
+
+void release(CRtfParagraphs* paragraphs) noexcept {
+    release(&paragraphs->cell_);
+}
+
+TableDocument* documentOf(const CRtfTableCell& cell) noexcept {
+    return cell.document();
+}
+
+void CRtfTableCell::letGo() noexcept {
+    paragraphs_.list_.clear();
+    parent_ = {};
+}
+
+Ref<CRtfTableRow> CRtfTableCell::Parent() const {
+    return Ref<CRtfTableRow>(parent_.get());
+}
+
+TableDocument* CRtfTableCell::document() const noexcept {
+    const CRtfTableRow* row = parent_.get();
+    return row ? documentOf(*row) : nullptr;
+}
+
+CRtfTableRow& CRtfTableCell::row() const {
+    CRtfTableRow* row = parent_.get();
+    if (!row) {
+        raise(RunTimeError::ObjectNotSet);
+    }
+    return *row;
+}
+
+void CRtfTableCell::takeOver(CRtfTableCell& old) {
+    backColor_ = old.backColor_;
+    borders_ = old.borders_;
+    rightEdge_ = old.rightEdge_;
+    paragraphs_.takeFrom(old.paragraphs_);
+}
+
+void CRtfTableCell::setBorder(BorderSide side, tBorderWidth width) {
+    clearCurrentError();
+    if (borders_[side] != width) {
+        borders_.set(side, width);
+        markChanged(document());
+    }
+}
+
+void CRtfTableCell::setBackColor(tColorIndex color) {
+    clearCurrentError();
+    applyBackColor(document(), color);
+}
+
+void CRtfTableCell::applyBackColor(TableDocument* document, tColorIndex color) {
+    if (backColor_ == color) {
+        return;
+    }
+    backColor_ = color;
+    if (isDarkColor(color)) {
+        paragraphs_.setForeColors(eWhite);
+    }
+    markChanged(document);
+}
+
+std::int32_t CRtfTableCell::Width(tWidthUnit Units) const {
+    clearCurrentError();
+    return cellWidth(row(), *this, Units);
+}
+
+void CRtfTableCell::setWidth(tWidthUnit Units, std::int32_t width) {
+    clearCurrentError();
+    setCellWidth(row(), *this, Units, width);
+}
+
+void CRtfTableCell::setStyle(std::string_view sName) {
+    clearCurrentError();
+    TableDocument* document = this->document();
+    style_ = document ? document->sharedName(sName) : SharedText(sName);
+    markChanged(document);
+}
+
+void CRtfTableCell::asMarkedField(const Value& vFieldData) {
+    clearCurrentError();
+    try {
+        markedField_ = std::make_unique<std::string>(GTextMarkedFields::fieldData(vFieldData));
+    } catch (const RtfError& error) {
+        if (TableDocument* document = this->document()) {
+            document->errors().handleError(error, "CRtfTableCell.cls", "asMarkedField");
+        }
+    }
+}
+
+void CRtfTableCell::renderDefinition(TableDocument& document, std::int32_t rightEdge,
+                                     std::string& rtf) {
+    for (const SideWords& border : borderWords) {
+        const tBorderWidth width = borders_[border.side];
+        if (width != eNone) {
+            rtf += border.words;
+            appendNumber(width, rtf);
+        }
+    }
+    if (backColor_ != eNoColor || !style_.empty()) {
+        if (backColor_ == eNoColor) {
+            applyBackColor(&document,
+                           static_cast<tColorIndex>(document.cellStyleColor(style_.view())));
+        }
+        rtf += "\\clcbpat";
+        appendNumber(backColor_, rtf);
+    }
+    rtf += "\\cellx";
+    appendNumber(rightEdge, rtf);
+}
+
+void CRtfTableCell::renderContent(TableDocument& document, std::string& rtf) {
+    if (align_ != eNoDefault) {
+        paragraphs_.setAligns(Align());
+    }
+    if (markedField_) {
+        GTextMarkedFields::appendFieldStart(*markedField_, rtf);
+    }
+    rtf += "\r\n";
+    paragraphs_.render(document, rtf);
+    if (markedField_) {
+        GTextMarkedFields::appendFieldEnd(rtf);
+    }
+}
+
+}  // namespace quorvane

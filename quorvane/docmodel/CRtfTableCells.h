@@ -1,0 +1,76 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "quorvane/docmodel/CRtfTableCell.h"
+#include "quorvane/docmodel/TableCollection.h"
+#include "quorvane/docmodel/references.h"
+#include "quorvane/support/Ref.h"
+
+namespace quorvane {
+
+/// The cells of a row, in order, with their right edges in twips from the left edge of the table.
+///
+/// Every insertion spreads the cells evenly over the usable width of the page as it is then, and so
+/// forgets all widths that were set before (error 6 when an edge leaves 32 bits). When a cell is
+/// removed, its left neighbour takes over its right edge, unless it was the first or just one cell
+/// is left; the other edges stay.
+class CRtfTableCells : public TableCollection<CRtfTableCells, CRtfTableCell> {
+public:
+    /// The owning row.
+    Ref<CRtfTableRow> Parent() const { return Ref<CRtfTableRow>(&row_); }
+
+    /// Removes the last cell. Error 5 when there is none.
+    void removeTail();
+
+    /// Spreads the cells evenly over the usable width of the page, each at least 200 twips wide (so
+    /// that many cells can be wider than the page). Marks the document changed. Errors: 11 when
+    /// there are no cells, 6 when an edge leaves 32 bits.
+    void SetUniformWidths();
+
+    /// 1-based position of a cell. Errors: 91 "The Cell object is set to Nothing" for null, 5 when
+    /// it is not in the list.
+    std::int32_t indexOf(const CRtfTableCell* cell) const;
+
+    /// Puts a new cell with this key, and with the ground, the borders, the width and the
+    /// paragraphs of the old one, in its place, and answers it. Errors: 5 the old cell is not in the
+    /// list, 457 the key is there already, the old cell's own included.
+    Ref<CRtfTableCell> refile(const Ref<CRtfTableCell>& old, std::string_view key);
+
+private:
+    friend class TableCollection;
+    friend class CRtfTableRow;
+    friend void retain(CRtfTableCells* cells) noexcept;
+    friend void release(CRtfTableCells* cells) noexcept;
+    friend std::int32_t cellWidth(const CRtfTableRow& row, const CRtfTableCell& cell,
+                                  tWidthUnit units);
+    friend void setCellWidth(CRtfTableRow& row, CRtfTableCell& cell, tWidthUnit units,
+                             std::int32_t width);
+
+    explicit CRtfTableCells(CRtfTableRow& row) : row_(row) {}
+
+    TableDocument* document() const noexcept { return documentOf(row_); }
+    void insertNew(const List::Place& place, TableDocument& document);
+    void removeAt(std::size_t position) noexcept;
+    void takeFrom(CRtfTableCells& other);
+    void spread(std::int32_t uniformWidth) noexcept;
+    void settleEdges() noexcept;
+    std::int32_t rightEdge(std::size_t position) const noexcept;
+    std::int32_t width(std::size_t position) const;
+    std::int32_t widthOf(const CRtfTableCell& cell, tWidthUnit units) const;
+    void setWidthOf(const CRtfTableCell& cell, tWidthUnit units, std::int32_t value);
+    void render(TableDocument& document, std::string& rtf);
+
+    CRtfTableRow& row_;
+    // While the cells are spread evenly, their edges follow from this width and their positions and
+    // are not written into the cells, so that adding a cell does not touch the others. 0 when the
+    // edges stand in the cells.
+    std::int32_t uniformWidth_ = 0;
+    // Cells removed at the head since the cells were spread: the edges of the others stay.
+    std::int32_t removedHeads_ = 0;
+};
+
+}  // namespace quorvane

@@ -1,0 +1,95 @@
+#include "quorvane/docmodel/CRtfTableRow.h"
+
+#include "quorvane/support/currentError.h"
+
+namespace quorvane {
+
+void retain(CRtfTableRow* row) noexcept {
+    row->counts_.retain();
+}
+
+void release(CRtfTableRow* row) noexcept {
+    row->counts_.release(row);
+}
+
+void retainWeak(CRtfTableRow* row) noexcept {
+    row->counts_.retainWeak();
+}
+
+void releaseWeak(CRtfTableRow* row) noexcept {
+    row->counts_.releaseWeak(row);
+}
+
+bool isAlive(const CRtfTableRow* row) noexcept {
+    return row->counts_.isAlive();
+}
+
+void retain(CRtfTableCells* cells) noexcept {
+    retain(&cells->row_);
+}
+
+void release(CRtfTableCells* cells) noexcept {
+    release(&cells->row_);
+}
+
+TableDocument* documentOf(const CRtfTableRow& row) noexcept {
+    return row.parent_.get();
+}
+
+std::int32_t cellWidth(const CRtfTableRow& row, const CRtfTableCell& cell, tWidthUnit units) {
+    return row.cells_.widthOf(cell, units);
+}
+
+void setCellWidth(CRtfTableRow& row, CRtfTableCell& cell, tWidthUnit units, std::int32_t width) {
+    row.cells_.setWidthOf(cell, units, width);
+}
+
+void CRtfTableRow::letGo() noexcept {
+    cells_.list_.clear();
+    parent_ = {};
+}
+
+void CRtfTableRow::takeOver(CRtfTableRow& old) {
+    backColor_ = old.backColor_;
+    borders_ = old.borders_;
+    cells_.takeFrom(old.cells_);
+}
+
+Ref<CRtfDoc> CRtfTableRow::Parent() const {
+    TableDocument* document = parent_.get();
+    return Ref<CRtfDoc>(document ? document->document() : nullptr);
+}
+
+void CRtfTableRow::setBackColor(tColorIndex color) {
+    clearCurrentError();
+    if (backColor_ == color) {
+        return;
+    }
+    backColor_ = color;
+    TableDocument& document = required(parent_.get());
+    for (CRtfTableCell* cell : cells_.list_) {
+        cell->applyBackColor(&document, color);
+    }
+    document.markChanged();
+}
+
+void CRtfTableRow::setBorder(BorderSide side, tBorderWidth width) {
+    clearCurrentError();
+    if (borders_[side] == width) {
+        return;
+    }
+    borders_.set(side, width);
+    TableDocument& document = required(parent_.get());
+    for (CRtfTableCell* cell : cells_.list_) {
+        cell->borders_ = borders_;
+    }
+    document.markChanged();
+}
+
+void CRtfTableRow::render(TableDocument& document, std::string& rtf) {
+    rtf += "\r\n{\\intbl\\trowd\\trql\\trgaph70\\trleft0";
+    cells_.render(document, rtf);
+    rtf += "\\row}";
+}
+
+}  // namespace quorvane

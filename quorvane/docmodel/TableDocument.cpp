@@ -1,0 +1,30 @@
+#include "quorvane/docmodel/TableDocument.h"
+
+#include "quorvane/support/RtfError.h"
+
+namespace quorvane {
+
+void retainWeak(TableDocument* document) noexcept {
+    document->counts_.retainWeak();
+}
+
+void releaseWeak(TableDocument* document) noexcept {
+    document->counts_.releaseWeak(document);
+}
+
+bool isAlive(const TableDocument* document) noexcept {
+    return document->counts_.isAlive();
+}
+
+TableDocument& required(TableDocument* document) {
+    if (!document) {
+        raise(RunTimeError::ObjectNotSet);
+    }
+    return *document;
+}
+
+void markChanged(TableDocument* document) {
+    required(document).markChanged();
+}
+
+}  // namespace quorvane

@@ -1,0 +1,197 @@
+#include "quorvane/docmodel/inlineStyles.h"
+
+#include <optional>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+
+#include "quorvane/docmodel/TableDocument.h"
+#include "quorvane/support/recordStrings.h"
+#include "quorvane/support/trimming.h"
+#include "quorvane/support/utf8.h"
+#include "quorvane/support/utf16Units.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr std::size_t nowhere = std::string_view::npos;
+
+/// What stands between "<" and ">" is a token when it begins with a character from "A" to "z" (the
+/// six punctuation characters between the letters included) and an "=" follows.
+template <class Character>
+bool isToken(std::basic_string_view<Character> inner) {
+    return !inner.empty() && inner[0] >= 'A' && inner[0] <= 'z' &&
+           inner.find(Character{'='}) != nowhere;
+}
+
+std::string renderToken(const TableDocument& document, std::string_view inner) {
+    const std::size_t equals = inner.find('=');
+    const std::string_view value = inner.substr(equals + 1);
+    const std::string_view words = document.GetCharacterStyle(inner.substr(0, equals));
+    std::string group = "{";
+    group += value.empty() ? TrimEx(words) : words;
+    group += value;
+    group += '}';
+    return group;
+}
+
+std::u32string renderToken(const TableDocument& document, std::u32string_view inner) {
+    return utf16Units(renderToken(document, textOfUtf16Units(inner)));
+}
+
+/// The walk over a body whose characters are its places.
+template <class Character>
+class InlineStyles {
+public:
+    using Text = std::basic_string<Character>;
+    using View = std::basic_string_view<Character>;
+
+    InlineStyles(const TableDocument& document, View body) : document_(document), body_(body) {}
+
+    Text apply() {
+        if (takesTurns()) {
+            walkOnce();
+        } else {
+            done_ = body_;
+            walkOver(done_.find(opening), done_.find(opening));
+        }
+        return std::move(done_);
+    }
+
+private:
+    static constexpr Character opening{'<'};
+    static constexpr Character closing{'>'};
+    static constexpr Character brackets[] = {opening, closing, Character{}};
+
+    bool takesTurns() const {
+        bool isOpen = false;
+        for (std::size_t at = body_.find_first_of(brackets); at != nowhere;
+             at = body_.find_first_of(brackets, at + 1)) {
+            if (isOpen && body_[at] == opening) {
+                return false;
+            }
+            isOpen = body_[at] == opening;
+        }
+        return true;
+    }
+
+    /// One pass for a body in which every "<" is followed by a ">" before the next "<". What is
+    /// left of the walk is in `done_`; what is right of it still is as it was, and each token that
+    /// was replaced once is replaced there when the walk comes to it.
+    void walkOnce() {
+        std::optional<std::size_t> close;
+        while (advanceToOpening()) {
+            const std::size_t open = done_.size();
+            const std::size_t from = close.value_or(open) + 1;
+            if (from < open && done_.find(closing, from) != nowhere) {
+                break;
+            }
+            const std::size_t tokenEnd = body_.find(closing, next_);
+            const std::size_t tokenClose = open + (tokenEnd - next_);
+            const View inner = body_.substr(next_ + 1, tokenEnd - next_ - 1);
+            Text replacement;
+            const bool leavesStep = tokenEnd == nowhere || from > tokenClose;
+            if (!leavesStep && isToken(inner)) {
+                replacement = renderToken(document_, inner);
+            }
+            if (leavesStep || replacement.find_first_of(brackets) != nowhere) {
+                appendRest();
+                walkOver(open, close.value_or(open));
+                return;
+            }
+            close = tokenClose;
+            if (replacement.empty()) {
+                done_ += opening;
+                ++next_;
+            } else {
+                done_ += replacement;
+                replaced_.emplace(body_.substr(next_, tokenEnd - next_ + 1), std::move(replacement));
+                next_ = tokenEnd + 1;
+            }
+        }
+        appendRest();
+    }
+
+    /// Moves on to the next "<" that is not the beginning of a token replaced before.
+    bool advanceToOpening() {
+        for (;;) {
+            const std::size_t open = body_.find(opening, next_);
+            if (open == nowhere) {
+                return false;
+            }
+            done_ += body_.substr(next_, open - next_);
+            next_ = open;
+            const std::size_t end = body_.find(closing, open);
+            const auto known = end == nowhere ? replaced_.end()
+                                              : replaced_.find(body_.substr(open, end - open + 1));
+            if (known == replaced_.end()) {
+                return true;
+            }
+            done_ += known->second;
+            next_ = end + 1;
+        }
+    }
+
+    void appendRest() {
+        while (advanceToOpening()) {
+            done_ += opening;
+            ++next_;
+        }
+        done_ += body_.substr(next_);
+        next_ = body_.size();
+    }
+
+    /// The walk as it is defined, on a body of any form.
+    void walkOver(std::size_t open, std::size_t close) {
+        while (open != nowhere) {
+            close = done_.find(closing, close + 1);
+            if (close == nowhere || close <= open) {
+                return;
+            }
+            const View inner = View(done_).substr(open + 1, close - open - 1);
+            if (isToken(inner)) {
+                const Text replacement = renderToken(document_, inner);
+                const Text token(View(done_).substr(open, close - open + 1));
+                replaceEverywhere(token, replacement);
+            }
+            open = done_.find(opening, open + 1);
+        }
+    }
+
+    void replaceEverywhere(const Text& token, const Text& replacement) {
+        Text result;
+        std::size_t from = 0;
+        for (std::size_t at = done_.find(token); at != nowhere; at = done_.find(token, from)) {
+            result.append(done_, from, at - from);
+            result += replacement;
+            from = at + token.size();
+        }
+        result.append(done_, from, nowhere);
+        done_ = std::move(result);
+    }
+
+    const TableDocument& document_;
+    View body_;
+    std::size_t next_ = 0;
+    Text done_;
+    std::unordered_map<View, Text> replaced_;
+};
+
+}  // namespace
+
+void applyCharacterStyles(const TableDocument& document, std::size_t start, std::string& rtf) {
+    const std::string_view body = std::string_view(rtf).substr(start);
+    if (body.find('<') == nowhere) {
+        return;
+    }
+    std::string styled;
+    if (asciiRunEnd(body, 0) == body.size()) {
+        styled = InlineStyles<char>(document, body).apply();
+    } else {
+        styled = textOfUtf16Units(InlineStyles<char32_t>(document, utf16Units(body)).apply());
+    }
+    rtf.replace(start, nowhere, styled);
+}
+
+}  // namespace quorvane

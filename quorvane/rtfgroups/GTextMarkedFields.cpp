@@ -1,0 +1,57 @@
+#include "quorvane/rtfgroups/GTextMarkedFields.h"
+
+#include "quorvane/support/RtfError.h"
+#include "quorvane/support/codePage1252.h"
+
+namespace quorvane::GTextMarkedFields {
+
+std::string toStringRepr(const Value& value) {
+    if (value.isText()) {
+        return value.text();
+    }
+    if (value.holds<std::int16_t>() || value.holds<std::int32_t>()) {
+        return std::to_string(static_cast<std::int32_t>(value.number()));
+    }
+    raise(RtfError(refusedDataError, "A Marked Text Field Data can only be String or Long",
+                   "GTextMarkedField.toStringRepr()"));
+}
+
+std::string toHexString(std::string_view text) {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    std::string hexadecimal;
+    for (const char character : codePage1252FromUtf8(text)) {
+        const auto byte = static_cast<unsigned char>(character);
+        if (byte >= 16) {
+            hexadecimal += digits[byte / 16];
+        }
+        hexadecimal += digits[byte % 16];
+    }
+    return hexadecimal;
+}
+
+std::string fieldData(const Value& value) {
+    return toHexString(toStringRepr(value));
+}
+
+void appendFieldStart(std::string_view data, std::string& rtf) {
+    rtf += R"({\*\txfieldstart\txfieldtype0\txfieldflags128\txfieldbin)";
+    if (!data.empty()) {
+        rtf += R"(\txfielddata )";
+        rtf += data;
+    }
+    rtf += '}';
+}
+
+void appendFieldEnd(std::string& rtf) {
+    rtf += R"({\*\txfieldend})";
+}
+
+std::string wrapMarkedField(std::string_view rtf, std::string_view data) {
+    std::string wrapped;
+    appendFieldStart(data, wrapped);
+    wrapped += rtf;
+    appendFieldEnd(wrapped);
+    return wrapped;
+}
+
+}  // namespace quorvane::GTextMarkedFields

@@ -1,0 +1,134 @@
+#include "quorvane/stylesheet/CRtfGrpStyleSheetTable.h"
+
+#include "quorvane/rtfgroups/CRtfGrpColorTable.h"
+#include "quorvane/support/GFileSystem.h"
+#include "quorvane/support/textCase.h"
+#include "quorvane/support/trimming.h"
+
+namespace quorvane {
+
+namespace {
+
+std::string searchedName(std::string_view name) {
+    return lowerCase(TrimEx(name));
+}
+
+std::string reference(std::string_view word, const StyleList& styles, const std::string& name) {
+    const int position = styles.find(name);
+    return position < 0 ? std::string() : std::string(word) + std::to_string(styleNumber(position));
+}
+
+std::string paragraphEntry(const StyleList& styles, int position) {
+    const Style& style = styles.at(position);
+    std::string words;
+    if (style.name != "normal") {
+        words = "\\" + style.kind() + std::to_string(styleNumber(position));
+    }
+    words += " " + style.format();
+    if (style.isAdditive()) {
+        words += " \\additive";
+    }
+    words += reference(" \\sbasedon", styles, style.basedOn());
+    words += reference(" \\snext", styles, style.next());
+    words += " " + style.name;
+    return "{" + std::string(TrimEx(words)) + ";}";
+}
+
+std::string characterEntry(const StyleList& styles, int position) {
+    const Style& style = styles.at(position);
+    std::string words = "\\*\\" + style.kind() + std::to_string(styleNumber(position));
+    if (style.isAdditive()) {
+        words += " \\additive";
+    }
+    words += reference(" \\sbasedon", styles, style.basedOn());
+    return "{" + words + " " + style.format() + " " + style.name + ";}";
+}
+
+template <class Entry>
+void appendEntries(const StyleList& styles, Entry entry, std::string& rtf) {
+    const int count = static_cast<int>(styles.count());
+    for (int position = 1; position <= count; ++position) {
+        rtf += "\r\n";
+        rtf += entry(styles, position);
+    }
+}
+
+}  // namespace
+
+void CRtfGrpStyleSheetTable::setStyleSheetFile(const std::string& sName) {
+    clear();
+    if (!GFileSystem::fileExists(platform_, sName)) {
+        fileName_ = sName;
+        return;
+    }
+    load(GFileSystem::loadStringFromFile(platform_, sName));
+    fileName_ = sName;
+}
+
+void CRtfGrpStyleSheetTable::loadStyleSheetFromMemory(std::string_view text) {
+    clear();
+    load(text);
+}
+
+bool CRtfGrpStyleSheetTable::IsStyleDefined(std::string_view sName) const {
+    const std::string name = searchedName(sName);
+    return loaded_ && (paragraphStyles_.find(name) > 0 || characterStyles_.find(name) > 0 ||
+                       cellStyles_.find(name) > 0);
+}
+
+std::string_view CRtfGrpStyleSheetTable::GetParagraphStyle(std::string_view sName) const {
+    return loaded_ ? paragraphAnswers_.find(paragraphStyles_, sName) : std::string_view();
+}
+
+std::string_view CRtfGrpStyleSheetTable::GetCharacterStyle(std::string_view sName) const {
+    return loaded_ ? characterAnswers_.find(characterStyles_, sName) : std::string_view();
+}
+
+std::int32_t CRtfGrpStyleSheetTable::getCellStyleBackColor(std::string_view sName) const {
+    return CRtfGrpColorTable::colorNumber(GetMarkedFieldStyle(sName));
+}
+
+std::string CRtfGrpStyleSheetTable::GetMarkedFieldStyle(std::string_view sName) const {
+    const int position = loaded_ ? cellStyles_.find(searchedName(sName)) : -1;
+    return position < 0 ? std::string() : cellStyles_.at(position).format();
+}
+
+void CRtfGrpStyleSheetTable::render(std::string& rtf) const {
+    if (loaded_) {
+        rtf += "\r\n{\\stylesheet";
+        appendEntries(paragraphStyles_, paragraphEntry, rtf);
+        appendEntries(characterStyles_, characterEntry, rtf);
+        rtf += '}';
+    }
+}
+
+void CRtfGrpStyleSheetTable::clear() noexcept {
+    fileName_.clear();
+    loaded_ = false;
+    paragraphStyles_.clear();
+    characterStyles_.clear();
+    cellStyles_.clear();
+}
+
+void CRtfGrpStyleSheetTable::load(std::string_view text) {
+    parseStyleSheet(text, [this](const StyleDefinition& definition) { file(definition); });
+    // A paragraph of an unknown style gets the first one, under a number that no style has.
+    paragraphAnswers_ = StyleAnswers(
+        paragraphStyles_,
+        paragraphStyles_.empty() ? std::string() : selectionWords(paragraphStyles_.at(1), 0));
+    characterAnswers_ = StyleAnswers(characterStyles_, {});
+    loaded_ = true;
+    owner_.markChanged();
+}
+
+void CRtfGrpStyleSheetTable::file(const StyleDefinition& definition) {
+    for (const std::string& name : definition.names) {
+        const std::string kind = Style{name, definition.record}.kind();
+        StyleList& styles = kind == "s"    ? paragraphStyles_
+                            : kind == "cs" ? characterStyles_
+                                           : cellStyles_;
+        styles.add(name, definition.record);
+    }
+}
+
+}  // namespace quorvane

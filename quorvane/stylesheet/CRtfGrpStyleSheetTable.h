@@ -1,0 +1,77 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "quorvane/rtfgroups/GroupOwner.h"
+#include "quorvane/stylesheet/StyleAnswers.h"
+#include "quorvane/stylesheet/StyleList.h"
+#include "quorvane/stylesheet/stylesheetParser.h"
+#include "quorvane/support/Platform.h"
+
+namespace quorvane {
+
+/// The document's styles: what a stylesheet text defines, the group that is written for it, and the
+/// lookups made while the document is rendered. Until a stylesheet was read without an error the
+/// group is empty and every lookup answers empty. Lookups trim the blanks of the name that they are
+/// asked for and take no regard of its case; they never fail.
+class CRtfGrpStyleSheetTable {
+public:
+    CRtfGrpStyleSheetTable(GroupOwner& owner, Platform& platform)
+        : owner_(owner), platform_(platform) {}
+
+    /// Name of the stylesheet's file; empty when the styles come from a text.
+    const std::string& StyleSheetFile() const { return fileName_; }
+    /// Forgets all styles and reads those of a file (Windows-1252), whatever its extension. On
+    /// success the document is marked changed. A missing file raises nothing: its name is kept and
+    /// no styles are loaded. A file that exists but cannot be read counts as empty. Errors 445 and
+    /// 31037 for a bad stylesheet; the name is empty then.
+    void setStyleSheetFile(const std::string& sName);
+
+    /// Forgets all styles and the file name and reads the styles of a text (UTF-8). On success the
+    /// document is marked changed. Errors 445 and 31037 for a bad stylesheet.
+    void loadStyleSheetFromMemory(std::string_view text);
+
+    /// True when a stylesheet was read without an error.
+    bool StyleSheetOk() const noexcept { return loaded_; }
+
+    /// True when a paragraph, character or cell style of that name exists.
+    bool IsStyleDefined(std::string_view sName) const;
+
+    /// The words that select the named paragraph style. For an unknown name those of the first
+    /// paragraph style, with number 0; empty when there is no paragraph style. Good until the next
+    /// load.
+    std::string_view GetParagraphStyle(std::string_view sName) const;
+
+    /// The words that select the named character style; empty when there is none. Good until the
+    /// next load.
+    std::string_view GetCharacterStyle(std::string_view sName) const;
+
+    /// Number in the colour table of the colour that the named cell style has as its format; 0 for
+    /// an unknown style, "none", and a word that names no colour.
+    std::int32_t getCellStyleBackColor(std::string_view sName) const;
+
+    /// The format words of the named style among the cell styles; empty when there is none.
+    std::string GetMarkedFieldStyle(std::string_view sName) const;
+
+    /// Appends the group's text.
+    void render(std::string& rtf) const;
+
+private:
+    void clear() noexcept;
+    void load(std::string_view text);
+    void file(const StyleDefinition& definition);
+
+    GroupOwner& owner_;
+    Platform& platform_;
+    std::string fileName_;
+    bool loaded_ = false;
+    StyleList paragraphStyles_;
+    StyleList characterStyles_;
+    StyleList cellStyles_;
+    StyleAnswers paragraphAnswers_;
+    StyleAnswers characterAnswers_;
+};
+
+}  // namespace quorvane

@@ -1,0 +1,73 @@
+#include "quorvane/stylesheet/StyleList.h"
+
+#include <utility>
+
+#include "quorvane/support/recordStrings.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr std::string_view nameMark = "^t";
+
+// What names are searched in: a name is the style's when it stands between "^t" and the next "^".
+std::string searchText(const Style& style) {
+    return "^t" + style.name + style.record + "^";
+}
+
+}  // namespace
+
+std::string Style::kind() const {
+    return GetSubField(record, "d");
+}
+
+std::string Style::format() const {
+    return GetSubField(record, "f");
+}
+
+std::string Style::basedOn() const {
+    return GetSubField(record, "b");
+}
+
+std::string Style::next() const {
+    return GetSubField(record, "n");
+}
+
+bool Style::isAdditive() const {
+    return GetSubField(record, "a") == "yes";
+}
+
+void StyleList::add(std::string name, std::string record) {
+    styles_.push_back({std::move(name), std::move(record)});
+    const int position = static_cast<int>(styles_.size());
+    const std::string text = searchText(styles_.back());
+    for (std::size_t mark = text.find(nameMark); mark != std::string::npos;
+         mark = text.find(nameMark, mark + 1)) {
+        const std::size_t start = mark + nameMark.size();
+        const std::size_t end = text.find('^', start);
+        if (end != std::string::npos) {
+            positions_.try_emplace(text.substr(start, end - start), position);
+        }
+    }
+}
+
+void StyleList::clear() noexcept {
+    styles_.clear();
+    positions_.clear();
+}
+
+int StyleList::find(std::string_view name) const {
+    if (name.find('^') == std::string_view::npos) {
+        const auto found = positions_.find(std::string(name));
+        return found == positions_.end() ? -1 : found->second;
+    }
+    const std::string wanted = "^t" + std::string(name) + "^";
+    for (std::size_t i = 0; i < styles_.size(); ++i) {
+        if (searchText(styles_[i]).find(wanted) != std::string::npos) {
+            return static_cast<int>(i) + 1;
+        }
+    }
+    return -1;
+}
+
+}  // namespace quorvane

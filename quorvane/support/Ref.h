@@ -1,0 +1,83 @@
+#pragma once
+
+#include <cstddef>
+#include <utility>
+
+namespace quorvane {
+
+/// A counted reference to an object; null stands for Nothing. The object lives while a reference
+/// to it does. For the type, `retain(T*)` and `release(T*)` must be declared beside it, so that
+/// references to a type that is only declared can be held and handed on. Counts are not atomic: an
+/// object is used by one thread at a time.
+template <class T>
+class Ref {
+public:
+    Ref() = default;
+    Ref(std::nullptr_t) {}
+    explicit Ref(T* object) : object_(object) {
+        if (object_) {
+            retain(object_);
+        }
+    }
+    Ref(const Ref& other) : Ref(other.object_) {}
+    Ref(Ref&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
+    Ref& operator=(Ref other) noexcept {
+        std::swap(object_, other.object_);
+        return *this;
+    }
+    ~Ref() {
+        if (object_) {
+            release(object_);
+        }
+    }
+
+    T* get() const noexcept { return object_; }
+    T* operator->() const noexcept { return object_; }
+    T& operator*() const noexcept { return *object_; }
+    explicit operator bool() const noexcept { return object_ != nullptr; }
+    /// Two references are equal when they refer to the same object.
+    bool operator==(const Ref&) const = default;
+
+    /// Hands the counted object over to the caller, who must release it.
+    T* detach() noexcept { return std::exchange(object_, nullptr); }
+    /// Takes over an object that was counted for the caller.
+    static Ref adopt(T* object) noexcept {
+        Ref reference;
+        reference.object_ = object;
+        return reference;
+    }
+
+private:
+    T* object_ = nullptr;
+};
+
+/// A reference that does not keep its object alive: `get` answers null once the object's last `Ref`
+/// has gone. For the type, `retainWeak`, `releaseWeak` and `isAlive` must be declared beside it.
+template <class T>
+class WeakRef {
+public:
+    WeakRef() = default;
+    explicit WeakRef(T* object) : object_(object) {
+        if (object_) {
+            retainWeak(object_);
+        }
+    }
+    WeakRef(const WeakRef& other) : WeakRef(other.object_) {}
+    WeakRef(WeakRef&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
+    WeakRef& operator=(WeakRef other) noexcept {
+        std::swap(object_, other.object_);
+        return *this;
+    }
+    ~WeakRef() {
+        if (object_) {
+            releaseWeak(object_);
+        }
+    }
+
+    T* get() const noexcept { return object_ && isAlive(object_) ? object_ : nullptr; }
+
+private:
+    T* object_ = nullptr;
+};
+
+}  // namespace quorvane
