@@ -1,5 +1,6 @@
 #pragma once
 
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -53,7 +54,8 @@ public:
     Value(std::string value) : data_(std::move(value)) {}
     Value(std::string_view value) : data_(std::string(value)) {}
     Value(const char* value) : data_(std::string(value)) {}
-    Value(std::shared_ptr<Object> value) : data_(std::move(value)) {}
+    template <std::derived_from<Object> T>
+    Value(std::shared_ptr<T> value) : data_(std::shared_ptr<Object>(std::move(value))) {}
 
     /// True for an argument that was not given, and for Empty.
     bool isAbsent() const noexcept { return holds<Missing>() || holds<Empty>(); }

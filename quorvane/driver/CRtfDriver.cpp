@@ -1,0 +1,166 @@
+#include "quorvane/driver/CRtfDriver.h"
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+#include "quorvane/driver/DescriptionChecks.h"
+#include "quorvane/driver/DescriptionNode.h"
+#include "quorvane/driver/DescriptionReader.h"
+#include "quorvane/driver/DocumentBuilder.h"
+#include "quorvane/driver/driverErrors.h"
+#include "quorvane/support/GFileSystem.h"
+#include "quorvane/support/RtfError.h"
+#include "quorvane/support/codePage1252.h"
+#include "quorvane/support/currentError.h"
+#include "quorvane/support/recordStrings.h"
+#include "quorvane/support/textCase.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr const char* wrongPathSource = "Error: eWrongPath\r\nCRtfDriver.ParseFile";
+constexpr std::int32_t docNumber = 1;
+
+bool contains(std::string_view text, std::string_view part) {
+    return text.find(part) != std::string_view::npos;
+}
+
+bool hasRequiredElements(std::string_view text) {
+    return contains(text, "(doc") && (contains(text, "(row") || contains(text, "(cell") ||
+                                      contains(text, "(r") || contains(text, "(c"));
+}
+
+void requireDocAround(const std::vector<SourceLine>& lines) {
+    const bool begins = !lines.empty() && lines.front().text.starts_with("(doc");
+    const bool ends = !lines.empty() && lines.back().text.starts_with("doc)");
+    if (!begins || !ends) {
+        const int line = lines.empty() ? 0 : (begins ? lines.back() : lines.front()).number;
+        raise(driverError(eWrongRootNode, "(doc must be the first node.", "CRtfDriver.Analysedata",
+                          line));
+    }
+}
+
+}  // namespace
+
+void retain(CRtfDriver* driver) noexcept {
+    driver->counts_.retain();
+}
+
+void release(CRtfDriver* driver) noexcept {
+    if (driver->counts_.release()) {
+        delete driver;
+    }
+}
+
+Ref<CRtfDriver> CRtfDriver::create(Platform& platform) {
+    return Ref<CRtfDriver>(new CRtfDriver(platform));
+}
+
+CRtfDriver::CRtfDriver(Platform& platform)
+    : platform_(platform), document_(CRtfDoc::create(platform)) {}
+
+void CRtfDriver::ParseFile(const std::string& sPath) {
+    clearCurrentError();
+    if (sPath.empty()) {
+        raise(driverError(eWrongPath, "Path is empty!", wrongPathSource));
+    }
+    std::string text;
+    try {
+        text = utf8FromCodePage1252(platform_.readFile(sPath));
+    } catch (const RtfError& error) {
+        RtfError wrongPath =
+            driverError(eWrongPath, sPath + " doesn't exist or is unreacheable", wrongPathSource);
+        wrongPath.cause = std::make_shared<RtfError>(error);
+        raise(std::move(wrongPath));
+    }
+    AnalyseData(text);
+}
+
+void CRtfDriver::ParseFromMemmory(std::string_view sBuffer) {
+    clearCurrentError();
+    AnalyseData(sBuffer);
+}
+
+void CRtfDriver::LoadStyleSheetFromMemmory(std::string_view sBuffer) {
+    document_->LoadStyleSheetFromMemmory(sBuffer);
+}
+
+void CRtfDriver::setNotifyErrorHandler(NotifyErrorHandler handler) {
+    handler_ = std::move(handler);
+}
+
+void CRtfDriver::setStyleSheetFile(const std::string& sName) {
+    clearCurrentError();
+    const bool isStyleSheet = lowerCase(GFileSystem::getFileExtension(sName)) == "rtfss";
+    if (!isStyleSheet || sName == StyleSheetFile()) {
+        return;
+    }
+    try {
+        document_->setStyleSheetFile(sName);
+    } catch (const RtfError& error) {
+        RtfError refused = driverError(eWrongFileType, sName + " isn't a valid stylesheet.",
+                                       "CRtfDriver.StyleSheetFile");
+        refused.cause = std::make_shared<RtfError>(error);
+        raise(std::move(refused));
+    }
+}
+
+void CRtfDriver::setAbsorbedErrorObserver(GError::Observer observer) {
+    document_->setAbsorbedErrorObserver(std::move(observer));
+}
+
+void CRtfDriver::AnalyseData(std::string_view text) {
+    // A handler of the event may let go of the driver.
+    const Ref<CRtfDriver> self(this);
+    const auto root = std::make_shared<DescriptionNode>(0);
+    std::vector<SourceLine> lines;
+    document_->ClearStructure();
+    step([&] {
+        if (!contains(text, "(doc")) {
+            platform_.setClipboardText(std::string(text));
+            raise(driverError(eWrongFileType, "The provided file isn't a correct rtfspec file.",
+                              "CRtfDriver.AnalyseData"));
+        }
+    });
+    step([&] {
+        if (!hasRequiredElements(text)) {
+            raise(driverError(eRequiredElementMissing,
+                              "Missing some requiered elements:\r\n(doc\r\n(row\r\n(cell",
+                              "CRtfDriver.AnalyseData"));
+        }
+    });
+    lines = PreProcessRawData(text);
+    step([&] { requireDocAround(lines); });
+    if (erroneousInput_) {
+        lines = repairLines(std::move(lines));
+    }
+    step([&] { DescriptionReader(vocabulary_).treeWalkerBuild(root, lines); });
+    if (erroneousInput_) {
+        const DescriptionChecks checks(vocabulary_);
+        step([&] { checks.docWalkerSyntax(*root->child(docNumber)); });
+        step([&] { checks.treeWalkerSemantic(*root->child(docNumber), NodeKind::Doc); });
+    }
+    step([&] { DocumentBuilder(*document_, vocabulary_).build(*root->child(docNumber)); });
+}
+
+template <class Body>
+void CRtfDriver::step(Body&& body) {
+    try {
+        body();
+    } catch (const RtfError& error) {
+        report(error);
+    }
+}
+
+void CRtfDriver::report(const RtfError& error) {
+    if (notifyError_ && handler_) {
+        setCurrentError(error);
+        // The handler may put another one in its place.
+        const NotifyErrorHandler handler = handler_;
+        handler(*this);
+    }
+}
+
+}  // namespace quorvane

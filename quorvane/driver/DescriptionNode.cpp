@@ -1,0 +1,68 @@
+#include "quorvane/driver/DescriptionNode.h"
+
+#include <utility>
+
+#include "quorvane/driver/GDictionary.h"
+#include "quorvane/driver/driverErrors.h"
+#include "quorvane/support/RtfError.h"
+#include "quorvane/support/numberText.h"
+
+namespace quorvane {
+
+std::vector<Value> DescriptionNode::leafKeys() const {
+    return FilterType(Keys().value_or(std::vector<Value>()), ValueKind::Text);
+}
+
+std::vector<Value> DescriptionNode::childNumbers() const {
+    return FilterType(Keys().value_or(std::vector<Value>()), ValueKind::Number);
+}
+
+const Leaf& DescriptionNode::leaf(const Value& key) const {
+    // The map keeps the leaf alive.
+    return *Item(key).object<Leaf>();
+}
+
+std::shared_ptr<DescriptionNode> DescriptionNode::child(const Value& number) const {
+    if (!Exists(number)) {
+        raise(RunTimeError::ObjectNotSet);
+    }
+    return Item(number).object<DescriptionNode>();
+}
+
+void DescriptionNode::addLeaf(const std::string& key, Leaf leaf) {
+    const int line = leaf.line;
+    atLine(line, [&] { add(key, std::make_shared<Leaf>(std::move(leaf))); });
+}
+
+NodeKind NodeType(std::int32_t number) {
+    constexpr NodeKind kinds[] = {NodeKind::Doc, NodeKind::Row, NodeKind::Cell, NodeKind::Para};
+    if (number < 0 || number > 3999) {
+        raise(driverError(eWrongNodeType, std::to_string(number) + " isn't a valid key value.",
+                          "CRtfDriver.NodeType"));
+    }
+    return kinds[number / 1000];
+}
+
+std::shared_ptr<DescriptionNode> AddNode(DescriptionNode& tree, NodeKind kind, std::int32_t number,
+                                         int line) {
+    const auto code = static_cast<std::int32_t>(kind);
+    if (code < 0 || code > 3) {
+        raise(driverError(eWrongNodeType, "Can't add this type of node: " + std::to_string(code),
+                          "CRtfDriver.AddNode", line));
+    }
+    auto node = std::make_shared<DescriptionNode>(line);
+    tree.add(number, node);
+    return node;
+}
+
+bool nests(NodeKind parent, NodeKind child) {
+    return (parent == NodeKind::Doc && child == NodeKind::Row) ||
+           (parent == NodeKind::Row && child == NodeKind::Cell) ||
+           (parent == NodeKind::Cell && child == NodeKind::Para);
+}
+
+std::string valueText(const Value& value) {
+    return value.isNumber() ? numberText(value.number()) : value.text();
+}
+
+}  // namespace quorvane

@@ -1,0 +1,106 @@
+#include "quorvane/driver/DescriptionReader.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <string>
+#include <utility>
+
+#include "quorvane/driver/driverErrors.h"
+#include "quorvane/driver/lineClassifier.h"
+#include "quorvane/support/RtfError.h"
+#include "quorvane/support/numberText.h"
+
+namespace quorvane {
+
+namespace {
+
+struct Limit {
+    std::int32_t number;
+    const char* message;
+};
+
+// By the codes of the kinds.
+constexpr Limit limits[] = {
+    {1999, "Too many row nodes."},
+    {2999, "Too many cell nodes."},
+    {3999, "Too many para nodes."},
+    {999, "Too many doc nodes."},
+};
+
+constexpr const char* procedure = "CRtfDriver.treeWalkerBuild";
+
+}  // namespace
+
+std::vector<SourceLine> repairLines(std::vector<SourceLine> lines) {
+    std::vector<SourceLine> repaired;
+    for (auto line = lines.rbegin(); line != lines.rend(); ++line) {
+        if (!repaired.empty() && repaired.back().text == "(r") {
+            if (line->text == "(r") {
+                continue;
+            }
+            if (line->text == "c)") {
+                repaired.push_back({"r)", repaired.back().number});
+            }
+        }
+        repaired.push_back(std::move(*line));
+    }
+    std::reverse(repaired.begin(), repaired.end());
+    return repaired;
+}
+
+void DescriptionReader::treeWalkerBuild(const std::shared_ptr<DescriptionNode>& root,
+                                        const std::vector<SourceLine>& lines) {
+    std::vector<Level> levels{{root, NodeKind::Doc}};
+    openerCount_ = 0;
+    auto line = lines.begin();
+    while (line != lines.end() && !levels.empty()) {
+        const Level level = levels.back();
+        const NodeKind opened = openedKind(line->text, vocabulary_);
+        const NodeKind closed = closedKind(line->text, vocabulary_);
+        if (isLeaf(line->text)) {
+            addLeaf(*level.node, *line);
+            ++line;
+        } else if (opened != NodeKind::None) {
+            ++openerCount_;
+            const std::int32_t number = nextNumber(opened, *line);
+            if (opened != NodeKind::Doc && !nests(level.kind, opened)) {
+                levels.pop_back();
+                continue;
+            }
+            numbers_[static_cast<std::size_t>(opened)] = number;
+            levels.push_back({AddNode(*level.node, opened, number, line->number), opened});
+            openerCount_ = 0;
+            ++line;
+        } else if (closed == level.kind) {
+            levels.pop_back();
+            ++line;
+        } else if (closed != NodeKind::None) {
+            raise(driverError(eWrongNodeType, "Wrong node type in " + line->text, procedure,
+                              line->number));
+        } else {
+            raise(driverError(eSyntaxError, line->text + " has a wrong syntax",
+                              "sLine is neither a recognized node nor a leaf\r\nsLeaf = " +
+                                  line->text + "\r\n" + procedure,
+                              line->number));
+        }
+    }
+}
+
+void DescriptionReader::addLeaf(DescriptionNode& node, const SourceLine& line) const {
+    const std::string text(leafValue(line.text));
+    const auto number = readNumber(text);
+    node.addLeaf(vocabulary_.expand(leafKey(line.text)),
+                 Leaf(number ? Value(*number) : Value(text), text, line.number));
+}
+
+std::int32_t DescriptionReader::nextNumber(NodeKind kind, const SourceLine& line) const {
+    const auto code = static_cast<std::size_t>(kind);
+    const std::int32_t number = numbers_[code] + openerCount_;
+    if (number > limits[code].number) {
+        raise(driverError(eWrongNumberOfNodes, limits[code].message, "CRtfDriver.treeWakerBuild",
+                          line.number));
+    }
+    return number;
+}
+
+}  // namespace quorvane

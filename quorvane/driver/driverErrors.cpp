@@ -1,0 +1,39 @@
+#include "quorvane/driver/driverErrors.h"
+
+#include <array>
+#include <cstddef>
+#include <utility>
+
+namespace quorvane {
+
+namespace {
+
+constexpr auto errorBase = static_cast<std::int32_t>(0x80040000);
+
+constexpr std::array<std::string_view, 11> levelNames = {
+    "eNoStyleSheet",    "eWrongFileType", "eWrongPath",          "eRequiredElementMissing",
+    "eWrongRootNode",   "eWrongKeyword",  "eWrongNumberOfNodes", "eWrongValue",
+    "eWrongStyleSheet", "eWrongNodeType", "eSyntaxError",
+};
+
+}  // namespace
+
+RtfError driverError(tErrorLevel level, std::string description, std::string source, int line) {
+    RtfError error(errorBase + level, std::move(description), std::move(source));
+    error.line = line;
+    return error;
+}
+
+std::optional<tErrorLevel> errorLevel(std::int32_t number) {
+    const std::int64_t level = std::int64_t{number} - errorBase;
+    if (level < 1 || level > static_cast<std::int64_t>(levelNames.size())) {
+        return std::nullopt;
+    }
+    return static_cast<tErrorLevel>(level);
+}
+
+std::string_view errorLevelName(tErrorLevel level) {
+    return levelNames.at(static_cast<std::size_t>(level) - 1);
+}
+
+}  // namespace quorvane

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "quorvane/docmodel/enumerations.h"
+#include "quorvane/support/RtfError.h"
+#include "quorvane/support/currentError.h"
+
+namespace quorvane {
+
+/// An error of the driver: its number is 0x80040000 plus the level. `line` is the 1-based line of
+/// the description that it concerns, 0 for none.
+RtfError driverError(tErrorLevel level, std::string description, std::string source = {},
+                     int line = 0);
+
+/// The level of an error of the driver; nothing for any other error number.
+std::optional<tErrorLevel> errorLevel(std::int32_t number);
+
+/// The level's name, such as "eWrongValue".
+std::string_view errorLevelName(tErrorLevel level);
+
+/// Runs the body; an error that it raises and that tells no line concerns this one.
+template <class Body>
+void atLine(int line, Body&& body) {
+    try {
+        body();
+    } catch (RtfError& error) {
+        if (error.line == 0) {
+            error.line = line;
+            setCurrentError(error);
+        }
+        throw;
+    }
+}
+
+}  // namespace quorvane
