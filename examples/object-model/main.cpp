@@ -1,0 +1,168 @@
+// Builds an order form with the object model and writes it to the file that is named on the command
+// line: orderForm order.rtf
+
+#include <cstdio>
+#include <iostream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "quorvane/docmodel/CRtfDoc.h"
+
+using namespace quorvane;
+
+namespace {
+
+// One paragraph style that nothing uses stands first for the one character style, so that no style
+// number in use is shared; it has the format of "normal".
+constexpr std::string_view styles = R"(
+    { name: reserved; style-def: s; format: \f0\fs20\cf3 }
+    { name: normal; style-def: s; format: \f0\fs20\cf3\sb40\sa40 }
+    { name: title; style-def: s; format: \f0\fs40\b\cf31\sa60 }
+    { name: party; style-def: s; format: \f0\fs20\cf3 }
+    { name: column; style-def: s; format: \f0\fs18\b\cf3\sb60\sa60 }
+    { name: total; style-def: s; format: \f0\fs22\b\cf31\sb80\sa80 }
+    { name: note; style-def: s; format: \f0\fs18\cf9\sb200\sa60 }
+    { name: label; style-def: cs; format: \b\cf9 }
+    { name: sum; style-def: cell; format: light-green }
+)";
+
+struct Item {
+    std::string number;
+    std::string name;
+    int quantity;
+    int pence;
+};
+
+struct Cell {
+    int percent;
+    std::string text;
+    std::string style = "normal";
+    tCellAlign align = eNoDefault;
+};
+
+// A paragraph's text is RTF, so a text that comes from outside is escaped.
+std::string escaped(std::string_view text) {
+    std::string rtf;
+    for (const char c : text) {
+        if (c == '\\' || c == '{' || c == '}') {
+            rtf += '\\';
+        }
+        rtf += c;
+    }
+    return rtf;
+}
+
+std::string money(int pence) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%d.%02d", pence / 100, pence % 100);
+    return text;
+}
+
+void addParagraph(CRtfTableCell& cell, std::string_view text, std::string_view style) {
+    const auto paragraphs = cell.Paragraphs();
+    paragraphs->AddTail();
+    const auto paragraph = paragraphs->PeekTail();
+    paragraph->setText(text);
+    paragraph->setStyle(style);
+}
+
+// Adding a cell spreads the cells of the row evenly, so the widths come after all of them; borders
+// and background of a row go to the cells that it has then, so they come last of all.
+Ref<CRtfTableRow> addRow(CRtfDoc& document, const std::vector<Cell>& cells) {
+    document.TableRows()->AddTail();
+    const auto row = document.TableRows()->PeekTail();
+    const auto tableCells = row->TableCells();
+    for (const Cell& cell : cells) {
+        tableCells->AddTail();
+        const auto tableCell = tableCells->PeekTail();
+        tableCell->setAlign(cell.align);
+        addParagraph(*tableCell, cell.text, cell.style);
+    }
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        tableCells->Item(static_cast<std::int32_t>(i + 1))->setWidth(ePercent, cells[i].percent);
+    }
+    return row;
+}
+
+void fill(CRtfDoc& document, const std::vector<Item>& items) {
+    addRow(document, {{100, "Order", "title"}});
+
+    const auto parties =
+        addRow(document, {{60, "<label=To>", "party"}, {40, "<label=Order No.> 2025-118", "party"}});
+    const auto supplier = parties->TableCells()->Item(1);
+    addParagraph(*supplier, escaped("Northmoor Tea & Coffee Ltd"), "party");
+    addParagraph(*supplier, "14 Quay Street, Northmoor", "party");
+    const auto facts = parties->TableCells()->Item(2);
+    addParagraph(*facts, "<label=Date> 18 March 2025", "party");
+    addParagraph(*facts, escaped("Café Lindqvist, Market Square 2"), "party");
+
+    addRow(document, {{100, "Please deliver to the address above by 24 March:", "note"}});
+
+    const auto heading = addRow(document, {{12, "No.", "column"},
+                                           {45, "Article", "column"},
+                                           {13, "Quantity", "column", eRight},
+                                           {14, "Price", "column", eRight},
+                                           {16, "Amount", "column", eRight}});
+    heading->setBackColor(eSilver);
+    heading->setTopBorder(eNormal);
+    heading->setBottomBorder(eNormal);
+
+    int total = 0;
+    for (const Item& item : items) {
+        const int amount = item.quantity * item.pence;
+        total += amount;
+        const auto row = addRow(document, {{12, escaped(item.number)},
+                                           {45, escaped(item.name)},
+                                           {13, std::to_string(item.quantity), "normal", eRight},
+                                           {14, money(item.pence), "normal", eRight},
+                                           {16, money(amount), "normal", eRight}});
+        row->setBottomBorder(eHair);
+        // For the program that books the delivery: it finds the item's number in the document.
+        row->TableCells()->Item(1)->asMarkedField("item " + item.number);
+    }
+
+    const auto sum =
+        addRow(document, {{50, "", "total"}, {30, "Total in pounds", "total"},
+                          {20, money(total), "total", eRight}});
+    for (const int position : {2, 3}) {
+        const auto cell = sum->TableCells()->Item(position);
+        cell->setStyle("sum");
+        cell->setBottomBorder(eThick);
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::cerr << "usage: orderForm FILE\n";
+        return 2;
+    }
+    try {
+        const auto document = CRtfDoc::create();
+        // A file that cannot be written does not raise an error; the observer is told of it.
+        bool written = true;
+        document->setAbsorbedErrorObserver([&written](const AbsorbedError& absorbed) {
+            std::cerr << "error " << absorbed.error.number << ": " << absorbed.error.description
+                      << '\n';
+            written = false;
+        });
+
+        document->setPageWidth(11906);
+        document->setPageHeight(16838);
+        document->setLeftMargin(1200);
+        document->setRightMargin(1200);
+        document->setPageNumberStart(1);
+        document->LoadStyleSheetFromMemmory(styles);
+        fill(*document, {{"C 101", "House blend, medium roast, 1 kg", 6, 1890},
+                         {"C 120", "Decaffeinated, water process, 500 g", 4, 1320},
+                         {"T 204", "Darjeeling First Flush 2025, 250 g", 2, 1980},
+                         {"A 307", "Cup, porcelain, 180 ml {6 pieces}", 3, 2280}});
+        document->Commit(argv[1]);
+        return written ? 0 : 1;
+    } catch (const RtfError& error) {
+        std::cerr << "error " << error.number << ": " << error.description << '\n';
+        return 1;
+    }
+}
