@@ -166,17 +166,15 @@ public:
     }
 
     void clear() noexcept {
-        KeyedList emptied;
-        std::swap(only_, emptied.only_);
-        if (emptied.hasBlock()) {
-            Block* block = emptied.block();
-            emptied.only_ = nullptr;
+        Element* held = std::exchange(only_, nullptr);
+        if (isBlock(held)) {
+            Block* block = blockOf(held);
             for (std::uint32_t i = 0; i < block->count; ++i) {
                 release(block->slots()[block->first + i]);
             }
             Block::destroy(block);
-        } else if (emptied.only_) {
-            release(std::exchange(emptied.only_, nullptr));
+        } else if (held) {
+            release(held);
         }
     }
 
@@ -255,10 +253,15 @@ private:
         }
     };
 
-    bool hasBlock() const noexcept { return (reinterpret_cast<std::uintptr_t>(only_) & 1U) != 0; }
-    Block* block() const noexcept {
-        return reinterpret_cast<Block*>(reinterpret_cast<std::uintptr_t>(only_) & ~std::uintptr_t{1});
+    static bool isBlock(Element* held) noexcept {
+        return (reinterpret_cast<std::uintptr_t>(held) & 1U) != 0;
     }
+    static Block* blockOf(Element* held) noexcept {
+        return reinterpret_cast<Block*>(reinterpret_cast<std::uintptr_t>(held) &
+                                        ~std::uintptr_t{1});
+    }
+    bool hasBlock() const noexcept { return isBlock(only_); }
+    Block* block() const noexcept { return blockOf(only_); }
     void setBlock(Block* block) noexcept {
         only_ = reinterpret_cast<Element*>(reinterpret_cast<std::uintptr_t>(block) | 1U);
     }
