@@ -22,7 +22,8 @@ namespace quorvane {
 /// document is gone; the value is set all the same.
 class CRtfParagraph final : public KeyedListElement {
 public:
-    /// The owning cell, also after the paragraph was removed from it; Nothing when the cell is gone.
+    /// The owning cell, also after the paragraph was removed from it; Nothing when the cell is
+    /// gone.
     Ref<CRtfTableCell> Parent() const;
 
     /// The text as it is written into the document: RTF control words and inline styles such as

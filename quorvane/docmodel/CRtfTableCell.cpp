@@ -15,11 +15,11 @@ constexpr std::uint64_t bit(tColorIndex color) {
 
 constexpr std::uint64_t darkColors =
     bit(eBlack) | bit(eBlue) | bit(eBrown) | bit(eDarkCyan) | bit(eDarkGray) | bit(eDarkGreen) |
-    bit(eDarkMagenta) | bit(eDarkRed) | bit(eDarkSlateBlue) | bit(eDarkYellow) |
-    bit(eDeepSkyBlue) | bit(eGray) | bit(eNavyBlue) | bit(eOliveGreen) | bit(ePurple) |
-    bit(eSeaGreen) | bit(eBrick) | bit(eCork) | bit(eDarkCork) | bit(eGrayBlue) |
-    bit(eDarkNavyBlue) | bit(eViolet) | bit(eSargassoGreen) | bit(eRoyalBlue) | bit(eDeepPurple) |
-    bit(eSteelBlue) | bit(eAsphalt) | bit(eDarkGrass) | bit(eRedBrick);
+    bit(eDarkMagenta) | bit(eDarkRed) | bit(eDarkSlateBlue) | bit(eDarkYellow) | bit(eDeepSkyBlue) |
+    bit(eGray) | bit(eNavyBlue) | bit(eOliveGreen) | bit(ePurple) | bit(eSeaGreen) | bit(eBrick) |
+    bit(eCork) | bit(eDarkCork) | bit(eGrayBlue) | bit(eDarkNavyBlue) | bit(eViolet) |
+    bit(eSargassoGreen) | bit(eRoyalBlue) | bit(eDeepPurple) | bit(eSteelBlue) | bit(eAsphalt) |
+    bit(eDarkGrass) | bit(eRedBrick);
 
 struct SideWords {
     BorderSide side;

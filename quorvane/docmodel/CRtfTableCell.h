@@ -35,9 +35,9 @@ private:
     std::array<std::int32_t, 4> widths_{eNone, eNone, eNone, eNone};
 };
 
-/// One cell of a row. It is made by its row's `TableCells`, and keeps what it holds when it has been
-/// removed there. A setter that marks the document changed raises error 91 when the document is
-/// gone; the value is set all the same.
+/// One cell of a row. It is made by its row's `TableCells`, and keeps what it holds when it has
+/// been removed there. A setter that marks the document changed raises error 91 when the document
+/// is gone; the value is set all the same.
 class CRtfTableCell final : public KeyedListElement {
 public:
     /// The owning row, also after the cell was removed from it; Nothing when the row is gone.

@@ -16,8 +16,7 @@ constexpr std::int32_t smallestWidth = 200;
 // Width of each of so many cells that share the page evenly; their edges must fit in 32 bits.
 std::int32_t evenWidth(const TableDocument& document, std::size_t count) {
     const auto cells = static_cast<std::int32_t>(count);
-    const std::int32_t width =
-        std::max(quotient(document.TextAreaWidth(), cells), smallestWidth);
+    const std::int32_t width = std::max(quotient(document.TextAreaWidth(), cells), smallestWidth);
     product(width, cells);
     return width;
 }
@@ -118,8 +117,7 @@ std::int32_t CRtfTableCells::rightEdge(std::size_t position) const noexcept {
 }
 
 std::int32_t CRtfTableCells::width(std::size_t position) const {
-    return position == 1 ? rightEdge(1)
-                         : difference(rightEdge(position), rightEdge(position - 1));
+    return position == 1 ? rightEdge(1) : difference(rightEdge(position), rightEdge(position - 1));
 }
 
 std::int32_t CRtfTableCells::widthOf(const CRtfTableCell& cell, tWidthUnit units) const {

@@ -36,8 +36,8 @@ public:
     std::int32_t indexOf(const CRtfTableCell* cell) const;
 
     /// Puts a new cell with this key, and with the ground, the borders, the width and the
-    /// paragraphs of the old one, in its place, and answers it. Errors: 5 the old cell is not in the
-    /// list, 457 the key is there already, the old cell's own included.
+    /// paragraphs of the old one, in its place, and answers it. Errors: 5 the old cell is not in
+    /// the list, 457 the key is there already, the old cell's own included.
     Ref<CRtfTableCell> refile(const Ref<CRtfTableCell>& old, std::string_view key);
 
 private:

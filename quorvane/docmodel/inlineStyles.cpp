@@ -8,8 +8,8 @@
 #include "quorvane/docmodel/TableDocument.h"
 #include "quorvane/support/recordStrings.h"
 #include "quorvane/support/trimming.h"
-#include "quorvane/support/utf8.h"
 #include "quorvane/support/utf16Units.h"
+#include "quorvane/support/utf8.h"
 
 namespace quorvane {
 
@@ -106,7 +106,8 @@ private:
                 ++next_;
             } else {
                 done_ += replacement;
-                replaced_.emplace(body_.substr(next_, tokenEnd - next_ + 1), std::move(replacement));
+                replaced_.emplace(body_.substr(next_, tokenEnd - next_ + 1),
+                                  std::move(replacement));
                 next_ = tokenEnd + 1;
             }
         }

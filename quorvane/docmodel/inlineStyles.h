@@ -8,7 +8,8 @@ namespace quorvane {
 class TableDocument;
 
 /// Replaces the inline character styles in `rtf` from position `start` to its end: a token such as
-/// `<bold-red=Total>` becomes a group of the control words of the style bold-red and the text Total.
+/// `<bold-red=Total>` becomes a group of the control words of the style bold-red and the text
+/// Total.
 ///
 /// Tokens are found by walking over "<" and ">" as they stand. The walk takes its next ">" behind
 /// the place of the last one, and that place is not moved along when a replacement changes the

@@ -8,9 +8,9 @@
 namespace quorvane {
 
 /// The page setup: all measures in twips. A setter never fails: a margin is taken when it is at
-/// least 1 and less than nine tenths of the paper less the opposite margin; otherwise a small number
-/// takes its place (bottom 0, left 1, top 2, right 3). Margins and first page number mark the
-/// document changed when their value changes, the paper sizes always.
+/// least 1 and less than nine tenths of the paper less the opposite margin; otherwise a small
+/// number takes its place (bottom 0, left 1, top 2, right 3). Margins and first page number mark
+/// the document changed when their value changes, the paper sizes always.
 class CRtfGrpDocumentFormat {
 public:
     explicit CRtfGrpDocumentFormat(GroupOwner& owner) : owner_(owner) {}
