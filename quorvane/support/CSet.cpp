@@ -1,7 +1,6 @@
 #include "quorvane/support/CSet.h"
 
 #include <exception>
-#include <optional>
 #include <string>
 
 #include "quorvane/support/CString.h"
@@ -14,8 +13,9 @@ void CSet::add(const Value& Item) {
 
 void CSet::loadFromRes(Platform& platform, int ResId) {
     try {
-        const std::optional<std::string> text = platform.resourceString(ResId);
-        for (const std::string& piece : CString(text.value_or("")).Parse("#").NewEnum()) {
+        const CString text(platform.resourceString(ResId).value_or(""));
+        const CStringList pieces = text.Parse("#");
+        for (const std::string& piece : pieces.NewEnum()) {
             add(piece);
         }
     } catch (const std::exception&) {

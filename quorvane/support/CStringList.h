@@ -52,8 +52,9 @@ public:
     bool add(std::string Item, const Value& Key = Missing{}, const Value& Before = Missing{},
              const Value& After = Missing{});
 
-    /// The strings in order, for a loop over all of them.
-    auto NewEnum() const { return std::views::transform(entries_, &Entry::text); }
+    /// The strings in order, for a loop over all of them. The list must outlive the loop.
+    auto NewEnum() const& { return std::views::transform(entries_, &Entry::text); }
+    void NewEnum() const&& = delete;
 
     /// Adds a string at the end. Answers as `add`.
     bool AddTail(std::string Item, const Value& Key = Missing{});
