@@ -14,12 +14,18 @@ using namespace quorvane::com;
 
 // The functions that the system calls.
 
+extern "C" BOOL WINAPI DllMain(HINSTANCE, DWORD reason, void*) {
+    if (reason == DLL_PROCESS_ATTACH) {
+        pinModule();
+    }
+    return TRUE;
+}
+
 STDAPI DllGetClassObject(REFCLSID classId, REFIID interfaceId, void** object) {
     if (!object) {
         return E_POINTER;
     }
     *object = nullptr;
-    pinModule();
     ComPtr<ClassFactory> factory;
     const HRESULT result = answering(
         interfaceId, [&] { factory = ComPtr<ClassFactory>::adopt(newClassFactory(classId)); });
