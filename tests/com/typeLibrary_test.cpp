@@ -1,15 +1,16 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include <fstream>
-#include <iterator>
 #include <sstream>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "tests/com/host/ComPtr.h"
 #include "tests/com/host/Component.h"
+#include "tests/com/host/Process.h"
 #include "tests/com/host/interfaces.h"
+#include "tests/com/host/text.h"
 #include "tests/com/host/typeLibraryText.h"
 
 namespace quorvane::host {
@@ -22,7 +23,9 @@ std::wstring typeLibraryFile() {
 
 ComPtr<ITypeLib> loaded(const std::wstring& file) {
     ComPtr<ITypeLib> library;
-    LoadTypeLibEx(file.c_str(), REGKIND_NONE, library.out());
+    if (FAILED(LoadTypeLibEx(file.c_str(), REGKIND_NONE, library.out()))) {
+        throw std::runtime_error("cannot load " + utf8Text(file));
+    }
     return library;
 }
 
@@ -36,13 +39,11 @@ std::vector<std::string> linesOf(const std::string& text) {
 }
 
 std::vector<std::string> agreedLines() {
-    std::ifstream file(QUORVANE_COM_TESTS "/typeLibrary.txt", std::ios::binary);
-    return linesOf({std::istreambuf_iterator<char>(file), {}});
+    return linesOf(bytesOfFile(testSource(L"typeLibrary.txt")));
 }
 
 void expectAgreedLibrary(const std::wstring& file) {
     const ComPtr<ITypeLib> library = loaded(file);
-    ASSERT_TRUE(library);
     const std::vector<std::string> agreed = agreedLines();
     const std::vector<std::string> lines = linesOf(typeLibraryText(*library.get()));
     ASSERT_EQ(lines.size(), agreed.size());

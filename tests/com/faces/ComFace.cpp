@@ -37,8 +37,10 @@ ComFace::ComFace() {
     const auto driver = component_.create<_CRtfDriver>(__uuidof(::CRtfDriver));
     renderObject(driver);
     events_ = EventConnection(driver.get(), [this](const std::wstring&, DISPPARAMS&) {
-        const HostError error = takeErrorObject(S_OK);
-        addEvent(error.description, error.source);
+        // Only here an error object tells its number, as its help context.
+        HostError error = takeErrorObject(S_OK);
+        error.number = static_cast<HRESULT>(error.helpContext);
+        addEvent(textOf(error));
         return S_OK;
     });
 }

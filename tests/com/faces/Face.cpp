@@ -25,10 +25,6 @@ Face::Numbered Face::number(const void* identity, const std::string& interfaceNa
     return {place->second, isNew};
 }
 
-void Face::addEvent(const std::string& description, const std::string& source) {
-    events_ += " event \"" + description + "\" of \"" + source + '"';
-}
-
 std::string answerText(bool value) {
     return value ? "true" : "false";
 }

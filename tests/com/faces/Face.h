@@ -46,9 +46,8 @@ protected:
     };
     Numbered number(const void* identity, const std::string& interfaceName);
 
-    /// Adds the error that an event's handler saw to the answer of the current operation. An error
-    /// object does not tell its number.
-    void addEvent(const std::string& description, const std::string& source);
+    /// Adds what an event's handler saw to the answer of the current operation.
+    void addEvent(const std::string& error) { events_ += " event: " + error; }
 
 private:
     struct Object {

@@ -57,8 +57,11 @@ public:
     NativeFace() {
         render(CRtfDoc::create());
         const Ref<CRtfDriver> driver = CRtfDriver::create();
-        driver->setNotifyErrorHandler(
-            [this](CRtfDriver&) { addEvent(currentError()->description, currentError()->source); });
+        driver->setNotifyErrorHandler([this](CRtfDriver&) {
+            const RtfError& error = *currentError();
+            addEvent(errorText(static_cast<std::uint32_t>(error.number), error.description,
+                               error.source));
+        });
         render(driver);
     }
 

@@ -69,8 +69,9 @@ ComPtr<ITypeInfo> defaultEvents(ITypeInfo* classInfo) {
 
 }  // namespace
 
-EventConnection::EventConnection(IUnknown* source, EventHandler handler)
-    : outcome_(connect(source, std::move(handler))) {}
+EventConnection::EventConnection(IUnknown* source, EventHandler handler) {
+    outcome_ = connect(source, std::move(handler));
+}
 
 EventConnection& EventConnection::operator=(EventConnection&& other) noexcept {
     std::swap(outcome_, other.outcome_);

@@ -20,6 +20,7 @@ HostError errorOf(HRESULT status, EXCEPINFO& exception) {
     error.number = exception.wCode ? runTimeError(exception.wCode) : exception.scode;
     error.source = utf8Text(textOf(exception.bstrSource));
     error.description = utf8Text(textOf(exception.bstrDescription));
+    error.helpContext = exception.dwHelpContext;
     SysFreeString(exception.bstrSource);
     SysFreeString(exception.bstrDescription);
     SysFreeString(exception.bstrHelpFile);

@@ -11,17 +11,18 @@ std::ostream& operator<<(std::ostream& stream, const HostError& error) {
     char number[16];
     std::snprintf(number, sizeof number, "0x%08lX", static_cast<unsigned long>(error.number));
     return stream << "error " << number << " \"" << error.description << "\" of \"" << error.source
-                  << '"';
+                  << "\" with help context " << error.helpContext;
 }
 
 HostError takeErrorObject(HRESULT number) {
-    HostError error{number, {}, {}};
+    HostError error{number, {}, {}, 0};
     ComPtr<IErrorInfo> info;
     if (GetErrorInfo(0, info.out()) == S_OK) {
         Bstr source;
         Bstr description;
         info->GetSource(source.out());
         info->GetDescription(description.out());
+        info->GetHelpContext(&error.helpContext);
         error.source = source.utf8();
         error.description = description.utf8();
     }

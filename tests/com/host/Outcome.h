@@ -14,6 +14,7 @@ struct HostError {
     HRESULT number = S_OK;
     std::string source;
     std::string description;
+    DWORD helpContext = 0;
 
     bool operator==(const HostError&) const = default;
 };
