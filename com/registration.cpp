@@ -138,12 +138,30 @@ HRESULT registerTypeLibrary(const std::wstring& path) {
     return isRegistered ? S_OK : SELFREG_E_TYPELIB;
 }
 
+bool isThere(const std::wstring& key) {
+    Key found;
+    return RegOpenKeyExW(HKEY_CLASSES_ROOT, key.c_str(), 0, KEY_READ, found.out()) == ERROR_SUCCESS;
+}
+
 HRESULT unregisterTypeLibrary() {
-    constexpr SYSKIND system = sizeof(void*) == 4 ? SYS_WIN32 : SYS_WIN64;
-    const HRESULT result = UnRegisterTypeLib(LIBID_Quorvane, 1, 0, LOCALE_NEUTRAL, system);
-    const bool isGone =
-        SUCCEEDED(result) || result == TYPE_E_REGISTRYACCESS || result == TYPE_E_CANTLOADLIBRARY;
-    return isGone ? S_OK : SELFREG_E_TYPELIB;
+    constexpr bool is32Bit = sizeof(void*) == 4;
+    UnRegisterTypeLib(LIBID_Quorvane, 1, 0, LOCALE_NEUTRAL, is32Bit ? SYS_WIN32 : SYS_WIN64);
+    const std::wstring key =
+        L"TypeLib\\" + textOf(LIBID_Quorvane) + L"\\1.0\\0\\" + (is32Bit ? L"win32" : L"win64");
+    return isThere(key) ? SELFREG_E_TYPELIB : S_OK;
+}
+
+/// A user's part of the registry may have had no classes before ours.
+void removeWhenEmpty(const wchar_t* name) {
+    Key key;
+    DWORD keys = 0;
+    DWORD values = 0;
+    if (RegOpenKeyExW(HKEY_CLASSES_ROOT, name, 0, KEY_READ, key.out()) == ERROR_SUCCESS &&
+        RegQueryInfoKeyW(key.get(), nullptr, nullptr, nullptr, &keys, nullptr, nullptr, &values,
+                         nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS &&
+        keys == 0 && values == 0) {
+        RegDeleteKeyW(HKEY_CLASSES_ROOT, name);
+    }
 }
 
 /// As long as it lives, what is registered for the machine goes to the current user's part of the
@@ -196,6 +214,9 @@ HRESULT inRegistry(RegisteredFor whom, Body body) noexcept {
 HRESULT removeAll() {
     const HRESULT library = unregisterTypeLibrary();
     const HRESULT classes = unregisterClasses();
+    for (const wchar_t* name : {L"CLSID", L"Interface", L"TypeLib"}) {
+        removeWhenEmpty(name);
+    }
     return FAILED(library) ? library : classes;
 }
 
