@@ -300,12 +300,10 @@ private:
 
     // After this nothing that `insert` does can fail but filing the key.
     void requireRoomFor(const Place& place) {
-        if (!hasBlock()) {
-            if (only_ || place.key) {
-                requireBlock();
-            }
+        if (!hasBlock() && !only_ && !place.key) {
             return;
         }
+        requireBlock();
         const bool atFront = block()->opensAtFront(place.position - 1);
         if (block()->hasRoom(atFront)) {
             return;
