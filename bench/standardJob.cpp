@@ -135,7 +135,10 @@ Ref<CRtfDoc> standardDocument(std::int32_t rows) {
 }
 
 std::string emitStandardJob(std::int32_t rows) {
-    std::string rtf(emittedHead());
+    constexpr std::size_t longestRow = 960;
+    std::string rtf;
+    rtf.reserve(emittedHead().size() + static_cast<std::size_t>(rows) * longestRow + 1);
+    rtf += emittedHead();
     for (std::int32_t row = 0; row < rows; ++row) {
         emitRow(row, rtf);
     }
