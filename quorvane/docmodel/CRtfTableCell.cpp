@@ -97,6 +97,7 @@ void CRtfTableCell::takeOver(CRtfTableCell& old) {
     backColor_ = old.backColor_;
     borders_ = old.borders_;
     rightEdge_ = old.rightEdge_;
+    edgeSpread_ = old.edgeSpread_;
     paragraphs_.takeFrom(old.paragraphs_);
 }
 

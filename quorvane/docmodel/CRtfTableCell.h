@@ -121,8 +121,9 @@ private:
     Borders borders_;
     std::int32_t backColor_ = eNoColor;
     std::int32_t align_ = eNoDefault;
-    // Written and read by the row's cells, which may know better where the edge is.
+    // Kept by the row's cells: the right edge counts while no later spread gave all cells new ones.
     std::int32_t rightEdge_ = 0;
+    std::uint32_t edgeSpread_ = 0;
     SharedText style_;
     // Hexadecimal data of a marked field; null when the cell is none.
     std::unique_ptr<std::string> markedField_;
