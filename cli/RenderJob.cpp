@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <memory>
 #include <new>
 #include <system_error>
 #include <utility>
@@ -46,7 +47,10 @@ ExitStatus RenderJob::run() {
     }
     const std::vector<Assignment> assignments = assignOutputs(options_);
     if (options_.outputFolder && !isFolder(*options_.outputFolder)) {
-        return fail(*options_.outputFolder, RtfError(RunTimeError::PathNotFound));
+        RtfError error(RunTimeError::PathNotFound);
+        error.cause =
+            std::make_shared<RtfError>(error.number, "the folder of --output-dir must exist");
+        return fail(*options_.outputFolder, error);
     }
     ExitStatus status = readStyleSheet();
     if (status != ExitStatus::Success && !options_.keepGoing) {

@@ -13,28 +13,55 @@ namespace {
 
 constexpr const char* versionText = "quorvane " QUORVANE_VERSION;
 
-constexpr const char* footer =
-    "Exit status:\n"
-    "  0  all is well\n"
-    "  1  a description or the stylesheet has errors\n"
-    "  2  wrong usage, or a file that cannot be read or written\n";
+constexpr const char* renderFooter =
+    R"(A description (.rtfspec) is a text file in Windows-1252; - is standard input.
+
+Without --output and --output-dir a document goes beside its description, under
+its name with the extension rtf, and that of standard input to standard output,
+which --output names as -. In a folder the document of standard input is named
+stdin.rtf. Of a description that has errors nothing is written, unless with
+--keep-going. A document appears whole or not at all.
+
+Errors are told on standard error, one a line.
+
+Exit status:
+  0  all is well
+  1  a description or the stylesheet has errors
+  2  wrong usage, or a file that cannot be read or written)";
 
 const std::map<std::string, DiagnosticsForm> diagnosticsForms = {
     {"text", DiagnosticsForm::Text},
     {"json", DiagnosticsForm::Json},
 };
 
-/// The parser takes an argument in brackets for a list of several. With a byte that no argument can
-/// have at its end it is one name like any other.
-std::string withoutListMeaning(std::string argument) {
-    return argument.starts_with('[') ? argument + '\0' : argument;
+// The parser takes an argument in brackets for a list of several, and loses what comes after "--"
+// behind the first description. Begun with a byte that no argument can hold, an argument is a name
+// like any other.
+constexpr char nameMark = '\0';
+
+std::string asName(const std::string& argument) {
+    return nameMark + argument;
 }
 
 std::string asGiven(std::string argument) {
-    if (argument.ends_with('\0')) {
-        argument.pop_back();
-    }
+    std::erase(argument, nameMark);
     return argument;
+}
+
+/// The arguments as the parser takes them: the last one first.
+std::vector<std::string> prepared(const std::vector<std::string>& arguments) {
+    std::vector<std::string> result;
+    bool onlyNamesFollow = false;
+    for (const std::string& argument : arguments) {
+        if (!onlyNamesFollow && argument == "--") {
+            onlyNamesFollow = true;
+        } else {
+            const bool isName = onlyNamesFollow || argument.starts_with('[');
+            result.push_back(isName ? asName(argument) : argument);
+        }
+    }
+    std::reverse(result.begin(), result.end());
+    return result;
 }
 
 CLI::callback_t storeIn(std::optional<std::string>& target) {
@@ -52,45 +79,41 @@ CLI::callback_t storeIn(std::vector<std::string>& target) {
     };
 }
 
+CLI::callback_t storeIn(DiagnosticsForm& target) {
+    return [&target](const CLI::results_t& results) {
+        target = diagnosticsForms.at(results.front());
+        return true;
+    };
+}
+
 void addRenderCommand(CLI::App& app, RenderOptions& options) {
     CLI::App* render = app.add_subcommand("render", "Render descriptions as RTF documents.");
-    render->footer(footer);
+    render->footer(renderFooter);
     render->set_help_flag("-h,--help", "Show this help and exit");
     render->set_version_flag("--version", versionText, "Show the version and exit");
-    render
-        ->add_option("DESCRIPTION", storeIn(options.descriptions),
-                     "Description files (.rtfspec, Windows-1252); - is standard input")
+    render->add_option("DESCRIPTION", storeIn(options.descriptions), "Files to render")
         ->type_name("")
         ->required()
         ->expected(1, CLI::detail::expected_max_vector_size)
         ->allow_extra_args();
     render
         ->add_option("-s,--stylesheet", storeIn(options.styleSheet),
-                     "Take the styles from this file (.rtfss)")
+                     "Take the styles from this .rtfss file")
         ->type_name("FILE");
-    CLI::Option* output =
-        render
-            ->add_option("-o,--output", storeIn(options.output),
-                         "Write the document to this file; - is standard output. Without it the "
-                         "document goes beside its description, under its name with the "
-                         "extension rtf; the one from standard input goes to standard output")
-            ->type_name("FILE");
+    render->add_option("-o,--output", storeIn(options.output), "Write the document to this file")
+        ->type_name("FILE");
     render
         ->add_option("--output-dir", storeIn(options.outputFolder),
-                     "Write the documents into this folder, which must exist; the one from "
-                     "standard input is named stdin.rtf")
+                     "Write the documents into this folder")
         ->type_name("DIR")
-        ->excludes(output);
-    render->add_flag("--check", options.check,
-                     "Repair unclosed rows, and check keys and values before building");
+        ->excludes("--output");
+    render->add_flag("--check", options.check, "Repair unclosed rows; check keys and values");
     render->add_flag("--keep-going", options.keepGoing,
-                     "Write what could be built of a description that has errors");
+                     "Write what could be built in spite of errors");
     render
-        ->add_option("--diagnostics", options.diagnostics,
-                     "Tell errors on standard error as text (the default) or as one JSON object "
-                     "a line")
+        ->add_option("--diagnostics", storeIn(options.diagnostics),
+                     "Tell errors as text or as JSON objects")
         ->type_name("text|json")
-        ->transform(CLI::Transformer(diagnosticsForms).description(""))
         ->check(CLI::IsMember(diagnosticsForms).description(""));
 }
 
@@ -106,18 +129,15 @@ std::variant<RenderOptions, Information> parseCommandLine(
     app.allow_windows_style_options(false);
     addRenderCommand(app, options);
 
-    std::vector<std::string> reversed;
-    std::transform(arguments.rbegin(), arguments.rend(), std::back_inserter(reversed),
-                   withoutListMeaning);
     try {
-        app.parse(std::move(reversed));
+        app.parse(prepared(arguments));
         return options;
     } catch (const CLI::Success& request) {
         std::ostringstream text;
         app.exit(request, text);
         return Information{text.str()};
     } catch (const CLI::ParseError& error) {
-        throw UsageError(error.what());
+        throw UsageError(asGiven(error.what()));
     }
 }
 

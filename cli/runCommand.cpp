@@ -36,6 +36,15 @@ void tellUsageError(const UsageError& error, DiagnosticsForm form) {
     }
 }
 
+/// Needs no memory itself.
+void tellOutOfMemory(DiagnosticsForm form) noexcept {
+    writeToStandardError(form == DiagnosticsForm::Json
+                             ? R"({"file":null,"line":null,"number":7,"level":null,"source":null,)"
+                               R"("message":"Out of memory","kind":"raised"})"
+                               "\n"
+                             : "error[7]: Out of memory\n");
+}
+
 ExitStatus show(const Information& information, DiagnosticsForm form) {
     try {
         const auto output = openStandardOutput();
@@ -88,8 +97,10 @@ int runCommand(const std::vector<std::string>& arguments) {
         return static_cast<int>(run(arguments, form));
     } catch (const UsageError& error) {
         tellUsageError(error, form);
-        return static_cast<int>(ExitStatus::Failure);
+    } catch (const std::bad_alloc&) {
+        tellOutOfMemory(form);
     }
+    return static_cast<int>(ExitStatus::Failure);
 }
 
 }  // namespace quorvane::cli
