@@ -166,16 +166,16 @@ void CRtfTableCells::setWidthOf(const CRtfTableCell& cell, tWidthUnit units, std
     owner.markChanged();
 }
 
-void CRtfTableCells::render(TableDocument& document, std::string& rtf) {
+void CRtfTableCells::render(TableRendering& rendering) {
     std::size_t position = 0;
     for (CRtfTableCell* cell : list_) {
-        rtf += ' ';
-        cell->renderDefinition(document, rightEdge(++position), rtf);
+        rendering.out << " ";
+        cell->renderDefinition(rendering, rightEdge(++position));
     }
     for (CRtfTableCell* cell : list_) {
-        rtf += ' ';
-        cell->renderContent(document, rtf);
-        rtf += "\\cell";
+        rendering.out << " ";
+        cell->renderContent(rendering);
+        rendering.out << "\\cell";
     }
 }
 

@@ -63,7 +63,7 @@ private:
     std::int32_t width(std::size_t position) const;
     std::int32_t widthOf(const CRtfTableCell& cell, tWidthUnit units) const;
     void setWidthOf(const CRtfTableCell& cell, tWidthUnit units, std::int32_t value);
-    void render(TableDocument& document, std::string& rtf);
+    void render(TableRendering& rendering);
 
     CRtfTableRow& row_;
     // Once the cells are spread evenly, their edges follow from this width and their positions and

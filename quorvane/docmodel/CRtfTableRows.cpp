@@ -55,10 +55,12 @@ void CRtfTableRows::insertNew(const List::Place& place, TableDocument&) {
 }
 
 void CRtfTableRows::render(TableDocument& document, std::string& rtf) const {
+    TableRendering rendering(document, rtf);
     const std::size_t start = rtf.size();
     std::size_t rendered = 0;
     for (CRtfTableRow* row : list_) {
-        row->render(document, rtf);
+        row->render(rendering);
+        rendering.out.flush();
         reserveForRest(start, ++rendered, list_.count(), rtf);
     }
 }
