@@ -3,7 +3,6 @@
 #include "quorvane/docmodel/inlineStyles.h"
 #include "quorvane/rtfgroups/GTextMarkedFields.h"
 #include "quorvane/support/RtfError.h"
-#include "quorvane/support/appendNumber.h"
 #include "quorvane/support/currentError.h"
 
 namespace quorvane {
@@ -86,26 +85,31 @@ TableDocument* CRtfParagraph::document() const noexcept {
     return cell ? documentOf(*cell) : nullptr;
 }
 
-void CRtfParagraph::render(const TableDocument& document, std::size_t position,
-                           std::string& rtf) const {
+void CRtfParagraph::render(TableRendering& rendering, std::size_t position) const {
+    TextOutput& out = rendering.out;
     if (markedField_) {
-        GTextMarkedFields::appendFieldStart(*markedField_, rtf);
+        GTextMarkedFields::writeFieldStart(*markedField_, out);
     }
     if (!text_.empty()) {
-        rtf += position >= 2 ? "\r\n\\par\\pard\\plain\\intbl" : "\r\n\\pard\\plain\\intbl";
-        rtf += document.GetParagraphStyle(style_.view());
-        const std::size_t bodyStart = rtf.size();
-        if (foreColor_ != eNoColor) {
-            rtf += "\\cf";
-            appendNumber(foreColor_, rtf);
-            rtf += ' ';
+        if (position >= 2) {
+            out << "\r\n\\par\\pard\\plain\\intbl";
+        } else {
+            out << "\r\n\\pard\\plain\\intbl";
         }
-        rtf += alignmentWord(align_);
-        rtf += text_.view();
-        applyCharacterStyles(document, bodyStart, rtf);
+        out << rendering.paragraphStyle(style_);
+        if (foreColor_ != eNoColor) {
+            out << "\\cf" << foreColor_ << " ";
+        }
+        out << alignmentWord(align_);
+        const std::string_view text = text_.view();
+        if (text.find('<') == std::string_view::npos) {
+            out << text;
+        } else {
+            out << withCharacterStyles(rendering.document, text);
+        }
     }
     if (markedField_) {
-        GTextMarkedFields::appendFieldEnd(rtf);
+        GTextMarkedFields::writeFieldEnd(out);
     }
 }
 

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "quorvane/docmodel/TableDocument.h"
+#include "quorvane/docmodel/TableRendering.h"
 #include "quorvane/docmodel/enumerations.h"
 #include "quorvane/docmodel/references.h"
 #include "quorvane/support/Counted.h"
@@ -64,7 +65,7 @@ private:
     void setParent(CRtfTableCell& cell) { parent_ = WeakRef<CRtfTableCell>(&cell); }
     void takeOver(const CRtfParagraph& old);
     TableDocument* document() const noexcept;
-    void render(const TableDocument& document, std::size_t position, std::string& rtf) const;
+    void render(TableRendering& rendering, std::size_t position) const;
 
     Counted counts_;
     WeakRef<CRtfTableCell> parent_;

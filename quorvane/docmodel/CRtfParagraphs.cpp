@@ -50,11 +50,11 @@ void CRtfParagraphs::setAligns(tCellAlign align) noexcept {
     }
 }
 
-void CRtfParagraphs::render(const TableDocument& document, std::string& rtf) const {
+void CRtfParagraphs::render(TableRendering& rendering) const {
     std::size_t position = 0;
     for (const CRtfParagraph* paragraph : list_) {
-        rtf += "\r\n";
-        paragraph->render(document, ++position, rtf);
+        rendering.out << "\r\n";
+        paragraph->render(rendering, ++position);
     }
 }
 

@@ -40,7 +40,7 @@ private:
     void takeFrom(CRtfParagraphs& other);
     void setForeColors(tColorIndex color) noexcept;
     void setAligns(tCellAlign align) noexcept;
-    void render(const TableDocument& document, std::string& rtf) const;
+    void render(TableRendering& rendering) const;
 
     CRtfTableCell& cell_;
 };

@@ -2,7 +2,6 @@
 
 #include "quorvane/rtfgroups/GTextMarkedFields.h"
 #include "quorvane/support/RtfError.h"
-#include "quorvane/support/appendNumber.h"
 #include "quorvane/support/currentError.h"
 
 namespace quorvane {
@@ -20,18 +19,6 @@ constexpr std::uint64_t darkColors =
     bit(eCork) | bit(eDarkCork) | bit(eGrayBlue) | bit(eDarkNavyBlue) | bit(eViolet) |
     bit(eSargassoGreen) | bit(eRoyalBlue) | bit(eDeepPurple) | bit(eSteelBlue) | bit(eAsphalt) |
     bit(eDarkGrass) | bit(eRedBrick);
-
-struct SideWords {
-    BorderSide side;
-    std::string_view words;
-};
-
-constexpr std::array<SideWords, 4> borderWords{{
-    {BorderSide::Bottom, R"(\clbrdrb\brdrs\brdrw)"},
-    {BorderSide::Left, R"(\clbrdrl\brdrs\brdrw)"},
-    {BorderSide::Right, R"(\clbrdrr\brdrs\brdrw)"},
-    {BorderSide::Top, R"(\clbrdrt\brdrs\brdrw)"},
-}};
 
 }  // namespace
 
@@ -97,6 +84,7 @@ void CRtfTableCell::takeOver(CRtfTableCell& old) {
     backColor_ = old.backColor_;
     borders_ = old.borders_;
     rightEdge_ = old.rightEdge_;
+    edgeSpread_ = old.edgeSpread_;
     paragraphs_.takeFrom(old.paragraphs_);
 }
 
@@ -152,38 +140,31 @@ void CRtfTableCell::asMarkedField(const Value& vFieldData) {
     }
 }
 
-void CRtfTableCell::renderDefinition(TableDocument& document, std::int32_t rightEdge,
-                                     std::string& rtf) {
-    for (const SideWords& border : borderWords) {
-        const tBorderWidth width = borders_[border.side];
-        if (width != eNone) {
-            rtf += border.words;
-            appendNumber(width, rtf);
-        }
-    }
+void CRtfTableCell::renderDefinition(TableRendering& rendering, std::int32_t rightEdge) {
+    TextOutput& out = rendering.out;
+    out << rendering.borderText(borders_);
     if (backColor_ != eNoColor || !style_.empty()) {
         if (backColor_ == eNoColor) {
-            applyBackColor(&document,
-                           static_cast<tColorIndex>(document.cellStyleColor(style_.view())));
+            applyBackColor(
+                &rendering.document,
+                static_cast<tColorIndex>(rendering.document.cellStyleColor(style_.view())));
         }
-        rtf += "\\clcbpat";
-        appendNumber(backColor_, rtf);
+        out << "\\clcbpat" << backColor_;
     }
-    rtf += "\\cellx";
-    appendNumber(rightEdge, rtf);
+    out << "\\cellx" << rightEdge;
 }
 
-void CRtfTableCell::renderContent(TableDocument& document, std::string& rtf) {
+void CRtfTableCell::renderContent(TableRendering& rendering) {
     if (align_ != eNoDefault) {
         paragraphs_.setAligns(Align());
     }
     if (markedField_) {
-        GTextMarkedFields::appendFieldStart(*markedField_, rtf);
+        GTextMarkedFields::writeFieldStart(*markedField_, rendering.out);
     }
-    rtf += "\r\n";
-    paragraphs_.render(document, rtf);
+    rendering.out << "\r\n";
+    paragraphs_.render(rendering);
     if (markedField_) {
-        GTextMarkedFields::appendFieldEnd(rtf);
+        GTextMarkedFields::writeFieldEnd(rendering.out);
     }
 }
 

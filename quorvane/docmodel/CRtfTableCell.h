@@ -1,13 +1,14 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
 
+#include "quorvane/docmodel/Borders.h"
 #include "quorvane/docmodel/CRtfParagraphs.h"
 #include "quorvane/docmodel/TableDocument.h"
+#include "quorvane/docmodel/TableRendering.h"
 #include "quorvane/docmodel/enumerations.h"
 #include "quorvane/docmodel/references.h"
 #include "quorvane/support/Counted.h"
@@ -17,23 +18,6 @@
 #include "quorvane/support/Value.h"
 
 namespace quorvane {
-
-/// The sides of a cell, in the order in which their borders are written.
-enum class BorderSide : std::size_t { Bottom, Left, Right, Top };
-
-/// The widths of the borders of a cell or row, by side.
-class Borders {
-public:
-    tBorderWidth operator[](BorderSide side) const {
-        return static_cast<tBorderWidth>(widths_[static_cast<std::size_t>(side)]);
-    }
-    void set(BorderSide side, tBorderWidth width) {
-        widths_[static_cast<std::size_t>(side)] = width;
-    }
-
-private:
-    std::array<std::int32_t, 4> widths_{eNone, eNone, eNone, eNone};
-};
 
 /// One cell of a row. It is made by its row's `TableCells`, and keeps what it holds when it has
 /// been removed there. A setter that marks the document changed raises error 91 when the document
@@ -113,16 +97,17 @@ private:
     void takeOver(CRtfTableCell& old);
     void setBorder(BorderSide side, tBorderWidth width);
     void applyBackColor(TableDocument* document, tColorIndex color);
-    void renderDefinition(TableDocument& document, std::int32_t rightEdge, std::string& rtf);
-    void renderContent(TableDocument& document, std::string& rtf);
+    void renderDefinition(TableRendering& rendering, std::int32_t rightEdge);
+    void renderContent(TableRendering& rendering);
 
     CountedOwner counts_;
     WeakRef<CRtfTableRow> parent_;
     Borders borders_;
     std::int32_t backColor_ = eNoColor;
     std::int32_t align_ = eNoDefault;
-    // Written and read by the row's cells, which may know better where the edge is.
+    // Kept by the row's cells: the right edge counts while no later spread gave all cells new ones.
     std::int32_t rightEdge_ = 0;
+    std::uint32_t edgeSpread_ = 0;
     SharedText style_;
     // Hexadecimal data of a marked field; null when the cell is none.
     std::unique_ptr<std::string> markedField_;

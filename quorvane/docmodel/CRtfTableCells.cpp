@@ -78,10 +78,13 @@ void CRtfTableCells::removeAt(std::size_t position) noexcept {
         ++removedHeads_;
         return;
     }
-    settleEdges();
-    const Ref<CRtfTableCell> removed = list_.removeAt(position);
+    if (position < list_.count()) {
+        writeEdges();
+    }
+    const std::int32_t freedEdge = rightEdge(position);
+    list_.removeAt(position);
     if (list_.count() != 1) {
-        list_.at(position - 1).rightEdge_ = removed->rightEdge_;
+        setRightEdge(position - 1, freedEdge);
     }
 }
 
@@ -89,6 +92,7 @@ void CRtfTableCells::takeFrom(CRtfTableCells& other) {
     list_ = std::move(other.list_);
     uniformWidth_ = other.uniformWidth_;
     removedHeads_ = other.removedHeads_;
+    spreads_ = other.spreads_;
     for (CRtfTableCell* cell : list_) {
         cell->setParent(row_);
     }
@@ -97,23 +101,31 @@ void CRtfTableCells::takeFrom(CRtfTableCells& other) {
 void CRtfTableCells::spread(std::int32_t uniformWidth) noexcept {
     uniformWidth_ = uniformWidth;
     removedHeads_ = 0;
-}
-
-void CRtfTableCells::settleEdges() noexcept {
-    if (uniformWidth_ != 0) {
-        std::size_t position = 0;
-        for (CRtfTableCell* cell : list_) {
-            cell->rightEdge_ = rightEdge(++position);
-        }
-        uniformWidth_ = 0;
-    }
+    ++spreads_;
 }
 
 std::int32_t CRtfTableCells::rightEdge(std::size_t position) const noexcept {
-    if (uniformWidth_ != 0) {
-        return uniformWidth_ * (static_cast<std::int32_t>(position) + removedHeads_);
+    const CRtfTableCell& cell = list_.at(position);
+    if (cell.edgeSpread_ == spreads_) {
+        return cell.rightEdge_;
     }
-    return list_.at(position).rightEdge_;
+    return uniformWidth_ * (static_cast<std::int32_t>(position) + removedHeads_);
+}
+
+void CRtfTableCells::setRightEdge(std::size_t position, std::int32_t edge) noexcept {
+    CRtfTableCell& cell = list_.at(position);
+    cell.rightEdge_ = edge;
+    cell.edgeSpread_ = spreads_;
+}
+
+// For when positions are about to change that edges follow from.
+void CRtfTableCells::writeEdges() noexcept {
+    if (uniformWidth_ != 0) {
+        for (std::size_t position = 1; position <= list_.count(); ++position) {
+            setRightEdge(position, rightEdge(position));
+        }
+        uniformWidth_ = 0;
+    }
 }
 
 std::int32_t CRtfTableCells::width(std::size_t position) const {
@@ -150,21 +162,20 @@ void CRtfTableCells::setWidthOf(const CRtfTableCell& cell, tWidthUnit units, std
     } else if (edge < lower) {
         edge = lower;
     }
-    settleEdges();
-    list_.at(changed).rightEdge_ = edge;
+    setRightEdge(changed, edge);
     owner.markChanged();
 }
 
-void CRtfTableCells::render(TableDocument& document, std::string& rtf) {
+void CRtfTableCells::render(TableRendering& rendering) {
     std::size_t position = 0;
     for (CRtfTableCell* cell : list_) {
-        rtf += ' ';
-        cell->renderDefinition(document, rightEdge(++position), rtf);
+        rendering.out << " ";
+        cell->renderDefinition(rendering, rightEdge(++position));
     }
     for (CRtfTableCell* cell : list_) {
-        rtf += ' ';
-        cell->renderContent(document, rtf);
-        rtf += "\\cell";
+        rendering.out << " ";
+        cell->renderContent(rendering);
+        rendering.out << "\\cell";
     }
 }
 

@@ -57,20 +57,23 @@ private:
     void removeAt(std::size_t position) noexcept;
     void takeFrom(CRtfTableCells& other);
     void spread(std::int32_t uniformWidth) noexcept;
-    void settleEdges() noexcept;
     std::int32_t rightEdge(std::size_t position) const noexcept;
+    void setRightEdge(std::size_t position, std::int32_t edge) noexcept;
+    void writeEdges() noexcept;
     std::int32_t width(std::size_t position) const;
     std::int32_t widthOf(const CRtfTableCell& cell, tWidthUnit units) const;
     void setWidthOf(const CRtfTableCell& cell, tWidthUnit units, std::int32_t value);
-    void render(TableDocument& document, std::string& rtf);
+    void render(TableRendering& rendering);
 
     CRtfTableRow& row_;
-    // While the cells are spread evenly, their edges follow from this width and their positions and
-    // are not written into the cells, so that adding a cell does not touch the others. 0 when the
+    // Once the cells are spread evenly, their edges follow from this width and their positions and
+    // are not written into the cells, so that adding a cell does not touch the others. 0 when all
     // edges stand in the cells.
     std::int32_t uniformWidth_ = 0;
     // Cells removed at the head since the cells were spread: the edges of the others stay.
     std::int32_t removedHeads_ = 0;
+    // How often the cells were spread. An edge that stands in a cell bears the number of its spread.
+    std::uint32_t spreads_ = 0;
 };
 
 }  // namespace quorvane

@@ -86,10 +86,10 @@ void CRtfTableRow::setBorder(BorderSide side, tBorderWidth width) {
     document.markChanged();
 }
 
-void CRtfTableRow::render(TableDocument& document, std::string& rtf) {
-    rtf += "\r\n{\\intbl\\trowd\\trql\\trgaph70\\trleft0";
-    cells_.render(document, rtf);
-    rtf += "\\row}";
+void CRtfTableRow::render(TableRendering& rendering) {
+    rendering.out << "\r\n{\\intbl\\trowd\\trql\\trgaph70\\trleft0";
+    cells_.render(rendering);
+    rendering.out << "\\row}";
 }
 
 }  // namespace quorvane

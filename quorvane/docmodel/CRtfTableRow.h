@@ -62,7 +62,7 @@ private:
     void letGo() noexcept;
     void takeOver(CRtfTableRow& old);
     void setBorder(BorderSide side, tBorderWidth width);
-    void render(TableDocument& document, std::string& rtf);
+    void render(TableRendering& rendering);
 
     CountedOwner counts_;
     WeakRef<TableDocument> parent_;

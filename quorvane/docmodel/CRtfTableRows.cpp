@@ -1,8 +1,28 @@
 #include "quorvane/docmodel/CRtfTableRows.h"
 
+#include <algorithm>
+
 #include "quorvane/support/currentError.h"
 
 namespace quorvane {
+
+namespace {
+
+// Makes room for the rows that follow, as long as those rendered so far on the average. A text that
+// grew by itself would be moved time and again; room that is not used costs no memory.
+void reserveForRest(std::size_t start, std::size_t rendered, std::size_t count, std::string& rtf) {
+    constexpr std::size_t roomForARow = 4096;
+    constexpr std::size_t largestGrowth = 8;
+    if (rtf.capacity() - rtf.size() < roomForARow) {
+        const double perRow =
+            static_cast<double>(rtf.size() - start) / static_cast<double>(rendered);
+        const double expected = perRow * static_cast<double>(count - rendered) * 1.05;
+        const double most = static_cast<double>(rtf.size() * (largestGrowth - 1));
+        rtf.reserve(rtf.size() + roomForARow + static_cast<std::size_t>(std::min(expected, most)));
+    }
+}
+
+}  // namespace
 
 void retain(CRtfTableRows* rows) noexcept {
     rows->counts_.retain();
@@ -35,8 +55,13 @@ void CRtfTableRows::insertNew(const List::Place& place, TableDocument&) {
 }
 
 void CRtfTableRows::render(TableDocument& document, std::string& rtf) const {
+    TableRendering rendering(document, rtf);
+    const std::size_t start = rtf.size();
+    std::size_t rendered = 0;
     for (CRtfTableRow* row : list_) {
-        row->render(document, rtf);
+        row->render(rendering);
+        rendering.out.flush();
+        reserveForRest(start, ++rendered, list_.count(), rtf);
     }
 }
 

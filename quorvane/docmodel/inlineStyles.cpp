@@ -1,5 +1,7 @@
 #include "quorvane/docmodel/inlineStyles.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <optional>
 #include <string_view>
 #include <unordered_map>
@@ -25,19 +27,21 @@ bool isToken(std::basic_string_view<Character> inner) {
            inner.find(Character{'='}) != nowhere;
 }
 
-std::string renderToken(const TableDocument& document, std::string_view inner) {
+/// Appends the group that stands for a token.
+void appendToken(const TableDocument& document, std::string_view inner, std::string& rtf) {
     const std::size_t equals = inner.find('=');
     const std::string_view value = inner.substr(equals + 1);
     const std::string_view words = document.GetCharacterStyle(inner.substr(0, equals));
-    std::string group = "{";
-    group += value.empty() ? TrimEx(words) : words;
-    group += value;
-    group += '}';
-    return group;
+    rtf += '{';
+    rtf += value.empty() ? TrimEx(words) : words;
+    rtf += value;
+    rtf += '}';
 }
 
-std::u32string renderToken(const TableDocument& document, std::u32string_view inner) {
-    return utf16Units(renderToken(document, textOfUtf16Units(inner)));
+void appendToken(const TableDocument& document, std::u32string_view inner, std::u32string& rtf) {
+    std::string group;
+    appendToken(document, textOfUtf16Units(inner), group);
+    rtf += utf16Units(group);
 }
 
 /// The walk over a body whose characters are its places.
@@ -51,6 +55,8 @@ public:
 
     Text apply() {
         if (takesTurns()) {
+            constexpr std::size_t roomForWords = 64;
+            done_.reserve(body_.size() + roomForWords);
             walkOnce();
         } else {
             done_ = body_;
@@ -60,18 +66,27 @@ public:
     }
 
 private:
+    struct Span {
+        std::size_t start;
+        std::size_t length;
+    };
+
     static constexpr Character opening{'<'};
     static constexpr Character closing{'>'};
-    static constexpr Character brackets[] = {opening, closing, Character{}};
+
+    static bool isBracket(Character character) {
+        return character == opening || character == closing;
+    }
 
     bool takesTurns() const {
         bool isOpen = false;
-        for (std::size_t at = body_.find_first_of(brackets); at != nowhere;
-             at = body_.find_first_of(brackets, at + 1)) {
-            if (isOpen && body_[at] == opening) {
-                return false;
+        for (const Character character : body_) {
+            if (isBracket(character)) {
+                if (isOpen && character == opening) {
+                    return false;
+                }
+                isOpen = character == opening;
             }
-            isOpen = body_[at] == opening;
         }
         return true;
     }
@@ -90,25 +105,29 @@ private:
             const std::size_t tokenEnd = body_.find(closing, next_);
             const std::size_t tokenClose = open + (tokenEnd - next_);
             const View inner = body_.substr(next_ + 1, tokenEnd - next_ - 1);
-            Text replacement;
             const bool leavesStep = tokenEnd == nowhere || from > tokenClose;
-            if (!leavesStep && isToken(inner)) {
-                replacement = renderToken(document_, inner);
+            const bool isReplaced = !leavesStep && isToken(inner);
+            if (isReplaced) {
+                appendToken(document_, inner, done_);
             }
-            if (leavesStep || replacement.find_first_of(brackets) != nowhere) {
+            const auto group = done_.begin() + static_cast<std::ptrdiff_t>(open);
+            if (leavesStep || std::any_of(group, done_.end(), isBracket)) {
+                done_.resize(open);
                 appendRest();
                 walkOver(open, close.value_or(open));
                 return;
             }
             close = tokenClose;
-            if (replacement.empty()) {
+            if (isReplaced) {
+                // The last token does not stand once more behind itself.
+                if (body_.find(opening, tokenEnd) != nowhere) {
+                    replaced_.emplace(body_.substr(next_, tokenEnd - next_ + 1),
+                                      Span{open, done_.size() - open});
+                }
+                next_ = tokenEnd + 1;
+            } else {
                 done_ += opening;
                 ++next_;
-            } else {
-                done_ += replacement;
-                replaced_.emplace(body_.substr(next_, tokenEnd - next_ + 1),
-                                  std::move(replacement));
-                next_ = tokenEnd + 1;
             }
         }
         appendRest();
@@ -129,7 +148,7 @@ private:
             if (known == replaced_.end()) {
                 return true;
             }
-            done_ += known->second;
+            done_.append(done_, known->second.start, known->second.length);
             next_ = end + 1;
         }
     }
@@ -152,7 +171,8 @@ private:
             }
             const View inner = View(done_).substr(open + 1, close - open - 1);
             if (isToken(inner)) {
-                const Text replacement = renderToken(document_, inner);
+                Text replacement;
+                appendToken(document_, inner, replacement);
                 const Text token(View(done_).substr(open, close - open + 1));
                 replaceEverywhere(token, replacement);
             }
@@ -176,23 +196,18 @@ private:
     View body_;
     std::size_t next_ = 0;
     Text done_;
-    std::unordered_map<View, Text> replaced_;
+    // Where in `done_` the group stands that a token was replaced by first.
+    std::unordered_map<View, Span> replaced_;
 };
 
 }  // namespace
 
-void applyCharacterStyles(const TableDocument& document, std::size_t start, std::string& rtf) {
-    const std::string_view body = std::string_view(rtf).substr(start);
-    if (body.find('<') == nowhere) {
-        return;
+std::string withCharacterStyles(const TableDocument& document, std::string_view text) {
+    if (asciiRunEnd(text, 0) == text.size()) {
+        return InlineStyles<char>(document, text).apply();
     }
-    std::string styled;
-    if (asciiRunEnd(body, 0) == body.size()) {
-        styled = InlineStyles<char>(document, body).apply();
-    } else {
-        styled = textOfUtf16Units(InlineStyles<char32_t>(document, utf16Units(body)).apply());
-    }
-    rtf.replace(start, nowhere, styled);
+    const std::u32string units = utf16Units(text);
+    return textOfUtf16Units(InlineStyles<char32_t>(document, units).apply());
 }
 
 }  // namespace quorvane

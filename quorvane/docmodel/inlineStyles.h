@@ -1,13 +1,13 @@
 #pragma once
 
-#include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace quorvane {
 
 class TableDocument;
 
-/// Replaces the inline character styles in `rtf` from position `start` to its end: a token such as
+/// The text with its inline character styles in RTF: a token such as
 /// `<bold-red=Total>` becomes a group of the control words of the style bold-red and the text
 /// Total.
 ///
@@ -16,6 +16,6 @@ class TableDocument;
 /// length of the text: a token that shrinks can make the next ones be read together. Places count
 /// UTF-16 units. A text in which "<" and ">" take turns and no token outgrows the next costs time
 /// proportional to its length.
-void applyCharacterStyles(const TableDocument& document, std::size_t start, std::string& rtf);
+std::string withCharacterStyles(const TableDocument& document, std::string_view text);
 
 }  // namespace quorvane

@@ -9,6 +9,20 @@
 
 namespace quorvane {
 
+// Nodes can be nested thousands deep, too deep for one destructor to call the next: each node is
+// emptied before it goes.
+DescriptionNode::~DescriptionNode() {
+    std::list<std::shared_ptr<DescriptionNode>> nodes = std::move(children_);
+    RemoveAll();
+    while (!nodes.empty()) {
+        if (nodes.front().use_count() == 1) {
+            nodes.splice(nodes.end(), nodes.front()->children_);
+            nodes.front()->RemoveAll();
+        }
+        nodes.pop_front();
+    }
+}
+
 std::vector<Value> DescriptionNode::leafKeys() const {
     return FilterType(Keys().value_or(std::vector<Value>()), ValueKind::Text);
 }
@@ -34,6 +48,13 @@ void DescriptionNode::addLeaf(const std::string& key, Leaf leaf) {
     atLine(line, [&] { add(key, std::make_shared<Leaf>(std::move(leaf))); });
 }
 
+std::shared_ptr<DescriptionNode> DescriptionNode::addChild(std::int32_t number, int line) {
+    auto node = std::make_shared<DescriptionNode>(line);
+    add(number, node);
+    children_.push_back(node);
+    return node;
+}
+
 NodeKind NodeType(std::int32_t number) {
     constexpr NodeKind kinds[] = {NodeKind::Doc, NodeKind::Row, NodeKind::Cell, NodeKind::Para};
     if (number < 0 || number > 3999) {
@@ -50,9 +71,7 @@ std::shared_ptr<DescriptionNode> AddNode(DescriptionNode& tree, NodeKind kind, s
         raise(driverError(eWrongNodeType, "Can't add this type of node: " + std::to_string(code),
                           "CRtfDriver.AddNode", line));
     }
-    auto node = std::make_shared<DescriptionNode>(line);
-    tree.add(number, node);
-    return node;
+    return tree.addChild(number, line);
 }
 
 bool nests(NodeKind parent, NodeKind child) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <list>
 #include <memory>
 #include <string>
 #include <vector>
@@ -32,6 +33,9 @@ struct Leaf : Object {
 class DescriptionNode : public CMap {
 public:
     explicit DescriptionNode(int line) : line_(line) {}
+    DescriptionNode(const DescriptionNode&) = delete;
+    DescriptionNode& operator=(const DescriptionNode&) = delete;
+    ~DescriptionNode() override;
 
     /// 1-based line on which the node is opened; 0 for the root.
     int line() const { return line_; }
@@ -47,9 +51,14 @@ public:
 
     /// Adds a leaf. Error 457 when the key is there already.
     void addLeaf(const std::string& key, Leaf leaf);
+    /// Adds an empty child node under its number and answers it. Error 457 when the number is there
+    /// already.
+    std::shared_ptr<DescriptionNode> addChild(std::int32_t number, int line);
 
 private:
     int line_;
+    // The children once more, for the destructor.
+    std::list<std::shared_ptr<DescriptionNode>> children_;
 };
 
 /// Kind of the node of that number: 0 to 999 doc, 1000 to 1999 row, 2000 to 2999 cell, 3000 to 3999

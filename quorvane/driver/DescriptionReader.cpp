@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <string>
 #include <utility>
 
@@ -32,19 +33,24 @@ constexpr const char* procedure = "CRtfDriver.treeWalkerBuild";
 }  // namespace
 
 std::vector<SourceLine> repairLines(std::vector<SourceLine> lines) {
-    std::vector<SourceLine> repaired;
-    for (auto line = lines.rbegin(); line != lines.rend(); ++line) {
-        if (!repaired.empty() && repaired.back().text == "(r") {
-            if (line->text == "(r") {
-                continue;
-            }
-            if (line->text == "c)") {
-                repaired.push_back({"r)", repaired.back().number});
-            }
-        }
-        repaired.push_back(std::move(*line));
+    const auto needsRepair = [](const SourceLine& line, const SourceLine& next) {
+        return next.text == "(r" && (line.text == "(r" || line.text == "c)");
+    };
+    auto first = std::adjacent_find(lines.begin(), lines.end(), needsRepair);
+    if (first == lines.end()) {
+        return lines;
     }
-    std::reverse(repaired.begin(), repaired.end());
+    std::vector<SourceLine> repaired(std::make_move_iterator(lines.begin()),
+                                     std::make_move_iterator(first));
+    for (auto line = first; line != lines.end(); ++line) {
+        const auto next = line + 1;
+        if (next == lines.end() || !needsRepair(*line, *next)) {
+            repaired.push_back(std::move(*line));
+        } else if (line->text == "c)") {
+            repaired.push_back(std::move(*line));
+            repaired.push_back({"r)", next->number});
+        }
+    }
     return repaired;
 }
 
@@ -55,12 +61,11 @@ void DescriptionReader::treeWalkerBuild(const std::shared_ptr<DescriptionNode>& 
     auto line = lines.begin();
     while (line != lines.end() && !levels.empty()) {
         const Level level = levels.back();
-        const NodeKind opened = openedKind(line->text, vocabulary_);
-        const NodeKind closed = closedKind(line->text, vocabulary_);
         if (isLeaf(line->text)) {
             addLeaf(*level.node, *line);
             ++line;
-        } else if (opened != NodeKind::None) {
+        } else if (const NodeKind opened = openedKind(line->text, vocabulary_);
+                   opened != NodeKind::None) {
             ++openerCount_;
             const std::int32_t number = nextNumber(opened, *line);
             if (opened != NodeKind::Doc && !nests(level.kind, opened)) {
@@ -71,7 +76,8 @@ void DescriptionReader::treeWalkerBuild(const std::shared_ptr<DescriptionNode>& 
             levels.push_back({AddNode(*level.node, opened, number, line->number), opened});
             openerCount_ = 0;
             ++line;
-        } else if (closed == level.kind) {
+        } else if (const NodeKind closed = closedKind(line->text, vocabulary_);
+                   closed == level.kind) {
             levels.pop_back();
             ++line;
         } else if (closed != NodeKind::None) {

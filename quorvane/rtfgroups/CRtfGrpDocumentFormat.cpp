@@ -2,8 +2,6 @@
 
 #include <string_view>
 
-#include "quorvane/support/appendNumber.h"
-
 namespace quorvane {
 
 namespace {
@@ -17,7 +15,7 @@ std::int32_t fittingMargin(std::int32_t twips, std::int32_t paper, std::int32_t 
 
 void appendSetting(std::string_view word, std::int32_t value, std::string& rtf) {
     rtf += word;
-    appendNumber(value, rtf);
+    rtf += std::to_string(value);
 }
 
 }  // namespace

@@ -33,24 +33,25 @@ std::string fieldData(const Value& value) {
     return toHexString(toStringRepr(value));
 }
 
-void appendFieldStart(std::string_view data, std::string& rtf) {
-    rtf += R"({\*\txfieldstart\txfieldtype0\txfieldflags128\txfieldbin)";
+void writeFieldStart(std::string_view data, TextOutput& rtf) {
+    rtf << R"({\*\txfieldstart\txfieldtype0\txfieldflags128\txfieldbin)";
     if (!data.empty()) {
-        rtf += R"(\txfielddata )";
-        rtf += data;
+        rtf << R"(\txfielddata )" << data;
     }
-    rtf += '}';
+    rtf << "}";
 }
 
-void appendFieldEnd(std::string& rtf) {
-    rtf += R"({\*\txfieldend})";
+void writeFieldEnd(TextOutput& rtf) {
+    rtf << R"({\*\txfieldend})";
 }
 
 std::string wrapMarkedField(std::string_view rtf, std::string_view data) {
     std::string wrapped;
-    appendFieldStart(data, wrapped);
-    wrapped += rtf;
-    appendFieldEnd(wrapped);
+    TextOutput output(wrapped);
+    writeFieldStart(data, output);
+    output << rtf;
+    writeFieldEnd(output);
+    output.flush();
     return wrapped;
 }
 

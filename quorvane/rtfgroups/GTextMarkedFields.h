@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "quorvane/support/TextOutput.h"
 #include "quorvane/support/Value.h"
 
 /// Marked text fields: a run of text between two private destinations, the first of which carries
@@ -20,11 +21,11 @@ std::string toHexString(std::string_view text);
 /// The data as it is kept with a marked paragraph or cell: the hexadecimal text of its text form.
 std::string fieldData(const Value& value);
 
-/// Appends the group that opens a field with this hexadecimal data.
-void appendFieldStart(std::string_view data, std::string& rtf);
+/// Writes the group that opens a field with this hexadecimal data.
+void writeFieldStart(std::string_view data, TextOutput& rtf);
 
-/// Appends the group that closes a field.
-void appendFieldEnd(std::string& rtf);
+/// Writes the group that closes a field.
+void writeFieldEnd(TextOutput& rtf);
 
 /// The RTF text as a marked field with this hexadecimal data.
 std::string wrapMarkedField(std::string_view rtf, std::string_view data);

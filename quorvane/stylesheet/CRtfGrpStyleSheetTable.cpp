@@ -1,5 +1,7 @@
 #include "quorvane/stylesheet/CRtfGrpStyleSheetTable.h"
 
+#include <utility>
+
 #include "quorvane/rtfgroups/CRtfGrpColorTable.h"
 #include "quorvane/support/GFileSystem.h"
 #include "quorvane/support/textCase.h"
@@ -14,7 +16,7 @@ std::string searchedName(std::string_view name) {
 }
 
 std::string reference(std::string_view word, const StyleList& styles, const std::string& name) {
-    const int position = styles.find(name);
+    const int position = name.empty() ? -1 : styles.find(name);
     return position < 0 ? std::string() : std::string(word) + std::to_string(styleNumber(position));
 }
 
@@ -55,14 +57,12 @@ void appendEntries(const StyleList& styles, Entry entry, std::string& rtf) {
 
 }  // namespace
 
-void CRtfGrpStyleSheetTable::setStyleSheetFile(const std::string& sName) {
+void CRtfGrpStyleSheetTable::setStyleSheetFile(std::string sName) {
     clear();
-    if (!GFileSystem::fileExists(platform_, sName)) {
-        fileName_ = sName;
-        return;
+    if (GFileSystem::fileExists(platform_, sName)) {
+        load(GFileSystem::loadStringFromFile(platform_, sName));
     }
-    load(GFileSystem::loadStringFromFile(platform_, sName));
-    fileName_ = sName;
+    fileName_ = std::move(sName);
 }
 
 void CRtfGrpStyleSheetTable::loadStyleSheetFromMemory(std::string_view text) {

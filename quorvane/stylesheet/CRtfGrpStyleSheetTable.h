@@ -27,7 +27,7 @@ public:
     /// success the document is marked changed. A missing file raises nothing: its name is kept and
     /// no styles are loaded. A file that exists but cannot be read counts as empty. Errors 445 and
     /// 31037 for a bad stylesheet; the name is empty then.
-    void setStyleSheetFile(const std::string& sName);
+    void setStyleSheetFile(std::string sName);
 
     /// Forgets all styles and the file name and reads the styles of a text (UTF-8). On success the
     /// document is marked changed. Errors 445 and 31037 for a bad stylesheet.

@@ -34,7 +34,7 @@ std::string Style::next() const {
 }
 
 bool Style::isAdditive() const {
-    return GetSubField(record, "a") == "yes";
+    return record.find("^ayes") != std::string::npos;
 }
 
 void StyleList::add(std::string name, std::string record) {

@@ -8,8 +8,8 @@
 #include "quorvane/support/CIsisStringCompare.h"
 #include "quorvane/support/RandomNumbers.h"
 #include "quorvane/support/RtfError.h"
+#include "quorvane/support/listPosition.h"
 #include "quorvane/support/quicksort.h"
-#include "quorvane/support/rounding.h"
 #include "quorvane/support/textCase.h"
 #include "quorvane/support/utf8.h"
 #include "quorvane/support/wildcards.h"
@@ -147,14 +147,11 @@ std::optional<std::size_t> CStringList::find(const Value& index) const {
         }
         return static_cast<std::size_t>(found->second - firstOrdinal_);
     }
-    if (!index.isNumber() || !(index.number() > 0.5 && index.number() < Count() + 1)) {
+    if (!index.isNumber()) {
         return std::nullopt;
     }
-    const std::int32_t position = roundToLong(index.number());
-    if (position > Count()) {
-        return std::nullopt;
-    }
-    return static_cast<std::size_t>(position - 1);
+    const std::size_t position = listPosition(index.number(), entries_.size());
+    return position == 0 ? std::nullopt : std::optional(position - 1);
 }
 
 std::size_t CStringList::require(const Value& index) const {

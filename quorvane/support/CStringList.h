@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <deque>
 #include <optional>
-#include <ranges>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -26,6 +25,33 @@ class CStringList {
     };
 
 public:
+    /// The strings of a list, as a range.
+    class Strings {
+    public:
+        class Iterator {
+        public:
+            const std::string& operator*() const { return position_->text; }
+            Iterator& operator++() {
+                ++position_;
+                return *this;
+            }
+            bool operator==(const Iterator&) const = default;
+
+        private:
+            friend class Strings;
+            explicit Iterator(std::deque<Entry>::const_iterator position) : position_(position) {}
+            std::deque<Entry>::const_iterator position_;
+        };
+
+        Iterator begin() const { return Iterator(entries_->begin()); }
+        Iterator end() const { return Iterator(entries_->end()); }
+
+    private:
+        friend class CStringList;
+        explicit Strings(const std::deque<Entry>& entries) : entries_(&entries) {}
+        const std::deque<Entry>* entries_;
+    };
+
     /// What `Index` and `Find` answer for what the list does not hold.
     static constexpr std::int32_t notFound = -1;
 
@@ -53,8 +79,8 @@ public:
              const Value& After = Missing{});
 
     /// The strings in order, for a loop over all of them. The list must outlive the loop.
-    auto NewEnum() const& { return std::views::transform(entries_, &Entry::text); }
-    void NewEnum() const&& = delete;
+    Strings NewEnum() const& { return Strings(entries_); }
+    Strings NewEnum() const&& = delete;
 
     /// Adds a string at the end. Answers as `add`.
     bool AddTail(std::string Item, const Value& Key = Missing{});

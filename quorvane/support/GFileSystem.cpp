@@ -43,11 +43,15 @@ std::size_t lengthOfFirstBlock(std::string_view text) {
 void writeText(OutputFile& file, std::string_view text) {
     std::string bytes;
     while (!text.empty()) {
-        const std::size_t length = lengthOfFirstBlock(text);
-        bytes.clear();
-        appendCodePage1252(text.substr(0, length), bytes);
-        file.write(bytes);
-        text.remove_prefix(length);
+        const std::string_view block = text.substr(0, lengthOfFirstBlock(text));
+        if (asciiRunEnd(block, 0) == block.size()) {
+            file.write(block);
+        } else {
+            bytes.clear();
+            appendCodePage1252(block, bytes);
+            file.write(bytes);
+        }
+        text.remove_prefix(block.size());
     }
 }
 

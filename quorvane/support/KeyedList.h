@@ -73,13 +73,10 @@ public:
 
     /// 1-based position of the element; 0 when it is not in the list.
     std::size_t positionOf(const Element& element) const noexcept {
-        Element* const* first = begin();
-        const std::size_t length = count();
-        const std::size_t hint = hasBlock() ? element.slot_ - block()->origin - block()->first : 0;
-        if (hint < length && first[hint] == &element) {
-            return hint + 1;
+        if (!hasBlock()) {
+            return only_ == &element ? 1 : 0;
         }
-        return searchAround(element, std::min(hint, length));
+        return block()->positionOf(element);
     }
 
     /// 1-based position of the element. Error 5 when it is not in the list.
@@ -183,8 +180,9 @@ private:
         std::uint32_t capacity;
         std::uint32_t first = 0;
         std::uint32_t count = 0;
-        // An element's slot less this is its index here. Moving all elements together changes only
-        // this number; what is moved up singly finds its place again by `searchAround`.
+        // An element's slot less this is where it stands here. Moving all elements together changes
+        // only this number; those that are moved up singly keep their old slots until a search
+        // finds too much out of place.
         std::uint32_t origin = 0;
         std::unique_ptr<KeyIndex<Element>> keys;
 
@@ -203,6 +201,37 @@ private:
         static void destroy(Block* block) noexcept {
             block->~Block();
             ::operator delete(block);
+        }
+
+        // Where the element stands when it was not moved up singly; it may be anywhere.
+        std::int64_t expectedIndex(const Element& element) const noexcept {
+            return static_cast<std::int32_t>(element.slot_ - origin - first);
+        }
+
+        bool standsAt(std::int64_t index, const Element& element) noexcept {
+            return index >= 0 && index < count && slots()[first + index] == &element;
+        }
+
+        // 1-based; 0 when the element is not here.
+        std::size_t positionOf(const Element& element) noexcept {
+            constexpr std::int64_t reach = 64;
+            const std::int64_t expected = expectedIndex(element);
+            for (std::int64_t distance = 0; distance <= reach; ++distance) {
+                for (const std::int64_t index : {expected - distance, expected + distance}) {
+                    if (standsAt(index, element)) {
+                        return static_cast<std::size_t>(index) + 1;
+                    }
+                }
+            }
+            renumber();
+            const std::int64_t index = expectedIndex(element);
+            return standsAt(index, element) ? static_cast<std::size_t>(index) + 1 : 0;
+        }
+
+        void renumber() noexcept {
+            for (std::uint32_t i = 0; i < count; ++i) {
+                slots()[first + i]->slot_ = origin + first + i;
+            }
         }
 
         // Elements are moved up on the side where they are fewer.
@@ -300,12 +329,10 @@ private:
 
     // After this nothing that `insert` does can fail but filing the key.
     void requireRoomFor(const Place& place) {
-        if (!hasBlock()) {
-            if (only_ || place.key) {
-                requireBlock();
-            }
+        if (!hasBlock() && !only_ && !place.key) {
             return;
         }
+        requireBlock();
         const bool atFront = block()->opensAtFront(place.position - 1);
         if (block()->hasRoom(atFront)) {
             return;
@@ -342,21 +369,6 @@ private:
                     old->count * sizeof(Element*));
         Block::destroy(old);
         setBlock(fresh);
-    }
-
-    std::size_t searchAround(const Element& element, std::size_t start) const noexcept {
-        Element* const* first = begin();
-        const std::size_t length = count();
-        for (std::size_t distance = 0; distance <= length; ++distance) {
-            if (start + distance < length && first[start + distance] == &element) {
-                return start + distance + 1;
-            }
-            if (distance <= start && start - distance < length &&
-                first[start - distance] == &element) {
-                return start - distance + 1;
-            }
-        }
-        return 0;
     }
 
     Element* only_ = nullptr;

@@ -23,6 +23,8 @@ public:
     ~SharedText();
 
     bool empty() const noexcept { return block_ == nullptr; }
+    /// True when both are copies of one text, or empty.
+    bool sharesWith(const SharedText& other) const noexcept { return block_ == other.block_; }
     /// The characters, good as long as this text or a copy of it lives.
     std::string_view view() const noexcept;
     std::string text() const { return std::string(view()); }

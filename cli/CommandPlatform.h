@@ -1,0 +1,51 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "quorvane/support/Platform.h"
+
+namespace quorvane::cli {
+
+/// The platform on which the command lets the library run: files are read from another platform, a
+/// document's file is replaced as a whole or is standard output, and nothing is put on the
+/// clipboard or into message boxes.
+class CommandPlatform : public Platform {
+public:
+    /// The other platform must outlive this one.
+    explicit CommandPlatform(Platform& files) : files_(files) {}
+
+    /// Reads the stylesheet file, once for all descriptions. Raises what reading a file raises.
+    void readStyleSheet(const std::string& path);
+
+    /// True for the stylesheet only: the library shall not delete the file that it writes to.
+    bool fileExists(const std::string& path) override;
+    std::string readFile(const std::string& path) override;
+    void deleteFile(const std::string& path) override { files_.deleteFile(path); }
+    /// Opens a replacement of the file, or standard output for the name "-".
+    std::unique_ptr<OutputFile> createFile(const std::string& path) override;
+
+    void setClipboardText(const std::string&) override {}
+    void showMessageBox(const std::string&, int, const std::string&) override {}
+    std::optional<std::string> resourceString(int id) override { return files_.resourceString(id); }
+    std::unique_ptr<ErrorReporter> createReporter(const std::string& programId) override {
+        return files_.createReporter(programId);
+    }
+    std::string programFolder() override { return files_.programFolder(); }
+    std::string programFileName() override { return files_.programFileName(); }
+    ProgramVersion programVersion() override { return files_.programVersion(); }
+
+private:
+    struct StyleSheet {
+        std::string path;
+        std::string bytes;
+    };
+
+    bool isStyleSheet(const std::string& path) const;
+
+    Platform& files_;
+    std::optional<StyleSheet> styleSheet_;
+};
+
+}  // namespace quorvane::cli

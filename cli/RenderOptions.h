@@ -1,0 +1,30 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quorvane::cli {
+
+/// The form in which errors are told on standard error.
+enum class DiagnosticsForm { Text, Json };
+
+/// In place of a file's name it stands for standard input or standard output.
+inline constexpr const char* standardStream = "-";
+
+/// What `quorvane render` was asked to do. Paths are as they were given.
+struct RenderOptions {
+    std::vector<std::string> descriptions;
+    std::optional<std::string> styleSheet;
+    /// The file that the one description goes to.
+    std::optional<std::string> output;
+    /// The folder that the documents go to, instead of beside their descriptions.
+    std::optional<std::string> outputFolder;
+    /// Repair and check the descriptions before building.
+    bool check = false;
+    /// Write what could be built of a description that has errors.
+    bool keepGoing = false;
+    DiagnosticsForm diagnostics = DiagnosticsForm::Text;
+};
+
+}  // namespace quorvane::cli

@@ -1,0 +1,158 @@
+#include "cli/commandLine.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <map>
+#include <sstream>
+
+#include "cli/UsageError.h"
+
+namespace quorvane::cli {
+
+namespace {
+
+constexpr const char* versionText = "quorvane " QUORVANE_VERSION;
+
+constexpr const char* renderFooter =
+    R"(A description (.rtfspec) is a text file in Windows-1252; - is standard input.
+
+Without --output and --output-dir a document goes beside its description, under
+its name with the extension rtf, and that of standard input to standard output,
+which --output names as -. In a folder the document of standard input is named
+stdin.rtf. Of a description that has errors nothing is written, unless with
+--keep-going. A document appears whole or not at all.
+
+Errors are told on standard error, one a line.
+
+Exit status:
+  0  all is well
+  1  a description or the stylesheet has errors
+  2  wrong usage, or a file that cannot be read or written)";
+
+const std::map<std::string, DiagnosticsForm> diagnosticsForms = {
+    {"text", DiagnosticsForm::Text},
+    {"json", DiagnosticsForm::Json},
+};
+
+// The parser takes an argument in brackets for a list of several, and loses what comes after "--"
+// behind the first description. Begun with a byte that no argument can hold, an argument is a name
+// like any other.
+constexpr char nameMark = '\0';
+
+std::string asName(const std::string& argument) {
+    return nameMark + argument;
+}
+
+std::string asGiven(std::string argument) {
+    std::erase(argument, nameMark);
+    return argument;
+}
+
+/// The arguments as the parser takes them: the last one first.
+std::vector<std::string> prepared(const std::vector<std::string>& arguments) {
+    std::vector<std::string> result;
+    bool onlyNamesFollow = false;
+    for (const std::string& argument : arguments) {
+        if (!onlyNamesFollow && argument == "--") {
+            onlyNamesFollow = true;
+        } else {
+            const bool isName = onlyNamesFollow || argument.starts_with('[');
+            result.push_back(isName ? asName(argument) : argument);
+        }
+    }
+    std::reverse(result.begin(), result.end());
+    return result;
+}
+
+CLI::callback_t storeIn(std::optional<std::string>& target) {
+    return [&target](const CLI::results_t& results) {
+        target = asGiven(results.front());
+        return true;
+    };
+}
+
+CLI::callback_t storeIn(std::vector<std::string>& target) {
+    return [&target](const CLI::results_t& results) {
+        target.clear();
+        std::transform(results.begin(), results.end(), std::back_inserter(target), asGiven);
+        return true;
+    };
+}
+
+CLI::callback_t storeIn(DiagnosticsForm& target) {
+    return [&target](const CLI::results_t& results) {
+        target = diagnosticsForms.at(results.front());
+        return true;
+    };
+}
+
+void addRenderCommand(CLI::App& app, RenderOptions& options) {
+    CLI::App* render = app.add_subcommand("render", "Render descriptions as RTF documents.");
+    render->footer(renderFooter);
+    render->set_help_flag("-h,--help", "Show this help and exit");
+    render->set_version_flag("--version", versionText, "Show the version and exit");
+    render->add_option("DESCRIPTION", storeIn(options.descriptions), "Files to render")
+        ->type_name("")
+        ->required()
+        ->expected(1, CLI::detail::expected_max_vector_size)
+        ->allow_extra_args();
+    render
+        ->add_option("-s,--stylesheet", storeIn(options.styleSheet),
+                     "Take the styles from this .rtfss file")
+        ->type_name("FILE");
+    render->add_option("-o,--output", storeIn(options.output), "Write the document to this file")
+        ->type_name("FILE");
+    render
+        ->add_option("--output-dir", storeIn(options.outputFolder),
+                     "Write the documents into this folder")
+        ->type_name("DIR")
+        ->excludes("--output");
+    render->add_flag("--check", options.check, "Repair unclosed rows; check keys and values");
+    render->add_flag("--keep-going", options.keepGoing,
+                     "Write what could be built in spite of errors");
+    render
+        ->add_option("--diagnostics", storeIn(options.diagnostics),
+                     "Tell errors as text or as JSON objects")
+        ->type_name("text|json")
+        ->check(CLI::IsMember(diagnosticsForms).description(""));
+}
+
+}  // namespace
+
+std::variant<RenderOptions, Information> parseCommandLine(
+    const std::vector<std::string>& arguments) {
+    RenderOptions options;
+    CLI::App app("Renders descriptions of documents as Rich Text Format.", "quorvane");
+    app.require_subcommand(1);
+    app.set_help_flag("-h,--help", "Show this help and exit");
+    app.set_version_flag("--version", versionText, "Show the version and exit");
+    app.allow_windows_style_options(false);
+    addRenderCommand(app, options);
+
+    try {
+        app.parse(prepared(arguments));
+        return options;
+    } catch (const CLI::Success& request) {
+        std::ostringstream text;
+        app.exit(request, text);
+        return Information{text.str()};
+    } catch (const CLI::ParseError& error) {
+        throw UsageError(asGiven(error.what()));
+    }
+}
+
+DiagnosticsForm requestedDiagnosticsForm(const std::vector<std::string>& arguments) {
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const bool hasJsonNext = i + 1 < arguments.size() && arguments[i + 1] == "json";
+        if (arguments[i] == "--") {
+            break;
+        }
+        if (arguments[i] == "--diagnostics=json" ||
+            (arguments[i] == "--diagnostics" && hasJsonNext)) {
+            return DiagnosticsForm::Json;
+        }
+    }
+    return DiagnosticsForm::Text;
+}
+
+}  // namespace quorvane::cli

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "cli/RenderOptions.h"
+
+namespace quorvane::cli {
+
+/// A text that was asked for instead of work: the help or the version.
+struct Information {
+    std::string text;
+};
+
+/// What the arguments after the program's name ask for. Throws `UsageError`.
+std::variant<RenderOptions, Information> parseCommandLine(
+    const std::vector<std::string>& arguments);
+
+/// The form of diagnostics that the arguments ask for, which need not be right otherwise: the form
+/// in which the user is told what is wrong with them.
+DiagnosticsForm requestedDiagnosticsForm(const std::vector<std::string>& arguments);
+
+}  // namespace quorvane::cli

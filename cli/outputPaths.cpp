@@ -1,0 +1,98 @@
+#include "cli/outputPaths.h"
+
+#include <filesystem>
+#include <map>
+#include <system_error>
+
+#include "cli/UsageError.h"
+#include "cli/followLinks.h"
+#include "cli/utf8Path.h"
+
+namespace quorvane::cli {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string outputBeside(const std::string& description) {
+    if (description == standardStream) {
+        return standardStream;
+    }
+    return utf8FromPath(pathFromUtf8(description).replace_extension("rtf"));
+}
+
+std::string outputIn(const std::string& folder, const std::string& description) {
+    const fs::path name = description == standardStream ? fs::path("stdin.rtf")
+                                                        : pathFromUtf8(description).filename();
+    return utf8FromPath(pathFromUtf8(folder) / fs::path(name).replace_extension("rtf"));
+}
+
+std::string outputOf(const std::string& description, const RenderOptions& options) {
+    if (options.output) {
+        return *options.output;
+    }
+    return options.outputFolder ? outputIn(*options.outputFolder, description)
+                                : outputBeside(description);
+}
+
+/// One name for all ways in which a file can be named.
+fs::path identity(const std::string& name) {
+    if (name == standardStream) {
+        return name;
+    }
+    const fs::path target = followLinks(pathFromUtf8(name));
+    std::error_code failure;
+    const fs::path whole = fs::weakly_canonical(fs::absolute(target, failure), failure);
+    return failure ? target : whole;
+}
+
+/// The files that are read; no document may take the place of one.
+std::map<fs::path, std::string> inputsOf(const RenderOptions& options) {
+    std::map<fs::path, std::string> inputs;
+    for (const std::string& description : options.descriptions) {
+        if (description != standardStream) {
+            inputs.emplace(identity(description), description);
+        }
+    }
+    if (options.styleSheet) {
+        inputs.emplace(identity(*options.styleSheet), *options.styleSheet);
+    }
+    return inputs;
+}
+
+/// Devices and pipes are written to, not replaced.
+bool wouldReplace(const fs::path& path) {
+    std::error_code failure;
+    return fs::is_regular_file(path, failure);
+}
+
+}  // namespace
+
+std::vector<Assignment> assignOutputs(const RenderOptions& options) {
+    if (options.output && options.descriptions.size() > 1) {
+        throw UsageError("--output takes one description; use --output-dir for several");
+    }
+    if (options.output && options.output->empty()) {
+        throw UsageError("--output needs the name of a file");
+    }
+    const std::map<fs::path, std::string> inputs = inputsOf(options);
+    std::map<fs::path, std::string> descriptionsByOutput;
+    std::vector<Assignment> assignments;
+    for (const std::string& description : options.descriptions) {
+        const std::string output = outputOf(description, options);
+        const fs::path file = identity(output);
+        const auto input = inputs.find(file);
+        if (input != inputs.end() && wouldReplace(file)) {
+            throw UsageError("the document of " + description + " would replace " + input->second);
+        }
+        const auto [other, isNew] = descriptionsByOutput.emplace(file, description);
+        if (!isNew) {
+            throw UsageError("the documents of " + other->second + " and " + description +
+                             " would both go to " + output);
+        }
+        assignments.push_back({description, output});
+    }
+    return assignments;
+}
+
+}  // namespace quorvane::cli

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "quorvane/support/Platform.h"
+
+/// What the command asks of the operating system beyond the library's platform. Errors have the
+/// numbers of the platform's; their cause is what the system said. Paths are UTF-8.
+namespace quorvane::cli {
+
+/// Readies the process: a pipe that nobody reads and a file that may not grow are errors instead of
+/// its end, a signal that ends it takes the unfinished file along, and no file that it opens can
+/// take the place of a standard stream that was closed.
+void prepareProcess();
+
+/// Columns of the terminal that standard error is; 0 when it is none.
+int standardErrorColumns();
+
+/// Writes to standard error, without a buffer. What cannot be written is lost.
+void writeToStandardError(std::string_view text) noexcept;
+
+/// All bytes of standard input. Errors: 75 when it is a folder, 57 when it is closed or fails.
+std::string readStandardInput();
+
+/// Standard output, for bytes as they are.
+std::unique_ptr<OutputFile> openStandardOutput();
+
+/// A file that appears under its name with `close`, whole, in the place of the one that was there,
+/// whose permissions it takes. Until then the bytes are in a file beside it, which goes when the
+/// writing fails or ends without `close`. A symbolic link is followed; a device or a pipe is
+/// written as it is. Errors as `Platform::createFile`, and 75 for a file that may not be written.
+std::unique_ptr<OutputFile> openReplacement(const std::string& path);
+
+}  // namespace quorvane::cli

@@ -1,0 +1,106 @@
+#include "cli/runCommand.h"
+
+#include <cstddef>
+#include <new>
+#include <utility>
+#include <variant>
+
+#include "cli/Diagnostic.h"
+#include "cli/ExitStatus.h"
+#include "cli/RenderJob.h"
+#include "cli/UsageError.h"
+#include "cli/commandLine.h"
+#include "cli/diagnosticJson.h"
+#include "cli/diagnosticText.h"
+#include "cli/process.h"
+#include "cli/progressLine.h"
+
+namespace quorvane::cli {
+
+namespace {
+
+std::string lineOf(const Diagnostic& diagnostic, DiagnosticsForm form) {
+    return (form == DiagnosticsForm::Json ? diagnosticJson(diagnostic)
+                                          : diagnosticText(diagnostic)) +
+           "\n";
+}
+
+void tellUsageError(const UsageError& error, DiagnosticsForm form) {
+    if (form == DiagnosticsForm::Json) {
+        const auto number = static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall);
+        writeToStandardError(
+            lineOf({DiagnosticKind::Raised, {}, RtfError(number, error.what())}, form));
+    } else {
+        writeToStandardError("quorvane: " + std::string(error.what()) +
+                             "\nRun with --help for more information.\n");
+    }
+}
+
+/// Needs no memory itself.
+void tellOutOfMemory(DiagnosticsForm form) noexcept {
+    writeToStandardError(form == DiagnosticsForm::Json
+                             ? R"({"file":null,"line":null,"number":7,"level":null,"source":null,)"
+                               R"("message":"Out of memory","kind":"raised"})"
+                               "\n"
+                             : "error[7]: Out of memory\n");
+}
+
+ExitStatus show(const Information& information, DiagnosticsForm form) {
+    try {
+        const auto output = openStandardOutput();
+        output->write(information.text);
+        output->close();
+        return ExitStatus::Success;
+    } catch (const RtfError& error) {
+        writeToStandardError(lineOf({DiagnosticKind::Raised, "<stdout>", error}, form));
+        return ExitStatus::Failure;
+    }
+}
+
+ExitStatus render(const RenderOptions& options) {
+    const auto columns = static_cast<std::size_t>(standardErrorColumns());
+    const bool showsProgress = columns > 0 && options.descriptions.size() > 1 &&
+                               options.diagnostics == DiagnosticsForm::Text;
+    const auto eraseProgress = [showsProgress] {
+        if (showsProgress) {
+            writeToStandardError(erasedLine);
+        }
+    };
+    const auto tell = [&](const Diagnostic& diagnostic) {
+        eraseProgress();
+        writeToStandardError(lineOf(diagnostic, options.diagnostics));
+    };
+    const auto progress = [&](std::size_t number, std::size_t count, const std::string& name) {
+        if (showsProgress) {
+            writeToStandardError(progressLine(number, count, name, columns));
+        }
+    };
+    const ExitStatus status = RenderJob(options, tell, progress).run();
+    eraseProgress();
+    return status;
+}
+
+ExitStatus run(const std::vector<std::string>& arguments, DiagnosticsForm form) {
+    const auto request = parseCommandLine(arguments);
+    if (const auto* information = std::get_if<Information>(&request)) {
+        return show(*information, form);
+    }
+    return render(std::get<RenderOptions>(request));
+}
+
+}  // namespace
+
+int runCommand(const std::vector<std::string>& arguments) {
+    prepareProcess();
+    const DiagnosticsForm form = requestedDiagnosticsForm(arguments);
+    try {
+        return static_cast<int>(run(arguments, form));
+    } catch (const UsageError& error) {
+        tellUsageError(error, form);
+    } catch (const std::bad_alloc&) {
+        tellOutOfMemory(form);
+    }
+    return static_cast<int>(ExitStatus::Failure);
+}
+
+}  // namespace quorvane::cli

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "quorvane/docmodel/Borders.h"
+#include "quorvane/docmodel/TableDocument.h"
+#include "quorvane/support/SharedText.h"
+#include "quorvane/support/TextOutput.h"
+
+namespace quorvane {
+
+/// One rendering of a document's table: the document, where the text goes, and what most cells have
+/// in common with the one before them.
+class TableRendering {
+public:
+    /// Appends to `rtf`.
+    TableRendering(TableDocument& document_, std::string& rtf) : document(document_), out(rtf) {}
+
+    /// Control words of a paragraph style; see `TableDocument::GetParagraphStyle`.
+    std::string_view paragraphStyle(const SharedText& name);
+
+    /// The text of a cell's borders.
+    std::string_view borderText(const Borders& borders);
+
+    TableDocument& document;
+    TextOutput out;
+
+private:
+    // A document that has rows has been asked for its first style only when this is not empty.
+    std::string_view styleWords_;
+    SharedText styleName_;
+    Borders borders_;
+    std::string borderText_;
+};
+
+}  // namespace quorvane

@@ -1,0 +1,74 @@
+# shellcheck shell=bash
+# shellcheck disable=SC2034  # those who source it use what it sets
+# What the scripts of this folder share. They source it; it changes to the project's folder.
+
+set -euo pipefail
+
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+asRoot() {
+    if [ "$(id -u)" -eq 0 ]; then
+        "$@"
+    else
+        sudo -n "$@"
+    fi
+}
+
+# isPresent THING: true for a command that can be called, or a header that the compiler finds.
+isPresent() {
+    case "$1" in
+        *.h | *.hpp)
+            printf '#if !__has_include(<%s>)\n#error\n#endif\n' "$1" |
+                c++ -x c++ -fsyntax-only - 2>/dev/null
+            ;;
+        *) command -v "$1" >/dev/null ;;
+    esac
+}
+
+# installMissing THING=PACKAGE...: installs the packages of those things that are not present.
+installMissing() {
+    local pair packages=()
+    for pair in "$@"; do
+        isPresent "${pair%%=*}" || packages+=("${pair#*=}")
+    done
+    if [ "${#packages[@]}" -eq 0 ]; then
+        return
+    fi
+    echo "Installing ${packages[*]}"
+    if ! command -v apt-get >/dev/null; then
+        echo "There is no apt-get here: install ${packages[*]} and start again." >&2
+        return 1
+    fi
+    # Lists that are too old are often good enough: the installation itself decides.
+    asRoot env DEBIAN_FRONTEND=noninteractive apt-get update </dev/null || true
+    asRoot env DEBIAN_FRONTEND=noninteractive apt-get install --yes --no-install-recommends \
+        -o DPkg::Lock::Timeout=300 "${packages[@]}" </dev/null
+}
+
+buildTools=("c++=g++" "cmake=cmake")
+if ! command -v make >/dev/null; then
+    buildTools+=("ninja=ninja-build")
+fi
+commandHeaders=("CLI/CLI.hpp=libcli11-dev" "nlohmann/json.hpp=nlohmann-json3-dev")
+testTools=("ninja=ninja-build" "pkg-config=pkg-config"
+    "gtest/gtest.h=libgtest-dev" "gmock/gmock.h=libgmock-dev")
+
+# build PRESET: configures and builds a preset of CMakePresets.json in build/PRESET.
+build() {
+    local options=()
+    # A folder that was configured before keeps its generator.
+    if [ ! -e "build/$1/CMakeCache.txt" ] && command -v ninja >/dev/null; then
+        options+=(-G Ninja)
+    fi
+    if command -v ccache >/dev/null; then
+        options+=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+    fi
+    # Chained, since a caller may ask whether it succeeds and so turn "set -e" off.
+    cmake --preset "$1" "${options[@]}" &&
+        cmake --build --preset "$1" --parallel "$(nproc)"
+}
+
+# runTests PRESET: runs the tests of a preset that was built.
+runTests() {
+    ctest --preset "$1" --parallel "$(nproc)"
+}

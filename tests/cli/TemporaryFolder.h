@@ -1,0 +1,68 @@
+#pragma once
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <set>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace quorvane::cli {
+
+/// A folder that is there as long as the object lives, with everything in it.
+class TemporaryFolder {
+public:
+    TemporaryFolder() {
+        std::string pattern = (std::filesystem::temp_directory_path() / "quorvane-XXXXXX").string();
+        if (!::mkdtemp(pattern.data())) {
+            throw std::runtime_error("cannot make the folder " + pattern);
+        }
+        path_ = pattern;
+    }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+    ~TemporaryFolder() {
+        std::error_code failure;
+        std::filesystem::remove_all(path_, failure);
+    }
+
+    const std::filesystem::path& path() const { return path_; }
+
+    /// Path of a file of the folder.
+    std::string operator/(std::string_view name) const { return (path_ / name).string(); }
+
+    /// Writes a file of the folder and answers its path.
+    std::string write(std::string_view name, std::string_view bytes) const {
+        std::ofstream(path_ / name, std::ios::binary) << bytes;
+        return *this / name;
+    }
+
+    /// All bytes of a file of the folder.
+    std::string read(std::string_view name) const {
+        std::ifstream file(path_ / name, std::ios::binary);
+        if (!file) {
+            throw std::runtime_error("cannot read " + *this / name);
+        }
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+
+    bool has(std::string_view name) const {
+        return std::filesystem::exists(std::filesystem::symlink_status(path_ / name));
+    }
+
+    /// Names of all that is in the folder, hidden files too.
+    std::set<std::string> names() const {
+        std::set<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(path_)) {
+            names.insert(entry.path().filename().string());
+        }
+        return names;
+    }
+
+private:
+    std::filesystem::path path_;
+};
+
+}  // namespace quorvane::cli

@@ -1,0 +1,120 @@
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "quorvane/driver/CRtfDriver.h"
+#include "quorvane/support/RtfError.h"
+#include "quorvane/support/currentError.h"
+#include "tests/support/FakePlatform.h"
+
+namespace quorvane {
+
+/// What can be told of an error.
+struct ToldError {
+    std::int32_t number = 0;
+    std::string description;
+    std::string source;
+    int line = 0;
+
+    bool operator==(const ToldError&) const = default;
+};
+
+inline std::ostream& operator<<(std::ostream& out, const ToldError& error) {
+    return out << error.number << " \"" << error.description << "\" from \"" << error.source
+               << "\" in line " << error.line;
+}
+
+inline ToldError told(const RtfError& error) {
+    return {error.number, error.description, error.source, error.line};
+}
+
+/// An error of the driver.
+inline ToldError driverErrorOf(tErrorLevel level, std::string description, std::string source = {},
+                               int line = 0) {
+    return {-2147221504 + level, std::move(description), std::move(source), line};
+}
+
+inline ToldError objectNotSet() {
+    return {91, "Object variable or With block variable not set", "", 0};
+}
+
+inline ToldError duplicateKey(int line) {
+    return {457, "This key is already associated with an element of this collection", "", line};
+}
+
+inline ToldError typeMismatch(int line) {
+    return {13, "Type mismatch", "", line};
+}
+
+inline ToldError overflow(int line) {
+    return {6, "Overflow", "", line};
+}
+
+/// The error that a call raises; an empty one when it raises none.
+template <class Call>
+ToldError errorOf(Call&& call) {
+    try {
+        call();
+    } catch (const RtfError& error) {
+        return told(error);
+    }
+    return {};
+}
+
+/// A text of several lines, written with "|" between them.
+inline std::string lines(std::string text) {
+    std::replace(text.begin(), text.end(), '|', '\n');
+    return text;
+}
+
+/// Descriptions of one row, one cell and one paragraph; the given lines stand in lines 2, 3, 4, 5.
+inline std::string docWith(const std::string& leaves) {
+    return lines("(doc|" + leaves + "|(r|(c|(p|(pt=x)|p)|c)|r)|doc)");
+}
+inline std::string rowWith(const std::string& leaves) {
+    return lines("(doc|(r|" + leaves + "|(c|(p|(pt=x)|p)|c)|r)|doc)");
+}
+inline std::string cellWith(const std::string& leaves) {
+    return lines("(doc|(r|(c|" + leaves + "|(p|(pt=x)|p)|c)|r)|doc)");
+}
+inline std::string paraWith(const std::string& leaves) {
+    return lines("(doc|(r|(c|(p|" + leaves + "|p)|c)|r)|doc)");
+}
+
+enum class Checks { Off, On };
+
+/// A driver that has analysed a description, and what it reported.
+class ParsedDescription {
+public:
+    explicit ParsedDescription(std::string_view text, Checks checks = Checks::Off) {
+        driver->setErroneousInput(checks == Checks::On);
+        driver->setNotifyErrorHandler(
+            [this](CRtfDriver&) { errors.push_back(told(*currentError())); });
+        driver->ParseFromMemmory(text);
+    }
+    ParsedDescription(const ParsedDescription&) = delete;
+    ParsedDescription& operator=(const ParsedDescription&) = delete;
+    ~ParsedDescription() { driver->setNotifyErrorHandler({}); }
+
+    Ref<CRtfTableRows> rows() const { return driver->RtfObject()->TableRows(); }
+    Ref<CRtfTableRow> row(const Value& index = 1) const { return rows()->Item(index); }
+    Ref<CRtfTableCell> cell(const Value& index = 1, const Value& inRow = 1) const {
+        return row(inRow)->TableCells()->Item(index);
+    }
+    Ref<CRtfParagraph> para(const Value& index = 1, const Value& inCell = 1,
+                            const Value& inRow = 1) const {
+        return cell(inCell, inRow)->Paragraphs()->Item(index);
+    }
+
+    FakePlatform platform;
+    Ref<CRtfDriver> driver = CRtfDriver::create(platform);
+    std::vector<ToldError> errors;
+};
+
+}  // namespace quorvane

@@ -1,0 +1,295 @@
+#include "quorvane/driver/Vocabulary.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace quorvane {
+namespace {
+
+using testing::ElementsAre;
+
+const Vocabulary vocabulary;
+
+using Pairs = std::vector<std::pair<std::string, std::string>>;
+using Words = std::vector<std::string>;
+
+const Pairs shortForms = {
+    {"r", "row"},
+    {"c", "cell"},
+    {"p", "para"},
+    {"rb", "row-backcolor"},
+    {"rtb", "row-top-border"},
+    {"rbb", "row-bottom-border"},
+    {"rlb", "row-left-border"},
+    {"rrb", "row-right-border"},
+    {"cb", "cell-backcolor"},
+    {"ctb", "cell-top-border"},
+    {"cbb", "cell-bottom-border"},
+    {"clb", "cell-left-border"},
+    {"crb", "cell-right-border"},
+    {"cw", "cell-width"},
+    {"ca", "cell-alignment"},
+    {"cs", "cell-style"},
+    {"pt", "para-text"},
+    {"ps", "para-style"},
+    {"pa", "para-alignment"},
+    {"pmf", "para-marked-field"},
+    {"cmf", "cell-marked-field"},
+};
+
+const Words docKeys = {"paper-height", "paper-width",   "page-number-start", "left-margin",
+                       "right-margin", "bottom-margin", "top-margin"};
+const Words rowKeys = {"row-backcolor",   "row-top-border",   "row-bottom-border",
+                       "row-left-border", "row-right-border", "row-key"};
+const Words cellKeys = {"cell-alignment",     "cell-backcolor",   "cell-top-border",
+                        "cell-bottom-border", "cell-left-border", "cell-right-border",
+                        "cell-key",           "cell-width",       "cell-style",
+                        "cell-marked-field"};
+const Words paraKeys = {"para-text", "para-style", "para-key", "para-alignment",
+                        "para-marked-field"};
+
+Words allKeys() {
+    Words all;
+    for (const Words& keys : {docKeys, rowKeys, cellKeys, paraKeys}) {
+        all.insert(all.end(), keys.begin(), keys.end());
+    }
+    return all;
+}
+
+template <class Predicate>
+Words selected(Predicate predicate) {
+    Words words = allKeys();
+    std::erase_if(words, [&](const std::string& word) { return !predicate(word); });
+    return words;
+}
+
+TEST(Vocabulary, ExpandsEveryShortForm) {
+    for (const auto& [shortForm, longForm] : shortForms) {
+        EXPECT_EQ(vocabulary.expand(shortForm), longForm);
+    }
+}
+
+TEST(Vocabulary, LeavesLongFormsAsTheyAre) {
+    for (const auto& [shortForm, longForm] : shortForms) {
+        EXPECT_EQ(vocabulary.expand(longForm), longForm);
+    }
+}
+
+TEST(Vocabulary, LeavesKeysWithoutAShortFormAsTheyAre) {
+    for (const char* key :
+         {"paper-height", "paper-width", "page-number-start", "left-margin", "right-margin",
+          "bottom-margin", "top-margin", "row-key", "cell-key", "para-key"}) {
+        EXPECT_EQ(vocabulary.expand(key), key);
+    }
+}
+
+TEST(Vocabulary, HasNoOtherShortFormOfUpToThreeLetters) {
+    Words expanded;
+    std::vector<std::string> words{""};
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        const std::string word = words[i];
+        if (vocabulary.expand(word) != word) {
+            expanded.push_back(word);
+        }
+        for (char letter = 'a'; word.size() < 3 && letter <= 'z'; ++letter) {
+            words.push_back(word + letter);
+        }
+    }
+    Words expected;
+    for (const auto& [shortForm, longForm] : shortForms) {
+        expected.push_back(shortForm);
+    }
+    EXPECT_THAT(expanded, testing::UnorderedElementsAreArray(expected));
+}
+
+TEST(Vocabulary, ExpandsToTheLetterOnly) {
+    for (const char* word : {"R", "Pt", "PT", " pt", "pt ", "", "ptx", "d", "doc"}) {
+        EXPECT_EQ(vocabulary.expand(word), word);
+    }
+}
+
+TEST(Vocabulary, KnowsTheNamesOfNodesInBothForms) {
+    EXPECT_EQ(vocabulary.nodeKind("doc"), NodeKind::Doc);
+    EXPECT_EQ(vocabulary.nodeKind("row"), NodeKind::Row);
+    EXPECT_EQ(vocabulary.nodeKind("r"), NodeKind::Row);
+    EXPECT_EQ(vocabulary.nodeKind("cell"), NodeKind::Cell);
+    EXPECT_EQ(vocabulary.nodeKind("c"), NodeKind::Cell);
+    EXPECT_EQ(vocabulary.nodeKind("para"), NodeKind::Para);
+    EXPECT_EQ(vocabulary.nodeKind("p"), NodeKind::Para);
+}
+
+TEST(Vocabulary, KnowsTheNamesOfNodesInAnyCase) {
+    EXPECT_EQ(vocabulary.nodeKind("DOC"), NodeKind::Doc);
+    EXPECT_EQ(vocabulary.nodeKind("Row"), NodeKind::Row);
+    EXPECT_EQ(vocabulary.nodeKind("R"), NodeKind::Row);
+    EXPECT_EQ(vocabulary.nodeKind("cElL"), NodeKind::Cell);
+    EXPECT_EQ(vocabulary.nodeKind("C"), NodeKind::Cell);
+    EXPECT_EQ(vocabulary.nodeKind("PARA"), NodeKind::Para);
+    EXPECT_EQ(vocabulary.nodeKind("P"), NodeKind::Para);
+}
+
+TEST(Vocabulary, KnowsNoOtherNameOfANode) {
+    for (const char* name : {"", "d", "rb", "rows", " r", "r ", "row-backcolor", "pt", "paras"}) {
+        EXPECT_EQ(vocabulary.nodeKind(name), NodeKind::None) << name;
+    }
+}
+
+TEST(Vocabulary, NumbersTheKindsOfNodes) {
+    EXPECT_EQ(static_cast<int>(NodeKind::Row), 0);
+    EXPECT_EQ(static_cast<int>(NodeKind::Cell), 1);
+    EXPECT_EQ(static_cast<int>(NodeKind::Para), 2);
+    EXPECT_EQ(static_cast<int>(NodeKind::Doc), 3);
+    EXPECT_EQ(static_cast<int>(NodeKind::None), 4);
+}
+
+TEST(Vocabulary, KnowsTheKeysOfEachNodeAndNoOthers) {
+    const auto keysOf = [](NodeKind kind) {
+        return selected([kind](const std::string& key) { return vocabulary.isKeyOf(kind, key); });
+    };
+    EXPECT_EQ(keysOf(NodeKind::Doc), docKeys);
+    EXPECT_EQ(keysOf(NodeKind::Row), rowKeys);
+    EXPECT_EQ(keysOf(NodeKind::Cell), cellKeys);
+    EXPECT_EQ(keysOf(NodeKind::Para), paraKeys);
+}
+
+TEST(Vocabulary, KnowsKeysToTheLetterAndInTheLongFormOnly) {
+    EXPECT_FALSE(vocabulary.isKeyOf(NodeKind::Para, "Para-Text"));
+    EXPECT_FALSE(vocabulary.isKeyOf(NodeKind::Para, "pt"));
+    EXPECT_FALSE(vocabulary.isKeyOf(NodeKind::Para, ""));
+    EXPECT_FALSE(vocabulary.isKeyOf(NodeKind::Para, 0));
+}
+
+TEST(Vocabulary, KnowsTheColourKeys) {
+    EXPECT_THAT(selected([](const std::string& key) { return vocabulary.isColorKey(key); }),
+                ElementsAre("row-backcolor", "cell-backcolor"));
+}
+
+TEST(Vocabulary, KnowsTheBorderKeys) {
+    EXPECT_THAT(selected([](const std::string& key) { return vocabulary.isBorderKey(key); }),
+                ElementsAre("row-top-border", "row-bottom-border", "row-left-border",
+                            "row-right-border", "cell-top-border", "cell-bottom-border",
+                            "cell-left-border", "cell-right-border"));
+}
+
+TEST(Vocabulary, TakesNumbersOnlyForMeasuresAndKeys) {
+    EXPECT_THAT(selected([](const std::string& key) { return !vocabulary.isTextOrNumberKey(key); }),
+                ElementsAre("paper-height", "paper-width", "page-number-start", "left-margin",
+                            "right-margin", "bottom-margin", "top-margin", "row-key", "cell-key",
+                            "cell-width", "para-key"));
+}
+
+TEST(Vocabulary, TakesNumbersOnlyForKeysThatItDoesNotKnow) {
+    EXPECT_FALSE(vocabulary.isTextOrNumberKey("colour"));
+    EXPECT_FALSE(vocabulary.isTextOrNumberKey("Para-Text"));
+}
+
+const std::vector<std::pair<std::string, int>> colors = {
+    {"black", 3},          {"blue", 4},
+    {"cyan", 7},           {"green", 18},
+    {"magenta", 23},       {"red", 30},
+    {"yellow", 37},        {"white", 36},
+    {"navy-blue", 24},     {"dark-cyan", 8},
+    {"dark-green", 10},    {"dark-magenta", 11},
+    {"dark-red", 12},      {"dark-yellow", 14},
+    {"deep-sky-blue", 15}, {"gray", 17},
+    {"silver", 32},        {"dark-gray", 9},
+    {"brown", 5},          {"olive-green", 25},
+    {"slate-blue", 34},    {"dark-slate-blue", 13},
+    {"orange", 26},        {"lime-green", 22},
+    {"sea-green", 31},     {"aquamarine", 1},
+    {"light-blue", 19},    {"purple", 29},
+    {"gold", 16},          {"chartreuse", 6},
+    {"turquoise", 35},     {"sky-blue", 33},
+    {"peach-puff", 27},    {"bisque", 2},
+    {"pink", 28},          {"light-yellow", 21},
+    {"light-green", 20},   {"none", 0},
+};
+
+TEST(Vocabulary, KnowsTheNamesOfTheColours) {
+    for (const auto& [name, value] : colors) {
+        EXPECT_EQ(vocabulary.colorNamed(name), static_cast<tColorIndex>(value)) << name;
+    }
+}
+
+TEST(Vocabulary, NamesTheColoursUpTo37OnceEach) {
+    std::vector<int> values;
+    for (const auto& [name, value] : colors) {
+        values.push_back(value);
+    }
+    std::sort(values.begin(), values.end());
+    std::vector<int> all(38);
+    std::generate(all.begin(), all.end(), [next = 0]() mutable { return next++; });
+    EXPECT_EQ(values, all);
+}
+
+TEST(Vocabulary, KnowsTheNamesOfColoursInAnyCase) {
+    EXPECT_EQ(vocabulary.colorNamed("Light-Yellow"), eLightYellow);
+    EXPECT_EQ(vocabulary.colorNamed("NONE"), eNoColor);
+}
+
+TEST(Vocabulary, HasNoNamesForTheColoursFrom38) {
+    for (const char* name : {"brick",           "cork",        "yellow-cork",    "dark-cork",
+                             "dark-silver",     "gray-blue",   "dark-navy-blue", "light-royal-blue",
+                             "violet",          "dodger-blue", "sargasso-green", "royal-blue",
+                             "light-sea-green", "deep-purple", "steel-blue",     "asphalt",
+                             "dark-golden-rod", "dark-grass",  "grass",          "red-brick"}) {
+        EXPECT_EQ(vocabulary.colorNamed(name), std::nullopt) << name;
+    }
+}
+
+TEST(Vocabulary, RefusesOtherWordsAndNumbersForColours) {
+    for (const Value& value :
+         {Value("crimson"), Value(""), Value("light yellow"), Value("lightyellow"), Value(" red"),
+          Value("30"), Value(30), Value(30.0), Value(true), Value(Empty{})}) {
+        EXPECT_EQ(vocabulary.colorNamed(value), std::nullopt);
+    }
+}
+
+TEST(Vocabulary, KnowsTheNamesOfTheBorders) {
+    EXPECT_EQ(vocabulary.borderNamed("none"), eNone);
+    EXPECT_EQ(vocabulary.borderNamed("hair"), eHair);
+    EXPECT_EQ(vocabulary.borderNamed("thin"), eThin);
+    EXPECT_EQ(vocabulary.borderNamed("normal"), eNormal);
+    EXPECT_EQ(vocabulary.borderNamed("thick"), eThick);
+    EXPECT_EQ((std::vector<int>{eNone, eHair, eThin, eNormal, eThick}),
+              (std::vector<int>{-1, 5, 10, 20, 30}));
+}
+
+TEST(Vocabulary, KnowsTheNamesOfBordersInAnyCase) {
+    EXPECT_EQ(vocabulary.borderNamed("Thick"), eThick);
+    EXPECT_EQ(vocabulary.borderNamed("NONE"), eNone);
+}
+
+TEST(Vocabulary, RefusesOtherWordsAndNumbersForBorders) {
+    for (const Value& value : {Value("medium"), Value(""), Value("10"), Value(10), Value(-1.0)}) {
+        EXPECT_EQ(vocabulary.borderNamed(value), std::nullopt);
+    }
+}
+
+TEST(Vocabulary, KnowsTheNamesOfTheAlignments) {
+    EXPECT_EQ(vocabulary.alignmentNamed("left"), eLeft);
+    EXPECT_EQ(vocabulary.alignmentNamed("right"), eRight);
+    EXPECT_EQ(vocabulary.alignmentNamed("centered"), eCentered);
+    EXPECT_EQ(vocabulary.alignmentNamed("justified"), eJustified);
+    EXPECT_EQ(vocabulary.alignmentNamed("none"), eNoDefault);
+    EXPECT_EQ((std::vector<int>{eLeft, eRight, eCentered, eJustified, eNoDefault}),
+              (std::vector<int>{2, 3, 1, 4, 0}));
+}
+
+TEST(Vocabulary, KnowsTheNamesOfAlignmentsInAnyCase) {
+    EXPECT_EQ(vocabulary.alignmentNamed("Centered"), eCentered);
+    EXPECT_EQ(vocabulary.alignmentNamed("RIGHT"), eRight);
+}
+
+TEST(Vocabulary, RefusesOtherWordsAndNumbersForAlignments) {
+    for (const Value& value : {Value("center"), Value(""), Value("3"), Value(3), Value(0.0)}) {
+        EXPECT_EQ(vocabulary.alignmentNamed(value), std::nullopt);
+    }
+}
+
+}  // namespace
+}  // namespace quorvane

@@ -1,0 +1,17 @@
+#include "quorvane/rtfgroups/CRtfGrpHeader.h"
+
+#include <gtest/gtest.h>
+
+namespace quorvane {
+namespace {
+
+TEST(CRtfGrpHeader, OpensTheDocumentWithoutBracesOrLineBreaks) {
+    std::string rtf = "{";
+
+    CRtfGrpHeader().render(rtf);
+
+    EXPECT_EQ(rtf, R"({\rtf1\ansicpg1252\uc0\deff0)");
+}
+
+}  // namespace
+}  // namespace quorvane
