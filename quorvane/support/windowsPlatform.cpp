@@ -13,6 +13,7 @@
 #include "quorvane/support/Platform.h"
 #include "quorvane/support/RtfError.h"
 #include "quorvane/support/utf16.h"
+#include "quorvane/support/windowsErrorToRunTimeError.h"
 
 namespace quorvane {
 
@@ -29,39 +30,8 @@ std::string narrow(std::wstring_view text) {
     return utf8FromUtf16(text);
 }
 
-RunTimeError runTimeError(DWORD code) {
-    switch (code) {
-        case ERROR_FILE_NOT_FOUND:
-        case ERROR_INVALID_NAME:
-            return RunTimeError::FileNotFound;
-        case ERROR_PATH_NOT_FOUND:
-        case ERROR_INVALID_DRIVE:
-        case ERROR_BAD_PATHNAME:
-        case ERROR_DIRECTORY:
-        case ERROR_FILENAME_EXCED_RANGE:
-        case ERROR_BAD_NETPATH:
-        case ERROR_BAD_NET_NAME:
-            return RunTimeError::PathNotFound;
-        case ERROR_ACCESS_DENIED:
-        case ERROR_SHARING_VIOLATION:
-        case ERROR_LOCK_VIOLATION:
-        case ERROR_WRITE_PROTECT:
-        case ERROR_NETWORK_ACCESS_DENIED:
-        case ERROR_USER_MAPPED_FILE:
-        case ERROR_DELETE_PENDING:
-            return RunTimeError::PathFileAccessError;
-        case ERROR_TOO_MANY_OPEN_FILES:
-            return RunTimeError::TooManyFiles;
-        case ERROR_DISK_FULL:
-        case ERROR_HANDLE_DISK_FULL:
-            return RunTimeError::DiskFull;
-        default:
-            return RunTimeError::DeviceIoError;
-    }
-}
-
 [[noreturn]] void raiseLastError() {
-    raise(runTimeError(GetLastError()));
+    raise(windowsErrorToRunTimeError(GetLastError()));
 }
 
 /// The system would read such a path only up to the NUL, and so find another file than the one that
@@ -385,7 +355,7 @@ public:
         FileHandle file(CreateFileW(widePath(path).c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
                                     OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
         if (!file.isOpen()) {
-            const RunTimeError error = runTimeError(GetLastError());
+            const RunTimeError error = windowsErrorToRunTimeError(GetLastError());
             // The file itself would have been made: what is missing is its folder.
             raise(error == RunTimeError::FileNotFound ? RunTimeError::PathNotFound : error);
         }
