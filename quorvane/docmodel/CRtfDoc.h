@@ -100,7 +100,8 @@ public:
     void LoadStyleSheetFromMemmory(std::string_view sStyleSheet);
 
     /// Makes the document's text anew. Rendering gives cells the colours of their styles and
-    /// paragraphs the alignment of their cells for good.
+    /// paragraphs the alignment of their cells for good. Error 6 when character styles whose words
+    /// hold tokens of inline styles would make the text endless.
     void Refresh();
 
     /// The ground colour that the named cell style declares; `eNoColor` when there is none.

@@ -2,13 +2,14 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string_view>
 #include <unordered_map>
 #include <utility>
 
 #include "quorvane/docmodel/TableDocument.h"
-#include "quorvane/support/recordStrings.h"
+#include "quorvane/support/RtfError.h"
 #include "quorvane/support/trimming.h"
 #include "quorvane/support/utf16Units.h"
 #include "quorvane/support/utf8.h"
@@ -65,6 +66,10 @@ public:
         return std::move(done_);
     }
 
+    /// False when a group was put in whose characters are not each one place: bytes are in ASCII
+    /// only.
+    bool placesAreRight() const noexcept { return placesAreRight_; }
+
 private:
     struct Span {
         std::size_t start;
@@ -108,7 +113,7 @@ private:
             const bool leavesStep = tokenEnd == nowhere || from > tokenClose;
             const bool isReplaced = !leavesStep && isToken(inner);
             if (isReplaced) {
-                appendToken(document_, inner, done_);
+                appendGroup(inner, done_);
             }
             const auto group = done_.begin() + static_cast<std::ptrdiff_t>(open);
             if (leavesStep || std::any_of(group, done_.end(), isBracket)) {
@@ -164,7 +169,15 @@ private:
 
     /// The walk as it is defined, on a body of any form.
     void walkOver(std::size_t open, std::size_t close) {
+        // A style whose words hold tokens can make a walk that never ends.
+        constexpr std::int64_t largestGrowth = 1000;
+        const std::int64_t longest = (std::ssize(body_) + largestGrowth) * largestGrowth;
+        std::int64_t stepsLeft = std::count(done_.begin(), done_.end(), opening) + 1;
+        stepsLeft *= largestGrowth;
         while (open != nowhere) {
+            if (--stepsLeft < 0 || std::ssize(done_) > longest) {
+                raise(RunTimeError::Overflow);
+            }
             close = done_.find(closing, close + 1);
             if (close == nowhere || close <= open) {
                 return;
@@ -172,11 +185,19 @@ private:
             const View inner = View(done_).substr(open + 1, close - open - 1);
             if (isToken(inner)) {
                 Text replacement;
-                appendToken(document_, inner, replacement);
+                appendGroup(inner, replacement);
                 const Text token(View(done_).substr(open, close - open + 1));
                 replaceEverywhere(token, replacement);
             }
             open = done_.find(opening, open + 1);
+        }
+    }
+
+    void appendGroup(View inner, Text& text) {
+        [[maybe_unused]] const std::size_t start = text.size();
+        appendToken(document_, inner, text);
+        if constexpr (sizeof(Character) == 1) {
+            placesAreRight_ = placesAreRight_ && asciiRunEnd(text, start) == text.size();
         }
     }
 
@@ -198,13 +219,18 @@ private:
     Text done_;
     // Where in `done_` the group stands that a token was replaced by first.
     std::unordered_map<View, Span> replaced_;
+    bool placesAreRight_ = true;
 };
 
 }  // namespace
 
 std::string withCharacterStyles(const TableDocument& document, std::string_view text) {
     if (asciiRunEnd(text, 0) == text.size()) {
-        return InlineStyles<char>(document, text).apply();
+        InlineStyles<char> styles(document, text);
+        std::string styled = styles.apply();
+        if (styles.placesAreRight()) {
+            return styled;
+        }
     }
     const std::u32string units = utf16Units(text);
     return textOfUtf16Units(InlineStyles<char32_t>(document, units).apply());

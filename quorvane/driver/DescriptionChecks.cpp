@@ -1,5 +1,6 @@
 #include "quorvane/driver/DescriptionChecks.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -28,11 +29,14 @@ void requireChildren(const DescriptionNode& node, const char* message, const cha
 
 void DescriptionChecks::requireKnownKeys(const DescriptionNode& node, NodeKind kind,
                                          const char* source) const {
-    for (const Value& key : sorted(node.leafKeys())) {
-        if (!vocabulary_.isKeyOf(kind, key)) {
-            raise(driverError(eWrongKeyword, key.text() + " isn't a valid keyword.", source,
-                              node.leaf(key).line));
-        }
+    std::vector<Value> unknown = node.leafKeys();
+    std::erase_if(unknown, [&](const Value& key) { return vocabulary_.isKeyOf(kind, key); });
+    const auto first =
+        std::min_element(unknown.begin(), unknown.end(),
+                         [](const Value& a, const Value& b) { return a.text() < b.text(); });
+    if (first != unknown.end()) {
+        raise(driverError(eWrongKeyword, first->text() + " isn't a valid keyword.", source,
+                          node.leaf(*first).line));
     }
 }
 

@@ -35,17 +35,6 @@ std::vector<Child> childrenOf(const DescriptionNode& node, NodeKind kind) {
     return children;
 }
 
-// Calls `apply` for each leaf in ascending order of the keys.
-template <class Apply>
-void forEachLeaf(const DescriptionNode& node, Apply apply) {
-    std::vector<Value> keys = node.leafKeys();
-    SortVariant(keys);
-    for (const Value& key : keys) {
-        const Leaf& leaf = node.leaf(key);
-        atLine(leaf.line, [&] { apply(key.text(), leaf); });
-    }
-}
-
 std::int32_t number(const Leaf& leaf) {
     if (!leaf.value.isNumber()) {
         raise(RunTimeError::TypeMismatch);
@@ -84,9 +73,21 @@ Enumeration namedOrNumbered(const Leaf& leaf, std::optional<Enumeration> named,
 
 }  // namespace
 
+template <class Apply>
+void DocumentBuilder::forEachLeaf(const DescriptionNode& node, NodeKind kind, Apply apply) const {
+    std::vector<Value> keys = node.leafKeys();
+    std::erase_if(keys, [&](const Value& key) { return !vocabulary_.isKeyOf(kind, key); });
+    SortVariant(keys);
+    for (const Value& key : keys) {
+        const Leaf& leaf = node.leaf(key);
+        atLine(leaf.line, [&] { apply(key.text(), leaf); });
+    }
+}
+
 void DocumentBuilder::build(const DescriptionNode& doc) {
     addStructure(doc);
-    forEachLeaf(doc, [this](const std::string& key, const Leaf& leaf) { applyDocLeaf(key, leaf); });
+    forEachLeaf(doc, NodeKind::Doc,
+                [this](const std::string& key, const Leaf& leaf) { applyDocLeaf(key, leaf); });
     const Ref<CRtfTableRows> rows = document_.TableRows();
     for (const Child& row : childrenOf(doc, NodeKind::Row)) {
         applyRow(rows->Item(row.key), *row.node);
@@ -127,7 +128,7 @@ void DocumentBuilder::applyDocLeaf(const std::string& key, const Leaf& leaf) {
 }
 
 void DocumentBuilder::applyRow(Ref<CRtfTableRow> row, const DescriptionNode& node) {
-    forEachLeaf(node,
+    forEachLeaf(node, NodeKind::Row,
                 [&](const std::string& key, const Leaf& leaf) { applyRowLeaf(row, key, leaf); });
     const Ref<CRtfTableCells> cells = row->TableCells();
     for (const Child& cell : childrenOf(node, NodeKind::Cell)) {
@@ -154,13 +155,13 @@ void DocumentBuilder::applyRowLeaf(Ref<CRtfTableRow>& row, const std::string& ke
 
 void DocumentBuilder::applyCell(const Ref<CRtfTableCells>& cells, Ref<CRtfTableCell> cell,
                                 const DescriptionNode& node) {
-    forEachLeaf(node, [&](const std::string& key, const Leaf& leaf) {
+    forEachLeaf(node, NodeKind::Cell, [&](const std::string& key, const Leaf& leaf) {
         applyCellLeaf(cells, cell, key, leaf);
     });
     const Ref<CRtfParagraphs> paragraphs = cell->Paragraphs();
     for (const Child& para : childrenOf(node, NodeKind::Para)) {
         Ref<CRtfParagraph> paragraph = paragraphs->Item(para.key);
-        forEachLeaf(*para.node, [&](const std::string& key, const Leaf& leaf) {
+        forEachLeaf(*para.node, NodeKind::Para, [&](const std::string& key, const Leaf& leaf) {
             applyParaLeaf(paragraphs, paragraph, key, leaf);
         });
     }

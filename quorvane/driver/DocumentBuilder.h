@@ -24,6 +24,11 @@ public:
     void build(const DescriptionNode& doc);
 
 private:
+    // Calls `apply` for each leaf whose key nodes of that kind have, in ascending order of the
+    // keys.
+    template <class Apply>
+    void forEachLeaf(const DescriptionNode& node, NodeKind kind, Apply apply) const;
+
     void addStructure(const DescriptionNode& doc);
     void applyDocLeaf(const std::string& key, const Leaf& leaf);
     void applyRow(Ref<CRtfTableRow> row, const DescriptionNode& node);

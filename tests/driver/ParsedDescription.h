@@ -87,6 +87,11 @@ inline std::string paraWith(const std::string& leaves) {
     return lines("(doc|(r|(c|(p|" + leaves + "|p)|c)|r)|doc)");
 }
 
+/// A description of one paragraph with that text.
+inline std::string paraWithText(const std::string& text) {
+    return paraWith("(pt=" + text + ")");
+}
+
 enum class Checks { Off, On };
 
 /// A driver that has analysed a description, and what it reported.

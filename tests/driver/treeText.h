@@ -32,7 +32,7 @@ inline std::string treeText(const DescriptionNode& node) {
 /// A description as it was read, up to the end or the first error.
 struct ReadDescription {
     explicit ReadDescription(std::vector<SourceLine> sourceLines) {
-        const Vocabulary vocabulary;
+        static const Vocabulary vocabulary;
         error = errorOf([&] { DescriptionReader(vocabulary).treeWalkerBuild(root, sourceLines); });
         tree = treeText(*root);
     }

@@ -1,0 +1,311 @@
+// The event of the driver, as a host sees it.
+
+#include <gmock/gmock.h>
+
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "tests/driver/ParsedDescription.h"
+
+namespace quorvane {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+const std::string good = paraWithText("good");
+const std::string badColor = rowWith("(rb=crimson)");
+const std::string threeErrors = lines("(doc|(r|(foo=bar)|(rb=crimson)|(c|c)|r)|doc)");
+
+const ToldError badColorError =
+    driverErrorOf(eWrongValue, "crimson isn't a recognized color.", "", 3);
+
+class NotifyError : public testing::Test {
+protected:
+    ~NotifyError() override {
+        if (driver.get()) {
+            driver->setNotifyErrorHandler({});
+        }
+    }
+
+    FakePlatform platform;
+    Ref<CRtfDriver> driver = CRtfDriver::create(platform);
+    int events = 0;
+};
+
+TEST_F(NotifyError, IsRaisedWithTheDriverAsSender) {
+    CRtfDriver* sender = nullptr;
+    driver->setNotifyErrorHandler([&](CRtfDriver& Sender) { sender = &Sender; });
+    driver->ParseFromMemmory(badColor);
+    EXPECT_EQ(sender, driver.get());
+}
+
+TEST_F(NotifyError, ShowsNumberDescriptionSourceAndLineAsTheCurrentError) {
+    std::vector<ToldError> errors;
+    driver->setErroneousInput(true);
+    driver->setNotifyErrorHandler([&](CRtfDriver&) { errors.push_back(told(*currentError())); });
+    driver->ParseFromMemmory(threeErrors);
+    EXPECT_THAT(errors,
+                ElementsAre(ToldError{-2147221498, "foo isn't a valid keyword.",
+                                      "CRtfDriver.rowWalkerSyntax", 3},
+                            ToldError{-2147221496, "Value for foo should be numeric.",
+                                      "CRtfDriver.treeWalkerSemantic", 3},
+                            ToldError{-2147221496, "crimson isn't a recognized color.", "", 4}));
+}
+
+TEST_F(NotifyError, IsNotRaisedWhenNothingIsWrong) {
+    driver->setNotifyErrorHandler([&](CRtfDriver&) { ++events; });
+    driver->ParseFromMemmory(good);
+    EXPECT_EQ(events, 0);
+}
+
+TEST_F(NotifyError, IsSilentWhenItIsSwitchedOff) {
+    driver->setNotifyErrorHandler([&](CRtfDriver&) { ++events; });
+    driver->setNotifyError(false);
+    driver->ParseFromMemmory("");
+    driver->ParseFromMemmory(badColor);
+    EXPECT_EQ(events, 0);
+}
+
+TEST_F(NotifyError, IsSilentWithoutAHandler) {
+    driver->ParseFromMemmory("");
+    driver->setNotifyErrorHandler([&](CRtfDriver&) { ++events; });
+    driver->setNotifyErrorHandler({});
+    driver->ParseFromMemmory("");
+    EXPECT_EQ(events, 0);
+}
+
+TEST_F(NotifyError, BuildsTheSameDocumentWhetherItIsRaisedOrNot) {
+    const ParsedDescription loud(badColor);
+    driver->setNotifyError(false);
+    driver->ParseFromMemmory(badColor);
+    EXPECT_EQ(driver->Contents(), loud.driver->Contents());
+}
+
+TEST_F(NotifyError, CanBeSwitchedOffByItsHandler) {
+    driver->setNotifyErrorHandler([&](CRtfDriver& Sender) {
+        ++events;
+        Sender.setNotifyError(false);
+    });
+    driver->ParseFromMemmory("");
+    EXPECT_EQ(events, 1);
+    EXPECT_FALSE(driver->notifyError());
+}
+
+TEST_F(NotifyError, LetsItsHandlerPutAnotherInItsPlace) {
+    std::vector<std::string> told;
+    driver->setNotifyErrorHandler([&](CRtfDriver& Sender) {
+        Sender.setNotifyErrorHandler(
+            [&](CRtfDriver&) { told.push_back("second " + currentError()->description); });
+        told.push_back("first " + currentError()->description);
+    });
+    driver->ParseFromMemmory(lines("(row|row)"));
+    ASSERT_EQ(told.size(), 4u);
+    EXPECT_EQ(told[0], "first The provided file isn't a correct rtfspec file.");
+    EXPECT_EQ(told[3], "second Object variable or With block variable not set");
+}
+
+TEST_F(NotifyError, LetsItsHandlerSwitchTheChecksOnForTheStepsToCome) {
+    std::vector<ToldError> errors;
+    driver->setNotifyErrorHandler([&](CRtfDriver& Sender) {
+        errors.push_back(told(*currentError()));
+        Sender.setErroneousInput(true);
+    });
+    driver->ParseFromMemmory(lines("(doc|(r|(title=5)|(c|c)|r)"));
+    EXPECT_THAT(errors, ElementsAre(driverErrorOf(eWrongRootNode, "(doc must be the first node.",
+                                                  "CRtfDriver.Analysedata", 6),
+                                    driverErrorOf(eWrongKeyword, "title isn't a valid keyword.",
+                                                  "CRtfDriver.rowWalkerSyntax", 3)));
+}
+
+TEST_F(NotifyError, PassesAnErrorOfItsHandlerToTheCallerAndEndsTheAnalysis) {
+    driver->setNotifyErrorHandler([&](CRtfDriver&) {
+        ++events;
+        raise(RunTimeError::PermissionDenied);
+    });
+    EXPECT_EQ(errorOf([&] { driver->ParseFromMemmory("x (doc"); }).number, 70);
+    EXPECT_EQ(events, 1);
+}
+
+TEST_F(NotifyError, PassesAnyExceptionOfItsHandlerToTheCaller) {
+    driver->setNotifyErrorHandler([](CRtfDriver&) { throw std::runtime_error("handler"); });
+    EXPECT_THROW(driver->ParseFromMemmory(""), std::runtime_error);
+    platform.files["in"] = "";
+    EXPECT_THROW(driver->ParseFile("in"), std::runtime_error);
+}
+
+TEST_F(NotifyError, LeavesADriverGoodAfterItsHandlerThrew) {
+    driver->setErroneousInput(true);
+    driver->setNotifyErrorHandler([](CRtfDriver&) { throw std::runtime_error("handler"); });
+    EXPECT_THROW(driver->ParseFromMemmory(threeErrors), std::runtime_error);
+    EXPECT_EQ(driver->RtfObject()->TableRows()->Count(), 0);
+    driver->ParseFromMemmory(good);
+    EXPECT_EQ(driver->RtfObject()->TableRows()->Count(), 1);
+}
+
+TEST_F(NotifyError, LetsItsHandlerAnalyseAnotherText) {
+    std::vector<ToldError> errors;
+    driver->setNotifyErrorHandler([&](CRtfDriver& Sender) {
+        errors.push_back(told(*currentError()));
+        if (errors.size() == 1) {
+            Sender.ParseFromMemmory(paraWithText("inner"));
+        }
+    });
+    driver->ParseFromMemmory(lines("(doc|(r|(c|(p|(pt=outer)|p)|c)|r)|x|doc)"));
+    // The outer analysis goes on with a document that is not empty any more.
+    ASSERT_EQ(errors.size(), 2u);
+    EXPECT_EQ(errors[0].description, "x has a wrong syntax");
+    EXPECT_EQ(errors[1], duplicateKey(2));
+    EXPECT_EQ(driver->RtfObject()->TableRows()->Count(), 1);
+    EXPECT_EQ(driver->RtfObject()
+                  ->TableRows()
+                  ->Item(1)
+                  ->TableCells()
+                  ->Item(1)
+                  ->Paragraphs()
+                  ->Item(1)
+                  ->Text(),
+              "inner");
+}
+
+TEST_F(NotifyError, LetsItsHandlerUseAnotherDriver) {
+    const Ref<CRtfDriver> other = CRtfDriver::create(platform);
+    std::vector<std::string> descriptions;
+    other->setNotifyErrorHandler(
+        [&](CRtfDriver&) { descriptions.push_back(currentError()->description); });
+    driver->setNotifyErrorHandler([&](CRtfDriver&) {
+        descriptions.push_back(currentError()->description);
+        other->ParseFromMemmory(cellWith("(ca=middle)"));
+    });
+    driver->ParseFromMemmory(badColor);
+    EXPECT_THAT(descriptions, ElementsAre("crimson isn't a recognized color.",
+                                          "middle isn't a recognized alignment."));
+}
+
+TEST_F(NotifyError, LetsItsHandlerLetGoOfTheDriver) {
+    const Ref<CRtfDoc> document = driver->RtfObject();
+    driver->setNotifyErrorHandler([&](CRtfDriver&) {
+        ++events;
+        driver = {};
+    });
+    driver->ParseFromMemmory(lines("(doc|(r|(c|c)|r)|x|doc)"));
+    EXPECT_EQ(events, 1);
+    EXPECT_EQ(driver.get(), nullptr);
+    EXPECT_EQ(document->TableRows()->Count(), 1);
+}
+
+TEST_F(NotifyError, LetsItsHandlerLetGoOfTheDriverWhileItReadsAFile) {
+    platform.files["in"] = lines("(row|row)");
+    driver->setNotifyErrorHandler([&](CRtfDriver&) {
+        ++events;
+        driver = {};
+    });
+    driver->ParseFile("in");
+    EXPECT_EQ(events, 4);
+}
+
+TEST_F(NotifyError, LetsItsHandlerAddToTheDocument) {
+    driver->setNotifyErrorHandler([&](CRtfDriver& Sender) {
+        ++events;
+        Sender.RtfObject()->TableRows()->AddTail("host");
+    });
+    driver->ParseFromMemmory(lines("(doc|(r|(rb=gold)|(c|c)|r)|x|doc)"));
+    EXPECT_EQ(events, 1);
+    EXPECT_EQ(driver->RtfObject()->TableRows()->Count(), 2);
+    EXPECT_EQ(driver->RtfObject()->TableRows()->Item(1).get(),
+              driver->RtfObject()->TableRows()->Item("host").get());
+    EXPECT_EQ(driver->RtfObject()->TableRows()->Item("1001")->BackColor(), eGold);
+}
+
+TEST_F(NotifyError, MeetsARowThatItsHandlerPutInTheWay) {
+    std::vector<ToldError> errors;
+    driver->setNotifyErrorHandler([&](CRtfDriver& Sender) {
+        errors.push_back(told(*currentError()));
+        if (errors.size() == 1) {
+            Sender.RtfObject()->TableRows()->AddTail("1002");
+        }
+    });
+    driver->ParseFromMemmory(lines("(doc|(r|(c|c)|r)|(r|(c|c)|r)|x|doc)"));
+    ASSERT_EQ(errors.size(), 2u);
+    EXPECT_EQ(errors[1], duplicateKey(6));
+    EXPECT_EQ(driver->RtfObject()->TableRows()->Count(), 2);
+}
+
+TEST_F(NotifyError, LetsItsHandlerEmptyTheDocumentThatTheBuildLeft) {
+    driver->setNotifyErrorHandler([&](CRtfDriver& Sender) {
+        ++events;
+        Sender.RtfObject()->ClearStructure();
+    });
+    driver->ParseFromMemmory(badColor);
+    EXPECT_EQ(events, 1);
+    EXPECT_EQ(driver->RtfObject()->TableRows()->Count(), 0);
+}
+
+TEST_F(NotifyError, LetsItsHandlerReadTheDocument) {
+    std::string text;
+    driver->setNotifyErrorHandler([&](CRtfDriver& Sender) { text = Sender.Contents(); });
+    driver->ParseFromMemmory(badColor);
+    EXPECT_EQ(text, driver->Contents());
+}
+
+// A refused marked field is absorbed, and whoever is told of it can do what it likes.
+TEST_F(NotifyError, SurvivesAnObserverThatTakesTheDocumentApartDuringTheBuild) {
+    std::vector<ToldError> errors;
+    driver->setNotifyErrorHandler([&](CRtfDriver&) { errors.push_back(told(*currentError())); });
+    driver->setAbsorbedErrorObserver([&](const AbsorbedError&) {
+        driver->RtfObject()->TableRows()->Item(1)->TableCells()->removeTail();
+    });
+    driver->ParseFromMemmory(lines("(doc|(r|(c|(cmf=1)|(cw=5)|c)|(c|(cb=gold)|c)|r)|doc)"));
+    ASSERT_EQ(errors.size(), 1u);
+    EXPECT_EQ(errors[0].number, 5);
+    EXPECT_EQ(driver->RtfObject()->TableRows()->Item(1)->TableCells()->Count(), 1);
+}
+
+TEST_F(NotifyError, SurvivesAnObserverThatLetsGoOfTheDriverDuringTheBuild) {
+    const Ref<CRtfDoc> document = driver->RtfObject();
+    driver->setAbsorbedErrorObserver([&](const AbsorbedError&) { driver = {}; });
+    driver->ParseFromMemmory(lines("(doc|(r|(c|(cmf=1)|(cw=50)|c)|r)|doc)"));
+    EXPECT_EQ(driver.get(), nullptr);
+    EXPECT_EQ(document->TableRows()->Item(1)->TableCells()->Item(1)->Width(ePercent), 50);
+}
+
+TEST_F(NotifyError, LeavesTheErrorReadableUntilTheNextCall) {
+    driver->setNotifyErrorHandler([&](CRtfDriver&) { ++events; });
+    driver->ParseFromMemmory(badColor);
+    ASSERT_NE(currentError(), nullptr);
+    EXPECT_EQ(told(*currentError()), badColorError);
+}
+
+using Call = std::function<void(CRtfDriver&)>;
+
+TEST_F(NotifyError, IsForgottenByTheNextCallWhateverItIs) {
+    platform.files["in"] = good;
+    platform.files["a.rtfss"] = "{name:normal;style-def:s}";
+    const Call calls[] = {
+        [](CRtfDriver& d) { d.ParseFromMemmory(good); },
+        [](CRtfDriver& d) { d.ParseFile("in"); },
+        [](CRtfDriver& d) { d.LoadStyleSheetFromMemmory("{name:normal;style-def:s}"); },
+        [](CRtfDriver& d) { d.Commit("out"); },
+        [](CRtfDriver& d) { d.Contents(); },
+        [](CRtfDriver& d) { d.setStyleSheetFile("a.rtfss"); },
+        [](CRtfDriver& d) { d.setStyleSheetFile("ignored"); },
+        [](CRtfDriver& d) { d.RtfObject()->TableRows()->AddTail(); },
+    };
+    for (const Call& call : calls) {
+        driver->ParseFromMemmory(badColor);
+        EXPECT_NE(currentError(), nullptr);
+        call(*driver);
+        EXPECT_EQ(currentError(), nullptr);
+    }
+}
+
+TEST_F(NotifyError, ForgetsAnErrorOfACallerWhenAnAnalysisBegins) {
+    EXPECT_THROW(driver->ParseFile(""), RtfError);
+    driver->ParseFromMemmory(good);
+    EXPECT_EQ(currentError(), nullptr);
+}
+
+}  // namespace
+}  // namespace quorvane
