@@ -4,6 +4,7 @@
 
 #include <oleauto.h>
 
+#include <cstddef>
 #include <new>
 #include <string>
 #include <string_view>
@@ -19,7 +20,10 @@ inline std::string textOf(BSTR text) {
 
 /// A library's text as a host's, which the caller must free.
 inline BSTR newBstr(std::string_view text) {
-    BSTR units = SysAllocStringLen(nullptr, static_cast<UINT>(utf16Length(text)));
+    constexpr std::size_t longest = 0x3FFFFFFF;
+    const std::size_t length = utf16Length(text);
+    BSTR units =
+        length <= longest ? SysAllocStringLen(nullptr, static_cast<UINT>(length)) : nullptr;
     if (!units) {
         throw std::bad_alloc();
     }
