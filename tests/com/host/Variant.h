@@ -40,6 +40,7 @@ public:
     Variant(const char* utf8) : Variant(std::string_view(utf8)) {}
     Variant(const std::string& utf8) : Variant(std::string_view(utf8)) {}
     Variant(const wchar_t* text) : Variant(std::wstring_view(text)) {}
+    Variant(const std::wstring& text) : Variant(std::wstring_view(text)) {}
     explicit Variant(IDispatch* object);
     /// A copy of a value that is not owned, or of the one that it refers to.
     explicit Variant(const VARIANT& value) : Variant() { VariantCopyInd(&value_, input(value)); }
@@ -61,6 +62,9 @@ public:
 
     VARTYPE type() const { return value_.vt; }
     const VARIANT& get() const { return value_; }
+    /// The value as a variable that others read and may change.
+    VARIANT* reference() { return &value_; }
+    /// Where a callee puts a value.
     VARIANT* out() {
         VariantClear(&value_);
         return &value_;
