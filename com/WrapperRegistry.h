@@ -3,7 +3,6 @@
 #include <windows.h>
 
 #include <array>
-#include <cstddef>
 #include <cstdint>
 #include <unordered_map>
 
@@ -57,8 +56,8 @@ private:
     static Part& partOf(const Native* object) {
         // Never destroyed: a host may release its last objects when the process is ending.
         static Parts& parts = *new Parts;
-        return parts[reinterpret_cast<std::uintptr_t>(object) / alignof(std::max_align_t) %
-                     parts.size()];
+        constexpr std::uintptr_t usualDistance = 16;
+        return parts[reinterpret_cast<std::uintptr_t>(object) / usualDistance % parts.size()];
     }
 };
 
