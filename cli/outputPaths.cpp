@@ -6,6 +6,7 @@
 
 #include "cli/UsageError.h"
 #include "cli/followLinks.h"
+#include "cli/process.h"
 #include "cli/utf8Path.h"
 
 namespace quorvane::cli {
@@ -43,7 +44,7 @@ fs::path identity(const std::string& name) {
     const fs::path target = followLinks(pathFromUtf8(name));
     std::error_code failure;
     const fs::path whole = fs::weakly_canonical(fs::absolute(target, failure), failure);
-    return failure ? target : whole;
+    return systemSpelling(failure ? target : whole);
 }
 
 /// The files that are read; no document may take the place of one.

@@ -324,4 +324,8 @@ std::unique_ptr<OutputFile> openReplacement(const std::string& path) {
                                              status->st_mode & permissionBits);
 }
 
+std::filesystem::path systemSpelling(const std::filesystem::path& path) {
+    return path;
+}
+
 }  // namespace quorvane::cli

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -32,5 +33,9 @@ std::unique_ptr<OutputFile> openStandardOutput();
 /// writing fails or ends without `close`. A symbolic link is followed; a device or a pipe is
 /// written as it is. Errors as `Platform::createFile`, and 75 for a file that may not be written.
 std::unique_ptr<OutputFile> openReplacement(const std::string& path);
+
+/// One spelling for all in which the system takes the path of a file: in capitals where it does not
+/// tell them from small letters.
+std::filesystem::path systemSpelling(const std::filesystem::path& path);
 
 }  // namespace quorvane::cli

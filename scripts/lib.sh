@@ -53,6 +53,11 @@ commandHeaders=("CLI/CLI.hpp=libcli11-dev" "nlohmann/json.hpp=nlohmann-json3-dev
 testTools=("ninja=ninja-build" "pkg-config=pkg-config"
     "gtest/gtest.h=libgtest-dev" "gmock/gmock.h=libgmock-dev")
 
+windowsTools=("perl=perl-base"
+    "i686-w64-mingw32-g++-posix=g++-mingw-w64-i686-posix"
+    "x86_64-w64-mingw32-g++-posix=g++-mingw-w64-x86-64-posix"
+    "i686-w64-mingw32-widl=mingw-w64-tools")
+
 # build PRESET: configures and builds a preset of CMakePresets.json in build/PRESET.
 build() {
     local options=()

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <windows.h>
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <unordered_map>
+
+#include "com/ComPtr.h"
+#include "com/Lock.h"
+#include "quorvane/support/Ref.h"
+
+namespace quorvane::com {
+
+/// Which COM object stands for which object of the library, so that a host that asks twice gets the
+/// same one. A wrapper keeps its object alive; the registry keeps neither. Its parts are locked
+/// singly, so that apartments do not wait for each other.
+template <class Wrapper>
+class WrapperRegistry {
+public:
+    using Native = typename Wrapper::Native;
+
+    /// The wrapper of an object; it is made when there is none. Null for null.
+    static ComPtr<Wrapper> wrapperOf(Ref<Native> object) {
+        if (!object) {
+            return nullptr;
+        }
+        Part& part = partOf(object.get());
+        const Lock lock(part.lock);
+        Wrapper*& known = part.wrappers[object.get()];
+        if (known && known->addRefUnlessReleased()) {
+            return ComPtr<Wrapper>::adopt(known);
+        }
+        auto made = ComPtr<Wrapper>(new Wrapper(std::move(object)));
+        known = made.get();
+        return made;
+    }
+
+    /// Forgets a wrapper, unless another one has taken its place.
+    static void forget(const Native* object, const Wrapper* wrapper) noexcept {
+        Part& part = partOf(object);
+        const Lock lock(part.lock);
+        const auto found = part.wrappers.find(object);
+        if (found != part.wrappers.end() && found->second == wrapper) {
+            part.wrappers.erase(found);
+        }
+    }
+
+private:
+    struct Part {
+        SRWLOCK lock = SRWLOCK_INIT;
+        std::unordered_map<const Native*, Wrapper*> wrappers;
+    };
+    using Parts = std::array<Part, 31>;
+
+    static Part& partOf(const Native* object) {
+        // Never destroyed: a host may release its last objects when the process is ending.
+        static Parts& parts = *new Parts;
+        return parts[reinterpret_cast<std::uintptr_t>(object) / alignof(std::max_align_t) %
+                     parts.size()];
+    }
+};
+
+}  // namespace quorvane::com

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <windows.h>
+
+#include <oleauto.h>
+
+#include <cstdint>
+#include <new>
+#include <utility>
+
+#include "quorvane/support/RtfError.h"
+
+namespace quorvane::com {
+
+/// What COM calls an error: 0x800A0000 plus the number of a run-time error, any other number
+/// itself.
+HRESULT resultOf(std::int32_t number) noexcept;
+
+/// Leaves the error on the thread as its error object, with source and description, for whoever
+/// asks next. `helpContext` goes with it.
+void setErrorObject(const RtfError& error, REFIID interfaceId, DWORD helpContext = 0) noexcept;
+
+/// Forgets the thread's error object.
+void clearErrorObject() noexcept;
+
+/// Answers a failure that has no error object.
+HRESULT plainFailure(HRESULT result) noexcept;
+
+/// Runs the body of a COM method. What it throws becomes the method's result: an error of the
+/// library with an error object, E_OUTOFMEMORY when memory is short, otherwise E_UNEXPECTED.
+template <class Body>
+HRESULT answering(REFIID interfaceId, Body&& body) noexcept {
+    try {
+        std::forward<Body>(body)();
+        return S_OK;
+    } catch (const RtfError& error) {
+        setErrorObject(error, interfaceId);
+        return resultOf(error.number);
+    } catch (const std::bad_alloc&) {
+        return plainFailure(E_OUTOFMEMORY);
+    } catch (...) {
+        return plainFailure(E_UNEXPECTED);
+    }
+}
+
+}  // namespace quorvane::com

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <windows.h>
+
+#include <oleauto.h>
+
+#include "quorvane/support/Value.h"
+
+namespace quorvane::com {
+
+/// A host's value as the library's. A variable passed by reference counts as its value. 16-bit and
+/// 32-bit integers stay what they are; numbers of all other kinds become doubles; what the library
+/// has no kind for (an array, an error) becomes Null, which is neither a text nor a number.
+Value valueOf(const VARIANT& value);
+
+/// The same for an optional argument, which is null or the value for "missing" when it is not
+/// given.
+Value valueOf(const VARIANT* value);
+
+}  // namespace quorvane::com

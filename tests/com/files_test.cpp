@@ -1,0 +1,181 @@
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+#include "tests/com/host/ComPtr.h"
+#include "tests/com/host/Component.h"
+#include "tests/com/host/LateBound.h"
+#include "tests/com/host/Outcome.h"
+#include "tests/com/host/Process.h"
+#include "tests/com/host/interfaces.h"
+#include "tests/com/host/text.h"
+
+namespace quorvane::host {
+namespace {
+
+class Files : public testing::Test {
+protected:
+    Component component_;
+    LateBound document_{component_.create<IDispatch>(__uuidof(::CRtfDoc))};
+    LateBound driver_{component_.create<IDispatch>(__uuidof(::CRtfDriver))};
+};
+
+/// A file that another program holds open for itself alone.
+class HeldFile {
+public:
+    explicit HeldFile(const std::string& bytes) : path_(temporaryFile(L"held.rtf")) {
+        writeFile(path_, bytes);
+        const std::wstring eventName = L"held-" + std::to_wstring(GetCurrentProcessId());
+        const HANDLE event = CreateEventW(nullptr, TRUE, FALSE, eventName.c_str());
+        holder_ = std::make_unique<Process>(
+            L"\"" + testProgram(L"fileHolder.exe") + L"\" \"" + path_ + L"\" " + eventName,
+            L"C:\\");
+        const DWORD waited = WaitForSingleObject(event, 30000);
+        CloseHandle(event);
+        if (waited != WAIT_OBJECT_0) {
+            throw std::runtime_error("the file is not held");
+        }
+    }
+    ~HeldFile() {
+        letGo();
+        DeleteFileW(path_.c_str());
+    }
+
+    std::string path() const { return utf8Text(path_); }
+    void letGo() { holder_.reset(); }
+    std::string bytes() {
+        letGo();
+        return bytesOfFile(path_);
+    }
+
+private:
+    std::wstring path_;
+    std::unique_ptr<Process> holder_;
+};
+
+std::wstring clipboardText() {
+    std::wstring text;
+    if (OpenClipboard(nullptr)) {
+        if (const HANDLE data = GetClipboardData(CF_UNICODETEXT)) {
+            text = static_cast<const wchar_t*>(GlobalLock(data));
+            GlobalUnlock(data);
+        }
+        CloseClipboard();
+    }
+    return text;
+}
+
+void emptyClipboard() {
+    OpenClipboard(nullptr);
+    EmptyClipboard();
+    CloseClipboard();
+}
+
+TEST_F(Files, WhichAnotherProgramHoldsAreError75AndUntouched) {
+    HeldFile file("as it was");
+    const HostError expected = {
+        runTimeError(75), "",
+        "Error accessing " + file.path() +
+            ". The file seems to be opened with exclusive rights by some other application (maybe "
+            "MS Word) and Quorvane can't modify it.  Use a diferent file name or close it.",
+        0};
+
+    EXPECT_EQ(document_.call("Commit", {file.path()}).error, expected);
+    EXPECT_EQ(driver_.call("Commit", {file.path()}).error, expected);
+    EXPECT_EQ(
+        outcomeOf(
+            ComPtr<IDispatch>(document_.get()).as<_CRtfDoc>()->Commit(Bstr(file.path()).get()))
+            .error,
+        expected);
+
+    EXPECT_EQ(file.bytes(), "as it was");
+    EXPECT_TRUE(document_.call("Commit", {file.path()}).succeeded());
+    EXPECT_EQ(file.bytes(), "{}");
+}
+
+TEST_F(Files, AreReplacedWhole) {
+    const std::wstring file = temporaryFile(L"replaced.rtf");
+    writeFile(file, std::string(1000, 'x'));
+
+    EXPECT_TRUE(document_.call("Commit", {file}).succeeded());
+
+    EXPECT_EQ(bytesOfFile(file), "{}");
+}
+
+TEST_F(Files, HaveNamesInAnyScript) {
+    const std::wstring file =
+        temporaryFile(L"\u00DCbung \u0440\u0443\u0441\u0441\u043A\u0438\u0439.rtf");
+
+    EXPECT_TRUE(document_.call("Commit", {file}).succeeded());
+
+    EXPECT_EQ(bytesOfFile(file), "{}");
+}
+
+TEST_F(Files, ThatCannotBeWrittenAreNoErrorToTheHost) {
+    EXPECT_TRUE(document_.call("Commit", {"C:\\no such folder\\x.rtf"}).succeeded());
+    EXPECT_TRUE(document_.call("Commit", {""}).succeeded());
+}
+
+TEST_F(Files, OfDescriptionsAreReadInWindows1252) {
+    const std::wstring file = temporaryFile(L"description.rtfspec");
+    writeFile(file, "(doc\r\n(r\r\n(c\r\n(p\r\n(pt=\x80 \xC9\x81)\r\np)\r\nc)\r\nr)\r\ndoc)");
+
+    EXPECT_TRUE(driver_.call("ParseFile", {file}).succeeded());
+
+    const LateBound row = driver_.object("RtfObject").object("TableRows").object("Item", {1});
+    const LateBound cell = row.object("TableCells").object("Item", {1});
+    EXPECT_EQ(cell.object("Paragraphs").object("Item", {1}).get("Text").value.wide(),
+              L"\x20AC \xC9\x81");
+}
+
+TEST_F(Files, OfStylesheetsAreReadOnce) {
+    const std::wstring file = temporaryFile(L"styles.rtfss");
+    writeFile(file, "{name: head; style-def: cell; format: navy-blue}");
+
+    EXPECT_TRUE(driver_.set("StyleSheetFile", {file}).succeeded());
+
+    const LateBound document = driver_.object("RtfObject");
+    EXPECT_TRUE(document.get("StyleSheetOk").value.truth());
+    EXPECT_EQ(document.call("getCellStyleBackColor", {"head"}).value.number(), 24);
+}
+
+TEST_F(Files, ThatAreRejectedAreOnTheClipboard) {
+    const std::string rejected = "(row\r\nr\xC3\xA9jet\xC3\xA9\r\nrow)";
+    emptyClipboard();
+
+    EXPECT_TRUE(driver_.call("ParseFromMemmory", {rejected}).succeeded());
+
+    EXPECT_EQ(clipboardText(), wideText(rejected));
+}
+
+TEST_F(Files, ThatAreAcceptedLeaveTheClipboardAlone) {
+    emptyClipboard();
+
+    EXPECT_TRUE(driver_.call("ParseFromMemmory", {"(doc\n(r\n(c\nc)\nr)\ndoc)"}).succeeded());
+
+    EXPECT_EQ(clipboardText(), L"");
+}
+
+TEST(ComponentFile, TellsItsProductAndItsTitle) {
+    const std::wstring file = componentFile();
+    DWORD ignored = 0;
+    std::string information(GetFileVersionInfoSizeW(file.c_str(), &ignored), '\0');
+    void* product = nullptr;
+    UINT length = 0;
+    wchar_t title[32] = L"";
+    const Component component;
+
+    EXPECT_TRUE(GetFileVersionInfoW(file.c_str(), 0, static_cast<DWORD>(information.size()),
+                                    information.data()));
+    ASSERT_TRUE(VerQueryValueW(information.data(), L"\\StringFileInfo\\040904B0\\ProductName",
+                               &product, &length));
+    EXPECT_STREQ(static_cast<wchar_t*>(product), L"Quorvane");
+    EXPECT_GT(LoadStringW(component.module(), 8700, title, 32), 0);
+    EXPECT_STREQ(title, L"Quorvane");
+}
+
+}  // namespace
+}  // namespace quorvane::host
