@@ -12,6 +12,7 @@
 #include "cli/commandLine.h"
 #include "cli/diagnosticJson.h"
 #include "cli/diagnosticText.h"
+#include "cli/oneLine.h"
 #include "cli/process.h"
 #include "cli/progressLine.h"
 
@@ -31,7 +32,7 @@ void tellUsageError(const UsageError& error, DiagnosticsForm form) {
         writeToStandardError(
             lineOf({DiagnosticKind::Raised, {}, RtfError(number, error.what())}, form));
     } else {
-        writeToStandardError("quorvane: " + std::string(error.what()) +
+        writeToStandardError("quorvane: " + oneLine(error.what()) +
                              "\nRun with --help for more information.\n");
     }
 }

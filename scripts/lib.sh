@@ -10,8 +10,17 @@ asRoot() {
     if [ "$(id -u)" -eq 0 ]; then
         "$@"
     else
-        sudo -n "$@"
+        sudo "$@"
     fi
+}
+
+# mayActAsRoot: true for root, and for those whom sudo lets; at a terminal it may ask for a password.
+mayActAsRoot() {
+    if [ "$(id -u)" -eq 0 ]; then
+        return
+    fi
+    command -v sudo >/dev/null || return
+    sudo -n true 2>/dev/null || { [ -t 0 ] && sudo -v; }
 }
 
 # isPresent THING: true for a command that can be called, or a header that the compiler finds.
@@ -27,18 +36,28 @@ isPresent() {
 
 # installMissing THING=PACKAGE...: installs the packages of those things that are not present.
 installMissing() {
-    local pair packages=()
+    local pair package packages=()
     for pair in "$@"; do
-        isPresent "${pair%%=*}" || packages+=("${pair#*=}")
+        package=${pair#*=}
+        if [[ " ${packages[*]} " != *" $package "* ]] && ! isPresent "${pair%%=*}"; then
+            packages+=("$package")
+        fi
     done
     if [ "${#packages[@]}" -eq 0 ]; then
         return
     fi
-    echo "Installing ${packages[*]}"
     if ! command -v apt-get >/dev/null; then
-        echo "There is no apt-get here: install ${packages[*]} and start again." >&2
+        echo "Missing: ${packages[*]} (as Debian names them)." >&2
+        echo "There is no apt-get here: install them your system's way and start again." >&2
         return 1
     fi
+    if ! mayActAsRoot; then
+        echo "Missing: ${packages[*]}" >&2
+        echo "Installing them takes root or sudo. As root, then start again:" >&2
+        echo "  apt-get update && apt-get install ${packages[*]}" >&2
+        return 1
+    fi
+    echo "Installing ${packages[*]}"
     # Lists that are too old are often good enough: the installation itself decides.
     asRoot env DEBIAN_FRONTEND=noninteractive apt-get update </dev/null || true
     asRoot env DEBIAN_FRONTEND=noninteractive apt-get install --yes --no-install-recommends \

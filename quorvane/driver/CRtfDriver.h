@@ -27,7 +27,9 @@ class CRtfDriver {
 public:
     /// The event `notifyError`: called with the driver for every error of an analysis. The error is
     /// the thread's current one (see `currentError`), its `line` the line of the description that
-    /// it concerns. An exception that the handler throws ends the analysis and reaches its caller.
+    /// it concerns. The handler may use the driver and its document in any way: the analysis goes
+    /// on with what it leaves, also when it lets go of the driver or ran an analysis of its own. An
+    /// exception that it throws ends the analysis and reaches its caller.
     using NotifyErrorHandler = std::function<void(CRtfDriver& Sender)>;
 
     /// A new driver with an empty document. The platform must outlive it.
@@ -38,7 +40,7 @@ public:
     void ParseFile(const std::string& sPath);
 
     /// Analyses a description (UTF-8): the document's rows and page are made anew from it, the
-    /// stylesheet stays. Raises nothing.
+    /// stylesheet stays. Raises nothing. The text must stay as it is until the call ends.
     void ParseFromMemmory(std::string_view sBuffer);
 
     /// Reads the styles of a text in place of those loaded before. Errors 445 (bad keyword or

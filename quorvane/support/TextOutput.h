@@ -4,7 +4,6 @@
 #include <charconv>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -27,8 +26,7 @@ public:
                 return *this;
             }
         }
-        std::memcpy(buffer_.data() + used_, piece.data(), piece.size());
-        used_ += piece.size();
+        used_ += piece.copy(buffer_.data() + used_, piece.size());
         return *this;
     }
 

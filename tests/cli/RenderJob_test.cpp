@@ -324,7 +324,9 @@ TEST_F(RenderJobTest, TellsThatADeviceIsFull) {
 
 TEST_F(RenderJobTest, KeepsAFileThatMayNotBeWritten) {
     options.descriptions = {folder.write("a.rtfspec", descriptionOf("Text"))};
-    std::filesystem::permissions(folder.write("a.rtf", "old"), std::filesystem::perms::others_read);
+    std::filesystem::permissions(
+        folder.write("a.rtf", "old"),
+        std::filesystem::perms::owner_read | std::filesystem::perms::others_read);
     std::filesystem::permissions(folder.path(), std::filesystem::perms::all);
     {
         const WithoutPrivileges guard;

@@ -6,98 +6,19 @@
 
 #include "quorvane/support/currentError.h"
 #include "tests/docmodel/documentParts.h"
+#include "tests/docmodel/fixedGroups.h"
 #include "tests/support/FakePlatform.h"
 #include "tests/support/errorNumberOf.h"
 
 namespace quorvane {
 namespace {
 
-constexpr const char* fontsAndColors =
-    "\r\n{\\fonttbl"
-    "\r\n{\\f0\\fswiss\\fcharset0\\fprq2 Arial;}"
-    "\r\n{\\f1\\froman\\fcharset0\\fprq2 Book Antiqua;}"
-    "\r\n{\\f2\\froman\\fcharset0\\fprq2 Bookman Old Style;}"
-    "\r\n{\\f3\\fmodern\\fcharset0\\fprq1 Courier New;}"
-    "\r\n{\\f4\\froman\\fcharset0\\fprq2 Garamond;}"
-    "\r\n{\\f5\\froman\\fcharset0\\fprq2 Georgia;}"
-    "\r\n{\\f6\\fswiss\\fcharset0\\fprq2 Lucida Sans;}"
-    "\r\n{\\f7\\froman\\fcharset2\\fprq2 Symbol;}"
-    "\r\n{\\f8\\fswiss\\fcharset0\\fprq2 Tahoma;}"
-    "\r\n{\\f9\\froman\\fcharset0\\fprq2 Times New Roman;}"
-    "\r\n{\\f10\\fswiss\\fcharset0\\fprq2 Trebuchet MS;}"
-    "\r\n{\\f11\\fswiss\\fcharset0\\fprq2 Verdana;}"
-    "\r\n{\\f12\\froman\\fcharset2\\fprq2 Webdings;}"
-    "\r\n{\\f13\\fdecor\\fcharset2\\fprq2 Wingdings;}"
-    "\r\n{\\f14\\fswiss\\fcharset0\\fprq2 Arial Black;}"
-    "\r\n{\\f15\\fswiss\\fcharset0\\fprq2 Impact;}"
-    "\r\n{\\f16\\fscript\\fcharset0\\fprq2 Comic Sans MS;}"
-    "\r\n{\\f17\\fswiss\\fcharset0\\fprq2 Century Gothic;}}"
-    "\r\n{\\colortbl;"
-    "\r\n\\red127\\green255\\blue212;"
-    "\r\n\\red255\\green228\\blue196;"
-    "\r\n\\red0\\green0\\blue0;"
-    "\r\n\\red0\\green0\\blue255;"
-    "\r\n\\red128\\green64\\blue47;"
-    "\r\n\\red127\\green255\\blue0;"
-    "\r\n\\red0\\green255\\blue255;"
-    "\r\n\\red0\\green128\\blue128;"
-    "\r\n\\red90\\green90\\blue90;"
-    "\r\n\\red0\\green128\\blue0;"
-    "\r\n\\red128\\green0\\blue128;"
-    "\r\n\\red128\\green0\\blue0;"
-    "\r\n\\red72\\green61\\blue139;"
-    "\r\n\\red128\\green128\\blue0;"
-    "\r\n\\red0\\green154\\blue205;"
-    "\r\n\\red255\\green215\\blue0;"
-    "\r\n\\red128\\green128\\blue128;"
-    "\r\n\\red0\\green255\\blue0;"
-    "\r\n\\red173\\green216\\blue230;"
-    "\r\n\\red144\\green238\\blue144;"
-    "\r\n\\red255\\green255\\blue224;"
-    "\r\n\\red150\\green205\\blue0;"
-    "\r\n\\red255\\green0\\blue255;"
-    "\r\n\\red0\\green0\\blue128;"
-    "\r\n\\red85\\green107\\blue47;"
-    "\r\n\\red255\\green165\\blue0;"
-    "\r\n\\red255\\green218\\blue185;"
-    "\r\n\\red255\\green157\\blue180;"
-    "\r\n\\red160\\green32\\blue240;"
-    "\r\n\\red255\\green0\\blue0;"
-    "\r\n\\red46\\green139\\blue87;"
-    "\r\n\\red214\\green214\\blue214;"
-    "\r\n\\red106\\green90\\blue205;"
-    "\r\n\\red135\\green206\\blue235;"
-    "\r\n\\red64\\green224\\blue208;"
-    "\r\n\\red255\\green255\\blue255;"
-    "\r\n\\red255\\green255\\blue0;"
-    "\r\n\\red102\\green0\\blue0;"
-    "\r\n\\red153\\green102\\blue0;"
-    "\r\n\\red153\\green153\\blue0;"
-    "\r\n\\red102\\green51\\blue0;"
-    "\r\n\\red158\\green158\\blue158;"
-    "\r\n\\red102\\green102\\blue153;"
-    "\r\n\\red51\\green0\\blue153;"
-    "\r\n\\red51\\green102\\blue255;"
-    "\r\n\\red153\\green0\\blue255;"
-    "\r\n\\red0\\green102\\blue255;"
-    "\r\n\\red0\\green102\\blue102;"
-    "\r\n\\red51\\green51\\blue204;"
-    "\r\n\\red51\\green153\\blue153;"
-    "\r\n\\red102\\green51\\blue102;"
-    "\r\n\\red51\\green102\\blue153;"
-    "\r\n\\red61\\green61\\blue69;"
-    "\r\n\\red205\\green149\\blue12;"
-    "\r\n\\red0\\green102\\blue51;"
-    "\r\n\\red0\\green153\\blue51;"
-    "\r\n\\red153\\green0\\blue0;"
-    "}";
-
 constexpr const char* defaultPage =
     "\r\n\\deftab360\\defformat\\margb1418\\margl1701\\margt1418\\margr1701\\paperw12242"
     "\\paperh15842\\pgnstart2\\widowctrl\r\n";
 
 std::string withoutStyles(const std::string& page, const std::string& rows) {
-    return std::string("{\\rtf1\\ansicpg1252\\uc0\\deff0") + fontsAndColors + page + rows + "}";
+    return std::string("{") + fixedGroups + page + rows + "}";
 }
 
 class Document : public testing::Test {
@@ -136,9 +57,8 @@ TEST_F(Document, IsMadeOfItsGroupsInOrder) {
 TEST_F(Document, HasTheStylesheetGroupBetweenColoursAndPage) {
     document->LoadStyleSheetFromMemmory("{name: normal; style-def: s; format: \\f9}");
 
-    EXPECT_EQ(document->Contents(), std::string("{\\rtf1\\ansicpg1252\\uc0\\deff0") +
-                                        fontsAndColors + "\r\n{\\stylesheet\r\n{\\f9 normal;}}" +
-                                        defaultPage + "}");
+    EXPECT_EQ(document->Contents(), std::string("{") + fixedGroups +
+                                        "\r\n{\\stylesheet\r\n{\\f9 normal;}}" + defaultPage + "}");
 }
 
 TEST_F(Document, EndsWithItsRows) {

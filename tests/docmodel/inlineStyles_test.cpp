@@ -401,20 +401,20 @@ protected:
 };
 
 TEST_P(InlineStylesLikeThePlainWalk, TreatAnyCharacters) {
-    for (int i = 0; i < 6000; ++i) {
+    for (int i = 0; i < 3000; ++i) {
         expectSame(random.anyCharacters(14));
         expectSame(random.anyCharacters(60));
     }
 }
 
 TEST_P(InlineStylesLikeThePlainWalk, TreatTokensAmongOtherThings) {
-    for (int i = 0; i < 4000; ++i) {
+    for (int i = 0; i < 2500; ++i) {
         expectSame(random.anyTokens(20));
     }
 }
 
 TEST_P(InlineStylesLikeThePlainWalk, TreatTokensInARow) {
-    for (int i = 0; i < 4000; ++i) {
+    for (int i = 0; i < 2500; ++i) {
         expectSame(random.tokensOnly(20));
     }
 }

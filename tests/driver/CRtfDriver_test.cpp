@@ -285,6 +285,14 @@ TEST_F(CRtfDriverTest, KeepsTheNameOfAStyleSheetThatIsNotThere) {
     EXPECT_FALSE(driver->RtfObject()->StyleSheetOk());
 }
 
+TEST_F(CRtfDriverTest, TakesAStyleSheetThatCannotBeReadForAnEmptyOne) {
+    platform.files["a.rtfss"] = badKeyword;
+    platform.fail("readFile", RunTimeError::PathFileAccessError);
+    driver->setStyleSheetFile("a.rtfss");
+    EXPECT_EQ(driver->StyleSheetFile(), "a.rtfss");
+    EXPECT_TRUE(driver->RtfObject()->StyleSheetOk());
+}
+
 TEST_F(CRtfDriverTest, RefusesABadStyleSheetAndTellsTheCause) {
     platform.files["a.rtfss"] = badKeyword;
     try {
@@ -483,6 +491,15 @@ TEST(Analysis, WantsTheEndOfTheDocInTheLastLine) {
     EXPECT_THAT(errorsOf("(doc|(r|(c|c)|r)|doc) ; end||; more|"), IsEmpty());
 }
 
+TEST(Analysis, WantsTheParenthesisOfTheLastLineToo) {
+    EXPECT_THAT(
+        errorsOf("(doc|(r|(c|c)|r)|doc"),
+        ElementsAre(wrongRoot(6), driverErrorOf(eSyntaxError, "doc has a wrong syntax",
+                                                "sLine is neither a recognized node nor a leaf\r\n"
+                                                "sLeaf = doc\r\nCRtfDriver.treeWalkerBuild",
+                                                6)));
+}
+
 TEST(Analysis, TellsTheFirstLineWhenBothAreWrong) {
     EXPECT_THAT(errorsOf("(k=1)|(doc|(r|r)|doc)|(k=2)"), testing::Contains(wrongRoot(1)));
 }
@@ -596,13 +613,15 @@ TEST(Analysis, RefusesTheEndOfTheDocWhileARowIsOpenInBothModes) {
     EXPECT_THAT(checkedErrorsOf(text), ElementsAre(wrongNodeType("doc)", 5)));
 }
 
-TEST(Analysis, OpensARowInsideAParagraphInBothModes) {
-    const std::string text = "(doc|(r|(c|(p|(pt=a)|(r|(c|(p|(pt=b)|p)|c)|r)|doc)";
+TEST(Analysis, OpensARowInsideAParagraphOrACellInBothModes) {
     for (const Checks checks : {Checks::Off, Checks::On}) {
-        const ParsedDescription parsed(lines(text), checks);
+        const ParsedDescription parsed(
+            lines("(doc|(r|(c|(p|(pt=a)|(r|(c|(cb=gold)|(r|(c|(p|(pt=b)|p)|c)|r)|doc)"), checks);
         EXPECT_THAT(parsed.errors, IsEmpty());
+        EXPECT_EQ(parsed.rows()->Count(), 3);
         EXPECT_EQ(parsed.para(1, 1, 1)->Text(), "a");
-        EXPECT_EQ(parsed.para(1, 1, 2)->Text(), "b");
+        EXPECT_EQ(parsed.cell(1, 2)->BackColor(), eGold);
+        EXPECT_EQ(parsed.para(1, 1, 3)->Text(), "b");
     }
 }
 

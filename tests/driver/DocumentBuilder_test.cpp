@@ -308,6 +308,14 @@ TEST(DocumentBuilder, TakesTheWidthOfABorderForItsName) {
     }
 }
 
+TEST(DocumentBuilder, TakesAwayTheBorderAndTheGroundOfTheRow) {
+    const BuiltDocument built("(doc|(r|(rtb=thick)|(rb=gold)|(c|(ctb=none)|(cb=none)|c)|r)|doc)");
+    EXPECT_EQ(built.cell()->TopBorder(), eNone);
+    EXPECT_EQ(built.cell()->BackColor(), eNoColor);
+    EXPECT_EQ(tableOf(built),
+              "\r\n{\\intbl\\trowd\\trql\\trgaph70\\trleft0 \\cellx8840 \r\n\\cell\\row}");
+}
+
 TEST(DocumentBuilder, RefusesWhatIsNoBorder) {
     for (const BorderKey& border : rowBorders) {
         EXPECT_THAT(errorsOf(rowWith("(" + std::string(border.key) + "=medium)")),

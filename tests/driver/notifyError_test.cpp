@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <cstdint>
 #include <functional>
 #include <stdexcept>
 #include <string>
@@ -53,6 +54,23 @@ TEST_F(NotifyError, ShowsNumberDescriptionSourceAndLineAsTheCurrentError) {
                             ToldError{-2147221496, "Value for foo should be numeric.",
                                       "CRtfDriver.treeWalkerSemantic", 3},
                             ToldError{-2147221496, "crimson isn't a recognized color.", "", 4}));
+}
+
+class ThrowingClipboard : public FakePlatform {
+public:
+    void setClipboardText(const std::string&) override {
+        throw RtfError(RunTimeError::PermissionDenied);
+    }
+};
+
+TEST_F(NotifyError, ShowsAnErrorThatThePlatformThrewWithoutMakingItTheCurrentOne) {
+    ThrowingClipboard throwing;
+    std::vector<std::int32_t> numbers;
+    const Ref<CRtfDriver> other = CRtfDriver::create(throwing);
+    other->setNotifyErrorHandler([&](CRtfDriver&) { numbers.push_back(currentError()->number); });
+    clearCurrentError();
+    other->ParseFromMemmory("(r");
+    EXPECT_THAT(numbers, ElementsAre(70, -2147221500, -2147221499, 91));
 }
 
 TEST_F(NotifyError, IsNotRaisedWhenNothingIsWrong) {

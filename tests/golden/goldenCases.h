@@ -6,6 +6,7 @@
 #include <fstream>
 #include <iterator>
 #include <nlohmann/json.hpp>
+#include <ostream>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -30,6 +31,11 @@ struct Case {
     std::string expectedRtf;
     std::vector<ExpectedError> expectedErrors;
 };
+
+/// How a test shows the case.
+inline void PrintTo(const Case& shown, std::ostream* output) {
+    *output << shown.name;
+}
 
 inline std::string readBytes(const std::filesystem::path& path) {
     std::ifstream file(path, std::ios::binary);

@@ -57,6 +57,10 @@ void* operator new(std::size_t size) {
     throw std::bad_alloc();
 }
 
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+    return quorvane::failingAllocations::allocate(size);
+}
+
 void operator delete(void* memory) noexcept {
     std::free(memory);
 }
