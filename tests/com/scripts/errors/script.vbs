@@ -1,6 +1,6 @@
 Option Explicit
 ' What a host learns of errors, and that it can go on after each.
-Dim document, driver, rows, each
+Dim document, driver, rows, row
 Set document = CreateObject("Quorvane.CRtfDoc")
 Set driver = CreateObject("Quorvane.CRtfDriver")
 Set rows = document.TableRows
@@ -35,9 +35,7 @@ driver.ParseFile "Z:\no such file"
 Tell "no file"
 driver.LoadStyleSheetFromMemmory "{name: x"
 Tell "braces again"
-each = 0
-For Each each In rows
-  WScript.Echo "a row"
+For Each row In rows
 Next
 If Err.Number <> 0 Then WScript.Echo "rows have no standard enumerator"
 Err.Clear

@@ -6,8 +6,9 @@ Set connector = CreateObject("QuorvaneTests.EventConnector")
 description = "(doc" & vbLf & "(r" & vbLf & "(c" & vbLf & "(cb=Crimson)" & vbLf & "(ctb=thin)" & vbLf & _
               "(p" & vbLf & "(pt=x)" & vbLf & "p)" & vbLf & "c)" & vbLf & "r)" & vbLf & "doc)"
 
+' Its default member, since Wine's engine does not tell the names of a class's members.
 Class Handler
-  Sub notifyError(Sender)
+  Public Default Sub notifyError(Sender)
     WScript.Echo "event", Sender Is driver, connector.HelpContext, connector.Description
     seen = seen + 1
   End Sub
