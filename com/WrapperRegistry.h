@@ -4,7 +4,9 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <unordered_map>
+#include <utility>
 
 #include "com/ComPtr.h"
 #include "com/Lock.h"
@@ -25,15 +27,16 @@ public:
         if (!object) {
             return nullptr;
         }
-        Part& part = partOf(object.get());
+        const Native* const key = object.get();
+        Part& part = partOf(key);
         const Lock lock(part.lock);
-        Wrapper*& known = part.wrappers[object.get()];
-        if (known && known->addRefUnlessReleased()) {
-            return ComPtr<Wrapper>::adopt(known);
+        const auto known = part.wrappers.find(key);
+        if (known != part.wrappers.end() && known->second->addRefUnlessReleased()) {
+            return ComPtr<Wrapper>::adopt(known->second);
         }
-        auto made = ComPtr<Wrapper>(new Wrapper(std::move(object)));
-        known = made.get();
-        return made;
+        auto made = std::make_unique<Wrapper>(std::move(object));
+        part.wrappers.insert_or_assign(key, made.get());
+        return ComPtr<Wrapper>(made.release());
     }
 
     /// Forgets a wrapper, unless another one has taken its place.

@@ -96,3 +96,12 @@ build() {
 runTests() {
     ctest --preset "$1" --parallel "$(nproc)"
 }
+
+# summarize PRESET...: what the test runner said of each, once more together.
+summarize() {
+    local preset
+    echo
+    for preset in "$@"; do
+        echo "$preset: $(grep -E '^[0-9]+% tests passed' "build/$preset.log" || echo "did not run")"
+    done
+}

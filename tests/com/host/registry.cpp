@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string_view>
 
 #include "tests/com/host/text.h"
 
@@ -10,6 +11,7 @@ namespace quorvane::host {
 namespace {
 
 constexpr DWORD longestName = 16384;
+constexpr DWORD usualSize = 65536;
 
 std::string valueText(DWORD type, const std::vector<BYTE>& data) {
     if (type == REG_SZ || type == REG_EXPAND_SZ) {
@@ -27,18 +29,29 @@ std::string valueText(DWORD type, const std::vector<BYTE>& data) {
 
 void exportValues(HKEY key, const std::string& path, std::set<std::string>& texts) {
     std::vector<wchar_t> name(longestName);
+    std::vector<BYTE> data(usualSize);
     for (DWORD i = 0;; ++i) {
         DWORD length = longestName;
         DWORD type = 0;
-        DWORD size = 0;
-        if (RegEnumValueW(key, i, name.data(), &length, nullptr, &type, nullptr, &size) !=
-            ERROR_SUCCESS) {
+        DWORD size = static_cast<DWORD>(data.size());
+        const LSTATUS status =
+            RegEnumValueW(key, i, name.data(), &length, nullptr, &type, data.data(), &size);
+        if (status == ERROR_MORE_DATA) {
+            data.resize(size);
+            --i;
+            continue;
+        }
+        if (status != ERROR_SUCCESS) {
             return;
         }
-        std::vector<BYTE> data(size);
-        RegQueryValueExW(key, name.data(), nullptr, &type, data.data(), &size);
-        texts.insert(path + "|" + utf8Text({name.data(), length}) + "=" + valueText(type, data));
+        texts.insert(path + "|" + utf8Text({name.data(), length}) + "=" +
+                     valueText(type, {data.begin(), data.begin() + size}));
     }
+}
+
+// Upper and lower case make no difference, and Wine is not of one mind about this key.
+std::string keyName(std::wstring_view name) {
+    return name == L"Typelib" ? "TypeLib" : utf8Text(name);
 }
 
 void exportKey(HKEY key, const std::string& path, std::set<std::string>& texts) {
@@ -53,7 +66,7 @@ void exportKey(HKEY key, const std::string& path, std::set<std::string>& texts) 
             return;
         }
         if (RegOpenKeyExW(key, name, 0, KEY_READ, &child) == ERROR_SUCCESS) {
-            exportKey(child, path + "\\" + utf8Text({name, length}), texts);
+            exportKey(child, path + "\\" + keyName({name, length}), texts);
             RegCloseKey(child);
         }
     }
