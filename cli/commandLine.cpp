@@ -117,6 +117,20 @@ void addRenderCommand(CLI::App& app, RenderOptions& options) {
         ->check(CLI::IsMember(diagnosticsForms).description(""));
 }
 
+/// What is wrong with the arguments. The parser complains of what is missing first; where something
+/// is there that it does not know, that is the mistake.
+std::string usageErrorText(const CLI::App& app, const CLI::ParseError& error) {
+    const std::vector<std::string> unknown = app.remaining(true);
+    if (unknown.empty() || error.get_name() != "RequiredError") {
+        return error.what();
+    }
+    const std::string& first = unknown.front();
+    if (first.starts_with('-') || app.got_subcommand("render")) {
+        return "The following argument was not expected: " + first;
+    }
+    return first + " is not a subcommand; render is";
+}
+
 }  // namespace
 
 std::variant<RenderOptions, Information> parseCommandLine(
@@ -137,7 +151,7 @@ std::variant<RenderOptions, Information> parseCommandLine(
         app.exit(request, text);
         return Information{text.str()};
     } catch (const CLI::ParseError& error) {
-        throw UsageError(asGiven(error.what()));
+        throw UsageError(asGiven(usageErrorText(app, error)));
     }
 }
 
