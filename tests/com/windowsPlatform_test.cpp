@@ -47,9 +47,12 @@ private:
     static constexpr int textItem = 0xFFFF;
 
     void watch(const wchar_t* title) {
-        for (int i = 0; i < 100 && !found; ++i) {
+        constexpr int attempts = 1200;
+        for (int i = 0; i < attempts && !found; ++i) {
             Sleep(50);
-            if (const HWND dialogue = FindWindowW(L"#32770", title)) {
+            const HWND dialogue = FindWindowW(L"#32770", title);
+            // Before it is shown, its texts need not be there.
+            if (dialogue && IsWindowVisible(dialogue)) {
                 read(dialogue);
                 PostMessageW(dialogue, WM_COMMAND, IDOK, 0);
                 found = true;
