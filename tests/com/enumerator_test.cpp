@@ -143,6 +143,23 @@ TEST_F(EnumeratedCells, StayThoseThatWereThereWhenTheCollectionChanges) {
     EXPECT_EQ(rest(*all.get()), (Numbers{2, 3, 4}));
 }
 
+TEST_F(EnumeratedCells, CanBeSkippedClonedAndBegunAnewWhenTheCollectionHasChanged) {
+    const auto all = enumerator();
+    ComPtr<IEnumVARIANT> clone;
+    rest(*all.get());
+
+    cells_->RemoveHead();
+    cells_->removeTail();
+    cells_->AddHead(nullptr);
+
+    EXPECT_EQ(all->Reset(), S_OK);
+    EXPECT_EQ(all->Skip(1), S_OK);
+    EXPECT_EQ(all->Clone(clone.out()), S_OK);
+    EXPECT_EQ(rest(*all.get()), (Numbers{2, 3, 4}));
+    EXPECT_EQ(rest(*clone.get()), (Numbers{2, 3, 4}));
+    EXPECT_EQ(rest(*enumerator().get()), (Numbers{-1, 2, 3}));
+}
+
 TEST_F(EnumeratedCells, OutliveCollectionAndDocument) {
     const auto all = enumerator();
     cells_.reset();
