@@ -29,6 +29,30 @@ Exit status:
   1  a description or the stylesheet has errors
   2  wrong usage, or a file that cannot be read or written)";
 
+constexpr const char* checkFooter =
+    R"(A file is a description, a stylesheet or an RTF file by its content; - is
+standard input. Nothing is written but what was found, on standard output:
+
+  letter.rtfspec:3:5: error: crimson isn't a recognized color. [wrong-color]
+      (rb=crimson)
+          ^~~~~~~
+      hint: did you mean dark-red?
+
+The name in brackets is what --explain takes. On a terminal the text is
+coloured, unless the environment has a variable NO_COLOR.
+
+Exit status:
+  0  nothing was found
+  1  there are errors
+  2  wrong usage, or a file that cannot be read
+  3  there are warnings and no errors)";
+
+const std::map<std::string, FindingsForm> findingsForms = {
+    {"text", FindingsForm::Text},
+    {"json", FindingsForm::Json},
+    {"sarif", FindingsForm::Sarif},
+};
+
 const std::map<std::string, DiagnosticsForm> diagnosticsForms = {
     {"text", DiagnosticsForm::Text},
     {"json", DiagnosticsForm::Json},
@@ -86,6 +110,38 @@ CLI::callback_t storeIn(DiagnosticsForm& target) {
     };
 }
 
+CLI::callback_t storeIn(FindingsForm& target) {
+    return [&target](const CLI::results_t& results) {
+        target = findingsForms.at(results.front());
+        return true;
+    };
+}
+
+CLI::App* addCheckCommand(CLI::App& app, CheckOptions& options) {
+    CLI::App* check =
+        app.add_subcommand("check", "Tell what is wrong with descriptions, stylesheets and RTF.");
+    check->footer(checkFooter);
+    check->set_help_flag("-h,--help", "Show this help and exit");
+    check->set_version_flag("--version", versionText, "Show the version and exit");
+    check->add_option("FILE", storeIn(options.files), "Files to check")
+        ->type_name("")
+        ->expected(1, CLI::detail::expected_max_vector_size)
+        ->allow_extra_args();
+    check
+        ->add_option("-s,--stylesheet", storeIn(options.styleSheet),
+                     "Look the styles of descriptions up in this file, and check it too")
+        ->type_name("FILE");
+    check
+        ->add_option("--diagnostics", storeIn(options.form),
+                     "Tell findings as text, as JSON objects or as a SARIF log")
+        ->type_name("text|json|sarif")
+        ->check(CLI::IsMember(findingsForms).description(""));
+    check->add_option("--explain", storeIn(options.explained), "Explain a diagnostic")
+        ->type_name("IDENTIFIER")
+        ->excludes("FILE");
+    return check;
+}
+
 void addRenderCommand(CLI::App& app, RenderOptions& options) {
     CLI::App* render = app.add_subcommand("render", "Render descriptions as RTF documents.");
     render->footer(renderFooter);
@@ -119,18 +175,26 @@ void addRenderCommand(CLI::App& app, RenderOptions& options) {
 
 }  // namespace
 
-std::variant<RenderOptions, Information> parseCommandLine(
+std::variant<RenderOptions, CheckOptions, Information> parseCommandLine(
     const std::vector<std::string>& arguments) {
     RenderOptions options;
+    CheckOptions checkOptions;
     CLI::App app("Renders descriptions of documents as Rich Text Format.", "quorvane");
     app.require_subcommand(1);
     app.set_help_flag("-h,--help", "Show this help and exit");
     app.set_version_flag("--version", versionText, "Show the version and exit");
     app.allow_windows_style_options(false);
     addRenderCommand(app, options);
+    const CLI::App* check = addCheckCommand(app, checkOptions);
 
     try {
         app.parse(prepared(arguments));
+        if (check->parsed()) {
+            if (checkOptions.files.empty() && !checkOptions.explained) {
+                throw UsageError("FILE is required");
+            }
+            return checkOptions;
+        }
         return options;
     } catch (const CLI::Success& request) {
         std::ostringstream text;

@@ -120,6 +120,8 @@ private:
              ++i) {
             names.push_back(list.at(i).name);
         }
+        // What was misspelt is used all the same.
+        styles_->markUsed(kind, nearestWord(name, names));
         return didYouMean(name, names);
     }
 

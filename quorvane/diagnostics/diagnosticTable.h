@@ -1,5 +1,5 @@
-// The table of diagnostics: one row for each kind of finding. It is included where a list is made
-// of it, with the macro defined as what a row shall become; the macro is gone afterwards.
+// The table of diagnostics: one row for each kind of finding. It is included where a list is made of
+// it, with the macro defined as what a row shall become; the macro is gone afterwards.
 //
 // QUORVANE_DIAGNOSTIC(enumerator, identifier, severity, language, text, explanation, wrong example,
 //                     right example, companion of the examples)
@@ -405,7 +405,7 @@ QUORVANE_DIAGNOSTIC(Overflow, "overflow", Error, Description,
     "r)\n"
     "doc)\n",
     "(doc\n"
-    "(paper-width=11906)\n"
+    "(paper-width=12242)\n"
     "(r\n"
     "(c\n"
     "c)\n"
@@ -627,7 +627,7 @@ QUORVANE_DIAGNOSTIC(SharedStyleNumber, "shared-style-number", Warning, Descripti
     "(r\n"
     "(c\n"
     "(p\n"
-    "(pt=Total)\n"
+    "(pt=<strong=Total>)\n"
     "(ps=normal)\n"
     "p)\n"
     "c)\n"
@@ -639,7 +639,7 @@ QUORVANE_DIAGNOSTIC(SharedStyleNumber, "shared-style-number", Warning, Descripti
     "(r\n"
     "(c\n"
     "(p\n"
-    "(pt=Total)\n"
+    "(pt=<strong=Total>)\n"
     "(ps=sum)\n"
     "p)\n"
     "c)\n"
@@ -910,8 +910,8 @@ QUORVANE_DIAGNOSTIC(WidthClamped, "width-clamped", Warning, Description,
 QUORVANE_DIAGNOSTIC(TableOverrun, "table-overrun", Warning, Description,
     "The row is {0} twips wide, the page has room for {1}.",
     "The cells are laid out before the keys of the document are applied, on the default page "
-    "with 8840 twips between the margins, and stay so. Choose margins that leave 8840 twips: "
-    "1533 each side on A4, 1700 on US letter.",
+    "with 8840 twips between the margins, and stay so; and no cell is narrower than 200 "
+    "twips. Choose margins that leave 8840 twips: 1533 each side on A4, 1700 on US letter.",
     "(doc\n"
     "(paper-width=11906)\n"
     "(r\n"
@@ -976,7 +976,8 @@ QUORVANE_DIAGNOSTIC(PageNumberFallback, "page-number-fallback", Warning, Descrip
 
 QUORVANE_DIAGNOSTIC(TooManyCells, "too-many-cells", Warning, Description,
     "The row has {0} cells; word processors take 63.",
-    "Word processors refuse or cut a row of more than 63 cells.",
+    "Word processors refuse or cut a row of more than 63 cells. Cells are at least 200 twips "
+    "wide, so 44 of them fill the default page already.",
     "(doc\n"
     "(r\n"
     "; 64 times:\n"
@@ -987,7 +988,7 @@ QUORVANE_DIAGNOSTIC(TooManyCells, "too-many-cells", Warning, Description,
     "doc)\n",
     "(doc\n"
     "(r\n"
-    "; 63 times:\n"
+    "; 40 times:\n"
     "(c\n"
     "c)\n"
     "; so far\n"

@@ -1,5 +1,6 @@
 #include "quorvane/diagnostics/nodeErrors.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -97,9 +98,18 @@ private:
             engine_.report(DiagnosticId::NoRow, source_.placeOf(node.line));
         } else if (node.kind == NodeKind::Row && node.children.empty()) {
             engine_.report(DiagnosticId::NoCell, source_.placeOf(node.line));
-        } else if (node.kind == NodeKind::Para && !node.find("para-text")) {
+        } else if (node.kind == NodeKind::Para && !node.find("para-text") && !meansText(node)) {
             engine_.report(DiagnosticId::NoParaText, source_.placeOf(node.line));
         }
+    }
+
+    /// True when a key that is none was most likely meant to be para-text.
+    bool meansText(const OutlineNode& node) const {
+        constexpr std::string_view forms[] = {"para-text", "pt"};
+        return std::any_of(node.leaves.begin(), node.leaves.end(), [&](const OutlineLeaf& leaf) {
+            return !vocabulary_.isKeyOf(NodeKind::Para, leaf.key) &&
+                   !nearestWord(leaf.writtenKey, forms).empty();
+        });
     }
 
     void checkLeaf(NodeKind kind, OutlineLeaf& leaf) {

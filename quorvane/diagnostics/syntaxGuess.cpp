@@ -70,7 +70,9 @@ SyntaxGuess guessOpener(std::string_view line, const Vocabulary& vocabulary) {
         SyntaxGuess guess;
         guess.meant = Meant::Leaf;
         guess.key = head;
-        guess.hint = "a key has a value: (" + std::string(head) + "=...)";
+        const bool isEnded = !rest.empty() && rest.back() == ')';
+        guess.hint = "did you mean (" + std::string(head) + "=" +
+                     std::string(rest.substr(0, rest.size() - (isEnded ? 1 : 0))) + ")?";
         return guess;
     }
     SyntaxGuess guess;
