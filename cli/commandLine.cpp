@@ -53,6 +53,22 @@ const std::map<std::string, FindingsForm> findingsForms = {
     {"sarif", FindingsForm::Sarif},
 };
 
+constexpr const char* formatFooter =
+    R"(A file is a description or a stylesheet by its content; - is standard input,
+whose canonical form goes to standard output. A file that is in its form is not
+touched. The form means the same: it renders to the same document.
+
+Exit status:
+  0  all is well
+  1  with --check: there are files that are not in their canonical form
+  2  wrong usage, or a file that cannot be read, formatted or written)";
+
+const std::map<std::string, NameForm> nameForms = {
+    {"keep", NameForm::Kept},
+    {"long", NameForm::Long},
+    {"short", NameForm::Short},
+};
+
 const std::map<std::string, DiagnosticsForm> diagnosticsForms = {
     {"text", DiagnosticsForm::Text},
     {"json", DiagnosticsForm::Json},
@@ -142,6 +158,34 @@ CLI::App* addCheckCommand(CLI::App& app, CheckOptions& options) {
     return check;
 }
 
+CLI::callback_t storeIn(NameForm& target) {
+    return [&target](const CLI::results_t& results) {
+        target = nameForms.at(results.front());
+        return true;
+    };
+}
+
+CLI::App* addFormatCommand(CLI::App& app, FormatOptions& options) {
+    CLI::App* format =
+        app.add_subcommand("format", "Put descriptions and stylesheets into their canonical form.");
+    format->footer(formatFooter);
+    format->set_help_flag("-h,--help", "Show this help and exit");
+    format->set_version_flag("--version", versionText, "Show the version and exit");
+    format->add_option("FILE", storeIn(options.files), "Files to format")
+        ->type_name("")
+        ->required()
+        ->expected(1, CLI::detail::expected_max_vector_size)
+        ->allow_extra_args();
+    format
+        ->add_option("--names", storeIn(options.names),
+                     "Write the long or the short names of a description, or keep them")
+        ->type_name("long|short|keep")
+        ->check(CLI::IsMember(nameForms).description(""));
+    format->add_flag("--check", options.check,
+                     "Change nothing; name the files that are not in their form");
+    return format;
+}
+
 void addRenderCommand(CLI::App& app, RenderOptions& options) {
     CLI::App* render = app.add_subcommand("render", "Render descriptions as RTF documents.");
     render->footer(renderFooter);
@@ -175,10 +219,11 @@ void addRenderCommand(CLI::App& app, RenderOptions& options) {
 
 }  // namespace
 
-std::variant<RenderOptions, CheckOptions, Information> parseCommandLine(
+std::variant<RenderOptions, CheckOptions, FormatOptions, Information> parseCommandLine(
     const std::vector<std::string>& arguments) {
     RenderOptions options;
     CheckOptions checkOptions;
+    FormatOptions formatOptions;
     CLI::App app("Renders descriptions of documents as Rich Text Format.", "quorvane");
     app.require_subcommand(1);
     app.set_help_flag("-h,--help", "Show this help and exit");
@@ -186,6 +231,7 @@ std::variant<RenderOptions, CheckOptions, Information> parseCommandLine(
     app.allow_windows_style_options(false);
     addRenderCommand(app, options);
     const CLI::App* check = addCheckCommand(app, checkOptions);
+    const CLI::App* format = addFormatCommand(app, formatOptions);
 
     try {
         app.parse(prepared(arguments));
@@ -194,6 +240,9 @@ std::variant<RenderOptions, CheckOptions, Information> parseCommandLine(
                 throw UsageError("FILE is required");
             }
             return checkOptions;
+        }
+        if (format->parsed()) {
+            return formatOptions;
         }
         return options;
     } catch (const CLI::Success& request) {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "cli/CheckOptions.h"
+#include "cli/FormatOptions.h"
 #include "cli/RenderOptions.h"
 
 namespace quorvane::cli {
@@ -15,7 +16,7 @@ struct Information {
 };
 
 /// What the arguments after the program's name ask for. Throws `UsageError`.
-std::variant<RenderOptions, CheckOptions, Information> parseCommandLine(
+std::variant<RenderOptions, CheckOptions, FormatOptions, Information> parseCommandLine(
     const std::vector<std::string>& arguments);
 
 /// The form of diagnostics that the arguments ask for, which need not be right otherwise: the form

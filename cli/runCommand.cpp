@@ -7,6 +7,7 @@
 
 #include "cli/Diagnostic.h"
 #include "cli/ExitStatus.h"
+#include "cli/FormatJob.h"
 #include "cli/RenderJob.h"
 #include "cli/UsageError.h"
 #include "cli/checkCommand.h"
@@ -89,6 +90,9 @@ ExitStatus run(const std::vector<std::string>& arguments, DiagnosticsForm form) 
     }
     if (const auto* options = std::get_if<CheckOptions>(&request)) {
         return check(*options);
+    }
+    if (const auto* options = std::get_if<FormatOptions>(&request)) {
+        return format(*options);
     }
     return render(std::get<RenderOptions>(request));
 }
