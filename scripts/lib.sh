@@ -70,7 +70,7 @@ if ! command -v make >/dev/null; then
 fi
 commandHeaders=("CLI/CLI.hpp=libcli11-dev" "nlohmann/json.hpp=nlohmann-json3-dev")
 testTools=("ninja=ninja-build" "pkg-config=pkg-config"
-    "gtest/gtest.h=libgtest-dev" "gmock/gmock.h=libgmock-dev")
+    "gtest/gtest.h=libgtest-dev" "gmock/gmock.h=libgmock-dev" "jsonschema=python3-jsonschema")
 
 windowsTools=("perl=perl-base"
     "i686-w64-mingw32-g++-posix=g++-mingw-w64-i686-posix"
@@ -97,11 +97,17 @@ runTests() {
     ctest --preset "$1" --parallel "$(nproc)"
 }
 
-# summarize PRESET...: what the test runner said of each, once more together.
+# summarize PRESET...: what the test runner said of each, and which tests failed, once more together.
 summarize() {
-    local preset
+    local preset log
     echo
     for preset in "$@"; do
-        echo "$preset: $(grep -E '^[0-9]+% tests passed' "build/$preset.log" || echo "did not run")"
+        log=build/$preset.log
+        if ! [ -e "$log" ] || ! grep -q '^[0-9]*% tests passed' "$log"; then
+            echo "$preset: did not run"
+            continue
+        fi
+        echo "$preset: $(grep '^[0-9]*% tests passed' "$log")"
+        sed -n '/^The following tests FAILED:/,/^Errors while running/ s/^\t/    /p' "$log"
     done
 }

@@ -1,7 +1,9 @@
 #include "quorvane/driver/Vocabulary.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <initializer_list>
+#include <iterator>
 #include <utility>
 
 #include "quorvane/support/textCase.h"
@@ -133,6 +135,19 @@ void fill(CMap& map, const Pairs& pairs) {
     }
 }
 
+template <class Pairs>
+std::vector<std::string_view> namesOf(const Pairs& pairs) {
+    std::vector<std::string_view> names;
+    std::transform(std::begin(pairs), std::end(pairs), std::back_inserter(names),
+                   [](const auto& pair) { return pair.first; });
+    return names;
+}
+
+template <class Words>
+std::vector<std::string_view> listed(const Words& words) {
+    return {std::begin(words), std::end(words)};
+}
+
 template <class Enumeration>
 std::optional<Enumeration> valueNamed(const CMap& names, const Value& name) {
     if (name.isText()) {
@@ -165,6 +180,12 @@ std::string Vocabulary::expand(std::string_view word) const {
     return longForms_.Exists(key) ? longForms_.Item(key).text() : std::string(word);
 }
 
+std::string_view Vocabulary::shorten(std::string_view word) const {
+    const auto* found = std::find_if(std::begin(longForms), std::end(longForms),
+                                     [&](const auto& forms) { return forms.second == word; });
+    return found == std::end(longForms) ? word : std::string_view(found->first);
+}
+
 NodeKind Vocabulary::nodeKind(std::string_view name) const {
     const std::string longName = expand(lowerCase(name));
     if (longName == "row") {
@@ -193,6 +214,34 @@ std::optional<tBorderWidth> Vocabulary::borderNamed(const Value& name) const {
 
 std::optional<tCellAlign> Vocabulary::alignmentNamed(const Value& name) const {
     return valueNamed<tCellAlign>(alignments_, name);
+}
+
+std::vector<std::string_view> Vocabulary::keysOf(NodeKind kind) {
+    switch (kind) {
+        case NodeKind::Row:
+            return listed(rowKeys);
+        case NodeKind::Cell:
+            return listed(cellKeys);
+        case NodeKind::Para:
+            return listed(paraKeys);
+        case NodeKind::Doc:
+            return listed(docKeys);
+        case NodeKind::None:
+            break;
+    }
+    return {};
+}
+
+std::vector<std::string_view> Vocabulary::colorNames() {
+    return namesOf(colors);
+}
+
+std::vector<std::string_view> Vocabulary::borderNames() {
+    return namesOf(borders);
+}
+
+std::vector<std::string_view> Vocabulary::alignmentNames() {
+    return namesOf(alignments);
 }
 
 }  // namespace quorvane
