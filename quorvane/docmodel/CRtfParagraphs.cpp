@@ -20,7 +20,7 @@ Ref<CRtfParagraph> CRtfParagraphs::refile(const Ref<CRtfParagraph>& old, std::st
     clearCurrentError();
     TableDocument& owner = required(document());
     const std::size_t position = list_.requiredPositionOf(*old);
-    Ref<CRtfParagraph> fresh(new CRtfParagraph(cell_));
+    const Ref<CRtfParagraph> fresh = CRtfParagraph::create(cell_);
     list_.replaceAt(position, fresh, key);
     fresh->takeOver(*old);
     owner.markChanged();
@@ -28,7 +28,7 @@ Ref<CRtfParagraph> CRtfParagraphs::refile(const Ref<CRtfParagraph>& old, std::st
 }
 
 void CRtfParagraphs::insertNew(const List::Place& place, TableDocument&) {
-    list_.insert(place, Ref<CRtfParagraph>(new CRtfParagraph(cell_)));
+    list_.insert(place, CRtfParagraph::create(cell_));
 }
 
 void CRtfParagraphs::takeFrom(CRtfParagraphs& other) {

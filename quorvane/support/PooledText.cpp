@@ -1,0 +1,42 @@
+#include "quorvane/support/PooledText.h"
+
+#include <cstring>
+#include <limits>
+#include <new>
+
+#include "quorvane/support/RtfError.h"
+
+namespace quorvane {
+
+void PooledText::assign(std::string_view text, MemoryPool& pool) {
+    if (text.empty()) {
+        clear(pool);
+        return;
+    }
+    if (text.size() > std::numeric_limits<std::uint32_t>::max()) {
+        raise(RunTimeError::Overflow);
+    }
+    void* memory = pool.allocate(sizeof(Block) + text.size());
+    Block* fresh = new (memory) Block{1, static_cast<std::uint32_t>(text.size())};
+    std::memcpy(fresh->characters(), text.data(), text.size());
+    clear(pool);
+    block_ = fresh;
+}
+
+void PooledText::share(const PooledText& other, MemoryPool& pool) noexcept {
+    Block* shared = other.block_;
+    if (shared) {
+        ++shared->references;
+    }
+    clear(pool);
+    block_ = shared;
+}
+
+void PooledText::clear(MemoryPool& pool) noexcept {
+    if (block_ && --block_->references == 0) {
+        pool.deallocate(block_, sizeof(Block) + block_->length);
+    }
+    block_ = nullptr;
+}
+
+}  // namespace quorvane
