@@ -68,9 +68,8 @@ std::string SizeTable::text() const {
         }
         // The smallest size is mostly what a call costs in itself.
         const auto first = times.size() > 2 ? std::next(times.begin()) : times.begin();
-        table += times.size() > 1
-                     ? " " + fixed(times.rbegin()->second / first->second, 2) + " |\n"
-                     : " |\n";
+        table += times.size() > 1 ? " " + fixed(times.rbegin()->second / first->second, 2) + " |\n"
+                                  : " |\n";
     }
     return table;
 }

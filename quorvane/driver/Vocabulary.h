@@ -1,15 +1,11 @@
 #pragma once
 
-#include <array>
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include "quorvane/docmodel/enumerations.h"
 #include "quorvane/driver/DescriptionNode.h"
-#include "quorvane/support/CMap.h"
-#include "quorvane/support/CSet.h"
 #include "quorvane/support/Value.h"
 
 namespace quorvane {
@@ -18,8 +14,6 @@ namespace quorvane {
 /// of colours, borders and alignments without regard to case.
 class Vocabulary {
 public:
-    Vocabulary();
-
     /// The long form of a short name or key; any other word as it stands.
     std::string expand(std::string_view word) const;
 
@@ -28,25 +22,15 @@ public:
 
     /// True when nodes of that kind have such a key.
     bool isKeyOf(NodeKind kind, const Value& key) const;
-    bool isColorKey(const Value& key) const { return colorKeys_.Exists(key); }
-    bool isBorderKey(const Value& key) const { return borderKeys_.Exists(key); }
+    bool isColorKey(const Value& key) const;
+    bool isBorderKey(const Value& key) const;
     /// True for the keys whose value may be text or a number; all others take numbers only.
-    bool isTextOrNumberKey(const Value& key) const { return textOrNumberKeys_.Exists(key); }
+    bool isTextOrNumberKey(const Value& key) const;
 
     /// The values that names stand for; nothing for a value that is no name.
     std::optional<tColorIndex> colorNamed(const Value& name) const;
     std::optional<tBorderWidth> borderNamed(const Value& name) const;
     std::optional<tCellAlign> alignmentNamed(const Value& name) const;
-
-private:
-    CMap longForms_;
-    std::array<CSet, 4> keys_;
-    CSet colorKeys_;
-    CSet borderKeys_;
-    CSet textOrNumberKeys_;
-    CMap colors_;
-    CMap borders_;
-    CMap alignments_;
 };
 
 }  // namespace quorvane

@@ -127,6 +127,7 @@ std::string ReplaceString(std::string_view text, std::string_view search,
 
 std::vector<SourceLine> PreProcessRawData(std::string_view text) {
     std::vector<SourceLine> lines;
+    lines.reserve(static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1);
     for (int number = 1; !text.empty(); ++number) {
         const std::string_view line = trimWhitespace(takeLine(text));
         if (!line.empty() && line.front() != commentMark) {
