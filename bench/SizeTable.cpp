@@ -28,7 +28,7 @@ void SizeTable::ReportRuns(const std::vector<Run>& runs) {
         if (times_.find(name) == times_.end()) {
             names_.push_back(name);
         }
-        const double time = run.GetAdjustedRealTime() * 1e9 /
+        const double time = run.GetAdjustedCPUTime() * 1e9 /
                             benchmark::GetTimeUnitMultiplier(run.time_unit) /
                             static_cast<double>(elements->second);
         double& best = times_[name][size];

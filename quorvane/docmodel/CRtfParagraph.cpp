@@ -88,8 +88,8 @@ void CRtfParagraph::asMarkedField(const Value& vFieldData) {
     }
 }
 
-void CRtfParagraph::takeOver(const CRtfParagraph& old) noexcept {
-    text_.share(old.text_, pool());
+void CRtfParagraph::takeOver(const CRtfParagraph& old) {
+    text_.assign(old.text_.view(), pool());
     style_ = old.style_;
 }
 

@@ -67,7 +67,7 @@ private:
     static void operator delete(CRtfParagraph* paragraph, std::destroying_delete_t) noexcept;
 
     void setParent(CRtfTableCell& cell) { parent_ = WeakRef<CRtfTableCell>(&cell); }
-    void takeOver(const CRtfParagraph& old) noexcept;
+    void takeOver(const CRtfParagraph& old);
     TableDocument* document() const noexcept;
     MemoryPool& pool() const noexcept;
     void render(TableRendering& rendering, std::size_t position) const;

@@ -21,8 +21,8 @@ Ref<CRtfParagraph> CRtfParagraphs::refile(const Ref<CRtfParagraph>& old, std::st
     TableDocument& owner = required(document());
     const std::size_t position = list_.requiredPositionOf(*old);
     const Ref<CRtfParagraph> fresh = CRtfParagraph::create(cell_);
-    list_.replaceAt(position, fresh, key);
     fresh->takeOver(*old);
+    list_.replaceAt(position, fresh, key);
     owner.markChanged();
     return fresh;
 }

@@ -17,23 +17,14 @@ void PooledText::assign(std::string_view text, MemoryPool& pool) {
         raise(RunTimeError::Overflow);
     }
     void* memory = pool.allocate(sizeof(Block) + text.size());
-    Block* fresh = new (memory) Block{1, static_cast<std::uint32_t>(text.size())};
+    Block* fresh = new (memory) Block{static_cast<std::uint32_t>(text.size())};
     std::memcpy(fresh->characters(), text.data(), text.size());
     clear(pool);
     block_ = fresh;
 }
 
-void PooledText::share(const PooledText& other, MemoryPool& pool) noexcept {
-    Block* shared = other.block_;
-    if (shared) {
-        ++shared->references;
-    }
-    clear(pool);
-    block_ = shared;
-}
-
 void PooledText::clear(MemoryPool& pool) noexcept {
-    if (block_ && --block_->references == 0) {
+    if (block_) {
         pool.deallocate(block_, sizeof(Block) + block_->length);
     }
     block_ = nullptr;

@@ -26,13 +26,10 @@ public:
     /// Copies the characters; at most 4,294,967,295 bytes (error 6 beyond). A failure leaves the
     /// text as it was.
     void assign(std::string_view text, MemoryPool& pool);
-    /// Takes over a text of the same pool, which both then share.
-    void share(const PooledText& other, MemoryPool& pool) noexcept;
     void clear(MemoryPool& pool) noexcept;
 
 private:
     struct Block {
-        std::uint32_t references;
         std::uint32_t length;
         // The characters follow.
         char* characters() noexcept { return reinterpret_cast<char*>(this + 1); }

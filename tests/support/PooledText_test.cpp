@@ -55,48 +55,22 @@ TEST_F(PooledTextTest, CanBeAssignedAPartOfItself) {
     EXPECT_EQ(text.view(), "cde");
 }
 
-TEST_F(PooledTextTest, SharesItsCharacters) {
+TEST_F(PooledTextTest, IsEmptyAfterItWasCleared) {
     text.assign("abc", pool);
-
-    other.share(text, pool);
-
-    EXPECT_EQ(other.view().data(), text.view().data());
-}
-
-TEST_F(PooledTextTest, LivesAsLongAsItIsShared) {
-    text.assign("abc", pool);
-    other.share(text, pool);
 
     text.clear(pool);
 
     EXPECT_TRUE(text.empty());
+    EXPECT_EQ(text.view(), "");
+}
+
+TEST_F(PooledTextTest, IsACopyOfTheOneItIsAssigned) {
+    text.assign("abc", pool);
+    other.assign(text.view(), pool);
+
+    text.clear(pool);
+
     EXPECT_EQ(other.view(), "abc");
-}
-
-TEST_F(PooledTextTest, StaysWhenTheOtherOneIsChanged) {
-    text.assign("abc", pool);
-    other.share(text, pool);
-
-    other.assign("xyz", pool);
-
-    EXPECT_EQ(text.view(), "abc");
-    EXPECT_EQ(other.view(), "xyz");
-}
-
-TEST_F(PooledTextTest, SurvivesBeingSharedWithItself) {
-    text.assign("abc", pool);
-
-    text.share(text, pool);
-
-    EXPECT_EQ(text.view(), "abc");
-}
-
-TEST_F(PooledTextTest, SharesAnEmptyText) {
-    other.assign("abc", pool);
-
-    other.share(text, pool);
-
-    EXPECT_TRUE(other.empty());
 }
 
 TEST_F(PooledTextTest, HoldsLongTexts) {
