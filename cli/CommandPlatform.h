@@ -10,7 +10,7 @@ namespace quorvane::cli {
 
 /// The platform on which the command lets the library run: files are read from another platform, a
 /// document's file is replaced as a whole or is standard output, and nothing is put on the
-/// clipboard or into message boxes.
+/// clipboard or into message boxes. An error 75 of reading has as its cause what the system said.
 class CommandPlatform : public Platform {
 public:
     /// The other platform must outlive this one.
@@ -42,6 +42,7 @@ private:
         std::string bytes;
     };
 
+    std::string readOtherFile(const std::string& path);
     bool isStyleSheet(const std::string& path) const;
 
     Platform& files_;

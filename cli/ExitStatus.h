@@ -2,7 +2,8 @@
 
 namespace quorvane::cli {
 
-/// The command's exit status. Of several results the greatest counts.
+/// The command's exit status. Of several results of rendering the greatest counts; a check tells
+/// warnings only where there are no errors.
 enum class ExitStatus {
     /// All is well.
     Success = 0,
@@ -10,6 +11,8 @@ enum class ExitStatus {
     ContentErrors = 1,
     /// Wrong usage, or a file that cannot be read or written.
     Failure = 2,
+    /// A check found warnings and no errors.
+    Warnings = 3,
 };
 
 }  // namespace quorvane::cli

@@ -29,6 +29,46 @@ Exit status:
   1  a description or the stylesheet has errors
   2  wrong usage, or a file that cannot be read or written)";
 
+constexpr const char* checkFooter =
+    R"(A file is a description, a stylesheet or an RTF file by its content; - is
+standard input. Nothing is written but what was found, on standard output:
+
+  letter.rtfspec:3:5: error: crimson isn't a recognized color. [wrong-color]
+      (rb=crimson)
+          ^~~~~~~
+      hint: did you mean dark-red?
+
+The name in brackets is what --explain takes. On a terminal the text is
+coloured, unless the environment has a variable NO_COLOR.
+
+Exit status:
+  0  nothing was found
+  1  there are errors
+  2  wrong usage, or a file that cannot be read
+  3  there are warnings and no errors)";
+
+const std::map<std::string, FindingsForm> findingsForms = {
+    {"text", FindingsForm::Text},
+    {"json", FindingsForm::Json},
+    {"sarif", FindingsForm::Sarif},
+};
+
+constexpr const char* formatFooter =
+    R"(A file is a description or a stylesheet by its content; - is standard input,
+whose canonical form goes to standard output. A file that is in its form is not
+touched. The form means the same: it renders to the same document.
+
+Exit status:
+  0  all is well
+  1  with --check: there are files that are not in their canonical form
+  2  wrong usage, or a file that cannot be read, formatted or written)";
+
+const std::map<std::string, NameForm> nameForms = {
+    {"keep", NameForm::Kept},
+    {"long", NameForm::Long},
+    {"short", NameForm::Short},
+};
+
 const std::map<std::string, DiagnosticsForm> diagnosticsForms = {
     {"text", DiagnosticsForm::Text},
     {"json", DiagnosticsForm::Json},
@@ -86,6 +126,66 @@ CLI::callback_t storeIn(DiagnosticsForm& target) {
     };
 }
 
+CLI::callback_t storeIn(FindingsForm& target) {
+    return [&target](const CLI::results_t& results) {
+        target = findingsForms.at(results.front());
+        return true;
+    };
+}
+
+CLI::App* addCheckCommand(CLI::App& app, CheckOptions& options) {
+    CLI::App* check =
+        app.add_subcommand("check", "Tell what is wrong with descriptions, stylesheets and RTF.");
+    check->footer(checkFooter);
+    check->set_help_flag("-h,--help", "Show this help and exit");
+    check->set_version_flag("--version", versionText, "Show the version and exit");
+    check->add_option("FILE", storeIn(options.files), "Files to check")
+        ->type_name("")
+        ->expected(1, CLI::detail::expected_max_vector_size)
+        ->allow_extra_args();
+    check
+        ->add_option("-s,--stylesheet", storeIn(options.styleSheet),
+                     "Look the styles of descriptions up in this file, and check it too")
+        ->type_name("FILE");
+    check
+        ->add_option("--diagnostics", storeIn(options.form),
+                     "Tell findings as text, as JSON objects or as a SARIF log")
+        ->type_name("text|json|sarif")
+        ->check(CLI::IsMember(findingsForms).description(""));
+    check->add_option("--explain", storeIn(options.explained), "Explain a diagnostic")
+        ->type_name("IDENTIFIER")
+        ->excludes("FILE");
+    return check;
+}
+
+CLI::callback_t storeIn(NameForm& target) {
+    return [&target](const CLI::results_t& results) {
+        target = nameForms.at(results.front());
+        return true;
+    };
+}
+
+CLI::App* addFormatCommand(CLI::App& app, FormatOptions& options) {
+    CLI::App* format =
+        app.add_subcommand("format", "Put descriptions and stylesheets into their canonical form.");
+    format->footer(formatFooter);
+    format->set_help_flag("-h,--help", "Show this help and exit");
+    format->set_version_flag("--version", versionText, "Show the version and exit");
+    format->add_option("FILE", storeIn(options.files), "Files to format")
+        ->type_name("")
+        ->required()
+        ->expected(1, CLI::detail::expected_max_vector_size)
+        ->allow_extra_args();
+    format
+        ->add_option("--names", storeIn(options.names),
+                     "Write the long or the short names of a description, or keep them")
+        ->type_name("long|short|keep")
+        ->check(CLI::IsMember(nameForms).description(""));
+    format->add_flag("--check", options.check,
+                     "Change nothing; name the files that are not in their form");
+    return format;
+}
+
 void addRenderCommand(CLI::App& app, RenderOptions& options) {
     CLI::App* render = app.add_subcommand("render", "Render descriptions as RTF documents.");
     render->footer(renderFooter);
@@ -117,27 +217,54 @@ void addRenderCommand(CLI::App& app, RenderOptions& options) {
         ->check(CLI::IsMember(diagnosticsForms).description(""));
 }
 
+/// What is wrong with the arguments. The parser complains of what is missing first; where something
+/// is there that it does not know, that is the mistake.
+std::string usageErrorText(const CLI::App& app, const CLI::ParseError& error) {
+    const std::vector<std::string> unknown = app.remaining(true);
+    if (unknown.empty() || error.get_name() != "RequiredError") {
+        return error.what();
+    }
+    const std::string& first = unknown.front();
+    if (first.starts_with('-') || app.got_subcommand("render")) {
+        return "The following argument was not expected: " + first;
+    }
+    return first + " is not a subcommand; render is";
+}
+
 }  // namespace
 
-std::variant<RenderOptions, Information> parseCommandLine(
+std::variant<RenderOptions, CheckOptions, FormatOptions, Information> parseCommandLine(
     const std::vector<std::string>& arguments) {
     RenderOptions options;
+    CheckOptions checkOptions;
+    FormatOptions formatOptions;
     CLI::App app("Renders descriptions of documents as Rich Text Format.", "quorvane");
     app.require_subcommand(1);
     app.set_help_flag("-h,--help", "Show this help and exit");
     app.set_version_flag("--version", versionText, "Show the version and exit");
     app.allow_windows_style_options(false);
     addRenderCommand(app, options);
+    const CLI::App* check = addCheckCommand(app, checkOptions);
+    const CLI::App* format = addFormatCommand(app, formatOptions);
 
     try {
         app.parse(prepared(arguments));
+        if (check->parsed()) {
+            if (checkOptions.files.empty() && !checkOptions.explained) {
+                throw UsageError("FILE is required");
+            }
+            return checkOptions;
+        }
+        if (format->parsed()) {
+            return formatOptions;
+        }
         return options;
     } catch (const CLI::Success& request) {
         std::ostringstream text;
         app.exit(request, text);
         return Information{text.str()};
     } catch (const CLI::ParseError& error) {
-        throw UsageError(asGiven(error.what()));
+        throw UsageError(asGiven(usageErrorText(app, error)));
     }
 }
 

@@ -4,6 +4,8 @@
 #include <variant>
 #include <vector>
 
+#include "cli/CheckOptions.h"
+#include "cli/FormatOptions.h"
 #include "cli/RenderOptions.h"
 
 namespace quorvane::cli {
@@ -14,7 +16,7 @@ struct Information {
 };
 
 /// What the arguments after the program's name ask for. Throws `UsageError`.
-std::variant<RenderOptions, Information> parseCommandLine(
+std::variant<RenderOptions, CheckOptions, FormatOptions, Information> parseCommandLine(
     const std::vector<std::string>& arguments);
 
 /// The form of diagnostics that the arguments ask for, which need not be right otherwise: the form

@@ -263,6 +263,10 @@ int standardErrorColumns() {
     return isKnown ? size.ws_col : usualColumns;
 }
 
+bool standardOutputIsTerminal() {
+    return ::isatty(STDOUT_FILENO) == 1;
+}
+
 void writeToStandardError(std::string_view text) noexcept {
     while (!text.empty()) {
         const ssize_t written = whenReady(STDERR_FILENO, POLLOUT, [text] {

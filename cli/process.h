@@ -19,6 +19,9 @@ void prepareProcess();
 /// Columns of the terminal that standard error is; 0 when it is none.
 int standardErrorColumns();
 
+/// True when standard output is a terminal that understands control sequences.
+bool standardOutputIsTerminal();
+
 /// Writes to standard error, without a buffer. What cannot be written is lost.
 void writeToStandardError(std::string_view text) noexcept;
 

@@ -7,8 +7,10 @@
 
 #include "cli/Diagnostic.h"
 #include "cli/ExitStatus.h"
+#include "cli/FormatJob.h"
 #include "cli/RenderJob.h"
 #include "cli/UsageError.h"
+#include "cli/checkCommand.h"
 #include "cli/commandLine.h"
 #include "cli/diagnosticJson.h"
 #include "cli/diagnosticText.h"
@@ -85,6 +87,12 @@ ExitStatus run(const std::vector<std::string>& arguments, DiagnosticsForm form) 
     const auto request = parseCommandLine(arguments);
     if (const auto* information = std::get_if<Information>(&request)) {
         return show(*information, form);
+    }
+    if (const auto* options = std::get_if<CheckOptions>(&request)) {
+        return check(*options);
+    }
+    if (const auto* options = std::get_if<FormatOptions>(&request)) {
+        return format(*options);
     }
     return render(std::get<RenderOptions>(request));
 }

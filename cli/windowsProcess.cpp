@@ -14,6 +14,8 @@ namespace quorvane::cli {
 
 namespace {
 
+constexpr DWORD understandsControlSequences = 0x0004;
+
 constexpr DWORD largestTransfer = 1U << 30;
 constexpr DWORD shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
@@ -213,7 +215,6 @@ void prepareProcess() {
 }
 
 int standardErrorColumns() {
-    constexpr DWORD understandsControlSequences = 0x0004;
     HANDLE console = GetStdHandle(STD_ERROR_HANDLE);
     DWORD mode = 0;
     CONSOLE_SCREEN_BUFFER_INFO screen{};
@@ -221,6 +222,13 @@ int standardErrorColumns() {
                           SetConsoleMode(console, mode | understandsControlSequences) &&
                           GetConsoleScreenBufferInfo(console, &screen);
     return isUsable ? screen.dwSize.X : 0;
+}
+
+bool standardOutputIsTerminal() {
+    HANDLE console = GetStdHandle(STD_OUTPUT_HANDLE);
+    DWORD mode = 0;
+    return GetConsoleMode(console, &mode) &&
+           SetConsoleMode(console, mode | understandsControlSequences);
 }
 
 void writeToStandardError(std::string_view text) noexcept {

@@ -7,6 +7,12 @@ option(QUORVANE_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" ON)
 option(QUORVANE_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
 option(QUORVANE_COVERAGE "Build so that the tests' coverage can be measured" OFF)
 
+# GCC 12 writes wrong unwinding tables for what it splits off as rarely used: an exception that
+# passes it ends the program.
+if(MINGW AND CMAKE_SIZEOF_VOID_P EQUAL 4)
+    add_compile_options(-fno-reorder-blocks-and-partition)
+endif()
+
 # Settings for our own targets only: they are not part of what a consumer of the library gets.
 add_library(quorvaneSettings INTERFACE)
 target_compile_options(quorvaneSettings INTERFACE

@@ -3,9 +3,10 @@
 #include <windows.h>
 
 #include <array>
-#include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <unordered_map>
+#include <utility>
 
 #include "com/ComPtr.h"
 #include "com/Lock.h"
@@ -26,15 +27,16 @@ public:
         if (!object) {
             return nullptr;
         }
-        Part& part = partOf(object.get());
+        const Native* const key = object.get();
+        Part& part = partOf(key);
         const Lock lock(part.lock);
-        Wrapper*& known = part.wrappers[object.get()];
-        if (known && known->addRefUnlessReleased()) {
-            return ComPtr<Wrapper>::adopt(known);
+        const auto known = part.wrappers.find(key);
+        if (known != part.wrappers.end() && known->second->addRefUnlessReleased()) {
+            return ComPtr<Wrapper>::adopt(known->second);
         }
-        auto made = ComPtr<Wrapper>(new Wrapper(std::move(object)));
-        known = made.get();
-        return made;
+        auto made = std::make_unique<Wrapper>(std::move(object));
+        part.wrappers.insert_or_assign(key, made.get());
+        return ComPtr<Wrapper>(made.release());
     }
 
     /// Forgets a wrapper, unless another one has taken its place.
@@ -57,8 +59,8 @@ private:
     static Part& partOf(const Native* object) {
         // Never destroyed: a host may release its last objects when the process is ending.
         static Parts& parts = *new Parts;
-        return parts[reinterpret_cast<std::uintptr_t>(object) / alignof(std::max_align_t) %
-                     parts.size()];
+        constexpr std::uintptr_t usualDistance = 16;
+        return parts[reinterpret_cast<std::uintptr_t>(object) / usualDistance % parts.size()];
     }
 };
 

@@ -31,6 +31,7 @@ const CreatableClass creatableClasses[] = {
 };
 
 constexpr const wchar_t* programIdVersion = L".1";
+constexpr const wchar_t* userClasses = L"Software\\Classes";
 
 /// A value of the registry; an empty name is the key's own value.
 struct Entry {
@@ -152,15 +153,15 @@ HRESULT unregisterTypeLibrary() {
 }
 
 /// A user's part of the registry may have had no classes before ours.
-void removeWhenEmpty(const wchar_t* name) {
+void removeWhenEmpty(HKEY parent, const wchar_t* name) {
     Key key;
     DWORD keys = 0;
     DWORD values = 0;
-    if (RegOpenKeyExW(HKEY_CLASSES_ROOT, name, 0, KEY_READ, key.out()) == ERROR_SUCCESS &&
+    if (RegOpenKeyExW(parent, name, 0, KEY_READ, key.out()) == ERROR_SUCCESS &&
         RegQueryInfoKeyW(key.get(), nullptr, nullptr, nullptr, &keys, nullptr, nullptr, &values,
                          nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS &&
         keys == 0 && values == 0) {
-        RegDeleteKeyW(HKEY_CLASSES_ROOT, name);
+        RegDeleteKeyW(parent, name);
     }
 }
 
@@ -170,8 +171,8 @@ class UserClasses {
 public:
     UserClasses() {
         isRedirected_ =
-            RegCreateKeyExW(HKEY_CURRENT_USER, L"Software\\Classes", 0, nullptr, 0, KEY_ALL_ACCESS,
-                            nullptr, classes_.out(), nullptr) == ERROR_SUCCESS &&
+            RegCreateKeyExW(HKEY_CURRENT_USER, userClasses, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr,
+                            classes_.out(), nullptr) == ERROR_SUCCESS &&
             RegOverridePredefKey(HKEY_CLASSES_ROOT, classes_.get()) == ERROR_SUCCESS;
         // Makes the system register type libraries there too; systems that do not need it lack it.
         using Enable = void(STDAPICALLTYPE*)();
@@ -188,6 +189,7 @@ public:
         if (isRedirected_) {
             RegOverridePredefKey(HKEY_CLASSES_ROOT, nullptr);
         }
+        removeWhenEmpty(HKEY_CURRENT_USER, userClasses);
     }
 
     bool isRedirected() const noexcept { return isRedirected_; }
@@ -215,7 +217,7 @@ HRESULT removeAll() {
     const HRESULT library = unregisterTypeLibrary();
     const HRESULT classes = unregisterClasses();
     for (const wchar_t* name : {L"CLSID", L"Interface", L"TypeLib"}) {
-        removeWhenEmpty(name);
+        removeWhenEmpty(HKEY_CLASSES_ROOT, name);
     }
     return FAILED(library) ? library : classes;
 }

@@ -70,29 +70,38 @@ if ! command -v make >/dev/null; then
 fi
 commandHeaders=("CLI/CLI.hpp=libcli11-dev" "nlohmann/json.hpp=nlohmann-json3-dev")
 testTools=("ninja=ninja-build" "pkg-config=pkg-config"
-    "gtest/gtest.h=libgtest-dev" "gmock/gmock.h=libgmock-dev")
+    "gtest/gtest.h=libgtest-dev" "gmock/gmock.h=libgmock-dev" "jsonschema=python3-jsonschema")
 
 windowsTools=("perl=perl-base"
     "i686-w64-mingw32-g++-posix=g++-mingw-w64-i686-posix"
     "x86_64-w64-mingw32-g++-posix=g++-mingw-w64-x86-64-posix"
     "i686-w64-mingw32-widl=mingw-w64-tools")
 
-# build PRESET: configures and builds a preset of CMakePresets.json in build/PRESET.
+# build PRESET [OPTION...]: configures and builds a preset of CMakePresets.json in build/PRESET.
 build() {
-    local options=()
+    local preset=$1 options=("${@:2}")
     # A folder that was configured before keeps its generator.
-    if [ ! -e "build/$1/CMakeCache.txt" ] && command -v ninja >/dev/null; then
+    if [ ! -e "build/$preset/CMakeCache.txt" ] && command -v ninja >/dev/null; then
         options+=(-G Ninja)
     fi
     if command -v ccache >/dev/null; then
         options+=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
     fi
     # Chained, since a caller may ask whether it succeeds and so turn "set -e" off.
-    cmake --preset "$1" "${options[@]}" &&
-        cmake --build --preset "$1" --parallel "$(nproc)"
+    cmake --preset "$preset" "${options[@]}" &&
+        cmake --build --preset "$preset" --parallel "$(nproc)"
 }
 
 # runTests PRESET: runs the tests of a preset that was built.
 runTests() {
     ctest --preset "$1" --parallel "$(nproc)"
+}
+
+# summarize PRESET...: what the test runner said of each, once more together.
+summarize() {
+    local preset
+    echo
+    for preset in "$@"; do
+        echo "$preset: $(grep -E '^[0-9]+% tests passed' "build/$preset.log" || echo "did not run")"
+    done
 }

@@ -2,7 +2,11 @@
 
 #include <algorithm>
 #include <cstddef>
+<<<<<<< HEAD
 #include <cstdint>
+=======
+#include <initializer_list>
+>>>>>>> main
 #include <iterator>
 #include <utility>
 
@@ -139,8 +143,33 @@ bool isAmong(const Words& words, const Value& word) {
            std::find(std::begin(words), std::end(words), word.text()) != std::end(words);
 }
 
+<<<<<<< HEAD
 template <class Enumeration, class Pairs>
 std::optional<Enumeration> valueNamed(const Pairs& pairs, const Value& name) {
+=======
+template <class Pairs>
+void fill(CMap& map, const Pairs& pairs) {
+    for (const auto& [name, value] : pairs) {
+        map.add(name, value);
+    }
+}
+
+template <class Pairs>
+std::vector<std::string_view> namesOf(const Pairs& pairs) {
+    std::vector<std::string_view> names;
+    std::transform(std::begin(pairs), std::end(pairs), std::back_inserter(names),
+                   [](const auto& pair) { return pair.first; });
+    return names;
+}
+
+template <class Words>
+std::vector<std::string_view> listed(const Words& words) {
+    return {std::begin(words), std::end(words)};
+}
+
+template <class Enumeration>
+std::optional<Enumeration> valueNamed(const CMap& names, const Value& name) {
+>>>>>>> main
     if (name.isText()) {
         const std::string word = lowerCase(name.text());
         for (const auto& [known, value] : pairs) {
@@ -156,6 +185,12 @@ std::optional<Enumeration> valueNamed(const Pairs& pairs, const Value& name) {
 
 std::string Vocabulary::expand(std::string_view word) const {
     return std::string(longForm(word));
+}
+
+std::string_view Vocabulary::shorten(std::string_view word) const {
+    const auto* found = std::find_if(std::begin(longForms), std::end(longForms),
+                                     [&](const auto& forms) { return forms.second == word; });
+    return found == std::end(longForms) ? word : std::string_view(found->first);
 }
 
 NodeKind Vocabulary::nodeKind(std::string_view name) const {
@@ -215,6 +250,34 @@ std::optional<tBorderWidth> Vocabulary::borderNamed(const Value& name) const {
 
 std::optional<tCellAlign> Vocabulary::alignmentNamed(const Value& name) const {
     return valueNamed<tCellAlign>(alignments, name);
+}
+
+std::vector<std::string_view> Vocabulary::keysOf(NodeKind kind) {
+    switch (kind) {
+        case NodeKind::Row:
+            return listed(rowKeys);
+        case NodeKind::Cell:
+            return listed(cellKeys);
+        case NodeKind::Para:
+            return listed(paraKeys);
+        case NodeKind::Doc:
+            return listed(docKeys);
+        case NodeKind::None:
+            break;
+    }
+    return {};
+}
+
+std::vector<std::string_view> Vocabulary::colorNames() {
+    return namesOf(colors);
+}
+
+std::vector<std::string_view> Vocabulary::borderNames() {
+    return namesOf(borders);
+}
+
+std::vector<std::string_view> Vocabulary::alignmentNames() {
+    return namesOf(alignments);
 }
 
 }  // namespace quorvane

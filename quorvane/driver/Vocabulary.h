@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "quorvane/docmodel/enumerations.h"
 #include "quorvane/driver/DescriptionNode.h"
@@ -16,6 +17,9 @@ class Vocabulary {
 public:
     /// The long form of a short name or key; any other word as it stands.
     std::string expand(std::string_view word) const;
+
+    /// The short form of a long name or key; any other word as it stands.
+    std::string_view shorten(std::string_view word) const;
 
     /// The kind of node that a name stands for, in any case, long or short; `None` for any other.
     NodeKind nodeKind(std::string_view name) const;
@@ -31,6 +35,12 @@ public:
     std::optional<tColorIndex> colorNamed(const Value& name) const;
     std::optional<tBorderWidth> borderNamed(const Value& name) const;
     std::optional<tCellAlign> alignmentNamed(const Value& name) const;
+
+    /// The words themselves, the keys in their long forms; `None` has no keys.
+    static std::vector<std::string_view> keysOf(NodeKind kind);
+    static std::vector<std::string_view> colorNames();
+    static std::vector<std::string_view> borderNames();
+    static std::vector<std::string_view> alignmentNames();
 };
 
 }  // namespace quorvane

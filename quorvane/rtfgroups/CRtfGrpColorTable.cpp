@@ -1,5 +1,9 @@
 #include "quorvane/rtfgroups/CRtfGrpColorTable.h"
 
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+
 namespace quorvane {
 
 namespace {
@@ -92,6 +96,15 @@ std::int32_t CRtfGrpColorTable::colorNumber(std::string_view dashedName) {
         }
     }
     return 0;
+}
+
+std::string CRtfGrpColorTable::colorName(std::int32_t number) {
+    if (number < 1 || static_cast<std::size_t>(number) > std::size(colors)) {
+        return {};
+    }
+    std::string name(colors[number - 1].name);
+    std::replace(name.begin(), name.end(), ' ', '-');
+    return name;
 }
 
 void CRtfGrpColorTable::render(std::string& rtf) const {

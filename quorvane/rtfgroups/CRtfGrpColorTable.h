@@ -14,6 +14,10 @@ public:
     /// ("navy-blue" is 24); 0 for "none" and any other word. Case counts.
     static std::int32_t colorNumber(std::string_view dashedName);
 
+    /// Name of the colour of that number, with "-" in place of its blanks ("navy-blue" for 24);
+    /// empty for 0 and for a number that the table does not have.
+    static std::string colorName(std::int32_t number);
+
     /// Appends the group's text.
     void render(std::string& rtf) const;
 };

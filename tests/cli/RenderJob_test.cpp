@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "cli/UsageError.h"
+#include "cli/causeText.h"
 #include "quorvane/driver/CRtfDriver.h"
 #include "quorvane/driver/driverErrors.h"
 #include "tests/cli/TemporaryFolder.h"
@@ -166,6 +167,36 @@ TEST_F(RenderJobTest, TellsWhyADescriptionCannotBeRead) {
     EXPECT_EQ(told[0].error.cause->number, 53);
 }
 
+TEST_F(RenderJobTest, TellsThatADescriptionIsAFolder) {
+    std::filesystem::create_directory(folder / "a.rtfspec");
+    options.descriptions = {folder / "a.rtfspec"};
+    EXPECT_EQ(run(), ExitStatus::Failure);
+    ASSERT_EQ(told.size(), 1U);
+    EXPECT_EQ(causeText(told[0].error), "Path/File access error (Is a directory)");
+}
+
+TEST_F(RenderJobTest, TellsThatADescriptionIsInAFolderThatIsClosed) {
+    std::filesystem::create_directory(folder / "closed");
+    options.descriptions = {folder.write("closed/a.rtfspec", descriptionOf("Text"))};
+    std::filesystem::permissions(folder.path(), std::filesystem::perms::all);
+    std::filesystem::permissions(folder / "closed", std::filesystem::perms::none);
+    {
+        const WithoutPrivileges guard;
+        EXPECT_EQ(run(), ExitStatus::Failure);
+    }
+    std::filesystem::permissions(folder / "closed", std::filesystem::perms::owner_all);
+    ASSERT_EQ(told.size(), 1U);
+    EXPECT_EQ(causeText(told[0].error), "Path/File access error (Permission denied)");
+}
+
+TEST_F(RenderJobTest, HasNothingToAddToTheRefusalOfADevice) {
+    options.descriptions = {"/dev/zero"};
+    options.output = folder / "a.rtf";
+    EXPECT_EQ(run(), ExitStatus::Failure);
+    ASSERT_EQ(told.size(), 1U);
+    EXPECT_EQ(causeText(told[0].error), "Path/File access error");
+}
+
 TEST_F(RenderJobTest, WritesNothingForADescriptionThatCannotBeReadEvenWhenItKeepsGoing) {
     options.descriptions = {folder / "missing.rtfspec"};
     options.keepGoing = true;
@@ -254,6 +285,7 @@ TEST_F(RenderJobTest, TellsThatAStylesheetMayNotBeRead) {
     EXPECT_EQ(run(), ExitStatus::Failure);
     ASSERT_EQ(told.size(), 1U);
     EXPECT_EQ(told[0].error.number, 75);
+    EXPECT_EQ(causeText(told[0].error), "Permission denied");
 }
 
 TEST_F(RenderJobTest, RefusesAStylesheetWithAnotherExtension) {

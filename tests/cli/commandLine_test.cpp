@@ -120,7 +120,8 @@ TEST(CommandLine, ShowsTheVersionWithAndWithoutASubcommand) {
 
 TEST(CommandLine, NeedsASubcommand) {
     EXPECT_EQ(usageErrorOf({}), "A subcommand is required");
-    EXPECT_EQ(usageErrorOf({"draw"}), "A subcommand is required");
+    EXPECT_EQ(usageErrorOf({"draw", "a.rtfspec"}), "draw is not a subcommand; render is");
+    EXPECT_EQ(usageErrorOf({"[a].rtfspec"}), "[a].rtfspec is not a subcommand; render is");
 }
 
 TEST(CommandLine, NeedsADescription) {
@@ -130,6 +131,14 @@ TEST(CommandLine, NeedsADescription) {
 TEST(CommandLine, RefusesAnOptionThatItDoesNotKnow) {
     EXPECT_THAT(usageErrorOf({"render", "--colour", "a"}),
                 AllOf(HasSubstr("not expected"), HasSubstr("--colour")));
+    EXPECT_EQ(usageErrorOf({"--colour"}), "The following argument was not expected: --colour");
+}
+
+TEST(CommandLine, TellsAnOptionThatItDoesNotKnowBeforeAMissingDescription) {
+    EXPECT_EQ(usageErrorOf({"render", "--colour"}),
+              "The following argument was not expected: --colour");
+    EXPECT_EQ(usageErrorOf({"render", "-a.rtfspec"}),
+              "The following argument was not expected: -a.rtfspec");
 }
 
 TEST(CommandLine, RefusesAnOptionWithoutItsValue) {

@@ -132,7 +132,7 @@ ProgramResult runProgram(const ProgramStart& start) {
         throw std::length_error("more input than a pipe holds");
     }
     Channel input = pipeChannel();
-    Channel output = pipeChannel();
+    Channel output = start.outputOnTerminal ? terminalChannel() : pipeChannel();
     Channel errors = start.errorsOnTerminal ? terminalChannel() : pipeChannel();
     checked(
         static_cast<int>(::write(input.writeEnd.number(), start.input.data(), start.input.size())),

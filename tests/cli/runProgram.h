@@ -24,6 +24,8 @@ struct ProgramStart {
     std::filesystem::path folder = std::filesystem::current_path();
     /// Makes standard error a terminal of 80 columns instead of a pipe.
     bool errorsOnTerminal = false;
+    /// Makes standard output such a terminal.
+    bool outputOnTerminal = false;
     /// Runs in the new process before the program does.
     std::function<void()> prepare{};
 };

@@ -10,8 +10,8 @@ export PKG_CONFIG_PATH
 
 mkdir -p "$output"
 pkg-config --atleast-version=1.0 quorvane
-# The flags are a list of words.
-# shellcheck disable=SC2046
-"$compiler" -std=c++20 "$(dirname "$0")/main.cpp" -o "$output/consumer" \
-    $(pkg-config --cflags --libs quorvane)
+# The flags come quoted for the shell: a folder's name may hold blanks.
+flags=$(pkg-config --cflags --libs quorvane)
+eval "set -- $flags"
+"$compiler" -std=c++20 "$(dirname "$0")/main.cpp" -o "$output/consumer" "$@"
 "$output/consumer"

@@ -1,0 +1,147 @@
+#include "cli/CheckJob.h"
+
+#include <fstream>
+#include <istream>
+#include <utility>
+
+#include "cli/RenderOptions.h"
+#include "cli/process.h"
+#include "cli/utf8Path.h"
+#include "quorvane/diagnostics/DescriptionCheck.h"
+#include "quorvane/diagnostics/RtfCheck.h"
+#include "quorvane/diagnostics/StyleSheetCheck.h"
+#include "quorvane/diagnostics/languageOf.h"
+#include "quorvane/support/codePage1252.h"
+
+namespace quorvane::cli {
+
+namespace {
+
+constexpr std::size_t pieceLength = 1024 * 1024;
+
+/// The next bytes of a stream; empty at its end.
+std::string readPiece(std::istream& stream) {
+    std::string piece(pieceLength, '\0');
+    stream.read(piece.data(), static_cast<std::streamsize>(piece.size()));
+    piece.resize(static_cast<std::size_t>(stream.gcount()));
+    return piece;
+}
+
+/// The window of a file on the disk, which is opened anew for it.
+FileWindow windowOfFile(const std::string& file) {
+    return [file](std::int64_t offset, std::int64_t length) {
+        std::ifstream stream(pathFromUtf8(file), std::ios::binary);
+        std::string bytes(static_cast<std::size_t>(length), '\0');
+        stream.seekg(offset);
+        stream.read(bytes.data(), length);
+        bytes.resize(static_cast<std::size_t>(stream.gcount()));
+        return bytes;
+    };
+}
+
+}  // namespace
+
+CheckJob::CheckJob(CheckOptions options, FindingSink find, DiagnosticSink fail, Platform& platform)
+    : options_(std::move(options)),
+      find_(std::move(find)),
+      fail_(std::move(fail)),
+      platform_(platform) {}
+
+ExitStatus CheckJob::run() {
+    if (options_.styleSheet) {
+        checkStyles(*options_.styleSheet);
+    }
+    for (const std::string& file : options_.files) {
+        if (file != options_.styleSheet) {
+            checkFile(file);
+        }
+    }
+    if (styles_ && styles_->areLoaded() && checkedDescriptions_) {
+        tellAll(*options_.styleSheet, findUnusedStyles(*styles_),
+                codePage1252FromUtf8(styles_->text()));
+    }
+    return hasFailed_     ? ExitStatus::Failure
+           : hasErrors_   ? ExitStatus::ContentErrors
+           : hasWarnings_ ? ExitStatus::Warnings
+                          : ExitStatus::Success;
+}
+
+void CheckJob::checkStyles(const std::string& file) {
+    try {
+        const std::string bytes = platform_.readFile(file);
+        styles_.emplace(utf8FromCodePage1252(bytes));
+        tellAll(file, checkStyleSheet(styles_->text()), bytes);
+    } catch (const RtfError& error) {
+        hasFailed_ = true;
+        fail_({DiagnosticKind::Raised, file, error});
+    }
+}
+
+void CheckJob::checkFile(const std::string& file) {
+    try {
+        if (file == standardStream) {
+            checkText(file, readStandardInput());
+            return;
+        }
+        // The file of an RTF document may be larger than the memory. A file that is something else
+        // is read by the platform, which also tells why one cannot be read.
+        std::ifstream stream(pathFromUtf8(file), std::ios::binary);
+        const std::string beginning = stream ? readPiece(stream) : std::string();
+        if (languageOf(beginning) == CheckedLanguage::Rtf) {
+            checkRtfFile(file, stream, beginning);
+        } else {
+            stream.close();
+            checkText(file, platform_.readFile(file));
+        }
+    } catch (const RtfError& error) {
+        hasFailed_ = true;
+        fail_({DiagnosticKind::Raised, file, error});
+    }
+}
+
+void CheckJob::checkText(const std::string& file, std::string_view bytes) {
+    switch (languageOf(bytes)) {
+        case CheckedLanguage::Rtf:
+            tellAll(file, checkRtf(bytes), bytes);
+            break;
+        case CheckedLanguage::StyleSheet:
+            tellAll(file, checkStyleSheet(utf8FromCodePage1252(bytes)), bytes);
+            break;
+        case CheckedLanguage::Description:
+            checkedDescriptions_ = true;
+            tellAll(file,
+                    checkDescription(utf8FromCodePage1252(bytes), styles_ ? &*styles_ : nullptr),
+                    bytes);
+            break;
+    }
+}
+
+void CheckJob::checkRtfFile(const std::string& file, std::istream& stream,
+                            const std::string& beginning) {
+    const FileWindow window = windowOfFile(file);
+    RtfCheck check([&](const quorvane::Diagnostic& finding) { tell(file, finding, window); });
+    check.feed(beginning);
+    for (std::string piece = readPiece(stream); !piece.empty(); piece = readPiece(stream)) {
+        check.feed(piece);
+    }
+    if (stream.bad()) {
+        raise(RunTimeError::DeviceIoError);
+    }
+    check.finish();
+}
+
+void CheckJob::tell(const std::string& file, const quorvane::Diagnostic& finding,
+                    const FileWindow& window) {
+    (finding.severity == Severity::Error ? hasErrors_ : hasWarnings_) = true;
+    find_(file, finding, window);
+}
+
+void CheckJob::tellAll(const std::string& file, const std::vector<quorvane::Diagnostic>& findings,
+                       std::string_view bytes) {
+    const FileWindow window = windowOf(bytes);
+    for (const quorvane::Diagnostic& finding : findings) {
+        tell(file, finding, window);
+    }
+}
+
+}  // namespace quorvane::cli

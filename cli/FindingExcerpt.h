@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "quorvane/diagnostics/Diagnostic.h"
+
+namespace quorvane::cli {
+
+/// The bytes of a file (Windows-1252 or RTF) from an offset on, so many of them at most.
+using FileWindow = std::function<std::string(std::int64_t offset, std::int64_t length)>;
+
+/// The part of a line around a place, in UTF-8 and with blanks for control characters.
+struct FindingExcerpt {
+    std::string before;
+    std::string marked;
+    std::string after;
+};
+
+/// Cuts the excerpt out of the file. Of a long line it takes the neighbourhood of the place.
+FindingExcerpt excerptAt(const Place& place, const FileWindow& window);
+
+/// The window of a file that is held as a whole; the bytes must outlive it.
+FileWindow windowOf(std::string_view bytes);
+
+}  // namespace quorvane::cli

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "cli/Diagnostic.h"
+#include "cli/ExitStatus.h"
+#include "cli/FormatOptions.h"
+#include "quorvane/support/Platform.h"
+
+namespace quorvane::cli {
+
+/// Takes a text for standard output.
+using TextSink = std::function<void(const std::string&)>;
+
+/// What `quorvane format` does: puts descriptions and stylesheets into their canonical form, each
+/// in its place, and what comes from standard input on standard output.
+class FormatJob {
+public:
+    /// The platform, from which files are read, must outlive the job.
+    FormatJob(FormatOptions options, TextSink write, DiagnosticSink fail,
+              Platform& platform = systemPlatform());
+
+    /// `ContentErrors` when only to check, and a file is not in its canonical form.
+    ExitStatus run();
+
+private:
+    ExitStatus format(const std::string& file);
+
+    FormatOptions options_;
+    TextSink write_;
+    DiagnosticSink fail_;
+    Platform& platform_;
+};
+
+/// Runs `quorvane format` on the standard streams.
+ExitStatus format(const FormatOptions& options);
+
+}  // namespace quorvane::cli

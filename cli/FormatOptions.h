@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "quorvane/formatting/formatDescription.h"
+
+namespace quorvane::cli {
+
+/// What `quorvane format` was asked to do. Paths are as they were given; "-" is standard input.
+struct FormatOptions {
+    std::vector<std::string> files;
+    NameForm names = NameForm::Kept;
+    /// Only name the files that are not in their canonical form.
+    bool check = false;
+};
+
+}  // namespace quorvane::cli

@@ -1,0 +1,56 @@
+#include "cli/findingText.h"
+
+#include "cli/oneLine.h"
+#include "quorvane/diagnostics/diagnosticRules.h"
+#include "quorvane/support/trimming.h"
+#include "quorvane/support/utf8.h"
+
+namespace quorvane::cli {
+
+namespace {
+
+constexpr std::string_view bold = "\x1b[1m";
+constexpr std::string_view red = "\x1b[1;31m";
+constexpr std::string_view magenta = "\x1b[1;35m";
+constexpr std::string_view green = "\x1b[1;32m";
+constexpr std::string_view indentation = "    ";
+
+std::string colored(std::string_view color, const std::string& text, Colors colors) {
+    return colors == Colors::Off ? text : std::string(color) + text + "\x1b[0m";
+}
+
+std::string caretLine(const FindingExcerpt& excerpt, Colors colors) {
+    const std::size_t marked = characterCount(excerpt.marked);
+    const std::string carets = "^" + std::string(marked > 1 ? marked - 1 : 0, '~');
+    return std::string(characterCount(excerpt.before), ' ') + colored(green, carets, colors);
+}
+
+}  // namespace
+
+std::string findingText(const std::string& file, const quorvane::Diagnostic& finding,
+                        const FindingExcerpt& excerpt, Colors colors) {
+    const Place& place = finding.place;
+    const std::string severity(severityName(finding.severity));
+    std::string text =
+        colored(bold,
+                oneLine(file) + ":" + std::to_string(place.line) + ":" +
+                    std::to_string(place.column) + ":",
+                colors) +
+        " " + colored(finding.severity == Severity::Error ? red : magenta, severity + ":", colors) +
+        " " + std::string(TrimEx(oneLine(finding.message))) + " [" +
+        std::string(diagnosticRule(finding.id).identifier) + "]\n";
+    const std::string line = excerpt.before + excerpt.marked + excerpt.after;
+    if (!trimWhitespace(line).empty()) {
+        text += indentation;
+        text += line + "\n";
+        text += indentation;
+        text += caretLine(excerpt, colors) + "\n";
+    }
+    if (!finding.hint.empty()) {
+        text += indentation;
+        text += "hint: " + oneLine(finding.hint) + "\n";
+    }
+    return text;
+}
+
+}  // namespace quorvane::cli

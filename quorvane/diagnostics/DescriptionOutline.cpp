@@ -1,0 +1,322 @@
+#include "quorvane/diagnostics/DescriptionOutline.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <unordered_map>
+#include <utility>
+
+#include "quorvane/diagnostics/syntaxGuess.h"
+#include "quorvane/driver/lineClassifier.h"
+#include "quorvane/support/numberText.h"
+#include "quorvane/support/trimming.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr std::int32_t lastNumbers[] = {1999, 2999, 3999, 999};
+constexpr std::string_view kindsInMessages[] = {"row", "cell", "para", "doc"};
+
+std::size_t code(NodeKind kind) {
+    return static_cast<std::size_t>(kind);
+}
+
+/// A line that says something, or a closer of a row that the repair puts in front of it.
+struct Line {
+    std::string_view text;
+    bool isInserted = false;
+};
+
+class OutlineReader {
+public:
+    OutlineReader(const SourceText& source, const Vocabulary& vocabulary, DiagnosticEngine& engine)
+        : source_(source), vocabulary_(vocabulary), engine_(engine) {}
+
+    DescriptionOutline read() {
+        const std::vector<std::string_view> written = writtenLines();
+        checkFrame(written);
+        lines_ = repaired(written);
+        OutlineNode& root = outline_.nodes.emplace_back();
+        root.kind = NodeKind::Doc;
+        root.isOutside = true;
+        levels_.push_back({&root, {}});
+        while (next_ < lines_.size() && !levels_.empty()) {
+            readLine(lines_[next_]);
+        }
+        if (next_ < lines_.size()) {
+            reportOutside(lines_[next_ > 0 ? next_ : 0].text);
+        }
+        if (!outline_.doc && startsAsDocument_) {
+            engine_.report(DiagnosticId::NoDocument, source_.placeOf(written.front()));
+        }
+        return std::move(outline_);
+    }
+
+private:
+    /// A node that is open, with the lines on which its keys stand.
+    struct Level {
+        OutlineNode* node;
+        std::unordered_map<std::string, std::string_view> keys;
+    };
+
+    std::vector<std::string_view> writtenLines() const {
+        std::vector<std::string_view> lines;
+        for (const SourceText::Line& line : source_.lines()) {
+            const std::string_view text =
+                trimWhitespace(source_.text().substr(line.start, line.end - line.start));
+            if (!text.empty() && text.front() != ';') {
+                lines.push_back(text);
+            }
+        }
+        return lines;
+    }
+
+    bool holds(std::string_view part) const {
+        return source_.text().find(part) != std::string_view::npos;
+    }
+
+    /// What a driver looks at before it reads lines.
+    void checkFrame(const std::vector<std::string_view>& lines) {
+        const std::string_view first = lines.empty() ? source_.text().substr(0, 0) : lines.front();
+        const std::string_view last = lines.empty() ? first : lines.back();
+        if (!holds("(doc")) {
+            engine_.report(DiagnosticId::WrongFileType, source_.placeOf(first), {},
+                           "a description begins with (doc and ends with doc)");
+            return;
+        }
+        if (!holds("(r") && !holds("(c")) {
+            lacksElements_ = true;
+            engine_.report(DiagnosticId::MissingElement, source_.placeOf(first));
+        }
+        startsAsDocument_ = first.starts_with("(doc");
+        if (!startsAsDocument_) {
+            engine_.report(DiagnosticId::WrongRoot, source_.placeOf(first));
+        } else if (!last.starts_with("doc)")) {
+            engine_.report(DiagnosticId::WrongRoot, source_.placeOf(last), {},
+                           "the last line must be doc)");
+        }
+    }
+
+    std::vector<Line> repaired(const std::vector<std::string_view>& written) {
+        std::vector<Line> lines;
+        for (std::size_t i = 0; i < written.size(); ++i) {
+            const bool isBeforeRow = i + 1 < written.size() && written[i + 1] == "(r";
+            if (isBeforeRow && written[i] == "(r") {
+                engine_.report(DiagnosticId::RepeatedOpener, source_.placeOf(written[i]));
+                continue;
+            }
+            lines.push_back({written[i]});
+            if (isBeforeRow && written[i] == "c)") {
+                engine_.report(DiagnosticId::UnclosedRow, source_.placeOf(written[i + 1]));
+                lines.push_back({written[i + 1], true});
+            }
+        }
+        return lines;
+    }
+
+    void readLine(const Line& line) {
+        if (line.isInserted) {
+            if (levels_.back().node->kind == NodeKind::Row) {
+                levels_.pop_back();
+            }
+            ++next_;
+        } else if (isLeaf(line.text)) {
+            addLeaf(line.text, leafKey(line.text), leafValue(line.text), false);
+            ++next_;
+        } else if (const NodeKind opened = openedKind(line.text, vocabulary_);
+                   opened != NodeKind::None) {
+            open(opened, line.text);
+        } else if (const NodeKind closed = closedKind(line.text, vocabulary_);
+                   closed != NodeKind::None) {
+            close(closed, line.text);
+            ++next_;
+        } else {
+            readWrongLine(line.text);
+        }
+    }
+
+    void addLeaf(std::string_view line, std::string_view writtenKey, std::string_view text,
+                 bool isFaulty) {
+        Level& level = levels_.back();
+        OutlineLeaf leaf{vocabulary_.expand(writtenKey), writtenKey, text, readNumber(text),
+                         isFaulty};
+        const auto [known, isNew] = level.keys.emplace(leaf.key, line);
+        if (!isNew) {
+            engine_.report(DiagnosticId::DuplicateLeaf, source_.placeOf(line), {},
+                           leaf.key + " stands on line " +
+                               std::to_string(source_.placeOf(known->second).line) + " already");
+            return;
+        }
+        reportOutside(line);
+        level.node->leaves.push_back(std::move(leaf));
+    }
+
+    void open(NodeKind kind, std::string_view line) {
+        // As a driver counts: an opener that a level hands back is counted once more by the next.
+        ++openerCount_;
+        const std::int32_t number = numbers_[code(kind)] + openerCount_;
+        if (number > lastNumbers[code(kind)] && !isOverLimit_[code(kind)]) {
+            isOverLimit_[code(kind)] = true;
+            engine_.report(DiagnosticId::TooManyNodes, source_.placeOf(line),
+                           {kindsInMessages[code(kind)]});
+        }
+        OutlineNode& parent = *levels_.back().node;
+        if (kind != NodeKind::Doc && !nests(parent.kind, kind)) {
+            if (closedByOpener_.empty()) {
+                closedByOpener_ = nodeKindName(parent.kind);
+            }
+            levels_.pop_back();
+            return;
+        }
+        if (!closedByOpener_.empty()) {
+            engine_.report(DiagnosticId::ClosedByOpener, source_.placeOf(line),
+                           {line.substr(0, line.find_first_of(" \t;")), closedByOpener_});
+            closedByOpener_ = {};
+        }
+        numbers_[code(kind)] = number;
+        addNode(parent, kind, number, line);
+        openerCount_ = 0;
+        ++next_;
+    }
+
+    void addNode(OutlineNode& parent, NodeKind kind, std::int32_t number, std::string_view line) {
+        OutlineNode& node = outline_.nodes.emplace_back();
+        node.kind = kind;
+        node.number = number;
+        node.line = line;
+        node.parent = &parent;
+        node.isFaulty = isOverLimit_[code(kind)];
+        node.isOutside = parent.isOutside;
+        parent.children.push_back(&node);
+        levels_.push_back({&node, {}});
+        if (kind == NodeKind::Doc && &parent == &outline_.nodes.front() && !outline_.doc) {
+            outline_.doc = &node;
+            node.isOutside = false;
+        } else {
+            reportOutside(line);
+        }
+    }
+
+    void close(NodeKind kind, std::string_view line) {
+        const NodeKind expected = levels_.back().node->kind;
+        if (kind == expected) {
+            levels_.pop_back();
+            return;
+        }
+        const auto opened = std::find_if(levels_.rbegin(), levels_.rend(), [&](const Level& level) {
+            return level.node->kind == kind;
+        });
+        const bool isRoot = opened == levels_.rend() || opened + 1 == levels_.rend();
+        std::string hint;
+        if (!isRoot) {
+            hint = "the " + std::string(nodeKindName(expected)) + " of line " +
+                   std::to_string(source_.placeOf(levels_.back().node->line).line) +
+                   " is not closed";
+        } else {
+            hint = "no " + std::string(nodeKindName(kind)) + " is open";
+        }
+        engine_.report(DiagnosticId::WrongCloser, source_.placeOf(line), {line}, std::move(hint));
+        if (!isRoot) {
+            levels_.erase(opened.base() - 1, levels_.end());
+        }
+    }
+
+    void readWrongLine(std::string_view line) {
+        const SyntaxGuess guess = guessLine(line, vocabulary_);
+        engine_.report(DiagnosticId::WrongSyntax, source_.placeOf(line), {line}, guess.hint);
+        ++next_;
+        switch (guess.meant) {
+            case SyntaxGuess::Meant::Opener:
+                openMeant(guess.kind, line);
+                break;
+            case SyntaxGuess::Meant::Closer:
+                if (guess.kind == levels_.back().node->kind && levels_.size() > 1) {
+                    levels_.pop_back();
+                }
+                break;
+            case SyntaxGuess::Meant::Leaf:
+                addLeaf(line, guess.key, guess.value, true);
+                break;
+            case SyntaxGuess::Meant::LeafWithoutEnd:
+                addLeaf(line, guess.key, guess.value, true);
+                passOverRestOfText();
+                break;
+            case SyntaxGuess::Meant::Nothing:
+                break;
+        }
+    }
+
+    /// Opens a node for a line that was wrong, without its consequences for the numbers.
+    void openMeant(NodeKind kind, std::string_view line) {
+        while (levels_.size() > 1 && kind != NodeKind::Doc &&
+               !nests(levels_.back().node->kind, kind)) {
+            levels_.pop_back();
+        }
+        OutlineNode& parent = *levels_.back().node;
+        if (kind == NodeKind::Doc ? levels_.size() == 1 : nests(parent.kind, kind)) {
+            addNode(parent, kind, ++numbers_[code(kind)], line);
+        }
+    }
+
+    /// The lines on which a text goes on that was not ended on its own.
+    void passOverRestOfText() {
+        while (next_ < lines_.size()) {
+            const std::string_view line = lines_[next_].text;
+            if (lines_[next_].isInserted || isLeaf(line) || line.front() == '(' ||
+                openedKind(line, vocabulary_) != NodeKind::None ||
+                closedKind(line, vocabulary_) != NodeKind::None) {
+                return;
+            }
+            ++next_;
+            if (line.find(')') != std::string_view::npos) {
+                return;
+            }
+        }
+    }
+
+    /// Tells once that something stands where nothing is read, behind the document.
+    void reportOutside(std::string_view line) {
+        const bool isOutside = levels_.empty() || levels_.back().node->isOutside;
+        if (outline_.doc && isOutside && !toldOutside_) {
+            toldOutside_ = true;
+            engine_.report(DiagnosticId::OutsideDocument, source_.placeOf(line));
+        }
+    }
+
+    const SourceText& source_;
+    const Vocabulary& vocabulary_;
+    DiagnosticEngine& engine_;
+    DescriptionOutline outline_;
+    std::vector<Line> lines_;
+    std::size_t next_ = 0;
+    std::vector<Level> levels_;
+    std::array<std::int32_t, 4> numbers_{1000, 2000, 3000, 0};
+    std::int32_t openerCount_ = 0;
+    std::array<bool, 4> isOverLimit_{};
+    // The first of the nodes that the current opener has closed; empty for none.
+    std::string_view closedByOpener_;
+    bool startsAsDocument_ = false;
+    bool lacksElements_ = false;
+    bool toldOutside_ = false;
+};
+
+}  // namespace
+
+const OutlineLeaf* OutlineNode::find(std::string_view key) const {
+    const auto found = std::find_if(leaves.begin(), leaves.end(),
+                                    [&](const OutlineLeaf& leaf) { return leaf.key == key; });
+    return found == leaves.end() ? nullptr : &*found;
+}
+
+DescriptionOutline readOutline(const SourceText& source, const Vocabulary& vocabulary,
+                               DiagnosticEngine& engine) {
+    return OutlineReader(source, vocabulary, engine).read();
+}
+
+std::string_view nodeKindName(NodeKind kind) {
+    constexpr std::string_view names[] = {"row", "cell", "paragraph", "document", "nothing"};
+    return names[code(kind)];
+}
+
+}  // namespace quorvane

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+namespace quorvane {
+
+/// Identifies a kind of finding: one enumerator for each row of the table of diagnostics.
+enum class DiagnosticId {
+#define QUORVANE_DIAGNOSTIC(id, ...) id,
+#include "quorvane/diagnostics/diagnosticTable.h"
+};
+
+/// How much a finding weighs. An error is what the library rejects or a reader cannot make sense
+/// of; a warning is what is accepted and does not do what its author wants.
+enum class Severity { Error, Warning };
+
+/// Where something stands in a text. Lines and columns begin with 1 and count characters; in a file
+/// in Windows-1252 or RTF a character is a byte, and the offset is the byte offset.
+struct Place {
+    std::int64_t line = 1;
+    std::int64_t column = 1;
+    /// Characters from the column on, on the same line; 0 for a place between two.
+    std::int64_t length = 0;
+    /// Characters before it, from the beginning of the text.
+    std::int64_t offset = 0;
+};
+
+/// One finding about a text.
+struct Diagnostic {
+    DiagnosticId id{};
+    Severity severity = Severity::Error;
+    Place place;
+    /// What is wrong. A text of the library stands here as it is, its line breaks included.
+    std::string message;
+    /// What could be done about it; empty when nothing is known.
+    std::string hint;
+};
+
+/// Takes findings one after the other.
+using DiagnosticReceiver = std::function<void(Diagnostic)>;
+
+}  // namespace quorvane

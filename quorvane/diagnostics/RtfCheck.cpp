@@ -1,0 +1,461 @@
+#include "quorvane/diagnostics/RtfCheck.h"
+
+#include <algorithm>
+#include <charconv>
+#include <iterator>
+#include <utility>
+
+#include "quorvane/diagnostics/rtfWords.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr std::size_t deepestGroups = 1000;
+// Control words and numbers are cut to these lengths: longer ones are none.
+constexpr std::size_t longestWord = 64;
+constexpr std::size_t longestNumber = 15;
+
+bool isLetter(unsigned char byte) {
+    return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
+}
+
+bool isDigit(unsigned char byte) {
+    return byte >= '0' && byte <= '9';
+}
+
+bool isHexDigit(unsigned char byte) {
+    return isDigit(byte) || (byte >= 'a' && byte <= 'f') || (byte >= 'A' && byte <= 'F');
+}
+
+/// The bytes of a text that change nothing: all but braces, backslashes, line ends and ";", which
+/// ends the entries of the color table.
+constexpr std::array<bool, 256> plainBytes = [] {
+    std::array<bool, 256> plain{};
+    plain.fill(true);
+    for (const char special : {'{', '}', '\\', '\r', '\n', ';'}) {
+        plain[static_cast<unsigned char>(special)] = false;
+    }
+    return plain;
+}();
+
+template <std::size_t Count>
+bool isAmong(std::string_view word, const std::string_view (&words)[Count]) {
+    return std::find(std::begin(words), std::end(words), word) != std::end(words);
+}
+
+constexpr std::string_view styleWords[] = {"s", "cs", "ds", "ts"};
+constexpr std::string_view colorWords[] = {
+    "cf",      "cb",     "chcbpat",   "chcfpat", "cbpat",   "cfpat",   "clcbpat",
+    "clcfpat", "brdrcf", "highlight", "ulc",     "trcbpat", "trcfpat",
+};
+// Destinations whose text is part of the text around them.
+constexpr std::string_view bodyDestinations[] = {"rtf", "field", "fldrslt", "result"};
+
+}  // namespace
+
+void RtfCheck::feed(std::string_view bytes) {
+    const auto* at = reinterpret_cast<const unsigned char*>(bytes.data());
+    const auto* const end = at + bytes.size();
+    while (at != end) {
+        if (state_ == State::Text && !groups_.back().isFresh && plainBytes[*at]) {
+            const auto* const special =
+                std::find_if_not(at, end, [](unsigned char byte) { return plainBytes[byte]; });
+            offset_ += special - at;
+            at = special;
+            lastWasReturn_ = false;
+        } else {
+            takeByte(*at);
+            endLine(*at);
+            ++at;
+        }
+    }
+}
+
+void RtfCheck::finish() {
+    if (endsWord(' ')) {
+        applyWord();
+    }
+    switch (state_) {
+        case State::Start:
+            if (!toldStart_) {
+                engine_.report(DiagnosticId::NotRtf, here(0));
+            }
+            return;
+        case State::Backslash:
+            engine_.report(DiagnosticId::CutOff, wordBegin_, {"a control word"});
+            break;
+        case State::FirstHexDigit:
+        case State::SecondHexDigit:
+            engine_.report(DiagnosticId::BadHexEscape, wordBegin_);
+            break;
+        case State::Binary:
+            engine_.report(DiagnosticId::CutOff, wordBegin_, {"its binary data"});
+            return;
+        default:
+            break;
+    }
+    if (!groups_.empty()) {
+        engine_.report(DiagnosticId::UnclosedGroup, groups_.back().begin);
+        endDocument();
+    }
+}
+
+Place RtfCheck::here(std::int64_t length) const {
+    return {line_, offset_ - lineBegin_ + 1, length, offset_};
+}
+
+Place RtfCheck::wordPlace() const {
+    Place place = wordBegin_;
+    place.length = static_cast<std::int64_t>(1 + word_.size() + number_.size());
+    return place;
+}
+
+void RtfCheck::endLine(unsigned char byte) {
+    ++offset_;
+    if (byte == '\r' || byte == '\n') {
+        line_ += byte == '\n' && lastWasReturn_ ? 0 : 1;
+        lineBegin_ = offset_;
+    }
+    lastWasReturn_ = byte == '\r';
+}
+
+/// True when a control word is at hand that does not go on with the byte.
+bool RtfCheck::endsWord(unsigned char byte) {
+    if (state_ == State::Word) {
+        if (isLetter(byte)) {
+            if (word_.size() < longestWord) {
+                word_ += static_cast<char>(byte);
+            }
+            return false;
+        }
+        if (isDigit(byte) || byte == '-') {
+            number_ = static_cast<char>(byte);
+            state_ = State::Number;
+            return false;
+        }
+        return true;
+    }
+    if (state_ == State::Number) {
+        if (isDigit(byte)) {
+            if (number_.size() < longestNumber) {
+                number_ += static_cast<char>(byte);
+            }
+            return false;
+        }
+        return true;
+    }
+    return false;
+}
+
+void RtfCheck::takeByte(unsigned char byte) {
+    if (state_ == State::Word || state_ == State::Number) {
+        if (!endsWord(byte)) {
+            return;
+        }
+        applyWord();
+        // A blank ends the word and is no text.
+        if (byte == ' ') {
+            return;
+        }
+    }
+    switch (state_) {
+        case State::Start:
+        case State::Text:
+            takeText(byte);
+            break;
+        case State::Backslash:
+            takeBackslash(byte);
+            break;
+        case State::FirstHexDigit:
+        case State::SecondHexDigit:
+            takeHexDigit(byte);
+            break;
+        case State::Binary:
+            if (--binaryLeft_ == 0) {
+                state_ = State::Text;
+            }
+            break;
+        case State::AfterEnd:
+            if (byte != '\r' && byte != '\n' && byte != '\0' && !toldAfterEnd_) {
+                toldAfterEnd_ = true;
+                engine_.report(DiagnosticId::TextAfterEnd, here(1));
+            }
+            break;
+        case State::Word:
+        case State::Number:
+            break;
+    }
+}
+
+void RtfCheck::takeText(unsigned char byte) {
+    if (byte == '{') {
+        openGroup();
+        return;
+    }
+    if (state_ == State::Start) {
+        const bool isBlank = byte == ' ' || byte == '\t' || byte == '\r' || byte == '\n';
+        if (!isBlank && !toldStart_) {
+            toldStart_ = true;
+            engine_.report(DiagnosticId::NotRtf, here(1));
+        }
+        return;
+    }
+    if (byte == '}') {
+        closeGroup();
+    } else if (byte == '\\') {
+        wordBegin_ = here(1);
+        state_ = State::Backslash;
+    } else if (byte != '\r' && byte != '\n') {
+        Group& group = groups_.back();
+        if (group.isFresh && groups_.size() == 1 && !toldStart_) {
+            toldStart_ = true;
+            engine_.report(DiagnosticId::NotRtf, group.begin);
+        }
+        group.isFresh = false;
+        if (byte == ';' && group.destination == Destination::ColorTable) {
+            ++colors_;
+        }
+    }
+}
+
+void RtfCheck::openGroup() {
+    if (groups_.size() >= deepestGroups) {
+        if (!toldDepth_) {
+            toldDepth_ = true;
+            engine_.report(DiagnosticId::DeepNesting, here(1), {std::to_string(deepestGroups)});
+        }
+        ++deeperGroups_;
+        return;
+    }
+    Group group;
+    if (!groups_.empty()) {
+        groups_.back().isFresh = false;
+        group.destination = groups_.back().destination;
+    }
+    group.begin = here(1);
+    groups_.push_back(group);
+    state_ = State::Text;
+}
+
+void RtfCheck::closeGroup() {
+    if (deeperGroups_ > 0) {
+        --deeperGroups_;
+        return;
+    }
+    const Group closed = groups_.back();
+    groups_.pop_back();
+    if (groups_.empty()) {
+        if (closed.isFresh && !toldStart_) {
+            toldStart_ = true;
+            engine_.report(DiagnosticId::NotRtf, closed.begin);
+        }
+        endDocument();
+        state_ = State::AfterEnd;
+    } else if (closed.destination != groups_.back().destination) {
+        if (closed.destination == Destination::FontTable) {
+            checkDefaultFont();
+        }
+    } else if (closed.destination == Destination::StyleSheet && !closed.hasNumber) {
+        // The number is left out of the style "normal", but counted, and paragraphs carry it.
+        styles_[0].insert(lastStyle_ + 1);
+        ++lastStyle_;
+    }
+}
+
+void RtfCheck::takeBackslash(unsigned char byte) {
+    if (isLetter(byte)) {
+        word_ = static_cast<char>(byte);
+        number_.clear();
+        state_ = State::Word;
+        return;
+    }
+    state_ = State::Text;
+    Group& group = groups_.back();
+    if (byte == '*') {
+        group.isMarked = true;
+        return;
+    }
+    group.isFresh = false;
+    if (byte == '\'') {
+        state_ = State::FirstHexDigit;
+    }
+}
+
+void RtfCheck::takeHexDigit(unsigned char byte) {
+    if (isHexDigit(byte)) {
+        state_ = state_ == State::FirstHexDigit ? State::SecondHexDigit : State::Text;
+        return;
+    }
+    Place place = wordBegin_;
+    place.length = offset_ - wordBegin_.offset;
+    engine_.report(DiagnosticId::BadHexEscape, place);
+    state_ = State::Text;
+    takeText(byte);
+}
+
+void RtfCheck::applyWord() {
+    state_ = State::Text;
+    value_ = 0;
+    std::from_chars(number_.data(), number_.data() + number_.size(), value_);
+    if (word_ == "bin" && value_ > 0) {
+        groups_.back().isFresh = false;
+        binaryLeft_ = value_;
+        state_ = State::Binary;
+        return;
+    }
+    if (groups_.back().isFresh) {
+        groups_.back().isFresh = false;
+        applyFirstWord();
+    }
+    const Destination destination = groups_.back().destination;
+    if (destination == Destination::Body || destination == Destination::NestedRow) {
+        applyRowWord();
+    }
+    if (destination != Destination::Other && destination != Destination::Ignorable) {
+        applyReference();
+    }
+}
+
+void RtfCheck::applyFirstWord() {
+    Group& group = groups_.back();
+    if (groups_.size() == 1 && word_ != "rtf" && !toldStart_) {
+        toldStart_ = true;
+        engine_.report(DiagnosticId::NotRtf, group.begin);
+    }
+    if (group.destination == Destination::Other || group.destination == Destination::Ignorable) {
+        return;
+    }
+    if (word_ == "fonttbl") {
+        group.destination = Destination::FontTable;
+    } else if (word_ == "colortbl") {
+        group.destination = Destination::ColorTable;
+    } else if (word_ == "stylesheet") {
+        group.destination = Destination::StyleSheet;
+    } else if (word_ == "nesttableprops") {
+        group.destination = Destination::NestedRow;
+    } else if (isAmong(word_, bodyDestinations)) {
+        group.destination = Destination::Body;
+    } else if (isRtfDestination(word_)) {
+        group.destination = Destination::Other;
+    } else if (!isRtfWord(word_)) {
+        if (!group.isMarked && groups_.size() > 1) {
+            engine_.report(DiagnosticId::UnknownDestination, wordPlace(), {"\\" + word_});
+        }
+        group.destination = Destination::Ignorable;
+    }
+}
+
+void RtfCheck::applyRowWord() {
+    const bool isNested = groups_.back().destination == Destination::NestedRow;
+    Row& row = isNested ? nestedRow_ : row_;
+    if (word_ == "trowd") {
+        if (!row.isOpen) {
+            row.begin = wordPlace();
+        }
+        row.isDefined = true;
+        row.definitions = 0;
+        row.lastEdge = INT64_MIN;
+    } else if (word_ == "cellx") {
+        ++row.definitions;
+        if (value_ <= row.lastEdge) {
+            engine_.report(DiagnosticId::FallingEdge, wordPlace(),
+                           {std::to_string(value_), std::to_string(row.lastEdge)});
+        }
+        row.lastEdge = value_;
+    } else if (word_ == "cell") {
+        if (!row.isOpen && !row.isDefined) {
+            row.begin = wordPlace();
+        }
+        row.isOpen = true;
+        ++row.cells;
+    } else if (word_ == "row") {
+        endRow(row, row.cells);
+        row.cells = 0;
+        row.isOpen = false;
+    } else if (word_ == "itap") {
+        level_ = std::clamp<std::int64_t>(value_, 0, std::ssize(nestedCells_) - 1);
+    } else if (word_ == "nestcell") {
+        ++nestedCells();
+    } else if (word_ == "nestrow") {
+        endRow(nestedRow_, nestedCells());
+        nestedCells() = 0;
+    }
+}
+
+std::int64_t& RtfCheck::nestedCells() {
+    return nestedCells_[static_cast<std::size_t>(level_)];
+}
+
+void RtfCheck::endRow(Row& row, std::int64_t cells) {
+    if (cells == 0 && row.definitions == 0) {
+        engine_.report(DiagnosticId::RowWithoutCells, wordPlace());
+    } else if (cells != row.definitions) {
+        engine_.report(DiagnosticId::CellCount, wordPlace(),
+                       {std::to_string(cells), std::to_string(row.definitions)});
+    }
+}
+
+void RtfCheck::applyReference() {
+    const Destination destination = groups_.back().destination;
+    const auto* const style = std::find(std::begin(styleWords), std::end(styleWords), word_);
+    if (word_ == "f") {
+        if (destination == Destination::FontTable) {
+            if (!fonts_.insert(value_).second) {
+                engine_.report(DiagnosticId::DuplicateFont, wordPlace(), {number_});
+            }
+        } else if (!fonts_.contains(value_)) {
+            engine_.report(DiagnosticId::UnknownFont, wordPlace(), {std::to_string(value_)});
+        }
+    } else if (word_ == "deff") {
+        defaultFont_ = value_;
+        defaultFontPlace_ = wordPlace();
+    } else if (style != std::end(styleWords)) {
+        const auto kind = static_cast<std::size_t>(style - std::begin(styleWords));
+        if (destination == Destination::StyleSheet) {
+            defineStyle(kind);
+        } else if (!styles_[kind].contains(value_) && (kind > 0 || value_ != 0)) {
+            engine_.report(DiagnosticId::UnknownStyle, wordPlace(), {word_ + number_});
+        }
+    } else if (isAmong(word_, colorWords)) {
+        if (value_ != 0 && (value_ < 0 || value_ >= colors_)) {
+            engine_.report(DiagnosticId::UnknownColor, wordPlace(), {std::to_string(value_)});
+        }
+    }
+}
+
+void RtfCheck::checkDefaultFont() {
+    if (defaultFont_ >= 0 && !fonts_.contains(defaultFont_)) {
+        engine_.report(DiagnosticId::UnknownFont, defaultFontPlace_,
+                       {std::to_string(defaultFont_)});
+    }
+    defaultFont_ = -1;
+}
+
+void RtfCheck::defineStyle(std::size_t kind) {
+    Group& group = groups_.back();
+    if (!group.hasNumber && !styles_[kind].insert(value_).second) {
+        engine_.report(DiagnosticId::DuplicateStyleNumber, wordPlace(), {word_ + number_});
+    }
+    if (!group.hasNumber && kind == 0) {
+        lastStyle_ = value_;
+    }
+    group.hasNumber = true;
+}
+
+void RtfCheck::endDocument() {
+    if (row_.isOpen) {
+        engine_.report(DiagnosticId::UnendedRow, row_.begin);
+    }
+}
+
+std::vector<Diagnostic> checkRtf(std::string_view bytes) {
+    std::vector<Diagnostic> findings;
+    RtfCheck check([&](Diagnostic finding) { findings.push_back(std::move(finding)); });
+    check.feed(bytes);
+    check.finish();
+    sortByPlace(findings);
+    return findings;
+}
+
+}  // namespace quorvane

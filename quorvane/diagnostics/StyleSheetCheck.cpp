@@ -1,0 +1,297 @@
+#include "quorvane/diagnostics/StyleSheetCheck.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <span>
+#include <string>
+#include <unordered_map>
+#include <unordered_set>
+#include <utility>
+
+#include "quorvane/diagnostics/DiagnosticEngine.h"
+#include "quorvane/diagnostics/SourceText.h"
+#include "quorvane/diagnostics/StyleSheetOutline.h"
+#include "quorvane/diagnostics/nearestWord.h"
+#include "quorvane/diagnostics/rtfText.h"
+#include "quorvane/rtfgroups/CRtfGrpColorTable.h"
+#include "quorvane/stylesheet/stylesheetParser.h"
+#include "quorvane/support/RtfError.h"
+#include "quorvane/support/textCase.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr std::string_view keywords[] = {"style-def", "format", "based-on", "next", "additive"};
+constexpr int colorCount = 57;
+
+std::vector<std::string_view> viewsOf(const std::vector<std::string>& texts) {
+    return {texts.begin(), texts.end()};
+}
+
+const std::vector<std::string>& cellColorNames() {
+    static const std::vector<std::string> names = [] {
+        std::vector<std::string> list{"none"};
+        for (int number = 1; number <= colorCount; ++number) {
+            list.push_back(CRtfGrpColorTable::colorName(number));
+        }
+        return list;
+    }();
+    return names;
+}
+
+StyleKind kindOf(const SheetDefinition& definition) {
+    for (std::size_t i = 1; i < definition.items.size(); ++i) {
+        if (definition.items[i].keyword == "style-def") {
+            const std::string value = lowerCase(definition.items[i].value);
+            return value == "s"    ? StyleKind::Paragraph
+                   : value == "cs" ? StyleKind::Character
+                                   : StyleKind::Cell;
+        }
+    }
+    return StyleKind::Cell;
+}
+
+/// The names of a definition; none where its first item is not "name".
+std::vector<std::string_view> namesOf(const SheetDefinition& definition) {
+    return !definition.items.empty() && definition.items.front().keyword == "name"
+               ? namesIn(definition.items.front().value)
+               : std::vector<std::string_view>();
+}
+
+std::string quoted(std::string_view text) {
+    return text.empty() ? "it" : std::string(text);
+}
+
+class SheetFindings {
+public:
+    SheetFindings(const SourceText& source, DiagnosticEngine& engine)
+        : source_(source), engine_(engine), outline_(readStyleSheetOutline(source.text())) {}
+
+    void find() {
+        findBraces();
+        for (const SheetDefinition& definition : outline_.definitions) {
+            findErrors(definition);
+            findWarnings(definition);
+        }
+        for (const SheetDefinition& definition : outline_.definitions) {
+            findReferences(definition);
+        }
+    }
+
+private:
+    void report(DiagnosticId id, std::string_view part,
+                std::initializer_list<std::string_view> arguments = {}, std::string hint = {}) {
+        engine_.report(id, source_.placeOf(part), arguments, std::move(hint));
+    }
+
+    void findBraces() {
+        const std::string_view text = source_.text();
+        const auto opened = std::count(text.begin(), text.end(), '{');
+        const auto closed = std::count(text.begin(), text.end(), '}');
+        if (opened != closed) {
+            report(opened < closed ? DiagnosticId::BracesUnderflow : DiagnosticId::BracesOverflow,
+                   outline_.loneBrace, {},
+                   outline_.loneBrace == "{" ? "its } is missing" : "its { is missing");
+        }
+    }
+
+    void findErrors(const SheetDefinition& definition) {
+        if (definition.items.empty()) {
+            report(DiagnosticId::BadKeyword, definition.brace, {""},
+                   "a definition begins with name:");
+            return;
+        }
+        const SheetItem& first = definition.items.front();
+        if (first.keyword != "name") {
+            report(DiagnosticId::BadKeyword, first.writtenKeyword, {first.keyword},
+                   "a definition begins with name:");
+        }
+        for (std::size_t i = 1; i < definition.items.size(); ++i) {
+            findItemError(definition.items[i]);
+        }
+    }
+
+    void findItemError(const SheetItem& item) {
+        const std::string value = lowerCase(item.value);
+        if (item.keyword == "style-def") {
+            constexpr std::string_view kinds[] = {"s", "cs", "cell"};
+            if (value != "s" && value != "cs" && value != "cell") {
+                report(DiagnosticId::BadStyleKind, item.value, {value}, kindHint(value, kinds));
+            }
+        } else if (item.keyword == "additive") {
+            if (value != "yes" && value != "no") {
+                report(DiagnosticId::BadAdditive, item.value, {value}, "write yes or no");
+            }
+        } else if (std::find(std::begin(keywords), std::end(keywords), item.keyword) ==
+                   std::end(keywords)) {
+            report(DiagnosticId::BadKeyword, item.writtenKeyword, {item.keyword},
+                   item.keyword == "name" ? "name is the first item of a definition"
+                                          : didYouMean(item.keyword, keywords));
+        }
+    }
+
+    static std::string kindHint(const std::string& value, std::span<const std::string_view> kinds) {
+        if (value.starts_with("p")) {
+            return "a paragraph style is s";
+        }
+        if (value.starts_with("ch")) {
+            return "a character style is cs";
+        }
+        return didYouMean(value, kinds);
+    }
+
+    void findWarnings(const SheetDefinition& definition) {
+        const StyleKind kind = kindOf(definition);
+        std::unordered_set<std::string> seen;
+        for (std::size_t i = 1; i < definition.items.size(); ++i) {
+            const SheetItem& item = definition.items[i];
+            const bool isKeyword = std::find(std::begin(keywords), std::end(keywords),
+                                             item.keyword) != std::end(keywords);
+            if (isKeyword && !seen.insert(item.keyword).second) {
+                report(DiagnosticId::RepeatedItem, item.writtenKeyword, {item.keyword});
+            } else if (item.keyword == "format") {
+                findFormatWarningsOf(item, kind);
+            }
+        }
+        const std::vector<std::string_view> names = namesOf(definition);
+        if (!names.empty() && !seen.contains("style-def")) {
+            report(DiagnosticId::NoStyleKind, definition.items.front().whole);
+        }
+        for (const std::string_view name : names) {
+            findNameWarnings(name, kind);
+        }
+    }
+
+    void findFormatWarningsOf(const SheetItem& item, StyleKind kind) {
+        if (kind != StyleKind::Cell) {
+            findFormatWarnings(item.value, source_, engine_);
+            return;
+        }
+        const std::string color = lowerCase(item.value);
+        if (!color.starts_with('^') && color != "none" &&
+            CRtfGrpColorTable::colorNumber(color) == 0) {
+            report(DiagnosticId::UnknownCellColor, item.value, {quoted(item.value)},
+                   didYouMean(color, viewsOf(cellColorNames())));
+        }
+    }
+
+    void findNameWarnings(std::string_view name, StyleKind kind) {
+        if (name.empty()) {
+            report(DiagnosticId::EmptyStyleName, name);
+            return;
+        }
+        const auto [known, isNew] =
+            defined_[static_cast<std::size_t>(kind)].emplace(lowerCase(name), name);
+        if (!isNew) {
+            report(DiagnosticId::DuplicateStyle, name,
+                   {known->first, std::to_string(source_.placeOf(known->second).line)});
+        }
+    }
+
+    std::string referenceHint(StyleKind kind, std::string_view name) const {
+        std::vector<std::string_view> candidates;
+        const auto& names = defined_[static_cast<std::size_t>(kind)];
+        if (names.size() <= mostCandidates) {
+            for (const auto& [lower, written] : names) {
+                candidates.push_back(written);
+            }
+            std::sort(candidates.begin(), candidates.end());
+        }
+        return didYouMean(name, candidates);
+    }
+
+    void findReferences(const SheetDefinition& definition) {
+        const StyleKind kind = kindOf(definition);
+        for (std::size_t i = 1; i < definition.items.size(); ++i) {
+            const SheetItem& item = definition.items[i];
+            const bool isWritten = (item.keyword == "based-on" && kind != StyleKind::Cell) ||
+                                   (item.keyword == "next" && kind == StyleKind::Paragraph);
+            const auto& names = defined_[static_cast<std::size_t>(kind)];
+            if (isWritten && !item.value.empty() && !names.contains(lowerCase(item.value))) {
+                report(DiagnosticId::UndefinedReference, item.value,
+                       {item.value, styleKindName(kind)}, referenceHint(kind, item.value));
+            }
+        }
+    }
+
+    const SourceText& source_;
+    DiagnosticEngine& engine_;
+    StyleSheetOutline outline_;
+    // The names of each kind in lower case, with their first places.
+    std::array<std::unordered_map<std::string, std::string_view>, 3> defined_;
+};
+
+std::optional<RtfError> loadingError(std::string_view text) {
+    try {
+        parseStyleSheet(text, [](const StyleDefinition&) {});
+        return std::nullopt;
+    } catch (const RtfError& error) {
+        return error;
+    }
+}
+
+}  // namespace
+
+std::vector<Diagnostic> findingsWithoutLoading(std::string_view text) {
+    std::vector<Diagnostic> findings;
+    const SourceText source(text);
+    DiagnosticEngine engine([&](Diagnostic finding) { findings.push_back(std::move(finding)); });
+    SheetFindings(source, engine).find();
+    sortByPlace(findings);
+    return findings;
+}
+
+std::vector<Diagnostic> checkStyleSheet(std::string_view text) {
+    std::vector<Diagnostic> findings = findingsWithoutLoading(text);
+    const std::optional<RtfError> error = loadingError(text);
+    const auto isError = [](const Diagnostic& finding) {
+        return finding.severity == Severity::Error;
+    };
+    if (!error) {
+        std::erase_if(findings, isError);
+    } else if (std::none_of(findings.begin(), findings.end(), isError)) {
+        DiagnosticEngine engine(
+            [&](Diagnostic finding) { findings.insert(findings.begin(), std::move(finding)); });
+        engine.report(DiagnosticId::StyleSheetRejected, SourceText(text).place(0, 0),
+                      {error->description});
+    }
+    return findings;
+}
+
+std::vector<Diagnostic> findUnusedStyles(const KnownStyles& styles) {
+    std::vector<Diagnostic> findings;
+    const SourceText source(styles.text());
+    DiagnosticEngine engine([&](Diagnostic finding) { findings.push_back(std::move(finding)); });
+    const StyleSheetOutline outline = readStyleSheetOutline(styles.text());
+    std::unordered_set<std::string> referenced;
+    for (const SheetDefinition& definition : outline.definitions) {
+        for (const SheetItem& item : definition.items) {
+            if (item.keyword == "based-on" || item.keyword == "next") {
+                referenced.insert(lowerCase(item.value));
+            }
+        }
+    }
+    // Paragraph styles that keep the numbers of the character styles free are not for use.
+    const int reserved = std::max(1, static_cast<int>(styles.styles(StyleKind::Character).count()));
+    for (const SheetDefinition& definition : outline.definitions) {
+        const StyleKind kind = kindOf(definition);
+        const std::vector<std::string_view> names = namesOf(definition);
+        // One definition under several names is used when one of them is.
+        const bool isUsed = std::any_of(names.begin(), names.end(), [&](std::string_view name) {
+            const std::string lower = lowerCase(name);
+            const bool isParagraph = kind == StyleKind::Paragraph;
+            return styles.isUsed(kind, lower) ||
+                   (kind != StyleKind::Cell && referenced.contains(lower)) ||
+                   (isParagraph && (lower == "normal" || styles.find(kind, lower) <= reserved));
+        });
+        if (!isUsed && !names.empty()) {
+            engine.report(DiagnosticId::UnusedStyle, source.placeOf(names.front()),
+                          {names.front()});
+        }
+    }
+    return findings;
+}
+
+}  // namespace quorvane

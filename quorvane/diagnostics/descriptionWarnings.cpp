@@ -1,0 +1,341 @@
+#include "quorvane/diagnostics/descriptionWarnings.h"
+
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+#include "quorvane/diagnostics/colorContrast.h"
+#include "quorvane/diagnostics/nearestWord.h"
+#include "quorvane/diagnostics/rtfText.h"
+#include "quorvane/diagnostics/trialDocument.h"
+#include "quorvane/support/RtfError.h"
+#include "quorvane/support/numberText.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr std::size_t mostCells = 63;
+constexpr double leastContrast = 3;
+// Looking for the style that was meant takes a while.
+constexpr int mostHints = 1000;
+
+bool isSound(const OutlineLeaf* leaf) {
+    return leaf && !leaf->isFaulty;
+}
+
+/// The number behind the last control word \cf of a format; 0 when there is none.
+std::int32_t colorOfFormat(std::string_view format) {
+    constexpr std::string_view word = "\\cf";
+    std::int32_t color = 0;
+    for (std::size_t at = format.find(word); at != std::string_view::npos;
+         at = format.find(word, at + 1)) {
+        std::from_chars(format.data() + at + word.size(), format.data() + format.size(), color);
+    }
+    return color;
+}
+
+class DescriptionWarnings {
+public:
+    DescriptionWarnings(KnownStyles* styles, const SourceText& source, DiagnosticEngine& engine)
+        : styles_(styles && styles->areLoaded() ? styles : nullptr),
+          source_(source),
+          engine_(engine) {}
+
+    void findInLeaves(const OutlineNode& node) {
+        for (const OutlineLeaf& leaf : node.leaves) {
+            if (leaf.isFaulty) {
+                continue;
+            }
+            if (leaf.key.ends_with("-key")) {
+                findLeadingZeros(leaf);
+                findLostAlignment(node, leaf);
+            } else if (leaf.key.ends_with("-marked-field")) {
+                findRefusedField(leaf);
+            } else if (leaf.key == "cell-style") {
+                findLeadingZeros(leaf);
+                findCellStyle(leaf);
+            } else if (leaf.key == "para-style") {
+                findLeadingZeros(leaf);
+                findParagraphStyle(leaf);
+            } else if (leaf.key == "para-text") {
+                findInText(leaf);
+            }
+        }
+    }
+
+    void findInDocument(const OutlineNode& doc, CRtfDoc& document) {
+        findMargins(doc, document);
+        const Ref<CRtfTableRows> rows = document.TableRows();
+        std::int32_t position = 0;
+        for (const OutlineNode* row : builtChildren(doc)) {
+            findInRow(*row, *rows->Item(++position), document);
+        }
+    }
+
+private:
+    void report(DiagnosticId id, const OutlineLeaf& leaf,
+                std::initializer_list<std::string_view> arguments, std::string hint = {}) {
+        engine_.report(id, source_.placeOf(leaf.text), arguments, std::move(hint));
+    }
+
+    void findLeadingZeros(const OutlineLeaf& leaf) {
+        const std::string read = valueText(leaf.value());
+        if (read != leaf.text) {
+            report(DiagnosticId::LeadingZeros, leaf, {leaf.text, read});
+        }
+    }
+
+    void findLostAlignment(const OutlineNode& node, const OutlineLeaf& leaf) {
+        const OutlineLeaf* alignment =
+            node.find(node.kind == NodeKind::Cell ? "cell-alignment" : "para-alignment");
+        if (isSound(alignment)) {
+            report(DiagnosticId::LostAlignment, *alignment, {leaf.key, nodeKindName(node.kind)});
+        }
+    }
+
+    void findRefusedField(const OutlineLeaf& leaf) {
+        if (leaf.number) {
+            report(DiagnosticId::RefusedMarkedField, leaf, {leaf.text},
+                   "put a letter in front: no " + std::string(leaf.text));
+        }
+    }
+
+    std::string styleHint(StyleKind kind, std::string_view name) {
+        if (++hints_ > mostHints) {
+            return {};
+        }
+        for (const StyleKind other :
+             {StyleKind::Paragraph, StyleKind::Character, StyleKind::Cell}) {
+            if (other != kind && styles_->find(other, name) > 0) {
+                return "it is a " + std::string(styleKindName(other)) + " style";
+            }
+        }
+        std::vector<std::string_view> names;
+        const StyleList& list = styles_->styles(kind);
+        for (int i = 1; list.count() <= mostCandidates && i <= static_cast<int>(list.count());
+             ++i) {
+            names.push_back(list.at(i).name);
+        }
+        // What was misspelt is used all the same.
+        styles_->markUsed(kind, nearestWord(name, names));
+        return didYouMean(name, names);
+    }
+
+    void findCellStyle(const OutlineLeaf& leaf) {
+        const std::string name = valueText(leaf.value());
+        if (!styles_ || name.empty()) {
+            return;
+        }
+        styles_->markUsed(StyleKind::Cell, name);
+        if (styles_->find(StyleKind::Cell, name) < 0) {
+            report(DiagnosticId::UnknownCellStyle, leaf, {name}, styleHint(StyleKind::Cell, name));
+        }
+    }
+
+    void findParagraphStyle(const OutlineLeaf& leaf) {
+        const std::string name = valueText(leaf.value());
+        if (!styles_ || name.empty()) {
+            return;
+        }
+        styles_->markUsed(StyleKind::Paragraph, name);
+        if (styles_->find(StyleKind::Paragraph, name) < 0) {
+            const StyleList& list = styles_->styles(StyleKind::Paragraph);
+            report(DiagnosticId::UnknownParagraphStyle, leaf,
+                   {name, list.empty() ? "the paragraph gets no format"
+                                       : list.at(1).name + " stands in for it"},
+                   styleHint(StyleKind::Paragraph, name));
+        }
+    }
+
+    void findInText(const OutlineLeaf& leaf) {
+        if (leaf.text.empty()) {
+            engine_.report(DiagnosticId::EmptyText, source_.place(startOf(leaf), startOf(leaf)));
+        }
+        findTextWarnings(leaf.text, source_, engine_);
+        if (styles_) {
+            findInlineStyles(leaf.text);
+        }
+    }
+
+    std::size_t startOf(const OutlineLeaf& leaf) const {
+        return static_cast<std::size_t>(leaf.text.data() - source_.text().data());
+    }
+
+    void findInlineStyles(std::string_view text) {
+        for (std::size_t open = text.find('<'); open != std::string_view::npos;
+             open = text.find('<', open + 1)) {
+            const std::size_t end = text.find_first_of("=<>", open + 1);
+            const bool isToken = end != std::string_view::npos && text[end] == '=' &&
+                                 text[open + 1] >= 'A' && text[open + 1] <= 'z' &&
+                                 text.find('>', end) != std::string_view::npos;
+            if (!isToken) {
+                continue;
+            }
+            const std::string_view name = text.substr(open + 1, end - open - 1);
+            styles_->markUsed(StyleKind::Character, name);
+            if (styles_->find(StyleKind::Character, name) < 0) {
+                engine_.report(DiagnosticId::UnknownCharacterStyle, source_.placeOf(name), {name},
+                               styleHint(StyleKind::Character, name));
+            }
+        }
+    }
+
+    void findMargins(const OutlineNode& doc, const CRtfDoc& document) {
+        const auto check = [&](std::string_view key, std::int32_t actual, DiagnosticId id) {
+            const OutlineLeaf* leaf = doc.find(key);
+            if (isSound(leaf) && leaf->number && std::abs(*leaf->number - actual) > 0.5) {
+                report(id, *leaf, {std::to_string(actual)});
+            }
+        };
+        check("left-margin", document.LeftMargin(), DiagnosticId::MarginFallback);
+        check("right-margin", document.RightMargin(), DiagnosticId::MarginFallback);
+        check("top-margin", document.TopMargin(), DiagnosticId::MarginFallback);
+        check("bottom-margin", document.BottomMargin(), DiagnosticId::MarginFallback);
+        check("page-number-start", document.PageNumberStart(), DiagnosticId::PageNumberFallback);
+    }
+
+    void findInRow(const OutlineNode& node, CRtfTableRow& row, const CRtfDoc& document) {
+        const std::vector<OutlineNode*> nodes = builtChildren(node);
+        const Ref<CRtfTableCells> cells = row.TableCells();
+        if (nodes.size() > mostCells) {
+            engine_.report(DiagnosticId::TooManyCells, source_.placeOf(node.line),
+                           {std::to_string(nodes.size())});
+        }
+        findWidths(node, nodes, *cells, document);
+        std::int32_t position = 0;
+        for (const OutlineNode* cell : nodes) {
+            const bool isLast = cell == nodes.back();
+            findInCell(*cell, *cells->Item(++position), document, isLast);
+        }
+    }
+
+    void findWidths(const OutlineNode& node, const std::vector<OutlineNode*>& nodes,
+                    const CRtfTableCells& cells, const CRtfDoc& document) {
+        double sum = 0;
+        bool allGiven = !nodes.empty();
+        std::int64_t total = 0;
+        std::vector<std::int32_t> widths;
+        for (std::size_t i = 0; i < nodes.size(); ++i) {
+            const OutlineLeaf* leaf = nodes[i]->find("cell-width");
+            allGiven = allGiven && isSound(leaf);
+            sum += isSound(leaf) ? *leaf->number : 0;
+            widths.push_back(cells.Item(static_cast<std::int32_t>(i) + 1)->Width(eTwips));
+            total += widths.back();
+        }
+        if (nodes.size() > 1 && (allGiven ? std::abs(sum - 100) > 0.5 : sum >= 100)) {
+            engine_.report(DiagnosticId::WidthsSum, source_.placeOf(node.line), {numberText(sum)});
+        }
+        const std::int32_t room = document.TextAreaWidth();
+        if (room <= 0) {
+            return;
+        }
+        // The even widths are rounded, each cell by less than a twip.
+        const auto slack = static_cast<std::int64_t>(nodes.size());
+        if (total > room + slack && !toldOverrun_) {
+            toldOverrun_ = true;
+            engine_.report(DiagnosticId::TableOverrun, source_.placeOf(node.line),
+                           {std::to_string(total), std::to_string(room)});
+        }
+        const double tolerance = room * 0.005 + static_cast<double>(std::abs(total - room) + slack);
+        for (std::size_t i = 0; i < nodes.size(); ++i) {
+            const OutlineLeaf* leaf = nodes[i]->find("cell-width");
+            if (isSound(leaf) && std::abs(widths[i] - *leaf->number / 100 * room) > tolerance) {
+                report(DiagnosticId::WidthClamped, *leaf,
+                       {std::to_string(std::lround(widths[i] * 100.0 / room)), leaf->text});
+            }
+        }
+    }
+
+    void findInCell(const OutlineNode& node, CRtfTableCell& cell, const CRtfDoc& document,
+                    bool isLastOfRow) {
+        const std::vector<OutlineNode*> paragraphs = builtChildren(node);
+        if (styles_ && !isLastOfRow && !paragraphs.empty()) {
+            findSharedNumber(*paragraphs.front());
+            if (paragraphs.size() > 1) {
+                findSharedNumber(*paragraphs.back());
+            }
+        }
+        std::int32_t background = cell.BackColor();
+        bool isStyleColor = false;
+        if (background == eNoColor && !cell.Style().empty() && styles_) {
+            background = document.getCellStyleBackColor(cell.Style());
+            isStyleColor = background != eNoColor;
+        }
+        std::int32_t position = 0;
+        for (const OutlineNode* paragraph : paragraphs) {
+            const CRtfParagraph& built = *cell.Paragraphs()->Item(++position);
+            const bool turnsWhite =
+                isStyleColor && isDarkColor(static_cast<tColorIndex>(background));
+            const std::int32_t own = turnsWhite ? eWhite : built.ForeColor();
+            findContrast(*paragraph, own, background);
+        }
+    }
+
+    void findSharedNumber(const OutlineNode& paragraph) {
+        const OutlineLeaf* leaf = paragraph.find("para-style");
+        const OutlineLeaf* text = paragraph.find("para-text");
+        if (!isSound(leaf) || !text || text->text.empty()) {
+            return;
+        }
+        const int position = styles_->find(StyleKind::Paragraph, valueText(leaf->value()));
+        const StyleList& others = styles_->styles(StyleKind::Character);
+        if (position > 0 && static_cast<std::size_t>(position) <= others.count()) {
+            report(DiagnosticId::SharedStyleNumber, *leaf,
+                   {valueText(leaf->value()), std::to_string(styleNumber(position)),
+                    others.at(position).name});
+        }
+    }
+
+    void findContrast(const OutlineNode& paragraph, std::int32_t own, std::int32_t background) {
+        const OutlineLeaf* text = paragraph.find("para-text");
+        if (!isSound(text) || text->text.empty()) {
+            return;
+        }
+        std::int32_t color = own;
+        if (color == eNoColor && styles_) {
+            const StyleList& list = styles_->styles(StyleKind::Paragraph);
+            const OutlineLeaf* leaf = paragraph.find("para-style");
+            const std::string name = isSound(leaf) ? valueText(leaf->value()) : std::string();
+            const int position = styles_->find(StyleKind::Paragraph, name);
+            if (!list.empty()) {
+                color = colorOfFormat(list.at(position > 0 ? position : 1).format());
+            }
+        }
+        if (contrastOf(color, background) < leastContrast) {
+            report(DiagnosticId::LowContrast, *text,
+                   {textColorName(color), backgroundName(background)});
+        }
+    }
+
+    KnownStyles* styles_;
+    const SourceText& source_;
+    DiagnosticEngine& engine_;
+    bool toldOverrun_ = false;
+    int hints_ = 0;
+};
+
+}  // namespace
+
+void findDescriptionWarnings(const DescriptionOutline& outline, CRtfDoc* document,
+                             KnownStyles* styles, const SourceText& source,
+                             DiagnosticEngine& engine) {
+    DescriptionWarnings warnings(styles, source, engine);
+    for (const OutlineNode& node : outline.nodes) {
+        if (!node.isOutside) {
+            warnings.findInLeaves(node);
+        }
+    }
+    if (document && outline.doc) {
+        try {
+            warnings.findInDocument(*outline.doc, *document);
+        } catch (const RtfError&) {
+            // A page of extreme measures has no widths to compare with.
+        }
+    }
+}
+
+}  // namespace quorvane

@@ -1,0 +1,87 @@
+#include "quorvane/diagnostics/diagnosticRules.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstddef>
+
+namespace quorvane {
+
+namespace {
+
+constexpr DiagnosticRule table[] = {
+#define QUORVANE_DIAGNOSTIC(id, identifier, severity, language, text, explanation, wrong, right, \
+                            companion)                                                           \
+    {DiagnosticId::id,                                                                           \
+     identifier,                                                                                 \
+     Severity::severity,                                                                         \
+     CheckedLanguage::language,                                                                  \
+     text,                                                                                       \
+     explanation,                                                                                \
+     wrong,                                                                                      \
+     right,                                                                                      \
+     companion},
+#include "quorvane/diagnostics/diagnosticTable.h"
+};
+
+std::string_view takeLine(std::string_view& text) {
+    const std::size_t length = std::min(text.find('\n'), text.size() - 1) + 1;
+    const std::string_view line = text.substr(0, length);
+    text.remove_prefix(length);
+    return line;
+}
+
+/// N of a line "; N times:"; 0 for any other line.
+int repetitions(std::string_view line) {
+    constexpr std::string_view begin = "; ";
+    int times = 0;
+    if (line.starts_with(begin)) {
+        const char* end = line.data() + line.size();
+        const auto number = std::from_chars(line.data() + begin.size(), end, times);
+        if (std::string_view(number.ptr, end) != " times:\n") {
+            return 0;
+        }
+    }
+    return times;
+}
+
+}  // namespace
+
+std::span<const DiagnosticRule> diagnosticRules() {
+    return table;
+}
+
+const DiagnosticRule& diagnosticRule(DiagnosticId id) {
+    return table[static_cast<std::size_t>(id)];
+}
+
+const DiagnosticRule* findDiagnosticRule(std::string_view identifier) {
+    const auto* found =
+        std::find_if(std::begin(table), std::end(table),
+                     [&](const DiagnosticRule& rule) { return rule.identifier == identifier; });
+    return found == std::end(table) ? nullptr : found;
+}
+
+std::string_view severityName(Severity severity) {
+    return severity == Severity::Error ? "error" : "warning";
+}
+
+std::string expandedExample(std::string_view example) {
+    std::string expanded;
+    while (!example.empty()) {
+        const std::string_view line = takeLine(example);
+        const int times = repetitions(line);
+        if (times == 0) {
+            expanded += line;
+            continue;
+        }
+        const std::string_view repeated = example.substr(0, example.find("; so far\n"));
+        example.remove_prefix(repeated.size());
+        takeLine(example);
+        for (int i = 0; i < times; ++i) {
+            expanded += repeated;
+        }
+    }
+    return expanded;
+}
+
+}  // namespace quorvane

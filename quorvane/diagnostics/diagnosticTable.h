@@ -1,0 +1,1363 @@
+// The table of diagnostics: one row for each kind of finding. It is included where a list is made of
+// it, with the macro defined as what a row shall become; the macro is gone afterwards.
+//
+// QUORVANE_DIAGNOSTIC(enumerator, identifier, severity, language, text, explanation, wrong example,
+//                     right example, companion of the examples)
+
+#ifndef QUORVANE_DIAGNOSTIC
+#define QUORVANE_DIAGNOSTIC(...)
+#endif
+
+// clang-format off
+
+QUORVANE_DIAGNOSTIC(WrongFileType, "wrong-file-type", Error, Description,
+    "The provided file isn't a correct rtfspec file.",
+    "A description is one `doc` node. A text without `(doc` is none.",
+    "(dco\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Total)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Total)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(MissingElement, "missing-element", Error, Description,
+    "Missing some requiered elements:\r\n(doc\r\n(row\r\n(cell",
+    "A description holds at least one row with a cell: one of `(row`, `(r`, `(cell` and `(c`, "
+    "in lower case, must stand in it.",
+    "(doc\n"
+    "(paper-width=11906)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Total)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(WrongRoot, "wrong-root", Error, Description,
+    "(doc must be the first node.",
+    "The first line begins with `(doc` and the last one with `doc)`, in lower case. Comments "
+    "and blank lines do not count.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Total)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Total)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(TooManyNodes, "too-many-nodes", Error, Description,
+    "Too many {0} nodes.",
+    "A description has at most 999 rows, 999 cells and 999 paragraphs. At the limit the "
+    "reading ends. A longer table is made of several descriptions, or through the object "
+    "model.",
+    "(doc\n"
+    "; 1000 times:\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "; so far\n"
+    "doc)\n",
+    "(doc\n"
+    "; 999 times:\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "; so far\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(WrongCloser, "wrong-closer", Error, Description,
+    "Wrong node type in {0}",
+    "A closer closes the node that is open. Where another node is open still, its own closer "
+    "is missing before.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Total)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Total)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(WrongSyntax, "wrong-syntax", Error, Description,
+    "{0} has a wrong syntax",
+    "A line is an opener such as `(row`, a closer such as `row)`, a leaf such as "
+    "`(pt=Total)`, or a comment behind `;`. A leaf begins and ends on one line, and its value "
+    "ends at the first `)`: write `\\line` for a line break and `\\'29` for a `)` in a text.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt Total)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Total)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(DuplicateLeaf, "duplicate-leaf", Error, Description,
+    "This key is already associated with an element of this collection",
+    "Each key stands once in a node. The long and the short form of a key are the same key.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Total)\n"
+    "(para-text=Sum)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Total)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(NoDocument, "no-document", Error, Description,
+    "Object variable or With block variable not set",
+    "The first line begins with `(doc` but opens no `doc` node, so there is no document.",
+    "(doc=1)\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Total)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Total)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(WrongKeyword, "wrong-keyword", Error, Description,
+    "{0} isn't a valid keyword.",
+    "Each kind of node has keys of its own. Keys are written in lower case, in the long or "
+    "the short form.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(pt=Total)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Total)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(NoRow, "no-row", Error, Description,
+    "Must have at least one row.",
+    "A document has at least one row.",
+    "(doc\n"
+    "(c\n"
+    "c)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(NoCell, "no-cell", Error, Description,
+    "Must have at least one cell.",
+    "A row has at least one cell: word processors lose a table that has a row without cells.",
+    "(doc\n"
+    "(r\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(NoParaText, "no-para-text", Error, Description,
+    "In a para group para-text is mandatory.",
+    "A paragraph has the key `para-text`, short `pt`. Its value may be empty.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pa=right)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Total)\n"
+    "(pa=right)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(NodeInParagraph, "node-in-paragraph", Error, Description,
+    "A paragraph is a terminal node",
+    "A paragraph holds no other node.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Total)\n"
+    "(doc\n"
+    "doc)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Total)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(WrongContext, "wrong-context", Error, Description,
+    "Invalid node declaration in this context\r\n",
+    "A document holds rows, a row holds cells, a cell holds paragraphs. A `doc` node stands "
+    "in no other node.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(doc\n"
+    "doc)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(WrongColor, "wrong-color", Error, Description,
+    "{0} isn't a recognized color.",
+    "A background is the name of one of the 37 colours of the language, or `none`. A number "
+    "is no name.",
+    "(doc\n"
+    "(r\n"
+    "(rb=crimson)\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(rb=dark-red)\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(WrongBorder, "wrong-border", Error, Description,
+    "{0} isn't a recognized border.",
+    "A border is `none`, `hair`, `thin`, `normal` or `thick`.",
+    "(doc\n"
+    "(r\n"
+    "(rtb=medium)\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(rtb=normal)\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(WrongAlignment, "wrong-alignment", Error, Description,
+    "{0} isn't a recognized alignment.",
+    "An alignment is `left`, `right`, `centered`, `justified` or `none`, or one of the "
+    "numbers 0 to 4.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(ca=center)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(ca=centered)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(NotANumber, "not-a-number", Error, Description,
+    "Value for {0} should be numeric.",
+    "The keys of the document, `cell-width`, `row-key`, `cell-key` and `para-key` take a "
+    "number: digits with at most one `.`, a sign before and an exponent behind if need be; no "
+    "unit.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(cw=50%)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(cw=50)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(Overflow, "overflow", Error, Description,
+    "Overflow",
+    "A number is rounded to a whole one of 32 bits, and so are the measures that come out of "
+    "it.",
+    "(doc\n"
+    "(paper-width=1e12)\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(paper-width=12242)\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(TakenKey, "taken-key", Error, Description,
+    "This key is already associated with an element of this collection",
+    "Two rows of the document, two cells of a row or two paragraphs of a cell cannot have one "
+    "key. A node without a key has its number as key: rows count from 1001, cells from 2001 "
+    "and paragraphs from 3001.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(cell-key=7)\n"
+    "c)\n"
+    "(c\n"
+    "(cell-key=7)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(cell-key=7)\n"
+    "c)\n"
+    "(c\n"
+    "(cell-key=8)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(Rejected, "rejected", Error, Description,
+    "{0}",
+    "The analysis ends with an error that no other row of this table tells. The message is "
+    "the error's own.",
+    "",
+    "",
+    "")
+
+QUORVANE_DIAGNOSTIC(ClosedByOpener, "closed-by-opener", Warning, Description,
+    "{0} closes the {1} that is open.",
+    "An opener that cannot stand where it is met closes the open nodes up to the one in which "
+    "it can. What was meant to stay open is closed too, and numbers of nodes are skipped.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=one)\n"
+    "(p\n"
+    "(pt=two)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=one)\n"
+    "p)\n"
+    "(p\n"
+    "(pt=two)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(RepeatedOpener, "repeated-opener", Warning, Description,
+    "This (r is dropped, because another one follows.",
+    "Of two lines `(r` that follow each other the repair drops the first when the description "
+    "is checked. Without checking both are rows, and word processors lose a table that has a "
+    "row without cells.",
+    "(doc\n"
+    "(r\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(UnclosedRow, "unclosed-row", Warning, Description,
+    "r) is missing before this line.",
+    "The repair puts it there when the description is checked.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(OutsideDocument, "outside-document", Warning, Description,
+    "From here on nothing is read into the document.",
+    "What stands behind the end of the `doc` node is passed over. The node ends with its "
+    "closer, and with an opener of a cell or a paragraph where no row is open.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "(c\n"
+    "c)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(UnknownParagraphStyle, "unknown-paragraph-style", Warning, Description,
+    "The stylesheet has no paragraph style {0}: {1}.",
+    "A paragraph whose style the stylesheet does not have gets the format of the first "
+    "paragraph style, under the number 0.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Total)\n"
+    "(ps=nromal)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Total)\n"
+    "(ps=normal)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "{ name: normal; style-def: s; format: \\fs20 }\n")
+
+QUORVANE_DIAGNOSTIC(UnknownCharacterStyle, "unknown-character-style", Warning, Description,
+    "The stylesheet has no character style {0}: its text gets no format.",
+    "An inline style that the stylesheet does not have writes its text without a format. "
+    "Character styles are defined with `style-def: cs`.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=<string=Total>)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=<strong=Total>)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "{ name: reserved; style-def: s; format: \\fs20 }\n"
+    "{ name: strong; style-def: cs; format: \\b }\n")
+
+QUORVANE_DIAGNOSTIC(UnknownCellStyle, "unknown-cell-style", Warning, Description,
+    "The stylesheet has no cell style {0}: the cell gets background 0.",
+    "A cell style that the stylesheet does not have gives the cell the background 0, which "
+    "some readers show black. Cell styles are defined with `style-def: cell`.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(cs=shadde)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(cs=shaded)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "{ name: shaded; style-def: cell; format: silver }\n")
+
+QUORVANE_DIAGNOSTIC(SharedStyleNumber, "shared-style-number", Warning, Description,
+    "The paragraph style {0} shares the number {1} with the character style {2}.",
+    "Paragraph styles and character styles are both numbered from 100 on. LibreOffice loses "
+    "the whole table when the first or the last paragraph of a cell, other than the last cell "
+    "of a row, has a number that a character style has too. Put as many unused paragraph "
+    "styles first as the stylesheet has character styles, the first of them with the format "
+    "of `normal`.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=<strong=Total>)\n"
+    "(ps=normal)\n"
+    "p)\n"
+    "c)\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=<strong=Total>)\n"
+    "(ps=sum)\n"
+    "p)\n"
+    "c)\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "{ name: normal; style-def: s; format: \\fs20 }\n"
+    "{ name: sum; style-def: s; format: \\fs20\\b }\n"
+    "{ name: strong; style-def: cs; format: \\b }\n")
+
+QUORVANE_DIAGNOSTIC(EmptyText, "empty-text", Warning, Description,
+    "The paragraph has no text and vanishes.",
+    "A paragraph with an empty text writes nothing, not even an empty line. Write `\\~` for "
+    "an empty line.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=\\~)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(UnbalancedBrace, "unbalanced-brace", Warning, Description,
+    "The {0} has no partner.",
+    "Texts and formats go into the document as they are. An open brace makes readers refuse "
+    "the file, a closing one cuts the document off. Write `\\{` and `\\}` for braces that "
+    "shall be seen.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=a } b)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=a \\} b)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(LoneBackslash, "lone-backslash", Warning, Description,
+    "The backslash swallows what follows it.",
+    "Texts and formats go into the document as they are, and a backslash begins a control "
+    "word or symbol. Write `\\\\` for a backslash that shall be seen, and two hexadecimal "
+    "digits behind `\\'`.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=C:\\5 and \\'zz)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=C:\\\\5 and \\'e9)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(UnknownControlWord, "unknown-control-word", Warning, Description,
+    "{0} is no RTF control word.",
+    "Texts and formats go into the document as they are, and readers pass over control words "
+    "that they do not know. Control words are written in lower case. Write `\\\\` for a "
+    "backslash that shall be seen.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=C:\\budget)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=C:\\\\budget)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(ControlCharacter, "control-character", Warning, Description,
+    "The character {0} is none that can be printed.",
+    "A form feed, a tab or another control character vanishes in a text or is shown as it "
+    "comes. Write `\\tab` for a tab, `\\line` for a line break and `\\page` for a page break.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=a\x0b""b)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=a\\line b)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(EmbeddedContent, "embedded-content", Warning, Description,
+    "{0} brings {1} into the document.",
+    "A text or a format can embed objects, pictures and other binary data, fields that run "
+    "macros, and links to files. Where it comes from somebody else, that is seldom what the "
+    "document's author wants.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt={\\field{\\*\\fldinst INCLUDETEXT secrets.doc}})\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Total)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(UnencodableCharacter, "unencodable-character", Warning, Description,
+    "The code page has no place for {0}, which becomes a question mark.",
+    "Documents are written in Windows-1252. Other characters are written as RTF writes them: "
+    "`\\u8594?` is an arrow.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=10 \xe2""\x86""\x92"" 20)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=10 \\u8594? 20)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(Utf8Text, "utf-8-text", Warning, Description,
+    "{0} is read as {1}: the file is in UTF-8.",
+    "Files are read in Windows-1252, one byte a character. In a file in UTF-8 every other "
+    "character than those of ASCII turns into two or three. Save the file in Windows-1252, or "
+    "write `\\'e9` and the like.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=caf\xc3""\xa9"")\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=caf\\'e9)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(WidthsSum, "widths-sum", Warning, Description,
+    "The widths of the cells add up to {0} per cent.",
+    "The widths of the cells of a row should add up to a hundred: the last cell gets what is "
+    "left, whatever its width says of it.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(cw=30)\n"
+    "c)\n"
+    "(c\n"
+    "(cw=50)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(cw=30)\n"
+    "c)\n"
+    "(c\n"
+    "(cw=70)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(WidthClamped, "width-clamped", Warning, Description,
+    "The cell becomes {0} per cent wide instead of {1}.",
+    "A cell cannot reach beyond its right neighbour as that stands when the cell's turn "
+    "comes, and no cell becomes narrower than 200 twips. Put the narrow columns first, or "
+    "leave a wide first column to a table of few columns.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(cw=80)\n"
+    "c)\n"
+    "(c\n"
+    "(cw=10)\n"
+    "c)\n"
+    "(c\n"
+    "(cw=10)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(cw=10)\n"
+    "c)\n"
+    "(c\n"
+    "(cw=10)\n"
+    "c)\n"
+    "(c\n"
+    "(cw=80)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(TableOverrun, "table-overrun", Warning, Description,
+    "The row is {0} twips wide, the page has room for {1}.",
+    "The cells are laid out before the keys of the document are applied, on the default page "
+    "with 8840 twips between the margins, and stay so; and no cell is narrower than 200 "
+    "twips. Choose margins that leave 8840 twips: 1533 each side on A4, 1700 on US letter.",
+    "(doc\n"
+    "(paper-width=11906)\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(paper-width=11906)\n"
+    "(left-margin=1533)\n"
+    "(right-margin=1533)\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(MarginFallback, "margin-fallback", Warning, Description,
+    "The margin doesn't fit and becomes {0}.",
+    "A margin is at least 1 and less than 0.9 of the paper less the opposite margin. The keys "
+    "are applied in the order of their names: `bottom-margin` and `left-margin` are compared "
+    "with the default paper, 12242 by 15842 twips.",
+    "(doc\n"
+    "(left-margin=12000)\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(left-margin=1701)\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(PageNumberFallback, "page-number-fallback", Warning, Description,
+    "The number of the first page becomes 2.",
+    "The first page has a number from 1 on.",
+    "(doc\n"
+    "(page-number-start=0)\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(page-number-start=1)\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(TooManyCells, "too-many-cells", Warning, Description,
+    "The row has {0} cells; word processors take 63.",
+    "Word processors refuse or cut a row of more than 63 cells. Cells are at least 200 twips "
+    "wide, so 44 of them fill the default page already.",
+    "(doc\n"
+    "(r\n"
+    "; 64 times:\n"
+    "(c\n"
+    "c)\n"
+    "; so far\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "; 40 times:\n"
+    "(c\n"
+    "c)\n"
+    "; so far\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(LostAlignment, "lost-alignment", Warning, Description,
+    "The alignment is lost, because {0} files the {1} anew.",
+    "A key puts a new entry into the place of the one that is built, and the alignment, which "
+    "is applied before, stays behind. Align the paragraphs of a cell with `cell-key`, and the "
+    "cell of a paragraph with `para-key`.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(ca=right)\n"
+    "(cell-key=7)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(cell-key=7)\n"
+    "(p\n"
+    "(pt=Total)\n"
+    "(pa=right)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(RefusedMarkedField, "refused-marked-field", Warning, Description,
+    "The marked field refuses a number: {0} is lost.",
+    "The text of a marked field that reads as a number is refused: a paragraph is marked "
+    "without it, a cell is not marked at all. Put a letter in front.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(cmf=12)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(cmf=no 12)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(LeadingZeros, "leading-zeros", Warning, Description,
+    "{0} is read as {1}.",
+    "A key or the name of a style that reads as a number is taken as that number, in its "
+    "shortest form: zeros at its beginning and behind its point are lost, and a sign `+`.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(cell-key=0012)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(cell-key=12)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(LowContrast, "low-contrast", Warning, Description,
+    "The text is {0} on {1} and can hardly be read.",
+    "The contrast between the text and the background of its cell is less than 3 to 1. Take "
+    "another background, or a style with another colour.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(cb=blue)\n"
+    "(p\n"
+    "(para-key=7)\n"
+    "(pt=Total)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(cb=blue)\n"
+    "(p\n"
+    "(pt=Total)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(BracesUnderflow, "braces-underflow", Error, StyleSheet,
+    "Error in stylesheet\r\nBraces stack underflow: there are more } than {.",
+    "Each definition stands in one pair of braces, also those in what is meant as a comment.",
+    "{ name: normal; style-def: s; format: \\fs20 } }\n",
+    "{ name: normal; style-def: s; format: \\fs20 }\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(BracesOverflow, "braces-overflow", Error, StyleSheet,
+    "Error in stylesheet\r\nBraces stack overflow: there are more { than }",
+    "Each definition stands in one pair of braces, also those in what is meant as a comment.",
+    "{ name: normal; style-def: s; format: \\fs20\n"
+    "{ name: sum; style-def: s; format: \\b }\n",
+    "{ name: normal; style-def: s; format: \\fs20 }\n"
+    "{ name: sum; style-def: s; format: \\b }\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(BadKeyword, "bad-keyword", Error, StyleSheet,
+    "Error while processing stylesheet.\r\n{0} is not a valid keyword.",
+    "The first item of a definition is `name`; the others are `style-def`, `format`, "
+    "`based-on`, `next` and `additive`, each with a `:` and a value.",
+    "{ name: normal; style-def: s; fromat: \\fs20 }\n",
+    "{ name: normal; style-def: s; format: \\fs20 }\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(BadStyleKind, "bad-style-kind", Error, StyleSheet,
+    "{0} is not a valid value for style-def",
+    "A style is a paragraph style, `s`, a character style, `cs`, or a cell style, `cell`.",
+    "{ name: normal; style-def: p; format: \\fs20 }\n",
+    "{ name: normal; style-def: s; format: \\fs20 }\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(BadAdditive, "bad-additive", Error, StyleSheet,
+    "Error while processing stylesheet.\r\n{0} is not a valid value for additive",
+    "`additive` is `yes` or `no`.",
+    "{ name: normal; style-def: s; additive: true }\n",
+    "{ name: normal; style-def: s; additive: yes }\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(StyleSheetRejected, "stylesheet-rejected", Error, StyleSheet,
+    "{0}",
+    "The loading ends with an error that no other row of this table tells. The message is the "
+    "error's own.",
+    "",
+    "",
+    "")
+
+QUORVANE_DIAGNOSTIC(DuplicateStyle, "duplicate-style", Warning, StyleSheet,
+    "The style {0} is defined already, on line {1}.",
+    "Of a name that is defined twice the first definition is found. The second one takes a "
+    "number and nothing else.",
+    "{ name: normal; style-def: s; format: \\fs20 }\n"
+    "{ name: normal; style-def: s; format: \\fs24 }\n",
+    "{ name: normal; style-def: s; format: \\fs20 }\n"
+    "{ name: large; style-def: s; format: \\fs24 }\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(UnusedStyle, "unused-style", Warning, StyleSheet,
+    "No description uses the style {0}.",
+    "The style is not named by any of the descriptions that were checked together with the "
+    "stylesheet, nor by `next` or `based-on` of another style. The first paragraph style, "
+    "`normal` and the paragraph styles that keep the numbers of character styles free count "
+    "as used.",
+    "{ name: normal; style-def: s; format: \\fs20 }\n"
+    "{ name: sum; style-def: s; format: \\b }\n",
+    "{ name: normal; style-def: s; format: \\fs20 }\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Total)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n")
+
+QUORVANE_DIAGNOSTIC(NoStyleKind, "no-style-kind", Warning, StyleSheet,
+    "The definition has no style-def and is a cell style.",
+    "A definition without `style-def` is a cell style, whatever its format.",
+    "{ name: normal; format: silver }\n",
+    "{ name: normal; style-def: cell; format: silver }\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(RepeatedItem, "repeated-item", Warning, StyleSheet,
+    "{0} stands in the definition already; this one is passed over.",
+    "Of an item that is repeated the first counts.",
+    "{ name: normal; style-def: s; format: \\fs20; format: \\b }\n",
+    "{ name: normal; style-def: s; format: \\fs20\\b }\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(EmptyStyleName, "empty-style-name", Warning, StyleSheet,
+    "The style has an empty name.",
+    "The style takes a number, and it is found by no name but the empty one.",
+    "{ name: normal,; style-def: s; format: \\fs20 }\n",
+    "{ name: normal; style-def: s; format: \\fs20 }\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(UndefinedReference, "undefined-reference", Warning, StyleSheet,
+    "{0} names no {1} style: it is left out.",
+    "`based-on` and `next` name a style of the same kind. A reference to another one is not "
+    "written.",
+    "{ name: normal; style-def: s; format: \\fs20; next: sum }\n",
+    "{ name: normal; style-def: s; format: \\fs20; next: normal }\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(UnknownCellColor, "unknown-cell-color", Warning, StyleSheet,
+    "{0} is the name of no color: cells of this style get background 0.",
+    "The format of a cell style is the name of one of the 57 colours, with `-` in place of "
+    "blanks. Any other word gives the background 0, which some readers show black.",
+    "{ name: shaded; style-def: cell; format: sliver }\n",
+    "{ name: shaded; style-def: cell; format: silver }\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(NotRtf, "not-rtf", Error, Rtf,
+    "The file doesn't begin with {\\rtf.",
+    "An RTF file begins with `{\\rtf` and its version.",
+    "{\\rtx1 Total}\n",
+    "{\\rtf1 Total}\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(UnclosedGroup, "unclosed-group", Error, Rtf,
+    "The group is not closed.",
+    "Each `{` has its `}`. Readers refuse a file that ends before, or show a part of it.",
+    "{\\rtf1 {\\b Total}\n",
+    "{\\rtf1 {\\b Total}}\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(TextAfterEnd, "text-after-end", Error, Rtf,
+    "The document ends before this.",
+    "Nothing follows the brace that closes the document but line breaks. Where more follows, "
+    "a `}` stands too much before: readers show what is in front of it.",
+    "{\\rtf1 {\\b Total}} Sum}\n",
+    "{\\rtf1 {\\b Total} Sum}\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(BadHexEscape, "bad-hex-escape", Error, Rtf,
+    "Two hexadecimal digits must follow \\'.",
+    "A character in the form `\\'e9` has two hexadecimal digits.",
+    "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
+    "caf\\'e}\n",
+    "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
+    "caf\\'e9}\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(CutOff, "cut-off", Error, Rtf,
+    "The file ends within {0}.",
+    "The file ends in the middle of a control word or before its binary data is complete.",
+    "{\\rtf1 {\\pict\\bin100 abc}}\n",
+    "{\\rtf1 {\\pict\\bin3 abc}}\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(DeepNesting, "deep-nesting", Error, Rtf,
+    "Groups are nested deeper than {0}.",
+    "Word processors give up on groups that are nested so deep. What is deeper is not "
+    "checked.",
+    "",
+    "",
+    "")
+
+QUORVANE_DIAGNOSTIC(CellCount, "cell-count", Error, Rtf,
+    "The row has {0} cells and {1} cell definitions.",
+    "A row has as many cells, each ended by `\\cell`, as it has definitions, each ended by "
+    "`\\cellx`.",
+    "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
+    "{\\trowd\\cellx4000\\cellx8000\n"
+    "\\pard\\intbl a\\cell\\row}\n"
+    "}\n",
+    "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
+    "{\\trowd\\cellx4000\\cellx8000\n"
+    "\\pard\\intbl a\\cell b\\cell\\row}\n"
+    "}\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(RowWithoutCells, "row-without-cells", Error, Rtf,
+    "The row has no cells.",
+    "LibreOffice loses the whole table when one of its rows has no cells.",
+    "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
+    "{\\trowd\\row}\n"
+    "}\n",
+    "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
+    "{\\trowd\\cellx4000\\cellx8000\n"
+    "\\pard\\intbl a\\cell b\\cell\\row}\n"
+    "}\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(FallingEdge, "falling-edge", Error, Rtf,
+    "The edge {0} is not to the right of the one before, {1}.",
+    "The right edges of a row's cells rise from left to right.",
+    "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
+    "{\\trowd\\cellx4000\\cellx4000\n"
+    "\\pard\\intbl a\\cell b\\cell\\row}\n"
+    "}\n",
+    "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
+    "{\\trowd\\cellx4000\\cellx8000\n"
+    "\\pard\\intbl a\\cell b\\cell\\row}\n"
+    "}\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(UnendedRow, "unended-row", Error, Rtf,
+    "The row that begins here is not ended.",
+    "Cells that no `\\row` follows are in no row. Readers lose them, or the table.",
+    "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
+    "{\\trowd\\cellx4000\\cellx8000\n"
+    "\\pard\\intbl a\\cell b\\cell}\n"
+    "}\n",
+    "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
+    "{\\trowd\\cellx4000\\cellx8000\n"
+    "\\pard\\intbl a\\cell b\\cell\\row}\n"
+    "}\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(UnknownFont, "unknown-font", Error, Rtf,
+    "The font {0} is not in the font table.",
+    "`\\f` and `\\deff` name a font by its number in the font table, which stands before.",
+    "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
+    "\\f3 Total}\n",
+    "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
+    "\\f0 Total}\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(UnknownColor, "unknown-color", Error, Rtf,
+    "The color {0} is not in the color table.",
+    "Colours are named by their number in the colour table: the empty entry at its beginning "
+    "is number 0.",
+    "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
+    "{\\colortbl;\\red255\\green0\\blue0;}\n"
+    "\\cf2 Total}\n",
+    "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
+    "{\\colortbl;\\red255\\green0\\blue0;}\n"
+    "\\cf1 Total}\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(UnknownStyle, "unknown-style", Error, Rtf,
+    "The style {0} is not in the stylesheet.",
+    "`\\s`, `\\cs`, `\\ds` and `\\ts` name a style by its number in the list of styles. The "
+    "paragraph style 0 is always there.",
+    "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
+    "{\\stylesheet{\\s1 sum;}}\n"
+    "\\pard\\s2 Total}\n",
+    "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
+    "{\\stylesheet{\\s1 sum;}}\n"
+    "\\pard\\s1 Total}\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(DuplicateFont, "duplicate-font", Error, Rtf,
+    "The font {0} is in the font table already.",
+    "Each font has a number of its own.",
+    "{\\rtf1{\\fonttbl{\\f0 Arial;}{\\f0 Verdana;}} Total}\n",
+    "{\\rtf1{\\fonttbl{\\f0 Arial;}{\\f1 Verdana;}} Total}\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(DuplicateStyleNumber, "duplicate-style-number", Error, Rtf,
+    "The style {0} is in the stylesheet already.",
+    "Each paragraph style and each character style has a number of its own kind.",
+    "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
+    "{\\stylesheet{\\s1 sum;}{\\s1 total;}} Total}\n",
+    "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
+    "{\\stylesheet{\\s1 sum;}{\\s2 total;}} Total}\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(UnknownDestination, "unknown-destination", Error, Rtf,
+    "{0} is no known destination and not marked with \\*.",
+    "A group that begins with a control word that readers may not know is marked with `\\*`, "
+    "so that they pass over it instead of showing what it holds.",
+    "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
+    "{\\ourdata 4711}Total}\n",
+    "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
+    "{\\*\\ourdata 4711}Total}\n",
+    "")
+
+// clang-format on
+
+#undef QUORVANE_DIAGNOSTIC

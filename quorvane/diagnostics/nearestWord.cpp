@@ -1,0 +1,69 @@
+#include "quorvane/diagnostics/nearestWord.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <utility>
+
+#include "quorvane/support/textCase.h"
+
+namespace quorvane {
+
+namespace {
+
+// Longer words are no misspelt names.
+constexpr std::size_t longestWord = 48;
+
+using Row = std::array<std::size_t, longestWord + 1>;
+
+// Both words are no longer than the longest.
+std::size_t distance(std::string_view a, std::string_view b) {
+    Row beforeLast{};
+    Row last{};
+    Row current{};
+    for (std::size_t j = 0; j <= b.size(); ++j) {
+        current[j] = j;
+    }
+    for (std::size_t i = 1; i <= a.size(); ++i) {
+        beforeLast = std::exchange(last, current);
+        current[0] = i;
+        for (std::size_t j = 1; j <= b.size(); ++j) {
+            const std::size_t replaced = last[j - 1] + (a[i - 1] == b[j - 1] ? 0 : 1);
+            current[j] = std::min({last[j] + 1, current[j - 1] + 1, replaced});
+            if (i > 1 && j > 1 && a[i - 1] == b[j - 2] && a[i - 2] == b[j - 1]) {
+                current[j] = std::min(current[j], beforeLast[j - 2] + 1);
+            }
+        }
+    }
+    return current[b.size()];
+}
+
+}  // namespace
+
+std::string_view nearestWord(std::string_view word, std::span<const std::string_view> candidates) {
+    std::string_view nearest;
+    if (word.empty() || word.size() > longestWord || candidates.size() > mostCandidates) {
+        return nearest;
+    }
+    const std::string wanted = lowerCase(word);
+    std::size_t best = std::max<std::size_t>(1, word.size() / 3) + 1;
+    for (const std::string_view candidate : candidates) {
+        if (candidate.empty() || candidate.size() > longestWord) {
+            continue;
+        }
+        // A word of one character is near to every other one.
+        const std::size_t changes = distance(wanted, lowerCase(candidate));
+        if (changes < best && changes < candidate.size()) {
+            best = changes;
+            nearest = candidate;
+        }
+    }
+    return nearest;
+}
+
+std::string didYouMean(std::string_view word, std::span<const std::string_view> candidates) {
+    const std::string_view nearest = nearestWord(word, candidates);
+    return nearest.empty() ? std::string() : "did you mean " + std::string(nearest) + "?";
+}
+
+}  // namespace quorvane

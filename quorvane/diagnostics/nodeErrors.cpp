@@ -1,0 +1,227 @@
+#include "quorvane/diagnostics/nodeErrors.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <string>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+#include "quorvane/diagnostics/nearestWord.h"
+#include "quorvane/support/textCase.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr NodeKind kinds[] = {NodeKind::Doc, NodeKind::Row, NodeKind::Cell, NodeKind::Para};
+
+/// Words that people write for names of this language that look quite different.
+constexpr std::pair<std::string_view, std::string_view> otherWords[] = {
+    {"crimson", "dark-red"},  {"maroon", "dark-red"},   {"scarlet", "red"},
+    {"navy", "navy-blue"},    {"grey", "gray"},         {"dark-grey", "dark-gray"},
+    {"light-gray", "silver"}, {"light-grey", "silver"}, {"lightgray", "silver"},
+    {"lightgrey", "silver"},  {"teal", "dark-cyan"},    {"lime", "green"},
+    {"olive", "dark-yellow"}, {"violet", "purple"},     {"fuchsia", "magenta"},
+    {"aqua", "cyan"},         {"transparent", "none"},  {"no", "none"},
+    {"medium", "normal"},     {"bold", "thick"},        {"single", "thin"},
+    {"solid", "thin"},        {"double", "thick"},      {"thinner", "hair"},
+    {"center", "centered"},   {"centre", "centered"},   {"centred", "centered"},
+    {"middle", "centered"},   {"justify", "justified"}, {"block", "justified"},
+};
+
+std::string nameHint(const std::string& value, const std::vector<std::string_view>& names) {
+    const std::string word = lowerCase(value);
+    for (const auto& [other, meant] : otherWords) {
+        if (word == other) {
+            for (const std::string_view name : names) {
+                if (name == meant) {
+                    return "did you mean " + std::string(meant) + "?";
+                }
+            }
+        }
+    }
+    return didYouMean(value, names);
+}
+
+bool isAlignmentNumber(double number) {
+    return number >= 0 && number <= static_cast<int>(eJustified) && number == std::floor(number);
+}
+
+bool fitsLong(double number) {
+    // Halves go to the even neighbour: the lower border keeps its half, the upper one does not.
+    return number >= std::numeric_limits<std::int32_t>::min() - 0.5 &&
+           number < std::numeric_limits<std::int32_t>::max() + 0.5;
+}
+
+class NodeErrors {
+public:
+    NodeErrors(const SourceText& source, const Vocabulary& vocabulary, DiagnosticEngine& engine)
+        : source_(source), vocabulary_(vocabulary), engine_(engine) {}
+
+    void check(OutlineNode& node) {
+        checkPlace(node);
+        checkChildren(node);
+        for (OutlineLeaf& leaf : node.leaves) {
+            if (!leaf.isFaulty) {
+                checkLeaf(node.kind, leaf);
+            }
+        }
+        if (node.kind != NodeKind::Para) {
+            checkKeysOfChildren(node);
+        }
+    }
+
+private:
+    void report(DiagnosticId id, OutlineLeaf& leaf, std::string_view part,
+                std::initializer_list<std::string_view> arguments, std::string hint) {
+        leaf.isFaulty = true;
+        engine_.report(id, source_.placeOf(part), arguments, std::move(hint));
+    }
+
+    void checkPlace(OutlineNode& node) {
+        const NodeKind parent = node.parent->kind;
+        const bool isDoc = node.parent->parent == nullptr;
+        if (isDoc || nests(parent, node.kind)) {
+            return;
+        }
+        node.isFaulty = true;
+        engine_.report(
+            parent == NodeKind::Para ? DiagnosticId::NodeInParagraph : DiagnosticId::WrongContext,
+            source_.placeOf(node.line));
+    }
+
+    void checkChildren(const OutlineNode& node) {
+        if (node.kind == NodeKind::Doc && node.children.empty() && !node.isFaulty) {
+            engine_.report(DiagnosticId::NoRow, source_.placeOf(node.line));
+        } else if (node.kind == NodeKind::Row && node.children.empty()) {
+            engine_.report(DiagnosticId::NoCell, source_.placeOf(node.line));
+        } else if (node.kind == NodeKind::Para && !node.find("para-text") && !meansText(node)) {
+            engine_.report(DiagnosticId::NoParaText, source_.placeOf(node.line));
+        }
+    }
+
+    /// True when a key that is none was most likely meant to be para-text.
+    bool meansText(const OutlineNode& node) const {
+        constexpr std::string_view forms[] = {"para-text", "pt"};
+        return std::any_of(node.leaves.begin(), node.leaves.end(), [&](const OutlineLeaf& leaf) {
+            return !vocabulary_.isKeyOf(NodeKind::Para, leaf.key) &&
+                   !nearestWord(leaf.writtenKey, forms).empty();
+        });
+    }
+
+    void checkLeaf(NodeKind kind, OutlineLeaf& leaf) {
+        if (!vocabulary_.isKeyOf(kind, leaf.key)) {
+            report(DiagnosticId::WrongKeyword, leaf, leaf.writtenKey, {leaf.key},
+                   keyHint(kind, leaf));
+            return;
+        }
+        const std::string value = valueText(leaf.value());
+        const Value key(leaf.key);
+        if (vocabulary_.isColorKey(key)) {
+            if (!vocabulary_.colorNamed(leaf.value())) {
+                report(DiagnosticId::WrongColor, leaf, leaf.text, {value},
+                       nameHint(value, Vocabulary::colorNames()));
+            }
+        } else if (vocabulary_.isBorderKey(key)) {
+            if (!vocabulary_.borderNamed(leaf.value())) {
+                report(DiagnosticId::WrongBorder, leaf, leaf.text, {value},
+                       nameHint(value, Vocabulary::borderNames()));
+            }
+        } else if (leaf.key.ends_with("-alignment")) {
+            const bool isNumber = leaf.number && isAlignmentNumber(*leaf.number);
+            if (!isNumber && !vocabulary_.alignmentNamed(leaf.value())) {
+                report(DiagnosticId::WrongAlignment, leaf, leaf.text, {value},
+                       nameHint(value, Vocabulary::alignmentNames()));
+            }
+        } else if (!vocabulary_.isTextOrNumberKey(key)) {
+            checkNumber(leaf);
+        }
+    }
+
+    void checkNumber(OutlineLeaf& leaf) {
+        if (!leaf.number) {
+            report(DiagnosticId::NotANumber, leaf, leaf.text, {leaf.key}, numberHint(leaf.text));
+        } else if (!leaf.key.ends_with("-key") && !fitsLong(*leaf.number)) {
+            report(DiagnosticId::Overflow, leaf, leaf.text, {}, {});
+        }
+    }
+
+    /// The number at the beginning of a value that goes on with something else, such as a unit.
+    static std::string numberHint(std::string_view text) {
+        const std::size_t end = text.find_first_not_of("+-0123456789");
+        return end == 0 || end == std::string_view::npos
+                   ? std::string()
+                   : "write the number alone: " + std::string(text.substr(0, end));
+    }
+
+    std::string keyHint(NodeKind kind, const OutlineLeaf& leaf) const {
+        const std::string lower = lowerCase(leaf.writtenKey);
+        if (lower != leaf.writtenKey && vocabulary_.isKeyOf(kind, vocabulary_.expand(lower))) {
+            return "keys are written in lower case: " + lower;
+        }
+        for (const NodeKind other : kinds) {
+            if (vocabulary_.isKeyOf(other, leaf.key)) {
+                return "a key of a " + std::string(nodeKindName(other)) + ", not of a " +
+                       std::string(nodeKindName(kind));
+            }
+        }
+        std::vector<std::string_view> candidates = Vocabulary::keysOf(kind);
+        const std::size_t count = candidates.size();
+        for (std::size_t i = 0; i < count; ++i) {
+            candidates.push_back(vocabulary_.shorten(candidates[i]));
+        }
+        return didYouMean(leaf.writtenKey, candidates);
+    }
+
+    /// Goes through the collection of the node's children as the build does, which takes each
+    /// child out of it under its number and puts it back under its key.
+    void checkKeysOfChildren(OutlineNode& node) {
+        std::unordered_map<std::string, const OutlineNode*> taken;
+        std::vector<std::pair<OutlineNode*, OutlineLeaf*>> keyed;
+        for (OutlineNode* child : node.children) {
+            if (child->isFaulty) {
+                continue;
+            }
+            taken.emplace(std::to_string(child->number), child);
+            for (OutlineLeaf& leaf : child->leaves) {
+                if (!leaf.isFaulty && leaf.number && leaf.key.ends_with("-key") &&
+                    vocabulary_.isKeyOf(child->kind, leaf.key)) {
+                    keyed.emplace_back(child, &leaf);
+                }
+            }
+        }
+        for (const auto& [child, leaf] : keyed) {
+            const std::string key = valueText(leaf->value());
+            const auto [holder, isFree] = taken.emplace(key, child);
+            if (isFree) {
+                taken.erase(std::to_string(child->number));
+            } else {
+                report(DiagnosticId::TakenKey, *leaf, leaf->text, {},
+                       "the " + std::string(nodeKindName(holder->second->kind)) + " of line " +
+                           std::to_string(source_.placeOf(holder->second->line).line) +
+                           " has the key " + key);
+            }
+        }
+    }
+
+    const SourceText& source_;
+    const Vocabulary& vocabulary_;
+    DiagnosticEngine& engine_;
+};
+
+}  // namespace
+
+void findNodeErrors(DescriptionOutline& outline, const SourceText& source,
+                    const Vocabulary& vocabulary, DiagnosticEngine& engine) {
+    NodeErrors errors(source, vocabulary, engine);
+    for (OutlineNode& node : outline.nodes) {
+        if (!node.isOutside) {
+            errors.check(node);
+        }
+    }
+}
+
+}  // namespace quorvane

@@ -1,0 +1,130 @@
+#include "quorvane/diagnostics/syntaxGuess.h"
+
+#include <array>
+#include <cstddef>
+#include <vector>
+
+#include "quorvane/diagnostics/nearestWord.h"
+#include "quorvane/support/textCase.h"
+#include "quorvane/support/trimming.h"
+
+namespace quorvane {
+
+namespace {
+
+using Meant = SyntaxGuess::Meant;
+
+constexpr std::size_t nowhere = std::string_view::npos;
+constexpr std::string_view nodeNames[] = {"doc", "row", "cell", "para"};
+
+bool isKey(std::string_view word, const Vocabulary& vocabulary) {
+    const Value key(vocabulary.expand(word));
+    for (const NodeKind kind : {NodeKind::Row, NodeKind::Cell, NodeKind::Para, NodeKind::Doc}) {
+        if (vocabulary.isKeyOf(kind, key)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// The node that a name stands for, or nearly stands for.
+NodeKind nodeNearly(std::string_view name, const Vocabulary& vocabulary) {
+    const NodeKind kind = vocabulary.nodeKind(name);
+    return kind != NodeKind::None || name.size() < 3
+               ? kind
+               : vocabulary.nodeKind(nearestWord(name, nodeNames));
+}
+
+/// The node's name as it is written here: in its long form, unless the line has the short one.
+std::string nameFor(NodeKind kind, std::string_view written) {
+    constexpr std::string_view longNames[] = {"row", "cell", "para", "doc"};
+    const std::string_view name = longNames[static_cast<std::size_t>(kind)];
+    return written.size() == 1 && kind != NodeKind::Doc ? lowerCase(written) : std::string(name);
+}
+
+SyntaxGuess guessLeaf(std::string_view line, std::size_t equals) {
+    SyntaxGuess guess;
+    const bool isOpened = line.front() == '(';
+    guess.key = TrimEx(line.substr(isOpened ? 1 : 0, equals - (isOpened ? 1 : 0)));
+    const std::size_t close = line.find(')', equals);
+    guess.value = TrimEx(line.substr(equals + 1, close == nowhere ? close : close - equals - 1));
+    guess.meant = Meant::Leaf;
+    if (!isOpened) {
+        guess.hint = "did you mean (" + std::string(line) + (close == nowhere ? ")?" : "?");
+    } else if (close == nowhere) {
+        guess.meant = Meant::LeafWithoutEnd;
+        guess.hint =
+            "the ) is missing; a value ends on its own line: write \\line for a line break";
+    } else if (line.find(')') < equals) {
+        guess.hint = "the key holds a )";
+    } else {
+        guess.hint = "the value ends at the first ): write \\'29 for a ) in a text";
+    }
+    return guess;
+}
+
+SyntaxGuess guessOpener(std::string_view line, const Vocabulary& vocabulary) {
+    const std::string_view head = line.substr(1, line.find_first_of(" \t;)=", 1) - 1);
+    const std::string_view rest = trimWhitespace(line.substr(head.size() + 1));
+    if (isKey(head, vocabulary) && vocabulary.nodeKind(head) == NodeKind::None) {
+        SyntaxGuess guess;
+        guess.meant = Meant::Leaf;
+        guess.key = head;
+        const bool isEnded = !rest.empty() && rest.back() == ')';
+        guess.hint = "did you mean (" + std::string(head) + "=" +
+                     std::string(rest.substr(0, rest.size() - (isEnded ? 1 : 0))) + ")?";
+        return guess;
+    }
+    SyntaxGuess guess;
+    guess.kind = nodeNearly(head, vocabulary);
+    if (guess.kind == NodeKind::None) {
+        return guess;
+    }
+    const std::string name = nameFor(guess.kind, head);
+    guess.meant = Meant::Opener;
+    if (rest == ")") {
+        guess.hint = "(" + name + " opens the node and " + name + ") closes it";
+    } else if (!rest.empty() && rest.front() != ';') {
+        guess.hint = "nothing but a comment behind ; follows (" + name;
+    } else {
+        guess.hint = "did you mean (" + name + "?";
+    }
+    return guess;
+}
+
+SyntaxGuess guessCloser(std::string_view line, const Vocabulary& vocabulary) {
+    SyntaxGuess guess;
+    const std::string_view head = line.substr(0, line.find_first_of(" \t;)"));
+    guess.kind = nodeNearly(head, vocabulary);
+    if (guess.kind == NodeKind::None) {
+        return guess;
+    }
+    const std::string name = nameFor(guess.kind, head);
+    if (line.find(')') == nowhere) {
+        guess.hint = "did you mean (" + name + " or " + name + ")?";
+        guess.kind = NodeKind::None;
+        return guess;
+    }
+    guess.meant = Meant::Closer;
+    guess.hint = vocabulary.nodeKind(head) == NodeKind::None
+                     ? "did you mean " + name + ")?"
+                     : "nothing but a comment behind ; follows " + name + ")";
+    return guess;
+}
+
+}  // namespace
+
+SyntaxGuess guessLine(std::string_view line, const Vocabulary& vocabulary) {
+    const std::size_t equals = line.find('=');
+    const std::size_t comment = line.find(';');
+    if (equals != nowhere && (line.front() == '(' || equals < comment)) {
+        const std::string_view key = TrimEx(
+            line.substr(line.front() == '(' ? 1 : 0, equals - (line.front() == '(' ? 1U : 0U)));
+        if (line.front() == '(' || isKey(key, vocabulary)) {
+            return guessLeaf(line, equals);
+        }
+    }
+    return line.front() == '(' ? guessOpener(line, vocabulary) : guessCloser(line, vocabulary);
+}
+
+}  // namespace quorvane

@@ -1,0 +1,95 @@
+#include "quorvane/diagnostics/trialDocument.h"
+
+#include <memory>
+#include <string>
+
+#include "quorvane/driver/DocumentBuilder.h"
+#include "quorvane/support/RtfError.h"
+
+namespace quorvane {
+
+namespace {
+
+/// The nodes and leaves of the trial document, where a line's number stands for a leaf: its
+/// position among all leaves, from 1 on.
+class TrialTree {
+public:
+    explicit TrialTree(OutlineNode& doc) : root_(std::make_shared<DescriptionNode>(0)) {
+        copy(doc, *root_);
+    }
+
+    const DescriptionNode& root() const { return *root_; }
+    OutlineLeaf* leafAt(int number) const {
+        const auto index = static_cast<std::size_t>(number) - 1;
+        return index < leaves_.size() ? leaves_[index] : nullptr;
+    }
+
+private:
+    void copy(OutlineNode& node, DescriptionNode& target) {
+        for (OutlineLeaf& leaf : node.leaves) {
+            if (!leaf.isFaulty) {
+                leaves_.push_back(&leaf);
+                target.addLeaf(leaf.key, Leaf(leaf.value(), std::string(leaf.text),
+                                              static_cast<int>(leaves_.size())));
+            }
+        }
+        // No deeper than rows, cells and paragraphs.
+        for (OutlineNode* child : builtChildren(node)) {
+            copy(*child, *AddNode(target, child->kind, child->number, 0));
+        }
+    }
+
+    std::shared_ptr<DescriptionNode> root_;
+    std::vector<OutlineLeaf*> leaves_;
+};
+
+DiagnosticId idOf(const RtfError& error) {
+    return error.is(RunTimeError::Overflow)       ? DiagnosticId::Overflow
+           : error.is(RunTimeError::DuplicateKey) ? DiagnosticId::TakenKey
+                                                  : DiagnosticId::Rejected;
+}
+
+}  // namespace
+
+std::vector<OutlineNode*> builtChildren(const OutlineNode& node) {
+    std::vector<OutlineNode*> built;
+    for (OutlineNode* child : node.children) {
+        if (!child->isFaulty && nests(node.kind, child->kind)) {
+            built.push_back(child);
+        }
+    }
+    return built;
+}
+
+Ref<CRtfDoc> buildTrialDocument(DescriptionOutline& outline, const SourceText& source,
+                                const Vocabulary& vocabulary, const KnownStyles* styles,
+                                Platform& platform, DiagnosticEngine& engine) {
+    if (!outline.doc) {
+        return nullptr;
+    }
+    // Each attempt costs as much as the build: what goes wrong so often is not looked at further.
+    constexpr int mostAttempts = 20;
+    for (int attempt = 0; attempt < mostAttempts; ++attempt) {
+        Ref<CRtfDoc> document = CRtfDoc::create(platform);
+        if (styles && styles->areLoaded()) {
+            document->LoadStyleSheetFromMemmory(styles->text());
+        }
+        const TrialTree tree(*outline.doc);
+        try {
+            DocumentBuilder(*document, vocabulary).build(tree.root());
+            return document;
+        } catch (const RtfError& error) {
+            OutlineLeaf* leaf = tree.leafAt(error.line);
+            if (!leaf) {
+                engine.report(DiagnosticId::Rejected, source.placeOf(outline.doc->line),
+                              {error.description});
+                return nullptr;
+            }
+            leaf->isFaulty = true;
+            engine.report(idOf(error), source.placeOf(leaf->text), {error.description});
+        }
+    }
+    return nullptr;
+}
+
+}  // namespace quorvane

@@ -1,0 +1,142 @@
+#include "cli/diagnosticsPage.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "quorvane/diagnostics/diagnosticRules.h"
+#include "tests/cli/TemporaryFolder.h"
+#include "tests/cli/runProgram.h"
+
+namespace quorvane::cli {
+namespace {
+
+using testing::HasSubstr;
+
+std::string pageInTheDocuments() {
+    std::ifstream file(QUORVANE_DOCUMENTS_FOLDER "/diagnostics.md", std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+TEST(DiagnosticsPage, IsTheOneInTheDocuments) {
+    // scripts/diagnostics-page makes it anew.
+    EXPECT_TRUE(diagnosticsPage() == pageInTheDocuments());
+}
+
+/// What the page in the documents tells of an identifier.
+struct Section {
+    std::string identifier;
+    std::string companion;
+    bool isSheet = false;
+    std::string wrong;
+    std::string report;
+    std::string right;
+};
+
+void PrintTo(const Section& section, std::ostream* output) {
+    *output << section.identifier;
+}
+
+/// The text in the fence behind a title; empty where the section has none.
+std::string fenced(const std::string& section, const std::string& title) {
+    const std::string begin = "\n" + title + "\n\n```\n";
+    const std::size_t at = section.find(begin);
+    if (at == std::string::npos) {
+        return {};
+    }
+    const std::size_t start = at + begin.size();
+    return section.substr(start, section.find("```\n", start) - start);
+}
+
+std::vector<Section> sectionsWithExamples() {
+    const std::string page = pageInTheDocuments();
+    std::vector<Section> sections;
+    for (std::size_t at = page.find("\n### "); at != std::string::npos;) {
+        const std::size_t next = page.find("\n### ", at + 1);
+        const std::string text = page.substr(at, next - at);
+        Section section;
+        section.identifier = text.substr(5, text.find('\n', 5) - 5);
+        section.companion = fenced(text, "The stylesheet of both:");
+        section.isSheet = text.find("\nThe description of both:") != std::string::npos;
+        if (section.isSheet) {
+            section.companion = fenced(text, "The description of both:");
+        }
+        section.wrong = fenced(text, "Wrong:");
+        section.report = fenced(text, "The report:");
+        section.right = fenced(text, "Right:");
+        if (!section.wrong.empty()) {
+            sections.push_back(section);
+        }
+        at = next;
+    }
+    return sections;
+}
+
+/// The built program, run on an example as a reader of the page would.
+class PageExamples : public testing::TestWithParam<Section> {
+protected:
+    ProgramResult check(const std::string& example) {
+        const Section& section = GetParam();
+        const std::string file = section.report.substr(0, section.report.find(':'));
+        ProgramStart start;
+        start.folder = folder.path();
+        start.arguments = {"check"};
+        if (section.isSheet) {
+            folder.write("example.rtfss", expandedExample(example));
+            folder.write("example.rtfspec", section.companion);
+        } else {
+            folder.write(file, expandedExample(example));
+            if (!section.companion.empty()) {
+                folder.write("example.rtfss", section.companion);
+            }
+        }
+        if (!section.companion.empty()) {
+            start.arguments.insert(start.arguments.end(), {"--stylesheet", "example.rtfss"});
+        }
+        start.arguments.push_back(section.isSheet ? "example.rtfspec" : file);
+        return runProgram(start);
+    }
+
+    TemporaryFolder folder;
+};
+
+TEST_P(PageExamples, ThatAreWrongGetTheReportOfThePage) {
+    const ProgramResult result = check(GetParam().wrong);
+    EXPECT_EQ(result.output, GetParam().report);
+    EXPECT_EQ(result.errors, "");
+    const bool hasError = result.output.find(": error: ") != std::string::npos;
+    EXPECT_EQ(result.status, hasError ? 1 : 3);
+    EXPECT_THAT(result.output, HasSubstr("[" + GetParam().identifier + "]"));
+}
+
+TEST_P(PageExamples, ThatAreRightGetNone) {
+    const ProgramResult result = check(GetParam().right);
+    EXPECT_EQ(result.output, "");
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(result.status, 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, PageExamples, testing::ValuesIn(sectionsWithExamples()),
+                         [](const testing::TestParamInfo<Section>& section) {
+                             std::string name = section.param.identifier;
+                             std::replace(name.begin(), name.end(), '-', '_');
+                             return name;
+                         });
+
+TEST(DiagnosticsPage, HasASectionForEachIdentifier) {
+    const std::string page = pageInTheDocuments();
+    for (const DiagnosticRule& rule : diagnosticRules()) {
+        EXPECT_THAT(page, HasSubstr("\n### " + std::string(rule.identifier) + "\n"));
+    }
+    EXPECT_EQ(sectionsWithExamples().size() + 3, diagnosticRules().size());
+}
+
+}  // namespace
+}  // namespace quorvane::cli

@@ -1,0 +1,107 @@
+// The built program's "format".
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "tests/cli/TemporaryFolder.h"
+#include "tests/cli/descriptions.h"
+#include "tests/cli/runProgram.h"
+
+namespace quorvane::cli {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+const std::string loose = "(doc\n(row\n(c\nc)\nrow)\ndoc)";
+const std::string canonical = "(doc\n  (row\n    (c\n    c)\n  row)\ndoc)\n";
+
+class FormatTest : public testing::Test {
+protected:
+    FormatTest() { start.folder = folder.path(); }
+
+    ProgramResult run(std::vector<std::string> arguments) {
+        arguments.insert(arguments.begin(), "format");
+        start.arguments = std::move(arguments);
+        return runProgram(start);
+    }
+
+    TemporaryFolder folder;
+    ProgramStart start;
+};
+
+TEST_F(FormatTest, PutsFilesIntoTheirCanonicalForm) {
+    folder.write("a.rtfspec", loose);
+    folder.write("b.rtfss", "{name:a;style-def:s}");
+    const ProgramResult result = run({"a.rtfspec", "b.rtfss"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.output + result.errors, "");
+    EXPECT_EQ(folder.read("a.rtfspec"), canonical);
+    EXPECT_EQ(folder.read("b.rtfss"), "{ name: a; style-def: s }\n");
+    EXPECT_THAT(folder.names(), ElementsAre("a.rtfspec", "b.rtfss"));
+}
+
+TEST_F(FormatTest, WritesLongOrShortNames) {
+    folder.write("a.rtfspec", loose);
+    EXPECT_EQ(run({"--names=long", "a.rtfspec"}).status, 0);
+    EXPECT_EQ(folder.read("a.rtfspec"), "(doc\n  (row\n    (cell\n    cell)\n  row)\ndoc)\n");
+    EXPECT_EQ(run({"--names", "short", "a.rtfspec"}).status, 0);
+    EXPECT_EQ(folder.read("a.rtfspec"), "(doc\n  (r\n    (c\n    c)\n  r)\ndoc)\n");
+    EXPECT_EQ(run({"--names=both", "a.rtfspec"}).status, 2);
+}
+
+TEST_F(FormatTest, OnlyNamesFilesWhenItShallCheck) {
+    folder.write("a.rtfspec", loose);
+    folder.write("b.rtfspec", canonical);
+    const ProgramResult result = run({"--check", "a.rtfspec", "b.rtfspec"});
+    EXPECT_EQ(result.output, "a.rtfspec\n");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(folder.read("a.rtfspec"), loose);
+    EXPECT_EQ(run({"--check", "b.rtfspec"}).status, 0);
+}
+
+TEST_F(FormatTest, LeavesAFileAloneThatIsInItsForm) {
+    folder.write("a.rtfspec", canonical);
+    const auto before = std::filesystem::last_write_time(folder.path() / "a.rtfspec");
+    EXPECT_EQ(run({"a.rtfspec"}).status, 0);
+    EXPECT_EQ(std::filesystem::last_write_time(folder.path() / "a.rtfspec"), before);
+}
+
+TEST_F(FormatTest, WritesStandardInputToStandardOutput) {
+    start.input = loose;
+    EXPECT_EQ(run({"-"}).output, canonical);
+    const ProgramResult checked = run({"--check", "-"});
+    EXPECT_EQ(checked.output, "<stdin>\n");
+    EXPECT_EQ(checked.status, 1);
+}
+
+TEST_F(FormatTest, KeepsEveryByteOfATextInWindows1252) {
+    std::string bytes;
+    for (int byte = 0x80; byte < 0x100; ++byte) {
+        bytes += static_cast<char>(byte);
+    }
+    folder.write("a.rtfspec", descriptionOf(bytes));
+    EXPECT_EQ(run({"a.rtfspec"}).status, 0);
+    EXPECT_THAT(folder.read("a.rtfspec"), HasSubstr("(pt=" + bytes + ")"));
+}
+
+TEST_F(FormatTest, TellsWhatItCannotDoAndFormatsTheRest) {
+    folder.write("a.rtfspec", loose);
+    folder.write("c.rtf", "{\\rtf1 a}");
+    const ProgramResult result = run({"nosuch", "c.rtf", "a.rtfspec"});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_THAT(linesOf(result.errors),
+                ElementsAre(StartsWith("nosuch: error[53]: File not found"),
+                            "c.rtf: error[5]: An RTF file has no canonical form"));
+    EXPECT_EQ(folder.read("a.rtfspec"), canonical);
+    EXPECT_EQ(run({}).status, 2);
+}
+
+}  // namespace
+}  // namespace quorvane::cli

@@ -1,0 +1,129 @@
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+#include "tests/com/host/ComPtr.h"
+#include "tests/com/host/Component.h"
+#include "tests/com/host/EventConnection.h"
+#include "tests/com/host/LateBound.h"
+#include "tests/com/host/interfaces.h"
+#include "tests/com/host/text.h"
+
+namespace quorvane::host {
+namespace {
+
+/// What is allocated on all heaps of the process.
+struct Allocations {
+    std::size_t count = 0;
+    std::size_t bytes = 0;
+};
+
+Allocations allocations() {
+    Allocations found;
+    std::vector<HANDLE> heaps(64);
+    heaps.resize(GetProcessHeaps(static_cast<DWORD>(heaps.size()), heaps.data()));
+    for (const HANDLE heap : heaps) {
+        PROCESS_HEAP_ENTRY entry{};
+        HeapLock(heap);
+        while (HeapWalk(heap, &entry)) {
+            if (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) {
+                ++found.count;
+                found.bytes += entry.cbData;
+            }
+        }
+        HeapUnlock(heap);
+    }
+    return found;
+}
+
+/// What a host does with one document.
+void buildByHand(const Component& component) {
+    const auto document = component.create<_CRtfDoc>(__uuidof(::CRtfDoc));
+    ComPtr<_CRtfTableRows> rows;
+    ComPtr<_CRtfTableRow> row;
+    ComPtr<_CRtfTableCells> cells;
+    ComPtr<_CRtfTableCell> cell;
+    ComPtr<_CRtfParagraphs> paragraphs;
+    ComPtr<_CRtfParagraph> paragraph;
+    ComPtr<IUnknown> enumerator;
+    Bstr contents;
+    Variant key("key");
+    document->get_TableRows(rows.out());
+    rows->AddTail(key.reference());
+    rows->get_Item(key.get(), row.out());
+    row->get_TableCells(cells.out());
+    cells->AddTail(nullptr);
+    cells->PeekTail(cell.out());
+    cells->get_NewEnum(enumerator.out());
+    cell->get_Paragraphs(paragraphs.out());
+    paragraphs->AddTail(nullptr);
+    paragraphs->PeekTail(paragraph.out());
+    paragraph->put_Text(Bstr(L"A text that is longer than what fits anywhere else").get());
+    document->get_Contents(contents.out());
+}
+
+/// The same late bound, with an error, an event and a description.
+void driveLateBound(const Component& component) {
+    const LateBound driver(component.create<IDispatch>(__uuidof(::CRtfDriver)));
+    int events = 0;
+    const EventConnection connection(driver.get(), [&events](const std::wstring&, DISPPARAMS&) {
+        ++events;
+        return S_OK;
+    });
+    driver.call("ParseFromMemmory", {"(doc\n(r\n(c\n(p\n(pt=a text)\np)\nc)\nr)\ndoc)"});
+    driver.call("LoadStyleSheetFromMemmory", {"{name: head; style-def: cell; format: navy-blue}"});
+    driver.call("LoadStyleSheetFromMemmory", {"{name: x; nosuch: 1}"});
+    driver.call("ParseFile", {""});
+    const LateBound rows = driver.object("RtfObject").object("TableRows");
+    rows.get("Item", {99});
+    rows.call("add", {Variant::missing(), 1});
+    rows.call("add", {"x"}, {{"After", 1}});
+    rows.set("Count", {1});
+    driver.call("ParseFromMemmory", {"(row\nrow)"});
+    driver.get("Contents");
+    ASSERT_GT(events, 0);
+}
+
+void expectNoLeak(void (*work)(const Component&), int times) {
+    const Component component;
+    // What is allocated once and kept: names, caches of the system, the run-time library.
+    for (int i = 0; i < 300; ++i) {
+        work(component);
+    }
+    const Allocations before = allocations();
+
+    for (int i = 0; i < times; ++i) {
+        work(component);
+    }
+
+    const Allocations after = allocations();
+    // One allocation kept per document would be thousands of them.
+    EXPECT_LT(after.count, before.count + 20);
+    EXPECT_LT(after.bytes, before.bytes + 16384);
+    EXPECT_EQ(component.canUnloadNow(), S_OK);
+}
+
+TEST(Memory, OfDocumentsIsFreed) {
+    expectNoLeak(buildByHand, 100000);
+}
+
+TEST(Memory, OfDriversIsFreed) {
+    expectNoLeak(driveLateBound, 3000);
+}
+
+TEST(Memory, IsMeasured) {
+    const Component component;
+    std::vector<ComPtr<_CRtfDoc>> kept;
+    const Allocations before = allocations();
+
+    for (int i = 0; i < 1000; ++i) {
+        kept.push_back(component.create<_CRtfDoc>(__uuidof(::CRtfDoc)));
+    }
+
+    EXPECT_GT(allocations().count, before.count + 1000);
+}
+
+}  // namespace
+}  // namespace quorvane::host

@@ -1,0 +1,297 @@
+#include <gmock/gmock.h>
+#include <olectl.h>
+#include <windows.h>
+
+#include <algorithm>
+#include <set>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "tests/com/host/ComPtr.h"
+#include "tests/com/host/Component.h"
+#include "tests/com/host/LateBound.h"
+#include "tests/com/host/Process.h"
+#include "tests/com/host/interfaces.h"
+#include "tests/com/host/registry.h"
+#include "tests/com/host/text.h"
+
+namespace quorvane::host {
+namespace {
+
+using testing::IsEmpty;
+
+std::set<std::string> linesOf(const std::string& text) {
+    std::set<std::string> lines;
+    std::size_t begin = 0;
+    while (begin < text.size()) {
+        const std::size_t end = std::min(text.find('\n', begin), text.size());
+        lines.insert(text.substr(begin, end - begin));
+        begin = end + 1;
+    }
+    return lines;
+}
+
+std::string replaced(std::string text, const std::string& what, const std::string& with) {
+    for (std::size_t at = 0; (at = text.find(what, at)) != std::string::npos; at += with.size()) {
+        text.replace(at, what.size(), with);
+    }
+    return text;
+}
+
+constexpr bool is64Bit = sizeof(void*) == 8;
+const std::string classes = "Software\\Classes\\";
+const std::string classesFor32Bits = classes + "Wow6432Node\\";
+
+/// What a registration of that file adds to the classes; as `registration.txt` lists it. On 64-bit
+/// systems 32-bit programs find interfaces and type libraries too.
+std::set<std::string> agreedEntries(const std::wstring& file) {
+    const std::wstring folder = file.substr(0, file.rfind(L'\\'));
+    std::string text = bytesOfFile(testSource(L"registration.txt"));
+    text = replaced(text, "<classes>\\", classes);
+    text = replaced(text, "<component>", utf8Text(file));
+    text = replaced(text, "<folder>", utf8Text(folder));
+    text = replaced(text, "<system>", is64Bit ? "win64" : "win32");
+    std::set<std::string> entries = linesOf(text);
+    for (const std::string& entry : linesOf(text)) {
+        const bool isForAll =
+            entry.starts_with(classes + "Interface\\") || entry.starts_with(classes + "TypeLib\\");
+        if (is64Bit && isForAll) {
+            entries.insert(classesFor32Bits + entry.substr(classes.size()));
+        }
+    }
+    return entries;
+}
+
+/// Entries but for the interfaces for 32-bit programs, which Wine registers for the machine when
+/// they are to be registered for the user.
+std::set<std::string> withoutInterfacesFor32Bits(std::set<std::string> entries) {
+    std::erase_if(entries, [](const std::string& entry) {
+        return entry.starts_with(classesFor32Bits + "Interface\\{1811CD");
+    });
+    return entries;
+}
+
+/// What a registration of the component for the user adds to the user's classes.
+std::set<std::string> agreedEntriesOfUser() {
+    std::set<std::string> entries = agreedEntries(componentFile());
+    std::erase_if(entries,
+                  [](const std::string& entry) { return entry.starts_with(classesFor32Bits); });
+    return entries;
+}
+
+/// The identifier of a class, by its name.
+HRESULT classOf(const wchar_t* programId, CLSID& id) {
+    return CLSIDFromProgID(programId, &id);
+}
+
+HRESULT createByName(const wchar_t* programId, ComPtr<IDispatch>& object) {
+    CLSID id;
+    const HRESULT outcome = classOf(programId, id);
+    return FAILED(outcome) ? outcome
+                           : CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch,
+                                              object.outVoid());
+}
+
+using Install = HRESULT(STDAPICALLTYPE*)(BOOL install, const wchar_t* commandLine);
+
+HRESULT install(const Component& component, bool on, const wchar_t* commandLine) {
+    const FARPROC function = GetProcAddress(component.module(), "DllInstall");
+    if (!function) {
+        throw std::runtime_error("the component does not export DllInstall");
+    }
+    return reinterpret_cast<Install>(reinterpret_cast<void*>(function))(on, commandLine);
+}
+
+/// A registry in which the component is not registered before and after.
+class Registration : public testing::Test {
+protected:
+    void SetUp() override { before(); }
+    void TearDown() override { expectAsBefore(); }
+
+    /// What the registration of the file has added for the machine is what was agreed.
+    void expectAgreedEntries(const std::wstring& file) const {
+        const std::vector<std::string> entries = added(before().machine, classRegistry().machine);
+        expectSame({entries.begin(), entries.end()}, agreedEntries(file));
+    }
+    static void expectSame(const std::set<std::string>& actual,
+                           const std::set<std::string>& expected) {
+        EXPECT_THAT(added(expected, actual), IsEmpty());
+        EXPECT_THAT(added(actual, expected), IsEmpty());
+    }
+    void expectAsBefore() const {
+        const ClassRegistry after = classRegistry();
+        expectSame(after.machine, before().machine);
+        expectSame(after.user, before().user);
+    }
+
+    /// The registry before the first test, to which every test must come back.
+    static const ClassRegistry& before() {
+        static const ClassRegistry registry = classRegistry();
+        return registry;
+    }
+
+    Component component_;
+};
+
+TEST_F(Registration, ForTheMachineWritesWhatWasAgreed) {
+    EXPECT_EQ(component_.call("DllRegisterServer"), S_OK);
+
+    const ClassRegistry after = classRegistry();
+    expectAgreedEntries(componentFile());
+    EXPECT_THAT(added(after.machine, before().machine), IsEmpty());
+    EXPECT_TRUE(after.user == before().user);
+
+    EXPECT_EQ(component_.call("DllUnregisterServer"), S_OK);
+}
+
+TEST_F(Registration, CanBeRepeated) {
+    EXPECT_EQ(component_.call("DllRegisterServer"), S_OK);
+    const ClassRegistry once = classRegistry();
+    EXPECT_EQ(component_.call("DllRegisterServer"), S_OK);
+    EXPECT_TRUE(classRegistry() == once);
+    EXPECT_EQ(component_.call("DllUnregisterServer"), S_OK);
+    EXPECT_EQ(component_.call("DllUnregisterServer"), S_OK);
+}
+
+TEST_F(Registration, ForTheUserWritesTheSameInTheUsersPart) {
+    EXPECT_EQ(install(component_, true, L"user"), S_OK);
+
+    const ClassRegistry after = classRegistry();
+    const std::vector<std::string> entries = added(before().user, after.user);
+    EXPECT_THAT(added({entries.begin(), entries.end()}, agreedEntriesOfUser()), IsEmpty());
+    EXPECT_THAT(added(after.user, before().user), IsEmpty());
+    EXPECT_TRUE(withoutInterfacesFor32Bits(after.machine) == before().machine);
+
+    EXPECT_EQ(install(component_, false, L"user"), S_OK);
+}
+
+TEST_F(Registration, ForAnybodyElseIsForTheMachine) {
+    EXPECT_EQ(install(component_, true, L""), S_OK);
+    expectAgreedEntries(componentFile());
+    EXPECT_EQ(install(component_, false, nullptr), S_OK);
+}
+
+TEST_F(Registration, LeavesTheRegistryOfTheProcessAsItWas) {
+    EXPECT_EQ(install(component_, true, L"user"), S_OK);
+    EXPECT_EQ(install(component_, false, L"user"), S_OK);
+
+    HKEY key = nullptr;
+    EXPECT_EQ(RegOpenKeyExW(HKEY_CLASSES_ROOT, L"CLSID", 0, KEY_READ, &key), ERROR_SUCCESS);
+    RegCloseKey(key);
+}
+
+TEST_F(Registration, LetsHostsMakeObjectsByName) {
+    ComPtr<IDispatch> object;
+    CLSID id;
+    EXPECT_EQ(classOf(L"Quorvane.CRtfDoc", id), CO_E_CLASSSTRING);
+    ASSERT_EQ(component_.call("DllRegisterServer"), S_OK);
+
+    for (const wchar_t* name : {L"Quorvane.CRtfDoc", L"Quorvane.CRtfDoc.1", L"Quorvane.CRtfDriver",
+                                L"Quorvane.CRtfDriver.1"}) {
+        EXPECT_EQ(createByName(name, object), S_OK);
+        EXPECT_EQ(LateBound(object).get("Contents").value.text(), "{}");
+    }
+    EXPECT_EQ(createByName(L"Quorvane.CRtfTableRow", object), CO_E_CLASSSTRING);
+
+    EXPECT_EQ(component_.call("DllUnregisterServer"), S_OK);
+    EXPECT_EQ(classOf(L"Quorvane.CRtfDoc", id), CO_E_CLASSSTRING);
+}
+
+TEST_F(Registration, LetsHostsFindTheTypeLibrary) {
+    ComPtr<ITypeLib> library;
+    GUID id;
+    ASSERT_EQ(IIDFromString(L"{1811CD00-270D-4B00-A52C-4047F643EAB9}", &id), S_OK);
+    ASSERT_EQ(component_.call("DllRegisterServer"), S_OK);
+    EXPECT_EQ(LoadRegTypeLib(id, 1, 0, LOCALE_NEUTRAL, library.out()), S_OK);
+    EXPECT_EQ(component_.call("DllUnregisterServer"), S_OK);
+    EXPECT_NE(LoadRegTypeLib(id, 1, 0, LOCALE_NEUTRAL, library.out()), S_OK);
+}
+
+TEST_F(Registration, WorksWithTheSystemsProgram) {
+    const auto run = [](const std::wstring& options, const std::wstring& file) {
+        return Process(L"regsvr32.exe /s " + options + L" \"" + file + L"\"", L"C:\\")
+            .wait()
+            .status;
+    };
+    EXPECT_EQ(run(L"", componentFile()), 0U);
+    expectAgreedEntries(componentFile());
+    EXPECT_EQ(run(L"/u", componentFile()), 0U);
+    expectAsBefore();
+
+    EXPECT_EQ(run(L"/n /i:user", componentFile()), 0U);
+    const ClassRegistry forUser = classRegistry();
+    EXPECT_TRUE(withoutInterfacesFor32Bits(forUser.machine) == before().machine);
+    EXPECT_FALSE(forUser.user == before().user);
+    EXPECT_EQ(run(L"/u /n /i:user", componentFile()), 0U);
+    EXPECT_EQ(run(L"", L"C:\\no such file.dll"), 3U);
+}
+
+TEST_F(Registration, IsOfTheFileWhereverItIs) {
+    const std::wstring folder = temporaryFile(L"\u00DCn\u00EF c\u00F6d\u00EB");
+    const std::wstring moved = folder + L"\\quorvane.dll";
+    ASSERT_TRUE(CreateDirectoryW(folder.c_str(), nullptr));
+    ASSERT_TRUE(CopyFileW(componentFile().c_str(), moved.c_str(), TRUE));
+    const Component elsewhere(moved);
+
+    EXPECT_EQ(elsewhere.call("DllRegisterServer"), S_OK);
+
+    expectAgreedEntries(moved);
+    EXPECT_EQ(elsewhere.call("DllUnregisterServer"), S_OK);
+}
+
+/// What a manifest makes known, as long as it lives.
+class Activation {
+public:
+    explicit Activation(const std::wstring& manifest) {
+        ACTCTXW context{};
+        context.cbSize = sizeof context;
+        context.lpSource = manifest.c_str();
+        handle_ = CreateActCtxW(&context);
+        if (handle_ == INVALID_HANDLE_VALUE || !ActivateActCtx(handle_, &cookie_)) {
+            throw std::runtime_error("the manifest is not accepted: " + utf8Text(manifest));
+        }
+    }
+    Activation(const Activation&) = delete;
+    Activation& operator=(const Activation&) = delete;
+    ~Activation() {
+        DeactivateActCtx(0, cookie_);
+        ReleaseActCtx(handle_);
+    }
+
+private:
+    HANDLE handle_;
+    ULONG_PTR cookie_ = 0;
+};
+
+std::wstring besideComponent(const wchar_t* name) {
+    const std::wstring file = componentFile();
+    return file.substr(0, file.rfind(L'\\') + 1) + name;
+}
+
+TEST_F(Registration, IsNotNeededWithTheManifestOfTheComponent) {
+    ComPtr<IDispatch> object;
+    {
+        const Activation activation(besideComponent(L"Quorvane.Component.manifest"));
+        for (const wchar_t* name : {L"Quorvane.CRtfDoc", L"Quorvane.CRtfDriver",
+                                    L"Quorvane.CRtfDoc.1", L"Quorvane.CRtfDriver.1"}) {
+            EXPECT_EQ(createByName(name, object), S_OK);
+        }
+    }
+    EXPECT_EQ(LateBound(object).get("Contents").value.text(), "{}");
+    EXPECT_EQ(LateBound(object).object("RtfObject").object("TableRows").get("Count").value.number(),
+              0);
+    EXPECT_EQ(createByName(L"Quorvane.CRtfDoc", object), CO_E_CLASSSTRING);
+}
+
+TEST_F(Registration, IsNotNeededWithAManifestThatNamesTheComponent) {
+    ComPtr<IDispatch> object;
+    const Activation activation(besideComponent(L"program.exe.manifest"));
+
+    EXPECT_EQ(createByName(L"Quorvane.CRtfDoc", object), S_OK);
+
+    EXPECT_EQ(LateBound(object).get("Contents").value.text(), "{}");
+}
+
+}  // namespace
+}  // namespace quorvane::host

@@ -1,0 +1,271 @@
+#include <gtest/gtest.h>
+#include <ocidl.h>
+#include <windows.h>
+
+#include <functional>
+#include <string>
+
+#include "tests/com/host/ComObject.h"
+#include "tests/com/host/ComPtr.h"
+#include "tests/com/host/Component.h"
+#include "tests/com/host/Process.h"
+#include "tests/com/host/ScarceMemory.h"
+#include "tests/com/host/Variant.h"
+#include "tests/com/host/interfaces.h"
+#include "tests/com/host/text.h"
+
+namespace quorvane::host {
+namespace {
+
+/// What a host does; answers the first failure of the component.
+using Work = std::function<HRESULT(const Component&)>;
+
+/// Goes from call to call as long as they succeed.
+class Calls {
+public:
+    template <class Call>
+    Calls& operator()(Call&& call) {
+        if (SUCCEEDED(result_)) {
+            result_ = call();
+        }
+        return *this;
+    }
+    HRESULT result() const { return result_; }
+
+private:
+    HRESULT result_ = S_OK;
+};
+
+template <class Interface>
+HRESULT create(const Component& component, REFCLSID id, ComPtr<Interface>& object) {
+    ComPtr<IClassFactory> factory;
+    const HRESULT result = component.classObject(id, IID_IClassFactory, factory.outVoid());
+    return FAILED(result) ? result
+                          : factory->CreateInstance(nullptr, __uuidof(Interface), object.outVoid());
+}
+
+constexpr const char* styles =
+    "{name: normal; style-def: s; format: \\f9\\fs20}{name: b; style-def: cs; format: \\b}";
+constexpr const char* text = "A text that is longer than what fits <b=anywhere> else";
+
+/// Builds a document, commits it and reads it.
+Work buildingByHand(std::string& contents) {
+    return [&contents](const Component& component) {
+        const std::wstring file = temporaryFile(L"scarce.rtf");
+        const Bstr path(file);
+        const Bstr styleText((std::string(styles)));
+        const Bstr paragraphText((std::string(text)));
+        Variant key("key");
+        Variant element;
+        Bstr read;
+        ComPtr<_CRtfDoc> document;
+        ComPtr<_CRtfTableRows> rows;
+        ComPtr<_CRtfTableRow> row;
+        ComPtr<_CRtfTableCells> cells;
+        ComPtr<_CRtfTableCell> cell;
+        ComPtr<_CRtfParagraphs> paragraphs;
+        ComPtr<_CRtfParagraph> paragraph;
+        ComPtr<IUnknown> enumerator;
+        ComPtr<IEnumVARIANT> clone;
+        Calls calls;
+        calls([&] { return create(component, __uuidof(::CRtfDoc), document); });
+        calls([&] { return document->LoadStyleSheetFromMemmory(styleText.get()); });
+        calls([&] { return document->put_LeftMargin(1000); });
+        calls([&] { return document->get_TableRows(rows.out()); });
+        calls([&] { return rows->AddTail(key.reference()); });
+        calls([&] { return rows->get_Item(key.get(), row.out()); });
+        calls([&] { return row->get_TableCells(cells.out()); });
+        calls([&] { return cells->AddTail(nullptr); });
+        calls([&] { return cells->AddHead(key.reference()); });
+        calls([&] { return cells->get_NewEnum(enumerator.out()); });
+        calls([&] { return enumerator.as<IEnumVARIANT>()->Clone(clone.out()); });
+        calls([&] { return clone->Next(1, element.out(), nullptr); });
+        calls([&] { return element.object()->QueryInterface(cell.out()); });
+        calls([&] { return cell->put_Width(eTwips, 3000); });
+        calls([&] { return cell->asMarkedField(key.get()); });
+        calls([&] { return cell->get_Paragraphs(paragraphs.out()); });
+        calls([&] { return paragraphs->AddTail(key.reference()); });
+        calls([&] { return paragraphs->PeekTail(paragraph.out()); });
+        calls([&] { return paragraph->put_Text(paragraphText.get()); });
+        calls([&] { return paragraph->asMarkedField(key.get()); });
+        // Before it is read: a commit that finds no memory for a file is absorbed.
+        calls([&] { return document->Commit(path.get()); });
+        calls([&] { return document->get_Contents(read.out()); });
+        DeleteFileW(file.c_str());
+        contents = read.utf8();
+        return calls.result();
+    };
+}
+
+/// Drives a description that has an error, with a sink of its event.
+Work driving(std::string& contents, int& events) {
+    class Sink : public ComObject<IDispatch> {
+    public:
+        explicit Sink(int& events) : events_(events) {}
+        HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+        HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override {
+            return E_NOTIMPL;
+        }
+        HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override {
+            return E_NOTIMPL;
+        }
+        HRESULT STDMETHODCALLTYPE Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*,
+                                         EXCEPINFO*, UINT*) override {
+            ++events_;
+            return S_OK;
+        }
+
+    private:
+        int& events_;
+    };
+    return [&contents, &events](const Component& component) {
+        const auto sink = makeCom<Sink>(events);
+        const Bstr description(
+            std::string("(doc\n(r\n(c\n(cb=Crimson)\n(p\n(pt=a text)\n(ps=b)\np)\nc)\nr)\ndoc)"));
+        Bstr read;
+        ComPtr<_CRtfDriver> driver;
+        ComPtr<IConnectionPoint> point;
+        ComPtr<IEnumConnections> connections;
+        ComPtr<IEnumConnectionPoints> points;
+        ComPtr<_CRtfDoc> document;
+        DWORD cookie = 0;
+        Calls calls;
+        events = 0;
+        calls([&] { return create(component, __uuidof(::CRtfDriver), driver); });
+        calls([&] {
+            return driver.as<IConnectionPointContainer>()->FindConnectionPoint(
+                __uuidof(__CRtfDriver), point.out());
+        });
+        calls([&] {
+            return driver.as<IConnectionPointContainer>()->EnumConnectionPoints(points.out());
+        });
+        calls([&] { return point->Advise(sink.get(), &cookie); });
+        calls([&] { return point->EnumConnections(connections.out()); });
+        calls([&] { return driver->put_ErroneousInput(VARIANT_TRUE); });
+        calls([&] { return driver->ParseFromMemmory(description.get()); });
+        calls([&] { return driver->get_RtfObject(document.out()); });
+        calls([&] { return document->get_Contents(read.out()); });
+        calls([&] { return cookie != 0 ? point->Unadvise(cookie) : S_OK; });
+        contents = read.utf8();
+        return calls.result();
+    };
+}
+
+/// Calls a member by its name.
+HRESULT callByName(IDispatch& object, const wchar_t* name, WORD kind, DISPPARAMS& arguments,
+                   VARIANT* result) {
+    std::wstring writable = name;
+    LPOLESTR names[] = {writable.data()};
+    DISPID id = DISPID_UNKNOWN;
+    EXCEPINFO exception{};
+    HRESULT outcome = object.GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id);
+    if (SUCCEEDED(outcome)) {
+        outcome = object.Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, kind, &arguments, result,
+                                &exception, nullptr);
+    }
+    SysFreeString(exception.bstrSource);
+    SysFreeString(exception.bstrDescription);
+    return outcome == DISP_E_EXCEPTION ? exception.scode : outcome;
+}
+
+/// Uses a document late bound.
+HRESULT workLateBound(const Component& component) {
+    DISPPARAMS none{};
+    Variant rows;
+    Variant row;
+    Variant contents;
+    Variant key("key");
+    DISPPARAMS keyOnly{key.reference(), nullptr, 1, 0};
+    Variant width(700);
+    DISPID value = DISPID_PROPERTYPUT;
+    DISPPARAMS put{width.reference(), &value, 1, 1};
+    ComPtr<IDispatch> document;
+    ComPtr<ITypeInfo> info;
+    Calls calls;
+    calls([&] { return create(component, __uuidof(::CRtfDoc), document); });
+    calls([&] {
+        return callByName(*document.get(), L"PageWidth", DISPATCH_PROPERTYPUT, put, nullptr);
+    });
+    calls([&] {
+        return callByName(*document.get(), L"TableRows", DISPATCH_PROPERTYGET, none, rows.out());
+    });
+    calls([&] {
+        return callByName(*rows.object().get(), L"AddTail", DISPATCH_METHOD, keyOnly, nullptr);
+    });
+    calls([&] {
+        return callByName(*rows.object().get(), L"Item", DISPATCH_PROPERTYGET, keyOnly, row.out());
+    });
+    calls([&] {
+        return callByName(*document.get(), L"Contents", DISPATCH_PROPERTYGET, none, contents.out());
+    });
+    calls([&] { return document.as<IProvideClassInfo>()->GetClassInfo(info.out()); });
+    return calls.result();
+}
+
+/// An error with a description and a source.
+HRESULT fail(const Component& component) {
+    ComPtr<_CRtfDriver> driver;
+    const HRESULT result = create(component, __uuidof(::CRtfDriver), driver);
+    return FAILED(result) ? result : driver->ParseFile(nullptr);
+}
+
+/// Does the work again and again, until no allocation is left that could fail.
+void expectOnlyOutOfMemory(const Work& work, HRESULT usual,
+                           const std::function<void()>& checkWhenDone) {
+    const Component component;
+    // What the thread needs once.
+    ASSERT_EQ(work(component), usual);
+    ScarceMemory memory(component.module());
+    // In this order: the run-time library keeps a reserve for exceptions, and for its first use
+    // needs a little memory.
+    for (const Shortage shortage : {Shortage::Once, Shortage::Twice, Shortage::FromThenOn}) {
+        int number = 0;
+        for (bool failed = true; failed;) {
+            memory.begin(++number, shortage);
+            const HRESULT result = work(component);
+            failed = memory.end();
+
+            if (result == usual) {
+                checkWhenDone();
+            } else {
+                EXPECT_TRUE(failed);
+                EXPECT_EQ(result, E_OUTOFMEMORY) << "allocation " << number;
+            }
+            ASSERT_EQ(component.canUnloadNow(), S_OK) << "allocation " << number;
+        }
+        EXPECT_GT(number, 5);
+    }
+}
+
+TEST(ScarceMemory, LeavesADocumentThatIsBuiltByHandWholeOrTellsOfIt) {
+    std::string contents;
+    buildingByHand(contents)(Component());
+    const std::string expected = contents;
+
+    expectOnlyOutOfMemory(buildingByHand(contents), S_OK, [&] { EXPECT_EQ(contents, expected); });
+}
+
+TEST(ScarceMemory, LeavesADescribedDocumentWholeOrTellsOfIt) {
+    std::string contents;
+    int events = 0;
+    driving(contents, events)(Component());
+    const std::string expected = contents;
+    const int expectedEvents = events;
+    ASSERT_GT(expectedEvents, 0);
+
+    expectOnlyOutOfMemory(driving(contents, events), S_OK, [&] {
+        EXPECT_EQ(contents, expected);
+        EXPECT_EQ(events, expectedEvents);
+    });
+}
+
+TEST(ScarceMemory, IsToldToLateBoundHosts) {
+    expectOnlyOutOfMemory(workLateBound, S_OK, [] {});
+}
+
+TEST(ScarceMemory, LetsTheNumberOfAnErrorThrough) {
+    expectOnlyOutOfMemory(fail, static_cast<HRESULT>(0x80040000 + eWrongPath), [] {});
+}
+
+}  // namespace
+}  // namespace quorvane::host

@@ -1,0 +1,228 @@
+#include "quorvane/diagnostics/RtfCheck.h"
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "quorvane/diagnostics/diagnosticRules.h"
+#include "quorvane/driver/CRtfDriver.h"
+#include "quorvane/support/codePage1252.h"
+#include "tests/diagnostics/randomDescriptions.h"
+#include "tests/support/FakePlatform.h"
+
+namespace quorvane {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+std::string shown(const Diagnostic& finding) {
+    const Place& place = finding.place;
+    return std::to_string(place.line) + ":" + std::to_string(place.column) + "+" +
+           std::to_string(place.length) + "@" + std::to_string(place.offset) + " " +
+           std::string(diagnosticRule(finding.id).identifier);
+}
+
+std::vector<std::string> found(const std::string& rtf) {
+    std::vector<std::string> list;
+    for (const Diagnostic& finding : checkRtf(rtf)) {
+        list.push_back(shown(finding));
+    }
+    return list;
+}
+
+/// A document with one font, one colour and one style, and the text.
+std::string documentOf(const std::string& text) {
+    return "{\\rtf1{\\fonttbl{\\f0 Arial;}}{\\colortbl;\\red1;}{\\stylesheet{\\s1 a;}}\n" + text +
+           "}";
+}
+
+TEST(RtfCheck, FindsNothingInASoundDocument) {
+    EXPECT_THAT(found("{\\rtf1 Total}"), IsEmpty());
+    EXPECT_THAT(found(documentOf("\\trowd\\cellx100\\cellx200 a\\cell b\\cell\\row")), IsEmpty());
+    EXPECT_THAT(found("\r\n {\\rtf1 Total}\r\n"), IsEmpty());
+    EXPECT_THAT(found(std::string("{\\rtf1 Total}\0", 14)), IsEmpty());
+}
+
+TEST(RtfCheck, TellsLineColumnAndByteOffset) {
+    EXPECT_THAT(found(documentOf("a\r\nb\n\\cf7 x")), ElementsAre("4:1+4@73 unknown-color"));
+}
+
+TEST(RtfCheck, FindsTheSameInPieces) {
+    const std::string rtf =
+        documentOf(
+            "\\trowd\\cellx100\\cellx50 a\\cell\\row caf\\'zz \\f12 \\s7{\\odd x}\r\n\\cf-3{") +
+        "}";
+    const std::vector<std::string> whole = found(rtf);
+    EXPECT_EQ(whole.size(), 7u);
+    for (std::size_t size = 1; size < rtf.size(); ++size) {
+        std::vector<Diagnostic> findings;
+        RtfCheck check([&](Diagnostic finding) { findings.push_back(std::move(finding)); });
+        for (std::size_t at = 0; at < rtf.size(); at += size) {
+            check.feed(std::string_view(rtf).substr(at, size));
+        }
+        check.finish();
+        sortByPlace(findings);
+        std::vector<std::string> pieces;
+        for (const Diagnostic& finding : findings) {
+            pieces.push_back(shown(finding));
+        }
+        ASSERT_EQ(pieces, whole) << size;
+    }
+}
+
+TEST(RtfCheck, WantsItsHeader) {
+    EXPECT_THAT(found(""), ElementsAre("1:1+0@0 not-rtf"));
+    EXPECT_THAT(found("Total"), ElementsAre("1:1+1@0 not-rtf"));
+    EXPECT_THAT(found("\xEF\xBB\xBF{\\rtf1 a}"), ElementsAre("1:1+1@0 not-rtf"));
+    EXPECT_THAT(found("{}"), ElementsAre("1:1+1@0 not-rtf"));
+    EXPECT_THAT(found("{x}"), ElementsAre("1:1+1@0 not-rtf"));
+    EXPECT_THAT(found("{\\rt1 x}"), ElementsAre("1:1+1@0 not-rtf"));
+}
+
+TEST(RtfCheck, WantsGroupsClosed) {
+    EXPECT_THAT(found("{\\rtf1 {\\b a"), ElementsAre("1:8+1@7 unclosed-group"));
+    EXPECT_THAT(found("{\\rtf1 a}}"), ElementsAre("1:10+1@9 text-after-end"));
+    EXPECT_THAT(found("{\\rtf1 a} b {"), ElementsAre("1:10+1@9 text-after-end"));
+}
+
+TEST(RtfCheck, WantsWholeControlsAndData) {
+    EXPECT_THAT(found("{\\rtf1 a\\"), ElementsAre("1:1+1@0 unclosed-group", "1:9+1@8 cut-off"));
+    EXPECT_THAT(found("{\\rtf1 \\'4"),
+                ElementsAre("1:1+1@0 unclosed-group", "1:8+1@7 bad-hex-escape"));
+    EXPECT_THAT(found("{\\rtf1 \\'4}"), ElementsAre("1:8+3@7 bad-hex-escape"));
+    EXPECT_THAT(found("{\\rtf1{\\pict\\bin9 a}}"), ElementsAre("1:13+1@12 cut-off"));
+}
+
+TEST(RtfCheck, PassesOverBinaryData) {
+    EXPECT_THAT(found("{\\rtf1{\\pict\\bin4 }}{\\}}"), IsEmpty());
+    EXPECT_THAT(found("{\\rtf1\\bin2\\'{x}"), ElementsAre("1:1+1@0 unclosed-group"));
+}
+
+TEST(RtfCheck, TakesEscapedBracesForText) {
+    EXPECT_THAT(found("{\\rtf1 \\{ \\} \\\\ \\~ \\u8364? \\'e9}"), IsEmpty());
+}
+
+TEST(RtfCheck, WantsAsManyCellsAsDefinitions) {
+    EXPECT_THAT(found(documentOf("\\trowd\\cellx9 a\\cell b\\cell\\row")),
+                ElementsAre("2:28+4@95 cell-count"));
+    EXPECT_THAT(found(documentOf("\\trowd\\row")), ElementsAre("2:7+4@74 row-without-cells"));
+    EXPECT_THAT(found(documentOf("\\trowd\\cellx9\\row")), ElementsAre("2:14+4@81 cell-count"));
+}
+
+TEST(RtfCheck, TakesADefinitionForTheRowsThatFollow) {
+    EXPECT_THAT(found(documentOf("\\trowd\\cellx9 a\\cell\\row b\\cell\\row")), IsEmpty());
+}
+
+TEST(RtfCheck, TakesADefinitionThatIsRepeatedBeforeTheRowsEnd) {
+    EXPECT_THAT(found(documentOf("\\trowd\\cellx9 a\\cell\\trowd\\cellx9\\row")), IsEmpty());
+}
+
+TEST(RtfCheck, CountsTheCellsOfNestedRows) {
+    const std::string nested =
+        "\\trowd\\cellx9 \\itap2 a\\nestcell %b\\nestcell{\\*\\nesttableprops"
+        "\\trowd\\cellx2\\cellx4\\nestrow}\\itap1 c\\cell\\row";
+    std::string missing = nested;
+    missing.replace(missing.find("%b\\nestcell"), 11, "");
+    std::string whole = nested;
+    whole.erase(whole.find('%'), 1);
+    EXPECT_THAT(found(documentOf(whole)), IsEmpty());
+    EXPECT_EQ(found(documentOf(missing)).size(), 1u);
+}
+
+TEST(RtfCheck, WantsRisingEdgesAndAnEndOfEachRow) {
+    EXPECT_THAT(found(documentOf("\\trowd\\cellx9\\cellx9 a\\cell b\\cell\\row")),
+                ElementsAre("2:14+7@81 falling-edge"));
+    EXPECT_THAT(found(documentOf("\\trowd\\cellx9 a\\cell")), ElementsAre("2:1+6@68 unended-row"));
+}
+
+TEST(RtfCheck, LooksReferencesUp) {
+    EXPECT_THAT(found(documentOf("\\f1\\cf2\\s2\\cs1\\cf1\\s1\\s0\\f0\\cf0")),
+                ElementsAre("2:1+3@68 unknown-font", "2:4+4@71 unknown-color",
+                            "2:8+3@75 unknown-style", "2:11+4@78 unknown-style"));
+    EXPECT_THAT(found("{\\rtf1\\deff3{\\fonttbl{\\f0 Arial;}}}"),
+                ElementsAre("1:7+6@6 unknown-font"));
+}
+
+TEST(RtfCheck, WantsNumbersOnce) {
+    EXPECT_THAT(found("{\\rtf1{\\fonttbl{\\f0 a;}{\\f0 b;}}{\\stylesheet{\\s1 a;}{\\*\\cs1 b;}"
+                      "{\\s1 c;}}}"),
+                ElementsAre("1:25+3@24 duplicate-font", "1:65+3@64 duplicate-style-number"));
+}
+
+TEST(RtfCheck, WantsUnknownDestinationsMarked) {
+    EXPECT_THAT(found(documentOf("{\\ours x}{\\*\\ours{\\theirs y}}{\\b z}")),
+                ElementsAre("2:2+5@69 unknown-destination"));
+}
+
+TEST(RtfCheck, GivesUpOnGroupsThatAreNestedVeryDeep) {
+    const std::string deep(2000, '{');
+    EXPECT_THAT(found("{\\rtf1 " + deep + std::string(2000, '}') + "}"),
+                ElementsAre("1:1007+1@1006 deep-nesting"));
+}
+
+TEST(RtfCheck, SurvivesAnyBytes) {
+    RandomDescriptions random(7);
+    const std::string document = documentOf("\\trowd\\cellx9 a\\cell\\row\\'e9 {\\*\\x \\bin2 ab}");
+    for (int i = 0; i < 20000; ++i) {
+        found(random.mutated(document, 1 + random.below(6)));
+    }
+}
+
+TEST(RtfCheck, TakesTheStyleWithoutANumberForTheOneThatIsLeftOut) {
+    EXPECT_THAT(found("{\\rtf1{\\stylesheet{\\s100 a;}{\\b normal;}{\\s102 c;}}\\s101 x}"),
+                IsEmpty());
+    EXPECT_THAT(found("{\\rtf1{\\stylesheet{\\b normal;}{\\s101 c;}}\\s100 x\\s102}"),
+                ElementsAre("1:49+5@48 unknown-style"));
+}
+
+/// What the golden documents break, which is what their cases are about.
+const std::map<std::string, std::string> brokenDocuments = {
+    {"empty-text", "not-rtf"},
+    {"no-doc", "not-rtf"},
+    {"inline-styles", "unclosed-group"},
+    {"two-rows-unrepaired", "row-without-cells"},
+    {"too-many-rows", "row-without-cells"},
+};
+
+TEST(RtfCheck, FindsNothingInTheGoldenDocumentsButWhatTheirCasesBreak) {
+    for (const auto& entry : std::filesystem::directory_iterator(QUORVANE_GOLDEN_FOLDER)) {
+        if (!entry.is_directory()) {
+            continue;
+        }
+        const auto broken = brokenDocuments.find(entry.path().filename().string());
+        const std::vector<std::string> findings = found(bytesOf(entry.path() / "expected.rtf"));
+        EXPECT_EQ(findings.empty(), broken == brokenDocuments.end()) << entry.path();
+        for (const std::string& finding : findings) {
+            EXPECT_THAT(finding, testing::EndsWith(" " + broken->second)) << entry.path();
+        }
+    }
+}
+
+/// Texts that hold no brace and no backslash make sound documents, whatever else they are.
+TEST(RtfCheck, FindsNothingInTheDocumentsOfGeneratedDescriptions) {
+    RandomDescriptions random(8);
+    FakePlatform platform;
+    const Ref<CRtfDriver> driver = CRtfDriver::create(platform);
+    int sound = 0;
+    for (int i = 0; i < 500; ++i) {
+        const std::string text = random.description();
+        bool isRejected = text.find_first_of("{}\\") != std::string::npos;
+        driver->setErroneousInput(true);
+        driver->setNotifyErrorHandler([&](CRtfDriver&) { isRejected = true; });
+        driver->ParseFromMemmory(text);
+        if (!isRejected) {
+            ++sound;
+            const std::string rtf = codePage1252FromUtf8(driver->Contents());
+            ASSERT_THAT(found(rtf), IsEmpty()) << text << rtf;
+        }
+    }
+    driver->setNotifyErrorHandler({});
+    EXPECT_GT(sound, 50);
+}
+
+}  // namespace
+}  // namespace quorvane

@@ -1,0 +1,106 @@
+// The examples of the table of diagnostics show what they are there for.
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "quorvane/diagnostics/DescriptionCheck.h"
+#include "quorvane/diagnostics/RtfCheck.h"
+#include "quorvane/diagnostics/StyleSheetCheck.h"
+#include "quorvane/diagnostics/diagnosticRules.h"
+#include "quorvane/diagnostics/languageOf.h"
+#include "quorvane/support/codePage1252.h"
+
+namespace quorvane {
+
+/// How a test shows the rule.
+static void PrintTo(const DiagnosticRule& rule, std::ostream* output) {
+    *output << rule.identifier;
+}
+
+namespace {
+
+using testing::Contains;
+using testing::IsEmpty;
+
+std::vector<std::string> identifiers(const std::vector<Diagnostic>& findings) {
+    std::vector<std::string> names;
+    for (const Diagnostic& finding : findings) {
+        names.emplace_back(diagnosticRule(finding.id).identifier);
+    }
+    return names;
+}
+
+/// The findings about an example, together with its companion. Examples are files: their bytes are
+/// read in Windows-1252.
+std::vector<std::string> findingsOf(std::string_view example, const DiagnosticRule& rule) {
+    const std::string text = expandedExample(example);
+    const std::string companion(rule.companion);
+    switch (rule.language) {
+        case CheckedLanguage::Description: {
+            KnownStyles styles(utf8FromCodePage1252(companion));
+            return identifiers(checkDescription(utf8FromCodePage1252(text),
+                                                companion.empty() ? nullptr : &styles));
+        }
+        case CheckedLanguage::StyleSheet: {
+            KnownStyles styles(utf8FromCodePage1252(text));
+            std::vector<std::string> names =
+                identifiers(checkStyleSheet(utf8FromCodePage1252(text)));
+            if (!companion.empty()) {
+                checkDescription(utf8FromCodePage1252(companion), &styles);
+                const std::vector<std::string> unused = identifiers(findUnusedStyles(styles));
+                names.insert(names.end(), unused.begin(), unused.end());
+            }
+            return names;
+        }
+        case CheckedLanguage::Rtf:
+            break;
+    }
+    return identifiers(checkRtf(text));
+}
+
+std::vector<DiagnosticRule> rulesWithExamples() {
+    std::vector<DiagnosticRule> rules;
+    std::copy_if(diagnosticRules().begin(), diagnosticRules().end(), std::back_inserter(rules),
+                 [](const DiagnosticRule& rule) { return !rule.wrong.empty(); });
+    return rules;
+}
+
+class Examples : public testing::TestWithParam<DiagnosticRule> {};
+
+TEST_P(Examples, ThatAreWrongHaveTheFinding) {
+    EXPECT_THAT(findingsOf(GetParam().wrong, GetParam()),
+                Contains(std::string(GetParam().identifier)));
+}
+
+TEST_P(Examples, ThatAreRightHaveNoFinding) {
+    EXPECT_THAT(findingsOf(GetParam().right, GetParam()), IsEmpty());
+}
+
+TEST_P(Examples, AreTakenForWhatTheyAre) {
+    EXPECT_EQ(languageOf(expandedExample(GetParam().right)), GetParam().language);
+    EXPECT_EQ(languageOf(expandedExample(GetParam().wrong)), GetParam().language);
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, Examples, testing::ValuesIn(rulesWithExamples()),
+                         [](const testing::TestParamInfo<DiagnosticRule>& rule) {
+                             std::string name(rule.param.identifier);
+                             std::replace(name.begin(), name.end(), '-', '_');
+                             return name;
+                         });
+
+TEST(ExamplesOfTheTable, AreThereForAllButWhatFewLinesCannotShow) {
+    std::vector<std::string> without;
+    for (const DiagnosticRule& rule : diagnosticRules()) {
+        if (rule.wrong.empty()) {
+            without.emplace_back(rule.identifier);
+        }
+    }
+    EXPECT_THAT(without, testing::ElementsAre("rejected", "stylesheet-rejected", "deep-nesting"));
+}
+
+}  // namespace
+}  // namespace quorvane
