@@ -2,11 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
-<<<<<<< HEAD
 #include <cstdint>
-=======
-#include <initializer_list>
->>>>>>> main
 #include <iterator>
 #include <utility>
 
@@ -143,17 +139,6 @@ bool isAmong(const Words& words, const Value& word) {
            std::find(std::begin(words), std::end(words), word.text()) != std::end(words);
 }
 
-<<<<<<< HEAD
-template <class Enumeration, class Pairs>
-std::optional<Enumeration> valueNamed(const Pairs& pairs, const Value& name) {
-=======
-template <class Pairs>
-void fill(CMap& map, const Pairs& pairs) {
-    for (const auto& [name, value] : pairs) {
-        map.add(name, value);
-    }
-}
-
 template <class Pairs>
 std::vector<std::string_view> namesOf(const Pairs& pairs) {
     std::vector<std::string_view> names;
@@ -167,9 +152,8 @@ std::vector<std::string_view> listed(const Words& words) {
     return {std::begin(words), std::end(words)};
 }
 
-template <class Enumeration>
-std::optional<Enumeration> valueNamed(const CMap& names, const Value& name) {
->>>>>>> main
+template <class Enumeration, class Pairs>
+std::optional<Enumeration> valueNamed(const Pairs& pairs, const Value& name) {
     if (name.isText()) {
         const std::string word = lowerCase(name.text());
         for (const auto& [known, value] : pairs) {
