@@ -112,12 +112,23 @@ void compareAll(const fs::path& programs, const fs::path& examples, const fs::pa
 
     const std::string minimal = (folder / "minimal.rtfspec").string();
     writeFile(minimal, "(doc\n(r\n(c\n(p\n(pt=a)\np)\nc)\nr)\ndoc)\n");
+    const auto printLine = [&](const std::string&) {
+        return Command{(programs / "print_line").string()};
+    };
     comparison.compare(
-        "The command on the smallest description, to a program that prints a line", 200,
+        "The command on the smallest description, to standard output, to a program that prints a "
+        "line",
+        200,
+        [&](const std::string&) {
+            return Command{quorvane, "render", minimal, "-o", "-"};
+        },
+        printLine);
+    comparison.compare(
+        "The same, to a file", 200,
         [&](const std::string& out) {
             return Command{quorvane, "render", minimal, "-o", out + "/minimal.rtf"};
         },
-        [&](const std::string&) { return Command{(programs / "print_line").string()}; });
+        printLine);
 
     const std::string full = (folder / "full.rtfspec").string();
     const std::string sheet = (folder / "full.rtfss").string();
