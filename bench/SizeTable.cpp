@@ -20,7 +20,8 @@ void SizeTable::ReportRuns(const std::vector<Run>& runs) {
     ConsoleReporter::ReportRuns(runs);
     for (const Run& run : runs) {
         const auto elements = run.counters.find("elements");
-        if (run.error_occurred || elements == run.counters.end()) {
+        if (run.error_occurred || run.run_type == Run::RT_Aggregate ||
+            elements == run.counters.end()) {
             continue;
         }
         const std::string& name = run.run_name.function_name;
