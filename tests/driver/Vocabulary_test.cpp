@@ -292,7 +292,6 @@ TEST(Vocabulary, RefusesOtherWordsAndNumbersForAlignments) {
 }
 
 TEST(Vocabulary, ShortensWhatHasAShortForm) {
-    const Vocabulary vocabulary;
     EXPECT_EQ(vocabulary.shorten("row"), "r");
     EXPECT_EQ(vocabulary.shorten("cell-marked-field"), "cmf");
     EXPECT_EQ(vocabulary.shorten("row-key"), "row-key");
@@ -301,7 +300,6 @@ TEST(Vocabulary, ShortensWhatHasAShortForm) {
 }
 
 TEST(Vocabulary, ListsItsWords) {
-    const Vocabulary vocabulary;
     EXPECT_EQ(Vocabulary::keysOf(NodeKind::Doc).size(), 7u);
     EXPECT_EQ(Vocabulary::keysOf(NodeKind::None).size(), 0u);
     for (const NodeKind kind : {NodeKind::Row, NodeKind::Cell, NodeKind::Para, NodeKind::Doc}) {
