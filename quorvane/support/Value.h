@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <variant>
 
 #include "quorvane/support/Object.h"
@@ -56,6 +57,14 @@ public:
     Value(const char* value) : data_(std::string(value)) {}
     template <std::derived_from<Object> T>
     Value(std::shared_ptr<T> value) : data_(std::shared_ptr<Object>(std::move(value))) {}
+
+    // Assigned, not constructed: some standard libraries end a variant's copy construction that
+    // runs out of memory by destroying an alternative that is not there.
+    Value(const Value& other) : data_(Empty{}) { data_ = other.data_; }
+    Value(Value&&) noexcept = default;
+    Value& operator=(const Value&) = default;
+    Value& operator=(Value&&) noexcept = default;
+    ~Value() = default;
 
     /// True for an argument that was not given, and for Empty.
     bool isAbsent() const noexcept { return holds<Missing>() || holds<Empty>(); }
