@@ -35,7 +35,7 @@ FileWindow windowOfFile(const std::string& file) {
         std::string bytes(static_cast<std::size_t>(length), '\0');
         stream->clear();
         stream->seekg(offset);
-        stream->read(bytes.data(), length);
+        stream->read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
         bytes.resize(static_cast<std::size_t>(stream->gcount()));
         return bytes;
     };

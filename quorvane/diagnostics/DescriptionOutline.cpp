@@ -18,6 +18,9 @@ namespace {
 constexpr std::int32_t lastNumbers[] = {1999, 2999, 3999, 999};
 constexpr std::string_view kindsInMessages[] = {"row", "cell", "para", "doc"};
 
+// The mark of UTF-8 at the beginning of a file that was read in Windows-1252.
+constexpr std::string_view byteOrderMark = "\xC3\xAF\xC2\xBB\xC2\xBF";
+
 std::size_t code(NodeKind kind) {
     return static_cast<std::size_t>(kind);
 }
@@ -36,6 +39,10 @@ public:
     DescriptionOutline read() {
         const std::vector<std::string_view> written = writtenLines();
         checkFrame(written);
+        if (!holds("(doc") && !holdsLines(written)) {
+            // Prose or the like: that none of its lines is one goes without saying.
+            return std::move(outline_);
+        }
         lines_ = repaired(written);
         OutlineNode& root = outline_.nodes.emplace_back();
         root.kind = NodeKind::Doc;
@@ -72,6 +79,13 @@ private:
         return lines;
     }
 
+    bool holdsLines(const std::vector<std::string_view>& lines) const {
+        return std::any_of(lines.begin(), lines.end(), [&](std::string_view line) {
+            return isLeaf(line) || openedKind(line, vocabulary_) != NodeKind::None ||
+                   closedKind(line, vocabulary_) != NodeKind::None;
+        });
+    }
+
     bool holds(std::string_view part) const {
         return source_.text().find(part) != std::string_view::npos;
     }
@@ -91,7 +105,10 @@ private:
         }
         startsAsDocument_ = first.starts_with("(doc");
         if (!startsAsDocument_) {
-            engine_.report(DiagnosticId::WrongRoot, source_.placeOf(first));
+            engine_.report(DiagnosticId::WrongRoot, source_.placeOf(first), {},
+                           first.starts_with(byteOrderMark)
+                               ? "the file begins with a mark of UTF-8: save it in Windows-1252"
+                               : "");
         } else if (!last.starts_with("doc)")) {
             engine_.report(DiagnosticId::WrongRoot, source_.placeOf(last), {},
                            "the last line must be doc)");

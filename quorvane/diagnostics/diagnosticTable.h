@@ -1,5 +1,5 @@
-// The table of diagnostics: one row for each kind of finding. It is included where a list is made of
-// it, with the macro defined as what a row shall become; the macro is gone afterwards.
+// The table of diagnostics: one row for each kind of finding. It is included where a list is made
+// of it, with the macro defined as what a row shall become; the macro is gone afterwards.
 //
 // QUORVANE_DIAGNOSTIC(enumerator, identifier, severity, language, text, explanation, wrong example,
 //                     right example, companion of the examples)

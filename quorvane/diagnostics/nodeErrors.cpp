@@ -105,7 +105,7 @@ private:
 
     /// True when a key that is none was most likely meant to be para-text.
     bool meansText(const OutlineNode& node) const {
-        constexpr std::string_view forms[] = {"para-text", "pt"};
+        constexpr std::string_view forms[] = {"para-text", "pt", "text"};
         return std::any_of(node.leaves.begin(), node.leaves.end(), [&](const OutlineLeaf& leaf) {
             return !vocabulary_.isKeyOf(NodeKind::Para, leaf.key) &&
                    !nearestWord(leaf.writtenKey, forms).empty();
@@ -170,6 +170,11 @@ private:
         }
         std::vector<std::string_view> candidates = Vocabulary::keysOf(kind);
         const std::size_t count = candidates.size();
+        for (const std::string_view key : candidates) {
+            if (key.ends_with("-" + lower)) {
+                return "did you mean " + std::string(key) + "?";
+            }
+        }
         for (std::size_t i = 0; i < count; ++i) {
             candidates.push_back(vocabulary_.shorten(candidates[i]));
         }

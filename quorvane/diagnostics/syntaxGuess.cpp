@@ -29,6 +29,12 @@ bool isKey(std::string_view word, const Vocabulary& vocabulary) {
 
 /// The node that a name stands for, or nearly stands for.
 NodeKind nodeNearly(std::string_view name, const Vocabulary& vocabulary) {
+    if (lowerCase(name) == "document") {
+        return NodeKind::Doc;
+    }
+    if (lowerCase(name) == "paragraph") {
+        return NodeKind::Para;
+    }
     const NodeKind kind = vocabulary.nodeKind(name);
     return kind != NodeKind::None || name.size() < 3
                ? kind
@@ -92,6 +98,20 @@ SyntaxGuess guessOpener(std::string_view line, const Vocabulary& vocabulary) {
     return guess;
 }
 
+/// A closer as other languages write it: "(/row)" or "</row>".
+SyntaxGuess guessSlashedCloser(std::string_view line, std::size_t slash,
+                               const Vocabulary& vocabulary) {
+    SyntaxGuess guess;
+    const std::string_view name =
+        line.substr(slash + 1, line.find_first_of(" \t;)>", slash) - slash - 1);
+    guess.kind = nodeNearly(name, vocabulary);
+    if (guess.kind != NodeKind::None) {
+        guess.meant = Meant::Closer;
+        guess.hint = "did you mean " + nameFor(guess.kind, name) + ")?";
+    }
+    return guess;
+}
+
 SyntaxGuess guessCloser(std::string_view line, const Vocabulary& vocabulary) {
     SyntaxGuess guess;
     const std::string_view head = line.substr(0, line.find_first_of(" \t;)"));
@@ -123,6 +143,9 @@ SyntaxGuess guessLine(std::string_view line, const Vocabulary& vocabulary) {
         if (line.front() == '(' || isKey(key, vocabulary)) {
             return guessLeaf(line, equals);
         }
+    }
+    if (line.size() > 1 && line[1] == '/' && (line.front() == '(' || line.front() == '<')) {
+        return guessSlashedCloser(line, 1, vocabulary);
     }
     return line.front() == '(' ? guessOpener(line, vocabulary) : guessCloser(line, vocabulary);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -9,9 +11,12 @@
 #include <string>
 #include <string_view>
 
+#include "quorvane/diagnostics/RtfCheck.h"
+
 namespace quorvane::cli {
 
-/// A folder that is there as long as the object lives, with everything in it.
+/// A folder that is there as long as the object lives, with everything in it. In the end every
+/// document in it that the test did not write itself must be a sound RTF file.
 class TemporaryFolder {
 public:
     TemporaryFolder() {
@@ -25,6 +30,9 @@ public:
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
     ~TemporaryFolder() {
         std::error_code failure;
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(path_, failure)) {
+            expectSound(entry);
+        }
         std::filesystem::remove_all(path_, failure);
     }
 
@@ -36,6 +44,7 @@ public:
     /// Writes a file of the folder and answers its path.
     std::string write(std::string_view name, std::string_view bytes) const {
         std::ofstream(path_ / name, std::ios::binary) << bytes;
+        written_.insert(path_ / name);
         return *this / name;
     }
 
@@ -62,7 +71,23 @@ public:
     }
 
 private:
+    void expectSound(const std::filesystem::directory_entry& entry) const {
+        std::error_code failure;
+        if (!entry.is_regular_file(failure) || written_.contains(entry.path())) {
+            return;
+        }
+        std::ifstream file(entry.path(), std::ios::binary);
+        const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+        if (bytes.starts_with("{\\rtf")) {
+            for (const quorvane::Diagnostic& finding : checkRtf(bytes)) {
+                ADD_FAILURE() << entry.path() << ":" << finding.place.line << ": "
+                              << finding.message;
+            }
+        }
+    }
+
     std::filesystem::path path_;
+    mutable std::set<std::filesystem::path> written_;
 };
 
 }  // namespace quorvane::cli

@@ -1,0 +1,117 @@
+#include "quorvane/diagnostics/DescriptionCheck.h"
+
+#include <gmock/gmock.h>
+
+#include <string>
+#include <vector>
+
+#include "quorvane/diagnostics/diagnosticRules.h"
+
+namespace quorvane {
+namespace {
+
+using testing::ElementsAre;
+
+/// The findings, each as its line, its identifier and its hint.
+std::vector<std::string> found(const std::string& text) {
+    std::vector<std::string> list;
+    for (const Diagnostic& finding : checkDescription(text)) {
+        list.push_back(std::to_string(finding.place.line) + " " +
+                       std::string(diagnosticRule(finding.id).identifier) +
+                       (finding.hint.empty() ? "" : ": " + finding.hint));
+    }
+    return list;
+}
+
+TEST(DescriptionCheck, TellsOfProseOnlyThatItIsNoDescription) {
+    EXPECT_THAT(found("Dear Sir,\nyours\n"),
+                ElementsAre("1 wrong-file-type: a description begins with (doc and ends with "
+                            "doc)"));
+    EXPECT_THAT(found(""), ElementsAre("1 wrong-file-type: a description begins with (doc and ends "
+                                       "with doc)"));
+}
+
+TEST(DescriptionCheck, KnowsTheMarkOfUtf8) {
+    EXPECT_EQ(found("\xC3\xAF\xC2\xBB\xC2\xBF(doc\n(r\n(c\nc)\nr)\ndoc)\n").front(),
+              "1 wrong-root: the file begins with a mark of UTF-8: save it in Windows-1252");
+}
+
+TEST(DescriptionCheck, KnowsTheWaysOfOtherLanguages) {
+    EXPECT_THAT(
+        found("(doc\n(row)\n(cell)\n(paragraph\n(text=a)\n</para>\n(/cell)\nrow)\ndoc)\n"),
+        ElementsAre("2 wrong-syntax: (row opens the node and row) closes it",
+                    "3 wrong-syntax: (cell opens the node and cell) closes it",
+                    "4 wrong-syntax: did you mean (para?",
+                    "5 wrong-keyword: did you mean para-text?",
+                    "6 wrong-syntax: did you mean para)?", "7 wrong-syntax: did you mean cell)?"));
+}
+
+TEST(DescriptionCheck, TakesATextThatGoesOnForOneMistake) {
+    EXPECT_THAT(found("(doc\n(r\n(c\n(p\n(pt=one\ntwo\nthree)\n(ps=x)\np)\nc)\nr)\ndoc)\n"),
+                ElementsAre("5 wrong-syntax: the ) is missing; a value ends on its own line: write "
+                            "\\line for a line break"));
+}
+
+TEST(DescriptionCheck, KnowsWhatWasMeantByAWrongLine) {
+    EXPECT_THAT(
+        found("(doc\n(r x\n(cel\n(p\npt=a)\n(pt=b) c)\np\np)\nprra)\nc) c\nr)\ndoc)\n"),
+        ElementsAre("2 wrong-syntax: nothing but a comment behind ; follows (r",
+                    "3 wrong-syntax: did you mean (cell?", "5 wrong-syntax: did you mean (pt=a)?",
+                    "6 wrong-syntax: the value ends at the first ): write \\'29 for a ) in "
+                    "a text",
+                    "6 duplicate-leaf: para-text stands on line 5 already",
+                    "7 wrong-syntax: did you mean (p or p)?", "9 wrong-syntax: did you mean para)?",
+                    "10 wrong-syntax: nothing but a comment behind ; follows c)"));
+}
+
+TEST(DescriptionCheck, SaysToWhichNodeAKeyBelongs) {
+    EXPECT_THAT(found("(doc\n(rb=red)\n(r\n(CB=red)\n(c\n(CW=5)\nc)\nr)\ndoc)\n"),
+                ElementsAre("2 wrong-keyword: a key of a row, not of a document",
+                            "4 wrong-keyword: did you mean rb?",
+                            "6 wrong-keyword: keys are written in lower case: cw"));
+}
+
+TEST(DescriptionCheck, CountsColumnsInCharacters) {
+    const std::vector<Diagnostic> findings =
+        checkDescription("(doc\n(r\n(c\n(p\n(pt=\xC3\xA9\xC3\xA9})\np)\nc)\nr)\ndoc)\n");
+    ASSERT_EQ(findings.size(), 1u);
+    EXPECT_EQ(findings[0].place.line, 5);
+    EXPECT_EQ(findings[0].place.column, 7);
+    EXPECT_EQ(findings[0].place.length, 1);
+    EXPECT_EQ(findings[0].place.offset, 20);
+}
+
+TEST(DescriptionCheck, FindsTheCharactersThatTheCodePageCannotHold) {
+    const std::vector<Diagnostic> findings = checkDescription(
+        "(doc\n(r\n(c\n(p\n(pt=\xE2\x86\x92 \xF0\x9F\x98\x80 \xE2\x82\xAC)\np)\nc)\nr)\ndoc)\n");
+    ASSERT_EQ(findings.size(), 2u);
+    EXPECT_EQ(findings[0].id, DiagnosticId::UnencodableCharacter);
+    EXPECT_EQ(findings[0].hint, "write \\u8594?");
+    EXPECT_EQ(findings[1].id, DiagnosticId::UnencodableCharacter);
+    EXPECT_EQ(findings[1].hint, "");
+}
+
+TEST(DescriptionCheck, KnowsWhatATextBringsAlong) {
+    const auto isEmbedding = [](const std::string& text) {
+        for (const Diagnostic& finding :
+             checkDescription("(doc\n(r\n(c\n(p\n(pt=" + text + ")\np)\nc)\nr)\ndoc)\n")) {
+            if (finding.id == DiagnosticId::EmbeddedContent) {
+                return true;
+            }
+        }
+        return false;
+    };
+    for (const char* text :
+         {"{\\object\\objemb}", "{\\pict\\pngblip 00}", "\\bin3 abc", "{\\*\\template x.dot}",
+          "{\\field{\\*\\fldinst MACROBUTTON x}}", "{\\field{\\*\\fldinst {ddeauto x}}}",
+          "{\\field{\\*\\fldinst HYPERLINK \"c:\\\\x\"}}"}) {
+        EXPECT_TRUE(isEmbedding(text)) << text;
+    }
+    for (const char* text : {"{\\field{\\*\\fldinst PAGE}}", "{\\b x}",
+                             "{\\field{\\*\\fldinst HYPERLINK \"https://a.example\"}}"}) {
+        EXPECT_FALSE(isEmbedding(text)) << text;
+    }
+}
+
+}  // namespace
+}  // namespace quorvane
