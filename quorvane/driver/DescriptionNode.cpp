@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 #include <utility>
+#include <variant>
 
 #include "quorvane/driver/GDictionary.h"
 #include "quorvane/driver/driverErrors.h"
@@ -10,6 +11,17 @@
 #include "quorvane/support/numberText.h"
 
 namespace quorvane {
+
+namespace {
+
+// The object that a value of a map refers to, which the map keeps alive.
+template <class T>
+const T* held(const Value& value) {
+    const auto* reference = std::get_if<std::shared_ptr<Object>>(&value.data());
+    return reference ? dynamic_cast<const T*>(reference->get()) : nullptr;
+}
+
+}  // namespace
 
 // Nodes can be nested thousands deep, too deep for one destructor to call the next: each node is
 // emptied before it goes.
@@ -40,7 +52,7 @@ std::vector<DescriptionNode::NamedLeaf> DescriptionNode::leaves() const {
     leaves.reserve(static_cast<std::size_t>(Count()) - children_.size());
     forEach([&leaves](const Value& key, const Value& value) {
         if (key.isText()) {
-            leaves.push_back({&key, value.object<Leaf>().get()});
+            leaves.push_back({&key, held<Leaf>(value)});
         }
     });
     return leaves;
@@ -52,7 +64,7 @@ std::vector<DescriptionNode::NumberedChild> DescriptionNode::children() const {
     forEach([&children](const Value& key, const Value& value) {
         if (key.isNumber()) {
             children.push_back(
-                {static_cast<std::int32_t>(key.number()), value.object<DescriptionNode>().get()});
+                {static_cast<std::int32_t>(key.number()), held<DescriptionNode>(value)});
         }
     });
     return children;
@@ -70,9 +82,9 @@ std::shared_ptr<DescriptionNode> DescriptionNode::child(const Value& number) con
     return Item(number).object<DescriptionNode>();
 }
 
-void DescriptionNode::addLeaf(const std::string& key, Leaf leaf) {
+void DescriptionNode::addLeaf(std::string key, Leaf leaf) {
     const int line = leaf.line;
-    atLine(line, [&] { add(key, std::make_shared<Leaf>(std::move(leaf))); });
+    atLine(line, [&] { add(std::move(key), std::make_shared<Leaf>(std::move(leaf))); });
 }
 
 std::shared_ptr<DescriptionNode> DescriptionNode::addChild(std::int32_t number, int line) {

@@ -63,7 +63,7 @@ public:
     std::shared_ptr<DescriptionNode> child(const Value& number) const;
 
     /// Adds a leaf. Error 457 when the key is there already.
-    void addLeaf(const std::string& key, Leaf leaf);
+    void addLeaf(std::string key, Leaf leaf);
     /// Adds an empty child node under its number and answers it. Error 457 when the number is there
     /// already.
     std::shared_ptr<DescriptionNode> addChild(std::int32_t number, int line);

@@ -94,10 +94,11 @@ void DescriptionReader::treeWalkerBuild(const std::shared_ptr<DescriptionNode>& 
 }
 
 void DescriptionReader::addLeaf(DescriptionNode& node, const SourceLine& line) const {
-    const std::string text(leafValue(line.text));
+    std::string text(leafValue(line.text));
     const auto number = readNumber(text);
+    Value value = number ? Value(*number) : Value(text);
     node.addLeaf(vocabulary_.expand(leafKey(line.text)),
-                 Leaf(number ? Value(*number) : Value(text), text, line.number));
+                 Leaf(std::move(value), std::move(text), line.number));
 }
 
 std::int32_t DescriptionReader::nextNumber(NodeKind kind, const SourceLine& line) const {
