@@ -33,7 +33,7 @@ FileWindow windowOfFile(const std::string& file) {
         std::ifstream stream(pathFromUtf8(file), std::ios::binary);
         std::string bytes(static_cast<std::size_t>(length), '\0');
         stream.seekg(offset);
-        stream.read(bytes.data(), length);
+        stream.read(bytes.data(), static_cast<std::streamsize>(length));
         bytes.resize(static_cast<std::size_t>(stream.gcount()));
         return bytes;
     };

@@ -3,6 +3,7 @@
 #include <array>
 #include <cctype>
 #include <cstddef>
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <utility>
@@ -137,14 +138,11 @@ public:
 private:
     static constexpr int mostOfAKind = 10;
 
-    void report(DiagnosticId id, std::size_t length, const std::vector<std::string>& arguments,
-                std::string hint) {
+    void report(DiagnosticId id, std::size_t length,
+                std::initializer_list<std::string_view> arguments, std::string hint) {
         int& told = told_[static_cast<std::size_t>(id)];
         if (++told <= mostOfAKind) {
-            const std::string_view first = arguments.empty() ? std::string_view() : arguments[0];
-            const std::string_view second =
-                arguments.size() < 2 ? std::string_view() : std::string_view(arguments[1]);
-            engine_.report(id, source_.placeOf(text_.substr(at_, length)), {first, second},
+            engine_.report(id, source_.placeOf(text_.substr(at_, length)), arguments,
                            std::move(hint));
         }
     }
@@ -195,8 +193,7 @@ private:
             brought = broughtByField(text_.substr(end, 200));
         }
         if (!brought.empty()) {
-            report(DiagnosticId::EmbeddedContent, end - at_, {"\\" + word, std::string(brought)},
-                   "");
+            report(DiagnosticId::EmbeddedContent, end - at_, {"\\" + word, brought}, "");
         }
         at_ = end;
     }
@@ -209,7 +206,7 @@ private:
                 report(DiagnosticId::UnencodableCharacter, meant->length, {meant->text},
                        unicodeHint(meant->code));
             } else {
-                report(DiagnosticId::Utf8Text, meant->length, {meant->text, std::string(shown)},
+                report(DiagnosticId::Utf8Text, meant->length, {meant->text, shown},
                        "save the file in Windows-1252, or write " + escape(meant->text));
             }
             at_ += meant->length;
@@ -221,7 +218,7 @@ private:
             report(DiagnosticId::ControlCharacter, bytes.size(),
                    {numberedCharacter(character.code)}, "");
         } else if (codePage1252FromUtf8(bytes) == "?") {
-            report(DiagnosticId::UnencodableCharacter, bytes.size(), {std::string(bytes)},
+            report(DiagnosticId::UnencodableCharacter, bytes.size(), {bytes},
                    unicodeHint(character.code));
         }
         at_ += character.length;
