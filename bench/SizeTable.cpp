@@ -20,7 +20,8 @@ void SizeTable::ReportRuns(const std::vector<Run>& runs) {
     ConsoleReporter::ReportRuns(runs);
     for (const Run& run : runs) {
         const auto elements = run.counters.find("elements");
-        if (run.error_occurred || elements == run.counters.end()) {
+        if (run.error_occurred || run.run_type == Run::RT_Aggregate ||
+            elements == run.counters.end()) {
             continue;
         }
         const std::string& name = run.run_name.function_name;
@@ -28,7 +29,7 @@ void SizeTable::ReportRuns(const std::vector<Run>& runs) {
         if (times_.find(name) == times_.end()) {
             names_.push_back(name);
         }
-        const double time = run.GetAdjustedRealTime() * 1e9 /
+        const double time = run.GetAdjustedCPUTime() * 1e9 /
                             benchmark::GetTimeUnitMultiplier(run.time_unit) /
                             static_cast<double>(elements->second);
         double& best = times_[name][size];
@@ -68,9 +69,8 @@ std::string SizeTable::text() const {
         }
         // The smallest size is mostly what a call costs in itself.
         const auto first = times.size() > 2 ? std::next(times.begin()) : times.begin();
-        table += times.size() > 1
-                     ? " " + fixed(times.rbegin()->second / first->second, 2) + " |\n"
-                     : " |\n";
+        table += times.size() > 1 ? " " + fixed(times.rbegin()->second / first->second, 2) + " |\n"
+                                  : " |\n";
     }
     return table;
 }

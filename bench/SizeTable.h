@@ -9,8 +9,9 @@
 
 namespace quorvane::bench {
 
-/// Collects what the benchmarks measure and prints it as a table: nanoseconds per element at each
-/// size, and how they grow from the second size to the last.
+/// Collects what the benchmarks measure and prints it as a table: nanoseconds of processor time,
+/// the system's included, per element at each size, and how they grow from the second size to the
+/// last.
 class SizeTable : public benchmark::ConsoleReporter {
 public:
     void ReportRuns(const std::vector<Run>& runs) override;

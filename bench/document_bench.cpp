@@ -2,9 +2,9 @@
 // emitter of the same document. Ends with the table that docs/performance.md shows.
 
 #include <benchmark/benchmark.h>
-#include <malloc.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -241,17 +241,6 @@ void inlineTokensInOneText(benchmark::State& state) {
     setElements(state, state.range(0));
 }
 
-std::string fullDescription() {
-    std::string text = "(doc\n(paper-width=11906)\n";
-    for (int i = 0; i < 999; ++i) {
-        text +=
-            "(r ; a row\n(rb=light-yellow)\n(rbb=thin)\n(c\n(cw=50)\n(ca=centered)\n(p\n(pt=Article "
-            "<bold=" +
-            std::to_string(i) + ">)\n(ps=entry)\np)\nc)\nr)\n";
-    }
-    return text + "doc)\n";
-}
-
 void parseFullDescription(benchmark::State& state, bool check) {
     const std::string text = fullDescription();
     const Ref<CRtfDriver> driver = CRtfDriver::create();
@@ -272,6 +261,35 @@ void parseDescription(benchmark::State& state) {
 
 void parseAndCheckDescription(benchmark::State& state) {
     parseFullDescription(state, true);
+}
+
+std::int64_t linesOfFullDescription() {
+    const std::string text = fullDescription();
+    return std::count(text.begin(), text.end(), '\n');
+}
+
+void descriptionToDocument(benchmark::State& state) {
+    const std::string text = fullDescription();
+    const Ref<CRtfDriver> driver = CRtfDriver::create();
+    driver->LoadStyleSheetFromMemmory(standardStyleSheet());
+    for (auto _ : state) {
+        driver->ParseFromMemmory(text);
+        benchmark::DoNotOptimize(driver->Contents().data());
+    }
+    setElements(state, state.range(0));
+}
+
+void findLineEnds(benchmark::State& state) {
+    const std::string text = fullDescription();
+    for (auto _ : state) {
+        std::size_t sum = 0;
+        for (std::size_t end = text.find('\n'); end != std::string::npos;
+             end = text.find('\n', end + 1)) {
+            sum += end;
+        }
+        benchmark::DoNotOptimize(sum);
+    }
+    setElements(state, state.range(0));
 }
 
 void loadStyleSheet(benchmark::State& state) {
@@ -309,23 +327,13 @@ BENCHMARK(paragraphsInOneCell)->Apply(cellSizes);
 BENCHMARK(inlineTokensInOneText)->Arg(500)->Arg(5000)->Arg(50000)->Unit(benchmark::kMillisecond);
 BENCHMARK(parseDescription)->Arg(999)->Unit(benchmark::kMillisecond);
 BENCHMARK(parseAndCheckDescription)->Arg(999)->Unit(benchmark::kMillisecond);
+BENCHMARK(descriptionToDocument)->Arg(linesOfFullDescription())->Unit(benchmark::kMillisecond);
+BENCHMARK(findLineEnds)->Arg(linesOfFullDescription())->Unit(benchmark::kMillisecond);
 BENCHMARK(loadStyleSheet)->Arg(50)->Arg(500)->Unit(benchmark::kMillisecond);
 
 bool bytesAreEqual() {
     constexpr std::int32_t rows = 1000;
     return standardDocument(rows)->Contents() == emitStandardJob(rows);
-}
-
-// Heap bytes of a cell with its paragraph, beyond the characters of its text.
-double bytesPerCell() {
-    constexpr std::int32_t rows = 100000;
-    const auto inUse = [] {
-        const auto info = ::mallinfo2();
-        return static_cast<double>(info.uordblks + info.hblkhd);
-    };
-    const double before = inUse();
-    const Ref<CRtfDoc> document = standardDocument(rows);
-    return (inUse() - before) / (rows * cellsPerRow) - static_cast<double>(characterCount);
 }
 
 void printRatio(const char* what, double value, double yardstick) {
@@ -341,7 +349,6 @@ int run(int argc, char** argv) {
         std::fprintf(stderr, "the library's bytes differ from the emitter's\n");
         return 1;
     }
-    const double memory = bytesPerCell();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
         return 2;
@@ -359,7 +366,9 @@ int run(int argc, char** argv) {
     printRatio("Commit of the rendered text, to a plain write of its bytes",
                table.nanoseconds("commitRendered", million),
                table.nanoseconds("plainWrite", million));
-    std::printf("- Bytes per cell and its paragraph, beyond the text: %.1f\n", memory);
+    printRatio("Description to document text through the driver, per line, to finding line ends",
+               table.nanoseconds("descriptionToDocument", linesOfFullDescription()),
+               table.nanoseconds("findLineEnds", linesOfFullDescription()));
     return 0;
 }
 

@@ -102,6 +102,18 @@ std::string_view standardStyleSheet() {
            "{ name: bold; style-def: cs; format: \\b }\r\n";
 }
 
+std::string fullDescription() {
+    std::string text = "(doc\n(paper-width=11906)\n";
+    for (int i = 0; i < 999; ++i) {
+        text +=
+            "(r ; a "
+            "row\n(rb=light-yellow)\n(rbb=thin)\n(c\n(cw=50)\n(ca=centered)\n(p\n(pt=Article "
+            "<bold=" +
+            std::to_string(i) + ">)\n(ps=entry)\np)\nc)\nr)\n";
+    }
+    return text + "doc)\n";
+}
+
 void buildStandardRows(CRtfDoc& document, std::int32_t rows) {
     const Ref<CRtfTableRows> tableRows = document.TableRows();
     std::string text;

@@ -19,14 +19,17 @@ inline constexpr std::size_t characterCount = 24;
 /// The stylesheet of the standard job: three paragraph styles and one character style.
 std::string_view standardStyleSheet();
 
+/// A description of 999 rows of one cell of one paragraph, for that stylesheet.
+std::string fullDescription();
+
 /// Builds the rows of the standard job through the object model.
 void buildStandardRows(CRtfDoc& document, std::int32_t rows);
 
 /// A document of the standard job, not rendered yet.
 Ref<CRtfDoc> standardDocument(std::int32_t rows);
 
-/// The yardstick: writes the standard job's document by a program that knows it beforehand, into one
-/// buffer.
+/// The yardstick: writes the standard job's document by a program that knows it beforehand, into
+/// one buffer.
 std::string emitStandardJob(std::int32_t rows);
 
 /// The same through a buffer of 64 KB that is handed on whenever it is full.

@@ -2,6 +2,7 @@
 
 #include <fstream>
 #include <istream>
+#include <memory>
 #include <utility>
 
 #include "cli/RenderOptions.h"
@@ -27,14 +28,15 @@ std::string readPiece(std::istream& stream) {
     return piece;
 }
 
-/// The window of a file on the disk, which is opened anew for it.
+/// The window of a file on the disk, which is opened once more for it.
 FileWindow windowOfFile(const std::string& file) {
-    return [file](std::int64_t offset, std::int64_t length) {
-        std::ifstream stream(pathFromUtf8(file), std::ios::binary);
+    const auto stream = std::make_shared<std::ifstream>(pathFromUtf8(file), std::ios::binary);
+    return [stream](std::int64_t offset, std::int64_t length) {
         std::string bytes(static_cast<std::size_t>(length), '\0');
-        stream.seekg(offset);
-        stream.read(bytes.data(), static_cast<std::streamsize>(length));
-        bytes.resize(static_cast<std::size_t>(stream.gcount()));
+        stream->clear();
+        stream->seekg(offset);
+        stream->read(bytes.data(), static_cast<std::streamsize>(length));
+        bytes.resize(static_cast<std::size_t>(stream->gcount()));
         return bytes;
     };
 }

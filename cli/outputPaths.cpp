@@ -36,27 +36,52 @@ std::string outputOf(const std::string& description, const RenderOptions& option
                                 : outputBeside(description);
 }
 
-/// One name for all ways in which a file can be named.
-fs::path identity(const std::string& name) {
-    if (name == standardStream) {
-        return name;
-    }
-    const fs::path target = followLinks(pathFromUtf8(name));
+fs::path canonicalPath(const fs::path& path) {
     std::error_code failure;
-    const fs::path whole = fs::weakly_canonical(fs::absolute(target, failure), failure);
-    return systemSpelling(failure ? target : whole);
+    fs::path whole = fs::weakly_canonical(path, failure);
+    return failure ? path : whole;
 }
 
+/// One name for all ways in which a file can be named.
+class Identities {
+public:
+    fs::path of(const std::string& name) {
+        if (name == standardStream) {
+            return name;
+        }
+        const fs::path target = followLinks(pathFromUtf8(name));
+        std::error_code failure;
+        const fs::path whole = fs::absolute(target, failure);
+        return systemSpelling(failure ? target : withCanonicalFolder(whole));
+    }
+
+private:
+    // Many files are in few folders; each of these is looked up once.
+    fs::path withCanonicalFolder(const fs::path& path) {
+        const fs::path name = path.filename();
+        if (name.empty() || name == "." || name == "..") {
+            return canonicalPath(path);
+        }
+        const auto [folder, isNew] = folders_.try_emplace(path.parent_path());
+        if (isNew) {
+            folder->second = canonicalPath(folder->first);
+        }
+        return folder->second / name;
+    }
+
+    std::map<fs::path, fs::path> folders_;
+};
+
 /// The files that are read; no document may take the place of one.
-std::map<fs::path, std::string> inputsOf(const RenderOptions& options) {
+std::map<fs::path, std::string> inputsOf(const RenderOptions& options, Identities& identities) {
     std::map<fs::path, std::string> inputs;
     for (const std::string& description : options.descriptions) {
         if (description != standardStream) {
-            inputs.emplace(identity(description), description);
+            inputs.emplace(identities.of(description), description);
         }
     }
     if (options.styleSheet) {
-        inputs.emplace(identity(*options.styleSheet), *options.styleSheet);
+        inputs.emplace(identities.of(*options.styleSheet), *options.styleSheet);
     }
     return inputs;
 }
@@ -76,12 +101,13 @@ std::vector<Assignment> assignOutputs(const RenderOptions& options) {
     if (options.output && options.output->empty()) {
         throw UsageError("--output needs the name of a file");
     }
-    const std::map<fs::path, std::string> inputs = inputsOf(options);
+    Identities identities;
+    const std::map<fs::path, std::string> inputs = inputsOf(options, identities);
     std::map<fs::path, std::string> descriptionsByOutput;
     std::vector<Assignment> assignments;
     for (const std::string& description : options.descriptions) {
         const std::string output = outputOf(description, options);
-        const fs::path file = identity(output);
+        const fs::path file = identities.of(output);
         const auto input = inputs.find(file);
         if (input != inputs.end() && wouldReplace(file)) {
             throw UsageError("the document of " + description + " would replace " + input->second);

@@ -5,6 +5,8 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
 option(QUORVANE_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" ON)
 option(QUORVANE_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+option(QUORVANE_SANITIZE_THREADS "Build with the thread sanitizer" OFF)
+option(QUORVANE_FUZZ "Build the fuzzers, which take clang, and nothing else to run" OFF)
 option(QUORVANE_COVERAGE "Build so that the tests' coverage can be measured" OFF)
 
 # GCC 12 writes wrong unwinding tables for what it splits off as rarely used: an exception that
@@ -17,11 +19,22 @@ endif()
 add_library(quorvaneSettings INTERFACE)
 target_compile_options(quorvaneSettings INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow
-    # GCC 12 sees an overlap in every concatenation of a literal and a string.
+    # GCC 12 sees an overlap in every concatenation of a literal and a string, and an access beyond
+    # its end in every list of one string whose length is asked for.
     $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>
+    $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-array-bounds>
     $<$<BOOL:${QUORVANE_WARNINGS_AS_ERRORS}>:-Werror>)
 if(QUORVANE_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
+                        -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+if(QUORVANE_SANITIZE_THREADS)
+    add_compile_options(-fsanitize=thread -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=thread)
+endif()
+if(QUORVANE_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all
                         -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
 endif()

@@ -118,7 +118,7 @@ private:
     void readLine(const Line& line) {
         if (line.isInserted) {
             if (levels_.back().node->kind == NodeKind::Row) {
-                levels_.pop_back();
+                leaveLevel();
             }
             ++next_;
         } else if (isLeaf(line.text)) {
@@ -166,7 +166,7 @@ private:
             if (closedByOpener_.empty()) {
                 closedByOpener_ = nodeKindName(parent.kind);
             }
-            levels_.pop_back();
+            leaveLevel();
             return;
         }
         if (!closedByOpener_.empty()) {
@@ -190,6 +190,7 @@ private:
         node.isOutside = parent.isOutside;
         parent.children.push_back(&node);
         levels_.push_back({&node, {}});
+        ++openNodes_[code(kind)];
         if (kind == NodeKind::Doc && &parent == &outline_.nodes.front() && !outline_.doc) {
             outline_.doc = &node;
             node.isOutside = false;
@@ -201,15 +202,12 @@ private:
     void close(NodeKind kind, std::string_view line) {
         const NodeKind expected = levels_.back().node->kind;
         if (kind == expected) {
-            levels_.pop_back();
+            leaveLevel();
             return;
         }
-        const auto opened = std::find_if(levels_.rbegin(), levels_.rend(), [&](const Level& level) {
-            return level.node->kind == kind;
-        });
-        const bool isRoot = opened == levels_.rend() || opened + 1 == levels_.rend();
+        const bool isOpen = openNodes_[code(kind)] > 0;
         std::string hint;
-        if (!isRoot) {
+        if (isOpen) {
             hint = "the " + std::string(nodeKindName(expected)) + " of line " +
                    std::to_string(source_.placeOf(levels_.back().node->line).line) +
                    " is not closed";
@@ -217,8 +215,11 @@ private:
             hint = "no " + std::string(nodeKindName(kind)) + " is open";
         }
         engine_.report(DiagnosticId::WrongCloser, source_.placeOf(line), {line}, std::move(hint));
-        if (!isRoot) {
-            levels_.erase(opened.base() - 1, levels_.end());
+        if (isOpen) {
+            while (levels_.back().node->kind != kind) {
+                leaveLevel();
+            }
+            leaveLevel();
         }
     }
 
@@ -232,7 +233,7 @@ private:
                 break;
             case SyntaxGuess::Meant::Closer:
                 if (guess.kind == levels_.back().node->kind && levels_.size() > 1) {
-                    levels_.pop_back();
+                    leaveLevel();
                 }
                 break;
             case SyntaxGuess::Meant::Leaf:
@@ -251,7 +252,7 @@ private:
     void openMeant(NodeKind kind, std::string_view line) {
         while (levels_.size() > 1 && kind != NodeKind::Doc &&
                !nests(levels_.back().node->kind, kind)) {
-            levels_.pop_back();
+            leaveLevel();
         }
         OutlineNode& parent = *levels_.back().node;
         if (kind == NodeKind::Doc ? levels_.size() == 1 : nests(parent.kind, kind)) {
@@ -284,6 +285,11 @@ private:
         }
     }
 
+    void leaveLevel() {
+        --openNodes_[code(levels_.back().node->kind)];
+        levels_.pop_back();
+    }
+
     const SourceText& source_;
     const Vocabulary& vocabulary_;
     DiagnosticEngine& engine_;
@@ -291,6 +297,8 @@ private:
     std::vector<Line> lines_;
     std::size_t next_ = 0;
     std::vector<Level> levels_;
+    // How many nodes of each kind are open, the root not counted.
+    std::array<std::int64_t, 4> openNodes_{};
     std::array<std::int32_t, 4> numbers_{1000, 2000, 3000, 0};
     std::int32_t openerCount_ = 0;
     std::array<bool, 4> isOverLimit_{};

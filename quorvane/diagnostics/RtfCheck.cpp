@@ -39,16 +39,100 @@ constexpr std::array<bool, 256> plainBytes = [] {
     return plain;
 }();
 
+/// What a control word is to the check.
+enum class Role : std::uint8_t {
+    None,
+    RowDefinition,
+    CellDefinition,
+    Cell,
+    Row,
+    Level,
+    NestedCell,
+    NestedRow,
+    Font,
+    DefaultFont,
+    Color,
+    Binary,
+    // In the order of the kinds of styles.
+    ParagraphStyle,
+    CharacterStyle,
+    SectionStyle,
+    TableStyle,
+};
+
+struct RoleOfWord {
+    std::string_view word;
+    Role role = Role::None;
+};
+
+constexpr RoleOfWord rolesOfWords[] = {
+    {"trowd", Role::RowDefinition},
+    {"cellx", Role::CellDefinition},
+    {"cell", Role::Cell},
+    {"row", Role::Row},
+    {"itap", Role::Level},
+    {"nestcell", Role::NestedCell},
+    {"nestrow", Role::NestedRow},
+    {"f", Role::Font},
+    {"deff", Role::DefaultFont},
+    {"bin", Role::Binary},
+    {"s", Role::ParagraphStyle},
+    {"cs", Role::CharacterStyle},
+    {"ds", Role::SectionStyle},
+    {"ts", Role::TableStyle},
+    {"cf", Role::Color},
+    {"cb", Role::Color},
+    {"chcbpat", Role::Color},
+    {"chcfpat", Role::Color},
+    {"cbpat", Role::Color},
+    {"cfpat", Role::Color},
+    {"clcbpat", Role::Color},
+    {"clcfpat", Role::Color},
+    {"brdrcf", Role::Color},
+    {"highlight", Role::Color},
+    {"ulc", Role::Color},
+    {"trcbpat", Role::Color},
+    {"trcfpat", Role::Color},
+};
+
+constexpr std::size_t roleSlots = 128;
+
+/// Where the search for a word begins in the table of roles.
+constexpr std::size_t firstSlot(std::string_view word) {
+    const auto first = static_cast<unsigned char>(word.front());
+    const auto last = static_cast<unsigned char>(word.back());
+    return (word.size() * 37 + first * 5U + last * 11U) % roleSlots;
+}
+
+/// The words by what they begin and end with: nearly every look-up is one comparison or none.
+constexpr std::array<RoleOfWord, roleSlots> roleTable = [] {
+    std::array<RoleOfWord, roleSlots> table{};
+    for (const RoleOfWord& entry : rolesOfWords) {
+        std::size_t slot = firstSlot(entry.word);
+        while (table[slot].role != Role::None) {
+            slot = (slot + 1) % roleSlots;
+        }
+        table[slot] = entry;
+    }
+    return table;
+}();
+
+Role roleOf(std::string_view word) {
+    std::size_t slot = firstSlot(word);
+    while (roleTable[slot].role != Role::None) {
+        if (roleTable[slot].word == word) {
+            return roleTable[slot].role;
+        }
+        slot = (slot + 1) % roleSlots;
+    }
+    return Role::None;
+}
+
 template <std::size_t Count>
 bool isAmong(std::string_view word, const std::string_view (&words)[Count]) {
     return std::find(std::begin(words), std::end(words), word) != std::end(words);
 }
 
-constexpr std::string_view styleWords[] = {"s", "cs", "ds", "ts"};
-constexpr std::string_view colorWords[] = {
-    "cf",      "cb",     "chcbpat",   "chcfpat", "cbpat",   "cfpat",   "clcbpat",
-    "clcfpat", "brdrcf", "highlight", "ulc",     "trcbpat", "trcfpat",
-};
 // Destinations whose text is part of the text around them.
 constexpr std::string_view bodyDestinations[] = {"rtf", "field", "fldrslt", "result"};
 
@@ -58,18 +142,52 @@ void RtfCheck::feed(std::string_view bytes) {
     const auto* at = reinterpret_cast<const unsigned char*>(bytes.data());
     const auto* const end = at + bytes.size();
     while (at != end) {
-        if (state_ == State::Text && !groups_.back().isFresh && plainBytes[*at]) {
+        if (state_ != State::Text) {
+            takeByte(*at);
+            endLine(*at);
+            ++at;
+        } else if (*at == '\\') {
+            at = takeWholeWord(at, end);
+        } else if (plainBytes[*at] && !groups_.back().isFresh) {
             const auto* const special =
                 std::find_if_not(at, end, [](unsigned char byte) { return plainBytes[byte]; });
             offset_ += special - at;
             at = special;
             lastWasReturn_ = false;
         } else {
-            takeByte(*at);
+            takeText(*at);
             endLine(*at);
             ++at;
         }
     }
+}
+
+/// Takes a control word that ends among these bytes, or else its backslash alone. Answers what
+/// follows.
+const unsigned char* RtfCheck::takeWholeWord(const unsigned char* at, const unsigned char* end) {
+    const auto* const wordEnd = std::find_if_not(at + 1, end, isLetter);
+    const auto* numberEnd = wordEnd;
+    if (numberEnd != end && *numberEnd == '-') {
+        ++numberEnd;
+    }
+    numberEnd = std::find_if_not(numberEnd, end, isDigit);
+    const auto wordLength = static_cast<std::size_t>(wordEnd - at) - 1;
+    const auto numberLength = static_cast<std::size_t>(numberEnd - wordEnd);
+    wordBegin_ = here(1);
+    if (numberEnd == end || wordLength == 0 || wordLength > longestWord ||
+        numberLength > longestNumber) {
+        state_ = State::Backslash;
+        endLine(*at);
+        return at + 1;
+    }
+    word_.assign(at + 1, wordEnd);
+    number_.assign(wordEnd, numberEnd);
+    // A blank ends the word and is no text.
+    const auto* const next = *numberEnd == ' ' ? numberEnd + 1 : numberEnd;
+    offset_ += next - at;
+    lastWasReturn_ = false;
+    applyWord();
+    return next;
 }
 
 void RtfCheck::finish() {
@@ -296,23 +414,28 @@ void RtfCheck::takeHexDigit(unsigned char byte) {
 
 void RtfCheck::applyWord() {
     state_ = State::Text;
-    value_ = 0;
-    std::from_chars(number_.data(), number_.data() + number_.size(), value_);
-    if (word_ == "bin" && value_ > 0) {
-        groups_.back().isFresh = false;
-        binaryLeft_ = value_;
-        state_ = State::Binary;
-        return;
-    }
-    if (groups_.back().isFresh) {
-        groups_.back().isFresh = false;
+    Group& group = groups_.back();
+    if (group.isFresh) {
+        group.isFresh = false;
         applyFirstWord();
     }
-    const Destination destination = groups_.back().destination;
-    if (destination == Destination::Body || destination == Destination::NestedRow) {
-        applyRowWord();
+    const Role role = roleOf(word_);
+    if (role == Role::None) {
+        return;
     }
-    if (destination != Destination::Other && destination != Destination::Ignorable) {
+    value_ = 0;
+    std::from_chars(number_.data(), number_.data() + number_.size(), value_);
+    if (role == Role::Binary) {
+        if (value_ > 0) {
+            binaryLeft_ = value_;
+            state_ = State::Binary;
+        }
+    } else if (role < Role::Font) {
+        if (group.destination == Destination::Body || group.destination == Destination::NestedRow) {
+            applyRowWord();
+        }
+    } else if (group.destination != Destination::Other &&
+               group.destination != Destination::Ignorable) {
         applyReference();
     }
 }
@@ -349,37 +472,47 @@ void RtfCheck::applyFirstWord() {
 void RtfCheck::applyRowWord() {
     const bool isNested = groups_.back().destination == Destination::NestedRow;
     Row& row = isNested ? nestedRow_ : row_;
-    if (word_ == "trowd") {
-        if (!row.isOpen) {
-            row.begin = wordPlace();
-        }
-        row.isDefined = true;
-        row.definitions = 0;
-        row.lastEdge = INT64_MIN;
-    } else if (word_ == "cellx") {
-        ++row.definitions;
-        if (value_ <= row.lastEdge) {
-            engine_.report(DiagnosticId::FallingEdge, wordPlace(),
-                           {std::to_string(value_), std::to_string(row.lastEdge)});
-        }
-        row.lastEdge = value_;
-    } else if (word_ == "cell") {
-        if (!row.isOpen && !row.isDefined) {
-            row.begin = wordPlace();
-        }
-        row.isOpen = true;
-        ++row.cells;
-    } else if (word_ == "row") {
-        endRow(row, row.cells);
-        row.cells = 0;
-        row.isOpen = false;
-    } else if (word_ == "itap") {
-        level_ = std::clamp<std::int64_t>(value_, 0, std::ssize(nestedCells_) - 1);
-    } else if (word_ == "nestcell") {
-        ++nestedCells();
-    } else if (word_ == "nestrow") {
-        endRow(nestedRow_, nestedCells());
-        nestedCells() = 0;
+    switch (roleOf(word_)) {
+        case Role::RowDefinition:
+            if (!row.isOpen) {
+                row.begin = wordPlace();
+            }
+            row.isDefined = true;
+            row.definitions = 0;
+            row.lastEdge = INT64_MIN;
+            break;
+        case Role::CellDefinition:
+            ++row.definitions;
+            if (value_ <= row.lastEdge) {
+                engine_.report(DiagnosticId::FallingEdge, wordPlace(),
+                               {std::to_string(value_), std::to_string(row.lastEdge)});
+            }
+            row.lastEdge = value_;
+            break;
+        case Role::Cell:
+            if (!row.isOpen && !row.isDefined) {
+                row.begin = wordPlace();
+            }
+            row.isOpen = true;
+            ++row.cells;
+            break;
+        case Role::Row:
+            endRow(row, row.cells);
+            row.cells = 0;
+            row.isOpen = false;
+            break;
+        case Role::Level:
+            level_ = std::clamp<std::int64_t>(value_, 0, std::ssize(nestedCells_) - 1);
+            break;
+        case Role::NestedCell:
+            ++nestedCells();
+            break;
+        case Role::NestedRow:
+            endRow(nestedRow_, nestedCells());
+            nestedCells() = 0;
+            break;
+        default:
+            break;
     }
 }
 
@@ -398,8 +531,8 @@ void RtfCheck::endRow(Row& row, std::int64_t cells) {
 
 void RtfCheck::applyReference() {
     const Destination destination = groups_.back().destination;
-    const auto* const style = std::find(std::begin(styleWords), std::end(styleWords), word_);
-    if (word_ == "f") {
+    const Role role = roleOf(word_);
+    if (role == Role::Font) {
         if (destination == Destination::FontTable) {
             if (!fonts_.insert(value_).second) {
                 engine_.report(DiagnosticId::DuplicateFont, wordPlace(), {number_});
@@ -407,19 +540,20 @@ void RtfCheck::applyReference() {
         } else if (!fonts_.contains(value_)) {
             engine_.report(DiagnosticId::UnknownFont, wordPlace(), {std::to_string(value_)});
         }
-    } else if (word_ == "deff") {
+    } else if (role == Role::DefaultFont) {
         defaultFont_ = value_;
         defaultFontPlace_ = wordPlace();
-    } else if (style != std::end(styleWords)) {
-        const auto kind = static_cast<std::size_t>(style - std::begin(styleWords));
+    } else if (role == Role::Color) {
+        if (value_ != 0 && (value_ < 0 || value_ >= colors_)) {
+            engine_.report(DiagnosticId::UnknownColor, wordPlace(), {std::to_string(value_)});
+        }
+    } else {
+        const auto kind =
+            static_cast<std::size_t>(role) - static_cast<std::size_t>(Role::ParagraphStyle);
         if (destination == Destination::StyleSheet) {
             defineStyle(kind);
         } else if (!styles_[kind].contains(value_) && (kind > 0 || value_ != 0)) {
             engine_.report(DiagnosticId::UnknownStyle, wordPlace(), {word_ + number_});
-        }
-    } else if (isAmong(word_, colorWords)) {
-        if (value_ != 0 && (value_ < 0 || value_ >= colors_)) {
-            engine_.report(DiagnosticId::UnknownColor, wordPlace(), {std::to_string(value_)});
         }
     }
 }

@@ -75,6 +75,7 @@ private:
         bool isDefined = false;
     };
 
+    const unsigned char* takeWholeWord(const unsigned char* at, const unsigned char* end);
     Place here(std::int64_t length) const;
     Place wordPlace() const;
     bool endsWord(unsigned char byte);

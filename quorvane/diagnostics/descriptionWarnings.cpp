@@ -166,12 +166,15 @@ private:
     }
 
     void findInlineStyles(std::string_view text) {
+        const std::size_t lastClose = text.rfind('>');
+        if (lastClose == std::string_view::npos) {
+            return;
+        }
         for (std::size_t open = text.find('<'); open != std::string_view::npos;
              open = text.find('<', open + 1)) {
             const std::size_t end = text.find_first_of("=<>", open + 1);
             const bool isToken = end != std::string_view::npos && text[end] == '=' &&
-                                 text[open + 1] >= 'A' && text[open + 1] <= 'z' &&
-                                 text.find('>', end) != std::string_view::npos;
+                                 text[open + 1] >= 'A' && text[open + 1] <= 'z' && end < lastClose;
             if (!isToken) {
                 continue;
             }

@@ -36,6 +36,19 @@ void release(CRtfParagraph* paragraph) noexcept {
     }
 }
 
+Ref<CRtfParagraph> CRtfParagraph::create(CRtfTableCell& cell) {
+    void* memory = poolOf(cell).allocate(sizeof(CRtfParagraph));
+    return Ref<CRtfParagraph>(::new (memory) CRtfParagraph(cell));
+}
+
+void CRtfParagraph::operator delete(CRtfParagraph* paragraph, std::destroying_delete_t) noexcept {
+    const WeakRef<CRtfTableCell> cell = paragraph->parent_;
+    MemoryPool& pool = poolOf(*cell.memory());
+    paragraph->text_.clear(pool);
+    paragraph->~CRtfParagraph();
+    pool.deallocate(paragraph, sizeof(CRtfParagraph));
+}
+
 Ref<CRtfTableCell> CRtfParagraph::Parent() const {
     return Ref<CRtfTableCell>(parent_.get());
 }
@@ -43,7 +56,7 @@ Ref<CRtfTableCell> CRtfParagraph::Parent() const {
 void CRtfParagraph::setText(std::string_view text) {
     clearCurrentError();
     if (!text.empty()) {
-        text_ = SharedText(text);
+        text_.assign(text, pool());
         markChanged(document());
     }
 }
@@ -76,13 +89,17 @@ void CRtfParagraph::asMarkedField(const Value& vFieldData) {
 }
 
 void CRtfParagraph::takeOver(const CRtfParagraph& old) {
-    text_ = old.text_;
+    text_.assign(old.text_.view(), pool());
     style_ = old.style_;
 }
 
 TableDocument* CRtfParagraph::document() const noexcept {
     const CRtfTableCell* cell = parent_.get();
     return cell ? documentOf(*cell) : nullptr;
+}
+
+MemoryPool& CRtfParagraph::pool() const noexcept {
+    return poolOf(*parent_.memory());
 }
 
 void CRtfParagraph::render(TableRendering& rendering, std::size_t position) const {

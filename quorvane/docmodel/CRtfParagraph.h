@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <new>
 #include <string>
 #include <string_view>
 
@@ -12,6 +13,7 @@
 #include "quorvane/docmodel/references.h"
 #include "quorvane/support/Counted.h"
 #include "quorvane/support/KeyedList.h"
+#include "quorvane/support/PooledText.h"
 #include "quorvane/support/Ref.h"
 #include "quorvane/support/SharedText.h"
 #include "quorvane/support/Value.h"
@@ -59,17 +61,20 @@ private:
     friend void retain(CRtfParagraph* paragraph) noexcept;
     friend void release(CRtfParagraph* paragraph) noexcept;
 
+    static Ref<CRtfParagraph> create(CRtfTableCell& cell);
     explicit CRtfParagraph(CRtfTableCell& cell) : parent_(&cell) {}
     ~CRtfParagraph() = default;
+    static void operator delete(CRtfParagraph* paragraph, std::destroying_delete_t) noexcept;
 
     void setParent(CRtfTableCell& cell) { parent_ = WeakRef<CRtfTableCell>(&cell); }
     void takeOver(const CRtfParagraph& old);
     TableDocument* document() const noexcept;
+    MemoryPool& pool() const noexcept;
     void render(TableRendering& rendering, std::size_t position) const;
 
     Counted counts_;
     WeakRef<CRtfTableCell> parent_;
-    SharedText text_;
+    PooledText text_;
     SharedText style_;
     std::int32_t foreColor_ = eNoColor;
     std::int32_t align_ = eNoDefault;
@@ -79,5 +84,8 @@ private:
 
 /// The document that a cell belongs to, for its paragraphs; null when it is gone.
 TableDocument* documentOf(const CRtfTableCell& cell) noexcept;
+
+/// The memory that a cell and its paragraphs are in.
+MemoryPool& poolOf(const CRtfTableCell& cell) noexcept;
 
 }  // namespace quorvane

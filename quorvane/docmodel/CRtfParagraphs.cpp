@@ -20,15 +20,15 @@ Ref<CRtfParagraph> CRtfParagraphs::refile(const Ref<CRtfParagraph>& old, std::st
     clearCurrentError();
     TableDocument& owner = required(document());
     const std::size_t position = list_.requiredPositionOf(*old);
-    Ref<CRtfParagraph> fresh(new CRtfParagraph(cell_));
-    list_.replaceAt(position, fresh, key);
+    const Ref<CRtfParagraph> fresh = CRtfParagraph::create(cell_);
     fresh->takeOver(*old);
+    list_.replaceAt(position, fresh, key);
     owner.markChanged();
     return fresh;
 }
 
 void CRtfParagraphs::insertNew(const List::Place& place, TableDocument&) {
-    list_.insert(place, Ref<CRtfParagraph>(new CRtfParagraph(cell_)));
+    list_.insert(place, CRtfParagraph::create(cell_));
 }
 
 void CRtfParagraphs::takeFrom(CRtfParagraphs& other) {

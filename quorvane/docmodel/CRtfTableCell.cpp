@@ -58,9 +58,24 @@ TableDocument* documentOf(const CRtfTableCell& cell) noexcept {
     return cell.document();
 }
 
+MemoryPool& poolOf(const CRtfTableCell& cell) noexcept {
+    return poolOf(*cell.parent_.memory());
+}
+
+Ref<CRtfTableCell> CRtfTableCell::create(CRtfTableRow& row) {
+    void* memory = poolOf(row).allocate(sizeof(CRtfTableCell));
+    return Ref<CRtfTableCell>(::new (memory) CRtfTableCell(row));
+}
+
+void CRtfTableCell::operator delete(CRtfTableCell* cell, std::destroying_delete_t) noexcept {
+    const WeakRef<CRtfTableRow> row = cell->parent_;
+    cell->~CRtfTableCell();
+    poolOf(*row.memory()).deallocate(cell, sizeof(CRtfTableCell));
+}
+
+// The parent stays: by way of it paragraphs that are still held find the memory they are in.
 void CRtfTableCell::letGo() noexcept {
     paragraphs_.list_.clear();
-    parent_ = {};
 }
 
 Ref<CRtfTableRow> CRtfTableCell::Parent() const {

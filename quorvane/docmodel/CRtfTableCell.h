@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <new>
 #include <string>
 #include <string_view>
 
@@ -86,9 +87,12 @@ private:
     friend void releaseWeak(CRtfTableCell* cell) noexcept;
     friend bool isAlive(const CRtfTableCell* cell) noexcept;
     friend TableDocument* documentOf(const CRtfTableCell& cell) noexcept;
+    friend MemoryPool& poolOf(const CRtfTableCell& cell) noexcept;
 
+    static Ref<CRtfTableCell> create(CRtfTableRow& row);
     explicit CRtfTableCell(CRtfTableRow& row) : parent_(&row) {}
     ~CRtfTableCell() = default;
+    static void operator delete(CRtfTableCell* cell, std::destroying_delete_t) noexcept;
 
     void letGo() noexcept;
     void setParent(CRtfTableRow& row) { parent_ = WeakRef<CRtfTableRow>(&row); }
@@ -120,6 +124,9 @@ bool isDarkColor(tColorIndex color) noexcept;
 
 /// The document that a row belongs to, for its cells; null when it is gone.
 TableDocument* documentOf(const CRtfTableRow& row) noexcept;
+
+/// The memory that a row and its cells are in.
+MemoryPool& poolOf(const CRtfTableRow& row) noexcept;
 
 /// Width of a cell of the row; see `CRtfTableCell::Width`.
 std::int32_t cellWidth(const CRtfTableRow& row, const CRtfTableCell& cell, tWidthUnit units);

@@ -59,7 +59,7 @@ Ref<CRtfTableCell> CRtfTableCells::refile(const Ref<CRtfTableCell>& old, std::st
     clearCurrentError();
     TableDocument& owner = required(document());
     const std::size_t position = list_.requiredPositionOf(*old);
-    Ref<CRtfTableCell> fresh(new CRtfTableCell(row_));
+    const Ref<CRtfTableCell> fresh = CRtfTableCell::create(row_);
     list_.replaceAt(position, fresh, key);
     fresh->takeOver(*old);
     owner.markChanged();
@@ -68,7 +68,7 @@ Ref<CRtfTableCell> CRtfTableCells::refile(const Ref<CRtfTableCell>& old, std::st
 
 void CRtfTableCells::insertNew(const List::Place& place, TableDocument& document) {
     const std::int32_t uniformWidth = evenWidth(document, list_.count() + 1);
-    list_.insert(place, Ref<CRtfTableCell>(new CRtfTableCell(row_)));
+    list_.insert(place, CRtfTableCell::create(row_));
     spread(uniformWidth);
 }
 

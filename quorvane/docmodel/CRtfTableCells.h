@@ -72,7 +72,8 @@ private:
     std::int32_t uniformWidth_ = 0;
     // Cells removed at the head since the cells were spread: the edges of the others stay.
     std::int32_t removedHeads_ = 0;
-    // How often the cells were spread. An edge that stands in a cell bears the number of its spread.
+    // How often the cells were spread. An edge that stands in a cell bears the number of its
+    // spread.
     std::uint32_t spreads_ = 0;
 };
 

@@ -44,9 +44,24 @@ void setCellWidth(CRtfTableRow& row, CRtfTableCell& cell, tWidthUnit units, std:
     row.cells_.setWidthOf(cell, units, width);
 }
 
+MemoryPool& poolOf(const CRtfTableRow& row) noexcept {
+    return row.parent_.memory()->pool();
+}
+
+Ref<CRtfTableRow> CRtfTableRow::create(const WeakRef<TableDocument>& document) {
+    void* memory = document.memory()->pool().allocate(sizeof(CRtfTableRow));
+    return Ref<CRtfTableRow>(::new (memory) CRtfTableRow(document));
+}
+
+void CRtfTableRow::operator delete(CRtfTableRow* row, std::destroying_delete_t) noexcept {
+    const WeakRef<TableDocument> document = row->parent_;
+    row->~CRtfTableRow();
+    document.memory()->pool().deallocate(row, sizeof(CRtfTableRow));
+}
+
+// The parent stays: by way of it cells that are still held find the memory they are in.
 void CRtfTableRow::letGo() noexcept {
     cells_.list_.clear();
-    parent_ = {};
 }
 
 void CRtfTableRow::takeOver(CRtfTableRow& old) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <new>
 #include <string>
 
 #include "quorvane/docmodel/CRtfTableCells.h"
@@ -51,13 +52,16 @@ private:
     friend void releaseWeak(CRtfTableRow* row) noexcept;
     friend bool isAlive(const CRtfTableRow* row) noexcept;
     friend TableDocument* documentOf(const CRtfTableRow& row) noexcept;
+    friend MemoryPool& poolOf(const CRtfTableRow& row) noexcept;
     friend std::int32_t cellWidth(const CRtfTableRow& row, const CRtfTableCell& cell,
                                   tWidthUnit units);
     friend void setCellWidth(CRtfTableRow& row, CRtfTableCell& cell, tWidthUnit units,
                              std::int32_t width);
 
+    static Ref<CRtfTableRow> create(const WeakRef<TableDocument>& document);
     explicit CRtfTableRow(const WeakRef<TableDocument>& document) : parent_(document) {}
     ~CRtfTableRow() = default;
+    static void operator delete(CRtfTableRow* row, std::destroying_delete_t) noexcept;
 
     void letGo() noexcept;
     void takeOver(CRtfTableRow& old);

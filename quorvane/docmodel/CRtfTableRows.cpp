@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "quorvane/support/currentError.h"
+#include "quorvane/support/largePages.h"
 
 namespace quorvane {
 
@@ -19,6 +20,7 @@ void reserveForRest(std::size_t start, std::size_t rendered, std::size_t count, 
         const double expected = perRow * static_cast<double>(count - rendered) * 1.05;
         const double most = static_cast<double>(rtf.size() * (largestGrowth - 1));
         rtf.reserve(rtf.size() + roomForARow + static_cast<std::size_t>(std::min(expected, most)));
+        preferLargePages(rtf.data(), rtf.capacity());
     }
 }
 
@@ -43,7 +45,7 @@ Ref<CRtfTableRow> CRtfTableRows::refile(const Ref<CRtfTableRow>& old, std::strin
     clearCurrentError();
     TableDocument& owner = required(document());
     const std::size_t position = list_.requiredPositionOf(*old);
-    Ref<CRtfTableRow> fresh(new CRtfTableRow(parent_));
+    const Ref<CRtfTableRow> fresh = CRtfTableRow::create(parent_);
     list_.replaceAt(position, fresh, key);
     fresh->takeOver(*old);
     owner.markChanged();
@@ -51,7 +53,7 @@ Ref<CRtfTableRow> CRtfTableRows::refile(const Ref<CRtfTableRow>& old, std::strin
 }
 
 void CRtfTableRows::insertNew(const List::Place& place, TableDocument&) {
-    list_.insert(place, Ref<CRtfTableRow>(new CRtfTableRow(parent_)));
+    list_.insert(place, CRtfTableRow::create(parent_));
 }
 
 void CRtfTableRows::render(TableDocument& document, std::string& rtf) const {

@@ -8,6 +8,7 @@
 #include "quorvane/rtfgroups/GroupOwner.h"
 #include "quorvane/support/Counted.h"
 #include "quorvane/support/GError.h"
+#include "quorvane/support/MemoryPool.h"
 #include "quorvane/support/SharedText.h"
 
 namespace quorvane {
@@ -31,6 +32,9 @@ public:
     virtual SharedText sharedName(std::string_view sName) = 0;
     /// The document's error module.
     virtual GError& errors() noexcept = 0;
+    /// Memory for rows, cells, paragraphs and their texts. It is there as long as one of them is,
+    /// since each knows its owner weakly, so that the document's own memory stays.
+    MemoryPool& pool() noexcept { return pool_; }
 
 private:
     friend void retainWeak(TableDocument* document) noexcept;
@@ -44,6 +48,7 @@ private:
     virtual void letGo() noexcept = 0;
 
     CountedOwner counts_;
+    MemoryPool pool_;
 };
 
 void retainWeak(TableDocument* document) noexcept;

@@ -3,10 +3,11 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
+#include <vector>
 
 #include "quorvane/docmodel/TableDocument.h"
 #include "quorvane/support/RtfError.h"
@@ -45,6 +46,67 @@ void appendToken(const TableDocument& document, std::u32string_view inner, std::
     rtf += utf16Units(group);
 }
 
+struct Span {
+    std::size_t start;
+    std::size_t length;
+};
+
+/// The tokens that were replaced, each with the place of its group. A text can have tens of
+/// thousands: the slots of the hash table are small, so that they stay in the processor's cache.
+template <class View>
+class ReplacedTokens {
+public:
+    /// Where the token's group stands, or null.
+    const Span* find(View token) const {
+        if (slots_.empty()) {
+            return nullptr;
+        }
+        const std::size_t slot = slotOf(token, std::hash<View>{}(token));
+        return slots_[slot] == 0 ? nullptr : &entries_[slots_[slot] - 1].group;
+    }
+
+    /// Keeps a token that is not there yet.
+    void add(View token, Span group) {
+        constexpr std::size_t smallestTable = 16;
+        if (4 * (entries_.size() + 1) > 3 * slots_.size()) {
+            slots_.assign(std::max(2 * slots_.size(), smallestTable), 0);
+            for (std::size_t i = 0; i < entries_.size(); ++i) {
+                put(entries_[i], i);
+            }
+        }
+        entries_.push_back({token, std::hash<View>{}(token), group});
+        put(entries_.back(), entries_.size() - 1);
+    }
+
+private:
+    struct Entry {
+        View token;
+        std::size_t hash;
+        Span group;
+    };
+
+    void put(const Entry& entry, std::size_t index) {
+        slots_[slotOf(entry.token, entry.hash)] = static_cast<std::uint32_t>(index + 1);
+    }
+
+    // The token's slot or the empty one where it belongs.
+    std::size_t slotOf(View token, std::size_t hash) const {
+        std::size_t slot = hash & (slots_.size() - 1);
+        while (slots_[slot] != 0 && !isAt(slots_[slot] - 1, token, hash)) {
+            slot = (slot + 1) & (slots_.size() - 1);
+        }
+        return slot;
+    }
+
+    bool isAt(std::size_t index, View token, std::size_t hash) const {
+        return entries_[index].hash == hash && entries_[index].token == token;
+    }
+
+    std::vector<Entry> entries_;
+    // 0, or one more than the index of an entry.
+    std::vector<std::uint32_t> slots_;
+};
+
 /// The walk over a body whose characters are its places.
 template <class Character>
 class InlineStyles {
@@ -71,11 +133,6 @@ public:
     bool placesAreRight() const noexcept { return placesAreRight_; }
 
 private:
-    struct Span {
-        std::size_t start;
-        std::size_t length;
-    };
-
     static constexpr Character opening{'<'};
     static constexpr Character closing{'>'};
 
@@ -126,8 +183,8 @@ private:
             if (isReplaced) {
                 // The last token does not stand once more behind itself.
                 if (body_.find(opening, tokenEnd) != nowhere) {
-                    replaced_.emplace(body_.substr(next_, tokenEnd - next_ + 1),
-                                      Span{open, done_.size() - open});
+                    replaced_.add(body_.substr(next_, tokenEnd - next_ + 1),
+                                  Span{open, done_.size() - open});
                 }
                 next_ = tokenEnd + 1;
             } else {
@@ -148,12 +205,12 @@ private:
             done_ += body_.substr(next_, open - next_);
             next_ = open;
             const std::size_t end = body_.find(closing, open);
-            const auto known = end == nowhere ? replaced_.end()
-                                              : replaced_.find(body_.substr(open, end - open + 1));
-            if (known == replaced_.end()) {
+            const Span* known =
+                end == nowhere ? nullptr : replaced_.find(body_.substr(open, end - open + 1));
+            if (!known) {
                 return true;
             }
-            done_.append(done_, known->second.start, known->second.length);
+            done_.append(done_, known->start, known->length);
             next_ = end + 1;
         }
     }
@@ -218,7 +275,7 @@ private:
     std::size_t next_ = 0;
     Text done_;
     // Where in `done_` the group stands that a token was replaced by first.
-    std::unordered_map<View, Span> replaced_;
+    ReplacedTokens<View> replaced_;
     bool placesAreRight_ = true;
 };
 

@@ -2,11 +2,9 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <vector>
 
-#include "quorvane/driver/GDictionary.h"
 #include "quorvane/driver/driverErrors.h"
 #include "quorvane/support/RtfError.h"
 
@@ -14,13 +12,16 @@ namespace quorvane {
 
 namespace {
 
-std::vector<Value> sorted(std::vector<Value> list) {
-    SortVariant(list);
-    return list;
+// In ascending order of their numbers.
+std::vector<DescriptionNode::NumberedChild> sortedChildren(const DescriptionNode& node) {
+    std::vector<DescriptionNode::NumberedChild> children = node.children();
+    std::sort(children.begin(), children.end(),
+              [](const auto& a, const auto& b) { return a.number < b.number; });
+    return children;
 }
 
 void requireChildren(const DescriptionNode& node, const char* message, const char* source) {
-    if (node.childNumbers().empty()) {
+    if (node.children().empty()) {
         raise(driverError(eWrongKeyword, message, source, node.line()));
     }
 }
@@ -29,14 +30,15 @@ void requireChildren(const DescriptionNode& node, const char* message, const cha
 
 void DescriptionChecks::requireKnownKeys(const DescriptionNode& node, NodeKind kind,
                                          const char* source) const {
-    std::vector<Value> unknown = node.leafKeys();
-    std::erase_if(unknown, [&](const Value& key) { return vocabulary_.isKeyOf(kind, key); });
-    const auto first =
-        std::min_element(unknown.begin(), unknown.end(),
-                         [](const Value& a, const Value& b) { return a.text() < b.text(); });
+    std::vector<DescriptionNode::NamedLeaf> unknown = node.leaves();
+    std::erase_if(unknown,
+                  [&](const auto& named) { return vocabulary_.isKeyOf(kind, *named.key); });
+    const auto first = std::min_element(
+        unknown.begin(), unknown.end(),
+        [](const auto& a, const auto& b) { return a.key->text() < b.key->text(); });
     if (first != unknown.end()) {
-        raise(driverError(eWrongKeyword, first->text() + " isn't a valid keyword.", source,
-                          node.leaf(*first).line));
+        raise(driverError(eWrongKeyword, first->key->text() + " isn't a valid keyword.", source,
+                          first->leaf->line));
     }
 }
 
@@ -44,8 +46,8 @@ void DescriptionChecks::docWalkerSyntax(const DescriptionNode& doc) const {
     constexpr const char* source = "CRtfDriver.docWalkerSyntax";
     requireKnownKeys(doc, NodeKind::Doc, source);
     requireChildren(doc, "Must have at least one row.", source);
-    for (const Value& number : sorted(doc.childNumbers())) {
-        rowWalkerSyntax(*doc.child(number));
+    for (const auto& [number, row] : sortedChildren(doc)) {
+        rowWalkerSyntax(*row);
     }
 }
 
@@ -53,39 +55,38 @@ void DescriptionChecks::rowWalkerSyntax(const DescriptionNode& row) const {
     constexpr const char* source = "CRtfDriver.rowWalkerSyntax";
     requireKnownKeys(row, NodeKind::Row, source);
     requireChildren(row, "Must have at least one cell.", source);
-    for (const Value& number : sorted(row.childNumbers())) {
-        cellWalkerSyntax(*row.child(number));
+    for (const auto& [number, cell] : sortedChildren(row)) {
+        cellWalkerSyntax(*cell);
     }
 }
 
 void DescriptionChecks::cellWalkerSyntax(const DescriptionNode& cell) const {
     requireKnownKeys(cell, NodeKind::Cell, "CRtfDriver.cellWalkerSyntax");
-    for (const Value& number : sorted(cell.childNumbers())) {
-        paraWalkerSyntax(*cell.child(number));
+    for (const auto& [number, para] : sortedChildren(cell)) {
+        paraWalkerSyntax(*para);
     }
 }
 
 void DescriptionChecks::paraWalkerSyntax(const DescriptionNode& para) const {
     constexpr const char* source = "CRtfDriver.paraWalkerSyntax";
-    if (!isMember("para-text", para.leafKeys())) {
+    if (!para.Exists("para-text")) {
         raise(driverError(eSyntaxError, "In a para group para-text is mandatory.", source,
                           para.line()));
     }
     requireKnownKeys(para, NodeKind::Para, "CrtfDriver.paraWalkerSyntax");
-    const std::vector<Value> children = para.childNumbers();
+    const std::vector<DescriptionNode::NumberedChild> children = para.children();
     if (!children.empty()) {
         raise(driverError(eWrongKeyword, "A paragraph is a terminal node", source,
-                          para.child(children.front())->line()));
+                          children.front().node->line()));
     }
 }
 
 void DescriptionChecks::treeWalkerSemantic(const DescriptionNode& node, NodeKind kind) const {
-    for (const Value& key : node.leafKeys()) {
-        checkValue(key, node.leaf(key));
+    for (const auto& [key, leaf] : node.leaves()) {
+        checkValue(*key, *leaf);
     }
-    for (const Value& number : node.childNumbers()) {
-        const std::shared_ptr<DescriptionNode> child = node.child(number);
-        const NodeKind childKind = NodeType(static_cast<std::int32_t>(number.number()));
+    for (const auto& [number, child] : node.children()) {
+        const NodeKind childKind = NodeType(number);
         if (!nests(kind, childKind)) {
             raise(driverError(eSyntaxError, "Invalid node declaration in this context\r\n",
                               "CRtDriver.treeWalkerSemantic", child->line()));

@@ -1,5 +1,7 @@
 #include "quorvane/driver/DescriptionNode.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "quorvane/driver/GDictionary.h"
@@ -12,14 +14,16 @@ namespace quorvane {
 // Nodes can be nested thousands deep, too deep for one destructor to call the next: each node is
 // emptied before it goes.
 DescriptionNode::~DescriptionNode() {
-    std::list<std::shared_ptr<DescriptionNode>> nodes = std::move(children_);
+    std::vector<std::shared_ptr<DescriptionNode>> nodes = std::move(children_);
     RemoveAll();
     while (!nodes.empty()) {
-        if (nodes.front().use_count() == 1) {
-            nodes.splice(nodes.end(), nodes.front()->children_);
-            nodes.front()->RemoveAll();
+        const std::shared_ptr<DescriptionNode> node = std::move(nodes.back());
+        nodes.pop_back();
+        if (node.use_count() == 1 && !node->children_.empty()) {
+            std::move(node->children_.begin(), node->children_.end(), std::back_inserter(nodes));
+            node->children_.clear();
+            node->RemoveAll();
         }
-        nodes.pop_front();
     }
 }
 
@@ -29,6 +33,29 @@ std::vector<Value> DescriptionNode::leafKeys() const {
 
 std::vector<Value> DescriptionNode::childNumbers() const {
     return FilterType(Keys().value_or(std::vector<Value>()), ValueKind::Number);
+}
+
+std::vector<DescriptionNode::NamedLeaf> DescriptionNode::leaves() const {
+    std::vector<NamedLeaf> leaves;
+    leaves.reserve(static_cast<std::size_t>(Count()) - children_.size());
+    forEach([&leaves](const Value& key, const Value& value) {
+        if (key.isText()) {
+            leaves.push_back({&key, value.object<Leaf>().get()});
+        }
+    });
+    return leaves;
+}
+
+std::vector<DescriptionNode::NumberedChild> DescriptionNode::children() const {
+    std::vector<NumberedChild> children;
+    children.reserve(children_.size());
+    forEach([&children](const Value& key, const Value& value) {
+        if (key.isNumber()) {
+            children.push_back(
+                {static_cast<std::int32_t>(key.number()), value.object<DescriptionNode>().get()});
+        }
+    });
+    return children;
 }
 
 const Leaf& DescriptionNode::leaf(const Value& key) const {

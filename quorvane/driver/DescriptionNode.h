@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <list>
 #include <memory>
 #include <string>
 #include <vector>
@@ -44,6 +43,20 @@ public:
     std::vector<Value> leafKeys() const;
     /// The numbers of the child nodes, in the order of the description.
     std::vector<Value> childNumbers() const;
+    /// The leaves with their keys and the child nodes with their numbers, both in the order of the
+    /// description; good until the node is changed.
+    struct NamedLeaf {
+        /// A text.
+        const Value* key;
+        const Leaf* leaf;
+    };
+    struct NumberedChild {
+        std::int32_t number;
+        const DescriptionNode* node;
+    };
+    std::vector<NamedLeaf> leaves() const;
+    std::vector<NumberedChild> children() const;
+
     /// The leaf under a key, which must be there.
     const Leaf& leaf(const Value& key) const;
     /// The child node of a number; error 91 when there is none.
@@ -58,7 +71,7 @@ public:
 private:
     int line_;
     // The children once more, for the destructor.
-    std::list<std::shared_ptr<DescriptionNode>> children_;
+    std::vector<std::shared_ptr<DescriptionNode>> children_;
 };
 
 /// Kind of the node of that number: 0 to 999 doc, 1000 to 1999 row, 2000 to 2999 cell, 3000 to 3999

@@ -60,7 +60,7 @@ void DescriptionReader::treeWalkerBuild(const std::shared_ptr<DescriptionNode>& 
     openerCount_ = 0;
     auto line = lines.begin();
     while (line != lines.end() && !levels.empty()) {
-        const Level level = levels.back();
+        const Level& level = levels.back();
         if (isLeaf(line->text)) {
             addLeaf(*level.node, *line);
             ++line;
@@ -73,7 +73,8 @@ void DescriptionReader::treeWalkerBuild(const std::shared_ptr<DescriptionNode>& 
                 continue;
             }
             numbers_[static_cast<std::size_t>(opened)] = number;
-            levels.push_back({AddNode(*level.node, opened, number, line->number), opened});
+            auto node = AddNode(*level.node, opened, number, line->number);
+            levels.push_back({std::move(node), opened});
             openerCount_ = 0;
             ++line;
         } else if (const NodeKind closed = closedKind(line->text, vocabulary_);

@@ -1,12 +1,12 @@
 #include "quorvane/driver/DocumentBuilder.h"
 
+#include <algorithm>
 #include <cmath>
 #include <memory>
 #include <optional>
 #include <utility>
 #include <vector>
 
-#include "quorvane/driver/GDictionary.h"
 #include "quorvane/driver/driverErrors.h"
 #include "quorvane/support/RtfError.h"
 #include "quorvane/support/rounding.h"
@@ -18,18 +18,20 @@ namespace {
 struct Child {
     // The node's number as text: the key under which its entry is filed first.
     std::string key;
-    std::shared_ptr<DescriptionNode> node;
+    const DescriptionNode* node;
 };
 
 // The child nodes of a kind in ascending order of their numbers; nodes of another kind are passed
 // over.
 std::vector<Child> childrenOf(const DescriptionNode& node, NodeKind kind) {
-    std::vector<Value> numbers = node.childNumbers();
-    SortVariant(numbers);
+    std::vector<DescriptionNode::NumberedChild> numbered = node.children();
+    const auto isBefore = [](const auto& a, const auto& b) { return a.number < b.number; };
+    std::sort(numbered.begin(), numbered.end(), isBefore);
     std::vector<Child> children;
-    for (const Value& number : numbers) {
-        if (NodeType(static_cast<std::int32_t>(number.number())) == kind) {
-            children.push_back({valueText(number), node.child(number)});
+    children.reserve(numbered.size());
+    for (const auto& [number, child] : numbered) {
+        if (NodeType(number) == kind) {
+            children.push_back({std::to_string(number), child});
         }
     }
     return children;
@@ -75,12 +77,13 @@ Enumeration namedOrNumbered(const Leaf& leaf, std::optional<Enumeration> named,
 
 template <class Apply>
 void DocumentBuilder::forEachLeaf(const DescriptionNode& node, NodeKind kind, Apply apply) const {
-    std::vector<Value> keys = node.leafKeys();
-    std::erase_if(keys, [&](const Value& key) { return !vocabulary_.isKeyOf(kind, key); });
-    SortVariant(keys);
-    for (const Value& key : keys) {
-        const Leaf& leaf = node.leaf(key);
-        atLine(leaf.line, [&] { apply(key.text(), leaf); });
+    std::vector<DescriptionNode::NamedLeaf> leaves = node.leaves();
+    std::erase_if(leaves,
+                  [&](const auto& named) { return !vocabulary_.isKeyOf(kind, *named.key); });
+    std::sort(leaves.begin(), leaves.end(),
+              [](const auto& a, const auto& b) { return a.key->text() < b.key->text(); });
+    for (const auto& [key, leaf] : leaves) {
+        atLine(leaf->line, [&, key = key, leaf = leaf] { apply(key->text(), *leaf); });
     }
 }
 

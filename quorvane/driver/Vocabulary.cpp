@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <initializer_list>
+#include <cstdint>
 #include <iterator>
 #include <utility>
 
@@ -12,7 +12,7 @@ namespace quorvane {
 
 namespace {
 
-constexpr std::pair<const char*, const char*> longForms[] = {
+constexpr std::pair<std::string_view, std::string_view> longForms[] = {
     {"r", "row"},
     {"c", "cell"},
     {"p", "para"},
@@ -36,7 +36,7 @@ constexpr std::pair<const char*, const char*> longForms[] = {
     {"cmf", "cell-marked-field"},
 };
 
-constexpr std::pair<const char*, std::int32_t> colors[] = {
+constexpr std::pair<std::string_view, std::int32_t> colors[] = {
     {"black", eBlack},
     {"blue", eBlue},
     {"cyan", eCyan},
@@ -77,43 +77,43 @@ constexpr std::pair<const char*, std::int32_t> colors[] = {
     {"none", eNoColor},
 };
 
-constexpr std::pair<const char*, std::int32_t> borders[] = {
+constexpr std::pair<std::string_view, std::int32_t> borders[] = {
     {"none", eNone}, {"hair", eHair}, {"thin", eThin}, {"normal", eNormal}, {"thick", eThick},
 };
 
-constexpr std::pair<const char*, std::int32_t> alignments[] = {
+constexpr std::pair<std::string_view, std::int32_t> alignments[] = {
     {"left", eLeft},           {"right", eRight},    {"centered", eCentered},
     {"justified", eJustified}, {"none", eNoDefault},
 };
 
-constexpr const char* docKeys[] = {
+constexpr std::string_view docKeys[] = {
     "paper-height", "paper-width",   "page-number-start", "left-margin",
     "right-margin", "bottom-margin", "top-margin",
 };
 
-constexpr const char* rowKeys[] = {
+constexpr std::string_view rowKeys[] = {
     "row-backcolor",   "row-top-border",   "row-bottom-border",
     "row-left-border", "row-right-border", "row-key",
 };
 
-constexpr const char* cellKeys[] = {
+constexpr std::string_view cellKeys[] = {
     "cell-alignment",   "cell-backcolor",    "cell-top-border", "cell-bottom-border",
     "cell-left-border", "cell-right-border", "cell-key",        "cell-width",
     "cell-style",       "cell-marked-field",
 };
 
-constexpr const char* paraKeys[] = {
+constexpr std::string_view paraKeys[] = {
     "para-text", "para-style", "para-key", "para-alignment", "para-marked-field",
 };
 
-constexpr const char* colorKeys[] = {"row-backcolor", "cell-backcolor"};
+constexpr std::string_view colorKeys[] = {"row-backcolor", "cell-backcolor"};
 
-constexpr const char* borderKeys[] = {
+constexpr std::string_view borderKeys[] = {
     "row-top-border",  "row-bottom-border",  "row-left-border",  "row-right-border",
     "cell-top-border", "cell-bottom-border", "cell-left-border", "cell-right-border",
 };
 
-constexpr const char* textOrNumberKeys[] = {
+constexpr std::string_view textOrNumberKeys[] = {
     "para-text",         "para-style",        "para-alignment",  "row-backcolor",
     "cell-alignment",    "cell-backcolor",    "row-top-border",  "row-bottom-border",
     "row-left-border",   "row-right-border",  "cell-top-border", "cell-bottom-border",
@@ -121,18 +121,22 @@ constexpr const char* textOrNumberKeys[] = {
     "cell-marked-field",
 };
 
-template <class Words>
-void fill(CSet& set, const Words& words) {
-    for (const char* word : words) {
-        set.add(word);
+std::string_view longForm(std::string_view word) {
+    constexpr std::size_t longestShortForm = 3;
+    if (word.size() <= longestShortForm) {
+        for (const auto& [shortForm, longForm] : longForms) {
+            if (word == shortForm) {
+                return longForm;
+            }
+        }
     }
+    return word;
 }
 
-template <class Pairs>
-void fill(CMap& map, const Pairs& pairs) {
-    for (const auto& [name, value] : pairs) {
-        map.add(name, value);
-    }
+template <class Words>
+bool isAmong(const Words& words, const Value& word) {
+    return word.isText() &&
+           std::find(std::begin(words), std::end(words), word.text()) != std::end(words);
 }
 
 template <class Pairs>
@@ -148,12 +152,14 @@ std::vector<std::string_view> listed(const Words& words) {
     return {std::begin(words), std::end(words)};
 }
 
-template <class Enumeration>
-std::optional<Enumeration> valueNamed(const CMap& names, const Value& name) {
+template <class Enumeration, class Pairs>
+std::optional<Enumeration> valueNamed(const Pairs& pairs, const Value& name) {
     if (name.isText()) {
-        const Value word = lowerCase(name.text());
-        if (names.Exists(word)) {
-            return static_cast<Enumeration>(static_cast<std::int32_t>(names.Item(word).number()));
+        const std::string word = lowerCase(name.text());
+        for (const auto& [known, value] : pairs) {
+            if (known == word) {
+                return static_cast<Enumeration>(value);
+            }
         }
     }
     return std::nullopt;
@@ -161,23 +167,8 @@ std::optional<Enumeration> valueNamed(const CMap& names, const Value& name) {
 
 }  // namespace
 
-Vocabulary::Vocabulary() {
-    fill(longForms_, longForms);
-    fill(keys_[static_cast<std::size_t>(NodeKind::Row)], rowKeys);
-    fill(keys_[static_cast<std::size_t>(NodeKind::Cell)], cellKeys);
-    fill(keys_[static_cast<std::size_t>(NodeKind::Para)], paraKeys);
-    fill(keys_[static_cast<std::size_t>(NodeKind::Doc)], docKeys);
-    fill(colorKeys_, colorKeys);
-    fill(borderKeys_, borderKeys);
-    fill(textOrNumberKeys_, textOrNumberKeys);
-    fill(colors_, colors);
-    fill(borders_, borders);
-    fill(alignments_, alignments);
-}
-
 std::string Vocabulary::expand(std::string_view word) const {
-    const Value key(word);
-    return longForms_.Exists(key) ? longForms_.Item(key).text() : std::string(word);
+    return std::string(longForm(word));
 }
 
 std::string_view Vocabulary::shorten(std::string_view word) const {
@@ -187,7 +178,12 @@ std::string_view Vocabulary::shorten(std::string_view word) const {
 }
 
 NodeKind Vocabulary::nodeKind(std::string_view name) const {
-    const std::string longName = expand(lowerCase(name));
+    constexpr std::size_t longestName = 4;
+    if (name.size() > longestName) {
+        return NodeKind::None;
+    }
+    const std::string lowered = lowerCase(name);
+    const std::string_view longName = longForm(lowered);
     if (longName == "row") {
         return NodeKind::Row;
     }
@@ -201,19 +197,43 @@ NodeKind Vocabulary::nodeKind(std::string_view name) const {
 }
 
 bool Vocabulary::isKeyOf(NodeKind kind, const Value& key) const {
-    return keys_.at(static_cast<std::size_t>(kind)).Exists(key);
+    switch (kind) {
+        case NodeKind::Doc:
+            return isAmong(docKeys, key);
+        case NodeKind::Row:
+            return isAmong(rowKeys, key);
+        case NodeKind::Cell:
+            return isAmong(cellKeys, key);
+        case NodeKind::Para:
+            return isAmong(paraKeys, key);
+        case NodeKind::None:
+            break;
+    }
+    return false;
+}
+
+bool Vocabulary::isColorKey(const Value& key) const {
+    return isAmong(colorKeys, key);
+}
+
+bool Vocabulary::isBorderKey(const Value& key) const {
+    return isAmong(borderKeys, key);
+}
+
+bool Vocabulary::isTextOrNumberKey(const Value& key) const {
+    return isAmong(textOrNumberKeys, key);
 }
 
 std::optional<tColorIndex> Vocabulary::colorNamed(const Value& name) const {
-    return valueNamed<tColorIndex>(colors_, name);
+    return valueNamed<tColorIndex>(colors, name);
 }
 
 std::optional<tBorderWidth> Vocabulary::borderNamed(const Value& name) const {
-    return valueNamed<tBorderWidth>(borders_, name);
+    return valueNamed<tBorderWidth>(borders, name);
 }
 
 std::optional<tCellAlign> Vocabulary::alignmentNamed(const Value& name) const {
-    return valueNamed<tCellAlign>(alignments_, name);
+    return valueNamed<tCellAlign>(alignments, name);
 }
 
 std::vector<std::string_view> Vocabulary::keysOf(NodeKind kind) {

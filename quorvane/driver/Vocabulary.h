@@ -1,7 +1,5 @@
 #pragma once
 
-#include <array>
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -9,8 +7,6 @@
 
 #include "quorvane/docmodel/enumerations.h"
 #include "quorvane/driver/DescriptionNode.h"
-#include "quorvane/support/CMap.h"
-#include "quorvane/support/CSet.h"
 #include "quorvane/support/Value.h"
 
 namespace quorvane {
@@ -19,8 +15,6 @@ namespace quorvane {
 /// of colours, borders and alignments without regard to case.
 class Vocabulary {
 public:
-    Vocabulary();
-
     /// The long form of a short name or key; any other word as it stands.
     std::string expand(std::string_view word) const;
 
@@ -32,10 +26,10 @@ public:
 
     /// True when nodes of that kind have such a key.
     bool isKeyOf(NodeKind kind, const Value& key) const;
-    bool isColorKey(const Value& key) const { return colorKeys_.Exists(key); }
-    bool isBorderKey(const Value& key) const { return borderKeys_.Exists(key); }
+    bool isColorKey(const Value& key) const;
+    bool isBorderKey(const Value& key) const;
     /// True for the keys whose value may be text or a number; all others take numbers only.
-    bool isTextOrNumberKey(const Value& key) const { return textOrNumberKeys_.Exists(key); }
+    bool isTextOrNumberKey(const Value& key) const;
 
     /// The values that names stand for; nothing for a value that is no name.
     std::optional<tColorIndex> colorNamed(const Value& name) const;
@@ -47,16 +41,6 @@ public:
     static std::vector<std::string_view> colorNames();
     static std::vector<std::string_view> borderNames();
     static std::vector<std::string_view> alignmentNames();
-
-private:
-    CMap longForms_;
-    std::array<CSet, 4> keys_;
-    CSet colorKeys_;
-    CSet borderKeys_;
-    CSet textOrNumberKeys_;
-    CMap colors_;
-    CMap borders_;
-    CMap alignments_;
 };
 
 }  // namespace quorvane

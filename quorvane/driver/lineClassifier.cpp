@@ -12,11 +12,14 @@ namespace {
 constexpr std::size_t nowhere = std::string_view::npos;
 
 bool isEmptyOrComment(std::string_view text) {
-    return trimWhitespace(text).empty() || isComment(text);
+    return text.empty() || trimWhitespace(text).empty() || isComment(text);
 }
 
 std::string_view headToken(std::string_view line) {
-    return line.substr(0, line.find_first_of(" \t\r\n;"));
+    const auto* end = std::find_if(line.begin(), line.end(), [](char character) {
+        return isWhitespace(character) || character == ';';
+    });
+    return line.substr(0, static_cast<std::size_t>(end - line.begin()));
 }
 
 }  // namespace

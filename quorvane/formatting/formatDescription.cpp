@@ -18,6 +18,8 @@ namespace quorvane {
 namespace {
 
 constexpr std::size_t indentation = 2;
+// Documents hold rows, cells and paragraphs; only wrong ones are nested deeper.
+constexpr std::size_t deepestIndented = 20;
 
 /// What the head of a line is: an opener's "(row", a closer's "row)".
 std::string_view headOf(std::string_view line) {
@@ -37,11 +39,9 @@ public:
     std::string format(std::string_view text) {
         const std::string_view lineEnd = lineEndOf(text);
         std::string formatted;
-        bool wasBlank = true;
         for (const std::string_view raw : linesOf(text)) {
             const std::string_view line = trimWhitespace(raw);
             if (line.empty()) {
-                wasBlank = wasBlank || !formatted.empty();
                 pendingBlank_ = !formatted.empty();
                 continue;
             }
@@ -50,11 +50,14 @@ public:
                 pendingBlank_ = false;
             }
             const std::string shown = formattedLine(line);
-            formatted.append(depth_ * indentation, ' ');
+            formatted.append(std::min(depth_, deepestIndented) * indentation, ' ');
             formatted += shown;
             formatted += lineEnd;
-            levels_.insert(levels_.end(), opened_.begin(), opened_.end());
-            opened_.clear();
+            if (opened_ != NodeKind::None) {
+                levels_.push_back(opened_);
+                ++openNodes_[static_cast<std::size_t>(opened_)];
+                opened_ = NodeKind::None;
+            }
         }
         return formatted;
     }
@@ -73,21 +76,28 @@ private:
         const std::string_view comment = trimWhitespace(line.substr(head.size()));
         if (const NodeKind opened = openedKind(line, vocabulary_); opened != NodeKind::None) {
             while (!levels_.empty() && opened != NodeKind::Doc && !nests(levels_.back(), opened)) {
-                levels_.pop_back();
+                leaveLevel();
             }
             depth_ = levels_.size();
-            opened_.push_back(opened);
+            opened_ = opened;
             return withComment("(" + formattedName(head.substr(1)), comment);
         }
         if (const NodeKind closed = closedKind(line, vocabulary_); closed != NodeKind::None) {
-            const auto open = std::find(levels_.rbegin(), levels_.rend(), closed);
-            if (open != levels_.rend()) {
-                levels_.erase(open.base() - 1, levels_.end());
+            if (openNodes_[static_cast<std::size_t>(closed)] > 0) {
+                while (levels_.back() != closed) {
+                    leaveLevel();
+                }
+                leaveLevel();
             }
             depth_ = levels_.size();
             return withComment(formattedName(head.substr(0, head.size() - 1)) + ")", comment);
         }
         return std::string(line);
+    }
+
+    void leaveLevel() {
+        --openNodes_[static_cast<std::size_t>(levels_.back())];
+        levels_.pop_back();
     }
 
     static std::string withComment(std::string text, std::string_view comment) {
@@ -120,7 +130,10 @@ private:
     NameForm form_;
     bool lowersNames_;
     std::vector<NodeKind> levels_;
-    std::vector<NodeKind> opened_;
+    // How many nodes of each kind are open.
+    std::array<std::size_t, 4> openNodes_{};
+    // What the line at hand opens.
+    NodeKind opened_ = NodeKind::None;
     std::size_t depth_ = 0;
     bool pendingBlank_ = false;
 };

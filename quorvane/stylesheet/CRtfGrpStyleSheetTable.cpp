@@ -95,10 +95,7 @@ std::string CRtfGrpStyleSheetTable::GetMarkedFieldStyle(std::string_view sName) 
 
 void CRtfGrpStyleSheetTable::render(std::string& rtf) const {
     if (loaded_) {
-        rtf += "\r\n{\\stylesheet";
-        appendEntries(paragraphStyles_, paragraphEntry, rtf);
-        appendEntries(characterStyles_, characterEntry, rtf);
-        rtf += '}';
+        rtf += group_;
     }
 }
 
@@ -117,6 +114,10 @@ void CRtfGrpStyleSheetTable::load(std::string_view text) {
         paragraphStyles_,
         paragraphStyles_.empty() ? std::string() : selectionWords(paragraphStyles_.at(1), 0));
     characterAnswers_ = StyleAnswers(characterStyles_, {});
+    group_ = "\r\n{\\stylesheet";
+    appendEntries(paragraphStyles_, paragraphEntry, group_);
+    appendEntries(characterStyles_, characterEntry, group_);
+    group_ += '}';
     loaded_ = true;
     owner_.markChanged();
 }

@@ -67,6 +67,8 @@ private:
     Platform& platform_;
     std::string fileName_;
     bool loaded_ = false;
+    // The group's text, which is the same for every rendering.
+    std::string group_;
     StyleList paragraphStyles_;
     StyleList characterStyles_;
     StyleList cellStyles_;

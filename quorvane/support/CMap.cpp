@@ -10,7 +10,8 @@ namespace quorvane {
 
 namespace {
 
-constexpr std::size_t smallestSlotCount = 16;
+constexpr std::size_t searchedOneByOne = 8;
+constexpr std::size_t usualEntryCount = 4;
 // What an empty slot holds, and the position of an absent key.
 constexpr std::uint32_t nowhere = UINT32_MAX;
 
@@ -65,9 +66,10 @@ const Value& CMap::Item(const Value& Key) const {
 }
 
 void CMap::setItem(const Value& Key, Value value) {
-    const std::uint32_t position = positionOf(Key);
+    const std::size_t hash = ValueHash{}(Key);
+    const std::uint32_t position = positionOf(Key, hash);
     if (position == nowhere) {
-        append(Key, std::move(value));
+        append(Key, std::move(value), hash);
     } else {
         entries_[position].value = std::move(value);
     }
@@ -84,10 +86,11 @@ void CMap::Remove(const Value& Key) {
 }
 
 void CMap::add(Value Key, Value value) {
-    if (Exists(Key)) {
+    const std::size_t hash = ValueHash{}(Key);
+    if (positionOf(Key, hash) != nowhere) {
         raise(RunTimeError::DuplicateKey);
     }
-    append(std::move(Key), std::move(value));
+    append(std::move(Key), std::move(value), hash);
 }
 
 CMap::List CMap::Keys2Values(const List& vKeys) const {
@@ -129,10 +132,18 @@ std::size_t CMap::firstSlot(std::size_t hash) const {
 }
 
 std::uint32_t CMap::positionOf(const Value& key) const {
+    return entries_.empty() ? nowhere : positionOf(key, ValueHash{}(key));
+}
+
+std::uint32_t CMap::positionOf(const Value& key, std::size_t hash) const {
     if (slots_.empty()) {
+        for (std::uint32_t position = 0; position < entries_.size(); ++position) {
+            if (entries_[position].hash == hash && entries_[position].key == key) {
+                return position;
+            }
+        }
         return nowhere;
     }
-    const std::size_t hash = ValueHash{}(key);
     for (std::size_t slot = firstSlot(hash); slots_[slot] != nowhere; slot = nextSlot(slot)) {
         const Entry& entry = entries_[slots_[slot]];
         if (entry.hash == hash && entry.key == key) {
@@ -150,18 +161,25 @@ std::uint32_t CMap::requiredPositionOf(const Value& key) const {
     return position;
 }
 
-void CMap::append(Value key, Value value) {
-    const std::size_t hash = ValueHash{}(key);
+void CMap::append(Value key, Value value, std::size_t hash) {
     const std::size_t slotsNeeded = 2 * (entries_.size() + 1);
-    if (slotsNeeded > slots_.size()) {
-        slots_.resize(std::max(std::bit_ceil(slotsNeeded), smallestSlotCount));
+    if (entries_.size() >= searchedOneByOne && slotsNeeded > slots_.size()) {
+        slots_.resize(std::bit_ceil(slotsNeeded));
         fillSlots();
     }
+    if (entries_.empty()) {
+        entries_.reserve(usualEntryCount);
+    }
     entries_.push_back({std::move(key), std::move(value), hash});
-    takeSlot(entries_.size() - 1);
+    if (!slots_.empty()) {
+        takeSlot(entries_.size() - 1);
+    }
 }
 
 void CMap::fillSlots() {
+    if (slots_.empty()) {
+        return;
+    }
     std::fill(slots_.begin(), slots_.end(), nowhere);
     for (std::size_t position = 0; position < entries_.size(); ++position) {
         takeSlot(position);

@@ -58,6 +58,14 @@ public:
 
     bool IsMapEmpty() const { return entries_.empty(); }
 
+    /// Calls `visit(key, value)` for every entry in order. The map must not be changed meanwhile.
+    template <class Visit>
+    void forEach(Visit&& visit) const {
+        for (const Entry& entry : entries_) {
+            visit(entry.key, entry.value);
+        }
+    }
+
 private:
     struct Entry {
         Value key;
@@ -65,13 +73,15 @@ private:
         std::size_t hash = 0;
     };
 
-    // The slots are an open hash table of the entries' positions: a key's slots begin at the one
-    // that its hash names, and an empty slot ends them. At most half of the slots are taken.
+    // Few entries are searched one by one. For more the slots are an open hash table of their
+    // positions: a key's slots begin at the one that its hash names, and an empty slot ends them.
+    // At most half of the slots are taken.
     std::size_t firstSlot(std::size_t hash) const;
     std::size_t nextSlot(std::size_t slot) const { return (slot + 1) & (slots_.size() - 1); }
     std::uint32_t positionOf(const Value& key) const;
+    std::uint32_t positionOf(const Value& key, std::size_t hash) const;
     std::uint32_t requiredPositionOf(const Value& key) const;
-    void append(Value key, Value value);
+    void append(Value key, Value value, std::size_t hash);
     void fillSlots();
     void takeSlot(std::size_t position);
 

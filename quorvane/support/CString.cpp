@@ -18,6 +18,17 @@ bool isOneCharacter(std::string_view text) {
     return !text.empty() && utf8CharacterAt(text, 0).length == text.size();
 }
 
+bool isOneOfTheCharacters(std::string_view code, std::string_view codes) {
+    for (std::size_t at = 0; at < codes.size();) {
+        const std::size_t length = utf8CharacterAt(codes, at).length;
+        if (equalIgnoringCase(codes.substr(at, length), code)) {
+            return true;
+        }
+        at += length;
+    }
+    return false;
+}
+
 }  // namespace
 
 CStringList CString::GetSubFields() const {
@@ -116,13 +127,10 @@ bool CString::AllSubFieldsEmpty() const {
 }
 
 void CString::RemoveSubField(std::string_view Code) {
-    const std::string codes = lowerCase(Code);
     std::optional<SubFieldView> field = findSubField(text_);
     std::string kept = text_.substr(0, field ? field->position : text_.size());
     while (field) {
-        const bool isNamed =
-            !field->code.empty() && codes.find(lowerCase(field->code)) != std::string::npos;
-        if (!isNamed) {
+        if (!isOneOfTheCharacters(field->code, Code)) {
             kept += field->whole;
         }
         field = findSubField(text_, field->position + 1);

@@ -16,8 +16,14 @@ std::int32_t RandomNumbers::between(std::int32_t low, std::int32_t high) {
 }
 
 double RandomNumbers::next() {
-    constexpr double countOfStates = 4294967296.0;
-    return static_cast<double>(engine_()) / countOfStates;
+    // A step of a fixed length on the circle of all states, whose bits are then mixed.
+    state_ += 0x9E3779B97F4A7C15u;
+    std::uint64_t mixed = state_;
+    mixed = (mixed ^ (mixed >> 30)) * 0xBF58476D1CE4E5B9u;
+    mixed = (mixed ^ (mixed >> 27)) * 0x94D049BB133111EBu;
+    mixed ^= mixed >> 31;
+    constexpr double countOfResults = 4294967296.0;
+    return static_cast<double>(mixed >> 32) / countOfResults;
 }
 
 }  // namespace quorvane

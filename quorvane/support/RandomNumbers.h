@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <random>
 
 namespace quorvane {
 
@@ -11,7 +10,7 @@ public:
     /// Seeded by the clock.
     RandomNumbers();
     /// Gives the same numbers for the same seed.
-    explicit RandomNumbers(std::uint32_t seed) : engine_(seed) {}
+    explicit RandomNumbers(std::uint32_t seed) : state_(seed) {}
 
     /// A whole number from low to high, both inclusive, each as likely as the other. `low` must not
     /// be above `high`.
@@ -21,7 +20,8 @@ private:
     /// A number in [0, 1).
     double next();
 
-    std::mt19937 engine_;
+    // Small, since many a sort of a few elements makes a source of its own.
+    std::uint64_t state_;
 };
 
 }  // namespace quorvane

@@ -76,6 +76,9 @@ public:
 
     T* get() const noexcept { return object_ && isAlive(object_) ? object_ : nullptr; }
 
+    /// The object, alive or not: as long as this reference is there, so is its memory.
+    T* memory() const noexcept { return object_; }
+
 private:
     T* object_ = nullptr;
 };

@@ -13,21 +13,33 @@ namespace {
 constexpr char delimiterOfSubFields = '^';
 constexpr char commentMark = ';';
 
-// The text's next line, without its line break, which is taken off the text too.
-std::string_view takeLine(std::string_view& text) {
-    const auto* lineEnd = std::find_if(text.begin(), text.end(), [](char character) {
-        return character == '\n' || character == '\r';
-    });
-    const auto length = static_cast<std::size_t>(lineEnd - text.begin());
-    const std::string_view line = text.substr(0, length);
-    text.remove_prefix(length);
-    if (text.starts_with("\r\n")) {
-        text.remove_prefix(2);
-    } else if (!text.empty()) {
-        text.remove_prefix(1);
+/// Cuts a text into lines at CR LF, LF and CR.
+class Lines {
+public:
+    explicit Lines(std::string_view text) : text_(text) {}
+
+    bool isAtEnd() const { return start_ == text_.size(); }
+
+    /// The next line, without its line break.
+    std::string_view take() {
+        if (lineFeed_ < start_ || !wasSearched_) {
+            lineFeed_ = std::min(text_.find('\n', start_), text_.size());
+            wasSearched_ = true;
+        }
+        // The line feed is found once for all the lines before it that end in a CR.
+        const std::string_view rest = text_.substr(start_, lineFeed_ - start_);
+        const std::string_view line = rest.substr(0, rest.find('\r'));
+        const bool endsInBoth = line.size() + 1 == rest.size() && lineFeed_ < text_.size();
+        start_ = std::min(start_ + line.size() + (endsInBoth ? 2 : 1), text_.size());
+        return line;
     }
-    return line;
-}
+
+private:
+    std::string_view text_;
+    std::size_t start_ = 0;
+    std::size_t lineFeed_ = 0;
+    bool wasSearched_ = false;
+};
 
 }  // namespace
 
@@ -127,8 +139,10 @@ std::string ReplaceString(std::string_view text, std::string_view search,
 
 std::vector<SourceLine> PreProcessRawData(std::string_view text) {
     std::vector<SourceLine> lines;
-    for (int number = 1; !text.empty(); ++number) {
-        const std::string_view line = trimWhitespace(takeLine(text));
+    lines.reserve(static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1);
+    Lines rest(text);
+    for (int number = 1; !rest.isAtEnd(); ++number) {
+        const std::string_view line = trimWhitespace(rest.take());
         if (!line.empty() && line.front() != commentMark) {
             lines.push_back({std::string(line), number});
         }

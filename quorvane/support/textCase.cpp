@@ -8,6 +8,10 @@ namespace quorvane {
 
 namespace {
 
+char lowerAscii(char character) {
+    return character >= 'A' && character <= 'Z' ? static_cast<char>(character + 0x20) : character;
+}
+
 char32_t takeLowerCode(std::string_view text, std::size_t& position) {
     const Utf8Character character = utf8CharacterAt(text, position);
     position += character.length;
@@ -42,9 +46,13 @@ char32_t lowerCode(char32_t code) noexcept {
 }
 
 std::string lowerCase(std::string_view text) {
-    std::string lowered;
-    lowered.reserve(text.size());
+    std::string lowered(text);
     std::size_t position = 0;
+    while (position < lowered.size() && static_cast<unsigned char>(lowered[position]) < 0x80) {
+        lowered[position] = lowerAscii(lowered[position]);
+        ++position;
+    }
+    lowered.resize(position);
     while (position < text.size()) {
         appendUtf8(takeLowerCode(text, position), lowered);
     }

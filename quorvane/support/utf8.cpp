@@ -1,5 +1,6 @@
 #include "quorvane/support/utf8.h"
 
+#include <array>
 #include <cstdint>
 #include <cstring>
 
@@ -96,7 +97,19 @@ std::size_t characterCount(std::string_view text) {
 }
 
 std::size_t asciiRunEnd(std::string_view text, std::size_t position) {
-    // Eight bytes at a time: most texts are nothing but ASCII, and some are very long.
+    // Many bytes at a time: most texts are nothing but ASCII, and some are very long.
+    std::array<std::uint64_t, 8> blocks{};
+    while (text.size() - position >= sizeof blocks) {
+        std::memcpy(blocks.data(), text.data() + position, sizeof blocks);
+        std::uint64_t all = 0;
+        for (const std::uint64_t block : blocks) {
+            all |= block;
+        }
+        if ((all & 0x8080808080808080u) != 0) {
+            break;
+        }
+        position += sizeof blocks;
+    }
     std::uint64_t block = 0;
     while (text.size() - position >= sizeof block) {
         std::memcpy(&block, text.data() + position, sizeof block);

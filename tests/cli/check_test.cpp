@@ -291,6 +291,15 @@ TEST_F(CheckTest, ReadsALargeDocumentInPieces) {
                   "    ^~\n");
 }
 
+TEST_F(CheckTest, GivesUpOnGroupsThatAreNestedVeryDeep) {
+    folder.write("deep.rtf", "{\\rtf1\n" + std::string(1200, '{') + std::string(1200, '}') + "}\n");
+    EXPECT_EQ(run({"deep.rtf"}).output,
+              "deep.rtf:2:1000: error: Groups are nested deeper than 1000. [deep-nesting]\n"
+              "    ..." +
+                  std::string(80, '{') + std::string(61, '{') + "...\n" + std::string(87, ' ') +
+                  "^\n");
+}
+
 /// A copy of the example invoice with twelve mistakes of twelve kinds.
 TEST_F(CheckTest, TellsTwelveMistakesInOneRun) {
     std::string invoice = contentsOf(QUORVANE_EXAMPLES_FOLDER "/invoice.rtfspec");

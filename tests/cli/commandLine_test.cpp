@@ -170,5 +170,25 @@ TEST(CommandLine, TellsTheFormOfDiagnosticsOfWrongArgumentsToo) {
               DiagnosticsForm::Text);
 }
 
+TEST(CommandLine, TakesTheOptionsOfCheck) {
+    const auto options = std::get<CheckOptions>(
+        parseCommandLine({"check", "a", "-s", "b", "--diagnostics", "sarif", "--", "-c"}));
+    EXPECT_THAT(options.files, ElementsAre("a", "-c"));
+    EXPECT_EQ(options.styleSheet, "b");
+    EXPECT_EQ(options.form, FindingsForm::Sarif);
+    EXPECT_EQ(options.explained, std::nullopt);
+    EXPECT_EQ(std::get<CheckOptions>(parseCommandLine({"check", "--explain=x"})).explained, "x");
+    EXPECT_EQ(usageErrorOf({"check"}), "FILE is required");
+}
+
+TEST(CommandLine, TakesTheOptionsOfFormat) {
+    const auto options =
+        std::get<FormatOptions>(parseCommandLine({"format", "--names=short", "--check", "a", "b"}));
+    EXPECT_THAT(options.files, ElementsAre("a", "b"));
+    EXPECT_EQ(options.names, NameForm::Short);
+    EXPECT_TRUE(options.check);
+    EXPECT_EQ(std::get<FormatOptions>(parseCommandLine({"format", "a"})).names, NameForm::Kept);
+}
+
 }  // namespace
 }  // namespace quorvane::cli

@@ -291,5 +291,26 @@ TEST(Vocabulary, RefusesOtherWordsAndNumbersForAlignments) {
     }
 }
 
+TEST(Vocabulary, ShortensWhatHasAShortForm) {
+    EXPECT_EQ(vocabulary.shorten("row"), "r");
+    EXPECT_EQ(vocabulary.shorten("cell-marked-field"), "cmf");
+    EXPECT_EQ(vocabulary.shorten("row-key"), "row-key");
+    EXPECT_EQ(vocabulary.shorten("r"), "r");
+    EXPECT_EQ(vocabulary.shorten("Row"), "Row");
+}
+
+TEST(Vocabulary, ListsItsWords) {
+    EXPECT_EQ(Vocabulary::keysOf(NodeKind::Doc).size(), 7u);
+    EXPECT_EQ(Vocabulary::keysOf(NodeKind::None).size(), 0u);
+    for (const NodeKind kind : {NodeKind::Row, NodeKind::Cell, NodeKind::Para, NodeKind::Doc}) {
+        for (const std::string_view key : Vocabulary::keysOf(kind)) {
+            EXPECT_TRUE(vocabulary.isKeyOf(kind, key)) << key;
+        }
+    }
+    EXPECT_EQ(Vocabulary::colorNames().size(), 38u);
+    EXPECT_EQ(Vocabulary::borderNames().size(), 5u);
+    EXPECT_EQ(Vocabulary::alignmentNames().size(), 5u);
+}
+
 }  // namespace
 }  // namespace quorvane

@@ -172,5 +172,14 @@ TEST(CRtfGrpColorTable, TakesCaseIntoAccount) {
     EXPECT_EQ(CRtfGrpColorTable::colorNumber("Navy-Blue"), 0);
 }
 
+TEST(CRtfGrpColorTable, NamesAColorOfANumber) {
+    EXPECT_EQ(CRtfGrpColorTable::colorName(1), "aquamarine");
+    EXPECT_EQ(CRtfGrpColorTable::colorName(54), "dark-golden-rod");
+    EXPECT_EQ(CRtfGrpColorTable::colorName(57), "red-brick");
+    for (const std::int32_t number : {-1, 0, 58}) {
+        EXPECT_EQ(CRtfGrpColorTable::colorName(number), "");
+    }
+}
+
 }  // namespace
 }  // namespace quorvane

@@ -249,6 +249,14 @@ TEST(CStringTest, RemovesEverySubfieldOfACode) {
     EXPECT_EQ(changed(CString("^aX"), [](CString& text) { text.RemoveSubField("A"); }).Text(), "");
 }
 
+TEST(CStringTest, RemovesNoSubfieldWhoseCodeIsPartOfACharacterOfTheCodes) {
+    CString record("^\xC2^a");
+
+    record.RemoveSubField("\xC2\x9D");
+
+    EXPECT_EQ(record.Text(), "^\xC2^a");
+}
+
 TEST(CStringTest, RemovesTheSubfieldsOfEachCharacterOfALongerCode) {
     EXPECT_EQ(
         changed(CString("^aX^bY^cZ"), [](CString& text) { text.RemoveSubField("ca"); }).Text(),

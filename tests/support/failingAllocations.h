@@ -13,6 +13,9 @@ namespace failingAllocations {
 // Allocations that still succeed; negative while none is to fail.
 inline thread_local long successesLeft = -1;
 
+// Allocations of this thread that nobody gave back yet.
+inline thread_local long living = 0;
+
 inline void* allocate(std::size_t size) {
     if (successesLeft == 0) {
         return nullptr;
@@ -20,7 +23,14 @@ inline void* allocate(std::size_t size) {
     if (successesLeft > 0) {
         --successesLeft;
     }
-    return std::malloc(size > 0 ? size : 1);
+    void* memory = std::malloc(size > 0 ? size : 1);
+    living += memory ? 1 : 0;
+    return memory;
+}
+
+inline void giveBack(void* memory) {
+    living -= memory ? 1 : 0;
+    std::free(memory);
 }
 
 }  // namespace failingAllocations
@@ -62,9 +72,9 @@ void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
 }
 
 void operator delete(void* memory) noexcept {
-    std::free(memory);
+    quorvane::failingAllocations::giveBack(memory);
 }
 
 void operator delete(void* memory, std::size_t) noexcept {
-    std::free(memory);
+    quorvane::failingAllocations::giveBack(memory);
 }

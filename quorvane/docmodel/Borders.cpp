@@ -1,0 +1,90 @@
+#include "quorvane/docmodel/Borders.h"
+
+#include <algorithm>
+
+namespace quorvane {
+
+struct Borders::Wide {
+    std::uint32_t references;
+    Widths widths;
+};
+
+Borders::Borders(const Borders& other) noexcept : low_(other.low_), high_(other.high_) {
+    if (!isPacked()) {
+        ++wide()->references;
+    }
+}
+
+Borders& Borders::operator=(const Borders& other) noexcept {
+    if (!other.isPacked()) {
+        ++other.wide()->references;
+    }
+    if (!isPacked()) {
+        letGoOfWide();
+    }
+    setBits(other.bits());
+    return *this;
+}
+
+tBorderWidth Borders::operator[](BorderSide side) const noexcept {
+    return static_cast<tBorderWidth>(widths()[static_cast<std::size_t>(side)]);
+}
+
+void Borders::set(BorderSide side, tBorderWidth width) {
+    Widths changed = widths();
+    changed[static_cast<std::size_t>(side)] = width;
+    std::uint64_t fresh = 1;
+    if (std::all_of(changed.begin(), changed.end(), fits)) {
+        constexpr std::uint64_t mask = (1U << bitsOfAWidth) - 1;
+        for (std::size_t i = 0; i < changed.size(); ++i) {
+            fresh |= (static_cast<std::uint64_t>(changed[i]) & mask) << shiftOf(i);
+        }
+    } else {
+        fresh = reinterpret_cast<std::uintptr_t>(new Wide{1, changed});
+    }
+    if (!isPacked()) {
+        letGoOfWide();
+    }
+    setBits(fresh);
+}
+
+bool Borders::operator==(const Borders& other) const noexcept {
+    return bits() == other.bits() ||
+           (!isPacked() && !other.isPacked() && wide()->widths == other.wide()->widths);
+}
+
+bool Borders::fits(std::int32_t width) noexcept {
+    constexpr std::int32_t limit = 1 << (bitsOfAWidth - 1);
+    return width >= -limit && width < limit;
+}
+
+void Borders::setBits(std::uint64_t bits) noexcept {
+    low_ = static_cast<std::uint32_t>(bits);
+    high_ = static_cast<std::uint32_t>(bits >> 32);
+}
+
+Borders::Wide* Borders::wide() const noexcept {
+    return reinterpret_cast<Wide*>(static_cast<std::uintptr_t>(bits()));
+}
+
+Borders::Widths Borders::widths() const noexcept {
+    if (!isPacked()) {
+        return wide()->widths;
+    }
+    Widths widths{};
+    for (std::size_t i = 0; i < widths.size(); ++i) {
+        // The width's highest bit becomes the sign.
+        const auto raised = static_cast<std::uint32_t>(bits() >> shiftOf(i)) << (32 - bitsOfAWidth);
+        widths[i] = static_cast<std::int32_t>(raised) >> (32 - bitsOfAWidth);
+    }
+    return widths;
+}
+
+void Borders::letGoOfWide() noexcept {
+    Wide* mine = wide();
+    if (--mine->references == 0) {
+        delete mine;
+    }
+}
+
+}  // namespace quorvane

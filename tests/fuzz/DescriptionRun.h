@@ -1,0 +1,80 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "quorvane/driver/CRtfDriver.h"
+#include "quorvane/support/currentError.h"
+#include "tests/fuzz/documentChecks.h"
+#include "tests/fuzz/require.h"
+#include "tests/support/FakePlatform.h"
+
+namespace quorvane {
+
+/// A driver that analyses descriptions in memory, and what it reported.
+class DescriptionRun {
+public:
+    explicit DescriptionRun(bool erroneousInput) {
+        driver_->setErroneousInput(erroneousInput);
+        driver_->setNotifyErrorHandler([this](CRtfDriver&) { note(*currentError()); });
+    }
+    DescriptionRun(const DescriptionRun&) = delete;
+    DescriptionRun& operator=(const DescriptionRun&) = delete;
+    ~DescriptionRun() { driver_->setNotifyErrorHandler({}); }
+
+    FakePlatform& platform() { return platform_; }
+    CRtfDriver& driver() { return *driver_; }
+    Ref<CRtfDoc> document() const { return driver_->RtfObject(); }
+
+    /// What an analysis of the text comes to: its errors and the document's text.
+    std::string analysed(std::string_view text) {
+        events_.clear();
+        driver_->ParseFromMemmory(text);
+        return events_ + renderedTwice(*document());
+    }
+
+    /// The same of a file with these bytes.
+    std::string analysedFile(std::string_view bytes) {
+        events_.clear();
+        platform_.files["description.rtfspec"] = bytes;
+        driver_->ParseFile("description.rtfspec");
+        return events_ + renderedTwice(*document());
+    }
+
+    /// Loads a stylesheet; the error that it gives, told as events are.
+    std::string styleSheetError(std::string_view text) {
+        events_.clear();
+        try {
+            driver_->LoadStyleSheetFromMemmory(text);
+        } catch (const RtfError& error) {
+            note(error);
+        }
+        return events_;
+    }
+
+private:
+    void note(const RtfError& error) {
+        events_ += std::to_string(error.number) + " in line " + std::to_string(error.line) + ": " +
+                   error.description + " (" + error.source + ")\n";
+    }
+
+    FakePlatform platform_;
+    Ref<CRtfDriver> driver_ = CRtfDriver::create(platform_);
+    std::string events_;
+};
+
+/// Everything that is to hold of the analysis of a description.
+inline void requireGoodAnalysis(DescriptionRun& run, std::string_view text, bool countsRows) {
+    const std::string first = run.analysed(text);
+    if (run.document()->Changed()) {
+        return;
+    }
+    if (countsRows) {
+        requireBalancedRows(*run.document(), run.driver().Contents());
+    }
+    requireSameWhenCommitted(*run.document(), run.platform());
+    requireEqual(run.analysed(text), first, "analysing twice gives the same errors and text");
+}
+
+}  // namespace quorvane

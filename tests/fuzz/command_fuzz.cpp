@@ -1,0 +1,140 @@
+// Arguments and files of the command. The input's first line is the arguments, separated by blanks;
+// then come the bytes of a.rtfspec, b.rtfspec and style.rtfss, with a form feed between them. The
+// files stand in a folder of this process' own; no argument may lead out of it.
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "cli/Diagnostic.h"
+#include "cli/RenderJob.h"
+#include "cli/UsageError.h"
+#include "cli/commandLine.h"
+#include "cli/diagnosticJson.h"
+#include "cli/diagnosticText.h"
+#include "tests/fuzz/FuzzInput.h"
+#include "tests/fuzz/require.h"
+
+namespace {
+
+using namespace quorvane;
+namespace files = std::filesystem;
+
+/// An empty folder to work in, gone when the process ends.
+class WorkFolder {
+public:
+    WorkFolder() {
+        const char* base = std::getenv("TMPDIR");
+        std::string name = std::string(base ? base : "/tmp") + "/quorvane-fuzz-XXXXXX";
+        require(::mkdtemp(name.data()) != nullptr, "there is a folder to work in");
+        path_ = name;
+        files::current_path(path_);
+        // The command reads standard input and writes to standard output when told to.
+        ::dup2(::open("/dev/null", O_RDONLY | O_CLOEXEC), STDIN_FILENO);
+        ::dup2(::open("/dev/null", O_WRONLY | O_CLOEXEC), STDOUT_FILENO);
+    }
+    WorkFolder(const WorkFolder&) = delete;
+    WorkFolder& operator=(const WorkFolder&) = delete;
+    ~WorkFolder() {
+        files::current_path("/");
+        files::remove_all(path_);
+    }
+
+    void fill(const std::vector<std::string>& contents) const {
+        for (const files::path& path : files::directory_iterator(path_)) {
+            files::remove_all(path);
+        }
+        files::create_directory("out");
+        const char* const names[] = {"a.rtfspec", "b.rtfspec", "style.rtfss"};
+        for (std::size_t i = 0; i < contents.size(); ++i) {
+            std::ofstream(names[i], std::ios::binary) << contents[i];
+        }
+    }
+
+private:
+    files::path path_;
+};
+
+bool leadsOut(const std::string& argument) {
+    return argument.find("..") != std::string::npos || argument.find('~') != std::string::npos ||
+           argument.starts_with('/') || argument.find("=/") != std::string::npos ||
+           argument.find('\0') != std::string::npos ||
+           (argument.starts_with("-") && argument.find('/') != std::string::npos);
+}
+
+std::vector<std::string> argumentsOf(const std::string& line) {
+    std::vector<std::string> arguments;
+    std::istringstream words(line);
+    for (std::string word; words >> word;) {
+        if (!leadsOut(word)) {
+            arguments.push_back(word);
+        }
+    }
+    return arguments;
+}
+
+/// What a run comes to: its status, what it tells, and the files that are there.
+std::string outcome(const std::vector<std::string>& arguments) {
+    std::string text;
+    int status = -1;
+    bool hasTold = false;
+    try {
+        const auto request = cli::parseCommandLine(arguments);
+        if (const auto* information = std::get_if<cli::Information>(&request)) {
+            require(!information->text.empty(), "there is something to know");
+            return information->text;
+        }
+        const auto tell = [&](const cli::Diagnostic& diagnostic) {
+            hasTold = true;
+            const std::string line = cli::diagnosticText(diagnostic);
+            const std::string json = cli::diagnosticJson(diagnostic);
+            require(line.find('\n') == std::string::npos, "a diagnostic is one line");
+            require(json.find('\n') == std::string::npos, "a JSON diagnostic is one line");
+            text += line + "\n" + json + "\n";
+        };
+        cli::RenderJob job(std::get<cli::RenderOptions>(request), tell);
+        status = static_cast<int>(job.run());
+        require(status >= 0 && status <= 2, "there are three exit statuses");
+        require((status == 0) == !hasTold, "a run fails when it has something to tell");
+    } catch (const cli::UsageError& error) {
+        text += error.what();
+    }
+    for (const files::path& path : files::recursive_directory_iterator(".")) {
+        require(path.extension() != ".tmp", "no unfinished file stays");
+    }
+    return text + std::to_string(status);
+}
+
+std::string bytesOf(const char* name) {
+    std::ostringstream bytes;
+    bytes << std::ifstream(name, std::ios::binary).rdbuf();
+    return bytes.str();
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static const WorkFolder folder;
+    FuzzInput input(data, size);
+    const std::string line = input.pieces('\n', 1)[0];
+    const std::vector<std::string> contents = input.pieces('\f', 3);
+    const std::vector<std::string> arguments = argumentsOf(line);
+    folder.fill(contents);
+    const std::string first = outcome(arguments);
+    const std::string document = bytesOf("a.rtf");
+    folder.fill(contents);
+    requireEqual(outcome(arguments), first, "the same run tells the same");
+    requireEqual(bytesOf("a.rtf"), document, "the same run writes the same");
+    require(document.empty() || (document.starts_with('{') && document.ends_with('}')),
+            "a document is whole or absent");
+    return 0;
+}

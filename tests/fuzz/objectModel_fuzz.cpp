@@ -1,0 +1,644 @@
+// Any sequence of calls on documents, rows, cells and paragraphs, held and let go of in any order.
+// Each call has the result or the error that it has on a plain document, and so have the texts.
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "quorvane/docmodel/CRtfDoc.h"
+#include "quorvane/support/CMap.h"
+#include "tests/fuzz/FuzzInput.h"
+#include "tests/fuzz/PlainDocument.h"
+#include "tests/fuzz/documentChecks.h"
+
+namespace {
+
+using namespace quorvane;
+
+constexpr const char* styleSheet =
+    "{name: normal; style-def: s; format: \\f0}{name: title; style-def: s; format: \\b}"
+    "{name: a; style-def: cs; format: \\i}{name: b; style-def: cs; format: \\b\xE2\x82\xAC}"
+    "{name: dark; style-def: cell; format: navy-blue}{name: none; style-def: cell}";
+
+/// A reference that the host holds, and what the plain document has in its place.
+template <class Original, class Plain>
+struct Held {
+    Ref<Original> original;
+    Plain plain;
+};
+
+template <class Plain>
+std::int32_t errorOfPlain(Plain&& call) {
+    try {
+        call();
+    } catch (int number) {
+        return number;
+    }
+    return 0;
+}
+
+/// Makes a call on both; they have the same error or none. True when they have none.
+template <class Call, class Plain>
+bool both(Call&& call, Plain&& plain) {
+    const std::int32_t expected = errorOfPlain(plain);
+    const std::int32_t actual = errorOfCall(call);
+    if (actual != expected) {
+        std::fprintf(stderr, "error %d, should be %d\n", actual, expected);
+    }
+    require(actual == expected, "a call has the error that it is told to have");
+    return actual == 0;
+}
+
+class Calls {
+public:
+    explicit Calls(FuzzInput input) : input_(input) {}
+
+    void run() {
+        constexpr int mostCalls = 600;
+        addDocument();
+        for (int i = 0; i < mostCalls && !input_.isEmpty(); ++i) {
+            call();
+        }
+        for (auto& document : documents_) {
+            checkText(document);
+        }
+        // What is left goes in an order of the input's choice.
+        while (documents_.size() + rows_.size() + cells_.size() + paragraphs_.size() +
+                   rowLists_.size() + cellLists_.size() + paragraphLists_.size() >
+               0) {
+            letGo();
+        }
+    }
+
+private:
+    using HeldDocument = Held<CRtfDoc, std::shared_ptr<plain::Document>>;
+    using HeldRow = Held<CRtfTableRow, std::shared_ptr<plain::Row>>;
+    using HeldCell = Held<CRtfTableCell, std::shared_ptr<plain::Cell>>;
+    using HeldParagraph = Held<CRtfParagraph, std::shared_ptr<plain::Paragraph>>;
+
+    Value value() {
+        switch (input_.below(16)) {
+            case 0:
+                return Missing{};
+            case 1:
+                return Empty{};
+            case 2:
+                return Null{};
+            case 3:
+                return input_.flag();
+            case 4:
+                return static_cast<std::int16_t>(input_.number());
+            case 5:
+                return static_cast<float>(input_.real());
+            case 6:
+                return input_.real();
+            case 7:
+                return Date{input_.real()};
+            case 8:
+                return std::make_shared<CMap>();
+            case 9:
+                return static_cast<double>(input_.byte()) / 4;
+            case 10:
+            case 11:
+                return input_.text(20);
+            default:
+                return index();
+        }
+    }
+
+    /// A position or key that may well be there.
+    Value index() {
+        static constexpr std::array<const char*, 6> keys{"a", "A", "b", "\xC3\xA9", "\xC3\x89", ""};
+        const std::uint8_t choice = input_.byte();
+        return choice < 128 ? Value(std::int32_t{choice % 8}) : Value(keys[choice % keys.size()]);
+    }
+
+    Value optional() { return input_.below(4) != 0 ? Value(Missing{}) : value(); }
+
+    std::string text() {
+        static constexpr std::array<const char*, 8> texts{"",
+                                                          "x",
+                                                          "<a=x>",
+                                                          "<b=>y<a=x>",
+                                                          "a long text that is kept elsewhere",
+                                                          "dark",
+                                                          "title",
+                                                          "\xC3\xA9\xF0\x9F\x98\x80"};
+        const std::uint8_t choice = input_.byte();
+        return choice < 200 ? texts[choice % texts.size()] : input_.text(30);
+    }
+
+    template <class List>
+    auto& oneOf(List& list) {
+        return list[input_.below(list.size())];
+    }
+
+    void addDocument() {
+        HeldDocument held{CRtfDoc::create(platform_), std::make_shared<plain::Document>()};
+        held.plain->original = held.original.get();
+        held.plain->rows->owner = held.plain;
+        if (input_.flag()) {
+            held.original->LoadStyleSheetFromMemmory(styleSheet);
+            held.plain->changed = true;
+        }
+        held.original->setChanged(held.plain->changed);
+        rowLists_.push_back({held.original->TableRows(), {held.plain->rows}});
+        documents_.push_back(std::move(held));
+    }
+
+    /// A host mostly takes what it added, and what it is to fill.
+    void hold(const Ref<CRtfTableRow>& row, const std::shared_ptr<plain::Row>& plain) {
+        rows_.push_back({row, plain});
+        cellLists_.push_back({row->TableCells(), {plain}});
+    }
+    void hold(const Ref<CRtfTableCell>& cell, const std::shared_ptr<plain::Cell>& plain) {
+        cells_.push_back({cell, plain});
+        paragraphLists_.push_back({cell->Paragraphs(), {plain}});
+    }
+    void hold(const Ref<CRtfParagraph>& paragraph,
+              const std::shared_ptr<plain::Paragraph>& plain) {
+        paragraphs_.push_back({paragraph, plain});
+    }
+
+    template <class List>
+    void letGoOf(List& list) {
+        if (!list.empty()) {
+            list.erase(list.begin() + static_cast<std::ptrdiff_t>(input_.below(list.size())));
+        }
+    }
+
+    void letGo() {
+        const std::size_t kind = input_.isEmpty() ? nextKind_++ % 7 : input_.below(7);
+        switch (kind) {
+            case 0:
+                return letGoOf(documents_);
+            case 1:
+                return letGoOf(rows_);
+            case 2:
+                return letGoOf(cells_);
+            case 3:
+                return letGoOf(paragraphs_);
+            case 4:
+                return letGoOf(rowLists_);
+            case 5:
+                return letGoOf(cellLists_);
+            default:
+                return letGoOf(paragraphLists_);
+        }
+    }
+
+    void call() {
+        switch (input_.below(16)) {
+            case 0:
+                if (documents_.size() < 3) {
+                    addDocument();
+                }
+                return;
+            case 1:
+                return letGo();
+            case 2:
+            case 3:
+                return documents_.empty() ? void() : callDocument(oneOf(documents_));
+            case 4:
+            case 5:
+                return rows_.empty() ? void() : callRow(oneOf(rows_));
+            case 6:
+            case 7:
+                return cells_.empty() ? void() : callCell(oneOf(cells_));
+            case 8:
+            case 9:
+                return paragraphs_.empty() ? void() : callParagraph(oneOf(paragraphs_));
+            case 10:
+            case 11:
+                return rowLists_.empty() ? void() : callList(oneOf(rowLists_), rows_);
+            case 12:
+            case 13:
+                return cellLists_.empty() ? void() : callCells(oneOf(cellLists_));
+            default:
+                return paragraphLists_.empty() ? void()
+                                               : callList(oneOf(paragraphLists_), paragraphs_);
+        }
+    }
+
+    void callDocument(HeldDocument& held) {
+        CRtfDoc& document = *held.original;
+        plain::Document& plain = *held.plain;
+        const std::int32_t number = input_.number();
+        switch (input_.below(14)) {
+            case 0:
+                plain.setMargin(plain.bottom, number, plain.height, plain.top, 0);
+                document.setBottomMargin(number);
+                break;
+            case 1:
+                plain.setMargin(plain.top, number, plain.height, plain.bottom, 2);
+                document.setTopMargin(number);
+                break;
+            case 2:
+                plain.setMargin(plain.left, number, plain.width, plain.right, 1);
+                document.setLeftMargin(number);
+                break;
+            case 3:
+                plain.setMargin(plain.right, number, plain.width, plain.left, 3);
+                document.setRightMargin(number);
+                break;
+            case 4:
+                plain.changed = plain.changed || plain.pageNumber != (number > 0 ? number : 2);
+                plain.pageNumber = number > 0 ? number : 2;
+                document.setPageNumberStart(number);
+                break;
+            case 5:
+                plain.height = number;
+                plain.changed = true;
+                document.setPageHeight(number);
+                break;
+            case 6:
+                plain.width = number;
+                plain.changed = true;
+                document.setPageWidth(number);
+                break;
+            case 7:
+                plain.changed = number % 2 != 0;
+                document.setChanged(plain.changed);
+                break;
+            case 8:
+                document.ClearStructure();
+                plain.setDefaultPage();
+                plain.rows = std::make_shared<plain::Rows>();
+                plain.rows->owner = held.plain;
+                break;
+            case 9:
+                checkText(held);
+                break;
+            case 10:
+                checkText(held);
+                requireSameWhenCommitted(document, platform_);
+                break;
+            default:
+                rowLists_.push_back({document.TableRows(), {plain.rows}});
+        }
+        require(document.Changed() == plain.changed, "a document is changed when something did");
+    }
+
+    void checkText(HeldDocument& held) {
+        const std::string text = renderedTwice(*held.original);
+        const std::size_t page = text.find("\r\n\\deftab360");
+        require(page != std::string::npos, "the page is written");
+        requireEqual(std::string_view(text).substr(page), held.plain->render(),
+                     "a document's text is the one that is told");
+        requireBalancedRows(*held.original, text);
+        require(!held.original->Changed(), "a document that was rendered is not changed");
+    }
+
+    static void setPlainBorder(plain::Borders& borders, std::size_t side, std::int32_t width) {
+        borders[side] = width;
+    }
+
+    template <class Original>
+    static void setBorder(Original& original, std::size_t side, tBorderWidth width) {
+        side == 0   ? original.setBottomBorder(width)
+        : side == 1 ? original.setLeftBorder(width)
+        : side == 2 ? original.setRightBorder(width)
+                    : original.setTopBorder(width);
+    }
+
+    template <class Original>
+    static void checkBorders(const Original& original, const plain::Borders& borders) {
+        require(original.BottomBorder() == borders[0] && original.LeftBorder() == borders[1] &&
+                    original.RightBorder() == borders[2] && original.TopBorder() == borders[3],
+                "borders are as they were set");
+    }
+
+    static void checkChanged(const std::shared_ptr<plain::Document>& document) {
+        require(!document || document->original->Changed() == document->changed,
+                "a document is changed when something did");
+    }
+
+    void callRow(const HeldRow& held) {
+        CRtfTableRow& row = *held.original;
+        plain::Row& plain = *held.plain;
+        const auto document = plain.owner.lock();
+        const std::int32_t number = input_.number();
+        switch (input_.below(4)) {
+            case 0:
+                both([&] { row.setBackColor(static_cast<tColorIndex>(number)); },
+                     [&] {
+                         if (plain.backColor != number) {
+                             plain.backColor = number;
+                             plain::required(document);
+                             for (auto& entry : plain.cells.entries) {
+                                 entry.element->setBackColor(number);
+                             }
+                             plain::markChanged(document);
+                         }
+                     });
+                break;
+            case 1: {
+                const std::size_t side = input_.below(4);
+                both([&] { setBorder(row, side, static_cast<tBorderWidth>(number)); },
+                     [&] {
+                         if (plain.borders[side] != number) {
+                             plain.borders[side] = number;
+                             plain::required(document);
+                             for (auto& entry : plain.cells.entries) {
+                                 entry.element->borders = plain.borders;
+                             }
+                             plain::markChanged(document);
+                         }
+                     });
+                break;
+            }
+            default:
+                cellLists_.push_back({row.TableCells(), {held.plain}});
+        }
+        require(row.BackColor() == plain.backColor, "a colour is as it was set");
+        checkBorders(row, plain.borders);
+        require(row.Parent().get() == (document ? document->original : nullptr),
+                "a row knows its document as long as it is there");
+        checkChanged(document);
+    }
+
+    void callCell(const HeldCell& held) {
+        CRtfTableCell& cell = *held.original;
+        plain::Cell& plain = *held.plain;
+        const auto document = plain::documentOf(plain);
+        const std::int32_t number = input_.number();
+        const auto units = static_cast<tWidthUnit>(input_.below(3));
+        switch (input_.below(9)) {
+            case 0:
+                both([&] { cell.setBackColor(static_cast<tColorIndex>(number)); },
+                     [&] {
+                         if (plain.backColor != number) {
+                             plain.setBackColor(number);
+                             plain::markChanged(document);
+                         }
+                     });
+                break;
+            case 1: {
+                const std::size_t side = input_.below(4);
+                both([&] { setBorder(cell, side, static_cast<tBorderWidth>(number)); },
+                     [&] {
+                         if (plain.borders[side] != number) {
+                             plain.borders[side] = number;
+                             plain::markChanged(document);
+                         }
+                     });
+                break;
+            }
+            case 2:
+            case 3:
+                both([&] { cell.setWidth(units, number * 10); },
+                     [&] { plain::setWidthOf(plain, units, number * 10); });
+                break;
+            case 4: {
+                std::int32_t actual = 0;
+                std::int32_t expected = 0;
+                both([&] { actual = cell.Width(units); },
+                     [&] { expected = plain::widthOf(plain, units); });
+                require(actual == expected, "a width is the one that is told");
+                break;
+            }
+            case 5:
+                cell.setAlign(static_cast<tCellAlign>(number));
+                plain.align = number;
+                break;
+            case 6: {
+                const std::string name = text();
+                both([&] { cell.setStyle(name); },
+                     [&] {
+                         plain.style = name;
+                         plain::markChanged(document);
+                     });
+                break;
+            }
+            case 7: {
+                const Value data = value();
+                cell.asMarkedField(data);
+                if (const auto digits = plain::fieldData(data)) {
+                    plain.field = digits;
+                }
+                break;
+            }
+            default:
+                paragraphLists_.push_back({cell.Paragraphs(), {held.plain}});
+        }
+        require(cell.BackColor() == plain.backColor && cell.Align() == plain.align &&
+                    cell.Style() == plain.style,
+                "a cell holds what was set");
+        checkBorders(cell, plain.borders);
+        const auto row = plain.owner.lock();
+        require(cell.Parent().get() == (row ? row->original : nullptr),
+                "a cell knows its row as long as it is there");
+        checkChanged(document);
+    }
+
+    void callParagraph(const HeldParagraph& held) {
+        CRtfParagraph& paragraph = *held.original;
+        plain::Paragraph& plain = *held.plain;
+        const auto document = plain::documentOf(plain);
+        const std::int32_t number = input_.number();
+        switch (input_.below(5)) {
+            case 0: {
+                const std::string newText = text();
+                both([&] { paragraph.setText(newText); },
+                     [&] {
+                         if (!newText.empty()) {
+                             plain.text = newText;
+                             plain::markChanged(document);
+                         }
+                     });
+                break;
+            }
+            case 1: {
+                const std::string name = text();
+                both([&] { paragraph.setStyle(name); },
+                     [&] {
+                         plain.style = name;
+                         plain::markChanged(document);
+                     });
+                break;
+            }
+            case 2:
+                both([&] { paragraph.setForeColor(static_cast<tColorIndex>(number)); },
+                     [&] {
+                         plain.foreColor = number;
+                         plain::markChanged(document);
+                     });
+                break;
+            case 3:
+                paragraph.setAlign(static_cast<tCellAlign>(number));
+                plain.align = number;
+                break;
+            default: {
+                const Value data = value();
+                paragraph.asMarkedField(data);
+                const auto digits = plain::fieldData(data);
+                plain.field = digits ? *digits : plain.field.value_or("");
+            }
+        }
+        require(paragraph.Text() == plain.text && paragraph.Style() == plain.style &&
+                    paragraph.ForeColor() == plain.foreColor && paragraph.Align() == plain.align,
+                "a paragraph holds what was set");
+        const auto cell = plain.owner.lock();
+        require(paragraph.Parent().get() == (cell ? cell->original : nullptr),
+                "a paragraph knows its cell as long as it is there");
+        checkChanged(document);
+    }
+
+    void callCells(const Held<CRtfTableCells, plain::CellsView>& held) {
+        if (input_.below(12) != 0) {
+            return callList(held, cells_);
+        }
+        both([&] { held.original->SetUniformWidths(); },
+             [&] {
+                 plain::Document& document = plain::required(held.plain.document());
+                 plain::spread(*held.plain.row,
+                               plain::evenWidth(document, held.plain.list().count()));
+                 document.changed = true;
+             });
+    }
+
+    template <class Original, class View, class Elements>
+    void callList(const Held<Original, View>& list, Elements& elements) {
+        // Copies: the vectors that they are in can grow.
+        const Ref<Original> original = list.original;
+        const View view = list.plain;
+        const auto insert = [&view](const Value& key, const Value& before, const Value& after) {
+            plain::Document& document = plain::required(view.document());
+            view.insert(view.list().place(key, before, after), key);
+            document.changed = true;
+        };
+        const auto removeEnd = [&view](bool isTail) {
+            plain::Document& document = plain::required(view.document());
+            if (view.list().count() > 0) {
+                view.remove(isTail ? view.list().count() : 1);
+            }
+            document.changed = true;
+        };
+        const Value key = optional();
+        switch (input_.below(12)) {
+            case 0: {
+                const Value before = optional();
+                const Value after = optional();
+                both([&] { original->add(key, before, after); },
+                     [&] { insert(key, before, after); });
+                break;
+            }
+            case 1:
+            case 2:
+                both([&] { original->AddHead(key); },
+                     [&] {
+                         insert(key, view.list().count() > 0 ? Value(1) : Value(Missing{}),
+                                Missing{});
+                     });
+                break;
+            case 3:
+            case 4:
+            case 5:
+                both([&] { original->AddTail(key); }, [&] { insert(key, Missing{}, Missing{}); });
+                break;
+            case 6: {
+                const Value which = value();
+                both([&] { original->Remove(which); },
+                     [&] {
+                         plain::Document& document = plain::required(view.document());
+                         view.remove(view.list().position(which, 13));
+                         document.changed = true;
+                     });
+                break;
+            }
+            case 7:
+                both([&] { original->RemoveHead(); }, [&] { removeEnd(false); });
+                break;
+            case 8:
+                both([&] { original->removeTail(); },
+                     [&] {
+                         view.checkTail();
+                         removeEnd(true);
+                     });
+                break;
+            case 9:
+                refile(original, view, elements);
+                break;
+            default:
+                fetch(original, view, elements);
+        }
+        checkList(*original, view);
+        checkChanged(view.document());
+    }
+
+    /// Takes an element into the host's hands.
+    template <class Original, class View, class Elements>
+    void fetch(const Ref<Original>& original, const View& view, Elements& elements) {
+        const Value which = value();
+        decltype(original->Item(which)) element;
+        std::size_t position = 0;
+        if (both([&] { element = original->Item(which); },
+                 [&] { position = view.list().position(which, 13); })) {
+            require(element.get() == view.list().at(position)->original,
+                    "an index names the element that is told");
+            elements.push_back({element, view.list().at(position)});
+        }
+    }
+
+    template <class Original, class View, class Elements>
+    void refile(const Ref<Original>& original, const View& view, Elements& elements) {
+        if (elements.empty()) {
+            return;
+        }
+        const auto old = oneOf(elements);
+        const std::string key = text();
+        decltype(original->refile(old.original, key)) fresh;
+        std::shared_ptr<typename View::Element> plainFresh;
+        if (both([&] { fresh = original->refile(old.original, key); },
+                 [&] { plainFresh = view.refile(old.plain, key); })) {
+            plainFresh->original = fresh.get();
+            elements.push_back({fresh, plainFresh});
+        }
+    }
+
+    template <class Original, class View>
+    void checkList(const Original& original, const View& view) {
+        auto& list = view.list();
+        require(original.Count() == static_cast<std::int32_t>(list.count()),
+                "a list has its count");
+        for (std::size_t position = 1; position <= list.count(); ++position) {
+            const auto element = original.Item(static_cast<std::int32_t>(position));
+            auto& plain = *list.at(position);
+            if (!plain.original) {
+                plain.original = element.get();
+                if (input_.below(4) != 0) {
+                    hold(element, list.at(position));
+                }
+            }
+            require(element.get() == plain.original, "an element stands where it is told");
+            const auto& key = list.entries[position - 1].key;
+            require(!key || original.Item(*key).get() == plain.original, "a key names its element");
+        }
+        require(original.PeekHead().get() == (list.count() ? list.at(1)->original : nullptr),
+                "the head is the first");
+        require(
+            original.PeekTail().get() == (list.count() ? list.at(list.count())->original : nullptr),
+            "the tail is the last");
+    }
+
+    FuzzInput input_;
+    FakePlatform platform_;
+    std::vector<HeldDocument> documents_;
+    std::vector<HeldRow> rows_;
+    std::vector<HeldCell> cells_;
+    std::vector<HeldParagraph> paragraphs_;
+    std::vector<Held<CRtfTableRows, plain::RowsView>> rowLists_;
+    std::vector<Held<CRtfTableCells, plain::CellsView>> cellLists_;
+    std::vector<Held<CRtfParagraphs, plain::ParagraphsView>> paragraphLists_;
+    std::size_t nextKind_ = 0;
+};
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    Calls(FuzzInput(data, size)).run();
+    return 0;
+}

@@ -1,0 +1,235 @@
+// Memory runs out at every place of a run, from the driver's creation to the written file. The call
+// that it runs out in throws std::bad_alloc; nothing is lost for it, and whoever goes on gets all
+// that he would have got without.
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+#include "quorvane/driver/CRtfDriver.h"
+#include "quorvane/support/codePage1252.h"
+#include "quorvane/support/currentError.h"
+#include "tests/outOfMemory/withoutMemory.h"
+#include "tests/support/FakePlatform.h"
+#include "tests/support/failingAllocations.h"
+
+namespace quorvane {
+
+bool isOutOfMemory(const std::function<void()>& call) {
+    bool isThrown = false;
+    failingAllocations::successesLeft = 0;
+    try {
+        call();
+    } catch (const std::bad_alloc&) {
+        isThrown = true;
+    }
+    failingAllocations::successesLeft = -1;
+    return isThrown;
+}
+
+namespace {
+
+constexpr const char* styleSheet =
+    "{ name: normal; style-def: s; format: \\f9\\fs20 }"
+    "{ name: title, heading; style-def: s; format: \\f0\\fs28\\b; based-on: normal; next: normal }"
+    "{ name: strong; style-def: cs; format: \\b; additive: yes }"
+    "{ name: shaded; style-def: cell; format: navy-blue }";
+
+constexpr const char* description =
+    "(doc\n(paper-width=11906)\n(left-margin=1000)\n"
+    "(r ; the first row\n(rb=light-yellow)\n(rbb=thin)\n(row-key=7)\n"
+    "(c\n(cw=40)\n(cell-key=the key of the first cell)\n(cmf=data of the marked cell)\n"
+    "(p\n(pt=a long text with a <strong=style> and an \xC3\xA9 in it)\n(ps=title)\n(pa=right)\n"
+    "(pmf=data of the marked paragraph)\n(para-key=the key of the first paragraph)\np)\n"
+    "(p\n(pt=0012)\np)\nc)\n(c\n(cs=shaded)\n(p\n(pt=second)\np)\nc)\n"
+    "(r\n(c\n(p\n(pt=third)\np)\nc)\nr)\ndoc)\n";
+
+constexpr const char* faultyDescription =
+    "(doc\n(r\n(rb=crimson)\n(c\n(cw=wide)\n(p\n(pt=text)\n(px=1)\np)\nc)\nr)\ndoc)\n";
+
+constexpr const char* path = "document.rtf";
+
+/// A driver with a stylesheet, its events counted, and with a document that it made before.
+struct Subject {
+    Subject() {
+        platform.files["description.rtfspec"] = codePage1252FromUtf8(description);
+        platform.files["style.rtfss"] = styleSheet;
+        driver->setErroneousInput(true);
+        driver->setNotifyErrorHandler([this](CRtfDriver&) {
+            ++events;
+            lastError = currentError()->number;
+        });
+        driver->LoadStyleSheetFromMemmory(styleSheet);
+        driver->ParseFromMemmory("(doc\n(r\n(c\n(p\n(pt=before)\np)\nc)\nr)\ndoc)");
+        before = driver->Contents();
+    }
+    Subject(const Subject&) = delete;
+    Subject& operator=(const Subject&) = delete;
+    ~Subject() { driver->setNotifyErrorHandler({}); }
+
+    std::string contentsOf(const std::string& text) {
+        events = 0;
+        driver->ParseFromMemmory(text);
+        return driver->Contents();
+    }
+
+    FakePlatform platform;
+    Ref<CRtfDriver> driver = CRtfDriver::create(platform);
+    int events = 0;
+    std::int32_t lastError = 0;
+    std::string before;
+};
+
+/// Lets each allocation of an attempt fail, calls `check` after each failure, and expects that at
+/// least so many places could fail and that each subject gave back all that it took.
+template <class Attempt, class Check>
+void expectNothingLost(Attempt attempt, Check check, int fewestFailures) {
+    long livingBefore = 0;
+    const auto prepare = [&livingBefore] {
+        clearCurrentError();
+        livingBefore = failingAllocations::living;
+        return std::make_unique<Subject>();
+    };
+    const auto tryIt = [&attempt](const std::unique_ptr<Subject>& subject) { attempt(*subject); };
+    const auto checkAndCount = [&](std::unique_ptr<Subject>& subject) {
+        ASSERT_NO_FATAL_FAILURE(check(*subject));
+        subject.reset();
+        clearCurrentError();
+        ASSERT_EQ(failingAllocations::living, livingBefore);
+    };
+
+    EXPECT_GE(failEachAllocation(prepare, tryIt, checkAndCount), fewestFailures);
+}
+
+TEST(WholeRunsOutOfMemory, MakeNoDriver) {
+    const auto prepare = [] { return Ref<CRtfDriver>(); };
+    const auto attempt = [](Ref<CRtfDriver>& driver) { driver = CRtfDriver::create(); };
+    const long livingBefore = failingAllocations::living;
+    const auto check = [livingBefore](const Ref<CRtfDriver>& driver) {
+        ASSERT_EQ(driver, nullptr);
+        ASSERT_EQ(failingAllocations::living, livingBefore);
+    };
+
+    EXPECT_GE(failEachAllocation(prepare, attempt, check), 5);
+}
+
+TEST(WholeRunsOutOfMemory, CanBeBegunAnewWithTheSameDriver) {
+    const std::string expected = Subject().contentsOf(description);
+
+    expectNothingLost([](Subject& subject) { subject.driver->ParseFromMemmory(description); },
+                      [&expected](Subject& subject) {
+                          ASSERT_TRUE(subject.driver->RtfObject()->StyleSheetOk());
+                          ASSERT_EQ(subject.contentsOf(description), expected);
+                          ASSERT_EQ(subject.events, 0);
+                      },
+                      100);
+}
+
+TEST(WholeRunsOutOfMemory, CanBeBegunAnewWithTheSameFile) {
+    const std::string expected = Subject().contentsOf(description);
+
+    expectNothingLost([](Subject& subject) { subject.driver->ParseFile("description.rtfspec"); },
+                      [&expected](Subject& subject) {
+                          subject.events = 0;
+                          subject.driver->ParseFile("description.rtfspec");
+                          ASSERT_EQ(subject.driver->Contents(), expected);
+                          ASSERT_EQ(subject.events, 0);
+                      },
+                      100);
+}
+
+TEST(WholeRunsOutOfMemory, TellTheirErrorsWhenTheyAreBegunAnew) {
+    Subject undisturbed;
+    const std::string expected = undisturbed.contentsOf(faultyDescription);
+    ASSERT_GT(undisturbed.events, 2);
+
+    expectNothingLost([](Subject& subject) { subject.driver->ParseFromMemmory(faultyDescription); },
+                      [&](Subject& subject) {
+                          ASSERT_EQ(subject.contentsOf(faultyDescription), expected);
+                          ASSERT_EQ(subject.events, undisturbed.events);
+                          ASSERT_EQ(subject.lastError, undisturbed.lastError);
+                      },
+                      50);
+}
+
+TEST(WholeRunsOutOfMemory, LeaveAWholeDocumentToRender) {
+    expectNothingLost(
+        [](Subject& subject) {
+            try {
+                subject.driver->ParseFromMemmory(description);
+            } catch (const std::bad_alloc&) {
+                failingAllocations::successesLeft = -1;
+                ASSERT_NO_THROW(subject.driver->Contents());
+                throw;
+            }
+        },
+        [](Subject& subject) {
+            const std::string text = subject.driver->Contents();
+            ASSERT_TRUE(text.starts_with("{\\rtf1"));
+            ASSERT_TRUE(text.ends_with("}"));
+        },
+        100);
+}
+
+TEST(WholeRunsOutOfMemory, KeepTheDocumentThatCouldNotBeRendered) {
+    const std::string expected = Subject().contentsOf(description);
+    const auto attempt = [](Subject& subject) {
+        const long successes = std::exchange(failingAllocations::successesLeft, -1);
+        subject.driver->ParseFromMemmory(description);
+        failingAllocations::successesLeft = successes;
+        subject.driver->Contents();
+    };
+
+    expectNothingLost(
+        attempt,
+        [&expected](Subject& subject) {
+            ASSERT_TRUE(subject.driver->RtfObject()->Changed());
+            ASSERT_EQ(subject.driver->Contents(), expected);
+        },
+        3);
+}
+
+TEST(WholeRunsOutOfMemory, WriteTheFileWhenTheyAreToldAgain) {
+    expectNothingLost(
+        [](Subject& subject) {
+            subject.driver->RtfObject()->setChanged(true);
+            subject.driver->Commit(path);
+        },
+        [](Subject& subject) {
+            ASSERT_EQ(subject.platform.openFiles, 0);
+            subject.driver->Commit(path);
+            ASSERT_EQ(subject.platform.files[path], subject.before);
+        },
+        5);
+}
+
+TEST(WholeRunsOutOfMemory, LoadTheStylesheetWhenTheyAreToldAgain) {
+    const std::string expected = Subject().contentsOf(description);
+
+    expectNothingLost(
+        [](Subject& subject) { subject.driver->LoadStyleSheetFromMemmory(styleSheet); },
+        [&expected](Subject& subject) {
+            ASSERT_FALSE(subject.driver->RtfObject()->StyleSheetOk());
+            subject.driver->LoadStyleSheetFromMemmory(styleSheet);
+            ASSERT_TRUE(subject.driver->RtfObject()->StyleSheetOk());
+            ASSERT_EQ(subject.contentsOf(description), expected);
+        },
+        20);
+}
+
+TEST(WholeRunsOutOfMemory, LoadTheStylesheetsFileWhenTheyAreToldAgain) {
+    const std::string expected = Subject().contentsOf(description);
+
+    expectNothingLost([](Subject& subject) { subject.driver->setStyleSheetFile("style.rtfss"); },
+                      [&expected](Subject& subject) {
+                          subject.driver->RtfObject()->setStyleSheetFile("style.rtfss");
+                          ASSERT_TRUE(subject.driver->RtfObject()->StyleSheetOk());
+                          ASSERT_EQ(subject.driver->StyleSheetFile(), "style.rtfss");
+                          ASSERT_EQ(subject.contentsOf(description), expected);
+                      },
+                      20);
+}
+
+}  // namespace
+}  // namespace quorvane
