@@ -1,3 +1,6 @@
 set(mingwTriplet x86_64-w64-mingw32)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 include(${CMAKE_CURRENT_LIST_DIR}/mingw-w64.cmake)
+foreach(kind EXE SHARED MODULE)
+    string(APPEND CMAKE_${kind}_LINKER_FLAGS_INIT " -Wl,--high-entropy-va")
+endforeach()

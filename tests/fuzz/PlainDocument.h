@@ -348,7 +348,7 @@ inline void markChanged(const std::shared_ptr<Document>& document) {
 /// Width of each of so many cells; throws when they do not fit in 32 bits.
 inline std::int32_t evenWidth(const Document& document, std::size_t count) {
     const std::int32_t width =
-        std::max(quotient(document.usableWidth(), static_cast<std::int64_t>(count)), 201);
+        std::max(quotient(document.usableWidth(), static_cast<std::int64_t>(count)), 200);
     measure(std::int64_t{width} * static_cast<std::int64_t>(count));
     return width;
 }

@@ -158,8 +158,7 @@ private:
         cells_.push_back({cell, plain});
         paragraphLists_.push_back({cell->Paragraphs(), {plain}});
     }
-    void hold(const Ref<CRtfParagraph>& paragraph,
-              const std::shared_ptr<plain::Paragraph>& plain) {
+    void hold(const Ref<CRtfParagraph>& paragraph, const std::shared_ptr<plain::Paragraph>& plain) {
         paragraphs_.push_back({paragraph, plain});
     }
 

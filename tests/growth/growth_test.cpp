@@ -1,0 +1,206 @@
+// Inputs that are built to be slow take time in proportion to their size: eight times the input
+// takes about eight times as long, where a quadratic walk would take sixty-four times as long.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "quorvane/docmodel/CRtfDoc.h"
+#include "quorvane/docmodel/inlineStyles.h"
+#include "quorvane/driver/CRtfDriver.h"
+#include "quorvane/support/recordStrings.h"
+#include "quorvane/support/wildcards.h"
+#include "tests/support/FakePlatform.h"
+
+namespace quorvane {
+namespace {
+
+using Work = std::function<void(std::size_t size)>;
+
+std::string repeated(std::string_view text, std::size_t times) {
+    std::string all;
+    all.reserve(text.size() * times);
+    for (std::size_t i = 0; i < times; ++i) {
+        all += text;
+    }
+    return all;
+}
+
+/// The shortest of several runs: what the work takes when nothing else is in its way.
+double secondsOf(const Work& work, std::size_t size) {
+    constexpr int runs = 3;
+    double shortest = 1e9;
+    for (int run = 0; run < runs; ++run) {
+        const auto start = std::chrono::steady_clock::now();
+        work(size);
+        const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
+        shortest = std::min(shortest, taken.count());
+    }
+    return shortest;
+}
+
+void expectProportional(const Work& work, std::size_t size) {
+    constexpr std::size_t growth = 8;
+    constexpr double mostTimes = 28;
+    constexpr int attempts = 4;
+    double times = 0;
+    // A machine under load may be slow just when the large input is at work.
+    for (int attempt = 0; attempt < attempts; ++attempt) {
+        times = secondsOf(work, size * growth) / std::max(secondsOf(work, size), 1e-6);
+        if (times < mostTimes) {
+            return;
+        }
+    }
+    FAIL() << growth << " times the input takes " << times << " times as long";
+}
+
+void analyse(const std::string& text, bool erroneousInput) {
+    FakePlatform platform;
+    const Ref<CRtfDriver> driver = CRtfDriver::create(platform);
+    driver->setErroneousInput(erroneousInput);
+    driver->ParseFromMemmory(text);
+}
+
+TEST(Growth, OfDeepNestingIsProportional) {
+    expectProportional(
+        [](std::size_t size) {
+            analyse(repeated("(doc\n", size) + "(r\n(c\nc)\nr)\n" + repeated("doc)\n", size), true);
+        },
+        100);
+}
+
+TEST(Growth, OfUnclosedRowsIsProportional) {
+    expectProportional(
+        [](std::size_t size) {
+            analyse("(doc\n" + repeated("(r\n(c\n(p\n(pt=x)\np)\nc)\n", size) + "doc)", true);
+        },
+        1000);
+}
+
+TEST(Growth, OfRowsRightBehindEachOtherIsProportional) {
+    expectProportional(
+        [](std::size_t size) {
+            analyse("(doc\n" + repeated("(r\n", size) + "(c\nc)\nr)\ndoc)", true);
+        },
+        20'000);
+}
+
+TEST(Growth, OfClosersIsProportional) {
+    expectProportional(
+        [](std::size_t size) { analyse("(doc\n(r\n" + repeated("c)\n", size) + "doc)", true); },
+        100'000);
+}
+
+TEST(Growth, OfAHundredMegabytesOfClosersIsBearable) {
+    FakePlatform platform;
+    const Ref<CRtfDriver> driver = CRtfDriver::create(platform);
+    int events = 0;
+    driver->setNotifyErrorHandler([&events](CRtfDriver&) { ++events; });
+
+    driver->ParseFromMemmory("(doc\n(r\n" + repeated(std::string(60, ' ') + "c)\n", 1'600'000) +
+                             "doc)");
+
+    driver->setNotifyErrorHandler({});
+    EXPECT_EQ(events, 1);
+}
+
+TEST(Growth, OfALineThatIsNothingIsProportional) {
+    for (const char* part : {"(", "=", ")", "(=", ";", "r)"}) {
+        expectProportional(
+            [part](std::size_t size) {
+                analyse("(doc\n(r\n" + repeated(part, size) + ".\ndoc)", false);
+            },
+            50'000);
+    }
+}
+
+TEST(Growth, OfAStylesheetIsProportional) {
+    expectProportional(
+        [](std::size_t size) {
+            const Ref<CRtfDoc> document = CRtfDoc::create();
+            std::string text;
+            for (std::size_t i = 0; i < size; ++i) {
+                text += "{name: s" + std::to_string(i) + "; style-def: s; based-on: s; next: s}";
+            }
+            document->LoadStyleSheetFromMemmory(text);
+            document->Contents();
+        },
+        500);
+}
+
+TEST(Growth, OfARecordStringIsProportional) {
+    expectProportional(
+        [](std::size_t size) {
+            const std::string record = repeated("^a  ", size);
+            EXPECT_TRUE(AllSubFieldsEmpty(record));
+            EXPECT_EQ(ReplaceString(record, "^", "").size(), 3 * size);
+        },
+        50'000);
+}
+
+// With as many stars as the text allows, the product of the two lengths is what may be spent.
+TEST(Growth, OfATextForAPatternOfStarsIsProportional) {
+    const std::string pattern = repeated("*a", 50) + "b";
+    expectProportional(
+        [&pattern](std::size_t size) {
+            EXPECT_FALSE(matchesWildcards(std::string(size, 'a'), pattern));
+        },
+        2000);
+}
+
+TEST(Growth, OfAPatternOfStarsIsProportional) {
+    const std::string text(2000, 'a');
+    expectProportional(
+        [&text](std::size_t size) {
+            EXPECT_FALSE(matchesWildcards(text, repeated("*", size) + "b"));
+        },
+        2000);
+}
+
+class InlineTokens : public testing::Test {
+protected:
+    InlineTokens() {
+        document->LoadStyleSheetFromMemmory("{name: bold; style-def: cs; format: \\b}");
+    }
+
+    void expectProportionalTo(const std::string& before, const std::string& token,
+                              std::size_t size) {
+        expectProportional(
+            [&](std::size_t count) {
+                const std::string text = before + repeated(token, count);
+                EXPECT_GE(withCharacterStyles(*document, text).size(), text.size());
+            },
+            size);
+    }
+
+    Ref<CRtfDoc> document = CRtfDoc::create();
+};
+
+TEST_F(InlineTokens, GrowProportionally) {
+    expectProportionalTo("", "<bold=x> ", 10'000);
+}
+
+TEST_F(InlineTokens, MayBeAMillion) {
+    const std::string styled = withCharacterStyles(*document, repeated("<bold=x>", 1'000'000));
+
+    EXPECT_EQ(styled, repeated("{\\cs100\\b x}", 1'000'000));
+}
+
+TEST_F(InlineTokens, GrowProportionallyBehindAStrayBracket) {
+    expectProportionalTo("5 < 7 ", "<bold=x> ", 4000);
+}
+
+TEST_F(InlineTokens, GrowProportionallyWhereAllBracketsAreStray) {
+    expectProportionalTo("", "<", 50'000);
+    expectProportionalTo("", ">", 50'000);
+    expectProportionalTo("", "<bold=", 50'000);
+    expectProportionalTo("<", "=>", 50'000);
+}
+
+}  // namespace
+}  // namespace quorvane

@@ -1,0 +1,20 @@
+#!/bin/sh
+# inspectWindows.sh FILE: fails when a program or DLL for Windows lacks a piece of its armour.
+file=$1
+failed=0
+headers=$(objdump -p "$file")
+
+# holds FLAG
+holds() {
+    if ! printf '%s' "$headers" | grep -q "$1"; then
+        echo "$file lacks $1" >&2
+        failed=1
+    fi
+}
+
+holds DYNAMIC_BASE
+holds NX_COMPAT
+if printf '%s' "$headers" | grep -q 'PE32+'; then
+    holds HIGH_ENTROPY_VA
+fi
+exit $failed

@@ -1,0 +1,280 @@
+"""compareReaders.py FOLDER NAME...: compares what LibreOffice, AbiWord and pandoc read with what the
+object model held. For each NAME the folder has NAME.rtf, NAME.json (the model), NAME.fodt
+(LibreOffice), NAME.html (AbiWord) and NAME.pandoc (pandoc's JSON)."""
+
+import html
+import html.parser
+import json
+import re
+import sys
+import xml.etree.ElementTree as xml
+
+NAMESPACES = {
+    "fo": "urn:oasis:names:tc:opendocument:xmlns:xsl-fo-compatible:1.0",
+    "style": "urn:oasis:names:tc:opendocument:xmlns:style:1.0",
+    "table": "urn:oasis:names:tc:opendocument:xmlns:table:1.0",
+    "text": "urn:oasis:names:tc:opendocument:xmlns:text:1.0",
+}
+ALIGNMENTS = {1: "center", 2: "start", 3: "end", 4: "justify"}
+
+
+def name(prefixed):
+    prefix, local = prefixed.split(":")
+    return "{" + NAMESPACES[prefix] + "}" + local
+
+
+def squeezed(text):
+    return " ".join(text.split())
+
+
+def office_text(element):
+    """The text of an element of LibreOffice's, without numbers of pages."""
+    if element.tag == name("text:page-number"):
+        return ""
+    if element.tag in (name("text:tab"), name("text:line-break"), name("text:s")):
+        return " "
+    return (element.text or "") + "".join(office_text(child) + (child.tail or "")
+                                          for child in element)
+
+
+class Model:
+    """The table as the object model held it."""
+
+    def __init__(self, folder, document):
+        with open(f"{folder}/{document}.json", encoding="utf-8") as file:
+            self.rows = json.load(file)
+        with open(f"{folder}/{document}.rtf", encoding="cp1252") as file:
+            table = re.search(r"\{\\colortbl(.*?)\}", file.read(), re.S).group(1)
+        self.colors = ["#%02x%02x%02x" % tuple(int(part) for part in color)
+                       for color in re.findall(r"\\red(\d+)\\green(\d+)\\blue(\d+)", table)]
+
+    def fill(self, cell):
+        return self.colors[cell["fill"] - 1] if cell["fill"] > 0 else None
+
+    @staticmethod
+    def text(paragraph):
+        return squeezed(re.sub(r"<[A-Za-z][^=<>]*=([^<>]*)>", r"\1", plain(paragraph["text"])))
+
+    def paragraphs(self, cell):
+        return [paragraph for paragraph in cell["paragraphs"] if self.text(paragraph)]
+
+    def texts(self, only_behind_line_breaks=False):
+        texts = [[[] for cell in row] for row in self.rows]
+        for row, row_texts in zip(self.rows, texts):
+            for cell, cell_texts in zip(row, row_texts):
+                for paragraph in self.paragraphs(cell):
+                    text = paragraph["text"]
+                    if only_behind_line_breaks:
+                        text = re.sub(r".*\\line\b", "", text)
+                    text = self.text({"text": text})
+                    if text:
+                        cell_texts.append(text)
+        return texts
+
+    def fills(self):
+        return [[self.fill(cell) for cell in row] for row in self.rows]
+
+
+def plain(text):
+    """A text without the RTF that a host may write into it."""
+    text = re.sub(r"\\'([0-9a-f]{2})", lambda code: bytes.fromhex(code.group(1)).decode("cp1252"),
+                  text)
+    text = re.sub(r"\\u(\d+)\s?\??", lambda code: chr(int(code.group(1))), text)
+    text = re.sub(r"\{\\field.*?PAGE.*\}", "", text)
+    text = re.sub(r"\\bullet\b ?", "\u2022", text)
+    text = re.sub(r"\\(tab|line|par)\b ?|\\~", " ", text)
+    return re.sub(r"\\[a-z]+-?\d* ?|[{}]", "", text)
+
+
+class LibreOffice:
+    """A flat OpenDocument text."""
+
+    def __init__(self, path):
+        root = xml.parse(path).getroot()
+        self.styles = {(style.get(name("style:family")), style.get(name("style:name"))): style
+                       for style in root.iter(name("style:style"))}
+        self.rows = [list(row.findall("table:table-cell", NAMESPACES))
+                     for row in root.iter(name("table:table-row"))]
+
+    def property(self, family, style, group, key):
+        while style and (family, style) in self.styles:
+            element = self.styles[family, style]
+            properties = element.find(group, NAMESPACES)
+            value = properties.get(name(key)) if properties is not None else None
+            if value is not None:
+                return value
+            style = element.get(name("style:parent-style-name"))
+        return None
+
+    def cell_property(self, cell, key):
+        return self.property("table-cell", cell.get(name("table:style-name")),
+                             "style:table-cell-properties", key)
+
+    def fill(self, cell):
+        value = self.cell_property(cell, "fo:background-color")
+        return None if value in (None, "transparent") else value
+
+    def borders(self, cell):
+        values = []
+        for side in ("top", "right", "bottom", "left"):
+            value = (self.cell_property(cell, "fo:border-" + side)
+                     or self.cell_property(cell, "fo:border") or "none")
+            values.append(value != "none")
+        return values
+
+    def paragraphs(self, cell):
+        return [paragraph for paragraph in cell.findall("text:p", NAMESPACES)
+                if squeezed(office_text(paragraph))]
+
+    def alignment(self, paragraph):
+        return self.property("paragraph", paragraph.get(name("text:style-name")),
+                             "style:paragraph-properties", "fo:text-align")
+
+    def style(self, paragraph):
+        style = paragraph.get(name("text:style-name"))
+        while re.fullmatch(r"P\d+", style or ""):
+            style = self.styles["paragraph", style].get(name("style:parent-style-name"))
+        return (style or "").replace("_20_", " ").replace("_5f_", "_").lower()
+
+
+class AbiWord(html.parser.HTMLParser):
+    """The table of an HTML page: rows of cells with their ground and the texts of paragraphs."""
+
+    def __init__(self, path):
+        super().__init__()
+        self.texts = []
+        self.fills = []
+        self.in_paragraph = False
+        with open(path, encoding="utf-8") as file:
+            self.feed(file.read())
+
+    def handle_starttag(self, tag, attributes):
+        if tag == "tr":
+            self.texts.append([])
+            self.fills.append([])
+        elif tag == "td":
+            style = dict(attributes).get("style", "")
+            ground = re.search(r"background-color:(#[0-9a-f]{6})", style)
+            self.fills[-1].append(ground.group(1) if ground else None)
+            self.texts[-1].append([])
+        elif tag in ("p", "h1", "h2", "h3", "h4", "h5", "h6") and self.texts:
+            self.in_paragraph = True
+            self.texts[-1][-1].append("")
+
+    def handle_endtag(self, tag):
+        if tag in ("p", "h1", "h2", "h3", "h4", "h5", "h6"):
+            self.in_paragraph = False
+
+    def handle_data(self, data):
+        if self.in_paragraph and self.texts and self.texts[-1] and self.texts[-1][-1]:
+            self.texts[-1][-1][-1] += data
+
+
+def pandoc_text(part):
+    if isinstance(part, list):
+        return "".join(pandoc_text(item) for item in part)
+    if isinstance(part, dict):
+        if part.get("t") in ("Space", "SoftBreak", "LineBreak"):
+            return " "
+        if part.get("t") == "Str":
+            return part["c"]
+        return pandoc_text(part.get("c", []))
+    return ""
+
+
+def pandoc_rows(path):
+    with open(path, encoding="utf-8") as file:
+        blocks = json.load(file)["blocks"]
+    rows = []
+    for block in blocks:
+        if block["t"] == "Table":
+            for body in block["c"][4]:
+                rows += body[3]
+    return [[[squeezed(pandoc_text(paragraph)) for paragraph in cell[4]] for cell in row[1]]
+            for row in rows]
+
+
+class Comparison:
+    def __init__(self, document):
+        self.document = document
+        self.faults = []
+
+    def equal(self, what, actual, expected):
+        if actual != expected:
+            self.faults.append(f"{self.document}: {what}: {actual}, should be {expected}")
+
+    def libre_office(self, model, reader):
+        rows = [[[squeezed(office_text(paragraph))
+                  for paragraph in reader.paragraphs(cell)] for cell in row]
+                for row in reader.rows]
+        self.equal("LibreOffice's texts", rows, model.texts())
+        if rows != model.texts():
+            return
+        for row, model_row in zip(reader.rows, model.rows):
+            for cell, model_cell in zip(row, model_row):
+                text = squeezed(office_text(cell))
+                self.equal(f"LibreOffice's ground of '{text}'", reader.fill(cell),
+                           model.fill(model_cell))
+                self.borders(text, reader.borders(cell), model_cell)
+                for paragraph, expected in zip(reader.paragraphs(cell),
+                                               model.paragraphs(model_cell)):
+                    self.paragraph(text, reader, paragraph, expected)
+
+    def borders(self, text, actual, cell):
+        # A neighbour's border is drawn as one's own.
+        for side, has_border, width in zip(("top", "right", "bottom", "left"), actual,
+                                           cell["borders"]):
+            if width > 0:
+                self.equal(f"LibreOffice's {side} border of '{text}'", has_border, True)
+
+    def paragraph(self, text, reader, paragraph, expected):
+        if expected["align"] in ALIGNMENTS:
+            self.equal(f"LibreOffice's alignment of '{text}'", reader.alignment(paragraph),
+                       ALIGNMENTS[expected["align"]])
+        style = expected["style"].strip().lower()
+        if style in self.known_styles:
+            self.equal(f"LibreOffice's style of '{text}'", reader.style(paragraph), style)
+
+    def abi_word(self, model, reader):
+        # Its HTML leaves blanks out where the format of the text changes, and what stands in front
+        # of a line break within a paragraph.
+        def without_blanks(rows):
+            return [[[text for text in ("".join(text.split()) for text in cell) if text]
+                     for cell in row] for row in rows]
+
+        self.equal("AbiWord's texts", without_blanks(reader.texts),
+                   without_blanks(model.texts(only_behind_line_breaks=True)))
+        # Colour 0, which a cell style without a ground gives, is black to it.
+        expected = [["#000000" if cell["style"] and cell["fill"] == 0 else model.fill(cell)
+                     for cell in row] for row in model.rows]
+        self.equal("AbiWord's grounds", reader.fills, expected)
+
+    def pandoc(self, model, rows):
+        texts = [[[text for text in cell if text] for cell in row] for row in rows]
+        expected = model.texts()
+        # It fills up every row to the longest.
+        longest = max(len(row) for row in expected)
+        self.equal("pandoc's texts", texts,
+                   [row + [[]] * (longest - len(row)) for row in expected])
+
+
+def main():
+    folder, documents = sys.argv[1], sys.argv[2:]
+    faults = []
+    for document in documents:
+        comparison = Comparison(document)
+        comparison.known_styles = {"heading", "small"}
+        model = Model(folder, document)
+        if not model.rows:
+            faults.append(f"{document}: has no rows")
+            continue
+        comparison.libre_office(model, LibreOffice(f"{folder}/{document}.fodt"))
+        comparison.abi_word(model, AbiWord(f"{folder}/{document}.html"))
+        comparison.pandoc(model, pandoc_rows(f"{folder}/{document}.pandoc"))
+        print(f"{document}: " + ("as it was" if not comparison.faults else "differs"))
+        faults += comparison.faults
+    print("\n".join(faults))
+    sys.exit(1 if faults or not documents else 0)
+
+
+main()

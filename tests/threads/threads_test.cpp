@@ -1,0 +1,121 @@
+// Documents and drivers of different threads know nothing of each other, and each thread has a
+// current error of its own. The thread sanitizer runs this (preset "threads").
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <atomic>
+#include <string>
+#include <thread>
+
+#include "quorvane/driver/CRtfDriver.h"
+#include "quorvane/support/CStringList.h"
+#include "quorvane/support/currentError.h"
+#include "tests/support/FakePlatform.h"
+
+namespace quorvane {
+namespace {
+
+constexpr const char* styleSheet =
+    "{ name: normal; style-def: s; format: \\f9 }{ name: strong; style-def: cs; format: \\b }"
+    "{ name: shaded; style-def: cell; format: navy-blue }";
+
+std::string descriptionOf(int number) {
+    return "(doc\n(paper-width=" + std::to_string(9000 + number) +
+           ")\n(r\n(rb=red)\n(c\n(cs=shaded)\n(cmf=data)\n(p\n(pt=<strong=" +
+           std::to_string(number) + "> text)\np)\nc)\nr)\ndoc)";
+}
+
+/// Builds and commits a document through the object model.
+std::string builtDocument(FakePlatform& platform, CRtfDoc& document, int number) {
+    document.ClearStructure();
+    for (int i = 0; i < 3; ++i) {
+        document.TableRows()->AddTail("row" + std::to_string(i));
+        const Ref<CRtfTableCells> cells = document.TableRows()->PeekTail()->TableCells();
+        cells->AddTail();
+        cells->AddHead();
+        cells->PeekTail()->setStyle("shaded");
+        cells->PeekTail()->setWidth(ePercent, 30);
+        cells->PeekHead()->Paragraphs()->AddTail();
+        cells->PeekHead()->Paragraphs()->PeekTail()->setText("<strong=" + std::to_string(number) +
+                                                             ">");
+    }
+    document.Commit("document.rtf");
+    return platform.files["document.rtf"];
+}
+
+/// What one thread does: two documents of its own and a driver, in turns.
+void work(int number, std::string& failure) {
+    FakePlatform platform;
+    const std::array<Ref<CRtfDoc>, 2> documents{CRtfDoc::create(platform),
+                                                CRtfDoc::create(platform)};
+    const Ref<CRtfDriver> driver = CRtfDriver::create(platform);
+    driver->setErroneousInput(true);
+    driver->LoadStyleSheetFromMemmory(styleSheet);
+    documents[0]->LoadStyleSheetFromMemmory(styleSheet);
+    std::array<std::string, 3> first;
+    for (int round = 0; round < 40; ++round) {
+        driver->ParseFromMemmory(descriptionOf(number));
+        const std::array<std::string, 3> texts{builtDocument(platform, *documents[0], number),
+                                               builtDocument(platform, *documents[1], number),
+                                               driver->Contents()};
+        if (round == 0) {
+            first = texts;
+        }
+        if (texts != first || texts[2].find(std::to_string(9000 + number)) == std::string::npos) {
+            failure = "round " + std::to_string(round);
+        }
+        // The random numbers of sorting, the lists and the patterns are each thread's own too.
+        CStringList list;
+        list.AddTail("^ab");
+        list.AddTail("^aa");
+        list.SortBySubField("a");
+        if (list.GetHead() != "^aa" || list.Find("*b") != 2) {
+            failure = "list";
+        }
+    }
+}
+
+TEST(Threads, WorkOnDocumentsOfTheirOwnWithoutKnowingOfEachOther) {
+    std::array<std::string, 2> failures;
+    std::thread one(work, 1, std::ref(failures[0]));
+    std::thread other(work, 2, std::ref(failures[1]));
+    one.join();
+    other.join();
+
+    EXPECT_EQ(failures[0], "");
+    EXPECT_EQ(failures[1], "");
+}
+
+/// Raises an error, waits until the other thread raised its own, and answers the current one.
+std::int32_t errorAfterTheOthers(const char* key, std::atomic<int>& raised) {
+    const Ref<CRtfDoc> document = CRtfDoc::create();
+    document->TableRows()->AddTail("key");
+    try {
+        document->TableRows()->AddTail(key ? Value(key) : Value(1));
+    } catch (const RtfError&) {
+        ++raised;
+    }
+    while (raised < 2) {
+        std::this_thread::yield();
+    }
+    return currentError() ? currentError()->number : 0;
+}
+
+TEST(Threads, HaveEachACurrentErrorOfTheirOwn) {
+    clearCurrentError();
+    std::atomic<int> raised = 0;
+    std::int32_t errorOfOne = 0;
+    std::int32_t errorOfOther = 0;
+    std::thread one([&] { errorOfOne = errorAfterTheOthers("key", raised); });
+    std::thread other([&] { errorOfOther = errorAfterTheOthers(nullptr, raised); });
+    one.join();
+    other.join();
+
+    EXPECT_EQ(errorOfOne, 457);
+    EXPECT_EQ(errorOfOther, 13);
+    EXPECT_EQ(currentError(), nullptr);
+}
+
+}  // namespace
+}  // namespace quorvane
