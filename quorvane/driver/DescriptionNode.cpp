@@ -1,7 +1,5 @@
 #include "quorvane/driver/DescriptionNode.h"
 
-#include <algorithm>
-#include <iterator>
 #include <utility>
 #include <variant>
 
@@ -24,19 +22,27 @@ const T* held(const Value& value) {
 }  // namespace
 
 // Nodes can be nested thousands deep, too deep for one destructor to call the next: each node is
-// emptied before it goes.
+// emptied before it goes. The nodes that wait for it are a chain of their own, since a destructor
+// must do without further memory.
 DescriptionNode::~DescriptionNode() {
-    std::vector<std::shared_ptr<DescriptionNode>> nodes = std::move(children_);
+    std::shared_ptr<DescriptionNode> waiting;
+    handOverChildren(waiting);
+    while (waiting) {
+        const std::shared_ptr<DescriptionNode> node = std::move(waiting);
+        waiting = std::move(node->nextWaiting_);
+        node->handOverChildren(waiting);
+    }
+}
+
+void DescriptionNode::handOverChildren(std::shared_ptr<DescriptionNode>& waiting) noexcept {
     RemoveAll();
-    while (!nodes.empty()) {
-        const std::shared_ptr<DescriptionNode> node = std::move(nodes.back());
-        nodes.pop_back();
-        if (node.use_count() == 1 && !node->children_.empty()) {
-            std::move(node->children_.begin(), node->children_.end(), std::back_inserter(nodes));
-            node->children_.clear();
-            node->RemoveAll();
+    for (std::shared_ptr<DescriptionNode>& child : children_) {
+        if (child.use_count() == 1) {
+            child->nextWaiting_ = std::move(waiting);
+            waiting = std::move(child);
         }
     }
+    children_.clear();
 }
 
 std::vector<Value> DescriptionNode::leafKeys() const {

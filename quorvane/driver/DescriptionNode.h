@@ -69,9 +69,13 @@ public:
     std::shared_ptr<DescriptionNode> addChild(std::int32_t number, int line);
 
 private:
+    // Puts the children that nobody else holds in front of those that wait for being emptied.
+    void handOverChildren(std::shared_ptr<DescriptionNode>& waiting) noexcept;
+
     int line_;
     // The children once more, for the destructor.
     std::vector<std::shared_ptr<DescriptionNode>> children_;
+    std::shared_ptr<DescriptionNode> nextWaiting_;
 };
 
 /// Kind of the node of that number: 0 to 999 doc, 1000 to 1999 row, 2000 to 2999 cell, 3000 to 3999
