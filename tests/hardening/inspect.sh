@@ -14,7 +14,7 @@ holds() {
 holds "address of its own choice (it is no PIE)" 'Type: *DYN' "$(readelf --wide --file-header "$program")"
 holds "relocations that are read-only" 'GNU_RELRO' "$(readelf --wide --program-headers "$program")"
 holds "relocations that are bound at once" 'BIND_NOW\|Flags:.*NOW' "$(readelf --wide --dynamic "$program")"
-holds "protected stack" '__stack_chk_fail' "$(readelf --wide --dyn-syms "$program")"
+holds "protected stack" '__stack_chk_fail' "$(readelf --wide --syms "$program")"
 if [ "$(uname -m)" = x86_64 ]; then
     holds "protected control flow" 'endbr64' "$(objdump --disassemble=main "$program")"
 fi
