@@ -9,6 +9,7 @@
 #include "tests/docmodel/fixedGroups.h"
 #include "tests/support/FakePlatform.h"
 #include "tests/support/errorNumberOf.h"
+#include "tests/support/soundDocuments.h"
 
 namespace quorvane {
 namespace {
@@ -356,6 +357,13 @@ protected:
             [this](const AbsorbedError& error) { absorbed.push_back(error); });
     }
 
+    void TearDown() override { expectSoundDocuments(platform); }
+
+    void addRowOfOneCell() {
+        document->TableRows()->AddTail();
+        document->TableRows()->PeekTail()->TableCells()->AddTail();
+    }
+
     void expectAbsorbed(std::size_t index, RunTimeError number, const char* moduleName,
                         const char* procedureName) const {
         ASSERT_LT(index, absorbed.size());
@@ -375,13 +383,15 @@ TEST_F(Commit, WritesAPairOfBracesForAnUnchangedDocument) {
 }
 
 TEST_F(Commit, MakesTheTextAnewWhenSomethingChanged) {
-    document->TableRows()->AddTail();
+    addRowOfOneCell();
 
     document->Commit("out.rtf");
 
     EXPECT_FALSE(document->Changed());
-    EXPECT_EQ(platform.files.at("out.rtf"),
-              withoutStyles(defaultPage, "\r\n{\\intbl\\trowd\\trql\\trgaph70\\trleft0\\row}"));
+    EXPECT_EQ(
+        platform.files.at("out.rtf"),
+        withoutStyles(defaultPage,
+                      "\r\n{\\intbl\\trowd\\trql\\trgaph70\\trleft0 \\cellx8840 \r\n\\cell\\row}"));
 }
 
 TEST_F(Commit, WritesTheOldTextWhenTheFlagWasTakenBack) {
@@ -395,7 +405,7 @@ TEST_F(Commit, WritesTheOldTextWhenTheFlagWasTakenBack) {
 }
 
 TEST_F(Commit, WritesTheSameTextTwice) {
-    document->TableRows()->AddTail();
+    addRowOfOneCell();
 
     document->Commit("one.rtf");
     document->Commit("two.rtf");
@@ -529,7 +539,7 @@ TEST_F(Commit, ShowsAnObjectThatCannotBeCreated) {
 TEST_F(Commit, CanBeTriedAgainAfterAFailure) {
     platform.files["out.rtf"] = "old";
     platform.fail("deleteFile", RunTimeError::PathFileAccessError);
-    document->TableRows()->AddTail();
+    addRowOfOneCell();
     EXPECT_EQ(errorNumberOf([&] { document->Commit("out.rtf"); }), 75);
     EXPECT_FALSE(document->Changed());
 

@@ -3,6 +3,7 @@
 #include "tests/docmodel/documentParts.h"
 #include "tests/docmodel/fixedGroups.h"
 #include "tests/support/errorNumberOf.h"
+#include "tests/support/soundDocuments.h"
 
 namespace quorvane {
 namespace {
@@ -69,6 +70,7 @@ TEST(Script, OfWidths) {
                   " \\cellx2000"
                   " \r\n\\cell \r\n\\cell \r\n\\cell \r\n\\cell \r\n\\cell"
                   " \r\n\\cell \r\n\\cell \r\n\\cell \r\n\\cell \r\n\\cell\\row}}");
+    expectSoundDocuments(platform);
 }
 
 }  // namespace

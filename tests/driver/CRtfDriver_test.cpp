@@ -7,6 +7,7 @@
 
 #include "tests/driver/ParsedDescription.h"
 #include "tests/driver/documentText.h"
+#include "tests/support/soundDocuments.h"
 
 namespace quorvane {
 namespace {
@@ -75,6 +76,8 @@ std::vector<ToldError> checkedErrorsOf(const std::string& text) {
 
 class CRtfDriverTest : public testing::Test {
 protected:
+    void TearDown() override { expectSoundDocuments(platform); }
+
     FakePlatform platform;
     Ref<CRtfDriver> driver = CRtfDriver::create(platform);
 };

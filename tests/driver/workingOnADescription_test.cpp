@@ -6,6 +6,7 @@
 
 #include "tests/driver/ParsedDescription.h"
 #include "tests/driver/documentText.h"
+#include "tests/support/soundDocuments.h"
 
 namespace quorvane {
 namespace {
@@ -55,6 +56,7 @@ TEST(WorkingOnADescription, GoesThroughTheObjectModel) {
 
     driver->Commit("out.rtf");
     EXPECT_EQ(platform.files["out.rtf"], expected);
+    expectSoundDocuments(platform);
 }
 
 }  // namespace
