@@ -1,8 +1,10 @@
 #include "cli/CheckJob.h"
 
+#include <filesystem>
 #include <fstream>
 #include <istream>
 #include <memory>
+#include <system_error>
 #include <utility>
 
 #include "cli/RenderOptions.h"
@@ -86,15 +88,19 @@ void CheckJob::checkFile(const std::string& file) {
             return;
         }
         // The file of an RTF document may be larger than the memory. A file that is something else
-        // is read by the platform, which also tells why one cannot be read.
-        std::ifstream stream(pathFromUtf8(file), std::ios::binary);
-        const std::string beginning = stream ? readPiece(stream) : std::string();
-        if (languageOf(beginning) == CheckedLanguage::Rtf) {
-            checkRtfFile(file, stream, beginning);
-        } else {
-            stream.close();
-            checkText(file, platform_.readFile(file));
+        // is read by the platform, which also tells why one cannot be read; so is a pipe, which
+        // can be read only once.
+        const std::filesystem::path path = pathFromUtf8(file);
+        std::error_code failure;
+        if (std::filesystem::is_regular_file(path, failure)) {
+            std::ifstream stream(path, std::ios::binary);
+            const std::string beginning = stream ? readPiece(stream) : std::string();
+            if (languageOf(beginning) == CheckedLanguage::Rtf) {
+                checkRtfFile(file, stream, beginning);
+                return;
+            }
         }
+        checkText(file, platform_.readFile(file));
     } catch (const RtfError& error) {
         hasFailed_ = true;
         fail_({DiagnosticKind::Raised, file, error});

@@ -36,7 +36,9 @@ bool areEqual(std::wstring_view a, std::wstring_view b) {
 std::vector<std::wstring> namesOf(ITypeInfo& info, MEMBERID id) {
     std::array<BSTR, mostNames> names{};
     UINT count = 0;
-    info.GetNames(id, names.data(), mostNames, &count);
+    if (info.GetNames(id, names.data(), mostNames, &count) == E_OUTOFMEMORY) {
+        throw std::bad_alloc();
+    }
     const auto release = [](BSTR* all) {
         std::for_each(all, all + mostNames, [](BSTR name) { SysFreeString(name); });
     };
@@ -52,7 +54,14 @@ std::vector<std::wstring> namesOf(ITypeInfo& info, MEMBERID id) {
 
 MemberNames::MemberNames(ITypeInfo& info) {
     FUNCDESC* function = nullptr;
-    for (UINT i = 0; SUCCEEDED(info.GetFuncDesc(i, &function)); ++i) {
+    for (UINT i = 0;; ++i) {
+        const HRESULT result = info.GetFuncDesc(i, &function);
+        if (result == E_OUTOFMEMORY) {
+            throw std::bad_alloc();
+        }
+        if (FAILED(result)) {
+            break;
+        }
         const MEMBERID id = function->memid;
         info.ReleaseFuncDesc(function);
         if (id >= firstInherited) {

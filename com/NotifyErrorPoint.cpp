@@ -41,6 +41,11 @@ void raiseIn(IDispatch& sink, IDispatch& sender) {
 
 }  // namespace
 
+// A sink that is let go of may come back and disconnect: by then none is connected any more.
+NotifyErrorPoint::~NotifyErrorPoint() {
+    const std::vector<Connection> connections = std::exchange(connections_, {});
+}
+
 STDMETHODIMP NotifyErrorPoint::QueryInterface(REFIID interfaceId, void** object) {
     if (!object) {
         return E_POINTER;

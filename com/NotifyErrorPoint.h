@@ -19,6 +19,7 @@ public:
     explicit NotifyErrorPoint(CRtfDriverObject& driver) noexcept : driver_(driver) {}
     NotifyErrorPoint(const NotifyErrorPoint&) = delete;
     NotifyErrorPoint& operator=(const NotifyErrorPoint&) = delete;
+    ~NotifyErrorPoint();
 
     STDMETHODIMP QueryInterface(REFIID interfaceId, void** object) override;
     STDMETHODIMP_(ULONG) AddRef() override;

@@ -37,7 +37,10 @@ Value doubleOf(const VARIANT& value) {
 
 Value pointedTo(const VARIANT& reference) {
     if (V_VT(&reference) == (VT_BYREF | VT_VARIANT)) {
-        return valueOf(V_VARIANTREF(&reference));
+        // A reference to a reference is none that automation knows, and could lead in a circle.
+        const VARIANT* value = V_VARIANTREF(&reference);
+        const bool isValue = value && V_VT(value) != (VT_BYREF | VT_VARIANT);
+        return isValue ? valueOf(*value) : Value(Null{});
     }
     Copy value;
     const HRESULT result = VariantCopyInd(value.get(), const_cast<VARIANT*>(&reference));

@@ -31,7 +31,7 @@ const CreatableClass creatableClasses[] = {
 };
 
 constexpr const wchar_t* programIdVersion = L".1";
-constexpr const wchar_t* userClasses = L"Software\\Classes";
+constexpr const wchar_t* classesOfAPart = L"Software\\Classes";
 
 /// A value of the registry; an empty name is the key's own value.
 struct Entry {
@@ -120,12 +120,25 @@ HRESULT registerClasses(const std::wstring& path) {
     return S_OK;
 }
 
+constexpr bool is32Bit = sizeof(void*) == 4;
+
+bool isThere(const std::wstring& key, REGSAM view = 0) {
+    Key found;
+    return RegOpenKeyExW(HKEY_CLASSES_ROOT, key.c_str(), 0, KEY_READ | view, found.out()) ==
+           ERROR_SUCCESS;
+}
+
+/// 32-bit and 64-bit programs have classes of their own, but the programs' identifiers in common:
+/// those of a class go with its last registration.
 HRESULT unregisterClasses() {
+    constexpr REGSAM otherKind = is32Bit ? KEY_WOW64_64KEY : KEY_WOW64_32KEY;
     bool allRemoved = true;
     for (const CreatableClass& each : creatableClasses) {
-        const std::wstring programId = each.programId;
-        for (const std::wstring& key : {programId, programId + programIdVersion, classKey(each)}) {
-            allRemoved = remove(key) && allRemoved;
+        allRemoved = remove(classKey(each)) && allRemoved;
+        if (!isThere(classKey(each), otherKind)) {
+            const std::wstring programId = each.programId;
+            allRemoved = remove(programId) && allRemoved;
+            allRemoved = remove(programId + programIdVersion) && allRemoved;
         }
     }
     return allRemoved ? S_OK : SELFREG_E_CLASS;
@@ -139,13 +152,7 @@ HRESULT registerTypeLibrary(const std::wstring& path) {
     return isRegistered ? S_OK : SELFREG_E_TYPELIB;
 }
 
-bool isThere(const std::wstring& key) {
-    Key found;
-    return RegOpenKeyExW(HKEY_CLASSES_ROOT, key.c_str(), 0, KEY_READ, found.out()) == ERROR_SUCCESS;
-}
-
 HRESULT unregisterTypeLibrary() {
-    constexpr bool is32Bit = sizeof(void*) == 4;
     UnRegisterTypeLib(LIBID_Quorvane, 1, 0, LOCALE_NEUTRAL, is32Bit ? SYS_WIN32 : SYS_WIN64);
     const std::wstring key =
         L"TypeLib\\" + textOf(LIBID_Quorvane) + L"\\1.0\\0\\" + (is32Bit ? L"win32" : L"win64");
@@ -165,16 +172,36 @@ void removeWhenEmpty(HKEY parent, const wchar_t* name) {
     }
 }
 
-/// As long as it lives, what is registered for the machine goes to the current user's part of the
-/// registry, which needs no rights.
-class UserClasses {
+/// As long as it lives, what is registered goes to the machine's part of the registry, which takes
+/// an administrator's rights, or to the current user's part, which needs none. Without it, it would
+/// go to the user's part where there is something already, and to the machine's elsewhere.
+class RedirectedClasses {
 public:
-    UserClasses() {
-        isRedirected_ =
-            RegCreateKeyExW(HKEY_CURRENT_USER, userClasses, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr,
-                            classes_.out(), nullptr) == ERROR_SUCCESS &&
-            RegOverridePredefKey(HKEY_CLASSES_ROOT, classes_.get()) == ERROR_SUCCESS;
-        // Makes the system register type libraries there too; systems that do not need it lack it.
+    explicit RedirectedClasses(RegisteredFor whom) : whom_(whom) {
+        const HKEY part = whom == RegisteredFor::User ? HKEY_CURRENT_USER : HKEY_LOCAL_MACHINE;
+        isRedirected_ = RegCreateKeyExW(part, classesOfAPart, 0, nullptr, 0, KEY_ALL_ACCESS,
+                                        nullptr, classes_.out(), nullptr) == ERROR_SUCCESS &&
+                        RegOverridePredefKey(HKEY_CLASSES_ROOT, classes_.get()) == ERROR_SUCCESS;
+        if (whom == RegisteredFor::User) {
+            registerTypeLibrariesForTheUser();
+        }
+    }
+    RedirectedClasses(const RedirectedClasses&) = delete;
+    RedirectedClasses& operator=(const RedirectedClasses&) = delete;
+    ~RedirectedClasses() {
+        if (isRedirected_) {
+            RegOverridePredefKey(HKEY_CLASSES_ROOT, nullptr);
+        }
+        if (whom_ == RegisteredFor::User) {
+            removeWhenEmpty(HKEY_CURRENT_USER, classesOfAPart);
+        }
+    }
+
+    bool isRedirected() const noexcept { return isRedirected_; }
+
+private:
+    /// Systems that do not need to be told lack the function.
+    static void registerTypeLibrariesForTheUser() noexcept {
         using Enable = void(STDAPICALLTYPE*)();
         const HMODULE automation = GetModuleHandleW(L"oleaut32.dll");
         const auto address =
@@ -183,18 +210,8 @@ public:
             reinterpret_cast<Enable>(reinterpret_cast<void*>(address))();
         }
     }
-    UserClasses(const UserClasses&) = delete;
-    UserClasses& operator=(const UserClasses&) = delete;
-    ~UserClasses() {
-        if (isRedirected_) {
-            RegOverridePredefKey(HKEY_CLASSES_ROOT, nullptr);
-        }
-        removeWhenEmpty(HKEY_CURRENT_USER, userClasses);
-    }
 
-    bool isRedirected() const noexcept { return isRedirected_; }
-
-private:
+    RegisteredFor whom_;
     Key classes_;
     bool isRedirected_ = false;
 };
@@ -203,11 +220,8 @@ private:
 template <class Body>
 HRESULT inRegistry(RegisteredFor whom, Body body) noexcept {
     try {
-        if (whom == RegisteredFor::Machine) {
-            return body();
-        }
-        const UserClasses user;
-        return user.isRedirected() ? body() : SELFREG_E_CLASS;
+        const RedirectedClasses classes(whom);
+        return classes.isRedirected() ? body() : SELFREG_E_CLASS;
     } catch (const std::bad_alloc&) {
         return E_OUTOFMEMORY;
     }

@@ -7,8 +7,10 @@
 namespace quorvane {
 
 /// The language that a text is written in, judged by its beginning, some thousand bytes of which
-/// are enough: RTF begins with a brace and a backslash, a description has lines of the description
-/// language, a stylesheet has braces. A text that is nothing of all this counts as a description.
+/// are enough: RTF begins with a brace and a backslash, a description with a parenthesis and a
+/// stylesheet with a brace, blank lines and comments aside. Where something else stands first, it
+/// is a stylesheet when it has more braces than lines of the description language, and otherwise a
+/// description.
 CheckedLanguage languageOf(std::string_view beginning);
 
 }  // namespace quorvane

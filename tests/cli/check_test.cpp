@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <stdlib.h>
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <cstdlib>
@@ -12,6 +13,7 @@
 #include <nlohmann/json.hpp>
 #include <ostream>
 #include <string>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -71,6 +73,16 @@ TEST_F(CheckTest, SaysNothingOfWhatIsRight) {
     EXPECT_EQ(result.output, "");
     EXPECT_EQ(result.errors, "");
     EXPECT_EQ(result.status, 0);
+}
+
+TEST_F(CheckTest, ReadsAPipeOnce) {
+    const std::string pipe = folder / "pipe";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    std::thread writer([&pipe] { std::ofstream(pipe) << descriptionWithBadColour; });
+    const ProgramResult result = run({"pipe"});
+    writer.join();
+    EXPECT_THAT(result.output, StartsWith("pipe:3:5: error: crimson isn't a recognized color."));
+    EXPECT_EQ(result.status, 1);
 }
 
 TEST_F(CheckTest, EndsWith3WhereThereAreWarningsOnly) {

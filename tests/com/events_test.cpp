@@ -240,6 +240,48 @@ TEST_F(Events, MayReleaseTheDriver) {
     EXPECT_EQ(component_.canUnloadNow(), S_OK);
 }
 
+TEST_F(Events, LetASinkComeBackToADriverThatEnds) {
+    /// Keeps a driver that it does not count, as one that the driver keeps itself must.
+    class Returning : public ComObject<IDispatch> {
+    public:
+        Returning(_CRtfDriver* driver, IConnectionPoint* point, HRESULT& outcome)
+            : driver_(driver), point_(point), outcome_(outcome) {}
+        ~Returning() override {
+            driver_->AddRef();
+            outcome_ = point_->Unadvise(1);
+            driver_->Release();
+        }
+        HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+        HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override {
+            return E_NOTIMPL;
+        }
+        HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override {
+            return E_NOTIMPL;
+        }
+        HRESULT STDMETHODCALLTYPE Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*,
+                                         EXCEPINFO*, UINT*) override {
+            return S_OK;
+        }
+
+    private:
+        _CRtfDriver* driver_;
+        IConnectionPoint* point_;
+        HRESULT& outcome_;
+    };
+    DWORD cookie = 0;
+    HRESULT outcome = S_OK;
+    IConnectionPoint* uncounted = point().get();
+    ASSERT_EQ(
+        uncounted->Advise(makeCom<Returning>(driver_.get(), uncounted, outcome).get(), &cookie),
+        S_OK);
+    ASSERT_EQ(cookie, 1U);
+
+    driver_.reset();
+
+    EXPECT_EQ(outcome, CONNECT_E_NOCONNECTION);
+    EXPECT_EQ(component_.canUnloadNow(), S_OK);
+}
+
 TEST_F(Events, DoNotCareWhatASinkAnswers) {
     int count = 0;
     const EventConnection failing(driver_.get(),

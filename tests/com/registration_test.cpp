@@ -181,6 +181,40 @@ TEST_F(Registration, LeavesTheRegistryOfTheProcessAsItWas) {
     RegCloseKey(key);
 }
 
+TEST_F(Registration, ForTheMachineLeavesTheUsersAlone) {
+    EXPECT_EQ(install(component_, true, L"user"), S_OK);
+    const ClassRegistry forUser = classRegistry();
+
+    EXPECT_EQ(component_.call("DllRegisterServer"), S_OK);
+    EXPECT_TRUE(classRegistry().user == forUser.user);
+    EXPECT_EQ(component_.call("DllUnregisterServer"), S_OK);
+
+    EXPECT_TRUE(classRegistry().user == forUser.user);
+    EXPECT_EQ(install(component_, false, L"user"), S_OK);
+}
+
+#ifdef _WIN64
+TEST_F(Registration, LeavesItsNamesToAComponentFor32Bits) {
+    const std::wstring otherClass =
+        L"Software\\Classes\\Wow6432Node\\CLSID\\{1811CD11-270D-4B00-A52C-4047F643EAB9}";
+    HKEY key = nullptr;
+    ASSERT_EQ(RegCreateKeyExW(HKEY_LOCAL_MACHINE, otherClass.c_str(), 0, nullptr, 0, KEY_WRITE,
+                              nullptr, &key, nullptr),
+              ERROR_SUCCESS);
+    RegCloseKey(key);
+    EXPECT_EQ(component_.call("DllRegisterServer"), S_OK);
+
+    EXPECT_EQ(component_.call("DllUnregisterServer"), S_OK);
+
+    CLSID id;
+    EXPECT_EQ(classOf(L"Quorvane.CRtfDoc", id), S_OK);
+    EXPECT_EQ(classOf(L"Quorvane.CRtfDriver", id), CO_E_CLASSSTRING);
+    EXPECT_EQ(RegDeleteKeyW(HKEY_LOCAL_MACHINE, otherClass.c_str()), ERROR_SUCCESS);
+    EXPECT_EQ(component_.call("DllUnregisterServer"), S_OK);
+    EXPECT_EQ(classOf(L"Quorvane.CRtfDoc", id), CO_E_CLASSSTRING);
+}
+#endif
+
 TEST_F(Registration, LetsHostsMakeObjectsByName) {
     ComPtr<IDispatch> object;
     CLSID id;
