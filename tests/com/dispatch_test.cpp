@@ -322,6 +322,63 @@ TEST_F(Dispatch, TakesTypedVariables) {
     SysFreeString(text);
 }
 
+TEST_F(Dispatch, TakesPositionsOfEveryNumericType) {
+    addRows(3);
+    VARIANT single{};
+    single.vt = VT_R4;
+    single.fltVal = 2.0F;
+    const Variant seconds[] = {Variant(short{2}),
+                               Variant(2L),
+                               Variant(2.0),
+                               Variant(single),
+                               Variant::ofType(VT_I1, 2),
+                               Variant::ofType(VT_UI1, 2),
+                               Variant::ofType(VT_UI2, 2),
+                               Variant::ofType(VT_UI4, 2),
+                               Variant::ofType(VT_I8, 2),
+                               Variant::ofType(VT_UI8, 2),
+                               Variant::ofType(VT_INT, 2),
+                               Variant::ofType(VT_UINT, 2),
+                               currency(20000),
+                               decimal(2)};
+    for (const Variant& position : seconds) {
+        const Outcome found = rows_.get("Item", {position});
+        ASSERT_TRUE(found.succeeded()) << position.type();
+        EXPECT_EQ(LateBound(found.value.object()).get("TopBorder").value.number(), 2)
+            << position.type();
+    }
+}
+
+TEST_F(Dispatch, RefusesWhatIsNeitherPositionNorKey) {
+    addRows(2);
+    const Variant others[] = {Variant::null(),
+                              Variant(true),
+                              Variant(document_.get()),
+                              Variant(static_cast<IDispatch*>(nullptr)),
+                              Variant::ofType(VT_DATE, 0),
+                              Variant::ofType(VT_ERROR, E_FAIL)};
+    for (const Variant& other : others) {
+        EXPECT_EQ(rows_.get("Item", {other}).error.number, runTimeError(13)) << other.type();
+        EXPECT_EQ(rows_.call("Remove", {other}).error.number, runTimeError(13)) << other.type();
+        EXPECT_EQ(rows_.call("AddTail", {other}).error.number, runTimeError(13)) << other.type();
+    }
+    EXPECT_EQ(order(), (std::vector<long>{1, 2}));
+}
+
+TEST_F(Dispatch, RefusesAVariableThatRefersToItself) {
+    addRows(1);
+    VARIANT circle{};
+    circle.vt = VT_BYREF | VT_VARIANT;
+    circle.pvarVal = &circle;
+    DISPPARAMS parameters = {&circle, nullptr, 1, 0};
+
+    EXPECT_EQ(rows_.get()->Invoke(rows_.idOf("Remove"), IID_NULL, LOCALE_USER_DEFAULT,
+                                  DISPATCH_METHOD, &parameters, nullptr, nullptr, nullptr),
+              DISP_E_EXCEPTION);
+
+    EXPECT_EQ(order(), std::vector<long>{1});
+}
+
 TEST_F(Dispatch, CountsArguments) {
     EXPECT_EQ(document_.call("Refresh", {1}).error.number, DISP_E_BADPARAMCOUNT);
     EXPECT_EQ(document_.call("Commit").error.number, DISP_E_BADPARAMCOUNT);

@@ -349,6 +349,16 @@ TEST_F(Events, RefuseWhatIsNoConnection) {
     EXPECT_EQ(point()->Advise(makeCom<Deaf>().get(), nullptr), E_POINTER);
 }
 
+TEST_F(Events, NeedAPlaceForEveryAnswer) {
+    const ComPtr<IConnectionPointContainer> container = driver_.as<IConnectionPointContainer>();
+    EXPECT_EQ(container->EnumConnectionPoints(nullptr), E_POINTER);
+    EXPECT_EQ(container->FindConnectionPoint(__uuidof(__CRtfDriver), nullptr), E_POINTER);
+    EXPECT_EQ(point()->GetConnectionInterface(nullptr), E_POINTER);
+    EXPECT_EQ(point()->GetConnectionPointContainer(nullptr), E_POINTER);
+    EXPECT_EQ(point()->EnumConnections(nullptr), E_POINTER);
+    EXPECT_EQ(point()->QueryInterface(IID_IUnknown, nullptr), E_POINTER);
+}
+
 TEST_F(Events, NeverUseANumberOfAConnectionTwice) {
     int count = 0;
     DWORD first = 0;
