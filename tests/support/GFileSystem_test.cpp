@@ -141,15 +141,15 @@ TEST_F(GFileSystemTest, SavingStartsAtTheFirstByteOfALongerFileAndLeavesItsTail)
 }
 
 TEST_F(GFileSystemTest, ALargeTextIsWrittenInBlocks) {
-    const std::string text(150000, 'x');
+    const std::string text(600000, 'x');
 
     EXPECT_EQ(saved(text), text);
-    EXPECT_THAT(platform.operations, ElementsAre("createFile a.rtf", "write 65536", "write 65536",
-                                                 "write 18928", "close a.rtf"));
+    EXPECT_THAT(platform.operations, ElementsAre("createFile a.rtf", "write 262144", "write 262144",
+                                                 "write 75712", "close a.rtf"));
 }
 
 TEST_F(GFileSystemTest, ATextOfOneBlockIsWrittenAtOnce) {
-    const std::string text(65536, 'x');
+    const std::string text(262144, 'x');
 
     EXPECT_EQ(saved(text), text);
     EXPECT_EQ(platform.count("write"), 1U);
@@ -160,7 +160,7 @@ TEST_F(GFileSystemTest, ACharacterAtTheBorderOfABlockIsNotCut) {
     const std::vector<std::string> encoded{"\xE9", "\x80", "?"};
 
     for (std::size_t i = 0; i < characters.size(); ++i) {
-        for (std::size_t bytesBefore = 65536 - 5; bytesBefore <= 65536 + 1; ++bytesBefore) {
+        for (std::size_t bytesBefore = 262144 - 5; bytesBefore <= 262144 + 1; ++bytesBefore) {
             const std::string before(bytesBefore, 'x');
             EXPECT_TRUE(saved(before + characters[i] + "yz") == before + encoded[i] + "yz")
                 << "character " << i << " after " << bytesBefore;
@@ -172,7 +172,7 @@ TEST_F(GFileSystemTest, ACharacterAtTheBorderOfABlockIsNotCut) {
 TEST_F(GFileSystemTest, CharactersAtEveryBorderAreNotCut) {
     std::string text;
     std::string expected;
-    for (int i = 0; i < 100000; ++i) {
+    for (int i = 0; i < 400000; ++i) {
         text += "\xE2\x82\xAC";
         expected += '\x80';
     }
@@ -181,7 +181,7 @@ TEST_F(GFileSystemTest, CharactersAtEveryBorderAreNotCut) {
 }
 
 TEST_F(GFileSystemTest, BytesThatAreNoTextAreWrittenAsQuestionMarksAcrossTheBorder) {
-    EXPECT_TRUE(saved(std::string(200000, '\x80')) == std::string(200000, '?'));
+    EXPECT_TRUE(saved(std::string(800000, '\x80')) == std::string(800000, '?'));
 }
 
 TEST_F(GFileSystemTest, SavingAbsorbsAFailureOfEachStep) {
@@ -203,9 +203,9 @@ TEST_F(GFileSystemTest, SavingAbsorbsAFailureOfEachStep) {
 TEST_F(GFileSystemTest, WhatWasWrittenBeforeAFailureStays) {
     platform.fail("write", RunTimeError::DiskFull, 1);
 
-    GFileSystem::saveString(errors, "a.rtf", std::string(100000, 'x'));
+    GFileSystem::saveString(errors, "a.rtf", std::string(400000, 'x'));
 
-    EXPECT_EQ(platform.files.at("a.rtf").size(), 65536U);
+    EXPECT_EQ(platform.files.at("a.rtf").size(), 262144U);
     EXPECT_EQ(absorbed.at(0).error.number, 61);
 }
 
