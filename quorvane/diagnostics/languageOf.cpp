@@ -14,7 +14,8 @@ namespace {
 
 /// What the first line tells that is neither blank nor a comment. Texts of a description may hold
 /// more braces than a stylesheet does, so that counting alone would not do.
-std::optional<CheckedLanguage> languageOfFirstLine(std::string_view text) {
+std::optional<CheckedLanguage> languageOfFirstLine(std::string_view text,
+                                                   const Vocabulary& vocabulary) {
     const SourceText source(text);
     for (const SourceText::Line& bounds : source.lines()) {
         const std::string_view line =
@@ -22,7 +23,7 @@ std::optional<CheckedLanguage> languageOfFirstLine(std::string_view text) {
         if (line.empty() || line.starts_with(';')) {
             continue;
         }
-        if (line.starts_with('(')) {
+        if (isLeaf(line) || openedKind(line, vocabulary) != NodeKind::None) {
             return CheckedLanguage::Description;
         }
         if (line.starts_with('{')) {
@@ -41,12 +42,12 @@ CheckedLanguage languageOf(std::string_view beginning) {
     if (trimWhitespace(text).starts_with("{\\")) {
         return CheckedLanguage::Rtf;
     }
-    if (const auto language = languageOfFirstLine(text)) {
+    const Vocabulary vocabulary;
+    if (const auto language = languageOfFirstLine(text, vocabulary)) {
         return *language;
     }
     const auto braces = std::count(text.begin(), text.end(), '{');
     std::ptrdiff_t descriptionLines = 0;
-    const Vocabulary vocabulary;
     const SourceText source(text);
     for (const SourceText::Line& bounds : source.lines()) {
         const std::string_view line =

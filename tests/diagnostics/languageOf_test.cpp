@@ -28,6 +28,7 @@ TEST(LanguageOf, IsRtfWhereABraceAndABackslashStandFirst) {
 
 TEST(LanguageOf, GoesByTheCountWhereSomethingElseStandsFirst) {
     EXPECT_EQ(languageOf("Styles { name: a } { name: b }"), CheckedLanguage::StyleSheet);
+    EXPECT_EQ(languageOf("(c) 2025 The printers\n{ name: a }"), CheckedLanguage::StyleSheet);
     EXPECT_EQ(languageOf("A list\n(doc\n(r\n"), CheckedLanguage::Description);
     EXPECT_EQ(languageOf(""), CheckedLanguage::Description);
 }
