@@ -79,6 +79,7 @@ TEST(DescriptionCheck, TakesAFieldWithoutInstructionForHarmless) {
     EXPECT_THAT(found("(doc\n(r\n(c\n(p\n(pt={\\field{\\*\\fldinst { }}{\\fldrslt a}})\np)\nc)\n"
                       "r)\ndoc)\n"),
                 ElementsAre());
+    EXPECT_THAT(found("(doc\n(r\n(c\n(p\n(pt=a\\fldinst)\np)\nc)\nr)\ndoc)\n"), ElementsAre());
 }
 
 TEST(DescriptionCheck, SaysToWhichNodeAKeyBelongs) {
