@@ -10,7 +10,7 @@ namespace {
 
 std::string fixed(double value, int digits) {
     char text[32];
-    std::snprintf(text, sizeof text, "%.*f", digits, value);
+    static_cast<void>(std::snprintf(text, sizeof text, "%.*f", digits, value));
     return text;
 }
 
@@ -25,7 +25,7 @@ void SizeTable::ReportRuns(const std::vector<Run>& runs) {
             continue;
         }
         const std::string& name = run.run_name.function_name;
-        const auto size = static_cast<std::int64_t>(std::atoll(run.run_name.args.c_str()));
+        const auto size = std::int64_t{std::strtoll(run.run_name.args.c_str(), nullptr, 10)};
         if (times_.find(name) == times_.end()) {
             names_.push_back(name);
         }

@@ -157,7 +157,8 @@ public:
         check(CoCreateInstance(scriptEngine, nullptr, CLSCTX_INPROC_SERVER, IID_IActiveScript,
                                reinterpret_cast<void**>(&engine_)),
               "there is no script engine");
-        check(engine_->QueryInterface(__uuidof(IActiveScriptParse), reinterpret_cast<void**>(&parse_)),
+        check(engine_->QueryInterface(__uuidof(IActiveScriptParse),
+                                      reinterpret_cast<void**>(&parse_)),
               "the engine takes no text");
         check(parse_->InitNew(), "the engine does not start");
         check(engine_->SetScriptSite(this), "the engine takes no host");
@@ -285,7 +286,7 @@ void measureAll(const char* component) {
 
 int main(int argc, char** argv) {
     if (argc != 2) {
-        std::fprintf(stderr, "usage: %s COMPONENT\n", argv[0]);
+        static_cast<void>(std::fprintf(stderr, "usage: %s COMPONENT\n", argv[0]));
         return 2;
     }
     CoInitialize(nullptr);
@@ -293,7 +294,7 @@ int main(int argc, char** argv) {
     try {
         quorvane::bench::measureAll(argv[1]);
     } catch (const std::exception& error) {
-        std::fprintf(stderr, "%s\n", error.what());
+        static_cast<void>(std::fprintf(stderr, "%s\n", error.what()));
         status = 1;
     }
     CoUninitialize();

@@ -17,7 +17,7 @@ bool readWhole(const std::string& path, std::string& bytes) {
     for (std::size_t count = 0; (count = std::fread(block, 1, sizeof block, file)) > 0;) {
         bytes.append(block, count);
     }
-    std::fclose(file);
+    static_cast<void>(std::fclose(file));
     return true;
 }
 
@@ -34,17 +34,17 @@ bool writeWhole(const std::string& path, const std::string& bytes) {
 
 int main(int argc, char** argv) {
     if (argc < 4) {
-        std::fprintf(stderr, "usage: %s SIZE FOLDER FILE...\n", argv[0]);
+        static_cast<void>(std::fprintf(stderr, "usage: %s SIZE FOLDER FILE...\n", argv[0]));
         return 2;
     }
-    const std::string document(static_cast<std::size_t>(std::atol(argv[1])), 'x');
-    const std::string folder = argv[2];
+    const std::string document(static_cast<std::size_t>(std::strtol(argv[1], nullptr, 10)), 'x');
+    const std::string folder = std::string(argv[2]) + "/";
     std::string bytes;
     for (int i = 3; i < argc; ++i) {
         const std::string path = argv[i];
-        const std::string name = path.substr(path.rfind('/') + 1);
-        if (!readWhole(path, bytes) || !writeWhole(folder + "/" + name, document)) {
-            std::fprintf(stderr, "cannot copy %s\n", path.c_str());
+        const std::string target = folder + path.substr(path.rfind('/') + 1);
+        if (!readWhole(path, bytes) || !writeWhole(target, document)) {
+            static_cast<void>(std::fprintf(stderr, "cannot copy %s\n", path.c_str()));
             return 1;
         }
     }

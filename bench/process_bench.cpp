@@ -95,7 +95,7 @@ public:
             "- %s: %.2f in processor time (%.2f and %.2f ms), %.2f on the clock (%.2f and "
             "%.2f ms)\n",
             what, ourWork / theirWork, ourWork, theirWork, ourTime / theirTime, ourTime, theirTime);
-        std::fflush(stdout);
+        static_cast<void>(std::fflush(stdout));
         return our.front();
     }
 
@@ -214,7 +214,7 @@ void compareAll(const fs::path& programs, const fs::path& examples, const fs::pa
 int main(int argc, char** argv) {
     namespace fs = std::filesystem;
     if (argc != 3) {
-        std::fprintf(stderr, "usage: %s PROGRAMS EXAMPLES\n", argv[0]);
+        static_cast<void>(std::fprintf(stderr, "usage: %s PROGRAMS EXAMPLES\n", argv[0]));
         return 2;
     }
     const fs::path folder =
@@ -224,7 +224,7 @@ int main(int argc, char** argv) {
     try {
         quorvane::bench::compareAll(argv[1], argv[2], folder);
     } catch (const std::exception& error) {
-        std::fprintf(stderr, "%s\n", error.what());
+        static_cast<void>(std::fprintf(stderr, "%s\n", error.what()));
         status = 1;
     }
     fs::remove_all(folder);

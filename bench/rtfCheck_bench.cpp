@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr std::size_t pieceLength = 1024 * 1024;
+constexpr std::size_t pieceLength = std::size_t{1024} * 1024;
 constexpr double megabyte = 1e6;
 constexpr std::size_t leastBytes = 400000000;
 

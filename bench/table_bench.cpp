@@ -13,10 +13,10 @@
 
 int main(int argc, char** argv) {
     if (argc < 3) {
-        std::fprintf(stderr, "usage: %s ROWS FILE [emitter]\n", argv[0]);
+        static_cast<void>(std::fprintf(stderr, "usage: %s ROWS FILE [emitter]\n", argv[0]));
         return 2;
     }
-    const auto rows = static_cast<std::int32_t>(std::atoi(argv[1]));
+    const auto rows = static_cast<std::int32_t>(std::strtol(argv[1], nullptr, 10));
     const std::string path = argv[2];
     try {
         if (argc > 3 && std::string_view(argv[3]) == "emitter") {
@@ -27,7 +27,7 @@ int main(int argc, char** argv) {
             quorvane::bench::standardDocument(rows)->Commit(path);
         }
     } catch (const std::exception& error) {
-        std::fprintf(stderr, "%s\n", error.what());
+        static_cast<void>(std::fprintf(stderr, "%s\n", error.what()));
         return 1;
     }
     return 0;

@@ -20,7 +20,7 @@ namespace quorvane::cli {
 
 namespace {
 
-constexpr std::size_t pieceLength = 1024 * 1024;
+constexpr std::size_t pieceLength = std::size_t{1024} * 1024;
 
 /// The next bytes of a stream; empty at its end.
 std::string readPiece(std::istream& stream) {

@@ -44,7 +44,7 @@ public:
     }
 
 private:
-    static constexpr std::size_t enough = 64 * 1024;
+    static constexpr std::size_t enough = std::size_t{64} * 1024;
 
     void flush() {
         output_->write(gathered_);

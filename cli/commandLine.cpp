@@ -47,11 +47,14 @@ Exit status:
   2  wrong usage, or a file that cannot be read
   3  there are warnings and no errors)";
 
-const std::map<std::string, FindingsForm> findingsForms = {
-    {"text", FindingsForm::Text},
-    {"json", FindingsForm::Json},
-    {"sarif", FindingsForm::Sarif},
-};
+const std::map<std::string, FindingsForm>& findingsForms() {
+    static const std::map<std::string, FindingsForm> forms = {
+        {"text", FindingsForm::Text},
+        {"json", FindingsForm::Json},
+        {"sarif", FindingsForm::Sarif},
+    };
+    return forms;
+}
 
 constexpr const char* formatFooter =
     R"(A file is a description or a stylesheet by its content; - is standard input,
@@ -63,16 +66,22 @@ Exit status:
   1  with --check: there are files that are not in their canonical form
   2  wrong usage, or a file that cannot be read, formatted or written)";
 
-const std::map<std::string, NameForm> nameForms = {
-    {"keep", NameForm::Kept},
-    {"long", NameForm::Long},
-    {"short", NameForm::Short},
-};
+const std::map<std::string, NameForm>& nameForms() {
+    static const std::map<std::string, NameForm> forms = {
+        {"keep", NameForm::Kept},
+        {"long", NameForm::Long},
+        {"short", NameForm::Short},
+    };
+    return forms;
+}
 
-const std::map<std::string, DiagnosticsForm> diagnosticsForms = {
-    {"text", DiagnosticsForm::Text},
-    {"json", DiagnosticsForm::Json},
-};
+const std::map<std::string, DiagnosticsForm>& diagnosticsForms() {
+    static const std::map<std::string, DiagnosticsForm> forms = {
+        {"text", DiagnosticsForm::Text},
+        {"json", DiagnosticsForm::Json},
+    };
+    return forms;
+}
 
 // The parser takes an argument in brackets for a list of several, and loses what comes after "--"
 // behind the first description. Begun with a byte that no argument can hold, an argument is a name
@@ -121,14 +130,14 @@ CLI::callback_t storeIn(std::vector<std::string>& target) {
 
 CLI::callback_t storeIn(DiagnosticsForm& target) {
     return [&target](const CLI::results_t& results) {
-        target = diagnosticsForms.at(results.front());
+        target = diagnosticsForms().at(results.front());
         return true;
     };
 }
 
 CLI::callback_t storeIn(FindingsForm& target) {
     return [&target](const CLI::results_t& results) {
-        target = findingsForms.at(results.front());
+        target = findingsForms().at(results.front());
         return true;
     };
 }
@@ -151,7 +160,7 @@ CLI::App* addCheckCommand(CLI::App& app, CheckOptions& options) {
         ->add_option("--diagnostics", storeIn(options.form),
                      "Tell findings as text, as JSON objects or as a SARIF log")
         ->type_name("text|json|sarif")
-        ->check(CLI::IsMember(findingsForms).description(""));
+        ->check(CLI::IsMember(findingsForms()).description(""));
     check->add_option("--explain", storeIn(options.explained), "Explain a diagnostic")
         ->type_name("IDENTIFIER")
         ->excludes("FILE");
@@ -160,7 +169,7 @@ CLI::App* addCheckCommand(CLI::App& app, CheckOptions& options) {
 
 CLI::callback_t storeIn(NameForm& target) {
     return [&target](const CLI::results_t& results) {
-        target = nameForms.at(results.front());
+        target = nameForms().at(results.front());
         return true;
     };
 }
@@ -180,7 +189,7 @@ CLI::App* addFormatCommand(CLI::App& app, FormatOptions& options) {
         ->add_option("--names", storeIn(options.names),
                      "Write the long or the short names of a description, or keep them")
         ->type_name("long|short|keep")
-        ->check(CLI::IsMember(nameForms).description(""));
+        ->check(CLI::IsMember(nameForms()).description(""));
     format->add_flag("--check", options.check,
                      "Change nothing; name the files that are not in their form");
     return format;
@@ -214,7 +223,7 @@ void addRenderCommand(CLI::App& app, RenderOptions& options) {
         ->add_option("--diagnostics", storeIn(options.diagnostics),
                      "Tell errors as text or as JSON objects")
         ->type_name("text|json")
-        ->check(CLI::IsMember(diagnosticsForms).description(""));
+        ->check(CLI::IsMember(diagnosticsForms()).description(""));
 }
 
 /// What is wrong with the arguments. The parser complains of what is missing first; where something

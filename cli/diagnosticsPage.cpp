@@ -110,6 +110,12 @@ std::string section(const DiagnosticRule& rule) {
     return text;
 }
 
+std::string tableLine(const DiagnosticRule& rule) {
+    const std::string name(rule.identifier);
+    return "| [" + name + "](#" + name + ") | " + std::string(severityName(rule.severity)) + " | " +
+           code(rule.text) + " |\n";
+}
+
 }  // namespace
 
 std::string diagnosticsPage() {
@@ -122,10 +128,7 @@ std::string diagnosticsPage() {
         sections += "## " + title + "\n\n";
         for (const DiagnosticRule& rule : diagnosticRules()) {
             if (rule.language == language) {
-                const std::string name(rule.identifier);
-                contents += "| [" + name + "](#" + name + ") | " +
-                            std::string(severityName(rule.severity)) + " | " + code(rule.text) +
-                            " |\n";
+                contents += tableLine(rule);
                 sections += section(rule);
             }
         }

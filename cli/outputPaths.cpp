@@ -92,6 +92,12 @@ bool wouldReplace(const fs::path& path) {
     return fs::is_regular_file(path, failure);
 }
 
+UsageError bothWouldGoTo(const std::string& output, const std::string& first,
+                         const std::string& second) {
+    return UsageError("the documents of " + first + " and " + second + " would both go to " +
+                      output);
+}
+
 }  // namespace
 
 std::vector<Assignment> assignOutputs(const RenderOptions& options) {
@@ -114,8 +120,7 @@ std::vector<Assignment> assignOutputs(const RenderOptions& options) {
         }
         const auto [other, isNew] = descriptionsByOutput.emplace(file, description);
         if (!isNew) {
-            throw UsageError("the documents of " + other->second + " and " + description +
-                             " would both go to " + output);
+            throw bothWouldGoTo(output, other->second, description);
         }
         assignments.push_back({description, output});
     }

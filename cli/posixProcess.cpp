@@ -63,8 +63,8 @@ extern "C" void removeUnfinishedFileAndEnd(int number) {
     if (unfinishedFile.front() != '\0') {
         ::unlink(unfinishedFile.data());
     }
-    ::signal(number, SIG_DFL);
-    ::raise(number);
+    static_cast<void>(::signal(number, SIG_DFL));
+    static_cast<void>(::raise(number));
 }
 
 void ignoreSignal(int number) {
@@ -281,7 +281,7 @@ void writeToStandardError(std::string_view text) noexcept {
 
 std::string readStandardInput() {
     std::string bytes;
-    std::array<char, 64 * 1024> block;
+    std::array<char, std::size_t{64} * 1024> block;
     while (true) {
         const ssize_t count = whenReady(STDIN_FILENO, POLLIN, [&block] {
             return ::read(STDIN_FILENO, block.data(), block.size());

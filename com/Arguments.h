@@ -135,18 +135,19 @@ private:
 };
 
 /// The answer of a member.
+template <bool isObject = false>
 class AnswerParameter {
 public:
     static constexpr bool isInput = false;
     static constexpr bool isRequired = false;
-    static constexpr bool answersObject = false;
+    static constexpr bool answersObject = isObject;
 
     HRESULT read(const Arguments&, UINT) noexcept { return S_OK; }
 };
 
 /// Answers a 32-bit number, or a value of an enumeration.
 template <class T>
-class Parameter<T*> : public AnswerParameter {
+class Parameter<T*> : public AnswerParameter<> {
 public:
     T* pass() noexcept { return &value_; }
     void answer(VARIANT* result) const noexcept {
@@ -161,7 +162,7 @@ private:
 };
 
 template <>
-class Parameter<VARIANT_BOOL*> : public AnswerParameter {
+class Parameter<VARIANT_BOOL*> : public AnswerParameter<> {
 public:
     VARIANT_BOOL* pass() noexcept { return &value_; }
     void answer(VARIANT* result) const noexcept {
@@ -176,7 +177,7 @@ private:
 };
 
 template <>
-class Parameter<BSTR*> : public AnswerParameter {
+class Parameter<BSTR*> : public AnswerParameter<> {
 public:
     BSTR* pass() noexcept { return &text_; }
     void answer(VARIANT* result) const noexcept {
@@ -194,17 +195,15 @@ private:
 
 /// Answers an object, or null.
 template <class Interface>
-class Parameter<Interface**> : public AnswerParameter {
+class Parameter<Interface**> : public AnswerParameter<std::is_base_of_v<IDispatch, Interface>> {
 public:
-    static constexpr bool answersObject = std::is_base_of_v<IDispatch, Interface>;
-
     Interface** pass() noexcept { return &object_; }
     void answer(VARIANT* result) const noexcept {
         if (!result) {
             if (object_) {
                 object_->Release();
             }
-        } else if constexpr (answersObject) {
+        } else if constexpr (Parameter::answersObject) {
             V_VT(result) = VT_DISPATCH;
             V_DISPATCH(result) = object_;
         } else {

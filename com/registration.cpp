@@ -5,6 +5,7 @@
 #include <oleauto.h>
 #include <olectl.h>
 
+#include <cstddef>
 #include <new>
 #include <string>
 #include <vector>
@@ -98,10 +99,10 @@ bool write(const Entry& entry) {
                         key.out(), nullptr) != ERROR_SUCCESS) {
         return false;
     }
-    const auto size = static_cast<DWORD>((entry.value.size() + 1) * sizeof(wchar_t));
+    const std::size_t size = (entry.value.size() + 1) * sizeof(wchar_t);
     return RegSetValueExW(key.get(), entry.name.empty() ? nullptr : entry.name.c_str(), 0, REG_SZ,
                           reinterpret_cast<const BYTE*>(entry.value.c_str()),
-                          size) == ERROR_SUCCESS;
+                          static_cast<DWORD>(size)) == ERROR_SUCCESS;
 }
 
 bool remove(const std::wstring& key) {

@@ -101,7 +101,7 @@ constexpr std::size_t roleSlots = 128;
 constexpr std::size_t firstSlot(std::string_view word) {
     const auto first = static_cast<unsigned char>(word.front());
     const auto last = static_cast<unsigned char>(word.back());
-    return (word.size() * 37 + first * 5U + last * 11U) % roleSlots;
+    return (word.size() * 37 + std::size_t{5} * first + std::size_t{11} * last) % roleSlots;
 }
 
 /// The words by what they begin and end with: nearly every look-up is one comparison or none.

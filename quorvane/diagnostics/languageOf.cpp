@@ -37,7 +37,7 @@ std::optional<CheckedLanguage> languageOfFirstLine(std::string_view text,
 }  // namespace
 
 CheckedLanguage languageOf(std::string_view beginning) {
-    constexpr std::size_t enough = 64 * 1024;
+    constexpr std::size_t enough = std::size_t{64} * 1024;
     const std::string_view text = beginning.substr(0, enough);
     if (trimWhitespace(text).starts_with("{\\")) {
         return CheckedLanguage::Rtf;

@@ -15,6 +15,8 @@ Borders::Borders(const Borders& other) noexcept : low_(other.low_), high_(other.
     }
 }
 
+// Counting up before letting go is right for an assignment to itself, too.
+// NOLINTNEXTLINE(cert-oop54-cpp)
 Borders& Borders::operator=(const Borders& other) noexcept {
     if (!other.isPacked()) {
         ++other.wide()->references;
@@ -64,6 +66,8 @@ void Borders::setBits(std::uint64_t bits) noexcept {
 }
 
 Borders::Wide* Borders::wide() const noexcept {
+    // The bits are those of a pointer that `set` put there.
+    // NOLINTNEXTLINE(performance-no-int-to-ptr)
     return reinterpret_cast<Wide*>(static_cast<std::uintptr_t>(bits()));
 }
 

@@ -20,7 +20,7 @@ Ref<CRtfParagraph> CRtfParagraphs::refile(const Ref<CRtfParagraph>& old, std::st
     clearCurrentError();
     TableDocument& owner = required(document());
     const std::size_t position = list_.requiredPositionOf(*old);
-    const Ref<CRtfParagraph> fresh = CRtfParagraph::create(cell_);
+    Ref<CRtfParagraph> fresh = CRtfParagraph::create(cell_);
     fresh->takeOver(*old);
     list_.replaceAt(position, fresh, key);
     owner.markChanged();

@@ -59,7 +59,7 @@ Ref<CRtfTableCell> CRtfTableCells::refile(const Ref<CRtfTableCell>& old, std::st
     clearCurrentError();
     TableDocument& owner = required(document());
     const std::size_t position = list_.requiredPositionOf(*old);
-    const Ref<CRtfTableCell> fresh = CRtfTableCell::create(row_);
+    Ref<CRtfTableCell> fresh = CRtfTableCell::create(row_);
     list_.replaceAt(position, fresh, key);
     fresh->takeOver(*old);
     owner.markChanged();

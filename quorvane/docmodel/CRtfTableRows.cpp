@@ -45,7 +45,7 @@ Ref<CRtfTableRow> CRtfTableRows::refile(const Ref<CRtfTableRow>& old, std::strin
     clearCurrentError();
     TableDocument& owner = required(document());
     const std::size_t position = list_.requiredPositionOf(*old);
-    const Ref<CRtfTableRow> fresh = CRtfTableRow::create(parent_);
+    Ref<CRtfTableRow> fresh = CRtfTableRow::create(parent_);
     list_.replaceAt(position, fresh, key);
     fresh->takeOver(*old);
     owner.markChanged();

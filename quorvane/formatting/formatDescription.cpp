@@ -101,7 +101,11 @@ private:
     }
 
     static std::string withComment(std::string text, std::string_view comment) {
-        return comment.empty() ? text : text + " " + std::string(comment);
+        if (!comment.empty()) {
+            text += ' ';
+            text += comment;
+        }
+        return text;
     }
 
     std::string formattedLeaf(std::string_view line) const {

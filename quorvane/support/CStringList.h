@@ -39,7 +39,8 @@ public:
 
         private:
             friend class Strings;
-            explicit Iterator(std::deque<Entry>::const_iterator position) : position_(position) {}
+            explicit Iterator(const std::deque<Entry>::const_iterator& position)
+                : position_(position) {}
             std::deque<Entry>::const_iterator position_;
         };
 

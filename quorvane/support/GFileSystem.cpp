@@ -17,7 +17,7 @@ constexpr const char* moduleName = "GFileSystem.bas";
 
 /// The text is encoded and written in pieces of this many bytes, so that a large document is never
 /// in memory twice.
-constexpr std::size_t blockSize = 256 * 1024;
+constexpr std::size_t blockSize = std::size_t{256} * 1024;
 
 /// A UTF-8 sequence has at most this many bytes after its first.
 constexpr std::size_t longestContinuation = 3;

@@ -285,6 +285,8 @@ private:
     static bool isBlock(Element* held) noexcept {
         return (reinterpret_cast<std::uintptr_t>(held) & 1U) != 0;
     }
+    // An element's lowest bit marks a block, which only the pointer as a number shows.
+    // NOLINTBEGIN(performance-no-int-to-ptr)
     static Block* blockOf(Element* held) noexcept {
         return reinterpret_cast<Block*>(reinterpret_cast<std::uintptr_t>(held) &
                                         ~std::uintptr_t{1});
@@ -294,6 +296,7 @@ private:
     void setBlock(Block* block) noexcept {
         only_ = reinterpret_cast<Element*>(reinterpret_cast<std::uintptr_t>(block) | 1U);
     }
+    // NOLINTEND(performance-no-int-to-ptr)
 
     KeyIndex<Element>& keyIndex() {
         if (!block()->keys) {

@@ -19,7 +19,8 @@ void preferLargePages(void* start, std::size_t length) noexcept {
     const std::uintptr_t first = (address + pageSize - 1) / pageSize * pageSize;
     const std::uintptr_t end = (address + length) / pageSize * pageSize;
     // It is a wish: without large pages everything works as well.
-    static_cast<void>(::madvise(reinterpret_cast<void*>(first), end - first, MADV_HUGEPAGE));
+    static_cast<void>(
+        ::madvise(static_cast<char*>(start) + (first - address), end - first, MADV_HUGEPAGE));
 }
 
 #else

@@ -22,7 +22,7 @@ namespace quorvane {
 namespace {
 
 constexpr int productNameResource = 8700;
-constexpr std::size_t bufferForUnknownSize = 64 * 1024;
+constexpr std::size_t bufferForUnknownSize = std::size_t{64} * 1024;
 
 /// An open file's descriptor, closed when nobody did.
 class Descriptor {
@@ -222,7 +222,7 @@ public:
     void showMessageBox(const std::string& text, int, const std::string& title) override {
         std::string lines = title + "\n" + text + "\n";
         std::erase(lines, '\r');
-        std::fwrite(lines.data(), 1, lines.size(), stderr);
+        static_cast<void>(std::fwrite(lines.data(), 1, lines.size(), stderr));
     }
 
     std::optional<std::string> resourceString(int id) override {

@@ -24,8 +24,8 @@ std::u32string utf16Units(std::string_view text) {
         const Utf8Character character = utf8CharacterAt(text, at);
         if (character.code >= firstSupplementary && character.code < strayByte) {
             const char32_t offset = character.code - firstSupplementary;
-            units += firstHighSurrogate + offset / surrogateCount;
-            units += firstLowSurrogate + offset % surrogateCount;
+            units.push_back(firstHighSurrogate + offset / surrogateCount);
+            units.push_back(firstLowSurrogate + offset % surrogateCount);
         } else {
             units += character.code;
         }

@@ -17,4 +17,9 @@ holds NX_COMPAT
 if printf '%s' "$headers" | grep -q 'PE32+'; then
     holds HIGH_ENTROPY_VA
 fi
+# Without them it can stand at no other address, whatever its flags say.
+if ! objdump -h "$file" | grep -q '[.]reloc'; then
+    echo "$file lacks relocations" >&2
+    failed=1
+fi
 exit $failed
