@@ -18,6 +18,7 @@ namespace quorvane::cli {
 namespace {
 
 constexpr std::int32_t outOfMemory = 7;
+constexpr std::size_t largestKeptDocument = 1024 * 1024;
 
 /// The library passes over a stylesheet with another extension and says nothing.
 void requireStyleSheetExtension(const std::string& name) {
@@ -80,8 +81,18 @@ ExitStatus RenderJob::readStyleSheet() {
 
 ExitStatus RenderJob::render(const Assignment& assignment) {
     try {
-        return DescriptionRendering(assignment, manner_, platform_, tell_).run();
+        if (!driver_) {
+            driver_ = CRtfDriver::create(platform_);
+        }
+        const ExitStatus status = DescriptionRendering(assignment, manner_, *driver_, tell_).run();
+        // The next document uses the memory of a small one again; that of a large one shall not
+        // stay beside it. After an error the next description begins anew.
+        if (status != ExitStatus::Success || driver_->Contents().size() > largestKeptDocument) {
+            driver_ = nullptr;
+        }
+        return status;
     } catch (const std::bad_alloc&) {
+        driver_ = nullptr;
         return fail(assignment.description, RtfError(outOfMemory, "Out of memory"));
     }
 }

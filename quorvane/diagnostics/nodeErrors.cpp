@@ -119,7 +119,7 @@ private:
             return;
         }
         const std::string value = valueText(leaf.value());
-        const Value key(leaf.key);
+        const std::string_view key = leaf.key;
         if (vocabulary_.isColorKey(key)) {
             if (!vocabulary_.colorNamed(leaf.value())) {
                 report(DiagnosticId::WrongColor, leaf, leaf.text, {value},

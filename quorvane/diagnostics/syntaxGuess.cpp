@@ -18,7 +18,7 @@ constexpr std::size_t nowhere = std::string_view::npos;
 constexpr std::string_view nodeNames[] = {"doc", "row", "cell", "para"};
 
 bool isKey(std::string_view word, const Vocabulary& vocabulary) {
-    const Value key(vocabulary.expand(word));
+    const std::string key = vocabulary.expand(word);
     for (const NodeKind kind : {NodeKind::Row, NodeKind::Cell, NodeKind::Para, NodeKind::Doc}) {
         if (vocabulary.isKeyOf(kind, key)) {
             return true;

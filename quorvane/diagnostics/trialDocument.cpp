@@ -1,8 +1,8 @@
 #include "quorvane/diagnostics/trialDocument.h"
 
-#include <memory>
 #include <string>
 
+#include "quorvane/driver/DescriptionTree.h"
 #include "quorvane/driver/DocumentBuilder.h"
 #include "quorvane/support/RtfError.h"
 
@@ -14,11 +14,11 @@ namespace {
 /// position among all leaves, from 1 on.
 class TrialTree {
 public:
-    explicit TrialTree(OutlineNode& doc) : root_(std::make_shared<DescriptionNode>(0)) {
-        copy(doc, *root_);
+    TrialTree(OutlineNode& doc, const Vocabulary& vocabulary) : vocabulary_(vocabulary) {
+        copy(doc, tree_.root());
     }
 
-    const DescriptionNode& root() const { return *root_; }
+    const DescriptionNode& root() const { return tree_.root(); }
     OutlineLeaf* leafAt(int number) const {
         const auto index = static_cast<std::size_t>(number) - 1;
         return index < leaves_.size() ? leaves_[index] : nullptr;
@@ -29,17 +29,21 @@ private:
         for (OutlineLeaf& leaf : node.leaves) {
             if (!leaf.isFaulty) {
                 leaves_.push_back(&leaf);
-                target.addLeaf(leaf.key, Leaf(leaf.value(), std::string(leaf.text),
-                                              static_cast<int>(leaves_.size())));
+                tree_.addLeaf(target, {.key = vocabulary_.leafKey(leaf.key),
+                                       .text = leaf.text,
+                                       .number = leaf.number.value_or(0),
+                                       .kind = leaf.number ? LeafKind::Number : LeafKind::Text,
+                                       .line = static_cast<int>(leaves_.size())});
             }
         }
         // No deeper than rows, cells and paragraphs.
         for (OutlineNode* child : builtChildren(node)) {
-            copy(*child, *AddNode(target, child->kind, child->number, 0));
+            copy(*child, tree_.AddNode(target, child->kind, child->number, 0));
         }
     }
 
-    std::shared_ptr<DescriptionNode> root_;
+    const Vocabulary& vocabulary_;
+    DescriptionTree tree_;
     std::vector<OutlineLeaf*> leaves_;
 };
 
@@ -74,7 +78,7 @@ Ref<CRtfDoc> buildTrialDocument(DescriptionOutline& outline, const SourceText& s
         if (styles && styles->areLoaded()) {
             document->LoadStyleSheetFromMemmory(styles->text());
         }
-        const TrialTree tree(*outline.doc);
+        const TrialTree tree(*outline.doc, vocabulary);
         try {
             DocumentBuilder(*document, vocabulary).build(tree.root());
             return document;

@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "quorvane/driver/DescriptionChecks.h"
-#include "quorvane/driver/DescriptionNode.h"
 #include "quorvane/driver/DescriptionReader.h"
+#include "quorvane/driver/DescriptionTree.h"
 #include "quorvane/driver/DocumentBuilder.h"
 #include "quorvane/driver/driverErrors.h"
 #include "quorvane/support/GFileSystem.h"
@@ -114,7 +114,6 @@ void CRtfDriver::setAbsorbedErrorObserver(GError::Observer observer) {
 void CRtfDriver::AnalyseData(std::string_view text) {
     // A handler of the event may let go of the driver.
     const Ref<CRtfDriver> self(this);
-    const auto root = std::make_shared<DescriptionNode>(0);
     std::vector<SourceLine> lines;
     document_->ClearStructure();
     step([&] {
@@ -136,13 +135,15 @@ void CRtfDriver::AnalyseData(std::string_view text) {
     if (erroneousInput_) {
         lines = repairLines(std::move(lines));
     }
-    step([&] { DescriptionReader(vocabulary_).treeWalkerBuild(root, lines); });
+    // Of the lines of a description about half are leaves; the others open and close nodes.
+    DescriptionTree tree(lines.size() / 2);
+    step([&] { DescriptionReader(vocabulary_).treeWalkerBuild(tree, lines); });
     if (erroneousInput_) {
         const DescriptionChecks checks(vocabulary_);
-        step([&] { checks.docWalkerSyntax(*root->child(docNumber)); });
-        step([&] { checks.treeWalkerSemantic(*root->child(docNumber), NodeKind::Doc); });
+        step([&] { checks.docWalkerSyntax(tree.root().child(docNumber)); });
+        step([&] { checks.treeWalkerSemantic(tree.root().child(docNumber), NodeKind::Doc); });
     }
-    step([&] { DocumentBuilder(*document_, vocabulary_).build(*root->child(docNumber)); });
+    step([&] { DocumentBuilder(*document_, vocabulary_).build(tree.root().child(docNumber)); });
 }
 
 template <class Body>

@@ -37,6 +37,9 @@ public:
         if (entries_.size() >= searchedOneByOne && slotsNeeded > byKey_.size()) {
             growSlots(4 * entries_.size());
         }
+        if (entries_.empty()) {
+            entries_.reserve(usualCount);
+        }
         entries_.push_back(std::move(entry));
         if (!byKey_.empty()) {
             fileLast();
@@ -72,6 +75,7 @@ private:
     };
     using Slots = std::vector<std::uint32_t>;
 
+    static constexpr std::size_t usualCount = 4;
     static constexpr std::size_t searchedOneByOne = 8;
     static constexpr std::uint32_t nowhere = UINT32_MAX;
 

@@ -5,10 +5,12 @@
 
 #include <cctype>
 #include <cstddef>
+#include <deque>
 #include <list>
 #include <map>
 #include <random>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -154,7 +156,7 @@ private:
         openerCount_ = 0;
         bool isFinished = false;
         while (current_ < lines_.size() && !isFinished) {
-            const std::string& line = lines_[current_].text;
+            const std::string line(lines_[current_].text);
             if (looksLikeLeaf(line) && isEmptyOrComment(line.substr(line.find(')') + 1))) {
                 addLeaf(map, line);
                 ++current_;
@@ -251,8 +253,8 @@ public:
         std::vector<SourceLine> lines{{"(doc", 1}};
         std::vector<int> open{doc};
         while (lines.size() < count) {
-            std::string line = next(open, closersInHundred);
-            lines.push_back({std::move(line), static_cast<int>(lines.size() + 1 + below(3))});
+            const std::string_view line = kept(next(open, closersInHundred));
+            lines.push_back({line, lines.back().number + 1 + static_cast<int>(below(3))});
         }
         return lines;
     }
@@ -273,6 +275,9 @@ public:
                                             "(r x", "(k=1) y",    "(r)", "(a)=b)"};
         return oneOf(words);
     }
+
+    // A view of the text, good as long as this object.
+    std::string_view kept(std::string text) { return texts_.emplace_back(std::move(text)); }
 
 private:
     std::string next(std::vector<int>& open, std::size_t closersInHundred) {
@@ -307,12 +312,14 @@ private:
     }
 
     std::mt19937 random_;
+    std::deque<std::string> texts_;
 };
 
 std::string joined(const std::vector<SourceLine>& lines) {
     std::string all;
     for (const SourceLine& line : lines) {
-        all += line.text + "\n";
+        all += line.text;
+        all += '\n';
     }
     return all;
 }
@@ -344,7 +351,7 @@ TEST(readerModel, ReadsAnyLinesAsTheReaderDoes) {
         std::vector<SourceLine> lines{{"(doc", 1}};
         const std::size_t count = 2 + random.below(12);
         while (lines.size() < count) {
-            lines.push_back({random.anyLine(), static_cast<int>(lines.size()) + 1});
+            lines.push_back({random.kept(random.anyLine()), static_cast<int>(lines.size()) + 1});
         }
         ASSERT_NO_FATAL_FAILURE(tally.compare(lines));
     }
@@ -386,7 +393,7 @@ std::vector<SourceLine> manyNodes(Lines& random, std::size_t kind) {
     }
     std::vector<SourceLine> lines;
     for (const std::string& text : texts) {
-        lines.push_back({text, static_cast<int>(lines.size()) + 1});
+        lines.push_back({random.kept(text), static_cast<int>(lines.size()) + 1});
     }
     return lines;
 }
@@ -418,7 +425,7 @@ TEST(readerModel, RepairsAnyLinesAsTheReaderDoes) {
         }
         std::vector<std::string> repaired;
         for (const SourceLine& line : repairLines(lines)) {
-            repaired.push_back(line.text);
+            repaired.emplace_back(line.text);
         }
         ASSERT_EQ(repaired, repairedByModel(texts)) << joined(lines);
         repairs += repaired != std::vector<std::string>(texts.begin(), texts.end()) ? 1 : 0;
