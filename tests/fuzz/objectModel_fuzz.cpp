@@ -323,30 +323,12 @@ private:
         switch (input_.below(4)) {
             case 0:
                 both([&] { row.setBackColor(static_cast<tColorIndex>(number)); },
-                     [&] {
-                         if (plain.backColor != number) {
-                             plain.backColor = number;
-                             plain::required(document);
-                             for (auto& entry : plain.cells.entries) {
-                                 entry.element->setBackColor(number);
-                             }
-                             plain::markChanged(document);
-                         }
-                     });
+                     [&] { plain::setBackColorOf(plain, number); });
                 break;
             case 1: {
                 const std::size_t side = input_.below(4);
                 both([&] { setBorder(row, side, static_cast<tBorderWidth>(number)); },
-                     [&] {
-                         if (plain.borders[side] != number) {
-                             plain.borders[side] = number;
-                             plain::required(document);
-                             for (auto& entry : plain.cells.entries) {
-                                 entry.element->borders = plain.borders;
-                             }
-                             plain::markChanged(document);
-                         }
-                     });
+                     [&] { plain::setBorderOf(plain, side, number); });
                 break;
             }
             default:
