@@ -51,6 +51,10 @@ class Model:
     def fill(self, cell):
         return self.colors[cell["fill"] - 1] if cell["fill"] > 0 else None
 
+    def color(self, paragraph):
+        """The paragraph's own colour of its text, or None; a dark cell may have set it."""
+        return self.colors[paragraph["color"] - 1] if paragraph["color"] > 0 else None
+
     @staticmethod
     def text(paragraph):
         return squeezed(re.sub(r"<[A-Za-z][^=<>]*=([^<>]*)>", r"\1", plain(paragraph["text"])))
@@ -125,6 +129,23 @@ class LibreOffice:
     def paragraphs(self, cell):
         return [paragraph for paragraph in cell.findall("text:p", NAMESPACES)
                 if squeezed(office_text(paragraph))]
+
+    def widths(self, row):
+        """The widths of a row's cells in twips."""
+        return [twips(self.columns[id(row)][number]) for number in range(len(row))]
+
+    def colors(self, paragraph):
+        """The colours of a paragraph's text, part by part."""
+        own = self.property("paragraph", paragraph.get(name("text:style-name")),
+                            "style:text-properties", "fo:color")
+        colors = {own} if (paragraph.text or "").strip() else set()
+        for child in paragraph:
+            if child.tag == name("text:span") and squeezed(office_text(child)):
+                colors.add(self.property("text", child.get(name("text:style-name")),
+                                         "style:text-properties", "fo:color") or own)
+            if (child.tail or "").strip():
+                colors.add(own)
+        return colors
 
     def alignment(self, paragraph):
         return self.property("paragraph", paragraph.get(name("text:style-name")),

@@ -20,6 +20,7 @@ json cellOf(CRtfTableCell& cell) {
         const Ref<CRtfParagraph> paragraph = list->Item(i);
         paragraphs.push_back({{"text", paragraph->Text()},
                               {"style", paragraph->Style()},
+                              {"color", std::int32_t{paragraph->ForeColor()}},
                               {"align", std::int32_t{paragraph->Align()}}});
     }
     return {{"style", cell.Style()},
