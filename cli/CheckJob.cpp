@@ -11,6 +11,7 @@
 #include "cli/process.h"
 #include "cli/utf8Path.h"
 #include "quorvane/diagnostics/DescriptionCheck.h"
+#include "quorvane/diagnostics/DiagnosticEngine.h"
 #include "quorvane/diagnostics/RtfCheck.h"
 #include "quorvane/diagnostics/StyleSheetCheck.h"
 #include "quorvane/diagnostics/languageOf.h"
@@ -21,6 +22,8 @@ namespace quorvane::cli {
 namespace {
 
 constexpr std::size_t pieceLength = 1024 * 1024;
+// So many findings about an RTF file are held back to be told in the order of their places.
+constexpr std::size_t mostFindingsHeld = 100'000;
 
 /// The next bytes of a stream; empty at its end.
 std::string readPiece(std::istream& stream) {
@@ -127,7 +130,20 @@ void CheckJob::checkText(const std::string& file, std::string_view bytes) {
 void CheckJob::checkRtfFile(const std::string& file, std::istream& stream,
                             const std::string& beginning) {
     const FileWindow window = windowOfFile(file);
-    RtfCheck check([&](const quorvane::Diagnostic& finding) { tell(file, finding, window); });
+    std::vector<quorvane::Diagnostic> held;
+    const auto tellHeld = [&] {
+        sortByPlace(held);
+        for (const quorvane::Diagnostic& finding : held) {
+            tell(file, finding, window);
+        }
+        held.clear();
+    };
+    RtfCheck check([&](quorvane::Diagnostic finding) {
+        held.push_back(std::move(finding));
+        if (held.size() == mostFindingsHeld) {
+            tellHeld();
+        }
+    });
     check.feed(beginning);
     for (std::string piece = readPiece(stream); !piece.empty(); piece = readPiece(stream)) {
         check.feed(piece);
@@ -136,6 +152,7 @@ void CheckJob::checkRtfFile(const std::string& file, std::istream& stream,
         raise(RunTimeError::DeviceIoError);
     }
     check.finish();
+    tellHeld();
 }
 
 void CheckJob::tell(const std::string& file, const quorvane::Diagnostic& finding,

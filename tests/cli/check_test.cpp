@@ -303,6 +303,23 @@ TEST_F(CheckTest, ReadsALargeDocumentInPieces) {
                   "    ^~\n");
 }
 
+TEST_F(CheckTest, TellsFindingsAboutADocumentInTheOrderOfTheirPlaces) {
+    folder.write("a.rtf", "{\\rtf1 {\\b a\n\\cf9 \\trowd\\cellx9 a\\cell\n\\'z");
+    EXPECT_EQ(run({"a.rtf"}).output,
+              "a.rtf:1:8: error: The group is not closed. [unclosed-group]\n"
+              "    {\\rtf1 {\\b a\n"
+              "           ^\n"
+              "a.rtf:2:1: error: The color 9 is not in the color table. [unknown-color]\n"
+              "    \\cf9 \\trowd\\cellx9 a\\cell\n"
+              "    ^~~~\n"
+              "a.rtf:2:6: error: The row that begins here is not ended. [unended-row]\n"
+              "    \\cf9 \\trowd\\cellx9 a\\cell\n"
+              "         ^~~~~~\n"
+              "a.rtf:3:1: error: Two hexadecimal digits must follow \\'. [bad-hex-escape]\n"
+              "    \\'z\n"
+              "    ^~\n");
+}
+
 TEST_F(CheckTest, GivesUpOnGroupsThatAreNestedVeryDeep) {
     folder.write("deep.rtf", "{\\rtf1\n" + std::string(1200, '{') + std::string(1200, '}') + "}\n");
     EXPECT_EQ(run({"deep.rtf"}).output,
