@@ -63,7 +63,7 @@ ExitStatus CheckJob::run() {
             checkFile(file);
         }
     }
-    if (styles_ && styles_->areLoaded() && checkedDescriptions_) {
+    if (styles_ && checkedDescriptions_) {
         tellAll(*options_.styleSheet, findUnusedStyles(*styles_),
                 codePage1252FromUtf8(styles_->text()));
     }
