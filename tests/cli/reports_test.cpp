@@ -257,6 +257,136 @@ TEST(ReportsOfCharacters, FindThemInEverythingThatReachesTheDocument) {
               "    hint: save the file in Windows-1252\n");
 }
 
+TEST(ReportsOfKeys, SayWhatWasMeantByOtherWordsAndWhatANumberWithAUnitIs) {
+    EXPECT_EQ(reportOf(R"~((doc
+(margin-left=5)
+(paper-width=21cm)
+(paper-height=11 in)
+(top-margin=50,5)
+(bottom-margin=1e3000)
+(right-margin=)
+(left-margin=20pt)
+(page-number-start=one)
+(page-width=3)
+(height=3)
+(row
+(background=red)
+(border-top=thin)
+(bottom-border=)
+(rb=)
+(cell
+(width=5)
+(cw=5cm)
+(align=left)
+(ca=)
+(para
+(text=5)
+(alignment=left)
+(font=x)
+para)
+cell)
+(c
+(cw=12px)
+(bgcolor=x)
+c)
+row)
+doc)
+)~"),
+              R"~(a.rtfspec:2:2: error: margin-left isn't a valid keyword. [wrong-keyword]
+    (margin-left=5)
+     ^~~~~~~~~~~
+    hint: did you mean left-margin?
+a.rtfspec:3:14: error: Value for paper-width should be numeric. [not-a-number]
+    (paper-width=21cm)
+                 ^~~~
+    hint: 21cm is 11906 twips: write 11906
+a.rtfspec:4:15: error: Value for paper-height should be numeric. [not-a-number]
+    (paper-height=11 in)
+                  ^~~~~
+    hint: 11 in is 15840 twips: write 15840
+a.rtfspec:5:13: error: Value for top-margin should be numeric. [not-a-number]
+    (top-margin=50,5)
+                ^~~~
+    hint: a number has no comma, but at most one point: write a number of twips, 1440 of which are an inch and 567 a centimetre
+a.rtfspec:6:16: error: Value for bottom-margin should be numeric. [not-a-number]
+    (bottom-margin=1e3000)
+                   ^~~~~~
+    hint: the number is too large, or is none: write its digits, without an exponent
+a.rtfspec:7:15: error: Value for right-margin should be numeric. [not-a-number]
+    (right-margin=)
+                  ^
+    hint: the value is missing: write a number of twips, 1440 of which are an inch and 567 a centimetre
+a.rtfspec:8:14: error: Value for left-margin should be numeric. [not-a-number]
+    (left-margin=20pt)
+                 ^~~~
+    hint: 20pt is 400 twips: write 400
+a.rtfspec:9:20: error: Value for page-number-start should be numeric. [not-a-number]
+    (page-number-start=one)
+                       ^~~
+    hint: write a number
+a.rtfspec:10:2: error: page-width isn't a valid keyword. [wrong-keyword]
+    (page-width=3)
+     ^~~~~~~~~~
+    hint: did you mean paper-width?
+a.rtfspec:11:2: error: height isn't a valid keyword. [wrong-keyword]
+    (height=3)
+     ^~~~~~
+    hint: did you mean paper-height?
+a.rtfspec:13:2: error: background isn't a valid keyword. [wrong-keyword]
+    (background=red)
+     ^~~~~~~~~~
+    hint: did you mean row-backcolor?
+a.rtfspec:14:2: error: border-top isn't a valid keyword. [wrong-keyword]
+    (border-top=thin)
+     ^~~~~~~~~~
+    hint: did you mean row-top-border?
+a.rtfspec:15:2: error: bottom-border isn't a valid keyword. [wrong-keyword]
+    (bottom-border=)
+     ^~~~~~~~~~~~~
+    hint: did you mean row-bottom-border?
+a.rtfspec:16:5: error: isn't a recognized color. [wrong-color]
+    (rb=)
+        ^
+    hint: the value is missing: write none for no color
+a.rtfspec:18:2: error: width isn't a valid keyword. [wrong-keyword]
+    (width=5)
+     ^~~~~
+    hint: did you mean cell-width?
+a.rtfspec:19:5: error: Value for cell-width should be numeric. [not-a-number]
+    (cw=5cm)
+        ^~~
+    hint: write a number, per cent of the row's width, without a sign
+a.rtfspec:20:2: error: align isn't a valid keyword. [wrong-keyword]
+    (align=left)
+     ^~~~~
+    hint: did you mean cell-alignment?
+a.rtfspec:21:5: error: isn't a recognized alignment. [wrong-alignment]
+    (ca=)
+        ^
+    hint: the value is missing: write none for no alignment
+a.rtfspec:23:2: error: text isn't a valid keyword. [wrong-keyword]
+    (text=5)
+     ^~~~
+    hint: did you mean para-text?
+a.rtfspec:24:2: error: alignment isn't a valid keyword. [wrong-keyword]
+    (alignment=left)
+     ^~~~~~~~~
+    hint: did you mean para-alignment?
+a.rtfspec:25:2: error: font isn't a valid keyword. [wrong-keyword]
+    (font=x)
+     ^~~~
+    hint: did you mean para-style?
+a.rtfspec:29:5: error: Value for cell-width should be numeric. [not-a-number]
+    (cw=12px)
+        ^~~~
+    hint: write a number, per cent of the row's width, without a sign
+a.rtfspec:30:2: error: bgcolor isn't a valid keyword. [wrong-keyword]
+    (bgcolor=x)
+     ^~~~~~~
+    hint: did you mean cell-backcolor?
+)~");
+}
+
 TEST(ReportsOfStyleSheets, WithErrorsStillLetTheDescriptionBeChecked) {
     const std::string sheet =
         "{ name: normal; style-def: s; fromat: \\fs20 }\n"
