@@ -9,6 +9,7 @@
 
 #include "cli/RenderOptions.h"
 #include "cli/process.h"
+#include "cli/styleSheetName.h"
 #include "cli/utf8Path.h"
 #include "quorvane/diagnostics/DescriptionCheck.h"
 #include "quorvane/diagnostics/DiagnosticEngine.h"
@@ -56,6 +57,7 @@ CheckJob::CheckJob(CheckOptions options, FindingSink find, DiagnosticSink fail, 
 
 ExitStatus CheckJob::run() {
     if (options_.styleSheet) {
+        requireStyleSheetExtension(*options_.styleSheet, options_.files);
         checkStyles(*options_.styleSheet);
     }
     for (const std::string& file : options_.files) {
@@ -78,6 +80,9 @@ void CheckJob::checkStyles(const std::string& file) {
         const std::string bytes = platform_.readFile(file);
         styles_.emplace(utf8FromCodePage1252(bytes));
         tellAll(file, checkStyleSheet(styles_->text()), bytes);
+        if (!openingOfDescription(styles_->text()).empty()) {
+            styles_.reset();
+        }
     } catch (const RtfError& error) {
         hasFailed_ = true;
         fail_({DiagnosticKind::Raised, file, error});
@@ -98,7 +103,7 @@ void CheckJob::checkFile(const std::string& file) {
         if (std::filesystem::is_regular_file(path, failure)) {
             std::ifstream stream(path, std::ios::binary);
             const std::string beginning = stream ? readPiece(stream) : std::string();
-            if (languageOf(beginning) == CheckedLanguage::Rtf) {
+            if (languageOf(beginning, file) == CheckedLanguage::Rtf) {
                 checkRtfFile(file, stream, beginning);
                 return;
             }
@@ -111,7 +116,7 @@ void CheckJob::checkFile(const std::string& file) {
 }
 
 void CheckJob::checkText(const std::string& file, std::string_view bytes) {
-    switch (languageOf(bytes)) {
+    switch (languageOf(bytes, file)) {
         case CheckedLanguage::Rtf:
             tellAll(file, checkRtf(bytes), bytes);
             break;

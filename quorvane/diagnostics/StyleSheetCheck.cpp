@@ -12,6 +12,7 @@
 #include "quorvane/diagnostics/DiagnosticEngine.h"
 #include "quorvane/diagnostics/SourceText.h"
 #include "quorvane/diagnostics/StyleSheetOutline.h"
+#include "quorvane/diagnostics/languageOf.h"
 #include "quorvane/diagnostics/nearestWord.h"
 #include "quorvane/diagnostics/rtfText.h"
 #include "quorvane/rtfgroups/CRtfGrpColorTable.h"
@@ -69,6 +70,11 @@ public:
           styles_(source.text()) {}
 
     void find() {
+        const std::string_view opening = openingOfDescription(source_.text());
+        if (!opening.empty()) {
+            report(DiagnosticId::DescriptionAsStyleSheet, opening, {},
+                   "were the names of the two files swapped?");
+        }
         findBraces();
         for (const SheetDefinition& definition : outline_.definitions) {
             findErrors(definition);

@@ -1218,6 +1218,28 @@ QUORVANE_DIAGNOSTIC(StyleSheetRejected, "stylesheet-rejected", Error, StyleSheet
     "",
     "")
 
+QUORVANE_DIAGNOSTIC(DescriptionAsStyleSheet, "description-as-stylesheet", Warning, StyleSheet,
+    "This is a description, not a stylesheet.",
+    "What is given as the stylesheet begins with a node of a description. Text outside of braces "
+    "says nothing in a stylesheet: it is accepted, and has no styles. Styles of the descriptions "
+    "are not looked up in it.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "{ name: normal; style-def: s; format: \\fs20 }\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Total)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n")
+
 QUORVANE_DIAGNOSTIC(DuplicateStyle, "duplicate-style", Warning, StyleSheet,
     "The style {0} is defined already, on line {1}.",
     "Of a name that is defined twice the first definition is found. The second one takes a "
@@ -1300,7 +1322,7 @@ QUORVANE_DIAGNOSTIC(UnclosedGroup, "unclosed-group", Error, Rtf,
 
 QUORVANE_DIAGNOSTIC(TextAfterEnd, "text-after-end", Error, Rtf,
     "The document ends before this.",
-    "Nothing follows the brace that closes the document but line breaks. Where more follows, "
+    "Nothing but line breaks follows the brace that closes the document. Where more follows, "
     "a `}` stands too much before: readers show what is in front of it.",
     "{\\rtf1 {\\b Total}} Sum}\n",
     "{\\rtf1 {\\b Total} Sum}\n",

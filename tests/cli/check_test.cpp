@@ -141,6 +141,58 @@ TEST_F(CheckTest, ChecksTheStyleSheetTooAndOnce) {
     EXPECT_EQ(result.status, 1);
 }
 
+TEST_F(CheckTest, TakesAnEmptyStyleSheetForOne) {
+    folder.write("s.rtfss", "");
+    folder.write("t.rtfss", "; no styles yet\n");
+    const ProgramResult result = run({"s.rtfss", "t.rtfss"});
+    EXPECT_EQ(result.output, "");
+    EXPECT_EQ(result.status, 0);
+}
+
+TEST_F(CheckTest, TellsThatABrokenDocumentIsNone) {
+    folder.write("a.rtf", "rtf1 {\\b Total}");
+    folder.write("b.rtf", "");
+    const ProgramResult result = run({"a.rtf", "b.rtf"});
+    EXPECT_EQ(result.output,
+              "a.rtf:1:1: error: The file doesn't begin with {\\rtf. [not-rtf]\n"
+              "    rtf1 {\\b Total}\n"
+              "    ^\n"
+              "b.rtf:1:1: error: The file doesn't begin with {\\rtf. [not-rtf]\n");
+    EXPECT_EQ(result.status, 1);
+}
+
+TEST_F(CheckTest, RefusesTheStyleSheetsThatRenderRefuses) {
+    folder.write("a.rtfspec", descriptionOf("Total"));
+    folder.write("s.txt", goodStyleSheet);
+    folder.write("s.rtfss", goodStyleSheet);
+    for (const char* command : {"check", "render"}) {
+        start.arguments = {command, "-s", "s.txt", "a.rtfspec"};
+        ProgramResult result = runProgram(start);
+        EXPECT_EQ(result.errors,
+                  "quorvane: the stylesheet s.txt must have the extension rtfss\n"
+                  "Run with --help for more information.\n");
+        EXPECT_EQ(result.status, 2);
+        start.arguments = {command, "-s", "a.rtfspec", "s.rtfss"};
+        result = runProgram(start);
+        EXPECT_THAT(result.errors, StartsWith("quorvane: the stylesheet a.rtfspec must have the "
+                                              "extension rtfss; is it swapped with s.rtfss?\n"));
+        EXPECT_EQ(result.status, 2);
+    }
+}
+
+TEST_F(CheckTest, SaysWhereADescriptionIsGivenAsStyleSheet) {
+    folder.write("a.rtfspec", "(doc\n(r\n(c\n(p\n(pt=Total)\n(ps=sum)\np)\nc)\nr)\ndoc)\n");
+    folder.write("s.rtfss", "; (swapped)\n" + descriptionOf("Total"));
+    const ProgramResult result = run({"-s", "s.rtfss", "a.rtfspec"});
+    EXPECT_EQ(result.output,
+              "s.rtfss:2:1: warning: This is a description, not a stylesheet. "
+              "[description-as-stylesheet]\n"
+              "    (doc\n"
+              "    ^~~~\n"
+              "    hint: were the names of the two files swapped?\n");
+    EXPECT_EQ(result.status, 3);
+}
+
 TEST_F(CheckTest, CountsTheStylesThatAnyOfTheDescriptionsUses) {
     folder.write("s.rtfss",
                  "{name: normal; style-def: s}{name: a; style-def: s}{name: b; style-def: s}");
