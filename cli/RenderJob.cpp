@@ -8,10 +8,8 @@
 #include <utility>
 #include <vector>
 
-#include "cli/UsageError.h"
+#include "cli/styleSheetName.h"
 #include "cli/utf8Path.h"
-#include "quorvane/support/GFileSystem.h"
-#include "quorvane/support/textCase.h"
 
 namespace quorvane::cli {
 
@@ -19,13 +17,6 @@ namespace {
 
 constexpr std::int32_t outOfMemory = 7;
 constexpr std::size_t largestKeptDocument = 1024 * 1024;
-
-/// The library passes over a stylesheet with another extension and says nothing.
-void requireStyleSheetExtension(const std::string& name) {
-    if (lowerCase(GFileSystem::getFileExtension(name)) != "rtfss") {
-        throw UsageError("the stylesheet " + name + " must have the extension rtfss");
-    }
-}
 
 bool isFolder(const std::string& name) {
     std::error_code failure;
@@ -44,7 +35,7 @@ RenderJob::RenderJob(RenderOptions options, DiagnosticSink tell, ProgressSink pr
 
 ExitStatus RenderJob::run() {
     if (options_.styleSheet) {
-        requireStyleSheetExtension(*options_.styleSheet);
+        requireStyleSheetExtension(*options_.styleSheet, options_.descriptions);
     }
     const std::vector<Assignment> assignments = assignOutputs(options_);
     if (options_.outputFolder && !isFolder(*options_.outputFolder)) {

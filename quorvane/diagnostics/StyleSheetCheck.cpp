@@ -12,6 +12,7 @@
 #include "quorvane/diagnostics/DiagnosticEngine.h"
 #include "quorvane/diagnostics/SourceText.h"
 #include "quorvane/diagnostics/StyleSheetOutline.h"
+#include "quorvane/diagnostics/languageOf.h"
 #include "quorvane/diagnostics/nearestWord.h"
 #include "quorvane/diagnostics/rtfText.h"
 #include "quorvane/rtfgroups/CRtfGrpColorTable.h"
@@ -60,16 +61,20 @@ std::vector<std::string_view> namesOf(const SheetDefinition& definition) {
                : std::vector<std::string_view>();
 }
 
-std::string quoted(std::string_view text) {
-    return text.empty() ? "it" : std::string(text);
-}
-
 class SheetFindings {
 public:
     SheetFindings(const SourceText& source, DiagnosticEngine& engine)
-        : source_(source), engine_(engine), outline_(readStyleSheetOutline(source.text())) {}
+        : source_(source),
+          engine_(engine),
+          outline_(readStyleSheetOutline(source.text())),
+          styles_(source.text()) {}
 
     void find() {
+        const std::string_view opening = openingOfDescription(source_.text());
+        if (!opening.empty()) {
+            report(DiagnosticId::DescriptionAsStyleSheet, opening, {},
+                   "were the names of the two files swapped?");
+        }
         findBraces();
         for (const SheetDefinition& definition : outline_.definitions) {
             findErrors(definition);
@@ -133,6 +138,9 @@ private:
     }
 
     static std::string kindHint(const std::string& value, std::span<const std::string_view> kinds) {
+        if (value.empty()) {
+            return "write s, cs or cell";
+        }
         if (value.starts_with("p")) {
             return "a paragraph style is s";
         }
@@ -166,14 +174,16 @@ private:
 
     void findFormatWarningsOf(const SheetItem& item, StyleKind kind) {
         if (kind != StyleKind::Cell) {
-            findFormatWarnings(item.value, source_, engine_);
+            findTextWarnings(item.value, TextUse::Format, &styles_, source_, engine_);
             return;
         }
         const std::string color = lowerCase(item.value);
         if (!color.starts_with('^') && color != "none" &&
             CRtfGrpColorTable::colorNumber(color) == 0) {
-            report(DiagnosticId::UnknownCellColor, item.value, {quoted(item.value)},
-                   didYouMean(color, viewsOf(cellColorNames())));
+            report(DiagnosticId::UnknownCellColor, item.value,
+                   {color.empty() ? std::string_view("An empty format") : item.value},
+                   color.empty() ? "write none where no color is meant"
+                                 : didYouMean(color, viewsOf(cellColorNames())));
         }
     }
 
@@ -181,6 +191,9 @@ private:
         if (name.empty()) {
             report(DiagnosticId::EmptyStyleName, name);
             return;
+        }
+        if (kind != StyleKind::Cell) {
+            findTextWarnings(name, TextUse::StyleName, &styles_, source_, engine_);
         }
         const auto [known, isNew] =
             defined_[static_cast<std::size_t>(kind)].emplace(lowerCase(name), name);
@@ -219,6 +232,7 @@ private:
     const SourceText& source_;
     DiagnosticEngine& engine_;
     StyleSheetOutline outline_;
+    KnownStyles styles_;
     // The names of each kind in lower case, with their first places.
     std::array<std::unordered_map<std::string, std::string_view>, 3> defined_;
 };
@@ -286,7 +300,10 @@ std::vector<Diagnostic> findUnusedStyles(const KnownStyles& styles) {
                    (kind != StyleKind::Cell && referenced.contains(lower)) ||
                    (isParagraph && (lower == "normal" || styles.find(kind, lower) <= reserved));
         });
-        if (!isUsed && !names.empty()) {
+        const bool isSure = std::none_of(names.begin(), names.end(), [&](std::string_view name) {
+            return styles.isOfAnyKind(name);
+        });
+        if (!isUsed && isSure && !names.empty()) {
             engine.report(DiagnosticId::UnusedStyle, source.placeOf(names.front()),
                           {names.front()});
         }

@@ -75,8 +75,8 @@ Ref<CRtfDoc> buildTrialDocument(DescriptionOutline& outline, const SourceText& s
     constexpr int mostAttempts = 20;
     for (int attempt = 0; attempt < mostAttempts; ++attempt) {
         Ref<CRtfDoc> document = CRtfDoc::create(platform);
-        if (styles && styles->areLoaded()) {
-            document->LoadStyleSheetFromMemmory(styles->text());
+        if (styles) {
+            document->LoadStyleSheetFromMemmory(styles->soundText());
         }
         const TrialTree tree(*outline.doc, vocabulary);
         try {
