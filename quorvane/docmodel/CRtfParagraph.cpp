@@ -81,10 +81,8 @@ void CRtfParagraph::asMarkedField(const Value& vFieldData) {
     }
     try {
         *markedField_ = GTextMarkedFields::fieldData(vFieldData);
-    } catch (const RtfError& error) {
-        if (error.number != GTextMarkedFields::refusedDataError) {
-            throw;
-        }
+    } catch (const RtfError&) {
+        // Refused are data of another type only: the paragraph keeps what it had.
     }
 }
 

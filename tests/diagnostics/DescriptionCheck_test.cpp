@@ -64,6 +64,24 @@ TEST(DescriptionCheck, KnowsWhatWasMeantByAWrongLine) {
                     "10 wrong-syntax: nothing but a comment behind ; follows c)"));
 }
 
+TEST(DescriptionCheck, ComparesNoWidthsOnAPageTooNarrowForNumbers) {
+    EXPECT_THAT(found("(doc\n(paper-width=-2147483648)\n(r\n(c\n(p\n(pt=a)\np)\nc)\n(c\nc)\nr)\n"
+                      "doc)\n"),
+                ElementsAre());
+}
+
+TEST(DescriptionCheck, KnowsTheLongNameOfADocument) {
+    EXPECT_THAT(found("(document\n(r\n(c\nc)\nr)\ndoc)\n").front(),
+                testing::HasSubstr("did you mean (doc?"));
+}
+
+TEST(DescriptionCheck, TakesAFieldWithoutInstructionForHarmless) {
+    EXPECT_THAT(found("(doc\n(r\n(c\n(p\n(pt={\\field{\\*\\fldinst { }}{\\fldrslt a}})\np)\nc)\n"
+                      "r)\ndoc)\n"),
+                ElementsAre());
+    EXPECT_THAT(found("(doc\n(r\n(c\n(p\n(pt=a\\fldinst)\np)\nc)\nr)\ndoc)\n"), ElementsAre());
+}
+
 TEST(DescriptionCheck, SaysToWhichNodeAKeyBelongs) {
     EXPECT_THAT(found("(doc\n(rb=red)\n(r\n(CB=red)\n(c\n(CW=5)\nc)\nr)\ndoc)\n"),
                 ElementsAre("2 wrong-keyword: a key of a row, not of a document",

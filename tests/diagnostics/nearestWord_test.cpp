@@ -26,6 +26,13 @@ TEST(NearestWord, IsNoneWhenAllAreFar) {
     EXPECT_EQ(nearestWord(std::string(5000, 'r'), colors), "");
 }
 
+TEST(NearestWord, PassesOverWhatIsNoWord) {
+    const std::string endless(5000, 'r');
+    const std::vector<std::string_view> names = {"", endless, "red"};
+    EXPECT_EQ(nearestWord("rd", names), "red");
+    EXPECT_EQ(nearestWord("r", {names.data(), 2}), "");
+}
+
 TEST(NearestWord, IsNoneAmongVeryMany) {
     const std::vector<std::string_view> many(mostCandidates + 1, "red");
     EXPECT_EQ(nearestWord("rad", many), "");

@@ -326,6 +326,11 @@ TEST(Vocabulary, ShortensWhatHasAShortForm) {
     EXPECT_EQ(vocabulary.shorten("Row"), "Row");
 }
 
+TEST(Vocabulary, KnowsNoKeyOfWhatIsNoNode) {
+    EXPECT_FALSE(vocabulary.isKeyOf(NodeKind::None, "para-text"));
+    EXPECT_FALSE(vocabulary.isKeyOf(NodeKind::None, ""));
+}
+
 TEST(Vocabulary, ListsItsWords) {
     EXPECT_EQ(Vocabulary::keysOf(NodeKind::Doc).size(), 7u);
     EXPECT_EQ(Vocabulary::keysOf(NodeKind::None).size(), 0u);

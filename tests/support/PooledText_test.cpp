@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/UnreadableText.h"
+#include "tests/support/errorNumberOf.h"
+
 namespace quorvane {
 namespace {
 
@@ -71,6 +74,15 @@ TEST_F(PooledTextTest, IsACopyOfTheOneItIsAssigned) {
     text.clear(pool);
 
     EXPECT_EQ(other.view(), "abc");
+}
+
+TEST_F(PooledTextTest, OfMoreThanFourGigabytesIsRefused) {
+    const UnreadableText huge(std::size_t{1} << 32U);
+    text.assign("abc", pool);
+
+    EXPECT_EQ(errorNumberOf([&] { text.assign(huge.view(), pool); }), 6);
+
+    EXPECT_EQ(text.view(), "abc");
 }
 
 TEST_F(PooledTextTest, HoldsLongTexts) {

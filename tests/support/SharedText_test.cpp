@@ -5,6 +5,9 @@
 #include <utility>
 #include <vector>
 
+#include "tests/support/UnreadableText.h"
+#include "tests/support/errorNumberOf.h"
+
 namespace quorvane {
 namespace {
 
@@ -86,6 +89,11 @@ TEST(SharedText, SurvivesBeingAssignedToItself) {
     text = same;
 
     EXPECT_EQ(text.view(), "abc");
+}
+
+TEST(SharedText, OfMoreThanFourGigabytesIsRefused) {
+    const UnreadableText huge(std::size_t{1} << 32U);
+    EXPECT_EQ(errorNumberOf([&] { SharedText text(huge.view()); }), 6);
 }
 
 TEST(SharedText, IsLetGoOfInAnyOrder) {
