@@ -45,14 +45,16 @@ fs::path canonicalPath(const fs::path& path) {
 /// One name for all ways in which a file can be named.
 class Identities {
 public:
-    fs::path of(const std::string& name) {
+    std::string of(const std::string& name) {
         if (name == standardStream) {
             return name;
         }
         const fs::path target = followLinks(pathFromUtf8(name));
         std::error_code failure;
         const fs::path whole = fs::absolute(target, failure);
-        return systemSpelling(failure ? target : withCanonicalFolder(whole));
+        const fs::path file = systemSpelling(failure ? target : withCanonicalFolder(whole));
+        const std::u8string identity = file.generic_u8string();
+        return {identity.begin(), identity.end()};
     }
 
 private:
@@ -73,8 +75,8 @@ private:
 };
 
 /// The files that are read; no document may take the place of one.
-std::map<fs::path, std::string> inputsOf(const RenderOptions& options, Identities& identities) {
-    std::map<fs::path, std::string> inputs;
+std::map<std::string, std::string> inputsOf(const RenderOptions& options, Identities& identities) {
+    std::map<std::string, std::string> inputs;
     for (const std::string& description : options.descriptions) {
         if (description != standardStream) {
             inputs.emplace(identities.of(description), description);
@@ -87,9 +89,9 @@ std::map<fs::path, std::string> inputsOf(const RenderOptions& options, Identitie
 }
 
 /// Devices and pipes are written to, not replaced.
-bool wouldReplace(const fs::path& path) {
+bool wouldReplace(const std::string& name) {
     std::error_code failure;
-    return fs::is_regular_file(path, failure);
+    return fs::is_regular_file(pathFromUtf8(name), failure);
 }
 
 }  // namespace
@@ -102,12 +104,12 @@ std::vector<Assignment> assignOutputs(const RenderOptions& options) {
         throw UsageError("--output needs the name of a file");
     }
     Identities identities;
-    const std::map<fs::path, std::string> inputs = inputsOf(options, identities);
-    std::map<fs::path, std::string> descriptionsByOutput;
+    const std::map<std::string, std::string> inputs = inputsOf(options, identities);
+    std::map<std::string, std::string> descriptionsByOutput;
     std::vector<Assignment> assignments;
     for (const std::string& description : options.descriptions) {
         const std::string output = outputOf(description, options);
-        const fs::path file = identities.of(output);
+        const std::string file = identities.of(output);
         const auto input = inputs.find(file);
         if (input != inputs.end() && wouldReplace(file)) {
             throw UsageError("the document of " + description + " would replace " + input->second);
