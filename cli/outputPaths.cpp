@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <map>
+#include <optional>
 #include <system_error>
 
 #include "cli/UsageError.h"
@@ -104,15 +105,21 @@ std::vector<Assignment> assignOutputs(const RenderOptions& options) {
         throw UsageError("--output needs the name of a file");
     }
     Identities identities;
-    const std::map<std::string, std::string> inputs = inputsOf(options, identities);
+    // Looked for only when there is a document that would replace something.
+    std::optional<std::map<std::string, std::string>> inputs;
     std::map<std::string, std::string> descriptionsByOutput;
     std::vector<Assignment> assignments;
     for (const std::string& description : options.descriptions) {
         const std::string output = outputOf(description, options);
         const std::string file = identities.of(output);
-        const auto input = inputs.find(file);
-        if (input != inputs.end() && wouldReplace(file)) {
-            throw UsageError("the document of " + description + " would replace " + input->second);
+        if (wouldReplace(file)) {
+            if (!inputs) {
+                inputs = inputsOf(options, identities);
+            }
+            if (const auto input = inputs->find(file); input != inputs->end()) {
+                throw UsageError("the document of " + description + " would replace " +
+                                 input->second);
+            }
         }
         const auto [other, isNew] = descriptionsByOutput.emplace(file, description);
         if (!isNew) {
