@@ -15,6 +15,7 @@
 #include "quorvane/support/currentError.h"
 #include "quorvane/support/recordStrings.h"
 #include "quorvane/support/textCase.h"
+#include "quorvane/support/utf8.h"
 
 namespace quorvane {
 
@@ -68,7 +69,10 @@ void CRtfDriver::ParseFile(const std::string& sPath) {
     }
     std::string text;
     try {
-        text = utf8FromCodePage1252(platform_.readFile(sPath));
+        text = platform_.readFile(sPath);
+        if (asciiRunEnd(text, 0) < text.size()) {
+            text = utf8FromCodePage1252(text);
+        }
     } catch (const RtfError& error) {
         RtfError wrongPath =
             driverError(eWrongPath, sPath + " doesn't exist or is unreacheable", wrongPathSource);

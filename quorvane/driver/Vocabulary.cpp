@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <initializer_list>
 #include <iterator>
+#include <span>
 #include <utility>
 
 #include "quorvane/support/textCase.h"
@@ -201,8 +202,7 @@ private:
     }
     static constexpr std::size_t next(std::size_t slot) { return (slot + 1) % slotCount; }
 
-    template <std::size_t count>
-    constexpr void addAll(const KnownKey (&keys)[count]) {
+    constexpr void addAll(std::span<const KnownKey> keys) {
         for (const KnownKey& known : keys) {
             const LeafKey key{known.name, known.key};
             add(known.name, key);

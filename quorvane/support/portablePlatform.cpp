@@ -140,8 +140,8 @@ private:
 };
 
 std::string readToEnd(int file, std::size_t expectedSize) {
-    // One byte more than expected, so that the end is seen without growing the buffer. A pipe, and
-    // a file that the system makes up as it is read, tell no size.
+    // One byte more than expected: a file that has grown is not taken for whole. A pipe, and a file
+    // that the system makes up as it is read, tell no size.
     std::string bytes(expectedSize > 0 ? expectedSize + 1 : bufferForUnknownSize, '\0');
     std::size_t length = 0;
     while (true) {
@@ -155,6 +155,10 @@ std::string readToEnd(int file, std::size_t expectedSize) {
             return bytes;
         }
         length += static_cast<std::size_t>(count);
+        if (length == expectedSize) {
+            bytes.resize(length);
+            return bytes;
+        }
         if (length == bytes.size()) {
             bytes.resize(2 * length);
         }

@@ -136,7 +136,10 @@ std::string ReplaceString(std::string_view text, std::string_view search,
 
 std::vector<SourceLine> PreProcessRawData(std::string_view text) {
     std::vector<SourceLine> lines;
-    lines.reserve(static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1);
+    // As many as there may be in a small text; a large one makes room as it goes.
+    constexpr std::size_t shortLine = 16;
+    constexpr std::size_t mostAtFirst = 1024;
+    lines.reserve(std::min(text.size() / shortLine + 1, mostAtFirst));
     Next lineFeed(text, '\n');
     Next carriageReturn(text, '\r');
     std::size_t position = 0;
