@@ -2,8 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <string>
+#include <utility>
+#include <vector>
 
+#include "quorvane/diagnostics/diagnosticRules.h"
+#include "quorvane/diagnostics/judgement.h"
 #include "tests/cli/reportOf.h"
 
 namespace quorvane::cli {
@@ -415,6 +420,67 @@ a.rtfspec:6:5: warning: The stylesheet has no paragraph style nromal: normal sta
         ^~~~~~
     hint: did you mean normal?
 )");
+}
+
+/// The report of findings about a text.
+std::string reportOfFindings(const std::string& file, const std::string& text,
+                             const std::vector<quorvane::Diagnostic>& findings) {
+    std::string report;
+    for (const quorvane::Diagnostic& finding : findings) {
+        report += findingText(file, finding, excerptAt(finding.place, windowOf(text)), Colors::Off);
+    }
+    return report;
+}
+
+/// Reports of diagnostics that no text is known for, as the check has words of its own for all
+/// errors that the library raises today: what is told of an error that it does not know.
+const std::map<std::string, std::pair<std::string, std::string>>& reportsWithoutExample() {
+    static const std::map<std::string, std::pair<std::string, std::string>> reports = [] {
+        RtfError error(4711, "A new error");
+        error.line = 2;
+        const std::string description = "(doc\n(row\ndoc)\n";
+        const std::string sheet = "{ name: a }\n{ name: b }\n";
+        std::map<std::string, std::pair<std::string, std::string>> list;
+        list["rejected"] = {reportOfFindings("a.rtfspec", description,
+                                             judgedFindings({}, {error}, DiagnosticId::Rejected,
+                                                            SourceText(description))),
+                            "a.rtfspec:2:1: error: A new error [rejected]\n    (row\n    ^~~~\n"};
+        error.line = 0;
+        list["stylesheet-rejected"] = {
+            reportOfFindings(
+                "a.rtfss", sheet,
+                judgedFindings({}, {error}, DiagnosticId::StyleSheetRejected, SourceText(sheet))),
+            "a.rtfss:1:1: error: A new error [stylesheet-rejected]\n    { name: a }\n"
+            "    ^~~~~~~~~~~\n"};
+        return list;
+    }();
+    return reports;
+}
+
+TEST(ReportsOfUnknownErrors, SayWhatTheLibrarySays) {
+    for (const auto& [identifier, report] : reportsWithoutExample()) {
+        EXPECT_EQ(report.first, report.second);
+    }
+}
+
+TEST(ReportsOfUnknownErrors, AreLeftOutWhereTheCheckHasItsOwn) {
+    const std::string text = "(doc\n(row\ndoc)\n";
+    const SourceText source(text);
+    const std::vector<quorvane::Diagnostic> own{
+        {DiagnosticId::NoRow, Severity::Error, source.place(0, 4), "none", ""},
+        {DiagnosticId::EmptyText, Severity::Warning, source.place(5, 9), "empty", ""}};
+    EXPECT_EQ(judgedFindings(own, {RtfError(1, "x")}, DiagnosticId::Rejected, source).size(), 2u);
+    const auto accepted = judgedFindings(own, {}, DiagnosticId::Rejected, source);
+    ASSERT_EQ(accepted.size(), 1u);
+    EXPECT_EQ(accepted[0].id, DiagnosticId::EmptyText);
+}
+
+/// The pages' examples are compared with whole reports, see the tests of the page.
+TEST(Reports, AreTestedAsAWholeForEveryDiagnostic) {
+    for (const DiagnosticRule& rule : diagnosticRules()) {
+        const bool isTestedHere = reportsWithoutExample().contains(std::string(rule.identifier));
+        EXPECT_NE(isTestedHere, !rule.wrong.empty()) << rule.identifier;
+    }
 }
 
 }  // namespace
