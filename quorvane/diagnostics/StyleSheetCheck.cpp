@@ -42,13 +42,16 @@ const std::vector<std::string>& cellColorNames() {
     return names;
 }
 
+StyleKind kindNearly(const std::string& word) {
+    return word == "s" || word.starts_with("p")     ? StyleKind::Paragraph
+           : word == "cs" || word.starts_with("ch") ? StyleKind::Character
+                                                    : StyleKind::Cell;
+}
+
 StyleKind kindOf(const SheetDefinition& definition) {
     for (std::size_t i = 1; i < definition.items.size(); ++i) {
         if (definition.items[i].keyword == "style-def") {
-            const std::string value = lowerCase(definition.items[i].value);
-            return value == "s"    ? StyleKind::Paragraph
-                   : value == "cs" ? StyleKind::Character
-                                   : StyleKind::Cell;
+            return kindNearly(lowerCase(definition.items[i].value));
         }
     }
     return StyleKind::Cell;
@@ -115,7 +118,9 @@ private:
         const SheetItem& first = definition.items.front();
         if (first.keyword != "name") {
             report(DiagnosticId::BadKeyword, first.writtenKeyword, {first.keyword},
-                   "a definition begins with name:");
+                   first.keyword.starts_with("name") && first.value.empty()
+                       ? "a : follows the keyword name"
+                       : "a definition begins with name:");
         }
         for (std::size_t i = 1; i < definition.items.size(); ++i) {
             findItemError(definition.items[i]);

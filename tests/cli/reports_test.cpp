@@ -422,6 +422,44 @@ a.rtfspec:6:5: warning: The stylesheet has no paragraph style nromal: normal sta
 )");
 }
 
+TEST(ReportsOfKeys, KnowMoreThatIsWrittenByMistake) {
+    EXPECT_EQ(
+        reportOf("(doc\n(paper-width=A4)\n(r\n(border=thin)\n(c\n(p (pt=x) p)\nc)\nr)\ndoc)\n"),
+        R"(a.rtfspec:2:14: error: Value for paper-width should be numeric. [not-a-number]
+    (paper-width=A4)
+                 ^~
+    hint: A4 is 11906 twips wide and 16838 high
+a.rtfspec:4:2: error: border isn't a valid keyword. [wrong-keyword]
+    (border=thin)
+     ^~~~~~
+    hint: each side has a border of its own: row-top-border and -bottom-, -left-, -right-border
+a.rtfspec:6:1: error: (p (pt=x) p) has a wrong syntax [wrong-syntax]
+    (p (pt=x) p)
+    ^~~~~~~~~~~~
+    hint: each node and each key stands on a line of its own
+)");
+}
+
+TEST(ReportsOfStyleSheets, TellAWrongKindOnce) {
+    EXPECT_EQ(reportOfFile("a.rtfss",
+                           "{ name: a; style-def: paragraph; format: \\b }\n"
+                           "{ name: b; style-def: char; format: \\b }\n"
+                           "{ name= c; style-def: s }\n"),
+              R"(a.rtfss:1:23: error: paragraph is not a valid value for style-def [bad-style-kind]
+    { name: a; style-def: paragraph; format: \b }
+                          ^~~~~~~~~
+    hint: a paragraph style is s
+a.rtfss:2:23: error: char is not a valid value for style-def [bad-style-kind]
+    { name: b; style-def: char; format: \b }
+                          ^~~~
+    hint: a character style is cs
+a.rtfss:3:3: error: Error while processing stylesheet. name= c is not a valid keyword. [bad-keyword]
+    { name= c; style-def: s }
+      ^~~~~~~
+    hint: a : follows the keyword name
+)");
+}
+
 /// The report of findings about a text.
 std::string reportOfFindings(const std::string& file, const std::string& text,
                              const std::vector<quorvane::Diagnostic>& findings) {
