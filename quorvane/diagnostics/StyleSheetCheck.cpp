@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <optional>
 #include <span>
 #include <string>
 #include <unordered_map>
@@ -12,6 +11,7 @@
 #include "quorvane/diagnostics/DiagnosticEngine.h"
 #include "quorvane/diagnostics/SourceText.h"
 #include "quorvane/diagnostics/StyleSheetOutline.h"
+#include "quorvane/diagnostics/judgement.h"
 #include "quorvane/diagnostics/languageOf.h"
 #include "quorvane/diagnostics/nearestWord.h"
 #include "quorvane/diagnostics/rtfText.h"
@@ -42,13 +42,16 @@ const std::vector<std::string>& cellColorNames() {
     return names;
 }
 
+StyleKind kindNearly(const std::string& word) {
+    return word == "s" || word.starts_with("p")     ? StyleKind::Paragraph
+           : word == "cs" || word.starts_with("ch") ? StyleKind::Character
+                                                    : StyleKind::Cell;
+}
+
 StyleKind kindOf(const SheetDefinition& definition) {
     for (std::size_t i = 1; i < definition.items.size(); ++i) {
         if (definition.items[i].keyword == "style-def") {
-            const std::string value = lowerCase(definition.items[i].value);
-            return value == "s"    ? StyleKind::Paragraph
-                   : value == "cs" ? StyleKind::Character
-                                   : StyleKind::Cell;
+            return kindNearly(lowerCase(definition.items[i].value));
         }
     }
     return StyleKind::Cell;
@@ -103,6 +106,10 @@ private:
     }
 
     void findErrors(const SheetDefinition& definition) {
+        if (definition.items.empty() && !outline_.loneBrace.empty()) {
+            // That a brace is missing is told already.
+            return;
+        }
         if (definition.items.empty()) {
             report(DiagnosticId::BadKeyword, definition.brace, {""},
                    "a definition begins with name:");
@@ -111,7 +118,9 @@ private:
         const SheetItem& first = definition.items.front();
         if (first.keyword != "name") {
             report(DiagnosticId::BadKeyword, first.writtenKeyword, {first.keyword},
-                   "a definition begins with name:");
+                   first.keyword.starts_with("name") && first.value.empty()
+                       ? "a : follows the keyword name"
+                       : "a definition begins with name:");
         }
         for (std::size_t i = 1; i < definition.items.size(); ++i) {
             findItemError(definition.items[i]);
@@ -237,12 +246,12 @@ private:
     std::array<std::unordered_map<std::string, std::string_view>, 3> defined_;
 };
 
-std::optional<RtfError> loadingError(std::string_view text) {
+std::vector<RtfError> loadingErrors(std::string_view text) {
     try {
         parseStyleSheet(text, [](const StyleDefinition&) {});
-        return std::nullopt;
+        return {};
     } catch (const RtfError& error) {
-        return error;
+        return {error};
     }
 }
 
@@ -258,20 +267,8 @@ std::vector<Diagnostic> findingsWithoutLoading(std::string_view text) {
 }
 
 std::vector<Diagnostic> checkStyleSheet(std::string_view text) {
-    std::vector<Diagnostic> findings = findingsWithoutLoading(text);
-    const std::optional<RtfError> error = loadingError(text);
-    const auto isError = [](const Diagnostic& finding) {
-        return finding.severity == Severity::Error;
-    };
-    if (!error) {
-        std::erase_if(findings, isError);
-    } else if (std::none_of(findings.begin(), findings.end(), isError)) {
-        DiagnosticEngine engine(
-            [&](Diagnostic finding) { findings.insert(findings.begin(), std::move(finding)); });
-        engine.report(DiagnosticId::StyleSheetRejected, SourceText(text).place(0, 0),
-                      {error->description});
-    }
-    return findings;
+    return judgedFindings(findingsWithoutLoading(text), loadingErrors(text),
+                          DiagnosticId::StyleSheetRejected, SourceText(text));
 }
 
 std::vector<Diagnostic> findUnusedStyles(const KnownStyles& styles) {

@@ -254,7 +254,8 @@ private:
                            {std::to_string(total), std::to_string(room)});
         }
         for (std::size_t i = 0; i < nodes.size(); ++i) {
-            // The last two of several cells share what is left, also of a page that was another one.
+            // The last two of several cells share what is left, also of a page that was another
+            // one.
             const bool getsRest = nodes.size() > 1 && i + 2 >= nodes.size();
             const double tolerance =
                 room * 0.005 + static_cast<double>((getsRest ? std::abs(total - room) : 0) + slack);

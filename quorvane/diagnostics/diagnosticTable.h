@@ -1348,8 +1348,24 @@ QUORVANE_DIAGNOSTIC(DeepNesting, "deep-nesting", Error, Rtf,
     "Groups are nested deeper than {0}.",
     "Word processors give up on groups that are nested so deep. What is deeper is not "
     "checked.",
-    "",
-    "",
+    "{\\rtf1\n"
+    "; 1000 times:\n"
+    "{\n"
+    "; so far\n"
+    "Total\n"
+    "; 1000 times:\n"
+    "}\n"
+    "; so far\n"
+    "}\n",
+    "{\\rtf1\n"
+    "; 3 times:\n"
+    "{\n"
+    "; so far\n"
+    "Total\n"
+    "; 3 times:\n"
+    "}\n"
+    "; so far\n"
+    "}\n",
     "")
 
 QUORVANE_DIAGNOSTIC(CellCount, "cell-count", Error, Rtf,

@@ -55,6 +55,13 @@ std::string nearKeyHint(NodeKind kind, std::string_view word, const Vocabulary& 
             return "did you mean " + std::string(key) + "?";
         }
     }
+    if (meaning == std::vector<std::string>{"border"} && kind != NodeKind::Para &&
+        kind != NodeKind::Doc) {
+        const std::string node = kind == NodeKind::Row ? "row" : "cell";
+        return "each side has a border of its own: " + node +
+               "-top-border and -bottom-, -left-, "
+               "-right-border";
+    }
     std::vector<std::string_view> candidates = keys;
     for (const std::string_view key : keys) {
         candidates.push_back(vocabulary.shorten(key));

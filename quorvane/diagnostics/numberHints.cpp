@@ -72,6 +72,12 @@ std::string numberHint(std::string_view key, std::string_view value) {
     if (value.empty()) {
         return "the value is missing: " + acceptedNumber(key);
     }
+    if (lowerCase(value) == "a4" && key.starts_with("paper-")) {
+        return "A4 is 11906 twips wide and 16838 high";
+    }
+    if (lowerCase(value) == "letter" && key.starts_with("paper-")) {
+        return "US letter is 12240 twips wide and 15840 high";
+    }
     if (value.find_first_not_of("+-.0123456789eE") == nowhere &&
         value.find_first_of("0123456789") != nowhere && value.find_first_of("eE") != nowhere) {
         return "the number is too large, or is none: write its digits, without an exponent";

@@ -1,5 +1,6 @@
 #include "quorvane/diagnostics/trialDocument.h"
 
+#include <optional>
 #include <string>
 
 #include "quorvane/driver/DescriptionTree.h"
@@ -47,10 +48,11 @@ private:
     std::vector<OutlineLeaf*> leaves_;
 };
 
-DiagnosticId idOf(const RtfError& error) {
-    return error.is(RunTimeError::Overflow)       ? DiagnosticId::Overflow
-           : error.is(RunTimeError::DuplicateKey) ? DiagnosticId::TakenKey
-                                                  : DiagnosticId::Rejected;
+/// What the check says of an error of a leaf; nothing where a driver tells it as it is.
+std::optional<DiagnosticId> idOf(const RtfError& error) {
+    return error.is(RunTimeError::Overflow)       ? std::optional(DiagnosticId::Overflow)
+           : error.is(RunTimeError::DuplicateKey) ? std::optional(DiagnosticId::TakenKey)
+                                                  : std::nullopt;
 }
 
 }  // namespace
@@ -84,13 +86,12 @@ Ref<CRtfDoc> buildTrialDocument(DescriptionOutline& outline, const SourceText& s
             return document;
         } catch (const RtfError& error) {
             OutlineLeaf* leaf = tree.leafAt(error.line);
-            if (!leaf) {
-                engine.report(DiagnosticId::Rejected, source.placeOf(outline.doc->line),
-                              {error.description});
+            const std::optional<DiagnosticId> id = idOf(error);
+            if (!leaf || !id) {
                 return nullptr;
             }
             leaf->isFaulty = true;
-            engine.report(idOf(error), source.placeOf(leaf->text), {error.description});
+            engine.report(*id, source.placeOf(leaf->text), {error.description});
         }
     }
     return nullptr;

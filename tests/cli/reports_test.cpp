@@ -2,8 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <string>
+#include <utility>
+#include <vector>
 
+#include "quorvane/diagnostics/diagnosticRules.h"
+#include "quorvane/diagnostics/judgement.h"
 #include "tests/cli/reportOf.h"
 
 namespace quorvane::cli {
@@ -415,6 +420,105 @@ a.rtfspec:6:5: warning: The stylesheet has no paragraph style nromal: normal sta
         ^~~~~~
     hint: did you mean normal?
 )");
+}
+
+TEST(ReportsOfKeys, KnowMoreThatIsWrittenByMistake) {
+    EXPECT_EQ(
+        reportOf("(doc\n(paper-width=A4)\n(r\n(border=thin)\n(c\n(p (pt=x) p)\nc)\nr)\ndoc)\n"),
+        R"(a.rtfspec:2:14: error: Value for paper-width should be numeric. [not-a-number]
+    (paper-width=A4)
+                 ^~
+    hint: A4 is 11906 twips wide and 16838 high
+a.rtfspec:4:2: error: border isn't a valid keyword. [wrong-keyword]
+    (border=thin)
+     ^~~~~~
+    hint: each side has a border of its own: row-top-border and -bottom-, -left-, -right-border
+a.rtfspec:6:1: error: (p (pt=x) p) has a wrong syntax [wrong-syntax]
+    (p (pt=x) p)
+    ^~~~~~~~~~~~
+    hint: each node and each key stands on a line of its own
+)");
+}
+
+TEST(ReportsOfStyleSheets, TellAWrongKindOnce) {
+    EXPECT_EQ(reportOfFile("a.rtfss",
+                           "{ name: a; style-def: paragraph; format: \\b }\n"
+                           "{ name: b; style-def: char; format: \\b }\n"
+                           "{ name= c; style-def: s }\n"),
+              R"(a.rtfss:1:23: error: paragraph is not a valid value for style-def [bad-style-kind]
+    { name: a; style-def: paragraph; format: \b }
+                          ^~~~~~~~~
+    hint: a paragraph style is s
+a.rtfss:2:23: error: char is not a valid value for style-def [bad-style-kind]
+    { name: b; style-def: char; format: \b }
+                          ^~~~
+    hint: a character style is cs
+a.rtfss:3:3: error: Error while processing stylesheet. name= c is not a valid keyword. [bad-keyword]
+    { name= c; style-def: s }
+      ^~~~~~~
+    hint: a : follows the keyword name
+)");
+}
+
+/// The report of findings about a text.
+std::string reportOfFindings(const std::string& file, const std::string& text,
+                             const std::vector<quorvane::Diagnostic>& findings) {
+    std::string report;
+    for (const quorvane::Diagnostic& finding : findings) {
+        report += findingText(file, finding, excerptAt(finding.place, windowOf(text)), Colors::Off);
+    }
+    return report;
+}
+
+/// Reports of diagnostics that no text is known for, as the check has words of its own for all
+/// errors that the library raises today: what is told of an error that it does not know.
+const std::map<std::string, std::pair<std::string, std::string>>& reportsWithoutExample() {
+    static const std::map<std::string, std::pair<std::string, std::string>> reports = [] {
+        RtfError error(4711, "A new error");
+        error.line = 2;
+        const std::string description = "(doc\n(row\ndoc)\n";
+        const std::string sheet = "{ name: a }\n{ name: b }\n";
+        std::map<std::string, std::pair<std::string, std::string>> list;
+        list["rejected"] = {reportOfFindings("a.rtfspec", description,
+                                             judgedFindings({}, {error}, DiagnosticId::Rejected,
+                                                            SourceText(description))),
+                            "a.rtfspec:2:1: error: A new error [rejected]\n    (row\n    ^~~~\n"};
+        error.line = 0;
+        list["stylesheet-rejected"] = {
+            reportOfFindings(
+                "a.rtfss", sheet,
+                judgedFindings({}, {error}, DiagnosticId::StyleSheetRejected, SourceText(sheet))),
+            "a.rtfss:1:1: error: A new error [stylesheet-rejected]\n    { name: a }\n"
+            "    ^~~~~~~~~~~\n"};
+        return list;
+    }();
+    return reports;
+}
+
+TEST(ReportsOfUnknownErrors, SayWhatTheLibrarySays) {
+    for (const auto& [identifier, report] : reportsWithoutExample()) {
+        EXPECT_EQ(report.first, report.second);
+    }
+}
+
+TEST(ReportsOfUnknownErrors, AreLeftOutWhereTheCheckHasItsOwn) {
+    const std::string text = "(doc\n(row\ndoc)\n";
+    const SourceText source(text);
+    const std::vector<quorvane::Diagnostic> own{
+        {DiagnosticId::NoRow, Severity::Error, source.place(0, 4), "none", ""},
+        {DiagnosticId::EmptyText, Severity::Warning, source.place(5, 9), "empty", ""}};
+    EXPECT_EQ(judgedFindings(own, {RtfError(1, "x")}, DiagnosticId::Rejected, source).size(), 2u);
+    const auto accepted = judgedFindings(own, {}, DiagnosticId::Rejected, source);
+    ASSERT_EQ(accepted.size(), 1u);
+    EXPECT_EQ(accepted[0].id, DiagnosticId::EmptyText);
+}
+
+/// The pages' examples are compared with whole reports, see the tests of the page.
+TEST(Reports, AreTestedAsAWholeForEveryDiagnostic) {
+    for (const DiagnosticRule& rule : diagnosticRules()) {
+        const bool isTestedHere = reportsWithoutExample().contains(std::string(rule.identifier));
+        EXPECT_NE(isTestedHere, !rule.wrong.empty()) << rule.identifier;
+    }
 }
 
 }  // namespace
