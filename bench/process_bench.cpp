@@ -70,7 +70,9 @@ using MakeCommand = std::function<Command(const std::string& freshFolder)>;
 
 class Comparison {
 public:
-    explicit Comparison(fs::path folder) : folder_(std::move(folder)) {}
+    explicit Comparison(fs::path folder) : folder_(std::move(folder)) {
+        fs::create_directory(folder_);
+    }
 
     /// Prints the ratios of the best times and answers a run of the first.
     Run compare(const char* what, int times, const MakeCommand& ours, const MakeCommand& plain) {
@@ -118,6 +120,61 @@ std::string sizeOf(const fs::path& path) {
     return std::to_string(fs::file_size(path));
 }
 
+/// Many small documents in one call.
+void compareMany(const char* what, const fs::path& programs, const fs::path& examples,
+                 const fs::path& folder) {
+    constexpr int copies = 1000;
+    constexpr int runs = 11;
+    const std::string quorvane = (programs / "quorvane").string();
+    const std::string invoiceSheet = (examples / "invoice.rtfss").string();
+    std::vector<std::string> invoices;
+    for (int i = 0; i < copies; ++i) {
+        const fs::path invoice = folder / ("invoice" + std::to_string(i) + ".rtfspec");
+        fs::copy_file(examples / "invoice.rtfspec", invoice);
+        invoices.push_back(invoice.string());
+    }
+    runOnce({quorvane, "render", "-s", invoiceSheet, invoices.front(), "-o",
+             (folder / "invoice.rtf").string()});
+    const std::string invoiceSize = sizeOf(folder / "invoice.rtf");
+    const auto withInvoices = [&](Command command) {
+        command.insert(command.end(), invoices.begin(), invoices.end());
+        return command;
+    };
+    Comparison(folder / "many")
+        .compare(
+            what, runs,
+            [&](const std::string& out) {
+                return withInvoices({quorvane, "render", "-s", invoiceSheet, "--output-dir", out});
+            },
+            [&](const std::string& out) {
+                return withInvoices({(programs / "copy_files").string(), invoiceSize, out});
+            });
+}
+
+/// A new folder's name in a file system that keeps files in memory only: what is written there does
+/// not wait for a disk, nor for what others wrote. Empty where there is none.
+fs::path memoryFolder(const fs::path& name) {
+    const fs::path shared = "/dev/shm";
+    return ::access(shared.c_str(), W_OK | X_OK) == 0 ? shared / name : fs::path();
+}
+
+/// A new folder, which goes with all that is in it.
+class TemporaryFolder {
+public:
+    explicit TemporaryFolder(fs::path path) : path_(std::move(path)) {
+        fs::create_directory(path_);
+    }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+    ~TemporaryFolder() {
+        std::error_code ignored;
+        fs::remove_all(path_, ignored);
+    }
+
+private:
+    fs::path path_;
+};
+
 void compareAll(const fs::path& programs, const fs::path& examples, const fs::path& folder) {
     const std::string quorvane = (programs / "quorvane").string();
     const std::string copyFiles = (programs / "copy_files").string();
@@ -159,31 +216,14 @@ void compareAll(const fs::path& programs, const fs::path& examples, const fs::pa
             return Command{copyFiles, fullSize, out, full};
         });
 
-    constexpr int copies = 1000;
-    const std::string invoiceSheet = (examples / "invoice.rtfss").string();
-    std::vector<std::string> invoices;
-    for (int i = 0; i < copies; ++i) {
-        const fs::path invoice = folder / ("invoice" + std::to_string(i) + ".rtfspec");
-        fs::copy_file(examples / "invoice.rtfspec", invoice);
-        invoices.push_back(invoice.string());
+    compareMany(
+        "1,000 copies of the example invoice in one call, to a program that reads those "
+        "files and writes files of the documents' size",
+        programs, examples, folder);
+    if (const fs::path memory = memoryFolder(folder.filename()); !memory.empty()) {
+        const TemporaryFolder inMemory(memory);
+        compareMany("The same in a file system in memory (/dev/shm)", programs, examples, memory);
     }
-    runOnce({quorvane, "render", "-s", invoiceSheet, invoices.front(), "-o",
-             (folder / "invoice.rtf").string()});
-    const std::string invoiceSize = sizeOf(folder / "invoice.rtf");
-    const auto withInvoices = [&](Command command) {
-        command.insert(command.end(), invoices.begin(), invoices.end());
-        return command;
-    };
-    comparison.compare(
-        "1,000 copies of the example invoice in one call, to a program that reads those files and "
-        "writes files of the documents' size",
-        7,
-        [&](const std::string& out) {
-            return withInvoices({quorvane, "render", "-s", invoiceSheet, "--output-dir", out});
-        },
-        [&](const std::string& out) {
-            return withInvoices({copyFiles, invoiceSize, out});
-        });
 
     constexpr std::int32_t rows = 100000;
     const std::string tableBench = (programs / "table_bench").string();
@@ -219,14 +259,12 @@ int main(int argc, char** argv) {
     }
     const fs::path folder =
         fs::temp_directory_path() / ("quorvane-bench-" + std::to_string(::getpid()));
-    fs::create_directory(folder);
-    int status = 0;
     try {
+        const quorvane::bench::TemporaryFolder temporary(folder);
         quorvane::bench::compareAll(argv[1], argv[2], folder);
     } catch (const std::exception& error) {
         static_cast<void>(std::fprintf(stderr, "%s\n", error.what()));
-        status = 1;
+        return 1;
     }
-    fs::remove_all(folder);
-    return status;
+    return 0;
 }

@@ -9,8 +9,10 @@
 
 #include "cli/RenderOptions.h"
 #include "cli/process.h"
+#include "cli/styleSheetName.h"
 #include "cli/utf8Path.h"
 #include "quorvane/diagnostics/DescriptionCheck.h"
+#include "quorvane/diagnostics/DiagnosticEngine.h"
 #include "quorvane/diagnostics/RtfCheck.h"
 #include "quorvane/diagnostics/StyleSheetCheck.h"
 #include "quorvane/diagnostics/languageOf.h"
@@ -21,6 +23,8 @@ namespace quorvane::cli {
 namespace {
 
 constexpr std::size_t pieceLength = std::size_t{1024} * 1024;
+// So many findings about an RTF file are held back to be told in the order of their places.
+constexpr std::size_t mostFindingsHeld = 100'000;
 
 /// The next bytes of a stream; empty at its end.
 std::string readPiece(std::istream& stream) {
@@ -53,6 +57,7 @@ CheckJob::CheckJob(CheckOptions options, FindingSink find, DiagnosticSink fail, 
 
 ExitStatus CheckJob::run() {
     if (options_.styleSheet) {
+        requireStyleSheetExtension(*options_.styleSheet, options_.files);
         checkStyles(*options_.styleSheet);
     }
     for (const std::string& file : options_.files) {
@@ -60,7 +65,7 @@ ExitStatus CheckJob::run() {
             checkFile(file);
         }
     }
-    if (styles_ && styles_->areLoaded() && checkedDescriptions_) {
+    if (styles_ && checkedDescriptions_) {
         tellAll(*options_.styleSheet, findUnusedStyles(*styles_),
                 codePage1252FromUtf8(styles_->text()));
     }
@@ -75,6 +80,9 @@ void CheckJob::checkStyles(const std::string& file) {
         const std::string bytes = platform_.readFile(file);
         styles_.emplace(utf8FromCodePage1252(bytes));
         tellAll(file, checkStyleSheet(styles_->text()), bytes);
+        if (!openingOfDescription(styles_->text()).empty()) {
+            styles_.reset();
+        }
     } catch (const RtfError& error) {
         hasFailed_ = true;
         fail_({DiagnosticKind::Raised, file, error});
@@ -95,7 +103,7 @@ void CheckJob::checkFile(const std::string& file) {
         if (std::filesystem::is_regular_file(path, failure)) {
             std::ifstream stream(path, std::ios::binary);
             const std::string beginning = stream ? readPiece(stream) : std::string();
-            if (languageOf(beginning) == CheckedLanguage::Rtf) {
+            if (languageOf(beginning, file) == CheckedLanguage::Rtf) {
                 checkRtfFile(file, stream, beginning);
                 return;
             }
@@ -108,7 +116,7 @@ void CheckJob::checkFile(const std::string& file) {
 }
 
 void CheckJob::checkText(const std::string& file, std::string_view bytes) {
-    switch (languageOf(bytes)) {
+    switch (languageOf(bytes, file)) {
         case CheckedLanguage::Rtf:
             tellAll(file, checkRtf(bytes), bytes);
             break;
@@ -127,7 +135,20 @@ void CheckJob::checkText(const std::string& file, std::string_view bytes) {
 void CheckJob::checkRtfFile(const std::string& file, std::istream& stream,
                             const std::string& beginning) {
     const FileWindow window = windowOfFile(file);
-    RtfCheck check([&](const quorvane::Diagnostic& finding) { tell(file, finding, window); });
+    std::vector<quorvane::Diagnostic> held;
+    const auto tellHeld = [&] {
+        sortByPlace(held);
+        for (const quorvane::Diagnostic& finding : held) {
+            tell(file, finding, window);
+        }
+        held.clear();
+    };
+    RtfCheck check([&](quorvane::Diagnostic finding) {
+        held.push_back(std::move(finding));
+        if (held.size() == mostFindingsHeld) {
+            tellHeld();
+        }
+    });
     check.feed(beginning);
     for (std::string piece = readPiece(stream); !piece.empty(); piece = readPiece(stream)) {
         check.feed(piece);
@@ -136,6 +157,7 @@ void CheckJob::checkRtfFile(const std::string& file, std::istream& stream,
         raise(RunTimeError::DeviceIoError);
     }
     check.finish();
+    tellHeld();
 }
 
 void CheckJob::tell(const std::string& file, const quorvane::Diagnostic& finding,

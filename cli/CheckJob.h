@@ -29,7 +29,8 @@ public:
     CheckJob(CheckOptions options, FindingSink find, DiagnosticSink fail,
              Platform& platform = systemPlatform());
 
-    /// Tells all findings, and every file that cannot be read.
+    /// Tells all findings, and every file that cannot be read. Throws a `UsageError` for a
+    /// stylesheet without the extension rtfss.
     ExitStatus run();
 
 private:

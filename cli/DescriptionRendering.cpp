@@ -22,12 +22,14 @@ std::string outputName(const std::string& output) {
 }  // namespace
 
 DescriptionRendering::DescriptionRendering(const Assignment& assignment,
-                                           const RenderingManner& manner, Platform& platform,
+                                           const RenderingManner& manner, CRtfDriver& driver,
                                            const DiagnosticSink& tell)
-    : assignment_(assignment),
-      manner_(manner),
-      tell_(tell),
-      driver_(CRtfDriver::create(platform)) {}
+    : assignment_(assignment), manner_(manner), tell_(tell), driver_(driver) {}
+
+DescriptionRendering::~DescriptionRendering() {
+    driver_.setNotifyErrorHandler({});
+    driver_.setAbsorbedErrorObserver({});
+}
 
 ExitStatus DescriptionRendering::run() {
     if (manner_.styleSheet) {
@@ -42,7 +44,7 @@ ExitStatus DescriptionRendering::run() {
 
 void DescriptionRendering::setStyleSheet(const std::string& name) {
     try {
-        driver_->setStyleSheetFile(name);
+        driver_.setStyleSheetFile(name);
     } catch (const RtfError& error) {
         tellError(DiagnosticKind::Raised, name, error, ExitStatus::ContentErrors);
     }
@@ -50,15 +52,15 @@ void DescriptionRendering::setStyleSheet(const std::string& name) {
 
 bool DescriptionRendering::analyse() {
     const std::string name = inputName(assignment_.description);
-    driver_->setErroneousInput(manner_.check);
-    driver_->setNotifyErrorHandler([&](CRtfDriver&) {
+    driver_.setErroneousInput(manner_.check);
+    driver_.setNotifyErrorHandler([&](CRtfDriver&) {
         tellError(DiagnosticKind::Event, name, *currentError(), ExitStatus::ContentErrors);
     });
     try {
         if (assignment_.description == standardStream) {
-            driver_->ParseFromMemmory(utf8FromCodePage1252(readStandardInput()));
+            driver_.ParseFromMemmory(utf8FromCodePage1252(readStandardInput()));
         } else {
-            driver_->ParseFile(assignment_.description);
+            driver_.ParseFile(assignment_.description);
         }
         return true;
     } catch (const RtfError& error) {
@@ -69,11 +71,11 @@ bool DescriptionRendering::analyse() {
 
 void DescriptionRendering::write() {
     const std::string name = outputName(assignment_.output);
-    driver_->setAbsorbedErrorObserver([&](const AbsorbedError& absorbed) {
+    driver_.setAbsorbedErrorObserver([&](const AbsorbedError& absorbed) {
         tellError(DiagnosticKind::Raised, name, absorbed.error, ExitStatus::Failure);
     });
     try {
-        driver_->Commit(assignment_.output);
+        driver_.Commit(assignment_.output);
     } catch (const RtfError& error) {
         tellError(DiagnosticKind::Raised, name, error, ExitStatus::Failure);
     }

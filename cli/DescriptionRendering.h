@@ -7,8 +7,6 @@
 #include "cli/ExitStatus.h"
 #include "cli/outputPaths.h"
 #include "quorvane/driver/CRtfDriver.h"
-#include "quorvane/support/Platform.h"
-#include "quorvane/support/Ref.h"
 
 namespace quorvane::cli {
 
@@ -20,12 +18,16 @@ struct RenderingManner {
     bool keepGoing = false;
 };
 
-/// The rendering of one description, by a driver of its own.
+/// The rendering of one description. Several can go through the same driver, one after the other:
+/// each leaves nothing in it but the stylesheet and what its document was made of.
 class DescriptionRendering {
 public:
-    /// The assignment, the platform and the sink must outlive the rendering.
+    /// The assignment, the manner, the driver and the sink must outlive the rendering.
     DescriptionRendering(const Assignment& assignment, const RenderingManner& manner,
-                         Platform& platform, const DiagnosticSink& tell);
+                         CRtfDriver& driver, const DiagnosticSink& tell);
+    DescriptionRendering(const DescriptionRendering&) = delete;
+    DescriptionRendering& operator=(const DescriptionRendering&) = delete;
+    ~DescriptionRendering();
 
     /// Builds the document and writes it. After an error nothing is written, unless the manner is
     /// to keep going and there is something to write.
@@ -39,9 +41,9 @@ private:
                    ExitStatus status);
 
     const Assignment& assignment_;
-    RenderingManner manner_;
+    const RenderingManner& manner_;
     const DiagnosticSink& tell_;
-    Ref<CRtfDriver> driver_;
+    CRtfDriver& driver_;
     ExitStatus status_ = ExitStatus::Success;
 };
 

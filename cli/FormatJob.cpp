@@ -20,8 +20,8 @@ std::string shownName(const std::string& file) {
 }
 
 /// The bytes in their canonical form.
-std::string formatted(std::string_view bytes, NameForm names) {
-    switch (languageOf(bytes)) {
+std::string formatted(const std::string& file, std::string_view bytes, NameForm names) {
+    switch (languageOf(bytes, file)) {
         case CheckedLanguage::Description:
             return codePage1252FromUtf8(formattedDescription(utf8FromCodePage1252(bytes), names));
         case CheckedLanguage::StyleSheet:
@@ -57,7 +57,7 @@ ExitStatus FormatJob::run() {
 ExitStatus FormatJob::format(const std::string& file) {
     const bool isStream = file == standardStream;
     const std::string bytes = isStream ? readStandardInput() : platform_.readFile(file);
-    const std::string canonical = formatted(bytes, options_.names);
+    const std::string canonical = formatted(file, bytes, options_.names);
     if (options_.check) {
         if (canonical == bytes) {
             return ExitStatus::Success;

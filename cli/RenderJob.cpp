@@ -8,23 +8,15 @@
 #include <utility>
 #include <vector>
 
-#include "cli/UsageError.h"
+#include "cli/styleSheetName.h"
 #include "cli/utf8Path.h"
-#include "quorvane/support/GFileSystem.h"
-#include "quorvane/support/textCase.h"
 
 namespace quorvane::cli {
 
 namespace {
 
 constexpr std::int32_t outOfMemory = 7;
-
-/// The library passes over a stylesheet with another extension and says nothing.
-void requireStyleSheetExtension(const std::string& name) {
-    if (lowerCase(GFileSystem::getFileExtension(name)) != "rtfss") {
-        throw UsageError("the stylesheet " + name + " must have the extension rtfss");
-    }
-}
+constexpr std::size_t largestKeptDocument = std::size_t{1024} * 1024;
 
 bool isFolder(const std::string& name) {
     std::error_code failure;
@@ -43,7 +35,7 @@ RenderJob::RenderJob(RenderOptions options, DiagnosticSink tell, ProgressSink pr
 
 ExitStatus RenderJob::run() {
     if (options_.styleSheet) {
-        requireStyleSheetExtension(*options_.styleSheet);
+        requireStyleSheetExtension(*options_.styleSheet, options_.descriptions);
     }
     const std::vector<Assignment> assignments = assignOutputs(options_);
     if (options_.outputFolder && !isFolder(*options_.outputFolder)) {
@@ -80,8 +72,18 @@ ExitStatus RenderJob::readStyleSheet() {
 
 ExitStatus RenderJob::render(const Assignment& assignment) {
     try {
-        return DescriptionRendering(assignment, manner_, platform_, tell_).run();
+        if (!driver_) {
+            driver_ = CRtfDriver::create(platform_);
+        }
+        const ExitStatus status = DescriptionRendering(assignment, manner_, *driver_, tell_).run();
+        // The next document uses the memory of a small one again; that of a large one shall not
+        // stay beside it. After an error the next description begins anew.
+        if (status != ExitStatus::Success || driver_->Contents().size() > largestKeptDocument) {
+            driver_ = nullptr;
+        }
+        return status;
     } catch (const std::bad_alloc&) {
+        driver_ = nullptr;
         return fail(assignment.description, RtfError(outOfMemory, "Out of memory"));
     }
 }

@@ -9,7 +9,9 @@
 #include "cli/Diagnostic.h"
 #include "cli/ExitStatus.h"
 #include "cli/RenderOptions.h"
+#include "quorvane/driver/CRtfDriver.h"
 #include "quorvane/support/Platform.h"
+#include "quorvane/support/Ref.h"
 
 namespace quorvane::cli {
 
@@ -38,6 +40,8 @@ private:
     DiagnosticSink tell_;
     ProgressSink progress_;
     CommandPlatform platform_;
+    // For one description after the other, so that the stylesheet is parsed once.
+    Ref<CRtfDriver> driver_;
 };
 
 }  // namespace quorvane::cli

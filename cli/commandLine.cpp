@@ -30,8 +30,9 @@ Exit status:
   2  wrong usage, or a file that cannot be read or written)";
 
 constexpr const char* checkFooter =
-    R"(A file is a description, a stylesheet or an RTF file by its content; - is
-standard input. Nothing is written but what was found, on standard output:
+    R"(A file is a description, a stylesheet or an RTF file by its content, and where
+that does not tell, by its extension; - is standard input. Nothing is written
+but what was found, on standard output:
 
   letter.rtfspec:3:5: error: crimson isn't a recognized color. [wrong-color]
       (rb=crimson)
@@ -39,7 +40,7 @@ standard input. Nothing is written but what was found, on standard output:
       hint: did you mean dark-red?
 
 The name in brackets is what --explain takes. On a terminal the text is
-coloured, unless the environment has a variable NO_COLOR.
+coloured, unless the environment has a variable NO_COLOR that is not empty.
 
 Exit status:
   0  nothing was found
@@ -57,9 +58,11 @@ const std::map<std::string, FindingsForm>& findingsForms() {
 }
 
 constexpr const char* formatFooter =
-    R"(A file is a description or a stylesheet by its content; - is standard input,
-whose canonical form goes to standard output. A file that is in its form is not
-touched. The form means the same: it renders to the same document.
+    R"(A file is a description or a stylesheet by its content, and where that does not
+tell, by its extension; - is standard input, whose canonical form goes to
+standard output. A file that is in its form is not touched. The form means the
+same: it renders to the same document. Errors may be told in other words, as
+they repeat lines of the description.
 
 Exit status:
   0  all is well
@@ -154,7 +157,7 @@ CLI::App* addCheckCommand(CLI::App& app, CheckOptions& options) {
         ->allow_extra_args();
     check
         ->add_option("-s,--stylesheet", storeIn(options.styleSheet),
-                     "Look the styles of descriptions up in this file, and check it too")
+                     "Look the styles of descriptions up in this .rtfss file, and check it too")
         ->type_name("FILE");
     check
         ->add_option("--diagnostics", storeIn(options.form),

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <map>
+#include <optional>
 #include <system_error>
 
 #include "cli/UsageError.h"
@@ -45,14 +46,16 @@ fs::path canonicalPath(const fs::path& path) {
 /// One name for all ways in which a file can be named.
 class Identities {
 public:
-    fs::path of(const std::string& name) {
+    std::string of(const std::string& name) {
         if (name == standardStream) {
             return name;
         }
         const fs::path target = followLinks(pathFromUtf8(name));
         std::error_code failure;
         const fs::path whole = fs::absolute(target, failure);
-        return systemSpelling(failure ? target : withCanonicalFolder(whole));
+        const fs::path file = systemSpelling(failure ? target : withCanonicalFolder(whole));
+        const std::u8string identity = file.generic_u8string();
+        return {identity.begin(), identity.end()};
     }
 
 private:
@@ -73,8 +76,8 @@ private:
 };
 
 /// The files that are read; no document may take the place of one.
-std::map<fs::path, std::string> inputsOf(const RenderOptions& options, Identities& identities) {
-    std::map<fs::path, std::string> inputs;
+std::map<std::string, std::string> inputsOf(const RenderOptions& options, Identities& identities) {
+    std::map<std::string, std::string> inputs;
     for (const std::string& description : options.descriptions) {
         if (description != standardStream) {
             inputs.emplace(identities.of(description), description);
@@ -87,9 +90,9 @@ std::map<fs::path, std::string> inputsOf(const RenderOptions& options, Identitie
 }
 
 /// Devices and pipes are written to, not replaced.
-bool wouldReplace(const fs::path& path) {
+bool wouldReplace(const std::string& name) {
     std::error_code failure;
-    return fs::is_regular_file(path, failure);
+    return fs::is_regular_file(pathFromUtf8(name), failure);
 }
 
 UsageError bothWouldGoTo(const std::string& output, const std::string& first,
@@ -108,15 +111,21 @@ std::vector<Assignment> assignOutputs(const RenderOptions& options) {
         throw UsageError("--output needs the name of a file");
     }
     Identities identities;
-    const std::map<fs::path, std::string> inputs = inputsOf(options, identities);
-    std::map<fs::path, std::string> descriptionsByOutput;
+    // Looked for only when there is a document that would replace something.
+    std::optional<std::map<std::string, std::string>> inputs;
+    std::map<std::string, std::string> descriptionsByOutput;
     std::vector<Assignment> assignments;
     for (const std::string& description : options.descriptions) {
         const std::string output = outputOf(description, options);
-        const fs::path file = identities.of(output);
-        const auto input = inputs.find(file);
-        if (input != inputs.end() && wouldReplace(file)) {
-            throw UsageError("the document of " + description + " would replace " + input->second);
+        const std::string file = identities.of(output);
+        if (wouldReplace(file)) {
+            if (!inputs) {
+                inputs = inputsOf(options, identities);
+            }
+            if (const auto input = inputs->find(file); input != inputs->end()) {
+                throw UsageError("the document of " + description + " would replace " +
+                                 input->second);
+            }
         }
         const auto [other, isNew] = descriptionsByOutput.emplace(file, description);
         if (!isNew) {

@@ -306,6 +306,10 @@ std::unique_ptr<OutputFile> openStandardOutput() {
 }
 
 std::unique_ptr<OutputFile> openReplacement(const std::string& path) {
+    struct stat own {};
+    if (::lstat(path.c_str(), &own) == -1 && errno == ENOENT) {
+        return std::make_unique<ReplacementFile>(path, std::nullopt);
+    }
     const std::optional<struct stat> status = statusOf(path);
     if (!status) {
         return std::make_unique<ReplacementFile>(followLinks(path).native(), std::nullopt);

@@ -1,8 +1,5 @@
 #include "quorvane/diagnostics/DescriptionCheck.h"
 
-#include <algorithm>
-#include <cstdint>
-#include <string>
 #include <utility>
 
 #include "quorvane/diagnostics/DescriptionOutline.h"
@@ -10,6 +7,7 @@
 #include "quorvane/diagnostics/SourceText.h"
 #include "quorvane/diagnostics/TrialPlatform.h"
 #include "quorvane/diagnostics/descriptionWarnings.h"
+#include "quorvane/diagnostics/judgement.h"
 #include "quorvane/diagnostics/nodeErrors.h"
 #include "quorvane/diagnostics/trialDocument.h"
 #include "quorvane/driver/CRtfDriver.h"
@@ -41,12 +39,6 @@ std::vector<RtfError> driverErrorsOf(std::string_view text) {
     return errors;
 }
 
-Place placeOfLine(const SourceText& source, int number) {
-    const auto index = static_cast<std::size_t>(std::max(number, 1)) - 1;
-    const SourceText::Line line = source.lines().at(std::min(index, source.lines().size() - 1));
-    return source.place(line.start, line.end);
-}
-
 }  // namespace
 
 std::vector<Diagnostic> findingsWithoutDriver(std::string_view text, KnownStyles* styles) {
@@ -59,24 +51,8 @@ std::vector<Diagnostic> findingsWithoutDriver(std::string_view text, KnownStyles
 }
 
 std::vector<Diagnostic> checkDescription(std::string_view text, KnownStyles* styles) {
-    std::vector<Diagnostic> findings = findingsWithoutDriver(text, styles);
-    const std::vector<RtfError> errors = driverErrorsOf(text);
-    const auto isError = [](const Diagnostic& finding) {
-        return finding.severity == Severity::Error;
-    };
-    if (errors.empty()) {
-        std::erase_if(findings, isError);
-    } else if (std::none_of(findings.begin(), findings.end(), isError)) {
-        const SourceText source(text);
-        DiagnosticEngine engine(
-            [&](Diagnostic finding) { findings.push_back(std::move(finding)); });
-        for (const RtfError& error : errors) {
-            engine.report(DiagnosticId::Rejected, placeOfLine(source, error.line),
-                          {error.description});
-        }
-        sortByPlace(findings);
-    }
-    return findings;
+    return judgedFindings(findingsWithoutDriver(text, styles), driverErrorsOf(text),
+                          DiagnosticId::Rejected, SourceText(text));
 }
 
 }  // namespace quorvane

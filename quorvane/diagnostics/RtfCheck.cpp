@@ -295,7 +295,7 @@ void RtfCheck::takeByte(unsigned char byte) {
             }
             break;
         case State::AfterEnd:
-            if (byte != '\r' && byte != '\n' && byte != '\0' && !toldAfterEnd_) {
+            if (byte != '\r' && byte != '\n' && !toldAfterEnd_) {
                 toldAfterEnd_ = true;
                 engine_.report(DiagnosticId::TextAfterEnd, here(1));
             }
@@ -474,12 +474,7 @@ void RtfCheck::applyRowWord() {
     Row& row = isNested ? nestedRow_ : row_;
     switch (roleOf(word_)) {
         case Role::RowDefinition:
-            if (!row.isOpen) {
-                row.begin = wordPlace();
-            }
-            row.isDefined = true;
-            row.definitions = 0;
-            row.lastEdge = INT64_MIN;
+            defineRow(row);
             break;
         case Role::CellDefinition:
             ++row.definitions;
@@ -490,29 +485,67 @@ void RtfCheck::applyRowWord() {
             row.lastEdge = value_;
             break;
         case Role::Cell:
-            if (!row.isOpen && !row.isDefined) {
-                row.begin = wordPlace();
-            }
-            row.isOpen = true;
+            beginCell(row);
             ++row.cells;
+            endNestedRows();
             break;
         case Role::Row:
             endRow(row, row.cells);
             row.cells = 0;
             row.isOpen = false;
+            row.isDefinedAnew = false;
             break;
         case Role::Level:
             level_ = std::clamp<std::int64_t>(value_, 0, std::ssize(nestedCells_) - 1);
             break;
         case Role::NestedCell:
+            if (!isNestedOpen_) {
+                isNestedOpen_ = true;
+                nestedBegin_ = wordPlace();
+            }
             ++nestedCells();
             break;
         case Role::NestedRow:
             endRow(nestedRow_, nestedCells());
             nestedCells() = 0;
+            isNestedOpen_ = std::any_of(nestedCells_.begin(), nestedCells_.end(),
+                                        [](std::int64_t cells) { return cells > 0; });
             break;
         default:
             break;
+    }
+}
+
+/// A definition may stand before the row's cells, behind them, or in both places.
+void RtfCheck::defineRow(Row& row) {
+    row.nextBegin = wordPlace();
+    row.definitionsBefore = row.definitions;
+    row.isDefinedAnew = true;
+    row.definitions = 0;
+    row.lastEdge = INT64_MIN;
+}
+
+void RtfCheck::beginCell(Row& row) {
+    // All cells of the definition before are there: the new one is that of another row.
+    const bool isNextRow = row.isOpen && row.isDefinedAnew && row.cells >= row.definitionsBefore;
+    if (isNextRow && row.definitionsBefore > 0) {
+        engine_.report(DiagnosticId::UnendedRow, row.begin);
+        row.cells = 0;
+        row.isOpen = false;
+    }
+    if (!row.isOpen) {
+        row.begin = row.isDefinedAnew ? row.nextBegin : wordPlace();
+    }
+    row.isOpen = true;
+    row.isDefinedAnew = false;
+}
+
+/// The cell or the document ends that holds nested rows.
+void RtfCheck::endNestedRows() {
+    if (isNestedOpen_) {
+        engine_.report(DiagnosticId::UnendedRow, nestedBegin_);
+        nestedCells_.fill(0);
+        isNestedOpen_ = false;
     }
 }
 
@@ -578,6 +611,7 @@ void RtfCheck::defineStyle(std::size_t kind) {
 }
 
 void RtfCheck::endDocument() {
+    endNestedRows();
     if (row_.isOpen) {
         engine_.report(DiagnosticId::UnendedRow, row_.begin);
     }

@@ -71,8 +71,12 @@ private:
         std::int64_t lastEdge = INT64_MIN;
         // Where its definition or its first cell begins.
         Place begin{};
+        // Where the definition begins that no cell has followed yet, and how many cells the one
+        // before it has.
+        Place nextBegin{};
+        std::int64_t definitionsBefore = 0;
         bool isOpen = false;
-        bool isDefined = false;
+        bool isDefinedAnew = false;
     };
 
     const unsigned char* takeWholeWord(const unsigned char* at, const unsigned char* end);
@@ -89,6 +93,9 @@ private:
     void applyWord();
     void applyFirstWord();
     void applyRowWord();
+    void defineRow(Row& row);
+    void beginCell(Row& row);
+    void endNestedRows();
     void applyReference();
     void checkDefaultFont();
     void defineStyle(std::size_t kind);
@@ -129,6 +136,9 @@ private:
     Row nestedRow_;
     std::array<std::int64_t, 32> nestedCells_{};
     std::int64_t level_ = 1;
+    // Where the cells of nested rows begin that are not ended.
+    Place nestedBegin_;
+    bool isNestedOpen_ = false;
 };
 
 /// The findings about an RTF file that is held as a whole, in the order of their places.

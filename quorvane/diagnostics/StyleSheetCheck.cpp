@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <optional>
 #include <span>
 #include <string>
 #include <unordered_map>
@@ -12,6 +11,8 @@
 #include "quorvane/diagnostics/DiagnosticEngine.h"
 #include "quorvane/diagnostics/SourceText.h"
 #include "quorvane/diagnostics/StyleSheetOutline.h"
+#include "quorvane/diagnostics/judgement.h"
+#include "quorvane/diagnostics/languageOf.h"
 #include "quorvane/diagnostics/nearestWord.h"
 #include "quorvane/diagnostics/rtfText.h"
 #include "quorvane/rtfgroups/CRtfGrpColorTable.h"
@@ -41,13 +42,16 @@ const std::vector<std::string>& cellColorNames() {
     return names;
 }
 
+StyleKind kindNearly(const std::string& word) {
+    return word == "s" || word.starts_with("p")     ? StyleKind::Paragraph
+           : word == "cs" || word.starts_with("ch") ? StyleKind::Character
+                                                    : StyleKind::Cell;
+}
+
 StyleKind kindOf(const SheetDefinition& definition) {
     for (std::size_t i = 1; i < definition.items.size(); ++i) {
         if (definition.items[i].keyword == "style-def") {
-            const std::string value = lowerCase(definition.items[i].value);
-            return value == "s"    ? StyleKind::Paragraph
-                   : value == "cs" ? StyleKind::Character
-                                   : StyleKind::Cell;
+            return kindNearly(lowerCase(definition.items[i].value));
         }
     }
     return StyleKind::Cell;
@@ -60,16 +64,20 @@ std::vector<std::string_view> namesOf(const SheetDefinition& definition) {
                : std::vector<std::string_view>();
 }
 
-std::string quoted(std::string_view text) {
-    return text.empty() ? "it" : std::string(text);
-}
-
 class SheetFindings {
 public:
     SheetFindings(const SourceText& source, DiagnosticEngine& engine)
-        : source_(source), engine_(engine), outline_(readStyleSheetOutline(source.text())) {}
+        : source_(source),
+          engine_(engine),
+          outline_(readStyleSheetOutline(source.text())),
+          styles_(source.text()) {}
 
     void find() {
+        const std::string_view opening = openingOfDescription(source_.text());
+        if (!opening.empty()) {
+            report(DiagnosticId::DescriptionAsStyleSheet, opening, {},
+                   "were the names of the two files swapped?");
+        }
         findBraces();
         for (const SheetDefinition& definition : outline_.definitions) {
             findErrors(definition);
@@ -98,6 +106,10 @@ private:
     }
 
     void findErrors(const SheetDefinition& definition) {
+        if (definition.items.empty() && !outline_.loneBrace.empty()) {
+            // That a brace is missing is told already.
+            return;
+        }
         if (definition.items.empty()) {
             report(DiagnosticId::BadKeyword, definition.brace, {""},
                    "a definition begins with name:");
@@ -106,7 +118,9 @@ private:
         const SheetItem& first = definition.items.front();
         if (first.keyword != "name") {
             report(DiagnosticId::BadKeyword, first.writtenKeyword, {first.keyword},
-                   "a definition begins with name:");
+                   first.keyword.starts_with("name") && first.value.empty()
+                       ? "a : follows the keyword name"
+                       : "a definition begins with name:");
         }
         for (std::size_t i = 1; i < definition.items.size(); ++i) {
             findItemError(definition.items[i]);
@@ -133,6 +147,9 @@ private:
     }
 
     static std::string kindHint(const std::string& value, std::span<const std::string_view> kinds) {
+        if (value.empty()) {
+            return "write s, cs or cell";
+        }
         if (value.starts_with("p")) {
             return "a paragraph style is s";
         }
@@ -166,14 +183,16 @@ private:
 
     void findFormatWarningsOf(const SheetItem& item, StyleKind kind) {
         if (kind != StyleKind::Cell) {
-            findFormatWarnings(item.value, source_, engine_);
+            findTextWarnings(item.value, TextUse::Format, &styles_, source_, engine_);
             return;
         }
         const std::string color = lowerCase(item.value);
         if (!color.starts_with('^') && color != "none" &&
             CRtfGrpColorTable::colorNumber(color) == 0) {
-            report(DiagnosticId::UnknownCellColor, item.value, {quoted(item.value)},
-                   didYouMean(color, viewsOf(cellColorNames())));
+            report(DiagnosticId::UnknownCellColor, item.value,
+                   {color.empty() ? std::string_view("An empty format") : item.value},
+                   color.empty() ? "write none where no color is meant"
+                                 : didYouMean(color, viewsOf(cellColorNames())));
         }
     }
 
@@ -181,6 +200,9 @@ private:
         if (name.empty()) {
             report(DiagnosticId::EmptyStyleName, name);
             return;
+        }
+        if (kind != StyleKind::Cell) {
+            findTextWarnings(name, TextUse::StyleName, &styles_, source_, engine_);
         }
         const auto [known, isNew] =
             defined_[static_cast<std::size_t>(kind)].emplace(lowerCase(name), name);
@@ -219,16 +241,17 @@ private:
     const SourceText& source_;
     DiagnosticEngine& engine_;
     StyleSheetOutline outline_;
+    KnownStyles styles_;
     // The names of each kind in lower case, with their first places.
     std::array<std::unordered_map<std::string, std::string_view>, 3> defined_;
 };
 
-std::optional<RtfError> loadingError(std::string_view text) {
+std::vector<RtfError> loadingErrors(std::string_view text) {
     try {
         parseStyleSheet(text, [](const StyleDefinition&) {});
-        return std::nullopt;
+        return {};
     } catch (const RtfError& error) {
-        return error;
+        return {error};
     }
 }
 
@@ -244,20 +267,8 @@ std::vector<Diagnostic> findingsWithoutLoading(std::string_view text) {
 }
 
 std::vector<Diagnostic> checkStyleSheet(std::string_view text) {
-    std::vector<Diagnostic> findings = findingsWithoutLoading(text);
-    const std::optional<RtfError> error = loadingError(text);
-    const auto isError = [](const Diagnostic& finding) {
-        return finding.severity == Severity::Error;
-    };
-    if (!error) {
-        std::erase_if(findings, isError);
-    } else if (std::none_of(findings.begin(), findings.end(), isError)) {
-        DiagnosticEngine engine(
-            [&](Diagnostic finding) { findings.insert(findings.begin(), std::move(finding)); });
-        engine.report(DiagnosticId::StyleSheetRejected, SourceText(text).place(0, 0),
-                      {error->description});
-    }
-    return findings;
+    return judgedFindings(findingsWithoutLoading(text), loadingErrors(text),
+                          DiagnosticId::StyleSheetRejected, SourceText(text));
 }
 
 std::vector<Diagnostic> findUnusedStyles(const KnownStyles& styles) {
@@ -286,7 +297,10 @@ std::vector<Diagnostic> findUnusedStyles(const KnownStyles& styles) {
                    (kind != StyleKind::Cell && referenced.contains(lower)) ||
                    (isParagraph && (lower == "normal" || styles.find(kind, lower) <= reserved));
         });
-        if (!isUsed && !names.empty()) {
+        const bool isSure = std::none_of(names.begin(), names.end(), [&](std::string_view name) {
+            return styles.isOfAnyKind(name);
+        });
+        if (!isUsed && isSure && !names.empty()) {
             engine.report(DiagnosticId::UnusedStyle, source.placeOf(names.front()),
                           {names.front()});
         }

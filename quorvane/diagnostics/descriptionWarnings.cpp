@@ -1,15 +1,18 @@
 #include "quorvane/diagnostics/descriptionWarnings.h"
 
-#include <charconv>
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "quorvane/diagnostics/colorContrast.h"
 #include "quorvane/diagnostics/nearestWord.h"
+#include "quorvane/diagnostics/rtfControls.h"
 #include "quorvane/diagnostics/rtfText.h"
+#include "quorvane/diagnostics/textColors.h"
 #include "quorvane/diagnostics/trialDocument.h"
 #include "quorvane/support/RtfError.h"
 #include "quorvane/support/numberText.h"
@@ -20,6 +23,8 @@ namespace {
 
 constexpr std::size_t mostCells = 63;
 constexpr double leastContrast = 3;
+// Pairs of colors that are told of one paragraph.
+constexpr std::size_t mostColorsTold = 10;
 // Looking for the style that was meant takes a while.
 constexpr int mostHints = 1000;
 
@@ -27,23 +32,10 @@ bool isSound(const OutlineLeaf* leaf) {
     return leaf && !leaf->isFaulty;
 }
 
-/// The number behind the last control word \cf of a format; 0 when there is none.
-std::int32_t colorOfFormat(std::string_view format) {
-    constexpr std::string_view word = "\\cf";
-    std::int32_t color = 0;
-    for (std::size_t at = format.find(word); at != std::string_view::npos;
-         at = format.find(word, at + 1)) {
-        std::from_chars(format.data() + at + word.size(), format.data() + format.size(), color);
-    }
-    return color;
-}
-
 class DescriptionWarnings {
 public:
     DescriptionWarnings(KnownStyles* styles, const SourceText& source, DiagnosticEngine& engine)
-        : styles_(styles && styles->areLoaded() ? styles : nullptr),
-          source_(source),
-          engine_(engine) {}
+        : styles_(styles), source_(source), engine_(engine) {}
 
     void findInLeaves(const OutlineNode& node) {
         for (const OutlineLeaf& leaf : node.leaves) {
@@ -54,7 +46,7 @@ public:
                 findLeadingZeros(leaf);
                 findLostAlignment(node, leaf);
             } else if (leaf.key.ends_with("-marked-field")) {
-                findRefusedField(leaf);
+                findInFieldData(leaf);
             } else if (leaf.key == "cell-style") {
                 findLeadingZeros(leaf);
                 findCellStyle(leaf);
@@ -69,6 +61,7 @@ public:
 
     void findInDocument(const OutlineNode& doc, CRtfDoc& document) {
         findMargins(doc, document);
+        findRoom(doc, document);
         const Ref<CRtfTableRows> rows = document.TableRows();
         std::int32_t position = 0;
         for (const OutlineNode* row : builtChildren(doc)) {
@@ -97,7 +90,8 @@ private:
         }
     }
 
-    void findRefusedField(const OutlineLeaf& leaf) {
+    void findInFieldData(const OutlineLeaf& leaf) {
+        findTextWarnings(leaf.text, TextUse::FieldData, styles_, source_, engine_);
         if (leaf.number) {
             report(DiagnosticId::RefusedMarkedField, leaf, {leaf.text},
                    "put a letter in front: no " + std::string(leaf.text));
@@ -131,7 +125,7 @@ private:
             return;
         }
         styles_->markUsed(StyleKind::Cell, name);
-        if (styles_->find(StyleKind::Cell, name) < 0) {
+        if (styles_->lacks(StyleKind::Cell, name)) {
             report(DiagnosticId::UnknownCellStyle, leaf, {name}, styleHint(StyleKind::Cell, name));
         }
     }
@@ -142,7 +136,7 @@ private:
             return;
         }
         styles_->markUsed(StyleKind::Paragraph, name);
-        if (styles_->find(StyleKind::Paragraph, name) < 0) {
+        if (styles_->lacks(StyleKind::Paragraph, name)) {
             const StyleList& list = styles_->styles(StyleKind::Paragraph);
             report(DiagnosticId::UnknownParagraphStyle, leaf,
                    {name, list.empty() ? "the paragraph gets no format"
@@ -155,7 +149,7 @@ private:
         if (leaf.text.empty()) {
             engine_.report(DiagnosticId::EmptyText, source_.place(startOf(leaf), startOf(leaf)));
         }
-        findTextWarnings(leaf.text, source_, engine_);
+        findTextWarnings(leaf.text, TextUse::Text, styles_, source_, engine_);
         if (styles_) {
             findInlineStyles(leaf.text);
         }
@@ -166,21 +160,16 @@ private:
     }
 
     void findInlineStyles(std::string_view text) {
-        const std::size_t lastClose = text.rfind('>');
-        if (lastClose == std::string_view::npos) {
-            return;
-        }
+        const InlineTokens tokens(text);
         for (std::size_t open = text.find('<'); open != std::string_view::npos;
              open = text.find('<', open + 1)) {
-            const std::size_t end = text.find_first_of("=<>", open + 1);
-            const bool isToken = end != std::string_view::npos && text[end] == '=' &&
-                                 text[open + 1] >= 'A' && text[open + 1] <= 'z' && end < lastClose;
-            if (!isToken) {
+            const std::optional<std::string_view> token = tokens.nameAt(open);
+            if (!token) {
                 continue;
             }
-            const std::string_view name = text.substr(open + 1, end - open - 1);
+            const std::string_view name = *token;
             styles_->markUsed(StyleKind::Character, name);
-            if (styles_->find(StyleKind::Character, name) < 0) {
+            if (styles_->lacks(StyleKind::Character, name)) {
                 engine_.report(DiagnosticId::UnknownCharacterStyle, source_.placeOf(name), {name},
                                styleHint(StyleKind::Character, name));
             }
@@ -199,6 +188,27 @@ private:
         check("top-margin", document.TopMargin(), DiagnosticId::MarginFallback);
         check("bottom-margin", document.BottomMargin(), DiagnosticId::MarginFallback);
         check("page-number-start", document.PageNumberStart(), DiagnosticId::PageNumberFallback);
+    }
+
+    /// A margin is compared with the paper as it is when the margin's turn comes.
+    void findRoom(const OutlineNode& doc, const CRtfDoc& document) {
+        const auto check = [&](std::int64_t paper, std::int64_t margins, std::string_view direction,
+                               std::initializer_list<std::string_view> keys) {
+            if (paper > margins) {
+                return;
+            }
+            std::string_view part = doc.line;
+            for (const std::string_view key : keys) {
+                const OutlineLeaf* leaf = doc.find(key);
+                part = isSound(leaf) ? leaf->text : part;
+            }
+            engine_.report(DiagnosticId::NoRoom, source_.placeOf(part),
+                           {std::to_string(margins), direction, std::to_string(paper)});
+        };
+        check(document.PageWidth(), std::int64_t{document.LeftMargin()} + document.RightMargin(),
+              "wide", {"left-margin", "right-margin", "paper-width"});
+        check(document.PageHeight(), std::int64_t{document.TopMargin()} + document.BottomMargin(),
+              "high", {"top-margin", "bottom-margin", "paper-height"});
     }
 
     void findInRow(const OutlineNode& node, CRtfTableRow& row, const CRtfDoc& document) {
@@ -243,8 +253,12 @@ private:
             engine_.report(DiagnosticId::TableOverrun, source_.placeOf(node.line),
                            {std::to_string(total), std::to_string(room)});
         }
-        const double tolerance = room * 0.005 + static_cast<double>(std::abs(total - room) + slack);
         for (std::size_t i = 0; i < nodes.size(); ++i) {
+            // The last two of several cells share what is left, also of a page that was another
+            // one.
+            const bool getsRest = nodes.size() > 1 && i + 2 >= nodes.size();
+            const double tolerance =
+                room * 0.005 + static_cast<double>((getsRest ? std::abs(total - room) : 0) + slack);
             const OutlineLeaf* leaf = nodes[i]->find("cell-width");
             if (isSound(leaf) && std::abs(widths[i] - *leaf->number / 100 * room) > tolerance) {
                 report(DiagnosticId::WidthClamped, *leaf,
@@ -298,20 +312,31 @@ private:
         if (!isSound(text) || text->text.empty()) {
             return;
         }
-        std::int32_t color = own;
-        if (color == eNoColor && styles_) {
-            const StyleList& list = styles_->styles(StyleKind::Paragraph);
-            const OutlineLeaf* leaf = paragraph.find("para-style");
-            const std::string name = isSound(leaf) ? valueText(leaf->value()) : std::string();
-            const int position = styles_->find(StyleKind::Paragraph, name);
-            if (!list.empty()) {
-                color = colorOfFormat(list.at(position > 0 ? position : 1).format());
+        TextColors colors = colorsBehind(formatOf(paragraph), {0, background});
+        colors.text = own == eNoColor ? colors.text : own;
+        std::vector<TextColors> told;
+        for (const ColoredPart& part : coloredParts(text->text, colors, styles_)) {
+            const bool isNew = std::find(told.begin(), told.end(), part.colors) == told.end() &&
+                               told.size() < mostColorsTold;
+            if (isNew && contrastOf(part.colors.text, part.colors.ground) < leastContrast) {
+                told.push_back(part.colors);
+                engine_.report(
+                    DiagnosticId::LowContrast,
+                    source_.placeOf(part.colors == colors ? text->text : part.part),
+                    {textColorName(part.colors.text), backgroundName(part.colors.ground)});
             }
         }
-        if (contrastOf(color, background) < leastContrast) {
-            report(DiagnosticId::LowContrast, *text,
-                   {textColorName(color), backgroundName(background)});
+    }
+
+    /// The format of the style that the paragraph is written in.
+    std::string formatOf(const OutlineNode& paragraph) const {
+        if (!styles_ || styles_->styles(StyleKind::Paragraph).empty()) {
+            return {};
         }
+        const OutlineLeaf* leaf = paragraph.find("para-style");
+        const std::string name = isSound(leaf) ? valueText(leaf->value()) : std::string();
+        const int position = styles_->find(StyleKind::Paragraph, name);
+        return styles_->styles(StyleKind::Paragraph).at(position > 0 ? position : 1).format();
     }
 
     KnownStyles* styles_;

@@ -799,10 +799,67 @@ QUORVANE_DIAGNOSTIC(EmbeddedContent, "embedded-content", Warning, Description,
     "doc)\n",
     "")
 
+QUORVANE_DIAGNOSTIC(TableControl, "table-control", Warning, Description,
+    "{0} breaks the table in the middle of a text.",
+    "`\\cell`, `\\row`, `\\trowd`, `\\cellx` and `\\sect` end cells, rows and pages. In a text or a "
+    "format they come on top of those that the table is made of: its row has more cells then "
+    "than definitions, and readers lose it. Write a cell or a row of the description instead.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Total\\cell 12)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Total)\n"
+    "p)\n"
+    "c)\n"
+    "(c\n"
+    "(p\n"
+    "(pt=12)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(UnknownNumber, "unknown-number", Warning, Description,
+    "{0} names no {1} of the document.",
+    "`\\f` and the like name a font by its number, 0 to 17, `\\cf`, `\\highlight`, `\\cb` and the "
+    "like a colour, 0 to 57, and `\\s` and `\\cs` a style of the stylesheet, which is numbered "
+    "from 100 on. What a number names that the document's tables do not have is up to the "
+    "reader.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt={\\f20\\cf99 Total})\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt={\\f5\\cf24 Total})\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
 QUORVANE_DIAGNOSTIC(UnencodableCharacter, "unencodable-character", Warning, Description,
     "The code page has no place for {0}, which becomes a question mark.",
-    "Documents are written in Windows-1252. Other characters are written as RTF writes them: "
-    "`\\u8594?` is an arrow.",
+    "Documents are written in Windows-1252. In a text other characters are written as RTF "
+    "writes them: `{\\uc1\\u8594?}` is an arrow, and a question mark where a reader has none. The "
+    "data of a marked field and the names of styles have no such form.",
     "(doc\n"
     "(r\n"
     "(c\n"
@@ -816,7 +873,7 @@ QUORVANE_DIAGNOSTIC(UnencodableCharacter, "unencodable-character", Warning, Desc
     "(r\n"
     "(c\n"
     "(p\n"
-    "(pt=10 \\u8594? 20)\n"
+    "(pt=10 {\\uc1\\u8594?} 20)\n"
     "p)\n"
     "c)\n"
     "r)\n"
@@ -955,6 +1012,30 @@ QUORVANE_DIAGNOSTIC(MarginFallback, "margin-fallback", Warning, Description,
     "doc)\n",
     "")
 
+QUORVANE_DIAGNOSTIC(NoRoom, "no-room", Warning, Description,
+    "The margins are {0} twips {1} together, the paper is {2}.",
+    "Margins are compared with the paper as it is when their turn comes. The keys are applied in "
+    "the order of their names: a margin that fits the default paper, 12242 by 15842 twips, can "
+    "be too large for the paper that `paper-width` or `paper-height` sets after it.",
+    "(doc\n"
+    "(left-margin=8000)\n"
+    "(paper-width=5000)\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(left-margin=1533)\n"
+    "(right-margin=1533)\n"
+    "(paper-width=11906)\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
 QUORVANE_DIAGNOSTIC(PageNumberFallback, "page-number-fallback", Warning, Description,
     "The number of the first page becomes 2.",
     "The first page has a number from 1 on.",
@@ -1064,8 +1145,10 @@ QUORVANE_DIAGNOSTIC(LeadingZeros, "leading-zeros", Warning, Description,
 
 QUORVANE_DIAGNOSTIC(LowContrast, "low-contrast", Warning, Description,
     "The text is {0} on {1} and can hardly be read.",
-    "The contrast between the text and the background of its cell is less than 3 to 1. Take "
-    "another background, or a style with another colour.",
+    "The contrast between a text and what it stands on is less than 3 to 1. The colour of a text "
+    "is that of its paragraph's style, of an inline style, or of a `\\cf` in the text; it is "
+    "white where the cell is dark, and it stands on the cell's background or on a `\\highlight` "
+    "or a shading of its own. Take another background, or a style with another colour.",
     "(doc\n"
     "(r\n"
     "(c\n"
@@ -1134,6 +1217,28 @@ QUORVANE_DIAGNOSTIC(StyleSheetRejected, "stylesheet-rejected", Error, StyleSheet
     "",
     "",
     "")
+
+QUORVANE_DIAGNOSTIC(DescriptionAsStyleSheet, "description-as-stylesheet", Warning, StyleSheet,
+    "This is a description, not a stylesheet.",
+    "What is given as the stylesheet begins with a node of a description. Text outside of braces "
+    "says nothing in a stylesheet: it is accepted, and has no styles. Styles of the descriptions "
+    "are not looked up in it.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "{ name: normal; style-def: s; format: \\fs20 }\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Total)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n")
 
 QUORVANE_DIAGNOSTIC(DuplicateStyle, "duplicate-style", Warning, StyleSheet,
     "The style {0} is defined already, on line {1}.",
@@ -1217,7 +1322,7 @@ QUORVANE_DIAGNOSTIC(UnclosedGroup, "unclosed-group", Error, Rtf,
 
 QUORVANE_DIAGNOSTIC(TextAfterEnd, "text-after-end", Error, Rtf,
     "The document ends before this.",
-    "Nothing follows the brace that closes the document but line breaks. Where more follows, "
+    "Nothing but line breaks follows the brace that closes the document. Where more follows, "
     "a `}` stands too much before: readers show what is in front of it.",
     "{\\rtf1 {\\b Total}} Sum}\n",
     "{\\rtf1 {\\b Total} Sum}\n",
@@ -1243,8 +1348,24 @@ QUORVANE_DIAGNOSTIC(DeepNesting, "deep-nesting", Error, Rtf,
     "Groups are nested deeper than {0}.",
     "Word processors give up on groups that are nested so deep. What is deeper is not "
     "checked.",
-    "",
-    "",
+    "{\\rtf1\n"
+    "; 1000 times:\n"
+    "{\n"
+    "; so far\n"
+    "Total\n"
+    "; 1000 times:\n"
+    "}\n"
+    "; so far\n"
+    "}\n",
+    "{\\rtf1\n"
+    "; 3 times:\n"
+    "{\n"
+    "; so far\n"
+    "Total\n"
+    "; 3 times:\n"
+    "}\n"
+    "; so far\n"
+    "}\n",
     "")
 
 QUORVANE_DIAGNOSTIC(CellCount, "cell-count", Error, Rtf,

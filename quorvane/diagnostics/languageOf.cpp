@@ -1,63 +1,93 @@
 #include "quorvane/diagnostics/languageOf.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <optional>
+#include <string>
 
 #include "quorvane/diagnostics/SourceText.h"
 #include "quorvane/driver/Vocabulary.h"
 #include "quorvane/driver/lineClassifier.h"
+#include "quorvane/support/textCase.h"
 #include "quorvane/support/trimming.h"
 
 namespace quorvane {
 
 namespace {
 
-/// What the first line tells that is neither blank nor a comment. Texts of a description may hold
-/// more braces than a stylesheet does, so that counting alone would not do.
-std::optional<CheckedLanguage> languageOfFirstLine(std::string_view text,
-                                                   const Vocabulary& vocabulary) {
+constexpr std::size_t enough = std::size_t{64} * 1024;
+
+/// The first line that is neither blank nor a comment; empty when there is none.
+std::string_view firstLine(std::string_view text) {
     const SourceText source(text);
     for (const SourceText::Line& bounds : source.lines()) {
         const std::string_view line =
             trimWhitespace(text.substr(bounds.start, bounds.end - bounds.start));
-        if (line.empty() || line.starts_with(';')) {
-            continue;
+        if (!line.empty() && !line.starts_with(';')) {
+            return line;
         }
-        if (isLeaf(line) || openedKind(line, vocabulary) != NodeKind::None) {
-            return CheckedLanguage::Description;
-        }
-        if (line.starts_with('{')) {
-            return CheckedLanguage::StyleSheet;
-        }
-        return std::nullopt;
     }
-    return std::nullopt;
+    return {};
+}
+
+bool opensNode(std::string_view line, const Vocabulary& vocabulary) {
+    return isLeaf(line) || openedKind(line, vocabulary) != NodeKind::None;
+}
+
+/// True when a backslash follows the first brace, as in no stylesheet.
+bool hasRtfBrace(std::string_view text) {
+    const std::size_t brace = text.find('{');
+    if (brace == std::string_view::npos) {
+        return text.find("\\rtf") != std::string_view::npos;
+    }
+    return trimWhitespace(text.substr(brace + 1)).starts_with('\\');
+}
+
+std::optional<CheckedLanguage> languageOfName(std::string_view fileName) {
+    const std::string name = lowerCase(fileName);
+    return name.ends_with(".rtf")       ? std::optional(CheckedLanguage::Rtf)
+           : name.ends_with(".rtfss")   ? std::optional(CheckedLanguage::StyleSheet)
+           : name.ends_with(".rtfspec") ? std::optional(CheckedLanguage::Description)
+                                        : std::nullopt;
+}
+
+std::ptrdiff_t countDescriptionLines(std::string_view text, const Vocabulary& vocabulary) {
+    const SourceText source(text);
+    return std::count_if(
+        source.lines().begin(), source.lines().end(), [&](const SourceText::Line& bounds) {
+            const std::string_view line =
+                trimWhitespace(text.substr(bounds.start, bounds.end - bounds.start));
+            return !line.empty() &&
+                   (opensNode(line, vocabulary) || closedKind(line, vocabulary) != NodeKind::None);
+        });
 }
 
 }  // namespace
 
-CheckedLanguage languageOf(std::string_view beginning) {
-    constexpr std::size_t enough = std::size_t{64} * 1024;
+CheckedLanguage languageOf(std::string_view beginning, std::string_view fileName) {
     const std::string_view text = beginning.substr(0, enough);
-    if (trimWhitespace(text).starts_with("{\\")) {
+    const Vocabulary vocabulary;
+    // Texts of a description may hold more braces than a stylesheet does, so that counting alone
+    // would not do.
+    const std::string_view first = firstLine(text);
+    if (opensNode(first, vocabulary)) {
+        return CheckedLanguage::Description;
+    }
+    const std::optional<CheckedLanguage> named = languageOfName(fileName);
+    if (hasRtfBrace(text) || named == CheckedLanguage::Rtf) {
         return CheckedLanguage::Rtf;
     }
-    const Vocabulary vocabulary;
-    if (const auto language = languageOfFirstLine(text, vocabulary)) {
-        return *language;
-    }
     const auto braces = std::count(text.begin(), text.end(), '{');
-    std::ptrdiff_t descriptionLines = 0;
-    const SourceText source(text);
-    for (const SourceText::Line& bounds : source.lines()) {
-        const std::string_view line =
-            trimWhitespace(text.substr(bounds.start, bounds.end - bounds.start));
-        if (!line.empty() && (isLeaf(line) || openedKind(line, vocabulary) != NodeKind::None ||
-                              closedKind(line, vocabulary) != NodeKind::None)) {
-            ++descriptionLines;
-        }
+    const std::ptrdiff_t lines = countDescriptionLines(text, vocabulary);
+    if (first.starts_with('{') || braces > lines) {
+        return CheckedLanguage::StyleSheet;
     }
-    return braces > descriptionLines ? CheckedLanguage::StyleSheet : CheckedLanguage::Description;
+    return lines > 0 ? CheckedLanguage::Description : named.value_or(CheckedLanguage::Description);
+}
+
+std::string_view openingOfDescription(std::string_view text) {
+    const std::string_view first = firstLine(text.substr(0, enough));
+    return opensNode(first, Vocabulary()) ? first : std::string_view();
 }
 
 }  // namespace quorvane

@@ -9,7 +9,9 @@
 #include <utility>
 #include <vector>
 
+#include "quorvane/diagnostics/keyHints.h"
 #include "quorvane/diagnostics/nearestWord.h"
+#include "quorvane/diagnostics/numberHints.h"
 #include "quorvane/support/textCase.h"
 
 namespace quorvane {
@@ -32,7 +34,12 @@ constexpr std::pair<std::string_view, std::string_view> otherWords[] = {
     {"middle", "centered"},   {"justify", "justified"}, {"block", "justified"},
 };
 
-std::string nameHint(const std::string& value, const std::vector<std::string_view>& names) {
+/// `noun` says what the names are names of.
+std::string nameHint(const std::string& value, const std::vector<std::string_view>& names,
+                     std::string_view noun) {
+    if (value.empty()) {
+        return "the value is missing: write none for no " + std::string(noun);
+    }
     const std::string word = lowerCase(value);
     for (const auto& [other, meant] : otherWords) {
         if (word == other) {
@@ -119,22 +126,22 @@ private:
             return;
         }
         const std::string value = valueText(leaf.value());
-        const Value key(leaf.key);
+        const std::string_view key = leaf.key;
         if (vocabulary_.isColorKey(key)) {
             if (!vocabulary_.colorNamed(leaf.value())) {
                 report(DiagnosticId::WrongColor, leaf, leaf.text, {value},
-                       nameHint(value, Vocabulary::colorNames()));
+                       nameHint(value, Vocabulary::colorNames(), "color"));
             }
         } else if (vocabulary_.isBorderKey(key)) {
             if (!vocabulary_.borderNamed(leaf.value())) {
                 report(DiagnosticId::WrongBorder, leaf, leaf.text, {value},
-                       nameHint(value, Vocabulary::borderNames()));
+                       nameHint(value, Vocabulary::borderNames(), "border"));
             }
         } else if (leaf.key.ends_with("-alignment")) {
             const bool isNumber = leaf.number && isAlignmentNumber(*leaf.number);
             if (!isNumber && !vocabulary_.alignmentNamed(leaf.value())) {
                 report(DiagnosticId::WrongAlignment, leaf, leaf.text, {value},
-                       nameHint(value, Vocabulary::alignmentNames()));
+                       nameHint(value, Vocabulary::alignmentNames(), "alignment"));
             }
         } else if (!vocabulary_.isTextOrNumberKey(key)) {
             checkNumber(leaf);
@@ -143,18 +150,11 @@ private:
 
     void checkNumber(OutlineLeaf& leaf) {
         if (!leaf.number) {
-            report(DiagnosticId::NotANumber, leaf, leaf.text, {leaf.key}, numberHint(leaf.text));
+            report(DiagnosticId::NotANumber, leaf, leaf.text, {leaf.key},
+                   numberHint(leaf.key, leaf.text));
         } else if (!leaf.key.ends_with("-key") && !fitsLong(*leaf.number)) {
             report(DiagnosticId::Overflow, leaf, leaf.text, {}, {});
         }
-    }
-
-    /// The number at the beginning of a value that goes on with something else, such as a unit.
-    static std::string numberHint(std::string_view text) {
-        const std::size_t end = text.find_first_not_of("+-0123456789");
-        return end == 0 || end == std::string_view::npos
-                   ? std::string()
-                   : "write the number alone: " + std::string(text.substr(0, end));
     }
 
     std::string keyHint(NodeKind kind, const OutlineLeaf& leaf) const {
@@ -168,17 +168,7 @@ private:
                        std::string(nodeKindName(kind));
             }
         }
-        std::vector<std::string_view> candidates = Vocabulary::keysOf(kind);
-        const std::size_t count = candidates.size();
-        for (const std::string_view key : candidates) {
-            if (key.ends_with("-" + lower)) {
-                return "did you mean " + std::string(key) + "?";
-            }
-        }
-        for (std::size_t i = 0; i < count; ++i) {
-            candidates.push_back(vocabulary_.shorten(candidates[i]));
-        }
-        return didYouMean(leaf.writtenKey, candidates);
+        return nearKeyHint(kind, leaf.writtenKey, vocabulary_);
     }
 
     /// Goes through the collection of the node's children as the build does, which takes each

@@ -1,14 +1,19 @@
 #include "quorvane/diagnostics/rtfText.h"
 
+#include <algorithm>
 #include <array>
 #include <cctype>
 #include <cstddef>
 #include <initializer_list>
+#include <iterator>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "quorvane/diagnostics/documentNumbers.h"
+#include "quorvane/diagnostics/nearestWord.h"
+#include "quorvane/diagnostics/rtfControls.h"
 #include "quorvane/diagnostics/rtfWords.h"
 #include "quorvane/support/codePage1252.h"
 #include "quorvane/support/textCase.h"
@@ -17,14 +22,6 @@
 namespace quorvane {
 
 namespace {
-
-bool isLetter(char character) {
-    return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z');
-}
-
-bool isHexDigit(char character) {
-    return std::isxdigit(static_cast<unsigned char>(character)) != 0;
-}
 
 std::string numberedCharacter(char32_t code) {
     constexpr std::string_view digits = "0123456789ABCDEF";
@@ -64,10 +61,11 @@ std::string_view broughtBy(std::string_view word) {
     return {};
 }
 
-/// What the instruction of a field brings along; empty when it does no harm.
-std::string_view broughtByField(std::string_view instruction) {
+/// What a field of that name brings along; empty when it does no harm.
+std::string_view broughtByFieldNamed(std::string_view name) {
     constexpr std::pair<std::string_view, std::string_view> fields[] = {
         {"MACROBUTTON", "a macro"},
+        {"GOTOBUTTON", "a macro"},
         {"DDE", "a link to a program"},
         {"DDEAUTO", "a link to a program"},
         {"LINK", "a link to a file"},
@@ -79,64 +77,147 @@ std::string_view broughtByField(std::string_view instruction) {
         {"DATABASE", "a link to a file"},
         {"EMBED", "an object"},
         {"CONTROL", "a program"},
-        {"GOTOBUTTON", "a macro"},
+        {"HTMLACTIVEX", "a program"},
+        {"PRINT", "commands for the printer"},
     };
-    const std::size_t begin = instruction.find_first_not_of(" {");
-    if (begin == std::string_view::npos) {
-        return {};
-    }
-    instruction.remove_prefix(begin);
-    std::string name;
-    for (const char character : instruction.substr(0, 20)) {
-        if (!isLetter(character)) {
-            break;
-        }
-        name += static_cast<char>(std::toupper(static_cast<unsigned char>(character)));
-    }
     for (const auto& [field, what] : fields) {
         if (name == field) {
             return what;
         }
     }
-    const bool isWeb = instruction.find("http") != std::string_view::npos ||
-                       instruction.find("mailto:") != std::string_view::npos;
-    return name == "HYPERLINK" && !isWeb ? "a link to a file" : std::string_view();
+    return {};
+}
+
+/// The first word of a text, or what its first quotation marks hold.
+std::string firstWord(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+    return std::string(text.starts_with('"') ? text.substr(1, text.find('"', 1) - 1)
+                                             : text.substr(0, text.find(' ')));
+}
+
+/// What the instruction of a field, given as plain text, brings along; empty when it does no harm.
+std::string_view broughtByField(std::string_view instruction) {
+    instruction.remove_prefix(std::min(instruction.find_first_not_of(' '), instruction.size()));
+    std::string name;
+    for (const char character : instruction) {
+        if (std::isalpha(static_cast<unsigned char>(character)) == 0) {
+            break;
+        }
+        name += static_cast<char>(std::toupper(static_cast<unsigned char>(character)));
+    }
+    if (name != "HYPERLINK") {
+        return broughtByFieldNamed(name);
+    }
+    const std::string target = lowerCase(firstWord(instruction.substr(name.size())));
+    constexpr std::string_view harmless[] = {"http://", "https://", "mailto:", "\\l"};
+    const bool isHarmless = target.empty() || std::any_of(std::begin(harmless), std::end(harmless),
+                                                          [&](std::string_view begin) {
+                                                              return target.starts_with(begin);
+                                                          });
+    return isHarmless ? std::string_view() : "a link to a file";
+}
+
+/// Control words that end a cell, a row or the page that the table stands on.
+bool endsCell(std::string_view word) {
+    constexpr std::string_view words[] = {"cell", "cellx", "row", "sect", "trowd"};
+    return std::find(std::begin(words), std::end(words), word) != std::end(words);
+}
+
+/// Destinations whose text is part of the text around them.
+bool isOfText(std::string_view destination) {
+    return destination == "field" || destination == "fldrslt" || destination == "rtf" ||
+           destination == "result";
+}
+
+/// What an author most likely means by a control word that is none.
+std::string nearControlWord(std::string_view word) {
+    constexpr std::string_view words[] = {
+        "additive", "b",     "caps",      "cb",  "cbpat", "cf",    "chcbpat", "emdash",
+        "endash",   "expnd", "expndtw",   "f",   "fi",    "field", "fldinst", "fldrslt",
+        "footnote", "fs",    "highlight", "i",   "keep",  "keepn", "lang",    "li",
+        "line",     "outl",  "page",      "par", "plain", "qc",    "qj",      "ql",
+        "qr",       "ri",    "sa",        "sb",  "scaps", "shad",  "sl",      "slmult",
+        "strike",   "sub",   "super",     "tab", "uldb",  "ul",    "ulnone",  "ulw",
+    };
+    constexpr std::pair<std::string_view, std::string_view> others[] = {
+        {"bold", "b"},        {"italic", "i"},  {"italics", "i"},     {"underline", "ul"},
+        {"underlined", "ul"}, {"color", "cf"},  {"colour", "cf"},     {"size", "fs"},
+        {"fontsize", "fs"},   {"font", "f"},    {"center", "qc"},     {"centered", "qc"},
+        {"left", "ql"},       {"right", "qr"},  {"justify", "qj"},    {"justified", "qj"},
+        {"n", "line"},        {"br", "line"},   {"newline", "line"},  {"t", "tab"},
+        {"r", "line"},        {"indent", "li"}, {"background", "cb"}, {"nbsp", "~"},
+    };
+    for (const auto& [other, meant] : others) {
+        if (lowerCase(word) == other) {
+            return "did you mean \\" + std::string(meant) + "?";
+        }
+    }
+    const std::string_view nearest = nearestWord(word, words);
+    return nearest.empty() ? std::string() : "did you mean \\" + std::string(nearest) + "?";
 }
 
 class TextWarnings {
 public:
-    TextWarnings(std::string_view text, bool isLowered, const SourceText& source,
-                 DiagnosticEngine& engine)
-        : text_(text), isLowered_(isLowered), source_(source), engine_(engine) {}
+    TextWarnings(std::string_view text, TextUse use, const KnownStyles* styles,
+                 const SourceText& source, DiagnosticEngine& engine)
+        : text_(text),
+          use_(use),
+          styles_(styles),
+          source_(source),
+          engine_(engine),
+          tokens_(use == TextUse::Text ? text : std::string_view()) {}
 
     void find() {
+        groups_.emplace_back().isFresh = false;
         while (at_ < text_.size()) {
-            const char character = text_[at_];
-            if (character == '{') {
-                open_.push_back(at_++);
-            } else if (character == '}') {
-                closeGroup();
-            } else if (character == '\\') {
-                readBackslash();
-            } else if (static_cast<unsigned char>(character) < 0x20 || character == 0x7F) {
-                report(DiagnosticId::ControlCharacter, 1,
-                       {numberedCharacter(static_cast<unsigned char>(character))},
-                       character == '\t' ? "write \\tab for a tab" : "");
-                ++at_;
-            } else if (static_cast<unsigned char>(character) < 0x80) {
+            takeCharacter();
+        }
+        for (auto group = groups_.begin() + 1; group != groups_.end(); ++group) {
+            at_ = group->brace;
+            report(DiagnosticId::UnbalancedBrace, 1, {"{"}, braceHint('{'));
+        }
+        for (const Instruction& instruction : instructions_) {
+            const std::string_view brought = broughtByField(instruction.text);
+            if (!brought.empty()) {
+                at_ = instruction.at;
+                report(DiagnosticId::EmbeddedContent, instruction.length, {"\\fldinst", brought},
+                       "");
+            }
+        }
+    }
+
+    void findInData() {
+        while (at_ < text_.size()) {
+            if (static_cast<unsigned char>(text_[at_]) < 0x80) {
                 ++at_;
             } else {
                 readOtherCharacter();
             }
         }
-        for (const std::size_t brace : open_) {
-            at_ = brace;
-            report(DiagnosticId::UnbalancedBrace, 1, {"{"}, "write \\{ for a brace to be seen");
-        }
     }
 
 private:
     static constexpr int mostOfAKind = 10;
+    // An instruction's name and its file stand at its beginning.
+    static constexpr std::size_t longestInstruction = 1000;
+
+    /// What the field of a group is to do, as plain text.
+    struct Instruction {
+        std::size_t at;
+        std::size_t length;
+        std::string text;
+    };
+
+    struct Group {
+        std::size_t brace = 0;
+        bool isFresh = true;
+        // True for text that is not the paragraph's own, such as that of a footnote.
+        bool isAside = false;
+        // Position of the instruction that the group's text belongs to, from 1 on; 0 for none.
+        std::size_t instruction = 0;
+        // Characters behind a \u that stand in for it.
+        int substitutes = 0;
+    };
 
     void report(DiagnosticId id, std::size_t length,
                 std::initializer_list<std::string_view> arguments, std::string hint) {
@@ -147,55 +228,163 @@ private:
         }
     }
 
-    void closeGroup() {
-        if (open_.empty()) {
-            report(DiagnosticId::UnbalancedBrace, 1, {"}"}, "write \\} for a brace to be seen");
+    bool isOfStyleSheet() const { return use_ != TextUse::Text; }
+
+    std::string braceHint(char brace) const {
+        return isOfStyleSheet() ? "a stylesheet has no braces but those around its definitions"
+                                : std::string("write \\") + brace + " for a brace to be seen";
+    }
+
+    std::string backslashHint() const {
+        return isOfStyleSheet() ? "a backslash begins a control word, such as \\b or \\fs20"
+                                : "write \\\\ for a backslash to be seen";
+    }
+
+    void takeCharacter() {
+        const char character = text_[at_];
+        if (character == '{') {
+            openGroup();
+        } else if (character == '}') {
+            closeGroup();
+        } else if (character == '\\') {
+            readBackslash();
+        } else if (character == '<' && tokens_.nameAt(at_)) {
+            // The name of an inline style is no text.
+            ++openTokens_;
+            at_ += tokens_.nameAt(at_)->size() + 2;
+        } else if (character == '>' && openTokens_ > 0) {
+            --openTokens_;
+            ++at_;
         } else {
-            open_.pop_back();
+            readPlainCharacter();
+        }
+    }
+
+    void readPlainCharacter() {
+        const char character = text_[at_];
+        addToInstruction(character);
+        groups_.back().isFresh = false;
+        if (static_cast<unsigned char>(character) >= 0x80) {
+            readOtherCharacter();
+            return;
+        }
+        if (static_cast<unsigned char>(character) < 0x20 || character == 0x7F) {
+            report(DiagnosticId::ControlCharacter, 1,
+                   {numberedCharacter(static_cast<unsigned char>(character))},
+                   character == '\t' ? "write \\tab for a tab" : "");
         }
         ++at_;
     }
 
-    void readBackslash() {
-        const std::size_t next = at_ + 1;
-        const char character = next < text_.size() ? text_[next] : '\0';
-        if (isLetter(character)) {
-            readControlWord();
-        } else if (character == '\'') {
-            const bool isWhole = next + 2 < text_.size() && isHexDigit(text_[next + 1]) &&
-                                 isHexDigit(text_[next + 2]);
-            if (!isWhole) {
-                report(DiagnosticId::LoneBackslash, 2, {}, "two hexadecimal digits follow \\'");
+    void addToInstruction(char character) {
+        if (substitutesLeft_ > 0) {
+            --substitutesLeft_;
+            return;
+        }
+        const Group& group = groups_.back();
+        if (group.instruction > 0 && !group.isAside) {
+            std::string& text = instructions_[group.instruction - 1].text;
+            if (text.size() < longestInstruction) {
+                text += character;
             }
-            at_ = next + (isWhole ? 3 : 1);
-        } else if (std::string_view("\\{}~-_*|:").find(character) != std::string_view::npos &&
-                   next < text_.size()) {
-            at_ = next + 1;
-        } else {
-            report(DiagnosticId::LoneBackslash, 1, {}, "write \\\\ for a backslash to be seen");
-            at_ = next;
         }
     }
 
-    void readControlWord() {
-        std::size_t end = at_ + 1;
-        while (end < text_.size() && isLetter(text_[end])) {
-            ++end;
+    void openGroup() {
+        Group group = groups_.back();
+        groups_.back().isFresh = false;
+        group.brace = at_++;
+        group.isFresh = true;
+        groups_.push_back(group);
+        substitutesLeft_ = 0;
+    }
+
+    void closeGroup() {
+        if (groups_.size() == 1) {
+            report(DiagnosticId::UnbalancedBrace, 1, {"}"}, braceHint('}'));
+        } else {
+            groups_.pop_back();
         }
-        const std::string_view written = text_.substr(at_ + 1, end - at_ - 1);
-        const std::string word = isLowered_ ? lowerCase(written) : std::string(written);
+        substitutesLeft_ = 0;
+        ++at_;
+    }
+
+    void readBackslash() {
+        const RtfControl control = rtfControlAt(text_, at_);
+        if (!control.word.empty()) {
+            readControlWord(control);
+            return;
+        }
+        if (control.symbol == '*') {
+            groups_.back().isAside = groups_.back().isAside || groups_.back().isFresh;
+            at_ += control.length;
+            return;
+        }
+        groups_.back().isFresh = false;
+        if (const std::optional<char> character = characterOf(control, text_, at_)) {
+            addToInstruction(*character);
+        }
+        if (control.symbol == '\'' && control.length < 4) {
+            report(DiagnosticId::LoneBackslash, 2, {}, "two hexadecimal digits follow \\'");
+            at_ += 2;
+        } else if (control.symbol != '\0' &&
+                   std::string_view("'\\{}~-_|:").find(control.symbol) != std::string_view::npos) {
+            at_ += control.length;
+        } else {
+            report(DiagnosticId::LoneBackslash, 1, {}, backslashHint());
+            ++at_;
+        }
+    }
+
+    void readControlWord(const RtfControl& control) {
+        const std::string word =
+            isOfStyleSheet() ? lowerCase(control.word) : std::string(control.word);
+        enterDestination(word, control);
         if (!isRtfWord(word)) {
-            report(DiagnosticId::UnknownControlWord, end - at_, {"\\" + word},
-                   "write \\\\ for a backslash to be seen");
+            const std::string near = nearControlWord(word);
+            report(DiagnosticId::UnknownControlWord, control.word.size() + 1, {"\\" + word},
+                   near.empty()       ? backslashHint()
+                   : isOfStyleSheet() ? near
+                                      : near + " For a backslash to be seen write \\\\");
         }
-        std::string_view brought = broughtBy(word);
-        if (word == "fldinst") {
-            brought = broughtByField(text_.substr(end, 200));
-        }
+        const std::string_view brought = broughtBy(word);
         if (!brought.empty()) {
-            report(DiagnosticId::EmbeddedContent, end - at_, {"\\" + word, brought}, "");
+            report(DiagnosticId::EmbeddedContent, control.word.size() + 1, {"\\" + word, brought},
+                   "");
         }
-        at_ = end;
+        const std::string_view shown = text_.substr(at_, control.shownLength);
+        if (endsCell(word) && !groups_.back().isAside) {
+            report(DiagnosticId::TableControl, shown.size(), {shown}, "");
+        }
+        if (const std::string_view missing = missingReference(word, control, styles_);
+            !missing.empty() && !groups_.back().isAside) {
+            report(DiagnosticId::UnknownNumber, shown.size(), {shown, missing}, "");
+        }
+        readCharacterWord(word, control);
+        at_ += control.length;
+    }
+
+    void readCharacterWord(const std::string& word, const RtfControl& control) {
+        if (const std::optional<char> character = characterOf(control, text_, at_)) {
+            addToInstruction(*character);
+        }
+        if (word == "u") {
+            substitutesLeft_ = groups_.back().substitutes;
+        } else if (word == "uc") {
+            groups_.back().substitutes = std::clamp(control.number.value_or(1), 0, 100);
+        }
+    }
+
+    void enterDestination(const std::string& word, const RtfControl& control) {
+        Group& group = groups_.back();
+        if (word == "fldinst") {
+            instructions_.push_back({at_, control.shownLength, {}});
+            group.instruction = instructions_.size();
+            group.isAside = false;
+        } else if (group.isFresh && isRtfDestination(word)) {
+            group.isAside = !isOfText(word);
+        }
+        group.isFresh = false;
     }
 
     void readOtherCharacter() {
@@ -207,14 +396,15 @@ private:
                        unicodeHint(meant->code));
             } else {
                 report(DiagnosticId::Utf8Text, meant->length, {meant->text, shown},
-                       "save the file in Windows-1252, or write " + escape(meant->text));
+                       "save the file in Windows-1252" +
+                           (canHoldControls() ? ", or write " + escape(meant->text) : ""));
             }
             at_ += meant->length;
             return;
         }
         const std::string_view bytes = text_.substr(at_, character.length);
         const bool isControl = character.code < 0xA0 && character.code >= 0x80;
-        if (isControl) {
+        if (isControl && use_ != TextUse::FieldData) {
             report(DiagnosticId::ControlCharacter, bytes.size(),
                    {numberedCharacter(character.code)}, "");
         } else if (codePage1252FromUtf8(bytes) == "?") {
@@ -254,12 +444,16 @@ private:
         return MeantCharacter{bytes.substr(0, meant.length), meant.code, ends[meant.length] - at_};
     }
 
-    static std::string unicodeHint(char32_t code) {
-        if (code > 0xFFFF) {
+    /// True where a character can be written as a control word.
+    bool canHoldControls() const { return use_ == TextUse::Text || use_ == TextUse::Format; }
+
+    // The document says that nothing stands in for such a character, but not all readers heed it.
+    std::string unicodeHint(char32_t code) const {
+        if (!canHoldControls() || use_ == TextUse::Format || code > 0xFFFF) {
             return {};
         }
         const long number = static_cast<long>(code) - (code > 0x7FFF ? 0x10000 : 0);
-        return "write \\u" + std::to_string(number) + "?";
+        return "write {\\uc1\\u" + std::to_string(number) + "?}";
     }
 
     static std::string escape(const std::string& character) {
@@ -269,23 +463,30 @@ private:
     }
 
     std::string_view text_;
-    bool isLowered_;
+    TextUse use_;
+    const KnownStyles* styles_;
     const SourceText& source_;
     DiagnosticEngine& engine_;
+    InlineTokens tokens_;
     std::size_t at_ = 0;
-    std::vector<std::size_t> open_;
+    // The groups that are open, behind one for the text itself.
+    std::vector<Group> groups_;
+    std::vector<Instruction> instructions_;
+    int openTokens_ = 0;
+    int substitutesLeft_ = 0;
     std::array<int, 256> told_{};
 };
 
 }  // namespace
 
-void findTextWarnings(std::string_view text, const SourceText& source, DiagnosticEngine& engine) {
-    TextWarnings(text, false, source, engine).find();
-}
-
-void findFormatWarnings(std::string_view format, const SourceText& source,
-                        DiagnosticEngine& engine) {
-    TextWarnings(format, true, source, engine).find();
+void findTextWarnings(std::string_view text, TextUse use, const KnownStyles* styles,
+                      const SourceText& source, DiagnosticEngine& engine) {
+    TextWarnings warnings(text, use, styles, source, engine);
+    if (use == TextUse::FieldData) {
+        warnings.findInData();
+    } else {
+        warnings.find();
+    }
 }
 
 }  // namespace quorvane

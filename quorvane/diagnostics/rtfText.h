@@ -3,16 +3,27 @@
 #include <string_view>
 
 #include "quorvane/diagnostics/DiagnosticEngine.h"
+#include "quorvane/diagnostics/KnownStyles.h"
 #include "quorvane/diagnostics/SourceText.h"
 
 namespace quorvane {
 
-/// Warns of what a text (a view into the source) does to a document that it is written into as it
-/// is. Of each kind of finding the first ones are reported.
-void findTextWarnings(std::string_view text, const SourceText& source, DiagnosticEngine& engine);
+/// What a piece of a description or a stylesheet becomes in a document.
+enum class TextUse {
+    /// A paragraph's text, written as it is.
+    Text,
+    /// The format of a style, written in lower case.
+    Format,
+    /// The name of a style that is written into the document's list of styles, in lower case.
+    StyleName,
+    /// The data of a marked field: the codes of its characters.
+    FieldData,
+};
 
-/// The same for the format of a style, which is put into lower case before it is written.
-void findFormatWarnings(std::string_view format, const SourceText& source,
-                        DiagnosticEngine& engine);
+/// Warns of what a text (a view into the source) does to a document that it is written into. Of
+/// each kind of finding the first ones are reported. Without styles, numbers of styles are not
+/// looked up.
+void findTextWarnings(std::string_view text, TextUse use, const KnownStyles* styles,
+                      const SourceText& source, DiagnosticEngine& engine);
 
 }  // namespace quorvane

@@ -18,7 +18,7 @@ constexpr std::size_t nowhere = std::string_view::npos;
 constexpr std::string_view nodeNames[] = {"doc", "row", "cell", "para"};
 
 bool isKey(std::string_view word, const Vocabulary& vocabulary) {
-    const Value key(vocabulary.expand(word));
+    const std::string key = vocabulary.expand(word);
     for (const NodeKind kind : {NodeKind::Row, NodeKind::Cell, NodeKind::Para, NodeKind::Doc}) {
         if (vocabulary.isKeyOf(kind, key)) {
             return true;
@@ -55,7 +55,10 @@ SyntaxGuess guessLeaf(std::string_view line, std::size_t equals) {
     const std::size_t close = line.find(')', equals);
     guess.value = TrimEx(line.substr(equals + 1, close == nowhere ? close : close - equals - 1));
     guess.meant = Meant::Leaf;
-    if (!isOpened) {
+    if (guess.key.find('(') != nowhere) {
+        guess.meant = Meant::Nothing;
+        guess.hint = "each node and each key stands on a line of its own";
+    } else if (!isOpened) {
         guess.hint = "did you mean (" + std::string(line) + (close == nowhere ? ")?" : "?");
     } else if (close == nowhere) {
         guess.meant = Meant::LeafWithoutEnd;

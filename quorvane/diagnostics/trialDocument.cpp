@@ -1,8 +1,9 @@
 #include "quorvane/diagnostics/trialDocument.h"
 
-#include <memory>
+#include <optional>
 #include <string>
 
+#include "quorvane/driver/DescriptionTree.h"
 #include "quorvane/driver/DocumentBuilder.h"
 #include "quorvane/support/RtfError.h"
 
@@ -14,11 +15,11 @@ namespace {
 /// position among all leaves, from 1 on.
 class TrialTree {
 public:
-    explicit TrialTree(OutlineNode& doc) : root_(std::make_shared<DescriptionNode>(0)) {
-        copy(doc, *root_);
+    TrialTree(OutlineNode& doc, const Vocabulary& vocabulary) : vocabulary_(vocabulary) {
+        copy(doc, tree_.root());
     }
 
-    const DescriptionNode& root() const { return *root_; }
+    const DescriptionNode& root() const { return tree_.root(); }
     OutlineLeaf* leafAt(int number) const {
         const auto index = static_cast<std::size_t>(number) - 1;
         return index < leaves_.size() ? leaves_[index] : nullptr;
@@ -29,24 +30,29 @@ private:
         for (OutlineLeaf& leaf : node.leaves) {
             if (!leaf.isFaulty) {
                 leaves_.push_back(&leaf);
-                target.addLeaf(leaf.key, Leaf(leaf.value(), std::string(leaf.text),
-                                              static_cast<int>(leaves_.size())));
+                tree_.addLeaf(target, {.key = vocabulary_.leafKey(leaf.key),
+                                       .text = leaf.text,
+                                       .number = leaf.number.value_or(0),
+                                       .kind = leaf.number ? LeafKind::Number : LeafKind::Text,
+                                       .line = static_cast<int>(leaves_.size())});
             }
         }
         // No deeper than rows, cells and paragraphs.
         for (OutlineNode* child : builtChildren(node)) {
-            copy(*child, *AddNode(target, child->kind, child->number, 0));
+            copy(*child, tree_.AddNode(target, child->kind, child->number, 0));
         }
     }
 
-    std::shared_ptr<DescriptionNode> root_;
+    const Vocabulary& vocabulary_;
+    DescriptionTree tree_;
     std::vector<OutlineLeaf*> leaves_;
 };
 
-DiagnosticId idOf(const RtfError& error) {
-    return error.is(RunTimeError::Overflow)       ? DiagnosticId::Overflow
-           : error.is(RunTimeError::DuplicateKey) ? DiagnosticId::TakenKey
-                                                  : DiagnosticId::Rejected;
+/// What the check says of an error of a leaf; nothing where a driver tells it as it is.
+std::optional<DiagnosticId> idOf(const RtfError& error) {
+    return error.is(RunTimeError::Overflow)       ? std::optional(DiagnosticId::Overflow)
+           : error.is(RunTimeError::DuplicateKey) ? std::optional(DiagnosticId::TakenKey)
+                                                  : std::nullopt;
 }
 
 }  // namespace
@@ -71,22 +77,21 @@ Ref<CRtfDoc> buildTrialDocument(DescriptionOutline& outline, const SourceText& s
     constexpr int mostAttempts = 20;
     for (int attempt = 0; attempt < mostAttempts; ++attempt) {
         Ref<CRtfDoc> document = CRtfDoc::create(platform);
-        if (styles && styles->areLoaded()) {
-            document->LoadStyleSheetFromMemmory(styles->text());
+        if (styles) {
+            document->LoadStyleSheetFromMemmory(styles->soundText());
         }
-        const TrialTree tree(*outline.doc);
+        const TrialTree tree(*outline.doc, vocabulary);
         try {
             DocumentBuilder(*document, vocabulary).build(tree.root());
             return document;
         } catch (const RtfError& error) {
             OutlineLeaf* leaf = tree.leafAt(error.line);
-            if (!leaf) {
-                engine.report(DiagnosticId::Rejected, source.placeOf(outline.doc->line),
-                              {error.description});
+            const std::optional<DiagnosticId> id = idOf(error);
+            if (!leaf || !id) {
                 return nullptr;
             }
             leaf->isFaulty = true;
-            engine.report(idOf(error), source.placeOf(leaf->text), {error.description});
+            engine.report(*id, source.placeOf(leaf->text), {error.description});
         }
     }
     return nullptr;

@@ -92,7 +92,7 @@ public:
     /// Writes the document (Windows-1252, a character that has no place there becomes "?"). An
     /// existing file is deleted first. Error 75 when it cannot be deleted, as when another program
     /// holds it open; a failure to write the new file goes to the error module (see
-    /// `setAbsorbedErrorObserver`).
+    /// `setAbsorbedErrorObserver`) and leaves no part of it.
     void Commit(const std::string& sPath);
 
     /// Reads the styles of a text in place of those loaded before. Errors 445 and 31037 for a bad

@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "quorvane/driver/DescriptionChecks.h"
-#include "quorvane/driver/DescriptionNode.h"
 #include "quorvane/driver/DescriptionReader.h"
+#include "quorvane/driver/DescriptionTree.h"
 #include "quorvane/driver/DocumentBuilder.h"
 #include "quorvane/driver/driverErrors.h"
 #include "quorvane/support/GFileSystem.h"
@@ -15,6 +15,7 @@
 #include "quorvane/support/currentError.h"
 #include "quorvane/support/recordStrings.h"
 #include "quorvane/support/textCase.h"
+#include "quorvane/support/utf8.h"
 
 namespace quorvane {
 
@@ -68,7 +69,10 @@ void CRtfDriver::ParseFile(const std::string& sPath) {
     }
     std::string text;
     try {
-        text = utf8FromCodePage1252(platform_.readFile(sPath));
+        text = platform_.readFile(sPath);
+        if (asciiRunEnd(text, 0) < text.size()) {
+            text = utf8FromCodePage1252(text);
+        }
     } catch (const RtfError& error) {
         RtfError wrongPath =
             driverError(eWrongPath, sPath + " doesn't exist or is unreacheable", wrongPathSource);
@@ -114,7 +118,6 @@ void CRtfDriver::setAbsorbedErrorObserver(GError::Observer observer) {
 void CRtfDriver::AnalyseData(std::string_view text) {
     // A handler of the event may let go of the driver.
     const Ref<CRtfDriver> self(this);
-    const auto root = std::make_shared<DescriptionNode>(0);
     std::vector<SourceLine> lines;
     document_->ClearStructure();
     step([&] {
@@ -136,13 +139,15 @@ void CRtfDriver::AnalyseData(std::string_view text) {
     if (erroneousInput_) {
         lines = repairLines(std::move(lines));
     }
-    step([&] { DescriptionReader(vocabulary_).treeWalkerBuild(root, lines); });
+    // Of the lines of a description about half are leaves; the others open and close nodes.
+    DescriptionTree tree(lines.size() / 2);
+    step([&] { DescriptionReader(vocabulary_).treeWalkerBuild(tree, lines); });
     if (erroneousInput_) {
         const DescriptionChecks checks(vocabulary_);
-        step([&] { checks.docWalkerSyntax(*root->child(docNumber)); });
-        step([&] { checks.treeWalkerSemantic(*root->child(docNumber), NodeKind::Doc); });
+        step([&] { checks.docWalkerSyntax(tree.root().child(docNumber)); });
+        step([&] { checks.treeWalkerSemantic(tree.root().child(docNumber), NodeKind::Doc); });
     }
-    step([&] { DocumentBuilder(*document_, vocabulary_).build(*root->child(docNumber)); });
+    step([&] { DocumentBuilder(*document_, vocabulary_).build(tree.root().child(docNumber)); });
 }
 
 template <class Body>

@@ -25,7 +25,7 @@ private:
     void rowWalkerSyntax(const DescriptionNode& row) const;
     void cellWalkerSyntax(const DescriptionNode& cell) const;
     void paraWalkerSyntax(const DescriptionNode& para) const;
-    void checkValue(const Value& key, const Leaf& leaf) const;
+    void checkValue(const Leaf& leaf) const;
 
     const Vocabulary& vocabulary_;
 };

@@ -1,12 +1,12 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
-#include <memory>
+#include <iterator>
 #include <string>
-#include <vector>
+#include <string_view>
 
-#include "quorvane/support/CMap.h"
-#include "quorvane/support/Object.h"
+#include "quorvane/driver/DescriptionKey.h"
 #include "quorvane/support/Value.h"
 
 namespace quorvane {
@@ -14,78 +14,103 @@ namespace quorvane {
 /// Kinds of nodes, by the codes that the nesting and the numbers of nodes go by.
 enum class NodeKind : std::int32_t { Row = 0, Cell = 1, Para = 2, Doc = 3, None = 4 };
 
-/// One key of a description with its value.
-struct Leaf : Object {
-    Leaf(Value value_, std::string text_, int line_)
-        : value(std::move(value_)), text(std::move(text_)), line(line_) {}
-
-    /// A double when the value's text reads as a number, otherwise the text.
-    Value value;
-    /// The value as it was written.
-    std::string text;
-    /// 1-based line on which it stands.
-    int line;
+/// The key of a leaf: its long form, and which of the known keys it is.
+struct LeafKey {
+    std::string_view name;
+    DescriptionKey known = DescriptionKey::Unknown;
 };
 
-/// A node of a description: a map of its leaves, under their keys, and its child nodes, under their
-/// numbers.
-class DescriptionNode : public CMap {
+/// What the value of a leaf is. A description gives texts and numbers only.
+enum class LeafKind : std::uint8_t { Text, Number, Neither };
+
+/// One key of a description with its value; its texts are views.
+struct Leaf {
+    LeafKey key = {};
+    /// The value as it was written.
+    std::string_view text = {};
+    /// The value, when it is a number.
+    double number = 0;
+    LeafKind kind = LeafKind::Text;
+    /// 1-based line on which it stands.
+    int line = 0;
+    /// The next leaf of the node.
+    Leaf* next = nullptr;
+
+    bool isNumber() const { return kind == LeafKind::Number; }
+    /// The number as a double, otherwise the text.
+    Value value() const { return isNumber() ? Value(number) : Value(text); }
+    /// The value as text: a number in its shortest form.
+    std::string valueText() const;
+};
+
+/// Elements of which each leads to the next.
+template <class Element>
+class Chain {
 public:
-    explicit DescriptionNode(int line) : line_(line) {}
-    DescriptionNode(const DescriptionNode&) = delete;
-    DescriptionNode& operator=(const DescriptionNode&) = delete;
-    ~DescriptionNode() override;
+    class Iterator {
+    public:
+        using iterator_category = std::forward_iterator_tag;
+        using value_type = Element;
+        using difference_type = std::ptrdiff_t;
+        using pointer = const Element*;
+        using reference = const Element&;
 
-    /// 1-based line on which the node is opened; 0 for the root.
-    int line() const { return line_; }
+        Iterator() = default;
+        explicit Iterator(const Element* element) : element_(element) {}
+        const Element& operator*() const { return *element_; }
+        const Element* operator->() const { return element_; }
+        Iterator& operator++() {
+            element_ = element_->next;
+            return *this;
+        }
+        Iterator operator++(int) {
+            const Iterator before = *this;
+            ++*this;
+            return before;
+        }
+        bool operator==(const Iterator&) const = default;
 
-    /// The keys of the leaves, in the order of the description.
-    std::vector<Value> leafKeys() const;
-    /// The numbers of the child nodes, in the order of the description.
-    std::vector<Value> childNumbers() const;
-    /// The leaves with their keys and the child nodes with their numbers, both in the order of the
-    /// description; good until the node is changed.
-    struct NamedLeaf {
-        /// A text.
-        const Value* key;
-        const Leaf* leaf;
+    private:
+        const Element* element_ = nullptr;
     };
-    struct NumberedChild {
-        std::int32_t number;
-        const DescriptionNode* node;
-    };
-    std::vector<NamedLeaf> leaves() const;
-    std::vector<NumberedChild> children() const;
 
-    /// The leaf under a key, which must be there.
-    const Leaf& leaf(const Value& key) const;
-    /// The child node of a number; error 91 when there is none.
-    std::shared_ptr<DescriptionNode> child(const Value& number) const;
+    explicit Chain(const Element* first) : first_(first) {}
 
-    /// Adds a leaf. Error 457 when the key is there already.
-    void addLeaf(std::string key, Leaf leaf);
-    /// Adds an empty child node under its number and answers it. Error 457 when the number is there
-    /// already.
-    std::shared_ptr<DescriptionNode> addChild(std::int32_t number, int line);
+    Iterator begin() const { return Iterator(first_); }
+    Iterator end() const { return Iterator(); }
+    bool empty() const { return first_ == nullptr; }
 
 private:
-    // Puts the children that nobody else holds in front of those that wait for being emptied.
-    void handOverChildren(std::shared_ptr<DescriptionNode>& waiting) noexcept;
+    const Element* first_;
+};
 
-    int line_;
-    // The children once more, for the destructor.
-    std::vector<std::shared_ptr<DescriptionNode>> children_;
-    std::shared_ptr<DescriptionNode> nextWaiting_;
+/// A node of a description: its leaves, under their keys, and its child nodes, under their numbers.
+/// A `DescriptionTree` makes and holds it.
+struct DescriptionNode {
+    /// 0 for the root.
+    std::int32_t number = 0;
+    /// 1-based line on which the node is opened; 0 for the root.
+    int line = 0;
+    /// Which known keys its leaves have.
+    KeySet keys = 0;
+    Leaf* firstLeaf = nullptr;
+    Leaf* lastLeaf = nullptr;
+    DescriptionNode* firstChild = nullptr;
+    DescriptionNode* lastChild = nullptr;
+    /// The next child of the node's parent.
+    DescriptionNode* next = nullptr;
+
+    /// In the order of the description.
+    Chain<Leaf> leaves() const { return Chain<Leaf>(firstLeaf); }
+    Chain<DescriptionNode> children() const { return Chain<DescriptionNode>(firstChild); }
+
+    /// The child node of a number; error 91 when there is none.
+    const DescriptionNode& child(std::int32_t childNumber) const;
 };
 
 /// Kind of the node of that number: 0 to 999 doc, 1000 to 1999 row, 2000 to 2999 cell, 3000 to 3999
 /// para. Error `eWrongNodeType` for any other number.
 NodeKind NodeType(std::int32_t number);
-
-/// Adds an empty child node under its number and answers it. Error `eWrongNodeType` for a kind that
-/// is none, 457 when the number is there already.
-std::shared_ptr<DescriptionNode> AddNode(DescriptionNode& tree, NodeKind kind, std::int32_t number,
-                                         int line);
 
 /// True for a row in doc, a cell in a row and a paragraph in a cell.
 bool nests(NodeKind parent, NodeKind child);

@@ -2,12 +2,9 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <iterator>
 #include <string>
-#include <utility>
 
 #include "quorvane/driver/driverErrors.h"
-#include "quorvane/driver/lineClassifier.h"
 #include "quorvane/support/RtfError.h"
 #include "quorvane/support/numberText.h"
 
@@ -40,29 +37,28 @@ std::vector<SourceLine> repairLines(std::vector<SourceLine> lines) {
     if (first == lines.end()) {
         return lines;
     }
-    std::vector<SourceLine> repaired(std::make_move_iterator(lines.begin()),
-                                     std::make_move_iterator(first));
+    std::vector<SourceLine> repaired(lines.begin(), first);
     for (auto line = first; line != lines.end(); ++line) {
         const auto next = line + 1;
         if (next == lines.end() || !needsRepair(*line, *next)) {
-            repaired.push_back(std::move(*line));
+            repaired.push_back(*line);
         } else if (line->text == "c)") {
-            repaired.push_back(std::move(*line));
+            repaired.push_back(*line);
             repaired.push_back({"r)", next->number});
         }
     }
     return repaired;
 }
 
-void DescriptionReader::treeWalkerBuild(const std::shared_ptr<DescriptionNode>& root,
+void DescriptionReader::treeWalkerBuild(DescriptionTree& tree,
                                         const std::vector<SourceLine>& lines) {
-    std::vector<Level> levels{{root, NodeKind::Doc}};
+    std::vector<Level> levels{{&tree.root(), NodeKind::Doc}};
     openerCount_ = 0;
     auto line = lines.begin();
     while (line != lines.end() && !levels.empty()) {
-        const Level& level = levels.back();
-        if (isLeaf(line->text)) {
-            addLeaf(*level.node, *line);
+        const Level level = levels.back();
+        if (const auto leaf = leafIn(line->text)) {
+            tree.addLeaf(*level.node, leafOf(*leaf, line->number));
             ++line;
         } else if (const NodeKind opened = openedKind(line->text, vocabulary_);
                    opened != NodeKind::None) {
@@ -73,8 +69,7 @@ void DescriptionReader::treeWalkerBuild(const std::shared_ptr<DescriptionNode>& 
                 continue;
             }
             numbers_[static_cast<std::size_t>(opened)] = number;
-            auto node = AddNode(*level.node, opened, number, line->number);
-            levels.push_back({std::move(node), opened});
+            levels.push_back({&tree.AddNode(*level.node, opened, number, line->number), opened});
             openerCount_ = 0;
             ++line;
         } else if (const NodeKind closed = closedKind(line->text, vocabulary_);
@@ -82,23 +77,25 @@ void DescriptionReader::treeWalkerBuild(const std::shared_ptr<DescriptionNode>& 
             levels.pop_back();
             ++line;
         } else if (closed != NodeKind::None) {
-            raise(driverError(eWrongNodeType, "Wrong node type in " + line->text, procedure,
-                              line->number));
+            raise(driverError(eWrongNodeType, "Wrong node type in " + std::string(line->text),
+                              procedure, line->number));
         } else {
-            raise(driverError(eSyntaxError, line->text + " has a wrong syntax",
-                              "sLine is neither a recognized node nor a leaf\r\nsLeaf = " +
-                                  line->text + "\r\n" + procedure,
+            const std::string text(line->text);
+            raise(driverError(eSyntaxError, text + " has a wrong syntax",
+                              "sLine is neither a recognized node nor a leaf\r\nsLeaf = " + text +
+                                  "\r\n" + procedure,
                               line->number));
         }
     }
 }
 
-void DescriptionReader::addLeaf(DescriptionNode& node, const SourceLine& line) const {
-    std::string text(leafValue(line.text));
-    const auto number = readNumber(text);
-    Value value = number ? Value(*number) : Value(text);
-    node.addLeaf(vocabulary_.expand(leafKey(line.text)),
-                 Leaf(std::move(value), std::move(text), line.number));
+Leaf DescriptionReader::leafOf(const LeafParts& parts, int line) const {
+    Leaf leaf{.key = vocabulary_.leafKey(parts.key), .text = parts.value, .line = line};
+    if (const auto number = readNumber(parts.value)) {
+        leaf.kind = LeafKind::Number;
+        leaf.number = *number;
+    }
+    return leaf;
 }
 
 std::int32_t DescriptionReader::nextNumber(NodeKind kind, const SourceLine& line) const {

@@ -2,11 +2,11 @@
 
 #include <array>
 #include <cstdint>
-#include <memory>
 #include <vector>
 
-#include "quorvane/driver/DescriptionNode.h"
+#include "quorvane/driver/DescriptionTree.h"
 #include "quorvane/driver/Vocabulary.h"
+#include "quorvane/driver/lineClassifier.h"
 #include "quorvane/support/SourceLine.h"
 
 namespace quorvane {
@@ -21,21 +21,20 @@ class DescriptionReader {
 public:
     explicit DescriptionReader(const Vocabulary& vocabulary) : vocabulary_(vocabulary) {}
 
-    /// Fills `root` with the nodes and leaves of the lines. An opener that cannot stand where it is
-    /// closes the nodes that are open until it can. On an error the tree keeps what was read
-    /// before. Errors: `eWrongNumberOfNodes` too many nodes of a kind, `eWrongNodeType` a closer of
-    /// another node than the one that is open, `eSyntaxError` a line that is none, 457 a key that
-    /// stands twice in a node.
-    void treeWalkerBuild(const std::shared_ptr<DescriptionNode>& root,
-                         const std::vector<SourceLine>& lines);
+    /// Fills an empty tree with the nodes and leaves of the lines, whose text must outlive it. An
+    /// opener that cannot stand where it is closes the nodes that are open until it can. On an
+    /// error the tree keeps what was read before. Errors: `eWrongNumberOfNodes` too many nodes of a
+    /// kind, `eWrongNodeType` a closer of another node than the one that is open, `eSyntaxError` a
+    /// line that is none, 457 a key that stands twice in a node.
+    void treeWalkerBuild(DescriptionTree& tree, const std::vector<SourceLine>& lines);
 
 private:
     struct Level {
-        std::shared_ptr<DescriptionNode> node;
+        DescriptionNode* node;
         NodeKind kind;
     };
 
-    void addLeaf(DescriptionNode& node, const SourceLine& line) const;
+    Leaf leafOf(const LeafParts& parts, int line) const;
     std::int32_t nextNumber(NodeKind kind, const SourceLine& line) const;
 
     const Vocabulary& vocabulary_;

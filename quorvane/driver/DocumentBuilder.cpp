@@ -1,11 +1,11 @@
 #include "quorvane/driver/DocumentBuilder.h"
 
-#include <algorithm>
+#include <array>
+#include <bit>
 #include <cmath>
-#include <memory>
+#include <cstddef>
 #include <optional>
-#include <utility>
-#include <vector>
+#include <string>
 
 #include "quorvane/driver/driverErrors.h"
 #include "quorvane/support/RtfError.h"
@@ -15,33 +15,27 @@ namespace quorvane {
 
 namespace {
 
-struct Child {
-    // The node's number as text: the key under which its entry is filed first.
-    std::string key;
-    const DescriptionNode* node;
-};
-
-// The child nodes of a kind in ascending order of their numbers; nodes of another kind are passed
-// over.
-std::vector<Child> childrenOf(const DescriptionNode& node, NodeKind kind) {
-    std::vector<DescriptionNode::NumberedChild> numbered = node.children();
-    const auto isBefore = [](const auto& a, const auto& b) { return a.number < b.number; };
-    std::sort(numbered.begin(), numbered.end(), isBefore);
-    std::vector<Child> children;
-    children.reserve(numbered.size());
-    for (const auto& [number, child] : numbered) {
-        if (NodeType(number) == kind) {
-            children.push_back({std::to_string(number), child});
+// Calls `visit` with each child node of that kind; nodes of another kind are passed over. Those of
+// one kind stand in ascending order of their numbers.
+template <class Visit>
+void forEachChild(const DescriptionNode& node, NodeKind kind, Visit visit) {
+    for (const DescriptionNode& child : node.children()) {
+        if (NodeType(child.number) == kind) {
+            visit(child);
         }
     }
-    return children;
+}
+
+// The key under which a node's entry is filed first.
+std::string keyOf(const DescriptionNode& node) {
+    return std::to_string(node.number);
 }
 
 std::int32_t number(const Leaf& leaf) {
-    if (!leaf.value.isNumber()) {
+    if (!leaf.isNumber()) {
         raise(RunTimeError::TypeMismatch);
     }
-    return roundToLong(leaf.value.number());
+    return roundToLong(leaf.number);
 }
 
 bool isValueOf(std::int32_t number, tColorIndex) {
@@ -64,164 +58,205 @@ Enumeration namedOrNumbered(const Leaf& leaf, std::optional<Enumeration> named,
     if (named) {
         return *named;
     }
-    if (leaf.value.isNumber() && std::abs(leaf.value.number()) < 1000) {
-        const auto whole = static_cast<std::int32_t>(leaf.value.number());
-        if (leaf.value == Value(whole) && isValueOf(whole, Enumeration{})) {
+    if (leaf.isNumber() && std::abs(leaf.number) < 1000) {
+        const auto whole = static_cast<std::int32_t>(leaf.number);
+        if (leaf.number == whole && isValueOf(whole, Enumeration{})) {
             return static_cast<Enumeration>(whole);
         }
     }
-    raise(driverError(eWrongValue, valueText(leaf.value) + complaint));
+    raise(driverError(eWrongValue, leaf.valueText() + complaint));
 }
 
 }  // namespace
 
 template <class Apply>
 void DocumentBuilder::forEachLeaf(const DescriptionNode& node, NodeKind kind, Apply apply) const {
-    std::vector<DescriptionNode::NamedLeaf> leaves = node.leaves();
-    std::erase_if(leaves,
-                  [&](const auto& named) { return !vocabulary_.isKeyOf(kind, *named.key); });
-    std::sort(leaves.begin(), leaves.end(),
-              [](const auto& a, const auto& b) { return a.key->text() < b.key->text(); });
-    for (const auto& [key, leaf] : leaves) {
-        atLine(leaf->line, [&, key = key, leaf = leaf] { apply(key->text(), *leaf); });
+    KeySet keys = node.keys & vocabulary_.keySetOf(kind);
+    if (keys == 0) {
+        return;
+    }
+    std::array<const Leaf*, knownKeyCount> byKey;
+    for (const Leaf& leaf : node.leaves()) {
+        if (leaf.key.known != DescriptionKey::Unknown) {
+            byKey[static_cast<std::size_t>(leaf.key.known)] = &leaf;
+        }
+    }
+    for (; keys != 0; keys &= keys - 1) {
+        const Leaf& leaf = *byKey[static_cast<std::size_t>(std::countr_zero(keys))];
+        atLine(leaf.line, [&] { apply(leaf); });
     }
 }
 
 void DocumentBuilder::build(const DescriptionNode& doc) {
-    addStructure(doc);
-    forEachLeaf(doc, NodeKind::Doc,
-                [this](const std::string& key, const Leaf& leaf) { applyDocLeaf(key, leaf); });
     const Ref<CRtfTableRows> rows = document_.TableRows();
-    for (const Child& row : childrenOf(doc, NodeKind::Row)) {
-        applyRow(rows->Item(row.key), *row.node);
-    }
+    // Who was told of an error may have added rows.
+    std::int32_t position = rows->Count();
+    addStructure(doc);
+    forEachLeaf(doc, NodeKind::Doc, [this](const Leaf& leaf) { applyDocLeaf(leaf); });
+    forEachChild(doc, NodeKind::Row,
+                 [&](const DescriptionNode& row) { applyRow(rows->Item(++position), row); });
 }
 
 void DocumentBuilder::addStructure(const DescriptionNode& doc) {
     const Ref<CRtfTableRows> rows = document_.TableRows();
-    for (const Child& row : childrenOf(doc, NodeKind::Row)) {
-        atLine(row.node->line(), [&] { rows->AddTail(row.key); });
+    forEachChild(doc, NodeKind::Row, [&](const DescriptionNode& row) {
+        atLine(row.line, [&] { rows->AddTail(keyOf(row)); });
         const Ref<CRtfTableCells> cells = rows->PeekTail()->TableCells();
-        for (const Child& cell : childrenOf(*row.node, NodeKind::Cell)) {
-            atLine(cell.node->line(), [&] { cells->AddTail(cell.key); });
+        forEachChild(row, NodeKind::Cell, [&](const DescriptionNode& cell) {
+            atLine(cell.line, [&] { cells->AddTail(keyOf(cell)); });
             const Ref<CRtfParagraphs> paragraphs = cells->PeekTail()->Paragraphs();
-            for (const Child& para : childrenOf(*cell.node, NodeKind::Para)) {
-                atLine(para.node->line(), [&] { paragraphs->AddTail(para.key); });
-            }
-        }
-    }
+            forEachChild(cell, NodeKind::Para, [&](const DescriptionNode& para) {
+                atLine(para.line, [&] { paragraphs->AddTail(keyOf(para)); });
+            });
+        });
+    });
 }
 
-void DocumentBuilder::applyDocLeaf(const std::string& key, const Leaf& leaf) {
-    if (key == "paper-height") {
-        document_.setPageHeight(number(leaf));
-    } else if (key == "paper-width") {
-        document_.setPageWidth(number(leaf));
-    } else if (key == "page-number-start") {
-        document_.setPageNumberStart(number(leaf));
-    } else if (key == "left-margin") {
-        document_.setLeftMargin(number(leaf));
-    } else if (key == "right-margin") {
-        document_.setRightMargin(number(leaf));
-    } else if (key == "top-margin") {
-        document_.setTopMargin(number(leaf));
-    } else if (key == "bottom-margin") {
-        document_.setBottomMargin(number(leaf));
+void DocumentBuilder::applyDocLeaf(const Leaf& leaf) {
+    switch (leaf.key.known) {
+        case DescriptionKey::PaperHeight:
+            document_.setPageHeight(number(leaf));
+            break;
+        case DescriptionKey::PaperWidth:
+            document_.setPageWidth(number(leaf));
+            break;
+        case DescriptionKey::PageNumberStart:
+            document_.setPageNumberStart(number(leaf));
+            break;
+        case DescriptionKey::LeftMargin:
+            document_.setLeftMargin(number(leaf));
+            break;
+        case DescriptionKey::RightMargin:
+            document_.setRightMargin(number(leaf));
+            break;
+        case DescriptionKey::TopMargin:
+            document_.setTopMargin(number(leaf));
+            break;
+        case DescriptionKey::BottomMargin:
+            document_.setBottomMargin(number(leaf));
+            break;
+        default:
+            break;
     }
 }
 
 void DocumentBuilder::applyRow(Ref<CRtfTableRow> row, const DescriptionNode& node) {
-    forEachLeaf(node, NodeKind::Row,
-                [&](const std::string& key, const Leaf& leaf) { applyRowLeaf(row, key, leaf); });
+    forEachLeaf(node, NodeKind::Row, [&](const Leaf& leaf) { applyRowLeaf(row, leaf); });
     const Ref<CRtfTableCells> cells = row->TableCells();
-    for (const Child& cell : childrenOf(node, NodeKind::Cell)) {
-        applyCell(cells, cells->Item(cell.key), *cell.node);
-    }
+    std::int32_t position = 0;
+    forEachChild(node, NodeKind::Cell, [&](const DescriptionNode& cell) {
+        applyCell(cells, cells->Item(++position), cell);
+    });
 }
 
-void DocumentBuilder::applyRowLeaf(Ref<CRtfTableRow>& row, const std::string& key,
-                                   const Leaf& leaf) {
-    if (key == "row-backcolor") {
-        row->setBackColor(color(leaf));
-    } else if (key == "row-key") {
-        row = document_.TableRows()->refile(row, valueText(leaf.value));
-    } else if (key == "row-top-border") {
-        row->setTopBorder(border(leaf));
-    } else if (key == "row-bottom-border") {
-        row->setBottomBorder(border(leaf));
-    } else if (key == "row-left-border") {
-        row->setLeftBorder(border(leaf));
-    } else if (key == "row-right-border") {
-        row->setRightBorder(border(leaf));
+void DocumentBuilder::applyRowLeaf(Ref<CRtfTableRow>& row, const Leaf& leaf) {
+    switch (leaf.key.known) {
+        case DescriptionKey::RowBackColor:
+            row->setBackColor(color(leaf));
+            break;
+        case DescriptionKey::RowKey:
+            row = document_.TableRows()->refile(row, leaf.valueText());
+            break;
+        case DescriptionKey::RowTopBorder:
+            row->setTopBorder(border(leaf));
+            break;
+        case DescriptionKey::RowBottomBorder:
+            row->setBottomBorder(border(leaf));
+            break;
+        case DescriptionKey::RowLeftBorder:
+            row->setLeftBorder(border(leaf));
+            break;
+        case DescriptionKey::RowRightBorder:
+            row->setRightBorder(border(leaf));
+            break;
+        default:
+            break;
     }
 }
 
 void DocumentBuilder::applyCell(const Ref<CRtfTableCells>& cells, Ref<CRtfTableCell> cell,
                                 const DescriptionNode& node) {
-    forEachLeaf(node, NodeKind::Cell, [&](const std::string& key, const Leaf& leaf) {
-        applyCellLeaf(cells, cell, key, leaf);
-    });
+    forEachLeaf(node, NodeKind::Cell, [&](const Leaf& leaf) { applyCellLeaf(cells, cell, leaf); });
     const Ref<CRtfParagraphs> paragraphs = cell->Paragraphs();
-    for (const Child& para : childrenOf(node, NodeKind::Para)) {
-        Ref<CRtfParagraph> paragraph = paragraphs->Item(para.key);
-        forEachLeaf(*para.node, NodeKind::Para, [&](const std::string& key, const Leaf& leaf) {
-            applyParaLeaf(paragraphs, paragraph, key, leaf);
-        });
-    }
+    std::int32_t position = 0;
+    forEachChild(node, NodeKind::Para, [&](const DescriptionNode& para) {
+        Ref<CRtfParagraph> paragraph = paragraphs->Item(++position);
+        forEachLeaf(para, NodeKind::Para,
+                    [&](const Leaf& leaf) { applyParaLeaf(paragraphs, paragraph, leaf); });
+    });
 }
 
 void DocumentBuilder::applyCellLeaf(const Ref<CRtfTableCells>& cells, Ref<CRtfTableCell>& cell,
-                                    const std::string& key, const Leaf& leaf) {
-    if (key == "cell-backcolor") {
-        cell->setBackColor(color(leaf));
-    } else if (key == "cell-width") {
-        cell->setWidth(ePercent, number(leaf));
-    } else if (key == "cell-top-border") {
-        cell->setTopBorder(border(leaf));
-    } else if (key == "cell-bottom-border") {
-        cell->setBottomBorder(border(leaf));
-    } else if (key == "cell-left-border") {
-        cell->setLeftBorder(border(leaf));
-    } else if (key == "cell-right-border") {
-        cell->setRightBorder(border(leaf));
-    } else if (key == "cell-alignment") {
-        cell->setAlign(alignment(leaf));
-    } else if (key == "cell-style") {
-        cell->setStyle(valueText(leaf.value));
-    } else if (key == "cell-marked-field") {
-        cell->asMarkedField(leaf.value);
-    } else if (key == "cell-key") {
-        cell = cells->refile(cell, valueText(leaf.value));
+                                    const Leaf& leaf) {
+    switch (leaf.key.known) {
+        case DescriptionKey::CellBackColor:
+            cell->setBackColor(color(leaf));
+            break;
+        case DescriptionKey::CellWidth:
+            cell->setWidth(ePercent, number(leaf));
+            break;
+        case DescriptionKey::CellTopBorder:
+            cell->setTopBorder(border(leaf));
+            break;
+        case DescriptionKey::CellBottomBorder:
+            cell->setBottomBorder(border(leaf));
+            break;
+        case DescriptionKey::CellLeftBorder:
+            cell->setLeftBorder(border(leaf));
+            break;
+        case DescriptionKey::CellRightBorder:
+            cell->setRightBorder(border(leaf));
+            break;
+        case DescriptionKey::CellAlignment:
+            cell->setAlign(alignment(leaf));
+            break;
+        case DescriptionKey::CellStyle:
+            cell->setStyle(leaf.valueText());
+            break;
+        case DescriptionKey::CellMarkedField:
+            cell->asMarkedField(leaf.value());
+            break;
+        case DescriptionKey::CellKey:
+            cell = cells->refile(cell, leaf.valueText());
+            break;
+        default:
+            break;
     }
 }
 
 void DocumentBuilder::applyParaLeaf(const Ref<CRtfParagraphs>& paragraphs,
-                                    Ref<CRtfParagraph>& paragraph, const std::string& key,
-                                    const Leaf& leaf) {
-    if (key == "para-text") {
-        paragraph->setText(leaf.text);
-    } else if (key == "para-style") {
-        paragraph->setStyle(valueText(leaf.value));
-    } else if (key == "para-alignment") {
-        paragraph->setAlign(alignment(leaf));
-    } else if (key == "para-marked-field") {
-        paragraph->asMarkedField(leaf.value);
-    } else if (key == "para-key") {
-        paragraph = paragraphs->refile(paragraph, valueText(leaf.value));
+                                    Ref<CRtfParagraph>& paragraph, const Leaf& leaf) {
+    switch (leaf.key.known) {
+        case DescriptionKey::ParaText:
+            paragraph->setText(leaf.text);
+            break;
+        case DescriptionKey::ParaStyle:
+            paragraph->setStyle(leaf.valueText());
+            break;
+        case DescriptionKey::ParaAlignment:
+            paragraph->setAlign(alignment(leaf));
+            break;
+        case DescriptionKey::ParaMarkedField:
+            paragraph->asMarkedField(leaf.value());
+            break;
+        case DescriptionKey::ParaKey:
+            paragraph = paragraphs->refile(paragraph, leaf.valueText());
+            break;
+        default:
+            break;
     }
 }
 
 tColorIndex DocumentBuilder::color(const Leaf& leaf) const {
-    return namedOrNumbered(leaf, vocabulary_.colorNamed(leaf.value), " isn't a recognized color.");
+    return namedOrNumbered(leaf, vocabulary_.colorNamed(leaf), " isn't a recognized color.");
 }
 
 tBorderWidth DocumentBuilder::border(const Leaf& leaf) const {
-    return namedOrNumbered(leaf, vocabulary_.borderNamed(leaf.value),
-                           " isn't a recognized border.");
+    return namedOrNumbered(leaf, vocabulary_.borderNamed(leaf), " isn't a recognized border.");
 }
 
 tCellAlign DocumentBuilder::alignment(const Leaf& leaf) const {
-    return namedOrNumbered(leaf, vocabulary_.alignmentNamed(leaf.value),
+    return namedOrNumbered(leaf, vocabulary_.alignmentNamed(leaf),
                            " isn't a recognized alignment.");
 }
 

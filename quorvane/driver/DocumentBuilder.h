@@ -30,15 +30,15 @@ private:
     void forEachLeaf(const DescriptionNode& node, NodeKind kind, Apply apply) const;
 
     void addStructure(const DescriptionNode& doc);
-    void applyDocLeaf(const std::string& key, const Leaf& leaf);
+    void applyDocLeaf(const Leaf& leaf);
     void applyRow(Ref<CRtfTableRow> row, const DescriptionNode& node);
-    void applyRowLeaf(Ref<CRtfTableRow>& row, const std::string& key, const Leaf& leaf);
+    void applyRowLeaf(Ref<CRtfTableRow>& row, const Leaf& leaf);
     void applyCell(const Ref<CRtfTableCells>& cells, Ref<CRtfTableCell> cell,
                    const DescriptionNode& node);
     void applyCellLeaf(const Ref<CRtfTableCells>& cells, Ref<CRtfTableCell>& cell,
-                       const std::string& key, const Leaf& leaf);
+                       const Leaf& leaf);
     void applyParaLeaf(const Ref<CRtfParagraphs>& paragraphs, Ref<CRtfParagraph>& paragraph,
-                       const std::string& key, const Leaf& leaf);
+                       const Leaf& leaf);
 
     tColorIndex color(const Leaf& leaf) const;
     tBorderWidth border(const Leaf& leaf) const;

@@ -1,9 +1,12 @@
 #include "quorvane/driver/Vocabulary.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <iterator>
+#include <span>
 #include <utility>
 
 #include "quorvane/support/textCase.h"
@@ -86,40 +89,163 @@ constexpr std::pair<std::string_view, std::int32_t> alignments[] = {
     {"justified", eJustified}, {"none", eNoDefault},
 };
 
-constexpr std::string_view docKeys[] = {
-    "paper-height", "paper-width",   "page-number-start", "left-margin",
-    "right-margin", "bottom-margin", "top-margin",
+using enum DescriptionKey;
+
+struct KnownKey {
+    std::string_view name;
+    DescriptionKey key;
 };
 
-constexpr std::string_view rowKeys[] = {
-    "row-backcolor",   "row-top-border",   "row-bottom-border",
-    "row-left-border", "row-right-border", "row-key",
+constexpr KnownKey docKeys[] = {
+    {"paper-height", PaperHeight},
+    {"paper-width", PaperWidth},
+    {"page-number-start", PageNumberStart},
+    {"left-margin", LeftMargin},
+    {"right-margin", RightMargin},
+    {"bottom-margin", BottomMargin},
+    {"top-margin", TopMargin},
 };
 
-constexpr std::string_view cellKeys[] = {
-    "cell-alignment",   "cell-backcolor",    "cell-top-border", "cell-bottom-border",
-    "cell-left-border", "cell-right-border", "cell-key",        "cell-width",
-    "cell-style",       "cell-marked-field",
+constexpr KnownKey rowKeys[] = {
+    {"row-backcolor", RowBackColor},        {"row-top-border", RowTopBorder},
+    {"row-bottom-border", RowBottomBorder}, {"row-left-border", RowLeftBorder},
+    {"row-right-border", RowRightBorder},   {"row-key", RowKey},
 };
 
-constexpr std::string_view paraKeys[] = {
-    "para-text", "para-style", "para-key", "para-alignment", "para-marked-field",
+constexpr KnownKey cellKeys[] = {
+    {"cell-alignment", CellAlignment},
+    {"cell-backcolor", CellBackColor},
+    {"cell-top-border", CellTopBorder},
+    {"cell-bottom-border", CellBottomBorder},
+    {"cell-left-border", CellLeftBorder},
+    {"cell-right-border", CellRightBorder},
+    {"cell-key", CellKey},
+    {"cell-width", CellWidth},
+    {"cell-style", CellStyle},
+    {"cell-marked-field", CellMarkedField},
 };
 
-constexpr std::string_view colorKeys[] = {"row-backcolor", "cell-backcolor"};
-
-constexpr std::string_view borderKeys[] = {
-    "row-top-border",  "row-bottom-border",  "row-left-border",  "row-right-border",
-    "cell-top-border", "cell-bottom-border", "cell-left-border", "cell-right-border",
+constexpr KnownKey paraKeys[] = {
+    {"para-text", ParaText},
+    {"para-style", ParaStyle},
+    {"para-key", ParaKey},
+    {"para-alignment", ParaAlignment},
+    {"para-marked-field", ParaMarkedField},
 };
 
-constexpr std::string_view textOrNumberKeys[] = {
-    "para-text",         "para-style",        "para-alignment",  "row-backcolor",
-    "cell-alignment",    "cell-backcolor",    "row-top-border",  "row-bottom-border",
-    "row-left-border",   "row-right-border",  "cell-top-border", "cell-bottom-border",
-    "cell-left-border",  "cell-right-border", "cell-style",      "para-marked-field",
-    "cell-marked-field",
+constexpr KeySet setOfAll(std::initializer_list<DescriptionKey> keys) {
+    KeySet set = 0;
+    for (const DescriptionKey key : keys) {
+        set |= setOf(key);
+    }
+    return set;
+}
+
+template <std::size_t count>
+constexpr KeySet setOfAll(const KnownKey (&keys)[count]) {
+    KeySet set = 0;
+    for (const KnownKey& known : keys) {
+        set |= setOf(known.key);
+    }
+    return set;
+}
+
+constexpr KeySet colorKeys = setOfAll({RowBackColor, CellBackColor});
+
+constexpr KeySet borderKeys =
+    setOfAll({RowTopBorder, RowBottomBorder, RowLeftBorder, RowRightBorder, CellTopBorder,
+              CellBottomBorder, CellLeftBorder, CellRightBorder});
+
+constexpr KeySet textOrNumberKeys = colorKeys | borderKeys |
+                                    setOfAll({ParaText, ParaStyle, ParaAlignment, ParaMarkedField,
+                                              CellAlignment, CellStyle, CellMarkedField});
+
+/// A hash table of all keys, in their long and their short forms, that is made before the program
+/// runs.
+class KeyTable {
+public:
+    constexpr KeyTable() {
+        addAll(docKeys);
+        addAll(rowKeys);
+        addAll(cellKeys);
+        addAll(paraKeys);
+    }
+
+    /// What a word stands for; null when it is no key.
+    constexpr const LeafKey* find(std::string_view word) const {
+        std::size_t slot = firstSlot(word);
+        while (!slots_[slot].word.empty() && slots_[slot].word != word) {
+            slot = next(slot);
+        }
+        return slots_[slot].word.empty() ? nullptr : &slots_[slot].key;
+    }
+
+private:
+    struct Slot {
+        std::string_view word;
+        LeafKey key;
+    };
+
+    // A power of two, several times as many as there are words.
+    static constexpr std::size_t slotCount = 256;
+
+    static constexpr std::size_t firstSlot(std::string_view word) {
+        if (word.empty()) {
+            return 0;
+        }
+        const auto code = [word](std::size_t position) {
+            return static_cast<std::size_t>(static_cast<unsigned char>(word[position]));
+        };
+        return (code(0) * 7 + code(word.size() / 2) * 31 + code(word.size() - 1) * 3 +
+                word.size() * 17) %
+               slotCount;
+    }
+    static constexpr std::size_t next(std::size_t slot) { return (slot + 1) % slotCount; }
+
+    constexpr void addAll(std::span<const KnownKey> keys) {
+        for (const KnownKey& known : keys) {
+            const LeafKey key{known.name, known.key};
+            add(known.name, key);
+            for (const auto& [shortForm, longForm] : longForms) {
+                if (longForm == known.name) {
+                    add(shortForm, key);
+                }
+            }
+        }
+    }
+
+    constexpr void add(std::string_view word, const LeafKey& key) {
+        std::size_t slot = firstSlot(word);
+        while (!slots_[slot].word.empty()) {
+            slot = next(slot);
+        }
+        slots_[slot] = {word, key};
+    }
+
+    std::array<Slot, slotCount> slots_{};
 };
+
+constexpr KeyTable keyTable;
+
+DescriptionKey keyNamed(std::string_view name) {
+    const LeafKey* key = keyTable.find(name);
+    return key && key->name == name ? key->known : DescriptionKey::Unknown;
+}
+
+bool isAmong(KeySet keys, DescriptionKey key) {
+    return (keys & setOf(key)) != 0;
+}
+
+/// Up to four characters as one number; letters count as small ones, which no other character
+/// becomes.
+constexpr std::uint32_t inOneNumber(std::string_view name) {
+    constexpr std::uint32_t smallLetter = 0x20;
+    std::uint32_t number = 0;
+    for (const char character : name) {
+        number = number << 8 | static_cast<unsigned char>(character) | smallLetter;
+    }
+    return number;
+}
 
 std::string_view longForm(std::string_view word) {
     constexpr std::size_t longestShortForm = 3;
@@ -133,12 +259,6 @@ std::string_view longForm(std::string_view word) {
     return word;
 }
 
-template <class Words>
-bool isAmong(const Words& words, const Value& word) {
-    return word.isText() &&
-           std::find(std::begin(words), std::end(words), word.text()) != std::end(words);
-}
-
 template <class Pairs>
 std::vector<std::string_view> namesOf(const Pairs& pairs) {
     std::vector<std::string_view> names;
@@ -147,28 +267,45 @@ std::vector<std::string_view> namesOf(const Pairs& pairs) {
     return names;
 }
 
-template <class Words>
-std::vector<std::string_view> listed(const Words& words) {
-    return {std::begin(words), std::end(words)};
+template <std::size_t count>
+std::vector<std::string_view> namesOf(const KnownKey (&keys)[count]) {
+    std::vector<std::string_view> names;
+    std::transform(std::begin(keys), std::end(keys), std::back_inserter(names),
+                   [](const KnownKey& known) { return known.name; });
+    return names;
+}
+
+template <class Enumeration, class Pairs>
+std::optional<Enumeration> valueNamed(const Pairs& pairs, std::string_view name) {
+    const std::string word = lowerCase(name);
+    for (const auto& [known, value] : pairs) {
+        if (known == word) {
+            return static_cast<Enumeration>(value);
+        }
+    }
+    return std::nullopt;
 }
 
 template <class Enumeration, class Pairs>
 std::optional<Enumeration> valueNamed(const Pairs& pairs, const Value& name) {
-    if (name.isText()) {
-        const std::string word = lowerCase(name.text());
-        for (const auto& [known, value] : pairs) {
-            if (known == word) {
-                return static_cast<Enumeration>(value);
-            }
-        }
-    }
-    return std::nullopt;
+    return name.isText() ? valueNamed<Enumeration>(pairs, std::string_view(name.text()))
+                         : std::nullopt;
+}
+
+template <class Enumeration, class Pairs>
+std::optional<Enumeration> valueNamed(const Pairs& pairs, const Leaf& leaf) {
+    return leaf.kind == LeafKind::Text ? valueNamed<Enumeration>(pairs, leaf.text) : std::nullopt;
 }
 
 }  // namespace
 
 std::string Vocabulary::expand(std::string_view word) const {
     return std::string(longForm(word));
+}
+
+LeafKey Vocabulary::leafKey(std::string_view word) const {
+    const LeafKey* known = keyTable.find(word);
+    return known ? *known : LeafKey{longForm(word)};
 }
 
 std::string_view Vocabulary::shorten(std::string_view word) const {
@@ -182,45 +319,64 @@ NodeKind Vocabulary::nodeKind(std::string_view name) const {
     if (name.size() > longestName) {
         return NodeKind::None;
     }
-    const std::string lowered = lowerCase(name);
-    const std::string_view longName = longForm(lowered);
-    if (longName == "row") {
-        return NodeKind::Row;
+    switch (inOneNumber(name)) {
+        case inOneNumber("row"):
+        case inOneNumber("r"):
+            return NodeKind::Row;
+        case inOneNumber("cell"):
+        case inOneNumber("c"):
+            return NodeKind::Cell;
+        case inOneNumber("para"):
+        case inOneNumber("p"):
+            return NodeKind::Para;
+        case inOneNumber("doc"):
+            return NodeKind::Doc;
+        default:
+            return NodeKind::None;
     }
-    if (longName == "cell") {
-        return NodeKind::Cell;
-    }
-    if (longName == "para") {
-        return NodeKind::Para;
-    }
-    return longName == "doc" ? NodeKind::Doc : NodeKind::None;
 }
 
-bool Vocabulary::isKeyOf(NodeKind kind, const Value& key) const {
+bool Vocabulary::isKeyOf(NodeKind kind, std::string_view key) const {
+    return isAmong(keySetOf(kind), keyNamed(key));
+}
+
+KeySet Vocabulary::keySetOf(NodeKind kind) const {
     switch (kind) {
         case NodeKind::Doc:
-            return isAmong(docKeys, key);
+            return setOfAll(docKeys);
         case NodeKind::Row:
-            return isAmong(rowKeys, key);
+            return setOfAll(rowKeys);
         case NodeKind::Cell:
-            return isAmong(cellKeys, key);
+            return setOfAll(cellKeys);
         case NodeKind::Para:
-            return isAmong(paraKeys, key);
+            return setOfAll(paraKeys);
         case NodeKind::None:
             break;
     }
-    return false;
+    return 0;
 }
 
-bool Vocabulary::isColorKey(const Value& key) const {
+bool Vocabulary::isColorKey(std::string_view key) const {
+    return isColorKey(keyNamed(key));
+}
+
+bool Vocabulary::isColorKey(DescriptionKey key) const {
     return isAmong(colorKeys, key);
 }
 
-bool Vocabulary::isBorderKey(const Value& key) const {
+bool Vocabulary::isBorderKey(std::string_view key) const {
+    return isBorderKey(keyNamed(key));
+}
+
+bool Vocabulary::isBorderKey(DescriptionKey key) const {
     return isAmong(borderKeys, key);
 }
 
-bool Vocabulary::isTextOrNumberKey(const Value& key) const {
+bool Vocabulary::isTextOrNumberKey(std::string_view key) const {
+    return isTextOrNumberKey(keyNamed(key));
+}
+
+bool Vocabulary::isTextOrNumberKey(DescriptionKey key) const {
     return isAmong(textOrNumberKeys, key);
 }
 
@@ -236,16 +392,28 @@ std::optional<tCellAlign> Vocabulary::alignmentNamed(const Value& name) const {
     return valueNamed<tCellAlign>(alignments, name);
 }
 
+std::optional<tColorIndex> Vocabulary::colorNamed(const Leaf& leaf) const {
+    return valueNamed<tColorIndex>(colors, leaf);
+}
+
+std::optional<tBorderWidth> Vocabulary::borderNamed(const Leaf& leaf) const {
+    return valueNamed<tBorderWidth>(borders, leaf);
+}
+
+std::optional<tCellAlign> Vocabulary::alignmentNamed(const Leaf& leaf) const {
+    return valueNamed<tCellAlign>(alignments, leaf);
+}
+
 std::vector<std::string_view> Vocabulary::keysOf(NodeKind kind) {
     switch (kind) {
         case NodeKind::Row:
-            return listed(rowKeys);
+            return namesOf(rowKeys);
         case NodeKind::Cell:
-            return listed(cellKeys);
+            return namesOf(cellKeys);
         case NodeKind::Para:
-            return listed(paraKeys);
+            return namesOf(paraKeys);
         case NodeKind::Doc:
-            return listed(docKeys);
+            return namesOf(docKeys);
         case NodeKind::None:
             break;
     }

@@ -18,6 +18,10 @@ public:
     /// The long form of a short name or key; any other word as it stands.
     std::string expand(std::string_view word) const;
 
+    /// The key of a leaf, in its long form, as it is written in a description, long or short. A key
+    /// that is not known is a view of the word.
+    LeafKey leafKey(std::string_view word) const;
+
     /// The short form of a long name or key; any other word as it stands.
     std::string_view shorten(std::string_view word) const;
 
@@ -25,16 +29,25 @@ public:
     NodeKind nodeKind(std::string_view name) const;
 
     /// True when nodes of that kind have such a key.
-    bool isKeyOf(NodeKind kind, const Value& key) const;
-    bool isColorKey(const Value& key) const;
-    bool isBorderKey(const Value& key) const;
+    bool isKeyOf(NodeKind kind, std::string_view key) const;
+    /// All keys that nodes of that kind have.
+    KeySet keySetOf(NodeKind kind) const;
+    bool isColorKey(std::string_view key) const;
+    bool isColorKey(DescriptionKey key) const;
+    bool isBorderKey(std::string_view key) const;
+    bool isBorderKey(DescriptionKey key) const;
     /// True for the keys whose value may be text or a number; all others take numbers only.
-    bool isTextOrNumberKey(const Value& key) const;
+    bool isTextOrNumberKey(std::string_view key) const;
+    bool isTextOrNumberKey(DescriptionKey key) const;
 
     /// The values that names stand for; nothing for a value that is no name.
     std::optional<tColorIndex> colorNamed(const Value& name) const;
     std::optional<tBorderWidth> borderNamed(const Value& name) const;
     std::optional<tCellAlign> alignmentNamed(const Value& name) const;
+    /// The same for the value of a leaf.
+    std::optional<tColorIndex> colorNamed(const Leaf& leaf) const;
+    std::optional<tBorderWidth> borderNamed(const Leaf& leaf) const;
+    std::optional<tCellAlign> alignmentNamed(const Leaf& leaf) const;
 
     /// The words themselves, the keys in their long forms; `None` has no keys.
     static std::vector<std::string_view> keysOf(NodeKind kind);

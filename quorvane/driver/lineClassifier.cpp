@@ -12,7 +12,8 @@ namespace {
 constexpr std::size_t nowhere = std::string_view::npos;
 
 bool isEmptyOrComment(std::string_view text) {
-    return text.empty() || trimWhitespace(text).empty() || isComment(text);
+    const std::string_view trimmed = trimWhitespace(text);
+    return trimmed.empty() || trimmed.front() == ';';
 }
 
 std::string_view headToken(std::string_view line) {
@@ -28,20 +29,34 @@ bool isComment(std::string_view text) {
     return trimWhitespace(text).substr(0, 1) == ";";
 }
 
-bool isLeaf(std::string_view line) {
-    if (line.substr(0, 1) != "(") {
-        return false;
+std::optional<LeafParts> leafIn(std::string_view line) {
+    if (!line.starts_with('(')) {
+        return std::nullopt;
     }
     const std::size_t equals = line.find('=');
-    if (equals == nowhere || line.find(')', equals) == nowhere) {
-        return false;
+    const std::size_t end = equals == nowhere ? nowhere : line.find(')', equals);
+    if (end == nowhere) {
+        return std::nullopt;
     }
-    return isEmptyOrComment(line.substr(line.find(')') + 1));
+    // A ")" in the key is the first one, and what follows must be a comment.
+    const std::size_t inKey = line.substr(0, equals).find(')');
+    if (!isEmptyOrComment(line.substr((inKey == nowhere ? end : inKey) + 1))) {
+        return std::nullopt;
+    }
+    return LeafParts{TrimEx(line.substr(1, equals - 1)),
+                     TrimEx(line.substr(equals + 1, end - equals - 1))};
+}
+
+bool isLeaf(std::string_view line) {
+    return leafIn(line).has_value();
 }
 
 NodeKind openedKind(std::string_view line, const Vocabulary& vocabulary) {
+    if (!line.starts_with('(')) {
+        return NodeKind::None;
+    }
     const std::string_view head = headToken(line);
-    if (head.substr(0, 1) != "(" || !isEmptyOrComment(line.substr(head.size()))) {
+    if (!isEmptyOrComment(line.substr(head.size()))) {
         return NodeKind::None;
     }
     return vocabulary.nodeKind(head.substr(1));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string_view>
 
 #include "quorvane/driver/DescriptionNode.h"
@@ -11,6 +12,15 @@ namespace quorvane {
 
 /// True when the text's first character other than a blank is ";".
 bool isComment(std::string_view text);
+
+/// The key and the value of a leaf as they are written, without the blanks around them.
+struct LeafParts {
+    std::string_view key;
+    std::string_view value;
+};
+
+/// The parts of a line that is a leaf; nothing for any other line.
+std::optional<LeafParts> leafIn(std::string_view line);
 
 /// True for a key with a value, such as `(paper-width=11906)`, and nothing but a comment behind it.
 bool isLeaf(std::string_view line);

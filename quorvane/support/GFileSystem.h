@@ -18,9 +18,9 @@ bool saveStringToFile(GError& errors, const std::string& path, std::string_view 
                       bool keepExisting);
 
 /// Writes the text into the file from its first byte; the file is made when it is missing. A
-/// character that Windows-1252 does not have becomes "?". Errors go to the error module; what was
-/// written before a failure stays. The file is not shortened first: what lies behind the text in a
-/// longer file stays too.
+/// character that Windows-1252 does not have becomes "?". Errors go to the error module; a file
+/// that was made goes again, and in one that was there stays what was written before the failure.
+/// The file is not shortened first: what lies behind the text in a longer file stays too.
 void saveString(GError& errors, const std::string& path, std::string_view text);
 
 /// True when a file or folder of that path exists, or, for a file name with the wildcards * and ?,

@@ -1,14 +1,18 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <functional>
+#include <limits>
+#include <new>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
-#include "quorvane/support/SharedText.h"
+#include "quorvane/support/RtfError.h"
 #include "quorvane/support/textCase.h"
 
 namespace quorvane {
@@ -24,18 +28,20 @@ class KeyIndex {
 public:
     /// The element filed under the key, or null.
     Element* find(std::string_view key) const {
-        const std::string lowered = lowerCase(key);
-        const std::uint32_t position = positionOfKey(lowered, hashOf(lowered));
+        const std::uint32_t position = positionOfKey(lowerCase(key));
         return position == nowhere ? nullptr : entries_[position].element;
     }
 
     /// Files the element under a key that is not there yet. A failure changes nothing.
     void add(std::string_view key, Element* element) {
         const std::string lowered = lowerCase(key);
-        Entry entry{SharedText(lowered), element, hashOf(lowered)};
+        Entry entry(lowered, element);
         const std::size_t slotsNeeded = 2 * (entries_.size() + 1);
         if (entries_.size() >= searchedOneByOne && slotsNeeded > byKey_.size()) {
             growSlots(4 * entries_.size());
+        }
+        if (!byKey_.empty()) {
+            entry.hash = hashOf(lowered);
         }
         entries_.push_back(std::move(entry));
         if (!byKey_.empty()) {
@@ -65,11 +71,94 @@ public:
     }
 
 private:
-    struct Entry {
-        SharedText key;
-        Element* element;
-        std::uint32_t hash;
+    /// A key with its element. Short keys, as most are, take no memory of their own.
+    class Entry {
+    public:
+        Entry() = default;
+        Entry(std::string_view key, Element* element_)
+            : element(element_), length_(static_cast<std::uint32_t>(key.size())) {
+            if (key.size() > std::numeric_limits<std::uint32_t>::max()) {
+                raise(RunTimeError::Overflow);
+            }
+            char* room = text_.data();
+            if (!isShort()) {
+                room = static_cast<char*>(::operator new(key.size()));
+                std::memcpy(text_.data(), &room, sizeof room);
+            }
+            key.copy(room, key.size());
+        }
+        Entry(Entry&& other) noexcept { *this = std::move(other); }
+        Entry& operator=(Entry&& other) noexcept {
+            std::swap(text_, other.text_);
+            std::swap(element, other.element);
+            std::swap(hash, other.hash);
+            std::swap(length_, other.length_);
+            return *this;
+        }
+        ~Entry() {
+            if (!isShort()) {
+                ::operator delete(const_cast<char*>(characters()));
+            }
+        }
+
+        std::string_view key() const noexcept { return {characters(), length_}; }
+
+        Element* element = nullptr;
+        // Of the key; set when there are tables.
+        std::uint32_t hash = 0;
+
+    private:
+        bool isShort() const noexcept { return length_ <= text_.size(); }
+        const char* characters() const noexcept {
+            if (isShort()) {
+                return text_.data();
+            }
+            const char* pointer = nullptr;
+            std::memcpy(&pointer, text_.data(), sizeof pointer);
+            return pointer;
+        }
+
+        std::uint32_t length_ = 0;
+        // The characters themselves or, where they are too many, a pointer to them.
+        std::array<char, 8> text_{};
     };
+
+    /// The entries by their positions. The first few, which most lists have no more than, take no
+    /// memory of their own.
+    class Entries {
+    public:
+        std::size_t size() const noexcept { return count_; }
+        Entry& operator[](std::size_t position) noexcept {
+            return position < fewest ? few_[position] : rest_[position - fewest];
+        }
+        const Entry& operator[](std::size_t position) const noexcept {
+            return position < fewest ? few_[position] : rest_[position - fewest];
+        }
+        void push_back(Entry entry) {
+            if (count_ < fewest) {
+                few_[count_] = std::move(entry);
+            } else {
+                rest_.push_back(std::move(entry));
+            }
+            ++count_;
+        }
+        void pop_back() noexcept {
+            --count_;
+            if (count_ < fewest) {
+                few_[count_] = Entry();
+            } else {
+                rest_.pop_back();
+            }
+        }
+
+    private:
+        static constexpr std::size_t fewest = 4;
+
+        std::array<Entry, fewest> few_;
+        std::vector<Entry> rest_;
+        std::size_t count_ = 0;
+    };
+
     using Slots = std::vector<std::uint32_t>;
 
     static constexpr std::size_t searchedOneByOne = 8;
@@ -92,10 +181,11 @@ private:
 
     bool isAt(std::uint32_t position, std::string_view key, std::uint32_t hash) const noexcept {
         const Entry& entry = entries_[position];
-        return entry.hash == hash && entry.key.view() == key;
+        return entry.hash == hash && entry.key() == key;
     }
 
-    std::uint32_t positionOfKey(std::string_view key, std::uint32_t hash) const noexcept {
+    std::uint32_t positionOfKey(std::string_view key) const noexcept {
+        const std::uint32_t hash = byKey_.empty() ? 0 : hashOf(key);
         if (expected_ < entries_.size() && isAt(expected_, key, hash)) {
             return expected_++;
         }
@@ -170,6 +260,11 @@ private:
         }
         Slots byKey(count, nowhere);
         Slots byElement(count, nowhere);
+        if (byKey_.empty()) {
+            for (std::size_t position = 0; position < entries_.size(); ++position) {
+                entries_[position].hash = hashOf(entries_[position].key());
+            }
+        }
         byKey_.swap(byKey);
         byElement_.swap(byElement);
         for (std::uint32_t position = 0; position < entries_.size(); ++position) {
@@ -184,7 +279,7 @@ private:
         put(byElement_, position, hashOf(entries_[position].element));
     }
 
-    std::vector<Entry> entries_;
+    Entries entries_;
     // Each has room for twice as many positions as there are.
     Slots byKey_;
     Slots byElement_;

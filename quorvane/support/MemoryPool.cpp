@@ -14,7 +14,8 @@ namespace quorvane {
 namespace {
 
 // So much is taken object by object: a small document has no slab that it does not fill.
-constexpr std::size_t bytesWithoutSlabs = 4096;
+constexpr std::size_t bytesWithoutSlabs = 1024;
+constexpr std::size_t smallestSlab = 1024;
 // A new slab is this part of all that there are, so that little of it can stay unused.
 constexpr std::size_t slabShare = 8;
 // Large enough for large pages where addresses are not scarce.
@@ -80,7 +81,7 @@ void* MemoryPool::takeRoom(std::size_t size) {
 void MemoryPool::addSlab(std::size_t size) {
     std::size_t slabSize = size;
     if (slabBytes_ >= bytesWithoutSlabs) {
-        slabSize = std::clamp(roundedUp(slabBytes_ / slabShare), size, largestSlab);
+        slabSize = std::clamp(roundedUp(slabBytes_ / slabShare), smallestSlab, largestSlab);
     }
     void* memory = ::operator new(sizeof(Slab) + slabSize);
     preferLargePages(memory, sizeof(Slab) + slabSize);

@@ -8,7 +8,8 @@
 
 namespace quorvane {
 
-/// A file that is being written. Destroying it closes it and tells no error.
+/// A file that is being written. Destroying it closes it and tells no error; a file that was made
+/// and that `close` did not end goes then, so that none is there in part.
 class OutputFile {
 public:
     virtual ~OutputFile() = default;

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <string>
+#include <string_view>
 
 namespace quorvane {
 
-/// A line of a text that is being read.
+/// A line of a text that is being read; a view of it.
 struct SourceLine {
-    std::string text;
+    std::string_view text;
     /// 1-based line of the original text that it stands in.
     int number = 0;
 };

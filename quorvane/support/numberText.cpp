@@ -104,8 +104,15 @@ std::optional<double> readNumber(std::string_view text) {
     if (!parts) {
         return std::nullopt;
     }
+    // A double holds every whole number of so many digits.
+    constexpr std::size_t exactDigits = 15;
     const char* first = parts->mantissa.data();
     double number = 0;
+    if (text.size() <= exactDigits && countDigits(text) == text.size()) {
+        std::int64_t whole = 0;
+        std::from_chars(first, text.data() + text.size(), whole);
+        return static_cast<double>(whole);
+    }
     const auto [end, problem] = std::from_chars(first, text.data() + text.size(), number);
     if (problem == std::errc::result_out_of_range) {
         if (!isTooSmall(*parts)) {

@@ -88,6 +88,13 @@ void requireNoNul(std::string_view path) {
     raise(error);
 }
 
+/// What the system says of a path that leads to no file. Of any other failure it is not known, and
+/// a file that may be there is not one to write over.
+bool meansAbsence(int code) {
+    return code == ENOENT || code == ENOTDIR || code == EACCES || code == ENAMETOOLONG ||
+           code == ELOOP;
+}
+
 int openFile(const std::string& path, int flags) {
     constexpr mode_t readAndWriteForAll = 0666;
     return uninterrupted(
@@ -97,7 +104,16 @@ int openFile(const std::string& path, int flags) {
 /// A file written without a buffer of its own: what is written comes in large blocks.
 class PortableOutputFile : public OutputFile {
 public:
-    explicit PortableOutputFile(Descriptor file) noexcept : file_(std::move(file)) {}
+    /// `newPath` is the path of a file that was made, empty for one that was there.
+    PortableOutputFile(Descriptor file, std::string newPath) noexcept
+        : file_(std::move(file)), newPath_(std::move(newPath)) {}
+    PortableOutputFile(const PortableOutputFile&) = delete;
+    PortableOutputFile& operator=(const PortableOutputFile&) = delete;
+    ~PortableOutputFile() override {
+        if (!newPath_.empty()) {
+            ::unlink(newPath_.c_str());
+        }
+    }
 
     void write(std::string_view bytes) override {
         while (!bytes.empty()) {
@@ -115,15 +131,17 @@ public:
         if (::close(file_.release()) == -1 && errno != EINTR) {
             raise(errnoToRunTimeError(errno));
         }
+        newPath_.clear();
     }
 
 private:
     Descriptor file_;
+    std::string newPath_;
 };
 
 std::string readToEnd(int file, std::size_t expectedSize) {
-    // One byte more than expected, so that the end is seen without growing the buffer. A pipe, and
-    // a file that the system makes up as it is read, tell no size.
+    // One byte more than expected: a file that has grown is not taken for whole. A pipe, and a file
+    // that the system makes up as it is read, tell no size.
     std::string bytes(expectedSize > 0 ? expectedSize + 1 : bufferForUnknownSize, '\0');
     std::size_t length = 0;
     while (true) {
@@ -137,6 +155,10 @@ std::string readToEnd(int file, std::size_t expectedSize) {
             return bytes;
         }
         length += static_cast<std::size_t>(count);
+        if (length == expectedSize) {
+            bytes.resize(length);
+            return bytes;
+        }
         if (length == bytes.size()) {
             bytes.resize(2 * length);
         }
@@ -169,7 +191,7 @@ public:
         if (holdsNul(path)) {
             return false;
         }
-        if (::lstat(path.c_str(), &status) == 0) {
+        if (::lstat(path.c_str(), &status) == 0 || !meansAbsence(errno)) {
             return true;
         }
         const std::string folder = folderOf(path);
@@ -206,13 +228,19 @@ public:
 
     std::unique_ptr<OutputFile> createFile(const std::string& path) override {
         requireNoNul(path);
-        Descriptor file(openFile(path, O_WRONLY | O_CREAT));
+        std::string newPath = path;
+        int number = openFile(path, O_WRONLY | O_CREAT | O_EXCL);
+        if (number == -1 && errno == EEXIST) {
+            newPath.clear();
+            number = openFile(path, O_WRONLY | O_CREAT);
+        }
+        Descriptor file(number);
         if (file.number() == -1) {
             const RunTimeError error = errnoToRunTimeError(errno);
             // The file itself would have been made: what is missing is its folder.
             raise(error == RunTimeError::FileNotFound ? RunTimeError::PathNotFound : error);
         }
-        return std::make_unique<PortableOutputFile>(std::move(file));
+        return std::make_unique<PortableOutputFile>(std::move(file), std::move(newPath));
     }
 
     /// Does nothing: there is no clipboard.

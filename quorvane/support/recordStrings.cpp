@@ -13,32 +13,29 @@ namespace {
 constexpr char delimiterOfSubFields = '^';
 constexpr char commentMark = ';';
 
-/// Cuts a text into lines at CR LF, LF and CR.
-class Lines {
+bool isBlank(char character) {
+    return character == ' ' || character == '\t';
+}
+
+/// The next of one character. It is looked for once, however many lines end before it.
+class Next {
 public:
-    explicit Lines(std::string_view text) : text_(text) {}
+    Next(std::string_view text, char character)
+        : text_(text), character_(character), position_(text.find(character)) {}
 
-    bool isAtEnd() const { return start_ == text_.size(); }
-
-    /// The next line, without its line break.
-    std::string_view take() {
-        if (lineFeed_ < start_ || !wasSearched_) {
-            lineFeed_ = std::min(text_.find('\n', start_), text_.size());
-            wasSearched_ = true;
+    /// Its first position from there on; `npos` when there is none. Never asked for an earlier one
+    /// than before.
+    std::size_t from(std::size_t start) {
+        if (position_ < start) {
+            position_ = text_.find(character_, start);
         }
-        // The line feed is found once for all the lines before it that end in a CR.
-        const std::string_view rest = text_.substr(start_, lineFeed_ - start_);
-        const std::string_view line = rest.substr(0, rest.find('\r'));
-        const bool endsInBoth = line.size() + 1 == rest.size() && lineFeed_ < text_.size();
-        start_ = std::min(start_ + line.size() + (endsInBoth ? 2 : 1), text_.size());
-        return line;
+        return position_;
     }
 
 private:
     std::string_view text_;
-    std::size_t start_ = 0;
-    std::size_t lineFeed_ = 0;
-    bool wasSearched_ = false;
+    char character_;
+    std::size_t position_;
 };
 
 }  // namespace
@@ -139,13 +136,28 @@ std::string ReplaceString(std::string_view text, std::string_view search,
 
 std::vector<SourceLine> PreProcessRawData(std::string_view text) {
     std::vector<SourceLine> lines;
-    lines.reserve(static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1);
-    Lines rest(text);
-    for (int number = 1; !rest.isAtEnd(); ++number) {
-        const std::string_view line = trimWhitespace(rest.take());
-        if (!line.empty() && line.front() != commentMark) {
-            lines.push_back({std::string(line), number});
+    // As many as there may be in a small text; a large one makes room as it goes.
+    constexpr std::size_t shortLine = 16;
+    constexpr std::size_t mostAtFirst = 1024;
+    lines.reserve(std::min(text.size() / shortLine + 1, mostAtFirst));
+    Next lineFeed(text, '\n');
+    Next carriageReturn(text, '\r');
+    std::size_t position = 0;
+    for (int number = 1; position < text.size(); ++number) {
+        while (position < text.size() && isBlank(text[position])) {
+            ++position;
         }
+        const std::size_t end =
+            std::min({lineFeed.from(position), carriageReturn.from(position), text.size()});
+        if (position < end && text[position] != commentMark) {
+            std::size_t lineEnd = end;
+            while (isBlank(text[lineEnd - 1])) {
+                --lineEnd;
+            }
+            lines.push_back({text.substr(position, lineEnd - position), number});
+        }
+        const bool endsInBoth = end + 1 < text.size() && text[end] == '\r' && text[end + 1] == '\n';
+        position = end + (endsInBoth ? 2 : 1);
     }
     return lines;
 }

@@ -58,8 +58,9 @@ std::vector<std::string> Parse(std::string_view text, std::string_view delimiter
 std::string ReplaceString(std::string_view text, std::string_view search,
                           std::string_view replacement);
 
-/// The lines that say something: without the blanks and tabs at their ends, without empty lines and
-/// without those whose first character is ";". Lines end with CR LF, LF or CR.
+/// The lines that say something, as views of the text: without the blanks and tabs at their ends,
+/// without empty lines and without those whose first character is ";". Lines end with CR LF, LF or
+/// CR.
 std::vector<SourceLine> PreProcessRawData(std::string_view text);
 
 }  // namespace quorvane

@@ -75,7 +75,20 @@ bool isDevice(HANDLE file) {
 /// A file written without a buffer of its own: what is written comes in large blocks.
 class WindowsOutputFile : public OutputFile {
 public:
-    explicit WindowsOutputFile(FileHandle file) noexcept : file_(std::move(file)) {}
+    /// `newPath` is the path of a file that was made, empty for one that was there.
+    WindowsOutputFile(FileHandle file, std::wstring newPath) noexcept
+        : file_(std::move(file)), newPath_(std::move(newPath)) {}
+    WindowsOutputFile(const WindowsOutputFile&) = delete;
+    WindowsOutputFile& operator=(const WindowsOutputFile&) = delete;
+    ~WindowsOutputFile() override {
+        if (!newPath_.empty()) {
+            // An open file cannot go.
+            if (file_.isOpen()) {
+                CloseHandle(file_.release());
+            }
+            DeleteFileW(newPath_.c_str());
+        }
+    }
 
     void write(std::string_view bytes) override {
         while (!bytes.empty()) {
@@ -93,10 +106,12 @@ public:
         if (!CloseHandle(file_.release())) {
             raiseLastError();
         }
+        newPath_.clear();
     }
 
 private:
     FileHandle file_;
+    std::wstring newPath_;
 };
 
 /// Size of a file; 0 for what tells none, such as a pipe.
@@ -352,14 +367,18 @@ public:
     }
 
     std::unique_ptr<OutputFile> createFile(const std::string& path) override {
-        FileHandle file(CreateFileW(widePath(path).c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
+        std::wstring newPath = widePath(path);
+        FileHandle file(CreateFileW(newPath.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
                                     OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+        if (GetLastError() == ERROR_ALREADY_EXISTS) {
+            newPath.clear();
+        }
         if (!file.isOpen()) {
             const RunTimeError error = windowsErrorToRunTimeError(GetLastError());
             // The file itself would have been made: what is missing is its folder.
             raise(error == RunTimeError::FileNotFound ? RunTimeError::PathNotFound : error);
         }
-        return std::make_unique<WindowsOutputFile>(std::move(file));
+        return std::make_unique<WindowsOutputFile>(std::move(file), std::move(newPath));
     }
 
     /// A clipboard that another program does not let go of is left alone.

@@ -384,6 +384,27 @@ TEST_F(RenderJobTest, TreatsEachDescriptionOnItsOwn) {
     EXPECT_FALSE(folder.has("b.rtf"));
 }
 
+TEST_F(RenderJobTest, RendersADocumentAfterOthersAsItRendersItAlone) {
+    options.styleSheet = folder.write("style.rtfss", goodStyleSheet);
+    const std::string large(2 * 1024 * 1024, 'x');
+    const std::vector<std::string> descriptions = {
+        folder.write("wide.rtfspec",
+                     "(doc\n(paper-width=20000)\n(r\n(c\n(p\n(pt=w)\np)\nc)\nr)\ndoc)\n"),
+        folder.write("plain.rtfspec", descriptionOf("Text")),
+        folder.write("large.rtfspec", descriptionOf(large)),
+        folder.write("afterLarge.rtfspec", descriptionOf("Text")),
+        folder.write("faulty.rtfspec", "(doc\n(r\n(c\n(p\n(pt=x)\n(pa=askew)\np)\nc)\nr)\ndoc)\n"),
+        folder.write("afterFaulty.rtfspec", descriptionOf("Text")),
+    };
+    options.descriptions = descriptions;
+    EXPECT_EQ(run(), ExitStatus::ContentErrors);
+    EXPECT_EQ(told.size(), 1u);
+    for (const char* name : {"wide", "plain", "large", "afterLarge", "afterFaulty"}) {
+        const std::string description = folder / (std::string(name) + ".rtfspec");
+        EXPECT_TRUE(folder.read(std::string(name) + ".rtf") == bytesOfHost(description)) << name;
+    }
+}
+
 TEST_F(RenderJobTest, AnswersTheWorstStatusWhereverItCame) {
     options.descriptions = {folder.write("b.rtfspec", descriptionWithBadColour),
                             folder.write("a.rtfspec", descriptionOf("One"))};

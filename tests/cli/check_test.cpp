@@ -141,6 +141,58 @@ TEST_F(CheckTest, ChecksTheStyleSheetTooAndOnce) {
     EXPECT_EQ(result.status, 1);
 }
 
+TEST_F(CheckTest, TakesAnEmptyStyleSheetForOne) {
+    folder.write("s.rtfss", "");
+    folder.write("t.rtfss", "; no styles yet\n");
+    const ProgramResult result = run({"s.rtfss", "t.rtfss"});
+    EXPECT_EQ(result.output, "");
+    EXPECT_EQ(result.status, 0);
+}
+
+TEST_F(CheckTest, TellsThatABrokenDocumentIsNone) {
+    folder.write("a.rtf", "rtf1 {\\b Total}");
+    folder.write("b.rtf", "");
+    const ProgramResult result = run({"a.rtf", "b.rtf"});
+    EXPECT_EQ(result.output,
+              "a.rtf:1:1: error: The file doesn't begin with {\\rtf. [not-rtf]\n"
+              "    rtf1 {\\b Total}\n"
+              "    ^\n"
+              "b.rtf:1:1: error: The file doesn't begin with {\\rtf. [not-rtf]\n");
+    EXPECT_EQ(result.status, 1);
+}
+
+TEST_F(CheckTest, RefusesTheStyleSheetsThatRenderRefuses) {
+    folder.write("a.rtfspec", descriptionOf("Total"));
+    folder.write("s.txt", goodStyleSheet);
+    folder.write("s.rtfss", goodStyleSheet);
+    for (const char* command : {"check", "render"}) {
+        start.arguments = {command, "-s", "s.txt", "a.rtfspec"};
+        ProgramResult result = runProgram(start);
+        EXPECT_EQ(result.errors,
+                  "quorvane: the stylesheet s.txt must have the extension rtfss\n"
+                  "Run with --help for more information.\n");
+        EXPECT_EQ(result.status, 2);
+        start.arguments = {command, "-s", "a.rtfspec", "s.rtfss"};
+        result = runProgram(start);
+        EXPECT_THAT(result.errors, StartsWith("quorvane: the stylesheet a.rtfspec must have the "
+                                              "extension rtfss; is it swapped with s.rtfss?\n"));
+        EXPECT_EQ(result.status, 2);
+    }
+}
+
+TEST_F(CheckTest, SaysWhereADescriptionIsGivenAsStyleSheet) {
+    folder.write("a.rtfspec", "(doc\n(r\n(c\n(p\n(pt=Total)\n(ps=sum)\np)\nc)\nr)\ndoc)\n");
+    folder.write("s.rtfss", "; (swapped)\n" + descriptionOf("Total"));
+    const ProgramResult result = run({"-s", "s.rtfss", "a.rtfspec"});
+    EXPECT_EQ(result.output,
+              "s.rtfss:2:1: warning: This is a description, not a stylesheet. "
+              "[description-as-stylesheet]\n"
+              "    (doc\n"
+              "    ^~~~\n"
+              "    hint: were the names of the two files swapped?\n");
+    EXPECT_EQ(result.status, 3);
+}
+
 TEST_F(CheckTest, CountsTheStylesThatAnyOfTheDescriptionsUses) {
     folder.write("s.rtfss",
                  "{name: normal; style-def: s}{name: a; style-def: s}{name: b; style-def: s}");
@@ -301,6 +353,23 @@ TEST_F(CheckTest, ReadsALargeDocumentInPieces) {
                   ":1: error: Two hexadecimal digits must follow \\'. [bad-hex-escape]\n"
                   "    \\'x}\n"
                   "    ^~\n");
+}
+
+TEST_F(CheckTest, TellsFindingsAboutADocumentInTheOrderOfTheirPlaces) {
+    folder.write("a.rtf", "{\\rtf1 {\\b a\n\\cf9 \\trowd\\cellx9 a\\cell\n\\'z");
+    EXPECT_EQ(run({"a.rtf"}).output,
+              "a.rtf:1:8: error: The group is not closed. [unclosed-group]\n"
+              "    {\\rtf1 {\\b a\n"
+              "           ^\n"
+              "a.rtf:2:1: error: The color 9 is not in the color table. [unknown-color]\n"
+              "    \\cf9 \\trowd\\cellx9 a\\cell\n"
+              "    ^~~~\n"
+              "a.rtf:2:6: error: The row that begins here is not ended. [unended-row]\n"
+              "    \\cf9 \\trowd\\cellx9 a\\cell\n"
+              "         ^~~~~~\n"
+              "a.rtf:3:1: error: Two hexadecimal digits must follow \\'. [bad-hex-escape]\n"
+              "    \\'z\n"
+              "    ^~\n");
 }
 
 TEST_F(CheckTest, GivesUpOnGroupsThatAreNestedVeryDeep) {

@@ -3,12 +3,20 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sched.h>
 #include <sys/mount.h>
 #include <sys/resource.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <cstdio>
 #include <filesystem>
+#include <fstream>
+#include <functional>
+#include <iterator>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "tests/cli/TemporaryFolder.h"
@@ -77,39 +85,107 @@ TEST_F(FailingFiles, HoldAWholeDocumentWhereTheDiskJustSuffices) {
     EXPECT_EQ(folder.read("a.rtf"), document);
 }
 
-/// A file system of two pages, while it lives.
+constexpr int notPermitted = 77;
+constexpr std::size_t page = 4096;
+constexpr std::size_t pagesOfDisk = 16;
+
+void writeFile(const char* path, const std::string& text) {
+    std::ofstream(path) << text;
+}
+
+/// Gives the process mounts of its own, and a user of its own who may mount.
+bool takeOwnMounts() {
+    const auto user = std::to_string(::geteuid());
+    const auto group = std::to_string(::getegid());
+    if (::unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0) {
+        return false;
+    }
+    writeFile("/proc/self/setgroups", "deny");
+    writeFile("/proc/self/uid_map", "0 " + user + " 1");
+    writeFile("/proc/self/gid_map", "0 " + group + " 1");
+    return ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
+}
+
+/// A file system of 64 KB, while it lives. Nobody else sees it.
 class SmallDisk {
 public:
-    explicit SmallDisk(const std::filesystem::path& folder) : folder_(folder) {
+    explicit SmallDisk(std::filesystem::path folder) : folder_(std::move(folder)) {
         std::filesystem::create_directory(folder_);
-        isMounted_ = ::mount("none", folder_.c_str(), "tmpfs", 0, "size=8k") == 0;
+        if (::mount("none", folder_.c_str(), "tmpfs", 0, "size=64k") != 0) {
+            ::_exit(notPermitted);
+        }
     }
     SmallDisk(const SmallDisk&) = delete;
     SmallDisk& operator=(const SmallDisk&) = delete;
-    ~SmallDisk() {
-        if (isMounted_) {
-            ::umount(folder_.c_str());
-        }
-    }
+    ~SmallDisk() { ::umount(folder_.c_str()); }
 
-    bool isMounted() const { return isMounted_; }
+    /// Writes all of the disk but so many pages full.
+    void fillUpTo(std::size_t freePages) const {
+        std::ofstream(folder_ / "filler") << std::string(2 * pagesOfDisk * page, 'f') << std::flush;
+        const auto size = std::filesystem::file_size(folder_ / "filler");
+        std::filesystem::resize_file(folder_ / "filler",
+                                     size - std::min<std::size_t>(size, freePages * page));
+    }
 
 private:
     std::filesystem::path folder_;
-    bool isMounted_ = false;
 };
 
-TEST_F(FailingFiles, LeaveNothingOnADiskThatIsTooSmall) {
-    const SmallDisk disk(folder.path() / "small");
-    if (!disk.isMounted()) {
-        GTEST_SKIP() << "mounting a file system takes the right to do so";
+/// Runs the body in a process that has mounts of its own. Answers its exit status: 0 when nothing
+/// failed.
+int withOwnMounts(const std::function<void()>& body) {
+    const pid_t process = ::fork();
+    if (process == 0) {
+        if (!takeOwnMounts()) {
+            ::_exit(notPermitted);
+        }
+        body();
+        std::fflush(nullptr);
+        ::_exit(testing::Test::HasFailure() ? 1 : 0);
     }
+    int status = 0;
+    ::waitpid(process, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+TEST_F(FailingFiles, LeaveADocumentWholeOrAsItWasHoweverLittleTheDiskHolds) {
     folder.write("a.rtfspec", descriptionOf(std::string(20'000, 'x')));
+    ASSERT_EQ(run({"render", "a.rtfspec"}).status, 0);
+    const std::string whole = folder.read("a.rtf");
 
-    expectFailure(run({"render", "-o", "small/a.rtf", "a.rtfspec"}),
-                  "small/a.rtf: error[61]: Disk full");
+    const int status = withOwnMounts([&] {
+        for (const bool hasOlder : {false, true}) {
+            int successes = 0;
+            for (std::size_t freePages = 0; freePages < pagesOfDisk; ++freePages) {
+                const SmallDisk disk(folder.path() / "small");
+                if (hasOlder) {
+                    folder.write("small/a.rtf", "the older one");
+                }
+                disk.fillUpTo(freePages);
 
-    EXPECT_TRUE(std::filesystem::is_empty(folder.path() / "small"));
+                const ProgramResult result = run({"render", "-o", "small/a.rtf", "a.rtfspec"});
+
+                const bool isThere = folder.has("small/a.rtf");
+                if (result.status == 0) {
+                    ++successes;
+                    EXPECT_EQ(folder.read("small/a.rtf"), whole) << freePages;
+                } else {
+                    expectFailure(result, "small/a.rtf: error[61]: Disk full");
+                    EXPECT_EQ(isThere, hasOlder) << freePages;
+                    EXPECT_TRUE(!isThere || folder.read("small/a.rtf") == "the older one");
+                }
+                const auto entries = std::filesystem::directory_iterator(folder.path() / "small");
+                EXPECT_EQ(std::distance(begin(entries), end(entries)), isThere ? 2 : 1);
+            }
+            EXPECT_GE(successes, 3);
+            EXPECT_LE(successes, 12);
+        }
+    });
+
+    if (status == notPermitted) {
+        GTEST_SKIP() << "this machine does not let its users mount a file system of their own";
+    }
+    EXPECT_EQ(status, 0);
 }
 
 TEST_F(FailingFiles, LeaveAFolderInTheWayAsItIs) {

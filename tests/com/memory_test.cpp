@@ -8,35 +8,12 @@
 #include "tests/com/host/Component.h"
 #include "tests/com/host/EventConnection.h"
 #include "tests/com/host/LateBound.h"
+#include "tests/com/host/heapAllocations.h"
 #include "tests/com/host/interfaces.h"
 #include "tests/com/host/text.h"
 
 namespace quorvane::host {
 namespace {
-
-/// What is allocated on all heaps of the process.
-struct Allocations {
-    std::size_t count = 0;
-    std::size_t bytes = 0;
-};
-
-Allocations allocations() {
-    Allocations found;
-    std::vector<HANDLE> heaps(64);
-    heaps.resize(GetProcessHeaps(static_cast<DWORD>(heaps.size()), heaps.data()));
-    for (const HANDLE heap : heaps) {
-        PROCESS_HEAP_ENTRY entry{};
-        HeapLock(heap);
-        while (HeapWalk(heap, &entry)) {
-            if (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) {
-                ++found.count;
-                found.bytes += entry.cbData;
-            }
-        }
-        HeapUnlock(heap);
-    }
-    return found;
-}
 
 /// What a host does with one document.
 void buildByHand(const Component& component) {
@@ -92,13 +69,13 @@ void expectNoLeak(void (*work)(const Component&), int times) {
     for (int i = 0; i < 300; ++i) {
         work(component);
     }
-    const Allocations before = allocations();
+    const HeapAllocations before = heapAllocations();
 
     for (int i = 0; i < times; ++i) {
         work(component);
     }
 
-    const Allocations after = allocations();
+    const HeapAllocations after = heapAllocations();
     // One allocation kept per document would be thousands of them.
     EXPECT_LT(after.count, before.count + 20);
     EXPECT_LT(after.bytes, before.bytes + 16384);
@@ -116,13 +93,13 @@ TEST(Memory, OfDriversIsFreed) {
 TEST(Memory, IsMeasured) {
     const Component component;
     std::vector<ComPtr<_CRtfDoc>> kept;
-    const Allocations before = allocations();
+    const HeapAllocations before = heapAllocations();
 
     for (int i = 0; i < 1000; ++i) {
         kept.push_back(component.create<_CRtfDoc>(__uuidof(::CRtfDoc)));
     }
 
-    EXPECT_GT(allocations().count, before.count + 1000);
+    EXPECT_GT(heapAllocations().count, before.count + 1000);
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 #include "tests/com/host/Process.h"
 #include "tests/com/host/ScarceMemory.h"
 #include "tests/com/host/Variant.h"
+#include "tests/com/host/heapAllocations.h"
 #include "tests/com/host/interfaces.h"
 #include "tests/com/host/text.h"
 
@@ -23,10 +24,17 @@ using Work = std::function<HRESULT(const Component&)>;
 /// Goes from call to call as long as they succeed.
 class Calls {
 public:
+    /// When there is one, a call that found no memory is made again after it.
+    static inline std::function<void()> relief;
+
     template <class Call>
     Calls& operator()(Call&& call) {
         if (SUCCEEDED(result_)) {
             result_ = call();
+            if (result_ == E_OUTOFMEMORY && relief) {
+                relief();
+                result_ = call();
+            }
         }
         return *this;
     }
@@ -265,6 +273,63 @@ TEST(ScarceMemory, IsToldToLateBoundHosts) {
 
 TEST(ScarceMemory, LetsTheNumberOfAnErrorThrough) {
     expectOnlyOutOfMemory(fail, static_cast<HRESULT>(0x80040000 + eWrongPath), [] {});
+}
+
+/// Does the work again and again; a call that finds no memory is made a second time, with memory.
+/// Then all is as if it had never been short.
+void expectWorkGoesOn(const Work& work, const std::function<void()>& checkWhenDone) {
+    const Component component;
+    ASSERT_EQ(work(component), S_OK);
+    ScarceMemory memory(component.module());
+    int reliefs = 0;
+    Calls::relief = [&] {
+        memory.end();
+        ++reliefs;
+    };
+    for (const Shortage shortage : {Shortage::Once, Shortage::Twice, Shortage::FromThenOn}) {
+        int number = 0;
+        do {
+            memory.begin(++number, shortage);
+            ASSERT_EQ(work(component), S_OK) << "allocation " << number;
+            checkWhenDone();
+        } while (memory.end());
+    }
+    Calls::relief = nullptr;
+    EXPECT_GT(reliefs, 50);
+}
+
+TEST(ScarceMemory, LeavesADocumentAsItWasBeforeTheCallThatFailed) {
+    std::string contents;
+    buildingByHand(contents)(Component());
+    const std::string expected = contents;
+
+    expectWorkGoesOn(buildingByHand(contents), [&] { EXPECT_EQ(contents, expected); });
+}
+
+TEST(ScarceMemory, LeavesADriverThatCanBeginAnew) {
+    std::string contents;
+    int events = 0;
+    driving(contents, events)(Component());
+    const std::string expected = contents;
+
+    expectWorkGoesOn(driving(contents, events), [&] { EXPECT_EQ(contents, expected); });
+}
+
+TEST(ScarceMemory, TakesNothingForGood) {
+    std::string contents;
+    int events = 0;
+    const auto failAll = [&] {
+        expectOnlyOutOfMemory(buildingByHand(contents), S_OK, [] {});
+        expectOnlyOutOfMemory(driving(contents, events), S_OK, [] {});
+        expectOnlyOutOfMemory(workLateBound, S_OK, [] {});
+    };
+    failAll();
+    const std::size_t before = heapAllocations().count;
+
+    failAll();
+
+    // One allocation kept per failure would be hundreds of them.
+    EXPECT_LT(heapAllocations().count, before + 20);
 }
 
 }  // namespace

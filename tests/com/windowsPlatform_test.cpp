@@ -262,6 +262,16 @@ TEST_F(WindowsFiles, AreWrittenFromTheirFirstByteAndNotShortened) {
     EXPECT_EQ(platform_.readFile(path("a")), "abc3456789");
 }
 
+TEST_F(WindowsFiles, ThatAreNewAndLetGoOfBeforeTheirEndGo) {
+    writeFile(wideText(path("a")), "0123456789");
+
+    platform_.createFile(path("new"))->write("ab");
+    platform_.createFile(path("a"))->write("ab");
+
+    EXPECT_FALSE(platform_.fileExists(path("new")));
+    EXPECT_EQ(platform_.readFile(path("a")), "ab23456789");
+}
+
 TEST_F(WindowsFiles, ThatCannotBeWrittenAreErrors) {
     EXPECT_EQ(errorNumberOf([&] { platform_.createFile(path("no folder\\a")); }), 76);
     EXPECT_EQ(errorNumberOf([&] { platform_.createFile(utf8Text(folder_)); }), 75);

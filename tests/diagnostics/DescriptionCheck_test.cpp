@@ -104,7 +104,7 @@ TEST(DescriptionCheck, FindsTheCharactersThatTheCodePageCannotHold) {
         "(doc\n(r\n(c\n(p\n(pt=\xE2\x86\x92 \xF0\x9F\x98\x80 \xE2\x82\xAC)\np)\nc)\nr)\ndoc)\n");
     ASSERT_EQ(findings.size(), 2u);
     EXPECT_EQ(findings[0].id, DiagnosticId::UnencodableCharacter);
-    EXPECT_EQ(findings[0].hint, "write \\u8594?");
+    EXPECT_EQ(findings[0].hint, "write {\\uc1\\u8594?}");
     EXPECT_EQ(findings[1].id, DiagnosticId::UnencodableCharacter);
     EXPECT_EQ(findings[1].hint, "");
 }

@@ -44,7 +44,6 @@ TEST(RtfCheck, FindsNothingInASoundDocument) {
     EXPECT_THAT(found("{\\rtf1 Total}"), IsEmpty());
     EXPECT_THAT(found(documentOf("\\trowd\\cellx100\\cellx200 a\\cell b\\cell\\row")), IsEmpty());
     EXPECT_THAT(found("\r\n {\\rtf1 Total}\r\n"), IsEmpty());
-    EXPECT_THAT(found(std::string("{\\rtf1 Total}\0", 14)), IsEmpty());
 }
 
 TEST(RtfCheck, TellsLineColumnAndByteOffset) {
@@ -87,6 +86,7 @@ TEST(RtfCheck, WantsGroupsClosed) {
     EXPECT_THAT(found("{\\rtf1 {\\b a"), ElementsAre("1:8+1@7 unclosed-group"));
     EXPECT_THAT(found("{\\rtf1 a}}"), ElementsAre("1:10+1@9 text-after-end"));
     EXPECT_THAT(found("{\\rtf1 a} b {"), ElementsAre("1:10+1@9 text-after-end"));
+    EXPECT_THAT(found(std::string("{\\rtf1 a}\r\n\0", 12)), ElementsAre("2:1+1@11 text-after-end"));
 }
 
 TEST(RtfCheck, WantsWholeControlsAndData) {
@@ -137,6 +137,26 @@ TEST(RtfCheck, WantsRisingEdgesAndAnEndOfEachRow) {
     EXPECT_THAT(found(documentOf("\\trowd\\cellx9\\cellx9 a\\cell b\\cell\\row")),
                 ElementsAre("2:14+7@81 falling-edge"));
     EXPECT_THAT(found(documentOf("\\trowd\\cellx9 a\\cell")), ElementsAre("2:1+6@68 unended-row"));
+}
+
+TEST(RtfCheck, MarksTheRowThatIsNotEnded) {
+    // The second row goes by the definition of the first.
+    EXPECT_THAT(found(documentOf("\\trowd\\cellx9 a\\cell\\row b\\cell")),
+                ElementsAre("2:27+5@94 unended-row"));
+    // The first row ends where the definition of the second has a cell.
+    EXPECT_THAT(found(documentOf("\\trowd\\cellx9 a\\cell\n\\trowd\\cellx9 b\\cell\\row")),
+                ElementsAre("2:1+6@68 unended-row"));
+    EXPECT_THAT(found(documentOf("\\trowd\\cellx9 a\\cell\\row\n\\trowd\\cellx9 b\\cell")),
+                ElementsAre("3:1+6@93 unended-row"));
+    // A definition without cells begins no row.
+    EXPECT_THAT(
+        found(documentOf("\\trowd\\cellx9 a\\cell\n\\trowd\\cellx9\n\\trowd\\cellx9 b\\cell")),
+        ElementsAre("2:1+6@68 unended-row", "4:1+6@103 unended-row"));
+}
+
+TEST(RtfCheck, WantsAnEndOfNestedRows) {
+    EXPECT_THAT(found(documentOf("\\trowd\\cellx9 \\itap2 a\\nestcell\\itap1 b\\cell\\row")),
+                ElementsAre("2:23+9@90 unended-row"));
 }
 
 TEST(RtfCheck, LooksReferencesUp) {

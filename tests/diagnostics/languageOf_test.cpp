@@ -33,5 +33,31 @@ TEST(LanguageOf, GoesByTheCountWhereSomethingElseStandsFirst) {
     EXPECT_EQ(languageOf(""), CheckedLanguage::Description);
 }
 
+TEST(LanguageOf, IsRtfThatIsBrokenWhereABackslashFollowsTheFirstBrace) {
+    for (const char* text :
+         {"{ \\rtf1 {a}", "\xEF\xBB\xBF{\\rtf1 {a}{b}{c}", "a\n{\\b x}{y}", "\\rtf1 a}"}) {
+        EXPECT_EQ(languageOf(text), CheckedLanguage::Rtf) << text;
+    }
+}
+
+TEST(LanguageOf, IsThatOfTheExtensionWhereTheContentDoesNotTell) {
+    EXPECT_EQ(languageOf("", "a.rtfss"), CheckedLanguage::StyleSheet);
+    EXPECT_EQ(languageOf("; none yet\n", "B.RTFSS"), CheckedLanguage::StyleSheet);
+    EXPECT_EQ(languageOf("Styles to come.", "a.rtfss"), CheckedLanguage::StyleSheet);
+    EXPECT_EQ(languageOf("", "a.rtfspec"), CheckedLanguage::Description);
+    EXPECT_EQ(languageOf("", "a.rtf"), CheckedLanguage::Rtf);
+    EXPECT_EQ(languageOf("rtf1 {a}", "a.rtf"), CheckedLanguage::Rtf);
+    EXPECT_EQ(languageOf("{rtf1 a}", "a.rtf"), CheckedLanguage::Rtf);
+    EXPECT_EQ(languageOf("(doc\n(r\n", "a.rtf"), CheckedLanguage::Description);
+    EXPECT_EQ(languageOf("{ name: a }", "a.rtfspec"), CheckedLanguage::StyleSheet);
+    EXPECT_EQ(languageOf("(doc\n", "a.rtfss"), CheckedLanguage::Description);
+}
+
+TEST(OpeningOfDescription, IsTheFirstLineThatSaysSomething) {
+    EXPECT_EQ(openingOfDescription("\n; (r\n  (doc ; x\n(r"), "(doc ; x");
+    EXPECT_EQ(openingOfDescription("{ name: a }\n(doc\n"), "");
+    EXPECT_EQ(openingOfDescription(""), "");
+}
+
 }  // namespace
 }  // namespace quorvane

@@ -13,20 +13,23 @@ namespace {
 const Vocabulary vocabulary;
 const DescriptionChecks checks(vocabulary);
 
-std::shared_ptr<DescriptionNode> docOf(const std::string& text) {
+/// What a check finds in a description that is read without an error.
+template <class Check>
+ToldError findingOf(const std::string& text, Check check) {
     const ReadDescription read(lines(text));
     EXPECT_EQ(read.error, ToldError()) << text;
-    return read.root->child(1);
+    return errorOf([&] { check(read.root().child(1)); });
 }
 
 /// The finding of the syntax walk.
 ToldError syntaxOf(const std::string& text) {
-    return errorOf([&] { checks.docWalkerSyntax(*docOf(text)); });
+    return findingOf(text, [](const DescriptionNode& doc) { checks.docWalkerSyntax(doc); });
 }
 
 /// The finding of the semantic walk.
 ToldError semanticsOf(const std::string& text) {
-    return errorOf([&] { checks.treeWalkerSemantic(*docOf(text), NodeKind::Doc); });
+    return findingOf(
+        text, [](const DescriptionNode& doc) { checks.treeWalkerSemantic(doc, NodeKind::Doc); });
 }
 
 constexpr const char* docWalker = "CRtfDriver.docWalkerSyntax";
@@ -293,9 +296,10 @@ TEST(DescriptionSemantics, TakeAKeyInANodeThatDoesNotHaveIt) {
 TEST(DescriptionSemantics, RefuseAValueThatIsNeitherTextNorNumber) {
     for (const char* key : {"para-text", "para-style", "para-alignment", "cell-alignment",
                             "cell-style", "para-marked-field", "cell-marked-field"}) {
-        DescriptionNode node(1);
-        node.addLeaf(key, Leaf(true, "", 7));
-        EXPECT_EQ(errorOf([&] { checks.treeWalkerSemantic(node, NodeKind::Para); }),
+        DescriptionTree tree;
+        tree.addLeaf(tree.root(),
+                     {.key = vocabulary.leafKey(key), .kind = LeafKind::Neither, .line = 7});
+        EXPECT_EQ(errorOf([&] { checks.treeWalkerSemantic(tree.root(), NodeKind::Para); }),
                   driverErrorOf(eWrongValue,
                                 "Value for " + std::string(key) + " should be numeric or string.",
                                 valueWalker, 7));

@@ -48,8 +48,9 @@ std::string repeated(std::string_view text, int times) {
 
 std::vector<std::string> repaired(const std::string& text) {
     std::vector<std::string> result;
-    for (const SourceLine& line : repairLines(PreProcessRawData(lines(text)))) {
-        result.push_back(line.text);
+    const std::string source = lines(text);
+    for (const SourceLine& line : repairLines(PreProcessRawData(source))) {
+        result.emplace_back(line.text);
     }
     return result;
 }
@@ -141,19 +142,19 @@ TEST(DescriptionReader, ReadsEverythingElseAsText) {
 
 TEST(DescriptionReader, KeepsTheTextAndTheLineOfALeaf) {
     const ReadDescription read(lines("; first||(pt = 0012 )|(ps=x)"));
-    EXPECT_EQ(read.root->leaf("para-text").text, "0012");
-    EXPECT_EQ(read.root->leaf("para-text").line, 3);
-    EXPECT_EQ(read.root->leaf("para-style").text, "x");
-    EXPECT_EQ(read.root->leaf("para-style").line, 4);
+    EXPECT_EQ(leafOf(read.root(), "para-text").text, "0012");
+    EXPECT_EQ(leafOf(read.root(), "para-text").line, 3);
+    EXPECT_EQ(leafOf(read.root(), "para-style").text, "x");
+    EXPECT_EQ(leafOf(read.root(), "para-style").line, 4);
 }
 
 TEST(DescriptionReader, KeepsTheLineOfANode) {
     const ReadDescription read(lines("(doc||(r|; cell|(c"));
-    const auto doc = read.root->child(1);
-    EXPECT_EQ(read.root->line(), 0);
-    EXPECT_EQ(doc->line(), 1);
-    EXPECT_EQ(doc->child(1001)->line(), 3);
-    EXPECT_EQ(doc->child(1001)->child(2001)->line(), 5);
+    const DescriptionNode& doc = read.root().child(1);
+    EXPECT_EQ(read.root().line, 0);
+    EXPECT_EQ(doc.line, 1);
+    EXPECT_EQ(doc.child(1001).line, 3);
+    EXPECT_EQ(doc.child(1001).child(2001).line, 5);
 }
 
 TEST(DescriptionReader, ReadsValuesWithEqualsSignsSemicolonsAndOpeningParentheses) {
@@ -302,41 +303,41 @@ TEST(DescriptionReader, TakesAKeyThatIsTheNumberOfAChild) {
 TEST(DescriptionReader, Takes999RowsAndNoMore) {
     const ReadDescription fits(lines("(doc|" + repeated("(r|r)|", 999) + "doc)"));
     EXPECT_EQ(fits.error, ToldError());
-    EXPECT_EQ(fits.root->child(1)->childNumbers().back(), Value(1999));
+    EXPECT_EQ(childNumbers(fits.root().child(1)).back(), 1999);
 
     const ReadDescription tooMany(lines("(doc|" + repeated("(r|r)|", 1000) + "doc)"));
     EXPECT_EQ(tooMany.error, tooManyNodes("row", 2000));
-    EXPECT_EQ(tooMany.root->child(1)->childNumbers().size(), 999u);
+    EXPECT_EQ(childNumbers(tooMany.root().child(1)).size(), 999u);
 }
 
 TEST(DescriptionReader, Takes999CellsAndNoMore) {
     const ReadDescription fits(lines("(doc|(r|" + repeated("(c|c)|", 999) + "r)|doc)"));
     EXPECT_EQ(fits.error, ToldError());
-    EXPECT_EQ(fits.root->child(1)->child(1001)->childNumbers().back(), Value(2999));
+    EXPECT_EQ(childNumbers(fits.root().child(1).child(1001)).back(), 2999);
 
     const ReadDescription tooMany(lines("(doc|(r|" + repeated("(c|c)|", 1000) + "r)|doc)"));
     EXPECT_EQ(tooMany.error, tooManyNodes("cell", 2001));
-    EXPECT_EQ(tooMany.root->child(1)->child(1001)->childNumbers().size(), 999u);
+    EXPECT_EQ(childNumbers(tooMany.root().child(1).child(1001)).size(), 999u);
 }
 
 TEST(DescriptionReader, Takes999ParagraphsAndNoMore) {
     const ReadDescription fits(lines("(doc|(r|(c|" + repeated("(p|p)|", 999) + "c)|r)|doc)"));
     EXPECT_EQ(fits.error, ToldError());
-    EXPECT_EQ(fits.root->child(1)->child(1001)->child(2001)->childNumbers().back(), Value(3999));
+    EXPECT_EQ(childNumbers(fits.root().child(1).child(1001).child(2001)).back(), 3999);
 
     const ReadDescription tooMany(lines("(doc|(r|(c|" + repeated("(p|p)|", 1000) + "c)|r)|doc)"));
     EXPECT_EQ(tooMany.error, tooManyNodes("para", 2002));
-    EXPECT_EQ(tooMany.root->child(1)->child(1001)->child(2001)->childNumbers().size(), 999u);
+    EXPECT_EQ(childNumbers(tooMany.root().child(1).child(1001).child(2001)).size(), 999u);
 }
 
 TEST(DescriptionReader, Takes999DocsAndNoMore) {
     const ReadDescription fits(lines("(doc|" + repeated("(doc|doc)|", 998) + "doc)"));
     EXPECT_EQ(fits.error, ToldError());
-    EXPECT_EQ(fits.root->child(1)->childNumbers().back(), Value(999));
+    EXPECT_EQ(childNumbers(fits.root().child(1)).back(), 999);
 
     const ReadDescription tooMany(lines("(doc|" + repeated("(doc|doc)|", 999) + "doc)"));
     EXPECT_EQ(tooMany.error, tooManyNodes("doc", 1998));
-    EXPECT_EQ(tooMany.root->child(1)->childNumbers().size(), 998u);
+    EXPECT_EQ(childNumbers(tooMany.root().child(1)).size(), 998u);
 }
 
 TEST(DescriptionReader, CountsTheCellsOfAllRowsTogether) {
@@ -346,8 +347,8 @@ TEST(DescriptionReader, CountsTheCellsOfAllRowsTogether) {
 
 TEST(DescriptionReader, ReachesTheLimitSoonerByNumbersThatAreSkipped) {
     const ReadDescription read(lines("(doc|" + repeated("(r|", 600)));
-    EXPECT_EQ(read.root->child(1)->childNumbers().size(), 500u);
-    EXPECT_EQ(read.root->child(1)->childNumbers().back(), Value(1999));
+    EXPECT_EQ(childNumbers(read.root().child(1)).size(), 500u);
+    EXPECT_EQ(childNumbers(read.root().child(1)).back(), 1999);
     EXPECT_EQ(read.error, tooManyNodes("row", 502));
 }
 
@@ -374,8 +375,8 @@ TEST(DescriptionReader, HasNoLimitForLeaves) {
     }
     const ReadDescription read(lines(text));
     EXPECT_EQ(read.error, ToldError());
-    EXPECT_EQ(read.root->child(1)->Count(), 5000);
-    EXPECT_EQ(read.root->child(1)->leaf("key4999").value, Value(4999));
+    EXPECT_EQ(leafKeys(read.root().child(1)).size(), 5000u);
+    EXPECT_EQ(leafOf(read.root().child(1), "key4999").value(), Value(4999));
 }
 
 TEST(repairLines, LeavesAWellFormedDescriptionAsItIs) {

@@ -160,7 +160,34 @@ TEST(Vocabulary, KnowsKeysToTheLetterAndInTheLongFormOnly) {
     EXPECT_FALSE(vocabulary.isKeyOf(NodeKind::Para, "Para-Text"));
     EXPECT_FALSE(vocabulary.isKeyOf(NodeKind::Para, "pt"));
     EXPECT_FALSE(vocabulary.isKeyOf(NodeKind::Para, ""));
-    EXPECT_FALSE(vocabulary.isKeyOf(NodeKind::Para, 0));
+}
+
+TEST(Vocabulary, NumbersTheKeysInTheOrderOfTheirNames) {
+    Words keys = allKeys();
+    std::sort(keys.begin(), keys.end());
+    Words numbered(keys.size());
+    for (const std::string& key : keys) {
+        const LeafKey found = vocabulary.leafKey(key);
+        ASSERT_LT(static_cast<std::size_t>(found.known), numbered.size()) << key;
+        numbered[static_cast<std::size_t>(found.known)] = found.name;
+    }
+    EXPECT_EQ(numbered, keys);
+    EXPECT_EQ(keys.size(), knownKeyCount);
+}
+
+TEST(Vocabulary, TakesTheShortFormOfAKeyForTheKey) {
+    for (const auto& [shortForm, longForm] : shortForms) {
+        EXPECT_EQ(vocabulary.leafKey(shortForm).name, longForm);
+        EXPECT_EQ(vocabulary.leafKey(shortForm).known, vocabulary.leafKey(longForm).known);
+    }
+}
+
+TEST(Vocabulary, NumbersNoKeyThatItDoesNotKnow) {
+    for (const char* word : {"", "PT", "Para-Text", "para-tex", "para-texts", "row", "r", "colour",
+                             "cell-widtH", "x"}) {
+        EXPECT_EQ(vocabulary.leafKey(word).known, DescriptionKey::Unknown) << word;
+        EXPECT_EQ(vocabulary.leafKey(word).name, vocabulary.expand(word));
+    }
 }
 
 TEST(Vocabulary, KnowsTheColourKeys) {

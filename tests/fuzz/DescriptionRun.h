@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -7,10 +8,16 @@
 #include "quorvane/driver/CRtfDriver.h"
 #include "quorvane/support/currentError.h"
 #include "tests/fuzz/documentChecks.h"
+#include "tests/fuzz/plainAnalysis.h"
 #include "tests/fuzz/require.h"
 #include "tests/support/FakePlatform.h"
 
 namespace quorvane {
+
+inline std::string toldText(const ToldError& error) {
+    return std::to_string(error.number) + " in line " + std::to_string(error.line) + ": " +
+           error.description + " (" + error.source + ")\n";
+}
 
 /// A driver that analyses descriptions in memory, and what it reported.
 class DescriptionRun {
@@ -26,6 +33,9 @@ public:
     FakePlatform& platform() { return platform_; }
     CRtfDriver& driver() { return *driver_; }
     Ref<CRtfDoc> document() const { return driver_->RtfObject(); }
+
+    /// What the last call reported.
+    const std::string& events() const { return events_; }
 
     /// What an analysis of the text comes to: its errors and the document's text.
     std::string analysed(std::string_view text) {
@@ -54,19 +64,38 @@ public:
     }
 
 private:
-    void note(const RtfError& error) {
-        events_ += std::to_string(error.number) + " in line " + std::to_string(error.line) + ": " +
-                   error.description + " (" + error.source + ")\n";
-    }
+    void note(const RtfError& error) { events_ += toldText(told(error)); }
 
     FakePlatform platform_;
     Ref<CRtfDriver> driver_ = CRtfDriver::create(platform_);
     std::string events_;
 };
 
+/// What the run made of the text, its errors and its document, is what the steps of an analysis
+/// are told to make of it. The document is rendered by now, or could not be.
+inline void requirePlainAnalysis(DescriptionRun& run, std::string_view text) {
+    const Ref<CRtfDoc> document = run.document();
+    plain::Analysis analysis(std::string(text), run.driver().ErroneousInput(), *document);
+    std::string errors;
+    for (const ToldError& error : analysis.errors) {
+        errors += toldText(error);
+    }
+    requireEqual(run.events(), errors, "an analysis reports the errors that are told");
+    std::string page;
+    const std::int32_t error = errorOfCall([&] { page = analysis.document->render(); });
+    require((error != 0) == document->Changed(), "a document can be rendered when it is told so");
+    if (error == 0) {
+        const std::string contents = document->Contents();
+        requireEqual(std::string_view(contents).substr(contents.size() -
+                                                       std::min(contents.size(), page.size())),
+                     page, "a description's document is the one that is told");
+    }
+}
+
 /// Everything that is to hold of the analysis of a description.
 inline void requireGoodAnalysis(DescriptionRun& run, std::string_view text, bool countsRows) {
     const std::string first = run.analysed(text);
+    requirePlainAnalysis(run, text);
     if (run.document()->Changed()) {
         return;
     }

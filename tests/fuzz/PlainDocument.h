@@ -18,8 +18,8 @@
 #include "quorvane/support/codePage1252.h"
 #include "quorvane/support/textCase.h"
 
-// A document as its rules are told, with no regard to speed: what the fuzzer of the object model
-// compares the library with. Where a call is to fail, the number of its error is thrown.
+// A document as its rules are told, with no regard to speed: what the fuzzers compare the library
+// with. Where a call is to fail, the number of its error is thrown.
 
 namespace quorvane::plain {
 
@@ -343,6 +343,29 @@ inline Document& required(const std::shared_ptr<Document>& document) {
 
 inline void markChanged(const std::shared_ptr<Document>& document) {
     required(document).changed = true;
+}
+
+inline void setBackColorOf(Row& row, std::int32_t color) {
+    if (row.backColor != color) {
+        row.backColor = color;
+        required(row.owner.lock());
+        for (auto& entry : row.cells.entries) {
+            entry.element->setBackColor(color);
+        }
+        markChanged(row.owner.lock());
+    }
+}
+
+/// A row hands all its borders to its cells, whichever is set.
+inline void setBorderOf(Row& row, std::size_t side, std::int32_t width) {
+    if (row.borders[side] != width) {
+        row.borders[side] = width;
+        required(row.owner.lock());
+        for (auto& entry : row.cells.entries) {
+            entry.element->borders = row.borders;
+        }
+        markChanged(row.owner.lock());
+    }
 }
 
 /// Width of each of so many cells; throws when they do not fit in 32 bits.

@@ -1,6 +1,7 @@
 // Arguments and files of the command. The input's first line is the arguments, separated by blanks;
 // then come the bytes of a.rtfspec, b.rtfspec and style.rtfss, with a form feed between them. The
-// files stand in a folder of this process' own; no argument may lead out of it.
+// files stand in a folder of this process' own; no argument may lead out of it. What the command
+// makes of a.rtfspec alone is what a plain analysis makes of it.
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -15,13 +16,22 @@
 #include <variant>
 #include <vector>
 
+#include "cli/CheckJob.h"
 #include "cli/Diagnostic.h"
+#include "cli/FindingExcerpt.h"
+#include "cli/FormatJob.h"
 #include "cli/RenderJob.h"
 #include "cli/UsageError.h"
 #include "cli/commandLine.h"
 #include "cli/diagnosticJson.h"
 #include "cli/diagnosticText.h"
+#include "cli/findingJson.h"
+#include "cli/findingText.h"
+#include "quorvane/docmodel/CRtfDoc.h"
+#include "quorvane/support/codePage1252.h"
 #include "tests/fuzz/FuzzInput.h"
+#include "tests/fuzz/documentChecks.h"
+#include "tests/fuzz/plainAnalysis.h"
 #include "tests/fuzz/require.h"
 
 namespace {
@@ -82,11 +92,60 @@ std::vector<std::string> argumentsOf(const std::string& line) {
     return arguments;
 }
 
+std::string bytesOf(const char* name) {
+    std::ostringstream bytes;
+    bytes << std::ifstream(name, std::ios::binary).rdbuf();
+    return bytes.str();
+}
+
+/// A run that renders a.rtfspec to where it goes by itself tells the errors of its analysis, in
+/// their order, and writes its document when there are none or it is to keep going.
+void requirePlainRun(const cli::RenderOptions& options, const std::vector<std::string>& contents,
+                     const std::vector<RtfError>& told, int status) {
+    const bool isPlain = options.descriptions == std::vector<std::string>{"a.rtfspec"} &&
+                         options.styleSheet.value_or("style.rtfss") == "style.rtfss" &&
+                         !options.output && !options.outputFolder;
+    if (!isPlain) {
+        return;
+    }
+    const Ref<CRtfDoc> styles = CRtfDoc::create();
+    std::string expected;
+    if (options.styleSheet &&
+        errorOfCall(
+            [&] { styles->LoadStyleSheetFromMemmory(utf8FromCodePage1252(contents[2])); }) != 0) {
+        expected += "style.rtfss isn't a valid stylesheet.\n";
+    }
+    plain::Analysis analysis(utf8FromCodePage1252(contents[0]), options.check, *styles);
+    for (const ToldError& error : analysis.errors) {
+        expected += error.description + "\n";
+    }
+    std::string page;
+    const bool isToBeWritten = expected.empty() || options.keepGoing;
+    const int errorOfDocument =
+        isToBeWritten ? errorOfCall([&] { page = analysis.document->render(); }) : 0;
+    std::string descriptions;
+    for (std::size_t i = 0; i + (errorOfDocument != 0 ? 1 : 0) < told.size(); ++i) {
+        descriptions += told[i].description + "\n";
+    }
+    requireEqual(descriptions, expected, "the command tells the errors of an analysis");
+    require(status == (errorOfDocument != 0 ? 2
+                       : expected.empty()   ? 0
+                                            : 1),
+            "the exit status tells what there was");
+    if (isToBeWritten && errorOfDocument == 0) {
+        require(bytesOf("a.rtf").ends_with(codePage1252FromUtf8(page)),
+                "the command writes the document of an analysis");
+    } else {
+        require(!files::exists("a.rtf"), "the command writes no document with errors");
+    }
+}
+
 /// What a run comes to: its status, what it tells, and the files that are there.
-std::string outcome(const std::vector<std::string>& arguments) {
+std::string outcome(const std::vector<std::string>& arguments,
+                    const std::vector<std::string>& contents) {
     std::string text;
     int status = -1;
-    bool hasTold = false;
+    std::vector<RtfError> told;
     try {
         const auto request = cli::parseCommandLine(arguments);
         if (const auto* information = std::get_if<cli::Information>(&request)) {
@@ -94,17 +153,34 @@ std::string outcome(const std::vector<std::string>& arguments) {
             return information->text;
         }
         const auto tell = [&](const cli::Diagnostic& diagnostic) {
-            hasTold = true;
+            told.push_back(diagnostic.error);
             const std::string line = cli::diagnosticText(diagnostic);
             const std::string json = cli::diagnosticJson(diagnostic);
             require(line.find('\n') == std::string::npos, "a diagnostic is one line");
             require(json.find('\n') == std::string::npos, "a JSON diagnostic is one line");
             text += line + "\n" + json + "\n";
         };
-        cli::RenderJob job(std::get<cli::RenderOptions>(request), tell);
-        status = static_cast<int>(job.run());
-        require(status >= 0 && status <= 2, "there are three exit statuses");
-        require((status == 0) == !hasTold, "a run fails when it has something to tell");
+        if (const auto* check = std::get_if<cli::CheckOptions>(&request)) {
+            const auto find = [&text](const std::string& file, const Diagnostic& finding,
+                                      const cli::FileWindow& window) {
+                const std::string line = cli::findingJson(file, finding);
+                require(line.find('\n') == std::string::npos, "a JSON finding is one line");
+                text += line + "\n" +
+                        cli::findingText(file, finding, cli::excerptAt(finding.place, window),
+                                         cli::Colors::Off);
+            };
+            status = static_cast<int>(cli::CheckJob(*check, find, tell).run());
+        } else if (const auto* format = std::get_if<cli::FormatOptions>(&request)) {
+            const auto write = [&text](const std::string& output) { text += output; };
+            status = static_cast<int>(cli::FormatJob(*format, write, tell).run());
+        } else {
+            const auto& options = std::get<cli::RenderOptions>(request);
+            status = static_cast<int>(cli::RenderJob(options, tell).run());
+            require(status <= 2, "there are three exit statuses of rendering");
+            require((status == 0) == told.empty(), "a run fails when it has something to tell");
+            requirePlainRun(options, contents, told, status);
+        }
+        require(status >= 0 && status <= 3, "there are four exit statuses");
     } catch (const cli::UsageError& error) {
         text += error.what();
     }
@@ -112,12 +188,6 @@ std::string outcome(const std::vector<std::string>& arguments) {
         require(path.extension() != ".tmp", "no unfinished file stays");
     }
     return text + std::to_string(status);
-}
-
-std::string bytesOf(const char* name) {
-    std::ostringstream bytes;
-    bytes << std::ifstream(name, std::ios::binary).rdbuf();
-    return bytes.str();
 }
 
 }  // namespace
@@ -129,10 +199,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::vector<std::string> contents = input.pieces('\f', 3);
     const std::vector<std::string> arguments = argumentsOf(line);
     folder.fill(contents);
-    const std::string first = outcome(arguments);
+    const std::string first = outcome(arguments, contents);
     const std::string document = bytesOf("a.rtf");
     folder.fill(contents);
-    requireEqual(outcome(arguments), first, "the same run tells the same");
+    requireEqual(outcome(arguments, contents), first, "the same run tells the same");
     requireEqual(bytesOf("a.rtf"), document, "the same run writes the same");
     require(document.empty() || (document.starts_with('{') && document.ends_with('}')),
             "a document is whole or absent");

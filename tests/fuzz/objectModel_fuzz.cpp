@@ -323,30 +323,12 @@ private:
         switch (input_.below(4)) {
             case 0:
                 both([&] { row.setBackColor(static_cast<tColorIndex>(number)); },
-                     [&] {
-                         if (plain.backColor != number) {
-                             plain.backColor = number;
-                             plain::required(document);
-                             for (auto& entry : plain.cells.entries) {
-                                 entry.element->setBackColor(number);
-                             }
-                             plain::markChanged(document);
-                         }
-                     });
+                     [&] { plain::setBackColorOf(plain, number); });
                 break;
             case 1: {
                 const std::size_t side = input_.below(4);
                 both([&] { setBorder(row, side, static_cast<tBorderWidth>(number)); },
-                     [&] {
-                         if (plain.borders[side] != number) {
-                             plain.borders[side] = number;
-                             plain::required(document);
-                             for (auto& entry : plain.cells.entries) {
-                                 entry.element->borders = plain.borders;
-                             }
-                             plain::markChanged(document);
-                         }
-                     });
+                     [&] { plain::setBorderOf(plain, side, number); });
                 break;
             }
             default:
@@ -364,6 +346,7 @@ private:
         plain::Cell& plain = *held.plain;
         const auto document = plain::documentOf(plain);
         const std::int32_t number = input_.number();
+        const auto width = static_cast<std::int32_t>(std::int64_t{number} * 10 % INT32_MAX);
         const auto units = static_cast<tWidthUnit>(input_.below(3));
         switch (input_.below(9)) {
             case 0:
@@ -388,8 +371,8 @@ private:
             }
             case 2:
             case 3:
-                both([&] { cell.setWidth(units, number * 10); },
-                     [&] { plain::setWidthOf(plain, units, number * 10); });
+                both([&] { cell.setWidth(units, width); },
+                     [&] { plain::setWidthOf(plain, units, width); });
                 break;
             case 4: {
                 std::int32_t actual = 0;

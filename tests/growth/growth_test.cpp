@@ -10,6 +10,10 @@
 #include <string>
 #include <string_view>
 
+#include "quorvane/diagnostics/DescriptionCheck.h"
+#include "quorvane/diagnostics/KnownStyles.h"
+#include "quorvane/diagnostics/RtfCheck.h"
+#include "quorvane/diagnostics/StyleSheetCheck.h"
 #include "quorvane/docmodel/CRtfDoc.h"
 #include "quorvane/docmodel/inlineStyles.h"
 #include "quorvane/driver/CRtfDriver.h"
@@ -160,6 +164,33 @@ TEST(Growth, OfAPatternOfStarsIsProportional) {
             EXPECT_FALSE(matchesWildcards(text, repeated("*", size) + "b"));
         },
         2000);
+}
+
+std::string paragraphWith(const std::string& text) {
+    return "(doc\n(r\n(c\n(p\n(pt=" + text + ")\np)\nc)\nr)\ndoc)\n";
+}
+
+TEST(Growth, OfCheckingBracesIsProportional) {
+    for (const char* part : {"{", "}", "{\n", "}{"}) {
+        expectProportional([part](std::size_t size) { checkStyleSheet(repeated(part, size)); },
+           3000);
+        expectProportional(
+            [part](std::size_t size) { checkRtf("{\\rtf1 " + repeated(part, size)); }, 50'000);
+        expectProportional(
+            [part](std::size_t size) { checkDescription(paragraphWith(repeated(part, size))); },
+            3000);
+    }
+}
+
+TEST(Growth, OfCheckingFieldsAndColorsIsProportional) {
+    KnownStyles styles("{name: b; style-def: cs; format: \\cf36}");
+    for (const char* part : {"{\\fldinst x", "{\\cf36 x", "<b=x", "{\\*\\x<b=\\u1?>", "\\cell"}) {
+        expectProportional(
+            [&](std::size_t size) {
+                checkDescription(paragraphWith(repeated(part, size)), &styles);
+            },
+            3000);
+    }
 }
 
 class InlineTokens : public testing::Test {

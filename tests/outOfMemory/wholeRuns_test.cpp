@@ -43,10 +43,23 @@ constexpr const char* description =
     "(p\n(pt=a long text with a <strong=style> and an \xC3\xA9 in it)\n(ps=title)\n(pa=right)\n"
     "(pmf=data of the marked paragraph)\n(para-key=9)\np)\n"
     "(p\n(pt=0012)\np)\nc)\n(c\n(cs=shaded)\n(p\n(pt=second)\np)\nc)\n"
-    "(r\n(c\n(p\n(pt=third)\np)\nc)\nr)\ndoc)\n";
+    "(r\n(c\n(p\n(pt=third)\np)\nc)\nr)\n"
+    // So many rows that there are tables of their keys, with keys that take memory of their own.
+    "(r\n(row-key=1000000000)\n(c\n(p\n(pt=fourth)\np)\nc)\nr)\n"
+    "(r\n(row-key=1000000001)\n(c\n(p\n(pt=fifth)\np)\nc)\nr)\n"
+    "(r\n(row-key=1000000002)\n(c\n(p\n(pt=sixth)\np)\nc)\nr)\n"
+    "(r\n(row-key=1000000003)\n(c\n(p\n(pt=seventh)\np)\nc)\nr)\n"
+    "(r\n(row-key=1000000004)\n(c\n(p\n(pt=eighth)\np)\nc)\nr)\n"
+    "(r\n(row-key=1000000005)\n(c\n(p\n(pt=ninth)\np)\nc)\nr)\n"
+    "(r\n(row-key=1000000006)\n(c\n(p\n(pt=tenth)\np)\nc)\nr)\n"
+    "(r\n(row-key=1000000007)\n(c\n(p\n(pt=eleventh)\np)\nc)\nr)\n"
+    "(r\n(row-key=1000000008)\n(c\n(p\n(pt=twelfth)\np)\nc)\nr)\n"
+    "doc)\n";
 
 constexpr const char* faultyDescription =
-    "(doc\n(r\n(rb=crimson)\n(c\n(cw=wide)\n(p\n(pt=text)\n(px=1)\np)\nc)\nr)\ndoc)\n";
+    "(doc\n(r\n(rb=crimson)\n(c\n(cw=wide)\n(p\n(pt=text)\n(px=1)\np)\nc)\n(c\n(p\n(pt=text)\np)"
+    "\nc)\nr)\n"
+    "(r\n(c\n(p\n(pt=text)\n(qx=1)\np)\nc)\nr)\ndoc)\n";
 
 constexpr const char* path = "document.rtf";
 

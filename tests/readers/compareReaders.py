@@ -27,6 +27,12 @@ def squeezed(text):
     return " ".join(text.split())
 
 
+def twips(length):
+    """A length such as "0.6139in" in twips."""
+    number, unit = re.fullmatch(r"(-?[\d.]+)(in|cm|mm|pt)", length).groups()
+    return float(number) * {"in": 1440, "cm": 1440 / 2.54, "mm": 144 / 2.54, "pt": 20}[unit]
+
+
 def office_text(element):
     """The text of an element of LibreOffice's, without numbers of pages."""
     if element.tag == name("text:page-number"):
@@ -50,6 +56,10 @@ class Model:
 
     def fill(self, cell):
         return self.colors[cell["fill"] - 1] if cell["fill"] > 0 else None
+
+    def text_colors(self, paragraph):
+        """The colours of a paragraph's text, part by part."""
+        return {self.colors[color - 1] if color > 0 else None for color in paragraph["colors"]}
 
     @staticmethod
     def text(paragraph):
@@ -93,8 +103,33 @@ class LibreOffice:
         root = xml.parse(path).getroot()
         self.styles = {(style.get(name("style:family")), style.get(name("style:name"))): style
                        for style in root.iter(name("style:style"))}
-        self.rows = [list(row.findall("table:table-cell", NAMESPACES))
-                     for row in root.iter(name("table:table-row"))]
+        self.rows = []
+        self.edges = []
+        for table in root.iter(name("table:table")):
+            edges = self.column_edges(table)
+            for row in table.iter(name("table:table-row")):
+                self.rows.append(list(row.findall("table:table-cell", NAMESPACES)))
+                self.edges.append(self.right_edges(row, edges))
+
+    def column_edges(self, table):
+        """The right edges of a table's columns in twips."""
+        edges = []
+        for column in table.iter(name("table:table-column")):
+            width = twips(self.property("table-column", column.get(name("table:style-name")),
+                                        "style:table-column-properties", "style:column-width"))
+            for _ in range(int(column.get(name("table:number-columns-repeated"), "1"))):
+                edges.append((edges[-1] if edges else 0) + width)
+        return edges
+
+    @staticmethod
+    def right_edges(row, column_edges):
+        """The right edges of a row's cells, each of which may span columns."""
+        columns = 0
+        edges = []
+        for cell in row.findall("table:table-cell", NAMESPACES):
+            columns += int(cell.get(name("table:number-columns-spanned"), "1"))
+            edges.append(column_edges[columns - 1])
+        return edges
 
     def property(self, family, style, group, key):
         while style and (family, style) in self.styles:
@@ -125,6 +160,19 @@ class LibreOffice:
     def paragraphs(self, cell):
         return [paragraph for paragraph in cell.findall("text:p", NAMESPACES)
                 if squeezed(office_text(paragraph))]
+
+    def colors(self, paragraph):
+        """The colours of a paragraph's text, part by part."""
+        own = self.property("paragraph", paragraph.get(name("text:style-name")),
+                            "style:text-properties", "fo:color")
+        colors = {own} if (paragraph.text or "").strip() else set()
+        for child in paragraph:
+            if child.tag == name("text:span") and squeezed(office_text(child)):
+                colors.add(self.property("text", child.get(name("text:style-name")),
+                                         "style:text-properties", "fo:color") or own)
+            if (child.tail or "").strip():
+                colors.add(own)
+        return colors
 
     def alignment(self, paragraph):
         return self.property("paragraph", paragraph.get(name("text:style-name")),
@@ -210,7 +258,8 @@ class Comparison:
         self.equal("LibreOffice's texts", rows, model.texts())
         if rows != model.texts():
             return
-        for row, model_row in zip(reader.rows, model.rows):
+        for row, edges, model_row in zip(reader.rows, reader.edges, model.rows):
+            self.edges(squeezed(office_text(row[0])), edges, model_row)
             for cell, model_cell in zip(row, model_row):
                 text = squeezed(office_text(cell))
                 self.equal(f"LibreOffice's ground of '{text}'", reader.fill(cell),
@@ -219,6 +268,17 @@ class Comparison:
                 for paragraph, expected in zip(reader.paragraphs(cell),
                                                model.paragraphs(model_cell)):
                     self.paragraph(text, reader, paragraph, expected)
+                    self.equal(f"LibreOffice's colours of '{text}'",
+                               reader.colors(paragraph), model.text_colors(expected))
+
+    def edges(self, text, actual, row):
+        # It draws the last cell of a row up to the right edge of the table, and tells lengths with
+        # four digits.
+        right = 0
+        for number, (edge, cell) in enumerate(zip(actual[:-1], row)):
+            right += cell["width"]
+            self.equal(f"LibreOffice's edge {number + 1} of the row of '{text}'",
+                       abs(edge - right) <= 3 or edge, True)
 
     def borders(self, text, actual, cell):
         # A neighbour's border is drawn as one's own.

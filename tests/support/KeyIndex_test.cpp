@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <string>
+#include <vector>
+
 namespace quorvane {
 namespace {
 
@@ -70,6 +74,27 @@ TEST(KeyIndex, IgnoresTheRemovalOfAnElementWithoutAKey) {
     index.remove(&other);
 
     EXPECT_EQ(index.find("a"), &filed);
+}
+
+TEST(KeyIndex, FindsKeysOfEveryLengthHoweverManyThereAre) {
+    constexpr std::size_t longest = 40;
+    std::vector<Thing> things(longest + 1);
+    KeyIndex<Thing> index;
+    const auto keyOf = [](std::size_t length) { return std::string(length, 'k'); };
+    for (std::size_t length = 0; length <= longest; ++length) {
+        index.add(keyOf(length), &things[length]);
+        for (std::size_t filed = 0; filed <= longest; ++filed) {
+            ASSERT_EQ(index.find(keyOf(filed)), filed <= length ? &things[filed] : nullptr)
+                << filed << " of " << length;
+        }
+    }
+
+    for (std::size_t length = 0; length <= longest; length += 2) {
+        index.remove(&things[length]);
+    }
+    for (std::size_t length = 0; length <= longest; ++length) {
+        EXPECT_EQ(index.find(keyOf(length)), length % 2 == 0 ? nullptr : &things[length]) << length;
+    }
 }
 
 }  // namespace

@@ -475,14 +475,17 @@ TEST(KeyedList, LetsGoOfItsElementsWhenAnotherIsMovedIntoIt) {
     EXPECT_EQ(list.find("a")->number, 1);
 }
 
+// A key that needs memory of its own.
+constexpr const char* longKey = "a key of more letters than most have";
+
 TEST(KeyedList, StaysAsItWasWhenMemoryForAnElementRunsOut) {
     for (const int count : {0, 1, 3, 4, 6, 9}) {
         const auto prepare = [count] { return std::pair(listOf(count), entry(0)); };
-        const auto attempt = [](auto& subject) { add(subject.first, subject.second, "key"); };
+        const auto attempt = [](auto& subject) { add(subject.first, subject.second, longKey); };
         const auto check = [count](const auto& subject) {
             const List& list = subject.first;
             ASSERT_EQ(list.count(), static_cast<std::size_t>(count));
-            ASSERT_EQ(list.find("key"), nullptr);
+            ASSERT_EQ(list.find(longKey), nullptr);
             ASSERT_EQ(subject.second->references, 1);
             for (int number = 1; number <= count; ++number) {
                 ASSERT_EQ(list.at(static_cast<std::size_t>(number)).number, number);
@@ -490,6 +493,32 @@ TEST(KeyedList, StaysAsItWasWhenMemoryForAnElementRunsOut) {
         };
 
         EXPECT_GE(failEachAllocation(prepare, attempt, check), 3);
+    }
+    EXPECT_EQ(Entry::living, 0);
+}
+
+TEST(KeyedList, StaysAsItWasWhenMemoryForOneMoreKeyRunsOut) {
+    // With so many keys the next one needs more room, and tables.
+    for (const int count : {4, 8}) {
+        const auto prepare = [count] {
+            List list;
+            for (int number = 1; number <= count; ++number) {
+                add(list, number, "k" + std::to_string(number));
+            }
+            return std::pair(std::move(list), entry(0));
+        };
+        const auto attempt = [](auto& subject) { add(subject.first, subject.second, longKey); };
+        const auto check = [count](const auto& subject) {
+            const List& list = subject.first;
+            ASSERT_EQ(list.count(), static_cast<std::size_t>(count));
+            ASSERT_EQ(list.find(longKey), nullptr);
+            ASSERT_EQ(subject.second->references, 1);
+            for (int number = 1; number <= count; ++number) {
+                ASSERT_EQ(list.find("K" + std::to_string(number))->number, number);
+            }
+        };
+
+        EXPECT_GE(failEachAllocation(prepare, attempt, check), 4);
     }
     EXPECT_EQ(Entry::living, 0);
 }
@@ -508,10 +537,10 @@ TEST(KeyedList, CanBeUsedAfterMemoryRanOut) {
 
 TEST(KeyedList, StaysAsItWasWhenMemoryToReplaceAnElementRunsOut) {
     const auto prepare = [] { return std::pair(listOf(1), entry(2)); };
-    const auto attempt = [](auto& subject) { subject.first.replaceAt(1, subject.second, "key"); };
+    const auto attempt = [](auto& subject) { subject.first.replaceAt(1, subject.second, longKey); };
     const auto check = [](const auto& subject) {
         ASSERT_THAT(numbers(subject.first), ElementsAre(1));
-        ASSERT_EQ(subject.first.find("key"), nullptr);
+        ASSERT_EQ(subject.first.find(longKey), nullptr);
         ASSERT_EQ(subject.second->references, 1);
     };
 

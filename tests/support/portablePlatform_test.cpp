@@ -500,10 +500,16 @@ TEST_F(PortablePlatformTest, WritesOverAnExistingFileFromItsFirstByte) {
 TEST_F(PortablePlatformTest, ClosesAFileThatIsLetGoOf) {
     const std::ptrdiff_t before = openDescriptors();
 
-    platform.createFile(path("a.rtf"))->write("text");
+    platform.createFile(make("a.rtf", "0123456789"))->write("text");
 
     EXPECT_EQ(openDescriptors(), before);
-    EXPECT_EQ(bytesOf("a.rtf"), "text");
+    EXPECT_EQ(bytesOf("a.rtf"), "text456789");
+}
+
+TEST_F(PortablePlatformTest, LeavesNothingOfANewFileThatIsLetGoOfBeforeItsEnd) {
+    platform.createFile(path("a.rtf"))->write("text");
+
+    EXPECT_FALSE(platform.fileExists(path("a.rtf")));
 }
 
 TEST_F(PortablePlatformTest, ClosesAFileOnce) {

@@ -190,7 +190,7 @@ TEST(ReplaceString, ReplacesNothingForAnEmptySearchText) {
 std::vector<std::string> numberedLines(std::string_view text) {
     std::vector<std::string> lines;
     for (const SourceLine& line : PreProcessRawData(text)) {
-        lines.push_back(std::to_string(line.number) + ":" + line.text);
+        lines.push_back(std::to_string(line.number) + ":" + std::string(line.text));
     }
     return lines;
 }

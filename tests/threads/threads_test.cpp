@@ -44,26 +44,45 @@ std::string builtDocument(FakePlatform& platform, CRtfDoc& document, int number)
     return platform.files["document.rtf"];
 }
 
-/// What one thread does: two documents of its own and a driver, in turns.
+/// A driver with the stylesheet.
+Ref<CRtfDriver> styledDriver(FakePlatform& platform, bool erroneousInput) {
+    const Ref<CRtfDriver> driver = CRtfDriver::create(platform);
+    driver->setErroneousInput(erroneousInput);
+    driver->LoadStyleSheetFromMemmory(styleSheet);
+    return driver;
+}
+
+/// What one thread does: two documents of its own and two drivers, in turns.
 void work(int number, std::string& failure) {
     FakePlatform platform;
     const std::array<Ref<CRtfDoc>, 2> documents{CRtfDoc::create(platform),
                                                 CRtfDoc::create(platform)};
-    const Ref<CRtfDriver> driver = CRtfDriver::create(platform);
-    driver->setErroneousInput(true);
-    driver->LoadStyleSheetFromMemmory(styleSheet);
+    const std::array<Ref<CRtfDriver>, 2> drivers{styledDriver(platform, true),
+                                                 styledDriver(platform, false)};
     documents[0]->LoadStyleSheetFromMemmory(styleSheet);
-    std::array<std::string, 3> first;
+    int errors = 0;
+    for (const Ref<CRtfDriver>& driver : drivers) {
+        driver->setNotifyErrorHandler([&errors](CRtfDriver&) { ++errors; });
+    }
+    std::array<std::string, 4> first;
     for (int round = 0; round < 40; ++round) {
-        driver->ParseFromMemmory(descriptionOf(number));
-        const std::array<std::string, 3> texts{builtDocument(platform, *documents[0], number),
+        drivers[0]->ParseFromMemmory(descriptionOf(number));
+        drivers[1]->ParseFromMemmory(descriptionOf(number + 100));
+        const std::array<std::string, 4> texts{builtDocument(platform, *documents[0], number),
                                                builtDocument(platform, *documents[1], number),
-                                               driver->Contents()};
+                                               drivers[0]->Contents(), drivers[1]->Contents()};
         if (round == 0) {
             first = texts;
         }
-        if (texts != first || texts[2].find(std::to_string(9000 + number)) == std::string::npos) {
+        const auto paperWidth = [](int of) { return "paperw" + std::to_string(9000 + of); };
+        if (texts != first || texts[2].find(paperWidth(number)) == std::string::npos ||
+            texts[3].find(paperWidth(number + 100)) == std::string::npos) {
             failure = "round " + std::to_string(round);
+        }
+        drivers[0]->ParseFromMemmory("(doc\n(r\n(rb=crimson)\n(c\nc)\nr)\ndoc)");
+        if (errors != 2 * (round + 1) || !currentError() ||
+            currentError()->description != "crimson isn't a recognized color.") {
+            failure = "errors";
         }
         // The random numbers of sorting, the lists and the patterns are each thread's own too.
         CStringList list;
@@ -73,6 +92,9 @@ void work(int number, std::string& failure) {
         if (list.GetHead() != "^aa" || list.Find("*b") != 2) {
             failure = "list";
         }
+    }
+    for (const Ref<CRtfDriver>& driver : drivers) {
+        driver->setNotifyErrorHandler({});
     }
 }
 

@@ -1,0 +1,28 @@
+#include "cli/styleSheetName.h"
+
+#include <algorithm>
+
+#include "cli/UsageError.h"
+#include "quorvane/support/GFileSystem.h"
+#include "quorvane/support/textCase.h"
+
+namespace quorvane::cli {
+
+namespace {
+
+bool isStyleSheetName(const std::string& name) {
+    return lowerCase(GFileSystem::getFileExtension(name)) == "rtfss";
+}
+
+}  // namespace
+
+void requireStyleSheetExtension(const std::string& name, const std::vector<std::string>& files) {
+    if (isStyleSheetName(name)) {
+        return;
+    }
+    const auto other = std::find_if(files.begin(), files.end(), isStyleSheetName);
+    throw UsageError("the stylesheet " + name + " must have the extension rtfss" +
+                     (other == files.end() ? "" : "; is it swapped with " + *other + "?"));
+}
+
+}  // namespace quorvane::cli

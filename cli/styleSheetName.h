@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace quorvane::cli {
+
+/// Throws a `UsageError` for a stylesheet without the extension rtfss, which the library would pass
+/// over. The other files tell whether the names were swapped.
+void requireStyleSheetExtension(const std::string& name, const std::vector<std::string>& files);
+
+}  // namespace quorvane::cli

@@ -1,0 +1,72 @@
+#include "quorvane/diagnostics/keyHints.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+#include <vector>
+
+#include "quorvane/diagnostics/nearestWord.h"
+#include "quorvane/support/textCase.h"
+
+namespace quorvane {
+
+namespace {
+
+/// Words of other languages for words of the keys.
+constexpr std::pair<std::string_view, std::string_view> otherWords[] = {
+    {"background", "backcolor"}, {"bg", "backcolor"},     {"bgcolor", "backcolor"},
+    {"color", "backcolor"},      {"colour", "backcolor"}, {"fill", "backcolor"},
+    {"shading", "backcolor"},    {"align", "alignment"},  {"justify", "alignment"},
+    {"font", "style"},           {"class", "style"},      {"name", "style"},
+    {"page", "paper"},           {"paragraph", "para"},   {"content", "text"},
+    {"value", "text"},           {"string", "text"},      {"id", "key"},
+
+};
+
+constexpr std::string_view kindNames[] = {"row", "cell", "para", "paper"};
+
+/// The parts of a key between its "-", in the words of the keys, without the node's name, in an
+/// order of their own.
+std::vector<std::string> meaningOf(std::string_view key, NodeKind kind) {
+    std::vector<std::string> parts;
+    for (std::size_t start = 0; start <= key.size();) {
+        const std::size_t end = std::min(key.find_first_of("-_. ", start), key.size());
+        std::string part = lowerCase(key.substr(start, end - start));
+        start = end + 1;
+        for (const auto& [other, meant] : otherWords) {
+            part = part == other ? std::string(meant) : part;
+        }
+        if (!part.empty() && part != kindNames[static_cast<std::size_t>(kind)]) {
+            parts.push_back(std::move(part));
+        }
+    }
+    std::sort(parts.begin(), parts.end());
+    parts.erase(std::unique(parts.begin(), parts.end()), parts.end());
+    return parts;
+}
+
+}  // namespace
+
+std::string nearKeyHint(NodeKind kind, std::string_view word, const Vocabulary& vocabulary) {
+    const std::vector<std::string_view> keys = Vocabulary::keysOf(kind);
+    const std::vector<std::string> meaning = meaningOf(word, kind);
+    for (const std::string_view key : keys) {
+        if (!meaning.empty() && meaningOf(key, kind) == meaning) {
+            return "did you mean " + std::string(key) + "?";
+        }
+    }
+    if (meaning == std::vector<std::string>{"border"} && kind != NodeKind::Para &&
+        kind != NodeKind::Doc) {
+        const std::string node = kind == NodeKind::Row ? "row" : "cell";
+        return "each side has a border of its own: " + node +
+               "-top-border and -bottom-, -left-, "
+               "-right-border";
+    }
+    std::vector<std::string_view> candidates = keys;
+    for (const std::string_view key : keys) {
+        candidates.push_back(vocabulary.shorten(key));
+    }
+    return didYouMean(word, candidates);
+}
+
+}  // namespace quorvane

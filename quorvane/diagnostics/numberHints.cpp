@@ -1,0 +1,103 @@
+#include "quorvane/diagnostics/numberHints.h"
+
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <optional>
+
+#include "quorvane/support/numberText.h"
+#include "quorvane/support/textCase.h"
+#include "quorvane/support/trimming.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr std::size_t nowhere = std::string_view::npos;
+
+struct Unit {
+    std::string_view name;
+    double twips;
+};
+
+constexpr std::array<Unit, 11> units{{
+    {"mm", 1440 / 25.4},
+    {"cm", 1440 / 2.54},
+    {"in", 1440},
+    {"inch", 1440},
+    {"inches", 1440},
+    {"\"", 1440},
+    {"pt", 20},
+    {"pc", 240},
+    {"tw", 1},
+    {"twip", 1},
+    {"twips", 1},
+}};
+
+const Unit* unitNamed(std::string_view name) {
+    for (const Unit& unit : units) {
+        if (unit.name == name) {
+            return &unit;
+        }
+    }
+    return nullptr;
+}
+
+/// True for the measures of the page.
+bool isInTwips(std::string_view key) {
+    return key.starts_with("paper-") || key.ends_with("-margin");
+}
+
+std::string acceptedNumber(std::string_view key) {
+    if (isInTwips(key)) {
+        return "write a number of twips, 1440 of which are an inch and 567 a centimetre";
+    }
+    return key == "cell-width" ? "write a number, per cent of the row's width, without a sign"
+                               : "write a number";
+}
+
+std::string lengthHint(std::string_view key, double number, const Unit& unit,
+                       std::string_view value) {
+    if (!isInTwips(key)) {
+        return acceptedNumber(key);
+    }
+    const std::string twips = numberText(std::round(number * unit.twips));
+    return unit.twips == 1 ? "write the number alone: " + numberText(number)
+                           : std::string(value) + " is " + twips + " twips: write " + twips;
+}
+
+}  // namespace
+
+std::string numberHint(std::string_view key, std::string_view value) {
+    if (value.empty()) {
+        return "the value is missing: " + acceptedNumber(key);
+    }
+    if (lowerCase(value) == "a4" && key.starts_with("paper-")) {
+        return "A4 is 11906 twips wide and 16838 high";
+    }
+    if (lowerCase(value) == "letter" && key.starts_with("paper-")) {
+        return "US letter is 12240 twips wide and 15840 high";
+    }
+    if (value.find_first_not_of("+-.0123456789eE") == nowhere &&
+        value.find_first_of("0123456789") != nowhere && value.find_first_of("eE") != nowhere) {
+        return "the number is too large, or is none: write its digits, without an exponent";
+    }
+    const std::size_t end = value.find_first_not_of("+-.0123456789");
+    const std::optional<double> number = readNumber(value.substr(0, end));
+    if (!number || end == nowhere) {
+        return acceptedNumber(key);
+    }
+    const std::string rest = lowerCase(trimWhitespace(value.substr(end)));
+    if (rest.starts_with(',')) {
+        return "a number has no comma, but at most one point: " + acceptedNumber(key);
+    }
+    if (rest == "%" && key == "cell-width") {
+        return "write the number alone: " + std::string(value.substr(0, end));
+    }
+    if (const Unit* unit = unitNamed(rest)) {
+        return lengthHint(key, *number, *unit, value);
+    }
+    return acceptedNumber(key);
+}
+
+}  // namespace quorvane

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <map>
+#include <string>
+
+#include "cli/CheckJob.h"
+#include "cli/findingText.h"
+#include "quorvane/diagnostics/TrialPlatform.h"
+
+namespace quorvane::cli {
+
+/// Files that are checked without being on a disk.
+class CheckedFiles : public TrialPlatform {
+public:
+    std::map<std::string, std::string> files;
+    std::string readFile(const std::string& path) override { return files.at(path); }
+};
+
+/// The whole report about files.
+inline std::string reportOf(CheckedFiles platform, const CheckOptions& options) {
+    std::string report;
+    const auto find = [&](const std::string& file, const quorvane::Diagnostic& finding,
+                          const FileWindow& window) {
+        report += findingText(file, finding, excerptAt(finding.place, window), Colors::Off);
+    };
+    CheckJob(
+        options, find, [](const Diagnostic&) {}, platform)
+        .run();
+    return report;
+}
+
+/// The whole report about a description "a.rtfspec", with a stylesheet "a.rtfss" where it is not
+/// empty.
+inline std::string reportOf(const std::string& description, const std::string& styleSheet = {}) {
+    CheckedFiles platform;
+    platform.files = {{"a.rtfspec", description}, {"a.rtfss", styleSheet}};
+    CheckOptions options;
+    options.files = {"a.rtfspec"};
+    if (!styleSheet.empty()) {
+        options.styleSheet = "a.rtfss";
+    }
+    return reportOf(platform, options);
+}
+
+/// The whole report about one file.
+inline std::string reportOfFile(const std::string& name, const std::string& bytes) {
+    CheckedFiles platform;
+    platform.files = {{name, bytes}};
+    CheckOptions options;
+    options.files = {name};
+    return reportOf(platform, options);
+}
+
+/// A description whose only paragraph has the text, and more lines.
+inline std::string paragraphWith(const std::string& text, const std::string& lines = {}) {
+    return "(doc\n(r\n(c\n(p\n(pt=" + text + ")\n" + lines + "p)\nc)\nr)\ndoc)\n";
+}
+
+}  // namespace quorvane::cli

@@ -1,0 +1,525 @@
+// Whole reports about descriptions and their stylesheets.
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "quorvane/diagnostics/diagnosticRules.h"
+#include "quorvane/diagnostics/judgement.h"
+#include "tests/cli/reportOf.h"
+
+namespace quorvane::cli {
+namespace {
+
+TEST(ReportsOfTexts, TellOfControlsThatBreakTheTable) {
+    EXPECT_EQ(
+        reportOf(paragraphWith("a\\cell b\\row {\\trowd\\cellx99} \\sect")),
+        R"(a.rtfspec:5:6: warning: \cell breaks the table in the middle of a text. [table-control]
+    (pt=a\cell b\row {\trowd\cellx99} \sect)
+         ^~~~~
+a.rtfspec:5:13: warning: \row breaks the table in the middle of a text. [table-control]
+    (pt=a\cell b\row {\trowd\cellx99} \sect)
+                ^~~~
+a.rtfspec:5:19: warning: \trowd breaks the table in the middle of a text. [table-control]
+    (pt=a\cell b\row {\trowd\cellx99} \sect)
+                      ^~~~~~
+a.rtfspec:5:25: warning: \cellx99 breaks the table in the middle of a text. [table-control]
+    (pt=a\cell b\row {\trowd\cellx99} \sect)
+                            ^~~~~~~~
+a.rtfspec:5:35: warning: \sect breaks the table in the middle of a text. [table-control]
+    (pt=a\cell b\row {\trowd\cellx99} \sect)
+                                      ^~~~~
+)");
+}
+
+TEST(ReportsOfTexts, SayNothingOfATableWithinAFootnoteOrANestedOne) {
+    EXPECT_EQ(reportOf(paragraphWith("a{\\footnote \\trowd\\cellx9 b\\cell\\row}")), "");
+    EXPECT_EQ(reportOf(paragraphWith("\\itap2 a\\nestcell{\\*\\nesttableprops\\trowd\\cellx9"
+                                     "\\nestrow}\\itap1 b")),
+              "");
+}
+
+TEST(ReportsOfTexts, TellOfNumbersThatTheTablesDoNotHave) {
+    EXPECT_EQ(
+        reportOf(paragraphWith("\\f18\\cf58\\highlight99\\cb-1\\ts1 \\f17\\cf57\\cb0\\s100 a")),
+        R"(a.rtfspec:5:5: warning: \f18 names no font of the document. [unknown-number]
+    (pt=\f18\cf58\highlight99\cb-1\ts1 \f17\cf57\cb0\s100 a)
+        ^~~~
+a.rtfspec:5:9: warning: \cf58 names no color of the document. [unknown-number]
+    (pt=\f18\cf58\highlight99\cb-1\ts1 \f17\cf57\cb0\s100 a)
+            ^~~~~
+a.rtfspec:5:14: warning: \highlight99 names no color of the document. [unknown-number]
+    (pt=\f18\cf58\highlight99\cb-1\ts1 \f17\cf57\cb0\s100 a)
+                 ^~~~~~~~~~~~
+a.rtfspec:5:26: warning: \cb-1 names no color of the document. [unknown-number]
+    (pt=\f18\cf58\highlight99\cb-1\ts1 \f17\cf57\cb0\s100 a)
+                             ^~~~~
+a.rtfspec:5:31: warning: \ts1 names no style of the document. [unknown-number]
+    (pt=\f18\cf58\highlight99\cb-1\ts1 \f17\cf57\cb0\s100 a)
+                                  ^~~~
+)");
+}
+
+TEST(ReportsOfTexts, LookNumbersOfStylesUpInTheStyleSheet) {
+    const std::string sheet = "{ name: normal; style-def: s }\n{ name: b; style-def: s }\n";
+    EXPECT_EQ(reportOf(paragraphWith("\\s0\\s101 a", "(ps=b)\n"), sheet), "");
+    EXPECT_EQ(reportOf(paragraphWith("\\s102{\\cs100 a}", "(ps=b)\n"), sheet),
+              R"(a.rtfspec:5:5: warning: \s102 names no style of the document. [unknown-number]
+    (pt=\s102{\cs100 a})
+        ^~~~~
+a.rtfspec:5:11: warning: \cs100 names no style of the document. [unknown-number]
+    (pt=\s102{\cs100 a})
+              ^~~~~~
+)");
+}
+
+TEST(ReportsOfFormats, TellOfControlsAndNumbersThatDoNotFit) {
+    EXPECT_EQ(reportOf(paragraphWith("a"),
+                       "{ name: normal; style-def: s; format: \\F99\\cf58\\cell\\s102 }\n"),
+              R"(a.rtfss:1:39: warning: \F99 names no font of the document. [unknown-number]
+    { name: normal; style-def: s; format: \F99\cf58\cell\s102 }
+                                          ^~~~
+a.rtfss:1:43: warning: \cf58 names no color of the document. [unknown-number]
+    { name: normal; style-def: s; format: \F99\cf58\cell\s102 }
+                                              ^~~~~
+a.rtfss:1:48: warning: \cell breaks the table in the middle of a text. [table-control]
+    { name: normal; style-def: s; format: \F99\cf58\cell\s102 }
+                                                   ^~~~~
+a.rtfss:1:53: warning: \s102 names no style of the document. [unknown-number]
+    { name: normal; style-def: s; format: \F99\cf58\cell\s102 }
+                                                        ^~~~~
+)");
+}
+
+TEST(ReportsOfFormats, GiveHintsThatHoldInAStyleSheet) {
+    EXPECT_EQ(
+        reportOf(paragraphWith("a"), "{ name: normal; style-def: s; format: \\bold\\xyzzyx\\5 }\n"),
+        R"(a.rtfss:1:39: warning: \bold is no RTF control word. [unknown-control-word]
+    { name: normal; style-def: s; format: \bold\xyzzyx\5 }
+                                          ^~~~~
+    hint: did you mean \b?
+a.rtfss:1:44: warning: \xyzzyx is no RTF control word. [unknown-control-word]
+    { name: normal; style-def: s; format: \bold\xyzzyx\5 }
+                                               ^~~~~~~
+    hint: a backslash begins a control word, such as \b or \fs20
+a.rtfss:1:51: warning: The backslash swallows what follows it. [lone-backslash]
+    { name: normal; style-def: s; format: \bold\xyzzyx\5 }
+                                                      ^
+    hint: a backslash begins a control word, such as \b or \fs20
+)");
+    EXPECT_EQ(
+        reportOf(paragraphWith("a"),
+                 "{ name: normal; style-def: s; format: {\\b }\n{ name: b; } style-def: s }\n"),
+        R"(a.rtfss:1:39: warning: The { has no partner. [unbalanced-brace]
+    { name: normal; style-def: s; format: {\b }
+                                          ^
+    hint: a stylesheet has no braces but those around its definitions
+a.rtfss:1:40: error: Error while processing stylesheet. \b } { name is not a valid keyword. [bad-keyword]
+    { name: normal; style-def: s; format: {\b }
+                                           ^~~~
+    hint: a definition begins with name:
+a.rtfss:2:3: warning: The definition has no style-def and is a cell style. [no-style-kind]
+    { name: b; } style-def: s }
+      ^~~~~~~
+a.rtfss:2:12: error: Error while processing stylesheet. } style-def is not a valid keyword. [bad-keyword]
+    { name: b; } style-def: s }
+               ^~~~~~~~~~~
+    hint: did you mean style-def?
+)");
+}
+
+TEST(ReportsOfColors, SeeInlineStylesAndControlsInTheText) {
+    const std::string sheet =
+        "{ name: normal; style-def: s; format: \\cf3 }\n"
+        "{ name: pale; style-def: cs; format: \\cf36 }\n"
+        "{ name: marked; style-def: cs; format: \\highlight3 }\n";
+    EXPECT_EQ(
+        reportOf(paragraphWith("dark <pale=white> {\\cf37 yellow} <marked=none> dark"), sheet),
+        R"(a.rtfspec:5:16: warning: The text is white on white and can hardly be read. [low-contrast]
+    (pt=dark <pale=white> {\cf37 yellow} <marked=none> dark)
+                   ^~~~~
+a.rtfspec:5:30: warning: The text is yellow on white and can hardly be read. [low-contrast]
+    (pt=dark <pale=white> {\cf37 yellow} <marked=none> dark)
+                                 ^~~~~~
+a.rtfspec:5:46: warning: The text is black on black and can hardly be read. [low-contrast]
+    (pt=dark <pale=white> {\cf37 yellow} <marked=none> dark)
+                                                 ^~~~
+)");
+}
+
+TEST(ReportsOfColors, TakeTheLastColorBeforeTheText) {
+    // A dark cell makes its text white, whatever the style's color; \plain makes it black.
+    const std::string dark = "(doc\n(r\n(c\n(cb=black)\n(p\n(pt=a \\plain b)\np)\nc)\nr)\ndoc)\n";
+    EXPECT_EQ(
+        reportOf(dark, "{ name: normal; style-def: s; format: \\cf3 }\n"),
+        R"(a.rtfspec:6:14: warning: The text is black on black and can hardly be read. [low-contrast]
+    (pt=a \plain b)
+                 ^
+)");
+    EXPECT_EQ(reportOf(paragraphWith("{\\cf36 {\\cf3 a}{\\field{\\*\\fldinst PAGE}} }b")), "");
+    EXPECT_EQ(reportOf(paragraphWith("{\\highlight3\\cf36 a}")), "");
+}
+
+TEST(ReportsOfColors, MarkTheWholeTextWhereItsOwnColorIsTheReason) {
+    EXPECT_EQ(
+        reportOf(paragraphWith("a {\\cf3 b} c"),
+                 "{ name: normal; style-def: s; format: \\cf36 }\n"),
+        R"(a.rtfspec:5:5: warning: The text is white on white and can hardly be read. [low-contrast]
+    (pt=a {\cf3 b} c)
+        ^~~~~~~~~~~~
+)");
+}
+
+TEST(ReportsOfFields, TakeTheInstructionForWhatItSays) {
+    const auto expectFinding = [](const std::string& instruction, const std::string& brought) {
+        const std::string report =
+            reportOf(paragraphWith("{\\field{\\*\\fldinst " + instruction + "}}"));
+        EXPECT_EQ(report,
+                  "a.rtfspec:5:15: warning: \\fldinst brings " + brought +
+                      " into the document. [embedded-content]\n    (pt={\\field{\\*\\fldinst " +
+                      instruction + "}})\n                  ^~~~~~~~\n");
+    };
+    expectFinding("{\\b INCLUDETEXT x}", "a link to a file");
+    expectFinding("IN{}CLUDETEXT x", "a link to a file");
+    expectFinding("\\'49NCLUDETEXT x", "a link to a file");
+    expectFinding("{\\uc1\\u73?}{\\i N}CLUDE\\b0 TEXT x", "a link to a file");
+    expectFinding("{\\*\\datafield QUOTE}dde{\\rtlch auto} x", "a link to a program");
+    expectFinding("{\\cs100 MACRO}{\\cs100 BUTTON} x y", "a macro");
+    expectFinding("HYPERLINK \"c:\\\\x http://\"", "a link to a file");
+    expectFinding("HYPER{\\b LINK} file:///x", "a link to a file");
+}
+
+TEST(ReportsOfFields, JudgeFieldsWithinFields) {
+    EXPECT_EQ(
+        reportOf(paragraphWith("{\\field{\\*\\fldinst {\\field{\\*\\fldinst QUOTE}"
+                               "{\\fldrslt LINK}} x}}")),
+        R"(a.rtfspec:5:15: warning: \fldinst brings a link to a file into the document. [embedded-content]
+    (pt={\field{\*\fldinst {\field{\*\fldinst QUOTE}{\fldrslt LINK}} x}})
+                  ^~~~~~~~
+)");
+    EXPECT_EQ(
+        reportOf(paragraphWith("{\\field{\\*\\fldinst IF {\\field{\\*\\fldinst DDE x}}}}")),
+        R"(a.rtfspec:5:37: warning: \fldinst brings a link to a program into the document. [embedded-content]
+    (pt={\field{\*\fldinst IF {\field{\*\fldinst DDE x}}}})
+                                        ^~~~~~~~
+)");
+}
+
+TEST(ReportsOfFields, SayNothingOfHarmlessOnes) {
+    for (const char* instruction :
+         {"PAGE", "HYPERLINK \"https://a.example/x\"", "HYPERLINK mailto:a@b.example",
+          "HYPERLINK \\\\l \"place\"", "QUOTE INCLUDETEXT", "{\\b DATE} \\\\@ \"d\""}) {
+        EXPECT_EQ(reportOf(paragraphWith("{\\field{\\*\\fldinst " + std::string(instruction) +
+                                         "}{\\fldrslt INCLUDETEXT}}")),
+                  "")
+            << instruction;
+    }
+}
+
+TEST(ReportsOfWidths, TellOfASingleCellThatIsTooNarrow) {
+    EXPECT_EQ(
+        reportOf("(doc\n(r\n(c\n(cw=1)\nc)\nr)\ndoc)\n"),
+        R"(a.rtfspec:4:5: warning: The cell becomes 2 per cent wide instead of 1. [width-clamped]
+    (cw=1)
+        ^
+)");
+    EXPECT_EQ(reportOf("(doc\n(r\n(c\n(cw=50)\nc)\nr)\ndoc)\n"), "");
+}
+
+TEST(ReportsOfWidths, TellOfAPageWithoutRoom) {
+    EXPECT_EQ(
+        reportOf("(doc\n(bottom-margin=9000)\n(paper-height=8000)\n(r\n(c\nc)\nr)\ndoc)\n"),
+        R"(a.rtfspec:3:15: warning: The margins are 10418 twips high together, the paper is 8000. [no-room]
+    (paper-height=8000)
+                  ^~~~
+)");
+}
+
+TEST(ReportsOfCharacters, FindThemInEverythingThatReachesTheDocument) {
+    // A file in UTF-8 with an arrow, which the code page does not have, and with an e acute.
+    EXPECT_EQ(
+        reportOf(paragraphWith("a", "(pmf=\xE2\x86\x92)\n")),
+        "a.rtfspec:6:6: warning: The code page has no place for \xE2\x86\x92, which becomes a "
+        "question mark. [unencodable-character]\n"
+        "    (pmf=\xC3\xA2\xE2\x80\xA0\xE2\x80\x99)\n"
+        "         ^~~\n");
+    EXPECT_EQ(reportOf("(doc\n(r\n(c\n(cmf=\xC3\xA9)\nc)\nr)\ndoc)\n"),
+              "a.rtfspec:4:6: warning: \xC3\xA9 is read as \xC3\x83\xC2\xA9: the file is in UTF-8. "
+              "[utf-8-text]\n"
+              "    (cmf=\xC3\x83\xC2\xA9)\n"
+              "         ^~\n"
+              "    hint: save the file in Windows-1252\n");
+    EXPECT_EQ(reportOfFile("a.rtfss",
+                           "{ name: normal; style-def: s }\n{ name: \xC3\xA9; style-def: cell; "
+                           "format: none }\n{ name: normal, \xC3\xA9; style-def: cs }\n"),
+              "a.rtfss:3:17: warning: \xC3\xA9 is read as \xC3\x83\xC2\xA9: the file is in UTF-8. "
+              "[utf-8-text]\n"
+              "    { name: normal, \xC3\x83\xC2\xA9; style-def: cs }\n"
+              "                    ^~\n"
+              "    hint: save the file in Windows-1252\n");
+}
+
+TEST(ReportsOfKeys, SayWhatWasMeantByOtherWordsAndWhatANumberWithAUnitIs) {
+    EXPECT_EQ(reportOf(R"~((doc
+(margin-left=5)
+(paper-width=21cm)
+(paper-height=11 in)
+(top-margin=50,5)
+(bottom-margin=1e3000)
+(right-margin=)
+(left-margin=20pt)
+(page-number-start=one)
+(page-width=3)
+(height=3)
+(row
+(background=red)
+(border-top=thin)
+(bottom-border=)
+(rb=)
+(cell
+(width=5)
+(cw=5cm)
+(align=left)
+(ca=)
+(para
+(text=5)
+(alignment=left)
+(font=x)
+para)
+cell)
+(c
+(cw=12px)
+(bgcolor=x)
+c)
+row)
+doc)
+)~"),
+              R"~(a.rtfspec:2:2: error: margin-left isn't a valid keyword. [wrong-keyword]
+    (margin-left=5)
+     ^~~~~~~~~~~
+    hint: did you mean left-margin?
+a.rtfspec:3:14: error: Value for paper-width should be numeric. [not-a-number]
+    (paper-width=21cm)
+                 ^~~~
+    hint: 21cm is 11906 twips: write 11906
+a.rtfspec:4:15: error: Value for paper-height should be numeric. [not-a-number]
+    (paper-height=11 in)
+                  ^~~~~
+    hint: 11 in is 15840 twips: write 15840
+a.rtfspec:5:13: error: Value for top-margin should be numeric. [not-a-number]
+    (top-margin=50,5)
+                ^~~~
+    hint: a number has no comma, but at most one point: write a number of twips, 1440 of which are an inch and 567 a centimetre
+a.rtfspec:6:16: error: Value for bottom-margin should be numeric. [not-a-number]
+    (bottom-margin=1e3000)
+                   ^~~~~~
+    hint: the number is too large, or is none: write its digits, without an exponent
+a.rtfspec:7:15: error: Value for right-margin should be numeric. [not-a-number]
+    (right-margin=)
+                  ^
+    hint: the value is missing: write a number of twips, 1440 of which are an inch and 567 a centimetre
+a.rtfspec:8:14: error: Value for left-margin should be numeric. [not-a-number]
+    (left-margin=20pt)
+                 ^~~~
+    hint: 20pt is 400 twips: write 400
+a.rtfspec:9:20: error: Value for page-number-start should be numeric. [not-a-number]
+    (page-number-start=one)
+                       ^~~
+    hint: write a number
+a.rtfspec:10:2: error: page-width isn't a valid keyword. [wrong-keyword]
+    (page-width=3)
+     ^~~~~~~~~~
+    hint: did you mean paper-width?
+a.rtfspec:11:2: error: height isn't a valid keyword. [wrong-keyword]
+    (height=3)
+     ^~~~~~
+    hint: did you mean paper-height?
+a.rtfspec:13:2: error: background isn't a valid keyword. [wrong-keyword]
+    (background=red)
+     ^~~~~~~~~~
+    hint: did you mean row-backcolor?
+a.rtfspec:14:2: error: border-top isn't a valid keyword. [wrong-keyword]
+    (border-top=thin)
+     ^~~~~~~~~~
+    hint: did you mean row-top-border?
+a.rtfspec:15:2: error: bottom-border isn't a valid keyword. [wrong-keyword]
+    (bottom-border=)
+     ^~~~~~~~~~~~~
+    hint: did you mean row-bottom-border?
+a.rtfspec:16:5: error: isn't a recognized color. [wrong-color]
+    (rb=)
+        ^
+    hint: the value is missing: write none for no color
+a.rtfspec:18:2: error: width isn't a valid keyword. [wrong-keyword]
+    (width=5)
+     ^~~~~
+    hint: did you mean cell-width?
+a.rtfspec:19:5: error: Value for cell-width should be numeric. [not-a-number]
+    (cw=5cm)
+        ^~~
+    hint: write a number, per cent of the row's width, without a sign
+a.rtfspec:20:2: error: align isn't a valid keyword. [wrong-keyword]
+    (align=left)
+     ^~~~~
+    hint: did you mean cell-alignment?
+a.rtfspec:21:5: error: isn't a recognized alignment. [wrong-alignment]
+    (ca=)
+        ^
+    hint: the value is missing: write none for no alignment
+a.rtfspec:23:2: error: text isn't a valid keyword. [wrong-keyword]
+    (text=5)
+     ^~~~
+    hint: did you mean para-text?
+a.rtfspec:24:2: error: alignment isn't a valid keyword. [wrong-keyword]
+    (alignment=left)
+     ^~~~~~~~~
+    hint: did you mean para-alignment?
+a.rtfspec:25:2: error: font isn't a valid keyword. [wrong-keyword]
+    (font=x)
+     ^~~~
+    hint: did you mean para-style?
+a.rtfspec:29:5: error: Value for cell-width should be numeric. [not-a-number]
+    (cw=12px)
+        ^~~~
+    hint: write a number, per cent of the row's width, without a sign
+a.rtfspec:30:2: error: bgcolor isn't a valid keyword. [wrong-keyword]
+    (bgcolor=x)
+     ^~~~~~~
+    hint: did you mean cell-backcolor?
+)~");
+}
+
+TEST(ReportsOfStyleSheets, WithErrorsStillLetTheDescriptionBeChecked) {
+    const std::string sheet =
+        "{ name: normal; style-def: s; fromat: \\fs20 }\n"
+        "{ name: sum; style-def: p }\n"
+        "{ nam: strong; style-def: cs; format: \\b }\n";
+    EXPECT_EQ(
+        reportOf(paragraphWith("<strong=a> <sum=b> <string=c>", "(ps=nromal)\n"), sheet),
+        R"(a.rtfss:1:31: error: Error while processing stylesheet. fromat is not a valid keyword. [bad-keyword]
+    { name: normal; style-def: s; fromat: \fs20 }
+                                  ^~~~~~
+    hint: did you mean format?
+a.rtfss:2:25: error: p is not a valid value for style-def [bad-style-kind]
+    { name: sum; style-def: p }
+                            ^
+    hint: a paragraph style is s
+a.rtfss:3:3: error: Error while processing stylesheet. nam is not a valid keyword. [bad-keyword]
+    { nam: strong; style-def: cs; format: \b }
+      ^~~
+    hint: a definition begins with name:
+a.rtfspec:5:25: warning: The stylesheet has no character style string: its text gets no format. [unknown-character-style]
+    (pt=<strong=a> <sum=b> <string=c>)
+                            ^~~~~~
+    hint: did you mean strong?
+a.rtfspec:6:5: warning: The stylesheet has no paragraph style nromal: normal stands in for it. [unknown-paragraph-style]
+    (ps=nromal)
+        ^~~~~~
+    hint: did you mean normal?
+)");
+}
+
+TEST(ReportsOfKeys, KnowMoreThatIsWrittenByMistake) {
+    EXPECT_EQ(
+        reportOf("(doc\n(paper-width=A4)\n(r\n(border=thin)\n(c\n(p (pt=x) p)\nc)\nr)\ndoc)\n"),
+        R"(a.rtfspec:2:14: error: Value for paper-width should be numeric. [not-a-number]
+    (paper-width=A4)
+                 ^~
+    hint: A4 is 11906 twips wide and 16838 high
+a.rtfspec:4:2: error: border isn't a valid keyword. [wrong-keyword]
+    (border=thin)
+     ^~~~~~
+    hint: each side has a border of its own: row-top-border and -bottom-, -left-, -right-border
+a.rtfspec:6:1: error: (p (pt=x) p) has a wrong syntax [wrong-syntax]
+    (p (pt=x) p)
+    ^~~~~~~~~~~~
+    hint: each node and each key stands on a line of its own
+)");
+}
+
+TEST(ReportsOfStyleSheets, TellAWrongKindOnce) {
+    EXPECT_EQ(reportOfFile("a.rtfss",
+                           "{ name: a; style-def: paragraph; format: \\b }\n"
+                           "{ name: b; style-def: char; format: \\b }\n"
+                           "{ name= c; style-def: s }\n"),
+              R"(a.rtfss:1:23: error: paragraph is not a valid value for style-def [bad-style-kind]
+    { name: a; style-def: paragraph; format: \b }
+                          ^~~~~~~~~
+    hint: a paragraph style is s
+a.rtfss:2:23: error: char is not a valid value for style-def [bad-style-kind]
+    { name: b; style-def: char; format: \b }
+                          ^~~~
+    hint: a character style is cs
+a.rtfss:3:3: error: Error while processing stylesheet. name= c is not a valid keyword. [bad-keyword]
+    { name= c; style-def: s }
+      ^~~~~~~
+    hint: a : follows the keyword name
+)");
+}
+
+/// The report of findings about a text.
+std::string reportOfFindings(const std::string& file, const std::string& text,
+                             const std::vector<quorvane::Diagnostic>& findings) {
+    std::string report;
+    for (const quorvane::Diagnostic& finding : findings) {
+        report += findingText(file, finding, excerptAt(finding.place, windowOf(text)), Colors::Off);
+    }
+    return report;
+}
+
+/// Reports of diagnostics that no text is known for, as the check has words of its own for all
+/// errors that the library raises today: what is told of an error that it does not know.
+const std::map<std::string, std::pair<std::string, std::string>>& reportsWithoutExample() {
+    static const std::map<std::string, std::pair<std::string, std::string>> reports = [] {
+        RtfError error(4711, "A new error");
+        error.line = 2;
+        const std::string description = "(doc\n(row\ndoc)\n";
+        const std::string sheet = "{ name: a }\n{ name: b }\n";
+        std::map<std::string, std::pair<std::string, std::string>> list;
+        list["rejected"] = {reportOfFindings("a.rtfspec", description,
+                                             judgedFindings({}, {error}, DiagnosticId::Rejected,
+                                                            SourceText(description))),
+                            "a.rtfspec:2:1: error: A new error [rejected]\n    (row\n    ^~~~\n"};
+        error.line = 0;
+        list["stylesheet-rejected"] = {
+            reportOfFindings(
+                "a.rtfss", sheet,
+                judgedFindings({}, {error}, DiagnosticId::StyleSheetRejected, SourceText(sheet))),
+            "a.rtfss:1:1: error: A new error [stylesheet-rejected]\n    { name: a }\n"
+            "    ^~~~~~~~~~~\n"};
+        return list;
+    }();
+    return reports;
+}
+
+TEST(ReportsOfUnknownErrors, SayWhatTheLibrarySays) {
+    for (const auto& [identifier, report] : reportsWithoutExample()) {
+        EXPECT_EQ(report.first, report.second);
+    }
+}
+
+TEST(ReportsOfUnknownErrors, AreLeftOutWhereTheCheckHasItsOwn) {
+    const std::string text = "(doc\n(row\ndoc)\n";
+    const SourceText source(text);
+    const std::vector<quorvane::Diagnostic> own{
+        {DiagnosticId::NoRow, Severity::Error, source.place(0, 4), "none", ""},
+        {DiagnosticId::EmptyText, Severity::Warning, source.place(5, 9), "empty", ""}};
+    EXPECT_EQ(judgedFindings(own, {RtfError(1, "x")}, DiagnosticId::Rejected, source).size(), 2u);
+    const auto accepted = judgedFindings(own, {}, DiagnosticId::Rejected, source);
+    ASSERT_EQ(accepted.size(), 1u);
+    EXPECT_EQ(accepted[0].id, DiagnosticId::EmptyText);
+}
+
+/// The pages' examples are compared with whole reports, see the tests of the page.
+TEST(Reports, AreTestedAsAWholeForEveryDiagnostic) {
+    for (const DiagnosticRule& rule : diagnosticRules()) {
+        const bool isTestedHere = reportsWithoutExample().contains(std::string(rule.identifier));
+        EXPECT_NE(isTestedHere, !rule.wrong.empty()) << rule.identifier;
+    }
+}
+
+}  // namespace
+}  // namespace quorvane::cli

@@ -1,0 +1,146 @@
+#include "quorvane/driver/DescriptionTree.h"
+
+#include <gmock/gmock.h>
+
+#include "tests/driver/treeText.h"
+
+namespace quorvane {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+Leaf leaf(std::string_view key, std::string_view text, int line) {
+    return {.key = Vocabulary().leafKey(key), .text = text, .line = line};
+}
+
+Leaf numberLeaf(std::string_view key, double number, std::string_view text, int line) {
+    return {.key = Vocabulary().leafKey(key),
+            .text = text,
+            .number = number,
+            .kind = LeafKind::Number,
+            .line = line};
+}
+
+TEST(DescriptionTree, AddsAChildUnderItsNumber) {
+    DescriptionTree tree;
+    const DescriptionNode& row = tree.AddNode(tree.root(), NodeKind::Row, 1001, 5);
+    EXPECT_EQ(&tree.root().child(1001), &row);
+    EXPECT_EQ(row.number, 1001);
+    EXPECT_EQ(row.line, 5);
+    EXPECT_TRUE(row.leaves().empty());
+    EXPECT_TRUE(row.children().empty());
+}
+
+TEST(DescriptionTree, AddsChildrenOfEveryKind) {
+    DescriptionTree tree;
+    DescriptionNode& root = tree.root();
+    tree.AddNode(root, NodeKind::Row, 1001, 2);
+    tree.AddNode(root, NodeKind::Cell, 2001, 3);
+    tree.AddNode(root, NodeKind::Para, 3001, 4);
+    tree.AddNode(root, NodeKind::Doc, 1, 5);
+    EXPECT_THAT(childNumbers(root), ElementsAre(1001, 2001, 3001, 1));
+}
+
+TEST(DescriptionTree, RefusesToAddWhatIsNoNode) {
+    DescriptionTree tree;
+    EXPECT_EQ(
+        errorOf([&] { tree.AddNode(tree.root(), NodeKind::None, 1001, 8); }),
+        driverErrorOf(eWrongNodeType, "Can't add this type of node: 4", "CRtfDriver.AddNode", 8));
+    EXPECT_EQ(
+        errorOf([&] { tree.AddNode(tree.root(), static_cast<NodeKind>(-1), 1001, 0); }).description,
+        "Can't add this type of node: -1");
+    EXPECT_TRUE(tree.root().children().empty());
+}
+
+TEST(DescriptionTree, RefusesASecondChildOfTheSameNumber) {
+    DescriptionTree tree;
+    const DescriptionNode& row = tree.AddNode(tree.root(), NodeKind::Row, 1001, 2);
+    tree.AddNode(tree.root(), NodeKind::Row, 1002, 3);
+    EXPECT_EQ(errorOf([&] { tree.AddNode(tree.root(), NodeKind::Row, 1001, 4); }).number, 457);
+    EXPECT_EQ(errorOf([&] { tree.AddNode(tree.root(), NodeKind::Row, 1002, 5); }).number, 457);
+    EXPECT_EQ(&tree.root().child(1001), &row);
+    EXPECT_THAT(childNumbers(tree.root()), ElementsAre(1001, 1002));
+}
+
+TEST(DescriptionTree, KeepsLeavesAndChildrenApartInTheOrderOfTheDescription) {
+    DescriptionTree tree;
+    DescriptionNode& row = tree.root();
+    tree.addLeaf(row, numberLeaf("row-key", 7, "7", 3));
+    tree.AddNode(row, NodeKind::Cell, 2001, 4);
+    tree.addLeaf(row, leaf("row-backcolor", "red", 5));
+    tree.AddNode(row, NodeKind::Cell, 2002, 6);
+
+    EXPECT_THAT(leafKeys(row), ElementsAre("row-key", "row-backcolor"));
+    EXPECT_THAT(childNumbers(row), ElementsAre(2001, 2002));
+}
+
+TEST(DescriptionTree, TakesAKeyOfDigitsForNoNumber) {
+    DescriptionTree tree;
+    tree.addLeaf(tree.root(), leaf("2001", "x", 3));
+    tree.AddNode(tree.root(), NodeKind::Cell, 2001, 4);
+    EXPECT_THAT(leafKeys(tree.root()), ElementsAre("2001"));
+    EXPECT_THAT(childNumbers(tree.root()), ElementsAre(2001));
+}
+
+TEST(DescriptionTree, HasNeitherLeavesNorChildrenAtFirst) {
+    const DescriptionTree tree;
+    EXPECT_THAT(leafKeys(tree.root()), IsEmpty());
+    EXPECT_THAT(childNumbers(tree.root()), IsEmpty());
+}
+
+TEST(DescriptionTree, KeepsALeafWithItsValueTextAndLine) {
+    DescriptionTree tree;
+    tree.addLeaf(tree.root(), numberLeaf("para-text", 12, "0012", 3));
+    const Leaf kept = leafOf(tree.root(), "para-text");
+    EXPECT_EQ(kept.value(), Value(12));
+    EXPECT_EQ(kept.valueText(), "12");
+    EXPECT_EQ(kept.text, "0012");
+    EXPECT_EQ(kept.line, 3);
+}
+
+TEST(DescriptionTree, RefusesAKeyThatIsThereAndTellsTheLineOfTheSecond) {
+    for (const char* key : {"para-text", "any-other"}) {
+        DescriptionTree tree;
+        tree.addLeaf(tree.root(), leaf(key, "a", 3));
+        EXPECT_EQ(errorOf([&] { tree.addLeaf(tree.root(), leaf(key, "b", 9)); }), duplicateKey(9));
+        EXPECT_EQ(leafOf(tree.root(), key).text, "a");
+        EXPECT_THAT(leafKeys(tree.root()), ElementsAre(key));
+    }
+}
+
+TEST(DescriptionTree, TakesTheSameKeyInDifferentNodes) {
+    DescriptionTree tree;
+    DescriptionNode& row = tree.AddNode(tree.root(), NodeKind::Row, 1001, 1);
+    for (const char* key : {"para-text", "any-other"}) {
+        tree.addLeaf(tree.root(), leaf(key, "a", 3));
+        tree.addLeaf(row, leaf(key, "b", 4));
+        EXPECT_EQ(leafOf(tree.root(), key).text, "a");
+        EXPECT_EQ(leafOf(row, key).text, "b");
+    }
+}
+
+TEST(DescriptionTree, TellsKeysApartToTheLetter) {
+    DescriptionTree tree;
+    tree.addLeaf(tree.root(), leaf("para-text", "a", 3));
+    tree.addLeaf(tree.root(), leaf("Para-Text", "b", 4));
+    EXPECT_THAT(leafKeys(tree.root()), ElementsAre("para-text", "Para-Text"));
+}
+
+TEST(DescriptionTree, HasNoChildOfAnotherNumber) {
+    DescriptionTree tree;
+    tree.AddNode(tree.root(), NodeKind::Doc, 2, 1);
+    EXPECT_EQ(errorOf([&] { tree.root().child(1); }), objectNotSet());
+}
+
+TEST(DescriptionTree, FreesNodesThatAreNestedAsDeepAsCanBe) {
+    DescriptionTree tree;
+    DescriptionNode* innermost = &tree.root();
+    for (int depth = 0; depth < 200000; ++depth) {
+        innermost = &tree.AddNode(*innermost, NodeKind::Doc, 1, 1);
+    }
+    EXPECT_TRUE(innermost->children().empty());
+}
+
+}  // namespace
+}  // namespace quorvane

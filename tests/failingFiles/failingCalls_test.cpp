@@ -1,0 +1,307 @@
+// Every call of the system that concerns a file fails once, and then for good, in everything that
+// reads or writes files: a document is whole or absent, an older one stays for as long as it can,
+// what failed is told, and all works again afterwards. Only what cannot be removed any more, since
+// the disk is gone for good, may stay in part.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstddef>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cli/FormatJob.h"
+#include "cli/RenderJob.h"
+#include "quorvane/driver/CRtfDriver.h"
+#include "quorvane/driver/driverErrors.h"
+#include "tests/cli/TemporaryFolder.h"
+#include "tests/cli/descriptions.h"
+#include "tests/failingFiles/failingFileCalls.h"
+
+namespace quorvane {
+namespace {
+
+using testing::AnyOf;
+using testing::Eq;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+struct Failure {
+    Fault fault;
+    int error;
+};
+
+/// One call that fails, and a disk that goes, gets full or is locked.
+const std::vector<Failure> failures = {{Fault::Once, EIO},
+                                       {Fault::Once, ENOSPC},
+                                       {Fault::FromThenOn, EIO},
+                                       {Fault::FromThenOn, ENOSPC},
+                                       {Fault::FromThenOn, EACCES}};
+
+class FailingCalls : public testing::Test {
+protected:
+    FailingCalls() {
+        folder.write("a.rtfspec", description);
+        folder.write("a.rtfss", cli::goodStyleSheet);
+        const Ref<CRtfDoc> document = filledDocument();
+        document->Commit(folder / "whole");
+        whole = folder.read("whole");
+        std::filesystem::remove(folder / "whole");
+        folder.acceptBrokenDocuments();  // this test's own business
+    }
+
+    Ref<CRtfDoc> filledDocument() const {
+        const Ref<CRtfDriver> driver = CRtfDriver::create();
+        driver->setStyleSheetFile(folder / "a.rtfss");
+        driver->ParseFile(folder / "a.rtfspec");
+        return driver->RtfObject();
+    }
+
+    /// Lets each call of the action fail in each way, in a run of its own between `prepare` and
+    /// `check`, which is given the calls up to the first that failed.
+    void failEachCall(const std::function<void()>& prepare, const std::function<void()>& action,
+                      const std::function<void(const std::vector<std::string>&, Fault)>& check) {
+        for (const Failure& failure : failures) {
+            for (std::size_t number = 0;; ++number) {
+                prepare();
+                std::vector<std::string> calls =
+                    withFailingCall(number, failure.fault, failure.error, action);
+                if (calls.size() <= number) {
+                    break;
+                }
+                calls.resize(number + 1);
+                SCOPED_TRACE(calls.back() + " fails with " + std::to_string(failure.error) +
+                             " as call " + std::to_string(number));
+                check(calls, failure.fault);
+                ++runs;
+            }
+        }
+    }
+
+    /// The file's bytes; nothing when it is not there.
+    std::optional<std::string> bytesOf(const std::string& name) const {
+        return folder.has(name) ? std::optional(folder.read(name)) : std::nullopt;
+    }
+
+    static bool wasRemoved(const std::vector<std::string>& calls) {
+        return std::find(calls.begin(), calls.end() - 1, "unlink") != calls.end() - 1;
+    }
+
+    const std::string description = cli::descriptionOf(std::string(3000, 'x'));
+    cli::TemporaryFolder folder;
+    std::string whole;
+    int runs = 0;
+};
+
+TEST_F(FailingCalls, LeaveADescriptionReadOrToldAsUnreachable) {
+    Ref<CRtfDriver> driver;
+    std::optional<RtfError> error;
+    failEachCall(
+        [&] {
+            driver = CRtfDriver::create();
+            driver->setStyleSheetFile(folder / "a.rtfss");
+            error.reset();
+        },
+        [&] {
+            try {
+                driver->ParseFile(folder / "a.rtfspec");
+            } catch (const RtfError& raised) {
+                error = raised;
+            }
+        },
+        [&](const auto&, Fault) {
+            EXPECT_EQ(driver->RtfObject()->TableRows()->Count(), error ? 0 : 1);
+            if (error) {
+                EXPECT_EQ(errorLevel(error->number), eWrongPath);
+                ASSERT_NE(error->cause, nullptr);
+                EXPECT_NE(error->cause->number, 0);
+            }
+            driver->ParseFile(folder / "a.rtfspec");
+            driver->Commit(folder / "a.rtf");
+            EXPECT_EQ(folder.read("a.rtf"), whole);
+        });
+    EXPECT_GE(runs, 20);
+}
+
+TEST_F(FailingCalls, LeaveAStyleSheetLoadedOrEmpty) {
+    Ref<CRtfDoc> document;
+    failEachCall([&] { document = CRtfDoc::create(); },
+                 [&] { document->setStyleSheetFile(folder / "a.rtfss"); },
+                 [&](const auto&, Fault) {
+                     EXPECT_THAT(document->GetParagraphStyle("normal"),
+                                 AnyOf(Eq("\\s100\\f0\\fs24\\cf3 "), Eq(" ")));
+                     document->setStyleSheetFile(folder / "a.rtfss");
+                     EXPECT_EQ(document->GetParagraphStyle("normal"), "\\s100\\f0\\fs24\\cf3 ");
+                 });
+    EXPECT_GE(runs, 20);
+}
+
+/// Commits of a document, and what they tell.
+class FailingCommits : public FailingCalls {
+protected:
+    void commit() {
+        told = 0;
+        document->setAbsorbedErrorObserver([this](const AbsorbedError&) { ++told; });
+        try {
+            document->Commit(folder / "a.rtf");
+        } catch (const RtfError&) {
+            ++told;
+        }
+    }
+
+    Ref<CRtfDoc> document = filledDocument();
+    int told = 0;
+};
+
+TEST_F(FailingCommits, LeaveANewDocumentWholeOrAbsent) {
+    failEachCall([&] { std::filesystem::remove(folder / "a.rtf"); }, [&] { commit(); },
+                 [&](const auto&, Fault fault) {
+                     if (told == 0) {
+                         EXPECT_EQ(bytesOf("a.rtf"), whole);
+                     } else if (fault == Fault::Once) {
+                         EXPECT_FALSE(folder.has("a.rtf"));
+                     }
+                     commit();
+                     EXPECT_EQ(folder.read("a.rtf"), whole);
+                 });
+    EXPECT_GE(runs, 18);
+}
+
+TEST_F(FailingCommits, KeepTheOlderDocumentUntilItIsRemoved) {
+    // Longer than the new one: none of it may stay behind that.
+    const std::string older(whole.size() + 100, 'o');
+    failEachCall([&] { folder.write("a.rtf", older); }, [&] { commit(); },
+                 [&](const std::vector<std::string>& calls, Fault fault) {
+                     const auto bytes = bytesOf("a.rtf");
+                     if (told == 0) {
+                         EXPECT_EQ(bytes, whole);
+                     } else if (!wasRemoved(calls)) {
+                         EXPECT_EQ(bytes, older);
+                     } else if (fault == Fault::Once) {
+                         EXPECT_EQ(bytes, std::nullopt);
+                     }
+                     commit();
+                     EXPECT_EQ(folder.read("a.rtf"), whole);
+                 });
+    EXPECT_GE(runs, 25);
+}
+
+/// The command's jobs on the folder.
+class FailingJobs : public FailingCalls {
+protected:
+    FailingJobs() {
+        options.descriptions = {folder / "a.rtfspec"};
+        options.styleSheet = folder / "a.rtfss";
+    }
+
+    auto teller() {
+        told.clear();
+        return [this](const cli::Diagnostic& diagnostic) { told.push_back(diagnostic); };
+    }
+
+    void render() { status = cli::RenderJob(options, teller()).run(); }
+    void format() {
+        const cli::FormatOptions formatted{{folder / "a.rtfspec"}, {}, false};
+        status = cli::FormatJob(
+                     formatted, [](const std::string&) {}, teller())
+                     .run();
+    }
+
+    /// That the job did all, or nothing and says so; and that nothing unfinished is there unless it
+    /// cannot be removed.
+    void expectWholeOrNothing(const std::optional<std::string>& done,
+                              const std::optional<std::string>& undone, const std::string& name,
+                              Fault fault) {
+        if (status == cli::ExitStatus::Success) {
+            EXPECT_THAT(told, IsEmpty());
+            EXPECT_EQ(bytesOf(name), done);
+        } else {
+            EXPECT_EQ(status, cli::ExitStatus::Failure);
+            EXPECT_THAT(told, SizeIs(1));
+            EXPECT_EQ(bytesOf(name), undone);
+        }
+        for (const std::string& file : folder.names()) {
+            const bool isUnfinished = file.ends_with(".tmp");
+            EXPECT_FALSE(isUnfinished && fault == Fault::Once) << file;
+            if (isUnfinished) {
+                std::filesystem::remove(folder / file);
+            }
+        }
+    }
+
+    cli::RenderOptions options;
+    std::vector<cli::Diagnostic> told;
+    cli::ExitStatus status = cli::ExitStatus::Success;
+};
+
+TEST_F(FailingJobs, LeaveANewDocumentWholeOrAbsent) {
+    failEachCall([&] { std::filesystem::remove(folder / "a.rtf"); }, [&] { render(); },
+                 [&](const auto&, Fault fault) {
+                     expectWholeOrNothing(whole, std::nullopt, "a.rtf", fault);
+                 });
+    EXPECT_GE(runs, 50);
+}
+
+TEST_F(FailingJobs, KeepTheOlderDocumentUntilTheNewOneIsWhole) {
+    const std::string older(whole.size() + 100, 'o');
+    failEachCall(
+        [&] { folder.write("a.rtf", older); }, [&] { render(); },
+        [&](const auto&, Fault fault) { expectWholeOrNothing(whole, older, "a.rtf", fault); });
+    EXPECT_GE(runs, 60);
+}
+
+TEST_F(FailingJobs, KeepADescriptionUntilItsCanonicalFormIsWhole) {
+    format();
+    const std::string formatted = folder.read("a.rtfspec");
+    ASSERT_NE(formatted, description);
+    failEachCall([&] { folder.write("a.rtfspec", description); }, [&] { format(); },
+                 [&](const auto&, Fault fault) {
+                     expectWholeOrNothing(formatted, description, "a.rtfspec", fault);
+                 });
+    EXPECT_GE(runs, 40);
+}
+
+TEST_F(FailingJobs, GoOnAfterAnInterruption) {
+    int interruptions = 0;
+    for (std::size_t number = 0;; ++number) {
+        folder.write("a.rtf", "older");
+        const std::vector<std::string> calls =
+            withFailingCall(number, Fault::Once, EINTR, [&] { render(); });
+        if (calls.size() <= number) {
+            break;
+        }
+        // Only calls that can wait are interrupted.
+        const std::string& name = calls[number];
+        if (name == "open" || name == "read" || name == "write" || name == "close") {
+            EXPECT_EQ(status, cli::ExitStatus::Success) << name;
+            EXPECT_EQ(folder.read("a.rtf"), whole) << name;
+            ++interruptions;
+        }
+    }
+    EXPECT_GE(interruptions, 8);
+}
+
+TEST_F(FailingJobs, GoOnWhereTheSystemMovesOneByteAtATime) {
+    const std::vector<std::string> calls =
+        withFailingCall(0, Fault::ShortTransfers, 0, [&] { render(); });
+
+    EXPECT_EQ(status, cli::ExitStatus::Success);
+    EXPECT_EQ(folder.read("a.rtf"), whole);
+    EXPECT_GT(calls.size(), whole.size());
+}
+
+TEST_F(FailingCommits, GoOnWhereTheSystemMovesOneByteAtATime) {
+    const std::vector<std::string> calls =
+        withFailingCall(0, Fault::ShortTransfers, 0, [&] { commit(); });
+
+    EXPECT_EQ(told, 0);
+    EXPECT_EQ(folder.read("a.rtf"), whole);
+    EXPECT_GT(calls.size(), whole.size());
+}
+
+}  // namespace
+}  // namespace quorvane

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace quorvane {
+
+/// How a call of the system that concerns a file fails.
+enum class Fault {
+    /// It fails with the error number, this one call only.
+    Once,
+    /// It and all later ones fail, as when a disk goes.
+    FromThenOn,
+    /// It and all later ones are cut short: a transfer moves one byte only.
+    ShortTransfers,
+};
+
+/// Runs an action with the call of that number (from 0) and those calls behind it that the fault
+/// takes along failing. Only calls of the library and the command count: opening, reading, writing,
+/// closing, renaming, removing and looking at files. Answers the calls that were made, by name.
+std::vector<std::string> withFailingCall(std::size_t number, Fault fault, int error,
+                                         const std::function<void()>& action);
+
+}  // namespace quorvane
