@@ -16,7 +16,7 @@ namespace quorvane::cli {
 namespace {
 
 constexpr std::int32_t outOfMemory = 7;
-constexpr std::size_t largestKeptDocument = 1024 * 1024;
+constexpr std::size_t largestKeptDocument = std::size_t{1024} * 1024;
 
 bool isFolder(const std::string& name) {
     std::error_code failure;
