@@ -74,6 +74,24 @@ TEST_F(Judgement, OfMutatedDescriptionsIsTheDrivers) {
     EXPECT_EQ(missed, 0);
 }
 
+/// A driver that does not check rejects nothing that the check finds nothing in, not even a
+/// warning.
+TEST_F(Judgement, OfADriverThatDoesNotCheckIsNotStricter) {
+    RandomDescriptions random(9);
+    driver->setErroneousInput(false);
+    for (int i = 0; i < 2000; ++i) {
+        rejected = false;
+        const std::string text = random.mutated(random.description(), random.below(3));
+        driver->ParseFromMemmory(text);
+        ++(rejected ? rejections : acceptances);
+        if (rejected) {
+            ASSERT_FALSE(checkDescription(text).empty()) << text;
+        }
+    }
+    EXPECT_GT(rejections, 200);
+    EXPECT_GT(acceptances, 200);
+}
+
 TEST_F(Judgement, OfMutatedGoldenDescriptionsIsTheDrivers) {
     RandomDescriptions random(3);
     for (const std::string& text : textsBelow(QUORVANE_GOLDEN_FOLDER, ".rtfspec")) {
