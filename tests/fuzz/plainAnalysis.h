@@ -205,6 +205,7 @@ private:
     void addStructure(const Node& docNode) const {
         for (const Node::Entry* row : childrenOfKind(docNode, rowKind)) {
             rows_.insert(rows_.list().count() + 1, row->key);
+            document_->changed = true;
             const CellsView cells{rows_.list().entries.back().element};
             for (const Node::Entry* cell : childrenOfKind(row->child.front(), cellKind)) {
                 cells.insert(cells.list().count() + 1, cell->key);
@@ -287,9 +288,12 @@ private:
         Document& page = *document_;
         if (key == "paper-height") {
             page.height = number;
+            page.changed = true;
         } else if (key == "paper-width") {
             page.width = number;
+            page.changed = true;
         } else if (key == "page-number-start") {
+            page.changed = page.changed || page.pageNumber != (number > 0 ? number : 2);
             page.pageNumber = number > 0 ? number : 2;
         } else if (key == "left-margin") {
             page.setMargin(page.left, number, page.width, page.right, 1);
