@@ -67,7 +67,7 @@ TEST(DescriptionCheck, KnowsWhatWasMeantByAWrongLine) {
 TEST(DescriptionCheck, ComparesNoWidthsOnAPageTooNarrowForNumbers) {
     EXPECT_THAT(found("(doc\n(paper-width=-2147483648)\n(r\n(c\n(p\n(pt=a)\np)\nc)\n(c\nc)\nr)\n"
                       "doc)\n"),
-                ElementsAre());
+                ElementsAre("2 no-room"));
 }
 
 TEST(DescriptionCheck, KnowsTheLongNameOfADocument) {
