@@ -174,7 +174,7 @@ std::string paragraphWith(const std::string& text) {
 TEST(Growth, OfCheckingBracesIsProportional) {
     for (const char* part : {"{", "}", "{\n", "}{"}) {
         expectProportional([part](std::size_t size) { checkStyleSheet(repeated(part, size)); },
-           3000);
+                           3000);
         expectProportional(
             [part](std::size_t size) { checkRtf("{\\rtf1 " + repeated(part, size)); }, 50'000);
         expectProportional(
