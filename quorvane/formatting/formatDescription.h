@@ -15,9 +15,9 @@ enum class NameForm { Kept, Long, Short };
 /// it. Comments stay. Lines that are no lines of the language stay as they are.
 ///
 /// The result means the same, and formatting it again changes nothing: a driver makes the same
-/// document of it and raises as many errors, whose texts may repeat a line in its new form. Where names in another form
-/// or in lower case would mean something else (the repair sees short forms only), all names stay as
-/// they are.
+/// document of it and raises as many errors, whose texts may repeat a line in its new form. Where
+/// names in another form or in lower case would mean something else (the repair sees short forms
+/// only), all names stay as they are.
 std::string formattedDescription(std::string_view text, NameForm names = NameForm::Kept);
 
 }  // namespace quorvane

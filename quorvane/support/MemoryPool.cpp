@@ -18,8 +18,8 @@ constexpr std::size_t bytesWithoutSlabs = 1024;
 constexpr std::size_t smallestSlab = 1024;
 // A new slab is this part of all that there are, so that little of it can stay unused.
 constexpr std::size_t slabShare = 8;
-// Large enough for large pages where addresses are not scarce.
-constexpr std::size_t largestSlab = sizeof(void*) * 512 * 1024;
+// Large enough for large pages where addresses are not scarce; small where they are.
+constexpr std::size_t largestSlab = std::size_t{sizeof(void*) > 4 ? 4096 : 256} * 1024;
 
 // The address sanitizer learns which parts of a slab nobody may touch.
 #if defined(__SANITIZE_ADDRESS__)

@@ -34,8 +34,9 @@ TEST_P(GoldenLibrary, GivesTheExpectedBytesAndErrors) {
     const Case& expected = GetParam();
     std::vector<SeenError> seen;
     const Ref<CRtfDriver> driver = CRtfDriver::create();
-    driver->setNotifyErrorHandler(
-        [&seen](CRtfDriver&) { seen.push_back({"event", *currentError()}); });
+    driver->setNotifyErrorHandler([&seen](CRtfDriver&) {
+        seen.push_back({"event", *currentError()});
+    });
     driver->setErroneousInput(expected.checked);
 
     if (expected.hasStyleSheet) {
@@ -60,15 +61,14 @@ TEST_P(GoldenLibrary, GivesTheExpectedBytesAndErrors) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Cases, GoldenLibrary, testing::ValuesIn(loadCases(QUORVANE_GOLDEN_FOLDER)),
-    [](const testing::TestParamInfo<Case>& case_) {
-        std::string name = case_.param.name;
-        for (char& character : name) {
-            character = character == '-' ? '_' : character;
-        }
-        return name;
-    });
+INSTANTIATE_TEST_SUITE_P(Cases, GoldenLibrary, testing::ValuesIn(loadCases(QUORVANE_GOLDEN_FOLDER)),
+                         [](const testing::TestParamInfo<Case>& case_) {
+                             std::string name = case_.param.name;
+                             for (char& character : name) {
+                                 character = character == '-' ? '_' : character;
+                             }
+                             return name;
+                         });
 
 }  // namespace
 }  // namespace quorvane::golden
