@@ -22,13 +22,17 @@ std::string outputName(const std::string& output) {
 }  // namespace
 
 DescriptionRendering::DescriptionRendering(const Assignment& assignment,
-                                           const RenderingManner& manner, CRtfDriver& driver,
-                                           const DiagnosticSink& tell)
-    : assignment_(assignment), manner_(manner), tell_(tell), driver_(driver) {}
+                                           const RenderingManner& manner, Platform& platform,
+                                           Ref<CRtfDriver>& driver, const DiagnosticSink& tell)
+    : assignment_(assignment), manner_(manner), tell_(tell), platform_(platform), driver_(driver) {
+    if (!driver_) {
+        driver_ = CRtfDriver::create(platform_);
+    }
+}
 
 DescriptionRendering::~DescriptionRendering() {
-    driver_.setNotifyErrorHandler({});
-    driver_.setAbsorbedErrorObserver({});
+    driver_->setNotifyErrorHandler({});
+    driver_->setAbsorbedErrorObserver({});
 }
 
 ExitStatus DescriptionRendering::run() {
@@ -37,14 +41,28 @@ ExitStatus DescriptionRendering::run() {
     }
     const bool wasRead = analyse();
     if (wasRead && (status_ == ExitStatus::Success || manner_.keepGoing)) {
+        leaveDocumentBefore();
         write();
     }
     return status_;
 }
 
+/// A description that makes nothing does not change the document, which then still is rendered as
+/// the one before.
+void DescriptionRendering::leaveDocumentBefore() {
+    const Ref<CRtfDoc> document = driver_->RtfObject();
+    if (document->Changed() || document->Contents() == "{}") {
+        return;
+    }
+    driver_ = CRtfDriver::create(platform_);
+    if (manner_.styleSheet) {
+        setStyleSheet(*manner_.styleSheet);
+    }
+}
+
 void DescriptionRendering::setStyleSheet(const std::string& name) {
     try {
-        driver_.setStyleSheetFile(name);
+        driver_->setStyleSheetFile(name);
     } catch (const RtfError& error) {
         tellError(DiagnosticKind::Raised, name, error, ExitStatus::ContentErrors);
     }
@@ -52,15 +70,15 @@ void DescriptionRendering::setStyleSheet(const std::string& name) {
 
 bool DescriptionRendering::analyse() {
     const std::string name = inputName(assignment_.description);
-    driver_.setErroneousInput(manner_.check);
-    driver_.setNotifyErrorHandler([&](CRtfDriver&) {
+    driver_->setErroneousInput(manner_.check);
+    driver_->setNotifyErrorHandler([&](CRtfDriver&) {
         tellError(DiagnosticKind::Event, name, *currentError(), ExitStatus::ContentErrors);
     });
     try {
         if (assignment_.description == standardStream) {
-            driver_.ParseFromMemmory(utf8FromCodePage1252(readStandardInput()));
+            driver_->ParseFromMemmory(utf8FromCodePage1252(readStandardInput()));
         } else {
-            driver_.ParseFile(assignment_.description);
+            driver_->ParseFile(assignment_.description);
         }
         return true;
     } catch (const RtfError& error) {
@@ -71,11 +89,11 @@ bool DescriptionRendering::analyse() {
 
 void DescriptionRendering::write() {
     const std::string name = outputName(assignment_.output);
-    driver_.setAbsorbedErrorObserver([&](const AbsorbedError& absorbed) {
+    driver_->setAbsorbedErrorObserver([&](const AbsorbedError& absorbed) {
         tellError(DiagnosticKind::Raised, name, absorbed.error, ExitStatus::Failure);
     });
     try {
-        driver_.Commit(assignment_.output);
+        driver_->Commit(assignment_.output);
     } catch (const RtfError& error) {
         tellError(DiagnosticKind::Raised, name, error, ExitStatus::Failure);
     }

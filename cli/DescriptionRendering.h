@@ -18,13 +18,14 @@ struct RenderingManner {
     bool keepGoing = false;
 };
 
-/// The rendering of one description. Several can go through the same driver, one after the other:
-/// each leaves nothing in it but the stylesheet and what its document was made of.
+/// The rendering of one description. Several can go through the same driver, one after the other,
+/// which then parses the stylesheet once.
 class DescriptionRendering {
 public:
-    /// The assignment, the manner, the driver and the sink must outlive the rendering.
+    /// The driver is made where there is none, and made anew where it cannot serve. All that is
+    /// given must outlive the rendering.
     DescriptionRendering(const Assignment& assignment, const RenderingManner& manner,
-                         CRtfDriver& driver, const DiagnosticSink& tell);
+                         Platform& platform, Ref<CRtfDriver>& driver, const DiagnosticSink& tell);
     DescriptionRendering(const DescriptionRendering&) = delete;
     DescriptionRendering& operator=(const DescriptionRendering&) = delete;
     ~DescriptionRendering();
@@ -36,6 +37,7 @@ public:
 private:
     void setStyleSheet(const std::string& name);
     bool analyse();
+    void leaveDocumentBefore();
     void write();
     void tellError(DiagnosticKind kind, const std::string& file, const RtfError& error,
                    ExitStatus status);
@@ -43,7 +45,8 @@ private:
     const Assignment& assignment_;
     const RenderingManner& manner_;
     const DiagnosticSink& tell_;
-    CRtfDriver& driver_;
+    Platform& platform_;
+    Ref<CRtfDriver>& driver_;
     ExitStatus status_ = ExitStatus::Success;
 };
 

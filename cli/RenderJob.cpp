@@ -72,10 +72,8 @@ ExitStatus RenderJob::readStyleSheet() {
 
 ExitStatus RenderJob::render(const Assignment& assignment) {
     try {
-        if (!driver_) {
-            driver_ = CRtfDriver::create(platform_);
-        }
-        const ExitStatus status = DescriptionRendering(assignment, manner_, *driver_, tell_).run();
+        const ExitStatus status =
+            DescriptionRendering(assignment, manner_, platform_, driver_, tell_).run();
         // The next document uses the memory of a small one again; that of a large one shall not
         // stay beside it. After an error the next description begins anew.
         if (status != ExitStatus::Success || driver_->Contents().size() > largestKeptDocument) {

@@ -1,6 +1,8 @@
 #include "cli/SarifLog.h"
 
+#include <cstddef>
 #include <nlohmann/json.hpp>
+#include <string_view>
 
 #include "cli/RenderOptions.h"
 #include "quorvane/diagnostics/diagnosticRules.h"
@@ -35,12 +37,38 @@ std::string uriOf(const std::string& file) {
     return uri;
 }
 
+/// A text as messages have it, where single braces would be placeholders.
+std::string messageText(std::string_view text) {
+    std::string message;
+    for (const char character : text) {
+        message += character;
+        if (character == '{' || character == '}') {
+            message += character;
+        }
+    }
+    return message;
+}
+
+/// A rule's text with an ellipsis for each "{0}" that a finding puts its own words in for.
+std::string textOfRule(std::string_view text) {
+    std::string shortened;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (text.substr(at).starts_with('{') && text.substr(at + 2).starts_with('}')) {
+            shortened += "\xE2\x80\xA6";
+            at += 2;
+        } else {
+            shortened += text[at];
+        }
+    }
+    return shortened;
+}
+
 Json rules() {
     Json list = Json::array();
     for (const DiagnosticRule& rule : diagnosticRules()) {
         list.push_back({{"id", rule.identifier},
-                        {"shortDescription", {{"text", rule.text}}},
-                        {"fullDescription", {{"text", rule.explanation}}},
+                        {"shortDescription", {{"text", messageText(textOfRule(rule.text))}}},
+                        {"fullDescription", {{"text", messageText(rule.explanation)}}},
                         {"defaultConfiguration", {{"level", severityName(rule.severity)}}}});
     }
     return list;
@@ -60,7 +88,7 @@ Json result(const std::string& file, const quorvane::Diagnostic& finding) {
     return {{"ruleId", rule.identifier},
             {"ruleIndex", &rule - diagnosticRules().data()},
             {"level", severityName(finding.severity)},
-            {"message", {{"text", finding.message + hint}}},
+            {"message", {{"text", messageText(finding.message + hint)}}},
             {"locations", Json::array({{{"physicalLocation",
                                          {{"artifactLocation", {{"uri", uriOf(file)}}},
                                           {"region", region(finding.place)}}}}})}};
@@ -82,6 +110,7 @@ std::string SarifLog::text(bool isComplete) const {
          {{"driver", {{"name", "quorvane"}, {"version", QUORVANE_VERSION}, {"rules", rules()}}}}},
         {"invocations", Json::array({{{"executionSuccessful", isComplete}}})},
         {"columnKind", "unicodeCodePoints"},
+        {"defaultEncoding", "windows-1252"},
         {"results", std::move(results)}};
     const Json log = {{"$schema", "https://json.schemastore.org/sarif-2.1.0.json"},
                       {"version", "2.1.0"},

@@ -255,10 +255,11 @@ private:
         }
         for (std::size_t i = 0; i < nodes.size(); ++i) {
             // The last two of several cells share what is left, also of a page that was another
-            // one.
+            // one. Where that is little, only the table as a whole is told of.
             const bool getsRest = nodes.size() > 1 && i + 2 >= nodes.size();
+            const double rest = std::min(static_cast<double>(std::abs(total - room)), room * 0.05);
             const double tolerance =
-                room * 0.005 + static_cast<double>((getsRest ? std::abs(total - room) : 0) + slack);
+                room * 0.005 + (getsRest ? rest : 0) + static_cast<double>(slack);
             const OutlineLeaf* leaf = nodes[i]->find("cell-width");
             if (isSound(leaf) && std::abs(widths[i] - *leaf->number / 100 * room) > tolerance) {
                 report(DiagnosticId::WidthClamped, *leaf,

@@ -405,6 +405,27 @@ TEST_F(RenderJobTest, RendersADocumentAfterOthersAsItRendersItAlone) {
     }
 }
 
+TEST_F(RenderJobTest, WritesNoDocumentAgainForADescriptionThatMakesNothing) {
+    const std::string nothing = "(doc ; (r\ndoc)\n";
+    options.descriptions = {folder.write("a.rtfspec", descriptionOf("Text")),
+                            folder.write("b.rtfspec", nothing),
+                            folder.write("c.rtfspec", descriptionOf("Text")),
+                            folder.write("d.rtfspec", "(doc\n(page-number-start=2)\n; (r\ndoc)\n")};
+    EXPECT_EQ(run(), ExitStatus::Success);
+    EXPECT_EQ(folder.read("b.rtf"), "{}");
+    EXPECT_EQ(folder.read("c.rtf"), folder.read("a.rtf"));
+    EXPECT_EQ(folder.read("d.rtf"), "{}");
+}
+
+TEST_F(RenderJobTest, WritesTheStylesAloneForADescriptionThatMakesNothing) {
+    options.styleSheet = folder.write("style.rtfss", goodStyleSheet);
+    const std::string nothing = folder.write("b.rtfspec", "(doc ; (r\ndoc)\n");
+    options.descriptions = {folder.write("a.rtfspec", descriptionOf("Text")), nothing};
+    EXPECT_EQ(run(), ExitStatus::Success);
+    EXPECT_EQ(folder.read("b.rtf"), bytesOfHost(nothing));
+    EXPECT_NE(folder.read("b.rtf"), folder.read("a.rtf"));
+}
+
 TEST_F(RenderJobTest, AnswersTheWorstStatusWhereverItCame) {
     options.descriptions = {folder.write("b.rtfspec", descriptionWithBadColour),
                             folder.write("a.rtfspec", descriptionOf("One"))};

@@ -250,6 +250,25 @@ TEST_F(CheckTest, TellsFindingsAsSarif) {
                                         {"charLength", 7}}));
 }
 
+TEST_F(CheckTest, DoublesBracesInSarifWhereOneWouldBeAPlaceholder) {
+    folder.write("a.rtfspec", "(doc\n(r\n(c\n(p\n(pt=a { b)\np)\nc)\nr)\ndoc)\n");
+    const json log = json::parse(run({"--diagnostics=sarif", "a.rtfspec"}).output);
+    const json& run = log.at("runs").at(0);
+    EXPECT_EQ(run.at("results").at(0).at("message").at("text"),
+              "The {{ has no partner. (write \\{{ for a brace to be seen)");
+    const json& rules = run.at("tool").at("driver").at("rules");
+    const auto wrongColor = std::find_if(rules.begin(), rules.end(), [](const json& rule) {
+        return rule.at("id") == "wrong-color";
+    });
+    EXPECT_EQ(wrongColor->at("shortDescription").at("text"), "… isn't a recognized color.");
+}
+
+TEST_F(CheckTest, SaysInSarifHowTheFilesAreEncoded) {
+    folder.write("a.rtfspec", descriptionWithBadColour);
+    const json log = json::parse(run({"--diagnostics=sarif", "a.rtfspec"}).output);
+    EXPECT_EQ(log.at("runs").at(0).at("defaultEncoding"), "windows-1252");
+}
+
 TEST_F(CheckTest, TellsInSarifThatAFileCouldNotBeRead) {
     const json log = json::parse(run({"--diagnostics=sarif", "nosuch.rtfspec"}).output);
     EXPECT_FALSE(log.at("runs").at(0).at("invocations").at(0).at("executionSuccessful"));

@@ -229,6 +229,15 @@ TEST(ReportsOfWidths, TellOfASingleCellThatIsTooNarrow) {
     EXPECT_EQ(reportOf("(doc\n(r\n(c\n(cw=50)\nc)\nr)\ndoc)\n"), "");
 }
 
+TEST(ReportsOfWidths, TellWhichCellsAPageOfAnotherWidthMakesNarrow) {
+    EXPECT_EQ(
+        reportOf("(doc\n(paper-width=16838)\n(r\n(c\n(cw=50)\nc)\n(c\n(cw=50)\nc)\nr)\ndoc)\n"),
+        R"(a.rtfspec:5:5: warning: The cell becomes 16 per cent wide instead of 50. [width-clamped]
+    (cw=50)
+        ^~
+)");
+}
+
 TEST(ReportsOfWidths, TellOfAPageWithoutRoom) {
     EXPECT_EQ(
         reportOf("(doc\n(bottom-margin=9000)\n(paper-height=8000)\n(r\n(c\nc)\nr)\ndoc)\n"),
