@@ -118,7 +118,7 @@ std::vector<Assignment> assignOutputs(const RenderOptions& options) {
     for (const std::string& description : options.descriptions) {
         const std::string output = outputOf(description, options);
         const std::string file = identities.of(output);
-        if (wouldReplace(file)) {
+        if (output != standardStream && wouldReplace(output)) {
             if (!inputs) {
                 inputs = inputsOf(options, identities);
             }

@@ -113,7 +113,8 @@ public:
     void ClearStructure();
 
     /// Shows the host every error that ends a procedure without reaching it, such as a failure to
-    /// write the file of `Commit`. An empty function ends it.
+    /// write the file of `Commit`. It must not change the lists of a document that a driver is just
+    /// building. An empty function ends it.
     void setAbsorbedErrorObserver(GError::Observer observer);
 
     std::int32_t TextAreaWidth() const override;

@@ -14,11 +14,13 @@ namespace {
 // There are about two leaves to a node.
 constexpr std::size_t roomForALeaf = sizeof(Leaf) + sizeof(DescriptionNode) / 2;
 constexpr std::size_t roomForFew = 1024;
+// Beyond, blocks follow as they are needed: a text of many lines need not have many leaves.
+constexpr std::size_t mostLeavesAtOnce = 16384;
 
 }  // namespace
 
 DescriptionTree::DescriptionTree(std::size_t leafCount)
-    : memory_(roomForFew + leafCount * roomForALeaf) {}
+    : memory_(roomForFew + std::min(leafCount, mostLeavesAtOnce) * roomForALeaf) {}
 
 bool DescriptionTree::addKey(DescriptionNode& node, const LeafKey& key) {
     if (key.known == DescriptionKey::Unknown) {

@@ -104,9 +104,15 @@ int openFile(const std::string& path, int flags) {
 /// A file written without a buffer of its own: what is written comes in large blocks.
 class PortableOutputFile : public OutputFile {
 public:
-    /// `newPath` is the path of a file that was made, empty for one that was there.
-    PortableOutputFile(Descriptor file, std::string newPath) noexcept
-        : file_(std::move(file)), newPath_(std::move(newPath)) {}
+    /// Opens the file, which is made where there is none.
+    explicit PortableOutputFile(const std::string& path)
+        : newPath_(path), file_(open(path, newPath_)) {
+        if (file_.number() == -1) {
+            const RunTimeError error = errnoToRunTimeError(errno);
+            // The file itself would have been made: what is missing is its folder.
+            raise(error == RunTimeError::FileNotFound ? RunTimeError::PathNotFound : error);
+        }
+    }
     PortableOutputFile(const PortableOutputFile&) = delete;
     PortableOutputFile& operator=(const PortableOutputFile&) = delete;
     ~PortableOutputFile() override {
@@ -135,8 +141,18 @@ public:
     }
 
 private:
-    Descriptor file_;
+    static int open(const std::string& path, std::string& newPath) noexcept {
+        const int file = openFile(path, O_WRONLY | O_CREAT | O_EXCL);
+        if (file != -1 || errno != EEXIST) {
+            return file;
+        }
+        newPath.clear();
+        return openFile(path, O_WRONLY | O_CREAT);
+    }
+
+    // Of a file that was made; empty for one that was there.
     std::string newPath_;
+    Descriptor file_;
 };
 
 std::string readToEnd(int file, std::size_t expectedSize) {
@@ -228,19 +244,7 @@ public:
 
     std::unique_ptr<OutputFile> createFile(const std::string& path) override {
         requireNoNul(path);
-        std::string newPath = path;
-        int number = openFile(path, O_WRONLY | O_CREAT | O_EXCL);
-        if (number == -1 && errno == EEXIST) {
-            newPath.clear();
-            number = openFile(path, O_WRONLY | O_CREAT);
-        }
-        Descriptor file(number);
-        if (file.number() == -1) {
-            const RunTimeError error = errnoToRunTimeError(errno);
-            // The file itself would have been made: what is missing is its folder.
-            raise(error == RunTimeError::FileNotFound ? RunTimeError::PathNotFound : error);
-        }
-        return std::make_unique<PortableOutputFile>(std::move(file), std::move(newPath));
+        return std::make_unique<PortableOutputFile>(path);
     }
 
     /// Does nothing: there is no clipboard.

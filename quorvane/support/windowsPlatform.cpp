@@ -75,9 +75,21 @@ bool isDevice(HANDLE file) {
 /// A file written without a buffer of its own: what is written comes in large blocks.
 class WindowsOutputFile : public OutputFile {
 public:
-    /// `newPath` is the path of a file that was made, empty for one that was there.
-    WindowsOutputFile(FileHandle file, std::wstring newPath) noexcept
-        : file_(std::move(file)), newPath_(std::move(newPath)) {}
+    /// Opens the file, which is made where there is none.
+    explicit WindowsOutputFile(const std::string& path)
+        : newPath_(widePath(path)),
+          file_(CreateFileW(newPath_.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_ALWAYS,
+                            FILE_ATTRIBUTE_NORMAL, nullptr)) {
+        const DWORD result = GetLastError();
+        if (!file_.isOpen()) {
+            const RunTimeError error = windowsErrorToRunTimeError(result);
+            // The file itself would have been made: what is missing is its folder.
+            raise(error == RunTimeError::FileNotFound ? RunTimeError::PathNotFound : error);
+        }
+        if (result == ERROR_ALREADY_EXISTS) {
+            newPath_.clear();
+        }
+    }
     WindowsOutputFile(const WindowsOutputFile&) = delete;
     WindowsOutputFile& operator=(const WindowsOutputFile&) = delete;
     ~WindowsOutputFile() override {
@@ -110,8 +122,9 @@ public:
     }
 
 private:
-    FileHandle file_;
+    // Of a file that was made; empty for one that was there.
     std::wstring newPath_;
+    FileHandle file_;
 };
 
 /// Size of a file; 0 for what tells none, such as a pipe.
@@ -367,18 +380,7 @@ public:
     }
 
     std::unique_ptr<OutputFile> createFile(const std::string& path) override {
-        std::wstring newPath = widePath(path);
-        FileHandle file(CreateFileW(newPath.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
-                                    OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
-        if (GetLastError() == ERROR_ALREADY_EXISTS) {
-            newPath.clear();
-        }
-        if (!file.isOpen()) {
-            const RunTimeError error = windowsErrorToRunTimeError(GetLastError());
-            // The file itself would have been made: what is missing is its folder.
-            raise(error == RunTimeError::FileNotFound ? RunTimeError::PathNotFound : error);
-        }
-        return std::make_unique<WindowsOutputFile>(std::move(file), std::move(newPath));
+        return std::make_unique<WindowsOutputFile>(path);
     }
 
     /// A clipboard that another program does not let go of is left alone.
