@@ -35,9 +35,12 @@ bool isKeyword(std::string_view word) {
 /// What to say of a value that goes on with another item, such as "n, style-def: s"; empty for any
 /// other value.
 std::string separatorHint(std::string_view value) {
+    // Longer than any keyword with blanks around it: the search costs no more in a long value.
+    constexpr std::size_t longestWord = 40;
     for (std::size_t colon = value.find(':'); colon != std::string_view::npos;
          colon = value.find(':', colon + 1)) {
-        const std::string_view before = trimWhitespace(value.substr(0, colon));
+        const std::string_view before = trimWhitespace(
+            value.substr(colon - std::min(colon, longestWord), std::min(colon, longestWord)));
         const std::size_t last = before.find_last_of(" \t\r\n,");
         const std::string word =
             lowerCase(before.substr(last == std::string_view::npos ? 0 : last + 1));

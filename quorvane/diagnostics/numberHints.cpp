@@ -101,6 +101,12 @@ std::string numberHint(std::string_view key, std::string_view value) {
         value.find_first_of("0123456789") != nowhere && value.find_first_of("eE") != nowhere) {
         return "the number is too large, or is none: write its digits, without an exponent";
     }
+    const bool isQuoted = value.size() > 2 && value.front() == value.back() &&
+                          (value.front() == '"' || value.front() == '\'');
+    if (isQuoted && readNumber(value.substr(1, value.size() - 2))) {
+        return "write the number without quotation marks: " +
+               std::string(value.substr(1, value.size() - 2));
+    }
     const std::size_t end = value.find_first_not_of("+-.0123456789");
     const std::optional<double> number = readNumber(value.substr(0, end));
     if (!number || end == nowhere) {

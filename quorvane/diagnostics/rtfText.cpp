@@ -215,7 +215,9 @@ std::string formatTextHint(std::string_view text, const RtfControl* before) {
         return "no blank stands before the number: " + word + std::string(text.substr(0, digits));
     }
     if (takesNumber && (word == "\\cf" || word == "\\highlight" || word == "\\cb")) {
-        if (const int number = CRtfGrpColorTable::colorNumber(lowerCase(text)); number > 0) {
+        std::string name = lowerCase(text);
+        std::replace(name.begin(), name.end(), ' ', '-');
+        if (const int number = CRtfGrpColorTable::colorNumber(name); number > 0) {
             return "did you mean " + word + std::to_string(number) + "?";
         }
     }

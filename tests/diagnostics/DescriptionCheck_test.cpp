@@ -99,6 +99,11 @@ TEST(DescriptionCheck, KnowsValuesInQuotationMarksAndNumbersWithAComma) {
                     "9 not-a-number: a number has no comma: write 12.5", "10 wrong-alignment"));
 }
 
+TEST(DescriptionCheck, KnowsNumbersInQuotationMarks) {
+    EXPECT_THAT(found("(doc\n(r\n(c\n(cw=\"50\")\nc)\nr)\ndoc)\n"),
+                ElementsAre("4 not-a-number: write the number without quotation marks: 50"));
+}
+
 TEST(DescriptionCheck, NamesTheOpenersThatAreMissing) {
     EXPECT_THAT(found("(doc\n(r\n(p\n(pt=x)\np)\nr)\ndoc)\n"),
                 testing::Contains("3 outside-document: (c is missing before it"));

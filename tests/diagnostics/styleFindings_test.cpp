@@ -129,6 +129,12 @@ TEST(StyleFindings, WarnOfTextInAFormat) {
                             std::to_string(CRtfGrpColorTable::colorNumber("red")) + "?"));
 }
 
+TEST(StyleFindings, KnowTheNumberOfAColorOfTwoWords) {
+    EXPECT_THAT(foundInFormat("\\highlight Dark Red"),
+                ElementsAre("1 format-text: did you mean \\highlight" +
+                            std::to_string(CRtfGrpColorTable::colorNumber("dark-red")) + "?"));
+}
+
 TEST(StyleFindings, MarkTheTextInAFormat) {
     const std::vector<Diagnostic> findings =
         checkStyleSheet("{ name: a; style-def: s; format: \\fs20 Arial 10 \\b }\n");
