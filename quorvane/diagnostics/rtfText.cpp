@@ -372,7 +372,8 @@ private:
 
     void readPlainCharacter() {
         const char character = text_[at_];
-        if (!isInvisible(utf8CharacterAt(text_, at_).code)) {
+        if (static_cast<unsigned char>(character) < 0x80 ||
+            !isInvisible(utf8CharacterAt(text_, at_).code)) {
             addToInstruction(character);
         }
         if (use_ == TextUse::Format) {
@@ -512,9 +513,11 @@ private:
         const std::string_view shown = text_.substr(at_, control.shownLength);
         if (endsCell(word) && !groups_.back().isAside) {
             report(DiagnosticId::TableControl, shown.size(), {shown}, "");
-        } else if (isOfNestedTable(word)) {
+        } else if (isOfNestedTable(word) && (word == "nestrow" || !groups_.back().isAside)) {
             nestedControls_.push_back({at_, shown.size()});
             leavesLevel_ = word == "itap" ? control.number.value_or(0) > 1 : leavesLevel_;
+        } else if (word == "pard") {
+            leavesLevel_ = false;
         } else if (beginsHeader(word)) {
             report(DiagnosticId::HeaderControl, shown.size(), {shown}, "");
         }

@@ -40,6 +40,10 @@ TEST(ReportsOfTexts, SayNothingOfATableWithinAFootnoteOrANestedOne) {
     EXPECT_EQ(reportOf(paragraphWith("\\itap2 a\\nestcell{\\*\\nesttableprops\\trowd\\cellx9"
                                      "\\nestrow}\\itap1 b")),
               "");
+    EXPECT_EQ(reportOf(paragraphWith("\\itap2 a\\nestcell{\\*\\nesttableprops\\trowd\\cellx9"
+                                     "\\nestrow}\\pard\\intbl b")),
+              "");
+    EXPECT_EQ(reportOf(paragraphWith("a{\\footnote \\itap2 b}")), "");
 }
 
 TEST(ReportsOfTexts, TellOfATableWithinACellThatIsNotWhole) {
