@@ -113,7 +113,7 @@ std::string numberHint(std::string_view key, std::string_view value) {
         return acceptedNumber(key);
     }
     const std::string rest = lowerCase(trimWhitespace(value.substr(end)));
-    if (const std::string written = withoutComma(value); !written.empty()) {
+    if (std::string written = withoutComma(value); !written.empty()) {
         return written;
     }
     if (rest.starts_with(',')) {
