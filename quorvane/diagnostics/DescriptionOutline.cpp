@@ -31,6 +31,28 @@ struct Line {
     bool isInserted = false;
 };
 
+/// An opener as it is written, without the comment behind it.
+std::string_view headOf(std::string_view line) {
+    return line.substr(0, line.find_first_of(" \t;"));
+}
+
+/// Names the openers that are missing before a line that opens a node in one that holds no such
+/// nodes; empty where it is the closers that are missing.
+std::string missingOpenerHint(NodeKind parent, NodeKind kind, std::string_view line) {
+    const bool isShort = headOf(line).size() == 2;
+    const std::string row = isShort ? "(r" : "(row";
+    const std::string cell = isShort ? "(c" : "(cell";
+    if (kind == NodeKind::Cell && parent == NodeKind::Doc) {
+        return row + " is missing before it";
+    }
+    if (kind == NodeKind::Para && parent == NodeKind::Row) {
+        return cell + " is missing before it";
+    }
+    return kind == NodeKind::Para && parent == NodeKind::Doc
+               ? row + " and " + cell + " are missing before it"
+               : std::string();
+}
+
 class OutlineReader {
 public:
     OutlineReader(const SourceText& source, const Vocabulary& vocabulary, DiagnosticEngine& engine)
@@ -182,13 +204,14 @@ private:
         if (kind != NodeKind::Doc && !nests(parent.kind, kind)) {
             if (closedByOpener_.empty()) {
                 closedByOpener_ = nodeKindName(parent.kind);
+                missingOpener_ = missingOpenerHint(parent.kind, kind, line);
             }
             leaveLevel();
             return;
         }
         if (!closedByOpener_.empty()) {
             engine_.report(DiagnosticId::ClosedByOpener, source_.placeOf(line),
-                           {line.substr(0, line.find_first_of(" \t;")), closedByOpener_});
+                           {headOf(line), closedByOpener_});
             closedByOpener_ = {};
         }
         numbers_[code(kind)] = number;
@@ -240,8 +263,25 @@ private:
         }
     }
 
+    static bool isLoneParenthesis(std::string_view line) {
+        return trimWhitespace(line.substr(0, line.find(';'))) == ")";
+    }
+
+    /// A closer of which only the ")" is there.
+    SyntaxGuess loneCloser() const {
+        SyntaxGuess guess;
+        if (levels_.size() > 1) {
+            const OutlineNode& node = *levels_.back().node;
+            guess.meant = SyntaxGuess::Meant::Closer;
+            guess.kind = node.kind;
+            guess.hint = "did you mean " + std::string(headOf(node.line).substr(1)) + ")?";
+        }
+        return guess;
+    }
+
     void readWrongLine(std::string_view line) {
-        const SyntaxGuess guess = guessLine(line, vocabulary_);
+        const SyntaxGuess guess =
+            isLoneParenthesis(line) ? loneCloser() : guessLine(line, vocabulary_);
         engine_.report(DiagnosticId::WrongSyntax, source_.placeOf(line), {line}, guess.hint);
         ++next_;
         switch (guess.meant) {
@@ -298,7 +338,8 @@ private:
         const bool isOutside = levels_.empty() || levels_.back().node->isOutside;
         if (outline_.doc && isOutside && !toldOutside_) {
             toldOutside_ = true;
-            engine_.report(DiagnosticId::OutsideDocument, source_.placeOf(line));
+            engine_.report(DiagnosticId::OutsideDocument, source_.placeOf(line), {},
+                           missingOpener_);
         }
     }
 
@@ -321,6 +362,8 @@ private:
     std::array<bool, 4> isOverLimit_{};
     // The first of the nodes that the current opener has closed; empty for none.
     std::string_view closedByOpener_;
+    // What is said of that opener where those are missing in which it could stand.
+    std::string missingOpener_;
     bool startsAsDocument_ = false;
     bool lacksElements_ = false;
     bool toldOutside_ = false;

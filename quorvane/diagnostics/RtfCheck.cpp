@@ -133,6 +133,11 @@ bool isAmong(std::string_view word, const std::string_view (&words)[Count]) {
     return std::find(std::begin(words), std::end(words), word) != std::end(words);
 }
 
+/// "1 cell", "2 cells".
+std::string counted(std::int64_t number, std::string_view noun) {
+    return std::to_string(number) + " " + std::string(noun) + (number == 1 ? "" : "s");
+}
+
 // Destinations whose text is part of the text around them.
 constexpr std::string_view bodyDestinations[] = {"rtf", "field", "fldrslt", "result"};
 
@@ -214,7 +219,7 @@ void RtfCheck::finish() {
             break;
     }
     if (!groups_.empty()) {
-        engine_.report(DiagnosticId::UnclosedGroup, groups_.back().begin);
+        engine_.report(DiagnosticId::UnclosedGroup, groups_.back().begin, {}, unclosedGroupHint());
         endDocument();
     }
 }
@@ -491,6 +496,7 @@ void RtfCheck::applyRowWord() {
             break;
         case Role::Row:
             endRow(row, row.cells);
+            noteDepth(row);
             row.cells = 0;
             row.isOpen = false;
             row.isDefinedAnew = false;
@@ -519,6 +525,7 @@ void RtfCheck::applyRowWord() {
 /// A definition may stand before the row's cells, behind them, or in both places.
 void RtfCheck::defineRow(Row& row) {
     row.nextBegin = wordPlace();
+    row.depth = row.isOpen ? row.depth : groups_.size();
     row.definitionsBefore = row.definitions;
     row.isDefinedAnew = true;
     row.definitions = 0;
@@ -558,8 +565,33 @@ void RtfCheck::endRow(Row& row, std::int64_t cells) {
         engine_.report(DiagnosticId::RowWithoutCells, wordPlace());
     } else if (cells != row.definitions) {
         engine_.report(DiagnosticId::CellCount, wordPlace(),
-                       {std::to_string(cells), std::to_string(row.definitions)});
+                       {counted(cells, "cell"), counted(row.definitions, "cell definition")});
     }
+}
+
+/// Looks how many groups are open at the end of a row. Where that is one more than in the rows
+/// before, the row has a "{" too much.
+void RtfCheck::noteDepth(const Row& row) {
+    if (usualDepth_ == 0) {
+        usualDepth_ = groups_.size();
+        firstRowLine_ = row.depth > 0 && row.depth < usualDepth_ ? wordBegin_.line : 0;
+    }
+    if (groups_.size() <= usualDepth_) {
+        deeperRowLine_ = 0;
+    } else if (deeperRowLine_ == 0) {
+        deeperRowLine_ = wordBegin_.line;
+    }
+}
+
+/// Where a group was most likely left open, when all but the document's own are closed: a "}" of
+/// another group has closed it then.
+std::string RtfCheck::unclosedGroupHint() const {
+    const std::int64_t line = deeperRowLine_ != 0 ? deeperRowLine_ : firstRowLine_;
+    if (groups_.size() > 1 || line == 0) {
+        return {};
+    }
+    return "a group is open where the row of line " + std::to_string(line) + " ends that was not " +
+           (deeperRowLine_ != 0 ? "at the ends of the rows before" : "where it begins");
 }
 
 void RtfCheck::applyReference() {
@@ -568,7 +600,7 @@ void RtfCheck::applyReference() {
     if (role == Role::Font) {
         if (destination == Destination::FontTable) {
             if (!fonts_.insert(value_).second) {
-                engine_.report(DiagnosticId::DuplicateFont, wordPlace(), {number_});
+                engine_.report(DiagnosticId::DuplicateFont, wordPlace(), {std::to_string(value_)});
             }
         } else if (!fonts_.contains(value_)) {
             engine_.report(DiagnosticId::UnknownFont, wordPlace(), {std::to_string(value_)});
@@ -602,7 +634,8 @@ void RtfCheck::checkDefaultFont() {
 void RtfCheck::defineStyle(std::size_t kind) {
     Group& group = groups_.back();
     if (!group.hasNumber && !styles_[kind].insert(value_).second) {
-        engine_.report(DiagnosticId::DuplicateStyleNumber, wordPlace(), {word_ + number_});
+        engine_.report(DiagnosticId::DuplicateStyleNumber, wordPlace(),
+                       {word_ + std::to_string(value_)});
     }
     if (!group.hasNumber && kind == 0) {
         lastStyle_ = value_;

@@ -75,6 +75,8 @@ private:
         // before it has.
         Place nextBegin{};
         std::int64_t definitionsBefore = 0;
+        // How many groups are open at its definition; 0 without one.
+        std::size_t depth = 0;
         bool isOpen = false;
         bool isDefinedAnew = false;
     };
@@ -100,6 +102,8 @@ private:
     void checkDefaultFont();
     void defineStyle(std::size_t kind);
     void endRow(Row& row, std::int64_t cells);
+    void noteDepth(const Row& row);
+    std::string unclosedGroupHint() const;
     void endDocument();
     std::int64_t& nestedCells();
 
@@ -136,6 +140,11 @@ private:
     Row nestedRow_;
     std::array<std::int64_t, 32> nestedCells_{};
     std::int64_t level_ = 1;
+    // How many groups are open where a row ends, the line of the first row of all that ends deeper
+    // than it begins, and that of the first row that ends deeper than the rows before; 0 for none.
+    std::size_t usualDepth_ = 0;
+    std::int64_t firstRowLine_ = 0;
+    std::int64_t deeperRowLine_ = 0;
     // Where the cells of nested rows begin that are not ended.
     Place nestedBegin_;
     bool isNestedOpen_ = false;

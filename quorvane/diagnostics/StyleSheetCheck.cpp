@@ -19,6 +19,7 @@
 #include "quorvane/stylesheet/stylesheetParser.h"
 #include "quorvane/support/RtfError.h"
 #include "quorvane/support/textCase.h"
+#include "quorvane/support/trimming.h"
 
 namespace quorvane {
 
@@ -26,6 +27,29 @@ namespace {
 
 constexpr std::string_view keywords[] = {"style-def", "format", "based-on", "next", "additive"};
 constexpr int colorCount = 57;
+
+bool isKeyword(std::string_view word) {
+    return std::find(std::begin(keywords), std::end(keywords), word) != std::end(keywords);
+}
+
+/// What to say of a value that goes on with another item, such as "n, style-def: s"; empty for any
+/// other value.
+std::string separatorHint(std::string_view value) {
+    // Longer than any keyword with blanks around it: the search costs no more in a long value.
+    constexpr std::size_t longestWord = 40;
+    for (std::size_t colon = value.find(':'); colon != std::string_view::npos;
+         colon = value.find(':', colon + 1)) {
+        const std::string_view before = trimWhitespace(
+            value.substr(colon - std::min(colon, longestWord), std::min(colon, longestWord)));
+        const std::size_t last = before.find_last_of(" \t\r\n,");
+        const std::string word =
+            lowerCase(before.substr(last == std::string_view::npos ? 0 : last + 1));
+        if (last != std::string_view::npos && isKeyword(word)) {
+            return "items are separated by ; which is missing before " + word;
+        }
+    }
+    return {};
+}
 
 std::vector<std::string_view> viewsOf(const std::vector<std::string>& texts) {
     return {texts.begin(), texts.end()};
@@ -132,18 +156,31 @@ private:
         if (item.keyword == "style-def") {
             constexpr std::string_view kinds[] = {"s", "cs", "cell"};
             if (value != "s" && value != "cs" && value != "cell") {
-                report(DiagnosticId::BadStyleKind, item.value, {value}, kindHint(value, kinds));
+                const std::string separator = separatorHint(item.value);
+                report(DiagnosticId::BadStyleKind, item.value, {value},
+                       separator.empty() ? kindHint(value, kinds) : separator);
             }
         } else if (item.keyword == "additive") {
             if (value != "yes" && value != "no") {
-                report(DiagnosticId::BadAdditive, item.value, {value}, "write yes or no");
+                const std::string separator = separatorHint(item.value);
+                report(DiagnosticId::BadAdditive, item.value, {value},
+                       separator.empty() ? "write yes or no" : separator);
             }
-        } else if (std::find(std::begin(keywords), std::end(keywords), item.keyword) ==
-                   std::end(keywords)) {
+        } else if (!isKeyword(item.keyword)) {
             report(DiagnosticId::BadKeyword, item.writtenKeyword, {item.keyword},
-                   item.keyword == "name" ? "name is the first item of a definition"
-                                          : didYouMean(item.keyword, keywords));
+                   keywordHint(item.keyword));
         }
+    }
+
+    static std::string keywordHint(std::string_view keyword) {
+        if (keyword == "name") {
+            return "name is the first item of a definition";
+        }
+        const std::string_view word = keyword.substr(0, keyword.find_first_of(" \t\r\n="));
+        if (word.size() < keyword.size() && isKeyword(word)) {
+            return "a : follows the keyword " + std::string(word);
+        }
+        return didYouMean(keyword, keywords);
     }
 
     static std::string kindHint(const std::string& value, std::span<const std::string_view> kinds) {
@@ -164,9 +201,7 @@ private:
         std::unordered_set<std::string> seen;
         for (std::size_t i = 1; i < definition.items.size(); ++i) {
             const SheetItem& item = definition.items[i];
-            const bool isKeyword = std::find(std::begin(keywords), std::end(keywords),
-                                             item.keyword) != std::end(keywords);
-            if (isKeyword && !seen.insert(item.keyword).second) {
+            if (isKeyword(item.keyword) && !seen.insert(item.keyword).second) {
                 report(DiagnosticId::RepeatedItem, item.writtenKeyword, {item.keyword});
             } else if (item.keyword == "format") {
                 findFormatWarningsOf(item, kind);
@@ -174,7 +209,8 @@ private:
         }
         const std::vector<std::string_view> names = namesOf(definition);
         if (!names.empty() && !seen.contains("style-def")) {
-            report(DiagnosticId::NoStyleKind, definition.items.front().whole);
+            report(DiagnosticId::NoStyleKind, definition.items.front().whole, {},
+                   separatorHint(definition.items.front().value));
         }
         for (const std::string_view name : names) {
             findNameWarnings(name, kind);

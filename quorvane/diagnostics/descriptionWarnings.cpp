@@ -42,6 +42,7 @@ public:
             if (leaf.isFaulty) {
                 continue;
             }
+            findCutValue(leaf);
             if (leaf.key.ends_with("-key")) {
                 findLeadingZeros(leaf);
                 findLostAlignment(node, leaf);
@@ -73,6 +74,29 @@ private:
     void report(DiagnosticId id, const OutlineLeaf& leaf,
                 std::initializer_list<std::string_view> arguments, std::string hint = {}) {
         engine_.report(id, source_.placeOf(leaf.text), arguments, std::move(hint));
+    }
+
+    /// A value with a "(" that ends at the first ")" while another one stands in the comment behind
+    /// the leaf.
+    void findCutValue(const OutlineLeaf& leaf) {
+        constexpr std::string_view escape = "\\'29";
+        std::ptrdiff_t open = 0;
+        for (std::size_t at = 0; at < leaf.text.size(); ++at) {
+            const bool isClosed = leaf.text.substr(at).starts_with(escape) && open > 0;
+            open += leaf.text[at] == '(' ? 1 : (isClosed ? -1 : 0);
+        }
+        const std::size_t end = source_.text().find(')', startOf(leaf) + leaf.text.size());
+        if (open == 0 || end == std::string_view::npos) {
+            return;
+        }
+        const std::string_view rest = source_.text().substr(end);
+        const std::string_view line = rest.substr(0, rest.find_first_of("\r\n"));
+        if (const std::size_t last = line.rfind(')'); last > 0) {
+            engine_.report(DiagnosticId::CutValue, source_.placeOf(line.substr(0, last + 1)),
+                           {line.substr(0, last)},
+                           leaf.key == "para-text" ? "write \\'29 for a ) in a text"
+                                                   : "this value can hold no )");
+        }
     }
 
     void findLeadingZeros(const OutlineLeaf& leaf) {
@@ -159,7 +183,31 @@ private:
         return static_cast<std::size_t>(leaf.text.data() - source_.text().data());
     }
 
+    /// Without a ">" that ends it, an inline style is none and stands in the text as it is written.
+    void findUnclosedInlineStyles(std::string_view text) {
+        std::vector<std::string_view> open;
+        for (std::size_t at = text.find_first_of("<>"); at != std::string_view::npos;
+             at = text.find_first_of("<>", at + 1)) {
+            const std::size_t end = text.find_first_of("=<>", at + 1);
+            const std::string_view name = text.substr(at + 1, end - at - 1);
+            if (text[at] == '>' && !open.empty()) {
+                open.pop_back();
+            } else if (text[at] == '<' && end != std::string_view::npos && text[end] == '=' &&
+                       styles_->find(StyleKind::Character, name) > 0) {
+                open.push_back(name);
+            }
+        }
+        constexpr std::size_t mostTold = 10;
+        open.resize(std::min(open.size(), mostTold));
+        for (const std::string_view name : open) {
+            styles_->markUsed(StyleKind::Character, name);
+            engine_.report(DiagnosticId::UnclosedInlineStyle, source_.placeOf(name), {name},
+                           "a > ends the text of the style: <" + std::string(name) + "=Total>");
+        }
+    }
+
     void findInlineStyles(std::string_view text) {
+        findUnclosedInlineStyles(text);
         const InlineTokens tokens(text);
         for (std::size_t open = text.find('<'); open != std::string_view::npos;
              open = text.find('<', open + 1)) {

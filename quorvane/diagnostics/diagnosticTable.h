@@ -596,6 +596,56 @@ QUORVANE_DIAGNOSTIC(UnknownCharacterStyle, "unknown-character-style", Warning, D
     "{ name: reserved; style-def: s; format: \\fs20 }\n"
     "{ name: strong; style-def: cs; format: \\b }\n")
 
+QUORVANE_DIAGNOSTIC(CutValue, "cut-value", Warning, Description,
+    "The value ends here: {0} is lost.",
+    "A value ends at the first `)`, and behind a `;` the rest of the line is a comment. A `(` in the "
+    "value and one more `)` in that comment are a sign that the comment was meant to be text. Write "
+    "`\\'29` for a `)` in a text.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=see (page 2); thanks)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=see (page 2\\'29; thanks)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(UnclosedInlineStyle, "unclosed-inline-style", Warning, Description,
+    "The inline style {0} is not closed: the text shows it as it is written.",
+    "An inline style is the style's name between `<` and `=`, then its text, then a `>`. Without "
+    "that `>` it stands in the document as it stands in the description.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=<strong=Total)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=<strong=Total>)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "{ name: reserved; style-def: s; format: \\fs20 }\n"
+    "{ name: strong; style-def: cs; format: \\b }\n")
+
 QUORVANE_DIAGNOSTIC(UnknownCellStyle, "unknown-cell-style", Warning, Description,
     "The stylesheet has no cell style {0}: the cell gets background 0.",
     "A cell style that the stylesheet does not have gives the cell the background 0, which "
@@ -803,7 +853,9 @@ QUORVANE_DIAGNOSTIC(TableControl, "table-control", Warning, Description,
     "{0} breaks the table in the middle of a text.",
     "`\\cell`, `\\row`, `\\trowd`, `\\cellx` and `\\sect` end cells, rows and pages. In a text or a "
     "format they come on top of those that the table is made of: its row has more cells then "
-    "than definitions, and readers lose it. Write a cell or a row of the description instead.",
+    "than definitions, and readers lose it. Write a cell or a row of the description instead. A table "
+    "within the cell, which is made of `\\itap`, `\\nestcell` and `\\nestrow`, has whole rows, and "
+    "`\\itap1` behind it.",
     "(doc\n"
     "(r\n"
     "(c\n"
@@ -823,6 +875,31 @@ QUORVANE_DIAGNOSTIC(TableControl, "table-control", Warning, Description,
     "(c\n"
     "(p\n"
     "(pt=12)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(HeaderControl, "header-control", Warning, Description,
+    "{0} belongs at the beginning of a document.",
+    "`\\rtf`, `\\fonttbl`, `\\colortbl` and `\\stylesheet` begin a document and its tables. It has "
+    "them already: what a second one in the middle of it does is up to the reader. Of an RTF file "
+    "only what follows its tables can be a text.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt={\\rtf1 Total})\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt={\\b Total})\n"
     "p)\n"
     "c)\n"
     "r)\n"
@@ -1306,6 +1383,15 @@ QUORVANE_DIAGNOSTIC(UnknownCellColor, "unknown-cell-color", Warning, StyleSheet,
     "{ name: shaded; style-def: cell; format: silver }\n",
     "")
 
+QUORVANE_DIAGNOSTIC(FormatText, "format-text", Warning, StyleSheet,
+    "{0} is no control word: it is printed wherever the style is used.",
+    "The format of a paragraph style and of a character style goes into the document as it is. It "
+    "is made of control words, each with its backslash and its number behind it; any other word "
+    "is text, which each paragraph of the style begins with.",
+    "{ name: normal; style-def: s; format: fs20 b }\n",
+    "{ name: normal; style-def: s; format: \\fs20\\b }\n",
+    "")
+
 QUORVANE_DIAGNOSTIC(NotRtf, "not-rtf", Error, Rtf,
     "The file doesn't begin with {\\rtf.",
     "An RTF file begins with `{\\rtf` and its version.",
@@ -1369,7 +1455,7 @@ QUORVANE_DIAGNOSTIC(DeepNesting, "deep-nesting", Error, Rtf,
     "")
 
 QUORVANE_DIAGNOSTIC(CellCount, "cell-count", Error, Rtf,
-    "The row has {0} cells and {1} cell definitions.",
+    "The row has {0} and {1}.",
     "A row has as many cells, each ended by `\\cell`, as it has definitions, each ended by "
     "`\\cellx`.",
     "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"

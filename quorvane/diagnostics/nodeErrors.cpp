@@ -34,11 +34,22 @@ constexpr std::pair<std::string_view, std::string_view> otherWords[] = {
     {"middle", "centered"},   {"justify", "justified"}, {"block", "justified"},
 };
 
+/// The value within its quotation marks; the value where it has none.
+std::string_view withoutQuotes(std::string_view value) {
+    const bool isQuoted = value.size() > 2 && value.front() == value.back() &&
+                          (value.front() == '"' || value.front() == '\'');
+    return isQuoted ? value.substr(1, value.size() - 2) : value;
+}
+
 /// `noun` says what the names are names of.
 std::string nameHint(const std::string& value, const std::vector<std::string_view>& names,
                      std::string_view noun) {
     if (value.empty()) {
         return "the value is missing: write none for no " + std::string(noun);
+    }
+    if (const std::string_view bare = withoutQuotes(value); bare.size() < value.size()) {
+        const std::string name = lowerCase(bare);
+        return didYouMean(name, names);
     }
     const std::string word = lowerCase(value);
     for (const auto& [other, meant] : otherWords) {

@@ -52,8 +52,27 @@ std::string acceptedNumber(std::string_view key) {
     if (isInTwips(key)) {
         return "write a number of twips, 1440 of which are an inch and 567 a centimetre";
     }
-    return key == "cell-width" ? "write a number, per cent of the row's width, without a sign"
+    return key == "cell-width" ? "write a number, per cent of the room between the page's margins, "
+                                 "without a sign"
                                : "write a number";
+}
+
+/// What to write for a number with one comma; empty for anything else.
+std::string withoutComma(std::string_view value) {
+    const std::size_t comma = value.find(',');
+    std::string text(value);
+    if (comma == nowhere || text.find('.') != std::string::npos) {
+        return {};
+    }
+    text[comma] = '.';
+    const std::string withPoint = text;
+    text.erase(comma, 1);
+    if (!readNumber(withPoint) || comma + 1 == value.size()) {
+        return {};
+    }
+    // Three digits behind a comma are thousandths to some and thousands to others.
+    return value.size() - comma == 4 ? "a number has no comma: write " + text + ", or " + withPoint
+                                     : "a number has no comma: write " + withPoint;
 }
 
 std::string lengthHint(std::string_view key, double number, const Unit& unit,
@@ -82,12 +101,21 @@ std::string numberHint(std::string_view key, std::string_view value) {
         value.find_first_of("0123456789") != nowhere && value.find_first_of("eE") != nowhere) {
         return "the number is too large, or is none: write its digits, without an exponent";
     }
+    const bool isQuoted = value.size() > 2 && value.front() == value.back() &&
+                          (value.front() == '"' || value.front() == '\'');
+    if (isQuoted && readNumber(value.substr(1, value.size() - 2))) {
+        return "write the number without quotation marks: " +
+               std::string(value.substr(1, value.size() - 2));
+    }
     const std::size_t end = value.find_first_not_of("+-.0123456789");
     const std::optional<double> number = readNumber(value.substr(0, end));
     if (!number || end == nowhere) {
         return acceptedNumber(key);
     }
     const std::string rest = lowerCase(trimWhitespace(value.substr(end)));
+    if (std::string written = withoutComma(value); !written.empty()) {
+        return written;
+    }
     if (rest.starts_with(',')) {
         return "a number has no comma, but at most one point: " + acceptedNumber(key);
     }

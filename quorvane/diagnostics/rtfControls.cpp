@@ -37,6 +37,12 @@ std::int32_t cutNumber(std::string_view digits) {
 
 }  // namespace
 
+bool isInvisible(char32_t code) {
+    return code == 0xAD || (code >= 0x200B && code <= 0x200F) ||
+           (code >= 0x202A && code <= 0x202E) || (code >= 0x2060 && code <= 0x2064) ||
+           code == 0xFEFF;
+}
+
 RtfControl rtfControlAt(std::string_view text, std::size_t backslash) {
     RtfControl control;
     std::size_t end = backslash + 1;
@@ -71,12 +77,19 @@ RtfControl rtfControlAt(std::string_view text, std::size_t backslash) {
 
 std::optional<char> characterOf(const RtfControl& control, std::string_view text,
                                 std::size_t backslash) {
-    const auto ascii = [](int code) {
-        return code >= 0x20 && code < 0x7F ? static_cast<char>(code) : '?';
+    const auto ascii = [](char32_t code) -> std::optional<char> {
+        if (isInvisible(code)) {
+            return std::nullopt;
+        }
+        if (code < 0x20 || code == 0xA0) {
+            return ' ';
+        }
+        return code < 0x7F ? static_cast<char>(code) : '?';
     };
     if (control.symbol == '\'') {
         return control.length == 4
-                   ? ascii(*hexDigit(text[backslash + 2]) * 16 + *hexDigit(text[backslash + 3]))
+                   ? ascii(static_cast<char32_t>(*hexDigit(text[backslash + 2]) * 16 +
+                                                 *hexDigit(text[backslash + 3])))
                    : '?';
     }
     switch (control.symbol) {
@@ -92,7 +105,8 @@ std::optional<char> characterOf(const RtfControl& control, std::string_view text
             break;
     }
     if (control.word == "u" && control.number) {
-        return ascii(*control.number);
+        // Readers take the number's lowest 16 bits.
+        return ascii(static_cast<char32_t>(*control.number) & 0xFFFFU);
     }
     return control.word == "tab" || control.word == "line" || control.word == "par"
                ? std::optional<char>(' ')

@@ -25,8 +25,12 @@ struct RtfControl {
 /// The control at a backslash of the text.
 RtfControl rtfControlAt(std::string_view text, std::size_t backslash);
 
+/// True for a character that is not to be seen and takes up no room: the soft hyphen, those of zero
+/// width, and those that set the direction of writing.
+bool isInvisible(char32_t code);
+
 /// The character that a control stands for, where it is one of ASCII; '?' for one that is none of
-/// them, and nothing where the control is no character.
+/// them, and nothing where the control is no character or one that is invisible.
 std::optional<char> characterOf(const RtfControl& control, std::string_view text,
                                 std::size_t backslash);
 

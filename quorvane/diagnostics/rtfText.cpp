@@ -11,17 +11,22 @@
 #include <utility>
 #include <vector>
 
+#include "quorvane/diagnostics/RtfCheck.h"
 #include "quorvane/diagnostics/documentNumbers.h"
 #include "quorvane/diagnostics/nearestWord.h"
 #include "quorvane/diagnostics/rtfControls.h"
 #include "quorvane/diagnostics/rtfWords.h"
+#include "quorvane/rtfgroups/CRtfGrpColorTable.h"
 #include "quorvane/support/codePage1252.h"
 #include "quorvane/support/textCase.h"
+#include "quorvane/support/trimming.h"
 #include "quorvane/support/utf8.h"
 
 namespace quorvane {
 
 namespace {
+
+constexpr std::size_t nowhere = std::string_view::npos;
 
 std::string numberedCharacter(char32_t code) {
     constexpr std::string_view digits = "0123456789ABCDEF";
@@ -123,6 +128,26 @@ bool endsCell(std::string_view word) {
     return std::find(std::begin(words), std::end(words), word) != std::end(words);
 }
 
+/// Control words of a table within a cell, which are sound in a text that holds all of its rows.
+bool isOfNestedTable(std::string_view word) {
+    return word == "nestcell" || word == "nestrow" || word == "itap";
+}
+
+/// Control words that begin what a document begins with.
+bool beginsHeader(std::string_view word) {
+    return word == "rtf" || word == "fonttbl" || word == "colortbl" || word == "stylesheet";
+}
+
+/// True when the rows of the tables within a text are whole.
+bool hasWholeNestedRows(std::string_view text) {
+    const std::vector<Diagnostic> findings =
+        checkRtf("{\\rtf1\\trowd\\cellx9 " + std::string(text) + "\\cell\\row}");
+    return std::none_of(findings.begin(), findings.end(), [](const Diagnostic& finding) {
+        return finding.id == DiagnosticId::CellCount || finding.id == DiagnosticId::UnendedRow ||
+               finding.id == DiagnosticId::RowWithoutCells;
+    });
+}
+
 /// Destinations whose text is part of the text around them.
 bool isOfText(std::string_view destination) {
     return destination == "field" || destination == "fldrslt" || destination == "rtf" ||
@@ -156,6 +181,64 @@ std::string nearControlWord(std::string_view word) {
     return nearest.empty() ? std::string() : "did you mean \\" + std::string(nearest) + "?";
 }
 
+/// A control word that stands in a format without its backslash, with one in front; empty for any
+/// other word.
+std::string asControlWord(std::string_view word) {
+    const std::string control = "\\" + lowerCase(word);
+    const RtfControl read = rtfControlAt(control, 0);
+    return isRtfWord(read.word) && read.length == control.size() ? control : std::string();
+}
+
+/// The control words that a text in a format was most likely meant to be, where all of its words
+/// are known.
+std::string controlWordsMeant(std::string_view text) {
+    constexpr std::string_view separators = " \t\r\n,/";
+    std::string meant;
+    for (std::size_t start = text.find_first_not_of(separators); start != std::string_view::npos;) {
+        const std::size_t end = std::min(text.find_first_of(separators, start), text.size());
+        const std::string control = asControlWord(text.substr(start, end - start));
+        if (control.empty()) {
+            return {};
+        }
+        meant += control;
+        start = text.find_first_not_of(separators, end);
+    }
+    return meant;
+}
+
+/// What to write in place of a text in a format that follows a control word.
+std::string formatTextHint(std::string_view text, const RtfControl* before) {
+    const std::string word = before ? "\\" + lowerCase(before->word) : std::string();
+    const bool takesNumber = before && !before->number;
+    const std::size_t digits = std::min(text.find_first_not_of("0123456789"), text.size());
+    if (takesNumber && digits > 0) {
+        return "no blank stands before the number: " + word + std::string(text.substr(0, digits));
+    }
+    if (takesNumber && (word == "\\cf" || word == "\\highlight" || word == "\\cb")) {
+        std::string name = lowerCase(text);
+        std::replace(name.begin(), name.end(), ' ', '-');
+        if (const int number = CRtfGrpColorTable::colorNumber(name); number > 0) {
+            return "did you mean " + word + std::to_string(number) + "?";
+        }
+    }
+    if (before && before->number && text.size() > 1 && (text[0] == '.' || text[0] == ',') &&
+        std::isdigit(static_cast<unsigned char>(text[1])) != 0) {
+        return "the number of a control word is a whole one";
+    }
+    if (const std::string meant = controlWordsMeant(text); !meant.empty()) {
+        return "did you mean " + meant + "?";
+    }
+    if (text == ",") {
+        return "control words follow each other without a comma";
+    }
+    if (before && before->number && lowerCase(text) == "pt") {
+        return word == "\\fs"
+                   ? "write \\fs and the number of half points alone: \\fs20 is 10 points"
+                   : "write the number alone: a unit is no part of it";
+    }
+    return "a format is made of control words, such as \\fs20\\b";
+}
+
 class TextWarnings {
 public:
     TextWarnings(std::string_view text, TextUse use, const KnownStyles* styles,
@@ -172,12 +255,17 @@ public:
         while (at_ < text_.size()) {
             takeCharacter();
         }
+        endFormatText();
+        findBrokenNestedTables();
         for (auto group = groups_.begin() + 1; group != groups_.end(); ++group) {
             at_ = group->brace;
             report(DiagnosticId::UnbalancedBrace, 1, {"{"}, braceHint('{'));
         }
         for (const Instruction& instruction : instructions_) {
-            const std::string_view brought = broughtByField(instruction.text);
+            std::string_view brought = broughtByField(instruction.text);
+            if (brought.empty()) {
+                brought = broughtByField(instruction.substituted);
+            }
             if (!brought.empty()) {
                 at_ = instruction.at;
                 report(DiagnosticId::EmbeddedContent, instruction.length, {"\\fldinst", brought},
@@ -206,6 +294,13 @@ private:
         std::size_t at;
         std::size_t length;
         std::string text;
+        // The same for readers that take one character to stand in for each \u.
+        std::string substituted;
+    };
+
+    struct Part {
+        std::size_t at;
+        std::size_t length;
     };
 
     struct Group {
@@ -228,6 +323,18 @@ private:
         }
     }
 
+    void findBrokenNestedTables() {
+        if (nestedControls_.empty() || (!leavesLevel_ && hasWholeNestedRows(text_))) {
+            return;
+        }
+        for (const Part& part : nestedControls_) {
+            at_ = part.at;
+            report(DiagnosticId::TableControl, part.length, {text_.substr(at_, part.length)},
+                   "the rows of a table within a cell are whole where they stand in its text: each "
+                   "\\nestcell has its definition, and \\itap1 follows");
+        }
+    }
+
     bool isOfStyleSheet() const { return use_ != TextUse::Text; }
 
     std::string braceHint(char brace) const {
@@ -242,6 +349,9 @@ private:
 
     void takeCharacter() {
         const char character = text_[at_];
+        if (character == '{' || character == '}' || character == '\\') {
+            endFormatText();
+        }
         if (character == '{') {
             openGroup();
         } else if (character == '}') {
@@ -262,7 +372,13 @@ private:
 
     void readPlainCharacter() {
         const char character = text_[at_];
-        addToInstruction(character);
+        if (static_cast<unsigned char>(character) < 0x80 ||
+            !isInvisible(utf8CharacterAt(text_, at_).code)) {
+            addToInstruction(character);
+        }
+        if (use_ == TextUse::Format) {
+            readFormatText(character);
+        }
         groups_.back().isFresh = false;
         if (static_cast<unsigned char>(character) >= 0x80) {
             readOtherCharacter();
@@ -276,17 +392,53 @@ private:
         ++at_;
     }
 
-    void addToInstruction(char character) {
-        if (substitutesLeft_ > 0) {
+    /// In a format that begins with "^", a "^" and a letter begin each of its parts.
+    void readFormatText(char character) {
+        if (character == '^' && text_.front() == '^') {
+            endFormatText();
+            partBegin_ = at_;
+            lastControl_.reset();
+            return;
+        }
+        const bool isPrinted =
+            partBegin_ == nowhere ||
+            (at_ > partBegin_ + 1 &&
+             std::string_view("vfp").find(lowerCase(text_.substr(partBegin_ + 1, 1))) != nowhere);
+        if (isPrinted && at_ >= swallowedEnd_ && !isWhitespace(character)) {
+            formatTextBegin_ = std::min(formatTextBegin_, at_);
+            formatTextEnd_ = at_ + 1;
+        }
+    }
+
+    /// Tells of the text in a format that ends here.
+    void endFormatText() {
+        if (formatTextBegin_ == nowhere) {
+            return;
+        }
+        const std::size_t at = std::exchange(at_, std::exchange(formatTextBegin_, nowhere));
+        const std::string_view text = text_.substr(at_, formatTextEnd_ - at_);
+        report(DiagnosticId::FormatText, text.size(), {text},
+               formatTextHint(text, lastControl_ ? &*lastControl_ : nullptr));
+        at_ = at;
+    }
+
+    /// Adds a character to what the field is to do; `isWritten` is false for one that a \u names.
+    void addToInstruction(char character, bool isWritten = true) {
+        const bool isSubstitute = isWritten && std::exchange(isBehindUnicode_, false);
+        if (isWritten && substitutesLeft_ > 0) {
             --substitutesLeft_;
             return;
         }
         const Group& group = groups_.back();
-        if (group.instruction > 0 && !group.isAside) {
-            std::string& text = instructions_[group.instruction - 1].text;
-            if (text.size() < longestInstruction) {
-                text += character;
-            }
+        if (group.instruction == 0 || group.isAside) {
+            return;
+        }
+        Instruction& instruction = instructions_[group.instruction - 1];
+        if (instruction.text.size() < longestInstruction) {
+            instruction.text += character;
+        }
+        if (!isSubstitute && instruction.substituted.size() < longestInstruction) {
+            instruction.substituted += character;
         }
     }
 
@@ -297,6 +449,7 @@ private:
         group.isFresh = true;
         groups_.push_back(group);
         substitutesLeft_ = 0;
+        isBehindUnicode_ = false;
     }
 
     void closeGroup() {
@@ -306,12 +459,15 @@ private:
             groups_.pop_back();
         }
         substitutesLeft_ = 0;
+        isBehindUnicode_ = false;
         ++at_;
     }
 
     void readBackslash() {
         const RtfControl control = rtfControlAt(text_, at_);
+        lastControl_.reset();
         if (!control.word.empty()) {
+            lastControl_ = control;
             readControlWord(control);
             return;
         }
@@ -326,12 +482,14 @@ private:
         }
         if (control.symbol == '\'' && control.length < 4) {
             report(DiagnosticId::LoneBackslash, 2, {}, "two hexadecimal digits follow \\'");
+            swallowedEnd_ = at_ + 4;
             at_ += 2;
         } else if (control.symbol != '\0' &&
                    std::string_view("'\\{}~-_|:").find(control.symbol) != std::string_view::npos) {
             at_ += control.length;
         } else {
             report(DiagnosticId::LoneBackslash, 1, {}, backslashHint());
+            swallowedEnd_ = at_ + 2;
             ++at_;
         }
     }
@@ -355,6 +513,13 @@ private:
         const std::string_view shown = text_.substr(at_, control.shownLength);
         if (endsCell(word) && !groups_.back().isAside) {
             report(DiagnosticId::TableControl, shown.size(), {shown}, "");
+        } else if (isOfNestedTable(word) && (word == "nestrow" || !groups_.back().isAside)) {
+            nestedControls_.push_back({at_, shown.size()});
+            leavesLevel_ = word == "itap" ? control.number.value_or(0) > 1 : leavesLevel_;
+        } else if (word == "pard") {
+            leavesLevel_ = false;
+        } else if (beginsHeader(word)) {
+            report(DiagnosticId::HeaderControl, shown.size(), {shown}, "");
         }
         if (const std::string_view missing = missingReference(word, control, styles_);
             !missing.empty() && !groups_.back().isAside) {
@@ -366,10 +531,11 @@ private:
 
     void readCharacterWord(const std::string& word, const RtfControl& control) {
         if (const std::optional<char> character = characterOf(control, text_, at_)) {
-            addToInstruction(*character);
+            addToInstruction(*character, word != "u");
         }
         if (word == "u") {
             substitutesLeft_ = groups_.back().substitutes;
+            isBehindUnicode_ = true;
         } else if (word == "uc") {
             groups_.back().substitutes = std::clamp(control.number.value_or(1), 0, 100);
         }
@@ -378,7 +544,7 @@ private:
     void enterDestination(const std::string& word, const RtfControl& control) {
         Group& group = groups_.back();
         if (word == "fldinst") {
-            instructions_.push_back({at_, control.shownLength, {}});
+            instructions_.push_back({at_, control.shownLength, {}, {}});
             group.instruction = instructions_.size();
             group.isAside = false;
         } else if (group.isFresh && isRtfDestination(word)) {
@@ -472,8 +638,21 @@ private:
     // The groups that are open, behind one for the text itself.
     std::vector<Group> groups_;
     std::vector<Instruction> instructions_;
+    // The text in a format that is being read, and the control word before it.
+    std::size_t formatTextBegin_ = nowhere;
+    std::size_t formatTextEnd_ = 0;
+    // Where that ends which a lone backslash swallows.
+    std::size_t swallowedEnd_ = 0;
+    // Where the "^" stands that begins the part of the format at hand.
+    std::size_t partBegin_ = nowhere;
+    std::optional<RtfControl> lastControl_;
+    std::vector<Part> nestedControls_;
+    // True when the text ends on a level of a table within the cell.
+    bool leavesLevel_ = false;
     int openTokens_ = 0;
     int substitutesLeft_ = 0;
+    // True where the next character stands in for the one that a \u names.
+    bool isBehindUnicode_ = false;
     std::array<int, 256> told_{};
 };
 

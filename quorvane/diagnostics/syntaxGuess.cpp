@@ -1,5 +1,6 @@
 #include "quorvane/diagnostics/syntaxGuess.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <vector>
@@ -48,7 +49,14 @@ std::string nameFor(NodeKind kind, std::string_view written) {
     return written.size() == 1 && kind != NodeKind::Doc ? lowerCase(written) : std::string(name);
 }
 
-SyntaxGuess guessLeaf(std::string_view line, std::size_t equals) {
+/// True when a line goes on behind a leaf with another one.
+bool beginsLeaf(std::string_view rest, const Vocabulary& vocabulary) {
+    const std::size_t equals = rest.find('=');
+    return rest.starts_with('(') && equals != nowhere &&
+           isKey(TrimEx(rest.substr(1, equals - 1)), vocabulary);
+}
+
+SyntaxGuess guessLeaf(std::string_view line, std::size_t equals, const Vocabulary& vocabulary) {
     SyntaxGuess guess;
     const bool isOpened = line.front() == '(';
     guess.key = TrimEx(line.substr(isOpened ? 1 : 0, equals - (isOpened ? 1 : 0)));
@@ -66,6 +74,8 @@ SyntaxGuess guessLeaf(std::string_view line, std::size_t equals) {
             "the ) is missing; a value ends on its own line: write \\line for a line break";
     } else if (line.find(')') < equals) {
         guess.hint = "the key holds a )";
+    } else if (beginsLeaf(trimWhitespace(line.substr(close + 1)), vocabulary)) {
+        guess.hint = "each node and each key stands on a line of its own";
     } else {
         guess.hint = "the value ends at the first ): write \\'29 for a ) in a text";
     }
@@ -75,6 +85,17 @@ SyntaxGuess guessLeaf(std::string_view line, std::size_t equals) {
 SyntaxGuess guessOpener(std::string_view line, const Vocabulary& vocabulary) {
     const std::string_view head = line.substr(1, line.find_first_of(" \t;)=", 1) - 1);
     const std::string_view rest = trimWhitespace(line.substr(head.size() + 1));
+    const std::size_t colon = std::min(line.find(':'), line.size());
+    if (const std::string_view key = TrimEx(line.substr(1, colon - 1));
+        colon < line.size() && isKey(key, vocabulary)) {
+        SyntaxGuess guess;
+        guess.meant = Meant::Leaf;
+        guess.key = key;
+        const std::size_t end = std::min(line.find(')', colon), line.size());
+        guess.value = TrimEx(line.substr(colon + 1, end - colon - 1));
+        guess.hint = "did you mean (" + std::string(key) + "=" + std::string(guess.value) + ")?";
+        return guess;
+    }
     if (isKey(head, vocabulary) && vocabulary.nodeKind(head) == NodeKind::None) {
         SyntaxGuess guess;
         guess.meant = Meant::Leaf;
@@ -129,7 +150,7 @@ SyntaxGuess guessCloser(std::string_view line, const Vocabulary& vocabulary) {
         return guess;
     }
     guess.meant = Meant::Closer;
-    guess.hint = vocabulary.nodeKind(head) == NodeKind::None
+    guess.hint = vocabulary.nodeKind(head) == NodeKind::None || line[head.size()] != ')'
                      ? "did you mean " + name + ")?"
                      : "nothing but a comment behind ; follows " + name + ")";
     return guess;
@@ -138,13 +159,20 @@ SyntaxGuess guessCloser(std::string_view line, const Vocabulary& vocabulary) {
 }  // namespace
 
 SyntaxGuess guessLine(std::string_view line, const Vocabulary& vocabulary) {
+    for (const std::string_view mark : {"#", "//", "/*", "--", "<!--"}) {
+        if (line.starts_with(mark)) {
+            SyntaxGuess guess;
+            guess.hint = "a comment begins with ;";
+            return guess;
+        }
+    }
     const std::size_t equals = line.find('=');
     const std::size_t comment = line.find(';');
     if (equals != nowhere && (line.front() == '(' || equals < comment)) {
         const std::string_view key = TrimEx(
             line.substr(line.front() == '(' ? 1 : 0, equals - (line.front() == '(' ? 1U : 0U)));
         if (line.front() == '(' || isKey(key, vocabulary)) {
-            return guessLeaf(line, equals);
+            return guessLeaf(line, equals, vocabulary);
         }
     }
     if (line.size() > 1 && line[1] == '/' && (line.front() == '(' || line.front() == '<')) {

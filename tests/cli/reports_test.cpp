@@ -40,6 +40,94 @@ TEST(ReportsOfTexts, SayNothingOfATableWithinAFootnoteOrANestedOne) {
     EXPECT_EQ(reportOf(paragraphWith("\\itap2 a\\nestcell{\\*\\nesttableprops\\trowd\\cellx9"
                                      "\\nestrow}\\itap1 b")),
               "");
+    EXPECT_EQ(reportOf(paragraphWith("\\itap2 a\\nestcell{\\*\\nesttableprops\\trowd\\cellx9"
+                                     "\\nestrow}\\pard\\intbl b")),
+              "");
+    EXPECT_EQ(reportOf(paragraphWith("a{\\footnote \\itap2 b}")), "");
+}
+
+TEST(ReportsOfTexts, TellOfATableWithinACellThatIsNotWhole) {
+    const std::string hint =
+        "    hint: the rows of a table within a cell are whole where they stand in its text: each "
+        "\\nestcell has its definition, and \\itap1 follows\n";
+    EXPECT_EQ(
+        reportOf(paragraphWith("a\\nestcell b")),
+        R"(a.rtfspec:5:6: warning: \nestcell breaks the table in the middle of a text. [table-control]
+    (pt=a\nestcell b)
+         ^~~~~~~~~
+)" + hint);
+    EXPECT_EQ(
+        reportOf(paragraphWith("a\\nestrow b")),
+        R"(a.rtfspec:5:6: warning: \nestrow breaks the table in the middle of a text. [table-control]
+    (pt=a\nestrow b)
+         ^~~~~~~~
+)" + hint);
+    EXPECT_EQ(
+        reportOf(paragraphWith("a\\itap2 b")),
+        R"(a.rtfspec:5:6: warning: \itap2 breaks the table in the middle of a text. [table-control]
+    (pt=a\itap2 b)
+         ^~~~~~
+)" + hint);
+}
+
+TEST(ReportsOfTexts, TellOfTheBeginningOfADocument) {
+    EXPECT_EQ(
+        reportOf(paragraphWith("{\\rtf1{\\fonttbl{\\f0 A;}}{\\colortbl;}{\\stylesheet{a;}}b}")),
+        R"(a.rtfspec:5:6: warning: \rtf1 belongs at the beginning of a document. [header-control]
+    (pt={\rtf1{\fonttbl{\f0 A;}}{\colortbl;}{\stylesheet{a;}}b})
+         ^~~~~
+a.rtfspec:5:12: warning: \fonttbl belongs at the beginning of a document. [header-control]
+    (pt={\rtf1{\fonttbl{\f0 A;}}{\colortbl;}{\stylesheet{a;}}b})
+               ^~~~~~~~
+a.rtfspec:5:30: warning: \colortbl belongs at the beginning of a document. [header-control]
+    (pt={\rtf1{\fonttbl{\f0 A;}}{\colortbl;}{\stylesheet{a;}}b})
+                                 ^~~~~~~~~
+a.rtfspec:5:42: warning: \stylesheet belongs at the beginning of a document. [header-control]
+    (pt={\rtf1{\fonttbl{\f0 A;}}{\colortbl;}{\stylesheet{a;}}b})
+                                             ^~~~~~~~~~~
+)");
+}
+
+TEST(ReportsOfTexts, TellOfAValueThatIsCutOff) {
+    EXPECT_EQ(reportOf("(doc\n(r\n(c\n(p\n(pt=see (page 2); thanks)\np)\nc)\nr)\ndoc)\n"),
+              R"(a.rtfspec:5:16: warning: The value ends here: ); thanks is lost. [cut-value]
+    (pt=see (page 2); thanks)
+                   ^~~~~~~~~~
+    hint: write \'29 for a ) in a text
+)");
+    EXPECT_EQ(
+        reportOf("(doc\n(r\n(c\n(cmf=net (all)  ; x) y\n(p\n(pt=Price (net) ; incl. VAT)\np)\nc)\n"
+                 "r)\ndoc)\n"),
+        R"(a.rtfspec:4:14: warning: The value ends here: )  ; x is lost. [cut-value]
+    (cmf=net (all)  ; x) y
+                 ^~~~~~~
+    hint: this value can hold no )
+a.rtfspec:6:15: warning: The value ends here: ) ; incl. VAT is lost. [cut-value]
+    (pt=Price (net) ; incl. VAT)
+                  ^~~~~~~~~~~~~~
+    hint: write \'29 for a ) in a text
+)");
+}
+
+TEST(ReportsOfTexts, SayNothingOfCommentsWithParentheses) {
+    EXPECT_EQ(reportOf("(doc\n(r\n(c\n(p\n(pt=a (b\\'29) ; see (c)\np)\n"
+                       "(p\n(pt=a) ; (b)\np)\n(p\n(pt=a (b) ; c\np)\nc)\nr)\ndoc)\n"),
+              "");
+}
+
+TEST(ReportsOfTexts, TellOfAnInlineStyleThatIsNotClosed) {
+    const std::string sheet =
+        "{ name: normal; style-def: s }\n{ name: reserved; style-def: s }\n"
+        "{ name: strong; style-def: cs; format: \\b }\n";
+    EXPECT_EQ(
+        reportOf(paragraphWith("<strong=a <strong=b> c", "(ps=reserved)\n"), sheet),
+        R"(a.rtfspec:5:6: warning: The inline style strong is not closed: the text shows it as it is written. [unclosed-inline-style]
+    (pt=<strong=a <strong=b> c)
+         ^~~~~~
+    hint: a > ends the text of the style: <strong=Total>
+)");
+    EXPECT_EQ(reportOf(paragraphWith("<strong=a> x <y=b", "(ps=reserved)\n"), sheet), "");
+    EXPECT_EQ(reportOf(paragraphWith("<strong=a")), "");
 }
 
 TEST(ReportsOfTexts, TellOfNumbersThatTheTablesDoNotHave) {
@@ -186,6 +274,16 @@ TEST(ReportsOfFields, TakeTheInstructionForWhatItSays) {
     expectFinding("IN{}CLUDETEXT x", "a link to a file");
     expectFinding("\\'49NCLUDETEXT x", "a link to a file");
     expectFinding("{\\uc1\\u73?}{\\i N}CLUDE\\b0 TEXT x", "a link to a file");
+    expectFinding("\\u77?ACROBUTTON x", "a macro");
+    expectFinding("\\u-65459?ACROBUTTON x", "a macro");
+    expectFinding("\\uc0\\u77 ACROBUTTON x", "a macro");
+    expectFinding("{\\uc2\\u77\\'4d?}ACROBUTTON x", "a macro");
+    expectFinding("\\u77{}ACROBUTTON x", "a macro");
+    expectFinding("MACRO\\u8203 BUTTON x", "a macro");
+    expectFinding("MACRO\\u8203?BUTTON x", "a macro");
+    expectFinding("MACRO\\zwnj\\-BUTTON x", "a macro");
+    expectFinding("MACRO\\'adBUTTON x", "a macro");
+    expectFinding("\\'09\\'a0MACROBUTTON x", "a macro");
     expectFinding("{\\*\\datafield QUOTE}dde{\\rtlch auto} x", "a link to a program");
     expectFinding("{\\cs100 MACRO}{\\cs100 BUTTON} x y", "a macro");
     expectFinding("HYPERLINK \"c:\\\\x http://\"", "a link to a file");
@@ -321,7 +419,7 @@ a.rtfspec:4:15: error: Value for paper-height should be numeric. [not-a-number]
 a.rtfspec:5:13: error: Value for top-margin should be numeric. [not-a-number]
     (top-margin=50,5)
                 ^~~~
-    hint: a number has no comma, but at most one point: write a number of twips, 1440 of which are an inch and 567 a centimetre
+    hint: a number has no comma: write 50.5
 a.rtfspec:6:16: error: Value for bottom-margin should be numeric. [not-a-number]
     (bottom-margin=1e3000)
                    ^~~~~~
@@ -369,7 +467,7 @@ a.rtfspec:18:2: error: width isn't a valid keyword. [wrong-keyword]
 a.rtfspec:19:5: error: Value for cell-width should be numeric. [not-a-number]
     (cw=5cm)
         ^~~
-    hint: write a number, per cent of the row's width, without a sign
+    hint: write a number, per cent of the room between the page's margins, without a sign
 a.rtfspec:20:2: error: align isn't a valid keyword. [wrong-keyword]
     (align=left)
      ^~~~~
@@ -393,7 +491,7 @@ a.rtfspec:25:2: error: font isn't a valid keyword. [wrong-keyword]
 a.rtfspec:29:5: error: Value for cell-width should be numeric. [not-a-number]
     (cw=12px)
         ^~~~
-    hint: write a number, per cent of the row's width, without a sign
+    hint: write a number, per cent of the room between the page's margins, without a sign
 a.rtfspec:30:2: error: bgcolor isn't a valid keyword. [wrong-keyword]
     (bgcolor=x)
      ^~~~~~~

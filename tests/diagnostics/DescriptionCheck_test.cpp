@@ -64,6 +64,57 @@ TEST(DescriptionCheck, KnowsWhatWasMeantByAWrongLine) {
                     "10 wrong-syntax: nothing but a comment behind ; follows c)"));
 }
 
+TEST(DescriptionCheck, KnowsLinesThatHoldTooMuch) {
+    EXPECT_THAT(found("(doc\n(r\n(c\n(p\n(pt=x) (ps=y)\np)\n(p (pt=x) p)\nc)\nr)\ndoc)\n"),
+                ElementsAre("5 wrong-syntax: each node and each key stands on a line of its own",
+                            "7 wrong-syntax: each node and each key stands on a line of its own"));
+}
+
+TEST(DescriptionCheck, KnowsCloserThatAreNotWhole) {
+    EXPECT_THAT(found("(doc\n(row\n(c\n(p\n(pt=x)\n)\n) ; cell\nrow )\ndoc)\n"),
+                ElementsAre("6 wrong-syntax: did you mean p)?", "7 wrong-syntax: did you mean c)?",
+                            "8 wrong-syntax: did you mean row)?"));
+}
+
+TEST(DescriptionCheck, KnowsOtherWaysToWriteKeysAndComments) {
+    EXPECT_THAT(found("(doc\n# a=b\n// note\n(r\n(c\n(p\n(pt: x)\np)\n(p\n(para-text : x: y)\np)\n"
+                      "c)\nr)\ndoc)\n"),
+                ElementsAre("2 wrong-syntax: a comment begins with ;",
+                            "3 wrong-syntax: a comment begins with ;",
+                            "7 wrong-syntax: did you mean (pt=x)?",
+                            "10 wrong-syntax: did you mean (para-text=x: y)?"));
+}
+
+TEST(DescriptionCheck, KnowsValuesInQuotationMarksAndNumbersWithAComma) {
+    EXPECT_THAT(
+        found("(doc\n(top-margin=1,000)\n(left-margin=1,2,3)\n(bottom-margin=12,)\n(r\n(rb=\"red\")"
+              "\n(rtb='Thin')\n(c\n"
+              "(cw=12,5)\n(ca=\"\")\nc)\nr)\ndoc)\n"),
+        ElementsAre("2 not-a-number: a number has no comma: write 1000, or 1.000",
+                    "3 not-a-number: a number has no comma, but at most one point: write a number "
+                    "of twips, 1440 of which are an inch and 567 a centimetre",
+                    "4 not-a-number: a number has no comma, but at most one point: write a number "
+                    "of twips, 1440 of which are an inch and 567 a centimetre",
+                    "6 wrong-color: did you mean red?", "7 wrong-border: did you mean thin?",
+                    "9 not-a-number: a number has no comma: write 12.5", "10 wrong-alignment"));
+}
+
+TEST(DescriptionCheck, KnowsNumbersInQuotationMarks) {
+    EXPECT_THAT(found("(doc\n(r\n(c\n(cw=\"50\")\nc)\nr)\ndoc)\n"),
+                ElementsAre("4 not-a-number: write the number without quotation marks: 50"));
+}
+
+TEST(DescriptionCheck, NamesTheOpenersThatAreMissing) {
+    EXPECT_THAT(found("(doc\n(r\n(p\n(pt=x)\np)\nr)\ndoc)\n"),
+                testing::Contains("3 outside-document: (c is missing before it"));
+    EXPECT_THAT(found("(doc\n(cell\ncell)\ndoc)\n"),
+                testing::Contains("2 outside-document: (row is missing before it"));
+    EXPECT_THAT(found("(doc\n(r\n(c\nc)\nr)\n(p\n(pt=x)\np)\ndoc)\n"),
+                testing::Contains("6 outside-document: (r and (c are missing before it"));
+    EXPECT_THAT(found("(doc\n(r\n(c\nc)\nr)\ndoc)\n(x=1)\ndoc)\n"),
+                testing::Contains("7 outside-document"));
+}
+
 TEST(DescriptionCheck, ComparesNoWidthsOnAPageTooNarrowForNumbers) {
     EXPECT_THAT(found("(doc\n(paper-width=-2147483648)\n(r\n(c\n(p\n(pt=a)\np)\nc)\n(c\nc)\nr)\n"
                       "doc)\n"),

@@ -89,6 +89,39 @@ TEST(RtfCheck, WantsGroupsClosed) {
     EXPECT_THAT(found(std::string("{\\rtf1 a}\r\n\0", 12)), ElementsAre("2:1+1@11 text-after-end"));
 }
 
+/// The message and the hint of the first finding.
+std::string told(const std::string& rtf) {
+    const std::vector<Diagnostic> findings = checkRtf(rtf);
+    return findings.empty() ? "" : findings[0].message + " | " + findings[0].hint;
+}
+
+TEST(RtfCheck, SaysInWhichRowAGroupWasLeftOpen) {
+    const std::string row = "{\\trowd\\cellx9 a\\cell\\row}\n";
+    const std::string broken = "{\\trowd\\cellx9 {a\\cell\\row}\n";
+    EXPECT_EQ(told(documentOf(row + row + broken + row)),
+              "The group is not closed. | a group is open where the row of line 4 ends that was "
+              "not at the ends of the rows before");
+    EXPECT_EQ(told(documentOf(broken + row)),
+              "The group is not closed. | a group is open where the row of line 2 ends that was "
+              "not where it begins");
+    EXPECT_EQ(told(documentOf(row + "{a\n")), "The group is not closed. | ");
+    EXPECT_EQ(told("{\\rtf1 " + row + "{"), "The group is not closed. | ");
+}
+
+TEST(RtfCheck, CountsInWords) {
+    EXPECT_EQ(told(documentOf("\\trowd\\cellx9 a\\cell b\\cell\\row")),
+              "The row has 2 cells and 1 cell definition. | ");
+    EXPECT_EQ(told(documentOf("\\trowd\\cellx8\\cellx9 a\\cell\\row")),
+              "The row has 1 cell and 2 cell definitions. | ");
+}
+
+TEST(RtfCheck, NamesTheNumberThatIsLeftOut) {
+    EXPECT_EQ(told("{\\rtf1{\\fonttbl{\\f0 a;}{\\f b;}}}"),
+              "The font 0 is in the font table already. | ");
+    EXPECT_EQ(told("{\\rtf1{\\stylesheet{\\s0 a;}{\\s b;}}}"),
+              "The style s0 is in the stylesheet already. | ");
+}
+
 TEST(RtfCheck, WantsWholeControlsAndData) {
     EXPECT_THAT(found("{\\rtf1 a\\"), ElementsAre("1:1+1@0 unclosed-group", "1:9+1@8 cut-off"));
     EXPECT_THAT(found("{\\rtf1 \\'4"),

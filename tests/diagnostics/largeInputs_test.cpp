@@ -52,10 +52,11 @@ TEST(LargeDescriptions, OfDeepNodesTakeTheirTime) {
 
 TEST(LargeDescriptions, OfLongTextsTakeTheirTime) {
     const std::string styles = numbered("{name: s", "; style-def: cs}", 400);
-    for (const std::string_view part : {"}", "{", "\\", "\\x ", "<a=", "<a=b>", "<", ">", "\t",
-                                        "\xC3\xA9", "\xC3\x83\xC2\xA9", "\xE2\x86\x92"}) {
+    for (const std::string_view part :
+         {"}", "{", "\\", "\\x ", "<a=", "<a=b>", "<", ">", "\t", "\xC3\xA9", "\xC3\x83\xC2\xA9",
+          "\xE2\x86\x92", "(", "\\'29", "\\nestcell ", "\\fldinst\\u77?"}) {
         KnownStyles known(styles);
-        checkDescription(paragraphOf("(pt=" + repeated(part) + ")\n"), &known);
+        checkDescription(paragraphOf("(pt=" + repeated(part) + ") ; )\n"), &known);
         checkDescription("(doc\n(r\n" + repeated(part) + "\ndoc)\n", &known);
     }
     KnownStyles known(styles);
@@ -68,6 +69,11 @@ TEST(LargeStyleSheets, TakeTheirTime) {
     EXPECT_GE(checkStyleSheet(numbered("{name: a", "; style-def: s; next: b}")).size(), many);
     EXPECT_GE(checkStyleSheet("{name: a" + repeated("; format: \\x") + "}").size(), many - 1);
     EXPECT_GE(checkStyleSheet("{name: a" + repeated(", a") + "}").size(), many);
+    EXPECT_GE(
+        checkStyleSheet("{name: a" + repeated(":") + "; style-def: s" + repeated(":") + "}").size(),
+        1u);
+    EXPECT_GE(
+        checkStyleSheet("{name: a; style-def: s; format: " + repeated("x, \\b ") + "}").size(), 1u);
     EXPECT_GE(checkStyleSheet(repeated("{")).size(), 1u);
     EXPECT_GE(checkStyleSheet(repeated("}") + repeated("{")).size(), many);
 }

@@ -8,6 +8,7 @@
 #include "quorvane/diagnostics/DescriptionCheck.h"
 #include "quorvane/diagnostics/StyleSheetCheck.h"
 #include "quorvane/diagnostics/diagnosticRules.h"
+#include "quorvane/rtfgroups/CRtfGrpColorTable.h"
 
 namespace quorvane {
 namespace {
@@ -98,6 +99,81 @@ TEST(StyleFindings, KnowTheKindThatWasMeant) {
                 Contains(HasSubstr("a character style is cs")));
     EXPECT_THAT(lines(checkStyleSheet("{ name: a; style-def: paragraph; format: \\b }\n")),
                 Contains(HasSubstr("a paragraph style is s")));
+}
+
+/// What is found about the format of a paragraph style.
+std::vector<std::string> foundInFormat(const std::string& format) {
+    return lines(checkStyleSheet("{ name: a; style-def: s; format: " + format + " }\n"));
+}
+
+TEST(StyleFindings, WarnOfTextInAFormat) {
+    EXPECT_THAT(foundInFormat("fs20 b"), ElementsAre("1 format-text: did you mean \\fs20\\b?"));
+    EXPECT_THAT(foundInFormat("/fs20"), ElementsAre("1 format-text: did you mean \\fs20?"));
+    EXPECT_THAT(foundInFormat("\\b FS20"), ElementsAre("1 format-text: did you mean \\fs20?"));
+    EXPECT_THAT(foundInFormat("Arial 10pt bold"),
+                ElementsAre("1 format-text: a format is made of control words, such as "
+                            "\\fs20\\b"));
+    EXPECT_THAT(foundInFormat("\\fs 20"),
+                ElementsAre("1 format-text: no blank stands before the number: \\fs20"));
+    EXPECT_THAT(foundInFormat("\\fs20.5"),
+                ElementsAre("1 format-text: the number of a control word is a whole one"));
+    EXPECT_THAT(foundInFormat("\\fs20pt"),
+                ElementsAre("1 format-text: write \\fs and the number of half points alone: "
+                            "\\fs20 is 10 points"));
+    EXPECT_THAT(foundInFormat("\\li20pt"),
+                ElementsAre("1 format-text: write the number alone: a unit is no part of it"));
+    EXPECT_THAT(foundInFormat("\\fs20, \\b"),
+                ElementsAre("1 format-text: control words follow each other without a comma"));
+    EXPECT_THAT(foundInFormat("\\cf red"),
+                ElementsAre("1 format-text: did you mean \\cf" +
+                            std::to_string(CRtfGrpColorTable::colorNumber("red")) + "?"));
+}
+
+TEST(StyleFindings, KnowTheNumberOfAColorOfTwoWords) {
+    EXPECT_THAT(foundInFormat("\\highlight Dark Red"),
+                ElementsAre("1 format-text: did you mean \\highlight" +
+                            std::to_string(CRtfGrpColorTable::colorNumber("dark-red")) + "?"));
+}
+
+TEST(StyleFindings, MarkTheTextInAFormat) {
+    const std::vector<Diagnostic> findings =
+        checkStyleSheet("{ name: a; style-def: s; format: \\fs20 Arial 10 \\b }\n");
+    ASSERT_EQ(findings.size(), 1u);
+    EXPECT_EQ(findings[0].message,
+              "Arial 10 is no control word: it is printed wherever the style is used.");
+    EXPECT_EQ(findings[0].place.column, 40);
+    EXPECT_EQ(findings[0].place.length, 8);
+}
+
+TEST(StyleFindings, WarnOfNoTextInAFormatOfControlWords) {
+    for (const char* format : {"\\fs20\\b", "\\fs20 \\b", "\\fs20", ""}) {
+        EXPECT_THAT(foundInFormat(format), IsEmpty()) << format;
+    }
+    EXPECT_THAT(lines(checkStyleSheet("{ name: a; style-def: cell; format: silver }\n")),
+                IsEmpty());
+}
+
+TEST(StyleFindings, KnowItemsWithoutTheirSeparators) {
+    EXPECT_THAT(lines(checkStyleSheet("{ name: n, style-def: s, format: \\b }\n")),
+                Contains("1 no-style-kind: items are separated by ; which is missing before "
+                         "style-def"));
+    EXPECT_THAT(lines(checkStyleSheet("{ name: n; style-def: s\n format: \\b }\n")),
+                ElementsAre("1 bad-style-kind: items are separated by ; which is missing before "
+                            "format"));
+    EXPECT_THAT(lines(checkStyleSheet("{ name: n; style-def: s; additive: yes next: n }\n")),
+                ElementsAre("1 bad-additive: items are separated by ; which is missing before "
+                            "next"));
+}
+
+TEST(StyleFindings, KnowKeywordsWithoutTheirColon) {
+    EXPECT_THAT(lines(checkStyleSheet("{ name: n; style-def = s; format \\b }\n")),
+                ElementsAre("1 no-style-kind", "1 bad-keyword: a : follows the keyword style-def",
+                            "1 bad-keyword: a : follows the keyword format"));
+}
+
+TEST(StyleFindings, WarnOfTextInTheWrittenPartsOfARecordString) {
+    EXPECT_THAT(foundInFormat("^p\\fs20^f\\f3^v\\b^x some words"), IsEmpty());
+    EXPECT_THAT(foundInFormat("^pfs20^f\\f3"), ElementsAre("1 format-text: did you mean \\fs20?"));
 }
 
 TEST(Findings, WeighAsErrorOrAsWarning) {
