@@ -14,6 +14,10 @@ namespace quorvane {
 /// the name of the file does, by its extension; without one it is a description.
 CheckedLanguage languageOf(std::string_view beginning, std::string_view fileName = {});
 
+/// The first line that is neither blank nor a comment, without the blanks around it; empty when
+/// there is none.
+std::string_view firstLineOf(std::string_view text);
+
 /// The first line that is neither blank nor a comment, where it is one of a description; empty
 /// where it is not.
 std::string_view openingOfDescription(std::string_view text);
