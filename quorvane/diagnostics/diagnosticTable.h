@@ -12,7 +12,8 @@
 
 QUORVANE_DIAGNOSTIC(WrongFileType, "wrong-file-type", Error, Description,
     "The provided file isn't a correct rtfspec file.",
-    "A description is one `doc` node. A text without `(doc` is none.",
+    "A description is one `doc` node. A text without `(doc` is none, and a stylesheet or an RTF file "
+    "named `.rtfspec` is none either.",
     "(dco\n"
     "(r\n"
     "(c\n"
@@ -1212,8 +1213,8 @@ QUORVANE_DIAGNOSTIC(BadAdditive, "bad-additive", Error, StyleSheet,
 
 QUORVANE_DIAGNOSTIC(StyleSheetRejected, "stylesheet-rejected", Error, StyleSheet,
     "{0}",
-    "The loading ends with an error that no other row of this table tells. The message is the "
-    "error's own.",
+    "The loading ends with an error that no other row of this table tells, as that of a file that "
+    "is no stylesheet in spite of its extension. The message is the error's own.",
     "",
     "",
     "")
@@ -1239,6 +1240,14 @@ QUORVANE_DIAGNOSTIC(DescriptionAsStyleSheet, "description-as-stylesheet", Warnin
     "c)\n"
     "r)\n"
     "doc)\n")
+
+QUORVANE_DIAGNOSTIC(NoStyles, "no-styles", Warning, StyleSheet,
+    "The stylesheet has no styles.",
+    "The definition of a style stands in braces. Text outside of braces says nothing: it is "
+    "accepted, and has no styles.",
+    "name: total; style-def: s; format: \\b\n",
+    "{ name: total; style-def: s; format: \\b }\n",
+    "")
 
 QUORVANE_DIAGNOSTIC(DuplicateStyle, "duplicate-style", Warning, StyleSheet,
     "The style {0} is defined already, on line {1}.",
@@ -1311,6 +1320,14 @@ QUORVANE_DIAGNOSTIC(NotRtf, "not-rtf", Error, Rtf,
     "An RTF file begins with `{\\rtf` and its version.",
     "{\\rtx1 Total}\n",
     "{\\rtf1 Total}\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(WrongExtension, "wrong-extension", Warning, Rtf,
+    "This is {0}, but its extension is {1}.",
+    "A file is checked as what it holds. Programs and people go by its extension: `.rtfspec` is "
+    "that of descriptions, `.rtfss` that of stylesheets, `.rtf` that of documents.",
+    "",
+    "",
     "")
 
 QUORVANE_DIAGNOSTIC(UnclosedGroup, "unclosed-group", Error, Rtf,

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "quorvane/diagnostics/SourceText.h"
+#include "quorvane/diagnostics/fileEncoding.h"
 #include "quorvane/driver/Vocabulary.h"
 #include "quorvane/driver/lineClassifier.h"
 #include "quorvane/support/textCase.h"
@@ -64,7 +65,12 @@ std::string_view firstLineOf(std::string_view text) {
 }
 
 CheckedLanguage languageOf(std::string_view beginning, std::string_view fileName) {
-    const std::string_view text = beginning.substr(0, enough);
+    if (isUtf16(beginning)) {
+        std::string ascii(beginning.substr(0, enough));
+        std::erase_if(ascii, [](char byte) { return byte < ' ' && byte != '\r' && byte != '\n'; });
+        return languageOf(ascii, fileName);
+    }
+    const std::string_view text = behindByteOrderMark(beginning.substr(0, enough));
     const Vocabulary vocabulary;
     // Texts of a description may hold more braces than a stylesheet does, so that counting alone
     // would not do.

@@ -262,6 +262,59 @@ TEST(ReportsOfCharacters, FindThemInEverythingThatReachesTheDocument) {
               "    hint: save the file in Windows-1252\n");
 }
 
+TEST(ReportsOfNames, TellOfADescriptionThatIsNone) {
+    const std::string hint = "    hint: the file reads as ";
+    EXPECT_EQ(reportOfFile("a.rtfspec", "{ name: a; style-def: s }\n"),
+              "a.rtfspec:1:1: error: The provided file isn't a correct rtfspec file. "
+              "[wrong-file-type]\n    { name: a; style-def: s }\n    ^" +
+                  std::string(24, '~') + "\n" + hint +
+                  "a stylesheet, which has the extension .rtfss\n");
+    EXPECT_EQ(reportOfFile("A.RTFSPEC", "{\\rtf1\\ansi a}"),
+              "A.RTFSPEC:1:1: error: The provided file isn't a correct rtfspec file. "
+              "[wrong-file-type]\n    {\\rtf1\\ansi a}\n    ^" +
+                  std::string(13, '~') + "\n" + hint +
+                  "an RTF file, which has the extension .rtf\n");
+}
+
+TEST(ReportsOfNames, TellOfAStyleSheetThatIsNone) {
+    const std::string description = "(doc\n(r\n(c\nc)\nr)\ndoc)\n";
+    EXPECT_EQ(reportOfFile("a.rtfss", description),
+              "a.rtfss:1:1: warning: This is a description, not a stylesheet. "
+              "[description-as-stylesheet]\n    (doc\n    ^~~~\n"
+              "    hint: the file reads as a description, which has the extension .rtfspec\n");
+    EXPECT_EQ(reportOfFile("a.rtfss", paragraphWith("{\\b a}")),
+              "a.rtfss:1:1: error: Error while processing stylesheet. \\b a is not a valid "
+              "keyword. [stylesheet-rejected]\n    (doc\n    ^~~~\n"
+              "    hint: the file reads as a description, which has the extension .rtfspec\n");
+    EXPECT_EQ(reportOfFile("a.rtfss", "{\\rtf1\\ansi a}"),
+              "a.rtfss:1:1: error: Error while processing stylesheet. \\rtf1\\ansi a is not a "
+              "valid keyword. [stylesheet-rejected]\n    {\\rtf1\\ansi a}\n    ^" +
+                  std::string(13, '~') +
+                  "\n    hint: the file reads as an RTF file, which has the extension .rtf\n");
+}
+
+TEST(ReportsOfNames, SayNothingOfOtherExtensions) {
+    EXPECT_EQ(reportOfFile("a.txt", "(doc\n(r\n(c\nc)\nr)\ndoc)\n"), "");
+    EXPECT_EQ(reportOfFile("a.txt", "{ name: a; style-def: s }\n"), "");
+}
+
+TEST(ReportsOfStyleSheets, TellOfKeywordsWithoutBraces) {
+    EXPECT_EQ(reportOfFile("a.rtfss", "; mine\n  Name : a; style-def: s\n"),
+              "a.rtfss:2:3: warning: The stylesheet has no styles. [no-styles]\n"
+              "      Name : a; style-def: s\n"
+              "      ^~~~\n"
+              "    hint: a definition stands in braces: { name: ...; style-def: ... }\n");
+    EXPECT_EQ(reportOfFile("a.rtfss", "Styles to come: none\n; name: a\n"), "");
+}
+
+TEST(ReportsOfStyleSheets, NameUtf16) {
+    const std::string sheet("\xFF\xFE{\0n\0}\0", 8);
+    const std::string hint = "    hint: the file is in UTF-16: save it in Windows-1252\n";
+    const std::string report = reportOfFile("a.rtfss", sheet);
+    EXPECT_TRUE(report.starts_with("a.rtfss:1:1: error: ")) << report;
+    EXPECT_TRUE(report.ends_with(hint)) << report;
+}
+
 TEST(ReportsOfKeys, SayWhatWasMeantByOtherWordsAndWhatANumberWithAUnitIs) {
     EXPECT_EQ(reportOf(R"~((doc
 (margin-left=5)
@@ -471,7 +524,8 @@ std::string reportOfFindings(const std::string& file, const std::string& text,
 }
 
 /// Reports of diagnostics that no text is known for, as the check has words of its own for all
-/// errors that the library raises today: what is told of an error that it does not know.
+/// errors that the library raises today: what is told of an error that it does not know. One more
+/// goes by the name of the file, which an example does not have.
 const std::map<std::string, std::pair<std::string, std::string>>& reportsWithoutExample() {
     static const std::map<std::string, std::pair<std::string, std::string>> reports = [] {
         RtfError error(4711, "A new error");
@@ -490,12 +544,17 @@ const std::map<std::string, std::pair<std::string, std::string>>& reportsWithout
                 judgedFindings({}, {error}, DiagnosticId::StyleSheetRejected, SourceText(sheet))),
             "a.rtfss:1:1: error: A new error [stylesheet-rejected]\n    { name: a }\n"
             "    ^~~~~~~~~~~\n"};
+        list["wrong-extension"] = {
+            reportOfFile("a.rtf", "(doc\n(r\n(c\nc)\nr)\ndoc)\n"),
+            "a.rtf:1:1: warning: This is a description, but its extension is .rtf. "
+            "[wrong-extension]\n    (doc\n    ^~~~\n"
+            "    hint: the file reads as a description, which has the extension .rtfspec\n"};
         return list;
     }();
     return reports;
 }
 
-TEST(ReportsOfUnknownErrors, SayWhatTheLibrarySays) {
+TEST(ReportsWithoutExample, SayWhatIsWrong) {
     for (const auto& [identifier, report] : reportsWithoutExample()) {
         EXPECT_EQ(report.first, report.second);
     }
