@@ -14,6 +14,7 @@
 #include "quorvane/diagnostics/fileEncoding.h"
 #include "quorvane/diagnostics/judgement.h"
 #include "quorvane/diagnostics/languageOf.h"
+#include "quorvane/diagnostics/misreadCharacters.h"
 #include "quorvane/diagnostics/nearestWord.h"
 #include "quorvane/diagnostics/rtfText.h"
 #include "quorvane/rtfgroups/CRtfGrpColorTable.h"
@@ -307,6 +308,7 @@ std::vector<Diagnostic> findingsWithoutLoading(std::string_view text) {
     DiagnosticEngine engine([&](Diagnostic finding) { findings.push_back(std::move(finding)); });
     SheetFindings(source, engine).find();
     sortByPlace(findings);
+    keepFirstMisreadCharacters(findings);
     return findings;
 }
 

@@ -857,8 +857,10 @@ QUORVANE_DIAGNOSTIC(UnknownNumber, "unknown-number", Warning, Description,
     "")
 
 QUORVANE_DIAGNOSTIC(UnencodableCharacter, "unencodable-character", Warning, Description,
-    "The code page has no place for {0}, which becomes a question mark.",
-    "Documents are written in Windows-1252. In a text other characters are written as RTF "
+    "The code page has no place for {0}, which {1}.",
+    "Documents are written in Windows-1252. A character that it has no place for becomes a question "
+    "mark, or where the file is in UTF-8 two or more other characters. Of those the first is told. "
+    "In a text such characters are written as RTF "
     "writes them: `{\\uc1\\u8594?}` is an arrow, and a question mark where a reader has none. The "
     "data of a marked field and the names of styles have no such form.",
     "(doc\n"
@@ -884,7 +886,8 @@ QUORVANE_DIAGNOSTIC(UnencodableCharacter, "unencodable-character", Warning, Desc
 QUORVANE_DIAGNOSTIC(Utf8Text, "utf-8-text", Warning, Description,
     "{0} is read as {1}: the file is in UTF-8.",
     "Files are read in Windows-1252, one byte a character. In a file in UTF-8 every other "
-    "character than those of ASCII turns into two or three. Save the file in Windows-1252, or "
+    "character than those of ASCII turns into two or three; the first is told. Save the file "
+    "in Windows-1252, or "
     "write `\\'e9` and the like.",
     "(doc\n"
     "(r\n"

@@ -242,8 +242,8 @@ TEST(ReportsOfCharacters, FindThemInEverythingThatReachesTheDocument) {
     // A file in UTF-8 with an arrow, which the code page does not have, and with an e acute.
     EXPECT_EQ(
         reportOf(paragraphWith("a", "(pmf=\xE2\x86\x92)\n")),
-        "a.rtfspec:6:6: warning: The code page has no place for \xE2\x86\x92, which becomes a "
-        "question mark. [unencodable-character]\n"
+        "a.rtfspec:6:6: warning: The code page has no place for \xE2\x86\x92, which is read as "
+        "\xC3\xA2\xE2\x80\xA0\xE2\x80\x99: the file is in UTF-8. [unencodable-character]\n"
         "    (pmf=\xC3\xA2\xE2\x80\xA0\xE2\x80\x99)\n"
         "         ^~~\n");
     EXPECT_EQ(reportOf("(doc\n(r\n(c\n(cmf=\xC3\xA9)\nc)\nr)\ndoc)\n"),
@@ -259,6 +259,36 @@ TEST(ReportsOfCharacters, FindThemInEverythingThatReachesTheDocument) {
               "[utf-8-text]\n"
               "    { name: normal, \xC3\x83\xC2\xA9; style-def: cs }\n"
               "                    ^~\n"
+              "    hint: save the file in Windows-1252\n");
+}
+
+TEST(ReportsOfCharacters, TellTheFirstThatIsMisread) {
+    // Two texts of a file in UTF-8, in which each kind of character stands several times.
+    const std::string text = "caf\xC3\xA9 \xE2\x86\x92 ol\xC3\xA9 \xE2\x86\x92";
+    const std::string cell = "(c\n(p\n(pt=" + text + ")\np)\nc)\n";
+    const std::string shown =
+        "    (pt=caf\xC3\x83\xC2\xA9 \xC3\xA2\xE2\x80\xA0\xE2\x80\x99 ol\xC3\x83\xC2\xA9 "
+        "\xC3\xA2\xE2\x80\xA0\xE2\x80\x99)\n";
+    EXPECT_EQ(
+        reportOf("(doc\n(r\n" + cell + cell + "r)\ndoc)\n"),
+        "a.rtfspec:5:8: warning: \xC3\xA9 is read as \xC3\x83\xC2\xA9: the file is in UTF-8. "
+        "Other characters are misread too. [utf-8-text]\n" +
+            shown +
+            "           ^~\n"
+            "    hint: save the file in Windows-1252, or write \\'e9\n"
+            "a.rtfspec:5:11: warning: The code page has no place for \xE2\x86\x92, which is "
+            "read as \xC3\xA2\xE2\x80\xA0\xE2\x80\x99: the file is in UTF-8. Other characters are "
+            "misread too. [unencodable-character]\n" +
+            shown +
+            "              ^~~\n"
+            "    hint: write {\\uc1\\u8594?}\n");
+    const std::string names = "\xC3\xA9, caf\xC3\xA9";
+    EXPECT_EQ(reportOfFile("a.rtfss", "{ name: normal; style-def: s }\n{ name: " + names +
+                                          "; style-def: cs }\n"),
+              "a.rtfss:2:9: warning: \xC3\xA9 is read as \xC3\x83\xC2\xA9: the file is in UTF-8. "
+              "Other characters are misread too. [utf-8-text]\n"
+              "    { name: \xC3\x83\xC2\xA9, caf\xC3\x83\xC2\xA9; style-def: cs }\n"
+              "            ^~\n"
               "    hint: save the file in Windows-1252\n");
 }
 

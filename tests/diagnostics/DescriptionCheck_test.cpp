@@ -49,6 +49,17 @@ TEST(DescriptionCheck, GoesOnBehindTheMarkOfUtf8) {
     }
 }
 
+TEST(DescriptionCheck, TellsEachCharacterThatBecomesAQuestionMark) {
+    // A host's text, which is in UTF-8 and read as such.
+    const std::vector<Diagnostic> findings = checkDescription(
+        "(doc\n(r\n(c\n(p\n(pt=\xE2\x86\x92\xE2\x86\x92)\np)\nc)\nr)\ndoc)\n", nullptr);
+    ASSERT_EQ(findings.size(), 2U);
+    for (const Diagnostic& finding : findings) {
+        EXPECT_EQ(finding.message,
+                  "The code page has no place for \xE2\x86\x92, which becomes a question mark.");
+    }
+}
+
 TEST(DescriptionCheck, NamesUtf16) {
     const std::string mark = "\xC3\xBF\xC3\xBE";
     const std::string doc("(\0d\0o\0c\0\n\0", 10);
