@@ -84,7 +84,7 @@ CheckedLanguage languageOf(std::string_view beginning, std::string_view fileName
     }
     const auto braces = std::count(text.begin(), text.end(), '{');
     const std::ptrdiff_t lines = countDescriptionLines(text, vocabulary);
-    if (first.starts_with('{') || braces > lines) {
+    if (first.starts_with('{') || (braces > lines && named != CheckedLanguage::Description)) {
         return CheckedLanguage::StyleSheet;
     }
     return lines > 0 ? CheckedLanguage::Description : named.value_or(CheckedLanguage::Description);

@@ -76,8 +76,9 @@ std::optional<CheckedLanguage> languageToFormat(std::string_view text, std::stri
     const CheckedLanguage language = languageOf(text, fileName);
     const std::string name = lowerCase(fileName);
     if (name.ends_with(".rtfspec") || name.ends_with(".rtfss")) {
-        const bool isOther = language == CheckedLanguage::Rtf ||
-                             (language == CheckedLanguage::StyleSheet && !mayBeStyleSheet(text));
+        const bool isOther =
+            language == CheckedLanguage::Rtf ||
+            (languageOf(text) == CheckedLanguage::StyleSheet && !mayBeStyleSheet(text));
         return isOther ? std::nullopt : std::optional(language);
     }
     return language == CheckedLanguage::StyleSheet && beginsAsStyleSheet(text)

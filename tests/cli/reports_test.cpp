@@ -299,6 +299,11 @@ TEST(ReportsOfNames, TellOfADescriptionThatIsNone) {
               "[wrong-file-type]\n    { name: a; style-def: s }\n    ^" +
                   std::string(24, '~') + "\n" + hint +
                   "a stylesheet, which has the extension .rtfss\n");
+    EXPECT_EQ(reportOfFile("a.rtfspec", "f(void) { return 0; }\n"),
+              "a.rtfspec:1:1: error: The provided file isn't a correct rtfspec file. "
+              "[wrong-file-type]\n    f(void) { return 0; }\n    ^" +
+                  std::string(20, '~') +
+                  "\n    hint: a description begins with (doc and ends with doc)\n");
     EXPECT_EQ(reportOfFile("A.RTFSPEC", "{\\rtf1\\ansi a}"),
               "A.RTFSPEC:1:1: error: The provided file isn't a correct rtfspec file. "
               "[wrong-file-type]\n    {\\rtf1\\ansi a}\n    ^" +

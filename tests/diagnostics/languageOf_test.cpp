@@ -50,6 +50,8 @@ TEST(LanguageOf, IsThatOfTheExtensionWhereTheContentDoesNotTell) {
     EXPECT_EQ(languageOf("{rtf1 a}", "a.rtf"), CheckedLanguage::Rtf);
     EXPECT_EQ(languageOf("(doc\n(r\n", "a.rtf"), CheckedLanguage::Description);
     EXPECT_EQ(languageOf("{ name: a }", "a.rtfspec"), CheckedLanguage::StyleSheet);
+    EXPECT_EQ(languageOf("int main(void) { return 0; }", "a.rtfspec"),
+              CheckedLanguage::Description);
     EXPECT_EQ(languageOf("(doc\n", "a.rtfss"), CheckedLanguage::Description);
 }
 
