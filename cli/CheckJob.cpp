@@ -15,6 +15,7 @@
 #include "quorvane/diagnostics/DiagnosticEngine.h"
 #include "quorvane/diagnostics/RtfCheck.h"
 #include "quorvane/diagnostics/StyleSheetCheck.h"
+#include "quorvane/diagnostics/fileNameCheck.h"
 #include "quorvane/diagnostics/languageOf.h"
 #include "quorvane/support/codePage1252.h"
 
@@ -97,13 +98,13 @@ void CheckJob::checkFile(const std::string& file) {
         }
         // The file of an RTF document may be larger than the memory. A file that is something else
         // is read by the platform, which also tells why one cannot be read; so is a pipe, which
-        // can be read only once.
+        // can be read only once. Whether a stylesheet would be loaded shows when all of it is read.
         const std::filesystem::path path = pathFromUtf8(file);
         std::error_code failure;
         if (std::filesystem::is_regular_file(path, failure)) {
             std::ifstream stream(path, std::ios::binary);
             const std::string beginning = stream ? readPiece(stream) : std::string();
-            if (languageOf(beginning, file) == CheckedLanguage::Rtf) {
+            if (languageOf(beginning, file) == CheckedLanguage::Rtf && !isStyleSheetName(file)) {
                 checkRtfFile(file, stream, beginning);
                 return;
             }
@@ -116,7 +117,9 @@ void CheckJob::checkFile(const std::string& file) {
 }
 
 void CheckJob::checkText(const std::string& file, std::string_view bytes) {
-    switch (languageOf(bytes, file)) {
+    const CheckedLanguage language = languageOf(bytes, file);
+    tellAll(file, findNameMismatch(bytes, language, file), bytes);
+    switch (language) {
         case CheckedLanguage::Rtf:
             tellAll(file, checkRtf(bytes), bytes);
             break;
@@ -149,6 +152,7 @@ void CheckJob::checkRtfFile(const std::string& file, std::istream& stream,
             tellHeld();
         }
     });
+    tellAll(file, findNameMismatch(beginning, CheckedLanguage::Rtf, file), beginning);
     check.feed(beginning);
     for (std::string piece = readPiece(stream); !piece.empty(); piece = readPiece(stream)) {
         check.feed(piece);

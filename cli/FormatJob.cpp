@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 #include <utility>
 
 #include "cli/RenderOptions.h"
@@ -9,6 +10,7 @@
 #include "cli/process.h"
 #include "quorvane/diagnostics/languageOf.h"
 #include "quorvane/formatting/formatStyleSheet.h"
+#include "quorvane/formatting/languageToFormat.h"
 #include "quorvane/support/codePage1252.h"
 
 namespace quorvane::cli {
@@ -19,18 +21,23 @@ std::string shownName(const std::string& file) {
     return file == standardStream ? "<stdin>" : file;
 }
 
+[[noreturn]] void refuse(const char* why) {
+    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), why));
+}
+
 /// The bytes in their canonical form.
 std::string formatted(const std::string& file, std::string_view bytes, NameForm names) {
-    switch (languageOf(bytes, file)) {
-        case CheckedLanguage::Description:
-            return codePage1252FromUtf8(formattedDescription(utf8FromCodePage1252(bytes), names));
-        case CheckedLanguage::StyleSheet:
-            return codePage1252FromUtf8(formattedStyleSheet(utf8FromCodePage1252(bytes)));
-        case CheckedLanguage::Rtf:
-            break;
+    const std::string text = utf8FromCodePage1252(bytes);
+    const std::optional<CheckedLanguage> language = languageToFormat(text, file);
+    if (language == CheckedLanguage::Description) {
+        return codePage1252FromUtf8(formattedDescription(text, names));
     }
-    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
-                   "An RTF file has no canonical form"));
+    if (language == CheckedLanguage::StyleSheet) {
+        return codePage1252FromUtf8(formattedStyleSheet(text));
+    }
+    refuse(languageOf(bytes, file) == CheckedLanguage::Rtf
+               ? "An RTF file has no canonical form"
+               : "Neither a description nor a stylesheet");
 }
 
 }  // namespace

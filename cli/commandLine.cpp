@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "cli/UsageError.h"
+#include "quorvane/diagnostics/nearestWord.h"
 
 namespace quorvane::cli {
 
@@ -60,7 +61,8 @@ const std::map<std::string, FindingsForm>& findingsForms() {
 constexpr const char* formatFooter =
     R"(A file is a description or a stylesheet by its content, and where that does not
 tell, by its extension; - is standard input, whose canonical form goes to
-standard output. A file that is in its form is not touched. The form means the
+standard output. A file that is in its form is not touched, nor is one that is
+neither a description nor a stylesheet: that is an error. The form means the
 same: it renders to the same document. Errors may be told in other words, as
 they repeat lines of the description.
 
@@ -240,7 +242,10 @@ std::string usageErrorText(const CLI::App& app, const CLI::ParseError& error) {
     if (first.starts_with('-') || app.got_subcommand("render")) {
         return "The following argument was not expected: " + first;
     }
-    return first + " is not a subcommand; render is";
+    constexpr std::string_view commands[] = {"render", "check", "format"};
+    const std::string guess = didYouMean(first, commands);
+    return first + " is not a subcommand; " +
+           (guess.empty() ? "render, check and format are" : guess);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include "cli/causeText.h"
 #include "cli/oneLine.h"
+#include "cli/shortened.h"
 #include "quorvane/driver/driverErrors.h"
 
 namespace quorvane::cli {
@@ -25,8 +26,12 @@ std::string levelOrNumber(std::int32_t number) {
 
 std::string diagnosticText(const Diagnostic& diagnostic) {
     const RtfError& error = diagnostic.error;
+    // A raised error may name the file that it is about; that of an event repeats a line.
+    const std::string message = diagnostic.kind == DiagnosticKind::Event
+                                    ? shortened(oneLine(error.description))
+                                    : error.description;
     return oneLine(place(diagnostic) + "error[" + levelOrNumber(error.number) +
-                   "]: " + withCause(error.description, error));
+                   "]: " + withCause(message, error));
 }
 
 }  // namespace quorvane::cli

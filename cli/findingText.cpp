@@ -1,6 +1,7 @@
 #include "cli/findingText.h"
 
 #include "cli/oneLine.h"
+#include "cli/shortened.h"
 #include "quorvane/diagnostics/diagnosticRules.h"
 #include "quorvane/support/trimming.h"
 #include "quorvane/support/utf8.h"
@@ -37,7 +38,7 @@ std::string findingText(const std::string& file, const quorvane::Diagnostic& fin
                     std::to_string(place.column) + ":",
                 colors) +
         " " + colored(finding.severity == Severity::Error ? red : magenta, severity + ":", colors) +
-        " " + std::string(TrimEx(oneLine(finding.message))) + " [" +
+        " " + shortened(TrimEx(oneLine(finding.message))) + " [" +
         std::string(diagnosticRule(finding.id).identifier) + "]\n";
     const std::string line = excerpt.before + excerpt.marked + excerpt.after;
     if (!trimWhitespace(line).empty()) {
@@ -48,7 +49,7 @@ std::string findingText(const std::string& file, const quorvane::Diagnostic& fin
     }
     if (!finding.hint.empty()) {
         text += indentation;
-        text += "hint: " + oneLine(finding.hint) + "\n";
+        text += "hint: " + shortened(oneLine(finding.hint)) + "\n";
     }
     return text;
 }

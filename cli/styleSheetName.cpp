@@ -8,13 +8,9 @@
 
 namespace quorvane::cli {
 
-namespace {
-
 bool isStyleSheetName(const std::string& name) {
     return lowerCase(GFileSystem::getFileExtension(name)) == "rtfss";
 }
-
-}  // namespace
 
 void requireStyleSheetExtension(const std::string& name, const std::vector<std::string>& files) {
     if (isStyleSheetName(name)) {

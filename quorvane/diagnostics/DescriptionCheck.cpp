@@ -8,6 +8,7 @@
 #include "quorvane/diagnostics/TrialPlatform.h"
 #include "quorvane/diagnostics/descriptionWarnings.h"
 #include "quorvane/diagnostics/judgement.h"
+#include "quorvane/diagnostics/misreadCharacters.h"
 #include "quorvane/diagnostics/nodeErrors.h"
 #include "quorvane/diagnostics/trialDocument.h"
 #include "quorvane/driver/CRtfDriver.h"
@@ -47,6 +48,7 @@ std::vector<Diagnostic> findingsWithoutDriver(std::string_view text, KnownStyles
     DiagnosticEngine engine([&](Diagnostic finding) { findings.push_back(std::move(finding)); });
     findAll(source, styles, engine);
     sortByPlace(findings);
+    keepFirstMisreadCharacters(findings);
     return findings;
 }
 

@@ -6,6 +6,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "quorvane/diagnostics/fileEncoding.h"
 #include "quorvane/diagnostics/syntaxGuess.h"
 #include "quorvane/driver/lineClassifier.h"
 #include "quorvane/support/numberText.h"
@@ -17,9 +18,6 @@ namespace {
 
 constexpr std::int32_t lastNumbers[] = {1999, 2999, 3999, 999};
 constexpr std::string_view kindsInMessages[] = {"row", "cell", "para", "doc"};
-
-// The mark of UTF-8 at the beginning of a file that was read in Windows-1252.
-constexpr std::string_view byteOrderMark = "\xC3\xAF\xC2\xBB\xC2\xBF";
 
 std::size_t code(NodeKind kind) {
     return static_cast<std::size_t>(kind);
@@ -59,8 +57,9 @@ public:
         : source_(source), vocabulary_(vocabulary), engine_(engine) {}
 
     DescriptionOutline read() {
-        const std::vector<std::string_view> written = writtenLines();
+        std::vector<std::string_view> written = writtenLines();
         checkFrame(written);
+        passOverByteOrderMark(written);
         if (!holds("(doc") && !holdsLines(written)) {
             // Prose or the like: that none of its lines is one goes without saying.
             return std::move(outline_);
@@ -101,6 +100,17 @@ private:
         return lines;
     }
 
+    /// A mark before the first line is told with the frame; it hides nothing of what follows.
+    static void passOverByteOrderMark(std::vector<std::string_view>& lines) {
+        if (lines.empty()) {
+            return;
+        }
+        lines.front() = trimWhitespace(behindByteOrderMark(lines.front()));
+        if (lines.front().empty() || lines.front().front() == ';') {
+            lines.erase(lines.begin());
+        }
+    }
+
     bool holdsLines(const std::vector<std::string_view>& lines) const {
         return std::any_of(lines.begin(), lines.end(), [&](std::string_view line) {
             return isLeaf(line) || openedKind(line, vocabulary_) != NodeKind::None ||
@@ -118,7 +128,9 @@ private:
         const std::string_view last = lines.empty() ? first : lines.back();
         if (!holds("(doc")) {
             engine_.report(DiagnosticId::WrongFileType, source_.placeOf(first), {},
-                           "a description begins with (doc and ends with doc)");
+                           isUtf16(source_.text())
+                               ? std::string(utf16Hint)
+                               : "a description begins with (doc and ends with doc)");
             return;
         }
         if (!holds("(r") && !holds("(c")) {
@@ -128,7 +140,7 @@ private:
         startsAsDocument_ = first.starts_with("(doc");
         if (!startsAsDocument_) {
             engine_.report(DiagnosticId::WrongRoot, source_.placeOf(first), {},
-                           first.starts_with(byteOrderMark)
+                           behindByteOrderMark(first).size() < first.size()
                                ? "the file begins with a mark of UTF-8: save it in Windows-1252"
                                : "");
         } else if (!last.starts_with("doc)")) {

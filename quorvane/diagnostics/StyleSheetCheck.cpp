@@ -11,8 +11,10 @@
 #include "quorvane/diagnostics/DiagnosticEngine.h"
 #include "quorvane/diagnostics/SourceText.h"
 #include "quorvane/diagnostics/StyleSheetOutline.h"
+#include "quorvane/diagnostics/fileEncoding.h"
 #include "quorvane/diagnostics/judgement.h"
 #include "quorvane/diagnostics/languageOf.h"
+#include "quorvane/diagnostics/misreadCharacters.h"
 #include "quorvane/diagnostics/nearestWord.h"
 #include "quorvane/diagnostics/rtfText.h"
 #include "quorvane/rtfgroups/CRtfGrpColorTable.h"
@@ -101,6 +103,8 @@ public:
         if (!opening.empty()) {
             report(DiagnosticId::DescriptionAsStyleSheet, opening, {},
                    "were the names of the two files swapped?");
+        } else {
+            findKeywordWithoutBraces();
         }
         findBraces();
         for (const SheetDefinition& definition : outline_.definitions) {
@@ -116,6 +120,32 @@ private:
     void report(DiagnosticId id, std::string_view part,
                 std::initializer_list<std::string_view> arguments = {}, std::string hint = {}) {
         engine_.report(id, source_.placeOf(part), arguments, std::move(hint));
+    }
+
+    /// What stands outside of braces says nothing: without any, a text that means to say something
+    /// has no styles.
+    void findKeywordWithoutBraces() {
+        const std::string_view text = source_.text();
+        if (text.find_first_of("{}") != std::string_view::npos) {
+            return;
+        }
+        for (const SourceText::Line& bounds : source_.lines()) {
+            std::string_view line = text.substr(bounds.start, bounds.end - bounds.start);
+            if (trimWhitespace(line).starts_with(';')) {
+                continue;
+            }
+            const std::string_view word = trimWhitespace(line.substr(0, line.find(':')));
+            const std::string keyword = lowerCase(word);
+            const bool isKeyword =
+                line.find(':') != std::string_view::npos &&
+                (keyword == "name" || std::find(std::begin(keywords), std::end(keywords),
+                                                keyword) != std::end(keywords));
+            if (isKeyword) {
+                report(DiagnosticId::NoStyles, word, {},
+                       "a definition stands in braces: { name: ...; style-def: ... }");
+                return;
+            }
+        }
     }
 
     void findBraces() {
@@ -291,6 +321,20 @@ std::vector<RtfError> loadingErrors(std::string_view text) {
     }
 }
 
+/// In UTF-16 no word is what it looks like: that alone is told.
+std::vector<Diagnostic> findingsInUtf16(std::string_view text) {
+    std::vector<Diagnostic> findings;
+    DiagnosticEngine engine([&](Diagnostic finding) { findings.push_back(std::move(finding)); });
+    const std::vector<RtfError> errors = loadingErrors(text);
+    if (errors.empty()) {
+        engine.report(DiagnosticId::NoStyles, {}, {}, std::string(utf16Hint));
+    } else {
+        engine.report(DiagnosticId::StyleSheetRejected, {}, {errors.front().description},
+                      std::string(utf16Hint));
+    }
+    return findings;
+}
+
 }  // namespace
 
 std::vector<Diagnostic> findingsWithoutLoading(std::string_view text) {
@@ -299,10 +343,14 @@ std::vector<Diagnostic> findingsWithoutLoading(std::string_view text) {
     DiagnosticEngine engine([&](Diagnostic finding) { findings.push_back(std::move(finding)); });
     SheetFindings(source, engine).find();
     sortByPlace(findings);
+    keepFirstMisreadCharacters(findings);
     return findings;
 }
 
 std::vector<Diagnostic> checkStyleSheet(std::string_view text) {
+    if (isUtf16(text)) {
+        return findingsInUtf16(text);
+    }
     return judgedFindings(findingsWithoutLoading(text), loadingErrors(text),
                           DiagnosticId::StyleSheetRejected, SourceText(text));
 }

@@ -12,7 +12,8 @@
 
 QUORVANE_DIAGNOSTIC(WrongFileType, "wrong-file-type", Error, Description,
     "The provided file isn't a correct rtfspec file.",
-    "A description is one `doc` node. A text without `(doc` is none.",
+    "A description is one `doc` node. A text without `(doc` is none, and a stylesheet or an RTF file "
+    "named `.rtfspec` is none either.",
     "(dco\n"
     "(r\n"
     "(c\n"
@@ -933,8 +934,10 @@ QUORVANE_DIAGNOSTIC(UnknownNumber, "unknown-number", Warning, Description,
     "")
 
 QUORVANE_DIAGNOSTIC(UnencodableCharacter, "unencodable-character", Warning, Description,
-    "The code page has no place for {0}, which becomes a question mark.",
-    "Documents are written in Windows-1252. In a text other characters are written as RTF "
+    "The code page has no place for {0}, which {1}.",
+    "Documents are written in Windows-1252. A character that it has no place for becomes a question "
+    "mark, or where the file is in UTF-8 two or more other characters. Of those the first is told. "
+    "In a text such characters are written as RTF "
     "writes them: `{\\uc1\\u8594?}` is an arrow, and a question mark where a reader has none. The "
     "data of a marked field and the names of styles have no such form.",
     "(doc\n"
@@ -960,7 +963,8 @@ QUORVANE_DIAGNOSTIC(UnencodableCharacter, "unencodable-character", Warning, Desc
 QUORVANE_DIAGNOSTIC(Utf8Text, "utf-8-text", Warning, Description,
     "{0} is read as {1}: the file is in UTF-8.",
     "Files are read in Windows-1252, one byte a character. In a file in UTF-8 every other "
-    "character than those of ASCII turns into two or three. Save the file in Windows-1252, or "
+    "character than those of ASCII turns into two or three; the first is told. Save the file "
+    "in Windows-1252, or "
     "write `\\'e9` and the like.",
     "(doc\n"
     "(r\n"
@@ -1289,8 +1293,8 @@ QUORVANE_DIAGNOSTIC(BadAdditive, "bad-additive", Error, StyleSheet,
 
 QUORVANE_DIAGNOSTIC(StyleSheetRejected, "stylesheet-rejected", Error, StyleSheet,
     "{0}",
-    "The loading ends with an error that no other row of this table tells. The message is the "
-    "error's own.",
+    "The loading ends with an error that no other row of this table tells, as that of a file that "
+    "is no stylesheet in spite of its extension. The message is the error's own.",
     "",
     "",
     "")
@@ -1316,6 +1320,14 @@ QUORVANE_DIAGNOSTIC(DescriptionAsStyleSheet, "description-as-stylesheet", Warnin
     "c)\n"
     "r)\n"
     "doc)\n")
+
+QUORVANE_DIAGNOSTIC(NoStyles, "no-styles", Warning, StyleSheet,
+    "The stylesheet has no styles.",
+    "The definition of a style stands in braces. Text outside of braces says nothing: it is "
+    "accepted, and has no styles.",
+    "name: total; style-def: s; format: \\b\n",
+    "{ name: total; style-def: s; format: \\b }\n",
+    "")
 
 QUORVANE_DIAGNOSTIC(DuplicateStyle, "duplicate-style", Warning, StyleSheet,
     "The style {0} is defined already, on line {1}.",
@@ -1397,6 +1409,14 @@ QUORVANE_DIAGNOSTIC(NotRtf, "not-rtf", Error, Rtf,
     "An RTF file begins with `{\\rtf` and its version.",
     "{\\rtx1 Total}\n",
     "{\\rtf1 Total}\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(WrongExtension, "wrong-extension", Warning, Rtf,
+    "This is {0}, but its extension is {1}.",
+    "A file is checked as what it holds. Programs and people go by its extension: `.rtfspec` is "
+    "that of descriptions, `.rtfss` that of stylesheets, `.rtf` that of documents.",
+    "",
+    "",
     "")
 
 QUORVANE_DIAGNOSTIC(UnclosedGroup, "unclosed-group", Error, Rtf,

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "quorvane/diagnostics/SourceText.h"
+#include "quorvane/diagnostics/fileEncoding.h"
 #include "quorvane/driver/Vocabulary.h"
 #include "quorvane/driver/lineClassifier.h"
 #include "quorvane/support/textCase.h"
@@ -16,19 +17,6 @@ namespace quorvane {
 namespace {
 
 constexpr std::size_t enough = std::size_t{64} * 1024;
-
-/// The first line that is neither blank nor a comment; empty when there is none.
-std::string_view firstLine(std::string_view text) {
-    const SourceText source(text);
-    for (const SourceText::Line& bounds : source.lines()) {
-        const std::string_view line =
-            trimWhitespace(text.substr(bounds.start, bounds.end - bounds.start));
-        if (!line.empty() && !line.starts_with(';')) {
-            return line;
-        }
-    }
-    return {};
-}
 
 bool opensNode(std::string_view line, const Vocabulary& vocabulary) {
     return isLeaf(line) || openedKind(line, vocabulary) != NodeKind::None;
@@ -64,12 +52,29 @@ std::ptrdiff_t countDescriptionLines(std::string_view text, const Vocabulary& vo
 
 }  // namespace
 
+std::string_view firstLineOf(std::string_view text) {
+    const SourceText source(text);
+    for (const SourceText::Line& bounds : source.lines()) {
+        const std::string_view line =
+            trimWhitespace(text.substr(bounds.start, bounds.end - bounds.start));
+        if (!line.empty() && !line.starts_with(';')) {
+            return line;
+        }
+    }
+    return {};
+}
+
 CheckedLanguage languageOf(std::string_view beginning, std::string_view fileName) {
-    const std::string_view text = beginning.substr(0, enough);
+    if (isUtf16(beginning)) {
+        std::string ascii(beginning.substr(0, enough));
+        std::erase_if(ascii, [](char byte) { return byte < ' ' && byte != '\r' && byte != '\n'; });
+        return languageOf(ascii, fileName);
+    }
+    const std::string_view text = behindByteOrderMark(beginning.substr(0, enough));
     const Vocabulary vocabulary;
     // Texts of a description may hold more braces than a stylesheet does, so that counting alone
     // would not do.
-    const std::string_view first = firstLine(text);
+    const std::string_view first = firstLineOf(text);
     if (opensNode(first, vocabulary)) {
         return CheckedLanguage::Description;
     }
@@ -79,14 +84,14 @@ CheckedLanguage languageOf(std::string_view beginning, std::string_view fileName
     }
     const auto braces = std::count(text.begin(), text.end(), '{');
     const std::ptrdiff_t lines = countDescriptionLines(text, vocabulary);
-    if (first.starts_with('{') || braces > lines) {
+    if (first.starts_with('{') || (braces > lines && named != CheckedLanguage::Description)) {
         return CheckedLanguage::StyleSheet;
     }
     return lines > 0 ? CheckedLanguage::Description : named.value_or(CheckedLanguage::Description);
 }
 
 std::string_view openingOfDescription(std::string_view text) {
-    const std::string_view first = firstLine(text.substr(0, enough));
+    const std::string_view first = firstLineOf(text.substr(0, enough));
     return opensNode(first, Vocabulary()) ? first : std::string_view();
 }
 

@@ -13,6 +13,7 @@
 
 #include "quorvane/diagnostics/RtfCheck.h"
 #include "quorvane/diagnostics/documentNumbers.h"
+#include "quorvane/diagnostics/misreadCharacters.h"
 #include "quorvane/diagnostics/nearestWord.h"
 #include "quorvane/diagnostics/rtfControls.h"
 #include "quorvane/diagnostics/rtfWords.h"
@@ -558,8 +559,8 @@ private:
         if (const auto meant = utf8InCodePage()) {
             const std::string_view shown = text_.substr(at_, meant->length);
             if (codePage1252FromUtf8(meant->text) == "?") {
-                report(DiagnosticId::UnencodableCharacter, meant->length, {meant->text},
-                       unicodeHint(meant->code));
+                report(DiagnosticId::UnencodableCharacter, meant->length,
+                       {meant->text, misreadText(shown)}, unicodeHint(meant->code));
             } else {
                 report(DiagnosticId::Utf8Text, meant->length, {meant->text, shown},
                        "save the file in Windows-1252" +
@@ -574,8 +575,8 @@ private:
             report(DiagnosticId::ControlCharacter, bytes.size(),
                    {numberedCharacter(character.code)}, "");
         } else if (codePage1252FromUtf8(bytes) == "?") {
-            report(DiagnosticId::UnencodableCharacter, bytes.size(), {bytes},
-                   unicodeHint(character.code));
+            report(DiagnosticId::UnencodableCharacter, bytes.size(),
+                   {bytes, "becomes a question mark"}, unicodeHint(character.code));
         }
         at_ += character.length;
     }

@@ -120,8 +120,12 @@ TEST(CommandLine, ShowsTheVersionWithAndWithoutASubcommand) {
 
 TEST(CommandLine, NeedsASubcommand) {
     EXPECT_EQ(usageErrorOf({}), "A subcommand is required");
-    EXPECT_EQ(usageErrorOf({"draw", "a.rtfspec"}), "draw is not a subcommand; render is");
-    EXPECT_EQ(usageErrorOf({"[a].rtfspec"}), "[a].rtfspec is not a subcommand; render is");
+    EXPECT_EQ(usageErrorOf({"draw", "a.rtfspec"}),
+              "draw is not a subcommand; render, check and format are");
+    EXPECT_EQ(usageErrorOf({"[a].rtfspec"}),
+              "[a].rtfspec is not a subcommand; render, check and format are");
+    EXPECT_EQ(usageErrorOf({"chekc", "x"}), "chekc is not a subcommand; did you mean check?");
+    EXPECT_EQ(usageErrorOf({"Format", "x"}), "Format is not a subcommand; did you mean format?");
 }
 
 TEST(CommandLine, NeedsADescription) {

@@ -103,5 +103,73 @@ TEST_F(FormatTest, TellsWhatItCannotDoAndFormatsTheRest) {
     EXPECT_EQ(run({}).status, 2);
 }
 
+TEST_F(FormatTest, RefusesWhatIsNeitherADescriptionNorAStyleSheet) {
+    const std::vector<std::pair<std::string, std::string>> others = {
+        {"a.c", "int main(void)   { return 0; }\n"},
+        {"b.csv", "1;   {3}\r\n\n\n2;x\n"},
+        {"c.mk", "all:\n\tcc  a.c   \n"},
+        {"d.css", "p   { color: red;next:x }\n\n\n"},
+        {"e.eml", "Dear all,   \n\n\n   hello\n"},
+        {"f.md", "Write   \n```\n(doc\n(row\nrow)\ndoc)\n```\n"},
+        {"g.ts", "interface Style   { name: string; format: string }\n"},
+        {"h.yml", "{ name: a,   next: b }\n"},
+        {"i.lisp", "(setq a=(b))   \n(x=1)\n"},
+        {"j.rtfss", "int main(void)   { return 0; }\n"},
+        {"k.rtfspec", "int main(void)   { return 0; }\n"},
+        {"l.rtfspec", std::string("(\0d\0o\0c\0\r\0\n\0", 12)},
+        {"m", ""},
+    };
+    std::vector<std::string> names;
+    std::string expected;
+    for (const auto& [name, bytes] : others) {
+        folder.write(name, bytes);
+        names.push_back(name);
+        expected += name + ": error[5]: Neither a description nor a stylesheet\n";
+    }
+    const ProgramResult result = run(names);
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.output, "");
+    EXPECT_EQ(result.errors, expected);
+    for (const auto& [name, bytes] : others) {
+        EXPECT_EQ(folder.read(name), bytes) << name;
+    }
+}
+
+TEST_F(FormatTest, RefusesWhatIsNeitherFromStandardInput) {
+    start.input = "int main(void)   { return 0; }\n";
+    for (const std::vector<std::string>& arguments :
+         std::vector<std::vector<std::string>>{{"-"}, {"--check", "-"}}) {
+        const ProgramResult result = run(arguments);
+        EXPECT_EQ(result.status, 2);
+        EXPECT_EQ(result.output, "");
+        EXPECT_EQ(result.errors, "<stdin>: error[5]: Neither a description nor a stylesheet\n");
+    }
+}
+
+TEST_F(FormatTest, TakesFilesOfItsExtensionsThatHoldNothingOfTheLanguage) {
+    folder.write("a.rtfspec", "");
+    folder.write("b.rtfspec", "; later  \n");
+    folder.write("C.RTFSPEC", "To come.  \n");
+    folder.write("d.rtfss", "");
+    folder.write("e.rtfss", "Styles to come.  \n");
+    const ProgramResult result = run({"a.rtfspec", "b.rtfspec", "C.RTFSPEC", "d.rtfss", "e.rtfss"});
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(folder.read("a.rtfspec") + folder.read("d.rtfss"), "");
+    EXPECT_EQ(folder.read("b.rtfspec"), "; later\n");
+    EXPECT_EQ(folder.read("C.RTFSPEC"), "To come.\n");
+    EXPECT_EQ(folder.read("e.rtfss"), "Styles to come.\n");
+}
+
+TEST_F(FormatTest, KnowsDescriptionsAndStyleSheetsUnderOtherNames) {
+    folder.write("a.txt", "; mine\n" + loose);
+    folder.write("b.txt", "(pa = centered)");
+    folder.write("c.txt", "; mine\n{name:a;style-def:s}");
+    const ProgramResult result = run({"a.txt", "b.txt", "c.txt"});
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(folder.read("a.txt"), "; mine\n" + canonical);
+    EXPECT_EQ(folder.read("b.txt"), "(pa=centered)\n");
+    EXPECT_EQ(folder.read("c.txt"), "; mine\n{ name: a; style-def: s }\n");
+}
+
 }  // namespace
 }  // namespace quorvane::cli

@@ -349,8 +349,8 @@ TEST(ReportsOfCharacters, FindThemInEverythingThatReachesTheDocument) {
     // A file in UTF-8 with an arrow, which the code page does not have, and with an e acute.
     EXPECT_EQ(
         reportOf(paragraphWith("a", "(pmf=\xE2\x86\x92)\n")),
-        "a.rtfspec:6:6: warning: The code page has no place for \xE2\x86\x92, which becomes a "
-        "question mark. [unencodable-character]\n"
+        "a.rtfspec:6:6: warning: The code page has no place for \xE2\x86\x92, which is read as "
+        "\xC3\xA2\xE2\x80\xA0\xE2\x80\x99: the file is in UTF-8. [unencodable-character]\n"
         "    (pmf=\xC3\xA2\xE2\x80\xA0\xE2\x80\x99)\n"
         "         ^~~\n");
     EXPECT_EQ(reportOf("(doc\n(r\n(c\n(cmf=\xC3\xA9)\nc)\nr)\ndoc)\n"),
@@ -367,6 +367,94 @@ TEST(ReportsOfCharacters, FindThemInEverythingThatReachesTheDocument) {
               "    { name: normal, \xC3\x83\xC2\xA9; style-def: cs }\n"
               "                    ^~\n"
               "    hint: save the file in Windows-1252\n");
+}
+
+TEST(ReportsOfCharacters, TellTheFirstThatIsMisread) {
+    // Two texts of a file in UTF-8, in which each kind of character stands several times.
+    const std::string text = "caf\xC3\xA9 \xE2\x86\x92 ol\xC3\xA9 \xE2\x86\x92";
+    const std::string cell = "(c\n(p\n(pt=" + text + ")\np)\nc)\n";
+    const std::string shown =
+        "    (pt=caf\xC3\x83\xC2\xA9 \xC3\xA2\xE2\x80\xA0\xE2\x80\x99 ol\xC3\x83\xC2\xA9 "
+        "\xC3\xA2\xE2\x80\xA0\xE2\x80\x99)\n";
+    EXPECT_EQ(
+        reportOf("(doc\n(r\n" + cell + cell + "r)\ndoc)\n"),
+        "a.rtfspec:5:8: warning: \xC3\xA9 is read as \xC3\x83\xC2\xA9: the file is in UTF-8. "
+        "Other characters are misread too. [utf-8-text]\n" +
+            shown +
+            "           ^~\n"
+            "    hint: save the file in Windows-1252, or write \\'e9\n"
+            "a.rtfspec:5:11: warning: The code page has no place for \xE2\x86\x92, which is "
+            "read as \xC3\xA2\xE2\x80\xA0\xE2\x80\x99: the file is in UTF-8. Other characters are "
+            "misread too. [unencodable-character]\n" +
+            shown +
+            "              ^~~\n"
+            "    hint: write {\\uc1\\u8594?}\n");
+    const std::string names = "\xC3\xA9, caf\xC3\xA9";
+    EXPECT_EQ(reportOfFile("a.rtfss", "{ name: normal; style-def: s }\n{ name: " + names +
+                                          "; style-def: cs }\n"),
+              "a.rtfss:2:9: warning: \xC3\xA9 is read as \xC3\x83\xC2\xA9: the file is in UTF-8. "
+              "Other characters are misread too. [utf-8-text]\n"
+              "    { name: \xC3\x83\xC2\xA9, caf\xC3\x83\xC2\xA9; style-def: cs }\n"
+              "            ^~\n"
+              "    hint: save the file in Windows-1252\n");
+}
+
+TEST(ReportsOfNames, TellOfADescriptionThatIsNone) {
+    const std::string hint = "    hint: the file reads as ";
+    EXPECT_EQ(reportOfFile("a.rtfspec", "{ name: a; style-def: s }\n"),
+              "a.rtfspec:1:1: error: The provided file isn't a correct rtfspec file. "
+              "[wrong-file-type]\n    { name: a; style-def: s }\n    ^" +
+                  std::string(24, '~') + "\n" + hint +
+                  "a stylesheet, which has the extension .rtfss\n");
+    EXPECT_EQ(reportOfFile("a.rtfspec", "f(void) { return 0; }\n"),
+              "a.rtfspec:1:1: error: The provided file isn't a correct rtfspec file. "
+              "[wrong-file-type]\n    f(void) { return 0; }\n    ^" +
+                  std::string(20, '~') +
+                  "\n    hint: a description begins with (doc and ends with doc)\n");
+    EXPECT_EQ(reportOfFile("A.RTFSPEC", "{\\rtf1\\ansi a}"),
+              "A.RTFSPEC:1:1: error: The provided file isn't a correct rtfspec file. "
+              "[wrong-file-type]\n    {\\rtf1\\ansi a}\n    ^" +
+                  std::string(13, '~') + "\n" + hint +
+                  "an RTF file, which has the extension .rtf\n");
+}
+
+TEST(ReportsOfNames, TellOfAStyleSheetThatIsNone) {
+    const std::string description = "(doc\n(r\n(c\nc)\nr)\ndoc)\n";
+    EXPECT_EQ(reportOfFile("a.rtfss", description),
+              "a.rtfss:1:1: warning: This is a description, not a stylesheet. "
+              "[description-as-stylesheet]\n    (doc\n    ^~~~\n"
+              "    hint: the file reads as a description, which has the extension .rtfspec\n");
+    EXPECT_EQ(reportOfFile("a.rtfss", paragraphWith("{\\b a}")),
+              "a.rtfss:1:1: error: Error while processing stylesheet. \\b a is not a valid "
+              "keyword. [stylesheet-rejected]\n    (doc\n    ^~~~\n"
+              "    hint: the file reads as a description, which has the extension .rtfspec\n");
+    EXPECT_EQ(reportOfFile("a.rtfss", "{\\rtf1\\ansi a}"),
+              "a.rtfss:1:1: error: Error while processing stylesheet. \\rtf1\\ansi a is not a "
+              "valid keyword. [stylesheet-rejected]\n    {\\rtf1\\ansi a}\n    ^" +
+                  std::string(13, '~') +
+                  "\n    hint: the file reads as an RTF file, which has the extension .rtf\n");
+}
+
+TEST(ReportsOfNames, SayNothingOfOtherExtensions) {
+    EXPECT_EQ(reportOfFile("a.txt", "(doc\n(r\n(c\nc)\nr)\ndoc)\n"), "");
+    EXPECT_EQ(reportOfFile("a.txt", "{ name: a; style-def: s }\n"), "");
+}
+
+TEST(ReportsOfStyleSheets, TellOfKeywordsWithoutBraces) {
+    EXPECT_EQ(reportOfFile("a.rtfss", "; mine\n  Name : a; style-def: s\n"),
+              "a.rtfss:2:3: warning: The stylesheet has no styles. [no-styles]\n"
+              "      Name : a; style-def: s\n"
+              "      ^~~~\n"
+              "    hint: a definition stands in braces: { name: ...; style-def: ... }\n");
+    EXPECT_EQ(reportOfFile("a.rtfss", "Styles to come: none\n; name: a\n"), "");
+}
+
+TEST(ReportsOfStyleSheets, NameUtf16) {
+    const std::string sheet("\xFF\xFE{\0n\0}\0", 8);
+    const std::string hint = "    hint: the file is in UTF-16: save it in Windows-1252\n";
+    const std::string report = reportOfFile("a.rtfss", sheet);
+    EXPECT_TRUE(report.starts_with("a.rtfss:1:1: error: ")) << report;
+    EXPECT_TRUE(report.ends_with(hint)) << report;
 }
 
 TEST(ReportsOfKeys, SayWhatWasMeantByOtherWordsAndWhatANumberWithAUnitIs) {
@@ -578,7 +666,8 @@ std::string reportOfFindings(const std::string& file, const std::string& text,
 }
 
 /// Reports of diagnostics that no text is known for, as the check has words of its own for all
-/// errors that the library raises today: what is told of an error that it does not know.
+/// errors that the library raises today: what is told of an error that it does not know. One more
+/// goes by the name of the file, which an example does not have.
 const std::map<std::string, std::pair<std::string, std::string>>& reportsWithoutExample() {
     static const std::map<std::string, std::pair<std::string, std::string>> reports = [] {
         RtfError error(4711, "A new error");
@@ -597,12 +686,17 @@ const std::map<std::string, std::pair<std::string, std::string>>& reportsWithout
                 judgedFindings({}, {error}, DiagnosticId::StyleSheetRejected, SourceText(sheet))),
             "a.rtfss:1:1: error: A new error [stylesheet-rejected]\n    { name: a }\n"
             "    ^~~~~~~~~~~\n"};
+        list["wrong-extension"] = {
+            reportOfFile("a.rtf", "(doc\n(r\n(c\nc)\nr)\ndoc)\n"),
+            "a.rtf:1:1: warning: This is a description, but its extension is .rtf. "
+            "[wrong-extension]\n    (doc\n    ^~~~\n"
+            "    hint: the file reads as a description, which has the extension .rtfspec\n"};
         return list;
     }();
     return reports;
 }
 
-TEST(ReportsOfUnknownErrors, SayWhatTheLibrarySays) {
+TEST(ReportsWithoutExample, SayWhatIsWrong) {
     for (const auto& [identifier, report] : reportsWithoutExample()) {
         EXPECT_EQ(report.first, report.second);
     }

@@ -11,6 +11,8 @@ namespace quorvane {
 namespace {
 
 using testing::ElementsAre;
+using testing::EndsWith;
+using testing::StartsWith;
 
 /// The findings, each as its line, its identifier and its hint.
 std::vector<std::string> found(const std::string& text) {
@@ -34,6 +36,38 @@ TEST(DescriptionCheck, TellsOfProseOnlyThatItIsNoDescription) {
 TEST(DescriptionCheck, KnowsTheMarkOfUtf8) {
     EXPECT_EQ(found("\xC3\xAF\xC2\xBB\xC2\xBF(doc\n(r\n(c\nc)\nr)\ndoc)\n").front(),
               "1 wrong-root: the file begins with a mark of UTF-8: save it in Windows-1252");
+}
+
+TEST(DescriptionCheck, GoesOnBehindTheMarkOfUtf8) {
+    for (const char* between : {"", "\n", "; mine\n", " "}) {
+        const std::vector<std::string> findings =
+            found("\xC3\xAF\xC2\xBB\xC2\xBF" + std::string(between) +
+                  "(doc\n(r\n(c\n(p\n(pt=a)\n(pa=centre)\np)\nc)\nr)\ndoc)\n");
+        ASSERT_EQ(findings.size(), 2U) << between;
+        EXPECT_THAT(findings[0], StartsWith("1 wrong-root: the file begins with a mark of UTF-8"));
+        EXPECT_THAT(findings[1], EndsWith(" wrong-alignment: did you mean centered?"));
+    }
+}
+
+TEST(DescriptionCheck, TellsEachCharacterThatBecomesAQuestionMark) {
+    // A host's text, which is in UTF-8 and read as such.
+    const std::vector<Diagnostic> findings = checkDescription(
+        "(doc\n(r\n(c\n(p\n(pt=\xE2\x86\x92\xE2\x86\x92)\np)\nc)\nr)\ndoc)\n", nullptr);
+    ASSERT_EQ(findings.size(), 2U);
+    for (const Diagnostic& finding : findings) {
+        EXPECT_EQ(finding.message,
+                  "The code page has no place for \xE2\x86\x92, which becomes a question mark.");
+    }
+}
+
+TEST(DescriptionCheck, NamesUtf16) {
+    const std::string mark = "\xC3\xBF\xC3\xBE";
+    const std::string doc("(\0d\0o\0c\0\n\0", 10);
+    for (const std::string& text : {mark + doc, doc, '\0' + doc}) {
+        EXPECT_THAT(
+            found(text),
+            ElementsAre("1 wrong-file-type: the file is in UTF-16: save it in Windows-1252"));
+    }
 }
 
 TEST(DescriptionCheck, KnowsTheWaysOfOtherLanguages) {

@@ -82,8 +82,9 @@ TEST_P(Examples, ThatAreRightHaveNoFinding) {
 
 TEST_P(Examples, AreTakenForWhatTheyAre) {
     EXPECT_EQ(languageOf(expandedExample(GetParam().right)), GetParam().language);
-    // One is about what is taken for something else.
-    const bool isTakenForAnother = GetParam().id == DiagnosticId::DescriptionAsStyleSheet;
+    // Two are about what is taken for something else without its extension.
+    const bool isTakenForAnother = GetParam().id == DiagnosticId::DescriptionAsStyleSheet ||
+                                   GetParam().id == DiagnosticId::NoStyles;
     EXPECT_EQ(languageOf(expandedExample(GetParam().wrong)),
               isTakenForAnother ? CheckedLanguage::Description : GetParam().language);
 }
@@ -102,7 +103,8 @@ TEST(ExamplesOfTheTable, AreThereForAllButWhatFewLinesCannotShow) {
             without.emplace_back(rule.identifier);
         }
     }
-    EXPECT_THAT(without, testing::ElementsAre("rejected", "stylesheet-rejected"));
+    EXPECT_THAT(without,
+                testing::ElementsAre("rejected", "stylesheet-rejected", "wrong-extension"));
 }
 
 }  // namespace

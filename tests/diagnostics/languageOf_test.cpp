@@ -50,7 +50,17 @@ TEST(LanguageOf, IsThatOfTheExtensionWhereTheContentDoesNotTell) {
     EXPECT_EQ(languageOf("{rtf1 a}", "a.rtf"), CheckedLanguage::Rtf);
     EXPECT_EQ(languageOf("(doc\n(r\n", "a.rtf"), CheckedLanguage::Description);
     EXPECT_EQ(languageOf("{ name: a }", "a.rtfspec"), CheckedLanguage::StyleSheet);
+    EXPECT_EQ(languageOf("int main(void) { return 0; }", "a.rtfspec"),
+              CheckedLanguage::Description);
     EXPECT_EQ(languageOf("(doc\n", "a.rtfss"), CheckedLanguage::Description);
+}
+
+TEST(LanguageOf, LooksBehindTheMarkOfUtf8AndIntoUtf16) {
+    EXPECT_EQ(languageOf("\xEF\xBB\xBF(doc\n(r {{{{"), CheckedLanguage::Description);
+    EXPECT_EQ(languageOf(std::string("\xFF\xFE{\0 \0n\0a\0m\0e\0:\0", 16)),
+              CheckedLanguage::StyleSheet);
+    EXPECT_EQ(languageOf(std::string("\0(\0d\0o\0c\0\n", 10), "a.rtfss"),
+              CheckedLanguage::Description);
 }
 
 TEST(OpeningOfDescription, IsTheFirstLineThatSaysSomething) {

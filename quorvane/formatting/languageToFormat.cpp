@@ -1,0 +1,89 @@
+#include "quorvane/formatting/languageToFormat.h"
+
+#include <algorithm>
+#include <string>
+
+#include "quorvane/diagnostics/StyleSheetOutline.h"
+#include "quorvane/diagnostics/languageOf.h"
+#include "quorvane/driver/Vocabulary.h"
+#include "quorvane/driver/lineClassifier.h"
+#include "quorvane/support/textCase.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr NodeKind nodeKinds[] = {NodeKind::Doc, NodeKind::Row, NodeKind::Cell, NodeKind::Para};
+constexpr std::string_view keywords[] = {"style-def", "format", "based-on", "next", "additive"};
+
+bool hasKeyword(const SheetItem& item) {
+    // Without its ":" a word is no keyword: some language has it as a statement.
+    return item.whole.size() > item.writtenKeyword.size() &&
+           (item.keyword == "name" || std::find(std::begin(keywords), std::end(keywords),
+                                                item.keyword) != std::end(keywords));
+}
+
+bool isNamed(const SheetDefinition& definition) {
+    return !definition.items.empty() && definition.items.front().keyword == "name";
+}
+
+bool hasItemBesideName(const SheetDefinition& definition) {
+    return isNamed(definition) &&
+           std::any_of(definition.items.begin() + 1, definition.items.end(), hasKeyword);
+}
+
+bool hasAnyKeyword(const SheetDefinition& definition) {
+    return std::any_of(definition.items.begin(), definition.items.end(), hasKeyword);
+}
+
+bool isKey(std::string_view key, const Vocabulary& vocabulary) {
+    const std::string expanded = vocabulary.expand(key);
+    return std::any_of(std::begin(nodeKinds), std::end(nodeKinds),
+                       [&](NodeKind kind) { return vocabulary.isKeyOf(kind, expanded); });
+}
+
+bool beginsAsDescription(std::string_view text) {
+    const std::string_view opening = openingOfDescription(text);
+    return !opening.empty() && (!isLeaf(opening) || isKey(leafKey(opening), Vocabulary()));
+}
+
+bool beginsAsStyleSheet(std::string_view text) {
+    if (!firstLineOf(text).starts_with('{')) {
+        return false;
+    }
+    const StyleSheetOutline outline = readStyleSheetOutline(text);
+    return isNamed(outline.definitions.front()) &&
+           std::any_of(outline.definitions.begin(), outline.definitions.end(), hasItemBesideName);
+}
+
+/// Of a file named as a stylesheet: braces without a single keyword are another language's.
+bool mayBeStyleSheet(std::string_view text) {
+    const StyleSheetOutline outline = readStyleSheetOutline(text);
+    return outline.definitions.empty() ||
+           std::any_of(outline.definitions.begin(), outline.definitions.end(), hasAnyKeyword);
+}
+
+}  // namespace
+
+std::optional<CheckedLanguage> languageToFormat(std::string_view text, std::string_view fileName) {
+    // A byte of zero is in no text, but in every other one of UTF-16.
+    if (text.find('\0') != std::string_view::npos) {
+        return std::nullopt;
+    }
+    if (beginsAsDescription(text)) {
+        return CheckedLanguage::Description;
+    }
+    const CheckedLanguage language = languageOf(text, fileName);
+    const std::string name = lowerCase(fileName);
+    if (name.ends_with(".rtfspec") || name.ends_with(".rtfss")) {
+        const bool isOther =
+            language == CheckedLanguage::Rtf ||
+            (languageOf(text) == CheckedLanguage::StyleSheet && !mayBeStyleSheet(text));
+        return isOther ? std::nullopt : std::optional(language);
+    }
+    return language == CheckedLanguage::StyleSheet && beginsAsStyleSheet(text)
+               ? std::optional(language)
+               : std::nullopt;
+}
+
+}  // namespace quorvane
