@@ -137,7 +137,7 @@ void CRtfDriver::AnalyseData(std::string_view text) {
     lines = PreProcessRawData(text);
     step([&] { requireDocAround(lines); });
     if (erroneousInput_) {
-        lines = repairLines(std::move(lines));
+        lines = repairLines(lines);
     }
     // Of the lines of a description about half are leaves; the others open and close nodes.
     DescriptionTree tree(lines.size() / 2);

@@ -29,16 +29,13 @@ constexpr const char* procedure = "CRtfDriver.treeWalkerBuild";
 
 }  // namespace
 
-std::vector<SourceLine> repairLines(std::vector<SourceLine> lines) {
+std::vector<SourceLine> repairLines(const std::vector<SourceLine>& lines) {
     const auto needsRepair = [](const SourceLine& line, const SourceLine& next) {
         return next.text == "(r" && (line.text == "(r" || line.text == "c)");
     };
-    auto first = std::adjacent_find(lines.begin(), lines.end(), needsRepair);
-    if (first == lines.end()) {
-        return lines;
-    }
-    std::vector<SourceLine> repaired(lines.begin(), first);
-    for (auto line = first; line != lines.end(); ++line) {
+    std::vector<SourceLine> repaired;
+    repaired.reserve(lines.size());
+    for (auto line = lines.begin(); line != lines.end(); ++line) {
         const auto next = line + 1;
         if (next == lines.end() || !needsRepair(*line, *next)) {
             repaired.push_back(*line);

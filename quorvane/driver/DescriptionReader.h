@@ -14,7 +14,7 @@ namespace quorvane {
 /// Closes rows that were left open before the next one, and drops the first of two openers in a
 /// row: where a line `(r` follows another one, the first goes; where `(r` follows `c)`, a line `r)`
 /// comes between them. Only lines that read exactly so are seen.
-std::vector<SourceLine> repairLines(std::vector<SourceLine> lines);
+std::vector<SourceLine> repairLines(const std::vector<SourceLine>& lines);
 
 /// Turns the lines of one description into its tree of nodes.
 class DescriptionReader {

@@ -55,8 +55,10 @@ DescriptionNode& DescriptionTree::AddNode(DescriptionNode& parent, NodeKind kind
         std::any_of(children.begin(), children.end(), hasNumber)) {
         raise(RunTimeError::DuplicateKey);
     }
-    auto* const child = new (memory_.allocate(sizeof(DescriptionNode), alignof(DescriptionNode)))
-        DescriptionNode{.number = number, .line = line};
+    void* const memory = memory_.allocate(sizeof(DescriptionNode), alignof(DescriptionNode));
+    auto* const child = new (memory) DescriptionNode();
+    child->number = number;
+    child->line = line;
     (parent.lastChild ? parent.lastChild->next : parent.firstChild) = child;
     parent.lastChild = child;
     return *child;

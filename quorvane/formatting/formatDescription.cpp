@@ -176,12 +176,11 @@ std::array<bool, 5> frameOf(std::string_view text, const std::vector<SourceLine>
 }
 
 bool meanTheSame(std::string_view a, std::string_view b, const Vocabulary& vocabulary) {
-    std::vector<SourceLine> linesOfA = PreProcessRawData(a);
-    std::vector<SourceLine> linesOfB = PreProcessRawData(b);
+    const std::vector<SourceLine> linesOfA = PreProcessRawData(a);
+    const std::vector<SourceLine> linesOfB = PreProcessRawData(b);
     return frameOf(a, linesOfA) == frameOf(b, linesOfB) &&
            areLinesAlike(linesOfA, linesOfB, vocabulary) &&
-           areLinesAlike(repairLines(std::move(linesOfA)), repairLines(std::move(linesOfB)),
-                         vocabulary);
+           areLinesAlike(repairLines(linesOfA), repairLines(linesOfB), vocabulary);
 }
 
 }  // namespace

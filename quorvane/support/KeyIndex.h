@@ -129,10 +129,16 @@ private:
     public:
         std::size_t size() const noexcept { return count_; }
         Entry& operator[](std::size_t position) noexcept {
-            return position < fewest ? few_[position] : rest_[position - fewest];
+            if (position < fewest) {
+                return few_[position];
+            }
+            return rest_[position - fewest];
         }
         const Entry& operator[](std::size_t position) const noexcept {
-            return position < fewest ? few_[position] : rest_[position - fewest];
+            if (position < fewest) {
+                return few_[position];
+            }
+            return rest_[position - fewest];
         }
         void push_back(Entry entry) {
             if (count_ < fewest) {
