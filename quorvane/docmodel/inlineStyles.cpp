@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "quorvane/docmodel/BracketedText.h"
 #include "quorvane/docmodel/TableDocument.h"
 #include "quorvane/support/RtfError.h"
 #include "quorvane/support/trimming.h"
@@ -21,29 +22,18 @@ namespace {
 
 constexpr std::size_t nowhere = std::string_view::npos;
 
-/// What stands between "<" and ">" is a token when it begins with a character from "A" to "z" (the
-/// six punctuation characters between the letters included) and an "=" follows.
-template <class Character>
-bool isToken(std::basic_string_view<Character> inner) {
-    return !inner.empty() && inner[0] >= 'A' && inner[0] <= 'z' &&
-           inner.find(Character{'='}) != nowhere;
+/// Appends the words of a token's style.
+void appendWords(const TableDocument& document, std::string_view name, bool hasValue,
+                 std::string& rtf) {
+    const std::string_view words = document.GetCharacterStyle(name);
+    rtf += hasValue ? words : TrimEx(words);
 }
 
-/// Appends the group that stands for a token.
-void appendToken(const TableDocument& document, std::string_view inner, std::string& rtf) {
-    const std::size_t equals = inner.find('=');
-    const std::string_view value = inner.substr(equals + 1);
-    const std::string_view words = document.GetCharacterStyle(inner.substr(0, equals));
-    rtf += '{';
-    rtf += value.empty() ? TrimEx(words) : words;
-    rtf += value;
-    rtf += '}';
-}
-
-void appendToken(const TableDocument& document, std::u32string_view inner, std::u32string& rtf) {
-    std::string group;
-    appendToken(document, textOfUtf16Units(inner), group);
-    rtf += utf16Units(group);
+void appendWords(const TableDocument& document, std::u32string_view name, bool hasValue,
+                 std::u32string& rtf) {
+    std::string words;
+    appendWords(document, textOfUtf16Units(name), hasValue, words);
+    rtf += utf16Units(words);
 }
 
 struct Span {
@@ -133,11 +123,14 @@ public:
     bool placesAreRight() const noexcept { return placesAreRight_; }
 
 private:
-    static constexpr Character opening{'<'};
-    static constexpr Character closing{'>'};
+    using Brackets = BracketedText<Character>;
+    static constexpr Character opening = Brackets::opening;
+    static constexpr Character closing = Brackets::closing;
+    static constexpr auto isBracket = Brackets::isBracket;
 
-    static bool isBracket(Character character) {
-        return character == opening || character == closing;
+    static bool isToken(View inner) {
+        return !inner.empty() && Brackets::beginsToken(inner[0]) &&
+               inner.find(Character{'='}) != nowhere;
     }
 
     bool takesTurns() const {
@@ -231,43 +224,43 @@ private:
         const std::int64_t longest = (std::ssize(body_) + largestGrowth) * largestGrowth;
         std::int64_t stepsLeft = std::count(done_.begin(), done_.end(), opening) + 1;
         stepsLeft *= largestGrowth;
+        Brackets text(done_);
+        done_ = Text();
+        open = text.markOpening(open);
         while (open != nowhere) {
-            if (--stepsLeft < 0 || std::ssize(done_) > longest) {
+            if (--stepsLeft < 0 || static_cast<std::int64_t>(text.size()) > longest) {
                 raise(RunTimeError::Overflow);
             }
-            close = done_.find(closing, close + 1);
+            close = text.markClosing(close + 1);
             if (close == nowhere || close <= open) {
-                return;
+                break;
             }
-            const View inner = View(done_).substr(open + 1, close - open - 1);
-            if (isToken(inner)) {
-                Text replacement;
-                appendGroup(inner, replacement);
-                const Text token(View(done_).substr(open, close - open + 1));
-                replaceEverywhere(token, replacement);
+            if (const auto token = text.token()) {
+                Text words;
+                appendWords(token->name, token->hasValue, words);
+                text.replaceToken(words);
             }
-            open = done_.find(opening, open + 1);
+            open = text.markOpening(open + 1);
         }
+        done_ = text.text();
     }
 
+    /// Appends the group that stands for a token.
     void appendGroup(View inner, Text& text) {
+        const std::size_t equals = inner.find(Character{'='});
+        const View value = inner.substr(equals + 1);
+        text += Character{'{'};
+        appendWords(inner.substr(0, equals), !value.empty(), text);
+        text += value;
+        text += Character{'}'};
+    }
+
+    void appendWords(View name, bool hasValue, Text& text) {
         [[maybe_unused]] const std::size_t start = text.size();
-        appendToken(document_, inner, text);
+        quorvane::appendWords(document_, name, hasValue, text);
         if constexpr (sizeof(Character) == 1) {
             placesAreRight_ = placesAreRight_ && asciiRunEnd(text, start) == text.size();
         }
-    }
-
-    void replaceEverywhere(const Text& token, const Text& replacement) {
-        Text result;
-        std::size_t from = 0;
-        for (std::size_t at = done_.find(token); at != nowhere; at = done_.find(token, from)) {
-            result.append(done_, from, at - from);
-            result += replacement;
-            from = at + token.size();
-        }
-        result.append(done_, from, nowhere);
-        done_ = std::move(result);
     }
 
     const TableDocument& document_;

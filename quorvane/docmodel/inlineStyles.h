@@ -14,8 +14,7 @@ class TableDocument;
 /// Tokens are found by walking over "<" and ">" as they stand. The walk takes its next ">" behind
 /// the place of the last one, and that place is not moved along when a replacement changes the
 /// length of the text: a token that shrinks can make the next ones be read together. Places count
-/// UTF-16 units. A text in which "<" and ">" take turns and no token outgrows the next costs time
-/// proportional to its length.
+/// UTF-16 units.
 std::string withCharacterStyles(const TableDocument& document, std::string_view text);
 
 }  // namespace quorvane

@@ -364,6 +364,12 @@ public:
         return joined(parts, longest);
     }
 
+    std::u16string fewDifferentParts(std::size_t longest) {
+        static const std::vector<std::u16string> parts{u"<",       u"<a=", u"<a=x>",
+                                                       u"<a=1<b=", u">",   u"> "};
+        return joined(parts, longest);
+    }
+
 private:
     std::u16string joined(const std::vector<std::u16string>& parts, std::size_t longest) {
         std::u16string text;
@@ -417,6 +423,27 @@ TEST_P(InlineStylesLikeThePlainWalk, TreatTokensInARow) {
     for (int i = 0; i < 2500; ++i) {
         expectSame(random.tokensOnly(20));
     }
+}
+
+TEST_P(InlineStylesLikeThePlainWalk, TreatTokensThatReachOverMany) {
+    for (int i = 0; i < 200; ++i) {
+        expectSame(random.fewDifferentParts(250));
+    }
+}
+
+TEST(InlineStylesOfManyBrackets, AreLikeThePlainWalk) {
+    std::u16string brackets;
+    for (int i = 0; i < 3000; ++i) {
+        brackets += i % 5 == 0 ? u"<b=2>" : u"<1>";
+    }
+    PlainWalk walk;
+    walk.styles = {{u"a", u"\\cs100" + brackets + u" "}, {u"b", u"\\cs101\\b "}};
+    const Ref<CRtfDoc> document = CRtfDoc::create();
+    document->LoadStyleSheetFromMemmory("{name: a; style-def: cs; format: " + utf8(brackets) +
+                                        "}{name: b; style-def: cs; format: \\b}");
+    const std::u16string text = u"<b=1> <<a=x> <b=1> <a=y> <b=2>";
+
+    EXPECT_EQ(withCharacterStyles(*document, utf8(text)), utf8(walk.apply(text)));
 }
 
 INSTANTIATE_TEST_SUITE_P(Sheets, InlineStylesLikeThePlainWalk,

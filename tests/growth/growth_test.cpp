@@ -197,17 +197,35 @@ TEST(Growth, OfCheckingFieldsAndColorsIsProportional) {
 class InlineTokens : public testing::Test {
 protected:
     InlineTokens() {
-        document->LoadStyleSheetFromMemmory("{name: bold; style-def: cs; format: \\b}");
+        document->LoadStyleSheetFromMemmory(
+            "{name: bold; style-def: cs; format: \\b}"
+            "{name: more; style-def: cs; format: <bold=x>}");
+    }
+
+    using Text = std::function<std::string(std::size_t count)>;
+
+    void expectProportionalTo(const Text& textOf, std::size_t size) {
+        expectProportional(
+            [&](std::size_t count) {
+                EXPECT_NE(withCharacterStyles(*document, textOf(count)), "");
+            },
+            size);
     }
 
     void expectProportionalTo(const std::string& before, const std::string& token,
                               std::size_t size) {
-        expectProportional(
-            [&](std::size_t count) {
-                const std::string text = before + repeated(token, count);
-                EXPECT_GE(withCharacterStyles(*document, text).size(), text.size());
-            },
-            size);
+        expectProportionalTo([&](std::size_t count) { return before + repeated(token, count); },
+                             size);
+    }
+
+    // One piece behind another one, each with a number of its own.
+    static std::string numbered(const std::string& start, std::size_t count,
+                                const std::string& end) {
+        std::string text;
+        for (std::size_t i = 0; i < count; ++i) {
+            text += start + std::to_string(i) + end;
+        }
+        return text;
     }
 
     Ref<CRtfDoc> document = CRtfDoc::create();
@@ -225,6 +243,41 @@ TEST_F(InlineTokens, MayBeAMillion) {
 
 TEST_F(InlineTokens, GrowProportionallyBehindAStrayBracket) {
     expectProportionalTo("5 < 7 ", "<bold=x> ", 4000);
+}
+
+TEST_F(InlineTokens, GrowProportionallyBehindAStrayBracketWhenTheyDiffer) {
+    expectProportionalTo(
+        [](std::size_t count) { return "5 < 7 " + numbered("<bold=", count, "> "); }, 2000);
+    expectProportionalTo(
+        [](std::size_t count) { return "5 < 7 " + numbered("<bold", count, "=>"); }, 2000);
+    expectProportionalTo(
+        [](std::size_t count) { return "5 < 7 " + numbered("<bold=x> ", count, ""); }, 2000);
+}
+
+TEST_F(InlineTokens, GrowProportionallyBehindManyStrayBrackets) {
+    expectProportionalTo(repeated("< ", 50), "<bold=x> ", 1000);
+    expectProportionalTo(
+        [](std::size_t count) { return repeated("< ", 50) + numbered("<bold=", count, "> "); },
+        1000);
+    expectProportionalTo(
+        [](std::size_t count) { return repeated("< ", count) + repeated("<bold=x> ", count); },
+        2000);
+}
+
+TEST_F(InlineTokens, GrowProportionallyWithinOneAnother) {
+    expectProportionalTo(
+        [](std::size_t count) { return repeated("<bold=", count) + repeated(">", count); }, 2000);
+    expectProportionalTo(
+        [](std::size_t count) { return numbered("<bold", count, "=") + repeated(">", count); },
+        2000);
+    expectProportionalTo(
+        [](std::size_t count) { return repeated("<bold", count) + repeated(">", count); }, 5000);
+}
+
+TEST_F(InlineTokens, GrowProportionallyWhereAStylePutsTokensIn) {
+    expectProportionalTo([](std::size_t count) { return numbered("<more=", count, ">"); }, 1000);
+    expectProportionalTo(
+        [](std::size_t count) { return "5 < 7 " + numbered("<more=", count, ">"); }, 1000);
 }
 
 TEST_F(InlineTokens, GrowProportionallyWhereAllBracketsAreStray) {
