@@ -106,7 +106,9 @@ public:
 
     InlineStyles(const TableDocument& document, View body) : document_(document), body_(body) {}
 
-    Text apply() {
+    /// Nothing when a style's words have characters that are not each one place: bytes are in ASCII
+    /// only.
+    std::optional<Text> apply() {
         if (takesTurns()) {
             constexpr std::size_t roomForWords = 64;
             done_.reserve(body_.size() + roomForWords);
@@ -115,12 +117,8 @@ public:
             done_ = body_;
             walkOver(done_.find(opening), done_.find(opening));
         }
-        return std::move(done_);
+        return placesAreRight_ ? std::optional(std::move(done_)) : std::nullopt;
     }
-
-    /// False when a group was put in whose characters are not each one place: bytes are in ASCII
-    /// only.
-    bool placesAreRight() const noexcept { return placesAreRight_; }
 
 private:
     using Brackets = BracketedText<Character>;
@@ -164,6 +162,9 @@ private:
             const bool isReplaced = !leavesStep && isToken(inner);
             if (isReplaced) {
                 appendGroup(inner, done_);
+                if (!placesAreRight_) {
+                    return;
+                }
             }
             const auto group = done_.begin() + static_cast<std::ptrdiff_t>(open);
             if (leavesStep || std::any_of(group, done_.end(), isBracket)) {
@@ -238,6 +239,9 @@ private:
             if (const auto token = text.token()) {
                 Text words;
                 appendWords(token->name, token->hasValue, words);
+                if (!placesAreRight_) {
+                    return;
+                }
                 text.replaceToken(words);
             }
             open = text.markOpening(open + 1);
@@ -276,14 +280,12 @@ private:
 
 std::string withCharacterStyles(const TableDocument& document, std::string_view text) {
     if (asciiRunEnd(text, 0) == text.size()) {
-        InlineStyles<char> styles(document, text);
-        std::string styled = styles.apply();
-        if (styles.placesAreRight()) {
-            return styled;
+        if (std::optional<std::string> styled = InlineStyles<char>(document, text).apply()) {
+            return *std::move(styled);
         }
     }
     const std::u32string units = utf16Units(text);
-    return textOfUtf16Units(InlineStyles<char32_t>(document, units).apply());
+    return textOfUtf16Units(*InlineStyles<char32_t>(document, units).apply());
 }
 
 }  // namespace quorvane

@@ -153,6 +153,14 @@ TEST_F(InlineStyles, CountTheCharactersOfAStylesWordsTheSameWay) {
     EXPECT_EQ(styled("<abcdefghij=><b=>"), "{\\cs100\xE2\x82\xAC}<b=>");
 }
 
+// Counted in bytes, each step would find another token.
+TEST_F(InlineStyles, EndWhenTheWordsOfAStyleCountedInCharactersMakeThemEnd) {
+    document->LoadStyleSheetFromMemmory("{name: a; style-def: cs; format: \xC3\xA9<<a=\xC3\xA9>}");
+
+    EXPECT_EQ(styled("<a=a<a=1=>>"),
+              "{\\cs100\xC3\xA9<{\\cs100\xC3\xA9<<a=\xC3\xA9> \xC3\xA9> a<a=1=}}");
+}
+
 TEST_F(InlineStyles, GoOnInWhatAStylePutsIn) {
     EXPECT_EQ(styled("<opens=1> x>"), "{\\cs106{ 1} x}");
 }
