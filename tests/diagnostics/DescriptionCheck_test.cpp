@@ -155,6 +155,14 @@ TEST(DescriptionCheck, ComparesNoWidthsOnAPageTooNarrowForNumbers) {
                 ElementsAre("2 no-room"));
 }
 
+TEST(DescriptionCheck, TellsWhatToDoWithAParenthesisInAValue) {
+    EXPECT_THAT(found("(doc\n(r\n(c\n(cs=a (b); c)\n(p\n(pt=a (b); c)\np)\nc)\nr)\ndoc)\n"),
+                ElementsAre("4 cut-value: this value can hold no )",
+                            "6 cut-value: write \\'29 for a ) in a text"));
+    EXPECT_THAT(found("(doc\n(r\n(c\n(p\n(pt=a (b\\'29 c) ; (d)\np)\nc)\nr)\ndoc)\n"),
+                ElementsAre());
+}
+
 TEST(DescriptionCheck, TellsOfEveryWidthThatTheTableCannotHold) {
     EXPECT_THAT(found("(doc\n(r\n(c\n(cw=2000000000)\nc)\n(c\n(cw=-2000000000)\nc)\n(c\n(cw=20)\n"
                       "c)\nr)\ndoc)\n"),

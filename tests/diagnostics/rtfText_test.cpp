@@ -79,6 +79,10 @@ TEST(TextFindings, TellOfANestedTableWhoseRowsAreNotWhole) {
                             std::string("20 table-control") + brokenNestedTable,
                             std::string("60 table-control") + brokenNestedTable,
                             std::string("69 table-control") + brokenNestedTable));
+    EXPECT_THAT(found("\\itap2 a{\\*\\nesttableprops\\trowd\\cellx9\\nestrow}\\itap1 b"),
+                ElementsAre(std::string("1 table-control") + brokenNestedTable,
+                            std::string("40 table-control") + brokenNestedTable,
+                            std::string("49 table-control") + brokenNestedTable));
     EXPECT_THAT(found("a\\nestcell b"),
                 ElementsAre(std::string("2 table-control") + brokenNestedTable));
     EXPECT_THAT(found("a\\nestrow b"),
@@ -123,6 +127,19 @@ TEST(TextFindings, TakeTheCharactersOfAnInstructionAsReadersDo) {
     EXPECT_EQ(messages(field("\\uc1\\u68?\\u68?\\u69? a")), dde);
     EXPECT_EQ(messages(field("D{\\b D}E a")), dde);
     EXPECT_THAT(messages(field("D{\\footnote x}DX a")), IsEmpty());
+}
+
+TEST(TextFindings, LookForWhatAnInstructionDoesAtItsBeginning) {
+    const std::string blanks(2000, ' ');
+    EXPECT_THAT(messages(field("INCLUDETEXT " + blanks + "a")),
+                ElementsAre("\\fldinst brings a link to a file into the document."));
+    EXPECT_THAT(messages(field("PAGE " + blanks + "INCLUDETEXT a")), IsEmpty());
+}
+
+TEST(TextFindings, SayNothingOfNumbersInWhatIsNotTheTextsOwn) {
+    EXPECT_THAT(found("{\\footnote \\cf58 a}{\\*\\xe \\f18 b}"), IsEmpty());
+    EXPECT_THAT(found("{\\field\\cf58 a}{b\\*\\cf58 c}"),
+                ElementsAre("8 unknown-number", "20 unknown-number"));
 }
 
 TEST(TextFindings, TellWhatToWriteForACharacterThatIsMisread) {
