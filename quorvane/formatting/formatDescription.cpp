@@ -27,8 +27,8 @@ std::string_view headOf(std::string_view line) {
 }
 
 /// A leaf whose first ")" stands before its "=" is one by accident: it stays as it is.
-bool isPlainLeaf(std::string_view line) {
-    return isLeaf(line) && line.find(')') > line.find('=');
+bool isPlainLeaf(std::string_view leaf) {
+    return leaf.find(')') > leaf.find('=');
 }
 
 class DescriptionFormatter {

@@ -59,8 +59,7 @@ bool beginsAsStyleSheet(std::string_view text) {
 /// Of a file named as a stylesheet: braces without a single keyword are another language's.
 bool mayBeStyleSheet(std::string_view text) {
     const StyleSheetOutline outline = readStyleSheetOutline(text);
-    return outline.definitions.empty() ||
-           std::any_of(outline.definitions.begin(), outline.definitions.end(), hasAnyKeyword);
+    return std::any_of(outline.definitions.begin(), outline.definitions.end(), hasAnyKeyword);
 }
 
 }  // namespace

@@ -702,18 +702,6 @@ TEST(ReportsWithoutExample, SayWhatIsWrong) {
     }
 }
 
-TEST(ReportsOfUnknownErrors, AreLeftOutWhereTheCheckHasItsOwn) {
-    const std::string text = "(doc\n(row\ndoc)\n";
-    const SourceText source(text);
-    const std::vector<quorvane::Diagnostic> own{
-        {DiagnosticId::NoRow, Severity::Error, source.place(0, 4), "none", ""},
-        {DiagnosticId::EmptyText, Severity::Warning, source.place(5, 9), "empty", ""}};
-    EXPECT_EQ(judgedFindings(own, {RtfError(1, "x")}, DiagnosticId::Rejected, source).size(), 2u);
-    const auto accepted = judgedFindings(own, {}, DiagnosticId::Rejected, source);
-    ASSERT_EQ(accepted.size(), 1u);
-    EXPECT_EQ(accepted[0].id, DiagnosticId::EmptyText);
-}
-
 /// The pages' examples are compared with whole reports, see the tests of the page.
 TEST(Reports, AreTestedAsAWholeForEveryDiagnostic) {
     for (const DiagnosticRule& rule : diagnosticRules()) {

@@ -155,6 +155,31 @@ TEST(DescriptionCheck, ComparesNoWidthsOnAPageTooNarrowForNumbers) {
                 ElementsAre("2 no-room"));
 }
 
+TEST(DescriptionCheck, TellsWhatToDoWithAParenthesisInAValue) {
+    EXPECT_THAT(found("(doc\n(r\n(c\n(cs=a (b); c)\n(p\n(pt=a (b); c)\np)\nc)\nr)\ndoc)\n"),
+                ElementsAre("4 cut-value: this value can hold no )",
+                            "6 cut-value: write \\'29 for a ) in a text"));
+    EXPECT_THAT(found("(doc\n(r\n(c\n(p\n(pt=a (b\\'29 c) ; (d)\np)\nc)\nr)\ndoc)\n"),
+                ElementsAre());
+}
+
+TEST(DescriptionCheck, TellsOfEveryWidthThatTheTableCannotHold) {
+    EXPECT_THAT(found("(doc\n(r\n(c\n(cw=2000000000)\nc)\n(c\n(cw=-2000000000)\nc)\n(c\n(cw=20)\n"
+                      "c)\nr)\ndoc)\n"),
+                ElementsAre("4 overflow", "7 overflow"));
+}
+
+TEST(DescriptionCheck, TellsOfNoMoreThanTwentyWidthsThatTheTableCannotHold) {
+    std::string cells;
+    for (int i = 0; i < 25; ++i) {
+        cells += "(c\n(cw=2000000000)\nc)\n";
+    }
+    const std::vector<std::string> findings = found("(doc\n(r\n" + cells + "r)\ndoc)\n");
+    ASSERT_EQ(findings.size(), 20u);
+    EXPECT_EQ(findings.front(), "4 overflow");
+    EXPECT_EQ(findings.back(), "61 overflow");
+}
+
 TEST(DescriptionCheck, KnowsTheLongNameOfADocument) {
     EXPECT_THAT(found("(document\n(r\n(c\nc)\nr)\ndoc)\n").front(),
                 testing::HasSubstr("did you mean (doc?"));

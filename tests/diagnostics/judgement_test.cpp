@@ -8,8 +8,10 @@
 #include <vector>
 
 #include "quorvane/diagnostics/DescriptionCheck.h"
+#include "quorvane/diagnostics/SourceText.h"
 #include "quorvane/diagnostics/StyleSheetCheck.h"
 #include "quorvane/diagnostics/diagnosticRules.h"
+#include "quorvane/diagnostics/judgement.h"
 #include "quorvane/driver/CRtfDriver.h"
 #include "quorvane/stylesheet/stylesheetParser.h"
 #include "quorvane/support/RtfError.h"
@@ -19,10 +21,60 @@
 namespace quorvane {
 namespace {
 
+using testing::ElementsAre;
+
 bool hasError(const std::vector<Diagnostic>& findings) {
     return std::any_of(findings.begin(), findings.end(), [](const Diagnostic& finding) {
         return finding.severity == Severity::Error;
     });
+}
+
+// What becomes of findings where the library judges otherwise, which no text is known for.
+class JudgedFindings : public testing::Test {
+protected:
+    /// The findings that are left, each as its line, its identifier and its message.
+    std::vector<std::string> judged(const std::vector<Diagnostic>& findings,
+                                    const std::vector<RtfError>& errors) const {
+        std::vector<std::string> list;
+        for (const Diagnostic& finding :
+             judgedFindings(findings, errors, DiagnosticId::Rejected, source)) {
+            list.push_back(std::to_string(finding.place.line) + " " +
+                           std::string(diagnosticRule(finding.id).identifier) + " " +
+                           finding.message);
+        }
+        return list;
+    }
+
+    static RtfError errorIn(int line) {
+        RtfError error(4711, "A new error");
+        error.line = line;
+        return error;
+    }
+
+    const SourceText source{"(doc\n(row\ndoc)"};
+    const Diagnostic error{DiagnosticId::NoRow, Severity::Error, source.place(0, 4), "none", ""};
+    const Diagnostic warning{DiagnosticId::EmptyText, Severity::Warning, source.place(5, 9),
+                             "empty", ""};
+};
+
+TEST_F(JudgedFindings, HaveNoErrorInWhatTheLibraryAccepts) {
+    EXPECT_THAT(judged({error, warning}, {}), ElementsAre("2 empty-text empty"));
+}
+
+TEST_F(JudgedFindings, StayWhereTheLibraryRejectsTheTextToo) {
+    EXPECT_THAT(judged({error, warning}, {errorIn(3)}),
+                ElementsAre("1 no-row none", "2 empty-text empty"));
+}
+
+TEST_F(JudgedFindings, HoldTheLibrarysErrorsInTheirPlacesWhereNoneIsAnError) {
+    EXPECT_THAT(
+        judged({warning}, {errorIn(3), errorIn(1)}),
+        ElementsAre("1 rejected A new error", "2 empty-text empty", "3 rejected A new error"));
+}
+
+TEST_F(JudgedFindings, PutAnErrorWithoutALineIntoTheFirstAndOneBeyondTheEndIntoTheLast) {
+    EXPECT_THAT(judged({}, {errorIn(4), errorIn(0)}),
+                ElementsAre("1 rejected A new error", "3 rejected A new error"));
 }
 
 /// Compares the check with a driver that checks.

@@ -84,6 +84,75 @@ TEST(StyleFindings, TakeTheColourOfATextFromItsStyle) {
     EXPECT_THAT(found(description, light), ElementsAre("6 low-contrast"));
 }
 
+/// A description of one cell, which has these lines and a paragraph with the text.
+std::string cellWith(const std::string& cellLines, const std::string& text) {
+    return "(doc\n(r\n(c\n" + cellLines + "(p\n(pt=" + text + ")\np)\nc)\nr)\ndoc)\n";
+}
+
+TEST(StyleFindings, KnowThatTextBecomesWhiteInACellThatIsDarkByItsStyle) {
+    constexpr const char* sheet =
+        "{ name: normal; style-def: s; format: \\cf3 }\n"
+        "{ name: dark; style-def: cell; format: navy-blue }\n"
+        "{ name: light; style-def: cell; format: light-yellow }\n";
+    EXPECT_THAT(found(cellWith("(cs=dark)\n", "a"), sheet), IsEmpty());
+    EXPECT_THAT(found(cellWith("(cs=dark)\n", "{\\cf3 a}"), sheet), ElementsAre("6 low-contrast"));
+    EXPECT_THAT(found(cellWith("(cs=light)\n", "a"), sheet), IsEmpty());
+    EXPECT_THAT(found(cellWith("(cs=light)\n", "{\\cf36 a}"), sheet),
+                ElementsAre("6 low-contrast"));
+}
+
+TEST(StyleFindings, TakeTheColorOfACellForThatOfItsStyleWhereBothAreGiven) {
+    constexpr const char* sheet =
+        "{ name: normal; style-def: s; format: \\cf3 }\n"
+        "{ name: dark; style-def: cell; format: navy-blue }\n";
+    EXPECT_THAT(found(cellWith("(cb=light-yellow)\n(cs=dark)\n", "{\\cf36 a}"), sheet),
+                ElementsAre("7 low-contrast"));
+}
+
+TEST(StyleFindings, TellTenPairsOfColorsOfAParagraph) {
+    std::string text;
+    for (const int color : {2, 20, 21, 22, 27, 28, 33, 35, 36, 37, 6, 1}) {
+        text += "{\\cf" + std::to_string(color) + " a}";
+    }
+    EXPECT_THAT(found(cellWith("", text), plainSheet), testing::SizeIs(10));
+    EXPECT_THAT(found(cellWith("", "{\\cf36 a}{\\cf37 b}{\\cf36 c}"), plainSheet),
+                testing::SizeIs(2));
+}
+
+TEST(StyleFindings, TellWhatBecomesOfAParagraphWithoutAnyParagraphStyle) {
+    KnownStyles styles("{ name: label; style-def: cs; format: \\b }\n");
+    const std::vector<Diagnostic> findings =
+        checkDescription("(doc\n(r\n(c\n(p\n(pt=a)\n(ps=label)\np)\nc)\nr)\ndoc)\n", &styles);
+    ASSERT_EQ(findings.size(), 1u);
+    EXPECT_EQ(findings[0].message,
+              "The stylesheet has no paragraph style label: the paragraph gets no format.");
+    EXPECT_EQ(findings[0].hint, "it is a character style");
+}
+
+TEST(StyleFindings, NameNoStyleForOneThatIsMissingAmongTooMany) {
+    std::string sheet;
+    for (int i = 0; i < 2000; ++i) {
+        sheet += "{ name: style" + std::to_string(i) + "; style-def: s; format: \\b }\n";
+    }
+    EXPECT_THAT(found("(doc\n(r\n(c\n(p\n(pt=a)\n(ps=stile7)\np)\nc)\nr)\ndoc)\n", sheet),
+                ElementsAre("6 unknown-paragraph-style"));
+}
+
+TEST(StyleFindings, TakeAnEmptyNameForNoStyle) {
+    EXPECT_THAT(found("(doc\n(r\n(c\n(cs=)\n(p\n(pt=a)\n(ps=)\np)\nc)\nr)\ndoc)\n", plainSheet),
+                IsEmpty());
+}
+
+TEST(StyleFindings, TakeAStyleForUsedThatFollowsAnother) {
+    const KnownStyles styles(
+        "{ name: normal; style-def: s; next: Body }\n"
+        "{ name: body; style-def: s }\n"
+        "{ name: lonely; style-def: s }\n"
+        "{ name: body; style-def: cell }\n");
+
+    EXPECT_THAT(lines(findUnusedStyles(styles)), ElementsAre("3 unused-style", "4 unused-style"));
+}
+
 TEST(StyleFindings, TakeAStyleForUsedThatAnotherOneIsBasedOn) {
     const KnownStyles styles(
         "{ name: normal; style-def: s; format: \\fs20 }\n"
@@ -117,6 +186,13 @@ TEST(StyleFindings, WarnOfTextInAFormat) {
                 ElementsAre("1 format-text: no blank stands before the number: \\fs20"));
     EXPECT_THAT(foundInFormat("\\fs20.5"),
                 ElementsAre("1 format-text: the number of a control word is a whole one"));
+    EXPECT_THAT(foundInFormat("\\fs20 .5."), Contains(HasSubstr("is a whole one")));
+    EXPECT_THAT(foundInFormat("\\fs20 .x"),
+                ElementsAre("1 format-text: a format is made of control words, such as "
+                            "\\fs20\\b"));
+    EXPECT_THAT(foundInFormat("\\cf reddish"),
+                ElementsAre("1 format-text: a format is made of control words, such as "
+                            "\\fs20\\b"));
     EXPECT_THAT(foundInFormat("\\fs20pt"),
                 ElementsAre("1 format-text: write \\fs and the number of half points alone: "
                             "\\fs20 is 10 points"));

@@ -1,7 +1,7 @@
 // Arguments and files of the command. The input's first line is the arguments, separated by blanks;
 // then come the bytes of a.rtfspec, b.rtfspec and style.rtfss, with a form feed between them. The
-// files stand in a folder of this process' own; no argument may lead out of it. What the command
-// makes of a.rtfspec alone is what a plain analysis makes of it.
+// files stand in a folder of this process' own; no argument may lead out of it. What `render` makes
+// of the descriptions is what the command's rules and a plain analysis make of them.
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -11,6 +11,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <sstream>
 #include <string>
 #include <variant>
@@ -27,11 +28,8 @@
 #include "cli/diagnosticText.h"
 #include "cli/findingJson.h"
 #include "cli/findingText.h"
-#include "quorvane/docmodel/CRtfDoc.h"
-#include "quorvane/support/codePage1252.h"
 #include "tests/fuzz/FuzzInput.h"
-#include "tests/fuzz/documentChecks.h"
-#include "tests/fuzz/plainAnalysis.h"
+#include "tests/fuzz/plainRendering.h"
 #include "tests/fuzz/require.h"
 
 namespace {
@@ -92,64 +90,77 @@ std::vector<std::string> argumentsOf(const std::string& line) {
     return arguments;
 }
 
-std::string bytesOf(const char* name) {
+std::string bytesOf(const files::path& name) {
     std::ostringstream bytes;
     bytes << std::ifstream(name, std::ios::binary).rdbuf();
     return bytes.str();
 }
 
-/// A run that renders a.rtfspec to where it goes by itself tells the errors of its analysis, in
-/// their order, and writes its document when there are none or it is to keep going.
-void requirePlainRun(const cli::RenderOptions& options, const std::vector<std::string>& contents,
-                     const std::vector<RtfError>& told, int status) {
-    const bool isPlain = options.descriptions == std::vector<std::string>{"a.rtfspec"} &&
-                         options.styleSheet.value_or("style.rtfss") == "style.rtfss" &&
-                         !options.output && !options.outputFolder;
-    if (!isPlain) {
-        return;
+plain::Files filesThere() {
+    plain::Files all;
+    for (const files::directory_entry& entry : files::recursive_directory_iterator(".")) {
+        if (entry.is_regular_file()) {
+            all[entry.path().lexically_normal().generic_string()] = bytesOf(entry.path());
+        }
     }
-    const Ref<CRtfDoc> styles = CRtfDoc::create();
-    std::string expected;
-    if (options.styleSheet &&
-        errorOfCall(
-            [&] { styles->LoadStyleSheetFromMemmory(utf8FromCodePage1252(contents[2])); }) != 0) {
-        expected += "style.rtfss isn't a valid stylesheet.\n";
+    return all;
+}
+
+void requireSameFiles(const plain::Files& actual, const plain::Files& expected,
+                      const char* statement) {
+    std::string names;
+    std::string expectedNames;
+    for (const auto& [name, bytes] : actual) {
+        names += name + "\n";
     }
-    const bool isStyled = options.styleSheet && expected.empty();
-    plain::Analysis analysis(utf8FromCodePage1252(contents[0]), options.check, *styles);
-    for (const ToldError& error : analysis.errors) {
-        expected += error.description + "\n";
+    for (const auto& [name, bytes] : expected) {
+        expectedNames += name + "\n";
     }
-    // A document in which nothing was ever done has no text.
-    const bool hasText = isStyled || analysis.document->changed;
-    std::string page;
-    const bool isToBeWritten = expected.empty() || options.keepGoing;
-    const int errorOfDocument =
-        isToBeWritten ? errorOfCall([&] { page = analysis.document->render(); }) : 0;
-    std::string descriptions;
-    for (std::size_t i = 0; i + (errorOfDocument != 0 ? 1 : 0) < told.size(); ++i) {
-        descriptions += told[i].description + "\n";
-    }
-    requireEqual(descriptions, expected, "the command tells the errors of an analysis");
-    require(status == (errorOfDocument != 0 ? 2
-                       : expected.empty()   ? 0
-                                            : 1),
-            "the exit status tells what there was");
-    if (isToBeWritten && errorOfDocument == 0) {
-        const std::string written = bytesOf("a.rtf");
-        require(hasText ? written.ends_with(codePage1252FromUtf8(page)) : written == "{}",
-                "the command writes the document of an analysis");
-    } else {
-        require(!files::exists("a.rtf"), "the command writes no document with errors");
+    requireEqual(names, expectedNames, statement);
+    for (const auto& [name, bytes] : expected) {
+        requireEqual(actual.at(name), bytes, statement);
     }
 }
 
+/// Renders, and requires that it comes to what the rules tell of such a run.
+int rendered(const cli::RenderOptions& options, const cli::DiagnosticSink& tell) {
+    const plain::Files inputs = filesThere();
+    std::string lines;
+    const auto run = [&] {
+        const auto note = [&](const cli::Diagnostic& diagnostic) {
+            lines += plain::toldLine(diagnostic.file, told(diagnostic.error));
+            tell(diagnostic);
+        };
+        const auto status = static_cast<int>(cli::RenderJob(options, note).run());
+        require(status <= 2, "there are three exit statuses of rendering");
+        require((status == 0) == lines.empty(), "a run fails when it has something to tell");
+        return status;
+    };
+    if (!plain::Rendering::covers(options)) {
+        return run();
+    }
+    const plain::Rendering expected(options, inputs);
+    std::optional<cli::UsageError> refusal;
+    int status = 0;
+    try {
+        status = run();
+    } catch (const cli::UsageError& error) {
+        refusal = error;
+    }
+    require(refusal.has_value() == expected.isRefused, "the command refuses what it cannot do");
+    requireEqual(lines, expected.told, "the command tells the errors of an analysis");
+    require(status == expected.status, "the exit status tells what there was");
+    requireSameFiles(filesThere(), expected.files, "the command writes the documents alone");
+    if (refusal) {
+        throw cli::UsageError(*refusal);
+    }
+    return status;
+}
+
 /// What a run comes to: its status, what it tells, and the files that are there.
-std::string outcome(const std::vector<std::string>& arguments,
-                    const std::vector<std::string>& contents) {
+std::string outcome(const std::vector<std::string>& arguments) {
     std::string text;
     int status = -1;
-    std::vector<RtfError> told;
     try {
         const auto request = cli::parseCommandLine(arguments);
         if (const auto* information = std::get_if<cli::Information>(&request)) {
@@ -157,7 +168,6 @@ std::string outcome(const std::vector<std::string>& arguments,
             return information->text;
         }
         const auto tell = [&](const cli::Diagnostic& diagnostic) {
-            told.push_back(diagnostic.error);
             const std::string line = cli::diagnosticText(diagnostic);
             const std::string json = cli::diagnosticJson(diagnostic);
             require(line.find('\n') == std::string::npos, "a diagnostic is one line");
@@ -178,11 +188,7 @@ std::string outcome(const std::vector<std::string>& arguments,
             const auto write = [&text](const std::string& output) { text += output; };
             status = static_cast<int>(cli::FormatJob(*format, write, tell).run());
         } else {
-            const auto& options = std::get<cli::RenderOptions>(request);
-            status = static_cast<int>(cli::RenderJob(options, tell).run());
-            require(status <= 2, "there are three exit statuses of rendering");
-            require((status == 0) == told.empty(), "a run fails when it has something to tell");
-            requirePlainRun(options, contents, told, status);
+            status = rendered(std::get<cli::RenderOptions>(request), tell);
         }
         require(status >= 0 && status <= 3, "there are four exit statuses");
     } catch (const cli::UsageError& error) {
@@ -203,12 +209,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::vector<std::string> contents = input.pieces('\f', 3);
     const std::vector<std::string> arguments = argumentsOf(line);
     folder.fill(contents);
-    const std::string first = outcome(arguments, contents);
-    const std::string document = bytesOf("a.rtf");
+    const std::string first = outcome(arguments);
+    const plain::Files filesAfter = filesThere();
     folder.fill(contents);
-    requireEqual(outcome(arguments, contents), first, "the same run tells the same");
-    requireEqual(bytesOf("a.rtf"), document, "the same run writes the same");
-    require(document.empty() || (document.starts_with('{') && document.ends_with('}')),
-            "a document is whole or absent");
+    requireEqual(outcome(arguments), first, "the same run tells the same");
+    requireSameFiles(filesThere(), filesAfter, "the same run writes the same");
+    for (const auto& [name, bytes] : filesAfter) {
+        require(!name.ends_with(".rtf") || (bytes.starts_with('{') && bytes.ends_with('}')),
+                "a document is whole or absent");
+    }
     return 0;
 }

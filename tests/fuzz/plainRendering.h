@@ -1,0 +1,138 @@
+#pragma once
+
+#include <algorithm>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "cli/RenderOptions.h"
+#include "quorvane/docmodel/CRtfDoc.h"
+#include "quorvane/support/RtfError.h"
+#include "quorvane/support/codePage1252.h"
+#include "tests/fuzz/documentChecks.h"
+#include "tests/fuzz/plainAnalysis.h"
+
+// What a run of `render` comes to as the command's rules are told: every description by itself,
+// analysed as `plainAnalysis.h` does it.
+
+namespace quorvane::plain {
+
+/// The files of a folder by their names, and those in folders in it by their paths.
+using Files = std::map<std::string, std::string>;
+
+/// What is told of an error: the file, the line and the number, and what went wrong where that is
+/// known beforehand.
+inline std::string toldLine(const std::string& file, const ToldError& error) {
+    return file + ":" + std::to_string(error.line) + ": " + std::to_string(error.number) + " " +
+           error.description + "\n";
+}
+
+/// A run over a.rtfspec and b.rtfspec with style.rtfss, which are all there, as the folder "out"
+/// is.
+class Rendering {
+public:
+    Rendering(const cli::RenderOptions& options, const Files& inputs)
+        : files(inputs), options_(options) {
+        isRefused = wouldBeRefused();
+        if (isRefused) {
+            return;
+        }
+        for (const std::string& description : options.descriptions) {
+            render(description, inputs);
+        }
+    }
+
+    /// Whether a run is one of those that are told here.
+    static bool covers(const cli::RenderOptions& options) {
+        static const std::set<std::string> descriptions = {"a.rtfspec", "b.rtfspec"};
+        static const std::set<std::string> outputs = {"a.rtf",     "b.rtf",      "c.rtf",
+                                                      "out/c.rtf", "a.rtfspec",  "b.rtfspec",
+                                                      "c.rtfspec", "style.rtfss"};
+        return std::all_of(options.descriptions.begin(), options.descriptions.end(),
+                           [](const auto& name) { return descriptions.contains(name); }) &&
+               options.styleSheet.value_or("style.rtfss") == "style.rtfss" &&
+               (!options.output || outputs.contains(*options.output)) &&
+               options.outputFolder.value_or("out") == "out";
+    }
+
+    /// The command does not begin: nothing is told of any file, and none is changed.
+    bool isRefused = false;
+    int status = 0;
+    /// A line for each error, in their order.
+    std::string told;
+    /// All that is there afterwards.
+    Files files;
+
+private:
+    std::string outputOf(const std::string& description) const {
+        const std::string beside = description.substr(0, description.find('.')) + ".rtf";
+        return options_.output         ? *options_.output
+               : options_.outputFolder ? *options_.outputFolder + "/" + beside
+                                       : beside;
+    }
+
+    /// Two documents would go to one file, or one would take the place of what is read.
+    bool wouldBeRefused() const {
+        std::set<std::string> taken(options_.descriptions.begin(), options_.descriptions.end());
+        if (options_.styleSheet) {
+            taken.insert(*options_.styleSheet);
+        }
+        return std::any_of(options_.descriptions.begin(), options_.descriptions.end(),
+                           [&](const auto& name) { return !taken.insert(outputOf(name)).second; });
+    }
+
+    void tell(const std::string& file, const ToldError& error, int worth) {
+        told += toldLine(file, error);
+        status = std::max(status, worth);
+    }
+
+    void render(const std::string& description, const Files& inputs) {
+        const Ref<CRtfDoc> styles = CRtfDoc::create();
+        bool isWell = true;
+        bool isStyled = false;
+        if (options_.styleSheet) {
+            const std::string sheet = utf8FromCodePage1252(inputs.at("style.rtfss"));
+            isStyled = errorOfCall([&] { styles->LoadStyleSheetFromMemmory(sheet); }) == 0;
+            if (!isStyled) {
+                tell("style.rtfss",
+                     driverErrorOf(eWrongFileType, "style.rtfss isn't a valid stylesheet.", ""), 1);
+                isWell = false;
+            }
+        }
+        Analysis analysis(utf8FromCodePage1252(inputs.at(description)), options_.check, *styles);
+        for (const ToldError& error : analysis.errors) {
+            tell(description, error, 1);
+            isWell = false;
+        }
+        if (isWell || options_.keepGoing) {
+            write(outputOf(description), *analysis.document, isStyled, *styles);
+        }
+    }
+
+    void write(const std::string& output, Document& document, bool isStyled, CRtfDoc& styles) {
+        // A document in which nothing was ever done has no text.
+        const bool hasText = isStyled || document.changed;
+        std::string page;
+        try {
+            page = document.render();
+        } catch (const RtfError& error) {
+            tell(output, {error.number, error.description, "", 0}, 2);
+            return;
+        }
+        files[output] = hasText ? codePage1252FromUtf8(headOf(styles) + page) : "{}";
+    }
+
+    /// What every document with these styles begins with.
+    static std::string headOf(CRtfDoc& styles) {
+        styles.Refresh();
+        const std::string empty = styles.Contents();
+        return empty.substr(0, empty.size() - Document().render().size());
+    }
+
+    const cli::RenderOptions& options_;
+};
+
+}  // namespace quorvane::plain
