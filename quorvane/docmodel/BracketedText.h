@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace quorvane {
@@ -19,8 +20,9 @@ namespace quorvane {
 /// as it is by then.
 ///
 /// The text lies in segments, each from one bracket to the next, that know those of equal text: a
-/// replacement touches only the segments where something is replaced, so that a walk over all
-/// brackets takes time in proportion to the text.
+/// replacement touches only the segments where something is replaced. A walk over all brackets
+/// takes time in proportion to the text, unless tokens reach over hundreds of segments that repeat
+/// themselves elsewhere: then each takes time in proportion to the text.
 template <class Character>
 class BracketedText {
 public:
@@ -59,6 +61,8 @@ public:
     BracketedText& operator=(const BracketedText&) = delete;
 
     std::size_t size() const noexcept { return size_; }
+
+    std::size_t brackets() const noexcept { return segments_.size() - unused_.size() - 1; }
 
     Text text() const {
         Text all;
@@ -196,8 +200,12 @@ private:
         std::vector<Occurrence> all;
         const Index sample = rarestSegment();
         const Alike& alike = *segments_[sample].alike;
+        std::size_t comparisonsLeft = segments_.size();
         for (auto other = alike.begin(); other != alike.end();) {
-            const auto occurrence = occurrenceAround(sample, *other);
+            const auto occurrence = occurrenceAround(sample, *other, comparisonsLeft);
+            if (comparisonsLeft == 0) {
+                return occurrencesOfManyLikeSegments();
+            }
             if (occurrence && (all.empty() || isBefore(all.back().last, occurrence->first))) {
                 all.push_back(*occurrence);
                 other = alike.upper_bound(occurrence->last);
@@ -206,6 +214,57 @@ private:
             }
         }
         return all;
+    }
+
+    /// The same in one pass over all segments, by the algorithm of Knuth, Morris and Pratt: where
+    /// the token's segments are like many others, each of these would be compared with many.
+    std::vector<Occurrence> occurrencesOfManyLikeSegments() const {
+        std::vector<Index> token;
+        std::size_t equalsIndex = 0;
+        for (Index segment = opening_.segment; segment != closing_.segment;
+             segment = next(segment)) {
+            if (segment == equals_) {
+                equalsIndex = token.size();
+            }
+            token.push_back(segment);
+        }
+        const std::vector<std::size_t> borders = bordersOf(token);
+        std::vector<Occurrence> all;
+        std::vector<Index> passed;
+        std::size_t matched = 0;
+        for (Index segment = next(beginning); segment != none; segment = next(segment)) {
+            if (matched == token.size() && beginsWith(segment, closing)) {
+                const std::size_t first = passed.size() - matched;
+                all.push_back({passed[first], passed[first + equalsIndex], segment});
+                matched = 0;
+            } else {
+                matched = matchedWith(segment, token, borders, matched);
+            }
+            passed.push_back(segment);
+        }
+        return all;
+    }
+
+    /// Of each beginning of the token, how many of its first segments are its last ones, too.
+    std::vector<std::size_t> bordersOf(const std::vector<Index>& token) const {
+        std::vector<std::size_t> borders{0, 0};
+        for (std::size_t i = 1; i < token.size(); ++i) {
+            borders.push_back(matchedWith(token[i], token, borders, borders.back()));
+        }
+        return borders;
+    }
+
+    /// How many of the token's first segments stand before and with a segment, when so many of them
+    /// stand before it.
+    std::size_t matchedWith(Index segment, const std::vector<Index>& token,
+                            const std::vector<std::size_t>& borders, std::size_t matched) const {
+        if (matched == token.size()) {
+            matched = borders[matched];
+        }
+        while (matched > 0 && !isEqual(segment, token[matched])) {
+            matched = borders[matched];
+        }
+        return isEqual(segment, token[matched]) ? matched + 1 : matched;
     }
 
     /// Of the token's first segments and its last ones that which the fewest are like.
@@ -231,8 +290,10 @@ private:
         return rarest;
     }
 
-    /// The token's occurrence in which another segment stands for one of its own, if there is one.
-    std::optional<Occurrence> occurrenceAround(Index own, Index other) const {
+    /// The token's occurrence in which another segment stands for one of its own, if there is one
+    /// and comparisons are left to find it.
+    std::optional<Occurrence> occurrenceAround(Index own, Index other,
+                                               std::size_t& comparisonsLeft) const {
         if (other == own) {
             return Occurrence{opening_.segment, equals_, closing_.segment};
         }
@@ -240,7 +301,8 @@ private:
         for (Index segment = own; segment != opening_.segment;) {
             segment = previous(segment);
             occurrence.first = previous(occurrence.first);
-            if (!isEqual(segment, occurrence.first)) {
+            if (comparisonsLeft == 0 || --comparisonsLeft == 0 ||
+                !isEqual(segment, occurrence.first)) {
                 return std::nullopt;
             }
             if (segment == equals_) {
@@ -249,7 +311,8 @@ private:
         }
         // The last segment is followed by the beginning, which has no bracket.
         for (Index segment = own; segment != closing_.segment; segment = next(segment)) {
-            if (!isEqual(segment, occurrence.last)) {
+            if (comparisonsLeft == 0 || --comparisonsLeft == 0 ||
+                !isEqual(segment, occurrence.last)) {
                 return std::nullopt;
             }
             if (segment == equals_) {

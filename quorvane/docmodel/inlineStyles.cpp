@@ -220,18 +220,24 @@ private:
 
     /// The walk as it is defined, on a body of any form.
     void walkOver(std::size_t open, std::size_t close) {
-        // A style whose words hold tokens can make a walk that never ends.
-        constexpr std::int64_t largestGrowth = 1000;
-        const std::int64_t longest = (std::ssize(body_) + largestGrowth) * largestGrowth;
-        std::int64_t stepsLeft = std::count(done_.begin(), done_.end(), opening) + 1;
-        stepsLeft *= largestGrowth;
+        if (open == nowhere || done_.find(closing, close + 1) == nowhere) {
+            return;
+        }
         Brackets text(done_);
         done_ = Text();
+        // A style whose words hold tokens can make a walk that never ends.
+        constexpr std::size_t largestGrowth = 1000;
+        constexpr std::size_t roomForCharacters = 1000;
+        constexpr std::size_t roomForBrackets = 20;
+        const std::size_t longest = (body_.size() + roomForCharacters) * largestGrowth;
+        const std::size_t mostBrackets = (text.brackets() + roomForBrackets) * largestGrowth;
+        std::size_t stepsLeft = mostBrackets;
         open = text.markOpening(open);
         while (open != nowhere) {
-            if (--stepsLeft < 0 || static_cast<std::int64_t>(text.size()) > longest) {
+            if (stepsLeft == 0 || text.brackets() > mostBrackets || text.size() > longest) {
                 raise(RunTimeError::Overflow);
             }
+            --stepsLeft;
             close = text.markClosing(close + 1);
             if (close == nowhere || close <= open) {
                 break;

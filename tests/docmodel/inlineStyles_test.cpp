@@ -176,6 +176,14 @@ TEST_F(InlineStyles, OverflowWhenAStylePutsItsOwnTokenIn) {
     EXPECT_EQ(errorNumberOf([this] { styled("<a=\xC3\xA9>"); }), 6);
 }
 
+// Their brackets end the walk long before their length does.
+TEST_F(InlineStyles, OverflowInALongTextBeforeTheyTakeMuchMemory) {
+    document->LoadStyleSheetFromMemmory("{name: twice; style-def: cs; format: <twice=><twice=>}");
+    const std::string text = std::string(100'000, 'x') + "<twice=>";
+
+    EXPECT_EQ(errorNumberOf([&] { styled(text); }), 6);
+}
+
 TEST_F(InlineStyles, LeaveTheDocumentChangedWhenTheyOverflow) {
     document->LoadStyleSheetFromMemmory("{name: once; style-def: cs; format: <once=>}");
     document->TableRows()->AddTail();
@@ -436,6 +444,39 @@ TEST_P(InlineStylesLikeThePlainWalk, TreatTokensInARow) {
 TEST_P(InlineStylesLikeThePlainWalk, TreatTokensThatReachOverMany) {
     for (int i = 0; i < 200; ++i) {
         expectSame(random.fewDifferentParts(250));
+    }
+}
+
+// Tokens that reach over hundreds of brackets, among many that begin alike.
+TEST(InlineStylesWithinOneAnother, AreLikeThePlainWalk) {
+    const auto times = [](std::size_t count, const std::u16string& part) {
+        std::u16string text;
+        for (std::size_t i = 0; i < count; ++i) {
+            text += part;
+        }
+        return text;
+    };
+    PlainWalk walk;
+    walk.styles = {{u"b", u"\\cs100\\b "}};
+    const Ref<CRtfDoc> document = CRtfDoc::create();
+    document->LoadStyleSheetFromMemmory("{name: b; style-def: cs; format: \\b}");
+    const auto expectSame = [&](const std::u16string& text) {
+        ASSERT_EQ(withCharacterStyles(*document, utf8(text)), utf8(walk.apply(text))) << utf8(text);
+    };
+    for (const char16_t* part : {u"<b=", u"<b<b="}) {
+        std::u16string deeperAndDeeper;
+        for (std::size_t deep = 10; deep < 60; ++deep) {
+            deeperAndDeeper += times(deep, part) + u">";
+        }
+        expectSame(deeperAndDeeper);
+    }
+    constexpr std::size_t deep = 150;
+    const std::u16string nest = times(deep, u"<b=") + times(deep + 40, u">");
+    for (const std::u16string& text :
+         {times(deep, u"< ") + nest + times(deep, u"<b=") + u"!", nest + nest, nest + u"x" + nest,
+          times(70, u"<b=") + nest + times(deep, u"<b=>") + nest,
+          times(deep, u"< ") + times(4 * deep, u"<b=1>")}) {
+        expectSame(text);
     }
 }
 

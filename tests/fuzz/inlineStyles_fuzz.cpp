@@ -90,7 +90,7 @@ std::optional<std::string> plainWalk(const CRtfDoc& document, std::string_view t
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     FuzzInput input(data, size);
     const auto pieces = input.pieces('\f', 4);
-    const std::string text = wellFormed(input.rest().substr(0, 300));
+    const std::string text = wellFormed(input.rest().substr(0, 1500));
     std::string sheet;
     const char* const names[] = {"a", "b", "ab", "a<b"};
     for (std::size_t i = 0; i < pieces.size(); ++i) {

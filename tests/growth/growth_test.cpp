@@ -274,6 +274,14 @@ TEST_F(InlineTokens, GrowProportionallyWithinOneAnother) {
         [](std::size_t count) { return repeated("<bold", count) + repeated(">", count); }, 5000);
 }
 
+TEST_F(InlineTokens, GrowProportionallyWhenOnlyOneOfManyThatBeginAlikeIsClosed) {
+    expectProportionalTo(
+        [](std::size_t count) {
+            return repeated("<bold=", count) + ">" + repeated("<bold=", count) + "!";
+        },
+        5000);
+}
+
 TEST_F(InlineTokens, GrowProportionallyWhereAStylePutsTokensIn) {
     expectProportionalTo([](std::size_t count) { return numbered("<more=", count, ">"); }, 1000);
     expectProportionalTo(
