@@ -1,11 +1,11 @@
 // documentAsJson DESCRIPTION STYLESHEET DOCUMENT: renders a description, and prints what the object
 // model holds then.
 
-#include <cctype>
 #include <iostream>
 #include <nlohmann/json.hpp>
 #include <regex>
 #include <string>
+#include <string_view>
 
 #include "quorvane/driver/CRtfDriver.h"
 #include "quorvane/support/currentError.h"
@@ -15,35 +15,25 @@ namespace {
 using namespace quorvane;
 using nlohmann::json;
 
-/// The number behind the last `\cf` of some control words, or else the one given.
-std::int32_t colorOf(const std::string& words, std::int32_t otherwise) {
-    const std::size_t at = words.rfind("\\cf");
-    const bool isColor = at != std::string::npos && std::isdigit(words[at + 3]) != 0;
-    return isColor ? std::stoi(words.substr(at + 3)) : otherwise;
-}
-
-/// The colours of the parts of a paragraph's text: those of its inline styles, and that of the
-/// rest.
-json colorsOf(const CRtfDoc& document, const CRtfParagraph& paragraph) {
-    json colors = json::array();
-    const std::int32_t own = paragraph.ForeColor();
-    const std::int32_t ofParagraph =
-        own != 0 ? own : colorOf(std::string(document.GetParagraphStyle(paragraph.Style())), 0);
-    std::string rest = paragraph.Text();
-    const auto add = [&](const std::string& text, std::int32_t color) {
-        if (text.find_first_not_of(' ') != std::string::npos) {
-            colors.push_back(color);
-        }
+/// The parts of a paragraph's text, cut at its inline styles, with the control words that give
+/// their format.
+json partsOf(const CRtfDoc& document, const CRtfParagraph& paragraph) {
+    json parts = json::array();
+    const std::string words(document.GetParagraphStyle(paragraph.Style()));
+    const std::string color =
+        paragraph.ForeColor() != 0 ? "\\cf" + std::to_string(paragraph.ForeColor()) : "";
+    const auto add = [&](const std::string& text, std::string_view moreWords) {
+        parts.push_back({{"text", text}, {"words", words + color + std::string(moreWords)}});
     };
+    std::string rest = paragraph.Text();
     std::smatch token;
     while (std::regex_search(rest, token, std::regex("<([A-Za-z][^=<>]*)=([^<>]*)>"))) {
-        add(token.prefix(), ofParagraph);
-        add(token[2],
-            colorOf(std::string(document.GetCharacterStyle(token[1].str())), ofParagraph));
+        add(token.prefix(), "");
+        add(token[2], document.GetCharacterStyle(token[1].str()));
         rest = token.suffix().str();
     }
-    add(rest, ofParagraph);
-    return colors;
+    add(rest, "");
+    return parts;
 }
 
 json cellOf(const CRtfDoc& document, CRtfTableCell& cell) {
@@ -53,7 +43,7 @@ json cellOf(const CRtfDoc& document, CRtfTableCell& cell) {
         const Ref<CRtfParagraph> paragraph = list->Item(i);
         paragraphs.push_back({{"text", paragraph->Text()},
                               {"style", paragraph->Style()},
-                              {"colors", colorsOf(document, *paragraph)},
+                              {"parts", partsOf(document, *paragraph)},
                               {"align", std::int32_t{paragraph->Align()}}});
     }
     return {{"style", cell.Style()},
@@ -63,6 +53,12 @@ json cellOf(const CRtfDoc& document, CRtfTableCell& cell) {
              {std::int32_t{cell.TopBorder()}, std::int32_t{cell.RightBorder()},
               std::int32_t{cell.BottomBorder()}, std::int32_t{cell.LeftBorder()}}},
             {"paragraphs", paragraphs}};
+}
+
+json pageOf(const CRtfDoc& document) {
+    return {{"page-width", document.PageWidth()},       {"page-height", document.PageHeight()},
+            {"margin-top", document.TopMargin()},       {"margin-right", document.RightMargin()},
+            {"margin-bottom", document.BottomMargin()}, {"margin-left", document.LeftMargin()}};
 }
 
 json rowsOf(const CRtfDoc& document) {
@@ -96,7 +92,8 @@ int main(int count, char** arguments) {
         driver->setStyleSheetFile(arguments[2]);
         driver->ParseFile(arguments[1]);
         driver->Commit(arguments[3]);
-        std::cout << rowsOf(*driver->RtfObject()) << "\n";
+        const Ref<CRtfDoc> document = driver->RtfObject();
+        std::cout << json{{"page", pageOf(*document)}, {"rows", rowsOf(*document)}} << "\n";
         driver->setNotifyErrorHandler({});
         return errors == 0 ? 0 : 1;
     } catch (const std::exception& error) {
