@@ -266,7 +266,7 @@ TEST(WholeRunsOutOfMemory, LoadTheStylesheetsFileWhenTheyAreToldAgain) {
 
     expectNothingLost([](Subject& subject) { subject.driver->setStyleSheetFile("style.rtfss"); },
                       [&expected](Subject& subject) {
-                          subject.driver->RtfObject()->setStyleSheetFile("style.rtfss");
+                          subject.driver->setStyleSheetFile("style.rtfss");
                           ASSERT_TRUE(subject.driver->RtfObject()->StyleSheetOk());
                           ASSERT_EQ(subject.driver->StyleSheetFile(), "style.rtfss");
                           ASSERT_EQ(subject.contentsOf(description), expected);
