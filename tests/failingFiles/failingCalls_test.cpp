@@ -276,11 +276,12 @@ TEST_F(FailingJobs, KeepALinkAndReplaceWhatItLeadsTo) {
         std::filesystem::remove(folder / "a.rtf");
         std::filesystem::create_symlink("target.rtf", folder / "a.rtf");
     };
-    failEachCall(prepare, [&] { render(); },
-                 [&](const auto&, Fault fault) {
-                     expectWholeOrNothing(whole, older, "target.rtf", fault);
-                     EXPECT_TRUE(std::filesystem::is_symlink(folder / "a.rtf"));
-                 });
+    failEachCall(
+        prepare, [&] { render(); },
+        [&](const auto&, Fault fault) {
+            expectWholeOrNothing(whole, older, "target.rtf", fault);
+            EXPECT_TRUE(std::filesystem::is_symlink(folder / "a.rtf"));
+        });
     EXPECT_GE(runs, 60);
 }
 
@@ -312,10 +313,11 @@ TEST_F(FailingJobs, TellOfAFolderThatCannotBeFound) {
         std::filesystem::remove_all(folder / "sub");
         std::filesystem::create_directory(folder / "sub");
     };
-    failEachCall(prepare, [&] { render(); },
-                 [&](const auto&, Fault fault) {
-                     expectWholeOrNothing(whole, std::nullopt, "sub/a.rtf", fault);
-                 });
+    failEachCall(
+        prepare, [&] { render(); },
+        [&](const auto&, Fault fault) {
+            expectWholeOrNothing(whole, std::nullopt, "sub/a.rtf", fault);
+        });
     EXPECT_GE(runs, 50);
 }
 
@@ -329,14 +331,14 @@ protected:
         }
         checked.styleSheet = options.styleSheet;
         found.clear();
-        status = cli::CheckJob(
-                     checked,
-                     [this](const std::string& file, const Diagnostic& finding,
-                            const cli::FileWindow&) {
-                         found.push_back(file + ": " + finding.message);
-                     },
-                     teller())
-                     .run();
+        status =
+            cli::CheckJob(
+                checked,
+                [this](const std::string& file, const Diagnostic& finding, const cli::FileWindow&) {
+                    found.push_back(file + ": " + finding.message);
+                },
+                teller())
+                .run();
     }
 
     /// That a file is checked as it is, or said to be unreadable.

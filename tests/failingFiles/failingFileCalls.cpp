@@ -11,9 +11,9 @@
 #include <cstdio>
 #include <cstdlib>
 
-// The program has functions of its own in the place of the system's. They are found first by all that
-// is linked with it: the library and the command, and also the C++ library, which looks at paths,
-// folders and files on their behalf.
+// The program has functions of its own in the place of the system's. They are found first by all
+// that is linked with it: the library and the command, and also the C++ library, which looks at
+// paths, folders and files on their behalf.
 
 namespace quorvane {
 
