@@ -144,6 +144,19 @@ TEST_F(FailingCalls, LeaveAStyleSheetLoadedOrEmpty) {
     EXPECT_GE(runs, 20);
 }
 
+TEST_F(FailingCalls, LeaveAFileToBeFoundByAPattern) {
+    bool isFound = false;
+    failEachCall([] {}, [&] { isFound = systemPlatform().fileExists(folder / "*.rtfs?"); },
+                 [&](const std::vector<std::string>& calls, Fault fault) {
+                     // A folder that cannot be read hides its files; the rest is no obstacle.
+                     if (fault == Fault::Once) {
+                         EXPECT_EQ(isFound, calls.back() == "lstat" || calls.back() == "close");
+                     }
+                     EXPECT_TRUE(systemPlatform().fileExists(folder / "*.rtfs?"));
+                 });
+    EXPECT_GE(runs, 15);
+}
+
 /// Commits of a document, and what they tell.
 class FailingCommits : public FailingCalls {
 protected:

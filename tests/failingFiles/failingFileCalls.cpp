@@ -72,7 +72,7 @@ namespace {
 
 /// The system's own function of a name.
 template <class Function>
-Function* system(const char* name) {
+Function* systemFunction(const char* name) {
     return reinterpret_cast<Function*>(::dlsym(RTLD_NEXT, name));
 }
 
@@ -97,7 +97,7 @@ int evenIfFailing(const char* name, Call call) {
 extern "C" {
 
 int open(const char* path, int flags, ...) {
-    static auto* const real = system<int(const char*, int, ...)>("open");
+    static auto* const real = systemFunction<int(const char*, int, ...)>("open");
     std::va_list arguments;
     va_start(arguments, flags);
     const auto mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
@@ -106,7 +106,7 @@ int open(const char* path, int flags, ...) {
 }
 
 int openat(int folder, const char* path, int flags, ...) {
-    static auto* const real = system<int(int, const char*, int, ...)>("openat");
+    static auto* const real = systemFunction<int(int, const char*, int, ...)>("openat");
     std::va_list arguments;
     va_start(arguments, flags);
     const auto mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
@@ -115,91 +115,91 @@ int openat(int folder, const char* path, int flags, ...) {
 }
 
 std::FILE* fopen64(const char* path, const char* mode) {
-    static auto* const real = system<std::FILE*(const char*, const char*)>("fopen64");
+    static auto* const real = systemFunction<std::FILE*(const char*, const char*)>("fopen64");
     return unlessFailing("fopen", static_cast<std::FILE*>(nullptr),
                          [&] { return real(path, mode); });
 }
 
 DIR* fdopendir(int folder) {
-    static auto* const real = system<DIR*(int)>("fdopendir");
+    static auto* const real = systemFunction<DIR*(int)>("fdopendir");
     return unlessFailing("fdopendir", static_cast<DIR*>(nullptr), [&] { return real(folder); });
 }
 
 dirent* readdir(DIR* folder) {
-    static auto* const real = system<dirent*(DIR*)>("readdir");
+    static auto* const real = systemFunction<dirent*(DIR*)>("readdir");
     return unlessFailing("readdir", static_cast<dirent*>(nullptr), [&] { return real(folder); });
 }
 
 ssize_t read(int file, void* bytes, size_t size) {
-    static auto* const real = system<ssize_t(int, void*, size_t)>("read");
+    static auto* const real = systemFunction<ssize_t(int, void*, size_t)>("read");
     return unlessFailing("read", ssize_t{-1},
                          [&] { return real(file, bytes, plan.transfer(size)); });
 }
 
 ssize_t write(int file, const void* bytes, size_t size) {
-    static auto* const real = system<ssize_t(int, const void*, size_t)>("write");
+    static auto* const real = systemFunction<ssize_t(int, const void*, size_t)>("write");
     return unlessFailing("write", ssize_t{-1},
                          [&] { return real(file, bytes, plan.transfer(size)); });
 }
 
 off64_t lseek64(int file, off64_t offset, int from) noexcept {
-    static auto* const real = system<off64_t(int, off64_t, int)>("lseek64");
+    static auto* const real = systemFunction<off64_t(int, off64_t, int)>("lseek64");
     return unlessFailing("lseek", off64_t{-1}, [&] { return real(file, offset, from); });
 }
 
 int close(int file) {
-    static auto* const real = system<int(int)>("close");
+    static auto* const real = systemFunction<int(int)>("close");
     return evenIfFailing("close", [&] { return real(file); });
 }
 
 int fclose(std::FILE* file) {
-    static auto* const real = system<int(std::FILE*)>("fclose");
+    static auto* const real = systemFunction<int(std::FILE*)>("fclose");
     return evenIfFailing("fclose", [&] { return real(file); });
 }
 
 int unlink(const char* path) noexcept {
-    static auto* const real = system<int(const char*)>("unlink");
+    static auto* const real = systemFunction<int(const char*)>("unlink");
     return unlessFailing("unlink", -1, [&] { return real(path); });
 }
 
 int rename(const char* from, const char* to) noexcept {
-    static auto* const real = system<int(const char*, const char*)>("rename");
+    static auto* const real = systemFunction<int(const char*, const char*)>("rename");
     return unlessFailing("rename", -1, [&] { return real(from, to); });
 }
 
 int stat(const char* path, struct stat* status) noexcept {
-    static auto* const real = system<int(const char*, struct stat*)>("stat");
+    static auto* const real = systemFunction<int(const char*, struct stat*)>("stat");
     return unlessFailing("stat", -1, [&] { return real(path, status); });
 }
 
 int lstat(const char* path, struct stat* status) noexcept {
-    static auto* const real = system<int(const char*, struct stat*)>("lstat");
+    static auto* const real = systemFunction<int(const char*, struct stat*)>("lstat");
     return unlessFailing("lstat", -1, [&] { return real(path, status); });
 }
 
 int fchmod(int file, mode_t mode) noexcept {
-    static auto* const real = system<int(int, mode_t)>("fchmod");
+    static auto* const real = systemFunction<int(int, mode_t)>("fchmod");
     return unlessFailing("fchmod", -1, [&] { return real(file, mode); });
 }
 
 int faccessat(int folder, const char* path, int mode, int flags) noexcept {
-    static auto* const real = system<int(int, const char*, int, int)>("faccessat");
+    static auto* const real = systemFunction<int(int, const char*, int, int)>("faccessat");
     return unlessFailing("faccessat", -1, [&] { return real(folder, path, mode, flags); });
 }
 
 ssize_t readlink(const char* path, char* target, size_t size) noexcept {
-    static auto* const real = system<ssize_t(const char*, char*, size_t)>("readlink");
+    static auto* const real = systemFunction<ssize_t(const char*, char*, size_t)>("readlink");
     return unlessFailing("readlink", ssize_t{-1}, [&] { return real(path, target, size); });
 }
 
 char* realpath(const char* path, char* resolved) noexcept {
-    static auto* const real = system<char*(const char*, char*)>("realpath");
+    static auto* const real = systemFunction<char*(const char*, char*)>("realpath");
     return unlessFailing("realpath", static_cast<char*>(nullptr),
                          [&] { return real(path, resolved); });
 }
 
 char* getcwd(char* folder, size_t size) noexcept {
-    static auto* const real = system<char*(char*, size_t)>("getcwd");
+    static auto* const real = systemFunction<char*(char*, size_t)>("getcwd");
     return unlessFailing("getcwd", static_cast<char*>(nullptr), [&] { return real(folder, size); });
 }
 }
