@@ -103,8 +103,10 @@ void CheckJob::checkFile(const std::string& file) {
         std::error_code failure;
         if (std::filesystem::is_regular_file(path, failure)) {
             std::ifstream stream(path, std::ios::binary);
-            const std::string beginning = stream ? readPiece(stream) : std::string();
-            if (languageOf(beginning, file) == CheckedLanguage::Rtf && !isStyleSheetName(file)) {
+            const std::string beginning = readPiece(stream);
+            const bool isRead = stream.is_open() && !stream.bad();
+            if (isRead && languageOf(beginning, file) == CheckedLanguage::Rtf &&
+                !isStyleSheetName(file)) {
                 checkRtfFile(file, stream, beginning);
                 return;
             }

@@ -37,7 +37,12 @@ ExitStatus RenderJob::run() {
     if (options_.styleSheet) {
         requireStyleSheetExtension(*options_.styleSheet, options_.descriptions);
     }
-    const std::vector<Assignment> assignments = assignOutputs(options_);
+    std::vector<Assignment> assignments;
+    try {
+        assignments = assignOutputs(options_);
+    } catch (const RtfError& error) {
+        return fail(options_.descriptions.front(), error);
+    }
     if (options_.outputFolder && !isFolder(*options_.outputFolder)) {
         RtfError error(RunTimeError::PathNotFound);
         error.cause =

@@ -2,6 +2,8 @@
 
 #include <system_error>
 
+#include "cli/requireAnswer.h"
+
 namespace quorvane::cli {
 
 std::filesystem::path followLinks(const std::filesystem::path& path) {
@@ -9,11 +11,15 @@ std::filesystem::path followLinks(const std::filesystem::path& path) {
     std::filesystem::path target = path;
     for (int links = 0; links < mostLinks; ++links) {
         std::error_code failure;
-        if (!std::filesystem::is_symlink(target, failure)) {
+        const bool isLink = std::filesystem::is_symlink(target, failure);
+        requireAnswer(failure);
+        if (!isLink) {
             return target;
         }
         // A relative link begins at its own folder; an absolute one takes the whole path's place.
-        target = target.parent_path() / std::filesystem::read_symlink(target, failure);
+        const std::filesystem::path next = std::filesystem::read_symlink(target, failure);
+        requireAnswer(failure);
+        target = target.parent_path() / next;
     }
     return path;
 }

@@ -8,6 +8,7 @@
 #include "cli/UsageError.h"
 #include "cli/followLinks.h"
 #include "cli/process.h"
+#include "cli/requireAnswer.h"
 #include "cli/utf8Path.h"
 
 namespace quorvane::cli {
@@ -40,6 +41,7 @@ std::string outputOf(const std::string& description, const RenderOptions& option
 fs::path canonicalPath(const fs::path& path) {
     std::error_code failure;
     fs::path whole = fs::weakly_canonical(path, failure);
+    requireAnswer(failure);
     return failure ? path : whole;
 }
 
@@ -53,6 +55,7 @@ public:
         const fs::path target = followLinks(pathFromUtf8(name));
         std::error_code failure;
         const fs::path whole = fs::absolute(target, failure);
+        requireAnswer(failure);
         const fs::path file = systemSpelling(failure ? target : withCanonicalFolder(whole));
         const std::u8string identity = file.generic_u8string();
         return {identity.begin(), identity.end()};
@@ -92,7 +95,9 @@ std::map<std::string, std::string> inputsOf(const RenderOptions& options, Identi
 /// Devices and pipes are written to, not replaced.
 bool wouldReplace(const std::string& name) {
     std::error_code failure;
-    return fs::is_regular_file(pathFromUtf8(name), failure);
+    const bool isFile = fs::is_regular_file(pathFromUtf8(name), failure);
+    requireAnswer(failure);
+    return isFile;
 }
 
 UsageError bothWouldGoTo(const std::string& output, const std::string& first,

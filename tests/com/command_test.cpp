@@ -103,7 +103,7 @@ TEST(Command, FailsWhenAnotherProgramHoldsTheDocument) {
     CloseHandle(held);
 
     EXPECT_NE(result.errors, "");
-    EXPECT_NE(result.status, 0U);
+    EXPECT_EQ(result.status, 2U);
     EXPECT_EQ(bytesOfFile(document), "as it was");
     DeleteFileW(description.c_str());
     DeleteFileW(document.c_str());

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "tests/com/host/ComObject.h"
@@ -53,60 +54,135 @@ HRESULT create(const Component& component, REFCLSID id, ComPtr<Interface>& objec
 }
 
 constexpr const char* styles =
-    "{name: normal; style-def: s; format: \\f9\\fs20}{name: b; style-def: cs; format: \\b}";
+    "{name: normal; style-def: s; format: \\f9\\fs20}{name: b; style-def: cs; format: \\b}"
+    "{name: a shaded cell's style; style-def: cell; format: navy-blue}";
 constexpr const char* text = "A text that is longer than what fits <b=anywhere> else";
 
-/// Builds a document, commits it and reads it.
-Work buildingByHand(std::string& contents) {
-    return [&contents](const Component& component) {
-        const std::wstring file = temporaryFile(L"scarce.rtf");
-        const Bstr path(file);
+/// A width that the enumeration has no name for, as hosts may give.
+::tBorderWidth borderOf(int twips) {
+    return static_cast<::tBorderWidth>(twips);
+}
+
+/// A file that is there as long as this lives.
+class WrittenFile {
+public:
+    WrittenFile(const wchar_t* name, const std::string& bytes)
+        : name_(temporaryFile(name)), path_(name_) {
+        writeFile(name_, bytes);
+    }
+    WrittenFile(const WrittenFile&) = delete;
+    WrittenFile& operator=(const WrittenFile&) = delete;
+    ~WrittenFile() { DeleteFileW(name_.c_str()); }
+
+    BSTR path() const { return path_.get(); }
+    std::string bytes() const { return bytesOfFile(name_); }
+
+private:
+    std::wstring name_;
+    Bstr path_;
+};
+
+/// Rows, cells or paragraphs: adds, finds and removes elements, and leaves one, which has the key.
+template <class Collection, class Element>
+void fillCollection(Calls& calls, ComPtr<Collection>& collection, Variant& key,
+                    ComPtr<Element>& element) {
+    Variant other("another key that is long");
+    ComPtr<IUnknown> enumerator;
+    ComPtr<IEnumVARIANT> clone;
+    Variant enumerated;
+    calls([&] { return collection->AddTail(key.reference()); });
+    calls([&] { return collection->add(other.reference(), key.reference(), nullptr); });
+    calls([&] { return collection->AddHead(nullptr); });
+    calls([&] { return collection->AddTail(nullptr); });
+    calls([&] { return collection->PeekHead(element.out()); });
+    calls([&] { return collection->PeekTail(element.out()); });
+    calls([&] { return collection->get_NewEnum(enumerator.out()); });
+    calls([&] { return enumerator.template as<IEnumVARIANT>()->Clone(clone.out()); });
+    calls([&] { return clone->Next(1, enumerated.out(), nullptr); });
+    calls([&] { return enumerated.object()->QueryInterface(element.out()); });
+    calls([&] { return collection->RemoveHead(); });
+    calls([&] { return collection->removeTail(); });
+    calls([&] { return collection->Remove(other.get()); });
+    calls([&] { return collection->get_Item(key.get(), element.out()); });
+}
+
+/// Builds a document, commits it and reads it, with all that can need memory on the way. `read`
+/// becomes all that was read.
+Work buildingByHand(std::string& read) {
+    const auto styleSheet = std::make_shared<WrittenFile>(L"scarce.rtfss", styles);
+    return [&read, styleSheet](const Component& component) {
+        const WrittenFile document(L"scarce.rtf", "");
         const Bstr styleText((std::string(styles)));
         const Bstr paragraphText((std::string(text)));
+        const Bstr paragraphStyle(std::string("normal"));
+        const Bstr cellStyle(std::string("a shaded cell's style"));
+        // A border of usual width needs no memory of its own.
+        const ::tBorderWidth wide = borderOf(20000);
         Variant key("key");
-        Variant element;
-        Bstr read;
-        ComPtr<_CRtfDoc> document;
+        Bstr answer;
+        ::tColorIndex color = eNoColor;
+        ComPtr<_CRtfDoc> doc;
         ComPtr<_CRtfTableRows> rows;
         ComPtr<_CRtfTableRow> row;
         ComPtr<_CRtfTableCells> cells;
         ComPtr<_CRtfTableCell> cell;
         ComPtr<_CRtfParagraphs> paragraphs;
         ComPtr<_CRtfParagraph> paragraph;
-        ComPtr<IUnknown> enumerator;
-        ComPtr<IEnumVARIANT> clone;
         Calls calls;
-        calls([&] { return create(component, __uuidof(::CRtfDoc), document); });
-        calls([&] { return document->LoadStyleSheetFromMemmory(styleText.get()); });
-        calls([&] { return document->put_LeftMargin(1000); });
-        calls([&] { return document->get_TableRows(rows.out()); });
-        calls([&] { return rows->AddTail(key.reference()); });
-        calls([&] { return rows->get_Item(key.get(), row.out()); });
+        read.clear();
+        const auto reading = [&](auto&& call) {
+            calls(call);
+            read += answer.utf8() + "\n";
+        };
+        calls([&] { return create(component, __uuidof(::CRtfDoc), doc); });
+        calls([&] { return doc->put_StyleSheetFile(styleSheet->path()); });
+        calls([&] { return doc->get_StyleSheetFile(answer.out()); });
+        read +=
+            textOf(answer.get()) == textOf(styleSheet->path()) ? "its name\n" : "another name\n";
+        calls([&] { return doc->LoadStyleSheetFromMemmory(styleText.get()); });
+        calls([&] { return doc->getCellStyleBackColor(cellStyle.get(), &color); });
+        read += std::to_string(color) + "\n";
+        calls([&] { return doc->put_LeftMargin(1000); });
+        calls([&] { return doc->get_TableRows(rows.out()); });
+        fillCollection(calls, rows, key, row);
         calls([&] { return row->get_TableCells(cells.out()); });
         calls([&] { return cells->AddTail(nullptr); });
-        calls([&] { return cells->AddHead(key.reference()); });
-        calls([&] { return cells->get_NewEnum(enumerator.out()); });
-        calls([&] { return enumerator.as<IEnumVARIANT>()->Clone(clone.out()); });
-        calls([&] { return clone->Next(1, element.out(), nullptr); });
-        calls([&] { return element.object()->QueryInterface(cell.out()); });
+        fillCollection(calls, cells, key, cell);
+        calls([&] { return cells->SetUniformWidths(); });
+        calls([&] { return row->put_LeftBorder(wide); });
+        calls([&] { return row->put_BackColor(eGold); });
+        calls([&] { return cell->put_TopBorder(wide); });
         calls([&] { return cell->put_Width(eTwips, 3000); });
+        calls([&] { return cell->put_Style(cellStyle.get()); });
+        reading([&] { return cell->get_Style(answer.out()); });
         calls([&] { return cell->asMarkedField(key.get()); });
         calls([&] { return cell->get_Paragraphs(paragraphs.out()); });
-        calls([&] { return paragraphs->AddTail(key.reference()); });
-        calls([&] { return paragraphs->PeekTail(paragraph.out()); });
+        fillCollection(calls, paragraphs, key, paragraph);
         calls([&] { return paragraph->put_Text(paragraphText.get()); });
+        reading([&] { return paragraph->get_Text(answer.out()); });
+        calls([&] { return paragraph->put_Style(paragraphStyle.get()); });
+        reading([&] { return paragraph->get_Style(answer.out()); });
         calls([&] { return paragraph->asMarkedField(key.get()); });
-        // Before it is read: a commit that finds no memory for a file is absorbed.
-        calls([&] { return document->Commit(path.get()); });
-        calls([&] { return document->get_Contents(read.out()); });
-        DeleteFileW(file.c_str());
-        contents = read.utf8();
+        // What nobody holds any more is wrapped anew.
+        cell.reset();
+        row.reset();
+        rows.reset();
+        calls([&] { return paragraphs->get_Parent(cell.out()); });
+        calls([&] { return cell->get_Parent(row.out()); });
+        calls([&] { return doc->get_TableRows(rows.out()); });
+        calls([&] { return doc->Commit(document.path()); });
+        read += document.bytes() + "\n";
+        reading([&] { return doc->get_Contents(answer.out()); });
+        calls([&] { return doc->Refresh(); });
+        calls([&] { return doc->ClearStructure(); });
+        reading([&] { return doc->get_Contents(answer.out()); });
         return calls.result();
     };
 }
 
-/// Drives a description that has an error, with a sink of its event.
-Work driving(std::string& contents, int& events) {
+/// Drives a description that has an error, from a file and from its text, with a sink of its event.
+/// `read` becomes all that was read.
+Work driving(std::string& read, int& events) {
     class Sink : public ComObject<IDispatch> {
     public:
         explicit Sink(int& events) : events_(events) {}
@@ -126,11 +202,16 @@ Work driving(std::string& contents, int& events) {
     private:
         int& events_;
     };
-    return [&contents, &events](const Component& component) {
+    const std::string lines =
+        "(doc\n(r\n(c\n(cb=Crimson)\n(p\n(pt=a text)\n(ps=b)\np)\nc)\nr)\ndoc)";
+    const auto file = std::make_shared<WrittenFile>(L"scarce.rtfspec", lines);
+    const auto styleSheet = std::make_shared<WrittenFile>(L"scarce.rtfss", styles);
+    return [&read, &events, lines, file, styleSheet](const Component& component) {
         const auto sink = makeCom<Sink>(events);
-        const Bstr description(
-            std::string("(doc\n(r\n(c\n(cb=Crimson)\n(p\n(pt=a text)\n(ps=b)\np)\nc)\nr)\ndoc)"));
-        Bstr read;
+        const WrittenFile committed(L"scarce.rtf", "");
+        const Bstr description(lines);
+        const Bstr styleText((std::string(styles)));
+        Bstr answer;
         ComPtr<_CRtfDriver> driver;
         ComPtr<IConnectionPoint> point;
         ComPtr<IEnumConnections> connections;
@@ -139,6 +220,11 @@ Work driving(std::string& contents, int& events) {
         DWORD cookie = 0;
         Calls calls;
         events = 0;
+        read.clear();
+        const auto reading = [&](auto&& call) {
+            calls(call);
+            read += answer.utf8() + "\n";
+        };
         calls([&] { return create(component, __uuidof(::CRtfDriver), driver); });
         calls([&] {
             return driver.as<IConnectionPointContainer>()->FindConnectionPoint(
@@ -150,11 +236,19 @@ Work driving(std::string& contents, int& events) {
         calls([&] { return point->Advise(sink.get(), &cookie); });
         calls([&] { return point->EnumConnections(connections.out()); });
         calls([&] { return driver->put_ErroneousInput(VARIANT_TRUE); });
+        calls([&] { return driver->put_StyleSheetFile(styleSheet->path()); });
+        calls([&] { return driver->get_StyleSheetFile(answer.out()); });
+        read +=
+            textOf(answer.get()) == textOf(styleSheet->path()) ? "its name\n" : "another name\n";
+        calls([&] { return driver->ParseFile(file->path()); });
+        reading([&] { return driver->get_Contents(answer.out()); });
+        calls([&] { return driver->LoadStyleSheetFromMemmory(styleText.get()); });
         calls([&] { return driver->ParseFromMemmory(description.get()); });
+        calls([&] { return driver->Commit(committed.path()); });
+        read += committed.bytes() + "\n";
         calls([&] { return driver->get_RtfObject(document.out()); });
-        calls([&] { return document->get_Contents(read.out()); });
+        reading([&] { return document->get_Contents(answer.out()); });
         calls([&] { return cookie != 0 ? point->Unadvise(cookie) : S_OK; });
-        contents = read.utf8();
         return calls.result();
     };
 }

@@ -14,8 +14,10 @@
 #include <string>
 #include <vector>
 
+#include "cli/CheckJob.h"
 #include "cli/FormatJob.h"
 #include "cli/RenderJob.h"
+#include "cli/UsageError.h"
 #include "quorvane/driver/CRtfDriver.h"
 #include "quorvane/driver/driverErrors.h"
 #include "tests/cli/TemporaryFolder.h"
@@ -28,6 +30,8 @@ namespace {
 using testing::AnyOf;
 using testing::Eq;
 using testing::IsEmpty;
+using testing::IsSupersetOf;
+using testing::Not;
 using testing::SizeIs;
 
 struct Failure {
@@ -138,6 +142,19 @@ TEST_F(FailingCalls, LeaveAStyleSheetLoadedOrEmpty) {
                      EXPECT_EQ(document->GetParagraphStyle("normal"), "\\s100\\f0\\fs24\\cf3 ");
                  });
     EXPECT_GE(runs, 20);
+}
+
+TEST_F(FailingCalls, LeaveAFileToBeFoundByAPattern) {
+    bool isFound = false;
+    failEachCall([] {}, [&] { isFound = systemPlatform().fileExists(folder / "*.rtfs?"); },
+                 [&](const std::vector<std::string>& calls, Fault fault) {
+                     // A folder that cannot be read hides its files; the rest is no obstacle.
+                     if (fault == Fault::Once) {
+                         EXPECT_EQ(isFound, calls.back() == "lstat" || calls.back() == "close");
+                     }
+                     EXPECT_TRUE(systemPlatform().fileExists(folder / "*.rtfs?"));
+                 });
+    EXPECT_GE(runs, 15);
 }
 
 /// Commits of a document, and what they tell.
@@ -263,6 +280,118 @@ TEST_F(FailingJobs, KeepADescriptionUntilItsCanonicalFormIsWhole) {
                      expectWholeOrNothing(formatted, description, "a.rtfspec", fault);
                  });
     EXPECT_GE(runs, 40);
+}
+
+TEST_F(FailingJobs, KeepALinkAndReplaceWhatItLeadsTo) {
+    const std::string older(whole.size() + 100, 'o');
+    const auto prepare = [&] {
+        folder.write("target.rtf", older);
+        std::filesystem::remove(folder / "a.rtf");
+        std::filesystem::create_symlink("target.rtf", folder / "a.rtf");
+    };
+    failEachCall(
+        prepare, [&] { render(); },
+        [&](const auto&, Fault fault) {
+            expectWholeOrNothing(whole, older, "target.rtf", fault);
+            EXPECT_TRUE(std::filesystem::is_symlink(folder / "a.rtf"));
+        });
+    EXPECT_GE(runs, 60);
+}
+
+TEST_F(FailingJobs, KeepADescriptionThatTheDocumentWouldReplace) {
+    std::filesystem::create_directory(folder / "sub");
+    std::filesystem::create_symlink("a.rtfspec", folder / "a.rtf");
+    for (const char* name : {"a.rtfspec", "a.rtf", "sub/../a.rtfspec"}) {
+        options.output = folder / name;
+        const auto tryToRender = [&] {
+            status = cli::ExitStatus::Failure;
+            try {
+                render();
+            } catch (const cli::UsageError&) {
+                told.clear();
+            }
+        };
+        failEachCall([&] { folder.write("a.rtfspec", description); }, tryToRender,
+                     [&](const auto&, Fault) {
+                         EXPECT_EQ(status, cli::ExitStatus::Failure);
+                         EXPECT_EQ(bytesOf("a.rtfspec"), description) << name;
+                     });
+    }
+    EXPECT_GE(runs, 10);
+}
+
+TEST_F(FailingJobs, TellOfAFolderThatCannotBeFound) {
+    options.outputFolder = folder / "sub";
+    const auto prepare = [&] {
+        std::filesystem::remove_all(folder / "sub");
+        std::filesystem::create_directory(folder / "sub");
+    };
+    failEachCall(
+        prepare, [&] { render(); },
+        [&](const auto&, Fault fault) {
+            expectWholeOrNothing(whole, std::nullopt, "sub/a.rtf", fault);
+        });
+    EXPECT_GE(runs, 50);
+}
+
+/// The command's check of files, and all that it finds.
+class FailingChecks : public FailingJobs {
+protected:
+    void check(const std::vector<std::string>& names) {
+        cli::CheckOptions checked;
+        for (const std::string& name : names) {
+            checked.files.push_back(folder / name);
+        }
+        checked.styleSheet = options.styleSheet;
+        found.clear();
+        status =
+            cli::CheckJob(
+                checked,
+                [this](const std::string& file, const Diagnostic& finding, const cli::FileWindow&) {
+                    found.push_back(file + ": " + finding.message);
+                },
+                teller())
+                .run();
+    }
+
+    /// That a file is checked as it is, or said to be unreadable.
+    void expectCheckedOrTold(const std::string& name) {
+        check({name});
+        const std::vector<std::string> all = found;
+        const cli::ExitStatus usual = status;
+        ASSERT_THAT(all, Not(IsEmpty()));
+        failEachCall([] {}, [&] { check({name}); },
+                     [&](const auto&, Fault) {
+                         if (told.empty()) {
+                             EXPECT_EQ(status, usual);
+                             EXPECT_EQ(found, all);
+                         } else {
+                             EXPECT_EQ(status, cli::ExitStatus::Failure);
+                             EXPECT_THAT(all, IsSupersetOf(found));
+                         }
+                     });
+    }
+
+    std::vector<std::string> found;
+};
+
+TEST_F(FailingChecks, FindAllInADescriptionOrTellOfIt) {
+    folder.write("b.rtfspec", cli::descriptionWithBadColour);
+    expectCheckedOrTold("b.rtfspec");
+    EXPECT_GE(runs, 30);
+}
+
+TEST_F(FailingChecks, FindAllInAStyleSheetOrTellOfIt) {
+    folder.write("b.rtfss", cli::badStyleSheet);
+    expectCheckedOrTold("b.rtfss");
+    EXPECT_GE(runs, 30);
+}
+
+TEST_F(FailingChecks, FindAllInARichTextFileOrTellOfIt) {
+    // Longer than what is read at once.
+    folder.write("b.rtf", "{\\rtf1 " + std::string(std::size_t{1500} * 1024, 'x') + "}}");
+    expectCheckedOrTold("b.rtf");
+    EXPECT_GE(runs, 30);
 }
 
 TEST_F(FailingJobs, GoOnAfterAnInterruption) {

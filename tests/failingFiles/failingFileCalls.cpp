@@ -1,5 +1,7 @@
 #include "tests/failingFiles/failingFileCalls.h"
 
+#include <dirent.h>
+#include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -7,9 +9,11 @@
 #include <cerrno>
 #include <cstdarg>
 #include <cstdio>
+#include <cstdlib>
 
-// The linker leads the calls of the library and the command here, and those named __real_… to the
-// system.
+// The program has functions of its own in the place of the system's. They are found first by all
+// that is linked with it: the library and the command, and also the C++ library, which looks at
+// paths, folders and files on their behalf.
 
 namespace quorvane {
 
@@ -64,67 +68,138 @@ std::vector<std::string> withFailingCall(std::size_t number, Fault fault, int er
 
 using quorvane::plan;
 
-extern "C" {
+namespace {
 
-// NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp): the linker's names.
-int __real_open(const char* path, int flags, ...);
-ssize_t __real_read(int file, void* bytes, size_t size);
-ssize_t __real_write(int file, const void* bytes, size_t size);
-int __real_close(int file);
-int __real_unlink(const char* path);
-int __real_rename(const char* from, const char* to);
-int __real_stat(const char* path, struct stat* status);
-int __real_lstat(const char* path, struct stat* status);
-int __real_fchmod(int file, mode_t mode);
-int __real_faccessat(int folder, const char* path, int mode, int flags);
-
-int __wrap_open(const char* path, int flags, ...) {
-    std::va_list arguments;
-    va_start(arguments, flags);
-    const auto mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
-    va_end(arguments);
-    return plan.fails("open") ? -1 : __real_open(path, flags, mode);
+/// The system's own function of a name.
+template <class Function>
+Function* systemFunction(const char* name) {
+    return reinterpret_cast<Function*>(::dlsym(RTLD_NEXT, name));
 }
 
-ssize_t __wrap_read(int file, void* bytes, size_t size) {
-    return plan.fails("read") ? -1 : __real_read(file, bytes, plan.transfer(size));
+/// What a call answers: when it is one that fails, `failure`, and otherwise what the system does.
+template <class Call, class Result>
+Result unlessFailing(const char* name, Result failure, Call call) {
+    return plan.fails(name) ? failure : call();
 }
 
-ssize_t __wrap_write(int file, const void* bytes, size_t size) {
-    return plan.fails("write") ? -1 : __real_write(file, bytes, plan.transfer(size));
-}
-
-// A close that fails has closed the file all the same.
-int __wrap_close(int file) {
-    const bool fails = plan.fails("close");
+/// The same for a call that lets go of something, which it does even when it fails.
+template <class Call>
+int evenIfFailing(const char* name, Call call) {
+    const bool fails = plan.fails(name);
     const int error = errno;
-    const int result = __real_close(file);
+    const int result = call();
     errno = fails ? error : errno;
     return fails ? -1 : result;
 }
 
-int __wrap_unlink(const char* path) {
-    return plan.fails("unlink") ? -1 : __real_unlink(path);
+}  // namespace
+
+extern "C" {
+
+int open(const char* path, int flags, ...) {
+    static auto* const real = systemFunction<int(const char*, int, ...)>("open");
+    std::va_list arguments;
+    va_start(arguments, flags);
+    const auto mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
+    va_end(arguments);
+    return unlessFailing("open", -1, [&] { return real(path, flags, mode); });
 }
 
-int __wrap_rename(const char* from, const char* to) {
-    return plan.fails("rename") ? -1 : __real_rename(from, to);
+int openat(int folder, const char* path, int flags, ...) {
+    static auto* const real = systemFunction<int(int, const char*, int, ...)>("openat");
+    std::va_list arguments;
+    va_start(arguments, flags);
+    const auto mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
+    va_end(arguments);
+    return unlessFailing("openat", -1, [&] { return real(folder, path, flags, mode); });
 }
 
-int __wrap_stat(const char* path, struct stat* status) {
-    return plan.fails("stat") ? -1 : __real_stat(path, status);
+std::FILE* fopen64(const char* path, const char* mode) {
+    static auto* const real = systemFunction<std::FILE*(const char*, const char*)>("fopen64");
+    return unlessFailing("fopen", static_cast<std::FILE*>(nullptr),
+                         [&] { return real(path, mode); });
 }
 
-int __wrap_lstat(const char* path, struct stat* status) {
-    return plan.fails("lstat") ? -1 : __real_lstat(path, status);
+DIR* fdopendir(int folder) {
+    static auto* const real = systemFunction<DIR*(int)>("fdopendir");
+    return unlessFailing("fdopendir", static_cast<DIR*>(nullptr), [&] { return real(folder); });
 }
 
-int __wrap_fchmod(int file, mode_t mode) {
-    return plan.fails("fchmod") ? -1 : __real_fchmod(file, mode);
+dirent* readdir(DIR* folder) {
+    static auto* const real = systemFunction<dirent*(DIR*)>("readdir");
+    return unlessFailing("readdir", static_cast<dirent*>(nullptr), [&] { return real(folder); });
 }
 
-int __wrap_faccessat(int folder, const char* path, int mode, int flags) {
-    return plan.fails("faccessat") ? -1 : __real_faccessat(folder, path, mode, flags);
+ssize_t read(int file, void* bytes, size_t size) {
+    static auto* const real = systemFunction<ssize_t(int, void*, size_t)>("read");
+    return unlessFailing("read", ssize_t{-1},
+                         [&] { return real(file, bytes, plan.transfer(size)); });
 }
-// NOLINTEND(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp)
+
+ssize_t write(int file, const void* bytes, size_t size) {
+    static auto* const real = systemFunction<ssize_t(int, const void*, size_t)>("write");
+    return unlessFailing("write", ssize_t{-1},
+                         [&] { return real(file, bytes, plan.transfer(size)); });
+}
+
+off64_t lseek64(int file, off64_t offset, int from) noexcept {
+    static auto* const real = systemFunction<off64_t(int, off64_t, int)>("lseek64");
+    return unlessFailing("lseek", off64_t{-1}, [&] { return real(file, offset, from); });
+}
+
+int close(int file) {
+    static auto* const real = systemFunction<int(int)>("close");
+    return evenIfFailing("close", [&] { return real(file); });
+}
+
+int fclose(std::FILE* file) {
+    static auto* const real = systemFunction<int(std::FILE*)>("fclose");
+    return evenIfFailing("fclose", [&] { return real(file); });
+}
+
+int unlink(const char* path) noexcept {
+    static auto* const real = systemFunction<int(const char*)>("unlink");
+    return unlessFailing("unlink", -1, [&] { return real(path); });
+}
+
+int rename(const char* from, const char* to) noexcept {
+    static auto* const real = systemFunction<int(const char*, const char*)>("rename");
+    return unlessFailing("rename", -1, [&] { return real(from, to); });
+}
+
+int stat(const char* path, struct stat* status) noexcept {
+    static auto* const real = systemFunction<int(const char*, struct stat*)>("stat");
+    return unlessFailing("stat", -1, [&] { return real(path, status); });
+}
+
+int lstat(const char* path, struct stat* status) noexcept {
+    static auto* const real = systemFunction<int(const char*, struct stat*)>("lstat");
+    return unlessFailing("lstat", -1, [&] { return real(path, status); });
+}
+
+int fchmod(int file, mode_t mode) noexcept {
+    static auto* const real = systemFunction<int(int, mode_t)>("fchmod");
+    return unlessFailing("fchmod", -1, [&] { return real(file, mode); });
+}
+
+int faccessat(int folder, const char* path, int mode, int flags) noexcept {
+    static auto* const real = systemFunction<int(int, const char*, int, int)>("faccessat");
+    return unlessFailing("faccessat", -1, [&] { return real(folder, path, mode, flags); });
+}
+
+ssize_t readlink(const char* path, char* target, size_t size) noexcept {
+    static auto* const real = systemFunction<ssize_t(const char*, char*, size_t)>("readlink");
+    return unlessFailing("readlink", ssize_t{-1}, [&] { return real(path, target, size); });
+}
+
+char* realpath(const char* path, char* resolved) noexcept {
+    static auto* const real = systemFunction<char*(const char*, char*)>("realpath");
+    return unlessFailing("realpath", static_cast<char*>(nullptr),
+                         [&] { return real(path, resolved); });
+}
+
+char* getcwd(char* folder, size_t size) noexcept {
+    static auto* const real = systemFunction<char*(char*, size_t)>("getcwd");
+    return unlessFailing("getcwd", static_cast<char*>(nullptr), [&] { return real(folder, size); });
+}
 }

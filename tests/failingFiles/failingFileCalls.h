@@ -17,8 +17,9 @@ enum class Fault {
 };
 
 /// Runs an action with the call of that number (from 0) and those calls behind it that the fault
-/// takes along failing. Only calls of the library and the command count: opening, reading, writing,
-/// closing, renaming, removing and looking at files. Answers the calls that were made, by name.
+/// take along failing. The calls of the library, the command and the C++ library count: opening,
+/// reading, writing, closing, renaming, removing and looking at files, folders and links. Answers
+/// the calls that were made, by name.
 std::vector<std::string> withFailingCall(std::size_t number, Fault fault, int error,
                                          const std::function<void()>& action);
 

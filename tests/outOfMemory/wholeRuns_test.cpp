@@ -34,6 +34,7 @@ constexpr const char* styleSheet =
     "{ name: normal; style-def: s; format: \\f9\\fs20 }"
     "{ name: title, heading; style-def: s; format: \\f0\\fs28\\b; based-on: normal; next: normal }"
     "{ name: strong; style-def: cs; format: \\b; additive: yes }"
+    "{ name: mild; style-def: cs; format: \\i }"
     "{ name: shaded; style-def: cell; format: navy-blue }";
 
 constexpr const char* description =
@@ -60,6 +61,14 @@ constexpr const char* faultyDescription =
     "(doc\n(r\n(rb=crimson)\n(c\n(cw=wide)\n(p\n(pt=text)\n(px=1)\np)\nc)\n(c\n(p\n(pt=text)\np)"
     "\nc)\nr)\n"
     "(r\n(c\n(p\n(pt=text)\n(qx=1)\np)\nc)\nr)\ndoc)\n";
+
+// Inline styles that cannot be replaced one after the other: a stray "<", one within another and
+// one whose token is there twice; and a text that is not ASCII, with its places counted otherwise.
+constexpr const char* overlappingStyles =
+    "(doc\n(r\n(c\n"
+    "(p\n(pt=5 < 7 <strong=x<mild=q>> <strong=y> > 3 and <strong=y> once more)\np)\n"
+    "(p\n(pt=\xC3\xA9 < 7 <strong=x<foreign=q>> <strong=y> <mild=\xE2\x82\xAC>)\np)\n"
+    "c)\nr)\ndoc)\n";
 
 constexpr const char* path = "document.rtf";
 
@@ -205,6 +214,25 @@ TEST(WholeRunsOutOfMemory, KeepTheDocumentThatCouldNotBeRendered) {
         3);
 }
 
+TEST(WholeRunsOutOfMemory, KeepTheTextsWhoseInlineStylesCouldNotBeReplaced) {
+    const std::string expected = Subject().contentsOf(overlappingStyles);
+    ASSERT_NE(expected.find("\\b x{"), std::string::npos);
+    const auto attempt = [](Subject& subject) {
+        const long successes = std::exchange(failingAllocations::successesLeft, -1);
+        subject.driver->ParseFromMemmory(overlappingStyles);
+        failingAllocations::successesLeft = successes;
+        subject.driver->Contents();
+    };
+
+    expectNothingLost(
+        attempt,
+        [&expected](Subject& subject) {
+            ASSERT_TRUE(subject.driver->RtfObject()->Changed());
+            ASSERT_EQ(subject.driver->Contents(), expected);
+        },
+        50);
+}
+
 TEST(WholeRunsOutOfMemory, WriteTheFileWhenTheyAreToldAgain) {
     expectNothingLost(
         [](Subject& subject) {
@@ -238,7 +266,7 @@ TEST(WholeRunsOutOfMemory, LoadTheStylesheetsFileWhenTheyAreToldAgain) {
 
     expectNothingLost([](Subject& subject) { subject.driver->setStyleSheetFile("style.rtfss"); },
                       [&expected](Subject& subject) {
-                          subject.driver->RtfObject()->setStyleSheetFile("style.rtfss");
+                          subject.driver->setStyleSheetFile("style.rtfss");
                           ASSERT_TRUE(subject.driver->RtfObject()->StyleSheetOk());
                           ASSERT_EQ(subject.driver->StyleSheetFile(), "style.rtfss");
                           ASSERT_EQ(subject.contentsOf(description), expected);
