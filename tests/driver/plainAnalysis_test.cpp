@@ -33,7 +33,7 @@ TEST(plainAnalysis, IsWhatTheDriverMakesOfAnyDescription) {
         for (const Checks checks : {Checks::Off, Checks::On}) {
             const ParsedDescription parsed(text, checks);
             const Ref<CRtfDoc> document = parsed.driver->RtfObject();
-            plain::Analysis analysis(text, checks == Checks::On, *document);
+            plain::Analysis analysis(text, checks == Checks::On, *document, {});
 
             ASSERT_EQ(parsed.errors, analysis.errors) << text;
             if (const auto page = renderedPage(*analysis.document)) {

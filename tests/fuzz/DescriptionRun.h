@@ -52,9 +52,13 @@ public:
         return events_ + renderedTwice(*document());
     }
 
+    /// What the stylesheet that was loaded last comes to as its rules are told.
+    const plain::StyleSheet& styles() const { return styles_; }
+
     /// Loads a stylesheet; the error that it gives, told as events are.
     std::string styleSheetError(std::string_view text) {
         events_.clear();
+        styles_ = plain::StyleSheet(std::string(text));
         try {
             driver_->LoadStyleSheetFromMemmory(text);
         } catch (const RtfError& error) {
@@ -69,26 +73,25 @@ private:
     FakePlatform platform_;
     Ref<CRtfDriver> driver_ = CRtfDriver::create(platform_);
     std::string events_;
+    plain::StyleSheet styles_;
 };
 
 /// What the run made of the text, its errors and its document, is what the steps of an analysis
 /// are told to make of it. The document is rendered by now, or could not be.
 inline void requirePlainAnalysis(DescriptionRun& run, std::string_view text) {
     const Ref<CRtfDoc> document = run.document();
-    plain::Analysis analysis(std::string(text), run.driver().ErroneousInput(), *document);
+    plain::Analysis analysis(std::string(text), run.driver().ErroneousInput(), *document,
+                             run.styles());
     std::string errors;
     for (const ToldError& error : analysis.errors) {
         errors += toldText(error);
     }
     requireEqual(run.events(), errors, "an analysis reports the errors that are told");
-    std::string page;
-    const std::int32_t error = errorOfCall([&] { page = analysis.document->render(); });
+    const std::int32_t error = errorOfCall([&] { analysis.document->refresh(); });
     require((error != 0) == document->Changed(), "a document can be rendered when it is told so");
     if (error == 0) {
-        const std::string contents = document->Contents();
-        requireEqual(std::string_view(contents).substr(contents.size() -
-                                                       std::min(contents.size(), page.size())),
-                     page, "a description's document is the one that is told");
+        requireEqual(document->Contents(), analysis.document->contents,
+                     "a description's document is the one that is told");
     }
 }
 

@@ -31,7 +31,7 @@ public:
     bool flag() { return byte() % 2 != 0; }
     std::size_t below(std::size_t count) { return byte() % count; }
 
-    /// Small numbers mostly, any 32-bit number sometimes.
+    /// Small numbers mostly, any 32-bit number and the outermost ones sometimes.
     std::int32_t number() {
         const std::uint8_t kind = byte();
         if (kind < 200) {
@@ -39,6 +39,10 @@ public:
         }
         if (kind < 230) {
             return byte() * 256 + byte();
+        }
+        if (kind >= 248) {
+            const std::int32_t distance = byte();
+            return kind % 2 == 0 ? INT32_MIN + distance : INT32_MAX - distance;
         }
         std::uint32_t bits = 0;
         for (int i = 0; i < 4; ++i) {

@@ -17,6 +17,8 @@
 #include "quorvane/support/Value.h"
 #include "quorvane/support/codePage1252.h"
 #include "quorvane/support/textCase.h"
+#include "tests/docmodel/fixedGroups.h"
+#include "tests/fuzz/plainStyleSheet.h"
 
 // A document as its rules are told, with no regard to speed: what the fuzzers compare the library
 // with. Where a call is to fail, the number of its error is thrown.
@@ -211,14 +213,20 @@ struct Row {
 };
 
 struct Rows {
+    const void* original = nullptr;
     std::weak_ptr<Document> owner;
     List<Row> rows;
 };
 
 struct Document {
+    /// Where inline styles find their words.
     const CRtfDoc* original = nullptr;
     std::shared_ptr<Rows> rows = std::make_shared<Rows>();
+    StyleSheet styles;
+    std::string styleSheetFile;
     bool changed = false;
+    /// The text that was made last.
+    std::string contents = "{}";
     std::int32_t bottom = 1418, left = 1701, top = 1418, right = 1701;
     std::int32_t width = 12242, height = 15842, pageNumber = 2;
 
@@ -243,6 +251,37 @@ struct Document {
         return measure(std::int64_t{measure(std::int64_t{width} - right)} - left);
     }
 
+    /// A bad sheet leaves no styles and no name of a file.
+    void load(const std::string& sheet) {
+        styleSheetFile.clear();
+        styles = StyleSheet(sheet);
+        if (!styles.isLoaded()) {
+            throw styles.error().number;
+        }
+        changed = true;
+    }
+
+    std::string paragraphStyle(const std::string& name) const {
+        const std::string words = styles.paragraphWords(name);
+        return words.empty() ? " " : words;
+    }
+
+    void refresh() {
+        contents = "{}";
+        changed = true;
+        const std::string page = render();
+        contents = std::string("{") + fixedGroups + styles.group() + page;
+        changed = false;
+    }
+
+    const std::string& currentContents() {
+        if (changed) {
+            refresh();
+        }
+        return contents;
+    }
+
+    /// The page setup and the rows, which a document ends with.
     std::string render() {
         std::string rtf = "\r\n\\deftab360\\defformat\\margb" + std::to_string(bottom) + "\\margl" +
                           std::to_string(left) + "\\margt" + std::to_string(top) + "\\margr" +
@@ -252,7 +291,6 @@ struct Document {
         for (auto& entry : rows->rows.entries) {
             rtf += renderRow(*entry.element);
         }
-        changed = false;
         return rtf + "}";
     }
 
@@ -278,7 +316,7 @@ private:
             }
         }
         if (cell.backColor == 0 && !cell.style.empty()) {
-            cell.setBackColor(original->getCellStyleBackColor(cell.style));
+            cell.setBackColor(styles.cellColor(cell.style));
             rtf += "\\clcbpat" + std::to_string(cell.backColor);
         } else if (cell.backColor != 0) {
             rtf += "\\clcbpat" + std::to_string(cell.backColor);
@@ -311,7 +349,7 @@ private:
                 body = "\\cf" + std::to_string(paragraph.foreColor) + " " + body;
             }
             rtf = position >= 2 ? "\r\n\\par\\pard\\plain\\intbl" : "\r\n\\pard\\plain\\intbl";
-            rtf += original->GetParagraphStyle(paragraph.style);
+            rtf += paragraphStyle(paragraph.style);
             rtf += withCharacterStyles(*original, body);
         }
         return wrapped(rtf, paragraph.field);

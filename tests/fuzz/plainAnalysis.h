@@ -370,11 +370,13 @@ private:
     RowsView rows_;
 };
 
-/// What an analysis of a text comes to. `original` answers for the stylesheet.
+/// What an analysis of a text comes to. `original` has the same styles loaded.
 class Analysis {
 public:
-    Analysis(const std::string& text, bool erroneousInput, const CRtfDoc& original) {
+    Analysis(const std::string& text, bool erroneousInput, const CRtfDoc& original,
+             const StyleSheet& styles) {
         document->original = &original;
+        document->styles = styles;
         document->rows->owner = document;
         const auto holds = [&text](const char* part) {
             return text.find(part) != std::string::npos;

@@ -90,46 +90,43 @@ private:
     }
 
     void render(const std::string& description, const Files& inputs) {
-        const Ref<CRtfDoc> styles = CRtfDoc::create();
+        const Ref<CRtfDoc> original = CRtfDoc::create();
+        StyleSheet styles;
         bool isWell = true;
-        bool isStyled = false;
         if (options_.styleSheet) {
             const std::string sheet = utf8FromCodePage1252(inputs.at("style.rtfss"));
-            isStyled = errorOfCall([&] { styles->LoadStyleSheetFromMemmory(sheet); }) == 0;
-            if (!isStyled) {
+            styles = StyleSheet(sheet);
+            errorOfCall([&] { original->LoadStyleSheetFromMemmory(sheet); });
+            if (!styles.isLoaded()) {
                 tell("style.rtfss",
                      driverErrorOf(eWrongFileType, "style.rtfss isn't a valid stylesheet.", ""), 1);
                 isWell = false;
             }
         }
-        Analysis analysis(utf8FromCodePage1252(inputs.at(description)), options_.check, *styles);
+        Analysis analysis(utf8FromCodePage1252(inputs.at(description)), options_.check, *original,
+                          styles);
         for (const ToldError& error : analysis.errors) {
             tell(description, error, 1);
             isWell = false;
         }
         if (isWell || options_.keepGoing) {
-            write(outputOf(description), *analysis.document, isStyled, *styles);
+            write(outputOf(description), *analysis.document);
         }
     }
 
-    void write(const std::string& output, Document& document, bool isStyled, CRtfDoc& styles) {
+    void write(const std::string& output, Document& document) {
         // A document in which nothing was ever done has no text.
-        const bool hasText = isStyled || document.changed;
-        std::string page;
+        if (!document.styles.isLoaded() && !document.changed) {
+            files[output] = document.contents;
+            return;
+        }
         try {
-            page = document.render();
+            document.refresh();
         } catch (const RtfError& error) {
             tell(output, {error.number, error.description, "", 0}, 2);
             return;
         }
-        files[output] = hasText ? codePage1252FromUtf8(headOf(styles) + page) : "{}";
-    }
-
-    /// What every document with these styles begins with.
-    static std::string headOf(CRtfDoc& styles) {
-        styles.Refresh();
-        const std::string empty = styles.Contents();
-        return empty.substr(0, empty.size() - Document().render().size());
+        files[output] = codePage1252FromUtf8(document.contents);
     }
 
     const cli::RenderOptions& options_;

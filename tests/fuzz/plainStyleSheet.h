@@ -1,31 +1,260 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
+#include <cstdint>
 #include <string>
-#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "quorvane/support/textCase.h"
-#include "tests/fuzz/require.h"
 
-namespace quorvane {
+// Stylesheets as their rules are told, with no regard to speed: texts are read character by
+// character, entries searched one by one and texts joined.
 
-/// The first error of a stylesheet as its grammar tells it, item by item; empty when there is none.
-class PlainStyleSheet {
+namespace quorvane::plain {
+
+/// The content of the first subfield with this code; empty when there is none.
+inline std::string subField(const std::string& record, char code) {
+    for (std::size_t at = 0; at + 1 < record.size(); ++at) {
+        if (record[at] == '^' && record[at + 1] == code) {
+            const std::size_t begin = at + 2;
+            return record.substr(begin, record.find('^', begin) - begin);
+        }
+    }
+    return {};
+}
+
+/// The styles of one kind and what is asked of them.
+class Styles {
 public:
-    static std::string firstError(const std::string& text) {
-        int balance = 0;
+    struct Entry {
+        std::string name;
+        std::string record;
+    };
+    std::vector<Entry> entries;
+
+    /// 1-based position; -1 when there is none.
+    int find(const std::string& name) const {
+        for (std::size_t i = 0; i < entries.size(); ++i) {
+            const std::string entry = "^t" + entries[i].name + entries[i].record + "^";
+            if (entry.find("^t" + name + "^") != std::string::npos) {
+                return static_cast<int>(i) + 1;
+            }
+        }
+        return -1;
+    }
+
+    const std::string& recordAt(int position) const {
+        return entries[static_cast<std::size_t>(position) - 1].record;
+    }
+
+    std::string paragraphEntry(std::size_t i) const {
+        const auto& [name, record] = entries[i];
+        std::string words;
+        if (name != "normal") {
+            words = "\\" + subField(record, 'd') + std::to_string(i + 100);
+        }
+        words += " " + subField(record, 'f');
+        if (record.find("^ayes") != std::string::npos) {
+            words += " \\additive";
+        }
+        words += reference("sbasedon", subField(record, 'b'));
+        words += reference("snext", subField(record, 'n'));
+        words += " " + name;
+        while (words.starts_with(' ')) {
+            words.erase(0, 1);
+        }
+        while (words.ends_with(' ')) {
+            words.pop_back();
+        }
+        return "{" + words + ";}";
+    }
+
+    std::string characterEntry(std::size_t i) const {
+        const auto& [name, record] = entries[i];
+        std::string words = "\\*\\" + subField(record, 'd') + std::to_string(i + 100);
+        if (record.find("^ayes") != std::string::npos) {
+            words += " \\additive";
+        }
+        words += reference("sbasedon", subField(record, 'b'));
+        return "{" + words + " " + subField(record, 'f') + " " + name + ";}";
+    }
+
+    std::string lookup(const std::string& name) const {
+        const int position = find(name);
+        return position < 0 ? "" : words(position, position + 99);
+    }
+
+    /// Where the name is unknown, the first style stands in.
+    std::string paragraphLookup(const std::string& name) const {
+        return find(name) >= 0 || entries.empty() ? lookup(name) : words(1, 0);
+    }
+
+private:
+    std::string words(int position, int number) const {
+        const std::string& record = recordAt(position);
+        return "\\" + subField(record, 'd') + std::to_string(number) + subField(record, 'f') + " ";
+    }
+
+    std::string reference(const std::string& word, const std::string& name) const {
+        const int position = name.empty() ? -1 : find(name);
+        return position < 0 ? "" : " \\" + word + std::to_string(position + 99);
+    }
+};
+
+/// What a stylesheet comes to: its first error, or its styles. Until one is loaded everything is
+/// empty.
+class StyleSheet {
+public:
+    struct Error {
+        std::int32_t number = 0;
+        std::string description;
+    };
+
+    StyleSheet() = default;
+    explicit StyleSheet(const std::string& text) {
+        try {
+            load(text);
+            isLoaded_ = true;
+        } catch (const Error& found) {
+            *this = {};
+            error_ = found;
+        }
+    }
+
+    bool isLoaded() const { return isLoaded_; }
+    /// Number 0 when there is none.
+    const Error& error() const { return error_; }
+
+    std::string group() const {
+        if (!isLoaded_) {
+            return {};
+        }
+        std::string rtf = "\r\n{\\stylesheet";
+        for (std::size_t i = 0; i < paragraphStyles_.entries.size(); ++i) {
+            rtf += "\r\n" + paragraphStyles_.paragraphEntry(i);
+        }
+        for (std::size_t i = 0; i < characterStyles_.entries.size(); ++i) {
+            rtf += "\r\n" + characterStyles_.characterEntry(i);
+        }
+        return rtf + "}";
+    }
+
+    // Names are looked up without blanks around them, in lower case.
+
+    std::string paragraphWords(const std::string& name) const {
+        return paragraphStyles_.paragraphLookup(searched(name));
+    }
+    std::string characterWords(const std::string& name) const {
+        return characterStyles_.lookup(searched(name));
+    }
+    std::string cellFormat(const std::string& name) const {
+        const int position = cellStyles_.find(searched(name));
+        return position < 0 ? "" : subField(cellStyles_.recordAt(position), 'f');
+    }
+    std::int32_t cellColor(const std::string& name) const {
+        static const std::array<std::string, 57> colors = {"aquamarine",
+                                                           "bisque",
+                                                           "black",
+                                                           "blue",
+                                                           "brown",
+                                                           "chartreuse",
+                                                           "cyan",
+                                                           "dark-cyan",
+                                                           "dark-gray",
+                                                           "dark-green",
+                                                           "dark-magenta",
+                                                           "dark-red",
+                                                           "dark-slate-blue",
+                                                           "dark-yellow",
+                                                           "deep-sky-blue",
+                                                           "gold",
+                                                           "gray",
+                                                           "green",
+                                                           "light-blue",
+                                                           "light-green",
+                                                           "light-yellow",
+                                                           "lime-green",
+                                                           "magenta",
+                                                           "navy-blue",
+                                                           "olive-green",
+                                                           "orange",
+                                                           "peach-puff",
+                                                           "pink",
+                                                           "purple",
+                                                           "red",
+                                                           "sea-green",
+                                                           "silver",
+                                                           "slate-blue",
+                                                           "sky-blue",
+                                                           "turquoise",
+                                                           "white",
+                                                           "yellow",
+                                                           "brick",
+                                                           "cork",
+                                                           "yellow-cork",
+                                                           "dark-cork",
+                                                           "dark-silver",
+                                                           "gray-blue",
+                                                           "dark-navy-blue",
+                                                           "light-royal-blue",
+                                                           "violet",
+                                                           "dodger-blue",
+                                                           "sargasso-green",
+                                                           "royal-blue",
+                                                           "light-sea-green",
+                                                           "deep-purple",
+                                                           "steel-blue",
+                                                           "asphalt",
+                                                           "dark-golden-rod",
+                                                           "dark-grass",
+                                                           "grass",
+                                                           "red-brick"};
+        const std::string format = cellFormat(name);
+        for (std::size_t i = 0; i < colors.size(); ++i) {
+            if (colors[i] == format) {
+                return static_cast<std::int32_t>(i) + 1;
+            }
+        }
+        return 0;
+    }
+    bool isDefined(const std::string& name) const {
+        const std::string wanted = searched(name);
+        return paragraphStyles_.find(wanted) > 0 || characterStyles_.find(wanted) > 0 ||
+               cellStyles_.find(wanted) > 0;
+    }
+
+private:
+    static std::string without(std::string text, const std::string& characters) {
+        while (!text.empty() && characters.find(text.front()) != std::string::npos) {
+            text.erase(0, 1);
+        }
+        while (!text.empty() && characters.find(text.back()) != std::string::npos) {
+            text.pop_back();
+        }
+        return text;
+    }
+    static std::string searched(const std::string& name) { return lowerCase(without(name, " ")); }
+    static std::string trimmedItem(const std::string& text) { return without(text, " \t\r\n"); }
+
+    static std::vector<std::string> split(const std::string& text, char separator) {
+        std::vector<std::string> pieces{""};
         for (const char character : text) {
-            balance += character == '{' ? 1 : character == '}' ? -1 : 0;
+            if (character == separator) {
+                pieces.emplace_back();
+            } else {
+                pieces.back() += character;
+            }
         }
-        if (balance != 0) {
-            return balance < 0 ? told(31037,
-                                      "Error in stylesheet\r\nBraces stack underflow: there are "
-                                      "more } than {.")
-                               : told(31037,
-                                      "Error in stylesheet\r\nBraces stack overflow: there are "
-                                      "more { than }");
-        }
+        return pieces;
+    }
+
+    [[noreturn]] static void failItem(const std::string& message) {
+        throw Error{445, "Error while processing stylesheet.\r\n" + message};
+    }
+
+    void load(const std::string& text) {
         std::vector<std::size_t> opens;
         std::vector<std::size_t> closes;
         for (std::size_t at = 0; at < text.size(); ++at) {
@@ -35,90 +264,89 @@ public:
                 closes.push_back(at);
             }
         }
+        if (opens.size() < closes.size()) {
+            throw Error{31037,
+                        "Error in stylesheet\r\n"
+                        "Braces stack underflow: there are more } than {."};
+        }
+        if (opens.size() > closes.size()) {
+            throw Error{31037,
+                        "Error in stylesheet\r\n"
+                        "Braces stack overflow: there are more { than }"};
+        }
         for (std::size_t i = 0; i < opens.size(); ++i) {
             const std::size_t length = closes[i] > opens[i] ? closes[i] - opens[i] - 1 : 0;
-            const std::string error = errorOf(text.substr(opens[i] + 1, length));
-            if (!error.empty()) {
-                return error;
-            }
+            define(text.substr(opens[i] + 1, length));
         }
-        return {};
     }
 
-private:
-    static std::string told(int number, const std::string& description) {
-        return std::to_string(number) + " in line 0: " + description + " ()\n";
-    }
-    static std::string toldItem(const std::string& message) {
-        return told(445, "Error while processing stylesheet.\r\n" + message);
-    }
-
-    static std::string trimmed(std::string text) {
-        const auto isSpace = [](char character) {
-            return character == ' ' || character == '\t' || character == '\r' || character == '\n';
-        };
-        while (!text.empty() && isSpace(text.front())) {
-            text.erase(0, 1);
-        }
-        while (!text.empty() && isSpace(text.back())) {
-            text.pop_back();
-        }
-        return text;
-    }
-
-    static std::string errorOf(const std::string& definition) {
-        bool isNamed = false;
-        std::string item;
-        for (std::size_t at = 0; at <= definition.size(); ++at) {
-            if (at < definition.size() && definition[at] != ';') {
-                item += definition[at];
+    void define(const std::string& definition) {
+        std::vector<std::string> names;
+        std::string record;
+        for (const std::string& item : split(definition, ';')) {
+            if (trimmedItem(item).empty()) {
                 continue;
             }
-            if (!trimmed(item).empty()) {
-                const std::string error = errorOfItem(item, isNamed);
-                if (!error.empty()) {
-                    return error;
+            const std::size_t colon = item.find(':');
+            const std::string keyword = lowerCase(trimmedItem(item.substr(0, colon)));
+            const std::string value =
+                colon == std::string::npos ? "" : lowerCase(trimmedItem(item.substr(colon + 1)));
+            if (!names.empty()) {
+                record += recordOf(keyword, value);
+            } else if (keyword == "name") {
+                for (const std::string& name : split(value, ',')) {
+                    names.push_back(trimmedItem(name));
                 }
-                isNamed = true;
+            } else {
+                failItem(keyword + " is not a valid keyword.");
             }
-            item.clear();
         }
-        return isNamed ? "" : toldItem(" is not a valid keyword.");
+        if (names.empty()) {
+            failItem(" is not a valid keyword.");
+        }
+        const std::string kind = subField(record, 'd');
+        Styles& styles = kind == "s"    ? paragraphStyles_
+                         : kind == "cs" ? characterStyles_
+                                        : cellStyles_;
+        for (const std::string& name : names) {
+            styles.entries.push_back({name, record});
+        }
     }
 
-    static std::string errorOfItem(const std::string& item, bool isNamed) {
-        std::string keyword;
-        std::string value;
-        bool isBehindColon = false;
-        for (const char character : item) {
-            if (character == ':' && !isBehindColon) {
-                isBehindColon = true;
-            } else {
-                (isBehindColon ? value : keyword) += character;
-            }
-        }
-        keyword = lowerCase(trimmed(keyword));
-        value = lowerCase(trimmed(value));
+    static std::string recordOf(const std::string& keyword, const std::string& value) {
         const std::string badValue = value + " is not a valid value for " + keyword;
-        if (!isNamed) {
-            return keyword == "name" ? "" : toldItem(keyword + " is not a valid keyword.");
-        }
         if (keyword == "style-def") {
-            return value == "s" || value == "cs" || value == "cell" ? "" : told(445, badValue);
+            if (value != "s" && value != "cs" && value != "cell") {
+                throw Error{445, badValue};
+            }
+            return "^d" + value;
         }
         if (keyword == "additive") {
-            return value == "yes" || value == "no" ? "" : toldItem(badValue);
+            if (value != "yes" && value != "no") {
+                failItem(badValue);
+            }
+            return "^a" + value;
         }
-        return keyword == "format" || keyword == "based-on" || keyword == "next"
-                   ? ""
-                   : toldItem(keyword + " is not a valid keyword.");
+        if (keyword == "format") {
+            const bool hasSubFields = value.size() > 1 && value[0] == '^';
+            return "^f" + (hasSubFields
+                               ? subField(value, 'v') + subField(value, 'f') + subField(value, 'p')
+                               : value);
+        }
+        if (keyword == "based-on") {
+            return "^b" + value;
+        }
+        if (keyword == "next") {
+            return "^n" + value;
+        }
+        failItem(keyword + " is not a valid keyword.");
     }
+
+    bool isLoaded_ = false;
+    Error error_;
+    Styles paragraphStyles_;
+    Styles characterStyles_;
+    Styles cellStyles_;
 };
 
-/// The error of a stylesheet is the one that its grammar tells.
-inline void requirePlainAnswer(std::string_view text, const std::string& error) {
-    requireEqual(error, PlainStyleSheet::firstError(std::string(text)),
-                 "a stylesheet has the error that its grammar tells");
-}
-
-}  // namespace quorvane
+}  // namespace quorvane::plain

@@ -1,4 +1,6 @@
-// Any text as a stylesheet, from memory and from a file, for the document and for the driver.
+// Any text as a stylesheet, from memory and from a file, for the document and for the driver: it
+// has the error that its grammar tells, or the styles and the group that the plain steps make of
+// it.
 
 #include <cstddef>
 #include <cstdint>
@@ -6,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "quorvane/stylesheet/CRtfGrpStyleSheetTable.h"
 #include "quorvane/support/codePage1252.h"
 #include "tests/fuzz/DescriptionRun.h"
 #include "tests/fuzz/FuzzInput.h"
@@ -15,46 +18,89 @@ namespace {
 
 using namespace quorvane;
 
-std::string answers(CRtfDoc& document, const std::vector<std::string>& names) {
-    std::string all = document.StyleSheetOk() ? "ok\n" : "not loaded\n";
+class NoOwner final : public GroupOwner {
+public:
+    void markChanged() noexcept override {}
+};
+
+/// What a table answers that a document does not hand on.
+void requirePlainTable(std::string_view text, const std::vector<std::string>& names,
+                       const plain::StyleSheet& plain) {
+    NoOwner owner;
+    FakePlatform platform;
+    CRtfGrpStyleSheetTable table(owner, platform);
+    require(errorOfCall([&] { table.loadStyleSheetFromMemory(text); }) == plain.error().number,
+            "a table has the error that the grammar tells");
     for (const std::string& name : names) {
-        all += name + ": " + std::string(document.GetParagraphStyle(name)) + "|" +
-               std::string(document.GetCharacterStyle(name)) + "|" +
-               std::to_string(document.getCellStyleBackColor(name)) + "\n";
+        requireEqual(table.GetParagraphStyle(name), plain.paragraphWords(name),
+                     "a table has the words of a paragraph style that are told");
+        requireEqual(table.GetMarkedFieldStyle(name), plain.cellFormat(name),
+                     "a cell style has the format that is told");
+        require(table.IsStyleDefined(name) == plain.isDefined(name),
+                "a style is there when it is told to be");
     }
-    document.setChanged(true);
-    return all + renderedTwice(document);
+}
+
+void requirePlainStyles(CRtfDoc& document, const std::vector<std::string>& names,
+                        const plain::StyleSheet& plain) {
+    require(document.StyleSheetOk() == plain.isLoaded(),
+            "a sheet is loaded unless it has an error");
+    plain::Document plainDocument;
+    plainDocument.styles = plain;
+    for (const std::string& name : names) {
+        requireEqual(document.GetParagraphStyle(name), plainDocument.paragraphStyle(name),
+                     "a paragraph style has the words that are told");
+        requireEqual(document.GetCharacterStyle(name), plain.characterWords(name),
+                     "a character style has the words that are told");
+        require(document.getCellStyleBackColor(name) == plain.cellColor(name),
+                "a cell style has the colour that is told");
+    }
+    plainDocument.refresh();
+    requireEqual(renderedTwice(document), plainDocument.contents,
+                 "a document holds the group that is told");
+}
+
+/// The error of a sheet in the form that a run tells it.
+std::string toldError(const plain::StyleSheet& plain) {
+    return plain.error().number == 0
+               ? ""
+               : toldText({plain.error().number, plain.error().description, "", 0});
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::string_view text(reinterpret_cast<const char*>(data), size);
+    const std::string text(reinterpret_cast<const char*>(data), size);
     FuzzInput input(data, size);
     std::vector<std::string> names{"", "normal", "nosuch"};
     for (const std::string& piece : input.pieces(';', 20)) {
-        names.push_back(piece.substr(std::min(piece.find(':') + 1, piece.size())));
+        const std::string value = piece.substr(std::min(piece.find(':') + 1, piece.size()));
+        names.push_back(value);
+        // Names without the line breaks around them, and every one of several.
+        const std::size_t begin = std::min(value.find_first_not_of(" \t\r\n"), value.size());
+        names.push_back(value.substr(begin, value.find_first_of(",\t\r\n", begin) - begin));
+        names.push_back(value.substr(std::min(value.rfind(',') + 1, value.size())));
     }
 
+    const plain::StyleSheet plain(text);
     DescriptionRun run(false);
-    CRtfDoc& document = *run.document();
-    const std::string error = run.styleSheetError(text);
-    const std::string first = answers(document, names);
-    require(document.StyleSheetOk() == error.empty(), "a sheet is loaded unless it has an error");
-    requireEqual(run.styleSheetError(text), error, "a stylesheet has the same error every time");
-    requireEqual(answers(document, names), first, "loading twice gives the same styles");
-    requirePlainAnswer(text, error);
+    // The second time the first styles are there already.
+    for (int i = 0; i < 2; ++i) {
+        requireEqual(run.styleSheetError(text), toldError(plain),
+                     "a stylesheet has the error that its grammar tells");
+        requirePlainStyles(*run.document(), names, plain);
+    }
+    requirePlainTable(text, names, plain);
 
     FakePlatform platform;
     platform.files["style.rtfss"] = text;
+    const plain::StyleSheet plainFile(utf8FromCodePage1252(text));
     const Ref<CRtfDoc> other = CRtfDoc::create(platform);
-    const std::int32_t fileError =
-        errorOfCall([&other] { other->setStyleSheetFile("style.rtfss"); });
-    const std::string asText = utf8FromCodePage1252(text);
-    DescriptionRun again(false);
-    const std::string textError = again.styleSheetError(asText);
-    require((fileError == 0) == textError.empty(), "a file is a sheet when its text is one");
-    requireEqual(answers(*other, names), answers(*again.document(), names),
-                 "a stylesheet file gives the styles of its text");
+    require(errorOfCall([&other] { other->setStyleSheetFile("style.rtfss"); }) ==
+                plainFile.error().number,
+            "a file has the error of its text");
+    requireEqual(other->StyleSheetFile(), plainFile.isLoaded() ? "style.rtfss" : "",
+                 "a good file's name is kept");
+    requirePlainStyles(*other, names, plainFile);
     return 0;
 }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "quorvane/support/RtfError.h"
+#include "tests/fuzz/plainStyleSheet.h"
 #include "tests/support/FakePlatform.h"
 #include "tests/support/errorNumberOf.h"
 
@@ -423,92 +424,6 @@ TEST_F(StyleSheetTable, ReadsItsFileAnewWhenItsOwnNameIsSet) {
     EXPECT_EQ(rendered(), "\r\n{\\stylesheet\r\n{\\s100  a;}}");
 }
 
-// The styles of one kind and what is asked of them, by the numbered steps and nothing else: entries
-// are searched one by one and texts joined.
-class PlainStyles {
-public:
-    struct Entry {
-        std::string name;
-        std::string record;
-    };
-    std::vector<Entry> entries;
-
-    static std::string subField(const std::string& record, char code) {
-        for (std::size_t at = 0; at + 1 < record.size(); ++at) {
-            if (record[at] == '^' && record[at + 1] == code) {
-                const std::size_t begin = at + 2;
-                return record.substr(begin, record.find('^', begin) - begin);
-            }
-        }
-        return {};
-    }
-
-    int find(const std::string& name) const {
-        for (std::size_t i = 0; i < entries.size(); ++i) {
-            const std::string entry = "^t" + entries[i].name + entries[i].record + "^";
-            if (entry.find("^t" + name + "^") != std::string::npos) {
-                return static_cast<int>(i) + 1;
-            }
-        }
-        return -1;
-    }
-
-    std::string reference(const std::string& word, const std::string& name) const {
-        const int position = name.empty() ? -1 : find(name);
-        return position < 0 ? "" : " \\" + word + std::to_string(position + 99);
-    }
-
-    std::string paragraphEntry(std::size_t i) const {
-        const auto& [name, record] = entries[i];
-        std::string words;
-        if (name != "normal") {
-            words = "\\" + subField(record, 'd') + std::to_string(i + 100);
-        }
-        words += " " + subField(record, 'f');
-        if (record.find("^ayes") != std::string::npos) {
-            words += " \\additive";
-        }
-        words += reference("sbasedon", subField(record, 'b'));
-        words += reference("snext", subField(record, 'n'));
-        words += " " + name;
-        while (words.starts_with(' ')) {
-            words.erase(0, 1);
-        }
-        while (words.ends_with(' ')) {
-            words.pop_back();
-        }
-        return "{" + words + ";}";
-    }
-
-    std::string characterEntry(std::size_t i) const {
-        const auto& [name, record] = entries[i];
-        std::string words = "\\*\\" + subField(record, 'd') + std::to_string(i + 100);
-        if (record.find("^ayes") != std::string::npos) {
-            words += " \\additive";
-        }
-        words += reference("sbasedon", subField(record, 'b'));
-        return "{" + words + " " + subField(record, 'f') + " " + name + ";}";
-    }
-
-    std::string lookup(const std::string& name) const {
-        const int position = find(name);
-        if (position < 0) {
-            return {};
-        }
-        const std::string& record = entries[static_cast<std::size_t>(position) - 1].record;
-        return "\\" + subField(record, 'd') + std::to_string(position + 99) +
-               subField(record, 'f') + " ";
-    }
-
-    std::string paragraphLookup(const std::string& name) const {
-        if (find(name) >= 0 || entries.empty()) {
-            return lookup(name);
-        }
-        const std::string& record = entries[0].record;
-        return "\\" + subField(record, 'd') + "0" + subField(record, 'f') + " ";
-    }
-};
-
 class RandomStyleSheet {
 public:
     explicit RandomStyleSheet(unsigned seed) : random_(seed) {
@@ -518,9 +433,6 @@ public:
     }
 
     std::string text;
-    PlainStyles paragraphStyles;
-    PlainStyles characterStyles;
-    PlainStyles cellStyles;
 
     std::string name() {
         static const std::vector<std::string> names{"normal", "a", "b", "c d", "", "a^b", "ab"};
@@ -531,56 +443,35 @@ private:
     std::size_t below(std::size_t bound) { return random_() % bound; }
 
     void addDefinition() {
-        std::vector<std::string> names;
-        std::string record;
-        text += "{ name: ";
-        for (auto count = 1 + below(3); count > 0; --count) {
-            names.push_back(name());
-            text += (names.size() > 1 ? ", " : "") + names.back();
+        text += "{ name: " + name();
+        for (auto count = below(3); count > 0; --count) {
+            text += ", " + name();
         }
         for (auto count = below(7); count > 0; --count) {
-            addItem(record);
+            addItem();
         }
         text += " }\r\n";
-        const std::string kind = PlainStyles::subField(record, 'd');
-        PlainStyles& styles = kind == "s"    ? paragraphStyles
-                              : kind == "cs" ? characterStyles
-                                             : cellStyles;
-        for (const std::string& each : names) {
-            styles.entries.push_back({each, record});
-        }
     }
 
-    void addItem(std::string& record) {
+    void addItem() {
         static const std::vector<std::string> kinds{"s", "s", "cs", "cell"};
         static const std::vector<std::string> formats{"\\b", "\\f1 \\b", "navy-blue", "", "\\i^ba"};
-        std::string value;
         switch (below(6)) {
             case 0:
             case 1:
-                value = kinds[below(kinds.size())];
-                text += "; style-def: " + value;
-                record += "^d" + value;
+                text += "; style-def: " + kinds[below(kinds.size())];
                 break;
             case 2:
-                value = formats[below(formats.size())];
-                text += "; format: " + value;
-                record += "^f" + value;
+                text += "; format: " + formats[below(formats.size())];
                 break;
             case 3:
-                value = below(2) == 0 ? "yes" : "no";
-                text += "; additive: " + value;
-                record += "^a" + value;
+                text += below(2) == 0 ? "; additive: yes" : "; additive: no";
                 break;
             case 4:
-                value = name();
-                text += "; based-on: " + value;
-                record += "^b" + value;
+                text += "; based-on: " + name();
                 break;
             default:
-                value = name();
-                text += "; next: " + value;
-                record += "^n" + value;
+                text += "; next: " + name();
                 break;
         }
     }
@@ -592,32 +483,19 @@ TEST_F(StyleSheetTable, DoesWhatThePlainStepsDo) {
     for (unsigned seed = 1; seed <= 600; ++seed) {
         RandomStyleSheet random(seed);
         SCOPED_TRACE(random.text);
+        const plain::StyleSheet plain(random.text);
+        ASSERT_EQ(plain.error().description, "");
+
         table.loadStyleSheetFromMemory(random.text);
 
-        std::string group = "\r\n{\\stylesheet";
-        for (std::size_t i = 0; i < random.paragraphStyles.entries.size(); ++i) {
-            group += "\r\n" + random.paragraphStyles.paragraphEntry(i);
-        }
-        for (std::size_t i = 0; i < random.characterStyles.entries.size(); ++i) {
-            group += "\r\n" + random.characterStyles.characterEntry(i);
-        }
-        ASSERT_EQ(rendered(), group + "}");
+        ASSERT_EQ(rendered(), plain.group());
         for (int i = 0; i < 20; ++i) {
             const std::string name = random.name();
-            ASSERT_EQ(table.GetParagraphStyle(name), random.paragraphStyles.paragraphLookup(name));
-            ASSERT_EQ(table.GetCharacterStyle(name), random.characterStyles.lookup(name));
-            const int position = random.cellStyles.find(name);
-            const std::string format =
-                position < 0
-                    ? ""
-                    : PlainStyles::subField(
-                          random.cellStyles.entries[static_cast<std::size_t>(position) - 1].record,
-                          'f');
-            ASSERT_EQ(table.GetMarkedFieldStyle(name), format);
-            ASSERT_EQ(table.getCellStyleBackColor(name), format == "navy-blue" ? 24 : 0);
-            ASSERT_EQ(table.IsStyleDefined(name), random.paragraphStyles.find(name) > 0 ||
-                                                      random.characterStyles.find(name) > 0 ||
-                                                      position > 0);
+            ASSERT_EQ(table.GetParagraphStyle(name), plain.paragraphWords(name));
+            ASSERT_EQ(table.GetCharacterStyle(name), plain.characterWords(name));
+            ASSERT_EQ(table.GetMarkedFieldStyle(name), plain.cellFormat(name));
+            ASSERT_EQ(table.getCellStyleBackColor(name), plain.cellColor(name));
+            ASSERT_EQ(table.IsStyleDefined(name), plain.isDefined(name));
         }
     }
 }
