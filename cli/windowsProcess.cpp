@@ -294,7 +294,12 @@ std::unique_ptr<OutputFile> openReplacement(const std::string& path) {
         return std::make_unique<ReplacementFile>(name);
     }
     auto there = std::make_unique<HandleFile>(handle);
-    if (GetFileType(handle) != FILE_TYPE_DISK) {
+    SetLastError(NO_ERROR);
+    const DWORD type = GetFileType(handle);
+    if (type == FILE_TYPE_UNKNOWN && GetLastError() != NO_ERROR) {
+        raiseSystemError(GetLastError());
+    }
+    if (type != FILE_TYPE_DISK) {
         return there;
     }
     std::wstring target = finalPath(handle);

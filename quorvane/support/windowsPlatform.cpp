@@ -47,6 +47,14 @@ std::wstring widePath(std::string_view path) {
     return wide(path);
 }
 
+/// True for the errors that a path has which leads nowhere. Others, such as those of a disk that
+/// fails, leave open whether something is there.
+bool meansAbsence(DWORD code) {
+    const RunTimeError error = windowsErrorToRunTimeError(code);
+    return error == RunTimeError::FileNotFound || error == RunTimeError::PathNotFound ||
+           code == ERROR_ACCESS_DENIED || code == ERROR_NO_MORE_FILES || code == ERROR_NOT_READY;
+}
+
 /// An open file's handle, closed when nobody did.
 class FileHandle {
 public:
@@ -354,7 +362,7 @@ public:
         WIN32_FIND_DATAW found{};
         HANDLE search = FindFirstFileW(wide(path).c_str(), &found);
         if (search == INVALID_HANDLE_VALUE) {
-            return false;
+            return !meansAbsence(GetLastError());
         }
         FindClose(search);
         return true;

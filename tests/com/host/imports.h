@@ -1,0 +1,10 @@
+#pragma once
+
+#include <windows.h>
+
+namespace quorvane::host {
+
+/// Lets a module's imports of that name lead to the function; tells whether there was one.
+bool redirectImport(HMODULE module, const char* name, void* function);
+
+}  // namespace quorvane::host
