@@ -60,7 +60,9 @@ public:
     BracketedText(const BracketedText&) = delete;
     BracketedText& operator=(const BracketedText&) = delete;
 
-    std::size_t size() const noexcept { return size_; }
+    /// How many characters were written, those of the text at first among them. What a replacement
+    /// moves counts again.
+    std::uint64_t written() const noexcept { return written_; }
 
     std::size_t brackets() const noexcept { return segments_.size() - unused_.size() - 1; }
 
@@ -356,6 +358,7 @@ private:
     /// Puts a text behind a segment's own, in segments of its own from its first bracket on.
     void append(Index segment, View text) {
         size_ += text.size();
+        written_ += text.size();
         std::size_t end = std::min(nextBracket(text, 0), text.size());
         removeFromIndex(segment);
         extend(segment, text.substr(0, end));
@@ -453,6 +456,7 @@ private:
     std::vector<Index> unused_;
     std::unordered_map<std::uint64_t, Alike> alike_;
     std::size_t size_ = 0;
+    std::uint64_t written_ = 0;
     Mark opening_;
     Mark closing_;
     // The first "=" behind the mark on "<".

@@ -223,18 +223,18 @@ private:
         if (open == nowhere || done_.find(closing, close + 1) == nowhere) {
             return;
         }
+        // A style whose words hold tokens can make a walk that never ends.
+        constexpr std::uint64_t largestGrowth = 1000;
+        constexpr std::uint64_t roomForCharacters = 1000;
+        constexpr std::uint64_t roomForBrackets = 20;
+        const std::uint64_t mostWritten = (done_.size() + roomForCharacters) * largestGrowth;
         Brackets text(done_);
         done_ = Text();
-        // A style whose words hold tokens can make a walk that never ends.
-        constexpr std::size_t largestGrowth = 1000;
-        constexpr std::size_t roomForCharacters = 1000;
-        constexpr std::size_t roomForBrackets = 20;
-        const std::size_t longest = (body_.size() + roomForCharacters) * largestGrowth;
-        const std::size_t mostBrackets = (text.brackets() + roomForBrackets) * largestGrowth;
-        std::size_t stepsLeft = mostBrackets;
+        const std::uint64_t mostBrackets = (text.brackets() + roomForBrackets) * largestGrowth;
+        std::uint64_t stepsLeft = mostBrackets;
         open = text.markOpening(open);
         while (open != nowhere) {
-            if (stepsLeft == 0 || text.brackets() > mostBrackets || text.size() > longest) {
+            if (stepsLeft == 0 || text.brackets() > mostBrackets || text.written() > mostWritten) {
                 raise(RunTimeError::Overflow);
             }
             --stepsLeft;

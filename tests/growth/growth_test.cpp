@@ -288,6 +288,17 @@ TEST_F(InlineTokens, GrowProportionallyWhereAStylePutsTokensIn) {
         [](std::size_t count) { return "5 < 7 " + numbered("<more=", count, ">"); }, 1000);
 }
 
+TEST_F(InlineTokens, OverflowInProportionToTheWordsThatPutThemIn) {
+    expectProportional(
+        [](std::size_t count) {
+            const Ref<CRtfDoc> endless = CRtfDoc::create();
+            endless->LoadStyleSheetFromMemmory("{name: once; style-def: cs; format: <once=>" +
+                                               repeated("x", count) + "}");
+            EXPECT_THROW(withCharacterStyles(*endless, "<once=>" + repeated("x", count)), RtfError);
+        },
+        1000);
+}
+
 TEST_F(InlineTokens, GrowProportionallyWhereAllBracketsAreStray) {
     expectProportionalTo("", "<", 50'000);
     expectProportionalTo("", ">", 50'000);
