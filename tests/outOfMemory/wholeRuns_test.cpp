@@ -196,41 +196,32 @@ TEST(WholeRunsOutOfMemory, LeaveAWholeDocumentToRender) {
         100);
 }
 
-TEST(WholeRunsOutOfMemory, KeepTheDocumentThatCouldNotBeRendered) {
-    const std::string expected = Subject().contentsOf(description);
-    const auto attempt = [](Subject& subject) {
-        const long successes = std::exchange(failingAllocations::successesLeft, -1);
-        subject.driver->ParseFromMemmory(description);
-        failingAllocations::successesLeft = successes;
-        subject.driver->Contents();
-    };
-
+/// Lets memory run out in rendering a document, at `fewestFailures` places or more: it counts as
+/// changed and can be rendered later.
+void expectRenderedLater(const std::string& text, int fewestFailures) {
+    const std::string expected = Subject().contentsOf(text);
     expectNothingLost(
-        attempt,
+        [&text](Subject& subject) {
+            const long successes = std::exchange(failingAllocations::successesLeft, -1);
+            subject.driver->ParseFromMemmory(text);
+            failingAllocations::successesLeft = successes;
+            subject.driver->Contents();
+        },
         [&expected](Subject& subject) {
             ASSERT_TRUE(subject.driver->RtfObject()->Changed());
             ASSERT_EQ(subject.driver->Contents(), expected);
         },
-        3);
+        fewestFailures);
+}
+
+TEST(WholeRunsOutOfMemory, KeepTheDocumentThatCouldNotBeRendered) {
+    expectRenderedLater(description, 3);
 }
 
 TEST(WholeRunsOutOfMemory, KeepTheTextsWhoseInlineStylesCouldNotBeReplaced) {
-    const std::string expected = Subject().contentsOf(overlappingStyles);
-    ASSERT_NE(expected.find("\\b x{"), std::string::npos);
-    const auto attempt = [](Subject& subject) {
-        const long successes = std::exchange(failingAllocations::successesLeft, -1);
-        subject.driver->ParseFromMemmory(overlappingStyles);
-        failingAllocations::successesLeft = successes;
-        subject.driver->Contents();
-    };
+    ASSERT_NE(Subject().contentsOf(overlappingStyles).find("\\b x{"), std::string::npos);
 
-    expectNothingLost(
-        attempt,
-        [&expected](Subject& subject) {
-            ASSERT_TRUE(subject.driver->RtfObject()->Changed());
-            ASSERT_EQ(subject.driver->Contents(), expected);
-        },
-        50);
+    expectRenderedLater(overlappingStyles, 50);
 }
 
 TEST(WholeRunsOutOfMemory, WriteTheFileWhenTheyAreToldAgain) {
