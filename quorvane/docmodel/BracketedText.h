@@ -293,7 +293,7 @@ private:
     }
 
     /// The token's occurrence in which another segment stands for one of its own, if there is one
-    /// and comparisons are left to find it.
+    /// and comparisons are left to find it. With none left the search is over.
     std::optional<Occurrence> occurrenceAround(Index own, Index other,
                                                std::size_t& comparisonsLeft) const {
         if (other == own) {
@@ -303,8 +303,7 @@ private:
         for (Index segment = own; segment != opening_.segment;) {
             segment = previous(segment);
             occurrence.first = previous(occurrence.first);
-            if (comparisonsLeft == 0 || --comparisonsLeft == 0 ||
-                !isEqual(segment, occurrence.first)) {
+            if (--comparisonsLeft == 0 || !isEqual(segment, occurrence.first)) {
                 return std::nullopt;
             }
             if (segment == equals_) {
@@ -313,8 +312,7 @@ private:
         }
         // The last segment is followed by the beginning, which has no bracket.
         for (Index segment = own; segment != closing_.segment; segment = next(segment)) {
-            if (comparisonsLeft == 0 || --comparisonsLeft == 0 ||
-                !isEqual(segment, occurrence.last)) {
+            if (--comparisonsLeft == 0 || !isEqual(segment, occurrence.last)) {
                 return std::nullopt;
             }
             if (segment == equals_) {
