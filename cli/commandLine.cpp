@@ -212,11 +212,9 @@ CLI::App* addCheckCommand(CLI::App& app, CheckOptions& options) {
         ->type_name("error|warning|never")
         ->check(CLI::IsMember(failOnWords()).description(""));
     check->add_flag("-q,--quiet", options.isQuiet, "Leave out the summary at the end");
-    check->add_flag("--list", options.lists, "List all diagnostics")->excludes("FILE");
+    check->add_flag("--list", options.lists, "List all diagnostics");
     check->add_option("--explain", storeIn(options.explained), "Explain a diagnostic")
-        ->type_name("ID")
-        ->excludes("FILE")
-        ->excludes("--list");
+        ->type_name("ID");
     return check;
 }
 
@@ -279,6 +277,18 @@ void addRenderCommand(CLI::App& app, RenderOptions& options) {
         ->check(CLI::IsMember(diagnosticsForms()).description(""));
 }
 
+/// Throws a `UsageError` unless there are files to check, or something else to show.
+void requireOneTask(const CheckOptions& options) {
+    const int tasks =
+        (options.files.empty() ? 0 : 1) + (options.explained ? 1 : 0) + (options.lists ? 1 : 0);
+    if (tasks == 0) {
+        throw UsageError("FILE is required");
+    }
+    if (tasks > 1) {
+        throw UsageError("--list and --explain stand alone, without a FILE");
+    }
+}
+
 /// What is wrong with the arguments. The parser complains of what is missing first; where something
 /// is there that it does not know, that is the mistake.
 std::string usageErrorText(const CLI::App& app, const CLI::ParseError& error) {
@@ -315,9 +325,7 @@ std::variant<RenderOptions, CheckOptions, FormatOptions, Information> parseComma
     try {
         app.parse(prepared(arguments));
         if (check->parsed()) {
-            if (checkOptions.files.empty() && !checkOptions.explained && !checkOptions.lists) {
-                throw UsageError("FILE is required");
-            }
+            requireOneTask(checkOptions);
             return checkOptions;
         }
         if (format->parsed()) {
