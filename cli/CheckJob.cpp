@@ -1,21 +1,27 @@
 #include "cli/CheckJob.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <istream>
+#include <iterator>
 #include <memory>
 #include <system_error>
 #include <utility>
 
 #include "cli/RenderOptions.h"
+#include "cli/filesBelow.h"
 #include "cli/process.h"
+#include "cli/ruleNamed.h"
 #include "cli/styleSheetName.h"
+#include "cli/unifiedDiff.h"
 #include "cli/utf8Path.h"
 #include "quorvane/diagnostics/DescriptionCheck.h"
 #include "quorvane/diagnostics/DiagnosticEngine.h"
 #include "quorvane/diagnostics/RtfCheck.h"
 #include "quorvane/diagnostics/StyleSheetCheck.h"
 #include "quorvane/diagnostics/fileNameCheck.h"
+#include "quorvane/diagnostics/ignoreComments.h"
 #include "quorvane/diagnostics/languageOf.h"
 #include "quorvane/support/codePage1252.h"
 
@@ -48,13 +54,39 @@ FileWindow windowOfFile(const std::string& file) {
     };
 }
 
+std::set<DiagnosticId> idsOf(std::string_view option, const std::vector<std::string>& identifiers) {
+    std::set<DiagnosticId> ids;
+    for (const std::string& identifier : identifiers) {
+        ids.insert(ruleNamed(option, identifier).id);
+    }
+    return ids;
+}
+
+bool isFolder(const std::string& file) {
+    std::error_code failure;
+    return file != standardStream && std::filesystem::is_directory(pathFromUtf8(file), failure);
+}
+
+bool isSameFile(const std::string& a, const std::string& b) {
+    std::error_code failure;
+    return std::filesystem::equivalent(pathFromUtf8(a), pathFromUtf8(b), failure);
+}
+
+RtfError errorSaying(std::string what) {
+    return {static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), std::move(what)};
+}
+
 }  // namespace
 
-CheckJob::CheckJob(CheckOptions options, FindingSink find, DiagnosticSink fail, Platform& platform)
+CheckJob::CheckJob(CheckOptions options, FindingSink find, DiagnosticSink fail, Platform& platform,
+                   BytesSink write)
     : options_(std::move(options)),
+      ignored_(idsOf("--ignore", options_.ignored)),
+      enabled_(idsOf("--enable", options_.enabled)),
       find_(std::move(find)),
       fail_(std::move(fail)),
-      platform_(platform) {}
+      platform_(platform),
+      write_(std::move(write)) {}
 
 ExitStatus CheckJob::run() {
     if (options_.styleSheet) {
@@ -62,31 +94,58 @@ ExitStatus CheckJob::run() {
         checkStyles(*options_.styleSheet);
     }
     for (const std::string& file : options_.files) {
-        if (file != options_.styleSheet) {
+        if (isFolder(file)) {
+            checkFolder(file);
+        } else if (file != options_.styleSheet) {
             checkFile(file);
         }
     }
-    if (styles_ && checkedDescriptions_) {
-        tellAll(*options_.styleSheet, findUnusedStyles(*styles_),
-                codePage1252FromUtf8(styles_->text()));
-    }
-    return hasFailed_     ? ExitStatus::Failure
-           : hasErrors_   ? ExitStatus::ContentErrors
-           : hasWarnings_ ? ExitStatus::Warnings
-                          : ExitStatus::Success;
+    findUnused();
+    const bool isStrict = options_.failOn == FailOn::Warning;
+    return hasFailed_                                               ? ExitStatus::Failure
+           : counts_.errors > 0 && options_.failOn != FailOn::Never ? ExitStatus::ContentErrors
+           : counts_.warnings > 0 && isStrict                       ? ExitStatus::Warnings
+                                                                    : ExitStatus::Success;
 }
 
 void CheckJob::checkStyles(const std::string& file) {
     try {
-        const std::string bytes = platform_.readFile(file);
-        styles_.emplace(utf8FromCodePage1252(bytes));
-        tellAll(file, checkStyleSheet(styles_->text()), bytes);
+        const auto check = [&](std::string_view bytes) {
+            const std::string text = utf8FromCodePage1252(bytes);
+            return reported(checkStyleSheet(text), text, CheckedLanguage::StyleSheet);
+        };
+        styles_.emplace(utf8FromCodePage1252(tellText(file, platform_.readFile(file), check)));
         if (!openingOfDescription(styles_->text()).empty()) {
             styles_.reset();
         }
     } catch (const RtfError& error) {
-        hasFailed_ = true;
-        fail_({DiagnosticKind::Raised, file, error});
+        fail(file, error);
+    }
+}
+
+void CheckJob::findUnused() {
+    if (!styles_ || !checkedDescriptions_ || !isReported(DiagnosticId::UnusedStyle)) {
+        return;
+    }
+    tellAll(*options_.styleSheet,
+            reported(findUnusedStyles(*styles_), styles_->text(), CheckedLanguage::StyleSheet),
+            codePage1252FromUtf8(styles_->text()));
+}
+
+void CheckJob::checkFolder(const std::string& folder) {
+    const FolderContents contents = filesBelow(folder);
+    for (const auto& [name, failure] : contents.failures) {
+        RtfError error(RunTimeError::PathFileAccessError);
+        error.cause = std::make_shared<RtfError>(failure.value(), failure.message());
+        fail(name, error);
+    }
+    if (contents.files.empty() && contents.failures.empty()) {
+        fail(folder, errorSaying("No .rtfspec, .rtfss or .rtf files in this folder"));
+    }
+    for (const std::string& file : contents.files) {
+        if (!options_.styleSheet || !isSameFile(file, *options_.styleSheet)) {
+            checkFile(file);
+        }
     }
 }
 
@@ -113,32 +172,109 @@ void CheckJob::checkFile(const std::string& file) {
         }
         checkText(file, platform_.readFile(file));
     } catch (const RtfError& error) {
-        hasFailed_ = true;
-        fail_({DiagnosticKind::Raised, file, error});
+        fail(file, error);
     }
 }
 
 void CheckJob::checkText(const std::string& file, std::string_view bytes) {
     const CheckedLanguage language = languageOf(bytes, file);
-    tellAll(file, findNameMismatch(bytes, language, file), bytes);
+    checkedDescriptions_ = checkedDescriptions_ || language == CheckedLanguage::Description;
+    tellText(file, bytes, [&](std::string_view text) { return findingsOf(file, text, language); });
+}
+
+std::vector<quorvane::Diagnostic> CheckJob::findingsOf(const std::string& file,
+                                                       std::string_view bytes,
+                                                       CheckedLanguage language) {
+    std::vector<quorvane::Diagnostic> all = findNameMismatch(bytes, language, file);
+    std::vector<quorvane::Diagnostic> findings;
+    std::string text;
     switch (language) {
         case CheckedLanguage::Rtf:
-            tellAll(file, checkRtf(bytes), bytes);
+            findings = checkRtf(bytes);
             break;
         case CheckedLanguage::StyleSheet:
-            tellAll(file, checkStyleSheet(utf8FromCodePage1252(bytes)), bytes);
+            text = utf8FromCodePage1252(bytes);
+            findings = checkStyleSheet(text);
             break;
         case CheckedLanguage::Description:
-            checkedDescriptions_ = true;
-            tellAll(file,
-                    checkDescription(utf8FromCodePage1252(bytes), styles_ ? &*styles_ : nullptr),
-                    bytes);
+            text = utf8FromCodePage1252(bytes);
+            findings = checkDescription(text, styles_ ? &*styles_ : nullptr);
             break;
+    }
+    std::move(findings.begin(), findings.end(), std::back_inserter(all));
+    return reported(std::move(all), text, language);
+}
+
+bool CheckJob::isReported(DiagnosticId id) const {
+    return !ignored_.contains(id) && (!isOffByDefault(id) || enabled_.contains(id));
+}
+
+/// The findings without those that are to be ignored.
+std::vector<quorvane::Diagnostic> CheckJob::reported(std::vector<quorvane::Diagnostic> findings,
+                                                     std::string_view text,
+                                                     CheckedLanguage language) {
+    std::erase_if(findings,
+                  [this](const quorvane::Diagnostic& finding) { return !isReported(finding.id); });
+    return language == CheckedLanguage::Rtf ? findings
+                                            : withoutIgnored(std::move(findings), text, language);
+}
+
+/// Tells what the check finds in a text, and fixes the file where that is asked for. Returns the
+/// bytes of the text as they are afterwards, or would be.
+std::string CheckJob::tellText(const std::string& file, std::string_view bytes,
+                               const TextCheck& check) {
+    ++counts_.files;
+    if (!options_.fixes && !options_.showsDiff) {
+        tellAll(file, check(bytes), bytes);
+        return std::string(bytes);
+    }
+    const FixedText fixed = fixText(bytes, check);
+    if (fixed.wasRefused) {
+        fail_({DiagnosticKind::Raised, file,
+               errorSaying("Not fixed: with its fixes the file would have more errors")});
+    }
+    if (options_.showsDiff || !writeFixed(file, bytes, fixed)) {
+        tellAll(file, fixed.rounds.empty() ? fixed.remaining : check(bytes), bytes);
+        if (options_.showsDiff) {
+            write_(unifiedDiff(file == standardStream ? "stdin" : file, bytes, fixed.bytes));
+        }
+        return options_.showsDiff ? fixed.bytes : std::string(bytes);
+    }
+    for (const FixedText::Round& round : fixed.rounds) {
+        tellAll(file, round.fixed, round.bytes);
+    }
+    tellAll(file, fixed.remaining, fixed.bytes);
+    return fixed.bytes;
+}
+
+/// Writes the fixed text in the place of the one before; false when that fails.
+bool CheckJob::writeFixed(const std::string& file, std::string_view before,
+                          const FixedText& fixed) {
+    if (file == standardStream) {
+        write_(fixed.bytes);
+        return true;
+    }
+    if (fixed.bytes == before) {
+        return true;
+    }
+    try {
+        std::error_code failure;
+        if (!std::filesystem::is_regular_file(pathFromUtf8(file), failure)) {
+            raise(errorSaying("Not fixed: this is not a regular file"));
+        }
+        const std::unique_ptr<OutputFile> output = openReplacement(file);
+        output->write(fixed.bytes);
+        output->close();
+        return true;
+    } catch (const RtfError& error) {
+        fail(file, error);
+        return false;
     }
 }
 
 void CheckJob::checkRtfFile(const std::string& file, std::istream& stream,
                             const std::string& beginning) {
+    ++counts_.files;
     const FileWindow window = windowOfFile(file);
     std::vector<quorvane::Diagnostic> held;
     const auto tellHeld = [&] {
@@ -149,12 +285,17 @@ void CheckJob::checkRtfFile(const std::string& file, std::istream& stream,
         held.clear();
     };
     RtfCheck check([&](quorvane::Diagnostic finding) {
-        held.push_back(std::move(finding));
+        if (isReported(finding.id)) {
+            held.push_back(std::move(finding));
+        }
         if (held.size() == mostFindingsHeld) {
             tellHeld();
         }
     });
-    tellAll(file, findNameMismatch(beginning, CheckedLanguage::Rtf, file), beginning);
+    tellAll(
+        file,
+        reported(findNameMismatch(beginning, CheckedLanguage::Rtf, file), {}, CheckedLanguage::Rtf),
+        beginning);
     check.feed(beginning);
     for (std::string piece = readPiece(stream); !piece.empty(); piece = readPiece(stream)) {
         check.feed(piece);
@@ -166,9 +307,16 @@ void CheckJob::checkRtfFile(const std::string& file, std::istream& stream,
     tellHeld();
 }
 
+void CheckJob::fail(const std::string& file, const RtfError& error) {
+    hasFailed_ = true;
+    fail_({DiagnosticKind::Raised, file, error});
+}
+
 void CheckJob::tell(const std::string& file, const quorvane::Diagnostic& finding,
                     const FileWindow& window) {
-    (finding.severity == Severity::Error ? hasErrors_ : hasWarnings_) = true;
+    ++(finding.isFixed                       ? counts_.fixed
+       : finding.severity == Severity::Error ? counts_.errors
+                                             : counts_.warnings);
     find_(file, finding, window);
 }
 

@@ -32,22 +32,40 @@ Exit status:
 
 constexpr const char* checkFooter =
     R"(A file is a description, a stylesheet or an RTF file by its content, and where
-that does not tell, by its extension; - is standard input. Nothing is written
-but what was found, on standard output:
+that does not tell, by its extension; - is standard input. A folder stands for
+the .rtfspec, .rtfss and .rtf files below it. What is wrong is reported on
+standard output:
 
   letter.rtfspec:3:5: error: crimson isn't a recognized color. [wrong-color]
       (rb=crimson)
           ^~~~~~~
       hint: did you mean dark-red?
 
-The name in brackets is what --explain takes. On a terminal the text is
-coloured, unless the environment has a variable NO_COLOR that is not empty.
+The name in brackets is the identifier that --explain, --ignore and --enable
+take. A comment takes a diagnostic of the next line out of the report:
 
-Exit status:
-  0  nothing was found
+  ; quorvane: ignore wrong-color
+
+With --fix the report of standard input goes to standard error, and its fixed
+text to standard output; so does the diff of --diff. On a terminal the text is
+colored, unless the environment has a variable NO_COLOR that is not empty.
+
+Exit status, after fixing:
+  0  nothing is wrong
   1  there are errors
-  2  wrong usage, or a file that cannot be read
-  3  there are warnings and no errors)";
+  2  wrong usage, or a file that cannot be read or written
+  3  there are warnings and no errors
+With --fail-on=error warnings do not count; with --fail-on=never the status is
+0 unless it is 2.)";
+
+const std::map<std::string, FailOn>& failOnWords() {
+    static const std::map<std::string, FailOn> words = {
+        {"error", FailOn::Error},
+        {"warning", FailOn::Warning},
+        {"never", FailOn::Never},
+    };
+    return words;
+}
 
 const std::map<std::string, FindingsForm>& findingsForms() {
     static const std::map<std::string, FindingsForm> forms = {
@@ -147,6 +165,23 @@ CLI::callback_t storeIn(FindingsForm& target) {
     };
 }
 
+CLI::callback_t storeIn(FailOn& target) {
+    return [&target](const CLI::results_t& results) {
+        target = failOnWords().at(results.front());
+        return true;
+    };
+}
+
+/// An option that takes identifiers, separated by commas, and can be given several times.
+void addIdentifiersOption(CLI::App& app, const std::string& name,
+                          std::vector<std::string>& identifiers, const std::string& help) {
+    app.add_option(name, storeIn(identifiers), help)
+        ->type_name("ID[,ID...]")
+        ->expected(1)
+        ->delimiter(',')
+        ->take_all();
+}
+
 CLI::App* addCheckCommand(CLI::App& app, CheckOptions& options) {
     CLI::App* check =
         app.add_subcommand("check", "Tell what is wrong with descriptions, stylesheets and RTF.");
@@ -166,9 +201,20 @@ CLI::App* addCheckCommand(CLI::App& app, CheckOptions& options) {
                      "Tell findings as text, as JSON objects or as a SARIF log")
         ->type_name("text|json|sarif")
         ->check(CLI::IsMember(findingsForms()).description(""));
+    check->add_flag("--fix", options.fixes, "Make the replacements that are certain");
+    check->add_flag("--diff", options.showsDiff, "Show what --fix would change; change nothing");
+    addIdentifiersOption(*check, "--ignore", options.ignored, "Leave these diagnostics out");
+    addIdentifiersOption(*check, "--enable", options.enabled,
+                         "Report these too, which are off by default");
+    check
+        ->add_option("--fail-on", storeIn(options.failOn),
+                     "From which severity on the exit status is not 0")
+        ->type_name("error|warning|never")
+        ->check(CLI::IsMember(failOnWords()).description(""));
+    check->add_flag("-q,--quiet", options.isQuiet, "Leave out the summary at the end");
+    check->add_flag("--list", options.lists, "List all diagnostics");
     check->add_option("--explain", storeIn(options.explained), "Explain a diagnostic")
-        ->type_name("IDENTIFIER")
-        ->excludes("FILE");
+        ->type_name("ID");
     return check;
 }
 
@@ -231,6 +277,18 @@ void addRenderCommand(CLI::App& app, RenderOptions& options) {
         ->check(CLI::IsMember(diagnosticsForms()).description(""));
 }
 
+/// Throws a `UsageError` unless there are files to check, or something else to show.
+void requireOneTask(const CheckOptions& options) {
+    const int tasks =
+        (options.files.empty() ? 0 : 1) + (options.explained ? 1 : 0) + (options.lists ? 1 : 0);
+    if (tasks == 0) {
+        throw UsageError("FILE is required");
+    }
+    if (tasks > 1) {
+        throw UsageError("--list and --explain stand alone, without a FILE");
+    }
+}
+
 /// What is wrong with the arguments. The parser complains of what is missing first; where something
 /// is there that it does not know, that is the mistake.
 std::string usageErrorText(const CLI::App& app, const CLI::ParseError& error) {
@@ -267,9 +325,7 @@ std::variant<RenderOptions, CheckOptions, FormatOptions, Information> parseComma
     try {
         app.parse(prepared(arguments));
         if (check->parsed()) {
-            if (checkOptions.files.empty() && !checkOptions.explained) {
-                throw UsageError("FILE is required");
-            }
+            requireOneTask(checkOptions);
             return checkOptions;
         }
         if (format->parsed()) {

@@ -2,7 +2,9 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
+#include <utility>
 
 namespace quorvane {
 
@@ -27,6 +29,32 @@ struct Place {
     std::int64_t offset = 0;
 };
 
+/// A replacement that certainly does what the author meant: a word spelled right, a brace escaped,
+/// a unit converted.
+struct Fix {
+    /// What is replaced. In a file in Windows-1252 its offset and length are bytes of the file.
+    Place place;
+    /// UTF-8, without line breaks; it is written in the encoding of the file.
+    std::string replacement;
+};
+
+/// What could be done about a finding, in words; empty when nothing is known.
+struct Hint {
+    Hint() = default;
+    // NOLINTBEGIN(google-explicit-constructor): most hints are words alone.
+    Hint(std::string words) : text(std::move(words)) {}
+    Hint(const char* words) : text(words) {}
+    // NOLINTEND(google-explicit-constructor)
+    Hint(std::string words, std::optional<std::string> certain)
+        : text(std::move(words)), replacement(std::move(certain)) {}
+
+    bool empty() const { return text.empty(); }
+
+    std::string text;
+    /// What the marked part is certainly meant to be; nothing where that is a guess.
+    std::optional<std::string> replacement;
+};
+
 /// One finding about a text.
 struct Diagnostic {
     DiagnosticId id{};
@@ -36,6 +64,10 @@ struct Diagnostic {
     std::string message;
     /// What could be done about it; empty when nothing is known.
     std::string hint;
+    /// Set where the hint is a replacement that can be made without asking.
+    std::optional<Fix> fix{};
+    /// True when the fix was made: the place is that in the text before.
+    bool isFixed = false;
 };
 
 /// Takes findings one after the other.

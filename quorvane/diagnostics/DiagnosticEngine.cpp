@@ -8,10 +8,15 @@
 namespace quorvane {
 
 void DiagnosticEngine::report(DiagnosticId id, const Place& place,
-                              std::initializer_list<std::string_view> arguments, std::string hint) {
+                              std::initializer_list<std::string_view> arguments, Hint hint) {
     const DiagnosticRule& rule = diagnosticRule(id);
     hasErrors_ = hasErrors_ || rule.severity == Severity::Error;
-    receiver_({id, rule.severity, place, withArguments(rule.text, arguments), std::move(hint)});
+    std::optional<Fix> fix;
+    if (hint.replacement) {
+        fix = Fix{place, *std::move(hint.replacement)};
+    }
+    receiver_({id, rule.severity, place, withArguments(rule.text, arguments), std::move(hint.text),
+               std::move(fix)});
 }
 
 std::string withArguments(std::string_view pattern,

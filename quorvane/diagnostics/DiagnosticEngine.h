@@ -16,9 +16,9 @@ public:
     explicit DiagnosticEngine(DiagnosticReceiver receiver) : receiver_(std::move(receiver)) {}
 
     /// Hands on a finding. The arguments take the places of "{0}", "{1}" and so on in the text that
-    /// the table has for it.
+    /// the table has for it. A replacement of the hint is the fix for the place.
     void report(DiagnosticId id, const Place& place,
-                std::initializer_list<std::string_view> arguments = {}, std::string hint = {});
+                std::initializer_list<std::string_view> arguments = {}, Hint hint = {});
 
     /// True when an error was reported.
     bool hasErrors() const { return hasErrors_; }

@@ -12,6 +12,7 @@
 #include "quorvane/diagnostics/SourceText.h"
 #include "quorvane/diagnostics/StyleSheetOutline.h"
 #include "quorvane/diagnostics/fileEncoding.h"
+#include "quorvane/diagnostics/ignoreComments.h"
 #include "quorvane/diagnostics/judgement.h"
 #include "quorvane/diagnostics/languageOf.h"
 #include "quorvane/diagnostics/misreadCharacters.h"
@@ -118,7 +119,7 @@ public:
 
 private:
     void report(DiagnosticId id, std::string_view part,
-                std::initializer_list<std::string_view> arguments = {}, std::string hint = {}) {
+                std::initializer_list<std::string_view> arguments = {}, Hint hint = {}) {
         engine_.report(id, source_.placeOf(part), arguments, std::move(hint));
     }
 
@@ -172,13 +173,23 @@ private:
         const SheetItem& first = definition.items.front();
         if (first.keyword != "name") {
             report(DiagnosticId::BadKeyword, first.writtenKeyword, {first.keyword},
-                   first.keyword.starts_with("name") && first.value.empty()
-                       ? "a : follows the keyword name"
-                       : "a definition begins with name:");
+                   firstKeywordHint(first));
         }
         for (std::size_t i = 1; i < definition.items.size(); ++i) {
             findItemError(definition.items[i]);
         }
+    }
+
+    static Hint firstKeywordHint(const SheetItem& first) {
+        constexpr std::string_view name[] = {"name"};
+        if (first.keyword.starts_with("name") && first.value.empty()) {
+            return "a : follows the keyword name";
+        }
+        Hint hint("a definition begins with name:");
+        if (!certainWord(first.keyword, name).empty()) {
+            hint.replacement = "name";
+        }
+        return hint;
     }
 
     void findItemError(const SheetItem& item) {
@@ -188,7 +199,7 @@ private:
             if (value != "s" && value != "cs" && value != "cell") {
                 const std::string separator = separatorHint(item.value);
                 report(DiagnosticId::BadStyleKind, item.value, {value},
-                       separator.empty() ? kindHint(value, kinds) : separator);
+                       separator.empty() ? kindHint(value, kinds) : Hint(separator));
             }
         } else if (item.keyword == "additive") {
             if (value != "yes" && value != "no") {
@@ -202,7 +213,7 @@ private:
         }
     }
 
-    static std::string keywordHint(std::string_view keyword) {
+    static Hint keywordHint(std::string_view keyword) {
         if (keyword == "name") {
             return "name is the first item of a definition";
         }
@@ -210,10 +221,10 @@ private:
         if (word.size() < keyword.size() && isKeyword(word)) {
             return "a : follows the keyword " + std::string(word);
         }
-        return didYouMean(keyword, keywords);
+        return spellingHint(keyword, keywords);
     }
 
-    static std::string kindHint(const std::string& value, std::span<const std::string_view> kinds) {
+    static Hint kindHint(const std::string& value, std::span<const std::string_view> kinds) {
         if (value.empty()) {
             return "write s, cs or cell";
         }
@@ -223,7 +234,7 @@ private:
         if (value.starts_with("ch")) {
             return "a character style is cs";
         }
-        return didYouMean(value, kinds);
+        return spellingHint(value, kinds);
     }
 
     void findWarnings(const SheetDefinition& definition) {
@@ -257,8 +268,8 @@ private:
             CRtfGrpColorTable::colorNumber(color) == 0) {
             report(DiagnosticId::UnknownCellColor, item.value,
                    {color.empty() ? std::string_view("An empty format") : item.value},
-                   color.empty() ? "write none where no color is meant"
-                                 : didYouMean(color, viewsOf(cellColorNames())));
+                   color.empty() ? Hint("write none where no color is meant")
+                                 : spellingHint(color, viewsOf(cellColorNames())));
         }
     }
 
@@ -278,7 +289,7 @@ private:
         }
     }
 
-    std::string referenceHint(StyleKind kind, std::string_view name) const {
+    Hint referenceHint(StyleKind kind, std::string_view name) const {
         std::vector<std::string_view> candidates;
         const auto& names = defined_[static_cast<std::size_t>(kind)];
         if (names.size() <= mostCandidates) {
@@ -287,7 +298,7 @@ private:
             }
             std::sort(candidates.begin(), candidates.end());
         }
-        return didYouMean(name, candidates);
+        return spellingHint(name, candidates);
     }
 
     void findReferences(const SheetDefinition& definition) {
@@ -342,6 +353,7 @@ std::vector<Diagnostic> findingsWithoutLoading(std::string_view text) {
     const SourceText source(text);
     DiagnosticEngine engine([&](Diagnostic finding) { findings.push_back(std::move(finding)); });
     SheetFindings(source, engine).find();
+    findWrongIgnoreComments(source, CheckedLanguage::StyleSheet, engine);
     sortByPlace(findings);
     keepFirstMisreadCharacters(findings);
     return findings;

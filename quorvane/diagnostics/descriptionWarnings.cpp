@@ -72,7 +72,7 @@ public:
 
 private:
     void report(DiagnosticId id, const OutlineLeaf& leaf,
-                std::initializer_list<std::string_view> arguments, std::string hint = {}) {
+                std::initializer_list<std::string_view> arguments, Hint hint = {}) {
         engine_.report(id, source_.placeOf(leaf.text), arguments, std::move(hint));
     }
 
@@ -122,7 +122,7 @@ private:
         }
     }
 
-    std::string styleHint(StyleKind kind, std::string_view name) {
+    Hint styleHint(StyleKind kind, std::string_view name) {
         if (++hints_ > mostHints) {
             return {};
         }
@@ -140,7 +140,12 @@ private:
         }
         // What was misspelt is used all the same.
         styles_->markUsed(kind, nearestWord(name, names));
-        return didYouMean(name, names);
+        Hint hint = spellingHint(name, names);
+        // Such a name cannot be written where it is meant.
+        if (hint.replacement && hint.replacement->find_first_of("()<>=\r\n") != std::string::npos) {
+            hint.replacement.reset();
+        }
+        return hint;
     }
 
     void findCellStyle(const OutlineLeaf& leaf) {

@@ -1253,6 +1253,27 @@ QUORVANE_DIAGNOSTIC(LowContrast, "low-contrast", Warning, Description,
     "doc)\n",
     "")
 
+QUORVANE_DIAGNOSTIC(IgnoreComment, "ignore-comment", Warning, Description,
+    "This comment cannot be followed. {0}.",
+    "A comment `; quorvane: ignore ID` takes the diagnostics of that identifier on the next line out "
+    "of the report; several identifiers are separated by commas. In a stylesheet it stands on a line "
+    "of its own outside of braces, and is about the definition that follows.",
+    "(doc\n"
+    "(r\n"
+    "; quorvane: ignore low-contarst\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "; quorvane: ignore low-contrast\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
 QUORVANE_DIAGNOSTIC(BracesUnderflow, "braces-underflow", Error, StyleSheet,
     "Error in stylesheet\r\nBraces stack underflow: there are more } than {.",
     "Each definition stands in one pair of braces, also those in what is meant as a comment.",
@@ -1344,7 +1365,8 @@ QUORVANE_DIAGNOSTIC(UnusedStyle, "unused-style", Warning, StyleSheet,
     "The style is not named by any of the descriptions that were checked together with the "
     "stylesheet, nor by `next` or `based-on` of another style. The first paragraph style, "
     "`normal` and the paragraph styles that keep the numbers of character styles free count "
-    "as used.",
+    "as used. A house stylesheet serves many descriptions: the warning is given only with "
+    "`--enable unused-style`.",
     "{ name: normal; style-def: s; format: \\fs20 }\n"
     "{ name: sum; style-def: s; format: \\b }\n",
     "{ name: normal; style-def: s; format: \\fs20 }\n",

@@ -47,12 +47,20 @@ std::vector<std::string> meaningOf(std::string_view key, NodeKind kind) {
 
 }  // namespace
 
-std::string nearKeyHint(NodeKind kind, std::string_view word, const Vocabulary& vocabulary) {
+Hint nearKeyHint(NodeKind kind, std::string_view word, const Vocabulary& vocabulary) {
     const std::vector<std::string_view> keys = Vocabulary::keysOf(kind);
+    std::vector<std::string_view> candidates = keys;
+    for (const std::string_view key : keys) {
+        candidates.push_back(vocabulary.shorten(key));
+    }
     const std::vector<std::string> meaning = meaningOf(word, kind);
     for (const std::string_view key : keys) {
         if (!meaning.empty() && meaningOf(key, kind) == meaning) {
-            return "did you mean " + std::string(key) + "?";
+            Hint hint("did you mean " + std::string(key) + "?");
+            if (certainWord(word, candidates) == key) {
+                hint.replacement = std::string(key);
+            }
+            return hint;
         }
     }
     if (meaning == std::vector<std::string>{"border"} && kind != NodeKind::Para &&
@@ -62,11 +70,7 @@ std::string nearKeyHint(NodeKind kind, std::string_view word, const Vocabulary& 
                "-top-border and -bottom-, -left-, "
                "-right-border";
     }
-    std::vector<std::string_view> candidates = keys;
-    for (const std::string_view key : keys) {
-        candidates.push_back(vocabulary.shorten(key));
-    }
-    return didYouMean(word, candidates);
+    return spellingHint(word, candidates);
 }
 
 }  // namespace quorvane

@@ -61,6 +61,37 @@ std::string_view nearestWord(std::string_view word, std::span<const std::string_
     return nearest;
 }
 
+std::string_view certainWord(std::string_view word, std::span<const std::string_view> candidates) {
+    constexpr std::size_t shortestWord = 4;
+    constexpr std::size_t longWord = 8;
+    const std::string_view nearest = nearestWord(word, candidates);
+    const std::size_t length = std::max(word.size(), nearest.size());
+    if (nearest.empty() || nearest.size() < shortestWord - 1 || length < shortestWord) {
+        return {};
+    }
+    const std::string wanted = lowerCase(word);
+    const std::string found = lowerCase(nearest);
+    const std::size_t changes = distance(wanted, found);
+    if (changes > (length < longWord ? 1U : 2U)) {
+        return {};
+    }
+    const bool isAlone =
+        std::all_of(candidates.begin(), candidates.end(), [&](std::string_view candidate) {
+            const std::string other = lowerCase(candidate);
+            return other == found || candidate.size() > longestWord ||
+                   distance(wanted, other) > changes + (changes > 1 ? 1 : 0);
+        });
+    return isAlone ? nearest : std::string_view();
+}
+
+Hint spellingHint(std::string_view word, std::span<const std::string_view> candidates) {
+    Hint hint(didYouMean(word, candidates));
+    if (const std::string_view certain = certainWord(word, candidates); !certain.empty()) {
+        hint.replacement = std::string(certain);
+    }
+    return hint;
+}
+
 std::string didYouMean(std::string_view word, std::span<const std::string_view> candidates) {
     const std::string_view nearest = nearestWord(word, candidates);
     return nearest.empty() ? std::string() : "did you mean " + std::string(nearest) + "?";

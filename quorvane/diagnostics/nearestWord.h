@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "quorvane/diagnostics/Diagnostic.h"
+
 namespace quorvane {
 
 /// So many candidates are compared with a word at most; of more none is nearest.
@@ -17,5 +19,13 @@ std::string_view nearestWord(std::string_view word, std::span<const std::string_
 
 /// "did you mean dark-red?" for the nearest of the candidates; empty when none is near.
 std::string didYouMean(std::string_view word, std::span<const std::string_view> candidates);
+
+/// The candidate that the word is certainly meant to be: the same but for case, or at most one
+/// change away (two in words of eight characters and more) where no other candidate is nearly as
+/// close. Short words are never certain. Empty where it would be a guess.
+std::string_view certainWord(std::string_view word, std::span<const std::string_view> candidates);
+
+/// What `didYouMean` says, with the candidate as replacement where it is certain.
+Hint spellingHint(std::string_view word, std::span<const std::string_view> candidates);
 
 }  // namespace quorvane

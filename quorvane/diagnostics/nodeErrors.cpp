@@ -34,6 +34,10 @@ constexpr std::pair<std::string_view, std::string_view> otherWords[] = {
     {"middle", "centered"},   {"justify", "justified"}, {"block", "justified"},
 };
 
+/// Those of them that are the name itself, spelled in another way.
+constexpr std::string_view otherSpellings[] = {"grey",   "dark-grey", "center",
+                                               "centre", "centred",   "justify"};
+
 /// The value within its quotation marks; the value where it has none.
 std::string_view withoutQuotes(std::string_view value) {
     const bool isQuoted = value.size() > 2 && value.front() == value.back() &&
@@ -42,26 +46,32 @@ std::string_view withoutQuotes(std::string_view value) {
 }
 
 /// `noun` says what the names are names of.
-std::string nameHint(const std::string& value, const std::vector<std::string_view>& names,
-                     std::string_view noun) {
+Hint nameHint(const std::string& value, const std::vector<std::string_view>& names,
+              std::string_view noun) {
     if (value.empty()) {
         return "the value is missing: write none for no " + std::string(noun);
     }
     if (const std::string_view bare = withoutQuotes(value); bare.size() < value.size()) {
-        const std::string name = lowerCase(bare);
-        return didYouMean(name, names);
+        return spellingHint(lowerCase(bare), names);
     }
     const std::string word = lowerCase(value);
     for (const auto& [other, meant] : otherWords) {
         if (word == other) {
             for (const std::string_view name : names) {
                 if (name == meant) {
-                    return "did you mean " + std::string(meant) + "?";
+                    const bool isSpelling =
+                        std::find(std::begin(otherSpellings), std::end(otherSpellings), other) !=
+                        std::end(otherSpellings);
+                    Hint hint("did you mean " + std::string(meant) + "?");
+                    if (isSpelling) {
+                        hint.replacement = std::string(meant);
+                    }
+                    return hint;
                 }
             }
         }
     }
-    return didYouMean(value, names);
+    return spellingHint(value, names);
 }
 
 bool isAlignmentNumber(double number) {
@@ -94,7 +104,7 @@ public:
 
 private:
     void report(DiagnosticId id, OutlineLeaf& leaf, std::string_view part,
-                std::initializer_list<std::string_view> arguments, std::string hint) {
+                std::initializer_list<std::string_view> arguments, Hint hint) {
         leaf.isFaulty = true;
         engine_.report(id, source_.placeOf(part), arguments, std::move(hint));
     }
@@ -168,10 +178,10 @@ private:
         }
     }
 
-    std::string keyHint(NodeKind kind, const OutlineLeaf& leaf) const {
+    Hint keyHint(NodeKind kind, const OutlineLeaf& leaf) const {
         const std::string lower = lowerCase(leaf.writtenKey);
         if (lower != leaf.writtenKey && vocabulary_.isKeyOf(kind, vocabulary_.expand(lower))) {
-            return "keys are written in lower case: " + lower;
+            return {"keys are written in lower case: " + lower, lower};
         }
         for (const NodeKind other : kinds) {
             if (vocabulary_.isKeyOf(other, leaf.key)) {

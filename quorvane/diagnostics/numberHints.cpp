@@ -3,7 +3,10 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
+#include <limits>
 #include <optional>
+#include <string>
 
 #include "quorvane/support/numberText.h"
 #include "quorvane/support/textCase.h"
@@ -58,7 +61,7 @@ std::string acceptedNumber(std::string_view key) {
 }
 
 /// What to write for a number with one comma; empty for anything else.
-std::string withoutComma(std::string_view value) {
+Hint withoutComma(std::string_view value) {
     const std::size_t comma = value.find(',');
     std::string text(value);
     if (comma == nowhere || text.find('.') != std::string::npos) {
@@ -71,23 +74,26 @@ std::string withoutComma(std::string_view value) {
         return {};
     }
     // Three digits behind a comma are thousandths to some and thousands to others.
-    return value.size() - comma == 4 ? "a number has no comma: write " + text + ", or " + withPoint
-                                     : "a number has no comma: write " + withPoint;
+    return value.size() - comma == 4
+               ? Hint("a number has no comma: write " + text + ", or " + withPoint)
+               : Hint("a number has no comma: write " + withPoint, withPoint);
 }
 
-std::string lengthHint(std::string_view key, double number, const Unit& unit,
-                       std::string_view value) {
-    if (!isInTwips(key)) {
+Hint lengthHint(std::string_view key, double number, const Unit& unit, std::string_view value) {
+    constexpr double most = std::numeric_limits<std::int32_t>::max();
+    const double twips = unit.twips == 1 ? number : std::round(number * unit.twips);
+    if (!isInTwips(key) || std::abs(twips) > most) {
         return acceptedNumber(key);
     }
-    const std::string twips = numberText(std::round(number * unit.twips));
-    return unit.twips == 1 ? "write the number alone: " + numberText(number)
-                           : std::string(value) + " is " + twips + " twips: write " + twips;
+    const std::string text = numberText(twips);
+    return {unit.twips == 1 ? "write the number alone: " + text
+                            : std::string(value) + " is " + text + " twips: write " + text,
+            text};
 }
 
 }  // namespace
 
-std::string numberHint(std::string_view key, std::string_view value) {
+Hint numberHint(std::string_view key, std::string_view value) {
     if (value.empty()) {
         return "the value is missing: " + acceptedNumber(key);
     }
@@ -104,8 +110,8 @@ std::string numberHint(std::string_view key, std::string_view value) {
     const bool isQuoted = value.size() > 2 && value.front() == value.back() &&
                           (value.front() == '"' || value.front() == '\'');
     if (isQuoted && readNumber(value.substr(1, value.size() - 2))) {
-        return "write the number without quotation marks: " +
-               std::string(value.substr(1, value.size() - 2));
+        const std::string bare(value.substr(1, value.size() - 2));
+        return {"write the number without quotation marks: " + bare, bare};
     }
     const std::size_t end = value.find_first_not_of("+-.0123456789");
     const std::optional<double> number = readNumber(value.substr(0, end));
@@ -113,14 +119,15 @@ std::string numberHint(std::string_view key, std::string_view value) {
         return acceptedNumber(key);
     }
     const std::string rest = lowerCase(trimWhitespace(value.substr(end)));
-    if (std::string written = withoutComma(value); !written.empty()) {
+    if (Hint written = withoutComma(value); !written.empty()) {
         return written;
     }
     if (rest.starts_with(',')) {
         return "a number has no comma, but at most one point: " + acceptedNumber(key);
     }
     if (rest == "%" && key == "cell-width") {
-        return "write the number alone: " + std::string(value.substr(0, end));
+        const std::string alone(value.substr(0, end));
+        return {"write the number alone: " + alone, alone};
     }
     if (const Unit* unit = unitNamed(rest)) {
         return lengthHint(key, *number, *unit, value);

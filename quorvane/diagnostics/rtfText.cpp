@@ -260,7 +260,8 @@ public:
         findBrokenNestedTables();
         for (auto group = groups_.begin() + 1; group != groups_.end(); ++group) {
             at_ = group->brace;
-            report(DiagnosticId::UnbalancedBrace, 1, {"{"}, braceHint('{'));
+            report(DiagnosticId::UnbalancedBrace, 1, {"{"},
+                   braceHint('{', !beginsGroup(group->brace)));
         }
         for (const Instruction& instruction : instructions_) {
             std::string_view brought = broughtByField(instruction.text);
@@ -316,7 +317,7 @@ private:
     };
 
     void report(DiagnosticId id, std::size_t length,
-                std::initializer_list<std::string_view> arguments, std::string hint) {
+                std::initializer_list<std::string_view> arguments, Hint hint) {
         int& told = told_[static_cast<std::size_t>(id)];
         if (++told <= mostOfAKind) {
             engine_.report(id, source_.placeOf(text_.substr(at_, length)), arguments,
@@ -338,9 +339,34 @@ private:
 
     bool isOfStyleSheet() const { return use_ != TextUse::Text; }
 
-    std::string braceHint(char brace) const {
-        return isOfStyleSheet() ? "a stylesheet has no braces but those around its definitions"
-                                : std::string("write \\") + brace + " for a brace to be seen";
+    /// `isSeen` is true for a brace that certainly is meant to be seen.
+    Hint braceHint(char brace, bool isSeen) const {
+        if (isOfStyleSheet()) {
+            return "a stylesheet has no braces but those around its definitions";
+        }
+        const std::string escaped = std::string("\\") + brace;
+        Hint hint("write " + escaped + " for a brace to be seen");
+        if (isSeen) {
+            hint.replacement = escaped;
+        }
+        return hint;
+    }
+
+    /// True when a control follows the brace: it may begin a group that was not closed.
+    bool beginsGroup(std::size_t brace) const { return text_.substr(brace + 1).starts_with('\\'); }
+
+    /// What a backslash is that stands before no control: one to be seen, unless it may be meant to
+    /// escape the character behind it.
+    Hint loneBackslashHint() const {
+        const std::string_view rest = text_.substr(at_ + 1);
+        const bool isSeen = rest.empty() || rest.front() == ' ' ||
+                            std::isdigit(static_cast<unsigned char>(rest.front())) != 0 ||
+                            static_cast<unsigned char>(rest.front()) >= 0x80;
+        Hint hint(backslashHint());
+        if (isSeen && !isOfStyleSheet()) {
+            hint.replacement = "\\\\";
+        }
+        return hint;
     }
 
     std::string backslashHint() const {
@@ -455,7 +481,7 @@ private:
 
     void closeGroup() {
         if (groups_.size() == 1) {
-            report(DiagnosticId::UnbalancedBrace, 1, {"}"}, braceHint('}'));
+            report(DiagnosticId::UnbalancedBrace, 1, {"}"}, braceHint('}', !hasControlOutside_));
         } else {
             groups_.pop_back();
         }
@@ -469,6 +495,7 @@ private:
         lastControl_.reset();
         if (!control.word.empty()) {
             lastControl_ = control;
+            hasControlOutside_ = hasControlOutside_ || groups_.size() == 1;
             readControlWord(control);
             return;
         }
@@ -489,7 +516,7 @@ private:
                    std::string_view("'\\{}~-_|:").find(control.symbol) != std::string_view::npos) {
             at_ += control.length;
         } else {
-            report(DiagnosticId::LoneBackslash, 1, {}, backslashHint());
+            report(DiagnosticId::LoneBackslash, 1, {}, loneBackslashHint());
             swallowedEnd_ = at_ + 2;
             ++at_;
         }
@@ -650,6 +677,9 @@ private:
     std::vector<Part> nestedControls_;
     // True when the text ends on a level of a table within the cell.
     bool leavesLevel_ = false;
+    // True when a control word stands outside of all groups: a "}" may be the end of a group that
+    // was meant to begin before it.
+    bool hasControlOutside_ = false;
     int openTokens_ = 0;
     int substitutesLeft_ = 0;
     // True where the next character stands in for the one that a \u names.

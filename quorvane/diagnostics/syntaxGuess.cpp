@@ -42,6 +42,13 @@ NodeKind nodeNearly(std::string_view name, const Vocabulary& vocabulary) {
                : vocabulary.nodeKind(nearestWord(name, nodeNames));
 }
 
+/// True when a name is certainly meant to be that of a node.
+bool isCertainNode(std::string_view name, const Vocabulary& vocabulary) {
+    const std::string lower = lowerCase(name);
+    return lower == "document" || lower == "paragraph" ||
+           vocabulary.nodeKind(name) != NodeKind::None || !certainWord(name, nodeNames).empty();
+}
+
 /// The node's name as it is written here: in its long form, unless the line has the short one.
 std::string nameFor(NodeKind kind, std::string_view written) {
     constexpr std::string_view longNames[] = {"row", "cell", "para", "doc"};
@@ -118,6 +125,9 @@ SyntaxGuess guessOpener(std::string_view line, const Vocabulary& vocabulary) {
         guess.hint = "nothing but a comment behind ; follows (" + name;
     } else {
         guess.hint = "did you mean (" + name + "?";
+        if (isCertainNode(head, vocabulary)) {
+            guess.hint.replacement = "(" + name + std::string(line.substr(head.size() + 1));
+        }
     }
     return guess;
 }
@@ -153,6 +163,13 @@ SyntaxGuess guessCloser(std::string_view line, const Vocabulary& vocabulary) {
     guess.hint = vocabulary.nodeKind(head) == NodeKind::None || line[head.size()] != ')'
                      ? "did you mean " + name + ")?"
                      : "nothing but a comment behind ; follows " + name + ")";
+    const std::string_view rest = trimWhitespace(line.substr(head.size()));
+    const std::string_view after =
+        trimWhitespace(rest.substr(std::min<std::size_t>(1, rest.size())));
+    if (rest.starts_with(')') && (after.empty() || after.front() == ';') &&
+        isCertainNode(head, vocabulary)) {
+        guess.hint.replacement = name + std::string(rest);
+    }
     return guess;
 }
 

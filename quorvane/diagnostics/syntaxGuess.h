@@ -1,8 +1,8 @@
 #pragma once
 
-#include <string>
 #include <string_view>
 
+#include "quorvane/diagnostics/Diagnostic.h"
 #include "quorvane/driver/DescriptionNode.h"
 #include "quorvane/driver/Vocabulary.h"
 
@@ -18,7 +18,8 @@ struct SyntaxGuess {
     /// Of a leaf.
     std::string_view key{};
     std::string_view value{};
-    std::string hint{};
+    /// Its replacement is that of the whole line.
+    Hint hint{};
 };
 
 /// Guesses at a line that is neither an opener nor a closer nor a leaf.

@@ -9,7 +9,7 @@ namespace quorvane {
 namespace {
 
 std::string hint(NodeKind kind, std::string_view word) {
-    return nearKeyHint(kind, word, Vocabulary());
+    return nearKeyHint(kind, word, Vocabulary()).text;
 }
 
 TEST(KeyHints, KnowTheWordsOfOtherLanguages) {
