@@ -15,6 +15,13 @@ if(MINGW AND CMAKE_SIZEOF_VOID_P EQUAL 4)
     add_compile_options(-fno-reorder-blocks-and-partition)
 endif()
 
+# The oldest Windows that the programs run on is Windows 7, which is version 6.1. The linker's own
+# numbers are older ones.
+if(MINGW)
+    add_link_options(-Wl,--major-os-version,6,--minor-os-version,1
+                     -Wl,--major-subsystem-version,6,--minor-subsystem-version,1)
+endif()
+
 # Settings for our own targets only: they are not part of what a consumer of the library gets.
 add_library(quorvaneSettings INTERFACE)
 target_compile_options(quorvaneSettings INTERFACE

@@ -5,6 +5,7 @@
 
 #include "com/ComPtr.h"
 #include "com/Enumerator.h"
+#include "com/debugOutput.h"
 #include "quorvane/docmodel/CRtfDoc.h"
 
 namespace quorvane::com {
@@ -42,6 +43,7 @@ std::span<const Member> CRtfDriverObject::members() {
 }
 
 CRtfDriverObject::CRtfDriverObject(Ref<CRtfDriver> driver) : Wrapper(std::move(driver)) {
+    reportAbsorbedErrors(native());
     native().setNotifyErrorHandler([this](CRtfDriver&) { notifyErrorPoint_.fire(); });
 }
 
@@ -62,7 +64,10 @@ STDMETHODIMP CRtfDriverObject::LoadStyleSheetFromMemmory(BSTR buffer) {
 }
 
 STDMETHODIMP CRtfDriverObject::Commit(BSTR path) {
-    return run([&] { native().Commit(textOf(path)); });
+    return run([&] {
+        const CommitReport report(native(), "CRtfDriver.Commit", textOf(path));
+        native().Commit(report.file());
+    });
 }
 
 STDMETHODIMP CRtfDriverObject::get_ErroneousInput(VARIANT_BOOL* value) {
