@@ -1,12 +1,12 @@
 #include "cli/checkCommand.h"
 
-#include <cstdlib>
 #include <memory>
 #include <string>
 
 #include "cli/CheckJob.h"
 #include "cli/RenderOptions.h"
 #include "cli/SarifLog.h"
+#include "cli/colors.h"
 #include "cli/diagnosticJson.h"
 #include "cli/diagnosticText.h"
 #include "cli/explanation.h"
@@ -17,12 +17,6 @@
 namespace quorvane::cli {
 
 namespace {
-
-Colors wantedColors() {
-    const char* noColor = std::getenv("NO_COLOR");
-    const bool isRefused = noColor != nullptr && *noColor != '\0';
-    return standardOutputIsTerminal() && !isRefused ? Colors::On : Colors::Off;
-}
 
 std::string shownName(const std::string& file) {
     return file == standardStream ? "<stdin>" : file;
@@ -61,7 +55,7 @@ void tellFailure(const Diagnostic& failure, FindingsForm form) {
 }
 
 ExitStatus checkAndTell(const CheckOptions& options) {
-    const Colors colors = wantedColors();
+    const Colors colors = wantedColors(standardOutputIsTerminal());
     Report report;
     if (options.explained) {
         report.add(explanation(*options.explained));

@@ -3,11 +3,10 @@
 #include <string>
 
 #include "cli/FindingExcerpt.h"
+#include "cli/colors.h"
 #include "quorvane/diagnostics/Diagnostic.h"
 
 namespace quorvane::cli {
-
-enum class Colors { Off, On };
 
 /// A finding for a person: a line "letter.rtfspec:12:5: error: crimson isn't a recognized color.
 /// [wrong-color]", the line of the file, a line with a caret and a tilde under each further

@@ -70,7 +70,8 @@ if ! command -v make >/dev/null; then
 fi
 commandHeaders=("CLI/CLI.hpp=libcli11-dev" "nlohmann/json.hpp=nlohmann-json3-dev")
 testTools=("ninja=ninja-build" "pkg-config=pkg-config"
-    "gtest/gtest.h=libgtest-dev" "gmock/gmock.h=libgmock-dev" "jsonschema=python3-jsonschema")
+    "gtest/gtest.h=libgtest-dev" "gmock/gmock.h=libgmock-dev" "jsonschema=python3-jsonschema"
+    "patch=patch")
 
 windowsTools=("perl=perl-base"
     "i686-w64-mingw32-g++-posix=g++-mingw-w64-i686-posix"
