@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "cli/RenderOptions.h"
+#include "cli/fileFailure.h"
 #include "cli/process.h"
 #include "cli/styleSheetName.h"
 #include "cli/utf8Path.h"
@@ -86,14 +87,14 @@ void CheckJob::checkStyles(const std::string& file) {
         }
     } catch (const RtfError& error) {
         hasFailed_ = true;
-        fail_({DiagnosticKind::Raised, file, error});
+        fail_(unreadableFile(file, file, error));
     }
 }
 
 void CheckJob::checkFile(const std::string& file) {
     try {
         if (file == standardStream) {
-            checkText(file, readStandardInput());
+            checkText(options_.stdinName.value_or(file), readStandardInput());
             return;
         }
         // The file of an RTF document may be larger than the memory. A file that is something else
@@ -114,7 +115,9 @@ void CheckJob::checkFile(const std::string& file) {
         checkText(file, platform_.readFile(file));
     } catch (const RtfError& error) {
         hasFailed_ = true;
-        fail_({DiagnosticKind::Raised, file, error});
+        const bool isStream = file == standardStream;
+        fail_(
+            unreadableFile(isStream ? options_.stdinName.value_or("<stdin>") : file, file, error));
     }
 }
 

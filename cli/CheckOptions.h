@@ -14,6 +14,8 @@ struct CheckOptions {
     std::vector<std::string> files;
     std::optional<std::string> styleSheet;
     FindingsForm form = FindingsForm::Text;
+    /// The name that standard input is checked and reported under.
+    std::optional<std::string> stdinName;
     /// The identifier to be explained instead.
     std::optional<std::string> explained;
 };

@@ -9,6 +9,9 @@ namespace quorvane::cli {
 /// The form in which errors are told on standard error.
 enum class DiagnosticsForm { Text, Json };
 
+/// What makes a run fail: errors, warnings too, or nothing that is found in a file.
+enum class FailOn { Error, Warning, Never };
+
 /// In place of a file's name it stands for standard input or standard output.
 inline constexpr const char* standardStream = "-";
 
@@ -20,10 +23,13 @@ struct RenderOptions {
     std::optional<std::string> output;
     /// The folder that the documents go to, instead of beside their descriptions.
     std::optional<std::string> outputFolder;
+    /// Create the folder that the documents go to.
+    bool makesOutputFolder = false;
     /// Repair and check the descriptions before building.
     bool check = false;
     /// Write what could be built of a description that has errors.
     bool keepGoing = false;
+    FailOn failOn = FailOn::Error;
     DiagnosticsForm diagnostics = DiagnosticsForm::Text;
 };
 

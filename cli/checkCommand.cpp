@@ -10,6 +10,7 @@
 #include "cli/diagnosticJson.h"
 #include "cli/diagnosticText.h"
 #include "cli/explanation.h"
+#include "cli/fileFailure.h"
 #include "cli/findingJson.h"
 #include "cli/findingText.h"
 #include "cli/process.h"
@@ -93,7 +94,7 @@ ExitStatus check(const CheckOptions& options) {
     try {
         return checkAndTell(options);
     } catch (const RtfError& error) {
-        tellFailure({DiagnosticKind::Raised, "<stdout>", error}, options.form);
+        tellFailure(fileFailure("<stdout>", error), options.form);
         return ExitStatus::Failure;
     }
 }
