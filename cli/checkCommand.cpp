@@ -16,6 +16,7 @@
 #include "cli/diagnosticJson.h"
 #include "cli/diagnosticText.h"
 #include "cli/explanation.h"
+#include "cli/fileFailure.h"
 #include "cli/findingJson.h"
 #include "cli/findingText.h"
 #include "cli/process.h"
@@ -88,8 +89,7 @@ private:
     std::string gathered_;
 };
 
-void tellFailure(Diagnostic failure, FindingsForm form) {
-    failure.file = shownName(failure.file);
+void tellFailure(const Diagnostic& failure, FindingsForm form) {
     writeToStandardError(
         (form == FindingsForm::Text ? diagnosticText(failure) : diagnosticJson(failure)) + "\n");
 }
@@ -173,7 +173,7 @@ ExitStatus check(const CheckOptions& options) {
     try {
         return checkAndTell(options);
     } catch (const OutputFailure& failure) {
-        tellFailure({DiagnosticKind::Raised, "<stdout>", failure.error}, options.form);
+        tellFailure(fileFailure("<stdout>", failure.error), options.form);
         return ExitStatus::Failure;
     }
 }

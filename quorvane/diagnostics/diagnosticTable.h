@@ -2,7 +2,7 @@
 // of it, with the macro defined as what a row shall become; the macro is gone afterwards.
 //
 // QUORVANE_DIAGNOSTIC(enumerator, identifier, severity, language, text, explanation, wrong example,
-//                     right example, companion of the examples)
+//                     right example, companion of the examples[, corruptsDocument])
 
 #ifndef QUORVANE_DIAGNOSTIC
 #define QUORVANE_DIAGNOSTIC(...)
@@ -729,8 +729,8 @@ QUORVANE_DIAGNOSTIC(EmptyText, "empty-text", Warning, Description,
 QUORVANE_DIAGNOSTIC(UnbalancedBrace, "unbalanced-brace", Warning, Description,
     "The {0} has no partner.",
     "Texts and formats go into the document as they are. An open brace makes readers refuse "
-    "the file, a closing one cuts the document off. Write `\\{` and `\\}` for braces that "
-    "shall be seen.",
+    "the file, a closing one cuts the document off, so that `render --check` refuses both. "
+    "Write `\\{` and `\\}` for braces that shall be seen.",
     "(doc\n"
     "(r\n"
     "(c\n"
@@ -749,13 +749,13 @@ QUORVANE_DIAGNOSTIC(UnbalancedBrace, "unbalanced-brace", Warning, Description,
     "c)\n"
     "r)\n"
     "doc)\n",
-    "")
+    "", corruptsDocument)
 
 QUORVANE_DIAGNOSTIC(LoneBackslash, "lone-backslash", Warning, Description,
     "The backslash swallows what follows it.",
     "Texts and formats go into the document as they are, and a backslash begins a control "
     "word or symbol. Write `\\\\` for a backslash that shall be seen, and two hexadecimal "
-    "digits behind `\\'`.",
+    "digits after `\\'`. `render --check` refuses a lone one.",
     "(doc\n"
     "(r\n"
     "(c\n"
@@ -774,7 +774,7 @@ QUORVANE_DIAGNOSTIC(LoneBackslash, "lone-backslash", Warning, Description,
     "c)\n"
     "r)\n"
     "doc)\n",
-    "")
+    "", corruptsDocument)
 
 QUORVANE_DIAGNOSTIC(UnknownControlWord, "unknown-control-word", Warning, Description,
     "{0} is no RTF control word.",
