@@ -116,11 +116,17 @@ std::string asGiven(std::string argument) {
     return argument;
 }
 
-/// The parser would take the next argument for the value of an option such as "--output=".
+/// The parser would take the next argument for the value of "--output=", and "=a.rtf" for that of
+/// "-o=a.rtf".
 void requireValueAfterSign(const std::string& argument) {
     const std::size_t sign = argument.find('=');
     if (argument.starts_with("--") && sign + 1 == argument.size()) {
         throw UsageError(argument + " lacks its value");
+    }
+    if (argument.starts_with('-') && argument[1] != '-' && sign == 2) {
+        const std::string option = argument.substr(0, sign);
+        throw UsageError(argument + " has a = too many; write " + option + " " +
+                         argument.substr(sign + 1));
     }
 }
 

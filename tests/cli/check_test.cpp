@@ -96,7 +96,7 @@ TEST_F(CheckTest, EndsWith2WhereAFileCannotBeReadAndChecksTheOthers) {
     folder.write("price.rtfspec", descriptionWithBadColour);
     const ProgramResult result = run({"nosuch.rtfspec", "price.rtfspec"});
     EXPECT_EQ(result.output, reportOfBadColor);
-    EXPECT_THAT(result.errors, StartsWith("nosuch.rtfspec: error[53]: File not found"));
+    EXPECT_THAT(result.errors, StartsWith("nosuch.rtfspec: No such file or directory"));
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(run({folder.path().string()}).status, 2);
     EXPECT_EQ(run({"-s", "nosuch.rtfss", "price.rtfspec"}).status, 2);
@@ -484,6 +484,19 @@ INSTANTIATE_TEST_SUITE_P(All, GoldenCheckTest, testing::ValuesIn(goldenNames()),
                              std::replace(name.begin(), name.end(), '-', '_');
                              return name;
                          });
+
+TEST_F(CheckTest, TakesStandardInputForAFileOfAName) {
+    start.input = "";
+    EXPECT_EQ(run({"-"}).status, 1);
+    const ProgramResult empty = run({"--stdin-filename=sub/a.rtf", "-"});
+    EXPECT_THAT(empty.output, testing::StartsWith("sub/a.rtf:1:1: error: "));
+    EXPECT_THAT(empty.output, testing::HasSubstr("[not-rtf]"));
+    start.input = "(doc\n(r\n(c\n(p\n(pt=a)\np)\nc)\nr)\ndoc)\n";
+    EXPECT_EQ(run({"--stdin-filename=a.rtfspec", "-"}).status, 0);
+    const ProgramResult named = run({"--stdin-filename=a.rtf", "--diagnostics=json", "-"});
+    EXPECT_THAT(named.output, testing::HasSubstr("\"file\":\"a.rtf\""));
+    EXPECT_THAT(named.output, testing::HasSubstr("wrong-extension"));
+}
 
 }  // namespace
 }  // namespace quorvane::cli
