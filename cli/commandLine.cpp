@@ -73,7 +73,7 @@ they repeat lines of the description.
 
 Exit status:
   0  all is well
-  1  with --check or --diff: there are files that are not in their canonical form
+  1  with --check or --diff: a file is not in its canonical form
   2  wrong usage, or a file that cannot be read, formatted or written)";
 
 const std::map<std::string, NameForm>& nameForms() {
@@ -262,11 +262,11 @@ CLI::App* addFormatCommand(CLI::App& app, FormatOptions& options) {
         ->allow_extra_args();
     format
         ->add_option("--names", storeIn(options.names),
-                     "Write the long or the short names of a description, or keep them")
+                     "Write long or short names in descriptions, or keep them")
         ->type_name("long|short|keep")
         ->check(CLI::IsMember(nameForms()).description(""));
     format->add_flag("--check", options.check,
-                     "Change nothing; name the files that are not in their form");
+                     "Change nothing; name files that are not in their form");
     format->add_flag("--diff", options.diff, "Change nothing; show what would change");
     addStdinFilename(*format, options.stdinName);
     refuseEmptyValues(*format);
