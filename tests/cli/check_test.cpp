@@ -581,5 +581,18 @@ INSTANTIATE_TEST_SUITE_P(All, GoldenCheckTest, testing::ValuesIn(goldenNames()),
                              return name;
                          });
 
+TEST_F(CheckTest, TakesStandardInputForAFileOfAName) {
+    start.input = "";
+    EXPECT_EQ(run({"-"}).status, 1);
+    const ProgramResult empty = run({"--stdin-filename=sub/a.rtf", "-"});
+    EXPECT_THAT(empty.output, testing::StartsWith("sub/a.rtf:1:1: error: "));
+    EXPECT_THAT(empty.output, testing::HasSubstr("[not-rtf]"));
+    start.input = "(doc\n(r\n(c\n(p\n(pt=a)\np)\nc)\nr)\ndoc)\n";
+    EXPECT_EQ(run({"--stdin-filename=a.rtfspec", "-"}).status, 0);
+    const ProgramResult named = run({"--stdin-filename=a.rtf", "--diagnostics=json", "-"});
+    EXPECT_THAT(named.output, testing::HasSubstr("\"file\":\"a.rtf\""));
+    EXPECT_THAT(named.output, testing::HasSubstr("wrong-extension"));
+}
+
 }  // namespace
 }  // namespace quorvane::cli
