@@ -17,6 +17,7 @@
 #include "quorvane/diagnostics/StyleSheetCheck.h"
 #include "quorvane/diagnostics/fileNameCheck.h"
 #include "quorvane/diagnostics/languageOf.h"
+#include "quorvane/diagnostics/textFile.h"
 #include "quorvane/support/codePage1252.h"
 
 namespace quorvane::cli {
@@ -79,6 +80,10 @@ ExitStatus CheckJob::run() {
 void CheckJob::checkStyles(const std::string& file) {
     try {
         const std::string bytes = platform_.readFile(file);
+        if (const std::optional<quorvane::Diagnostic> binary = findNotATextFile(bytes)) {
+            tell(file, *binary, windowOf({}));
+            return;
+        }
         styles_.emplace(utf8FromCodePage1252(bytes));
         tellAll(file, checkStyleSheet(styles_->text()), bytes);
         if (!openingOfDescription(styles_->text()).empty()) {
@@ -105,8 +110,8 @@ void CheckJob::checkFile(const std::string& file) {
             std::ifstream stream(path, std::ios::binary);
             const std::string beginning = readPiece(stream);
             const bool isRead = stream.is_open() && !stream.bad();
-            if (isRead && languageOf(beginning, file) == CheckedLanguage::Rtf &&
-                !isStyleSheetName(file)) {
+            if (isRead && !findNotATextFile(beginning) &&
+                languageOf(beginning, file) == CheckedLanguage::Rtf && !isStyleSheetName(file)) {
                 checkRtfFile(file, stream, beginning);
                 return;
             }
@@ -119,6 +124,10 @@ void CheckJob::checkFile(const std::string& file) {
 }
 
 void CheckJob::checkText(const std::string& file, std::string_view bytes) {
+    if (const std::optional<quorvane::Diagnostic> binary = findNotATextFile(bytes)) {
+        tell(file, *binary, windowOf({}));
+        return;
+    }
     const CheckedLanguage language = languageOf(bytes, file);
     tellAll(file, findNameMismatch(bytes, language, file), bytes);
     switch (language) {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "cli/CheckJob.h"
+#include "cli/FindingReport.h"
 #include "cli/RenderOptions.h"
 #include "cli/SarifLog.h"
 #include "cli/colors.h"
@@ -11,7 +12,6 @@
 #include "cli/diagnosticText.h"
 #include "cli/explanation.h"
 #include "cli/findingJson.h"
-#include "cli/findingText.h"
 #include "cli/process.h"
 
 namespace quorvane::cli {
@@ -63,12 +63,12 @@ ExitStatus checkAndTell(const CheckOptions& options) {
         return ExitStatus::Success;
     }
     SarifLog log;
+    FindingReport text(colors, [&](std::string_view part) { report.add(part); });
     const auto find = [&](const std::string& file, const quorvane::Diagnostic& finding,
                           const FileWindow& window) {
         switch (options.form) {
             case FindingsForm::Text:
-                report.add(findingText(shownName(file), finding, excerptAt(finding.place, window),
-                                       colors));
+                text.add(shownName(file), finding, window);
                 break;
             case FindingsForm::Json:
                 report.add(findingJson(shownName(file), finding) + "\n");
@@ -80,6 +80,7 @@ ExitStatus checkAndTell(const CheckOptions& options) {
     };
     const auto fail = [&](const Diagnostic& failure) { tellFailure(failure, options.form); };
     const ExitStatus status = CheckJob(options, find, fail).run();
+    text.end();
     if (options.form == FindingsForm::Sarif) {
         report.add(log.text(status != ExitStatus::Failure));
     }

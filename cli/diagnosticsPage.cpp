@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "cli/CheckJob.h"
-#include "cli/findingText.h"
+#include "cli/FindingReport.h"
 #include "cli/oneLine.h"
 #include "quorvane/diagnostics/TrialPlatform.h"
 #include "quorvane/diagnostics/diagnosticRules.h"
@@ -74,13 +74,13 @@ std::string reportOf(const DiagnosticRule& rule) {
         files.add(styleSheetName, rule.wrong);
     }
     std::string report;
+    FindingReport text(Colors::Off, [&](std::string_view part) { report += part; });
     const auto find = [&](const std::string& file, const quorvane::Diagnostic& finding,
-                          const FileWindow& window) {
-        report += findingText(file, finding, excerptAt(finding.place, window), Colors::Off);
-    };
+                          const FileWindow& window) { text.add(file, finding, window); };
     CheckJob(
         options, find, [](const Diagnostic&) {}, files)
         .run();
+    text.end();
     return report;
 }
 
