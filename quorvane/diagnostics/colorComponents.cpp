@@ -79,10 +79,18 @@ std::optional<ColorComponents> decimal(std::string_view text) {
                                : std::nullopt;
 }
 
-/// How far two colors are from each other, the eye's sense of each component considered.
+/// How far a color is from gray.
+int chroma(const ColorComponents& color) {
+    const auto [least, greatest] = std::minmax({color.red, color.green, color.blue});
+    return greatest - least;
+}
+
+/// How far two colors are from each other, the eye's sense of each component considered; a gray is
+/// nearer to a gray than to a pale color.
 int distance(const ColorComponents& a, const ColorComponents& b) {
     const auto square = [](int difference) { return difference * difference; };
-    return 3 * square(a.red - b.red) + 4 * square(a.green - b.green) + 2 * square(a.blue - b.blue);
+    return 3 * square(a.red - b.red) + 4 * square(a.green - b.green) + 2 * square(a.blue - b.blue) +
+           2 * square(chroma(a) - chroma(b));
 }
 
 }  // namespace

@@ -352,15 +352,17 @@ private:
                            {std::to_string(total), std::to_string(room)},
                            marginsHint(document, total));
         }
-        // On a page that fits the table it is the order of the cells that takes widths away.
+        // The page is to be made to fit the table; then it is the order of the cells that takes
+        // widths away.
         const bool fits = static_cast<double>(std::abs(total - room)) <= room * (1 - mostUsed);
-        bool hasHint = !fits;
+        const std::int32_t roomToBe = fits ? room : static_cast<std::int32_t>(total);
+        bool hasHint = false;
         for (std::size_t i = 0; i < nodes.size(); ++i) {
             if (percents[i] && isOfOtherWidth(widths, i, *percents[i], room)) {
                 report(DiagnosticId::WidthClamped, *nodes[i]->find("cell-width"),
                        {std::to_string(std::lround(widths[i] * 100.0 / room)),
                         nodes[i]->find("cell-width")->text},
-                       std::exchange(hasHint, true) ? Hint() : orderHint(percents, room));
+                       std::exchange(hasHint, true) ? Hint() : orderHint(percents, roomToBe));
             }
         }
     }

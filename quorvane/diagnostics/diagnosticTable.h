@@ -785,6 +785,31 @@ QUORVANE_DIAGNOSTIC(UnbalancedBrace, "unbalanced-brace", Warning, Description,
     "doc)\n",
     "")
 
+QUORVANE_DIAGNOSTIC(HiddenBraces, "hidden-braces", Warning, Description,
+    "The braces are not shown.",
+    "Texts go into the document as they are, and a pair of braces is a group in RTF: readers show "
+    "what it holds without the braces. Write `\\{` and `\\}` for braces that shall be seen. A group "
+    "with a control word, such as `{\\b Total}`, is what braces are for.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Lock {cylinder})\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Lock \\{cylinder\\})\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
 QUORVANE_DIAGNOSTIC(LoneBackslash, "lone-backslash", Warning, Description,
     "The backslash swallows what follows it.",
     "Texts and formats go into the document as they are, and a backslash begins a control "

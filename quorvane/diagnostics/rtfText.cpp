@@ -469,7 +469,20 @@ private:
         }
     }
 
+    /// A group of nothing but words at a text's own level, whose braces were meant to be seen.
+    void findHiddenBraces() {
+        const std::size_t end = text_.find_first_of("{}\\<", at_ + 1);
+        if (use_ != TextUse::Text || groups_.size() > 1 || end == nowhere || text_[end] != '}' ||
+            trimWhitespace(text_.substr(at_ + 1, end - at_ - 1)).empty()) {
+            return;
+        }
+        const std::string_view group = text_.substr(at_, end + 1 - at_);
+        report(DiagnosticId::HiddenBraces, group.size(), {},
+               "write \\{ and \\} for braces to be seen");
+    }
+
     void openGroup() {
+        findHiddenBraces();
         Group group = groups_.back();
         groups_.back().isFresh = false;
         group.brace = at_++;
