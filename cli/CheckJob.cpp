@@ -24,6 +24,7 @@
 #include "quorvane/diagnostics/fileNameCheck.h"
 #include "quorvane/diagnostics/ignoreComments.h"
 #include "quorvane/diagnostics/languageOf.h"
+#include "quorvane/diagnostics/textFile.h"
 #include "quorvane/support/codePage1252.h"
 
 namespace quorvane::cli {
@@ -117,8 +118,11 @@ void CheckJob::checkStyles(const std::string& file) {
             const std::string text = utf8FromCodePage1252(bytes);
             return reported(checkStyleSheet(text), text, CheckedLanguage::StyleSheet);
         };
-        styles_.emplace(
-            utf8FromCodePage1252(tellText(file, platform_.readFile(file), false, check)));
+        const auto bytes = tellText(file, platform_.readFile(file), false, check);
+        if (!bytes) {
+            return;
+        }
+        styles_.emplace(utf8FromCodePage1252(*bytes));
         if (!openingOfDescription(styles_->text()).empty()) {
             styles_.reset();
         }
@@ -168,8 +172,8 @@ void CheckJob::checkFile(const std::string& file) {
             std::ifstream stream(path, std::ios::binary);
             const std::string beginning = readPiece(stream);
             const bool isRead = stream.is_open() && !stream.bad();
-            if (isRead && languageOf(beginning, file) == CheckedLanguage::Rtf &&
-                !isStyleSheetName(file)) {
+            if (isRead && !findNotATextFile(beginning) &&
+                languageOf(beginning, file) == CheckedLanguage::Rtf && !isStyleSheetName(file)) {
                 checkRtfFile(file, stream, beginning);
                 return;
             }
@@ -182,7 +186,6 @@ void CheckJob::checkFile(const std::string& file) {
 
 void CheckJob::checkText(const std::string& file, std::string_view bytes, bool isStream) {
     const CheckedLanguage language = languageOf(bytes, file);
-    checkedDescriptions_ = checkedDescriptions_ || language == CheckedLanguage::Description;
     tellText(file, bytes, isStream,
              [&](std::string_view text) { return findingsOf(file, text, language); });
 }
@@ -202,6 +205,7 @@ std::vector<quorvane::Diagnostic> CheckJob::findingsOf(const std::string& file,
             findings = checkStyleSheet(text);
             break;
         case CheckedLanguage::Description:
+            checkedDescriptions_ = true;
             text = utf8FromCodePage1252(bytes);
             findings = checkDescription(text, styles_ ? &*styles_ : nullptr);
             break;
@@ -225,10 +229,19 @@ std::vector<quorvane::Diagnostic> CheckJob::reported(std::vector<quorvane::Diagn
 }
 
 /// Tells what the check finds in a text, and fixes the file where that is asked for. Returns the
-/// bytes of the text as they are afterwards, or would be.
-std::string CheckJob::tellText(const std::string& file, std::string_view bytes, bool isStream,
-                               const TextCheck& check) {
+/// bytes of the text as they are afterwards, or would be; nothing for what is no text.
+std::optional<std::string> CheckJob::tellText(const std::string& file, std::string_view bytes,
+                                              bool isStream, const TextCheck& check) {
     ++counts_.files;
+    if (const std::optional<quorvane::Diagnostic> binary = findNotATextFile(bytes)) {
+        if (isReported(binary->id)) {
+            tell(file, *binary, windowOf({}));
+        }
+        if (isStream && options_.fixes && !options_.showsDiff) {
+            write_(bytes);
+        }
+        return std::nullopt;
+    }
     if (!options_.fixes && !options_.showsDiff) {
         tellAll(file, check(bytes), bytes);
         return std::string(bytes);

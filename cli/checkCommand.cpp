@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "cli/CheckJob.h"
+#include "cli/FindingReport.h"
 #include "cli/RenderOptions.h"
 #include "cli/SarifLog.h"
 #include "cli/checkSummary.h"
@@ -18,7 +19,6 @@
 #include "cli/explanation.h"
 #include "cli/fileFailure.h"
 #include "cli/findingJson.h"
-#include "cli/findingText.h"
 #include "cli/process.h"
 #include "cli/ruleNamed.h"
 #include "cli/unifiedDiff.h"
@@ -129,12 +129,12 @@ ExitStatus checkAndTell(const CheckOptions& options) {
         bytes.emplace(true);
     }
     SarifLog log;
+    FindingReport text(colors, [&](std::string_view part) { report.add(part); });
     const auto find = [&](const std::string& file, const quorvane::Diagnostic& finding,
                           const FileWindow& window) {
         switch (options.form) {
             case FindingsForm::Text:
-                report.add(findingText(shownName(file), finding, excerptAt(finding.place, window),
-                                       colors));
+                text.add(shownName(file), finding, window);
                 break;
             case FindingsForm::Json:
                 report.add(findingJson(shownName(file), finding) + "\n");
@@ -155,6 +155,7 @@ ExitStatus checkAndTell(const CheckOptions& options) {
     };
     CheckJob job(options, find, fail, systemPlatform(), write);
     const ExitStatus status = job.run();
+    text.end();
     if (options.form == FindingsForm::Sarif) {
         report.add(log.text(!job.hasFailed()));
     } else if (options.form == FindingsForm::Text && !options.isQuiet) {
