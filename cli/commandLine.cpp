@@ -247,18 +247,17 @@ CLI::App* addCheckCommand(CLI::App& app, CheckOptions& options) {
         ->allow_extra_args();
     check
         ->add_option("-s,--stylesheet", storeIn(options.styleSheet),
-                     "Look the styles of descriptions up in this .rtfss file, and check it too")
+                     "Look styles up in this .rtfss file; check it too")
         ->type_name("FILE");
     check
         ->add_option("--diagnostics", storeIn(options.form),
-                     "Tell findings as text, as JSON objects or as a SARIF log")
+                     "Report as text, JSON objects or a SARIF log")
         ->type_name("text|json|sarif")
         ->check(CLI::IsMember(findingsForms()).description(""));
     check->add_flag("--fix", options.fixes, "Make the replacements that are certain");
     check->add_flag("--diff", options.showsDiff, "Show what --fix would change; change nothing");
     addIdentifiersOption(*check, "--ignore", options.ignored, "Leave these diagnostics out");
-    addIdentifiersOption(*check, "--enable", options.enabled,
-                         "Report these too, which are off by default");
+    addIdentifiersOption(*check, "--enable", options.enabled, "Report these too, off by default");
     check
         ->add_option("--fail-on", storeIn(options.failOn),
                      "From which severity on the exit status is not 0")

@@ -108,7 +108,7 @@ TEST(CommandLine, ShowsTheHelpOfRenderWithEveryOptionAndTheExitStatuses) {
 
 TEST(CommandLine, ShowsNoLongLinesOfHelp) {
     std::size_t length = 0;
-    for (const char* command : {"render", "format", "help"}) {
+    for (const char* command : {"render", "check", "format", "help"}) {
         for (const char character : informationOf({command, "--help"})) {
             length = character == '\n' ? 0 : length + 1;
             ASSERT_LE(length, 80U);
