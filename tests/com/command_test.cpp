@@ -54,7 +54,9 @@ TEST_P(GoldenCommand, GivesTheExpectedBytes) {
             (hasStyleSheet ? L" -s style.rtfss" : L"") + L" description.rtfspec",
         folder);
 
-    EXPECT_EQ(bytesOfFile(document), bytesOfFile(folder + L"\\expected.rtf"));
+    // Where nothing could be built in spite of errors, nothing is written.
+    const std::string expected = bytesOfFile(folder + L"\\expected.rtf");
+    EXPECT_EQ(bytesOfFile(document), hasErrors && expected == "{}" ? "" : expected);
     EXPECT_EQ(result.status, hasErrors ? 1U : 0U);
     EXPECT_EQ(result.errors.empty(), !hasErrors) << result.errors;
     DeleteFileW(document.c_str());
@@ -107,6 +109,36 @@ TEST(Command, FailsWhenAnotherProgramHoldsTheDocument) {
     EXPECT_EQ(bytesOfFile(document), "as it was");
     DeleteFileW(description.c_str());
     DeleteFileW(document.c_str());
+}
+
+TEST(Command, NeverWritesOverADescription) {
+    const std::string bytes = "(doc\r\n(r\r\n(c\r\nc)\r\nr)\r\ndoc)";
+    const std::wstring description = temporaryFile(L"over.rtfspec");
+    const std::wstring other = temporaryFile(L"other.rtf");
+    writeFile(description, bytes);
+    writeFile(other, bytes);
+
+    for (const std::wstring& output :
+         {L"-o " + inQuotes(other), L"-o " + inQuotes(description), std::wstring(L"--output=")}) {
+        const ProcessResult result = runCommand(L"render " + output + L" " + inQuotes(description));
+
+        EXPECT_EQ(result.errors.substr(0, 10), "quorvane: ");
+        EXPECT_EQ(result.status, 2U);
+    }
+
+    EXPECT_EQ(bytesOfFile(description), bytes);
+    EXPECT_EQ(bytesOfFile(other), bytes);
+    DeleteFileW(description.c_str());
+    DeleteFileW(other.c_str());
+}
+
+TEST(Command, NamesAFileThatIsNotThereInTheWordsOfTheSystem) {
+    for (const wchar_t* command : {L"render", L"check", L"format"}) {
+        const ProcessResult result = runCommand(command + std::wstring(L" nosuch.rtfspec"));
+
+        EXPECT_EQ(result.errors, "nosuch.rtfspec: No such file or directory\n");
+        EXPECT_EQ(result.status, 2U);
+    }
 }
 
 }  // namespace
