@@ -21,6 +21,36 @@ ProcessResult runCommand(const std::wstring& arguments, const std::wstring& fold
     return Process(inQuotes(path) + L" " + arguments, folder).wait();
 }
 
+/// Runs the command with a standard output that nobody reads and the standard error of the test.
+DWORD statusWithoutReader(const std::wstring& arguments) {
+    SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
+    HANDLE readEnd = nullptr;
+    HANDLE writeEnd = nullptr;
+    if (!CreatePipe(&readEnd, &writeEnd, &inherited, 0)) {
+        return GetLastError();
+    }
+    CloseHandle(readEnd);
+    STARTUPINFOW start{};
+    start.cb = sizeof start;
+    start.dwFlags = STARTF_USESTDHANDLES;
+    start.hStdOutput = writeEnd;
+    start.hStdError = GetStdHandle(STD_ERROR_HANDLE);
+    std::wstring line = inQuotes(wideText(QUORVANE_COMMAND)) + L" " + arguments;
+    PROCESS_INFORMATION process{};
+    DWORD status = 0;
+    if (CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start,
+                       &process)) {
+        WaitForSingleObject(process.hProcess, INFINITE);
+        GetExitCodeProcess(process.hProcess, &status);
+        CloseHandle(process.hThread);
+        CloseHandle(process.hProcess);
+    } else {
+        status = GetLastError();
+    }
+    CloseHandle(writeEnd);
+    return status;
+}
+
 /// The folders of the descriptions with the bytes that must come out of them.
 std::vector<std::wstring> goldenCases() {
     std::vector<std::wstring> names;
@@ -109,6 +139,11 @@ TEST(Command, FailsWhenAnotherProgramHoldsTheDocument) {
     EXPECT_EQ(bytesOfFile(document), "as it was");
     DeleteFileW(description.c_str());
     DeleteFileW(document.c_str());
+}
+
+TEST(Command, EndsQuietlyWhenNobodyReadsItsOutput) {
+    EXPECT_EQ(statusWithoutReader(L"--help"), 0U);
+    EXPECT_EQ(statusWithoutReader(L"check --explain wrong-color"), 0U);
 }
 
 TEST(Command, NeverWritesOverADescription) {
