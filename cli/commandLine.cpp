@@ -289,13 +289,10 @@ CLI::App* addFormatCommand(CLI::App& app, FormatOptions& options) {
         ->required()
         ->expected(1, CLI::detail::expected_max_vector_size)
         ->allow_extra_args();
-    format
-        ->add_option("--names", storeIn(options.names),
-                     "Write long or short names in descriptions, or keep them")
+    format->add_option("--names", storeIn(options.names), "Write long or short names, or keep them")
         ->type_name("long|short|keep")
         ->check(CLI::IsMember(nameForms()).description(""));
-    format->add_flag("--check", options.check,
-                     "Change nothing; name files that are not in their form");
+    format->add_flag("--check", options.check, "Change nothing; name files that would change");
     format->add_flag("--diff", options.diff, "Change nothing; show what would change");
     addStdinFilename(*format, options.stdinName);
     refuseEmptyValues(*format);
