@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "cli/RenderOptions.h"
+#include "cli/fileFailure.h"
 #include "cli/filesBelow.h"
 #include "cli/process.h"
 #include "cli/ruleNamed.h"
@@ -23,6 +24,7 @@
 #include "quorvane/diagnostics/fileNameCheck.h"
 #include "quorvane/diagnostics/ignoreComments.h"
 #include "quorvane/diagnostics/languageOf.h"
+#include "quorvane/diagnostics/textFile.h"
 #include "quorvane/support/codePage1252.h"
 
 namespace quorvane::cli {
@@ -72,8 +74,10 @@ bool isSameFile(const std::string& a, const std::string& b) {
     return std::filesystem::equivalent(pathFromUtf8(a), pathFromUtf8(b), failure);
 }
 
-RtfError errorSaying(std::string what) {
-    return {static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), std::move(what)};
+/// A file that is not treated as asked for, for another reason than one of the system.
+Diagnostic refusal(const std::string& file, const char* why) {
+    const auto number = static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall);
+    return {DiagnosticKind::Raised, file, RtfError(number, why), why};
 }
 
 }  // namespace
@@ -114,12 +118,16 @@ void CheckJob::checkStyles(const std::string& file) {
             const std::string text = utf8FromCodePage1252(bytes);
             return reported(checkStyleSheet(text), text, CheckedLanguage::StyleSheet);
         };
-        styles_.emplace(utf8FromCodePage1252(tellText(file, platform_.readFile(file), check)));
+        const auto bytes = tellText(file, platform_.readFile(file), false, check);
+        if (!bytes) {
+            return;
+        }
+        styles_.emplace(utf8FromCodePage1252(*bytes));
         if (!openingOfDescription(styles_->text()).empty()) {
             styles_.reset();
         }
     } catch (const RtfError& error) {
-        fail(file, error);
+        fail(unreadableFile(file, file, error));
     }
 }
 
@@ -137,10 +145,10 @@ void CheckJob::checkFolder(const std::string& folder) {
     for (const auto& [name, failure] : contents.failures) {
         RtfError error(RunTimeError::PathFileAccessError);
         error.cause = std::make_shared<RtfError>(failure.value(), failure.message());
-        fail(name, error);
+        fail(fileFailure(name, error));
     }
     if (contents.files.empty() && contents.failures.empty()) {
-        fail(folder, errorSaying("No .rtfspec, .rtfss or .rtf files in this folder"));
+        fail(refusal(folder, "The folder has no .rtfspec, .rtfss or .rtf files"));
     }
     for (const std::string& file : contents.files) {
         if (!options_.styleSheet || !isSameFile(file, *options_.styleSheet)) {
@@ -152,7 +160,7 @@ void CheckJob::checkFolder(const std::string& folder) {
 void CheckJob::checkFile(const std::string& file) {
     try {
         if (file == standardStream) {
-            checkText(file, readStandardInput());
+            checkText(options_.stdinName.value_or(file), readStandardInput(), true);
             return;
         }
         // The file of an RTF document may be larger than the memory. A file that is something else
@@ -164,22 +172,22 @@ void CheckJob::checkFile(const std::string& file) {
             std::ifstream stream(path, std::ios::binary);
             const std::string beginning = readPiece(stream);
             const bool isRead = stream.is_open() && !stream.bad();
-            if (isRead && languageOf(beginning, file) == CheckedLanguage::Rtf &&
-                !isStyleSheetName(file)) {
+            if (isRead && !findNotATextFile(beginning) &&
+                languageOf(beginning, file) == CheckedLanguage::Rtf && !isStyleSheetName(file)) {
                 checkRtfFile(file, stream, beginning);
                 return;
             }
         }
-        checkText(file, platform_.readFile(file));
+        checkText(file, platform_.readFile(file), false);
     } catch (const RtfError& error) {
-        fail(file, error);
+        fail(unreadableFile(shownName(file), file, error));
     }
 }
 
-void CheckJob::checkText(const std::string& file, std::string_view bytes) {
+void CheckJob::checkText(const std::string& file, std::string_view bytes, bool isStream) {
     const CheckedLanguage language = languageOf(bytes, file);
-    checkedDescriptions_ = checkedDescriptions_ || language == CheckedLanguage::Description;
-    tellText(file, bytes, [&](std::string_view text) { return findingsOf(file, text, language); });
+    tellText(file, bytes, isStream,
+             [&](std::string_view text) { return findingsOf(file, text, language); });
 }
 
 std::vector<quorvane::Diagnostic> CheckJob::findingsOf(const std::string& file,
@@ -197,6 +205,7 @@ std::vector<quorvane::Diagnostic> CheckJob::findingsOf(const std::string& file,
             findings = checkStyleSheet(text);
             break;
         case CheckedLanguage::Description:
+            checkedDescriptions_ = true;
             text = utf8FromCodePage1252(bytes);
             findings = checkDescription(text, styles_ ? &*styles_ : nullptr);
             break;
@@ -220,54 +229,63 @@ std::vector<quorvane::Diagnostic> CheckJob::reported(std::vector<quorvane::Diagn
 }
 
 /// Tells what the check finds in a text, and fixes the file where that is asked for. Returns the
-/// bytes of the text as they are afterwards, or would be.
-std::string CheckJob::tellText(const std::string& file, std::string_view bytes,
-                               const TextCheck& check) {
+/// bytes of the text as they are afterwards, or would be; nothing for what is no text.
+std::optional<std::string> CheckJob::tellText(const std::string& file, std::string_view bytes,
+                                              bool isStream, const TextCheck& check) {
     ++counts_.files;
+    if (const std::optional<quorvane::Diagnostic> binary = findNotATextFile(bytes)) {
+        if (isReported(binary->id)) {
+            tell(file, *binary, windowOf({}));
+        }
+        if (isStream && options_.fixes && !options_.showsDiff) {
+            write_(bytes);
+        }
+        return std::nullopt;
+    }
     if (!options_.fixes && !options_.showsDiff) {
         tellAll(file, check(bytes), bytes);
         return std::string(bytes);
     }
-    const FixedText fixed = fixText(bytes, check);
+    FixedText fixed = fixText(bytes, check);
     if (fixed.wasRefused) {
-        fail_({DiagnosticKind::Raised, file,
-               errorSaying("Not fixed: with its fixes the file would have more errors")});
+        fail_(refusal(shownName(file), "Not fixed: with its fixes it would have more errors"));
     }
-    if (options_.showsDiff || !writeFixed(file, bytes, fixed)) {
+    if (options_.showsDiff) {
         tellAll(file, fixed.rounds.empty() ? fixed.remaining : check(bytes), bytes);
-        if (options_.showsDiff) {
-            write_(unifiedDiff(file == standardStream ? "stdin" : file, bytes, fixed.bytes));
+        write_(unifiedDiff(file == standardStream ? "stdin" : file, bytes, fixed.bytes));
+    } else if (isStream || writeFixed(file, bytes, fixed)) {
+        for (const FixedText::Round& round : fixed.rounds) {
+            tellAll(file, round.fixed, round.bytes);
         }
-        return options_.showsDiff ? fixed.bytes : std::string(bytes);
+        tellAll(file, fixed.remaining, fixed.bytes);
+    } else {
+        tellAll(file, check(bytes), bytes);
+        fixed.bytes = bytes;
     }
-    for (const FixedText::Round& round : fixed.rounds) {
-        tellAll(file, round.fixed, round.bytes);
+    if (isStream && !options_.showsDiff) {
+        write_(fixed.bytes);
     }
-    tellAll(file, fixed.remaining, fixed.bytes);
     return fixed.bytes;
 }
 
 /// Writes the fixed text in the place of the one before; false when that fails.
 bool CheckJob::writeFixed(const std::string& file, std::string_view before,
                           const FixedText& fixed) {
-    if (file == standardStream) {
-        write_(fixed.bytes);
-        return true;
-    }
     if (fixed.bytes == before) {
         return true;
     }
+    std::error_code failure;
+    if (!std::filesystem::is_regular_file(pathFromUtf8(file), failure)) {
+        fail(refusal(file, "Not fixed: this is not a regular file"));
+        return false;
+    }
     try {
-        std::error_code failure;
-        if (!std::filesystem::is_regular_file(pathFromUtf8(file), failure)) {
-            raise(errorSaying("Not fixed: this is not a regular file"));
-        }
         const std::unique_ptr<OutputFile> output = openReplacement(file);
         output->write(fixed.bytes);
         output->close();
         return true;
     } catch (const RtfError& error) {
-        fail(file, error);
+        fail(fileFailure(file, error));
         return false;
     }
 }
@@ -307,9 +325,13 @@ void CheckJob::checkRtfFile(const std::string& file, std::istream& stream,
     tellHeld();
 }
 
-void CheckJob::fail(const std::string& file, const RtfError& error) {
+std::string CheckJob::shownName(const std::string& file) const {
+    return file == standardStream ? options_.stdinName.value_or("<stdin>") : file;
+}
+
+void CheckJob::fail(const Diagnostic& failure) {
     hasFailed_ = true;
-    fail_({DiagnosticKind::Raised, file, error});
+    fail_(failure);
 }
 
 void CheckJob::tell(const std::string& file, const quorvane::Diagnostic& finding,

@@ -40,7 +40,7 @@ struct CheckCounts {
 /// and fixes descriptions and stylesheets where it is asked to. RTF files are read in pieces.
 class CheckJob {
 public:
-    /// Takes bytes for standard output: the fixed text of standard input, or a diff.
+    /// Takes bytes for standard output: the text of standard input with its fixes, or a diff.
     using BytesSink = std::function<void(std::string_view)>;
 
     /// The platform must outlive the job. The last sink is needed only for fixes.
@@ -60,7 +60,7 @@ private:
     void checkStyles(const std::string& file);
     void checkFolder(const std::string& folder);
     void checkFile(const std::string& file);
-    void checkText(const std::string& file, std::string_view bytes);
+    void checkText(const std::string& file, std::string_view bytes, bool isStream);
     void checkRtfFile(const std::string& file, std::istream& stream, const std::string& beginning);
     void findUnused();
 
@@ -69,9 +69,11 @@ private:
                                                  CheckedLanguage language);
     std::vector<quorvane::Diagnostic> reported(std::vector<quorvane::Diagnostic> findings,
                                                std::string_view text, CheckedLanguage language);
-    std::string tellText(const std::string& file, std::string_view bytes, const TextCheck& check);
+    std::optional<std::string> tellText(const std::string& file, std::string_view bytes,
+                                        bool isStream, const TextCheck& check);
     bool writeFixed(const std::string& file, std::string_view before, const FixedText& fixed);
-    void fail(const std::string& file, const RtfError& error);
+    std::string shownName(const std::string& file) const;
+    void fail(const Diagnostic& failure);
     void tell(const std::string& file, const quorvane::Diagnostic& finding,
               const FileWindow& window);
     void tellAll(const std::string& file, const std::vector<quorvane::Diagnostic>& findings,

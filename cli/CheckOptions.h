@@ -4,13 +4,12 @@
 #include <string>
 #include <vector>
 
+#include "cli/FailOn.h"
+
 namespace quorvane::cli {
 
 /// The form in which findings are told on standard output.
 enum class FindingsForm { Text, Json, Sarif };
-
-/// From which severity on a finding makes the exit status another one than 0.
-enum class FailOn { Error, Warning, Never };
 
 /// What `quorvane check` was asked to do. Paths are as they were given; "-" is standard input, and a
 /// folder stands for the files below it.
@@ -28,6 +27,8 @@ struct CheckOptions {
     bool fixes = false;
     /// Shows what the fixes would change, and makes none.
     bool showsDiff = false;
+    /// The name that standard input is checked and reported under.
+    std::optional<std::string> stdinName;
     /// The identifier to be explained instead.
     std::optional<std::string> explained;
     /// Lists the diagnostics instead.

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "cli/CheckJob.h"
+#include "cli/FindingReport.h"
 #include "cli/RenderOptions.h"
 #include "cli/SarifLog.h"
 #include "cli/checkSummary.h"
@@ -16,8 +17,8 @@
 #include "cli/diagnosticJson.h"
 #include "cli/diagnosticText.h"
 #include "cli/explanation.h"
+#include "cli/fileFailure.h"
 #include "cli/findingJson.h"
-#include "cli/findingText.h"
 #include "cli/process.h"
 #include "cli/ruleNamed.h"
 #include "cli/unifiedDiff.h"
@@ -88,8 +89,7 @@ private:
     std::string gathered_;
 };
 
-void tellFailure(Diagnostic failure, FindingsForm form) {
-    failure.file = shownName(failure.file);
+void tellFailure(const Diagnostic& failure, FindingsForm form) {
     writeToStandardError(
         (form == FindingsForm::Text ? diagnosticText(failure) : diagnosticJson(failure)) + "\n");
 }
@@ -129,12 +129,12 @@ ExitStatus checkAndTell(const CheckOptions& options) {
         bytes.emplace(true);
     }
     SarifLog log;
+    FindingReport text(colors, [&](std::string_view part) { report.add(part); });
     const auto find = [&](const std::string& file, const quorvane::Diagnostic& finding,
                           const FileWindow& window) {
         switch (options.form) {
             case FindingsForm::Text:
-                report.add(findingText(shownName(file), finding, excerptAt(finding.place, window),
-                                       colors));
+                text.add(shownName(file), finding, window);
                 break;
             case FindingsForm::Json:
                 report.add(findingJson(shownName(file), finding) + "\n");
@@ -148,13 +148,14 @@ ExitStatus checkAndTell(const CheckOptions& options) {
         }
     };
     const auto fail = [&](const Diagnostic& failure) { tellFailure(failure, options.form); };
-    const auto write = [&](std::string_view text) {
+    const auto write = [&](std::string_view part) {
         bytes->add(options.showsDiff && standardOutputIsTerminal()
-                       ? diffForTerminal(text, outputColors)
-                       : text);
+                       ? diffForTerminal(part, outputColors)
+                       : part);
     };
     CheckJob job(options, find, fail, systemPlatform(), write);
     const ExitStatus status = job.run();
+    text.end();
     if (options.form == FindingsForm::Sarif) {
         report.add(log.text(!job.hasFailed()));
     } else if (options.form == FindingsForm::Text && !options.isQuiet) {
@@ -173,7 +174,7 @@ ExitStatus check(const CheckOptions& options) {
     try {
         return checkAndTell(options);
     } catch (const OutputFailure& failure) {
-        tellFailure({DiagnosticKind::Raised, "<stdout>", failure.error}, options.form);
+        tellFailure(fileFailure("<stdout>", failure.error), options.form);
         return ExitStatus::Failure;
     }
 }

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "cli/CheckJob.h"
-#include "cli/findingText.h"
+#include "cli/FindingReport.h"
 #include "cli/oneLine.h"
 #include "quorvane/diagnostics/TrialPlatform.h"
 #include "quorvane/support/trimming.h"
@@ -66,10 +66,10 @@ void checkExample(const DiagnosticRule& rule, const FindingSink& find) {
 
 std::string exampleReport(const DiagnosticRule& rule) {
     std::string report;
+    FindingReport text(Colors::Off, [&](std::string_view part) { report += part; });
     checkExample(rule, [&](const std::string& file, const quorvane::Diagnostic& finding,
-                           const FileWindow& window) {
-        report += findingText(file, finding, excerptAt(finding.place, window), Colors::Off);
-    });
+                           const FileWindow& window) { text.add(file, finding, window); });
+    text.end();
     return report;
 }
 

@@ -17,6 +17,7 @@ namespace quorvane {
 namespace {
 
 constexpr std::int32_t lastNumbers[] = {1999, 2999, 3999, 999};
+constexpr std::ptrdiff_t mostNodes = 999;
 constexpr std::string_view kindsInMessages[] = {"row", "cell", "para", "doc"};
 
 std::size_t code(NodeKind kind) {
@@ -210,7 +211,7 @@ private:
         if (number > lastNumbers[code(kind)] && !isOverLimit_[code(kind)]) {
             isOverLimit_[code(kind)] = true;
             engine_.report(DiagnosticId::TooManyNodes, source_.placeOf(line),
-                           {kindsInMessages[code(kind)]});
+                           {kindsInMessages[code(kind)]}, tooManyHint(kind));
         }
         OutlineNode& parent = *levels_.back().node;
         if (kind != NodeKind::Doc && !nests(parent.kind, kind)) {
@@ -230,6 +231,21 @@ private:
         addNode(parent, kind, number, line);
         openerCount_ = 0;
         ++next_;
+    }
+
+    /// How many nodes of the kind there are, and how many can be read.
+    std::string tooManyHint(NodeKind kind) const {
+        const auto count = std::count_if(lines_.begin(), lines_.end(), [&](const Line& line) {
+            return !line.isInserted && !isLeaf(line.text) && openedKind(line.text, vocabulary_) == kind;
+        });
+        const std::string nodes =
+            std::to_string(count) + " " + std::string(nodeKindName(kind)) + "s";
+        return count <= mostNodes
+                   ? "there are only " + nodes +
+                         ", but each closer that is missing skips numbers: close every node"
+                   : "there are " + nodes + ", and " + std::to_string(mostNodes) +
+                         " can be read: make several descriptions, or use the object model, which "
+                         "has no limit";
     }
 
     void addNode(OutlineNode& parent, NodeKind kind, std::int32_t number, std::string_view line) {

@@ -124,9 +124,15 @@ private:
     }
 
     /// What stands outside of braces says nothing: without any, a text that means to say something
-    /// has no styles.
+    /// has no styles, and neither has an empty one.
     void findKeywordWithoutBraces() {
         const std::string_view text = source_.text();
+        if (trimWhitespace(behindByteOrderMark(text)).empty()) {
+            report(
+                DiagnosticId::NoStyles, text.substr(0, 0), {},
+                "the file is empty; a style is defined in braces: { name: ...; style-def: ... }");
+            return;
+        }
         if (text.find_first_of("{}") != std::string_view::npos) {
             return;
         }

@@ -4,16 +4,22 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
+#include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "quorvane/diagnostics/TrialPlatform.h"
 #include "quorvane/diagnostics/colorContrast.h"
+#include "quorvane/diagnostics/htmlTags.h"
+#include "quorvane/diagnostics/measureHints.h"
 #include "quorvane/diagnostics/nearestWord.h"
 #include "quorvane/diagnostics/rtfControls.h"
 #include "quorvane/diagnostics/rtfText.h"
 #include "quorvane/diagnostics/textColors.h"
 #include "quorvane/diagnostics/trialDocument.h"
+#include "quorvane/diagnostics/widthOrder.h"
 #include "quorvane/support/RtfError.h"
 #include "quorvane/support/numberText.h"
 
@@ -23,6 +29,8 @@ namespace {
 
 constexpr std::size_t mostCells = 63;
 constexpr double leastContrast = 3;
+// A table that uses a larger part of the page's width is none that is too narrow.
+constexpr double mostUsed = 0.95;
 // Pairs of colors that are told of one paragraph.
 constexpr std::size_t mostColorsTold = 10;
 // Looking for the style that was meant takes a while.
@@ -61,12 +69,13 @@ public:
     }
 
     void findInDocument(const OutlineNode& doc, CRtfDoc& document) {
+        findTinyMeasures(doc);
         findMargins(doc, document);
         findRoom(doc, document);
         const Ref<CRtfTableRows> rows = document.TableRows();
         std::int32_t position = 0;
         for (const OutlineNode* row : builtChildren(doc)) {
-            findInRow(*row, *rows->Item(++position), document);
+            findInRow(doc, *row, *rows->Item(++position), document);
         }
     }
 
@@ -179,6 +188,10 @@ private:
             engine_.report(DiagnosticId::EmptyText, source_.place(startOf(leaf), startOf(leaf)));
         }
         findTextWarnings(leaf.text, TextUse::Text, styles_, source_, engine_);
+        for (HtmlTag& tag : htmlTagsIn(leaf.text, styles_)) {
+            engine_.report(DiagnosticId::HtmlTag, source_.placeOf(tag.tag), {tag.tag},
+                           std::move(tag.hint));
+        }
         if (styles_) {
             findInlineStyles(leaf.text);
         }
@@ -229,11 +242,31 @@ private:
         }
     }
 
+    /// What is meant in another unit has consequences for the whole page, of which no more is said.
+    void findTinyMeasures(const OutlineNode& doc) {
+        for (const OutlineLeaf& leaf : doc.leaves) {
+            if (!isSound(&leaf) || !leaf.number || !isTinyMeasure(leaf.key, *leaf.number)) {
+                continue;
+            }
+            report(DiagnosticId::TinyMeasure, leaf,
+                   {leaf.key, leaf.text, millimeterText(*leaf.number)},
+                   tinyMeasureHint(leaf.key, *leaf.number));
+            const bool isOfHeight = leaf.key == "paper-height" || leaf.key.starts_with("top-") ||
+                                    leaf.key.starts_with("bottom-");
+            (isOfHeight ? isHeightDoubtful_ : isWidthDoubtful_) = true;
+        }
+    }
+
     void findMargins(const OutlineNode& doc, const CRtfDoc& document) {
         const auto check = [&](std::string_view key, std::int32_t actual, DiagnosticId id) {
             const OutlineLeaf* leaf = doc.find(key);
-            if (isSound(leaf) && leaf->number && std::abs(*leaf->number - actual) > 0.5) {
+            const bool isOfWidth = key == "left-margin" || key == "right-margin";
+            const bool isDoubtful =
+                key.ends_with("-margin") && (isOfWidth ? isWidthDoubtful_ : isHeightDoubtful_);
+            if (isSound(leaf) && leaf->number && std::abs(*leaf->number - actual) > 0.5 &&
+                !isDoubtful) {
                 report(id, *leaf, {std::to_string(actual)});
+                hasFallenMargin_ = hasFallenMargin_ || isOfWidth;
             }
         };
         check("left-margin", document.LeftMargin(), DiagnosticId::MarginFallback);
@@ -246,8 +279,8 @@ private:
     /// A margin is compared with the paper as it is when the margin's turn comes.
     void findRoom(const OutlineNode& doc, const CRtfDoc& document) {
         const auto check = [&](std::int64_t paper, std::int64_t margins, std::string_view direction,
-                               std::initializer_list<std::string_view> keys) {
-            if (paper > margins) {
+                               std::initializer_list<std::string_view> keys, bool isDoubtful) {
+            if (paper > margins || isDoubtful) {
                 return;
             }
             std::string_view part = doc.line;
@@ -259,19 +292,20 @@ private:
                            {std::to_string(margins), direction, std::to_string(paper)});
         };
         check(document.PageWidth(), std::int64_t{document.LeftMargin()} + document.RightMargin(),
-              "wide", {"left-margin", "right-margin", "paper-width"});
+              "wide", {"left-margin", "right-margin", "paper-width"}, isWidthDoubtful_);
         check(document.PageHeight(), std::int64_t{document.TopMargin()} + document.BottomMargin(),
-              "high", {"top-margin", "bottom-margin", "paper-height"});
+              "high", {"top-margin", "bottom-margin", "paper-height"}, isHeightDoubtful_);
     }
 
-    void findInRow(const OutlineNode& node, CRtfTableRow& row, const CRtfDoc& document) {
+    void findInRow(const OutlineNode& doc, const OutlineNode& node, CRtfTableRow& row,
+                   const CRtfDoc& document) {
         const std::vector<OutlineNode*> nodes = builtChildren(node);
         const Ref<CRtfTableCells> cells = row.TableCells();
         if (nodes.size() > mostCells) {
             engine_.report(DiagnosticId::TooManyCells, source_.placeOf(node.line),
                            {std::to_string(nodes.size())});
         }
-        findWidths(node, nodes, *cells, document);
+        findWidths(doc, node, nodes, *cells, document);
         std::int32_t position = 0;
         for (const OutlineNode* cell : nodes) {
             const bool isLast = cell == nodes.back();
@@ -279,16 +313,19 @@ private:
         }
     }
 
-    void findWidths(const OutlineNode& node, const std::vector<OutlineNode*>& nodes,
-                    const CRtfTableCells& cells, const CRtfDoc& document) {
+    void findWidths(const OutlineNode& doc, const OutlineNode& node,
+                    const std::vector<OutlineNode*>& nodes, const CRtfTableCells& cells,
+                    const CRtfDoc& document) {
         double sum = 0;
         bool allGiven = !nodes.empty();
         std::int64_t total = 0;
         std::vector<std::int32_t> widths;
+        CellPercents percents;
         for (std::size_t i = 0; i < nodes.size(); ++i) {
             const OutlineLeaf* leaf = nodes[i]->find("cell-width");
             allGiven = allGiven && isSound(leaf);
             sum += isSound(leaf) ? *leaf->number : 0;
+            percents.push_back(isSound(leaf) ? leaf->number : std::nullopt);
             widths.push_back(cells.Item(static_cast<std::int32_t>(i) + 1)->Width(eTwips));
             total += widths.back();
         }
@@ -296,7 +333,7 @@ private:
             engine_.report(DiagnosticId::WidthsSum, source_.placeOf(node.line), {numberText(sum)});
         }
         const std::int32_t room = document.TextAreaWidth();
-        if (room <= 0) {
+        if (room <= 0 || isWidthDoubtful_) {
             return;
         }
         // The even widths are rounded, each cell by less than a twip.
@@ -304,21 +341,75 @@ private:
         if (total > room + slack && !toldOverrun_) {
             toldOverrun_ = true;
             engine_.report(DiagnosticId::TableOverrun, source_.placeOf(node.line),
-                           {std::to_string(total), std::to_string(room)});
+                           {std::to_string(total), std::to_string(room)},
+                           marginsHint(document, total));
         }
+        const bool isMeant = nodes.size() == 1 && percents.front();
+        if (static_cast<double>(total) < room * mostUsed - static_cast<double>(slack) && !isMeant &&
+            !hasFallenMargin_ && !toldUnderrun_) {
+            toldUnderrun_ = true;
+            engine_.report(DiagnosticId::TableUnderrun, source_.placeOf(widthLineOf(doc, node)),
+                           {std::to_string(total), std::to_string(room)},
+                           marginsHint(document, total));
+        }
+        // The page is to be made to fit the table; then it is the order of the cells that takes
+        // widths away.
+        const bool fits = static_cast<double>(std::abs(total - room)) <= room * (1 - mostUsed);
+        const std::int32_t roomToBe = fits ? room : static_cast<std::int32_t>(total);
+        bool hasHint = false;
         for (std::size_t i = 0; i < nodes.size(); ++i) {
-            // The last two of several cells share what is left, also of a page that was another
-            // one. Where that is little, only the table as a whole is told of.
-            const bool getsRest = nodes.size() > 1 && i + 2 >= nodes.size();
-            const double rest = std::min(static_cast<double>(std::abs(total - room)), room * 0.05);
-            const double tolerance =
-                room * 0.005 + (getsRest ? rest : 0) + static_cast<double>(slack);
-            const OutlineLeaf* leaf = nodes[i]->find("cell-width");
-            if (isSound(leaf) && std::abs(widths[i] - *leaf->number / 100 * room) > tolerance) {
-                report(DiagnosticId::WidthClamped, *leaf,
-                       {std::to_string(std::lround(widths[i] * 100.0 / room)), leaf->text});
+            if (percents[i] && isOfOtherWidth(widths, i, *percents[i], room)) {
+                report(DiagnosticId::WidthClamped, *nodes[i]->find("cell-width"),
+                       {std::to_string(std::lround(widths[i] * 100.0 / room)),
+                        nodes[i]->find("cell-width")->text},
+                       std::exchange(hasHint, true) ? Hint() : orderHint(percents, roomToBe));
             }
         }
+    }
+
+    /// To try the orders takes a while; rows of one table have the same widths.
+    Hint orderHint(const CellPercents& percents, std::int32_t room) {
+        constexpr std::size_t mostOrders = 20;
+        const auto known = orderHints_.find(percents);
+        if (known != orderHints_.end() || orderHints_.size() >= mostOrders) {
+            return known == orderHints_.end() ? Hint() : known->second;
+        }
+        return orderHints_.emplace(percents, widthOrderHint(percents, room)).first->second;
+    }
+
+    /// The value that the width between the margins comes from, or the row.
+    static std::string_view widthLineOf(const OutlineNode& doc, const OutlineNode& row) {
+        for (const char* key : {"paper-width", "left-margin", "right-margin"}) {
+            if (const OutlineLeaf* leaf = doc.find(key); isSound(leaf)) {
+                return leaf->text;
+            }
+        }
+        return row.line;
+    }
+
+    /// Margins that leave the table its width, tried on the page.
+    static Hint marginsHint(const CRtfDoc& document, std::int64_t tableWidth) {
+        TrialPlatform platform;
+        const Ref<CRtfDoc> trial = CRtfDoc::create(platform);
+        const std::int32_t evenWidth = trial->TextAreaWidth();
+        // Rounded even widths add up to a little more or less.
+        const auto table = std::abs(tableWidth - evenWidth) < 100
+                               ? evenWidth
+                               : static_cast<std::int32_t>(tableWidth);
+        const std::int32_t margins = document.PageWidth() - table;
+        const std::int32_t left = margins / 2;
+        const std::int32_t right = margins - left;
+        // In the order in which the keys are applied.
+        trial->setLeftMargin(left);
+        trial->setPageWidth(document.PageWidth());
+        trial->setRightMargin(right);
+        if (margins < 2 || trial->LeftMargin() != left || trial->RightMargin() != right) {
+            return "the cells are laid out before the page is set up: the paper must be wider than "
+                   "the table";
+        }
+        return "the cells are laid out before the page is set up: (left-margin=" +
+               std::to_string(left) + ") and (right-margin=" + std::to_string(right) +
+               ") leave them " + std::to_string(table) + " twips";
     }
 
     void findInCell(const OutlineNode& node, CRtfTableCell& cell, const CRtfDoc& document,
@@ -397,6 +488,12 @@ private:
     const SourceText& source_;
     DiagnosticEngine& engine_;
     bool toldOverrun_ = false;
+    bool toldUnderrun_ = false;
+    bool hasFallenMargin_ = false;
+    // True for measures that are most likely in another unit.
+    bool isWidthDoubtful_ = false;
+    bool isHeightDoubtful_ = false;
+    std::map<CellPercents, Hint> orderHints_;
     int hints_ = 0;
 };
 

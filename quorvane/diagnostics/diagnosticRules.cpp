@@ -11,9 +11,11 @@ namespace quorvane {
 
 namespace {
 
+constexpr bool corruptsDocument = true;
+
 constexpr DiagnosticRule table[] = {
 #define QUORVANE_DIAGNOSTIC(id, identifier, severity, language, text, explanation, wrong, right, \
-                            companion)                                                           \
+                            companion, ...)                                                      \
     {DiagnosticId::id,                                                                           \
      identifier,                                                                                 \
      Severity::severity,                                                                         \
@@ -22,7 +24,7 @@ constexpr DiagnosticRule table[] = {
      explanation,                                                                                \
      wrong,                                                                                      \
      right,                                                                                      \
-     companion},
+     companion __VA_OPT__(, ) __VA_ARGS__},
 #include "quorvane/diagnostics/diagnosticTable.h"
 };
 

@@ -28,6 +28,8 @@ struct DiagnosticRule {
     /// What the examples are checked together with: a stylesheet for a description, a description
     /// for a stylesheet; empty for none.
     std::string_view companion;
+    /// The text breaks the document that it is written into: readers refuse it or lose a part.
+    bool corruptsDocument = false;
 };
 
 /// The table, in its order.

@@ -2,7 +2,7 @@
 // of it, with the macro defined as what a row shall become; the macro is gone afterwards.
 //
 // QUORVANE_DIAGNOSTIC(enumerator, identifier, severity, language, text, explanation, wrong example,
-//                     right example, companion of the examples)
+//                     right example, companion of the examples[, corruptsDocument])
 
 #ifndef QUORVANE_DIAGNOSTIC
 #define QUORVANE_DIAGNOSTIC(...)
@@ -32,6 +32,15 @@ QUORVANE_DIAGNOSTIC(WrongFileType, "wrong-file-type", Error, Description,
     "c)\n"
     "r)\n"
     "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(NotATextFile, "not-a-text-file", Error, Description,
+    "This is {0}, not {1}.",
+    "Descriptions and stylesheets are texts, one byte a character. A PDF file, a picture, an "
+    "archive, a program, the document of an office program, and a text in UTF-16 cannot be read as "
+    "one. Nothing else is said of such a file.",
+    "",
+    "",
     "")
 
 QUORVANE_DIAGNOSTIC(MissingElement, "missing-element", Error, Description,
@@ -316,8 +325,7 @@ QUORVANE_DIAGNOSTIC(WrongContext, "wrong-context", Error, Description,
 
 QUORVANE_DIAGNOSTIC(WrongColor, "wrong-color", Error, Description,
     "{0} isn't a recognized color.",
-    "A background is the name of one of the 37 colours of the language, or `none`. A number "
-    "is no name.",
+    "A background is the name of one of the 37 colors of the language, or `none`.",
     "(doc\n"
     "(r\n"
     "(rb=crimson)\n"
@@ -647,6 +655,32 @@ QUORVANE_DIAGNOSTIC(UnclosedInlineStyle, "unclosed-inline-style", Warning, Descr
     "{ name: reserved; style-def: s; format: \\fs20 }\n"
     "{ name: strong; style-def: cs; format: \\b }\n")
 
+QUORVANE_DIAGNOSTIC(HtmlTag, "html-tag", Warning, Description,
+    "{0} is not a tag here: the text shows it as it is written.",
+    "Texts are not HTML. Words take a character style of the stylesheet in an inline style such as "
+    "`<strong=Total>`, or the control words of RTF in a group such as `{\\b Total}`; `\\line` is a "
+    "line break. Write `\\'3c` for a `<` that is to be seen in front of such a name.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=<b>Total</b>)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=<strong=Total>)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "{ name: reserved; style-def: s; format: \\fs20 }\n"
+    "{ name: strong; style-def: cs; format: \\b }\n")
+
 QUORVANE_DIAGNOSTIC(UnknownCellStyle, "unknown-cell-style", Warning, Description,
     "The stylesheet has no cell style {0}: the cell gets background 0.",
     "A cell style that the stylesheet does not have gives the cell the background 0, which "
@@ -729,8 +763,8 @@ QUORVANE_DIAGNOSTIC(EmptyText, "empty-text", Warning, Description,
 QUORVANE_DIAGNOSTIC(UnbalancedBrace, "unbalanced-brace", Warning, Description,
     "The {0} has no partner.",
     "Texts and formats go into the document as they are. An open brace makes readers refuse "
-    "the file, a closing one cuts the document off. Write `\\{` and `\\}` for braces that "
-    "shall be seen.",
+    "the file, a closing one cuts the document off, so that `render --check` refuses both. "
+    "Write `\\{` and `\\}` for braces that shall be seen.",
     "(doc\n"
     "(r\n"
     "(c\n"
@@ -749,13 +783,38 @@ QUORVANE_DIAGNOSTIC(UnbalancedBrace, "unbalanced-brace", Warning, Description,
     "c)\n"
     "r)\n"
     "doc)\n",
+    "", corruptsDocument)
+
+QUORVANE_DIAGNOSTIC(HiddenBraces, "hidden-braces", Warning, Description,
+    "The braces are not shown.",
+    "Texts go into the document as they are, and a pair of braces is a group in RTF: readers show "
+    "what it holds without the braces. Write `\\{` and `\\}` for braces that shall be seen. A group "
+    "with a control word, such as `{\\b Total}`, is what braces are for.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Lock {cylinder})\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Lock \\{cylinder\\})\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
     "")
 
 QUORVANE_DIAGNOSTIC(LoneBackslash, "lone-backslash", Warning, Description,
     "The backslash swallows what follows it.",
     "Texts and formats go into the document as they are, and a backslash begins a control "
     "word or symbol. Write `\\\\` for a backslash that shall be seen, and two hexadecimal "
-    "digits behind `\\'`.",
+    "digits after `\\'`. `render --check` refuses a lone one.",
     "(doc\n"
     "(r\n"
     "(c\n"
@@ -774,7 +833,7 @@ QUORVANE_DIAGNOSTIC(LoneBackslash, "lone-backslash", Warning, Description,
     "c)\n"
     "r)\n"
     "doc)\n",
-    "")
+    "", corruptsDocument)
 
 QUORVANE_DIAGNOSTIC(UnknownControlWord, "unknown-control-word", Warning, Description,
     "{0} is no RTF control word.",
@@ -933,6 +992,31 @@ QUORVANE_DIAGNOSTIC(UnknownNumber, "unknown-number", Warning, Description,
     "doc)\n",
     "")
 
+QUORVANE_DIAGNOSTIC(ShownSubstitute, "shown-substitute", Warning, Description,
+    "The ? after {0} is shown: nothing stands in for the character.",
+    "In RTF a character can follow `\\u` and its number that is shown by readers without Unicode. "
+    "Documents say `\\uc0`: no character does, so a `?` there is text. Write a group that says "
+    "otherwise, such as `{\\uc1\\u345?}`, or end the number with a blank.",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Dvo\\u345?\\'e1k)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "(c\n"
+    "(p\n"
+    "(pt=Dvo{\\uc1\\u345?}\\'e1k)\n"
+    "p)\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
 QUORVANE_DIAGNOSTIC(UnencodableCharacter, "unencodable-character", Warning, Description,
     "The code page has no place for {0}, which {1}.",
     "Documents are written in Windows-1252. A character that it has no place for becomes a question "
@@ -1014,9 +1098,11 @@ QUORVANE_DIAGNOSTIC(WidthsSum, "widths-sum", Warning, Description,
 
 QUORVANE_DIAGNOSTIC(WidthClamped, "width-clamped", Warning, Description,
     "The cell becomes {0} per cent wide instead of {1}.",
-    "A cell cannot reach beyond its right neighbour as that stands when the cell's turn "
-    "comes, and no cell becomes narrower than 200 twips. Put the narrow columns first, or "
-    "leave a wide first column to a table of few columns.",
+    "The cells begin with equal widths, and from left to right each one moves its right edge. It "
+    "cannot reach beyond its right neighbor as that stands then, and no cell becomes narrower than "
+    "200 twips. So of three cells the first can take 64 per cent, and the second more once the "
+    "first is narrow: 80, 10, 10 does not fit, 10, 80, 10 does. The hint names an order that was "
+    "tried.",
     "(doc\n"
     "(r\n"
     "(c\n"
@@ -1072,6 +1158,38 @@ QUORVANE_DIAGNOSTIC(TableOverrun, "table-overrun", Warning, Description,
     "doc)\n",
     "")
 
+QUORVANE_DIAGNOSTIC(TableUnderrun, "table-underrun", Warning, Description,
+    "The row is {0} twips wide, the page has room for {1}.",
+    "The cells are laid out before the keys of the document are applied, on the default page "
+    "with 8840 twips between the margins, and stay so. A wider page, such as one in landscape, "
+    "leaves the table as wide as it was, and `cell-width`, which counts in per cent of the page, "
+    "then moves the cells to where nobody wants them. Choose margins that leave 8840 twips: 1533 "
+    "each side on A4, 3999 on A4 in landscape. A row of a single cell can be as wide as the page, "
+    "with `cell-width`. Wider rows of several cells are made through the object model.",
+    "(doc\n"
+    "(paper-width=16838)\n"
+    "(paper-height=11906)\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(paper-width=16838)\n"
+    "(paper-height=11906)\n"
+    "(left-margin=3999)\n"
+    "(right-margin=3999)\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
 QUORVANE_DIAGNOSTIC(MarginFallback, "margin-fallback", Warning, Description,
     "The margin doesn't fit and becomes {0}.",
     "A margin is at least 1 and less than 0.9 of the paper less the opposite margin. The keys "
@@ -1110,6 +1228,29 @@ QUORVANE_DIAGNOSTIC(NoRoom, "no-room", Warning, Description,
     "(left-margin=1533)\n"
     "(right-margin=1533)\n"
     "(paper-width=11906)\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(TinyMeasure, "tiny-measure", Warning, Description,
+    "A {0} of {1} twips is {2} millimeters.",
+    "The measures of the page are in twips: 1440 are an inch, 567 a centimeter, 57 a millimeter. "
+    "Paper of less than an inch and a margin of less than two millimeters are most likely meant "
+    "in another unit.",
+    "(doc\n"
+    "(paper-width=210)\n"
+    "(r\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(paper-width=11906)\n"
+    "(left-margin=1533)\n"
+    "(right-margin=1533)\n"
     "(r\n"
     "(c\n"
     "c)\n"
@@ -1345,7 +1486,7 @@ QUORVANE_DIAGNOSTIC(DescriptionAsStyleSheet, "description-as-stylesheet", Warnin
 QUORVANE_DIAGNOSTIC(NoStyles, "no-styles", Warning, StyleSheet,
     "The stylesheet has no styles.",
     "The definition of a style stands in braces. Text outside of braces says nothing: it is "
-    "accepted, and has no styles.",
+    "accepted, and has no styles. An empty file is accepted too.",
     "name: total; style-def: s; format: \\b\n",
     "{ name: total; style-def: s; format: \\b }\n",
     "")

@@ -12,6 +12,8 @@
 #include "quorvane/diagnostics/keyHints.h"
 #include "quorvane/diagnostics/nearestWord.h"
 #include "quorvane/diagnostics/numberHints.h"
+#include "quorvane/diagnostics/textFormatHints.h"
+#include "quorvane/diagnostics/valueHints.h"
 #include "quorvane/support/textCase.h"
 
 namespace quorvane {
@@ -72,6 +74,10 @@ Hint nameHint(const std::string& value, const std::vector<std::string_view>& nam
         }
     }
     return spellingHint(value, names);
+}
+
+Hint hintOr(Hint first, Hint otherwise) {
+    return first.empty() ? otherwise : first;
 }
 
 bool isAlignmentNumber(double number) {
@@ -151,12 +157,14 @@ private:
         if (vocabulary_.isColorKey(key)) {
             if (!vocabulary_.colorNamed(leaf.value())) {
                 report(DiagnosticId::WrongColor, leaf, leaf.text, {value},
-                       nameHint(value, Vocabulary::colorNames(), "color"));
+                       hintOr(colorValueHint(value, vocabulary_),
+                              nameHint(value, Vocabulary::colorNames(), "color")));
             }
         } else if (vocabulary_.isBorderKey(key)) {
             if (!vocabulary_.borderNamed(leaf.value())) {
                 report(DiagnosticId::WrongBorder, leaf, leaf.text, {value},
-                       nameHint(value, Vocabulary::borderNames(), "border"));
+                       hintOr(borderValueHint(value),
+                              nameHint(value, Vocabulary::borderNames(), "border")));
             }
         } else if (leaf.key.ends_with("-alignment")) {
             const bool isNumber = leaf.number && isAlignmentNumber(*leaf.number);
@@ -182,6 +190,9 @@ private:
         const std::string lower = lowerCase(leaf.writtenKey);
         if (lower != leaf.writtenKey && vocabulary_.isKeyOf(kind, vocabulary_.expand(lower))) {
             return {"keys are written in lower case: " + lower, lower};
+        }
+        if (Hint hint = textFormatHint(kind, leaf.writtenKey, leaf.text); !hint.empty()) {
+            return hint;
         }
         for (const NodeKind other : kinds) {
             if (vocabulary_.isKeyOf(other, leaf.key)) {

@@ -91,6 +91,23 @@ Hint lengthHint(std::string_view key, double number, const Unit& unit, std::stri
             text};
 }
 
+/// What to write for a number with a comma and a unit, such as "29,7cm"; empty for anything else.
+Hint withPointAndUnit(std::string_view key, std::string_view value) {
+    const std::size_t comma = value.find(',');
+    if (comma == nowhere || value.find_first_of(",.", comma + 1) != nowhere) {
+        return {};
+    }
+    const std::size_t end = value.find_first_not_of("0123456789", comma + 1);
+    // Three digits behind a comma may be meant as thousands.
+    if (end == nowhere || end == comma + 1 || end == comma + 4) {
+        return {};
+    }
+    std::string text(value);
+    text[comma] = '.';
+    Hint hint = numberHint(key, text);
+    return hint.replacement ? hint : Hint();
+}
+
 }  // namespace
 
 Hint numberHint(std::string_view key, std::string_view value) {
@@ -120,6 +137,9 @@ Hint numberHint(std::string_view key, std::string_view value) {
     }
     const std::string rest = lowerCase(trimWhitespace(value.substr(end)));
     if (Hint written = withoutComma(value); !written.empty()) {
+        return written;
+    }
+    if (Hint written = withPointAndUnit(key, value); !written.empty()) {
         return written;
     }
     if (rest.starts_with(',')) {

@@ -469,7 +469,20 @@ private:
         }
     }
 
+    /// A group of nothing but words at a text's own level, whose braces were meant to be seen.
+    void findHiddenBraces() {
+        const std::size_t end = text_.find_first_of("{}\\<", at_ + 1);
+        if (use_ != TextUse::Text || groups_.size() > 1 || end == nowhere || text_[end] != '}' ||
+            trimWhitespace(text_.substr(at_ + 1, end - at_ - 1)).empty()) {
+            return;
+        }
+        const std::string_view group = text_.substr(at_, end + 1 - at_);
+        report(DiagnosticId::HiddenBraces, group.size(), {},
+               "write \\{ and \\} for braces to be seen");
+    }
+
     void openGroup() {
+        findHiddenBraces();
         Group group = groups_.back();
         groups_.back().isFresh = false;
         group.brace = at_++;
@@ -562,11 +575,39 @@ private:
             addToInstruction(*character, word != "u");
         }
         if (word == "u") {
+            findShownSubstitute();
             substitutesLeft_ = groups_.back().substitutes;
             isBehindUnicode_ = true;
         } else if (word == "uc") {
             groups_.back().substitutes = std::clamp(control.number.value_or(1), 0, 100);
         }
+    }
+
+    /// A "?" right after a \u where the text says that nothing stands in for its character. Of
+    /// those that follow each other, as the halves of a character beyond 65535, the first one is
+    /// reported.
+    void findShownSubstitute() {
+        const std::size_t first = at_;
+        std::size_t end = at_;
+        std::size_t shown = 0;
+        while (end < text_.size() && text_[end] == '\\') {
+            const RtfControl control = rtfControlAt(text_, end);
+            const std::size_t behind = end + control.shownLength;
+            if (control.word != "u" || !control.number || behind >= text_.size() ||
+                text_[behind] != '?') {
+                break;
+            }
+            shown = shown == 0 ? control.shownLength : shown;
+            end = behind + 1;
+        }
+        if (use_ != TextUse::Text || end == first || first < substitutesEnd_ ||
+            groups_.back().substitutes > 0 || groups_.back().isAside) {
+            return;
+        }
+        substitutesEnd_ = end;
+        const std::string group = "{\\uc1" + std::string(text_.substr(first, end - first)) + "}";
+        report(DiagnosticId::ShownSubstitute, end - first, {text_.substr(first, shown)},
+               {"write " + group, group});
     }
 
     void enterDestination(const std::string& word, const RtfControl& control) {
@@ -682,6 +723,8 @@ private:
     bool hasControlOutside_ = false;
     int openTokens_ = 0;
     int substitutesLeft_ = 0;
+    // Where those \u end that were looked at for a "?" that nothing stands in for.
+    std::size_t substitutesEnd_ = 0;
     // True where the next character stands in for the one that a \u names.
     bool isBehindUnicode_ = false;
     std::array<int, 256> told_{};

@@ -63,6 +63,28 @@ bool beginsLeaf(std::string_view rest, const Vocabulary& vocabulary) {
            isKey(TrimEx(rest.substr(1, equals - 1)), vocabulary);
 }
 
+/// What to do about a text that goes on after its first ")". Where the line ends with one more and
+/// each has its "(", it is certain which of them are text.
+Hint parenthesisHint(std::string_view line, std::size_t equals, const Vocabulary& vocabulary) {
+    const std::string words = "the value ends at the first ): write \\'29 for a ) in a text";
+    const std::string_view key = TrimEx(line.substr(1, equals - 1));
+    const std::string_view text = line.substr(equals + 1, line.size() - equals - 2);
+    std::ptrdiff_t open = 0;
+    std::string escaped;
+    for (const char character : text) {
+        open += character == '(' ? 1 : (character == ')' ? -1 : 0);
+        escaped += character == ')' ? "\\'29" : std::string(1, character);
+        if (open < 0) {
+            return words;
+        }
+    }
+    if (line.back() != ')' || open != 0 || text.find(';') != nowhere ||
+        vocabulary.expand(key) != "para-text") {
+        return words;
+    }
+    return {words, "(" + std::string(key) + "=" + escaped + ")"};
+}
+
 SyntaxGuess guessLeaf(std::string_view line, std::size_t equals, const Vocabulary& vocabulary) {
     SyntaxGuess guess;
     const bool isOpened = line.front() == '(';
@@ -84,7 +106,7 @@ SyntaxGuess guessLeaf(std::string_view line, std::size_t equals, const Vocabular
     } else if (beginsLeaf(trimWhitespace(line.substr(close + 1)), vocabulary)) {
         guess.hint = "each node and each key stands on a line of its own";
     } else {
-        guess.hint = "the value ends at the first ): write \\'29 for a ) in a text";
+        guess.hint = parenthesisHint(line, equals, vocabulary);
     }
     return guess;
 }

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "cli/CheckJob.h"
-#include "cli/findingText.h"
+#include "cli/FindingReport.h"
 #include "quorvane/diagnostics/TrialPlatform.h"
 
 namespace quorvane::cli {
@@ -19,13 +19,13 @@ public:
 /// The whole report about files.
 inline std::string reportOf(CheckedFiles platform, const CheckOptions& options) {
     std::string report;
+    FindingReport text(Colors::Off, [&](std::string_view part) { report += part; });
     const auto find = [&](const std::string& file, const quorvane::Diagnostic& finding,
-                          const FileWindow& window) {
-        report += findingText(file, finding, excerptAt(finding.place, window), Colors::Off);
-    };
+                          const FileWindow& window) { text.add(file, finding, window); };
     CheckJob(
         options, find, [](const Diagnostic&) {}, platform)
         .run();
+    text.end();
     return report;
 }
 

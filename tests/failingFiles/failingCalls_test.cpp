@@ -220,9 +220,10 @@ protected:
         return [this](const cli::Diagnostic& diagnostic) { told.push_back(diagnostic); };
     }
 
-    void render() { status = cli::RenderJob(options, teller()).run(); }
+    void render() { status = cli::RenderJob(options, {teller()}).run(); }
     void format() {
-        const cli::FormatOptions formatted{{folder / "a.rtfspec"}, {}, false};
+        cli::FormatOptions formatted;
+        formatted.files = {folder / "a.rtfspec"};
         status = cli::FormatJob(
                      formatted, [](const std::string&) {}, teller())
                      .run();
@@ -301,7 +302,9 @@ TEST_F(FailingJobs, KeepALinkAndReplaceWhatItLeadsTo) {
 TEST_F(FailingJobs, KeepADescriptionThatTheDocumentWouldReplace) {
     std::filesystem::create_directory(folder / "sub");
     std::filesystem::create_symlink("a.rtfspec", folder / "a.rtf");
-    for (const char* name : {"a.rtfspec", "a.rtf", "sub/../a.rtfspec"}) {
+    const std::string other = cli::descriptionOf("Another");
+    folder.write("other.rtf", other);
+    for (const char* name : {"a.rtfspec", "a.rtf", "sub/../a.rtfspec", "other.rtf"}) {
         options.output = folder / name;
         const auto tryToRender = [&] {
             status = cli::ExitStatus::Failure;
@@ -315,6 +318,7 @@ TEST_F(FailingJobs, KeepADescriptionThatTheDocumentWouldReplace) {
                      [&](const auto&, Fault) {
                          EXPECT_EQ(status, cli::ExitStatus::Failure);
                          EXPECT_EQ(bytesOf("a.rtfspec"), description) << name;
+                         EXPECT_EQ(bytesOf("other.rtf"), other) << name;
                      });
     }
     EXPECT_GE(runs, 10);
