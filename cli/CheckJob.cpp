@@ -1,21 +1,28 @@
 #include "cli/CheckJob.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <istream>
+#include <iterator>
 #include <memory>
 #include <system_error>
 #include <utility>
 
 #include "cli/RenderOptions.h"
+#include "cli/fileFailure.h"
+#include "cli/filesBelow.h"
 #include "cli/process.h"
+#include "cli/ruleNamed.h"
 #include "cli/styleSheetName.h"
+#include "cli/unifiedDiff.h"
 #include "cli/utf8Path.h"
 #include "quorvane/diagnostics/DescriptionCheck.h"
 #include "quorvane/diagnostics/DiagnosticEngine.h"
 #include "quorvane/diagnostics/RtfCheck.h"
 #include "quorvane/diagnostics/StyleSheetCheck.h"
 #include "quorvane/diagnostics/fileNameCheck.h"
+#include "quorvane/diagnostics/ignoreComments.h"
 #include "quorvane/diagnostics/languageOf.h"
 #include "quorvane/diagnostics/textFile.h"
 #include "quorvane/support/codePage1252.h"
@@ -49,13 +56,41 @@ FileWindow windowOfFile(const std::string& file) {
     };
 }
 
+std::set<DiagnosticId> idsOf(std::string_view option, const std::vector<std::string>& identifiers) {
+    std::set<DiagnosticId> ids;
+    for (const std::string& identifier : identifiers) {
+        ids.insert(ruleNamed(option, identifier).id);
+    }
+    return ids;
+}
+
+bool isFolder(const std::string& file) {
+    std::error_code failure;
+    return file != standardStream && std::filesystem::is_directory(pathFromUtf8(file), failure);
+}
+
+bool isSameFile(const std::string& a, const std::string& b) {
+    std::error_code failure;
+    return std::filesystem::equivalent(pathFromUtf8(a), pathFromUtf8(b), failure);
+}
+
+/// A file that is not treated as asked for, for another reason than one of the system.
+Diagnostic refusal(const std::string& file, const char* why) {
+    const auto number = static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall);
+    return {DiagnosticKind::Raised, file, RtfError(number, why), why};
+}
+
 }  // namespace
 
-CheckJob::CheckJob(CheckOptions options, FindingSink find, DiagnosticSink fail, Platform& platform)
+CheckJob::CheckJob(CheckOptions options, FindingSink find, DiagnosticSink fail, Platform& platform,
+                   BytesSink write)
     : options_(std::move(options)),
+      ignored_(idsOf("--ignore", options_.ignored)),
+      enabled_(idsOf("--enable", options_.enabled)),
       find_(std::move(find)),
       fail_(std::move(fail)),
-      platform_(platform) {}
+      platform_(platform),
+      write_(std::move(write)) {}
 
 ExitStatus CheckJob::run() {
     if (options_.styleSheet) {
@@ -63,42 +98,71 @@ ExitStatus CheckJob::run() {
         checkStyles(*options_.styleSheet);
     }
     for (const std::string& file : options_.files) {
-        if (file != options_.styleSheet) {
+        if (isFolder(file)) {
+            checkFolder(file);
+        } else if (file != options_.styleSheet) {
             checkFile(file);
         }
     }
-    if (styles_ && checkedDescriptions_) {
-        tellAll(*options_.styleSheet, findUnusedStyles(*styles_),
-                codePage1252FromUtf8(styles_->text()));
-    }
-    return hasFailed_     ? ExitStatus::Failure
-           : hasErrors_   ? ExitStatus::ContentErrors
-           : hasWarnings_ ? ExitStatus::Warnings
-                          : ExitStatus::Success;
+    findUnused();
+    const bool isStrict = options_.failOn == FailOn::Warning;
+    return hasFailed_                                               ? ExitStatus::Failure
+           : counts_.errors > 0 && options_.failOn != FailOn::Never ? ExitStatus::ContentErrors
+           : counts_.warnings > 0 && isStrict                       ? ExitStatus::Warnings
+                                                                    : ExitStatus::Success;
 }
 
 void CheckJob::checkStyles(const std::string& file) {
     try {
-        const std::string bytes = platform_.readFile(file);
-        if (const std::optional<quorvane::Diagnostic> binary = findNotATextFile(bytes)) {
-            tell(file, *binary, windowOf({}));
-            return;
-        }
-        styles_.emplace(utf8FromCodePage1252(bytes));
-        tellAll(file, checkStyleSheet(styles_->text()), bytes);
-        if (!openingOfDescription(styles_->text()).empty()) {
+        const auto check = [&](std::string_view bytes) {
+            if (std::optional<quorvane::Diagnostic> binary = findNotATextFile(bytes)) {
+                return std::vector{*std::move(binary)};
+            }
+            const std::string text = utf8FromCodePage1252(bytes);
+            return reported(checkStyleSheet(text), text, CheckedLanguage::StyleSheet);
+        };
+        styles_.emplace(
+            utf8FromCodePage1252(tellText(file, platform_.readFile(file), false, check)));
+        const bool isOther = !openingOfDescription(styles_->text()).empty() ||
+                             findNotATextFile(codePage1252FromUtf8(styles_->text()));
+        if (isOther) {
             styles_.reset();
         }
     } catch (const RtfError& error) {
-        hasFailed_ = true;
-        fail_({DiagnosticKind::Raised, file, error});
+        fail(unreadableFile(file, file, error));
+    }
+}
+
+void CheckJob::findUnused() {
+    if (!styles_ || !checkedDescriptions_ || !isReported(DiagnosticId::UnusedStyle)) {
+        return;
+    }
+    tellAll(*options_.styleSheet,
+            reported(findUnusedStyles(*styles_), styles_->text(), CheckedLanguage::StyleSheet),
+            codePage1252FromUtf8(styles_->text()));
+}
+
+void CheckJob::checkFolder(const std::string& folder) {
+    const FolderContents contents = filesBelow(folder);
+    for (const auto& [name, failure] : contents.failures) {
+        RtfError error(RunTimeError::PathFileAccessError);
+        error.cause = std::make_shared<RtfError>(failure.value(), failure.message());
+        fail(fileFailure(name, error));
+    }
+    if (contents.files.empty() && contents.failures.empty()) {
+        fail(refusal(folder, "The folder has no .rtfspec, .rtfss or .rtf files"));
+    }
+    for (const std::string& file : contents.files) {
+        if (!options_.styleSheet || !isSameFile(file, *options_.styleSheet)) {
+            checkFile(file);
+        }
     }
 }
 
 void CheckJob::checkFile(const std::string& file) {
     try {
         if (file == standardStream) {
-            checkText(file, readStandardInput());
+            checkText(options_.stdinName.value_or(file), readStandardInput(), true);
             return;
         }
         // The file of an RTF document may be larger than the memory. A file that is something else
@@ -116,38 +180,115 @@ void CheckJob::checkFile(const std::string& file) {
                 return;
             }
         }
-        checkText(file, platform_.readFile(file));
+        checkText(file, platform_.readFile(file), false);
     } catch (const RtfError& error) {
-        hasFailed_ = true;
-        fail_({DiagnosticKind::Raised, file, error});
+        fail(unreadableFile(shownName(file), file, error));
     }
 }
 
-void CheckJob::checkText(const std::string& file, std::string_view bytes) {
-    if (const std::optional<quorvane::Diagnostic> binary = findNotATextFile(bytes)) {
-        tell(file, *binary, windowOf({}));
-        return;
-    }
+void CheckJob::checkText(const std::string& file, std::string_view bytes, bool isStream) {
     const CheckedLanguage language = languageOf(bytes, file);
-    tellAll(file, findNameMismatch(bytes, language, file), bytes);
+    checkedDescriptions_ = checkedDescriptions_ || language == CheckedLanguage::Description;
+    tellText(file, bytes, isStream,
+             [&](std::string_view text) { return findingsOf(file, text, language); });
+}
+
+std::vector<quorvane::Diagnostic> CheckJob::findingsOf(const std::string& file,
+                                                       std::string_view bytes,
+                                                       CheckedLanguage language) {
+    if (std::optional<quorvane::Diagnostic> binary = findNotATextFile(bytes)) {
+        return {*std::move(binary)};
+    }
+    std::vector<quorvane::Diagnostic> all = findNameMismatch(bytes, language, file);
+    std::vector<quorvane::Diagnostic> findings;
+    std::string text;
     switch (language) {
         case CheckedLanguage::Rtf:
-            tellAll(file, checkRtf(bytes), bytes);
+            findings = checkRtf(bytes);
             break;
         case CheckedLanguage::StyleSheet:
-            tellAll(file, checkStyleSheet(utf8FromCodePage1252(bytes)), bytes);
+            text = utf8FromCodePage1252(bytes);
+            findings = checkStyleSheet(text);
             break;
         case CheckedLanguage::Description:
-            checkedDescriptions_ = true;
-            tellAll(file,
-                    checkDescription(utf8FromCodePage1252(bytes), styles_ ? &*styles_ : nullptr),
-                    bytes);
+            text = utf8FromCodePage1252(bytes);
+            findings = checkDescription(text, styles_ ? &*styles_ : nullptr);
             break;
+    }
+    std::move(findings.begin(), findings.end(), std::back_inserter(all));
+    return reported(std::move(all), text, language);
+}
+
+bool CheckJob::isReported(DiagnosticId id) const {
+    return !ignored_.contains(id) && (!isOffByDefault(id) || enabled_.contains(id));
+}
+
+/// The findings without those that are to be ignored.
+std::vector<quorvane::Diagnostic> CheckJob::reported(std::vector<quorvane::Diagnostic> findings,
+                                                     std::string_view text,
+                                                     CheckedLanguage language) {
+    std::erase_if(findings,
+                  [this](const quorvane::Diagnostic& finding) { return !isReported(finding.id); });
+    return language == CheckedLanguage::Rtf ? findings
+                                            : withoutIgnored(std::move(findings), text, language);
+}
+
+/// Tells what the check finds in a text, and fixes the file where that is asked for. Returns the
+/// bytes of the text as they are afterwards, or would be.
+std::string CheckJob::tellText(const std::string& file, std::string_view bytes, bool isStream,
+                               const TextCheck& check) {
+    ++counts_.files;
+    if (!options_.fixes && !options_.showsDiff) {
+        tellAll(file, check(bytes), bytes);
+        return std::string(bytes);
+    }
+    FixedText fixed = fixText(bytes, check);
+    if (fixed.wasRefused) {
+        fail_(refusal(shownName(file), "Not fixed: with its fixes it would have more errors"));
+    }
+    if (options_.showsDiff) {
+        tellAll(file, fixed.rounds.empty() ? fixed.remaining : check(bytes), bytes);
+        write_(unifiedDiff(file == standardStream ? "stdin" : file, bytes, fixed.bytes));
+    } else if (isStream || writeFixed(file, bytes, fixed)) {
+        for (const FixedText::Round& round : fixed.rounds) {
+            tellAll(file, round.fixed, round.bytes);
+        }
+        tellAll(file, fixed.remaining, fixed.bytes);
+    } else {
+        tellAll(file, check(bytes), bytes);
+        fixed.bytes = bytes;
+    }
+    if (isStream && !options_.showsDiff) {
+        write_(fixed.bytes);
+    }
+    return fixed.bytes;
+}
+
+/// Writes the fixed text in the place of the one before; false when that fails.
+bool CheckJob::writeFixed(const std::string& file, std::string_view before,
+                          const FixedText& fixed) {
+    if (fixed.bytes == before) {
+        return true;
+    }
+    std::error_code failure;
+    if (!std::filesystem::is_regular_file(pathFromUtf8(file), failure)) {
+        fail(refusal(file, "Not fixed: this is not a regular file"));
+        return false;
+    }
+    try {
+        const std::unique_ptr<OutputFile> output = openReplacement(file);
+        output->write(fixed.bytes);
+        output->close();
+        return true;
+    } catch (const RtfError& error) {
+        fail(fileFailure(file, error));
+        return false;
     }
 }
 
 void CheckJob::checkRtfFile(const std::string& file, std::istream& stream,
                             const std::string& beginning) {
+    ++counts_.files;
     const FileWindow window = windowOfFile(file);
     std::vector<quorvane::Diagnostic> held;
     const auto tellHeld = [&] {
@@ -158,12 +299,17 @@ void CheckJob::checkRtfFile(const std::string& file, std::istream& stream,
         held.clear();
     };
     RtfCheck check([&](quorvane::Diagnostic finding) {
-        held.push_back(std::move(finding));
+        if (isReported(finding.id)) {
+            held.push_back(std::move(finding));
+        }
         if (held.size() == mostFindingsHeld) {
             tellHeld();
         }
     });
-    tellAll(file, findNameMismatch(beginning, CheckedLanguage::Rtf, file), beginning);
+    tellAll(
+        file,
+        reported(findNameMismatch(beginning, CheckedLanguage::Rtf, file), {}, CheckedLanguage::Rtf),
+        beginning);
     check.feed(beginning);
     for (std::string piece = readPiece(stream); !piece.empty(); piece = readPiece(stream)) {
         check.feed(piece);
@@ -175,9 +321,20 @@ void CheckJob::checkRtfFile(const std::string& file, std::istream& stream,
     tellHeld();
 }
 
+std::string CheckJob::shownName(const std::string& file) const {
+    return file == standardStream ? options_.stdinName.value_or("<stdin>") : file;
+}
+
+void CheckJob::fail(const Diagnostic& failure) {
+    hasFailed_ = true;
+    fail_(failure);
+}
+
 void CheckJob::tell(const std::string& file, const quorvane::Diagnostic& finding,
                     const FileWindow& window) {
-    (finding.severity == Severity::Error ? hasErrors_ : hasWarnings_) = true;
+    ++(finding.isFixed                       ? counts_.fixed
+       : finding.severity == Severity::Error ? counts_.errors
+                                             : counts_.warnings);
     find_(file, finding, window);
 }
 

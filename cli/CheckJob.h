@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,44 +15,80 @@
 #include "cli/FindingExcerpt.h"
 #include "quorvane/diagnostics/Diagnostic.h"
 #include "quorvane/diagnostics/KnownStyles.h"
+#include "quorvane/diagnostics/diagnosticRules.h"
+#include "quorvane/diagnostics/fixText.h"
 #include "quorvane/support/Platform.h"
 
 namespace quorvane::cli {
 
-/// Takes a finding about a file, named as on the command line, and the file's window.
+/// Takes a finding about a file, named as on the command line, and the file's window. One that was
+/// fixed comes with the window of the text before.
 using FindingSink =
     std::function<void(const std::string& file, const quorvane::Diagnostic&, const FileWindow&)>;
 
-/// What `quorvane check` does: checks files one after the other, each as what it is by its content.
-/// RTF files are read in pieces.
+/// How much a check found.
+struct CheckCounts {
+    /// Files that were read.
+    std::size_t files = 0;
+    std::size_t errors = 0;
+    std::size_t warnings = 0;
+    /// Findings that were fixed; they are no errors or warnings any more.
+    std::size_t fixed = 0;
+};
+
+/// What `quorvane check` does: checks files one after the other, each as what it is by its content,
+/// and fixes descriptions and stylesheets where it is asked to. RTF files are read in pieces.
 class CheckJob {
 public:
-    /// The platform must outlive the job.
-    CheckJob(CheckOptions options, FindingSink find, DiagnosticSink fail,
-             Platform& platform = systemPlatform());
+    /// Takes bytes for standard output: the text of standard input with its fixes, or a diff.
+    using BytesSink = std::function<void(std::string_view)>;
 
-    /// Tells all findings, and every file that cannot be read. Throws a `UsageError` for a
-    /// stylesheet without the extension rtfss.
+    /// The platform must outlive the job. The last sink is needed only for fixes.
+    CheckJob(CheckOptions options, FindingSink find, DiagnosticSink fail,
+             Platform& platform = systemPlatform(), BytesSink write = {});
+
+    /// Tells all findings, and every file that cannot be read or written. Throws a `UsageError` for
+    /// a stylesheet without the extension rtfss, and for an identifier that there is not.
     ExitStatus run();
+
+    const CheckCounts& counts() const { return counts_; }
+
+    /// True when a file could not be read or written.
+    bool hasFailed() const { return hasFailed_; }
 
 private:
     void checkStyles(const std::string& file);
+    void checkFolder(const std::string& folder);
     void checkFile(const std::string& file);
-    void checkText(const std::string& file, std::string_view bytes);
+    void checkText(const std::string& file, std::string_view bytes, bool isStream);
     void checkRtfFile(const std::string& file, std::istream& stream, const std::string& beginning);
+    void findUnused();
+
+    bool isReported(DiagnosticId id) const;
+    std::vector<quorvane::Diagnostic> findingsOf(const std::string& file, std::string_view bytes,
+                                                 CheckedLanguage language);
+    std::vector<quorvane::Diagnostic> reported(std::vector<quorvane::Diagnostic> findings,
+                                               std::string_view text, CheckedLanguage language);
+    std::string tellText(const std::string& file, std::string_view bytes, bool isStream,
+                         const TextCheck& check);
+    bool writeFixed(const std::string& file, std::string_view before, const FixedText& fixed);
+    std::string shownName(const std::string& file) const;
+    void fail(const Diagnostic& failure);
     void tell(const std::string& file, const quorvane::Diagnostic& finding,
               const FileWindow& window);
     void tellAll(const std::string& file, const std::vector<quorvane::Diagnostic>& findings,
                  std::string_view bytes);
 
     CheckOptions options_;
+    std::set<DiagnosticId> ignored_;
+    std::set<DiagnosticId> enabled_;
     FindingSink find_;
     DiagnosticSink fail_;
     Platform& platform_;
+    BytesSink write_;
     std::optional<KnownStyles> styles_;
+    CheckCounts counts_;
     bool checkedDescriptions_ = false;
-    bool hasErrors_ = false;
-    bool hasWarnings_ = false;
     bool hasFailed_ = false;
 };
 

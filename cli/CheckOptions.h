@@ -4,18 +4,35 @@
 #include <string>
 #include <vector>
 
+#include "cli/FailOn.h"
+
 namespace quorvane::cli {
 
 /// The form in which findings are told on standard output.
 enum class FindingsForm { Text, Json, Sarif };
 
-/// What `quorvane check` was asked to do. Paths are as they were given; "-" is standard input.
+/// What `quorvane check` was asked to do. Paths are as they were given; "-" is standard input, and a
+/// folder stands for the files below it.
 struct CheckOptions {
     std::vector<std::string> files;
     std::optional<std::string> styleSheet;
     FindingsForm form = FindingsForm::Text;
+    /// Identifiers of diagnostics to leave out, and of those to report that are off by default.
+    std::vector<std::string> ignored;
+    std::vector<std::string> enabled;
+    FailOn failOn = FailOn::Warning;
+    /// No summary.
+    bool isQuiet = false;
+    /// Makes the fixes that findings carry.
+    bool fixes = false;
+    /// Shows what the fixes would change, and makes none.
+    bool showsDiff = false;
+    /// The name that standard input is checked and reported under.
+    std::optional<std::string> stdinName;
     /// The identifier to be explained instead.
     std::optional<std::string> explained;
+    /// Lists the diagnostics instead.
+    bool lists = false;
 };
 
 }  // namespace quorvane::cli

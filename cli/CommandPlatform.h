@@ -19,6 +19,9 @@ public:
     /// Reads the stylesheet file, once for all descriptions. Raises what reading a file raises.
     void readStyleSheet(const std::string& path);
 
+    /// The bytes of the stylesheet, which was read.
+    const std::string& styleSheetBytes() const;
+
     /// True for the stylesheet only: the library shall not delete the file that it writes to.
     bool fileExists(const std::string& path) override;
     std::string readFile(const std::string& path) override;

@@ -1,11 +1,16 @@
 #include "cli/DescriptionRendering.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "cli/RenderOptions.h"
+#include "cli/fileFailure.h"
 #include "cli/process.h"
+#include "quorvane/docmodel/CRtfTableRows.h"
+#include "quorvane/driver/driverErrors.h"
 #include "quorvane/support/codePage1252.h"
 #include "quorvane/support/currentError.h"
+#include "quorvane/support/utf8.h"
 
 namespace quorvane::cli {
 
@@ -19,12 +24,21 @@ std::string outputName(const std::string& output) {
     return output == standardStream ? "<stdout>" : output;
 }
 
+/// The text of a file. Most are ASCII, which stays as it is.
+std::string textOf(std::string bytes) {
+    return asciiRunEnd(bytes, 0) == bytes.size() ? std::move(bytes) : utf8FromCodePage1252(bytes);
+}
+
 }  // namespace
 
 DescriptionRendering::DescriptionRendering(const Assignment& assignment,
-                                           const RenderingManner& manner, Platform& platform,
-                                           Ref<CRtfDriver>& driver, const DiagnosticSink& tell)
-    : assignment_(assignment), manner_(manner), tell_(tell), platform_(platform), driver_(driver) {
+                                           const RenderingManner& manner, CommandPlatform& platform,
+                                           Ref<CRtfDriver>& driver, RenderReport& report)
+    : assignment_(assignment),
+      manner_(manner),
+      platform_(platform),
+      driver_(driver),
+      report_(report) {
     if (!driver_) {
         driver_ = CRtfDriver::create(platform_);
     }
@@ -39,10 +53,16 @@ ExitStatus DescriptionRendering::run() {
     if (manner_.styleSheet) {
         setStyleSheet(*manner_.styleSheet);
     }
-    const bool wasRead = analyse();
-    if (wasRead && (status_ == ExitStatus::Success || manner_.keepGoing)) {
-        leaveDocumentBefore();
-        write();
+    if (manner_.isStyleSheetRefused) {
+        status_ = ExitStatus::ContentErrors;
+    }
+    if (std::optional<std::string> text = readDescription()) {
+        analyse(*text);
+        text.reset();
+        if (mayWrite()) {
+            leaveDocumentBefore();
+            write();
+        }
     }
     return status_;
 }
@@ -64,46 +84,84 @@ void DescriptionRendering::setStyleSheet(const std::string& name) {
     try {
         driver_->setStyleSheetFile(name);
     } catch (const RtfError& error) {
-        tellError(DiagnosticKind::Raised, name, error, ExitStatus::ContentErrors);
+        // First of all: the error counts even when it cannot be reported.
+        status_ = ExitStatus::ContentErrors;
+        report_.refuseStyleSheet(error);
     }
 }
 
-bool DescriptionRendering::analyse() {
+std::string DescriptionRendering::readBytes(const std::string& path) {
+    if (path == standardStream) {
+        return readStandardInput();
+    }
+    try {
+        return platform_.readFile(path);
+    } catch (const RtfError& error) {
+        raise(unreadableDescription(path, error));
+    }
+}
+
+std::optional<std::string> DescriptionRendering::readDescription() {
+    const std::string& path = assignment_.description;
+    try {
+        std::string bytes = readBytes(path);
+        if (!report_.passBytes(inputName(path), bytes)) {
+            status_ = std::max(status_, ExitStatus::ContentErrors);
+            return std::nullopt;
+        }
+        return textOf(std::move(bytes));
+    } catch (const RtfError& error) {
+        fail(unreadableFile(inputName(path), path, error));
+        return std::nullopt;
+    }
+}
+
+void DescriptionRendering::analyse(const std::string& text) {
     const std::string name = inputName(assignment_.description);
     driver_->setErroneousInput(manner_.check);
     driver_->setNotifyErrorHandler([&](CRtfDriver&) {
-        tellError(DiagnosticKind::Event, name, *currentError(), ExitStatus::ContentErrors);
+        status_ = std::max(status_, ExitStatus::ContentErrors);
+        report_.event(name, *currentError());
     });
-    try {
-        if (assignment_.description == standardStream) {
-            driver_->ParseFromMemmory(utf8FromCodePage1252(readStandardInput()));
-        } else {
-            driver_->ParseFile(assignment_.description);
-        }
-        return true;
-    } catch (const RtfError& error) {
-        tellError(DiagnosticKind::Raised, name, error, ExitStatus::Failure);
-        return false;
+    driver_->ParseFromMemmory(text);
+    if (!report_.passDescription(name, assignment_.description, text)) {
+        status_ = std::max(status_, ExitStatus::ContentErrors);
     }
+}
+
+/// With errors, what was built must be a table: a document of nothing would take the place of one
+/// that is there.
+bool DescriptionRendering::mayWrite() {
+    if (status_ == ExitStatus::Success || !manner_.keepGoing) {
+        return status_ == ExitStatus::Success;
+    }
+    if (driver_->RtfObject()->TableRows()->Count() > 0) {
+        return true;
+    }
+    report_.fail({DiagnosticKind::Raised, inputName(assignment_.description),
+                  RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
+                           "Nothing could be built; " + outputName(assignment_.output) +
+                               " was not written.")});
+    return false;
 }
 
 void DescriptionRendering::write() {
     const std::string name = outputName(assignment_.output);
-    driver_->setAbsorbedErrorObserver([&](const AbsorbedError& absorbed) {
-        tellError(DiagnosticKind::Raised, name, absorbed.error, ExitStatus::Failure);
-    });
+    driver_->setAbsorbedErrorObserver(
+        [&](const AbsorbedError& absorbed) { fail(fileFailure(name, absorbed.error)); });
     try {
         driver_->Commit(assignment_.output);
     } catch (const RtfError& error) {
-        tellError(DiagnosticKind::Raised, name, error, ExitStatus::Failure);
+        fail(fileFailure(name, error));
+    } catch (const ClosedPipe&) {
+        // Whoever read the document wanted no more of it.
     }
 }
 
-void DescriptionRendering::tellError(DiagnosticKind kind, const std::string& file,
-                                     const RtfError& error, ExitStatus status) {
-    // First of all: the error counts even when it cannot be told.
-    status_ = std::max(status_, status);
-    tell_({kind, file, error});
+void DescriptionRendering::fail(const Diagnostic& failure) {
+    // First of all: the failure counts even when it cannot be reported.
+    status_ = ExitStatus::Failure;
+    report_.fail(failure);
 }
 
 }  // namespace quorvane::cli

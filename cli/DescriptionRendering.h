@@ -3,8 +3,9 @@
 #include <optional>
 #include <string>
 
-#include "cli/Diagnostic.h"
+#include "cli/CommandPlatform.h"
 #include "cli/ExitStatus.h"
+#include "cli/RenderReport.h"
 #include "cli/outputPaths.h"
 #include "quorvane/driver/CRtfDriver.h"
 
@@ -14,6 +15,8 @@ namespace quorvane::cli {
 struct RenderingManner {
     /// Name of a stylesheet file that can be read.
     std::optional<std::string> styleSheet;
+    /// The check refuses the stylesheet.
+    bool isStyleSheetRefused = false;
     bool check = false;
     bool keepGoing = false;
 };
@@ -25,28 +28,30 @@ public:
     /// The driver is made where there is none, and made anew where it cannot serve. All that is
     /// given must outlive the rendering.
     DescriptionRendering(const Assignment& assignment, const RenderingManner& manner,
-                         Platform& platform, Ref<CRtfDriver>& driver, const DiagnosticSink& tell);
+                         CommandPlatform& platform, Ref<CRtfDriver>& driver, RenderReport& report);
     DescriptionRendering(const DescriptionRendering&) = delete;
     DescriptionRendering& operator=(const DescriptionRendering&) = delete;
     ~DescriptionRendering();
 
     /// Builds the document and writes it. After an error nothing is written, unless the manner is
-    /// to keep going and there is something to write.
+    /// to keep going and the document has a row.
     ExitStatus run();
 
 private:
     void setStyleSheet(const std::string& name);
-    bool analyse();
+    std::string readBytes(const std::string& path);
+    std::optional<std::string> readDescription();
+    void analyse(const std::string& text);
+    bool mayWrite();
     void leaveDocumentBefore();
     void write();
-    void tellError(DiagnosticKind kind, const std::string& file, const RtfError& error,
-                   ExitStatus status);
+    void fail(const Diagnostic& failure);
 
     const Assignment& assignment_;
     const RenderingManner& manner_;
-    const DiagnosticSink& tell_;
-    Platform& platform_;
+    CommandPlatform& platform_;
     Ref<CRtfDriver>& driver_;
+    RenderReport& report_;
     ExitStatus status_ = ExitStatus::Success;
 };
 

@@ -7,20 +7,25 @@
 
 namespace quorvane::cli {
 
-/// How an error came out of the library.
+/// Where an error comes from.
 enum class DiagnosticKind {
     /// An analysis reported it through its event.
     Event,
     /// A call raised it to its caller, or failed in what it was asked to do.
     Raised,
+    /// The check of a description or a stylesheet, for which the command refuses it.
+    Check,
 };
 
-/// An error as the command tells it.
+/// An error as the command reports it.
 struct Diagnostic {
     DiagnosticKind kind;
     /// The file that it concerns, as it was named on the command line; empty for none.
     std::string file;
     RtfError error;
+    /// Why a file cannot be read or written, in the system's words; empty for any other error. The
+    /// text form shows it instead of the error.
+    std::string reason{};
 };
 
 /// Takes the errors in the order in which they come.

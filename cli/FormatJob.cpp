@@ -6,9 +6,13 @@
 #include <utility>
 
 #include "cli/RenderOptions.h"
+#include "cli/colors.h"
 #include "cli/diagnosticText.h"
+#include "cli/fileFailure.h"
 #include "cli/process.h"
+#include "cli/unifiedDiff.h"
 #include "quorvane/diagnostics/languageOf.h"
+#include "quorvane/diagnostics/textFile.h"
 #include "quorvane/formatting/formatStyleSheet.h"
 #include "quorvane/formatting/languageToFormat.h"
 #include "quorvane/support/codePage1252.h"
@@ -17,27 +21,13 @@ namespace quorvane::cli {
 
 namespace {
 
-std::string shownName(const std::string& file) {
-    return file == standardStream ? "<stdin>" : file;
-}
+/// A failure to write to standard output, which is no failure of a file that is formatted.
+struct StandardOutputFailure {
+    RtfError error;
+};
 
-[[noreturn]] void refuse(const char* why) {
-    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), why));
-}
-
-/// The bytes in their canonical form.
-std::string formatted(const std::string& file, std::string_view bytes, NameForm names) {
-    const std::string text = utf8FromCodePage1252(bytes);
-    const std::optional<CheckedLanguage> language = languageToFormat(text, file);
-    if (language == CheckedLanguage::Description) {
-        return codePage1252FromUtf8(formattedDescription(text, names));
-    }
-    if (language == CheckedLanguage::StyleSheet) {
-        return codePage1252FromUtf8(formattedStyleSheet(text));
-    }
-    refuse(languageOf(bytes, file) == CheckedLanguage::Rtf
-               ? "An RTF file has no canonical form"
-               : "Neither a description nor a stylesheet");
+[[noreturn]] void refuse(std::string why) {
+    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), std::move(why)));
 }
 
 }  // namespace
@@ -55,7 +45,7 @@ ExitStatus FormatJob::run() {
             status = std::max(status, format(file));
         } catch (const RtfError& error) {
             status = ExitStatus::Failure;
-            fail_({DiagnosticKind::Raised, shownName(file), error});
+            fail_(unreadableFile(shownName(file), file, error));
         }
     }
     return status;
@@ -64,12 +54,13 @@ ExitStatus FormatJob::run() {
 ExitStatus FormatJob::format(const std::string& file) {
     const bool isStream = file == standardStream;
     const std::string bytes = isStream ? readStandardInput() : platform_.readFile(file);
-    const std::string canonical = formatted(file, bytes, options_.names);
-    if (options_.check) {
+    const std::string canonical = formatted(file, bytes);
+    if (options_.check || options_.diff) {
         if (canonical == bytes) {
             return ExitStatus::Success;
         }
-        write_(shownName(file) + "\n");
+        write_(options_.diff ? unifiedDiff(shownName(file), bytes, canonical)
+                             : shownName(file) + "\n");
         return ExitStatus::ContentErrors;
     }
     if (isStream) {
@@ -82,22 +73,53 @@ ExitStatus FormatJob::format(const std::string& file) {
     return ExitStatus::Success;
 }
 
+std::string FormatJob::shownName(const std::string& file) const {
+    return file == standardStream ? options_.stdinName.value_or("<stdin>") : file;
+}
+
+/// The bytes in their canonical form.
+std::string FormatJob::formatted(const std::string& file, std::string_view bytes) const {
+    if (const std::optional<quorvane::Diagnostic> binary = findNotATextFile(bytes)) {
+        refuse(binary->message);
+    }
+    const std::string text = utf8FromCodePage1252(bytes);
+    const bool hasName = file != standardStream || options_.stdinName;
+    const std::optional<CheckedLanguage> language =
+        hasName ? languageToFormat(text, shownName(file)) : languageOfStreamToFormat(text);
+    if (language == CheckedLanguage::Description) {
+        return codePage1252FromUtf8(formattedDescription(text, options_.names));
+    }
+    if (language == CheckedLanguage::StyleSheet) {
+        return codePage1252FromUtf8(formattedStyleSheet(text));
+    }
+    refuse(languageOf(bytes, shownName(file)) == CheckedLanguage::Rtf
+               ? "An RTF file has no canonical form"
+               : "Neither a description nor a stylesheet");
+}
+
 ExitStatus format(const FormatOptions& options) {
-    const auto tellFailure = [](const Diagnostic& failure) {
+    const auto fail = [](const Diagnostic& failure) {
         writeToStandardError(diagnosticText(failure) + "\n");
     };
+    const bool showsOnTerminal = options.diff && standardOutputIsTerminal();
     try {
         const std::unique_ptr<OutputFile> output = openStandardOutput();
-        const ExitStatus status =
-            FormatJob(
-                options, [&](const std::string& text) { output->write(text); }, tellFailure)
-                .run();
+        const auto write = [&](const std::string& text) {
+            try {
+                output->write(showsOnTerminal ? diffForTerminal(text, wantedColors(true)) : text);
+            } catch (const RtfError& error) {
+                throw StandardOutputFailure{error};
+            }
+        };
+        const ExitStatus status = FormatJob(options, write, fail).run();
         output->close();
         return status;
+    } catch (const StandardOutputFailure& failure) {
+        fail(fileFailure("<stdout>", failure.error));
     } catch (const RtfError& error) {
-        tellFailure({DiagnosticKind::Raised, "<stdout>", error});
-        return ExitStatus::Failure;
+        fail(fileFailure("<stdout>", error));
     }
+    return ExitStatus::Failure;
 }
 
 }  // namespace quorvane::cli

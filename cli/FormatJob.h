@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 #include "cli/Diagnostic.h"
 #include "cli/ExitStatus.h"
@@ -10,7 +11,7 @@
 
 namespace quorvane::cli {
 
-/// Takes a text for standard output.
+/// Takes a text for standard output: the name of a file, a diff, or a file's canonical form.
 using TextSink = std::function<void(const std::string&)>;
 
 /// What `quorvane format` does: puts descriptions and stylesheets into their canonical form, each
@@ -21,11 +22,13 @@ public:
     FormatJob(FormatOptions options, TextSink write, DiagnosticSink fail,
               Platform& platform = systemPlatform());
 
-    /// `ContentErrors` when only to check, and a file is not in its canonical form.
+    /// `ContentErrors` when nothing is to be changed, and a file is not in its canonical form.
     ExitStatus run();
 
 private:
     ExitStatus format(const std::string& file);
+    std::string shownName(const std::string& file) const;
+    std::string formatted(const std::string& file, std::string_view bytes) const;
 
     FormatOptions options_;
     TextSink write_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,6 +14,10 @@ struct FormatOptions {
     NameForm names = NameForm::Kept;
     /// Only name the files that are not in their canonical form.
     bool check = false;
+    /// Only show what would change.
+    bool diff = false;
+    /// The name that standard input is formatted and reported under.
+    std::optional<std::string> stdinName;
 };
 
 }  // namespace quorvane::cli

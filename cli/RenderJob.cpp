@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "cli/fileFailure.h"
 #include "cli/styleSheetName.h"
 #include "cli/utf8Path.h"
 
@@ -18,22 +19,22 @@ namespace {
 constexpr std::int32_t outOfMemory = 7;
 constexpr std::size_t largestKeptDocument = std::size_t{1024} * 1024;
 
-bool isFolder(const std::string& name) {
-    std::error_code failure;
-    return std::filesystem::is_directory(pathFromUtf8(name), failure);
-}
-
 }  // namespace
 
-RenderJob::RenderJob(RenderOptions options, DiagnosticSink tell, ProgressSink progress,
-                     Platform& platform)
+RenderJob::RenderJob(RenderOptions options, RenderReceivers receivers, Platform& platform)
     : options_(std::move(options)),
-      manner_{{}, options_.check, options_.keepGoing},
-      tell_(std::move(tell)),
-      progress_(std::move(progress)),
+      manner_{{}, false, options_.check, options_.keepGoing},
+      receivers_(std::move(receivers)),
+      report_(options_, receivers_),
       platform_(platform) {}
 
 ExitStatus RenderJob::run() {
+    const ExitStatus status = renderAll();
+    const bool isForgiven = options_.failOn == FailOn::Never && status == ExitStatus::ContentErrors;
+    return isForgiven ? ExitStatus::Success : status;
+}
+
+ExitStatus RenderJob::renderAll() {
     if (options_.styleSheet) {
         requireStyleSheetExtension(*options_.styleSheet, options_.descriptions);
     }
@@ -41,25 +42,48 @@ ExitStatus RenderJob::run() {
     try {
         assignments = assignOutputs(options_);
     } catch (const RtfError& error) {
-        return fail(options_.descriptions.front(), error);
+        report_.fail(fileFailure(options_.descriptions.front(), error));
+        return ExitStatus::Failure;
     }
-    if (options_.outputFolder && !isFolder(*options_.outputFolder)) {
-        RtfError error(RunTimeError::PathNotFound);
-        error.cause =
-            std::make_shared<RtfError>(error.number, "the folder of --output-dir must exist");
-        return fail(*options_.outputFolder, error);
+    if (!prepareOutputFolder()) {
+        return ExitStatus::Failure;
     }
     ExitStatus status = readStyleSheet();
     if (status != ExitStatus::Success && !options_.keepGoing) {
         return status;
     }
     for (std::size_t i = 0; i < assignments.size(); ++i) {
-        if (progress_) {
-            progress_(i + 1, assignments.size(), assignments[i].description);
+        if (receivers_.progress) {
+            receivers_.progress(i + 1, assignments.size(), assignments[i].description);
         }
         status = std::max(status, render(assignments[i]));
     }
     return status;
+}
+
+/// Whether the folder of the documents is there; reports it when it is not.
+bool RenderJob::prepareOutputFolder() {
+    if (!options_.outputFolder) {
+        return true;
+    }
+    const std::filesystem::path folder = pathFromUtf8(*options_.outputFolder);
+    std::error_code failure;
+    if (options_.makesOutputFolder) {
+        std::filesystem::create_directories(folder, failure);
+    }
+    const std::error_code notMade = failure;
+    const std::filesystem::file_status status = std::filesystem::status(folder, failure);
+    if (std::filesystem::is_directory(status)) {
+        return true;
+    }
+    RtfError error(RunTimeError::PathNotFound);
+    error.cause = std::make_shared<RtfError>(error.number, "the folder of --output-dir must exist");
+    std::string reason = std::make_error_code(std::errc::not_a_directory).message();
+    if (!std::filesystem::exists(status)) {
+        reason = notMade ? notMade.message() : failure.message() + "; --mkdir creates it";
+    }
+    report_.fail({DiagnosticKind::Raised, *options_.outputFolder, std::move(error), reason});
+    return false;
 }
 
 ExitStatus RenderJob::readStyleSheet() {
@@ -68,17 +92,20 @@ ExitStatus RenderJob::readStyleSheet() {
     }
     try {
         platform_.readStyleSheet(*options_.styleSheet);
-        manner_.styleSheet = options_.styleSheet;
-        return ExitStatus::Success;
     } catch (const RtfError& error) {
-        return fail(*options_.styleSheet, error);
+        report_.fail(unreadableFile(*options_.styleSheet, *options_.styleSheet, error));
+        return ExitStatus::Failure;
     }
+    manner_.styleSheet = options_.styleSheet;
+    manner_.isStyleSheetRefused =
+        !report_.passStyleSheet(*options_.styleSheet, platform_.styleSheetBytes());
+    return ExitStatus::Success;
 }
 
 ExitStatus RenderJob::render(const Assignment& assignment) {
     try {
         const ExitStatus status =
-            DescriptionRendering(assignment, manner_, platform_, driver_, tell_).run();
+            DescriptionRendering(assignment, manner_, platform_, driver_, report_).run();
         // The next document uses the memory of a small one again; that of a large one shall not
         // stay beside it. After an error the next description begins anew.
         if (status != ExitStatus::Success || driver_->Contents().size() > largestKeptDocument) {
@@ -87,13 +114,10 @@ ExitStatus RenderJob::render(const Assignment& assignment) {
         return status;
     } catch (const std::bad_alloc&) {
         driver_ = nullptr;
-        return fail(assignment.description, RtfError(outOfMemory, "Out of memory"));
+        report_.fail({DiagnosticKind::Raised, assignment.description,
+                      RtfError(outOfMemory, "Out of memory")});
+        return ExitStatus::Failure;
     }
-}
-
-ExitStatus RenderJob::fail(const std::string& file, RtfError error) {
-    tell_({DiagnosticKind::Raised, file, std::move(error)});
-    return ExitStatus::Failure;
 }
 
 }  // namespace quorvane::cli

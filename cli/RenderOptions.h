@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "cli/FailOn.h"
+
 namespace quorvane::cli {
 
 /// The form in which errors are told on standard error.
@@ -20,10 +22,13 @@ struct RenderOptions {
     std::optional<std::string> output;
     /// The folder that the documents go to, instead of beside their descriptions.
     std::optional<std::string> outputFolder;
+    /// Create the folder that the documents go to.
+    bool makesOutputFolder = false;
     /// Repair and check the descriptions before building.
     bool check = false;
     /// Write what could be built of a description that has errors.
     bool keepGoing = false;
+    FailOn failOn = FailOn::Error;
     DiagnosticsForm diagnostics = DiagnosticsForm::Text;
 };
 

@@ -1,10 +1,15 @@
 #include "cli/SarifLog.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <cstdint>
+#include <filesystem>
 #include <nlohmann/json.hpp>
 #include <string_view>
+#include <system_error>
 
 #include "cli/RenderOptions.h"
+#include "cli/utf8Path.h"
 #include "quorvane/diagnostics/diagnosticRules.h"
 
 namespace quorvane::cli {
@@ -13,21 +18,19 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-/// The file's name as a relative or absolute URI reference.
-std::string uriOf(const std::string& file) {
+constexpr const char* rootName = "SRCROOT";
+
+/// A path with `/` between its parts, as the path of a URI.
+std::string uriPath(const std::filesystem::path& path) {
     constexpr std::string_view digits = "0123456789ABCDEF";
     constexpr std::string_view kept =
         "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~/";
-    if (file == standardStream) {
-        return "stdin";
-    }
+    const std::u8string name = path.generic_u8string();
     std::string uri;
-    for (const char character : file) {
+    for (const char8_t character : name) {
         const auto byte = static_cast<unsigned char>(character);
-        if (kept.find(character) != std::string_view::npos) {
-            uri += character;
-        } else if (character == '\\') {
-            uri += '/';
+        if (kept.find(static_cast<char>(byte)) != std::string_view::npos) {
+            uri += static_cast<char>(byte);
         } else {
             uri += '%';
             uri += digits[byte / 16];
@@ -35,6 +38,70 @@ std::string uriOf(const std::string& file) {
         }
     }
     return uri;
+}
+
+std::string fileUri(const std::filesystem::path& path) {
+    const std::string uri = uriPath(path);
+    // On Windows an absolute path begins with the name of its drive.
+    return (uri.starts_with('/') ? "file://" : "file:///") + uri;
+}
+
+/// The folder to which relative names belong; empty when the system does not say.
+std::string rootUri() {
+    std::error_code failure;
+    const std::filesystem::path folder = std::filesystem::current_path(failure);
+    return failure ? std::string() : fileUri(folder / "");
+}
+
+Json artifactLocation(const std::string& file) {
+    if (file == standardStream) {
+        return {{"uri", "stdin"}};
+    }
+    const std::filesystem::path path = pathFromUtf8(file).lexically_normal();
+    if (path.is_absolute()) {
+        return {{"uri", fileUri(path)}};
+    }
+    return {{"uri", uriPath(path)}, {"uriBaseId", rootName}};
+}
+
+/// "wrong-color" as a name: "WrongColor".
+std::string ruleName(std::string_view identifier) {
+    std::string name;
+    bool beginsWord = true;
+    for (const char character : identifier) {
+        if (character == '-') {
+            beginsWord = true;
+            continue;
+        }
+        const bool isLetter = character >= 'a' && character <= 'z';
+        name += beginsWord && isLetter ? static_cast<char>(character - 'a' + 'A') : character;
+        beginsWord = false;
+    }
+    return name;
+}
+
+/// The hash FNV-1a of a text, in hexadecimal digits.
+std::string hashOf(std::string_view text) {
+    constexpr std::string_view digits = "0123456789abcdef";
+    std::uint64_t hash = 0xcbf29ce484222325U;
+    for (const char character : text) {
+        hash = (hash ^ static_cast<unsigned char>(character)) * 0x100000001b3U;
+    }
+    std::string shown;
+    for (int shift = 60; shift >= 0; shift -= 4) {
+        shown += digits[hash >> static_cast<unsigned>(shift) & 15U];
+    }
+    return shown;
+}
+
+/// The line of a place without its blanks, which change where only the form of a file does. Of a
+/// very long one it is the beginning.
+std::string lineContent(const Place& place, const FileWindow& window) {
+    constexpr std::int64_t longest = 4096;
+    std::string line = window(place.offset - (place.column - 1), longest);
+    line.resize(std::min(line.find_first_of("\r\n"), line.size()));
+    std::erase_if(line, [](char character) { return character == ' ' || character == '\t'; });
+    return line;
 }
 
 /// A text as messages have it, where single braces would be placeholders.
@@ -49,69 +116,87 @@ std::string messageText(std::string_view text) {
     return message;
 }
 
-/// A rule's text with an ellipsis for each "{0}" that a finding puts its own words in for.
-std::string textOfRule(std::string_view text) {
-    std::string shortened;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        if (text.substr(at).starts_with('{') && text.substr(at + 2).starts_with('}')) {
-            shortened += "\xE2\x80\xA6";
-            at += 2;
-        } else {
-            shortened += text[at];
-        }
-    }
-    return shortened;
+Json message(std::string_view text) {
+    return {{"text", messageText(text)}};
 }
 
 Json rules() {
     Json list = Json::array();
     for (const DiagnosticRule& rule : diagnosticRules()) {
-        list.push_back({{"id", rule.identifier},
-                        {"shortDescription", {{"text", messageText(textOfRule(rule.text))}}},
-                        {"fullDescription", {{"text", messageText(rule.explanation)}}},
-                        {"defaultConfiguration", {{"level", severityName(rule.severity)}}}});
+        const std::string explained = messageText(rule.explanation) +
+                                      " See `quorvane check --explain " +
+                                      std::string(rule.identifier) + "` for examples.";
+        list.push_back(
+            {{"id", rule.identifier},
+             {"name", ruleName(rule.identifier)},
+             {"shortDescription", message(ruleTitle(rule))},
+             {"fullDescription", message(rule.explanation)},
+             {"help", {{"text", explained}, {"markdown", explained}}},
+             {"defaultConfiguration",
+              {{"enabled", !isOffByDefault(rule.id)}, {"level", severityName(rule.severity)}}}});
     }
     return list;
 }
 
 Json region(const Place& place) {
-    return {{"startLine", place.line},
-            {"startColumn", place.column},
-            {"endColumn", place.column + place.length},
-            {"charOffset", place.offset},
-            {"charLength", place.length}};
+    return {{"startLine", place.line},    {"startColumn", place.column},
+            {"endLine", place.line},      {"endColumn", place.column + place.length},
+            {"charOffset", place.offset}, {"charLength", place.length}};
 }
 
-Json result(const std::string& file, const quorvane::Diagnostic& finding) {
+Json fixOf(const std::string& file, const Fix& fix, const std::string& hint) {
+    const Json replacement = {{"deletedRegion", region(fix.place)},
+                              {"insertedContent", {{"text", fix.replacement}}}};
+    return {{"description", message(hint)},
+            {"artifactChanges", Json::array({{{"artifactLocation", artifactLocation(file)},
+                                              {"replacements", Json::array({replacement})}}})}};
+}
+
+Json resultOf(const std::string& file, const quorvane::Diagnostic& finding,
+              const std::string& fingerprint) {
     const DiagnosticRule& rule = diagnosticRule(finding.id);
     const std::string hint = finding.hint.empty() ? "" : " (" + finding.hint + ")";
-    return {{"ruleId", rule.identifier},
-            {"ruleIndex", &rule - diagnosticRules().data()},
-            {"level", severityName(finding.severity)},
-            {"message", {{"text", messageText(finding.message + hint)}}},
-            {"locations", Json::array({{{"physicalLocation",
-                                         {{"artifactLocation", {{"uri", uriOf(file)}}},
-                                          {"region", region(finding.place)}}}}})}};
+    Json result = {{"ruleId", rule.identifier},
+                   {"ruleIndex", &rule - diagnosticRules().data()},
+                   {"level", severityName(finding.severity)},
+                   {"message", message(finding.message + hint)},
+                   {"locations", Json::array({{{"physicalLocation",
+                                                {{"artifactLocation", artifactLocation(file)},
+                                                 {"region", region(finding.place)}}}}})},
+                   {"partialFingerprints", {{"primaryLocationLineHash", fingerprint}}}};
+    if (finding.fix) {
+        result["fixes"] = Json::array({fixOf(file, *finding.fix, finding.hint)});
+    }
+    return result;
 }
 
 }  // namespace
 
-void SarifLog::add(const std::string& file, quorvane::Diagnostic finding) {
-    findings_.emplace_back(file, std::move(finding));
+void SarifLog::add(const std::string& file, quorvane::Diagnostic finding,
+                   const FileWindow& window) {
+    const std::string hash = hashOf(std::string(diagnosticRule(finding.id).identifier) + "\n" +
+                                    lineContent(finding.place, window));
+    const int occurrence = ++occurrences_[{file, hash}];
+    results_.push_back({file, std::move(finding), hash + ":" + std::to_string(occurrence)});
 }
 
 std::string SarifLog::text(bool isComplete) const {
     Json results = Json::array();
-    for (const auto& [file, finding] : findings_) {
-        results.push_back(result(file, finding));
+    for (const Result& result : results_) {
+        results.push_back(resultOf(result.file, result.finding, result.fingerprint));
     }
+    Json invocation = {{"executionSuccessful", isComplete}};
     Json run = {
         {"tool",
-         {{"driver", {{"name", "quorvane"}, {"version", QUORVANE_VERSION}, {"rules", rules()}}}}},
-        {"invocations", Json::array({{{"executionSuccessful", isComplete}}})},
-        {"columnKind", "unicodeCodePoints"},
-        {"defaultEncoding", "windows-1252"},
-        {"results", std::move(results)}};
+         {{"driver", {{"name", "quorvane"}, {"version", QUORVANE_VERSION}, {"rules", rules()}}}}}};
+    if (const std::string root = rootUri(); !root.empty()) {
+        invocation["workingDirectory"] = {{"uri", root}};
+        run["originalUriBaseIds"] = {{rootName, {{"uri", root}}}};
+    }
+    run["invocations"] = Json::array({std::move(invocation)});
+    run["columnKind"] = "unicodeCodePoints";
+    run["defaultEncoding"] = "windows-1252";
+    run["results"] = std::move(results);
     const Json log = {{"$schema", "https://json.schemastore.org/sarif-2.1.0.json"},
                       {"version", "2.1.0"},
                       {"runs", Json::array({std::move(run)})}};

@@ -1,25 +1,37 @@
 #pragma once
 
+#include <cstddef>
+#include <map>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "cli/FindingExcerpt.h"
 #include "quorvane/diagnostics/Diagnostic.h"
 
 namespace quorvane::cli {
 
 /// The findings of one run as a log in the Static Analysis Results Interchange Format (SARIF)
-/// 2.1.0. Its rules are the table of diagnostics.
+/// 2.1.0, with what code scanning of GitHub requires. Its rules are the table of diagnostics.
 class SarifLog {
 public:
-    /// Adds a finding about a file, named as on the command line.
-    void add(const std::string& file, quorvane::Diagnostic finding);
+    /// Adds a finding about a file, named as on the command line, with the file's window.
+    void add(const std::string& file, quorvane::Diagnostic finding, const FileWindow& window);
 
     /// The log, which ends with a line break. `isComplete` tells whether all files could be read.
     std::string text(bool isComplete) const;
 
 private:
-    std::vector<std::pair<std::string, quorvane::Diagnostic>> findings_;
+    struct Result {
+        std::string file;
+        quorvane::Diagnostic finding;
+        // Stays the same when the line moves.
+        std::string fingerprint;
+    };
+
+    std::vector<Result> results_;
+    // How often a line's content has had the same finding, by file and hash.
+    std::map<std::pair<std::string, std::string>, int> occurrences_;
 };
 
 }  // namespace quorvane::cli

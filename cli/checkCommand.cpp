@@ -1,18 +1,27 @@
 #include "cli/checkCommand.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
+#include <string_view>
+#include <utility>
 
 #include "cli/CheckJob.h"
 #include "cli/FindingReport.h"
 #include "cli/RenderOptions.h"
 #include "cli/SarifLog.h"
+#include "cli/checkSummary.h"
 #include "cli/colors.h"
 #include "cli/diagnosticJson.h"
 #include "cli/diagnosticText.h"
 #include "cli/explanation.h"
+#include "cli/fileFailure.h"
 #include "cli/findingJson.h"
 #include "cli/process.h"
+#include "cli/ruleNamed.h"
+#include "cli/unifiedDiff.h"
 
 namespace quorvane::cli {
 
@@ -22,9 +31,17 @@ std::string shownName(const std::string& file) {
     return file == standardStream ? "<stdin>" : file;
 }
 
-/// Gathers small texts: standard output writes each one at once.
-class Report {
+/// Standard output cannot be written.
+struct OutputFailure {
+    RtfError error;
+};
+
+/// Gathers small texts: a standard stream writes each one at once.
+class Gatherer {
 public:
+    /// Writes to standard output, or to standard error.
+    explicit Gatherer(bool toOutput) : output_(toOutput ? opened() : nullptr) {}
+
     void add(std::string_view text) {
         gathered_ += text;
         if (gathered_.size() > enough) {
@@ -32,20 +49,43 @@ public:
         }
     }
 
+    /// Throws an `OutputFailure`, as `add` does.
     void end() {
         flush();
-        output_->close();
+        try {
+            if (output_) {
+                output_->close();
+            }
+        } catch (const RtfError& error) {
+            throw OutputFailure{error};
+        }
     }
 
 private:
     static constexpr std::size_t enough = std::size_t{64} * 1024;
 
-    void flush() {
-        output_->write(gathered_);
-        gathered_.clear();
+    static std::unique_ptr<OutputFile> opened() {
+        try {
+            return openStandardOutput();
+        } catch (const RtfError& error) {
+            throw OutputFailure{error};
+        }
     }
 
-    std::unique_ptr<OutputFile> output_ = openStandardOutput();
+    void flush() {
+        const std::string text = std::exchange(gathered_, {});
+        if (!output_) {
+            writeToStandardError(text);
+            return;
+        }
+        try {
+            output_->write(text);
+        } catch (const RtfError& error) {
+            throw OutputFailure{error};
+        }
+    }
+
+    std::unique_ptr<OutputFile> output_;
     std::string gathered_;
 };
 
@@ -54,13 +94,39 @@ void tellFailure(const Diagnostic& failure, FindingsForm form) {
         (form == FindingsForm::Text ? diagnosticText(failure) : diagnosticJson(failure)) + "\n");
 }
 
-ExitStatus checkAndTell(const CheckOptions& options) {
-    const Colors colors = wantedColors(standardOutputIsTerminal());
-    Report report;
+/// What the options ask for instead of a check; empty when they ask for one.
+std::string answerWithoutCheck(const CheckOptions& options) {
     if (options.explained) {
-        report.add(explanation(*options.explained));
+        return explanation(ruleNamed("--explain", *options.explained));
+    }
+    if (!options.lists) {
+        return {};
+    }
+    return options.form == FindingsForm::Text   ? diagnosticsList()
+           : options.form == FindingsForm::Json ? diagnosticsListJson()
+                                                : SarifLog().text(true);
+}
+
+/// True when standard output is for the bytes of a fixed text or for a diff.
+bool isOutputForBytes(const CheckOptions& options) {
+    const bool readsInput = std::find(options.files.begin(), options.files.end(), standardStream) !=
+                            options.files.end();
+    return options.showsDiff || (options.fixes && readsInput);
+}
+
+ExitStatus checkAndTell(const CheckOptions& options) {
+    const bool isForBytes = isOutputForBytes(options);
+    const Colors outputColors = wantedColors(standardOutputIsTerminal());
+    const Colors colors = isForBytes ? wantedColors(standardErrorColumns() > 0) : outputColors;
+    Gatherer report(!isForBytes);
+    if (const std::string answer = answerWithoutCheck(options); !answer.empty()) {
+        report.add(answer);
         report.end();
         return ExitStatus::Success;
+    }
+    std::optional<Gatherer> bytes;
+    if (isForBytes) {
+        bytes.emplace(true);
     }
     SarifLog log;
     FindingReport text(colors, [&](std::string_view part) { report.add(part); });
@@ -74,15 +140,29 @@ ExitStatus checkAndTell(const CheckOptions& options) {
                 report.add(findingJson(shownName(file), finding) + "\n");
                 break;
             case FindingsForm::Sarif:
-                log.add(file, finding);
+                // A log says what is wrong with the files as they are now.
+                if (!finding.isFixed) {
+                    log.add(file, finding, window);
+                }
                 break;
         }
     };
     const auto fail = [&](const Diagnostic& failure) { tellFailure(failure, options.form); };
-    const ExitStatus status = CheckJob(options, find, fail).run();
+    const auto write = [&](std::string_view text) {
+        bytes->add(options.showsDiff && standardOutputIsTerminal()
+                       ? diffForTerminal(text, outputColors)
+                       : text);
+    };
+    CheckJob job(options, find, fail, systemPlatform(), write);
+    const ExitStatus status = job.run();
     text.end();
     if (options.form == FindingsForm::Sarif) {
-        report.add(log.text(status != ExitStatus::Failure));
+        report.add(log.text(!job.hasFailed()));
+    } else if (options.form == FindingsForm::Text && !options.isQuiet) {
+        report.add(checkSummary(job.counts()));
+    }
+    if (bytes) {
+        bytes->end();
     }
     report.end();
     return status;
@@ -93,8 +173,8 @@ ExitStatus checkAndTell(const CheckOptions& options) {
 ExitStatus check(const CheckOptions& options) {
     try {
         return checkAndTell(options);
-    } catch (const RtfError& error) {
-        tellFailure({DiagnosticKind::Raised, "<stdout>", error}, options.form);
+    } catch (const OutputFailure& failure) {
+        tellFailure(fileFailure("<stdout>", failure.error), options.form);
         return ExitStatus::Failure;
     }
 }

@@ -20,10 +20,13 @@ constexpr const char* renderFooter =
 Without --output and --output-dir a document goes beside its description, under
 its name with the extension rtf, and that of standard input to standard output,
 which --output names as -. In a folder the document of standard input is named
-stdin.rtf. Of a description that has errors nothing is written, unless with
---keep-going. A document appears whole or not at all.
+stdin.rtf. A description that has errors is not rendered, unless with
+--keep-going, which writes what could be built of it, if anything could. A
+document appears whole or not at all, and never takes the place of a
+description or a stylesheet.
 
-Errors are told on standard error, one a line.
+Errors are reported on standard error as "quorvane check" reports them. With
+--check, texts that would corrupt the document are errors too.
 
 Exit status:
   0  all is well
@@ -32,22 +35,31 @@ Exit status:
 
 constexpr const char* checkFooter =
     R"(A file is a description, a stylesheet or an RTF file by its content, and where
-that does not tell, by its extension; - is standard input. Nothing is written
-but what was found, on standard output:
+that does not tell, by its extension; - is standard input. A folder stands for
+the .rtfspec, .rtfss and .rtf files below it. What is wrong is reported on
+standard output:
 
   letter.rtfspec:3:5: error: crimson isn't a recognized color. [wrong-color]
       (rb=crimson)
           ^~~~~~~
       hint: did you mean dark-red?
 
-The name in brackets is what --explain takes. On a terminal the text is
-coloured, unless the environment has a variable NO_COLOR that is not empty.
+The name in brackets is the identifier that --explain, --ignore and --enable
+take. A comment takes a diagnostic of the next line out of the report:
 
-Exit status:
-  0  nothing was found
+  ; quorvane: ignore wrong-color
+
+With --fix the report of standard input goes to standard error, and its fixed
+text to standard output; so does the diff of --diff. On a terminal the text is
+colored, unless the environment has a variable NO_COLOR that is not empty.
+
+Exit status, after fixing:
+  0  nothing is wrong
   1  there are errors
-  2  wrong usage, or a file that cannot be read
-  3  there are warnings and no errors)";
+  2  wrong usage, or a file that cannot be read or written
+  3  there are warnings and no errors
+With --fail-on=error warnings do not count; with --fail-on=never the status is
+0 unless it is 2.)";
 
 const std::map<std::string, FindingsForm>& findingsForms() {
     static const std::map<std::string, FindingsForm> forms = {
@@ -66,9 +78,11 @@ neither a description nor a stylesheet: that is an error. The form means the
 same: it renders to the same document. Errors may be told in other words, as
 they repeat lines of the description.
 
+--diff writes a unified diff, which "patch -p1" and "git apply" take.
+
 Exit status:
   0  all is well
-  1  with --check: there are files that are not in their canonical form
+  1  with --check or --diff: there are files that are not in their canonical form
   2  wrong usage, or a file that cannot be read, formatted or written)";
 
 const std::map<std::string, NameForm>& nameForms() {
@@ -78,6 +92,15 @@ const std::map<std::string, NameForm>& nameForms() {
         {"short", NameForm::Short},
     };
     return forms;
+}
+
+const std::map<std::string, FailOn>& failingSeverities() {
+    static const std::map<std::string, FailOn> severities = {
+        {"error", FailOn::Error},
+        {"warning", FailOn::Warning},
+        {"never", FailOn::Never},
+    };
+    return severities;
 }
 
 const std::map<std::string, DiagnosticsForm>& diagnosticsForms() {
@@ -102,6 +125,14 @@ std::string asGiven(std::string argument) {
     return argument;
 }
 
+/// The parser would take the next argument for the value of an option such as "--output=".
+void requireValueAfterSign(const std::string& argument) {
+    const std::size_t sign = argument.find('=');
+    if (argument.starts_with("--") && sign + 1 == argument.size()) {
+        throw UsageError(argument + " lacks its value");
+    }
+}
+
 /// The arguments as the parser takes them: the last one first.
 std::vector<std::string> prepared(const std::vector<std::string>& arguments) {
     std::vector<std::string> result;
@@ -110,6 +141,9 @@ std::vector<std::string> prepared(const std::vector<std::string>& arguments) {
         if (!onlyNamesFollow && argument == "--") {
             onlyNamesFollow = true;
         } else {
+            if (!onlyNamesFollow) {
+                requireValueAfterSign(argument);
+            }
             const bool isName = onlyNamesFollow || argument.starts_with('[');
             result.push_back(isName ? asName(argument) : argument);
         }
@@ -140,6 +174,13 @@ CLI::callback_t storeIn(DiagnosticsForm& target) {
     };
 }
 
+CLI::callback_t storeIn(FailOn& target) {
+    return [&target](const CLI::results_t& results) {
+        target = failingSeverities().at(results.front());
+        return true;
+    };
+}
+
 CLI::callback_t storeIn(FindingsForm& target) {
     return [&target](const CLI::results_t& results) {
         target = findingsForms().at(results.front());
@@ -147,12 +188,53 @@ CLI::callback_t storeIn(FindingsForm& target) {
     };
 }
 
+void addStandardFlags(CLI::App& app) {
+    app.set_help_flag("-h,--help", "Show this help and exit");
+    app.set_version_flag("-V,--version", versionText, "Show the version and exit");
+}
+
+/// Refuses values without a character: they name no file and mean nothing.
+void refuseEmptyValues(CLI::App& app) {
+    for (CLI::Option* option : app.get_options()) {
+        if (option->get_items_expected_max() > 0) {
+            option->transform(CLI::Validator(
+                [](std::string& value) {
+                    return asGiven(value).empty() ? std::string("the value is empty")
+                                                  : std::string();
+                },
+                ""));
+        }
+    }
+}
+
+void addStdinFilename(CLI::App& app, std::optional<std::string>& target) {
+    app.add_option("--stdin-filename", storeIn(target),
+                   "Treat standard input as a file of this name")
+        ->type_name("NAME");
+}
+
+void requireStandardInput(const std::optional<std::string>& name,
+                          const std::vector<std::string>& files) {
+    if (name && std::find(files.begin(), files.end(), standardStream) == files.end()) {
+        throw UsageError("--stdin-filename names standard input, but no FILE is -");
+    }
+}
+
+/// An option that takes identifiers, separated by commas, and can be given several times.
+void addIdentifiersOption(CLI::App& app, const std::string& name,
+                          std::vector<std::string>& identifiers, const std::string& help) {
+    app.add_option(name, storeIn(identifiers), help)
+        ->type_name("ID[,ID...]")
+        ->expected(1)
+        ->delimiter(',')
+        ->take_all();
+}
+
 CLI::App* addCheckCommand(CLI::App& app, CheckOptions& options) {
     CLI::App* check =
         app.add_subcommand("check", "Tell what is wrong with descriptions, stylesheets and RTF.");
     check->footer(checkFooter);
-    check->set_help_flag("-h,--help", "Show this help and exit");
-    check->set_version_flag("--version", versionText, "Show the version and exit");
+    addStandardFlags(*check);
     check->add_option("FILE", storeIn(options.files), "Files to check")
         ->type_name("")
         ->expected(1, CLI::detail::expected_max_vector_size)
@@ -166,9 +248,22 @@ CLI::App* addCheckCommand(CLI::App& app, CheckOptions& options) {
                      "Tell findings as text, as JSON objects or as a SARIF log")
         ->type_name("text|json|sarif")
         ->check(CLI::IsMember(findingsForms()).description(""));
+    check->add_flag("--fix", options.fixes, "Make the replacements that are certain");
+    check->add_flag("--diff", options.showsDiff, "Show what --fix would change; change nothing");
+    addIdentifiersOption(*check, "--ignore", options.ignored, "Leave these diagnostics out");
+    addIdentifiersOption(*check, "--enable", options.enabled,
+                         "Report these too, which are off by default");
+    check
+        ->add_option("--fail-on", storeIn(options.failOn),
+                     "From which severity on the exit status is not 0")
+        ->type_name("error|warning|never")
+        ->check(CLI::IsMember(failingSeverities()).description(""));
+    check->add_flag("-q,--quiet", options.isQuiet, "Leave out the summary at the end");
+    check->add_flag("--list", options.lists, "List all diagnostics");
     check->add_option("--explain", storeIn(options.explained), "Explain a diagnostic")
-        ->type_name("IDENTIFIER")
-        ->excludes("FILE");
+        ->type_name("ID");
+    addStdinFilename(*check, options.stdinName);
+    refuseEmptyValues(*check);
     return check;
 }
 
@@ -183,8 +278,7 @@ CLI::App* addFormatCommand(CLI::App& app, FormatOptions& options) {
     CLI::App* format =
         app.add_subcommand("format", "Put descriptions and stylesheets into their canonical form.");
     format->footer(formatFooter);
-    format->set_help_flag("-h,--help", "Show this help and exit");
-    format->set_version_flag("--version", versionText, "Show the version and exit");
+    addStandardFlags(*format);
     format->add_option("FILE", storeIn(options.files), "Files to format")
         ->type_name("")
         ->required()
@@ -197,14 +291,16 @@ CLI::App* addFormatCommand(CLI::App& app, FormatOptions& options) {
         ->check(CLI::IsMember(nameForms()).description(""));
     format->add_flag("--check", options.check,
                      "Change nothing; name the files that are not in their form");
+    format->add_flag("--diff", options.diff, "Change nothing; show what would change");
+    addStdinFilename(*format, options.stdinName);
+    refuseEmptyValues(*format);
     return format;
 }
 
 void addRenderCommand(CLI::App& app, RenderOptions& options) {
     CLI::App* render = app.add_subcommand("render", "Render descriptions as RTF documents.");
     render->footer(renderFooter);
-    render->set_help_flag("-h,--help", "Show this help and exit");
-    render->set_version_flag("--version", versionText, "Show the version and exit");
+    addStandardFlags(*render);
     render->add_option("DESCRIPTION", storeIn(options.descriptions), "Files to render")
         ->type_name("")
         ->required()
@@ -221,7 +317,15 @@ void addRenderCommand(CLI::App& app, RenderOptions& options) {
                      "Write the documents into this folder")
         ->type_name("DIR")
         ->excludes("--output");
-    render->add_flag("--check", options.check, "Repair unclosed rows; check keys and values");
+    render->add_flag("--mkdir", options.makesOutputFolder, "Create the folder of --output-dir")
+        ->needs("--output-dir");
+    render->add_flag("--check", options.check,
+                     "Repair unclosed rows; check keys, values and texts");
+    render
+        ->add_option("--fail-on", storeIn(options.failOn),
+                     "Fail on errors, on warnings of check too, or never")
+        ->type_name("error|warning|never")
+        ->check(CLI::IsMember(failingSeverities()).description(""));
     render->add_flag("--keep-going", options.keepGoing,
                      "Write what could be built in spite of errors");
     render
@@ -229,6 +333,47 @@ void addRenderCommand(CLI::App& app, RenderOptions& options) {
                      "Tell errors as text or as JSON objects")
         ->type_name("text|json")
         ->check(CLI::IsMember(diagnosticsForms()).description(""));
+    refuseEmptyValues(*render);
+}
+
+constexpr std::string_view commands[] = {"render", "check", "format", "help"};
+
+std::string unknownCommandText(const std::string& name) {
+    const std::string guess = didYouMean(name, commands);
+    return name + " is not a subcommand; " +
+           (guess.empty() ? "render, check, format and help are" : guess);
+}
+
+/// The arguments that "help" with what follows it stands for.
+std::vector<std::string> helpRequest(const std::vector<std::string>& commandsAskedFor) {
+    if (commandsAskedFor.empty()) {
+        return {"--help"};
+    }
+    const std::string& first = commandsAskedFor.front();
+    if (std::find(std::begin(commands), std::end(commands), first) == std::end(commands)) {
+        throw UsageError(unknownCommandText(first));
+    }
+    return {first, "--help"};
+}
+
+CLI::App* addHelpCommand(CLI::App& app, std::vector<std::string>& commandsAskedFor) {
+    CLI::App* help = app.add_subcommand("help", "Show the help of a subcommand.");
+    addStandardFlags(*help);
+    help->add_option("SUBCOMMAND", storeIn(commandsAskedFor), "render, check, format or help")
+        ->type_name("");
+    return help;
+}
+
+/// Throws a `UsageError` unless there are files to check, or something else to show.
+void requireOneTask(const CheckOptions& options) {
+    const int tasks =
+        (options.files.empty() ? 0 : 1) + (options.explained ? 1 : 0) + (options.lists ? 1 : 0);
+    if (tasks == 0) {
+        throw UsageError("FILE is required");
+    }
+    if (tasks > 1) {
+        throw UsageError("--list and --explain stand alone, without a FILE");
+    }
 }
 
 /// What is wrong with the arguments. The parser complains of what is missing first; where something
@@ -242,10 +387,7 @@ std::string usageErrorText(const CLI::App& app, const CLI::ParseError& error) {
     if (first.starts_with('-') || app.got_subcommand("render")) {
         return "The following argument was not expected: " + first;
     }
-    constexpr std::string_view commands[] = {"render", "check", "format"};
-    const std::string guess = didYouMean(first, commands);
-    return first + " is not a subcommand; " +
-           (guess.empty() ? "render, check and format are" : guess);
+    return unknownCommandText(first);
 }
 
 }  // namespace
@@ -257,23 +399,27 @@ std::variant<RenderOptions, CheckOptions, FormatOptions, Information> parseComma
     FormatOptions formatOptions;
     CLI::App app("Renders descriptions of documents as Rich Text Format.", "quorvane");
     app.require_subcommand(1);
-    app.set_help_flag("-h,--help", "Show this help and exit");
-    app.set_version_flag("--version", versionText, "Show the version and exit");
+    addStandardFlags(app);
     app.allow_windows_style_options(false);
     addRenderCommand(app, options);
     const CLI::App* check = addCheckCommand(app, checkOptions);
     const CLI::App* format = addFormatCommand(app, formatOptions);
+    std::vector<std::string> commandsAskedFor;
+    const CLI::App* help = addHelpCommand(app, commandsAskedFor);
 
     try {
         app.parse(prepared(arguments));
         if (check->parsed()) {
-            if (checkOptions.files.empty() && !checkOptions.explained) {
-                throw UsageError("FILE is required");
-            }
+            requireOneTask(checkOptions);
+            requireStandardInput(checkOptions.stdinName, checkOptions.files);
             return checkOptions;
         }
         if (format->parsed()) {
+            requireStandardInput(formatOptions.stdinName, formatOptions.files);
             return formatOptions;
+        }
+        if (help->parsed()) {
+            return parseCommandLine(helpRequest(commandsAskedFor));
         }
         return options;
     } catch (const CLI::Success& request) {

@@ -20,6 +20,17 @@ Json levelOrNull(std::int32_t number) {
     return level ? Json(errorLevelName(*level)) : Json(nullptr);
 }
 
+std::string_view kindName(DiagnosticKind kind) {
+    switch (kind) {
+        case DiagnosticKind::Event:
+            return "event";
+        case DiagnosticKind::Check:
+            return "check";
+        default:
+            return "raised";
+    }
+}
+
 }  // namespace
 
 std::string diagnosticJson(const Diagnostic& diagnostic) {
@@ -31,7 +42,7 @@ std::string diagnosticJson(const Diagnostic& diagnostic) {
     object["level"] = levelOrNull(error.number);
     object["source"] = textOrNull(error.source);
     object["message"] = error.description;
-    object["kind"] = diagnostic.kind == DiagnosticKind::Event ? "event" : "raised";
+    object["kind"] = kindName(diagnostic.kind);
     if (error.cause) {
         object["cause"] = causeText(error);
     }

@@ -3,7 +3,6 @@
 #include "cli/causeText.h"
 #include "cli/oneLine.h"
 #include "cli/shortened.h"
-#include "quorvane/driver/driverErrors.h"
 
 namespace quorvane::cli {
 
@@ -17,21 +16,18 @@ std::string place(const Diagnostic& diagnostic) {
     return diagnostic.file + (line > 0 ? ":" + std::to_string(line) : "") + ": ";
 }
 
-std::string levelOrNumber(std::int32_t number) {
-    const auto level = errorLevel(number);
-    return level ? std::string(errorLevelName(*level)) : std::to_string(number);
-}
-
 }  // namespace
 
 std::string diagnosticText(const Diagnostic& diagnostic) {
     const RtfError& error = diagnostic.error;
+    if (!diagnostic.reason.empty()) {
+        return oneLine(place(diagnostic) + diagnostic.reason);
+    }
     // A raised error may name the file that it is about; that of an event repeats a line.
     const std::string message = diagnostic.kind == DiagnosticKind::Event
                                     ? shortened(oneLine(error.description))
                                     : error.description;
-    return oneLine(place(diagnostic) + "error[" + levelOrNumber(error.number) +
-                   "]: " + withCause(message, error));
+    return oneLine(place(diagnostic) + "error: " + withCause(message, error));
 }
 
 }  // namespace quorvane::cli

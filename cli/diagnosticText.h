@@ -7,9 +7,9 @@
 namespace quorvane::cli {
 
 /// The error for a person, on one line without its end:
-/// "letter.rtfspec:12: error[eWrongValue]: crimson isn't a recognized color." The brackets hold the
-/// error's level, or its number where it has none; what lies behind the error follows in
-/// parentheses.
+/// "letter.rtfspec:12: error: crimson isn't a recognized color.", what lies behind it in
+/// parentheses after it; or, for a file that cannot be read or written, the system's reason alone:
+/// "letter.rtfspec: No such file or directory".
 std::string diagnosticText(const Diagnostic& diagnostic);
 
 }  // namespace quorvane::cli

@@ -1,13 +1,9 @@
 #include "cli/diagnosticsPage.h"
 
-#include <map>
 #include <string_view>
-#include <utility>
 
-#include "cli/CheckJob.h"
-#include "cli/FindingReport.h"
+#include "cli/exampleReport.h"
 #include "cli/oneLine.h"
-#include "quorvane/diagnostics/TrialPlatform.h"
 #include "quorvane/diagnostics/diagnosticRules.h"
 #include "quorvane/support/trimming.h"
 
@@ -15,29 +11,13 @@ namespace quorvane::cli {
 
 namespace {
 
-constexpr const char* descriptionName = "example.rtfspec";
-constexpr const char* styleSheetName = "example.rtfss";
-constexpr const char* rtfName = "example.rtf";
-
 constexpr std::string_view introduction = R"(# Diagnostics
 
-What `quorvane check` tells of descriptions, stylesheets and RTF files: one section for each identifier. `quorvane check --explain IDENTIFIER` shows the same on the terminal. An error is what the library rejects or a reader cannot make sense of; a warning is what is accepted and does not do what its author wants. The messages of errors are the library's own where it has one.
+What `quorvane check` reports about descriptions, stylesheets and RTF files: one section for each identifier. `quorvane check --explain IDENTIFIER` shows the same on the terminal, `quorvane check --list` all identifiers. An error is what the library rejects or a reader cannot make sense of; a warning is what is accepted and does not do what its author wants. The messages of errors are the library's own where it has one.
 
-This page is made of the table `quorvane/diagnostics/diagnosticTable.h` by `scripts/diagnostics-page`; each report in it is what the command says of the example above it. In an example the lines between `; N times:` and `; so far` stand there N times.
+This page is made of the table `quorvane/diagnostics/diagnosticTable.h` by `scripts/diagnostics-page`; each report in it is what the command writes about the example above it, without the summary at its end. In an example the lines between `; N times:` and `; so far` stand there N times.
 
 )";
-
-/// The files of an example.
-class ExampleFiles : public TrialPlatform {
-public:
-    void add(const std::string& name, std::string_view example) {
-        files_[name] = expandedExample(example);
-    }
-    std::string readFile(const std::string& path) override { return files_.at(path); }
-
-private:
-    std::map<std::string, std::string> files_;
-};
 
 std::string_view languageName(CheckedLanguage language) {
     switch (language) {
@@ -49,39 +29,6 @@ std::string_view languageName(CheckedLanguage language) {
             break;
     }
     return "RTF files";
-}
-
-std::string reportOf(const DiagnosticRule& rule) {
-    ExampleFiles files;
-    CheckOptions options;
-    if (rule.language == CheckedLanguage::Rtf) {
-        options.files = {rtfName};
-        files.add(rtfName, rule.wrong);
-    } else if (rule.language == CheckedLanguage::Description) {
-        options.files = {descriptionName};
-        files.add(descriptionName, rule.wrong);
-        if (!rule.companion.empty()) {
-            options.styleSheet = styleSheetName;
-            files.add(styleSheetName, rule.companion);
-        }
-    } else if (rule.companion.empty()) {
-        options.files = {styleSheetName};
-        files.add(styleSheetName, rule.wrong);
-    } else {
-        options.files = {descriptionName};
-        options.styleSheet = styleSheetName;
-        files.add(descriptionName, rule.companion);
-        files.add(styleSheetName, rule.wrong);
-    }
-    std::string report;
-    FindingReport text(Colors::Off, [&](std::string_view part) { report += part; });
-    const auto find = [&](const std::string& file, const quorvane::Diagnostic& finding,
-                          const FileWindow& window) { text.add(file, finding, window); };
-    CheckJob(
-        options, find, [](const Diagnostic&) {}, files)
-        .run();
-    text.end();
-    return report;
 }
 
 std::string block(std::string_view title, std::string_view text) {
@@ -104,7 +51,7 @@ std::string section(const DiagnosticRule& rule) {
     }
     if (!rule.wrong.empty()) {
         text += block("Wrong:", rule.wrong);
-        text += block("The report:", reportOf(rule));
+        text += block("The report:", exampleReport(rule));
         text += block("Right:", rule.right);
     }
     return text;

@@ -1,13 +1,13 @@
 #include "cli/explanation.h"
 
+#include <algorithm>
+#include <cstddef>
+#include <nlohmann/json.hpp>
 #include <sstream>
 #include <string_view>
-#include <vector>
 
-#include "cli/UsageError.h"
+#include "cli/exampleReport.h"
 #include "cli/oneLine.h"
-#include "quorvane/diagnostics/diagnosticRules.h"
-#include "quorvane/diagnostics/nearestWord.h"
 
 namespace quorvane::cli {
 
@@ -52,29 +52,49 @@ std::string example(std::string_view title, std::string_view text) {
     return text.empty() ? std::string() : shown;
 }
 
-const DiagnosticRule& ruleNamed(const std::string& identifier) {
-    if (const DiagnosticRule* rule = findDiagnosticRule(identifier)) {
-        return *rule;
-    }
-    std::vector<std::string_view> identifiers;
-    for (const DiagnosticRule& rule : diagnosticRules()) {
-        identifiers.push_back(rule.identifier);
-    }
-    const std::string hint = didYouMean(identifier, identifiers);
-    throw UsageError("there is no diagnostic " + identifier + (hint.empty() ? "" : "; " + hint));
-}
+using Json = nlohmann::ordered_json;
 
 }  // namespace
 
-std::string explanation(const std::string& identifier) {
-    const DiagnosticRule& rule = ruleNamed(identifier);
+std::string explanation(const DiagnosticRule& rule) {
     const bool isSheet = rule.language == CheckedLanguage::StyleSheet;
     return std::string(rule.identifier) + ": " + std::string(severityName(rule.severity)) + " in " +
-           std::string(languageName(rule.language)) + "\n    " + oneLine(rule.text) + "\n\n" +
-           wrapped(rule.explanation) + example("Wrong:", rule.wrong) +
-           example("Right:", rule.right) +
+           std::string(languageName(rule.language)) +
+           (isOffByDefault(rule.id) ? ", off by default" : "") + "\n    " + exampleMessage(rule) +
+           "\n\n" + wrapped(rule.explanation) +
            example(isSheet ? "The description of both:" : "The stylesheet of both:",
-                   rule.companion);
+                   rule.companion) +
+           example("Wrong:", rule.wrong) + example("The report:", exampleReport(rule)) +
+           example("Right:", rule.right);
+}
+
+std::string diagnosticsList() {
+    std::size_t longest = 0;
+    for (const std::string_view identifier : diagnosticIdentifiers()) {
+        longest = std::max(longest, identifier.size());
+    }
+    std::string list;
+    for (const DiagnosticRule& rule : diagnosticRules()) {
+        const std::string blanks(longest - rule.identifier.size() + 2, ' ');
+        list += std::string(rule.identifier) + blanks +
+                (rule.severity == Severity::Error ? "error    " : "warning  ") + ruleTitle(rule) +
+                (isOffByDefault(rule.id) ? " (off by default)" : "") + "\n";
+    }
+    return list;
+}
+
+std::string diagnosticsListJson() {
+    constexpr std::string_view languages[] = {"description", "stylesheet", "rtf"};
+    std::string list;
+    for (const DiagnosticRule& rule : diagnosticRules()) {
+        const Json object = {{"identifier", rule.identifier},
+                             {"severity", severityName(rule.severity)},
+                             {"language", languages[static_cast<std::size_t>(rule.language)]},
+                             {"title", ruleTitle(rule)},
+                             {"default", !isOffByDefault(rule.id)}};
+        list += object.dump() + "\n";
+    }
+    return list;
 }
 
 }  // namespace quorvane::cli

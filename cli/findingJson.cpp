@@ -19,6 +19,14 @@ std::string findingJson(const std::string& file, const quorvane::Diagnostic& fin
     if (!finding.hint.empty()) {
         object["hint"] = finding.hint;
     }
+    if (finding.fix) {
+        object["fix"] = {{"offset", finding.fix->place.offset},
+                         {"length", finding.fix->place.length},
+                         {"replacement", finding.fix->replacement}};
+    }
+    if (finding.isFixed) {
+        object["fixed"] = true;
+    }
     // File names need not be UTF-8.
     return object.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
 }

@@ -31,15 +31,18 @@ std::string caretLine(const FindingExcerpt& excerpt, Colors colors) {
 std::string findingText(const std::string& file, const quorvane::Diagnostic& finding,
                         const FindingExcerpt& excerpt, Colors colors) {
     const Place& place = finding.place;
-    const std::string severity(severityName(finding.severity));
-    std::string text =
-        colored(bold,
-                oneLine(file) + ":" + std::to_string(place.line) + ":" +
-                    std::to_string(place.column) + ":",
-                colors) +
-        " " + colored(finding.severity == Severity::Error ? red : magenta, severity + ":", colors) +
-        " " + shortened(TrimEx(oneLine(finding.message))) + " [" +
-        std::string(diagnosticRule(finding.id).identifier) + "]\n";
+    const std::string label =
+        finding.isFixed ? "fixed" : std::string(severityName(finding.severity));
+    const std::string_view color = finding.isFixed                       ? green
+                                   : finding.severity == Severity::Error ? red
+                                                                         : magenta;
+    std::string text = colored(bold,
+                               oneLine(file) + ":" + std::to_string(place.line) + ":" +
+                                   std::to_string(place.column) + ":",
+                               colors) +
+                       " " + colored(color, label + ":", colors) + " " +
+                       shortened(TrimEx(oneLine(finding.message))) + " [" +
+                       std::string(diagnosticRule(finding.id).identifier) + "]\n";
     const std::string line = excerpt.before + excerpt.marked + excerpt.after;
     if (!trimWhitespace(line).empty()) {
         text += indentation;
@@ -47,7 +50,10 @@ std::string findingText(const std::string& file, const quorvane::Diagnostic& fin
         text += indentation;
         text += caretLine(excerpt, colors) + "\n";
     }
-    if (!finding.hint.empty()) {
+    if (finding.isFixed) {
+        text += indentation;
+        text += "fix: " + shortened(oneLine(finding.fix->replacement)) + "\n";
+    } else if (!finding.hint.empty()) {
         text += indentation;
         text += "hint: " + shortened(oneLine(finding.hint)) + "\n";
     }

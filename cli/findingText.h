@@ -10,7 +10,8 @@ namespace quorvane::cli {
 
 /// A finding for a person: a line "letter.rtfspec:12:5: error: crimson isn't a recognized color.
 /// [wrong-color]", the line of the file, a line with a caret and a tilde under each further
-/// character that it concerns, and the hint where there is one.
+/// character that it concerns, and the hint where there is one. One that was fixed is marked as
+/// "fixed" in place of its severity, and shows what was written.
 std::string findingText(const std::string& file, const quorvane::Diagnostic& finding,
                         const FindingExcerpt& excerpt, Colors colors);
 

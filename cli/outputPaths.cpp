@@ -9,6 +9,7 @@
 #include "cli/followLinks.h"
 #include "cli/process.h"
 #include "cli/requireAnswer.h"
+#include "cli/sourceFile.h"
 #include "cli/utf8Path.h"
 
 namespace quorvane::cli {
@@ -100,6 +101,39 @@ bool wouldReplace(const std::string& name) {
     return isFile;
 }
 
+/// The description or the stylesheet whose file has another name, which no path shows.
+const std::string* linkedInput(const std::string& output,
+                               const std::map<std::string, std::string>& inputs) {
+    std::error_code failure;
+    const fs::path path = pathFromUtf8(output);
+    const bool hasOtherNames = fs::hard_link_count(path, failure) > 1;
+    requireAnswer(failure);
+    if (failure || !hasOtherNames) {
+        return nullptr;
+    }
+    for (const auto& [identity, input] : inputs) {
+        const bool isSame = fs::equivalent(path, pathFromUtf8(input), failure);
+        requireAnswer(failure);
+        if (isSame) {
+            return &input;
+        }
+    }
+    return nullptr;
+}
+
+void requireNoSource(const std::string& description, const std::string& output) {
+    if (const std::optional<CheckedLanguage> language = languageOfSourceFile(output)) {
+        throw UsageError("the document of " + description + " would replace " + output +
+                         ", which is a " +
+                         (*language == CheckedLanguage::StyleSheet ? "stylesheet" : "description") +
+                         "; name another file for the document, or move that one away");
+    }
+}
+
+UsageError wouldReplaceInput(const std::string& description, const std::string& input) {
+    return UsageError("the document of " + description + " would replace " + input);
+}
+
 UsageError bothWouldGoTo(const std::string& output, const std::string& first,
                          const std::string& second) {
     return UsageError("the documents of " + first + " and " + second + " would both go to " +
@@ -128,9 +162,12 @@ std::vector<Assignment> assignOutputs(const RenderOptions& options) {
                 inputs = inputsOf(options, identities);
             }
             if (const auto input = inputs->find(file); input != inputs->end()) {
-                throw UsageError("the document of " + description + " would replace " +
-                                 input->second);
+                throw wouldReplaceInput(description, input->second);
             }
+            if (const std::string* input = linkedInput(output, *inputs)) {
+                throw wouldReplaceInput(description, *input);
+            }
+            requireNoSource(description, output);
         }
         const auto [other, isNew] = descriptionsByOutput.emplace(file, description);
         if (!isNew) {

@@ -156,6 +156,28 @@ private:
     int descriptor_;
 };
 
+/// Standard output, by a descriptor of its own.
+class StandardOutputFile : public OutputFile {
+public:
+    explicit StandardOutputFile(int descriptor) noexcept : file_(descriptor) {}
+
+    void write(std::string_view bytes) override {
+        try {
+            file_.write(bytes);
+        } catch (const RtfError& error) {
+            if (error.cause && error.cause->number == EPIPE) {
+                throw ClosedPipe();
+            }
+            throw;
+        }
+    }
+
+    void close() override { file_.close(); }
+
+private:
+    DescriptorFile file_;
+};
+
 std::string folderOf(const std::string& path) {
     const std::size_t slash = path.rfind('/');
     return slash == std::string::npos ? "./" : path.substr(0, slash + 1);
@@ -297,12 +319,12 @@ std::string readStandardInput() {
 }
 
 std::unique_ptr<OutputFile> openStandardOutput() {
-    // A second descriptor: closing it tells whether all was written, and the stream stays open.
+    // A second descriptor: closing it shows whether all was written, and the stream stays open.
     const int descriptor = ::fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
     if (descriptor == -1) {
         raiseSystemError(errno);
     }
-    return std::make_unique<DescriptorFile>(descriptor);
+    return std::make_unique<StandardOutputFile>(descriptor);
 }
 
 std::unique_ptr<OutputFile> openReplacement(const std::string& path) {

@@ -11,9 +11,9 @@
 /// numbers of the platform's; their cause is what the system said. Paths are UTF-8.
 namespace quorvane::cli {
 
-/// Readies the process: a pipe that nobody reads and a file that may not grow are errors instead of
-/// its end, a signal that ends it takes the unfinished file along, and no file that it opens can
-/// take the place of a standard stream that was closed.
+/// Readies the process: a pipe that nobody reads and a file that may not grow do not end it at
+/// once, a signal that ends it takes the unfinished file along, and no file that it opens can take
+/// the place of a standard stream that was closed.
 void prepareProcess();
 
 /// Columns of the terminal that standard error is; 0 when it is none.
@@ -28,7 +28,12 @@ void writeToStandardError(std::string_view text) noexcept;
 /// All bytes of standard input. Errors: 75 when it is a folder, 57 when it is closed or fails.
 std::string readStandardInput();
 
-/// Standard output, for bytes as they are.
+/// Thrown when nobody reads standard output any more. It is not an error: whoever read what was
+/// written wanted no more.
+class ClosedPipe {};
+
+/// Standard output, for bytes as they are. Its members throw `ClosedPipe` where it is a pipe that
+/// nobody reads.
 std::unique_ptr<OutputFile> openStandardOutput();
 
 /// A file that appears under its name with `close`, whole, in the place of the one that was there,

@@ -11,9 +11,12 @@
 #include "cli/RenderJob.h"
 #include "cli/UsageError.h"
 #include "cli/checkCommand.h"
+#include "cli/colors.h"
 #include "cli/commandLine.h"
 #include "cli/diagnosticJson.h"
 #include "cli/diagnosticText.h"
+#include "cli/fileFailure.h"
+#include "cli/findingText.h"
 #include "cli/oneLine.h"
 #include "cli/process.h"
 #include "cli/progressLine.h"
@@ -45,7 +48,7 @@ void tellOutOfMemory(DiagnosticsForm form) noexcept {
                              ? R"({"file":null,"line":null,"number":7,"level":null,"source":null,)"
                                R"("message":"Out of memory","kind":"raised"})"
                                "\n"
-                             : "error[7]: Out of memory\n");
+                             : "quorvane: Out of memory\n");
 }
 
 ExitStatus show(const Information& information, DiagnosticsForm form) {
@@ -55,7 +58,7 @@ ExitStatus show(const Information& information, DiagnosticsForm form) {
         output->close();
         return ExitStatus::Success;
     } catch (const RtfError& error) {
-        writeToStandardError(lineOf({DiagnosticKind::Raised, "<stdout>", error}, form));
+        writeToStandardError(lineOf(fileFailure("<stdout>", error), form));
         return ExitStatus::Failure;
     }
 }
@@ -69,16 +72,26 @@ ExitStatus render(const RenderOptions& options) {
             writeToStandardError(erasedLine);
         }
     };
-    const auto tell = [&](const Diagnostic& diagnostic) {
+    RenderReceivers receivers;
+    receivers.report = [&](const Diagnostic& diagnostic) {
         eraseProgress();
         writeToStandardError(lineOf(diagnostic, options.diagnostics));
     };
-    const auto progress = [&](std::size_t number, std::size_t count, const std::string& name) {
+    if (options.diagnostics == DiagnosticsForm::Text) {
+        receivers.locate = [&, colors = wantedColors(columns > 0)](
+                               const std::string& file, const quorvane::Diagnostic& diagnostic,
+                               const FileWindow& window) {
+            eraseProgress();
+            writeToStandardError(
+                findingText(file, diagnostic, excerptAt(diagnostic.place, window), colors));
+        };
+    }
+    receivers.progress = [&](std::size_t number, std::size_t count, const std::string& name) {
         if (showsProgress) {
             writeToStandardError(progressLine(number, count, name, columns));
         }
     };
-    const ExitStatus status = RenderJob(options, tell, progress).run();
+    const ExitStatus status = RenderJob(options, receivers).run();
     eraseProgress();
     return status;
 }
@@ -108,6 +121,8 @@ int runCommand(const std::vector<std::string>& arguments) {
         tellUsageError(error, form);
     } catch (const std::bad_alloc&) {
         tellOutOfMemory(form);
+    } catch (const ClosedPipe&) {
+        return static_cast<int>(ExitStatus::Success);
     }
     return static_cast<int>(ExitStatus::Failure);
 }

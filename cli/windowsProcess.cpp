@@ -101,6 +101,29 @@ private:
     HANDLE handle_;
 };
 
+/// Standard output, by a handle of its own.
+class StandardOutputFile : public OutputFile {
+public:
+    explicit StandardOutputFile(HANDLE handle) noexcept : file_(handle) {}
+
+    void write(std::string_view bytes) override {
+        try {
+            file_.write(bytes);
+        } catch (const RtfError& error) {
+            const DWORD code = error.cause ? static_cast<DWORD>(error.cause->number) : NO_ERROR;
+            if (code == ERROR_BROKEN_PIPE || code == ERROR_NO_DATA) {
+                throw ClosedPipe();
+            }
+            throw;
+        }
+    }
+
+    void close() override { file_.close(); }
+
+private:
+    HandleFile file_;
+};
+
 std::wstring folderOf(const std::wstring& path) {
     const std::size_t end = path.find_last_of(L"\\/:");
     return end == std::wstring::npos ? std::wstring() : path.substr(0, end + 1);
@@ -279,7 +302,7 @@ std::unique_ptr<OutputFile> openStandardOutput() {
                          DUPLICATE_SAME_ACCESS)) {
         raiseSystemError(GetLastError());
     }
-    return std::make_unique<HandleFile>(copy);
+    return std::make_unique<StandardOutputFile>(copy);
 }
 
 std::unique_ptr<OutputFile> openReplacement(const std::string& path) {

@@ -7,6 +7,7 @@
 #include "quorvane/diagnostics/SourceText.h"
 #include "quorvane/diagnostics/TrialPlatform.h"
 #include "quorvane/diagnostics/descriptionWarnings.h"
+#include "quorvane/diagnostics/ignoreComments.h"
 #include "quorvane/diagnostics/judgement.h"
 #include "quorvane/diagnostics/misreadCharacters.h"
 #include "quorvane/diagnostics/nodeErrors.h"
@@ -26,6 +27,7 @@ void findAll(const SourceText& source, KnownStyles* styles, DiagnosticEngine& en
     const Ref<CRtfDoc> document =
         buildTrialDocument(outline, source, vocabulary, styles, platform, engine);
     findDescriptionWarnings(outline, document.get(), styles, source, engine);
+    findWrongIgnoreComments(source, CheckedLanguage::Description, engine);
 }
 
 /// The errors that a driver that checks reports.

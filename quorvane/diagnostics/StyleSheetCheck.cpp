@@ -12,6 +12,7 @@
 #include "quorvane/diagnostics/SourceText.h"
 #include "quorvane/diagnostics/StyleSheetOutline.h"
 #include "quorvane/diagnostics/fileEncoding.h"
+#include "quorvane/diagnostics/ignoreComments.h"
 #include "quorvane/diagnostics/judgement.h"
 #include "quorvane/diagnostics/languageOf.h"
 #include "quorvane/diagnostics/misreadCharacters.h"
@@ -358,6 +359,7 @@ std::vector<Diagnostic> findingsWithoutLoading(std::string_view text) {
     const SourceText source(text);
     DiagnosticEngine engine([&](Diagnostic finding) { findings.push_back(std::move(finding)); });
     SheetFindings(source, engine).find();
+    findWrongIgnoreComments(source, CheckedLanguage::StyleSheet, engine);
     sortByPlace(findings);
     keepFirstMisreadCharacters(findings);
     return findings;

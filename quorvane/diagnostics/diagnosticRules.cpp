@@ -3,14 +3,19 @@
 #include <algorithm>
 #include <charconv>
 #include <cstddef>
+#include <vector>
+
+#include "quorvane/support/trimming.h"
 
 namespace quorvane {
 
 namespace {
 
+constexpr bool corruptsDocument = true;
+
 constexpr DiagnosticRule table[] = {
 #define QUORVANE_DIAGNOSTIC(id, identifier, severity, language, text, explanation, wrong, right, \
-                            companion)                                                           \
+                            companion, ...)                                                      \
     {DiagnosticId::id,                                                                           \
      identifier,                                                                                 \
      Severity::severity,                                                                         \
@@ -19,7 +24,7 @@ constexpr DiagnosticRule table[] = {
      explanation,                                                                                \
      wrong,                                                                                      \
      right,                                                                                      \
-     companion},
+     companion __VA_OPT__(, ) __VA_ARGS__},
 #include "quorvane/diagnostics/diagnosticTable.h"
 };
 
@@ -59,6 +64,40 @@ const DiagnosticRule* findDiagnosticRule(std::string_view identifier) {
         std::find_if(std::begin(table), std::end(table),
                      [&](const DiagnosticRule& rule) { return rule.identifier == identifier; });
     return found == std::end(table) ? nullptr : found;
+}
+
+std::span<const std::string_view> diagnosticIdentifiers() {
+    static const std::vector<std::string_view> identifiers = [] {
+        std::vector<std::string_view> list;
+        for (const DiagnosticRule& rule : table) {
+            list.push_back(rule.identifier);
+        }
+        return list;
+    }();
+    return identifiers;
+}
+
+bool isOffByDefault(DiagnosticId id) {
+    return id == DiagnosticId::UnusedStyle;
+}
+
+std::string ruleTitle(const DiagnosticRule& rule) {
+    if (rule.text == "{0}") {
+        return std::string(rule.explanation.substr(0, rule.explanation.find(". ") + 1));
+    }
+    std::string title;
+    for (std::size_t at = 0; at < rule.text.size(); ++at) {
+        const std::string_view rest = rule.text.substr(at);
+        const bool isPlace =
+            rest.size() > 2 && rest[0] == '{' && rest[1] >= '0' && rest[1] <= '9' && rest[2] == '}';
+        if (isPlace) {
+            title += "\xE2\x80\xA6";
+            at += 2;
+        } else if (rest[0] != '\r') {
+            title += rest[0] == '\n' ? ' ' : rest[0];
+        }
+    }
+    return std::string(TrimEx(title));
 }
 
 std::string_view severityName(Severity severity) {

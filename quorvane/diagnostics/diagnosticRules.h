@@ -28,6 +28,8 @@ struct DiagnosticRule {
     /// What the examples are checked together with: a stylesheet for a description, a description
     /// for a stylesheet; empty for none.
     std::string_view companion;
+    /// The text breaks the document that it is written into: readers refuse it or lose a part.
+    bool corruptsDocument = false;
 };
 
 /// The table, in its order.
@@ -38,6 +40,16 @@ const DiagnosticRule& diagnosticRule(DiagnosticId id);
 
 /// The row of that name; null when there is none.
 const DiagnosticRule* findDiagnosticRule(std::string_view identifier);
+
+/// The identifiers of all rows, in the order of the table.
+std::span<const std::string_view> diagnosticIdentifiers();
+
+/// True for a diagnostic that is left out unless it is asked for.
+bool isOffByDefault(DiagnosticId id);
+
+/// What the rule is about, on one line: its message with "…" for each word that a text puts in, or
+/// the beginning of its explanation where the message is a text of the library.
+std::string ruleTitle(const DiagnosticRule& rule);
 
 /// "error" or "warning".
 std::string_view severityName(Severity severity);

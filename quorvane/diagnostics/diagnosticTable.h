@@ -2,7 +2,7 @@
 // of it, with the macro defined as what a row shall become; the macro is gone afterwards.
 //
 // QUORVANE_DIAGNOSTIC(enumerator, identifier, severity, language, text, explanation, wrong example,
-//                     right example, companion of the examples)
+//                     right example, companion of the examples[, corruptsDocument])
 
 #ifndef QUORVANE_DIAGNOSTIC
 #define QUORVANE_DIAGNOSTIC(...)
@@ -763,8 +763,8 @@ QUORVANE_DIAGNOSTIC(EmptyText, "empty-text", Warning, Description,
 QUORVANE_DIAGNOSTIC(UnbalancedBrace, "unbalanced-brace", Warning, Description,
     "The {0} has no partner.",
     "Texts and formats go into the document as they are. An open brace makes readers refuse "
-    "the file, a closing one cuts the document off. Write `\\{` and `\\}` for braces that "
-    "shall be seen.",
+    "the file, a closing one cuts the document off, so that `render --check` refuses both. "
+    "Write `\\{` and `\\}` for braces that shall be seen.",
     "(doc\n"
     "(r\n"
     "(c\n"
@@ -783,7 +783,7 @@ QUORVANE_DIAGNOSTIC(UnbalancedBrace, "unbalanced-brace", Warning, Description,
     "c)\n"
     "r)\n"
     "doc)\n",
-    "")
+    "", corruptsDocument)
 
 QUORVANE_DIAGNOSTIC(HiddenBraces, "hidden-braces", Warning, Description,
     "The braces are not shown.",
@@ -814,7 +814,7 @@ QUORVANE_DIAGNOSTIC(LoneBackslash, "lone-backslash", Warning, Description,
     "The backslash swallows what follows it.",
     "Texts and formats go into the document as they are, and a backslash begins a control "
     "word or symbol. Write `\\\\` for a backslash that shall be seen, and two hexadecimal "
-    "digits behind `\\'`.",
+    "digits after `\\'`. `render --check` refuses a lone one.",
     "(doc\n"
     "(r\n"
     "(c\n"
@@ -833,7 +833,7 @@ QUORVANE_DIAGNOSTIC(LoneBackslash, "lone-backslash", Warning, Description,
     "c)\n"
     "r)\n"
     "doc)\n",
-    "")
+    "", corruptsDocument)
 
 QUORVANE_DIAGNOSTIC(UnknownControlWord, "unknown-control-word", Warning, Description,
     "{0} is no RTF control word.",
@@ -1394,6 +1394,27 @@ QUORVANE_DIAGNOSTIC(LowContrast, "low-contrast", Warning, Description,
     "doc)\n",
     "")
 
+QUORVANE_DIAGNOSTIC(IgnoreComment, "ignore-comment", Warning, Description,
+    "This comment cannot be followed. {0}.",
+    "A comment `; quorvane: ignore ID` takes the diagnostics of that identifier on the next line out "
+    "of the report; several identifiers are separated by commas. In a stylesheet it stands on a line "
+    "of its own outside of braces, and is about the definition that follows.",
+    "(doc\n"
+    "(r\n"
+    "; quorvane: ignore low-contarst\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "(doc\n"
+    "(r\n"
+    "; quorvane: ignore low-contrast\n"
+    "(c\n"
+    "c)\n"
+    "r)\n"
+    "doc)\n",
+    "")
+
 QUORVANE_DIAGNOSTIC(BracesUnderflow, "braces-underflow", Error, StyleSheet,
     "Error in stylesheet\r\nBraces stack underflow: there are more } than {.",
     "Each definition stands in one pair of braces, also those in what is meant as a comment.",
@@ -1485,7 +1506,8 @@ QUORVANE_DIAGNOSTIC(UnusedStyle, "unused-style", Warning, StyleSheet,
     "The style is not named by any of the descriptions that were checked together with the "
     "stylesheet, nor by `next` or `based-on` of another style. The first paragraph style, "
     "`normal` and the paragraph styles that keep the numbers of character styles free count "
-    "as used.",
+    "as used. A house stylesheet serves many descriptions: the warning is given only with "
+    "`--enable unused-style`.",
     "{ name: normal; style-def: s; format: \\fs20 }\n"
     "{ name: sum; style-def: s; format: \\b }\n",
     "{ name: normal; style-def: s; format: \\fs20 }\n",

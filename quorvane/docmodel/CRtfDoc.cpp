@@ -62,7 +62,9 @@ void CRtfDoc::Commit(const std::string& sPath) {
     }
     const RtfError failure = *currentError();
     if (failure.is(RunTimeError::PathFileAccessError)) {
-        raise(RtfError(failure.number, lockedFileMessage(sPath)));
+        RtfError locked(failure.number, lockedFileMessage(sPath));
+        locked.cause = failure.cause;
+        raise(std::move(locked));
     }
     errors_.handleError(failure, moduleName, "Commit");
 }

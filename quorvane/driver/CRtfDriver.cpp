@@ -21,7 +21,6 @@ namespace quorvane {
 
 namespace {
 
-constexpr const char* wrongPathSource = "Error: eWrongPath\r\nCRtfDriver.ParseFile";
 constexpr std::int32_t docNumber = 1;
 
 bool contains(std::string_view text, std::string_view part) {
@@ -65,7 +64,7 @@ CRtfDriver::CRtfDriver(Platform& platform)
 void CRtfDriver::ParseFile(const std::string& sPath) {
     clearCurrentError();
     if (sPath.empty()) {
-        raise(driverError(eWrongPath, "Path is empty!", wrongPathSource));
+        raise(driverError(eWrongPath, "Path is empty!", parseFileSource));
     }
     std::string text;
     try {
@@ -74,10 +73,7 @@ void CRtfDriver::ParseFile(const std::string& sPath) {
             text = utf8FromCodePage1252(text);
         }
     } catch (const RtfError& error) {
-        RtfError wrongPath =
-            driverError(eWrongPath, sPath + " doesn't exist or is unreacheable", wrongPathSource);
-        wrongPath.cause = std::make_shared<RtfError>(error);
-        raise(std::move(wrongPath));
+        raise(unreadableDescription(sPath, error));
     }
     AnalyseData(text);
 }

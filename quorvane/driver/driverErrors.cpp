@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <memory>
 #include <utility>
 
 namespace quorvane {
@@ -21,6 +22,13 @@ constexpr std::array<std::string_view, 11> levelNames = {
 RtfError driverError(tErrorLevel level, std::string description, std::string source, int line) {
     RtfError error(errorBase + level, std::move(description), std::move(source));
     error.line = line;
+    return error;
+}
+
+RtfError unreadableDescription(const std::string& path, const RtfError& reason) {
+    RtfError error =
+        driverError(eWrongPath, path + " doesn't exist or is unreacheable", parseFileSource);
+    error.cause = std::make_shared<RtfError>(reason);
     return error;
 }
 

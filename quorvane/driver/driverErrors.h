@@ -16,6 +16,12 @@ namespace quorvane {
 RtfError driverError(tErrorLevel level, std::string description, std::string source = {},
                      int line = 0);
 
+/// The source of errors of `CRtfDriver::ParseFile`.
+inline constexpr const char* parseFileSource = "Error: eWrongPath\r\nCRtfDriver.ParseFile";
+
+/// The error of a description that cannot be read from its file, `eWrongPath`, for this reason.
+RtfError unreadableDescription(const std::string& path, const RtfError& reason);
+
 /// The level of an error of the driver; nothing for any other error number.
 std::optional<tErrorLevel> errorLevel(std::int32_t number);
 

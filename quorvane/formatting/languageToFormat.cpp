@@ -56,6 +56,22 @@ bool beginsAsStyleSheet(std::string_view text) {
            std::any_of(outline.definitions.begin(), outline.definitions.end(), hasItemBesideName);
 }
 
+bool isStyleKind(const SheetItem& item) {
+    return item.keyword == "style-def" &&
+           (item.value == "s" || item.value == "cs" || item.value == "cell");
+}
+
+/// Among other text, as in a program, braces with a name are not enough.
+bool holdsStyles(std::string_view text) {
+    const StyleSheetOutline outline = readStyleSheetOutline(text);
+    return std::any_of(outline.definitions.begin(), outline.definitions.end(),
+                       [](const SheetDefinition& definition) {
+                           return isNamed(definition) &&
+                                  std::any_of(definition.items.begin(), definition.items.end(),
+                                              isStyleKind);
+                       });
+}
+
 /// Of a file named as a stylesheet: braces without a single keyword are another language's.
 bool mayBeStyleSheet(std::string_view text) {
     const StyleSheetOutline outline = readStyleSheetOutline(text);
@@ -82,6 +98,16 @@ std::optional<CheckedLanguage> languageToFormat(std::string_view text, std::stri
     }
     return language == CheckedLanguage::StyleSheet && beginsAsStyleSheet(text)
                ? std::optional(language)
+               : std::nullopt;
+}
+
+std::optional<CheckedLanguage> languageOfStreamToFormat(std::string_view text) {
+    const std::optional<CheckedLanguage> language = languageToFormat(text, {});
+    if (language || text.find('\0') != std::string_view::npos) {
+        return language;
+    }
+    return languageOf(text) == CheckedLanguage::StyleSheet && holdsStyles(text)
+               ? std::optional(CheckedLanguage::StyleSheet)
                : std::nullopt;
 }
 

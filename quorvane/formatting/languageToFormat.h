@@ -16,4 +16,8 @@ namespace quorvane {
 /// one has an item beside its name: many languages have braces, and some a name in them.
 std::optional<CheckedLanguage> languageToFormat(std::string_view text, std::string_view fileName);
 
+/// The same of a text that has no name and whose canonical form takes no file's place: a stylesheet
+/// may begin with other text where one of its definitions has a name and a kind.
+std::optional<CheckedLanguage> languageOfStreamToFormat(std::string_view text);
+
 }  // namespace quorvane

@@ -87,7 +87,10 @@ protected:
         const std::string file = section.report.substr(0, section.report.find(':'));
         ProgramStart start;
         start.folder = folder.path();
-        start.arguments = {"check"};
+        start.arguments = {"check", "--quiet"};
+        if (isOffByDefault(findDiagnosticRule(section.identifier)->id)) {
+            start.arguments.push_back("--enable=" + section.identifier);
+        }
         if (section.isSheet) {
             folder.write("example.rtfss", expandedExample(example));
             folder.write("example.rtfspec", section.companion);

@@ -1,0 +1,210 @@
+#include "cli/RenderReport.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "cli/locatedErrors.h"
+#include "quorvane/diagnostics/DescriptionCheck.h"
+#include "quorvane/diagnostics/DiagnosticEngine.h"
+#include "quorvane/diagnostics/StyleSheetCheck.h"
+#include "quorvane/diagnostics/diagnosticRules.h"
+#include "quorvane/diagnostics/fileNameCheck.h"
+#include "quorvane/diagnostics/languageOf.h"
+#include "quorvane/diagnostics/textFile.h"
+#include "quorvane/support/codePage1252.h"
+
+namespace quorvane::cli {
+
+namespace {
+
+using Diagnostics = std::vector<quorvane::Diagnostic>;
+
+bool isError(const quorvane::Diagnostic& diagnostic) {
+    return diagnostic.severity == Severity::Error;
+}
+
+bool hasErrors(const Diagnostics& diagnostics) {
+    return std::any_of(diagnostics.begin(), diagnostics.end(), isError);
+}
+
+std::set<DiagnosticId> kindsOfErrors(const Diagnostics& diagnostics) {
+    std::set<DiagnosticId> kinds;
+    for (const quorvane::Diagnostic& diagnostic : diagnostics) {
+        if (isError(diagnostic)) {
+            kinds.insert(diagnostic.id);
+        }
+    }
+    return kinds;
+}
+
+RtfError refusalFor(std::string text) {
+    return {static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), std::move(text)};
+}
+
+RtfError failureOfWarnings(std::size_t count) {
+    return refusalFor(std::to_string(count) + (count == 1 ? " warning" : " warnings") +
+                      ", with --fail-on=warning");
+}
+
+/// The refusal of a file as one error: the first diagnostic, and how many there are.
+RtfError refusal(const Diagnostics& reasons) {
+    const quorvane::Diagnostic& first = reasons.front();
+    std::string text =
+        first.message + " [" + std::string(diagnosticRule(first.id).identifier) + "]";
+    if (reasons.size() > 1) {
+        text += " (and " + std::to_string(reasons.size() - 1) + " more)";
+    }
+    RtfError error = refusalFor(std::move(text));
+    error.line = static_cast<int>(first.place.line);
+    return error;
+}
+
+}  // namespace
+
+bool RenderReport::passStyleSheet(const std::string& name, const std::string& bytes) {
+    styleSheet_.emplace(StyleSheet{name, bytes});
+    if (const std::optional<quorvane::Diagnostic> binary = findNotATextFile(bytes)) {
+        styleSheet_->diagnostics = Diagnostics{*binary};
+        styleSheet_->isReported = true;
+        refuseBinary(name, *binary);
+        return false;
+    }
+    if (!isChecked()) {
+        return true;
+    }
+    const Diagnostics& diagnostics = styleSheetDiagnostics();
+    const bool isWrong = hasErrors(diagnostics);
+    if (receivers_.locate) {
+        styleSheet_->isReported = isWrong;
+        locate(name, bytes, diagnostics, {});
+    }
+    return pass(name, diagnostics, isWrong);
+}
+
+bool RenderReport::passBytes(const std::string& name, std::string_view bytes) {
+    // For programs, the events say what the library makes of it.
+    const std::optional<quorvane::Diagnostic> binary =
+        receivers_.locate ? findNotATextFile(bytes) : std::nullopt;
+    if (binary) {
+        refuseBinary(name, *binary);
+    }
+    return !binary;
+}
+
+/// Nothing of such a file can be shown.
+void RenderReport::refuseBinary(const std::string& file, const quorvane::Diagnostic& diagnostic) {
+    if (receivers_.locate) {
+        receivers_.locate(file, diagnostic, windowOf({}));
+    } else {
+        receivers_.report({DiagnosticKind::Check, file, refusal({diagnostic})});
+    }
+}
+
+void RenderReport::refuseStyleSheet(const RtfError& error) {
+    const bool isLocated = receivers_.locate && hasErrors(styleSheetDiagnostics());
+    if (!isLocated) {
+        receivers_.report({DiagnosticKind::Raised, styleSheet_->name, error});
+    } else if (!std::exchange(styleSheet_->isReported, true)) {
+        locate(styleSheet_->name, styleSheet_->bytes, styleSheetDiagnostics(),
+               kindsOfErrors(styleSheetDiagnostics()));
+    }
+}
+
+void RenderReport::event(const std::string& file, const RtfError& error) {
+    errors_.push_back(error);
+    if (!receivers_.locate) {
+        receivers_.report({DiagnosticKind::Event, file, error});
+    }
+}
+
+bool RenderReport::passDescription(const std::string& name, const std::string& path,
+                                   const std::string& text) {
+    const std::vector<RtfError> errors = std::exchange(errors_, {});
+    if (!isChecked() && (errors.empty() || !receivers_.locate)) {
+        return true;
+    }
+    const std::string bytes = codePage1252FromUtf8(text);
+    Diagnostics diagnostics = checkDescription(text, knownStyles());
+    if (options_.failOn == FailOn::Warning) {
+        const Diagnostics named = findNameMismatch(bytes, CheckedLanguage::Description, path);
+        diagnostics.insert(diagnostics.begin(), named.begin(), named.end());
+    }
+    if (receivers_.locate) {
+        const LocatedErrors mistakes = locateErrors(errors, diagnostics);
+        // With checks, the analysis and the check find the same mistakes, if not on the same lines.
+        if (!options_.check || !hasErrors(diagnostics)) {
+            for (const RtfError& error : mistakes.others) {
+                receivers_.report({DiagnosticKind::Event, name, error});
+            }
+        }
+        locate(name, bytes, diagnostics, mistakes.kinds);
+    }
+    return pass(name, diagnostics, !errors.empty());
+}
+
+bool RenderReport::corrupts(const quorvane::Diagnostic& diagnostic) const {
+    return options_.check && diagnosticRule(diagnostic.id).corruptsDocument;
+}
+
+const Diagnostics& RenderReport::styleSheetDiagnostics() {
+    if (!styleSheet_->diagnostics) {
+        styleSheet_->diagnostics = checkStyleSheet(utf8FromCodePage1252(styleSheet_->bytes));
+    }
+    return *styleSheet_->diagnostics;
+}
+
+/// The styles for the check of descriptions; null without a stylesheet.
+KnownStyles* RenderReport::knownStyles() {
+    if (!styleSheet_) {
+        return nullptr;
+    }
+    if (!styleSheet_->styles) {
+        styleSheet_->styles.emplace(utf8FromCodePage1252(styleSheet_->bytes));
+    }
+    // What is given as the stylesheet may be a description, which would lack every style.
+    return openingOfDescription(styleSheet_->styles->text()).empty() ? &*styleSheet_->styles
+                                                                     : nullptr;
+}
+
+/// Hands on the diagnostics for which a file is refused: errors of these kinds, or all where the
+/// check decides, and the warnings that refuse it.
+void RenderReport::locate(const std::string& file, const std::string& bytes,
+                          const Diagnostics& diagnostics, const std::set<DiagnosticId>& kinds) {
+    const FileWindow window = windowOf(bytes);
+    for (quorvane::Diagnostic diagnostic : diagnostics) {
+        const bool isShown = isError(diagnostic)
+                                 ? isChecked() || kinds.contains(diagnostic.id)
+                                 : corrupts(diagnostic) || options_.failOn == FailOn::Warning;
+        if (corrupts(diagnostic)) {
+            diagnostic.severity = Severity::Error;
+        }
+        if (isShown) {
+            receivers_.locate(file, diagnostic, window);
+        }
+    }
+}
+
+/// Whether the check lets a file pass that has errors besides or not; reports it when it does not.
+bool RenderReport::pass(const std::string& file, const Diagnostics& diagnostics, bool hasOthers) {
+    const bool refusesWarnings = options_.failOn == FailOn::Warning;
+    Diagnostics reasons;
+    bool areWarnings = true;
+    for (const quorvane::Diagnostic& diagnostic : diagnostics) {
+        if (isError(diagnostic) ? refusesWarnings && !hasOthers
+                                : refusesWarnings || corrupts(diagnostic)) {
+            reasons.push_back(diagnostic);
+            areWarnings = areWarnings && !isError(diagnostic) && !corrupts(diagnostic);
+        }
+    }
+    if (reasons.empty()) {
+        return true;
+    }
+    if (!receivers_.locate) {
+        receivers_.report({DiagnosticKind::Check, file, refusal(reasons)});
+    } else if (areWarnings && !hasOthers) {
+        receivers_.report({DiagnosticKind::Check, file, failureOfWarnings(reasons.size())});
+    }
+    return false;
+}
+
+}  // namespace quorvane::cli

@@ -1,0 +1,90 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "cli/Diagnostic.h"
+#include "cli/FindingExcerpt.h"
+#include "cli/RenderOptions.h"
+#include "quorvane/diagnostics/Diagnostic.h"
+#include "quorvane/diagnostics/KnownStyles.h"
+
+namespace quorvane::cli {
+
+/// Called before each description with its number, how many there are, and its name.
+using ProgressSink = std::function<void(std::size_t number, std::size_t count, const std::string&)>;
+
+/// Who takes what a rendering reports.
+struct RenderReceivers {
+    /// Takes errors, each as the library has it. `locate`, where it is set, takes those instead
+    /// that the check of the file finds too.
+    DiagnosticSink report;
+    /// Takes what the check has about a file, and the file's window.
+    std::function<void(const std::string& file, const quorvane::Diagnostic&, const FileWindow&)>
+        locate{};
+    ProgressSink progress{};
+};
+
+/// Reports the errors of a stylesheet and of one description after the other, and decides whether
+/// they pass. They are checked where that is needed only: when they have errors, or when the check
+/// is to decide.
+class RenderReport {
+public:
+    /// Options and receivers must outlive the report.
+    RenderReport(const RenderOptions& options, const RenderReceivers& receivers)
+        : options_(options), receivers_(receivers) {}
+
+    /// A file that cannot be read or written, or a document that cannot be made.
+    void fail(const Diagnostic& failure) { receivers_.report(failure); }
+
+    /// Takes the bytes of the stylesheet. Returns false when the check refuses it.
+    bool passStyleSheet(const std::string& name, const std::string& bytes);
+
+    /// Takes the bytes of a description. Returns false when they are no text, which is reported as
+    /// text only: a program gets the events of the analysis.
+    bool passBytes(const std::string& name, std::string_view bytes);
+
+    /// The library refuses the stylesheet.
+    void refuseStyleSheet(const RtfError& error);
+
+    /// An error that the analysis of a description reports, before `passDescription`.
+    void event(const std::string& file, const RtfError& error);
+
+    /// Ends with a description (UTF-8), which is named so. Returns false when the check refuses it;
+    /// the errors that were reported before are for the caller to count.
+    bool passDescription(const std::string& name, const std::string& path, const std::string& text);
+
+private:
+    struct StyleSheet {
+        std::string name;
+        std::string bytes;
+        std::optional<std::vector<quorvane::Diagnostic>> diagnostics{};
+        std::optional<KnownStyles> styles{};
+        bool isReported = false;
+    };
+
+    /// The check decides, whether there are errors or not.
+    bool isChecked() const { return options_.check || options_.failOn == FailOn::Warning; }
+    bool corrupts(const quorvane::Diagnostic& diagnostic) const;
+    void refuseBinary(const std::string& file, const quorvane::Diagnostic& diagnostic);
+    const std::vector<quorvane::Diagnostic>& styleSheetDiagnostics();
+    KnownStyles* knownStyles();
+    void locate(const std::string& file, const std::string& bytes,
+                const std::vector<quorvane::Diagnostic>& diagnostics,
+                const std::set<DiagnosticId>& kinds);
+    bool pass(const std::string& file, const std::vector<quorvane::Diagnostic>& diagnostics,
+              bool hasOthers);
+
+    const RenderOptions& options_;
+    const RenderReceivers& receivers_;
+    std::optional<StyleSheet> styleSheet_;
+    // Of the description that is analyzed.
+    std::vector<RtfError> errors_;
+};
+
+}  // namespace quorvane::cli

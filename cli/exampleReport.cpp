@@ -1,0 +1,87 @@
+#include "cli/exampleReport.h"
+
+#include <map>
+#include <string_view>
+
+#include "cli/CheckJob.h"
+#include "cli/FindingReport.h"
+#include "cli/oneLine.h"
+#include "quorvane/diagnostics/TrialPlatform.h"
+#include "quorvane/support/trimming.h"
+
+namespace quorvane::cli {
+
+namespace {
+
+constexpr const char* descriptionName = "example.rtfspec";
+constexpr const char* styleSheetName = "example.rtfss";
+constexpr const char* rtfName = "example.rtf";
+
+/// The files of an example.
+class ExampleFiles : public TrialPlatform {
+public:
+    void add(const std::string& name, std::string_view example) {
+        files_[name] = expandedExample(example);
+    }
+    std::string readFile(const std::string& path) override { return files_.at(path); }
+
+private:
+    std::map<std::string, std::string> files_;
+};
+
+void checkExample(const DiagnosticRule& rule, const FindingSink& find) {
+    if (rule.wrong.empty()) {
+        return;
+    }
+    ExampleFiles files;
+    CheckOptions options;
+    if (isOffByDefault(rule.id)) {
+        options.enabled = {std::string(rule.identifier)};
+    }
+    if (rule.language == CheckedLanguage::Rtf) {
+        options.files = {rtfName};
+        files.add(rtfName, rule.wrong);
+    } else if (rule.language == CheckedLanguage::Description) {
+        options.files = {descriptionName};
+        files.add(descriptionName, rule.wrong);
+        if (!rule.companion.empty()) {
+            options.styleSheet = styleSheetName;
+            files.add(styleSheetName, rule.companion);
+        }
+    } else if (rule.companion.empty()) {
+        options.files = {styleSheetName};
+        files.add(styleSheetName, rule.wrong);
+    } else {
+        options.files = {descriptionName};
+        options.styleSheet = styleSheetName;
+        files.add(descriptionName, rule.companion);
+        files.add(styleSheetName, rule.wrong);
+    }
+    CheckJob(
+        options, find, [](const Diagnostic&) {}, files)
+        .run();
+}
+
+}  // namespace
+
+std::string exampleReport(const DiagnosticRule& rule) {
+    std::string report;
+    FindingReport text(Colors::Off, [&](std::string_view part) { report += part; });
+    checkExample(rule, [&](const std::string& file, const quorvane::Diagnostic& finding,
+                           const FileWindow& window) { text.add(file, finding, window); });
+    text.end();
+    return report;
+}
+
+std::string exampleMessage(const DiagnosticRule& rule) {
+    std::string message;
+    checkExample(rule,
+                 [&](const std::string&, const quorvane::Diagnostic& finding, const FileWindow&) {
+                     if (finding.id == rule.id && message.empty()) {
+                         message = TrimEx(oneLine(finding.message));
+                     }
+                 });
+    return message.empty() ? ruleTitle(rule) : message;
+}
+
+}  // namespace quorvane::cli

@@ -1,0 +1,70 @@
+#include "cli/fileFailure.h"
+
+#include <cerrno>
+#include <filesystem>
+#include <fstream>
+#include <utility>
+
+#include "cli/utf8Path.h"
+
+namespace quorvane::cli {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const RtfError& deepestCause(const RtfError& error) {
+    const RtfError* deepest = &error;
+    while (deepest->cause) {
+        deepest = deepest->cause.get();
+    }
+    return *deepest;
+}
+
+/// True for an error that is no more than the number of a run-time error.
+bool isBare(const RtfError& error) {
+    return error.description == RtfError(static_cast<RunTimeError>(error.number)).description;
+}
+
+bool isDevice(const std::string& path) {
+    std::error_code failure;
+    const fs::file_type type = fs::status(pathFromUtf8(path), failure).type();
+    return type == fs::file_type::character || type == fs::file_type::block;
+}
+
+}  // namespace
+
+Diagnostic fileFailure(std::string shownName, RtfError error) {
+    std::string reason = error.cause ? deepestCause(error).description : std::string();
+    return {DiagnosticKind::Raised, std::move(shownName), std::move(error), std::move(reason)};
+}
+
+Diagnostic unreadableFile(std::string shownName, const std::string& path, RtfError error) {
+    const RtfError& deepest = deepestCause(error);
+    std::string reason = deepest.description;
+    if (isBare(deepest)) {
+        if (const std::error_code why = whyUnreadable(path)) {
+            reason = why.message();
+        } else if (isDevice(path)) {
+            reason = "Is a device";
+        }
+    }
+    return {DiagnosticKind::Raised, std::move(shownName), std::move(error), std::move(reason)};
+}
+
+std::error_code whyUnreadable(const std::string& path) {
+    const fs::path file = pathFromUtf8(path);
+    std::error_code failure;
+    switch (fs::status(file, failure).type()) {
+        case fs::file_type::directory:
+            return std::make_error_code(std::errc::is_a_directory);
+        case fs::file_type::regular: {
+            const bool opens = std::ifstream(file).is_open();
+            return opens ? std::error_code() : std::error_code(errno, std::generic_category());
+        }
+        default:
+            return failure;
+    }
+}
+
+}  // namespace quorvane::cli

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <set>
+#include <vector>
+
+#include "quorvane/diagnostics/Diagnostic.h"
+#include "quorvane/support/RtfError.h"
+
+namespace quorvane::cli {
+
+/// What a person is shown of the errors that the library raised on a text: each mistake once.
+struct LocatedErrors {
+    /// The kinds of mistakes that are behind the errors, as the check of the text found them.
+    std::set<DiagnosticId> kinds;
+    /// Errors that the check does not find.
+    std::vector<RtfError> others;
+};
+
+/// Finds the diagnostics that are behind the errors: those on an error's line or, for an error
+/// without a line, with its message. Errors that only follow from others are left out.
+LocatedErrors locateErrors(const std::vector<RtfError>& errors,
+                           const std::vector<quorvane::Diagnostic>& diagnostics);
+
+}  // namespace quorvane::cli

@@ -1,0 +1,66 @@
+#include "cli/sourceFile.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstddef>
+#include <fstream>
+#include <memory>
+#include <string_view>
+#include <system_error>
+#include <utility>
+
+#include "cli/requireAnswer.h"
+#include "cli/utf8Path.h"
+#include "quorvane/diagnostics/fileEncoding.h"
+#include "quorvane/formatting/languageToFormat.h"
+#include "quorvane/support/RtfError.h"
+#include "quorvane/support/codePage1252.h"
+
+namespace quorvane::cli {
+
+namespace {
+
+constexpr std::size_t enough = std::size_t{64} * 1024;
+constexpr std::string_view rtfSignature = "{\\rtf";
+
+std::error_code lastFailure() {
+    return {errno, std::generic_category()};
+}
+
+std::string beginningOf(const std::string& path) {
+    std::ifstream file(pathFromUtf8(path), std::ios::binary);
+    if (!file.is_open()) {
+        requireAnswer(lastFailure());
+        return {};
+    }
+    std::string bytes(enough, '\0');
+    file.read(bytes.data(), static_cast<std::streamsize>(rtfSignature.size()));
+    if (file.gcount() == static_cast<std::streamsize>(rtfSignature.size()) &&
+        !bytes.starts_with(rtfSignature)) {
+        file.read(bytes.data() + rtfSignature.size(),
+                  static_cast<std::streamsize>(enough - rtfSignature.size()));
+        bytes.resize(rtfSignature.size() + static_cast<std::size_t>(file.gcount()));
+    } else {
+        bytes.resize(static_cast<std::size_t>(file.gcount()));
+    }
+    if (file.bad()) {
+        RtfError error(RunTimeError::DeviceIoError);
+        error.cause = std::make_shared<RtfError>(lastFailure().value(), lastFailure().message());
+        raise(std::move(error));
+    }
+    return bytes;
+}
+
+}  // namespace
+
+std::optional<CheckedLanguage> languageOfSourceFile(const std::string& path) {
+    std::string bytes = beginningOf(path);
+    if (isUtf16(bytes)) {
+        // Its letters are enough: what follows the byte order mark, without the zeros between.
+        std::erase(bytes, '\0');
+        bytes.erase(0, bytes.find_first_of("({;"));
+    }
+    return languageToFormat(utf8FromCodePage1252(behindByteOrderMark(bytes)), path);
+}
+
+}  // namespace quorvane::cli

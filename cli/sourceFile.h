@@ -1,0 +1,15 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "quorvane/diagnostics/diagnosticRules.h"
+
+namespace quorvane::cli {
+
+/// The language of a file that is a description or a stylesheet, by its beginning and its name;
+/// nothing for a file that is neither. Raises error 57 when it cannot be read to its end or to
+/// where its language shows. A file that may not be read is what its name says.
+std::optional<CheckedLanguage> languageOfSourceFile(const std::string& path);
+
+}  // namespace quorvane::cli
