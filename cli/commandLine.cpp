@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "cli/UsageError.h"
+#include "cli/licenses.h"
 #include "quorvane/diagnostics/nearestWord.h"
 
 namespace quorvane::cli {
@@ -259,6 +260,9 @@ std::variant<RenderOptions, CheckOptions, FormatOptions, Information> parseComma
     app.require_subcommand(1);
     app.set_help_flag("-h,--help", "Show this help and exit");
     app.set_version_flag("--version", versionText, "Show the version and exit");
+    app.add_flag_callback(
+        "--licenses", [] { throw CLI::CallForVersion(licensesText(), 0); },
+        "Show the licenses of Quorvane and of what it contains, and exit");
     app.allow_windows_style_options(false);
     addRenderCommand(app, options);
     const CLI::App* check = addCheckCommand(app, checkOptions);
