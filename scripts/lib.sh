@@ -76,6 +76,8 @@ windowsTools=("perl=perl-base"
     "i686-w64-mingw32-g++-posix=g++-mingw-w64-i686-posix"
     "x86_64-w64-mingw32-g++-posix=g++-mingw-w64-x86-64-posix"
     "i686-w64-mingw32-widl=mingw-w64-tools")
+# The examples in C# are compiled, and the one in Python is read.
+windowsTestTools=("mcs=mono-mcs" "python3=python3-minimal")
 
 # build PRESET [OPTION...]: configures and builds a preset of CMakePresets.json in build/PRESET.
 build() {
