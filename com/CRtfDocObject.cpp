@@ -121,7 +121,8 @@ STDMETHODIMP CRtfDocObject::get_TableRows(::_CRtfTableRows** value) {
 }
 
 STDMETHODIMP CRtfDocObject::Commit(BSTR path) {
-    return run([&] { native().Commit(textOf(path)); });
+    // A file that is held open is an error that has no source.
+    return run<Source::AsRaised>([&] { native().Commit(textOf(path)); });
 }
 
 STDMETHODIMP CRtfDocObject::LoadStyleSheetFromMemmory(BSTR styleSheet) {
