@@ -143,12 +143,19 @@ HRESULT unregisterClasses(const std::wstring& path) {
     return result;
 }
 
+/// The part of a path before the file's name.
+std::wstring folderOf(const std::wstring& path) {
+    const std::size_t end = path.find_last_of(L"\\/");
+    return end == std::wstring::npos ? std::wstring() : path.substr(0, end);
+}
+
 HRESULT registerTypeLibrary(const std::wstring& path) {
     ComPtr<ITypeLib> library;
-    std::wstring writable = path;
+    std::wstring file = path;
+    std::wstring helpFolder = folderOf(path);
     HRESULT result = typeLibrary(library.out());
     if (SUCCEEDED(result)) {
-        result = RegisterTypeLib(library.get(), writable.data(), nullptr);
+        result = RegisterTypeLib(library.get(), file.data(), helpFolder.data());
     }
     switch (result) {
         case TYPE_E_REGISTRYACCESS:
@@ -159,12 +166,6 @@ HRESULT registerTypeLibrary(const std::wstring& path) {
         default:
             return FAILED(result) ? SELFREG_E_TYPELIB : S_OK;
     }
-}
-
-/// The part of a path before the file's name.
-std::wstring folderOf(const std::wstring& path) {
-    const std::size_t end = path.find_last_of(L"\\/");
-    return end == std::wstring::npos ? std::wstring() : path.substr(0, end);
 }
 
 /// The type library of the other kind of programs needs the interfaces, which the system would

@@ -5,7 +5,9 @@
 #include <windows.h>
 
 #include <array>
+#include <set>
 #include <string>
+#include <vector>
 
 #include "tests/com/host/Component.h"
 #include "tests/com/host/Process.h"
@@ -21,12 +23,12 @@ using testing::IsEmpty;
 struct Kind {
     std::wstring component;
     std::wstring host;
+    /// The system's program that registers components of this kind; empty for this program's own.
     std::wstring regsvr32;
 };
 
 const Kind& kind64() {
-    static const Kind kind{componentFile(), testProgram(L"registeredHost.exe"),
-                           L"C:\\windows\\system32\\regsvr32.exe"};
+    static const Kind kind{componentFile(), testProgram(L"registeredHost.exe"), {}};
     return kind;
 }
 
@@ -45,20 +47,23 @@ const Kind& kind32() {
     return kind;
 }
 
-/// Whom a registration is for, as options of the system's program.
-const std::wstring forMachine;
-const std::wstring forUser = L" /n /i:user";
-
-void registerFor(const std::wstring& whom, const Kind& kind) {
+/// Calls the component's function, or lets the system's program of its kind do so.
+void call(const Kind& kind, const char* function, const std::wstring& option) {
+    if (&kind == &kind64()) {
+        EXPECT_EQ(Component(kind.component).call(function), S_OK) << function;
+        return;
+    }
     const ProcessResult result =
-        Process(kind.regsvr32 + L" /s" + whom + L" \"" + kind.component + L"\"", L"C:\\").wait();
-    EXPECT_EQ(result.status, 0U) << "registering " << utf8Text(kind.component);
+        Process(kind.regsvr32 + L" /s" + option + L" \"" + kind.component + L"\"", L"C:\\").wait();
+    EXPECT_EQ(result.status, 0U) << function;
 }
 
-void unregisterFor(const std::wstring& whom, const Kind& kind) {
-    const ProcessResult result =
-        Process(kind.regsvr32 + L" /s /u" + whom + L" \"" + kind.component + L"\"", L"C:\\").wait();
-    EXPECT_EQ(result.status, 0U) << "unregistering " << utf8Text(kind.component);
+void registerKind(const Kind& kind) {
+    call(kind, "DllRegisterServer", L"");
+}
+
+void unregisterKind(const Kind& kind) {
+    call(kind, "DllUnregisterServer", L" /u");
 }
 
 /// All that a host of a kind does with the registered component works.
@@ -67,11 +72,32 @@ void expectToServe(const Kind& kind) {
     EXPECT_EQ(result.status, 0U) << utf8Text(kind.host) << "\n" << result.output << result.errors;
 }
 
-void expectSame(const ClassRegistry& actual, const ClassRegistry& expected) {
-    EXPECT_THAT(added(expected.machine, actual.machine), IsEmpty());
-    EXPECT_THAT(added(actual.machine, expected.machine), IsEmpty());
-    EXPECT_THAT(added(expected.user, actual.user), IsEmpty());
-    EXPECT_THAT(added(actual.user, expected.user), IsEmpty());
+using Entries = std::set<std::string>;
+
+/// All that the registry holds of the component, for programs of both kinds.
+Entries entries() {
+    std::vector<std::wstring> keys = {L"TypeLib\\{1811CD00-270D-4B00-A52C-4047F643EAB9}",
+                                      L"CLSID\\{1811CD11-270D-4B00-A52C-4047F643EAB9}",
+                                      L"CLSID\\{1811CD18-270D-4B00-A52C-4047F643EAB9}",
+                                      L"Quorvane.CRtfDoc",
+                                      L"Quorvane.CRtfDoc.1",
+                                      L"Quorvane.CRtfDriver",
+                                      L"Quorvane.CRtfDriver.1"};
+    for (const wchar_t digit : std::wstring(L"123456789")) {
+        keys.push_back(std::wstring(L"Interface\\{1811CD0") + digit +
+                       L"-270D-4B00-A52C-4047F643EAB9}");
+    }
+    Entries all;
+    for (const std::wstring& key : keys) {
+        all.merge(registryExport(HKEY_LOCAL_MACHINE, L"Software\\Classes\\" + key));
+        all.merge(registryExport(HKEY_LOCAL_MACHINE, L"Software\\Classes\\Wow6432Node\\" + key));
+    }
+    return all;
+}
+
+void expectSame(const Entries& actual, const Entries& expected) {
+    EXPECT_THAT(added(expected, actual), IsEmpty());
+    EXPECT_THAT(added(actual, expected), IsEmpty());
 }
 
 class BothKinds : public testing::Test {
@@ -84,59 +110,53 @@ protected:
 
     /// Both are registered, in either order, and one goes: the other finds the registry as if it
     /// had been there alone.
-    void expectToStay(const Kind& stays, const Kind& goes, const std::wstring& whom) const {
-        const ClassRegistry none = classRegistry();
-        registerFor(whom, stays);
-        const ClassRegistry alone = classRegistry();
-        unregisterFor(whom, stays);
-        expectSame(classRegistry(), none);
+    void expectToStay(const Kind& stays, const Kind& goes) const {
+        const Entries none;
+        registerKind(stays);
+        const Entries alone = entries();
+        unregisterKind(stays);
+        expectSame(entries(), none);
         for (const auto& order : {std::array{&stays, &goes}, std::array{&goes, &stays}}) {
-            registerFor(whom, *order[0]);
-            registerFor(whom, *order[1]);
-            if (whom == forMachine) {
-                expectToServe(stays);
-                expectToServe(goes);
-            }
+            registerKind(*order[0]);
+            registerKind(*order[1]);
+            unregisterKind(goes);
 
-            unregisterFor(whom, goes);
-
-            expectSame(classRegistry(), alone);
-            if (whom == forMachine) {
-                expectToServe(stays);
-            }
-            unregisterFor(whom, stays);
-            expectSame(classRegistry(), none);
+            expectSame(entries(), alone);
+            expectToServe(stays);
+            unregisterKind(stays);
+            expectSame(entries(), none);
         }
     }
 };
 
 TEST_F(BothKinds, The32BitOneStaysRegisteredWhenTheOtherGoes) {
-    expectToStay(kind32(), kind64(), forMachine);
+    expectToStay(kind32(), kind64());
 }
 
 TEST_F(BothKinds, The64BitOneStaysRegisteredWhenTheOtherGoes) {
-    expectToStay(kind64(), kind32(), forMachine);
+    expectToStay(kind64(), kind32());
 }
 
-// Wine does not activate classes of the user.
+TEST_F(BothKinds, ServeSideBySide) {
+    registerKind(kind32());
+    registerKind(kind64());
 
-TEST_F(BothKinds, The32BitOneStaysRegisteredForTheUserWhenTheOtherGoes) {
-    expectToStay(kind32(), kind64(), forUser);
-}
+    expectToServe(kind32());
+    expectToServe(kind64());
 
-TEST_F(BothKinds, The64BitOneStaysRegisteredForTheUserWhenTheOtherGoes) {
-    expectToStay(kind64(), kind32(), forUser);
+    unregisterKind(kind32());
+    unregisterKind(kind64());
 }
 
 TEST_F(BothKinds, UnregisteringOneThatIsNotRegisteredLeavesTheOtherAlone) {
-    registerFor(forMachine, kind64());
-    const ClassRegistry registered = classRegistry();
+    registerKind(kind64());
+    const Entries registered = entries();
 
-    unregisterFor(forMachine, kind32());
+    unregisterKind(kind32());
 
-    expectSame(classRegistry(), registered);
+    expectSame(entries(), registered);
     expectToServe(kind64());
-    unregisterFor(forMachine, kind64());
+    unregisterKind(kind64());
 }
 
 }  // namespace
