@@ -127,7 +127,8 @@ STDMETHODIMP CRtfDocObject::get_TableRows(::_CRtfTableRows** value) {
 }
 
 STDMETHODIMP CRtfDocObject::Commit(BSTR path) {
-    return run([&] {
+    // A file that is held open is an error that has no source.
+    return run<Source::AsRaised>([&] {
         const CommitReport report(native(), "CRtfDoc.Commit", textOf(path));
         native().Commit(report.file());
     });

@@ -44,19 +44,29 @@ std::span<const Member> CRtfDriverObject::members() {
 
 CRtfDriverObject::CRtfDriverObject(Ref<CRtfDriver> driver) : Wrapper(std::move(driver)) {
     reportAbsorbedErrors(native());
-    native().setNotifyErrorHandler([this](CRtfDriver&) { notifyErrorPoint_.fire(); });
+    native().setNotifyErrorHandler([this](CRtfDriver&) { notifyErrorPoint_.fire(arithmetic_); });
 }
 
 // While a description is analysed, a handler of the event may release the host's last reference.
 
 STDMETHODIMP CRtfDriverObject::ParseFile(BSTR path) {
     const ComPtr self(this);
-    return run([&] { native().ParseFile(textOf(path)); });
+    return runWithEvents([&] { native().ParseFile(textOf(path)); });
 }
 
 STDMETHODIMP CRtfDriverObject::ParseFromMemmory(BSTR buffer) {
     const ComPtr self(this);
-    return run([&] { native().ParseFromMemmory(textOf(buffer)); });
+    return runWithEvents([&] { native().ParseFromMemmory(textOf(buffer)); });
+}
+
+template <class Body>
+HRESULT CRtfDriverObject::runWithEvents(Body&& body) noexcept {
+    const UsualArithmetic arithmetic;
+    // A handler may come back for another analysis.
+    const UsualArithmetic* const outer = std::exchange(arithmetic_, &arithmetic);
+    const HRESULT result = run(std::forward<Body>(body));
+    arithmetic_ = outer;
+    return result;
 }
 
 STDMETHODIMP CRtfDriverObject::LoadStyleSheetFromMemmory(BSTR buffer) {
@@ -64,7 +74,7 @@ STDMETHODIMP CRtfDriverObject::LoadStyleSheetFromMemmory(BSTR buffer) {
 }
 
 STDMETHODIMP CRtfDriverObject::Commit(BSTR path) {
-    return run([&] {
+    return run<Source::AsRaised>([&] {
         const CommitReport report(native(), "CRtfDriver.Commit", textOf(path));
         native().Commit(report.file());
     });
