@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
+#include "quorvane/diagnostics/InlineTokens.h"
 #include "quorvane/diagnostics/colorContrast.h"
 #include "quorvane/diagnostics/nearestWord.h"
-#include "quorvane/diagnostics/rtfControls.h"
 #include "quorvane/diagnostics/rtfText.h"
 #include "quorvane/diagnostics/textColors.h"
 #include "quorvane/diagnostics/trialDocument.h"
