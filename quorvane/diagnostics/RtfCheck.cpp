@@ -207,6 +207,8 @@ void RtfCheck::openGroup() {
         }
         groups_.back().isFresh = false;
         static_cast<RtfGroup&>(group) = groups_.back().inner();
+        group.isNested = groups_.back().isNested;
+        group.nestedPlace = groups_.back().nestedPlace;
     }
     group.begin = place(1);
     groups_.push_back(group);
@@ -371,6 +373,9 @@ void RtfCheck::takeTableWord(RtfRole role) {
                 ++row.cells;
                 row.lastWithText = hasTextInCell_ ? row.cells : row.lastWithText;
                 hasTextInCell_ = false;
+                if (groups_.back().isNested && !isNestedOpen_) {
+                    engine_.report(DiagnosticId::UnendedRow, groups_.back().nestedPlace);
+                }
                 endNestedRows();
             }
             break;
@@ -384,6 +389,11 @@ void RtfCheck::takeTableWord(RtfRole role) {
             break;
         case RtfRole::Level:
             level_ = std::clamp<std::int64_t>(number, 0, std::ssize(nestedCells_) - 1);
+            groups_.back().isNested = number > 1;
+            groups_.back().nestedPlace = controlPlace();
+            break;
+        case RtfRole::ParagraphReset:
+            groups_.back().isNested = false;
             break;
         case RtfRole::NestedCell:
             if (!std::exchange(isNestedOpen_, true)) {

@@ -39,6 +39,9 @@ private:
         // True once an entry of the stylesheet has named its number.
         bool hasNumber = false;
         Place begin{};
+        // Whether the paragraph at hand is in a table within a cell, and where that is said.
+        bool isNested = false;
+        Place nestedPlace{};
     };
 
     /// The cells of a row that is being read.

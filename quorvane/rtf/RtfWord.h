@@ -40,6 +40,7 @@ enum class RtfRole : std::uint8_t {
     NestedCell,
     NestedRow,
     Section,
+    ParagraphReset,
     // Words whose number is that of a font, a color or a style.
     Font,
     TextColor,
@@ -50,7 +51,6 @@ enum class RtfRole : std::uint8_t {
     SectionStyle,
     TableStyle,
     // What changes how the text that follows is read or looks.
-    ParagraphReset,
     Plain,
     Unicode,
     UnicodeLength,

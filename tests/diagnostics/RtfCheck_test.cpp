@@ -190,6 +190,15 @@ TEST(RtfCheck, WantsAnEndOfNestedRows) {
                 ElementsAre("2:23+9@90 unended-row"));
 }
 
+TEST(RtfCheck, WantsACellToEndInAParagraphOfItsOwnRow) {
+    EXPECT_THAT(found(documentOf("\\trowd\\cellx9 a\\itap2 b\\cell\\row")),
+                ElementsAre("2:16+6@83 unended-row"));
+    for (const char* words : {"\\itap2 b\\itap1 ", "\\itap2 b\\pard ", "{\\itap2 b}", "\\itap1 "}) {
+        EXPECT_THAT(found(documentOf(std::string("\\trowd\\cellx9 a") + words + "\\cell\\row")),
+                    IsEmpty());
+    }
+}
+
 TEST(RtfCheck, LooksReferencesUp) {
     EXPECT_THAT(found(documentOf("\\f1\\cf2\\s2\\cs1\\cf1\\s1\\s0\\f0\\cf0")),
                 ElementsAre("2:1+3@68 unknown-font", "2:4+4@71 unknown-color",
@@ -301,7 +310,7 @@ TEST(RtfCheck, TakesACellOutsideAnyTableForNone) {
 
 TEST(RtfCheck, WarnsOfASectionThatEndsWithinARow) {
     EXPECT_THAT(found(documentOf("\\trowd\\cellx9 a\\sect b\\cell\\row\\sect c")),
-                ElementsAre("2:15+5@82 section-in-row"));
+                ElementsAre("2:16+5@83 section-in-row"));
 }
 
 TEST(RtfCheck, WantsTheLengthOfBinaryData) {
