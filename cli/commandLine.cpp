@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "cli/UsageError.h"
+#include "cli/licenses.h"
 #include "quorvane/diagnostics/nearestWord.h"
 
 namespace quorvane::cli {
