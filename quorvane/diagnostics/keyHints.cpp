@@ -31,10 +31,10 @@ struct MissingKey {
 };
 
 constexpr MissingKey missingKeys[] = {
-    {"orientation",
+    {"orientation", true,
      "for landscape, paper-width is the longer side: (paper-width=16838) and "
      "(paper-height=11906) for A4"},
-    {"landscape",
+    {"landscape", true,
      "for landscape, paper-width is the longer side: (paper-width=16838) and "
      "(paper-height=11906) for A4"},
     {"paper-size", true, "write both sides: (paper-width=11906) and (paper-height=16838) for A4"},

@@ -686,6 +686,9 @@ const std::map<std::string, std::pair<std::string, std::string>>& reportsWithout
                 judgedFindings({}, {error}, DiagnosticId::StyleSheetRejected, SourceText(sheet))),
             "a.rtfss:1:1: error: A new error [stylesheet-rejected]\n    { name: a }\n"
             "    ^~~~~~~~~~~\n"};
+        list["not-a-text-file"] = {
+            reportOfFile("a.rtfspec", "%PDF-1.7\n%\xE2\xE3\n1 0 obj\n"),
+            "a.rtfspec:1:1: error: This is a PDF file, not a text file. [not-a-text-file]\n"};
         list["wrong-extension"] = {
             reportOfFile("a.rtf", "(doc\n(r\n(c\nc)\nr)\ndoc)\n"),
             "a.rtf:1:1: warning: This is a description, but its extension is .rtf. "
