@@ -603,7 +603,8 @@ private:
             end = behind + 1;
         }
         if (use_ != TextUse::Text || end == first || first < substitutesEnd_ ||
-            groups_.back().substitutes > 0 || !groups_.back().isOfDocument()) {
+            groups_.back().substitutes > 0 || !groups_.back().isOfDocument() ||
+            groups_.back().instruction > 0) {
             return;
         }
         substitutesEnd_ = end;
