@@ -9,6 +9,7 @@
 #include "quorvane/diagnostics/StyleSheetCheck.h"
 #include "quorvane/diagnostics/diagnosticRules.h"
 #include "quorvane/diagnostics/fileNameCheck.h"
+#include "quorvane/diagnostics/ignoreComments.h"
 #include "quorvane/diagnostics/languageOf.h"
 #include "quorvane/diagnostics/textFile.h"
 #include "quorvane/support/codePage1252.h"
@@ -124,7 +125,8 @@ bool RenderReport::passDescription(const std::string& name, const std::string& p
         return true;
     }
     const std::string bytes = codePage1252FromUtf8(text);
-    Diagnostics diagnostics = checkDescription(text, knownStyles());
+    Diagnostics diagnostics =
+        withoutIgnored(checkDescription(text, knownStyles()), text, CheckedLanguage::Description);
     if (options_.failOn == FailOn::Warning) {
         const Diagnostics named = findNameMismatch(bytes, CheckedLanguage::Description, path);
         diagnostics.insert(diagnostics.begin(), named.begin(), named.end());
@@ -148,7 +150,9 @@ bool RenderReport::corrupts(const quorvane::Diagnostic& diagnostic) const {
 
 const Diagnostics& RenderReport::styleSheetDiagnostics() {
     if (!styleSheet_->diagnostics) {
-        styleSheet_->diagnostics = checkStyleSheet(utf8FromCodePage1252(styleSheet_->bytes));
+        const std::string text = utf8FromCodePage1252(styleSheet_->bytes);
+        styleSheet_->diagnostics =
+            withoutIgnored(checkStyleSheet(text), text, CheckedLanguage::StyleSheet);
     }
     return *styleSheet_->diagnostics;
 }

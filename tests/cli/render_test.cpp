@@ -227,10 +227,31 @@ TEST_F(ChecksTexts, AndReportsARefusalAsOneObjectAfterTheEvents) {
     ASSERT_EQ(objects.size(), 3U);
     EXPECT_THAT(objects[0], HasSubstr(R"("kind":"event")"));
     EXPECT_THAT(objects[1], HasSubstr(R"("kind":"event")"));
-    EXPECT_EQ(objects[2],
-              R"({"file":"a.rtfspec","line":6,"number":5,"level":null,"source":null,)"
-              R"x("message":"The { has no partner. [unbalanced-brace] (and 1 more)",)x"
-              R"("kind":"check"})");
+    EXPECT_EQ(objects[2], R"({"file":"a.rtfspec","line":6,"number":5,"level":null,"source":null,)"
+                          R"x("message":"The { has no partner. [unbalanced-brace] (and 1 more)",)x"
+                          R"("kind":"check"})");
+}
+
+TEST_F(ChecksTexts, ButNotThoseThatAreToBeIgnored) {
+    folder.write("a.rtfspec",
+                 "(doc\n(r\n(c\n(p\n; quorvane: ignore unbalanced-brace\n(pt=a { b)\np)\nc)\nr)\n"
+                 "doc)\n");
+    folder.acceptBrokenDocuments();
+    for (const char* option : {"--check", "--fail-on=warning"}) {
+        const ProgramResult result = run({option, "a.rtfspec"});
+        EXPECT_EQ(result.status, 0);
+        EXPECT_EQ(result.errors, "");
+    }
+    EXPECT_TRUE(folder.has("a.rtf"));
+}
+
+TEST_F(RenderTest, FailsOnAnErrorThatIsToBeIgnored) {
+    folder.write("a.rtfspec",
+                 "(doc\n(r\n; quorvane: ignore wrong-color\n(rb=crimson)\n(c\n(p\n(pt=x)\np)\nc)\n"
+                 "r)\ndoc)\n");
+    const ProgramResult result = run({"a.rtfspec"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, "a.rtfspec:4: error: crimson isn't a recognized color.\n");
 }
 
 TEST_F(ChecksTexts, OnlyWhenAsked) {

@@ -14,7 +14,9 @@
 #include "quorvane/diagnostics/KnownStyles.h"
 #include "quorvane/diagnostics/StyleSheetCheck.h"
 #include "quorvane/diagnostics/diagnosticRules.h"
+#include "quorvane/diagnostics/ignoreComments.h"
 #include "quorvane/diagnostics/languageOf.h"
+#include "quorvane/diagnostics/textFile.h"
 #include "quorvane/docmodel/CRtfDoc.h"
 #include "quorvane/support/RtfError.h"
 #include "quorvane/support/codePage1252.h"
@@ -116,25 +118,39 @@ private:
         if (reasons.empty()) {
             return;
         }
+        tell(file, lineFor(reasons), 1);
+    }
+
+    /// The first of several diagnostics, and how many there are.
+    static ToldError lineFor(const std::vector<Diagnostic>& reasons) {
         const Diagnostic& first = reasons.front();
         std::string text = first.message;
         text += " [" + std::string(diagnosticRule(first.id).identifier) + "]";
         if (reasons.size() > 1) {
             text += " (and " + std::to_string(reasons.size() - 1) + " more)";
         }
-        tell(file, {5, text, "", static_cast<int>(first.place.line)}, 1);
+        return {5, text, "", static_cast<int>(first.place.line)};
     }
 
     bool isChecked() const { return options_.check || options_.failOn == cli::FailOn::Warning; }
 
     /// Whether the check lets the stylesheet pass, which it is asked once.
     bool passStyleSheet(const Files& inputs) {
-        if (!options_.styleSheet || !isChecked()) {
+        if (!options_.styleSheet) {
+            return true;
+        }
+        if (const auto binary = findNotATextFile(inputs.at("style.rtfss"))) {
+            tell("style.rtfss", lineFor({*binary}), 1);
+            return false;
+        }
+        if (!isChecked()) {
             return true;
         }
         const std::string sheet = utf8FromCodePage1252(inputs.at("style.rtfss"));
         const std::string before = told;
-        refuse("style.rtfss", checkStyleSheet(sheet), !StyleSheet(sheet).isLoaded());
+        refuse("style.rtfss",
+               withoutIgnored(checkStyleSheet(sheet), sheet, CheckedLanguage::StyleSheet),
+               !StyleSheet(sheet).isLoaded());
         return told == before;
     }
 
@@ -189,7 +205,10 @@ private:
             }
         }
         const std::string text = utf8FromCodePage1252(inputs.at(description));
-        refuse(description, checkDescription(text, known ? &*known : nullptr), hasErrors);
+        refuse(description,
+               withoutIgnored(checkDescription(text, known ? &*known : nullptr), text,
+                              CheckedLanguage::Description),
+               hasErrors);
     }
 
     void write(const std::string& output, Document& document) {
