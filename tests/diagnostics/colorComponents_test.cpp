@@ -6,7 +6,7 @@ namespace quorvane {
 namespace {
 
 std::string nearest(std::string_view text) {
-    const std::optional<ColorComponents> components = componentsIn(text);
+    const std::optional<RgbColor> components = componentsIn(text);
     return components ? nearestColorName(*components, Vocabulary()) : "";
 }
 
@@ -36,16 +36,6 @@ TEST(ColorComponents, KnowWhichColorTheLanguageShowsUnderACrossedName) {
     // In descriptions, slate-blue shows a sky blue.
     EXPECT_EQ(nearest("#87ceeb"), "slate-blue");
     EXPECT_EQ(nearest("#6a5acd"), "sky-blue");
-}
-
-TEST(ColorComponents, AreThoseOfTheColorTable) {
-    const std::optional<ColorComponents> pink = componentsOf(28);
-    ASSERT_TRUE(pink);
-    EXPECT_EQ(pink->red, 255);
-    EXPECT_EQ(pink->green, 157);
-    EXPECT_EQ(pink->blue, 180);
-    EXPECT_FALSE(componentsOf(0));
-    EXPECT_FALSE(componentsOf(58));
 }
 
 }  // namespace
