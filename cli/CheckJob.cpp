@@ -121,11 +121,12 @@ void CheckJob::checkStyles(const std::string& file) {
             const std::string text = utf8FromCodePage1252(bytes);
             return reported(checkStyleSheet(text), text, CheckedLanguage::StyleSheet);
         };
-        styles_.emplace(
-            utf8FromCodePage1252(tellText(file, platform_.readFile(file), false, check)));
-        const bool isOther = !openingOfDescription(styles_->text()).empty() ||
-                             findNotATextFile(codePage1252FromUtf8(styles_->text()));
-        if (isOther) {
+        const auto bytes = tellText(file, platform_.readFile(file), false, check);
+        if (!bytes) {
+            return;
+        }
+        styles_.emplace(utf8FromCodePage1252(*bytes));
+        if (findNotATextFile(*bytes) || !openingOfDescription(styles_->text()).empty()) {
             styles_.reset();
         }
     } catch (const RtfError& error) {
@@ -188,7 +189,6 @@ void CheckJob::checkFile(const std::string& file) {
 
 void CheckJob::checkText(const std::string& file, std::string_view bytes, bool isStream) {
     const CheckedLanguage language = languageOf(bytes, file);
-    checkedDescriptions_ = checkedDescriptions_ || language == CheckedLanguage::Description;
     tellText(file, bytes, isStream,
              [&](std::string_view text) { return findingsOf(file, text, language); });
 }
@@ -211,6 +211,7 @@ std::vector<quorvane::Diagnostic> CheckJob::findingsOf(const std::string& file,
             findings = checkStyleSheet(text);
             break;
         case CheckedLanguage::Description:
+            checkedDescriptions_ = true;
             text = utf8FromCodePage1252(bytes);
             findings = checkDescription(text, styles_ ? &*styles_ : nullptr);
             break;
@@ -234,10 +235,19 @@ std::vector<quorvane::Diagnostic> CheckJob::reported(std::vector<quorvane::Diagn
 }
 
 /// Tells what the check finds in a text, and fixes the file where that is asked for. Returns the
-/// bytes of the text as they are afterwards, or would be.
-std::string CheckJob::tellText(const std::string& file, std::string_view bytes, bool isStream,
-                               const TextCheck& check) {
+/// bytes of the text as they are afterwards, or would be; nothing for what is no text.
+std::optional<std::string> CheckJob::tellText(const std::string& file, std::string_view bytes,
+                                              bool isStream, const TextCheck& check) {
     ++counts_.files;
+    if (const std::optional<quorvane::Diagnostic> binary = findNotATextFile(bytes)) {
+        if (isReported(binary->id)) {
+            tell(file, *binary, windowOf({}));
+        }
+        if (isStream && options_.fixes && !options_.showsDiff) {
+            write_(bytes);
+        }
+        return std::nullopt;
+    }
     if (!options_.fixes && !options_.showsDiff) {
         tellAll(file, check(bytes), bytes);
         return std::string(bytes);

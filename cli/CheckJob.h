@@ -69,8 +69,8 @@ private:
                                                  CheckedLanguage language);
     std::vector<quorvane::Diagnostic> reported(std::vector<quorvane::Diagnostic> findings,
                                                std::string_view text, CheckedLanguage language);
-    std::string tellText(const std::string& file, std::string_view bytes, bool isStream,
-                         const TextCheck& check);
+    std::optional<std::string> tellText(const std::string& file, std::string_view bytes,
+                                        bool isStream, const TextCheck& check);
     bool writeFixed(const std::string& file, std::string_view before, const FixedText& fixed);
     std::string shownName(const std::string& file) const;
     void fail(const Diagnostic& failure);

@@ -148,10 +148,10 @@ ExitStatus checkAndTell(const CheckOptions& options) {
         }
     };
     const auto fail = [&](const Diagnostic& failure) { tellFailure(failure, options.form); };
-    const auto write = [&](std::string_view text) {
+    const auto write = [&](std::string_view part) {
         bytes->add(options.showsDiff && standardOutputIsTerminal()
-                       ? diffForTerminal(text, outputColors)
-                       : text);
+                       ? diffForTerminal(part, outputColors)
+                       : part);
     };
     CheckJob job(options, find, fail, systemPlatform(), write);
     const ExitStatus status = job.run();

@@ -82,7 +82,7 @@ they repeat lines of the description.
 
 Exit status:
   0  all is well
-  1  with --check or --diff: there are files that are not in their canonical form
+  1  with --check or --diff: a file is not in its canonical form
   2  wrong usage, or a file that cannot be read, formatted or written)";
 
 const std::map<std::string, NameForm>& nameForms() {
@@ -125,11 +125,17 @@ std::string asGiven(std::string argument) {
     return argument;
 }
 
-/// The parser would take the next argument for the value of an option such as "--output=".
+/// The parser would take the next argument for the value of "--output=", and "=a.rtf" for that of
+/// "-o=a.rtf".
 void requireValueAfterSign(const std::string& argument) {
     const std::size_t sign = argument.find('=');
     if (argument.starts_with("--") && sign + 1 == argument.size()) {
         throw UsageError(argument + " lacks its value");
+    }
+    if (argument.starts_with('-') && argument[1] != '-' && sign == 2) {
+        const std::string option = argument.substr(0, sign);
+        throw UsageError(argument + " has a = too many; write " + option + " " +
+                         argument.substr(sign + 1));
     }
 }
 
@@ -241,18 +247,17 @@ CLI::App* addCheckCommand(CLI::App& app, CheckOptions& options) {
         ->allow_extra_args();
     check
         ->add_option("-s,--stylesheet", storeIn(options.styleSheet),
-                     "Look the styles of descriptions up in this .rtfss file, and check it too")
+                     "Look styles up in this .rtfss file; check it too")
         ->type_name("FILE");
     check
         ->add_option("--diagnostics", storeIn(options.form),
-                     "Tell findings as text, as JSON objects or as a SARIF log")
+                     "Report as text, JSON objects or a SARIF log")
         ->type_name("text|json|sarif")
         ->check(CLI::IsMember(findingsForms()).description(""));
     check->add_flag("--fix", options.fixes, "Make the replacements that are certain");
     check->add_flag("--diff", options.showsDiff, "Show what --fix would change; change nothing");
     addIdentifiersOption(*check, "--ignore", options.ignored, "Leave these diagnostics out");
-    addIdentifiersOption(*check, "--enable", options.enabled,
-                         "Report these too, which are off by default");
+    addIdentifiersOption(*check, "--enable", options.enabled, "Report these too, off by default");
     check
         ->add_option("--fail-on", storeIn(options.failOn),
                      "From which severity on the exit status is not 0")
@@ -284,13 +289,10 @@ CLI::App* addFormatCommand(CLI::App& app, FormatOptions& options) {
         ->required()
         ->expected(1, CLI::detail::expected_max_vector_size)
         ->allow_extra_args();
-    format
-        ->add_option("--names", storeIn(options.names),
-                     "Write the long or the short names of a description, or keep them")
+    format->add_option("--names", storeIn(options.names), "Write long or short names, or keep them")
         ->type_name("long|short|keep")
         ->check(CLI::IsMember(nameForms()).description(""));
-    format->add_flag("--check", options.check,
-                     "Change nothing; name the files that are not in their form");
+    format->add_flag("--check", options.check, "Change nothing; name files that would change");
     format->add_flag("--diff", options.diff, "Change nothing; show what would change");
     addStdinFilename(*format, options.stdinName);
     refuseEmptyValues(*format);

@@ -60,7 +60,10 @@ std::optional<CheckedLanguage> languageOfSourceFile(const std::string& path) {
         std::erase(bytes, '\0');
         bytes.erase(0, bytes.find_first_of("({;"));
     }
-    return languageToFormat(utf8FromCodePage1252(behindByteOrderMark(bytes)), path);
+    const std::string text = utf8FromCodePage1252(behindByteOrderMark(bytes));
+    // A stylesheet is one under any name; what says too little is what its name says.
+    const std::optional<CheckedLanguage> language = languageOfStreamToFormat(text);
+    return language ? language : languageToFormat(text, path);
 }
 
 }  // namespace quorvane::cli

@@ -111,7 +111,8 @@ public:
             file_.write(bytes);
         } catch (const RtfError& error) {
             const DWORD code = error.cause ? static_cast<DWORD>(error.cause->number) : NO_ERROR;
-            if (code == ERROR_BROKEN_PIPE || code == ERROR_NO_DATA) {
+            if (code == ERROR_BROKEN_PIPE || code == ERROR_NO_DATA ||
+                code == ERROR_PIPE_NOT_CONNECTED) {
                 throw ClosedPipe();
             }
             throw;

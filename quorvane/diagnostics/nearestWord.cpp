@@ -65,14 +65,15 @@ std::string_view certainWord(std::string_view word, std::span<const std::string_
     constexpr std::size_t shortestWord = 4;
     constexpr std::size_t longWord = 8;
     const std::string_view nearest = nearestWord(word, candidates);
-    const std::size_t length = std::max(word.size(), nearest.size());
-    if (nearest.empty() || nearest.size() < shortestWord - 1 || length < shortestWord) {
+    if (nearest.empty()) {
         return {};
     }
     const std::string wanted = lowerCase(word);
     const std::string found = lowerCase(nearest);
     const std::size_t changes = distance(wanted, found);
-    if (changes > (length < longWord ? 1U : 2U)) {
+    const std::size_t length = std::max(word.size(), nearest.size());
+    const bool isShort = nearest.size() < shortestWord - 1 || length < shortestWord;
+    if (changes > 0 && (isShort || changes > (length < longWord ? 1U : 2U))) {
         return {};
     }
     const bool isAlone =

@@ -97,7 +97,7 @@ TEST_F(CheckTest, EndsWith2WhereAFileCannotBeReadAndChecksTheOthers) {
     folder.write("price.rtfspec", descriptionWithBadColour);
     const ProgramResult result = run({"nosuch.rtfspec", "price.rtfspec"});
     EXPECT_EQ(result.output, reportOfBadColor);
-    EXPECT_THAT(result.errors, StartsWith("nosuch.rtfspec: error[53]: File not found"));
+    EXPECT_THAT(result.errors, StartsWith("nosuch.rtfspec: No such file or directory\n"));
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(run({"-s", "nosuch.rtfss", "price.rtfspec"}).status, 2);
 }
@@ -309,16 +309,92 @@ TEST_F(CheckTest, SaysInSarifHowTheFilesAreEncoded) {
     EXPECT_EQ(log.at("runs").at(0).at("defaultEncoding"), "windows-1252");
 }
 
+TEST_F(CheckTest, GivesSarifWhatCodeScanningRequires) {
+    folder.write("a.rtfspec", descriptionWithBadColour);
+    const json log = json::parse(run({"--diagnostics=sarif", "a.rtfspec"}).output);
+    const json& run = log.at("runs").at(0);
+    for (const json& rule : run.at("tool").at("driver").at("rules")) {
+        const std::string id = rule.at("id");
+        for (const char* member : {"shortDescription", "fullDescription", "help"}) {
+            const std::string text = rule.at(member).at("text");
+            EXPECT_FALSE(text.empty()) << id;
+            EXPECT_LE(text.size(), 1024U) << id;
+        }
+        const std::string title = rule.at("shortDescription").at("text");
+        EXPECT_EQ(title.find_first_of("\r\n"), std::string::npos) << id;
+        EXPECT_NE(title, "…") << id;
+        EXPECT_FALSE(rule.at("help").at("markdown").get<std::string>().empty()) << id;
+        EXPECT_EQ(rule.at("defaultConfiguration").at("enabled"), id != "unused-style");
+    }
+    const json& rules = run.at("tool").at("driver").at("rules");
+    EXPECT_EQ(rules.at(0).at("name"), "WrongFileType");
+    const json& found = run.at("results").at(0);
+    EXPECT_TRUE(found.at("partialFingerprints").contains("primaryLocationLineHash"));
+}
+
+TEST_F(CheckTest, NamesFilesInSarifByRelativeOrFileUris) {
+    fs::create_directory(folder.path() / "sub");
+    folder.write("sub/a.rtfspec", descriptionWithBadColour);
+    const std::string whole = folder / "sub/a.rtfspec";
+    const json log =
+        json::parse(run({"--diagnostics=sarif", "./sub/../sub/a.rtfspec", whole}).output);
+    const json& run = log.at("runs").at(0);
+    const auto location = [&](std::size_t index) {
+        return run.at("results")
+            .at(index)
+            .at("locations")
+            .at(0)
+            .at("physicalLocation")
+            .at("artifactLocation");
+    };
+    EXPECT_EQ(location(0), json({{"uri", "sub/a.rtfspec"}, {"uriBaseId", "SRCROOT"}}));
+    EXPECT_EQ(location(1), json({{"uri", "file://" + whole}}));
+    const std::string root = "file://" + fs::canonical(folder.path()).string() + "/";
+    EXPECT_EQ(run.at("originalUriBaseIds"), json({{"SRCROOT", {{"uri", root}}}}));
+    EXPECT_EQ(run.at("invocations").at(0).at("workingDirectory"), json({{"uri", root}}));
+}
+
+TEST_F(CheckTest, GivesSarifFingerprintsThatStayWhenLinesMove) {
+    const auto fingerprints = [&](const std::string& text) {
+        folder.write("a.rtfspec", text);
+        const json log = json::parse(run({"--diagnostics=sarif", "a.rtfspec"}).output);
+        std::vector<std::string> list;
+        for (const json& found : log.at("runs").at(0).at("results")) {
+            list.push_back(found.at("partialFingerprints").at("primaryLocationLineHash"));
+        }
+        return list;
+    };
+    const std::string row = "(r\n(rb=crimson)\n(c\nc)\nr)\n";
+    const std::vector<std::string> once = fingerprints("(doc\n" + row + "doc)\n");
+    const std::vector<std::string> moved =
+        fingerprints("; a comment\n\n(doc\n(r\n(c\nc)\nr)\n" + row + "doc)\n");
+    const std::vector<std::string> indented =
+        fingerprints("(doc\n(r\n    (rb=crimson)\r\n(c\nc)\nr)\ndoc)\n");
+    const std::vector<std::string> twice = fingerprints("(doc\n" + row + row + "doc)\n");
+    const std::vector<std::string> other =
+        fingerprints("(doc\n(r\n(rb=scarlet)\n(c\nc)\nr)\ndoc)\n");
+    ASSERT_THAT(once, SizeIs(1));
+    EXPECT_EQ(moved, once);
+    EXPECT_EQ(indented, once);
+    ASSERT_THAT(twice, SizeIs(2));
+    EXPECT_EQ(twice[0], once[0]);
+    EXPECT_NE(twice[1], once[0]);
+    EXPECT_NE(other, once);
+}
+
 TEST_F(CheckTest, TellsInSarifThatAFileCouldNotBeRead) {
     const json log = json::parse(run({"--diagnostics=sarif", "nosuch.rtfspec"}).output);
     EXPECT_FALSE(log.at("runs").at(0).at("invocations").at(0).at("executionSuccessful"));
 }
 
 TEST_F(CheckTest, WritesSarifThatFollowsItsSchema) {
-    folder.write("a.rtfspec", descriptionWithBadColour + "text <&\"\xE9\n");
+    folder.write("a.rtfspec", descriptionWithBadColour + "text <&\"\xE9\n(doc\n(rwo\n");
+    folder.write("fixable.rtfspec", descriptionOf("a } b { \\5"));
     folder.write("b.rtfss", badStyleSheet);
     folder.write("c.rtf", "{\\rtf1 {\\'zz\\trowd\\row");
-    const ProgramResult result = run({"--diagnostics=sarif", "a.rtfspec", "b.rtfss", "c.rtf", "d"});
+    const ProgramResult result =
+        run({"--diagnostics=sarif", "a.rtfspec", "fixable.rtfspec", "b.rtfss", "c.rtf", "d"});
+    EXPECT_THAT(result.output, HasSubstr("\"fixes\""));
     EXPECT_EQ(result.status, 2);
     folder.write("log.sarif", result.output);
     const std::string command = "'" QUORVANE_JSONSCHEMA "' -i '" +
@@ -537,6 +613,19 @@ INSTANTIATE_TEST_SUITE_P(All, GoldenCheckTest, testing::ValuesIn(goldenNames()),
                              std::replace(name.begin(), name.end(), '-', '_');
                              return name;
                          });
+
+TEST_F(CheckTest, TakesStandardInputForAFileOfAName) {
+    start.input = "";
+    EXPECT_EQ(run({"-"}).status, 1);
+    const ProgramResult empty = run({"--stdin-filename=sub/a.rtf", "-"});
+    EXPECT_THAT(empty.output, testing::StartsWith("sub/a.rtf:1:1: error: "));
+    EXPECT_THAT(empty.output, testing::HasSubstr("[not-rtf]"));
+    start.input = "(doc\n(r\n(c\n(p\n(pt=a)\np)\nc)\nr)\ndoc)\n";
+    EXPECT_EQ(run({"--stdin-filename=a.rtfspec", "-"}).status, 0);
+    const ProgramResult named = run({"--stdin-filename=a.rtf", "--diagnostics=json", "-"});
+    EXPECT_THAT(named.output, testing::HasSubstr("\"file\":\"a.rtf\""));
+    EXPECT_THAT(named.output, testing::HasSubstr("wrong-extension"));
+}
 
 }  // namespace
 }  // namespace quorvane::cli

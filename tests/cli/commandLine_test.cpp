@@ -87,8 +87,8 @@ TEST(CommandLine, TakesAllThatFollowsTwoDashesForDescriptions) {
 }
 
 TEST(CommandLine, TakesNamesThatMeanSomethingElsewhereAsTheyAre) {
-    EXPECT_THAT(optionsOf({"render", "[a,b]", "{}", "%%", "/x", "a b", ""}).descriptions,
-                ElementsAre("render", "[a,b]", "{}", "%%", "/x", "a b", ""));
+    EXPECT_THAT(optionsOf({"render", "[a,b]", "{}", "%%", "/x", "a b"}).descriptions,
+                ElementsAre("render", "[a,b]", "{}", "%%", "/x", "a b"));
     EXPECT_EQ(optionsOf({"-o", "[a]", "x"}).output, "[a]");
 }
 
@@ -100,30 +100,37 @@ TEST(CommandLine, ShowsTheHelpOfRenderWithEveryOptionAndTheExitStatuses) {
     const std::string help = informationOf({"render", "--help"});
     for (const char* part :
          {"DESCRIPTION", "-s,--stylesheet FILE", "-o,--output FILE", "--output-dir DIR", "--check",
-          "--keep-going", "--diagnostics text|json", "--help", "--version", "Exit status:"}) {
+          "--keep-going", "--diagnostics text|json", "--help", "-V,--version", "--mkdir",
+          "--fail-on error|warning|never", "Exit status:"}) {
         EXPECT_THAT(help, HasSubstr(part));
     }
 }
 
 TEST(CommandLine, ShowsNoLongLinesOfHelp) {
     std::size_t length = 0;
-    for (const char character : informationOf({"render", "--help"})) {
-        length = character == '\n' ? 0 : length + 1;
-        ASSERT_LE(length, 80U);
+    for (const char* command : {"render", "check", "format", "help"}) {
+        for (const char character : informationOf({command, "--help"})) {
+            length = character == '\n' ? 0 : length + 1;
+            ASSERT_LE(length, 80U);
+        }
     }
 }
 
 TEST(CommandLine, ShowsTheVersionWithAndWithoutASubcommand) {
     EXPECT_EQ(informationOf({"--version"}), "quorvane " QUORVANE_VERSION "\n");
     EXPECT_EQ(informationOf({"render", "--version"}), "quorvane " QUORVANE_VERSION "\n");
+    EXPECT_EQ(informationOf({"-V"}), "quorvane " QUORVANE_VERSION "\n");
+    for (const char* command : {"render", "check", "format"}) {
+        EXPECT_EQ(informationOf({command, "-V"}), "quorvane " QUORVANE_VERSION "\n");
+    }
 }
 
 TEST(CommandLine, NeedsASubcommand) {
     EXPECT_EQ(usageErrorOf({}), "A subcommand is required");
     EXPECT_EQ(usageErrorOf({"draw", "a.rtfspec"}),
-              "draw is not a subcommand; render, check and format are");
+              "draw is not a subcommand; render, check, format and help are");
     EXPECT_EQ(usageErrorOf({"[a].rtfspec"}),
-              "[a].rtfspec is not a subcommand; render, check and format are");
+              "[a].rtfspec is not a subcommand; render, check, format and help are");
     EXPECT_EQ(usageErrorOf({"chekc", "x"}), "chekc is not a subcommand; did you mean check?");
     EXPECT_EQ(usageErrorOf({"Format", "x"}), "Format is not a subcommand; did you mean format?");
 }
@@ -147,6 +154,76 @@ TEST(CommandLine, TellsAnOptionThatItDoesNotKnowBeforeAMissingDescription) {
 
 TEST(CommandLine, RefusesAnOptionWithoutItsValue) {
     EXPECT_EQ(usageErrorOf({"render", "a", "-o"}), "--output: 1 required FILE missing");
+}
+
+TEST(CommandLine, RefusesAnOptionWithoutAValueAfterItsSign) {
+    for (const std::string option :
+         {"--output=", "--output-dir=", "--stylesheet=", "--diagnostics=", "--fail-on="}) {
+        EXPECT_EQ(usageErrorOf({"render", option, "a", "b"}), option + " lacks its value");
+    }
+    for (const std::string option :
+         {"--stylesheet=", "--diagnostics=", "--explain=", "--stdin-filename="}) {
+        EXPECT_EQ(usageErrorOf({"check", option, "a", "b"}), option + " lacks its value");
+    }
+    for (const std::string option : {"--names=", "--stdin-filename="}) {
+        EXPECT_EQ(usageErrorOf({"format", option, "a", "b"}), option + " lacks its value");
+    }
+    EXPECT_EQ(usageErrorOf({"render", "-o=b.rtf", "a"}),
+              "-o=b.rtf has a = too many; write -o b.rtf");
+    EXPECT_THAT(optionsOf({"a", "--", "--output="}).descriptions, ElementsAre("a", "--output="));
+}
+
+TEST(CommandLine, RefusesEmptyValues) {
+    for (const char* option :
+         {"--output", "--output-dir", "--stylesheet", "--diagnostics", "--fail-on"}) {
+        EXPECT_EQ(usageErrorOf({"render", option, "", "a"}),
+                  std::string(option) + ": the value is empty");
+    }
+    EXPECT_EQ(usageErrorOf({"render", "-o", "", "a"}), "--output: the value is empty");
+    EXPECT_EQ(usageErrorOf({"render", "a", ""}), "DESCRIPTION: the value is empty");
+    EXPECT_EQ(usageErrorOf({"render", "--", ""}), "DESCRIPTION: the value is empty");
+    EXPECT_EQ(usageErrorOf({"check", ""}), "FILE: the value is empty");
+    EXPECT_EQ(usageErrorOf({"check", "--explain", ""}), "--explain: the value is empty");
+    EXPECT_EQ(usageErrorOf({"check", "-s", "", "a"}), "--stylesheet: the value is empty");
+    EXPECT_EQ(usageErrorOf({"format", ""}), "FILE: the value is empty");
+    EXPECT_EQ(usageErrorOf({"format", "--names", "", "a"}), "--names: the value is empty");
+}
+
+TEST(CommandLine, TakesANameForStandardInputAlone) {
+    EXPECT_EQ(
+        std::get<CheckOptions>(parseCommandLine({"check", "--stdin-filename", "a", "-"})).stdinName,
+        "a");
+    EXPECT_EQ(
+        std::get<FormatOptions>(parseCommandLine({"format", "-", "--stdin-filename=a"})).stdinName,
+        "a");
+    for (const char* command : {"check", "format"}) {
+        EXPECT_EQ(usageErrorOf({command, "--stdin-filename", "a", "b"}),
+                  "--stdin-filename names standard input, but no FILE is -");
+    }
+}
+
+TEST(CommandLine, TakesWhatMakesARunFail) {
+    EXPECT_EQ(optionsOf({"x"}).failOn, FailOn::Error);
+    EXPECT_EQ(optionsOf({"--fail-on=error", "x"}).failOn, FailOn::Error);
+    EXPECT_EQ(optionsOf({"--fail-on", "warning", "x"}).failOn, FailOn::Warning);
+    EXPECT_EQ(optionsOf({"--fail-on=never", "x"}).failOn, FailOn::Never);
+    EXPECT_EQ(usageErrorOf({"render", "--fail-on=always", "x"}),
+              "--fail-on: always not in {error,never,warning}");
+}
+
+TEST(CommandLine, MakesOnlyAFolderThatIsNamed) {
+    EXPECT_TRUE(optionsOf({"--mkdir", "--output-dir", "out", "x"}).makesOutputFolder);
+    EXPECT_EQ(usageErrorOf({"render", "--mkdir", "x"}), "--mkdir requires --output-dir");
+}
+
+TEST(CommandLine, ShowsTheHelpOfASubcommandByItsName) {
+    for (const char* command : {"render", "check", "format", "help"}) {
+        EXPECT_EQ(informationOf({"help", command}), informationOf({command, "--help"}));
+    }
+    EXPECT_EQ(informationOf({"help"}), informationOf({"--help"}));
+    EXPECT_EQ(usageErrorOf({"help", "rendre"}), "rendre is not a subcommand; did you mean render?");
+    EXPECT_EQ(usageErrorOf({"help", "draw"}),
+              "draw is not a subcommand; render, check, format and help are");
 }
 
 TEST(CommandLine, RefusesAnOptionThatIsGivenTwice) {

@@ -86,13 +86,16 @@ TEST_F(CommandTest, RendersStandardInputToAFile) {
     EXPECT_THAT(folder.read("letter.rtf"), StartsWith("{"));
 }
 
-TEST_F(CommandTest, TellsAnErrorOnALineOfText) {
+TEST_F(CommandTest, ReportsAnErrorAsCheckDoes) {
     folder.write("letter.rtfspec", descriptionWithBadColour);
     const ProgramResult result = run({"render", "letter.rtfspec"});
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.output, "");
     EXPECT_EQ(result.errors,
-              "letter.rtfspec:3: error[eWrongValue]: crimson isn't a recognized color.\n");
+              "letter.rtfspec:3:5: error: crimson isn't a recognized color. [wrong-color]\n"
+              "    (rb=crimson)\n"
+              "        ^~~~~~~\n"
+              "    hint: did you mean dark-red?\n");
     EXPECT_THAT(folder.names(), ElementsAre("letter.rtfspec"));
 }
 
@@ -101,7 +104,11 @@ TEST_F(CommandTest, TellsAnErrorOfStandardInput) {
     const ProgramResult result = run({"render", "-"});
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.output, "");
-    EXPECT_EQ(result.errors, "<stdin>:3: error[eWrongValue]: crimson isn't a recognized color.\n");
+    EXPECT_EQ(result.errors,
+              "<stdin>:3:5: error: crimson isn't a recognized color. [wrong-color]\n"
+              "    (rb=crimson)\n"
+              "        ^~~~~~~\n"
+              "    hint: did you mean dark-red?\n");
 }
 
 TEST_F(CommandTest, TellsAnErrorAsAnObject) {
@@ -135,12 +142,19 @@ TEST_F(CommandTest, TellsErrorsInTheOrderInWhichTheyCome) {
     EXPECT_EQ(objects[4].at("cause"), "File not found");
 }
 
-TEST_F(CommandTest, TellsWhatLiesBehindAnErrorInTheTextToo) {
+TEST_F(CommandTest, ReportsARefusedStylesheetAsCheckDoesAndOnce) {
     folder.write("letter.rtfspec", descriptionOf("Text"));
     folder.write("style.rtfss", badStyleSheet);
-    EXPECT_EQ(run({"render", "-s", "style.rtfss", "letter.rtfspec"}).errors,
-              "style.rtfss: error[eWrongFileType]: style.rtfss isn't a valid stylesheet. "
-              "(Error while processing stylesheet. nam is not a valid keyword.)\n");
+    folder.write("other.rtfspec", descriptionOf("Text"));
+    const ProgramResult result =
+        run({"render", "-s", "style.rtfss", "letter.rtfspec", "other.rtfspec"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors,
+              "style.rtfss:1:2: error: Error while processing stylesheet. nam is not a valid "
+              "keyword. [bad-keyword]\n"
+              "    {nam: normal; style-def: s; format: \\f0\\fs24\\cf3}\n"
+              "     ^~~\n"
+              "    hint: a definition begins with name:\n");
 }
 
 TEST_F(CommandTest, WritesWhatCouldBeBuiltWhenItKeepsGoing) {
@@ -208,43 +222,80 @@ TEST_F(CommandTest, TellsThatStandardOutputIsFull) {
     start.input = descriptionOf("Text");
     const ProgramResult result = run({"render", "-"});
     EXPECT_EQ(result.status, 2);
-    EXPECT_EQ(result.errors, "<stdout>: error[61]: Disk full (No space left on device)\n");
+    EXPECT_EQ(result.errors, "<stdout>: No space left on device\n");
 }
 
-TEST_F(CommandTest, TellsThatNobodyReadsStandardOutput) {
-    start.prepare = [] {
-        std::array<int, 2> ends{};
-        if (::pipe(ends.data()) == 0) {
-            ::close(ends[0]);
-            ::dup2(ends[1], STDOUT_FILENO);
-        }
-    };
+/// Makes standard output a pipe that nobody reads.
+void closeOtherEndOfOutput() {
+    std::array<int, 2> ends{};
+    if (::pipe(ends.data()) == 0) {
+        ::close(ends[0]);
+        ::dup2(ends[1], STDOUT_FILENO);
+    }
+}
+
+TEST_F(CommandTest, EndsQuietlyWhenNobodyReadsStandardOutput) {
+    folder.write("a.rtfspec", descriptionWithBadColour);
+    folder.write("b.rtfspec", descriptionOf("Text"));
+    start.prepare = closeOtherEndOfOutput;
     start.input = descriptionOf("Text");
-    const ProgramResult result = run({"render", "-", "--diagnostics=json"});
-    EXPECT_EQ(result.status, 2);
-    const auto objects = objectsOf(result.errors);
-    ASSERT_THAT(objects, SizeIs(1));
-    EXPECT_EQ(objects[0].at("file"), "<stdout>");
-    EXPECT_EQ(objects[0].at("number"), 57);
-    EXPECT_EQ(objects[0].at("cause"), "Broken pipe");
+    const std::vector<std::vector<std::string>> runs = {
+        {"render", "-"},
+        {"render", "-", "--diagnostics=json"},
+        {"check", "a.rtfspec"},
+        {"check", "--explain", "wrong-color"},
+        {"format", "-"},
+        {"format", "--check", "b.rtfspec"},
+        {"format", "--diff", "b.rtfspec"},
+        {"--help"},
+        {"--version"},
+    };
+    for (const auto& arguments : runs) {
+        const ProgramResult result = run(arguments);
+        EXPECT_EQ(result.status, 0) << testing::PrintToString(arguments);
+        EXPECT_EQ(result.errors, "") << testing::PrintToString(arguments);
+    }
+}
+
+TEST_F(CommandTest, StillFailsForAnErrorWhenNobodyReadsTheDocument) {
+    folder.write("letter.rtfspec", descriptionWithBadColour);
+    start.prepare = closeOtherEndOfOutput;
+    EXPECT_EQ(run({"render", "--keep-going", "-o", "-", "letter.rtfspec"}).status, 1);
+}
+
+TEST_F(CommandTest, NamesStandardOutputWhereItFailsWhateverWasWorkedOn) {
+    folder.write("a.rtfspec", descriptionOf("Text"));
+    start.prepare = [] { ::dup2(::open("/dev/full", O_WRONLY), STDOUT_FILENO); };
+    start.input = descriptionOf("Text");
+    const std::vector<std::vector<std::string>> runs = {
+        {"render", "-o", "-", "a.rtfspec"},
+        {"format", "-"},
+        {"format", "--check", "a.rtfspec"},
+        {"format", "--diff", "a.rtfspec"},
+    };
+    for (const auto& arguments : runs) {
+        const ProgramResult result = run(arguments);
+        EXPECT_EQ(result.status, 2) << testing::PrintToString(arguments);
+        EXPECT_EQ(result.errors, "<stdout>: No space left on device\n")
+            << testing::PrintToString(arguments);
+    }
 }
 
 TEST_F(CommandTest, TellsThatTheHelpCannotBeShown) {
     start.prepare = [] { ::dup2(::open("/dev/full", O_WRONLY), STDOUT_FILENO); };
     const ProgramResult result = run({"--help"});
     EXPECT_EQ(result.status, 2);
-    EXPECT_EQ(result.errors, "<stdout>: error[61]: Disk full (No space left on device)\n");
+    EXPECT_EQ(result.errors, "<stdout>: No space left on device\n");
 }
 
 TEST_F(CommandTest, TellsThatAStandardStreamIsClosed) {
     start.prepare = [] { ::close(STDOUT_FILENO); };
     start.input = descriptionOf("Text");
-    EXPECT_EQ(run({"render", "-"}).errors,
-              "<stdout>: error[57]: Device I/O error (Bad file descriptor)\n");
+    EXPECT_EQ(run({"render", "-"}).errors, "<stdout>: Bad file descriptor\n");
     start.prepare = [] { ::close(STDIN_FILENO); };
     const ProgramResult result = run({"render", "-"});
     EXPECT_EQ(result.status, 2);
-    EXPECT_EQ(result.errors, "<stdin>: error[57]: Device I/O error (Bad file descriptor)\n");
+    EXPECT_EQ(result.errors, "<stdin>: Bad file descriptor\n");
 }
 
 TEST_F(CommandTest, WritesNoDiagnosticIntoADocumentWhenStandardErrorIsClosed) {
@@ -258,7 +309,7 @@ TEST_F(CommandTest, TellsThatStandardInputIsAFolder) {
     start.prepare = [] { ::dup2(::open("/", O_RDONLY), STDIN_FILENO); };
     const ProgramResult result = run({"render", "-"});
     EXPECT_EQ(result.status, 2);
-    EXPECT_EQ(result.errors, "<stdin>: error[75]: Path/File access error (Is a directory)\n");
+    EXPECT_EQ(result.errors, "<stdin>: Is a directory\n");
 }
 
 TEST_F(CommandTest, WritesToAStandardOutputThatDoesNotWait) {
@@ -279,7 +330,7 @@ TEST_F(CommandTest, KeepsTheOldFileWhenTheNewOneDoesNotFit) {
     };
     const ProgramResult result = run({"render", "a.rtfspec"});
     EXPECT_EQ(result.status, 2);
-    EXPECT_EQ(result.errors, "a.rtf: error[61]: Disk full (File too large)\n");
+    EXPECT_EQ(result.errors, "a.rtf: File too large\n");
     EXPECT_EQ(folder.read("a.rtf"), "old");
     EXPECT_THAT(folder.names(), ElementsAre("a.rtf", "a.rtfspec"));
 }
@@ -295,7 +346,10 @@ TEST_F(CommandTest, RendersManyFilesIntoAFolder) {
     const ProgramResult result = run(arguments);
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.errors,
-              "50.rtfspec:3: error[eWrongValue]: crimson isn't a recognized color.\n");
+              "50.rtfspec:3:5: error: crimson isn't a recognized color. [wrong-color]\n"
+              "    (rb=crimson)\n"
+              "        ^~~~~~~\n"
+              "    hint: did you mean dark-red?\n");
     for (int i = 0; i < 100; ++i) {
         const std::string name = "out/" + std::to_string(i) + ".rtf";
         if (i == 50) {
@@ -313,7 +367,11 @@ TEST_F(CommandTest, ShowsProgressOnATerminalAndErasesIt) {
     EXPECT_EQ(run({"render", "a.rtfspec", "b.rtfspec"}).errors,
               "\r\x1b[K1/2 a.rtfspec"
               "\r\x1b[K2/2 b.rtfspec"
-              "\r\x1b[Kb.rtfspec:3: error[eWrongValue]: crimson isn't a recognized color.\n"
+              "\r\x1b[K\x1b[1mb.rtfspec:3:5:\x1b[0m \x1b[1;31merror:\x1b[0m crimson isn't a "
+              "recognized color. [wrong-color]\n"
+              "    (rb=crimson)\n"
+              "        \x1b[1;32m^~~~~~~\x1b[0m\n"
+              "    hint: did you mean dark-red?\n"
               "\r\x1b[K");
 }
 

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <string>
 #include <utility>
@@ -96,9 +97,8 @@ TEST_F(FormatTest, TellsWhatItCannotDoAndFormatsTheRest) {
     folder.write("c.rtf", "{\\rtf1 a}");
     const ProgramResult result = run({"nosuch", "c.rtf", "a.rtfspec"});
     EXPECT_EQ(result.status, 2);
-    EXPECT_THAT(linesOf(result.errors),
-                ElementsAre(StartsWith("nosuch: error[53]: File not found"),
-                            "c.rtf: error[5]: An RTF file has no canonical form"));
+    EXPECT_THAT(linesOf(result.errors), ElementsAre("nosuch: No such file or directory",
+                                                    "c.rtf: An RTF file has no canonical form"));
     EXPECT_EQ(folder.read("a.rtfspec"), canonical);
     EXPECT_EQ(run({}).status, 2);
 }
@@ -124,7 +124,7 @@ TEST_F(FormatTest, RefusesWhatIsNeitherADescriptionNorAStyleSheet) {
     for (const auto& [name, bytes] : others) {
         folder.write(name, bytes);
         names.push_back(name);
-        expected += name + ": error[5]: Neither a description nor a stylesheet\n";
+        expected += name + ": Neither a description nor a stylesheet\n";
     }
     const ProgramResult result = run(names);
     EXPECT_EQ(result.status, 2);
@@ -142,7 +142,7 @@ TEST_F(FormatTest, RefusesWhatIsNeitherFromStandardInput) {
         const ProgramResult result = run(arguments);
         EXPECT_EQ(result.status, 2);
         EXPECT_EQ(result.output, "");
-        EXPECT_EQ(result.errors, "<stdin>: error[5]: Neither a description nor a stylesheet\n");
+        EXPECT_EQ(result.errors, "<stdin>: Neither a description nor a stylesheet\n");
     }
 }
 
@@ -169,6 +169,55 @@ TEST_F(FormatTest, KnowsDescriptionsAndStyleSheetsUnderOtherNames) {
     EXPECT_EQ(folder.read("a.txt"), "; mine\n" + canonical);
     EXPECT_EQ(folder.read("b.txt"), "(pa=centered)\n");
     EXPECT_EQ(folder.read("c.txt"), "; mine\n{ name: a; style-def: s }\n");
+}
+
+TEST_F(FormatTest, ShowsWhatWouldChangeAsPatchTakesIt) {
+    folder.write("a.rtfspec", loose);
+    folder.write("b.rtfspec", canonical);
+    const ProgramResult result = run({"--diff", "a.rtfspec", "b.rtfspec"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(result.output,
+              "--- a/a.rtfspec\n+++ b/a.rtfspec\n@@ -1,6 +1,6 @@\n (doc\n-(row\n-(c\n-c)\n-row)\n"
+              "-doc)\n\\ No newline at end of file\n+  (row\n+    (c\n+    c)\n+  row)\n+doc)\n");
+    EXPECT_EQ(folder.read("a.rtfspec"), loose);
+    folder.write("the.diff", result.output);
+    const std::string patch =
+        "cd '" + folder.path().string() + "' && " QUORVANE_PATCH " -s -p1 < the.diff";
+    ASSERT_EQ(std::system(patch.c_str()), 0);
+    EXPECT_EQ(folder.read("a.rtfspec"), canonical);
+    EXPECT_EQ(run({"--diff", "a.rtfspec"}).status, 0);
+}
+
+TEST_F(FormatTest, ShowsADiffOnATerminalInColors) {
+    folder.write("a.rtfspec", canonical + "\n\n\n");
+    start.outputOnTerminal = true;
+    EXPECT_EQ(run({"--check", "--diff", "a.rtfspec"}).output,
+              "\x1b[1m--- a/a.rtfspec\x1b[0m\n\x1b[1m+++ b/a.rtfspec\x1b[0m\n"
+              "\x1b[36m@@ -4,6 +4,3 @@\x1b[0m\n     c)\n   row)\n doc)\n"
+              "\x1b[31m-\x1b[0m\n\x1b[31m-\x1b[0m\n\x1b[31m-\x1b[0m\n");
+}
+
+TEST_F(FormatTest, TakesAStyleSheetAfterProseFromStandardInput) {
+    start.input = "Styles of the house.\n{name:a;style-def:cs;format:\\b}\n";
+    const ProgramResult result = run({"-"});
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(result.output, "Styles of the house.\n{ name: a; style-def: cs; format: \\b }\n");
+    start.input = "interface Style   { name: string; format: string }\n";
+    EXPECT_EQ(run({"-"}).errors, "<stdin>: Neither a description nor a stylesheet\n");
+}
+
+TEST_F(FormatTest, TakesStandardInputForAFileOfAName) {
+    start.input = "; later  \n";
+    EXPECT_EQ(run({"-"}).errors, "<stdin>: Neither a description nor a stylesheet\n");
+    EXPECT_EQ(run({"--stdin-filename", "sub/a.rtfspec", "-"}).output, "; later\n");
+    EXPECT_EQ(run({"--stdin-filename=a.rtfss", "--check", "-"}).output, "a.rtfss\n");
+    EXPECT_EQ(run({"--stdin-filename=a.rtfss", "--diff", "-"}).output,
+              "--- a/a.rtfss\n+++ b/a.rtfss\n@@ -1 +1 @@\n-; later  \n+; later\n");
+    EXPECT_EQ(run({"--stdin-filename=a.txt", "-"}).errors,
+              "a.txt: Neither a description nor a stylesheet\n");
+    EXPECT_EQ(run({"--stdin-filename=a.rtfss", "b.rtfss"}).status, 2);
+    EXPECT_FALSE(folder.has("sub"));
 }
 
 }  // namespace

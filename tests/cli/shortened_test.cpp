@@ -29,8 +29,8 @@ TEST(Shortened, IsTheMessageOfAnErrorInTextForm) {
     const std::string line(200'000, 'x');
     const RtfError error = driverError(eSyntaxError, line + " has a wrong syntax", "", 3);
     EXPECT_EQ(diagnosticText({DiagnosticKind::Event, "a.rtfspec", error}),
-              "a.rtfspec:3: error[eSyntaxError]: " + line.substr(0, 149) + "\xE2\x80\xA6" +
-                  line.substr(0, 31) + " has a wrong syntax");
+              "a.rtfspec:3: error: " + line.substr(0, 149) + "\xE2\x80\xA6" + line.substr(0, 31) +
+                  " has a wrong syntax");
 }
 
 TEST(Shortened, IsTheMessageOfAFindingInTextForm) {

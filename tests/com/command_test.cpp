@@ -21,6 +21,36 @@ ProcessResult runCommand(const std::wstring& arguments, const std::wstring& fold
     return Process(inQuotes(path) + L" " + arguments, folder).wait();
 }
 
+/// Runs the command with a standard output that nobody reads and the standard error of the test.
+DWORD statusWithoutReader(const std::wstring& arguments) {
+    SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
+    HANDLE readEnd = nullptr;
+    HANDLE writeEnd = nullptr;
+    if (!CreatePipe(&readEnd, &writeEnd, &inherited, 0)) {
+        return GetLastError();
+    }
+    CloseHandle(readEnd);
+    STARTUPINFOW start{};
+    start.cb = sizeof start;
+    start.dwFlags = STARTF_USESTDHANDLES;
+    start.hStdOutput = writeEnd;
+    start.hStdError = GetStdHandle(STD_ERROR_HANDLE);
+    std::wstring line = inQuotes(wideText(QUORVANE_COMMAND)) + L" " + arguments;
+    PROCESS_INFORMATION process{};
+    DWORD status = 0;
+    if (CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start,
+                       &process)) {
+        WaitForSingleObject(process.hProcess, INFINITE);
+        GetExitCodeProcess(process.hProcess, &status);
+        CloseHandle(process.hThread);
+        CloseHandle(process.hProcess);
+    } else {
+        status = GetLastError();
+    }
+    CloseHandle(writeEnd);
+    return status;
+}
+
 /// The folders of the descriptions with the bytes that must come out of them.
 std::vector<std::wstring> goldenCases() {
     std::vector<std::wstring> names;
@@ -54,7 +84,9 @@ TEST_P(GoldenCommand, GivesTheExpectedBytes) {
             (hasStyleSheet ? L" -s style.rtfss" : L"") + L" description.rtfspec",
         folder);
 
-    EXPECT_EQ(bytesOfFile(document), bytesOfFile(folder + L"\\expected.rtf"));
+    // Where nothing could be built in spite of errors, nothing is written.
+    const std::string expected = bytesOfFile(folder + L"\\expected.rtf");
+    EXPECT_EQ(bytesOfFile(document), hasErrors && expected == "{}" ? "" : expected);
     EXPECT_EQ(result.status, hasErrors ? 1U : 0U);
     EXPECT_EQ(result.errors.empty(), !hasErrors) << result.errors;
     DeleteFileW(document.c_str());
@@ -107,6 +139,41 @@ TEST(Command, FailsWhenAnotherProgramHoldsTheDocument) {
     EXPECT_EQ(bytesOfFile(document), "as it was");
     DeleteFileW(description.c_str());
     DeleteFileW(document.c_str());
+}
+
+TEST(Command, EndsQuietlyWhenNobodyReadsItsOutput) {
+    EXPECT_EQ(statusWithoutReader(L"--help"), 0U);
+    EXPECT_EQ(statusWithoutReader(L"check --explain wrong-color"), 0U);
+}
+
+TEST(Command, NeverWritesOverADescription) {
+    const std::string bytes = "(doc\r\n(r\r\n(c\r\nc)\r\nr)\r\ndoc)";
+    const std::wstring description = temporaryFile(L"over.rtfspec");
+    const std::wstring other = temporaryFile(L"other.rtf");
+    writeFile(description, bytes);
+    writeFile(other, bytes);
+
+    for (const std::wstring& output :
+         {L"-o " + inQuotes(other), L"-o " + inQuotes(description), std::wstring(L"--output=")}) {
+        const ProcessResult result = runCommand(L"render " + output + L" " + inQuotes(description));
+
+        EXPECT_EQ(result.errors.substr(0, 10), "quorvane: ");
+        EXPECT_EQ(result.status, 2U);
+    }
+
+    EXPECT_EQ(bytesOfFile(description), bytes);
+    EXPECT_EQ(bytesOfFile(other), bytes);
+    DeleteFileW(description.c_str());
+    DeleteFileW(other.c_str());
+}
+
+TEST(Command, NamesAFileThatIsNotThereInTheWordsOfTheSystem) {
+    for (const wchar_t* command : {L"render", L"check", L"format"}) {
+        const ProcessResult result = runCommand(command + std::wstring(L" nosuch.rtfspec"));
+
+        EXPECT_EQ(result.errors, "nosuch.rtfspec: No such file or directory\n");
+        EXPECT_EQ(result.status, 2U);
+    }
 }
 
 }  // namespace

@@ -206,9 +206,10 @@ protected:
         return [this](const cli::Diagnostic& diagnostic) { told.push_back(diagnostic); };
     }
 
-    void render() { status = cli::RenderJob(options, teller()).run(); }
+    void render() { status = cli::RenderJob(options, {teller()}).run(); }
     void format() {
-        const cli::FormatOptions formatted{{pathOf("a.rtfspec")}, {}, false};
+        cli::FormatOptions formatted;
+        formatted.files = {pathOf("a.rtfspec")};
         status = cli::FormatJob(
                      formatted, [](const std::string&) {}, teller())
                      .run();

@@ -302,7 +302,9 @@ TEST_F(FailingJobs, KeepALinkAndReplaceWhatItLeadsTo) {
 TEST_F(FailingJobs, KeepADescriptionThatTheDocumentWouldReplace) {
     std::filesystem::create_directory(folder / "sub");
     std::filesystem::create_symlink("a.rtfspec", folder / "a.rtf");
-    for (const char* name : {"a.rtfspec", "a.rtf", "sub/../a.rtfspec"}) {
+    const std::string other = cli::descriptionOf("Another");
+    folder.write("other.rtf", other);
+    for (const char* name : {"a.rtfspec", "a.rtf", "sub/../a.rtfspec", "other.rtf"}) {
         options.output = folder / name;
         const auto tryToRender = [&] {
             status = cli::ExitStatus::Failure;
@@ -316,6 +318,7 @@ TEST_F(FailingJobs, KeepADescriptionThatTheDocumentWouldReplace) {
                      [&](const auto&, Fault) {
                          EXPECT_EQ(status, cli::ExitStatus::Failure);
                          EXPECT_EQ(bytesOf("a.rtfspec"), description) << name;
+                         EXPECT_EQ(bytesOf("other.rtf"), other) << name;
                      });
     }
     EXPECT_GE(runs, 10);

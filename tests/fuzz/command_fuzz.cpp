@@ -131,9 +131,10 @@ int rendered(const cli::RenderOptions& options, const cli::DiagnosticSink& tell)
             lines += plain::toldLine(diagnostic.file, told(diagnostic.error));
             tell(diagnostic);
         };
-        const auto status = static_cast<int>(cli::RenderJob(options, note).run());
+        const auto status = static_cast<int>(cli::RenderJob(options, {note}).run());
         require(status <= 2, "there are three exit statuses of rendering");
-        require((status == 0) == lines.empty(), "a run fails when it has something to tell");
+        require((status == 0) == lines.empty() || options.failOn == cli::FailOn::Never,
+                "a run fails when it has something to tell");
         return status;
     };
     if (!plain::Rendering::covers(options)) {
@@ -155,6 +156,46 @@ int rendered(const cli::RenderOptions& options, const cli::DiagnosticSink& tell)
         throw cli::UsageError(*refusal);
     }
     return status;
+}
+
+/// Renders as the text form reports it, and requires that it comes to the same as another run did,
+/// whose status and files these are.
+void requireSameWhenLocated(const std::vector<std::string>& arguments, int expectedStatus,
+                            const plain::Files& expectedFiles) {
+    std::optional<cli::RenderOptions> options;
+    try {
+        const auto request = cli::parseCommandLine(arguments);
+        if (const auto* render = std::get_if<cli::RenderOptions>(&request)) {
+            options = *render;
+        }
+    } catch (const cli::UsageError&) {
+        return;
+    }
+    if (!options) {
+        return;
+    }
+    std::string reported;
+    cli::RenderReceivers receivers;
+    receivers.report = [&](const cli::Diagnostic& diagnostic) {
+        reported += cli::diagnosticText(diagnostic) + "\n";
+    };
+    receivers.locate = [&](const std::string& file, const Diagnostic& diagnostic,
+                           const cli::FileWindow& window) {
+        require(diagnostic.severity == Severity::Error || options->failOn == cli::FailOn::Warning,
+                "what makes a rendering fail is an error");
+        reported += cli::findingText(file, diagnostic, cli::excerptAt(diagnostic.place, window),
+                                     cli::Colors::Off);
+    };
+    int status = -1;
+    try {
+        status = static_cast<int>(cli::RenderJob(*options, receivers).run());
+    } catch (const cli::UsageError&) {
+    }
+    require(status == expectedStatus, "the form of a report does not change the status");
+    requireSameFiles(filesThere(), expectedFiles, "the form of a report does not change the files");
+    require(
+        status < 0 || (status == 0) == reported.empty() || options->failOn == cli::FailOn::Never,
+        "a run fails when it has something to report");
 }
 
 /// What a run comes to: its status, what it tells, and the files that are there.
@@ -200,6 +241,11 @@ std::string outcome(const std::vector<std::string>& arguments) {
     return text + std::to_string(status);
 }
 
+/// The status with which an outcome ends; -1 for one that did not begin.
+int statusIn(const std::string& outcome) {
+    return outcome.ends_with("-1") ? -1 : outcome.back() - '0';
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -214,6 +260,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     folder.fill(contents);
     requireEqual(outcome(arguments), first, "the same run tells the same");
     requireSameFiles(filesThere(), filesAfter, "the same run writes the same");
+    folder.fill(contents);
+    requireSameWhenLocated(arguments, statusIn(first), filesAfter);
     for (const auto& [name, bytes] : filesAfter) {
         require(!name.ends_with(".rtf") || (bytes.starts_with('{') && bytes.ends_with('}')),
                 "a document is whole or absent");

@@ -9,6 +9,12 @@
 #include <vector>
 
 #include "cli/RenderOptions.h"
+#include "cli/sourceFile.h"
+#include "quorvane/diagnostics/DescriptionCheck.h"
+#include "quorvane/diagnostics/KnownStyles.h"
+#include "quorvane/diagnostics/StyleSheetCheck.h"
+#include "quorvane/diagnostics/diagnosticRules.h"
+#include "quorvane/diagnostics/languageOf.h"
 #include "quorvane/docmodel/CRtfDoc.h"
 #include "quorvane/support/RtfError.h"
 #include "quorvane/support/codePage1252.h"
@@ -16,7 +22,7 @@
 #include "tests/fuzz/plainAnalysis.h"
 
 // What a run of `render` comes to as the command's rules are told: every description by itself,
-// analysed as `plainAnalysis.h` does it.
+// analysed as `plainAnalysis.h` does it, and refused for what the check finds.
 
 namespace quorvane::plain {
 
@@ -40,8 +46,12 @@ public:
         if (isRefused) {
             return;
         }
+        passesStyleSheet_ = passStyleSheet(inputs);
         for (const std::string& description : options.descriptions) {
             render(description, inputs);
+        }
+        if (options.failOn == cli::FailOn::Never && status == 1) {
+            status = 0;
         }
     }
 
@@ -74,14 +84,58 @@ private:
                                        : beside;
     }
 
-    /// Two documents would go to one file, or one would take the place of what is read.
+    /// Two documents would go to one file, or one would take the place of what is read, or of any
+    /// description or stylesheet.
     bool wouldBeRefused() const {
         std::set<std::string> taken(options_.descriptions.begin(), options_.descriptions.end());
         if (options_.styleSheet) {
             taken.insert(*options_.styleSheet);
         }
         return std::any_of(options_.descriptions.begin(), options_.descriptions.end(),
-                           [&](const auto& name) { return !taken.insert(outputOf(name)).second; });
+                           [&](const auto& name) {
+                               const std::string output = outputOf(name);
+                               return !taken.insert(output).second ||
+                                      (files.contains(output) && cli::languageOfSourceFile(output));
+                           });
+    }
+
+    /// Tells the diagnostics for which the check refuses a file in one line.
+    void refuse(const std::string& file, const std::vector<Diagnostic>& diagnostics,
+                bool hasErrors) {
+        static const std::set<std::string_view> corrupting = {"unbalanced-brace", "lone-backslash"};
+        const bool failsOnWarnings = options_.failOn == cli::FailOn::Warning;
+        std::vector<Diagnostic> reasons;
+        for (const Diagnostic& diagnostic : diagnostics) {
+            const bool isError = diagnostic.severity == Severity::Error;
+            const bool corrupts =
+                options_.check && corrupting.contains(diagnosticRule(diagnostic.id).identifier);
+            if (isError ? failsOnWarnings && !hasErrors : failsOnWarnings || corrupts) {
+                reasons.push_back(diagnostic);
+            }
+        }
+        if (reasons.empty()) {
+            return;
+        }
+        const Diagnostic& first = reasons.front();
+        std::string text = first.message;
+        text += " [" + std::string(diagnosticRule(first.id).identifier) + "]";
+        if (reasons.size() > 1) {
+            text += " (and " + std::to_string(reasons.size() - 1) + " more)";
+        }
+        tell(file, {5, text, "", static_cast<int>(first.place.line)}, 1);
+    }
+
+    bool isChecked() const { return options_.check || options_.failOn == cli::FailOn::Warning; }
+
+    /// Whether the check lets the stylesheet pass, which it is asked once.
+    bool passStyleSheet(const Files& inputs) {
+        if (!options_.styleSheet || !isChecked()) {
+            return true;
+        }
+        const std::string sheet = utf8FromCodePage1252(inputs.at("style.rtfss"));
+        const std::string before = told;
+        refuse("style.rtfss", checkStyleSheet(sheet), !StyleSheet(sheet).isLoaded());
+        return told == before;
     }
 
     void tell(const std::string& file, const ToldError& error, int worth) {
@@ -92,7 +146,7 @@ private:
     void render(const std::string& description, const Files& inputs) {
         const Ref<CRtfDoc> original = CRtfDoc::create();
         StyleSheet styles;
-        bool isWell = true;
+        bool isWell = passesStyleSheet_;
         if (options_.styleSheet) {
             const std::string sheet = utf8FromCodePage1252(inputs.at("style.rtfss"));
             styles = StyleSheet(sheet);
@@ -109,9 +163,33 @@ private:
             tell(description, error, 1);
             isWell = false;
         }
-        if (isWell || options_.keepGoing) {
+        if (isChecked()) {
+            const std::string before = told;
+            check(description, inputs, !analysis.errors.empty());
+            isWell = isWell && told == before;
+        }
+        if (isWell) {
+            write(outputOf(description), *analysis.document);
+        } else if (options_.keepGoing && analysis.document->rows->rows.entries.empty()) {
+            tell(description,
+                 {5, "Nothing could be built; " + outputOf(description) + " was not written.", "",
+                  0},
+                 1);
+        } else if (options_.keepGoing) {
             write(outputOf(description), *analysis.document);
         }
+    }
+
+    void check(const std::string& description, const Files& inputs, bool hasErrors) {
+        std::optional<KnownStyles> known;
+        if (options_.styleSheet) {
+            known.emplace(utf8FromCodePage1252(inputs.at("style.rtfss")));
+            if (!openingOfDescription(known->text()).empty()) {
+                known.reset();
+            }
+        }
+        const std::string text = utf8FromCodePage1252(inputs.at(description));
+        refuse(description, checkDescription(text, known ? &*known : nullptr), hasErrors);
     }
 
     void write(const std::string& output, Document& document) {
@@ -130,6 +208,7 @@ private:
     }
 
     const cli::RenderOptions& options_;
+    bool passesStyleSheet_ = true;
 };
 
 }  // namespace quorvane::plain
