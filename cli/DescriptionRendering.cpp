@@ -90,17 +90,26 @@ void DescriptionRendering::setStyleSheet(const std::string& name) {
     }
 }
 
+std::string DescriptionRendering::readBytes(const std::string& path) {
+    if (path == standardStream) {
+        return readStandardInput();
+    }
+    try {
+        return platform_.readFile(path);
+    } catch (const RtfError& error) {
+        raise(unreadableDescription(path, error));
+    }
+}
+
 std::optional<std::string> DescriptionRendering::readDescription() {
     const std::string& path = assignment_.description;
     try {
-        if (path == standardStream) {
-            return textOf(readStandardInput());
+        std::string bytes = readBytes(path);
+        if (!report_.passBytes(inputName(path), bytes)) {
+            status_ = std::max(status_, ExitStatus::ContentErrors);
+            return std::nullopt;
         }
-        try {
-            return textOf(platform_.readFile(path));
-        } catch (const RtfError& error) {
-            raise(unreadableDescription(path, error));
-        }
+        return textOf(std::move(bytes));
     } catch (const RtfError& error) {
         fail(unreadableFile(inputName(path), path, error));
         return std::nullopt;

@@ -39,6 +39,7 @@ public:
 
 private:
     void setStyleSheet(const std::string& name);
+    std::string readBytes(const std::string& path);
     std::optional<std::string> readDescription();
     void analyse(const std::string& text);
     bool mayWrite();

@@ -12,6 +12,7 @@
 #include "cli/process.h"
 #include "cli/unifiedDiff.h"
 #include "quorvane/diagnostics/languageOf.h"
+#include "quorvane/diagnostics/textFile.h"
 #include "quorvane/formatting/formatStyleSheet.h"
 #include "quorvane/formatting/languageToFormat.h"
 #include "quorvane/support/codePage1252.h"
@@ -25,8 +26,8 @@ struct StandardOutputFailure {
     RtfError error;
 };
 
-[[noreturn]] void refuse(const char* why) {
-    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), why));
+[[noreturn]] void refuse(std::string why) {
+    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), std::move(why)));
 }
 
 }  // namespace
@@ -78,6 +79,9 @@ std::string FormatJob::shownName(const std::string& file) const {
 
 /// The bytes in their canonical form.
 std::string FormatJob::formatted(const std::string& file, std::string_view bytes) const {
+    if (const std::optional<quorvane::Diagnostic> binary = findNotATextFile(bytes)) {
+        refuse(binary->message);
+    }
     const std::string text = utf8FromCodePage1252(bytes);
     const bool hasName = file != standardStream || options_.stdinName;
     const std::optional<CheckedLanguage> language =

@@ -10,6 +10,7 @@
 #include "quorvane/diagnostics/diagnosticRules.h"
 #include "quorvane/diagnostics/fileNameCheck.h"
 #include "quorvane/diagnostics/languageOf.h"
+#include "quorvane/diagnostics/textFile.h"
 #include "quorvane/support/codePage1252.h"
 
 namespace quorvane::cli {
@@ -62,6 +63,12 @@ RtfError refusal(const Diagnostics& reasons) {
 
 bool RenderReport::passStyleSheet(const std::string& name, const std::string& bytes) {
     styleSheet_.emplace(StyleSheet{name, bytes});
+    if (const std::optional<quorvane::Diagnostic> binary = findNotATextFile(bytes)) {
+        styleSheet_->diagnostics = Diagnostics{*binary};
+        styleSheet_->isReported = true;
+        refuseBinary(name, *binary);
+        return false;
+    }
     if (!isChecked()) {
         return true;
     }
@@ -72,6 +79,25 @@ bool RenderReport::passStyleSheet(const std::string& name, const std::string& by
         locate(name, bytes, diagnostics, {});
     }
     return pass(name, diagnostics, isWrong);
+}
+
+bool RenderReport::passBytes(const std::string& name, std::string_view bytes) {
+    // For programs, the events say what the library makes of it.
+    const std::optional<quorvane::Diagnostic> binary =
+        receivers_.locate ? findNotATextFile(bytes) : std::nullopt;
+    if (binary) {
+        refuseBinary(name, *binary);
+    }
+    return !binary;
+}
+
+/// Nothing of such a file can be shown.
+void RenderReport::refuseBinary(const std::string& file, const quorvane::Diagnostic& diagnostic) {
+    if (receivers_.locate) {
+        receivers_.locate(file, diagnostic, windowOf({}));
+    } else {
+        receivers_.report({DiagnosticKind::Check, file, refusal({diagnostic})});
+    }
 }
 
 void RenderReport::refuseStyleSheet(const RtfError& error) {

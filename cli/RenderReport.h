@@ -5,6 +5,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "cli/Diagnostic.h"
@@ -44,6 +45,10 @@ public:
     /// Takes the bytes of the stylesheet. Returns false when the check refuses it.
     bool passStyleSheet(const std::string& name, const std::string& bytes);
 
+    /// Takes the bytes of a description. Returns false when they are no text, which is reported as
+    /// text only: a program gets the events of the analysis.
+    bool passBytes(const std::string& name, std::string_view bytes);
+
     /// The library refuses the stylesheet.
     void refuseStyleSheet(const RtfError& error);
 
@@ -66,6 +71,7 @@ private:
     /// The check decides, whether there are errors or not.
     bool isChecked() const { return options_.check || options_.failOn == FailOn::Warning; }
     bool corrupts(const quorvane::Diagnostic& diagnostic) const;
+    void refuseBinary(const std::string& file, const quorvane::Diagnostic& diagnostic);
     const std::vector<quorvane::Diagnostic>& styleSheetDiagnostics();
     KnownStyles* knownStyles();
     void locate(const std::string& file, const std::string& bytes,

@@ -129,12 +129,12 @@ ExitStatus checkAndTell(const CheckOptions& options) {
         bytes.emplace(true);
     }
     SarifLog log;
-    FindingReport text(colors, [&](std::string_view part) { report.add(part); });
+    FindingReport texts(colors, [&](std::string_view part) { report.add(part); });
     const auto find = [&](const std::string& file, const quorvane::Diagnostic& finding,
                           const FileWindow& window) {
         switch (options.form) {
             case FindingsForm::Text:
-                text.add(shownName(file), finding, window);
+                texts.add(shownName(file), finding, window);
                 break;
             case FindingsForm::Json:
                 report.add(findingJson(shownName(file), finding) + "\n");
@@ -155,7 +155,7 @@ ExitStatus checkAndTell(const CheckOptions& options) {
     };
     CheckJob job(options, find, fail, systemPlatform(), write);
     const ExitStatus status = job.run();
-    text.end();
+    texts.end();
     if (options.form == FindingsForm::Sarif) {
         report.add(log.text(!job.hasFailed()));
     } else if (options.form == FindingsForm::Text && !options.isQuiet) {

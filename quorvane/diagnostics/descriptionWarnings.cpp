@@ -344,7 +344,7 @@ private:
                            {std::to_string(total), std::to_string(room)},
                            marginsHint(document, total));
         }
-        const bool isMeant = nodes.size() == 1 && percents.front();
+        const bool isMeant = nodes.empty() || (nodes.size() == 1 && percents.front());
         if (static_cast<double>(total) < room * mostUsed - static_cast<double>(slack) && !isMeant &&
             !hasFallenMargin_ && !toldUnderrun_) {
             toldUnderrun_ = true;
@@ -403,9 +403,10 @@ private:
         trial->setLeftMargin(left);
         trial->setPageWidth(document.PageWidth());
         trial->setRightMargin(right);
-        if (margins < 2 || trial->LeftMargin() != left || trial->RightMargin() != right) {
+        if (left < 1 || isTinyMeasure("left-margin", left) || trial->LeftMargin() != left ||
+            trial->RightMargin() != right) {
             return "the cells are laid out before the page is set up: the paper must be wider than "
-                   "the table";
+                   "the table with its margins";
         }
         return "the cells are laid out before the page is set up: (left-margin=" +
                std::to_string(left) + ") and (right-margin=" + std::to_string(right) +

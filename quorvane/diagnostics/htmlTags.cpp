@@ -98,7 +98,8 @@ std::vector<HtmlTag> htmlTagsIn(std::string_view text, const KnownStyles* styles
     std::vector<std::string> seen;
     for (std::size_t open = text.find('<'); open != nowhere; open = text.find('<', open + 1)) {
         const std::size_t end = text.find_first_of("<>=", open + 1);
-        if (end == nowhere || text[end] != '>') {
+        // A blank after the "<" is that of a comparison.
+        if (end == nowhere || text[end] != '>' || text[open + 1] == ' ') {
             continue;
         }
         std::string_view inner = trimWhitespace(text.substr(open + 1, end - open - 1));

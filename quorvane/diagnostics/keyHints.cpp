@@ -23,6 +23,38 @@ constexpr std::pair<std::string_view, std::string_view> otherWords[] = {
 
 };
 
+/// Keys that other languages have and this one has not, and what to do instead.
+struct MissingKey {
+    std::string_view key;
+    bool isOfDocument;
+    std::string_view instead;
+};
+
+constexpr MissingKey missingKeys[] = {
+    {"orientation", true,
+     "for landscape, paper-width is the longer side: (paper-width=16838) and "
+     "(paper-height=11906) for A4"},
+    {"landscape", true,
+     "for landscape, paper-width is the longer side: (paper-width=16838) and "
+     "(paper-height=11906) for A4"},
+    {"paper-size", true, "write both sides: (paper-width=11906) and (paper-height=16838) for A4"},
+    {"page-size", true, "write both sides: (paper-width=11906) and (paper-height=16838) for A4"},
+    {"format", true, "write both sides: (paper-width=11906) and (paper-height=16838) for A4"},
+    {"colspan", false, "cells do not span columns: a row with fewer cells has wider ones"},
+    {"col-span", false, "cells do not span columns: a row with fewer cells has wider ones"},
+    {"span", false, "cells do not span columns: a row with fewer cells has wider ones"},
+    {"rowspan", false, "cells do not span rows: leave the cells below empty"},
+    {"row-span", false, "cells do not span rows: leave the cells below empty"},
+    {"height", false, "a row is as high as its text: \\sb and \\sa in a style's format add space"},
+    {"row-height", false,
+     "a row is as high as its text: \\sb and \\sa in a style's format add space"},
+    {"cell-height", false,
+     "a row is as high as its text: \\sb and \\sa in a style's format add space"},
+    {"padding", false, "\\li, \\ri, \\sb and \\sa in a style's format add space"},
+    {"indent", false, "\\li in a style's format indents: \\li200 by 200 twips"},
+    {"para-indent", false, "\\li in a style's format indents: \\li200 by 200 twips"},
+};
+
 constexpr std::string_view kindNames[] = {"row", "cell", "para", "paper"};
 
 /// The parts of a key between its "-", in the words of the keys, without the node's name, in an
@@ -61,6 +93,12 @@ Hint nearKeyHint(NodeKind kind, std::string_view word, const Vocabulary& vocabul
                 hint.replacement = std::string(key);
             }
             return hint;
+        }
+    }
+    // The height of the paper is found before.
+    for (const auto& [other, isOfDocument, instead] : missingKeys) {
+        if (lowerCase(word) == other && isOfDocument == (kind == NodeKind::Doc)) {
+            return std::string(instead);
         }
     }
     if (meaning == std::vector<std::string>{"border"} && kind != NodeKind::Para &&

@@ -178,6 +178,12 @@ std::string nearControlWord(std::string_view word) {
             return "did you mean \\" + std::string(meant) + "?";
         }
     }
+    // As other languages write a line break or a tab in front of a word.
+    if (word.size() > 1 && std::string_view("nrt").find(word[0]) != nowhere &&
+        std::isupper(static_cast<unsigned char>(word[1])) != 0) {
+        return "did you mean \\" + std::string(word[0] == 't' ? "tab " : "line ") +
+               std::string(word.substr(1)) + "?";
+    }
     const std::string_view nearest = nearestWord(word, words);
     return nearest.empty() ? std::string() : "did you mean \\" + std::string(nearest) + "?";
 }
@@ -601,7 +607,8 @@ private:
             end = behind + 1;
         }
         if (use_ != TextUse::Text || end == first || first < substitutesEnd_ ||
-            groups_.back().substitutes > 0 || groups_.back().isAside) {
+            groups_.back().substitutes > 0 || groups_.back().isAside ||
+            groups_.back().instruction > 0) {
             return;
         }
         substitutesEnd_ = end;

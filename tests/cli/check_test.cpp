@@ -146,8 +146,41 @@ TEST_F(CheckTest, TakesAnEmptyStyleSheetForOne) {
     folder.write("s.rtfss", "");
     folder.write("t.rtfss", "; no styles yet\n");
     const ProgramResult result = run({"s.rtfss", "t.rtfss"});
-    EXPECT_EQ(result.output, "");
-    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.output,
+              "s.rtfss:1:1: warning: The stylesheet has no styles. [no-styles]\n"
+              "    hint: the file is empty; a style is defined in braces: { name: ...; style-def: "
+              "... }\n"
+              "1 warning in 2 files\n");
+    EXPECT_EQ(result.status, 3);
+}
+
+TEST_F(CheckTest, CountsWhatRepeatsForPeopleOnly) {
+    std::string rows;
+    for (int i = 0; i < 3; ++i) {
+        rows += "(r\n(rb=crimson)\n(c\nc)\nr)\n";
+    }
+    folder.write("a.rtfspec", "(doc\n" + rows + "doc)\n");
+    EXPECT_EQ(run({"a.rtfspec"}).output,
+              "a.rtfspec:3:5: error: crimson isn't a recognized color. [wrong-color]\n"
+              "    (rb=crimson)\n"
+              "        ^~~~~~~\n"
+              "    hint: did you mean dark-red?\n"
+              "    (and 2 more like this: lines 8 and 13)\n"
+              "3 errors in 1 file\n");
+    const auto countIn = [](const std::string& text, const std::string& part) {
+        int count = 0;
+        for (std::size_t at = text.find(part); at != std::string::npos;
+             at = text.find(part, at + 1)) {
+            ++count;
+        }
+        return count;
+    };
+    EXPECT_EQ(
+        countIn(run({"--diagnostics=json", "a.rtfspec"}).output, "\"identifier\":\"wrong-color\""),
+        3);
+    EXPECT_EQ(countIn(run({"--diagnostics=sarif", "a.rtfspec"}).output,
+                      "crimson isn't a recognized color."),
+              3);
 }
 
 TEST_F(CheckTest, TellsThatABrokenDocumentIsNone) {

@@ -104,7 +104,8 @@ TEST(ExamplesOfTheTable, AreThereForAllButWhatFewLinesCannotShow) {
         }
     }
     EXPECT_THAT(without,
-                testing::ElementsAre("rejected", "stylesheet-rejected", "wrong-extension"));
+                testing::ElementsAre("not-a-text-file", "rejected", "stylesheet-rejected",
+                                              "wrong-extension"));
 }
 
 }  // namespace
