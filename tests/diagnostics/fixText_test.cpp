@@ -62,9 +62,10 @@ TEST(FixText, SpellsKeysAndValuesRight) {
         "(doc\n(paper-hieght=297mm)\n(row\n(row-top-border=thck) ; top\n(row-backcolor=\"red\")\n"
         "(clel\n(cell-width = 50,5)\ncell)\n(cell\n(cw=49.5%)\ncell)\nrow)\ndoc)\n",
         descriptionCheck);
-    EXPECT_EQ(fixed.bytes,
-              "(doc\n(paper-height=16838)\n(row\n(row-top-border=thick) ; top\n(row-backcolor=red)\n"
-              "(cell\n(cell-width = 50.5)\ncell)\n(cell\n(cw=49.5)\ncell)\nrow)\ndoc)\n");
+    EXPECT_EQ(
+        fixed.bytes,
+        "(doc\n(paper-height=16838)\n(row\n(row-top-border=thick) ; top\n(row-backcolor=red)\n"
+        "(cell\n(cell-width = 50.5)\ncell)\n(cell\n(cw=49.5)\ncell)\nrow)\ndoc)\n");
     EXPECT_THAT(fixed.remaining, IsEmpty());
     // The value of a key is looked at when the key is right.
     EXPECT_THAT(fixed.rounds, SizeIs(2));
