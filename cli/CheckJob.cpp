@@ -115,9 +115,6 @@ ExitStatus CheckJob::run() {
 void CheckJob::checkStyles(const std::string& file) {
     try {
         const auto check = [&](std::string_view bytes) {
-            if (std::optional<quorvane::Diagnostic> binary = findNotATextFile(bytes)) {
-                return std::vector{*std::move(binary)};
-            }
             const std::string text = utf8FromCodePage1252(bytes);
             return reported(checkStyleSheet(text), text, CheckedLanguage::StyleSheet);
         };
@@ -126,7 +123,7 @@ void CheckJob::checkStyles(const std::string& file) {
             return;
         }
         styles_.emplace(utf8FromCodePage1252(*bytes));
-        if (findNotATextFile(*bytes) || !openingOfDescription(styles_->text()).empty()) {
+        if (!openingOfDescription(styles_->text()).empty()) {
             styles_.reset();
         }
     } catch (const RtfError& error) {
@@ -196,9 +193,6 @@ void CheckJob::checkText(const std::string& file, std::string_view bytes, bool i
 std::vector<quorvane::Diagnostic> CheckJob::findingsOf(const std::string& file,
                                                        std::string_view bytes,
                                                        CheckedLanguage language) {
-    if (std::optional<quorvane::Diagnostic> binary = findNotATextFile(bytes)) {
-        return {*std::move(binary)};
-    }
     std::vector<quorvane::Diagnostic> all = findNameMismatch(bytes, language, file);
     std::vector<quorvane::Diagnostic> findings;
     std::string text;
