@@ -18,10 +18,7 @@ void FindingReport::add(const std::string& file, const quorvane::Diagnostic& fin
         file_ = file;
     }
     if (causes_.add(finding).isFirst) {
-        // Of what is no text nothing can be shown.
-        const bool isShown = finding.id != DiagnosticId::NotATextFile;
-        texts_.push_back(findingText(
-            file, finding, isShown ? excerptAt(finding.place, window) : FindingExcerpt(), colors_));
+        texts_.push_back(findingText(file, finding, excerptAt(finding.place, window), colors_));
     }
 }
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <unordered_set>
+#include <unordered_map>
 #include <utility>
 
 #include "quorvane/support/codePage1252.h"
@@ -12,8 +12,12 @@ namespace quorvane {
 
 namespace {
 
-// A text has few diagnostics that appear only when another one is fixed.
-constexpr std::size_t mostRounds = 100;
+/// Few diagnostics appear only when another one is fixed, and of one kind only so many of a text
+/// are reported at once. Each round keeps the text before it.
+std::size_t mostRounds(std::size_t textLength) {
+    constexpr std::size_t memory = std::size_t{64} * 1024 * 1024;
+    return std::clamp<std::size_t>(memory / std::max<std::size_t>(textLength, 1), 10, 1000);
+}
 
 std::ptrdiff_t errorCount(const std::vector<Diagnostic>& diagnostics) {
     return std::count_if(diagnostics.begin(), diagnostics.end(), [](const Diagnostic& diagnostic) {
@@ -65,12 +69,18 @@ FixedText fixText(std::string_view bytes, const TextCheck& check) {
     FixedText result;
     result.bytes = bytes;
     result.remaining = check(bytes);
-    // Fixes that undo each other would go on for ever.
-    std::unordered_set<std::string> seen{result.bytes};
-    while (result.rounds.size() < mostRounds) {
+    // The texts before each round: fixes that undo each other would go on for ever.
+    std::unordered_map<std::string, std::size_t> seen{{result.bytes, 0}};
+    while (result.rounds.size() < mostRounds(bytes.size())) {
         std::vector<Diagnostic> chosen = fixableTogether(result.remaining, result.bytes.size());
         std::string next = withFixes(result.bytes, chosen);
-        if (!seen.insert(next).second) {
+        const auto [known, isNew] = seen.emplace(next, result.rounds.size() + 1);
+        if (!isNew) {
+            if (next != result.bytes) {
+                result.rounds.resize(known->second);
+                result.remaining = check(next);
+                result.bytes = std::move(next);
+            }
             break;
         }
         std::vector<Diagnostic> remaining = check(next);

@@ -33,7 +33,7 @@ struct FixedText {
 
 /// Makes the fixes of a file in Windows-1252 and checks it again, round after round, until nothing
 /// more can be fixed. Bytes that no fix replaces stay as they are. A round that would bring more
-/// errors than it removes is not made.
+/// errors than it removes is not made, and neither are fixes that undo each other.
 FixedText fixText(std::string_view bytes, const TextCheck& check);
 
 }  // namespace quorvane

@@ -124,7 +124,9 @@ TEST_F(FormatTest, RefusesWhatIsNeitherADescriptionNorAStyleSheet) {
     for (const auto& [name, bytes] : others) {
         folder.write(name, bytes);
         names.push_back(name);
-        expected += name + ": Neither a description nor a stylesheet\n";
+        const bool isUtf16 = bytes.find('\0') != std::string::npos;
+        expected += name + (isUtf16 ? ": This is text in UTF-16, not in Windows-1252.\n"
+                                    : ": Neither a description nor a stylesheet\n");
     }
     const ProgramResult result = run(names);
     EXPECT_EQ(result.status, 2);

@@ -559,6 +559,7 @@ a.rtfspec:19:5: error: Value for cell-width should be numeric. [not-a-number]
     (cw=5cm)
         ^~~
     hint: write a number, per cent of the room between the page's margins, without a sign
+    (and 1 more like this: line 29)
 a.rtfspec:20:2: error: align isn't a valid keyword. [wrong-keyword]
     (align=left)
      ^~~~~
@@ -579,10 +580,6 @@ a.rtfspec:25:2: error: font isn't a valid keyword. [wrong-keyword]
     (font=x)
      ^~~~
     hint: styles format text: (ps=arial) with { name: arial; style-def: s; format: \f0 } in the stylesheet; for a few words <arial=words> with style-def: cs
-a.rtfspec:29:5: error: Value for cell-width should be numeric. [not-a-number]
-    (cw=12px)
-        ^~~~
-    hint: write a number, per cent of the room between the page's margins, without a sign
 a.rtfspec:30:2: error: bgcolor isn't a valid keyword. [wrong-keyword]
     (bgcolor=x)
      ^~~~~~~

@@ -62,9 +62,10 @@ TEST(FixText, SpellsKeysAndValuesRight) {
         "(doc\n(paper-hieght=297mm)\n(row\n(row-top-border=thck) ; top\n(row-backcolor=\"red\")\n"
         "(clel\n(cell-width = 50,5)\ncell)\n(cell\n(cw=49.5%)\ncell)\nrow)\ndoc)\n",
         descriptionCheck);
-    EXPECT_EQ(fixed.bytes,
-              "(doc\n(paper-height=16838)\n(row\n(row-top-border=thick) ; top\n(row-backcolor=red)\n"
-              "(cell\n(cell-width = 50.5)\ncell)\n(cell\n(cw=49.5)\ncell)\nrow)\ndoc)\n");
+    EXPECT_EQ(
+        fixed.bytes,
+        "(doc\n(paper-height=16838)\n(row\n(row-top-border=thick) ; top\n(row-backcolor=red)\n"
+        "(cell\n(cell-width = 50.5)\ncell)\n(cell\n(cw=49.5)\ncell)\nrow)\ndoc)\n");
     EXPECT_THAT(fixed.remaining, IsEmpty());
     // The value of a key is looked at when the key is right.
     EXPECT_THAT(fixed.rounds, SizeIs(2));
@@ -162,12 +163,13 @@ TEST(FixText, LeavesATextThatWouldHaveMoreErrors) {
     EXPECT_THAT(fixed.remaining, SizeIs(1));
 }
 
-TEST(FixText, EndsWhereFixesUndoEachOther) {
+TEST(FixText, MakesNoFixesThatUndoEachOther) {
     const FixedText fixed = fixText("a", [](std::string_view bytes) {
         return std::vector<Diagnostic>{fixable(0, 1, bytes == "a" ? "b" : "a")};
     });
-    EXPECT_EQ(fixed.bytes, "b");
-    EXPECT_THAT(fixed.rounds, SizeIs(1));
+    EXPECT_EQ(fixed.bytes, "a");
+    EXPECT_THAT(fixed.rounds, IsEmpty());
+    EXPECT_THAT(fixed.remaining, SizeIs(1));
 }
 
 TEST(FixText, PassesOverAFixBeyondTheEnd) {
@@ -277,20 +279,20 @@ protected:
 };
 
 TEST_F(FixesOfGeneratedTexts, BringNoErrorsAndAreWholeAndChangeNothingElse) {
-    for (int i = 0; i < 1500; ++i) {
+    for (int i = 0; i < 600; ++i) {
         std::string text = mistyped(random.description());
         if (random.below(3) == 0) {
             text = random.mutated(std::move(text), 1 + random.below(3));
         }
         ASSERT_NO_FATAL_FAILURE(expectSoundFixes(codePage1252FromUtf8(text), descriptionCheck));
     }
-    EXPECT_GT(fixes, 500);
+    EXPECT_GT(fixes, 200);
     RecordProperty("fixes", fixes);
     RecordProperty("refused", refused);
 }
 
 TEST_F(FixesOfGeneratedTexts, OfStyleSheetsAreSoundToo) {
-    for (int i = 0; i < 1500; ++i) {
+    for (int i = 0; i < 600; ++i) {
         std::string text;
         for (std::size_t count = 1 + random.below(4); count > 0; --count) {
             text += "note { name: n" + std::to_string(count) +
@@ -304,7 +306,7 @@ TEST_F(FixesOfGeneratedTexts, OfStyleSheetsAreSoundToo) {
         }
         ASSERT_NO_FATAL_FAILURE(expectSoundFixes(codePage1252FromUtf8(text), styleSheetCheck));
     }
-    EXPECT_GT(fixes, 500);
+    EXPECT_GT(fixes, 200);
 }
 
 }  // namespace

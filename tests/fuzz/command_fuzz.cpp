@@ -158,6 +158,29 @@ int rendered(const cli::RenderOptions& options, const cli::DiagnosticSink& tell)
     return status;
 }
 
+/// Checks, and requires that files change only when they are fixed, and only the first time. Adds
+/// what is for standard output to the text.
+int checked(const cli::CheckOptions& options, const cli::FindingSink& find,
+            const cli::DiagnosticSink& tell, std::string& text) {
+    const plain::Files before = filesThere();
+    const auto write = [&text](std::string_view bytes) { text += bytes; };
+    const auto status =
+        static_cast<int>(cli::CheckJob(options, find, tell, systemPlatform(), write).run());
+    const plain::Files after = filesThere();
+    if (!options.fixes || options.showsDiff) {
+        requireSameFiles(after, before, "a check changes no file");
+        return status;
+    }
+    for (const auto& [name, bytes] : before) {
+        require(!bytes.starts_with("{\\rtf") || after.at(name) == bytes,
+                "an RTF file is not fixed");
+    }
+    const auto passOver = [](const auto&...) {};
+    cli::CheckJob(options, passOver, passOver, systemPlatform(), passOver).run();
+    requireSameFiles(filesThere(), after, "a fixed file needs no more fixes");
+    return status;
+}
+
 /// Renders as the text form reports it, and requires that it comes to the same as another run did,
 /// whose status and files these are.
 void requireSameWhenLocated(const std::vector<std::string>& arguments, int expectedStatus,
@@ -224,7 +247,7 @@ std::string outcome(const std::vector<std::string>& arguments) {
                         cli::findingText(file, finding, cli::excerptAt(finding.place, window),
                                          cli::Colors::Off);
             };
-            status = static_cast<int>(cli::CheckJob(*check, find, tell).run());
+            status = checked(*check, find, tell, text);
         } else if (const auto* format = std::get_if<cli::FormatOptions>(&request)) {
             const auto write = [&text](const std::string& output) { text += output; };
             status = static_cast<int>(cli::FormatJob(*format, write, tell).run());
