@@ -413,37 +413,68 @@ void handleMessagesUntil(HANDLE event) {
     }
 }
 
-TEST(EventsInAnotherApartment, ComeWithoutTheErrorObject) {
-    auto* const sink = new RecordingSink;
-    const ComPtr<IDispatch> owner = ComPtr<IDispatch>::adopt(sink);
-    IStream* stream = nullptr;
-    ASSERT_EQ(CoMarshalInterThreadInterfaceInStream(IID_IDispatch, sink, &stream), S_OK);
-    const HANDLE ended = CreateEventW(nullptr, TRUE, FALSE, nullptr);
-    const Component component;
+/// A thread with an apartment of its own and a sink in it, which ends with this object.
+class ThreadWithSink {
+public:
+    ThreadWithSink() : thread_([this] { run(); }) { WaitForSingleObject(ready_, INFINITE); }
+    ThreadWithSink(const ThreadWithSink&) = delete;
+    ThreadWithSink& operator=(const ThreadWithSink&) = delete;
+    ~ThreadWithSink() {
+        end();
+        CloseHandle(ready_);
+        CloseHandle(end_);
+    }
 
-    std::thread driving([&] {
-        CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-        {
-            ComPtr<IDispatch> proxy;
-            ComPtr<IConnectionPoint> point;
-            DWORD cookie = 0;
-            CoGetInterfaceAndReleaseStream(stream, IID_IDispatch, proxy.outVoid());
-            const auto driver = component.create<_CRtfDriver>(__uuidof(::CRtfDriver));
-            driver.as<IConnectionPointContainer>()->FindConnectionPoint(__uuidof(__CRtfDriver),
-                                                                        point.out());
-            EXPECT_EQ(point->Advise(proxy.get(), &cookie), S_OK);
-            EXPECT_EQ(driver->ParseFromMemmory(Bstr(L"nothing").get()), S_OK);
-            EXPECT_EQ(point->Unadvise(cookie), S_OK);
+    /// The sink, for the calling thread.
+    ComPtr<IDispatch> proxy() {
+        ComPtr<IDispatch> proxy;
+        CoGetInterfaceAndReleaseStream(stream_, IID_IDispatch, proxy.outVoid());
+        return proxy;
+    }
+    void end() {
+        if (thread_.joinable()) {
+            SetEvent(end_);
+            thread_.join();
         }
-        CoUninitialize();
-        SetEvent(ended);
-    });
-    handleMessagesUntil(ended);
-    driving.join();
-    CloseHandle(ended);
+    }
 
-    EXPECT_EQ(sink->thread, GetCurrentThreadId());
-    EXPECT_EQ(sink->errorObject, S_FALSE);
+    DWORD id = 0;
+    DWORD calledOn = 0;
+    HRESULT errorObject = E_UNEXPECTED;
+
+private:
+    void run() {
+        CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+        auto* const sink = new RecordingSink;
+        CoMarshalInterThreadInterfaceInStream(IID_IDispatch, sink, &stream_);
+        SetEvent(ready_);
+        handleMessagesUntil(end_);
+        id = GetCurrentThreadId();
+        calledOn = sink->thread;
+        errorObject = sink->errorObject;
+        sink->Release();
+        CoUninitialize();
+    }
+
+    HANDLE ready_ = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+    HANDLE end_ = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+    IStream* stream_ = nullptr;
+    std::thread thread_;
+};
+
+TEST_F(Events, ReachAnotherApartmentWithoutTheErrorObject) {
+    ThreadWithSink other;
+    DWORD cookie = 0;
+    {
+        const ComPtr<IDispatch> proxy = other.proxy();
+        ASSERT_EQ(point()->Advise(proxy.get(), &cookie), S_OK);
+        parseRejectedText();
+        EXPECT_EQ(point()->Unadvise(cookie), S_OK);
+    }
+    other.end();
+
+    EXPECT_EQ(other.calledOn, other.id);
+    EXPECT_EQ(other.errorObject, S_FALSE);
 }
 
 }  // namespace
