@@ -129,7 +129,7 @@ void RtfCheck::takeAfterDocument(RtfLexer::Token token) {
             break;
         case RtfLexer::Token::Control:
             if (!control.word.empty()) {
-                rest_.takeWord(lexer_.word());
+                rest_.takeWord(findRtfWord(control.word));
             } else if (control.symbol == '*') {
                 rest_.takeMark();
             }
@@ -296,11 +296,11 @@ void RtfCheck::takeWord() {
     } else if (word && word->destination == RtfDestination::Instruction) {
         group.takeWord(word);
     }
-    if (!word) {
+    if (group.destination == RtfDestination::FontTable) {
+        takeFontWord();
         return;
     }
-    if (group.destination == RtfDestination::FontTable) {
-        takeFontWord(*word);
+    if (!word) {
         return;
     }
     hasTextInCell_ =
@@ -330,7 +330,7 @@ void RtfCheck::takeWord() {
 
 void RtfCheck::takeFirstWord() {
     Group& group = groups_.back();
-    const RtfWord* const word = lexer_.word();
+    const RtfWord* const word = findRtfWord(lexer_.control().word);
     if (!std::exchange(hasBegun_, true) && (!word || word->role != RtfRole::Document)) {
         reportNotRtf(group.begin);
     } else if (!word && !group.isMarked && group.destination != RtfDestination::Other &&
@@ -491,16 +491,17 @@ std::string RtfCheck::unclosedGroupHint() const {
 }
 
 /// A control word in the font table: the number of a font, or a part of its definition.
-void RtfCheck::takeFontWord(const RtfWord& word) {
+void RtfCheck::takeFontWord() {
     const RtfControl& control = lexer_.control();
-    if (word.destination == RtfDestination::FontTable) {
+    const RtfWord* const word = lexer_.word();
+    if (word && word->destination == RtfDestination::FontTable) {
         font_ = {};
-    } else if (word.role == RtfRole::Font && !font_.hasNumber) {
+    } else if (word && word->role == RtfRole::Font && !font_.hasNumber) {
         font_.hasNumber = true;
         font_.number = control.number.value_or(0);
         font_.place = controlPlace();
     } else {
-        addToFont(word.word);
+        addToFont(control.word);
         addToFont(std::to_string(control.number.value_or(0)));
     }
 }

@@ -94,7 +94,7 @@ private:
     void endRow(const Row& row, std::int64_t cells, std::int64_t lastWithText);
     void noteDepth(const Row& row);
     std::int64_t& nestedCells();
-    void takeFontWord(const RtfWord& word);
+    void takeFontWord();
     void addToFont(std::string_view bytes);
     void endFont();
     void defineStyle(std::size_t kind);
