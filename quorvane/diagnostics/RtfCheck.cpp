@@ -207,6 +207,7 @@ void RtfCheck::openGroup() {
         }
         groups_.back().isFresh = false;
         static_cast<RtfGroup&>(group) = groups_.back().inner();
+        group.level = groups_.back().level;
         group.isNested = groups_.back().isNested;
         group.nestedPlace = groups_.back().nestedPlace;
     }
@@ -388,7 +389,8 @@ void RtfCheck::takeTableWord(RtfRole role) {
             row.isDefinedAnew = false;
             break;
         case RtfRole::Level:
-            level_ = std::clamp<std::int64_t>(number, 0, std::ssize(nestedCells_) - 1);
+            groups_.back().level =
+                std::clamp<std::int64_t>(number, 0, std::ssize(nestedCells_) - 1);
             groups_.back().isNested = number > 1;
             groups_.back().nestedPlace = controlPlace();
             break;
@@ -448,7 +450,7 @@ void RtfCheck::endNestedRows() {
 }
 
 std::int64_t& RtfCheck::nestedCells() {
-    return nestedCells_[static_cast<std::size_t>(level_)];
+    return nestedCells_[static_cast<std::size_t>(groups_.back().level)];
 }
 
 /// Ends a row of so many cells, of which the last one with text has that position.
