@@ -129,7 +129,7 @@ void RtfCheck::takeAfterDocument(RtfLexer::Token token) {
             break;
         case RtfLexer::Token::Control:
             if (!control.word.empty()) {
-                rest_.takeWord(lexer_.word());
+                rest_.takeWord(findRtfWord(control.word));
             } else if (control.symbol == '*') {
                 rest_.takeMark();
             }
@@ -207,6 +207,7 @@ void RtfCheck::openGroup() {
         }
         groups_.back().isFresh = false;
         static_cast<RtfGroup&>(group) = groups_.back().inner();
+        group.level = groups_.back().level;
         group.isNested = groups_.back().isNested;
         group.nestedPlace = groups_.back().nestedPlace;
     }
@@ -296,11 +297,11 @@ void RtfCheck::takeWord() {
     } else if (word && word->destination == RtfDestination::Instruction) {
         group.takeWord(word);
     }
-    if (!word) {
+    if (group.destination == RtfDestination::FontTable) {
+        takeFontWord();
         return;
     }
-    if (group.destination == RtfDestination::FontTable) {
-        takeFontWord(*word);
+    if (!word) {
         return;
     }
     hasTextInCell_ =
@@ -330,7 +331,7 @@ void RtfCheck::takeWord() {
 
 void RtfCheck::takeFirstWord() {
     Group& group = groups_.back();
-    const RtfWord* const word = lexer_.word();
+    const RtfWord* const word = findRtfWord(lexer_.control().word);
     if (!std::exchange(hasBegun_, true) && (!word || word->role != RtfRole::Document)) {
         reportNotRtf(group.begin);
     } else if (!word && !group.isMarked && group.destination != RtfDestination::Other &&
@@ -388,7 +389,8 @@ void RtfCheck::takeTableWord(RtfRole role) {
             row.isDefinedAnew = false;
             break;
         case RtfRole::Level:
-            level_ = std::clamp<std::int64_t>(number, 0, std::ssize(nestedCells_) - 1);
+            groups_.back().level =
+                std::clamp<std::int64_t>(number, 0, std::ssize(nestedCells_) - 1);
             groups_.back().isNested = number > 1;
             groups_.back().nestedPlace = controlPlace();
             break;
@@ -448,7 +450,7 @@ void RtfCheck::endNestedRows() {
 }
 
 std::int64_t& RtfCheck::nestedCells() {
-    return nestedCells_[static_cast<std::size_t>(level_)];
+    return nestedCells_[static_cast<std::size_t>(groups_.back().level)];
 }
 
 /// Ends a row of so many cells, of which the last one with text has that position.
@@ -491,16 +493,17 @@ std::string RtfCheck::unclosedGroupHint() const {
 }
 
 /// A control word in the font table: the number of a font, or a part of its definition.
-void RtfCheck::takeFontWord(const RtfWord& word) {
+void RtfCheck::takeFontWord() {
     const RtfControl& control = lexer_.control();
-    if (word.destination == RtfDestination::FontTable) {
+    const RtfWord* const word = lexer_.word();
+    if (word && word->destination == RtfDestination::FontTable) {
         font_ = {};
-    } else if (word.role == RtfRole::Font && !font_.hasNumber) {
+    } else if (word && word->role == RtfRole::Font && !font_.hasNumber) {
         font_.hasNumber = true;
         font_.number = control.number.value_or(0);
         font_.place = controlPlace();
     } else {
-        addToFont(word.word);
+        addToFont(control.word);
         addToFont(std::to_string(control.number.value_or(0)));
     }
 }

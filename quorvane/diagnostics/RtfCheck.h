@@ -39,6 +39,8 @@ private:
         // True once an entry of the stylesheet has named its number.
         bool hasNumber = false;
         Place begin{};
+        // The level of the table that the paragraph at hand is in, by its last \itap.
+        std::int64_t level = 1;
         // Whether the paragraph at hand is in a table within a cell, and where that is said.
         bool isNested = false;
         Place nestedPlace{};
@@ -94,7 +96,7 @@ private:
     void endRow(const Row& row, std::int64_t cells, std::int64_t lastWithText);
     void noteDepth(const Row& row);
     std::int64_t& nestedCells();
-    void takeFontWord(const RtfWord& word);
+    void takeFontWord();
     void addToFont(std::string_view bytes);
     void endFont();
     void defineStyle(std::size_t kind);
@@ -143,7 +145,6 @@ private:
     // The definition of the nested row at hand, and the cells of nested rows by their level.
     Row nestedRow_;
     std::array<std::int64_t, 32> nestedCells_{};
-    std::int64_t level_ = 1;
     // How many groups are open where a row ends, the line of the first row of all that ends deeper
     // than it begins, and that of the first row that ends deeper than the rows before; 0 for none.
     std::size_t usualDepth_ = 0;

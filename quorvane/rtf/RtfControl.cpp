@@ -1,8 +1,6 @@
 #include "quorvane/rtf/RtfControl.h"
 
 #include <algorithm>
-#include <charconv>
-#include <limits>
 
 #include "quorvane/rtf/RtfWord.h"
 
@@ -10,51 +8,12 @@ namespace quorvane {
 
 namespace {
 
-constexpr bool isLetter(char character) {
-    return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z');
-}
-
-constexpr bool isDigit(char character) {
-    return character >= '0' && character <= '9';
-}
-
 std::optional<int> hexDigit(char character) {
-    if (isDigit(character)) {
+    if (isRtfDigit(character)) {
         return character - '0';
     }
     const char lower = static_cast<char>(character | 0x20);
     return lower >= 'a' && lower <= 'f' ? std::optional<int>(lower - 'a' + 10) : std::nullopt;
-}
-
-std::int32_t cutNumber(std::string_view digits) {
-    std::int32_t number = 0;
-    const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), number);
-    if (result.ec != std::errc::result_out_of_range) {
-        return number;
-    }
-    return digits.front() == '-' ? std::numeric_limits<std::int32_t>::min()
-                                 : std::numeric_limits<std::int32_t>::max();
-}
-
-RtfControl symbolAt(std::string_view text, std::size_t backslash) {
-    RtfControl control;
-    const std::size_t at = backslash + 1;
-    if (at == text.size()) {
-        control.isOpen = true;
-        return control;
-    }
-    control.symbol = text[at];
-    control.length = 2;
-    control.shownLength = 2;
-    if (control.symbol == '\'') {
-        while (control.shownLength < 4 && backslash + control.shownLength < text.size() &&
-               hexDigit(text[backslash + control.shownLength])) {
-            ++control.shownLength;
-        }
-        control.isOpen = control.shownLength < 4 && backslash + control.shownLength == text.size();
-        control.length = control.shownLength == 4 ? 4 : 2;
-    }
-    return control;
 }
 
 }  // namespace
@@ -78,40 +37,24 @@ bool isRtfSymbol(char symbol) {
            std::string_view("*'\\{}~-_|:\r\n").find(symbol) != std::string_view::npos;
 }
 
-RtfControl rtfControlAt(std::string_view text, std::size_t backslash) {
-    const char* const begin = text.data() + backslash;
-    const char* const textEnd = text.data() + text.size();
-    const auto limit = [&](const char* from, std::size_t length) {
-        return from + std::min(length, static_cast<std::size_t>(textEnd - from));
-    };
-    const char* const wordBegin = begin + 1;
-    const char* const wordLimit = limit(wordBegin, RtfControl::maxWordLength);
-    const char* at = wordBegin;
-    while (at != wordLimit && isLetter(*at)) {
-        ++at;
+void readRtfSymbol(std::string_view text, std::size_t backslash, RtfControl& control) {
+    const std::size_t at = backslash + 1;
+    control = {};
+    if (at == text.size()) {
+        control.isOpen = true;
+        return;
     }
-    if (at == wordBegin) {
-        return symbolAt(text, backslash);
+    control.symbol = text[at];
+    control.length = 2;
+    control.shownLength = 2;
+    if (control.symbol == '\'') {
+        while (control.shownLength < 4 && backslash + control.shownLength < text.size() &&
+               hexDigit(text[backslash + control.shownLength])) {
+            ++control.shownLength;
+        }
+        control.isOpen = control.shownLength < 4 && backslash + control.shownLength == text.size();
+        control.length = control.shownLength == 4 ? 4 : 2;
     }
-    RtfControl control;
-    control.word = {wordBegin, static_cast<std::size_t>(at - wordBegin)};
-    const char* digits = at;
-    if (digits != textEnd && *digits == '-') {
-        ++digits;
-    }
-    const char* const numberLimit = limit(digits, RtfControl::maxNumberLength);
-    const char* numberEnd = digits;
-    while (numberEnd != numberLimit && isDigit(*numberEnd)) {
-        ++numberEnd;
-    }
-    control.isOpen = numberEnd == textEnd;
-    if (numberEnd != digits) {
-        control.number = cutNumber({at, static_cast<std::size_t>(numberEnd - at)});
-        at = numberEnd;
-    }
-    control.shownLength = static_cast<std::size_t>(at - begin);
-    control.length = control.shownLength + (at != textEnd && *at == ' ' ? 1 : 0);
-    return control;
 }
 
 std::optional<char> characterOf(const RtfControl& control, std::string_view text,

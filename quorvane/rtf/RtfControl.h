@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -33,8 +34,64 @@ struct RtfControl {
     bool isBadEscape() const { return symbol == '\'' && length < 4; }
 };
 
+constexpr bool isRtfLetter(char character) {
+    return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z');
+}
+
+constexpr bool isRtfDigit(char character) {
+    return character >= '0' && character <= '9';
+}
+
+/// Reads the symbol at a backslash that no letter follows.
+void readRtfSymbol(std::string_view text, std::size_t backslash, RtfControl& control);
+
+/// Reads the control at a backslash of the text.
+inline void readRtfControl(std::string_view text, std::size_t backslash, RtfControl& control) {
+    const char* const begin = text.data() + backslash;
+    const char* const textEnd = text.data() + text.size();
+    const auto limit = [textEnd](const char* from, std::size_t length) {
+        return from + std::min(length, static_cast<std::size_t>(textEnd - from));
+    };
+    const char* const wordBegin = begin + 1;
+    const char* const wordLimit = limit(wordBegin, RtfControl::maxWordLength);
+    const char* at = wordBegin;
+    while (at != wordLimit && isRtfLetter(*at)) {
+        ++at;
+    }
+    if (at == wordBegin) {
+        readRtfSymbol(text, backslash, control);
+        return;
+    }
+    control.word = {wordBegin, static_cast<std::size_t>(at - wordBegin)};
+    control.symbol = '\0';
+    const bool isNegative = at != textEnd && *at == '-';
+    const char* const digits = isNegative ? at + 1 : at;
+    const char* const numberLimit = limit(digits, RtfControl::maxNumberLength);
+    const char* numberEnd = digits;
+    // Far over 32 bits it stays as it is.
+    std::int64_t number = 0;
+    while (numberEnd != numberLimit && isRtfDigit(*numberEnd)) {
+        number = number < 10'000'000'000 ? number * 10 + (*numberEnd - '0') : number;
+        ++numberEnd;
+    }
+    control.isOpen = numberEnd == textEnd;
+    if (numberEnd != digits) {
+        control.number = static_cast<std::int32_t>(
+            std::clamp<std::int64_t>(isNegative ? -number : number, INT32_MIN, INT32_MAX));
+        at = numberEnd;
+    } else {
+        control.number.reset();
+    }
+    control.shownLength = static_cast<std::size_t>(at - begin);
+    control.length = control.shownLength + (at != textEnd && *at == ' ' ? 1 : 0);
+}
+
 /// The control at a backslash of the text.
-RtfControl rtfControlAt(std::string_view text, std::size_t backslash);
+inline RtfControl rtfControlAt(std::string_view text, std::size_t backslash) {
+    RtfControl control;
+    readRtfControl(text, backslash, control);
+    return control;
+}
 
 /// How many bytes after the control are binary data and no RTF: the number of `\bin`.
 std::size_t binaryLengthAfter(const RtfControl& control);

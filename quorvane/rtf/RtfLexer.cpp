@@ -9,7 +9,7 @@ RtfLexer::Token RtfLexer::finish() {
         return Token::None;
     }
     isHeld_ = false;
-    control_ = rtfControlAt(held_, 0);
+    readRtfControl(held_, 0, control_);
     takeControl();
     return Token::Control;
 }
@@ -25,7 +25,7 @@ RtfLexer::Token RtfLexer::completeControl() {
         return Token::Text;
     }
     held_.append(piece_.substr(at_, RtfControl::maxLength + 1 - before));
-    control_ = rtfControlAt(held_, 0);
+    readRtfControl(held_, 0, control_);
     if (control_.isOpen) {
         at_ = piece_.size();
         return Token::None;

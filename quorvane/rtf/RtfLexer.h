@@ -40,7 +40,7 @@ public:
     Token finish();
 
     /// The token that was read last: where it begins, its bytes (for Text), its control and the
-    /// word of RTF that this is (for Control; null for none).
+    /// word that this is, if it does something (for Control; null for any other word).
     const Position& begin() const { return begin_; }
     std::string_view text() const { return text_; }
     const RtfControl& control() const { return control_; }
@@ -135,7 +135,7 @@ inline RtfLexer::Token RtfLexer::next() {
 }
 
 inline RtfLexer::Token RtfLexer::nextControl() {
-    control_ = rtfControlAt(piece_, at_);
+    readRtfControl(piece_, at_, control_);
     if (control_.isOpen) {
         held_ = piece_.substr(at_);
         isHeld_ = true;
@@ -148,14 +148,11 @@ inline RtfLexer::Token RtfLexer::nextControl() {
 }
 
 inline void RtfLexer::takeControl() {
-    word_ = findRtfWord(control_.word);
-    if (word_ ? word_->role == RtfRole::Binary
-              : control_.symbol == '\r' || control_.symbol == '\n') {
-        if (word_) {
-            binaryLeft_ = control_.number.value_or(0);
-        } else {
-            endLine(control_.symbol, begin_.offset + 1);
-        }
+    word_ = findActiveRtfWord(control_.word);
+    if (word_) {
+        binaryLeft_ = word_->role == RtfRole::Binary ? control_.number.value_or(0) : 0;
+    } else if (control_.symbol == '\r' || control_.symbol == '\n') {
+        endLine(control_.symbol, begin_.offset + 1);
     }
 }
 

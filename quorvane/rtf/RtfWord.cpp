@@ -361,58 +361,63 @@ constexpr std::array<RtfWord, wordCount> words = [] {
     return all;
 }();
 
-// Two to three slots for each word: nearly every look-up is one comparison or none.
-constexpr std::size_t slotCount = 4096;
-
 /// What the search for a word begins with. Words of tables, borders and so on differ in one letter.
 constexpr std::uint32_t hashOf(std::string_view word) {
     const std::size_t size = word.size();
     const auto letter = [&](std::size_t at) {
         return static_cast<std::uint32_t>(static_cast<unsigned char>(word[at]));
     };
-    std::uint32_t hash = static_cast<std::uint32_t>(size) * 0x9E3779B1U;
-    hash ^= letter(0) * 0x85EBCA6BU;
-    hash ^= letter(size - 1) * 0xC2B2AE35U;
-    hash ^= letter(size / 2) * 0x27D4EB2FU;
-    hash ^= letter(size / 3) * 0x165667B1U;
-    hash ^= letter(size - 1 - size / 4) * 0xD3A2646CU;
+    const std::uint32_t hash = static_cast<std::uint32_t>(size) * 0x9E3779B1U +
+                               letter(0) * 0x85EBCA6BU + letter(size - 1) * 0xC2B2AE35U +
+                               letter(size / 2) * 0x27D4EB2FU;
     return hash ^ hash >> 15;
 }
 
-struct Slot {
-    std::uint32_t hash = 0;
-    /// Position in the list of words, from 1 on; 0 for a free slot.
-    std::uint32_t position = 0;
+/// Finds the first words of the list by their letters.
+template <std::size_t Slots, std::size_t Words>
+class WordIndex {
+public:
+    consteval WordIndex() {
+        for (std::size_t i = 0; i < Words; ++i) {
+            std::size_t slot = hashOf(words[i].word) % Slots;
+            while (positions_[slot] != 0) {
+                slot = (slot + 1) % Slots;
+            }
+            positions_[slot] = static_cast<std::uint16_t>(i + 1);
+        }
+    }
+
+    const RtfWord* find(std::string_view word) const {
+        if (word.empty()) {
+            return nullptr;
+        }
+        for (std::size_t slot = hashOf(word) % Slots; positions_[slot] != 0;
+             slot = (slot + 1) % Slots) {
+            const RtfWord& candidate = words[positions_[slot] - 1U];
+            if (candidate.word == word) {
+                return &candidate;
+            }
+        }
+        return nullptr;
+    }
+
+private:
+    // From 1 on; 0 for a free slot.
+    std::array<std::uint16_t, Slots> positions_{};
 };
 
-constexpr std::array<Slot, slotCount> slots = [] {
-    std::array<Slot, slotCount> all{};
-    for (std::size_t i = 0; i < wordCount; ++i) {
-        const std::uint32_t hash = hashOf(words[i].word);
-        std::size_t slot = hash % slotCount;
-        while (all[slot].position != 0) {
-            slot = (slot + 1) % slotCount;
-        }
-        all[slot] = {hash, static_cast<std::uint32_t>(i + 1)};
-    }
-    return all;
-}();
+// Many more slots than words: nearly every search is one comparison or none.
+constexpr WordIndex<8192, wordCount> allWords;
+constexpr WordIndex<2048, std::size(wordsWithMeaning)> activeWords;
 
 }  // namespace
 
 const RtfWord* findRtfWord(std::string_view word) {
-    if (word.empty()) {
-        return nullptr;
-    }
-    const std::uint32_t hash = hashOf(word);
-    std::size_t slot = hash % slotCount;
-    while (slots[slot].position != 0) {
-        if (slots[slot].hash == hash && words[slots[slot].position - 1].word == word) {
-            return &words[slots[slot].position - 1];
-        }
-        slot = (slot + 1) % slotCount;
-    }
-    return nullptr;
+    return allWords.find(word);
+}
+
+const RtfWord* findActiveRtfWord(std::string_view word) {
+    return activeWords.find(word);
 }
 
 std::span<const RtfWord> rtfWords() {

@@ -83,6 +83,10 @@ struct RtfWord {
 /// The control word of these letters; null for a word that RTF does not have. Case counts.
 const RtfWord* findRtfWord(std::string_view word);
 
+/// The same for a word that does something wherever it stands, which is faster; null for any other
+/// word, known or not.
+const RtfWord* findActiveRtfWord(std::string_view word);
+
 /// All control words.
 std::span<const RtfWord> rtfWords();
 

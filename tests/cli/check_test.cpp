@@ -507,7 +507,7 @@ TEST_F(CheckTest, TellsFindingsAboutADocumentInTheOrderOfTheirPlaces) {
               "a.rtf:1:8: error: The group is not closed. [unclosed-group]\n"
               "    {\\rtf1 {\\b a\n"
               "           ^\n"
-              "a.rtf:2:1: error: The color 9 is not in the color table. [unknown-color]\n"
+              "a.rtf:2:1: warning: The color 9 is not in the color table. [unknown-color]\n"
               "    \\cf9 \\trowd\\cellx9 a\\cell\n"
               "    ^~~~\n"
               "a.rtf:2:6: error: The row that begins here is not ended. [unended-row]\n"

@@ -199,6 +199,14 @@ TEST(RtfCheck, WantsACellToEndInAParagraphOfItsOwnRow) {
     }
 }
 
+TEST(RtfCheck, CountsCellsOnTheLevelThatTheGroupAroundThemIsOn) {
+    EXPECT_THAT(
+        found(documentOf("\\trowd\\cellx9 {\\itap2 {\\itap3 a\\nestcell{\\*\\nesttableprops\\trowd"
+                         "\\cellx2\\nestrow}}\\nestcell{\\*\\nesttableprops\\trowd\\cellx4\\nestrow"
+                         "}}\\cell\\row")),
+        IsEmpty());
+}
+
 TEST(RtfCheck, LooksReferencesUp) {
     EXPECT_THAT(found(documentOf("\\f1\\cf2\\s2\\cs1\\cf1\\s1\\s0\\f0\\cf0")),
                 ElementsAre("2:1+3@68 unknown-font", "2:4+4@71 unknown-color",

@@ -27,7 +27,8 @@ std::string shown(const RtfLexer& lexer, RtfLexer::Token token) {
             if (control.word.empty()) {
                 return place + "symbol " + control.symbol + (control.isBadEscape() ? " bad" : "");
             }
-            return place + (lexer.word() ? "word " : "unknown ") + std::string(control.word) +
+            return place + (findRtfWord(control.word) ? "word " : "unknown ") +
+                   std::string(control.word) +
                    (control.number ? " " + std::to_string(*control.number) : "");
         case RtfLexer::Token::None:
             break;
@@ -82,6 +83,17 @@ TEST(RtfLexer, CutsTextIntoBracesControlsAndWhatIsBetweenThem) {
 
 TEST(RtfLexer, KnowsTheWordsOfRtf) {
     EXPECT_THAT(tokensOf("\\odd\\b"), ElementsAre("1:1@0 unknown odd", "1:5@4 word b"));
+}
+
+TEST(RtfLexer, KnowsTheWordsThatDoSomethingWhereverTheyStand) {
+    RtfLexer lexer;
+    lexer.feed("\\odd\\ql\\cf ");
+    lexer.next();
+    EXPECT_FALSE(lexer.word());
+    lexer.next();
+    EXPECT_FALSE(lexer.word());
+    lexer.next();
+    EXPECT_EQ(lexer.word(), findRtfWord("cf"));
 }
 
 TEST(RtfLexer, CountsLinesAndPassesOverTheirEnds) {
