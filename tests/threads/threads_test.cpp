@@ -139,5 +139,29 @@ TEST(Threads, HaveEachACurrentErrorOfTheirOwn) {
     EXPECT_EQ(currentError(), nullptr);
 }
 
+// The sanitizers find what is used after it was freed, and what nobody frees.
+TEST(Threads, MayEndWhileAnErrorIsTheirCurrentOne) {
+    constexpr int rounds = 20;
+    for (int round = 0; round < rounds; ++round) {
+        std::array<std::int32_t, 4> numbers{};
+        std::array<std::thread, 4> threads;
+        for (std::size_t i = 0; i < threads.size(); ++i) {
+            threads[i] = std::thread([&number = numbers[i]] {
+                const Ref<CRtfDriver> driver = CRtfDriver::create();
+                try {
+                    driver->ParseFile("");
+                } catch (const RtfError&) {
+                    number = currentError()->number;
+                }
+            });
+        }
+        for (std::thread& thread : threads) {
+            thread.join();
+        }
+        constexpr auto wrongPath = static_cast<std::int32_t>(0x80040003U);
+        EXPECT_EQ(numbers, (std::array{wrongPath, wrongPath, wrongPath, wrongPath}));
+    }
+}
+
 }  // namespace
 }  // namespace quorvane
