@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "cli/UsageError.h"
+#include "cli/licenses.h"
 #include "quorvane/diagnostics/nearestWord.h"
 
 namespace quorvane::cli {
@@ -402,6 +403,9 @@ std::variant<RenderOptions, CheckOptions, FormatOptions, Information> parseComma
     CLI::App app("Renders descriptions of documents as Rich Text Format.", "quorvane");
     app.require_subcommand(1);
     addStandardFlags(app);
+    app.add_flag_callback(
+        "--licenses", [] { throw CLI::CallForVersion(licensesText(), 0); },
+        "Show the licenses of Quorvane and of what it contains, and exit");
     app.allow_windows_style_options(false);
     addRenderCommand(app, options);
     const CLI::App* check = addCheckCommand(app, checkOptions);

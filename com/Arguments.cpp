@@ -2,6 +2,9 @@
 
 #include <algorithm>
 
+#include "com/Arithmetic.h"
+#include "com/hostValue.h"
+
 namespace quorvane::com {
 
 HRESULT Arguments::check(UINT required) const noexcept {
@@ -53,6 +56,10 @@ HRESULT Arguments::read(UINT parameter, VARTYPE type, VARIANT& room,
         return S_OK;
     }
     value = &room;
+    if (refersToNothing(*argument)) {
+        return bad(at(parameter), DISP_E_TYPEMISMATCH);
+    }
+    const UsualArithmetic arithmetic;
     return bad(at(parameter), VariantChangeTypeEx(&room, argument, locale_, 0, type));
 }
 

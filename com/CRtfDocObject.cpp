@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "com/debugOutput.h"
+
 namespace quorvane::com {
 
 std::span<const Member> CRtfDocObject::members() {
@@ -34,6 +36,10 @@ std::span<const Member> CRtfDocObject::members() {
         procedure<&::_CRtfDoc::ClearStructure>(17),
     };
     return all;
+}
+
+CRtfDocObject::CRtfDocObject(Ref<CRtfDoc> document) : Wrapper(std::move(document)) {
+    reportAbsorbedErrors(native());
 }
 
 STDMETHODIMP CRtfDocObject::get_Contents(BSTR* value) {
@@ -121,7 +127,11 @@ STDMETHODIMP CRtfDocObject::get_TableRows(::_CRtfTableRows** value) {
 }
 
 STDMETHODIMP CRtfDocObject::Commit(BSTR path) {
-    return run([&] { native().Commit(textOf(path)); });
+    // A file that is held open is an error that has no source.
+    return run<Source::AsRaised>([&] {
+        const CommitReport report(native(), "CRtfDoc.Commit", textOf(path));
+        native().Commit(report.file());
+    });
 }
 
 STDMETHODIMP CRtfDocObject::LoadStyleSheetFromMemmory(BSTR styleSheet) {

@@ -13,7 +13,7 @@ public:
     static constexpr const GUID& classId = CLSID_CRtfDoc;
     static std::span<const Member> members();
 
-    using Wrapper::Wrapper;
+    explicit CRtfDocObject(Ref<CRtfDoc> document);
 
     STDMETHODIMP get_Contents(BSTR* value) override;
     STDMETHODIMP get_Changed(VARIANT_BOOL* value) override;

@@ -5,6 +5,7 @@
 
 #include "com/ComPtr.h"
 #include "com/Enumerator.h"
+#include "com/debugOutput.h"
 #include "quorvane/docmodel/CRtfDoc.h"
 
 namespace quorvane::com {
@@ -42,19 +43,30 @@ std::span<const Member> CRtfDriverObject::members() {
 }
 
 CRtfDriverObject::CRtfDriverObject(Ref<CRtfDriver> driver) : Wrapper(std::move(driver)) {
-    native().setNotifyErrorHandler([this](CRtfDriver&) { notifyErrorPoint_.fire(); });
+    reportAbsorbedErrors(native());
+    native().setNotifyErrorHandler([this](CRtfDriver&) { notifyErrorPoint_.fire(arithmetic_); });
 }
 
 // While a description is analysed, a handler of the event may release the host's last reference.
 
 STDMETHODIMP CRtfDriverObject::ParseFile(BSTR path) {
     const ComPtr self(this);
-    return run([&] { native().ParseFile(textOf(path)); });
+    return runWithEvents([&] { native().ParseFile(textOf(path)); });
 }
 
 STDMETHODIMP CRtfDriverObject::ParseFromMemmory(BSTR buffer) {
     const ComPtr self(this);
-    return run([&] { native().ParseFromMemmory(textOf(buffer)); });
+    return runWithEvents([&] { native().ParseFromMemmory(textOf(buffer)); });
+}
+
+template <class Body>
+HRESULT CRtfDriverObject::runWithEvents(Body&& body) noexcept {
+    const UsualArithmetic arithmetic;
+    // A handler may come back for another analysis.
+    const UsualArithmetic* const outer = std::exchange(arithmetic_, &arithmetic);
+    const HRESULT result = run(std::forward<Body>(body));
+    arithmetic_ = outer;
+    return result;
 }
 
 STDMETHODIMP CRtfDriverObject::LoadStyleSheetFromMemmory(BSTR buffer) {
@@ -62,7 +74,10 @@ STDMETHODIMP CRtfDriverObject::LoadStyleSheetFromMemmory(BSTR buffer) {
 }
 
 STDMETHODIMP CRtfDriverObject::Commit(BSTR path) {
-    return run([&] { native().Commit(textOf(path)); });
+    return run<Source::AsRaised>([&] {
+        const CommitReport report(native(), "CRtfDriver.Commit", textOf(path));
+        native().Commit(report.file());
+    });
 }
 
 STDMETHODIMP CRtfDriverObject::get_ErroneousInput(VARIANT_BOOL* value) {

@@ -46,10 +46,16 @@ public:
 private:
     friend Wrapper;
 
+    /// A method that raises the event.
+    template <class Body>
+    HRESULT runWithEvents(Body&& body) noexcept;
+
     void* extraInterface(REFIID interfaceId) noexcept;
     const GUID* eventInterface() const noexcept { return &DIID___CRtfDriver; }
 
     NotifyErrorPoint notifyErrorPoint_{*this};
+    /// What stands in the place of the host's arithmetic during an analysis.
+    const UsualArithmetic* arithmetic_ = nullptr;
 };
 
 }  // namespace quorvane::com

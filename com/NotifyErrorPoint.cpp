@@ -128,7 +128,7 @@ STDMETHODIMP NotifyErrorPoint::EnumConnections(IEnumConnections** enumerator) {
     });
 }
 
-void NotifyErrorPoint::fire() {
+void NotifyErrorPoint::fire(const UsualArithmetic* arithmetic) {
     if (connections_.empty()) {
         return;
     }
@@ -140,8 +140,10 @@ void NotifyErrorPoint::fire() {
     for (const Connection& each : connections) {
         if (isConnected(each.cookie)) {
             if (error) {
-                setErrorObject(*error, DIID___CRtfDriver, static_cast<DWORD>(error->number));
+                setErrorObject(*error, DIID___CRtfDriver, Source::AsRaised,
+                               static_cast<DWORD>(error->number));
             }
+            const HostsArithmetic hosts(arithmetic);
             raiseIn(*each.sink.get(), driver_);
         }
     }

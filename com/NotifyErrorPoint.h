@@ -7,6 +7,7 @@
 
 #include <vector>
 
+#include "com/Arithmetic.h"
 #include "com/ComPtr.h"
 
 namespace quorvane::com {
@@ -33,8 +34,9 @@ public:
 
     /// Raises the event `notifyError` in every sink that is connected. Each finds the thread's
     /// current error as its error object, with the error's number as help context. A sink may
-    /// connect and disconnect, itself and others, and use the driver.
-    void fire();
+    /// connect and disconnect, itself and others, and use the driver. It runs with the host's
+    /// arithmetic, in whose place `arithmetic` stands.
+    void fire(const UsualArithmetic* arithmetic);
 
 private:
     struct Connection {

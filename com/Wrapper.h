@@ -5,6 +5,7 @@
 #include <ocidl.h>
 #include <oleauto.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <span>
 #include <string_view>
@@ -111,10 +112,11 @@ public:
     STDMETHODIMP GetIDsOfNames(REFIID reserved, LPOLESTR* names, UINT count, LCID,
                                DISPID* ids) override {
         static MemberNamesCache memberNames;
-        if (!IsEqualIID(reserved, IID_NULL)) {
+        if (!isReserved(reserved)) {
             return DISP_E_UNKNOWNINTERFACE;
         }
-        if (!names || !ids || count == 0) {
+        if (!names || !ids || count == 0 ||
+            std::any_of(names, names + count, [](LPOLESTR name) { return !name; })) {
             return E_INVALIDARG;
         }
         return memberNames.find(__uuidof(Interface), names, count, ids);
@@ -157,9 +159,9 @@ protected:
     const GUID* eventInterface() const noexcept { return nullptr; }
 
     /// A method that answers nothing.
-    template <class Body>
+    template <Source source = Source::Added, class Body>
     HRESULT run(Body&& body) const noexcept {
-        return answering(__uuidof(Interface), std::forward<Body>(body));
+        return answering<source>(__uuidof(Interface), std::forward<Body>(body));
     }
 
     /// A method that answers what its body does.

@@ -8,6 +8,7 @@ namespace quorvane::com {
 namespace {
 
 constexpr std::int32_t firstAutomationError = 65536;
+constexpr const char* libraryName = "Quorvane";
 
 }  // namespace
 
@@ -18,19 +19,21 @@ HRESULT resultOf(std::int32_t number) noexcept {
     return number < 0 ? number : E_FAIL;
 }
 
-void setErrorObject(const RtfError& error, REFIID interfaceId, DWORD helpContext) noexcept {
+void setErrorObject(const RtfError& error, REFIID interfaceId, Source source,
+                    DWORD helpContext) noexcept {
     clearErrorObject();
     try {
         ComPtr<ICreateErrorInfo> created;
         ComPtr<IErrorInfo> finished;
         const OwnedBstr description(error.description);
-        const OwnedBstr source(error.source);
+        const bool isAdded = source == Source::Added && error.source.empty();
+        const OwnedBstr sourceText(isAdded ? libraryName : error.source);
         if (FAILED(CreateErrorInfo(created.out()))) {
             return;
         }
         created->SetGUID(interfaceId);
         created->SetDescription(description.get());
-        created->SetSource(source.get());
+        created->SetSource(sourceText.get());
         created->SetHelpContext(helpContext);
         if (SUCCEEDED(created->QueryInterface(IID_IErrorInfo, finished.outVoid()))) {
             SetErrorInfo(0, finished.get());

@@ -8,6 +8,7 @@
 #include <new>
 #include <utility>
 
+#include "com/Arithmetic.h"
 #include "quorvane/support/RtfError.h"
 
 namespace quorvane::com {
@@ -16,9 +17,14 @@ namespace quorvane::com {
 /// itself.
 HRESULT resultOf(std::int32_t number) noexcept;
 
+/// What an error that names no source has as its source for the host: the library's name, or
+/// nothing.
+enum class Source { Added, AsRaised };
+
 /// Leaves the error on the thread as its error object, with source and description, for whoever
 /// asks next. `helpContext` goes with it.
-void setErrorObject(const RtfError& error, REFIID interfaceId, DWORD helpContext = 0) noexcept;
+void setErrorObject(const RtfError& error, REFIID interfaceId, Source source,
+                    DWORD helpContext = 0) noexcept;
 
 /// Forgets the thread's error object.
 void clearErrorObject() noexcept;
@@ -28,13 +34,14 @@ HRESULT plainFailure(HRESULT result) noexcept;
 
 /// Runs the body of a COM method. What it throws becomes the method's result: an error of the
 /// library with an error object, E_OUTOFMEMORY when memory is short, otherwise E_UNEXPECTED.
-template <class Body>
+template <Source source = Source::Added, class Body>
 HRESULT answering(REFIID interfaceId, Body&& body) noexcept {
+    const UsualArithmetic arithmetic;
     try {
         std::forward<Body>(body)();
         return S_OK;
     } catch (const RtfError& error) {
-        setErrorObject(error, interfaceId);
+        setErrorObject(error, interfaceId, source);
         return resultOf(error.number);
     } catch (const std::bad_alloc&) {
         return plainFailure(E_OUTOFMEMORY);

@@ -36,11 +36,13 @@ Value doubleOf(const VARIANT& value) {
 }
 
 Value pointedTo(const VARIANT& reference) {
+    if (refersToNothing(reference)) {
+        return Null{};
+    }
     if (V_VT(&reference) == (VT_BYREF | VT_VARIANT)) {
         // A reference to a reference is none that automation knows, and could lead in a circle.
-        const VARIANT* value = V_VARIANTREF(&reference);
-        const bool isValue = value && V_VT(value) != (VT_BYREF | VT_VARIANT);
-        return isValue ? valueOf(*value) : Value(Null{});
+        const VARIANT& value = *V_VARIANTREF(&reference);
+        return V_VT(&value) == (VT_BYREF | VT_VARIANT) ? Value(Null{}) : valueOf(value);
     }
     Copy value;
     const HRESULT result = VariantCopyInd(value.get(), const_cast<VARIANT*>(&reference));
@@ -89,6 +91,10 @@ Value valueOf(const VARIANT& value) {
         default:
             return (V_VT(&value) & VT_BYREF) != 0 ? pointedTo(value) : Value(Null{});
     }
+}
+
+bool refersToNothing(const VARIANT& value) noexcept {
+    return (V_VT(&value) & VT_BYREF) != 0 && !V_BYREF(&value);
 }
 
 Value valueOf(const VARIANT* value) {

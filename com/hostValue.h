@@ -17,4 +17,7 @@ Value valueOf(const VARIANT& value);
 /// given.
 Value valueOf(const VARIANT* value);
 
+/// True for a variable passed by reference where the reference is null.
+bool refersToNothing(const VARIANT& value) noexcept;
+
 }  // namespace quorvane::com

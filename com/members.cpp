@@ -45,12 +45,20 @@ HRESULT invokeDefault(const Member& property, IDispatch* object, const LateCall&
 
 }  // namespace
 
+bool isReserved(REFIID interfaceId) noexcept {
+    // A reference cannot be null as far as the compiler knows.
+    const IID* const volatile id = &interfaceId;
+    return !id || IsEqualIID(*id, IID_NULL);
+}
+
 HRESULT invoke(std::span<const Member> members, IDispatch* object, const LateCall& call) noexcept {
     clearErrorObject();
-    if (!IsEqualIID(call.reserved, IID_NULL)) {
+    if (!isReserved(call.reserved)) {
         return DISP_E_UNKNOWNINTERFACE;
     }
-    if (!call.arguments) {
+    const DISPPARAMS* given = call.arguments;
+    if (!given || (given->cArgs > 0 && !given->rgvarg) ||
+        (given->cNamedArgs > 0 && !given->rgdispidNamedArgs)) {
         return E_INVALIDARG;
     }
     if (call.result) {

@@ -103,6 +103,10 @@ struct LateCall {
     UINT* badArgument;
 };
 
+/// True for what a late-bound caller must give as the interface: IID_NULL. Some callers give a null
+/// pointer, which means the same.
+bool isReserved(REFIID interfaceId) noexcept;
+
 /// Makes the call to one of the members. Arguments that follow a property without parameters go to
 /// the default member of the object that it answers.
 HRESULT invoke(std::span<const Member> members, IDispatch* object, const LateCall& call) noexcept;

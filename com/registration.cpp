@@ -11,6 +11,8 @@
 #include <vector>
 
 #include "com/ComPtr.h"
+#include "com/RegistryKey.h"
+#include "com/filePaths.h"
 #include "com/serverModule.h"
 #include "com/typeLibrary.h"
 #include "quorvaneInterfaces.h"
@@ -74,103 +76,132 @@ std::vector<Entry> entriesOf(const CreatableClass& each, const std::wstring& pat
     };
 }
 
-/// An open key of the registry.
-class Key {
-public:
-    explicit Key(HKEY key = nullptr) noexcept : key_(key) {}
-    Key(const Key&) = delete;
-    Key& operator=(const Key&) = delete;
-    ~Key() {
-        if (key_) {
-            RegCloseKey(key_);
-        }
+constexpr bool is32Bit = sizeof(void*) == 4;
+constexpr REGSAM otherKind = is32Bit ? KEY_WOW64_64KEY : KEY_WOW64_32KEY;
+
+/// What the system says as the result of a registration: E_ACCESSDENIED for a lack of rights.
+HRESULT resultOf(LSTATUS status, HRESULT otherwise) noexcept {
+    switch (status) {
+        case ERROR_SUCCESS:
+            return S_OK;
+        case ERROR_ACCESS_DENIED:
+            return E_ACCESSDENIED;
+        case ERROR_OUTOFMEMORY:
+        case ERROR_NOT_ENOUGH_MEMORY:
+            return E_OUTOFMEMORY;
+        default:
+            return otherwise;
     }
-
-    HKEY get() const noexcept { return key_; }
-    HKEY* out() noexcept { return &key_; }
-
-private:
-    HKEY key_;
-};
-
-bool write(const Entry& entry) {
-    Key key;
-    if (RegCreateKeyExW(HKEY_CLASSES_ROOT, entry.key.c_str(), 0, nullptr, 0, KEY_WRITE, nullptr,
-                        key.out(), nullptr) != ERROR_SUCCESS) {
-        return false;
-    }
-    const std::size_t size = (entry.value.size() + 1) * sizeof(wchar_t);
-    return RegSetValueExW(key.get(), entry.name.empty() ? nullptr : entry.name.c_str(), 0, REG_SZ,
-                          reinterpret_cast<const BYTE*>(entry.value.c_str()),
-                          static_cast<DWORD>(size)) == ERROR_SUCCESS;
 }
 
-bool remove(const std::wstring& key) {
-    const LSTATUS status = RegDeleteTreeW(HKEY_CLASSES_ROOT, key.c_str());
-    return status == ERROR_SUCCESS || status == ERROR_FILE_NOT_FOUND;
+/// The first failure of several steps that are all taken.
+void note(HRESULT& first, HRESULT result) noexcept {
+    if (SUCCEEDED(first)) {
+        first = result;
+    }
+}
+
+/// True for the entry of a file that names this one. One that names no file serves nobody.
+bool isOwn(const std::wstring& entry, const std::wstring& path) {
+    const std::wstring file = withoutQuotes(entry);
+    return file.empty() || areSamePath(file, path);
 }
 
 HRESULT registerClasses(const std::wstring& path) {
     for (const CreatableClass& each : creatableClasses) {
         for (const Entry& entry : entriesOf(each, path)) {
-            if (!write(entry)) {
-                return SELFREG_E_CLASS;
+            const LSTATUS status =
+                writeRegistryText(HKEY_CLASSES_ROOT, entry.key, entry.name, entry.value);
+            if (status != ERROR_SUCCESS) {
+                return resultOf(status, SELFREG_E_CLASS);
             }
         }
     }
     return S_OK;
 }
 
-constexpr bool is32Bit = sizeof(void*) == 4;
-
-bool isThere(const std::wstring& key, REGSAM view = 0) {
-    Key found;
-    return RegOpenKeyExW(HKEY_CLASSES_ROOT, key.c_str(), 0, KEY_READ | view, found.out()) ==
-           ERROR_SUCCESS;
+HRESULT remove(const std::wstring& key) noexcept {
+    return resultOf(deleteRegistryTree(HKEY_CLASSES_ROOT, key), SELFREG_E_CLASS);
 }
 
-/// 32-bit and 64-bit programs have classes of their own, but the programs' identifiers in common:
-/// those of a class go with its last registration.
-HRESULT unregisterClasses() {
-    constexpr REGSAM otherKind = is32Bit ? KEY_WOW64_64KEY : KEY_WOW64_32KEY;
-    bool allRemoved = true;
+/// A class that has been registered for another file since stays as it is. 32-bit and 64-bit
+/// programs have classes of their own, but the programs' identifiers in common: those of a class go
+/// with its last registration.
+HRESULT unregisterClasses(const std::wstring& path) {
+    HRESULT result = S_OK;
     for (const CreatableClass& each : creatableClasses) {
-        allRemoved = remove(classKey(each)) && allRemoved;
-        if (!isThere(classKey(each), otherKind)) {
-            const std::wstring programId = each.programId;
-            allRemoved = remove(programId) && allRemoved;
-            allRemoved = remove(programId + programIdVersion) && allRemoved;
+        const std::wstring key = classKey(each);
+        if (isOwn(registryText(HKEY_CLASSES_ROOT, key + L"\\InprocServer32"), path)) {
+            note(result, remove(key));
+        }
+        if (!registryKeyExists(HKEY_CLASSES_ROOT, key) &&
+            !registryKeyExists(HKEY_CLASSES_ROOT, key, otherKind)) {
+            note(result, remove(each.programId));
+            note(result, remove(each.programId + std::wstring(programIdVersion)));
         }
     }
-    return allRemoved ? S_OK : SELFREG_E_CLASS;
+    return result;
+}
+
+/// The part of a path before the file's name.
+std::wstring folderOf(const std::wstring& path) {
+    const std::size_t end = path.find_last_of(L"\\/");
+    return end == std::wstring::npos ? std::wstring() : path.substr(0, end);
 }
 
 HRESULT registerTypeLibrary(const std::wstring& path) {
     ComPtr<ITypeLib> library;
-    std::wstring writable = path;
-    const bool isRegistered = SUCCEEDED(typeLibrary(library.out())) &&
-                              SUCCEEDED(RegisterTypeLib(library.get(), writable.data(), nullptr));
-    return isRegistered ? S_OK : SELFREG_E_TYPELIB;
-}
-
-HRESULT unregisterTypeLibrary() {
-    UnRegisterTypeLib(LIBID_Quorvane, 1, 0, LOCALE_NEUTRAL, is32Bit ? SYS_WIN32 : SYS_WIN64);
-    const std::wstring key =
-        L"TypeLib\\" + textOf(LIBID_Quorvane) + L"\\1.0\\0\\" + (is32Bit ? L"win32" : L"win64");
-    return isThere(key) ? SELFREG_E_TYPELIB : S_OK;
-}
-
-/// A user's part of the registry may have had no classes before ours.
-void removeWhenEmpty(HKEY parent, const wchar_t* name) {
-    Key key;
-    DWORD keys = 0;
-    DWORD values = 0;
-    if (RegOpenKeyExW(parent, name, 0, KEY_READ, key.out()) == ERROR_SUCCESS &&
-        RegQueryInfoKeyW(key.get(), nullptr, nullptr, nullptr, &keys, nullptr, nullptr, &values,
-                         nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS &&
-        keys == 0 && values == 0) {
-        RegDeleteKeyW(parent, name);
+    std::wstring file = path;
+    std::wstring helpFolder = folderOf(path);
+    HRESULT result = typeLibrary(library.out());
+    if (SUCCEEDED(result)) {
+        result = RegisterTypeLib(library.get(), file.data(), helpFolder.data());
     }
+    switch (result) {
+        case TYPE_E_REGISTRYACCESS:
+            return E_ACCESSDENIED;
+        case E_ACCESSDENIED:
+        case E_OUTOFMEMORY:
+            return result;
+        default:
+            return FAILED(result) ? SELFREG_E_TYPELIB : S_OK;
+    }
+}
+
+/// The type library of the other kind of programs needs the interfaces, which the system would
+/// remove together with ours: only our own entry goes, and the folder that comes from it.
+HRESULT removeEntryOfTypeLibrary(const std::wstring& version, const std::wstring& entry,
+                                 const std::wstring& others) {
+    const std::wstring helpFolder = version + L"\\HELPDIR";
+    const std::wstring ourFolder = folderOf(withoutQuotes(registryText(HKEY_CLASSES_ROOT, entry)));
+    const HRESULT result =
+        resultOf(deleteRegistryTree(HKEY_CLASSES_ROOT, entry), SELFREG_E_TYPELIB);
+    if (SUCCEEDED(result) && registryText(HKEY_CLASSES_ROOT, helpFolder) == ourFolder) {
+        return resultOf(
+            writeRegistryText(HKEY_CLASSES_ROOT, helpFolder, L"", folderOf(withoutQuotes(others))),
+            SELFREG_E_TYPELIB);
+    }
+    return result;
+}
+
+HRESULT unregisterTypeLibrary(const std::wstring& path) {
+    const std::wstring version = L"TypeLib\\" + textOf(LIBID_Quorvane) + L"\\1.0";
+    const std::wstring ours = version + (is32Bit ? L"\\0\\win32" : L"\\0\\win64");
+    const std::wstring others = version + (is32Bit ? L"\\0\\win64" : L"\\0\\win32");
+    if (!isOwn(registryText(HKEY_CLASSES_ROOT, ours), path)) {
+        return S_OK;
+    }
+    const std::wstring otherFile = registryText(HKEY_CLASSES_ROOT, others);
+    if (!otherFile.empty()) {
+        return removeEntryOfTypeLibrary(version, ours, otherFile);
+    }
+    const HRESULT result =
+        UnRegisterTypeLib(LIBID_Quorvane, 1, 0, LOCALE_NEUTRAL, is32Bit ? SYS_WIN32 : SYS_WIN64);
+    if (!registryKeyExists(HKEY_CLASSES_ROOT, ours)) {
+        return S_OK;
+    }
+    return result == E_ACCESSDENIED || result == TYPE_E_REGISTRYACCESS ? E_ACCESSDENIED
+                                                                       : SELFREG_E_TYPELIB;
 }
 
 /// As long as it lives, what is registered goes to the machine's part of the registry, which takes
@@ -180,9 +211,10 @@ class RedirectedClasses {
 public:
     explicit RedirectedClasses(RegisteredFor whom) : whom_(whom) {
         const HKEY part = whom == RegisteredFor::User ? HKEY_CURRENT_USER : HKEY_LOCAL_MACHINE;
-        isRedirected_ = RegCreateKeyExW(part, classesOfAPart, 0, nullptr, 0, KEY_ALL_ACCESS,
-                                        nullptr, classes_.out(), nullptr) == ERROR_SUCCESS &&
-                        RegOverridePredefKey(HKEY_CLASSES_ROOT, classes_.get()) == ERROR_SUCCESS;
+        status_ = classes_.create(part, classesOfAPart, KEY_ALL_ACCESS);
+        if (status_ == ERROR_SUCCESS) {
+            status_ = RegOverridePredefKey(HKEY_CLASSES_ROOT, classes_.get());
+        }
         if (whom == RegisteredFor::User) {
             registerTypeLibrariesForTheUser();
         }
@@ -190,15 +222,17 @@ public:
     RedirectedClasses(const RedirectedClasses&) = delete;
     RedirectedClasses& operator=(const RedirectedClasses&) = delete;
     ~RedirectedClasses() {
-        if (isRedirected_) {
+        if (status_ == ERROR_SUCCESS) {
             RegOverridePredefKey(HKEY_CLASSES_ROOT, nullptr);
         }
         if (whom_ == RegisteredFor::User) {
-            removeWhenEmpty(HKEY_CURRENT_USER, classesOfAPart);
+            // A user's part may have had no classes before ours.
+            deleteEmptyRegistryKey(HKEY_CURRENT_USER, classesOfAPart);
         }
     }
 
-    bool isRedirected() const noexcept { return isRedirected_; }
+    /// Whether it was possible.
+    HRESULT result() const noexcept { return resultOf(status_, SELFREG_E_CLASS); }
 
 private:
     /// Systems that do not need to be told lack the function.
@@ -213,41 +247,40 @@ private:
     }
 
     RegisteredFor whom_;
-    Key classes_;
-    bool isRedirected_ = false;
+    RegistryKey classes_;
+    LSTATUS status_ = ERROR_SUCCESS;
 };
 
-/// Runs the body in the part of the registry that is meant.
+/// Runs the body, with the DLL's path, in the part of the registry that is meant.
 template <class Body>
 HRESULT inRegistry(RegisteredFor whom, Body body) noexcept {
     try {
         const RedirectedClasses classes(whom);
-        return classes.isRedirected() ? body() : SELFREG_E_CLASS;
+        return FAILED(classes.result()) ? classes.result() : body(modulePath());
     } catch (const std::bad_alloc&) {
         return E_OUTOFMEMORY;
     }
 }
 
-HRESULT removeAll() {
-    const HRESULT library = unregisterTypeLibrary();
-    const HRESULT classes = unregisterClasses();
+HRESULT removeAll(const std::wstring& path) {
+    HRESULT result = unregisterTypeLibrary(path);
+    note(result, unregisterClasses(path));
     for (const wchar_t* name : {L"CLSID", L"Interface", L"TypeLib"}) {
-        removeWhenEmpty(HKEY_CLASSES_ROOT, name);
+        deleteEmptyRegistryKey(HKEY_CLASSES_ROOT, name);
     }
-    return FAILED(library) ? library : classes;
+    return result;
 }
 
 }  // namespace
 
 HRESULT registerServer(RegisteredFor whom) noexcept {
-    return inRegistry(whom, [] {
-        const std::wstring path = modulePath();
+    return inRegistry(whom, [](const std::wstring& path) {
         HRESULT result = registerClasses(path);
         if (SUCCEEDED(result)) {
             result = registerTypeLibrary(path);
         }
         if (FAILED(result)) {
-            removeAll();
+            removeAll(path);
         }
         return result;
     });

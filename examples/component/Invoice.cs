@@ -1,17 +1,17 @@
-// Makes an invoice through the object model and a reminder from a description:
+// Builds an invoice through the object model and a reminder from a description:
 //
 //     Invoice invoice.rtf [reminder.rtf]
 //
-// Late bound, so it needs no interop assembly. The compiler that is part of Windows (.NET
-// Framework 4) makes it for the 32-bit and for the 64-bit component:
+// The example is late bound and needs no interop assembly. The compiler of .NET Framework 4, which
+// is part of Windows, builds it for the 32-bit or the 64-bit component:
 //
 //     %SystemRoot%\Microsoft.NET\Framework\v4.0.30319\csc /platform:x86 Invoice.cs
 //     %SystemRoot%\Microsoft.NET\Framework64\v4.0.30319\csc /platform:x64 Invoice.cs
 //
-// With .NET 5 or later it is compiled in a project for net8.0-windows or the like, with a
+// With .NET 5 or later, compile it in a project that targets net8.0-windows or the like, with a
 // PlatformTarget of x86 or x64.
 //
-// The tests do not run this example, because they have no .NET for Windows.
+// The tests do not run this example, because they have no .NET for Windows. They do compile it.
 
 using System;
 using System.IO;
@@ -20,7 +20,7 @@ using System.Runtime.InteropServices.ComTypes;
 
 public static class Invoice
 {
-    // Late bound, the enumerations of the type library are not seen.
+    // Late-bound code does not see the enumerations of the type library.
     private const int ePercent = 0;
     private const int eNoDefault = 0;
     private const int eRight = 3;
@@ -30,8 +30,8 @@ public static class Invoice
     private const int eThick = 30;
     private const int eLightBlue = 19;
 
-    // The first style stands for the one character style, so that no number in use is shared by a
-    // paragraph and a character style.
+    // Paragraph and character styles share numbers. The unused first style keeps "label", the only
+    // character style, from sharing the number of a style in use.
     private const string StyleSheet = @"
 { name: reserved; style-def: s; format: \f0\fs20\cf3 }
 { name: normal; style-def: s; format: \f0\fs20\cf3\sb60\sa60 }
@@ -106,7 +106,7 @@ doc)
         }
     }
 
-    // The component lives in a single-threaded apartment.
+    // The component runs in a single-threaded apartment.
     [STAThread]
     public static int Main(string[] arguments)
     {
@@ -150,8 +150,7 @@ doc)
         SetWidths(title, 60, 40);
         title.BottomBorder = eThick;
 
-        // A key, by which the row can be found again. \'e9 is a character of Windows-1252, as RTF
-        // writes it.
+        // The key finds the row again. \'e9 is an e with an acute accent, as RTF writes it.
         document.TableRows.AddTail("address");
         dynamic address = document.TableRows.Item("address");
         dynamic receiver = AddCell(address, @"Mr Andr\'e9 Lindqvist", "receiver", eNoDefault);
@@ -209,7 +208,7 @@ doc)
     {
         dynamic row = AddRow(document);
         dynamic number = AddCell(row, Escaped(item.Number), "normal", eNoDefault);
-        // For the program that books the payment: it finds the number in the document, readers do
+        // A marked field: the accounting program finds the item number here, and word processors do
         // not show it.
         number.asMarkedField("item " + item.Number);
         AddCell(row, Escaped(item.Name), "normal", eNoDefault);
@@ -220,8 +219,8 @@ doc)
         row.BottomBorder = eHair;
     }
 
-    // The driver makes a document from a description. What is wrong with one it tells through its
-    // event; what is wrong with the call itself is an error.
+    // The driver builds a document from a description. It reports errors in the description through
+    // its event, and raises errors of the call itself.
     private static void MakeReminder(string path)
     {
         object driverObject = Create("Quorvane.CRtfDriver");
@@ -230,9 +229,9 @@ doc)
         driver.ErroneousInput = true;
         using (new DriverConnection(driverObject))
         {
-            // A parenthesis is missing.
+            // Without a parenthesis the description is faulty.
             driver.ParseFromMemmory(Description.Replace("Reminder)", "Reminder"));
-            Console.WriteLine("rows made of the wrong description: " +
+            Console.WriteLine("rows built from the faulty description: " +
                               driver.RtfObject.TableRows.Count);
 
             try
@@ -245,7 +244,7 @@ doc)
             }
 
             driver.ParseFromMemmory(Description);
-            Console.WriteLine("rows made of the right description: " +
+            Console.WriteLine("rows built from the correct description: " +
                               driver.RtfObject.TableRows.Count);
         }
         if (path != "")
@@ -279,8 +278,9 @@ doc)
         paragraph.Style = style;
     }
 
-    // Adding a cell spreads all cells of the row evenly, so the widths come after the last one. The
-    // last cell has what the others leave. A property with parameters takes them in brackets.
+    // Adding a cell makes all cells of the row equally wide, so set the widths after adding the
+    // last one. The last cell takes the rest of the row. A property with parameters takes them in
+    // brackets.
     private static void SetWidths(dynamic row, params int[] widths)
     {
         for (int i = 0; i < widths.Length - 1; ++i)
@@ -290,7 +290,7 @@ doc)
         }
     }
 
-    // A paragraph's text is RTF: in a text from outside these three are escaped.
+    // The text of a paragraph is RTF. These three characters must be escaped in plain text.
     private static string Escaped(string text)
     {
         return text.Replace(@"\", @"\\").Replace("{", @"\{").Replace("}", @"\}");
@@ -301,18 +301,17 @@ doc)
         return pence / 100 + "." + (pence % 100).ToString("00");
     }
 
-    // Commit raises an error when it cannot replace a file, but none when it cannot write the new
-    // one.
+    // Commit raises an error if it cannot replace a file, but not if it cannot write the new one.
     private static void CheckWritten(string path)
     {
         if (!File.Exists(path))
         {
-            throw new FileNotFoundException(path + " is not written.");
+            throw new FileNotFoundException(path + " was not written.");
         }
-        Console.WriteLine(path + " is written.");
+        Console.WriteLine(path + " was written.");
     }
 
-    // Source and description of the component's error are those of the exception.
+    // The exception has the HRESULT, source and description of the error.
     private static string ErrorText(Exception error)
     {
         return ErrorText(error.HResult, error.Source, error.Message);
@@ -320,11 +319,14 @@ doc)
 
     public static string ErrorText(int number, string source, string description)
     {
-        return "error " + number + " (" + (source ?? "").Replace("\r\n", ", ") + "): " + description;
+        // In the event, a run-time error has its plain number instead of an HRESULT.
+        int result = number > 0 && number < 65536 ? unchecked((int)0x800A0000) + number : number;
+        return "error 0x" + result.ToString("X8") + " (" + (source ?? "").Replace("\r\n", ", ") +
+               "): " + description;
     }
 }
 
-// The driver's events, as the type library has them.
+// The events of the driver, as in the type library.
 [ComImport, Guid("1811CD09-270D-4B00-A52C-4047F643EAB9")]
 [InterfaceType(ComInterfaceType.InterfaceIsIDispatch)]
 public interface IDriverEvents
@@ -333,7 +335,8 @@ public interface IDriverEvents
     void notifyError([MarshalAs(UnmanagedType.IDispatch)] object sender);
 }
 
-// What an event handler is told of: the error object of the thread, its help context the number.
+// An event handler finds the error in the error object of the thread, whose help context is the
+// number.
 [ComImport, Guid("1CF2B120-547D-101B-8E65-08002B2BD119")]
 [InterfaceType(ComInterfaceType.InterfaceIsIUnknown)]
 public interface IErrorInfo

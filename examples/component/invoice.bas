@@ -1,14 +1,14 @@
 Attribute VB_Name = "Invoice"
-' Makes an invoice through the object model and a reminder from a description.
+' Builds an invoice through the object model and a reminder from a description.
 '
-' Into the project of a document: import this file and DriverErrors.cls, and tick
-' "Quorvane 1.0: Rich Text Format documents made of one table" under Tools,
-' References. Then, in the Immediate window (Ctrl+G):
+' Import this file and DriverErrors.cls into the project of a document, and
+' select "Quorvane 1.0: Rich Text Format documents made of one table" under
+' Tools, References. Then enter in the Immediate window (Ctrl+G):
 '
 '     MakeDocuments "C:\Temp\invoice.rtf", "C:\Temp\reminder.rtf"
 '
-' Office from version 2010 on. A 64-bit Office needs the 64-bit component, a
-' 32-bit one the 32-bit component.
+' It needs Office 2010 or later. A 64-bit Office needs the 64-bit component, a
+' 32-bit Office the 32-bit component.
 '
 ' The tests do not run this example, because they have no Office.
 Option Explicit
@@ -45,8 +45,8 @@ Private Sub MakeInvoice(ByVal path As String)
     SetWidths row, Array(60, 40)
     row.BottomBorder = eThick
 
-    ' A key, by which the row can be found again. \'e9 is a character of
-    ' Windows-1252, as RTF writes it.
+    ' The key finds the row again. \'e9 is an e with an acute accent, as RTF
+    ' writes it.
     document.TableRows.AddTail "address"
     Set row = document.TableRows.Item("address")
     Set cell = AddCell(row, "Mr Andr\'e9 Lindqvist", "receiver", eNoDefault)
@@ -77,8 +77,8 @@ Private Sub MakeInvoice(ByVal path As String)
         total = total + amount
         Set row = AddRow(document)
         Set cell = AddCell(row, Escaped(item(0)), "normal", eNoDefault)
-        ' For the program that books the payment: it finds the number in the
-        ' document, readers do not show it.
+        ' A marked field: the accounting program finds the item number here, and
+        ' word processors do not show it.
         cell.asMarkedField "item " & item(0)
         AddCell row, Escaped(item(1)), "normal", eNoDefault
         AddCell row, CStr(item(2)), "normal", eRight
@@ -107,8 +107,8 @@ Private Sub MakeInvoice(ByVal path As String)
     CheckWritten path
 End Sub
 
-' The driver makes a document from a description. What is wrong with one it tells
-' through its event; what is wrong with the call itself is an error.
+' The driver builds a document from a description. It reports errors in the
+' description through its event, and raises errors of the call itself.
 Private Sub MakeReminder(ByVal path As String)
     Dim driver As Quorvane.CRtfDriver
     Dim errors As DriverErrors
@@ -116,19 +116,19 @@ Private Sub MakeReminder(ByVal path As String)
     Set driver = New Quorvane.CRtfDriver
     driver.LoadStyleSheetFromMemmory StyleSheet()
     driver.ErroneousInput = True
-    ' Events reach a class module only.
+    ' Only a class module can receive events.
     Set errors = New DriverErrors
     errors.Connect driver
 
-    ' A parenthesis is missing.
+    ' Without a parenthesis the description is faulty.
     text = Description()
     driver.ParseFromMemmory Replace(text, "Reminder)", "Reminder")
-    Debug.Print "rows made of the wrong description: " & driver.RtfObject.TableRows.Count
+    Debug.Print "rows built from the faulty description: " & driver.RtfObject.TableRows.Count
 
     TryToParse driver, "no-such-file.rtfspec"
 
     driver.ParseFromMemmory text
-    Debug.Print "rows made of the right description: " & driver.RtfObject.TableRows.Count
+    Debug.Print "rows built from the correct description: " & driver.RtfObject.TableRows.Count
     errors.Disconnect
     If path <> "" Then
         driver.Commit path
@@ -169,8 +169,8 @@ Private Sub AddParagraph(ByVal cell As Quorvane.CRtfTableCell, ByVal text As Str
     paragraph.Style = style
 End Sub
 
-' Adding a cell spreads all cells of the row evenly, so the widths come after the
-' last one. The last cell has what the others leave.
+' Adding a cell makes all cells of the row equally wide, so set the widths after
+' adding the last one. The last cell takes the rest of the row.
 Private Sub SetWidths(ByVal row As Quorvane.CRtfTableRow, ByVal widths As Variant)
     Dim i As Long
     For i = 0 To UBound(widths) - 1
@@ -178,7 +178,8 @@ Private Sub SetWidths(ByVal row As Quorvane.CRtfTableRow, ByVal widths As Varian
     Next
 End Sub
 
-' A paragraph's text is RTF: in a text from outside these three are escaped.
+' The text of a paragraph is RTF. These three characters must be escaped in
+' plain text.
 Private Function Escaped(ByVal text As String) As String
     Escaped = Replace(Replace(Replace(text, "\", "\\"), "{", "\{"), "}", "\}")
 End Function
@@ -187,22 +188,31 @@ Private Function Money(ByVal pence As Long) As String
     Money = CStr(pence \ 100) & "." & Right("0" & CStr(pence Mod 100), 2)
 End Function
 
-' Commit raises an error when it cannot replace a file, but none when it cannot
-' write the new one.
+' Commit raises an error if it cannot replace a file, but not if it cannot write
+' the new one.
 Private Sub CheckWritten(ByVal path As String)
     If Dir(path) = "" Then
-        Err.Raise vbObjectError + 1000, "Invoice", path & " is not written."
+        Err.Raise vbObjectError + 1000, "Invoice", path & " was not written."
     End If
-    Debug.Print path & " is written."
+    Debug.Print path & " was written."
 End Sub
 
 Public Function ErrorText(ByVal number As Long, ByVal source As String, _
         ByVal description As String) As String
-    ErrorText = "error " & number & " (" & Replace(source, vbCrLf, ", ") & "): " & description
+    ErrorText = "error " & HResult(number) & " (" & Replace(source, vbCrLf, ", ") & "): " & _
+        description
 End Function
 
-' The first style stands for the one character style, so that no number in use is
-' shared by a paragraph and a character style.
+' Err.Number is the HRESULT of an error, but for a run-time error its lower 16 bits.
+Private Function HResult(ByVal number As Long) As String
+    If number > 0 And number < 65536 Then
+        number = &H800A0000 + number
+    End If
+    HResult = "0x" & Right("0000000" & Hex(number), 8)
+End Function
+
+' Paragraph and character styles share numbers. The unused first style keeps
+' "label", the only character style, from sharing the number of a style in use.
 Private Function StyleSheet() As String
     StyleSheet = Join(Array( _
         "{ name: reserved; style-def: s; format: \f0\fs20\cf3 }", _
@@ -218,7 +228,7 @@ Private Function StyleSheet() As String
         "{ name: sum; style-def: cell; format: light-yellow }"), vbCrLf)
 End Function
 
-' A statement has 25 lines at most.
+' A statement can have at most 25 lines.
 Private Function Description() As String
     Description = Join(Array( _
         "(doc", "(paper-width=11906)", "(paper-height=16838)", _

@@ -1,16 +1,18 @@
-// Makes an invoice through the object model and a reminder from a description:
+// Builds an invoice through the object model and a reminder from a description:
 //
 //     invoice invoice.rtf [reminder.rtf]
 //
-// Plain COM with the header that is made from the component's interface description. It compiles
-// with mingw-w64 (-municode -lole32 -loleaut32 -luuid) and with other compilers of Windows. The
-// program must be built for the component's processor.
+// Plain COM with the generated header of the component. It compiles with mingw-w64 (-municode
+// -lole32 -loleaut32 -luuid) and with other compilers for Windows. The program must have as many
+// bits as the component.
 
 #include <windows.h>
 
 #include <comdef.h>
 
 #include <cstdio>
+#include <cwchar>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -30,8 +32,8 @@ _COM_SMARTPTR_TYPEDEF(IConnectionPoint, __uuidof(IConnectionPoint));
 _COM_SMARTPTR_TYPEDEF(IConnectionPointContainer, __uuidof(IConnectionPointContainer));
 _COM_SMARTPTR_TYPEDEF(IErrorInfo, __uuidof(IErrorInfo));
 
-// The first style stands for the one character style, so that no number in use is shared by a
-// paragraph and a character style.
+// Paragraph and character styles share numbers. The unused first style keeps "label", the only
+// character style, from sharing the number of a style in use.
 constexpr const wchar_t* styleSheet =
     LR"(
 { name: reserved; style-def: s; format: \f0\fs20\cf3 }
@@ -93,7 +95,7 @@ doc)
 )";
 
 struct Error {
-    long number;
+    HRESULT result;
     std::wstring source;
     std::wstring description;
 };
@@ -102,11 +104,17 @@ std::wstring textOf(const _bstr_t& text) {
     return text.length() > 0 ? static_cast<const wchar_t*>(text) : L"";
 }
 
-// What the component left as the thread's error object. Reading takes it away.
+// The HRESULT of an error that an event handler finds: a run-time error has its plain number there.
+HRESULT resultOf(DWORD number) {
+    return number < 65536 ? MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, number)
+                          : static_cast<HRESULT>(number);
+}
+
+// Reads the error object that the component left on the thread, which removes it.
 Error takeErrorObject() {
     IErrorInfoPtr info;
     if (GetErrorInfo(0, &info) != S_OK) {
-        return {E_FAIL, L"", L"without an error object"};
+        return {E_FAIL, L"", L"no error object"};
     }
     _bstr_t source;
     _bstr_t text;
@@ -114,14 +122,14 @@ Error takeErrorObject() {
     info->GetSource(source.GetAddress());
     info->GetDescription(text.GetAddress());
     info->GetHelpContext(&helpContext);
-    return {static_cast<long>(helpContext), textOf(source), textOf(text)};
+    return {resultOf(helpContext), textOf(source), textOf(text)};
 }
 
-// Every method of the component answers like this.
+// Throws the error of a method that failed.
 void check(HRESULT result) {
     if (FAILED(result)) {
         Error error = takeErrorObject();
-        error.number = result;
+        error.result = result;
         throw error;
     }
 }
@@ -139,19 +147,21 @@ std::wstring replaced(std::wstring text, const std::wstring& part, const std::ws
 }
 
 std::wstring errorText(const Error& error) {
-    return L"error " + std::to_wstring(error.number) + L" (" +
-           replaced(error.source, L"\r\n", L", ") + L"): " + error.description;
+    wchar_t result[11];
+    std::swprintf(result, std::size(result), L"0x%08lX", static_cast<unsigned long>(error.result));
+    return std::wstring(L"error ") + result + L" (" + replaced(error.source, L"\r\n", L", ") +
+           L"): " + error.description;
 }
 
-// Commit raises an error when it cannot replace a file, but none when it cannot write the new one.
+// Commit raises an error if it cannot replace a file, but not if it cannot write the new one.
 void checkWritten(const std::wstring& path) {
     if (GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES) {
-        throw Error{E_FAIL, L"invoice.cpp", path + L" is not written."};
+        throw Error{E_FAIL, L"invoice.cpp", path + L" was not written."};
     }
-    say(path + L" is written.");
+    say(path + L" was written.");
 }
 
-// A paragraph's text is RTF: in a text from outside these three are escaped.
+// The text of a paragraph is RTF. These three characters must be escaped in plain text.
 std::wstring escaped(const std::wstring& text) {
     return replaced(replaced(replaced(text, L"\\", L"\\\\"), L"{", L"\\{"), L"}", L"\\}");
 }
@@ -197,7 +207,7 @@ _CRtfTableRowPtr addRow(_CRtfDoc* document) {
     return row;
 }
 
-// The row can be found again by the key.
+// The key finds the row again.
 _CRtfTableRowPtr addRow(_CRtfDoc* document, const wchar_t* key) {
     _variant_t keyOfRow(key);
     _CRtfTableRowsPtr rows;
@@ -208,8 +218,8 @@ _CRtfTableRowPtr addRow(_CRtfDoc* document, const wchar_t* key) {
     return row;
 }
 
-// Adding a cell spreads all cells of the row evenly, so the widths come after the last one. The
-// last cell has what the others leave.
+// Adding a cell makes all cells of the row equally wide, so set the widths after adding the last
+// one. The last cell takes the rest of the row.
 void setWidths(_CRtfTableRow* row, const std::vector<long>& widths) {
     _CRtfTableCellsPtr cells;
     check(row->get_TableCells(&cells));
@@ -238,7 +248,7 @@ void addHead(_CRtfDoc* document) {
     setWidths(title, {60, 40});
     check(title->put_BottomBorder(eThick));
 
-    // \'e9 is a character of Windows-1252, as RTF writes it.
+    // \'e9 is an e with an acute accent, as RTF writes it.
     const _CRtfTableRowPtr address = addRow(document, L"address");
     const _CRtfTableCellPtr receiver = addCell(address, L"Mr Andr\\'e9 Lindqvist", L"receiver");
     addParagraph(receiver, L"Mill Road 8", L"address");
@@ -257,7 +267,7 @@ struct Item {
 void addItem(_CRtfDoc* document, const Item& item) {
     const _CRtfTableRowPtr row = addRow(document);
     const _CRtfTableCellPtr number = addCell(row, escaped(item.number), L"normal");
-    // For the program that books the payment: it finds the number in the document, readers do not
+    // A marked field: the accounting program finds the item number here, and word processors do not
     // show it.
     check(number->asMarkedField(_variant_t((L"item " + item.number).c_str())));
     addCell(row, escaped(item.name), L"normal");
@@ -312,7 +322,8 @@ void makeInvoice(const std::wstring& path) {
     checkWritten(path);
 }
 
-// Listens to the event of a driver. It must live longer than the connection: it is not counted.
+// Listens to the event of a driver. It does not count references, so it must outlive the
+// connection.
 class Listener final : public IDispatch {
 public:
     STDMETHODIMP QueryInterface(REFIID id, void** object) override {
@@ -328,7 +339,7 @@ public:
     STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override {
         return E_NOTIMPL;
     }
-    // The number of the error is the help context of the error object.
+    // The help context of the error object is the number of the error.
     STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*,
                         UINT*) override {
         constexpr DISPID notifyError = 1;
@@ -366,8 +377,8 @@ long rowsOf(_CRtfDriver* driver) {
     return count;
 }
 
-// The driver makes a document from a description. What is wrong with one it tells through its
-// event; what is wrong with the call itself is an error.
+// The driver builds a document from a description. It reports errors in the description through its
+// event, and raises errors of the call itself.
 void makeReminder(const std::wstring& path) {
     _CRtfDriverPtr driver;
     Listener listener;
@@ -376,10 +387,10 @@ void makeReminder(const std::wstring& path) {
     check(driver->put_ErroneousInput(VARIANT_TRUE));
     const Connection connection(driver, &listener);
 
-    // A parenthesis is missing.
+    // Without a parenthesis the description is faulty.
     const std::wstring wrong = replaced(description, L"Reminder)", L"Reminder");
     check(driver->ParseFromMemmory(_bstr_t(wrong.c_str())));
-    say(L"rows made of the wrong description: " + std::to_wstring(rowsOf(driver)));
+    say(L"rows built from the faulty description: " + std::to_wstring(rowsOf(driver)));
 
     try {
         check(driver->ParseFile(_bstr_t(L"no-such-file.rtfspec")));
@@ -388,7 +399,7 @@ void makeReminder(const std::wstring& path) {
     }
 
     check(driver->ParseFromMemmory(_bstr_t(description)));
-    say(L"rows made of the right description: " + std::to_wstring(rowsOf(driver)));
+    say(L"rows built from the correct description: " + std::to_wstring(rowsOf(driver)));
     if (!path.empty()) {
         check(driver->Commit(_bstr_t(path.c_str())));
         checkWritten(path);
@@ -403,7 +414,7 @@ int run(const std::vector<std::wstring>& paths) {
     } catch (const Error& error) {
         say(errorText(error));
     } catch (const _com_error& error) {
-        say(errorText({error.Error(), L"", L"without an error object"}));
+        say(errorText({error.Error(), L"", L"no error object"}));
     }
     return 1;
 }

@@ -1,9 +1,9 @@
-// Makes an invoice through the object model and a reminder from a description:
+// Builds an invoice through the object model and a reminder from a description:
 //
 //     cscript //nologo invoice.js invoice.rtf [reminder.rtf]
 //
-// The processor of the script host must be that of the component: for the
-// 32-bit one on 64-bit Windows it is %SystemRoot%\SysWOW64\cscript.exe.
+// The script host must have as many bits as the component. On 64-bit Windows
+// the 32-bit one is %SystemRoot%\SysWOW64\cscript.exe.
 
 // A script does not see the enumerations of the type library.
 var ePercent = 0;
@@ -15,8 +15,8 @@ var eNormal = 20;
 var eThick = 30;
 var eLightBlue = 19;
 
-// The first style stands for the one character style, so that no number in use
-// is shared by a paragraph and a character style.
+// Paragraph and character styles share numbers. The unused first style keeps
+// "label", the only character style, from sharing the number of a style in use.
 var styleSheet = [
     "{ name: reserved; style-def: s; format: \\f0\\fs20\\cf3 }",
     "{ name: normal; style-def: s; format: \\f0\\fs20\\cf3\\sb60\\sa60 }",
@@ -104,8 +104,8 @@ function makeInvoice(path) {
     setWidths(title, [60, 40]);
     title.BottomBorder = eThick;
 
-    // A key, by which the row can be found again. \'e9 is a character of
-    // Windows-1252, as RTF writes it.
+    // The key finds the row again. \'e9 is an e with an acute accent, as RTF
+    // writes it.
     document.TableRows.AddTail("address");
     var address = document.TableRows.Item("address");
     var receiver = addCell(address, "Mr Andr\\'e9 Lindqvist", "receiver", eNoDefault);
@@ -156,13 +156,13 @@ function makeInvoice(path) {
     checkWritten(path);
 }
 
-// Answers the amount in pence.
+// Returns the amount in pence.
 function addItem(document, item) {
     var amount = item.quantity * item.pence;
     var row = addRow(document);
     var number = addCell(row, escaped(item.number), "normal", eNoDefault);
-    // For the program that books the payment: it finds the number in the
-    // document, readers do not show it.
+    // A marked field: the accounting program finds the item number here, and
+    // word processors do not show it.
     number.asMarkedField("item " + item.number);
     addCell(row, escaped(item.name), "normal", eNoDefault);
     addCell(row, String(item.quantity), "normal", eRight);
@@ -173,17 +173,17 @@ function addItem(document, item) {
     return amount;
 }
 
-// The driver makes a document from a description. What is wrong with one it
-// tells through its event; what is wrong with the call itself is an error.
+// The driver builds a document from a description. It reports errors in the
+// description through its event, and raises errors of the call itself.
 function makeReminder(path) {
     var driver = new ActiveXObject("Quorvane.CRtfDriver");
     driver.LoadStyleSheetFromMemmory(styleSheet);
     driver.ErroneousInput = true;
     connectEvents(driver);
 
-    // A parenthesis is missing.
+    // Without a parenthesis the description is faulty.
     driver.ParseFromMemmory(description.replace("Reminder)", "Reminder"));
-    WScript.Echo("rows made of the wrong description: " + driver.RtfObject.TableRows.Count);
+    WScript.Echo("rows built from the faulty description: " + driver.RtfObject.TableRows.Count);
 
     try {
         driver.ParseFile("no-such-file.rtfspec");
@@ -192,15 +192,15 @@ function makeReminder(path) {
     }
 
     driver.ParseFromMemmory(description);
-    WScript.Echo("rows made of the right description: " + driver.RtfObject.TableRows.Count);
+    WScript.Echo("rows built from the correct description: " + driver.RtfObject.TableRows.Count);
     if (path != "") {
         driver.Commit(path);
         checkWritten(path);
     }
 }
 
-// The host calls driver_notifyError then. Wine's script host cannot do that: it
-// has neither WScript.ConnectObject nor the second argument of
+// Connects driver_notifyError. The script host of Wine cannot do this: it has
+// neither WScript.ConnectObject nor the second argument of
 // WScript.CreateObject.
 function connectEvents(driver) {
     try {
@@ -210,10 +210,10 @@ function connectEvents(driver) {
     }
 }
 
-// A script cannot read which error it is: the component leaves it as the error
-// object of the thread, which JScript does not look at in an event.
+// A script cannot read the error itself: it is in the error object of the
+// thread, which JScript does not read in an event.
 function driver_notifyError(sender) {
-    WScript.Echo("The driver tells of an error in the description; rows so far: " +
+    WScript.Echo("The driver reported an error in the description; rows so far: " +
         sender.RtfObject.TableRows.Count);
 }
 
@@ -238,15 +238,16 @@ function addParagraph(cell, text, style) {
     paragraph.Style = style;
 }
 
-// Adding a cell spreads all cells of the row evenly, so the widths come after
-// the last one. The last cell has what the others leave.
+// Adding a cell makes all cells of the row equally wide, so set the widths
+// after adding the last one. The last cell takes the rest of the row.
 function setWidths(row, widths) {
     for (var i = 0; i < widths.length - 1; ++i) {
         row.TableCells.Item(i + 1).Width(ePercent) = widths[i];
     }
 }
 
-// A paragraph's text is RTF: in a text from outside these three are escaped.
+// The text of a paragraph is RTF. These three characters must be escaped in
+// plain text.
 function escaped(text) {
     return text.replace(/[\\{}]/g, "\\$&");
 }
@@ -256,16 +257,21 @@ function money(pence) {
     return Math.floor(pence / 100) + (fraction < 10 ? ".0" : ".") + fraction;
 }
 
-// Commit raises an error when it cannot replace a file, but none when it cannot
+// Commit raises an error if it cannot replace a file, but not if it cannot
 // write the new one.
 function checkWritten(path) {
     if (!new ActiveXObject("Scripting.FileSystemObject").FileExists(path)) {
-        throw new Error(1000, path + " is not written.");
+        throw new Error(-2147220504, path + " was not written.");
     }
-    WScript.Echo(path + " is written.");
+    WScript.Echo(path + " was written.");
 }
 
-// The source of an error is not told to JScript.
+// JScript does not have the source of an error.
 function errorText(error) {
-    return "error " + error.number + ": " + error.description;
+    return "error " + hresult(error.number) + ": " + error.description;
+}
+
+// The number of an error is its HRESULT as a negative number.
+function hresult(number) {
+    return "0x" + (number >>> 0).toString(16).toUpperCase();
 }

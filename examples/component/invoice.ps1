@@ -1,9 +1,9 @@
-# Makes an invoice through the object model and a reminder from a description:
+# Builds an invoice through the object model and a reminder from a description:
 #
 #     powershell -File invoice.ps1 invoice.rtf [reminder.rtf]
 #
-# Windows PowerShell from version 3 on, and PowerShell 7. Its processor must be
-# that of the component: for the 32-bit one on 64-bit Windows it is
+# It needs Windows PowerShell 3 or later, or PowerShell 7, with as many bits as
+# the component. On 64-bit Windows the 32-bit one is
 # %SystemRoot%\SysWOW64\WindowsPowerShell\v1.0\powershell.exe.
 #
 # The tests do not run this example, because they have no PowerShell.
@@ -24,8 +24,8 @@ $eNormal = 20
 $eThick = 30
 $eLightBlue = 19
 
-# The first style stands for the one character style, so that no number in use
-# is shared by a paragraph and a character style.
+# Paragraph and character styles share numbers. The unused first style keeps
+# "label", the only character style, from sharing the number of a style in use.
 $styleSheet = @'
 { name: reserved; style-def: s; format: \f0\fs20\cf3 }
 { name: normal; style-def: s; format: \f0\fs20\cf3\sb60\sa60 }
@@ -84,10 +84,10 @@ row)
 doc)
 '@
 
-# Events that arise while a method runs must be handled at once, which
-# Register-ObjectEvent does not do. So a listener is compiled. It reads the error
-# object of the thread, whose help context is the number, before PowerShell does
-# anything else.
+# The event must be handled while the method runs, which Register-ObjectEvent
+# does not do, so a listener is compiled. It reads the error object of the
+# thread, whose help context is the number, before PowerShell does anything
+# else.
 Add-Type -TypeDefinition @'
 using System;
 using System.Runtime.InteropServices;
@@ -178,8 +178,8 @@ function Add-Paragraph($cell, [string] $text, [string] $style) {
     $paragraph.Style = $style
 }
 
-# Adding a cell spreads all cells of the row evenly, so the widths come after the
-# last one. The last cell has what the others leave.
+# Adding a cell makes all cells of the row equally wide, so set the widths after
+# adding the last one. The last cell takes the rest of the row.
 function Set-Widths($row, [int[]] $widths) {
     for ($i = 0; $i -lt $widths.Length - 1; ++$i) {
         $cell = $row.TableCells.Item($i + 1)
@@ -187,7 +187,8 @@ function Set-Widths($row, [int[]] $widths) {
     }
 }
 
-# A paragraph's text is RTF: in a text from outside these three are escaped.
+# The text of a paragraph is RTF. These three characters must be escaped in
+# plain text.
 function Get-Escaped([string] $text) {
     $text.Replace('\', '\\').Replace('{', '\{').Replace('}', '\}')
 }
@@ -196,22 +197,26 @@ function Get-Money([int] $pence) {
     '{0}.{1:00}' -f [Math]::Floor($pence / 100), ($pence % 100)
 }
 
-# Commit raises an error when it cannot replace a file, but none when it cannot
-# write the new one.
+# Commit raises an error if it cannot replace a file, but not if it cannot write
+# the new one.
 function Confirm-Written([string] $path) {
     if (-not (Test-Path -LiteralPath $path -PathType Leaf)) {
-        throw (New-Object System.IO.FileNotFoundException "$path is not written.")
+        throw (New-Object System.IO.FileNotFoundException "$path was not written.")
     }
-    Write-Host "$path is written."
+    Write-Host "$path was written."
 }
 
-# The component knows the folder of the process, not that of PowerShell.
+# The component uses the current folder of the process, not that of PowerShell.
 function Get-FullPath([string] $path) {
     $ExecutionContext.SessionState.Path.GetUnresolvedProviderPathFromPSPath($path)
 }
 
 function Get-ErrorText([int] $number, [string] $source, [string] $description) {
-    "error $number ($($source.Replace("`r`n", ', '))): $description"
+    # In the event, a run-time error has its plain number instead of an HRESULT.
+    if ($number -gt 0 -and $number -lt 65536) {
+        $number += 0x800A0000
+    }
+    'error 0x{0:X8} ({1}): {2}' -f $number, $source.Replace("`r`n", ', '), $description
 }
 
 function Get-ExceptionText([Exception] $exception) {
@@ -235,8 +240,8 @@ function New-Invoice([string] $path) {
     Set-Widths $title 60, 40
     $title.BottomBorder = $eThick
 
-    # A key, by which the row can be found again. \'e9 is a character of
-    # Windows-1252, as RTF writes it.
+    # The key finds the row again. \'e9 is an e with an acute accent, as RTF
+    # writes it.
     [void] $document.TableRows.AddTail('address')
     $address = $document.TableRows.Item('address')
     $receiver = Add-Cell $address "Mr Andr\'e9 Lindqvist" 'receiver'
@@ -288,8 +293,8 @@ function New-Invoice([string] $path) {
 function Add-Item($document, $item) {
     $row = Add-Row $document
     $number = Add-Cell $row (Get-Escaped $item.Number) 'normal'
-    # For the program that books the payment: it finds the number in the
-    # document, readers do not show it.
+    # A marked field: the accounting program finds the item number here, and
+    # word processors do not show it.
     [void] $number.asMarkedField("item $($item.Number)")
     [void] (Add-Cell $row (Get-Escaped $item.Name) 'normal')
     [void] (Add-Cell $row ([string] $item.Quantity) 'normal' $eRight)
@@ -299,8 +304,8 @@ function Add-Item($document, $item) {
     $row.BottomBorder = $eHair
 }
 
-# The driver makes a document from a description. What is wrong with one it tells
-# through its event; what is wrong with the call itself is an error.
+# The driver builds a document from a description. It reports errors in the
+# description through its event, and raises errors of the call itself.
 function New-Reminder([string] $path) {
     $driver = New-Object -ComObject 'Quorvane.CRtfDriver'
     [void] $driver.LoadStyleSheetFromMemmory($styleSheet)
@@ -310,9 +315,9 @@ function New-Reminder([string] $path) {
         Write-Host "in the description: $(Get-ErrorText $number $source $text)"
     }
 
-    # A parenthesis is missing.
+    # Without a parenthesis the description is faulty.
     [void] $driver.ParseFromMemmory($description.Replace('Reminder)', 'Reminder'))
-    Write-Host "rows made of the wrong description: $($driver.RtfObject.TableRows.Count)"
+    Write-Host "rows built from the faulty description: $($driver.RtfObject.TableRows.Count)"
 
     try {
         [void] $driver.ParseFile('no-such-file.rtfspec')
@@ -321,7 +326,7 @@ function New-Reminder([string] $path) {
     }
 
     [void] $driver.ParseFromMemmory($description)
-    Write-Host "rows made of the right description: $($driver.RtfObject.TableRows.Count)"
+    Write-Host "rows built from the correct description: $($driver.RtfObject.TableRows.Count)"
     $connection.Dispose()
     if ($path) {
         [void] $driver.Commit($path)

@@ -1,9 +1,9 @@
-"""Makes an invoice through the object model and a reminder from a description:
+"""Builds an invoice through the object model and a reminder from a description:
 
     python invoice.py invoice.rtf [reminder.rtf]
 
-It needs Windows, pywin32, the component registered with its type library, and a Python of the
-component's processor (py -3-32 for the 32-bit one).
+It needs Windows, pywin32, the registered component with its type library, and a Python with as many
+bits as the component (py -3-32 for the 32-bit one).
 
 The tests do not run this example, because they have no Python for Windows.
 """
@@ -16,8 +16,8 @@ import pythoncom
 import win32com.client
 from win32com.client import constants, gencache
 
-# The first style stands for the one character style, so that no number in use is shared by a
-# paragraph and a character style.
+# Paragraph and character styles share numbers. The unused first style keeps "label", the only
+# character style, from sharing the number of a style in use.
 STYLE_SHEET = r"""
 { name: reserved; style-def: s; format: \f0\fs20\cf3 }
 { name: normal; style-def: s; format: \f0\fs20\cf3\sb60\sa60 }
@@ -100,8 +100,7 @@ def make_invoice(path):
     set_widths(title, [60, 40])
     title.BottomBorder = constants.eThick
 
-    # A key, by which the row can be found again. \'e9 is a character of Windows-1252, as RTF
-    # writes it.
+    # The key finds the row again. \'e9 is an e with an acute accent, as RTF writes it.
     document.TableRows.AddTail("address")
     address = document.TableRows.Item("address")
     receiver = add_cell(address, r"Mr Andr\'e9 Lindqvist", "receiver")
@@ -145,11 +144,11 @@ def make_invoice(path):
 
 
 def add_item(document, number, name, quantity, pence):
-    """Answers the amount in pence."""
+    """Returns the amount in pence."""
     amount = quantity * pence
     row = add_row(document)
     cell = add_cell(row, escaped(number), "normal")
-    # For the program that books the payment: it finds the number in the document, readers do not
+    # A marked field: the accounting program finds the item number here, and word processors do not
     # show it.
     cell.asMarkedField("item " + number)
     add_cell(row, escaped(name), "normal")
@@ -169,16 +168,16 @@ class DriverEvents:
 
 
 def make_reminder(path):
-    """The driver makes a document from a description. What is wrong with one it tells through its
-    event; what is wrong with the call itself is an error."""
+    """The driver builds a document from a description. It reports errors in the description through
+    its event, and raises errors of the call itself."""
     driver = gencache.EnsureDispatch("Quorvane.CRtfDriver")
     driver.LoadStyleSheetFromMemmory(STYLE_SHEET)
     driver.ErroneousInput = True
     events = win32com.client.WithEvents(driver, DriverEvents)
 
-    # A parenthesis is missing.
+    # Without a parenthesis the description is faulty.
     driver.ParseFromMemmory(DESCRIPTION.replace("Reminder)", "Reminder"))
-    print(f"rows made of the wrong description: {driver.RtfObject.TableRows.Count}")
+    print(f"rows built from the faulty description: {driver.RtfObject.TableRows.Count}")
 
     try:
         driver.ParseFile("no-such-file.rtfspec")
@@ -186,7 +185,7 @@ def make_reminder(path):
         print(error_text(*details_of(error)))
 
     driver.ParseFromMemmory(DESCRIPTION)
-    print(f"rows made of the right description: {driver.RtfObject.TableRows.Count}")
+    print(f"rows built from the correct description: {driver.RtfObject.TableRows.Count}")
     # Driver and listener hold each other until the connection ends.
     events.close()
     if path:
@@ -216,15 +215,15 @@ def add_paragraph(cell, text, style):
 
 
 def set_widths(row, widths):
-    """Adding a cell spreads all cells of the row evenly, so the widths come after the last one. The
-    last cell has what the others leave. Python has no properties with parameters: setting Width is
-    the method SetWidth."""
+    """Adding a cell makes all cells of the row equally wide, so set the widths after adding the last
+    one. The last cell takes the rest of the row. Python has no properties with parameters: the
+    method SetWidth sets Width."""
     for position, width in enumerate(widths[:-1], start=1):
         row.TableCells.Item(position).SetWidth(constants.ePercent, width)
 
 
 def escaped(text):
-    """A paragraph's text is RTF: in a text from outside these three are escaped."""
+    """The text of a paragraph is RTF. These three characters must be escaped in plain text."""
     return text.replace("\\", "\\\\").replace("{", "\\{").replace("}", "\\}")
 
 
@@ -233,11 +232,10 @@ def money(pence):
 
 
 def check_written(path):
-    """Commit raises an error when it cannot replace a file, but none when it cannot write the new
-    one."""
+    """Commit raises an error if it cannot replace a file, but not if it cannot write the new one."""
     if not os.path.isfile(path):
-        raise FileNotFoundError(f"{path} is not written.")
-    print(f"{path} is written.")
+        raise FileNotFoundError(f"{path} was not written.")
+    print(f"{path} was written.")
 
 
 def details_of(error):
@@ -249,12 +247,12 @@ def details_of(error):
 
 
 def take_error_object():
-    """Number, source and description of the error that a handler is told of: the error object of
-    the thread, its help context the number. pywin32 does not give access to it. The numbers are the
-    places in the interface IErrorInfo."""
+    """Number, source and description of the error that an event handler finds in the error object of
+    the thread, whose help context is the number. pywin32 has no access to it. The numbers below are
+    the positions of the methods in the interface IErrorInfo."""
     info = ctypes.c_void_p()
     if ctypes.oledll.oleaut32.GetErrorInfo(0, ctypes.byref(info)) != 0:
-        return 0, "", "without an error object"
+        return 0, "", "no error object"
     number = ctypes.c_long()
     try:
         get_help_context = ctypes.WINFUNCTYPE(ctypes.HRESULT, ctypes.POINTER(ctypes.c_long))(
@@ -277,7 +275,10 @@ def text_of(info, place, name):
 
 
 def error_text(number, source, description):
-    return "error {} ({}): {}".format(number, source.replace("\r\n", ", "), description)
+    # In the event, a run-time error has its plain number instead of an HRESULT.
+    result = 0x800A0000 + number if 0 < number < 65536 else number & 0xFFFFFFFF
+    source = source.replace("\r\n", ", ")
+    return f"error 0x{result:08X} ({source}): {description}"
 
 
 def main(arguments):

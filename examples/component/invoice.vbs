@@ -1,9 +1,9 @@
-' Makes an invoice through the object model and a reminder from a description:
+' Builds an invoice through the object model and a reminder from a description:
 '
 '     cscript //nologo invoice.vbs invoice.rtf [reminder.rtf]
 '
-' The processor of the script host must be that of the component: for the
-' 32-bit one on 64-bit Windows it is %SystemRoot%\SysWOW64\cscript.exe.
+' The script host must have as many bits as the component. On 64-bit Windows the
+' 32-bit one is %SystemRoot%\SysWOW64\cscript.exe.
 Option Explicit
 
 ' A script does not see the enumerations of the type library.
@@ -21,7 +21,7 @@ If WScript.Arguments.Count = 0 Then
     WScript.Quit 2
 End If
 
-' An error in a procedure ends the procedure and is in Err here.
+' An error in a procedure ends the procedure; Err holds the error here.
 On Error Resume Next
 MakeInvoice WScript.Arguments(0)
 If Err.Number = 0 Then
@@ -53,8 +53,8 @@ Sub MakeInvoice(path)
     SetWidths row, Array(60, 40)
     row.BottomBorder = eThick
 
-    ' A key, by which the row can be found again. \'e9 is a character of
-    ' Windows-1252, as RTF writes it.
+    ' The key finds the row again. \'e9 is an e with an acute accent, as RTF
+    ' writes it.
     document.TableRows.AddTail "address"
     Set row = document.TableRows.Item("address")
     Set cell = AddCell(row, "Mr Andr\'e9 Lindqvist", "receiver", eNoDefault)
@@ -85,8 +85,8 @@ Sub MakeInvoice(path)
         total = total + amount
         Set row = AddRow(document)
         Set cell = AddCell(row, Escaped(item(0)), "normal", eNoDefault)
-        ' For the program that books the payment: it finds the number in the
-        ' document, readers do not show it.
+        ' A marked field: the accounting program finds the item number here, and
+        ' word processors do not show it.
         cell.asMarkedField "item " & item(0)
         AddCell row, Escaped(item(1)), "normal", eNoDefault
         AddCell row, CStr(item(2)), "normal", eRight
@@ -115,8 +115,8 @@ Sub MakeInvoice(path)
     CheckWritten path
 End Sub
 
-' The driver makes a document from a description. What is wrong with one it
-' tells through its event; what is wrong with the call itself is an error.
+' The driver builds a document from a description. It reports errors in the
+' description through its event, and raises errors of the call itself.
 Sub MakeReminder(path)
     Dim driver, text
     Set driver = CreateObject("Quorvane.CRtfDriver")
@@ -124,24 +124,23 @@ Sub MakeReminder(path)
     driver.ErroneousInput = True
     ConnectEvents driver
 
-    ' A parenthesis is missing.
+    ' Without a parenthesis the description is faulty.
     text = Description()
     driver.ParseFromMemmory Replace(text, "Reminder)", "Reminder")
-    WScript.Echo "rows made of the wrong description: " & driver.RtfObject.TableRows.Count
+    WScript.Echo "rows built from the faulty description: " & driver.RtfObject.TableRows.Count
 
     TryToParse driver, "no-such-file.rtfspec"
 
     driver.ParseFromMemmory text
-    WScript.Echo "rows made of the right description: " & driver.RtfObject.TableRows.Count
+    WScript.Echo "rows built from the correct description: " & driver.RtfObject.TableRows.Count
     If path <> "" Then
         driver.Commit path
         CheckWritten path
     End If
 End Sub
 
-' The host calls driver_notifyError then. Wine's script host cannot do that: it
-' has neither WScript.ConnectObject nor the second argument of
-' WScript.CreateObject.
+' Connects driver_notifyError. The script host of Wine cannot do this: it has
+' neither WScript.ConnectObject nor the second argument of WScript.CreateObject.
 Sub ConnectEvents(driver)
     On Error Resume Next
     WScript.ConnectObject driver, "driver_"
@@ -151,10 +150,10 @@ Sub ConnectEvents(driver)
     End If
 End Sub
 
-' A script cannot read which error it is: the component leaves it as the error
-' object of the thread, which VBScript does not look at in an event.
+' A script cannot read the error itself: it is in the error object of the
+' thread, which VBScript does not read in an event.
 Sub driver_notifyError(Sender)
-    WScript.Echo "The driver tells of an error in the description; rows so far: " & _
+    WScript.Echo "The driver reported an error in the description; rows so far: " & _
         Sender.RtfObject.TableRows.Count
 End Sub
 
@@ -190,8 +189,8 @@ Sub AddParagraph(cell, text, style)
     paragraph.Style = style
 End Sub
 
-' Adding a cell spreads all cells of the row evenly, so the widths come after
-' the last one. The last cell has what the others leave.
+' Adding a cell makes all cells of the row equally wide, so set the widths after
+' adding the last one. The last cell takes the rest of the row.
 Sub SetWidths(row, widths)
     Dim i
     For i = 0 To UBound(widths) - 1
@@ -199,7 +198,8 @@ Sub SetWidths(row, widths)
     Next
 End Sub
 
-' A paragraph's text is RTF: in a text from outside these three are escaped.
+' The text of a paragraph is RTF. These three characters must be escaped in
+' plain text.
 Function Escaped(text)
     Escaped = Replace(Replace(Replace(text, "\", "\\"), "{", "\{"), "}", "\}")
 End Function
@@ -208,17 +208,26 @@ Function Money(pence)
     Money = CStr(pence \ 100) & "." & Right("0" & CStr(pence Mod 100), 2)
 End Function
 
-' Commit raises an error when it cannot replace a file, but none when it cannot
-' write the new one.
+' Commit raises an error if it cannot replace a file, but not if it cannot write
+' the new one.
 Sub CheckWritten(path)
     If Not CreateObject("Scripting.FileSystemObject").FileExists(path) Then
-        Err.Raise vbObjectError + 1000, "invoice.vbs", path & " is not written."
+        Err.Raise vbObjectError + 1000, "invoice.vbs", path & " was not written."
     End If
-    WScript.Echo path & " is written."
+    WScript.Echo path & " was written."
 End Sub
 
 Function ErrorText(number, source, description)
-    ErrorText = "error " & number & " (" & Replace(source, vbCrLf, ", ") & "): " & description
+    ErrorText = "error " & HResult(number) & " (" & Replace(source, vbCrLf, ", ") & "): " & _
+        description
+End Function
+
+' Err.Number is the HRESULT of an error, but for a run-time error its lower 16 bits.
+Function HResult(ByVal number)
+    If number > 0 And number < 65536 Then
+        number = &H800A0000 + number
+    End If
+    HResult = "0x" & Right("0000000" & Hex(number), 8)
 End Function
 
 Function Lines(all)
@@ -228,8 +237,8 @@ Function Lines(all)
     Next
 End Function
 
-' The first style stands for the one character style, so that no number in use
-' is shared by a paragraph and a character style.
+' Paragraph and character styles share numbers. The unused first style keeps
+' "label", the only character style, from sharing the number of a style in use.
 Function StyleSheet()
     StyleSheet = Lines(Array( _
         "{ name: reserved; style-def: s; format: \f0\fs20\cf3 }", _

@@ -1,364 +1,217 @@
 #include "quorvane/diagnostics/RtfCheck.h"
 
 #include <algorithm>
-#include <charconv>
-#include <iterator>
 #include <utility>
-
-#include "quorvane/diagnostics/rtfWords.h"
 
 namespace quorvane {
 
 namespace {
 
 constexpr std::size_t deepestGroups = 1000;
-// Control words and numbers are cut to these lengths: longer ones are none.
-constexpr std::size_t longestWord = 64;
-constexpr std::size_t longestNumber = 15;
-
-bool isLetter(unsigned char byte) {
-    return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
-}
-
-bool isDigit(unsigned char byte) {
-    return byte >= '0' && byte <= '9';
-}
-
-bool isHexDigit(unsigned char byte) {
-    return isDigit(byte) || (byte >= 'a' && byte <= 'f') || (byte >= 'A' && byte <= 'F');
-}
-
-/// The bytes of a text that change nothing: all but braces, backslashes, line ends and ";", which
-/// ends the entries of the color table.
-constexpr std::array<bool, 256> plainBytes = [] {
-    std::array<bool, 256> plain{};
-    plain.fill(true);
-    for (const char special : {'{', '}', '\\', '\r', '\n', ';'}) {
-        plain[static_cast<unsigned char>(special)] = false;
-    }
-    return plain;
-}();
-
-/// What a control word is to the check.
-enum class Role : std::uint8_t {
-    None,
-    RowDefinition,
-    CellDefinition,
-    Cell,
-    Row,
-    Level,
-    NestedCell,
-    NestedRow,
-    Font,
-    DefaultFont,
-    Color,
-    Binary,
-    // In the order of the kinds of styles.
-    ParagraphStyle,
-    CharacterStyle,
-    SectionStyle,
-    TableStyle,
-};
-
-struct RoleOfWord {
-    std::string_view word;
-    Role role = Role::None;
-};
-
-constexpr RoleOfWord rolesOfWords[] = {
-    {"trowd", Role::RowDefinition},
-    {"cellx", Role::CellDefinition},
-    {"cell", Role::Cell},
-    {"row", Role::Row},
-    {"itap", Role::Level},
-    {"nestcell", Role::NestedCell},
-    {"nestrow", Role::NestedRow},
-    {"f", Role::Font},
-    {"deff", Role::DefaultFont},
-    {"bin", Role::Binary},
-    {"s", Role::ParagraphStyle},
-    {"cs", Role::CharacterStyle},
-    {"ds", Role::SectionStyle},
-    {"ts", Role::TableStyle},
-    {"cf", Role::Color},
-    {"cb", Role::Color},
-    {"chcbpat", Role::Color},
-    {"chcfpat", Role::Color},
-    {"cbpat", Role::Color},
-    {"cfpat", Role::Color},
-    {"clcbpat", Role::Color},
-    {"clcfpat", Role::Color},
-    {"brdrcf", Role::Color},
-    {"highlight", Role::Color},
-    {"ulc", Role::Color},
-    {"trcbpat", Role::Color},
-    {"trcfpat", Role::Color},
-};
-
-constexpr std::size_t roleSlots = 128;
-
-/// Where the search for a word begins in the table of roles.
-constexpr std::size_t firstSlot(std::string_view word) {
-    const auto first = static_cast<unsigned char>(word.front());
-    const auto last = static_cast<unsigned char>(word.back());
-    return (word.size() * 37 + std::size_t{5} * first + std::size_t{11} * last) % roleSlots;
-}
-
-/// The words by what they begin and end with: nearly every look-up is one comparison or none.
-constexpr std::array<RoleOfWord, roleSlots> roleTable = [] {
-    std::array<RoleOfWord, roleSlots> table{};
-    for (const RoleOfWord& entry : rolesOfWords) {
-        std::size_t slot = firstSlot(entry.word);
-        while (table[slot].role != Role::None) {
-            slot = (slot + 1) % roleSlots;
-        }
-        table[slot] = entry;
-    }
-    return table;
-}();
-
-Role roleOf(std::string_view word) {
-    std::size_t slot = firstSlot(word);
-    while (roleTable[slot].role != Role::None) {
-        if (roleTable[slot].word == word) {
-            return roleTable[slot].role;
-        }
-        slot = (slot + 1) % roleSlots;
-    }
-    return Role::None;
-}
-
-template <std::size_t Count>
-bool isAmong(std::string_view word, const std::string_view (&words)[Count]) {
-    return std::find(std::begin(words), std::end(words), word) != std::end(words);
-}
+// Of what a file lacks or RTF does not know, so many different ones are reported of each kind.
+constexpr std::size_t maxReported = 1000;
 
 /// "1 cell", "2 cells".
 std::string counted(std::int64_t number, std::string_view noun) {
     return std::to_string(number) + " " + std::string(noun) + (number == 1 ? "" : "s");
 }
 
-// Destinations whose text is part of the text around them.
-constexpr std::string_view bodyDestinations[] = {"rtf", "field", "fldrslt", "result"};
+bool isBlank(char byte) {
+    return byte == ' ' || byte == '\t';
+}
+
+/// Programs write bytes of this kind after a document.
+bool isPadding(char byte) {
+    return isBlank(byte) || byte == '\0';
+}
+
+/// True for a control that shows a character other than a blank.
+bool showsCharacter(const RtfControl& control, const RtfWord* word) {
+    if (word) {
+        return word->role == RtfRole::Unicode || (word->shown != '\0' && word->shown != ' ');
+    }
+    return control.symbol == '\'' || control.symbol == '\\' || control.symbol == '{' ||
+           control.symbol == '}' || control.symbol == '_';
+}
+
+/// What stands between the groups that follow the document.
+constexpr RtfGroup betweenGroups{RtfDestination::Text, false, false};
 
 }  // namespace
 
 void RtfCheck::feed(std::string_view bytes) {
-    const auto* at = reinterpret_cast<const unsigned char*>(bytes.data());
-    const auto* const end = at + bytes.size();
-    while (at != end) {
-        if (state_ != State::Text) {
-            takeByte(*at);
-            endLine(*at);
-            ++at;
-        } else if (*at == '\\') {
-            at = takeWholeWord(at, end);
-        } else if (plainBytes[*at] && !groups_.back().isFresh) {
-            const auto* const special =
-                std::find_if_not(at, end, [](unsigned char byte) { return plainBytes[byte]; });
-            offset_ += special - at;
-            at = special;
-            lastWasReturn_ = false;
-        } else {
-            takeText(*at);
-            endLine(*at);
-            ++at;
-        }
+    if (hasLostText_) {
+        return;
+    }
+    lexer_.feed(bytes);
+    for (RtfLexer::Token token = lexer_.next(); token != RtfLexer::Token::None;
+         token = lexer_.next()) {
+        take(token);
     }
 }
 
-/// Takes a control word that ends among these bytes, or else its backslash alone. Answers what
-/// follows.
-const unsigned char* RtfCheck::takeWholeWord(const unsigned char* at, const unsigned char* end) {
-    const auto* const wordEnd = std::find_if_not(at + 1, end, isLetter);
-    const auto* numberEnd = wordEnd;
-    if (numberEnd != end && *numberEnd == '-') {
-        ++numberEnd;
+void RtfCheck::take(RtfLexer::Token token) {
+    if (groups_.empty()) {
+        if (hasEnded_) {
+            takeAfterDocument(token);
+            return;
+        }
+        if (token != RtfLexer::Token::Open) {
+            takeBeforeDocument(token);
+            return;
+        }
     }
-    numberEnd = std::find_if_not(numberEnd, end, isDigit);
-    const auto wordLength = static_cast<std::size_t>(wordEnd - at) - 1;
-    const auto numberLength = static_cast<std::size_t>(numberEnd - wordEnd);
-    wordBegin_ = here(1);
-    if (numberEnd == end || wordLength == 0 || wordLength > longestWord ||
-        numberLength > longestNumber) {
-        state_ = State::Backslash;
-        endLine(*at);
-        return at + 1;
+    switch (token) {
+        case RtfLexer::Token::Control:
+            takeControl();
+            break;
+        case RtfLexer::Token::Text:
+            takeText(lexer_.text());
+            break;
+        case RtfLexer::Token::Open:
+            openGroup();
+            break;
+        case RtfLexer::Token::Close:
+            closeGroup();
+            break;
+        case RtfLexer::Token::None:
+            break;
     }
-    word_.assign(at + 1, wordEnd);
-    number_.assign(wordEnd, numberEnd);
-    // A blank ends the word and is no text.
-    const auto* const next = *numberEnd == ' ' ? numberEnd + 1 : numberEnd;
-    offset_ += next - at;
-    lastWasReturn_ = false;
-    applyWord();
-    return next;
+}
+
+void RtfCheck::takeBeforeDocument(RtfLexer::Token token) {
+    if (token == RtfLexer::Token::Text &&
+        std::all_of(lexer_.text().begin(), lexer_.text().end(), isBlank)) {
+        return;
+    }
+    Place at = place(1);
+    if (token == RtfLexer::Token::Text) {
+        const auto blanks = std::find_if_not(lexer_.text().begin(), lexer_.text().end(), isBlank) -
+                            lexer_.text().begin();
+        at.column += blanks;
+        at.offset += blanks;
+    }
+    reportNotRtf(at);
+}
+
+/// Looks for text after the document, which readers do not show.
+void RtfCheck::takeAfterDocument(RtfLexer::Token token) {
+    if (hasLostText_) {
+        return;
+    }
+    const std::string_view text =
+        token == RtfLexer::Token::Text ? lexer_.text() : std::string_view();
+    Place at = place(1);
+    if (!text.empty()) {
+        const auto padding = std::find_if_not(text.begin(), text.end(), isPadding) - text.begin();
+        if (padding == std::ssize(text)) {
+            return;
+        }
+        at.column += padding;
+        at.offset += padding;
+    }
+    if (!std::exchange(hasMore_, true)) {
+        moreBegin_ = at;
+    }
+    const bool isShown = rest_.destination == RtfDestination::Text;
+    const RtfControl& control = lexer_.control();
+    switch (token) {
+        case RtfLexer::Token::Open:
+            hiddenGroups_ += isShown ? 0 : 1;
+            rest_ = isShown ? RtfGroup() : rest_;
+            break;
+        case RtfLexer::Token::Close:
+            rest_ = hiddenGroups_ > 0 ? rest_ : betweenGroups;
+            hiddenGroups_ = std::max<std::int64_t>(hiddenGroups_ - 1, 0);
+            break;
+        case RtfLexer::Token::Text:
+            hasLostText_ = isShown;
+            break;
+        case RtfLexer::Token::Control:
+            if (!control.word.empty()) {
+                rest_.takeWord(lexer_.word());
+            } else if (control.symbol == '*') {
+                rest_.takeMark();
+            }
+            hasLostText_ = isShown && showsCharacter(control, lexer_.word());
+            break;
+        case RtfLexer::Token::None:
+            break;
+    }
+    if (hasLostText_) {
+        engine_.report(DiagnosticId::TextAfterEnd, moreBegin_);
+    }
 }
 
 void RtfCheck::finish() {
-    if (endsWord(' ')) {
-        applyWord();
+    const bool isCutOff = lexer_.isInBinary();
+    const RtfLexer::Token last = lexer_.finish();
+    if (last == RtfLexer::Token::Control) {
+        if (groups_.empty()) {
+            take(last);
+        } else if (lexer_.control().isBadEscape()) {
+            engine_.report(DiagnosticId::BadHexEscape, place(1));
+        } else if (!lexer_.word() && lexer_.control().word.empty()) {
+            engine_.report(DiagnosticId::CutOff, place(1), {"a control word"});
+        } else {
+            take(last);
+        }
     }
-    switch (state_) {
-        case State::Start:
-            if (!toldStart_) {
-                engine_.report(DiagnosticId::NotRtf, here(0));
-            }
-            return;
-        case State::Backslash:
-            engine_.report(DiagnosticId::CutOff, wordBegin_, {"a control word"});
-            break;
-        case State::FirstHexDigit:
-        case State::SecondHexDigit:
-            engine_.report(DiagnosticId::BadHexEscape, wordBegin_);
-            break;
-        case State::Binary:
-            engine_.report(DiagnosticId::CutOff, wordBegin_, {"its binary data"});
-            return;
-        default:
-            break;
+    if (hasEnded_) {
+        if (hasMore_ && !hasLostText_) {
+            engine_.report(DiagnosticId::DataAfterEnd, moreBegin_);
+        }
+        return;
     }
-    if (!groups_.empty()) {
+    if (isCutOff || lexer_.isInBinary()) {
+        engine_.report(DiagnosticId::CutOff, binaryPlace_, {"its binary data"});
+        return;
+    }
+    if (groups_.empty()) {
+        const RtfLexer::Position end = lexer_.here();
+        reportNotRtf({end.line, end.offset - end.lineBegin + 1, 0, end.offset});
+    } else {
         engine_.report(DiagnosticId::UnclosedGroup, groups_.back().begin, {}, unclosedGroupHint());
         endDocument();
     }
 }
 
-Place RtfCheck::here(std::int64_t length) const {
-    return {line_, offset_ - lineBegin_ + 1, length, offset_};
+Place RtfCheck::place(std::int64_t length) const {
+    const RtfLexer::Position& begin = lexer_.begin();
+    return {begin.line, begin.offset - begin.lineBegin + 1, length, begin.offset};
 }
 
-Place RtfCheck::wordPlace() const {
-    Place place = wordBegin_;
-    place.length = static_cast<std::int64_t>(1 + word_.size() + number_.size());
-    return place;
+Place RtfCheck::controlPlace() const {
+    return place(static_cast<std::int64_t>(lexer_.control().shownLength));
 }
 
-void RtfCheck::endLine(unsigned char byte) {
-    ++offset_;
-    if (byte == '\r' || byte == '\n') {
-        line_ += byte == '\n' && lastWasReturn_ ? 0 : 1;
-        lineBegin_ = offset_;
-    }
-    lastWasReturn_ = byte == '\r';
-}
-
-/// True when a control word is at hand that does not go on with the byte.
-bool RtfCheck::endsWord(unsigned char byte) {
-    if (state_ == State::Word) {
-        if (isLetter(byte)) {
-            if (word_.size() < longestWord) {
-                word_ += static_cast<char>(byte);
-            }
-            return false;
-        }
-        if (isDigit(byte) || byte == '-') {
-            number_ = static_cast<char>(byte);
-            state_ = State::Number;
-            return false;
-        }
-        return true;
-    }
-    if (state_ == State::Number) {
-        if (isDigit(byte)) {
-            if (number_.size() < longestNumber) {
-                number_ += static_cast<char>(byte);
-            }
-            return false;
-        }
-        return true;
-    }
-    return false;
-}
-
-void RtfCheck::takeByte(unsigned char byte) {
-    if (state_ == State::Word || state_ == State::Number) {
-        if (!endsWord(byte)) {
-            return;
-        }
-        applyWord();
-        // A blank ends the word and is no text.
-        if (byte == ' ') {
-            return;
-        }
-    }
-    switch (state_) {
-        case State::Start:
-        case State::Text:
-            takeText(byte);
-            break;
-        case State::Backslash:
-            takeBackslash(byte);
-            break;
-        case State::FirstHexDigit:
-        case State::SecondHexDigit:
-            takeHexDigit(byte);
-            break;
-        case State::Binary:
-            if (--binaryLeft_ == 0) {
-                state_ = State::Text;
-            }
-            break;
-        case State::AfterEnd:
-            if (byte != '\r' && byte != '\n' && !toldAfterEnd_) {
-                toldAfterEnd_ = true;
-                engine_.report(DiagnosticId::TextAfterEnd, here(1));
-            }
-            break;
-        case State::Word:
-        case State::Number:
-            break;
-    }
-}
-
-void RtfCheck::takeText(unsigned char byte) {
-    if (byte == '{') {
-        openGroup();
-        return;
-    }
-    if (state_ == State::Start) {
-        const bool isBlank = byte == ' ' || byte == '\t' || byte == '\r' || byte == '\n';
-        if (!isBlank && !toldStart_) {
-            toldStart_ = true;
-            engine_.report(DiagnosticId::NotRtf, here(1));
-        }
-        return;
-    }
-    if (byte == '}') {
-        closeGroup();
-    } else if (byte == '\\') {
-        wordBegin_ = here(1);
-        state_ = State::Backslash;
-    } else if (byte != '\r' && byte != '\n') {
-        Group& group = groups_.back();
-        if (group.isFresh && groups_.size() == 1 && !toldStart_) {
-            toldStart_ = true;
-            engine_.report(DiagnosticId::NotRtf, group.begin);
-        }
-        group.isFresh = false;
-        if (byte == ';' && group.destination == Destination::ColorTable) {
-            ++colors_;
-        }
+void RtfCheck::reportNotRtf(const Place& place) {
+    if (!std::exchange(reportedStart_, true)) {
+        engine_.report(DiagnosticId::NotRtf, place);
     }
 }
 
 void RtfCheck::openGroup() {
     if (groups_.size() >= deepestGroups) {
-        if (!toldDepth_) {
-            toldDepth_ = true;
-            engine_.report(DiagnosticId::DeepNesting, here(1), {std::to_string(deepestGroups)});
+        if (!std::exchange(reportedDepth_, true)) {
+            engine_.report(DiagnosticId::DeepNesting, place(1), {std::to_string(deepestGroups)});
         }
         ++deeperGroups_;
+        groups_.back().isFresh = false;
         return;
     }
     Group group;
     if (!groups_.empty()) {
+        if (!hasBegun_) {
+            reportNotRtf(groups_.back().begin);
+        }
         groups_.back().isFresh = false;
-        group.destination = groups_.back().destination;
+        static_cast<RtfGroup&>(group) = groups_.back().inner();
+        group.isNested = groups_.back().isNested;
+        group.nestedPlace = groups_.back().nestedPlace;
     }
-    group.begin = here(1);
+    group.begin = place(1);
     groups_.push_back(group);
-    state_ = State::Text;
 }
 
 void RtfCheck::closeGroup() {
@@ -368,151 +221,188 @@ void RtfCheck::closeGroup() {
     }
     const Group closed = groups_.back();
     groups_.pop_back();
+    if (closed.destination == RtfDestination::FontTable) {
+        endFont();
+    }
     if (groups_.empty()) {
-        if (closed.isFresh && !toldStart_) {
-            toldStart_ = true;
-            engine_.report(DiagnosticId::NotRtf, closed.begin);
+        if (!hasBegun_) {
+            reportNotRtf(closed.begin);
         }
         endDocument();
-        state_ = State::AfterEnd;
-    } else if (closed.destination != groups_.back().destination) {
-        if (closed.destination == Destination::FontTable) {
-            checkDefaultFont();
-        }
-    } else if (closed.destination == Destination::StyleSheet && !closed.hasNumber) {
+        hasEnded_ = true;
+    } else if (closed.destination == RtfDestination::StyleSheet &&
+               groups_.back().destination == RtfDestination::StyleSheet && !closed.hasNumber) {
         // The number is left out of the style "normal", but counted, and paragraphs carry it.
         styles_[0].insert(lastStyle_ + 1);
         ++lastStyle_;
     }
 }
 
-void RtfCheck::takeBackslash(unsigned char byte) {
-    if (isLetter(byte)) {
-        word_ = static_cast<char>(byte);
-        number_.clear();
-        state_ = State::Word;
+void RtfCheck::takeText(std::string_view text) {
+    Group& group = groups_.back();
+    if (!hasBegun_) {
+        reportNotRtf(group.begin);
+        hasBegun_ = true;
+    }
+    if (group.isFresh || !hasTextInCell_) {
+        const bool isEmpty = std::all_of(text.begin(), text.end(), isBlank);
+        group.isFresh = group.isFresh && isEmpty;
+        hasTextInCell_ = hasTextInCell_ || (!isEmpty && group.destination == RtfDestination::Text);
+    }
+    if (group.destination == RtfDestination::ColorTable) {
+        colors_ += std::count(text.begin(), text.end(), ';');
+    } else if (group.destination == RtfDestination::FontTable) {
+        for (std::size_t end = text.find(';'); end != std::string_view::npos;
+             end = text.find(';')) {
+            addToFont(text.substr(0, end));
+            endFont();
+            text.remove_prefix(end + 1);
+        }
+        addToFont(text);
+    }
+}
+
+void RtfCheck::takeControl() {
+    const RtfControl& control = lexer_.control();
+    if (!control.word.empty()) {
+        takeWord();
         return;
     }
-    state_ = State::Text;
     Group& group = groups_.back();
-    if (byte == '*') {
-        group.isMarked = true;
+    if (!hasBegun_) {
+        reportNotRtf(group.begin);
+        hasBegun_ = true;
+    }
+    if (control.symbol == '*') {
+        group.takeMark();
         return;
     }
     group.isFresh = false;
-    if (byte == '\'') {
-        state_ = State::FirstHexDigit;
+    if (control.isBadEscape()) {
+        engine_.report(DiagnosticId::BadHexEscape, controlPlace());
+    }
+    hasTextInCell_ = hasTextInCell_ || (group.destination == RtfDestination::Text &&
+                                        showsCharacter(control, nullptr));
+    if (group.destination == RtfDestination::FontTable) {
+        addToFont({&control.symbol, 1});
     }
 }
 
-void RtfCheck::takeHexDigit(unsigned char byte) {
-    if (isHexDigit(byte)) {
-        state_ = state_ == State::FirstHexDigit ? State::SecondHexDigit : State::Text;
-        return;
-    }
-    Place place = wordBegin_;
-    place.length = offset_ - wordBegin_.offset;
-    engine_.report(DiagnosticId::BadHexEscape, place);
-    state_ = State::Text;
-    takeText(byte);
-}
-
-void RtfCheck::applyWord() {
-    state_ = State::Text;
+void RtfCheck::takeWord() {
+    const RtfWord* const word = lexer_.word();
     Group& group = groups_.back();
     if (group.isFresh) {
-        group.isFresh = false;
-        applyFirstWord();
+        takeFirstWord();
+    } else if (word && word->destination == RtfDestination::Instruction) {
+        group.takeWord(word);
     }
-    const Role role = roleOf(word_);
-    if (role == Role::None) {
+    if (!word) {
         return;
     }
-    value_ = 0;
-    std::from_chars(number_.data(), number_.data() + number_.size(), value_);
-    if (role == Role::Binary) {
-        if (value_ > 0) {
-            binaryLeft_ = value_;
-            state_ = State::Binary;
+    if (group.destination == RtfDestination::FontTable) {
+        takeFontWord(*word);
+        return;
+    }
+    hasTextInCell_ =
+        hasTextInCell_ || word->brings != RtfContent::None ||
+        (group.destination == RtfDestination::Text && showsCharacter(lexer_.control(), word));
+    if (word->role == RtfRole::None) {
+        return;
+    }
+    if (word->role == RtfRole::Binary) {
+        binaryPlace_ = place(1);
+        if (lexer_.control().number.value_or(0) <= 0) {
+            engine_.report(DiagnosticId::BinaryLength, controlPlace());
         }
-    } else if (role < Role::Font) {
-        if (group.destination == Destination::Body || group.destination == Destination::NestedRow) {
-            applyRowWord();
+    } else if (word->role < RtfRole::Font) {
+        if (group.isOfDocument()) {
+            takeTableWord(word->role);
         }
-    } else if (group.destination != Destination::Other &&
-               group.destination != Destination::Ignorable) {
-        applyReference();
+    } else if (word->role <= RtfRole::TableStyle) {
+        if (group.destination == RtfDestination::StyleSheet && namesStyle(word->role)) {
+            defineStyle(static_cast<std::size_t>(word->role) -
+                        static_cast<std::size_t>(RtfRole::ParagraphStyle));
+        } else if (group.isOfDocument() || group.destination == RtfDestination::StyleSheet) {
+            takeReference(word->role);
+        }
     }
 }
 
-void RtfCheck::applyFirstWord() {
+void RtfCheck::takeFirstWord() {
     Group& group = groups_.back();
-    if (groups_.size() == 1 && word_ != "rtf" && !toldStart_) {
-        toldStart_ = true;
-        engine_.report(DiagnosticId::NotRtf, group.begin);
+    const RtfWord* const word = lexer_.word();
+    if (!std::exchange(hasBegun_, true) && (!word || word->role != RtfRole::Document)) {
+        reportNotRtf(group.begin);
+    } else if (!word && !group.isMarked && group.destination != RtfDestination::Other &&
+               group.destination != RtfDestination::Instruction &&
+               group.destination != RtfDestination::Skipped && isNewWord(lexer_.control().word)) {
+        engine_.report(DiagnosticId::UnknownDestination, controlPlace(),
+                       {"\\" + std::string(lexer_.control().word)});
     }
-    if (group.destination == Destination::Other || group.destination == Destination::Ignorable) {
-        return;
-    }
-    if (word_ == "fonttbl") {
-        group.destination = Destination::FontTable;
-    } else if (word_ == "colortbl") {
-        group.destination = Destination::ColorTable;
-    } else if (word_ == "stylesheet") {
-        group.destination = Destination::StyleSheet;
-    } else if (word_ == "nesttableprops") {
-        group.destination = Destination::NestedRow;
-    } else if (isAmong(word_, bodyDestinations)) {
-        group.destination = Destination::Body;
-    } else if (isRtfDestination(word_)) {
-        group.destination = Destination::Other;
-    } else if (!isRtfWord(word_)) {
-        if (!group.isMarked && groups_.size() > 1) {
-            engine_.report(DiagnosticId::UnknownDestination, wordPlace(), {"\\" + word_});
-        }
-        group.destination = Destination::Ignorable;
-    }
+    group.takeWord(word);
 }
 
-void RtfCheck::applyRowWord() {
-    const bool isNested = groups_.back().destination == Destination::NestedRow;
+void RtfCheck::takeTableWord(RtfRole role) {
+    const bool isNested = groups_.back().destination == RtfDestination::NestedRow;
     Row& row = isNested ? nestedRow_ : row_;
-    switch (roleOf(word_)) {
-        case Role::RowDefinition:
+    const std::int64_t number = lexer_.control().number.value_or(0);
+    switch (role) {
+        case RtfRole::RowDefinition:
+            hasTable_ = true;
             defineRow(row);
             break;
-        case Role::CellDefinition:
-            ++row.definitions;
-            if (value_ <= row.lastEdge) {
-                engine_.report(DiagnosticId::FallingEdge, wordPlace(),
-                               {std::to_string(value_), std::to_string(row.lastEdge)});
+        case RtfRole::InTable:
+            hasTable_ = true;
+            break;
+        case RtfRole::Section:
+            if (row.isOpen || row.isDefinedAnew) {
+                engine_.report(DiagnosticId::SectionInRow, controlPlace());
             }
-            row.lastEdge = value_;
             break;
-        case Role::Cell:
-            beginCell(row);
-            ++row.cells;
-            endNestedRows();
+        case RtfRole::CellDefinition:
+            ++row.definitions;
+            if (number <= row.lastEdge) {
+                engine_.report(DiagnosticId::FallingEdge, controlPlace(),
+                               {std::to_string(number), std::to_string(row.lastEdge)});
+            }
+            row.lastEdge = number;
             break;
-        case Role::Row:
-            endRow(row, row.cells);
+        case RtfRole::Cell:
+            if (hasTable_) {
+                beginCell(row);
+                ++row.cells;
+                row.lastWithText = hasTextInCell_ ? row.cells : row.lastWithText;
+                hasTextInCell_ = false;
+                if (groups_.back().isNested && !isNestedOpen_) {
+                    engine_.report(DiagnosticId::UnendedRow, groups_.back().nestedPlace);
+                }
+                endNestedRows();
+            }
+            break;
+        case RtfRole::Row:
+            endRow(row, row.cells, row.lastWithText);
             noteDepth(row);
             row.cells = 0;
+            row.lastWithText = 0;
             row.isOpen = false;
             row.isDefinedAnew = false;
             break;
-        case Role::Level:
-            level_ = std::clamp<std::int64_t>(value_, 0, std::ssize(nestedCells_) - 1);
+        case RtfRole::Level:
+            level_ = std::clamp<std::int64_t>(number, 0, std::ssize(nestedCells_) - 1);
+            groups_.back().isNested = number > 1;
+            groups_.back().nestedPlace = controlPlace();
             break;
-        case Role::NestedCell:
-            if (!isNestedOpen_) {
-                isNestedOpen_ = true;
-                nestedBegin_ = wordPlace();
+        case RtfRole::ParagraphReset:
+            groups_.back().isNested = false;
+            break;
+        case RtfRole::NestedCell:
+            if (!std::exchange(isNestedOpen_, true)) {
+                nestedBegin_ = controlPlace();
             }
             ++nestedCells();
             break;
-        case Role::NestedRow:
-            endRow(nestedRow_, nestedCells());
+        case RtfRole::NestedRow:
+            endRow(nestedRow_, nestedCells(), nestedCells());
             nestedCells() = 0;
             isNestedOpen_ = std::any_of(nestedCells_.begin(), nestedCells_.end(),
                                         [](std::int64_t cells) { return cells > 0; });
@@ -522,9 +412,9 @@ void RtfCheck::applyRowWord() {
     }
 }
 
-/// A definition may stand before the row's cells, behind them, or in both places.
+/// A definition may stand before the row's cells, after them, or in both places.
 void RtfCheck::defineRow(Row& row) {
-    row.nextBegin = wordPlace();
+    row.nextBegin = controlPlace();
     row.depth = row.isOpen ? row.depth : groups_.size();
     row.definitionsBefore = row.definitions;
     row.isDefinedAnew = true;
@@ -538,10 +428,11 @@ void RtfCheck::beginCell(Row& row) {
     if (isNextRow && row.definitionsBefore > 0) {
         engine_.report(DiagnosticId::UnendedRow, row.begin);
         row.cells = 0;
+        row.lastWithText = 0;
         row.isOpen = false;
     }
     if (!row.isOpen) {
-        row.begin = row.isDefinedAnew ? row.nextBegin : wordPlace();
+        row.begin = row.isDefinedAnew ? row.nextBegin : controlPlace();
     }
     row.isOpen = true;
     row.isDefinedAnew = false;
@@ -560,11 +451,15 @@ std::int64_t& RtfCheck::nestedCells() {
     return nestedCells_[static_cast<std::size_t>(level_)];
 }
 
-void RtfCheck::endRow(Row& row, std::int64_t cells) {
-    if (cells == 0 && row.definitions == 0) {
-        engine_.report(DiagnosticId::RowWithoutCells, wordPlace());
+/// Ends a row of so many cells, of which the last one with text has that position.
+void RtfCheck::endRow(const Row& row, std::int64_t cells, std::int64_t lastWithText) {
+    if (cells == 0) {
+        engine_.report(DiagnosticId::RowWithoutCells, controlPlace());
     } else if (cells != row.definitions) {
-        engine_.report(DiagnosticId::CellCount, wordPlace(),
+        // Readers drop the cells that have no definition.
+        const bool losesText = lastWithText > row.definitions || row.definitions == 0;
+        engine_.report(losesText ? DiagnosticId::CellCount : DiagnosticId::UnevenRow,
+                       controlPlace(),
                        {counted(cells, "cell"), counted(row.definitions, "cell definition")});
     }
 }
@@ -572,14 +467,15 @@ void RtfCheck::endRow(Row& row, std::int64_t cells) {
 /// Looks how many groups are open at the end of a row. Where that is one more than in the rows
 /// before, the row has a "{" too much.
 void RtfCheck::noteDepth(const Row& row) {
+    const std::int64_t line = lexer_.begin().line;
     if (usualDepth_ == 0) {
         usualDepth_ = groups_.size();
-        firstRowLine_ = row.depth > 0 && row.depth < usualDepth_ ? wordBegin_.line : 0;
+        firstRowLine_ = row.depth > 0 && row.depth < usualDepth_ ? line : 0;
     }
     if (groups_.size() <= usualDepth_) {
         deeperRowLine_ = 0;
     } else if (deeperRowLine_ == 0) {
-        deeperRowLine_ = wordBegin_.line;
+        deeperRowLine_ = line;
     }
 }
 
@@ -594,51 +490,88 @@ std::string RtfCheck::unclosedGroupHint() const {
            (deeperRowLine_ != 0 ? "at the ends of the rows before" : "where it begins");
 }
 
-void RtfCheck::applyReference() {
-    const Destination destination = groups_.back().destination;
-    const Role role = roleOf(word_);
-    if (role == Role::Font) {
-        if (destination == Destination::FontTable) {
-            if (!fonts_.insert(value_).second) {
-                engine_.report(DiagnosticId::DuplicateFont, wordPlace(), {std::to_string(value_)});
-            }
-        } else if (!fonts_.contains(value_)) {
-            engine_.report(DiagnosticId::UnknownFont, wordPlace(), {std::to_string(value_)});
-        }
-    } else if (role == Role::DefaultFont) {
-        defaultFont_ = value_;
-        defaultFontPlace_ = wordPlace();
-    } else if (role == Role::Color) {
-        if (value_ != 0 && (value_ < 0 || value_ >= colors_)) {
-            engine_.report(DiagnosticId::UnknownColor, wordPlace(), {std::to_string(value_)});
-        }
+/// A control word in the font table: the number of a font, or a part of its definition.
+void RtfCheck::takeFontWord(const RtfWord& word) {
+    const RtfControl& control = lexer_.control();
+    if (word.destination == RtfDestination::FontTable) {
+        font_ = {};
+    } else if (word.role == RtfRole::Font && !font_.hasNumber) {
+        font_.hasNumber = true;
+        font_.number = control.number.value_or(0);
+        font_.place = controlPlace();
     } else {
-        const auto kind =
-            static_cast<std::size_t>(role) - static_cast<std::size_t>(Role::ParagraphStyle);
-        if (destination == Destination::StyleSheet) {
-            defineStyle(kind);
-        } else if (!styles_[kind].contains(value_) && (kind > 0 || value_ != 0)) {
-            engine_.report(DiagnosticId::UnknownStyle, wordPlace(), {word_ + number_});
+        addToFont(word.word);
+        addToFont(std::to_string(control.number.value_or(0)));
+    }
+}
+
+void RtfCheck::addToFont(std::string_view bytes) {
+    // FNV-1a. Blanks and line ends between the parts of a definition do not count.
+    for (const char byte : bytes) {
+        if (!isBlank(byte)) {
+            font_.hash = (font_.hash ^ static_cast<unsigned char>(byte)) * 0x100000001B3U;
         }
     }
 }
 
-void RtfCheck::checkDefaultFont() {
-    if (defaultFont_ >= 0 && !fonts_.contains(defaultFont_)) {
-        engine_.report(DiagnosticId::UnknownFont, defaultFontPlace_,
-                       {std::to_string(defaultFont_)});
+void RtfCheck::endFont() {
+    const Font font = std::exchange(font_, {});
+    if (!font.hasNumber) {
+        return;
     }
-    defaultFont_ = -1;
+    const auto [entry, isNew] = fonts_.try_emplace(font.number, font.hash);
+    if (!isNew && entry->second != font.hash) {
+        engine_.report(DiagnosticId::DuplicateFont, font.place, {std::to_string(font.number)});
+    }
+}
+
+void RtfCheck::takeReference(RtfRole role) {
+    const std::int64_t number = lexer_.control().number.value_or(0);
+    if (role == RtfRole::Font) {
+        if (!fonts_.contains(number)) {
+            reportMissing(FontKind, DiagnosticId::UnknownFont, number);
+        }
+    } else if (namesColor(role)) {
+        if (number != 0 && (number < 0 || number >= colors_)) {
+            reportMissing(ColorKind, DiagnosticId::UnknownColor, number);
+        }
+    } else {
+        const auto kind =
+            static_cast<std::size_t>(role) - static_cast<std::size_t>(RtfRole::ParagraphStyle);
+        if (!styles_[kind].contains(number) && (kind > 0 || number != 0)) {
+            reportMissing(static_cast<Kind>(FirstStyleKind + kind), DiagnosticId::UnknownStyle,
+                          number);
+        }
+    }
+}
+
+/// Reports a number that no table has, once.
+void RtfCheck::reportMissing(Kind kind, DiagnosticId id, std::int64_t number) {
+    std::unordered_set<std::int64_t>& reported = reported_[kind];
+    if (reported.size() >= maxReported || !reported.insert(number).second) {
+        return;
+    }
+    const std::string name = kind >= FirstStyleKind ? std::string(lexer_.control().word) : "";
+    engine_.report(id, controlPlace(), {name + std::to_string(number)});
+}
+
+/// True for an unknown word that was not reported yet.
+bool RtfCheck::isNewWord(std::string_view word) {
+    return reportedWords_.size() < maxReported && !reportedWords_.contains(word) &&
+           reportedWords_.emplace(word).second;
 }
 
 void RtfCheck::defineStyle(std::size_t kind) {
     Group& group = groups_.back();
-    if (!group.hasNumber && !styles_[kind].insert(value_).second) {
-        engine_.report(DiagnosticId::DuplicateStyleNumber, wordPlace(),
-                       {word_ + std::to_string(value_)});
+    const std::int64_t number = lexer_.control().number.value_or(0);
+    // The rows of a table style, such as its first and its last one, repeat the style's number.
+    constexpr std::size_t tableStyles = 3;
+    if (!group.hasNumber && !styles_[kind].insert(number).second && kind != tableStyles) {
+        engine_.report(DiagnosticId::DuplicateStyleNumber, controlPlace(),
+                       {std::string(lexer_.control().word) + std::to_string(number)});
     }
     if (!group.hasNumber && kind == 0) {
-        lastStyle_ = value_;
+        lastStyle_ = number;
     }
     group.hasNumber = true;
 }

@@ -3,23 +3,29 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <set>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <unordered_set>
+#include <utility>
 #include <vector>
 
 #include "quorvane/diagnostics/Diagnostic.h"
 #include "quorvane/diagnostics/DiagnosticEngine.h"
+#include "quorvane/rtf/RtfGroup.h"
+#include "quorvane/rtf/RtfLexer.h"
 
 namespace quorvane {
 
-/// Checks an RTF file, anyone's, that is handed over piece by piece: whether its groups balance,
-/// its table rows are whole, what it refers to is there, and nothing follows its end. It builds no
-/// tree and keeps no text: its memory does not grow with the file, but with the tables of fonts and
-/// styles alone.
+/// Checks an RTF file, whoever wrote it, that is handed over piece by piece: whether its groups
+/// balance, its table rows are whole, what it refers to is there, and nothing follows its end. It
+/// builds no tree and keeps no text: its memory does not grow with the file, only with the tables
+/// of fonts and styles.
 class RtfCheck {
 public:
-    /// Findings come in the order in which they are certain, which is nearly that of their places.
+    /// Diagnostics come in the order in which they are certain, which is nearly that of their
+    /// places.
     explicit RtfCheck(DiagnosticReceiver receiver) : engine_(std::move(receiver)) {}
 
     /// Takes the next bytes of the file.
@@ -29,44 +35,20 @@ public:
     void finish();
 
 private:
-    enum class State {
-        Start,
-        Text,
-        Backslash,
-        Word,
-        Number,
-        FirstHexDigit,
-        SecondHexDigit,
-        Binary,
-        AfterEnd,
-    };
-
-    /// What the text of a group is.
-    enum class Destination : std::uint8_t {
-        Body,
-        FontTable,
-        ColorTable,
-        StyleSheet,
-        NestedRow,
-        // A group with a meaning of its own, whose text is not the document's.
-        Other,
-        // A group that is marked with \* and that readers may pass over.
-        Ignorable,
-    };
-
-    struct Group {
-        Destination destination = Destination::Body;
-        // True until something stands in the group.
-        bool isFresh = true;
-        bool isMarked = false;
-        // True once an entry of the stylesheet has told its number.
+    struct Group : RtfGroup {
+        // True once an entry of the stylesheet has named its number.
         bool hasNumber = false;
         Place begin{};
+        // Whether the paragraph at hand is in a table within a cell, and where that is said.
+        bool isNested = false;
+        Place nestedPlace{};
     };
 
     /// The cells of a row that is being read.
     struct Row {
         std::int64_t cells = 0;
+        // Position of the last cell with text.
+        std::int64_t lastWithText = 0;
         std::int64_t definitions = 0;
         std::int64_t lastEdge = INT64_MIN;
         // Where its definition or its first cell begins.
@@ -81,61 +63,83 @@ private:
         bool isDefinedAnew = false;
     };
 
-    const unsigned char* takeWholeWord(const unsigned char* at, const unsigned char* end);
-    Place here(std::int64_t length) const;
-    Place wordPlace() const;
-    bool endsWord(unsigned char byte);
-    void takeByte(unsigned char byte);
-    void endLine(unsigned char byte);
-    void takeText(unsigned char byte);
+    /// The entry of the font table that is being read.
+    struct Font {
+        bool hasNumber = false;
+        std::int64_t number = 0;
+        Place place{};
+        // Of all that defines the font.
+        std::uint64_t hash = 0;
+    };
+
+    /// What a document has by number, in the order of the roles that name them.
+    enum Kind : std::size_t { FontKind, ColorKind, FirstStyleKind, kindCount = FirstStyleKind + 4 };
+
+    void take(RtfLexer::Token token);
+    void takeBeforeDocument(RtfLexer::Token token);
+    void takeAfterDocument(RtfLexer::Token token);
+    void takeText(std::string_view text);
+    void takeControl();
+    void takeWord();
+    void takeFirstWord();
     void openGroup();
     void closeGroup();
-    void takeBackslash(unsigned char byte);
-    void takeHexDigit(unsigned char byte);
-    void applyWord();
-    void applyFirstWord();
-    void applyRowWord();
+    void reportNotRtf(const Place& place);
+    Place place(std::int64_t length) const;
+    Place controlPlace() const;
+    void takeTableWord(RtfRole role);
     void defineRow(Row& row);
     void beginCell(Row& row);
     void endNestedRows();
-    void applyReference();
-    void checkDefaultFont();
-    void defineStyle(std::size_t kind);
-    void endRow(Row& row, std::int64_t cells);
+    void endRow(const Row& row, std::int64_t cells, std::int64_t lastWithText);
     void noteDepth(const Row& row);
+    std::int64_t& nestedCells();
+    void takeFontWord(const RtfWord& word);
+    void addToFont(std::string_view bytes);
+    void endFont();
+    void defineStyle(std::size_t kind);
+    void takeReference(RtfRole role);
+    void reportMissing(Kind kind, DiagnosticId id, std::int64_t number);
+    bool isNewWord(std::string_view word);
     std::string unclosedGroupHint() const;
     void endDocument();
-    std::int64_t& nestedCells();
 
     DiagnosticEngine engine_;
-    State state_ = State::Start;
-    // Places: the offset of the byte at hand, its line, and the offset at which the line begins.
-    std::int64_t offset_ = 0;
-    std::int64_t line_ = 1;
-    std::int64_t lineBegin_ = 0;
-    bool lastWasReturn_ = false;
-    // The control word at hand.
-    Place wordBegin_;
-    std::string word_;
-    std::string number_;
-    std::int64_t value_ = 0;
-    std::int64_t binaryLeft_ = 0;
+    RtfLexer lexer_;
     std::vector<Group> groups_;
     // Groups that are nested too deep to be looked at.
     std::int64_t deeperGroups_ = 0;
-    bool toldDepth_ = false;
-    bool toldStart_ = false;
-    bool toldAfterEnd_ = false;
-    std::unordered_set<std::int64_t> fonts_;
+    bool reportedDepth_ = false;
+    bool reportedStart_ = false;
+    // True after the first group has its first word, and after it is closed.
+    bool hasBegun_ = false;
+    bool hasEnded_ = false;
+    // What follows the document: where it begins, the group at hand, how many groups are open in
+    // that one if it is not shown, and whether readers lose text there.
+    bool hasMore_ = false;
+    Place moreBegin_;
+    RtfGroup rest_{RtfDestination::Text, false, false};
+    std::int64_t hiddenGroups_ = 0;
+    bool hasLostText_ = false;
+    // The place of the \bin whose data is being passed over.
+    Place binaryPlace_;
+    // The hash of what defines each font.
+    std::unordered_map<std::int64_t, std::uint64_t> fonts_;
+    Font font_;
     // Entries of the color table, the empty one included.
     std::int64_t colors_ = 0;
-    Place defaultFontPlace_;
-    std::int64_t defaultFont_ = -1;
     // Numbers by kind: paragraph, character, section and table styles.
     std::array<std::unordered_set<std::int64_t>, 4> styles_;
     // Number of the paragraph style that was defined last.
     std::int64_t lastStyle_ = 99;
+    // What was reported: numbers that are missing, by their kind, and unknown words.
+    std::array<std::unordered_set<std::int64_t>, kindCount> reported_;
+    std::set<std::string, std::less<>> reportedWords_;
     Row row_;
+    // True once there is something of a table: a cell before it is in none.
+    bool hasTable_ = false;
+    // True once something is shown in the cell at hand.
+    bool hasTextInCell_ = false;
     // The definition of the nested row at hand, and the cells of nested rows by their level.
     Row nestedRow_;
     std::array<std::int64_t, 32> nestedCells_{};
@@ -150,7 +154,7 @@ private:
     bool isNestedOpen_ = false;
 };
 
-/// The findings about an RTF file that is held as a whole, in the order of their places.
+/// The diagnostics of an RTF file that is held as a whole, in the order of their places.
 std::vector<Diagnostic> checkRtf(std::string_view bytes);
 
 }  // namespace quorvane

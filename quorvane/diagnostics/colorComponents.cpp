@@ -3,37 +3,16 @@
 #include <algorithm>
 #include <charconv>
 #include <cstddef>
+#include <cstdint>
 #include <system_error>
 #include <vector>
 
-#include "quorvane/rtfgroups/CRtfGrpColorTable.h"
 #include "quorvane/support/textCase.h"
 #include "quorvane/support/trimming.h"
 
 namespace quorvane {
 
 namespace {
-
-int componentAfter(std::string_view entry, std::string_view word) {
-    const std::size_t begin = entry.find(word) + word.size();
-    int component = 0;
-    std::from_chars(entry.data() + begin, entry.data() + entry.size(), component);
-    return component;
-}
-
-/// The colors 1, 2 and so on, read from the table that is written.
-std::vector<ColorComponents> readColors() {
-    std::string table;
-    CRtfGrpColorTable().render(table);
-    std::vector<ColorComponents> colors;
-    for (std::size_t at = table.find("\\red"); at != std::string::npos;
-         at = table.find("\\red", at + 1)) {
-        const std::string_view entry = std::string_view(table).substr(at, table.find(';', at) - at);
-        colors.push_back({componentAfter(entry, "\\red"), componentAfter(entry, "\\green"),
-                          componentAfter(entry, "\\blue")});
-    }
-    return colors;
-}
 
 std::optional<int> wholeNumber(std::string_view text, int base) {
     int number = 0;
@@ -42,7 +21,7 @@ std::optional<int> wholeNumber(std::string_view text, int base) {
     return read.ec == std::errc() && read.ptr == end ? std::optional(number) : std::nullopt;
 }
 
-std::optional<ColorComponents> hexadecimal(std::string_view text) {
+std::optional<RgbColor> hexadecimal(std::string_view text) {
     constexpr std::string_view digits = "0123456789abcdef";
     const bool isShort = text.starts_with('#') && text.size() == 4;
     for (const std::string_view mark : {"#", "0x"}) {
@@ -53,18 +32,18 @@ std::optional<ColorComponents> hexadecimal(std::string_view text) {
         return std::nullopt;
     }
     const auto component = [&](std::size_t index) {
-        return isShort ? *wholeNumber(text.substr(index, 1), 16) * 17
-                       : *wholeNumber(text.substr(index * 2, 2), 16);
+        return static_cast<std::uint8_t>(isShort ? *wholeNumber(text.substr(index, 1), 16) * 17
+                                                 : *wholeNumber(text.substr(index * 2, 2), 16));
     };
-    return ColorComponents{component(0), component(1), component(2)};
+    return RgbColor{component(0), component(1), component(2)};
 }
 
-std::optional<ColorComponents> decimal(std::string_view text) {
+std::optional<RgbColor> decimal(std::string_view text) {
     if (text.starts_with("rgb")) {
         text.remove_prefix(text.find('(') == std::string_view::npos ? 3 : text.find('(') + 1);
         text = text.substr(0, text.find(')'));
     }
-    std::vector<int> numbers;
+    std::vector<std::uint8_t> numbers;
     for (std::size_t start = 0; start <= text.size();) {
         const std::size_t end = std::min(text.find(',', start), text.size());
         const std::optional<int> number =
@@ -72,22 +51,22 @@ std::optional<ColorComponents> decimal(std::string_view text) {
         if (!number || *number < 0 || *number > 255 || numbers.size() == 3) {
             return std::nullopt;
         }
-        numbers.push_back(*number);
+        numbers.push_back(static_cast<std::uint8_t>(*number));
         start = end + 1;
     }
-    return numbers.size() == 3 ? std::optional(ColorComponents{numbers[0], numbers[1], numbers[2]})
+    return numbers.size() == 3 ? std::optional(RgbColor{numbers[0], numbers[1], numbers[2]})
                                : std::nullopt;
 }
 
 /// How far a color is from gray.
-int chroma(const ColorComponents& color) {
+int chroma(const RgbColor& color) {
     const auto [least, greatest] = std::minmax({color.red, color.green, color.blue});
     return greatest - least;
 }
 
 /// How far two colors are from each other, the eye's sense of each component considered; a gray is
 /// nearer to a gray than to a pale color.
-int distance(const ColorComponents& a, const ColorComponents& b) {
+int distance(const RgbColor& a, const RgbColor& b) {
     const auto square = [](int difference) { return difference * difference; };
     return 3 * square(a.red - b.red) + 4 * square(a.green - b.green) + 2 * square(a.blue - b.blue) +
            2 * square(chroma(a) - chroma(b));
@@ -95,25 +74,18 @@ int distance(const ColorComponents& a, const ColorComponents& b) {
 
 }  // namespace
 
-std::optional<ColorComponents> componentsOf(std::int32_t color) {
-    static const std::vector<ColorComponents> colors = readColors();
-    return color >= 1 && static_cast<std::size_t>(color) <= colors.size()
-               ? std::optional(colors[static_cast<std::size_t>(color) - 1])
-               : std::nullopt;
-}
-
-std::optional<ColorComponents> componentsIn(std::string_view text) {
+std::optional<RgbColor> componentsIn(std::string_view text) {
     const std::string lower = lowerCase(trimWhitespace(text));
-    const std::optional<ColorComponents> components = hexadecimal(lower);
+    const std::optional<RgbColor> components = hexadecimal(lower);
     return components ? components : decimal(lower);
 }
 
-std::string nearestColorName(const ColorComponents& components, const Vocabulary& vocabulary) {
+std::string nearestColorName(const RgbColor& components, const Vocabulary& vocabulary) {
     std::string nearest;
     int best = 0;
     for (const std::string_view name : Vocabulary::colorNames()) {
-        const std::optional<ColorComponents> color =
-            componentsOf(vocabulary.colorNamed(Value(name)).value_or(eNoColor));
+        const std::optional<RgbColor> color =
+            CRtfGrpColorTable::color(vocabulary.colorNamed(Value(name)).value_or(eNoColor));
         if (color && (nearest.empty() || distance(*color, components) < best)) {
             best = distance(*color, components);
             nearest = name;

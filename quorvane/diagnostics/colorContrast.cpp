@@ -4,24 +4,23 @@
 #include <cmath>
 #include <optional>
 
-#include "quorvane/diagnostics/colorComponents.h"
 #include "quorvane/rtfgroups/CRtfGrpColorTable.h"
 
 namespace quorvane {
 
 namespace {
 
-double linear(int component) {
-    const double share = component / 255.0;
+double linear(std::uint8_t part) {
+    const double share = part / 255.0;
     return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
 }
 
-/// Lightness of a color, from 0 to 1.
-double lightness(std::int32_t color, double otherwise) {
-    const std::optional<ColorComponents> components = componentsOf(color);
-    return components ? 0.2126 * linear(components->red) + 0.7152 * linear(components->green) +
-                            0.0722 * linear(components->blue)
-                      : otherwise;
+/// Lightness of a color of the color table, from 0 to 1.
+double lightness(std::int32_t number, double otherwise) {
+    const std::optional<RgbColor> color = CRtfGrpColorTable::color(number);
+    return color ? 0.2126 * linear(color->red) + 0.7152 * linear(color->green) +
+                       0.0722 * linear(color->blue)
+                 : otherwise;
 }
 
 }  // namespace

@@ -10,12 +10,12 @@
 #include <utility>
 #include <vector>
 
+#include "quorvane/diagnostics/InlineTokens.h"
 #include "quorvane/diagnostics/TrialPlatform.h"
 #include "quorvane/diagnostics/colorContrast.h"
 #include "quorvane/diagnostics/htmlTags.h"
 #include "quorvane/diagnostics/measureHints.h"
 #include "quorvane/diagnostics/nearestWord.h"
-#include "quorvane/diagnostics/rtfControls.h"
 #include "quorvane/diagnostics/rtfText.h"
 #include "quorvane/diagnostics/textColors.h"
 #include "quorvane/diagnostics/trialDocument.h"

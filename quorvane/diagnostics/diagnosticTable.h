@@ -1591,9 +1591,19 @@ QUORVANE_DIAGNOSTIC(UnclosedGroup, "unclosed-group", Error, Rtf,
 
 QUORVANE_DIAGNOSTIC(TextAfterEnd, "text-after-end", Error, Rtf,
     "The document ends before this.",
-    "Nothing but line breaks follows the brace that closes the document. Where more follows, "
-    "a `}` stands too much before: readers show what is in front of it.",
+    "Readers stop at the brace that closes the document. Where text follows it, there is one `}` "
+    "too many before it, and readers lose that text. Blanks, line ends and NUL bytes, which "
+    "programs write there, are fine.",
     "{\\rtf1 {\\b Total}} Sum}\n",
+    "{\\rtf1 {\\b Total} Sum}\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(DataAfterEnd, "data-after-end", Warning, Rtf,
+    "The document ends before this.",
+    "Something that shows no text follows the brace that closes the document, such as another `}` "
+    "or a group of data: one `}` too many stands before it, or the file was put together from "
+    "others. Readers pass over it.",
+    "{\\rtf1 {\\b Total} Sum}}\n",
     "{\\rtf1 {\\b Total} Sum}\n",
     "")
 
@@ -1611,6 +1621,15 @@ QUORVANE_DIAGNOSTIC(CutOff, "cut-off", Error, Rtf,
     "The file ends in the middle of a control word or before its binary data is complete.",
     "{\\rtf1 {\\pict\\bin100 abc}}\n",
     "{\\rtf1 {\\pict\\bin3 abc}}\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(BinaryLength, "binary-length", Error, Rtf,
+    "The number of bytes must follow \\bin.",
+    "`\\bin` and a number say how many bytes of binary data follow. Without a number above 0 "
+    "LibreOffice loses a character, or refuses the file. A picture in hexadecimal digits has no "
+    "`\\bin`.",
+    "{\\rtf1 {\\pict\\pngblip\\bin 89504e47}}\n",
+    "{\\rtf1 {\\pict\\pngblip 89504e47}}\n",
     "")
 
 QUORVANE_DIAGNOSTIC(DeepNesting, "deep-nesting", Error, Rtf,
@@ -1640,7 +1659,22 @@ QUORVANE_DIAGNOSTIC(DeepNesting, "deep-nesting", Error, Rtf,
 QUORVANE_DIAGNOSTIC(CellCount, "cell-count", Error, Rtf,
     "The row has {0} and {1}.",
     "A row has as many cells, each ended by `\\cell`, as it has definitions, each ended by "
-    "`\\cellx`.",
+    "`\\cellx`. Readers drop a cell that has no definition, with its text.",
+    "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
+    "{\\trowd\\cellx4000\n"
+    "\\pard\\intbl a\\cell b\\cell\\row}\n"
+    "}\n",
+    "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
+    "{\\trowd\\cellx4000\\cellx8000\n"
+    "\\pard\\intbl a\\cell b\\cell\\row}\n"
+    "}\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(UnevenRow, "uneven-row", Warning, Rtf,
+    "The row has {0} and {1}.",
+    "A row has as many cells, each ended by `\\cell`, as it has definitions, each ended by "
+    "`\\cellx`. Readers add empty cells where some are missing, and drop empty ones that have no "
+    "definition.",
     "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
     "{\\trowd\\cellx4000\\cellx8000\n"
     "\\pard\\intbl a\\cell\\row}\n"
@@ -1653,7 +1687,8 @@ QUORVANE_DIAGNOSTIC(CellCount, "cell-count", Error, Rtf,
 
 QUORVANE_DIAGNOSTIC(RowWithoutCells, "row-without-cells", Error, Rtf,
     "The row has no cells.",
-    "LibreOffice loses the whole table when one of its rows has no cells.",
+    "A row has at least one cell, ended by `\\cell`. LibreOffice loses the whole table when one of "
+    "its rows has none.",
     "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
     "{\\trowd\\row}\n"
     "}\n",
@@ -1663,9 +1698,10 @@ QUORVANE_DIAGNOSTIC(RowWithoutCells, "row-without-cells", Error, Rtf,
     "}\n",
     "")
 
-QUORVANE_DIAGNOSTIC(FallingEdge, "falling-edge", Error, Rtf,
+QUORVANE_DIAGNOSTIC(FallingEdge, "falling-edge", Warning, Rtf,
     "The edge {0} is not to the right of the one before, {1}.",
-    "The right edges of a row's cells rise from left to right.",
+    "The right edges of a row's cells rise from left to right. Where one does not, readers give "
+    "the cell a width of their own.",
     "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
     "{\\trowd\\cellx4000\\cellx4000\n"
     "\\pard\\intbl a\\cell b\\cell\\row}\n"
@@ -1689,19 +1725,35 @@ QUORVANE_DIAGNOSTIC(UnendedRow, "unended-row", Error, Rtf,
     "}\n",
     "")
 
-QUORVANE_DIAGNOSTIC(UnknownFont, "unknown-font", Error, Rtf,
+QUORVANE_DIAGNOSTIC(SectionInRow, "section-in-row", Warning, Rtf,
+    "A section ends within the row.",
+    "`\\sect` stands between rows or outside the table. Within a row, LibreOffice makes two tables "
+    "of one.",
+    "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
+    "{\\trowd\\cellx4000\n"
+    "\\pard\\intbl a\\sect b\\cell\\row}\n"
+    "}\n",
+    "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
+    "{\\trowd\\cellx4000\n"
+    "\\pard\\intbl a b\\cell\\row}\n"
+    "\\sect}\n",
+    "")
+
+QUORVANE_DIAGNOSTIC(UnknownFont, "unknown-font", Warning, Rtf,
     "The font {0} is not in the font table.",
-    "`\\f` and `\\deff` name a font by its number in the font table, which stands before.",
+    "`\\f` and `\\af` name a font by its number in the font table, which stands before. Readers "
+    "show the text in another font. Each number is reported once.",
     "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
     "\\f3 Total}\n",
     "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
     "\\f0 Total}\n",
     "")
 
-QUORVANE_DIAGNOSTIC(UnknownColor, "unknown-color", Error, Rtf,
+QUORVANE_DIAGNOSTIC(UnknownColor, "unknown-color", Warning, Rtf,
     "The color {0} is not in the color table.",
-    "Colours are named by their number in the colour table: the empty entry at its beginning "
-    "is number 0.",
+    "Colors are named by their number in the color table: the empty entry at its beginning is "
+    "number 0. Readers show the color that they have for text without one. Each number is reported "
+    "once.",
     "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
     "{\\colortbl;\\red255\\green0\\blue0;}\n"
     "\\cf2 Total}\n",
@@ -1710,10 +1762,10 @@ QUORVANE_DIAGNOSTIC(UnknownColor, "unknown-color", Error, Rtf,
     "\\cf1 Total}\n",
     "")
 
-QUORVANE_DIAGNOSTIC(UnknownStyle, "unknown-style", Error, Rtf,
+QUORVANE_DIAGNOSTIC(UnknownStyle, "unknown-style", Warning, Rtf,
     "The style {0} is not in the stylesheet.",
     "`\\s`, `\\cs`, `\\ds` and `\\ts` name a style by its number in the list of styles. The "
-    "paragraph style 0 is always there.",
+    "paragraph style 0 is always there. Readers go without the style. Each number is reported once.",
     "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
     "{\\stylesheet{\\s1 sum;}}\n"
     "\\pard\\s2 Total}\n",
@@ -1722,26 +1774,29 @@ QUORVANE_DIAGNOSTIC(UnknownStyle, "unknown-style", Error, Rtf,
     "\\pard\\s1 Total}\n",
     "")
 
-QUORVANE_DIAGNOSTIC(DuplicateFont, "duplicate-font", Error, Rtf,
-    "The font {0} is in the font table already.",
-    "Each font has a number of its own.",
+QUORVANE_DIAGNOSTIC(DuplicateFont, "duplicate-font", Warning, Rtf,
+    "The font {0} is in the font table already, with another definition.",
+    "Each font has a number of its own. Readers differ in which of the two they take. The same "
+    "font may stand there twice.",
     "{\\rtf1{\\fonttbl{\\f0 Arial;}{\\f0 Verdana;}} Total}\n",
     "{\\rtf1{\\fonttbl{\\f0 Arial;}{\\f1 Verdana;}} Total}\n",
     "")
 
-QUORVANE_DIAGNOSTIC(DuplicateStyleNumber, "duplicate-style-number", Error, Rtf,
+QUORVANE_DIAGNOSTIC(DuplicateStyleNumber, "duplicate-style-number", Warning, Rtf,
     "The style {0} is in the stylesheet already.",
-    "Each paragraph style and each character style has a number of its own kind.",
+    "Each paragraph style and each character style has a number of its own kind. Readers differ in "
+    "which of the two they take. The rows of a table style repeat its number.",
     "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
     "{\\stylesheet{\\s1 sum;}{\\s1 total;}} Total}\n",
     "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
     "{\\stylesheet{\\s1 sum;}{\\s2 total;}} Total}\n",
     "")
 
-QUORVANE_DIAGNOSTIC(UnknownDestination, "unknown-destination", Error, Rtf,
+QUORVANE_DIAGNOSTIC(UnknownDestination, "unknown-destination", Warning, Rtf,
     "{0} is no known destination and not marked with \\*.",
-    "A group that begins with a control word that readers may not know is marked with `\\*`, "
-    "so that they pass over it instead of showing what it holds.",
+    "A group that begins with a control word that readers may not know is marked with `\\*`, so "
+    "that they pass over it. Without the mark they ignore the word and show what the group holds. "
+    "Each word is reported once.",
     "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"
     "{\\ourdata 4711}Total}\n",
     "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\n"

@@ -11,12 +11,14 @@
 #include <utility>
 #include <vector>
 
+#include "quorvane/diagnostics/InlineTokens.h"
 #include "quorvane/diagnostics/RtfCheck.h"
 #include "quorvane/diagnostics/documentNumbers.h"
 #include "quorvane/diagnostics/misreadCharacters.h"
 #include "quorvane/diagnostics/nearestWord.h"
-#include "quorvane/diagnostics/rtfControls.h"
-#include "quorvane/diagnostics/rtfWords.h"
+#include "quorvane/rtf/RtfControl.h"
+#include "quorvane/rtf/RtfGroup.h"
+#include "quorvane/rtf/RtfWord.h"
 #include "quorvane/rtfgroups/CRtfGrpColorTable.h"
 #include "quorvane/support/codePage1252.h"
 #include "quorvane/support/textCase.h"
@@ -38,31 +40,23 @@ std::string numberedCharacter(char32_t code) {
     return text;
 }
 
-/// What a destination or a picture brings into a document that nobody sees in the text; empty for
-/// any other word.
-std::string_view broughtBy(std::string_view word) {
-    constexpr std::pair<std::string_view, std::string_view> words[] = {
-        {"object", "an object"},
-        {"objdata", "an object"},
-        {"objemb", "an object"},
-        {"objlink", "a link to a file"},
-        {"objautlink", "a link to a file"},
-        {"objocx", "a program"},
-        {"pict", "a picture"},
-        {"bin", "binary data"},
-        {"template", "a link to a file"},
-        {"nextfile", "a link to a file"},
-        {"subdocument", "a link to a file"},
-        {"file", "a link to a file"},
-        {"ffentrymcr", "a macro"},
-        {"ffexitmcr", "a macro"},
-        {"datastore", "binary data"},
-        {"themedata", "binary data"},
-    };
-    for (const auto& [name, what] : words) {
-        if (word == name) {
-            return what;
-        }
+/// What a control word brings into a document that nobody sees in the text; empty when nothing.
+std::string_view nameOf(RtfContent content) {
+    switch (content) {
+        case RtfContent::Object:
+            return "an object";
+        case RtfContent::Picture:
+            return "a picture";
+        case RtfContent::BinaryData:
+            return "binary data";
+        case RtfContent::FileLink:
+            return "a link to a file";
+        case RtfContent::Program:
+            return "a program";
+        case RtfContent::Macro:
+            return "a macro";
+        case RtfContent::None:
+            break;
     }
     return {};
 }
@@ -124,19 +118,21 @@ std::string_view broughtByField(std::string_view instruction) {
 }
 
 /// Control words that end a cell, a row or the page that the table stands on.
-bool endsCell(std::string_view word) {
-    constexpr std::string_view words[] = {"cell", "cellx", "row", "sect", "trowd"};
-    return std::find(std::begin(words), std::end(words), word) != std::end(words);
+bool endsCell(RtfRole role) {
+    return role == RtfRole::Cell || role == RtfRole::CellDefinition || role == RtfRole::Row ||
+           role == RtfRole::Section || role == RtfRole::RowDefinition;
 }
 
 /// Control words of a table within a cell, which are sound in a text that holds all of its rows.
-bool isOfNestedTable(std::string_view word) {
-    return word == "nestcell" || word == "nestrow" || word == "itap";
+bool isOfNestedTable(RtfRole role) {
+    return role == RtfRole::NestedCell || role == RtfRole::NestedRow || role == RtfRole::Level;
 }
 
 /// Control words that begin what a document begins with.
-bool beginsHeader(std::string_view word) {
-    return word == "rtf" || word == "fonttbl" || word == "colortbl" || word == "stylesheet";
+bool beginsHeader(const RtfWord& word) {
+    return word.role == RtfRole::Document || word.destination == RtfDestination::FontTable ||
+           word.destination == RtfDestination::ColorTable ||
+           word.destination == RtfDestination::StyleSheet;
 }
 
 /// True when the rows of the tables within a text are whole.
@@ -144,15 +140,10 @@ bool hasWholeNestedRows(std::string_view text) {
     const std::vector<Diagnostic> findings =
         checkRtf("{\\rtf1\\trowd\\cellx9 " + std::string(text) + "\\cell\\row}");
     return std::none_of(findings.begin(), findings.end(), [](const Diagnostic& finding) {
-        return finding.id == DiagnosticId::CellCount || finding.id == DiagnosticId::UnendedRow ||
+        return finding.id == DiagnosticId::CellCount || finding.id == DiagnosticId::UnevenRow ||
+               finding.id == DiagnosticId::UnendedRow ||
                finding.id == DiagnosticId::RowWithoutCells;
     });
-}
-
-/// Destinations whose text is part of the text around them.
-bool isOfText(std::string_view destination) {
-    return destination == "field" || destination == "fldrslt" || destination == "rtf" ||
-           destination == "result";
 }
 
 /// What an author most likely means by a control word that is none.
@@ -193,7 +184,7 @@ std::string nearControlWord(std::string_view word) {
 std::string asControlWord(std::string_view word) {
     const std::string control = "\\" + lowerCase(word);
     const RtfControl read = rtfControlAt(control, 0);
-    return isRtfWord(read.word) && read.length == control.size() ? control : std::string();
+    return findRtfWord(read.word) && read.length == control.size() ? control : std::string();
 }
 
 /// The control words that a text in a format was most likely meant to be, where all of its words
@@ -311,11 +302,8 @@ private:
         std::size_t length;
     };
 
-    struct Group {
+    struct Group : RtfGroup {
         std::size_t brace = 0;
-        bool isFresh = true;
-        // True for text that is not the paragraph's own, such as that of a footnote.
-        bool isAside = false;
         // Position of the instruction that the group's text belongs to, from 1 on; 0 for none.
         std::size_t instruction = 0;
         // Characters behind a \u that stand in for it.
@@ -412,7 +400,7 @@ private:
         if (use_ == TextUse::Format) {
             readFormatText(character);
         }
-        groups_.back().isFresh = false;
+        groups_.back().isFresh = groups_.back().isFresh && (character == ' ' || character == '\t');
         if (static_cast<unsigned char>(character) >= 0x80) {
             readOtherCharacter();
             return;
@@ -463,7 +451,7 @@ private:
             return;
         }
         const Group& group = groups_.back();
-        if (group.instruction == 0 || group.isAside) {
+        if (group.instruction == 0 || group.destination != RtfDestination::Instruction) {
             return;
         }
         Instruction& instruction = instructions_[group.instruction - 1];
@@ -489,10 +477,10 @@ private:
 
     void openGroup() {
         findHiddenBraces();
-        Group group = groups_.back();
         groups_.back().isFresh = false;
+        Group group = groups_.back();
+        static_cast<RtfGroup&>(group) = groups_.back().inner();
         group.brace = at_++;
-        group.isFresh = true;
         groups_.push_back(group);
         substitutesLeft_ = 0;
         isBehindUnicode_ = false;
@@ -519,7 +507,7 @@ private:
             return;
         }
         if (control.symbol == '*') {
-            groups_.back().isAside = groups_.back().isAside || groups_.back().isFresh;
+            groups_.back().takeMark();
             at_ += control.length;
             return;
         }
@@ -527,12 +515,11 @@ private:
         if (const std::optional<char> character = characterOf(control, text_, at_)) {
             addToInstruction(*character);
         }
-        if (control.symbol == '\'' && control.length < 4) {
+        if (control.isBadEscape()) {
             report(DiagnosticId::LoneBackslash, 2, {}, "two hexadecimal digits follow \\'");
             swallowedEnd_ = at_ + 4;
             at_ += 2;
-        } else if (control.symbol != '\0' &&
-                   std::string_view("'\\{}~-_|:").find(control.symbol) != std::string_view::npos) {
+        } else if (isRtfSymbol(control.symbol)) {
             at_ += control.length;
         } else {
             report(DiagnosticId::LoneBackslash, 1, {}, loneBackslashHint());
@@ -542,49 +529,58 @@ private:
     }
 
     void readControlWord(const RtfControl& control) {
-        const std::string word =
+        // A stylesheet's formats are written in lower case.
+        const std::string letters =
             isOfStyleSheet() ? lowerCase(control.word) : std::string(control.word);
+        const RtfWord* const word = findRtfWord(letters);
         enterDestination(word, control);
-        if (!isRtfWord(word)) {
-            const std::string near = nearControlWord(word);
-            report(DiagnosticId::UnknownControlWord, control.word.size() + 1, {"\\" + word},
+        if (word) {
+            readKnownWord(*word, control);
+        } else {
+            const std::string near = nearControlWord(letters);
+            report(DiagnosticId::UnknownControlWord, control.word.size() + 1, {"\\" + letters},
                    near.empty()       ? backslashHint()
                    : isOfStyleSheet() ? near
                                       : near + " For a backslash to be seen write \\\\");
         }
-        const std::string_view brought = broughtBy(word);
+        at_ = std::min(at_ + control.length + binaryLengthAfter(control), text_.size());
+    }
+
+    void readKnownWord(const RtfWord& word, const RtfControl& control) {
+        const std::string_view brought = nameOf(word.brings);
         if (!brought.empty()) {
-            report(DiagnosticId::EmbeddedContent, control.word.size() + 1, {"\\" + word, brought},
-                   "");
+            report(DiagnosticId::EmbeddedContent, control.word.size() + 1,
+                   {"\\" + std::string(word.word), brought}, "");
         }
         const std::string_view shown = text_.substr(at_, control.shownLength);
-        if (endsCell(word) && !groups_.back().isAside) {
+        const Group& group = groups_.back();
+        if (endsCell(word.role) && group.destination == RtfDestination::Text) {
             report(DiagnosticId::TableControl, shown.size(), {shown}, "");
-        } else if (isOfNestedTable(word) && (word == "nestrow" || !groups_.back().isAside)) {
+        } else if (isOfNestedTable(word.role) && group.isOfDocument()) {
             nestedControls_.push_back({at_, shown.size()});
-            leavesLevel_ = word == "itap" ? control.number.value_or(0) > 1 : leavesLevel_;
-        } else if (word == "pard") {
+            leavesLevel_ =
+                word.role == RtfRole::Level ? control.number.value_or(0) > 1 : leavesLevel_;
+        } else if (word.role == RtfRole::ParagraphReset) {
             leavesLevel_ = false;
         } else if (beginsHeader(word)) {
             report(DiagnosticId::HeaderControl, shown.size(), {shown}, "");
         }
         if (const std::string_view missing = missingReference(word, control, styles_);
-            !missing.empty() && !groups_.back().isAside) {
+            !missing.empty() && group.isOfDocument()) {
             report(DiagnosticId::UnknownNumber, shown.size(), {shown, missing}, "");
         }
         readCharacterWord(word, control);
-        at_ += control.length;
     }
 
-    void readCharacterWord(const std::string& word, const RtfControl& control) {
+    void readCharacterWord(const RtfWord& word, const RtfControl& control) {
         if (const std::optional<char> character = characterOf(control, text_, at_)) {
-            addToInstruction(*character, word != "u");
+            addToInstruction(*character, word.role != RtfRole::Unicode);
         }
-        if (word == "u") {
+        if (word.role == RtfRole::Unicode) {
             findShownSubstitute();
             substitutesLeft_ = groups_.back().substitutes;
             isBehindUnicode_ = true;
-        } else if (word == "uc") {
+        } else if (word.role == RtfRole::UnicodeLength) {
             groups_.back().substitutes = std::clamp(control.number.value_or(1), 0, 100);
         }
     }
@@ -607,7 +603,7 @@ private:
             end = behind + 1;
         }
         if (use_ != TextUse::Text || end == first || first < substitutesEnd_ ||
-            groups_.back().substitutes > 0 || groups_.back().isAside ||
+            groups_.back().substitutes > 0 || !groups_.back().isOfDocument() ||
             groups_.back().instruction > 0) {
             return;
         }
@@ -617,16 +613,13 @@ private:
                {"write " + group, group});
     }
 
-    void enterDestination(const std::string& word, const RtfControl& control) {
+    void enterDestination(const RtfWord* word, const RtfControl& control) {
         Group& group = groups_.back();
-        if (word == "fldinst") {
+        if (word && word->destination == RtfDestination::Instruction) {
             instructions_.push_back({at_, control.shownLength, {}, {}});
             group.instruction = instructions_.size();
-            group.isAside = false;
-        } else if (group.isFresh && isRtfDestination(word)) {
-            group.isAside = !isOfText(word);
         }
-        group.isFresh = false;
+        group.takeWord(word);
     }
 
     void readOtherCharacter() {

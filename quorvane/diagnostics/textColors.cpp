@@ -1,30 +1,35 @@
 #include "quorvane/diagnostics/textColors.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <optional>
 #include <string>
 #include <utility>
 
-#include "quorvane/diagnostics/rtfControls.h"
-#include "quorvane/diagnostics/rtfWords.h"
+#include "quorvane/diagnostics/InlineTokens.h"
+#include "quorvane/rtf/RtfControl.h"
+#include "quorvane/rtf/RtfGroup.h"
 
 namespace quorvane {
 
 namespace {
 
-bool isGroundWord(std::string_view word) {
-    return word == "highlight" || word == "cb" || word == "chcbpat" || word == "cbpat";
-}
-
-/// The colors behind a control word; `first` are those that text without any has.
-TextColors colorsBehindWord(const RtfControl& control, TextColors colors, TextColors first) {
+/// The colors after a control word; `first` are those that text without any has.
+TextColors colorsAfterWord(const RtfControl& control, TextColors colors, TextColors first) {
+    const RtfWord* const word = findRtfWord(control.word);
     const std::int32_t number = control.number.value_or(0);
-    if (control.word == "cf") {
-        colors.text = number;
-    } else if (isGroundWord(control.word)) {
-        colors.ground = number == 0 ? first.ground : number;
-    } else if (control.word == "plain") {
-        colors = {0, first.ground};
+    switch (word ? word->role : RtfRole::None) {
+        case RtfRole::TextColor:
+            colors.text = number;
+            break;
+        case RtfRole::GroundColor:
+            colors.ground = number == 0 ? first.ground : number;
+            break;
+        case RtfRole::Plain:
+            colors = {0, first.ground};
+            break;
+        default:
+            break;
     }
     return colors;
 }
@@ -32,7 +37,8 @@ TextColors colorsBehindWord(const RtfControl& control, TextColors colors, TextCo
 class ColorReader {
 public:
     ColorReader(std::string_view text, TextColors colors, const KnownStyles* styles)
-        : text_(text), first_(colors), styles_(styles), tokens_(text), groups_{{colors}} {
+        : text_(text), first_(colors), styles_(styles), tokens_(text), groups_(1) {
+        groups_.front().colors = colors;
         groups_.front().isFresh = false;
     }
 
@@ -58,20 +64,18 @@ public:
     }
 
 private:
-    struct Group {
-        TextColors colors;
-        bool isFresh = true;
-        // True for text that is not seen where it stands.
-        bool isAside = false;
+    struct Group : RtfGroup {
+        TextColors colors{};
         bool isToken = false;
     };
 
     bool isInToken() const { return groups_.back().isToken; }
 
     void enter() {
-        Group group = groups_.back();
-        group.isFresh = true;
-        group.isToken = false;
+        groups_.back().isFresh = false;
+        Group group;
+        static_cast<RtfGroup&>(group) = groups_.back().inner();
+        group.colors = groups_.back().colors;
         groups_.push_back(group);
     }
 
@@ -98,28 +102,28 @@ private:
         const RtfControl control = rtfControlAt(text_, at_);
         Group& group = groups_.back();
         if (control.symbol == '*') {
-            group.isAside = group.isAside || group.isFresh;
+            group.takeMark();
             at_ += control.length;
             return;
         }
-        if (group.isFresh && isRtfDestination(control.word)) {
-            group.isAside = control.word != "field" && control.word != "fldrslt";
+        if (control.word.empty()) {
+            group.isFresh = false;
+        } else {
+            group.takeWord(findRtfWord(control.word));
+            group.colors = colorsAfterWord(control, group.colors, first_);
         }
-        group.isAside = group.isAside || control.word == "fldinst";
-        group.isFresh = false;
-        group.colors = colorsBehindWord(control, group.colors, first_);
         const std::optional<char> character = characterOf(control, text_, at_);
         if (character) {
             addSeen(control.length, *character != ' ');
         } else {
-            at_ += control.length;
+            at_ = std::min(at_ + control.length + binaryLengthAfter(control), text_.size());
         }
     }
 
     void addSeen(std::size_t length, bool isSeen) {
         Group& group = groups_.back();
-        group.isFresh = false;
-        if (isSeen && !group.isAside) {
+        group.isFresh = group.isFresh && !isSeen;
+        if (isSeen && group.destination == RtfDestination::Text) {
             if (parts_.empty() || parts_.back().colors != group.colors) {
                 parts_.push_back({text_.substr(at_, 0), group.colors});
             }
@@ -146,7 +150,7 @@ TextColors colorsBehind(std::string_view format, TextColors before) {
     TextColors colors = before;
     for (std::size_t at = format.find('\\'); at != std::string_view::npos;) {
         const RtfControl control = rtfControlAt(format, at);
-        colors = colorsBehindWord(control, colors, {0, before.ground});
+        colors = colorsAfterWord(control, colors, {0, before.ground});
         at = format.find('\\', at + control.length);
     }
     return colors;

@@ -76,7 +76,7 @@ struct Example {
 };
 
 Example colorExample(const std::string& value, const Vocabulary& vocabulary) {
-    const std::optional<ColorComponents> components = componentsIn(value);
+    const std::optional<RgbColor> components = componentsIn(value);
     const std::string name = components ? nearestColorName(*components, vocabulary) : value;
     std::int32_t number = CRtfGrpColorTable::colorNumber(name);
     if (components) {

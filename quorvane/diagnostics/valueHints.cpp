@@ -53,7 +53,7 @@ std::optional<double> twipsOfUnit(std::string_view unit, double number) {
 }  // namespace
 
 Hint colorValueHint(std::string_view value, const Vocabulary& vocabulary) {
-    if (const std::optional<ColorComponents> components = componentsIn(value)) {
+    if (const std::optional<RgbColor> components = componentsIn(value)) {
         return "colors have names; the nearest one to " + std::string(value) + " is " +
                nearestColorName(*components, vocabulary);
     }

@@ -1,6 +1,7 @@
 #include "quorvane/rtfgroups/CRtfGrpColorTable.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <iterator>
 
@@ -10,68 +11,104 @@ namespace {
 
 struct Color {
     std::string_view name;
-    std::string_view entry;
+    RgbColor color;
 };
 
 constexpr Color colors[] = {
-    {"aquamarine", R"(\red127\green255\blue212;)"},
-    {"bisque", R"(\red255\green228\blue196;)"},
-    {"black", R"(\red0\green0\blue0;)"},
-    {"blue", R"(\red0\green0\blue255;)"},
-    {"brown", R"(\red128\green64\blue47;)"},
-    {"chartreuse", R"(\red127\green255\blue0;)"},
-    {"cyan", R"(\red0\green255\blue255;)"},
-    {"dark cyan", R"(\red0\green128\blue128;)"},
-    {"dark gray", R"(\red90\green90\blue90;)"},
-    {"dark green", R"(\red0\green128\blue0;)"},
-    {"dark magenta", R"(\red128\green0\blue128;)"},
-    {"dark red", R"(\red128\green0\blue0;)"},
-    {"dark slate blue", R"(\red72\green61\blue139;)"},
-    {"dark yellow", R"(\red128\green128\blue0;)"},
-    {"deep sky blue", R"(\red0\green154\blue205;)"},
-    {"gold", R"(\red255\green215\blue0;)"},
-    {"gray", R"(\red128\green128\blue128;)"},
-    {"green", R"(\red0\green255\blue0;)"},
-    {"light blue", R"(\red173\green216\blue230;)"},
-    {"light green", R"(\red144\green238\blue144;)"},
-    {"light yellow", R"(\red255\green255\blue224;)"},
-    {"lime green", R"(\red150\green205\blue0;)"},
-    {"magenta", R"(\red255\green0\blue255;)"},
-    {"navy blue", R"(\red0\green0\blue128;)"},
-    {"olive green", R"(\red85\green107\blue47;)"},
-    {"orange", R"(\red255\green165\blue0;)"},
-    {"peach puff", R"(\red255\green218\blue185;)"},
-    {"pink", R"(\red255\green157\blue180;)"},
-    {"purple", R"(\red160\green32\blue240;)"},
-    {"red", R"(\red255\green0\blue0;)"},
-    {"sea green", R"(\red46\green139\blue87;)"},
-    {"silver", R"(\red214\green214\blue214;)"},
-    {"slate blue", R"(\red106\green90\blue205;)"},
-    {"sky blue", R"(\red135\green206\blue235;)"},
-    {"turquoise", R"(\red64\green224\blue208;)"},
-    {"white", R"(\red255\green255\blue255;)"},
-    {"yellow", R"(\red255\green255\blue0;)"},
-    {"brick", R"(\red102\green0\blue0;)"},
-    {"cork", R"(\red153\green102\blue0;)"},
-    {"yellow cork", R"(\red153\green153\blue0;)"},
-    {"dark cork", R"(\red102\green51\blue0;)"},
-    {"dark silver", R"(\red158\green158\blue158;)"},
-    {"gray blue", R"(\red102\green102\blue153;)"},
-    {"dark navy blue", R"(\red51\green0\blue153;)"},
-    {"light royal blue", R"(\red51\green102\blue255;)"},
-    {"violet", R"(\red153\green0\blue255;)"},
-    {"dodger blue", R"(\red0\green102\blue255;)"},
-    {"sargasso green", R"(\red0\green102\blue102;)"},
-    {"royal blue", R"(\red51\green51\blue204;)"},
-    {"light sea green", R"(\red51\green153\blue153;)"},
-    {"deep purple", R"(\red102\green51\blue102;)"},
-    {"steel blue", R"(\red51\green102\blue153;)"},
-    {"asphalt", R"(\red61\green61\blue69;)"},
-    {"dark golden rod", R"(\red205\green149\blue12;)"},
-    {"dark grass", R"(\red0\green102\blue51;)"},
-    {"grass", R"(\red0\green153\blue51;)"},
-    {"red brick", R"(\red153\green0\blue0;)"},
+    {"aquamarine", {127, 255, 212}},
+    {"bisque", {255, 228, 196}},
+    {"black", {0, 0, 0}},
+    {"blue", {0, 0, 255}},
+    {"brown", {128, 64, 47}},
+    {"chartreuse", {127, 255, 0}},
+    {"cyan", {0, 255, 255}},
+    {"dark cyan", {0, 128, 128}},
+    {"dark gray", {90, 90, 90}},
+    {"dark green", {0, 128, 0}},
+    {"dark magenta", {128, 0, 128}},
+    {"dark red", {128, 0, 0}},
+    {"dark slate blue", {72, 61, 139}},
+    {"dark yellow", {128, 128, 0}},
+    {"deep sky blue", {0, 154, 205}},
+    {"gold", {255, 215, 0}},
+    {"gray", {128, 128, 128}},
+    {"green", {0, 255, 0}},
+    {"light blue", {173, 216, 230}},
+    {"light green", {144, 238, 144}},
+    {"light yellow", {255, 255, 224}},
+    {"lime green", {150, 205, 0}},
+    {"magenta", {255, 0, 255}},
+    {"navy blue", {0, 0, 128}},
+    {"olive green", {85, 107, 47}},
+    {"orange", {255, 165, 0}},
+    {"peach puff", {255, 218, 185}},
+    {"pink", {255, 157, 180}},
+    {"purple", {160, 32, 240}},
+    {"red", {255, 0, 0}},
+    {"sea green", {46, 139, 87}},
+    {"silver", {214, 214, 214}},
+    {"slate blue", {106, 90, 205}},
+    {"sky blue", {135, 206, 235}},
+    {"turquoise", {64, 224, 208}},
+    {"white", {255, 255, 255}},
+    {"yellow", {255, 255, 0}},
+    {"brick", {102, 0, 0}},
+    {"cork", {153, 102, 0}},
+    {"yellow cork", {153, 153, 0}},
+    {"dark cork", {102, 51, 0}},
+    {"dark silver", {158, 158, 158}},
+    {"gray blue", {102, 102, 153}},
+    {"dark navy blue", {51, 0, 153}},
+    {"light royal blue", {51, 102, 255}},
+    {"violet", {153, 0, 255}},
+    {"dodger blue", {0, 102, 255}},
+    {"sargasso green", {0, 102, 102}},
+    {"royal blue", {51, 51, 204}},
+    {"light sea green", {51, 153, 153}},
+    {"deep purple", {102, 51, 102}},
+    {"steel blue", {51, 102, 153}},
+    {"asphalt", {61, 61, 69}},
+    {"dark golden rod", {205, 149, 12}},
+    {"dark grass", {0, 102, 51}},
+    {"grass", {0, 153, 51}},
+    {"red brick", {153, 0, 0}},
 };
+
+static_assert(std::size(colors) == CRtfGrpColorTable::colorCount);
+
+// "\r\n", three words with three digits each, and the ";".
+constexpr std::size_t longestEntry = 27;
+
+struct GroupText {
+    std::array<char, 20 + CRtfGrpColorTable::colorCount * longestEntry> bytes{};
+    std::size_t size = 0;
+
+    constexpr void add(std::string_view part) {
+        for (const char byte : part) {
+            bytes[size++] = byte;
+        }
+    }
+
+    constexpr void add(std::string_view word, unsigned part) {
+        add(word);
+        for (unsigned unit = part > 99 ? 100 : part > 9 ? 10 : 1; unit > 0; unit /= 10) {
+            bytes[size++] = static_cast<char>('0' + part / unit % 10);
+        }
+    }
+};
+
+constexpr GroupText groupText = [] {
+    GroupText text;
+    text.add("\r\n{\\colortbl;");
+    for (const auto& [name, color] : colors) {
+        text.add("\r\n\\red", color.red);
+        text.add("\\green", color.green);
+        text.add("\\blue", color.blue);
+        text.add(";");
+    }
+    text.add("}");
+    return text;
+}();
 
 bool isDashedForm(std::string_view dashed, std::string_view name) {
     if (dashed.size() != name.size()) {
@@ -99,7 +136,7 @@ std::int32_t CRtfGrpColorTable::colorNumber(std::string_view dashedName) {
 }
 
 std::string CRtfGrpColorTable::colorName(std::int32_t number) {
-    if (number < 1 || static_cast<std::size_t>(number) > std::size(colors)) {
+    if (number < 1 || number > colorCount) {
         return {};
     }
     std::string name(colors[number - 1].name);
@@ -107,13 +144,15 @@ std::string CRtfGrpColorTable::colorName(std::int32_t number) {
     return name;
 }
 
-void CRtfGrpColorTable::render(std::string& rtf) const {
-    rtf += "\r\n{\\colortbl;";
-    for (const Color& color : colors) {
-        rtf += "\r\n";
-        rtf += color.entry;
+std::optional<RgbColor> CRtfGrpColorTable::color(std::int32_t number) {
+    if (number < 1 || number > colorCount) {
+        return std::nullopt;
     }
-    rtf += '}';
+    return colors[number - 1].color;
+}
+
+void CRtfGrpColorTable::render(std::string& rtf) const {
+    rtf.append(groupText.bytes.data(), groupText.size);
 }
 
 }  // namespace quorvane

@@ -1,5 +1,7 @@
 #include "quorvane/rtfgroups/CRtfGrpFontTable.h"
 
+#include <iterator>
+
 #include "quorvane/support/wildcards.h"
 
 namespace quorvane {
@@ -27,6 +29,8 @@ constexpr std::string_view entries[] = {
     R"({\f16\fscript\fcharset0\fprq2 Comic Sans MS;})",
     R"({\f17\fswiss\fcharset0\fprq2 Century Gothic;})",
 };
+
+static_assert(std::size(entries) == CRtfGrpFontTable::fontCount + 1);
 
 }  // namespace
 

@@ -106,6 +106,14 @@ TEST(Command, TellsItsVersion) {
     EXPECT_EQ(result.status, 0U);
 }
 
+TEST(Command, ShowsItsLicensesWhole) {
+    const ProcessResult result = runCommand(L"--licenses");
+
+    EXPECT_EQ(result.output, bytesOfFile(testSource(L"..\\..\\LICENSE")) + "\n" +
+                                 bytesOfFile(testSource(L"..\\..\\THIRD-PARTY-NOTICES")));
+    EXPECT_EQ(result.status, 0U);
+}
+
 TEST(Command, TakesNamesInAnyScript) {
     const std::wstring description = temporaryFile(L"\u00DCbung \u0440\u0443.rtfspec");
     const std::wstring document = temporaryFile(L"\u65E5\u672C.rtf");

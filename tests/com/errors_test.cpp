@@ -29,7 +29,8 @@ protected:
     ComPtr<_CRtfDriver> driver_ = component_.create<_CRtfDriver>(__uuidof(::CRtfDriver));
 };
 
-HostError error(HRESULT number, const std::string& description, const std::string& source = {}) {
+HostError error(HRESULT number, const std::string& description,
+                const std::string& source = "Quorvane") {
     return {number, source, description, 0};
 }
 
@@ -100,16 +101,18 @@ TEST_F(Errors, OfABadStylesheet) {
     const Outcome lateBound =
         late(document_.get()).call("LoadStyleSheetFromMemmory", {"{name: x; nosuch: 1}"});
 
-    EXPECT_EQ(early.error.number, runTimeError(445));
-    EXPECT_FALSE(early.error.description.empty());
+    EXPECT_EQ(early.error,
+              error(runTimeError(445),
+                    "Error while processing stylesheet.\r\nnosuch is not a valid keyword."));
     EXPECT_EQ(lateBound.error, early.error);
 }
 
 TEST_F(Errors, OfUnbalancedBraces) {
     const Outcome outcome = late(driver_.get()).call("LoadStyleSheetFromMemmory", {"{name: x"});
 
-    EXPECT_EQ(outcome.error.number, runTimeError(31037));
-    EXPECT_FALSE(outcome.error.description.empty());
+    EXPECT_EQ(outcome.error,
+              error(runTimeError(31037),
+                    "Error in stylesheet\r\nBraces stack overflow: there are more { than }"));
 }
 
 TEST_F(Errors, OfADescriptionFileThatIsNotNamed) {

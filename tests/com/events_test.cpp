@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "tests/com/host/ComObject.h"
@@ -375,6 +376,74 @@ TEST_F(Events, NeverUseANumberOfAConnectionTwice) {
 
     EXPECT_NE(first, 0U);
     EXPECT_EQ(point()->Unadvise(first), CONNECT_E_NOCONNECTION);
+}
+
+/// Handles the event in the apartment of the thread that made it.
+class RecordingSink : public ComObject<IDispatch> {
+public:
+    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {
+        *count = 0;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override {
+        return DISP_E_BADINDEX;
+    }
+    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override {
+        return DISP_E_UNKNOWNNAME;
+    }
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*,
+                                     UINT*) override {
+        ComPtr<IErrorInfo> error;
+        thread = GetCurrentThreadId();
+        errorObject = GetErrorInfo(0, error.out());
+        return S_OK;
+    }
+
+    DWORD thread = 0;
+    HRESULT errorObject = E_UNEXPECTED;
+};
+
+// Calls of other apartments come as messages.
+void handleMessagesUntil(HANDLE event) {
+    while (MsgWaitForMultipleObjects(1, &event, FALSE, 30000, QS_ALLINPUT) == WAIT_OBJECT_0 + 1) {
+        MSG message;
+        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+            DispatchMessageW(&message);
+        }
+    }
+}
+
+TEST(EventsInAnotherApartment, ComeWithoutTheErrorObject) {
+    auto* const sink = new RecordingSink;
+    const ComPtr<IDispatch> owner = ComPtr<IDispatch>::adopt(sink);
+    IStream* stream = nullptr;
+    ASSERT_EQ(CoMarshalInterThreadInterfaceInStream(IID_IDispatch, sink, &stream), S_OK);
+    const HANDLE ended = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+    const Component component;
+
+    std::thread driving([&] {
+        CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+        {
+            ComPtr<IDispatch> proxy;
+            ComPtr<IConnectionPoint> point;
+            DWORD cookie = 0;
+            CoGetInterfaceAndReleaseStream(stream, IID_IDispatch, proxy.outVoid());
+            const auto driver = component.create<_CRtfDriver>(__uuidof(::CRtfDriver));
+            driver.as<IConnectionPointContainer>()->FindConnectionPoint(__uuidof(__CRtfDriver),
+                                                                        point.out());
+            EXPECT_EQ(point->Advise(proxy.get(), &cookie), S_OK);
+            EXPECT_EQ(driver->ParseFromMemmory(Bstr(L"nothing").get()), S_OK);
+            EXPECT_EQ(point->Unadvise(cookie), S_OK);
+        }
+        CoUninitialize();
+        SetEvent(ended);
+    });
+    handleMessagesUntil(ended);
+    driving.join();
+    CloseHandle(ended);
+
+    EXPECT_EQ(sink->thread, GetCurrentThreadId());
+    EXPECT_EQ(sink->errorObject, S_FALSE);
 }
 
 }  // namespace

@@ -1,12 +1,14 @@
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 #include <windows.h>
 
 #include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
 
 #include "tests/com/host/ComPtr.h"
 #include "tests/com/host/Component.h"
+#include "tests/com/host/DebugOutput.h"
 #include "tests/com/host/LateBound.h"
 #include "tests/com/host/Outcome.h"
 #include "tests/com/host/Process.h"
@@ -15,6 +17,9 @@
 
 namespace quorvane::host {
 namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
 
 class Files : public testing::Test {
 protected:
@@ -74,6 +79,33 @@ void emptyClipboard() {
     CloseClipboard();
 }
 
+/// The texts in a file's version resource.
+class VersionInformation {
+public:
+    explicit VersionInformation(const std::wstring& file) {
+        DWORD ignored = 0;
+        bytes_.resize(GetFileVersionInfoSizeW(file.c_str(), &ignored));
+        if (!GetFileVersionInfoW(file.c_str(), 0, static_cast<DWORD>(bytes_.size()),
+                                 bytes_.data())) {
+            throw std::runtime_error("no version resource in " + utf8Text(file));
+        }
+    }
+
+    /// Nothing when there is no such text.
+    std::optional<std::string> text(const std::wstring& name) const {
+        void* found = nullptr;
+        UINT length = 0;
+        if (!VerQueryValueW(bytes_.data(), (L"\\StringFileInfo\\040904B0\\" + name).c_str(), &found,
+                            &length)) {
+            return std::nullopt;
+        }
+        return utf8Text(static_cast<const wchar_t*>(found));
+    }
+
+private:
+    std::string bytes_;
+};
+
 TEST_F(Files, WhichAnotherProgramHoldsAreError75AndUntouched) {
     HeldFile file("as it was");
     const HostError expected = {
@@ -119,6 +151,52 @@ TEST_F(Files, ThatCannotBeWrittenAreNoErrorToTheHost) {
     EXPECT_TRUE(document_.call("Commit", {""}).succeeded());
 }
 
+TEST_F(Files, ThatCannotBeWrittenAreReportedInTheDebugOutput) {
+    const DebugOutput output;
+
+    document_.call("Commit", {"C:\\no such folder\\\xC3\xA9.rtf"});
+    driver_.call("Commit", {"C:\\no such folder\\y.rtf"});
+    driver_.object("RtfObject").call("Commit", {""});
+
+    EXPECT_THAT(
+        output.lines(),
+        ElementsAre(
+            "Quorvane: CRtfDoc.Commit: C:\\no such folder\\\xC3\xA9.rtf: Path not found (76)\n",
+            "Quorvane: CRtfDriver.Commit: C:\\no such folder\\y.rtf: Path not found (76)\n",
+            "Quorvane: CRtfDoc.Commit: (empty path): Path not found (76)\n"));
+}
+
+TEST_F(Files, WhoseErrorTheHostGetsAreNotInTheDebugOutput) {
+    HeldFile file("as it was");
+    const DebugOutput output;
+
+    document_.call("Commit", {file.path()});
+
+    EXPECT_THAT(output.lines(), IsEmpty());
+}
+
+TEST_F(Files, ThatAreWrittenAreNotInTheDebugOutput) {
+    const DebugOutput output;
+
+    document_.call("Commit", {temporaryFile(L"written.rtf")});
+
+    EXPECT_THAT(output.lines(), IsEmpty());
+}
+
+TEST_F(Files, AreNamedInNoReportOfAnotherAbsorbedError) {
+    document_.call("Commit", {temporaryFile(L"written.rtf")});
+    document_.object("TableRows").call("AddTail");
+    const LateBound cells = document_.object("TableRows").object("Item", {1}).object("TableCells");
+    cells.call("AddTail");
+    const DebugOutput output;
+
+    cells.object("Item", {1}).call("asMarkedField", {1.5});
+
+    EXPECT_THAT(output.lines(),
+                ElementsAre("Quorvane: CRtfTableCell.asMarkedField: A Marked Text Field Data can "
+                            "only be String or Long (-2147219990)\n"));
+}
+
 TEST_F(Files, OfDescriptionsAreReadInWindows1252) {
     const std::wstring file = temporaryFile(L"description.rtfspec");
     writeFile(file, "(doc\r\n(r\r\n(c\r\n(p\r\n(pt=\x80 \xC9\x81)\r\np)\r\nc)\r\nr)\r\ndoc)");
@@ -159,22 +237,29 @@ TEST_F(Files, ThatAreAcceptedLeaveTheClipboardAlone) {
     EXPECT_EQ(clipboardText(), L"");
 }
 
-TEST(ComponentFile, TellsItsProductAndItsTitle) {
-    const std::wstring file = componentFile();
-    DWORD ignored = 0;
-    std::string information(GetFileVersionInfoSizeW(file.c_str(), &ignored), '\0');
-    void* product = nullptr;
-    UINT length = 0;
+TEST(ComponentFile, HasATitleForMessages) {
     wchar_t title[32] = L"";
     const Component component;
 
-    EXPECT_TRUE(GetFileVersionInfoW(file.c_str(), 0, static_cast<DWORD>(information.size()),
-                                    information.data()));
-    ASSERT_TRUE(VerQueryValueW(information.data(), L"\\StringFileInfo\\040904B0\\ProductName",
-                               &product, &length));
-    EXPECT_STREQ(static_cast<wchar_t*>(product), L"Quorvane");
     EXPECT_GT(LoadStringW(component.module(), 8700, title, 32), 0);
     EXPECT_STREQ(title, L"Quorvane");
+}
+
+TEST(ComponentFile, TellsWhatItIs) {
+    const VersionInformation information(componentFile());
+
+    EXPECT_EQ(information.text(L"CompanyName"), "the Quorvane authors");
+    EXPECT_EQ(information.text(L"FileDescription"), "Quorvane component for RTF documents");
+    EXPECT_EQ(information.text(L"InternalName"), "quorvane");
+    EXPECT_EQ(information.text(L"LegalCopyright"), "Copyright \xC2\xA9 the Quorvane authors");
+    EXPECT_EQ(information.text(L"OriginalFilename"), "quorvane.dll");
+    EXPECT_EQ(information.text(L"ProductName"), "Quorvane");
+    EXPECT_EQ(information.text(L"FileVersion"), QUORVANE_VERSION);
+    EXPECT_EQ(information.text(L"ProductVersion"), QUORVANE_VERSION);
+}
+
+TEST(ComponentFile, TellsThatItCanRegisterItself) {
+    EXPECT_EQ(VersionInformation(componentFile()).text(L"OLESelfRegister"), "");
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 # Installs the component anew, builds programs against it and runs them beside what was installed,
 # those of the documentation too:
-# cmake -DBUILD=folder -DPREFIX=folder -DCOMPILER=program -DSOURCES=folder "-DRUN=program;argument"
-# -P installed.cmake
+# cmake -DBUILD=folder -DPREFIX=folder -DCOMPILER=program -DWINDRES=program -DSOURCES=folder
+# "-DRUN=program;argument" -P installed.cmake
 file(REMOVE_RECURSE "${PREFIX}")
 set(bin "${PREFIX}/bin")
 execute_process(COMMAND ${CMAKE_COMMAND} --install "${BUILD}" --prefix "${PREFIX}"
@@ -44,12 +44,30 @@ function(require what)
 endfunction()
 
 require("the type library is not installed" EXISTS "${bin}/quorvane.tlb")
+require("the license is not installed" EXISTS "${PREFIX}/share/doc/quorvane/LICENSE")
 run(${bin}/quorvane.exe --version)
 require("the command does not tell its version" output MATCHES "^quorvane [0-9]")
 
 build(invoice "${SOURCES}/examples/component/invoice.cpp")
 run(${bin}/invoice.exe invoice.rtf)
 require("the example has written no invoice" EXISTS "${bin}/invoice.rtf")
+
+# The manifest can be a resource of the program instead of a file beside it.
+file(WRITE "${bin}/manifest.rc" "1 24 \"program.exe.manifest\"\n")
+execute_process(COMMAND ${WINDRES} manifest.rc manifest.o WORKING_DIRECTORY "${bin}"
+    COMMAND_ERROR_IS_FATAL ANY)
+file(REMOVE "${bin}/invoice.exe.manifest")
+execute_process(COMMAND ${RUN} ${bin}/invoice.exe alone.rtf WORKING_DIRECTORY "${bin}"
+    OUTPUT_VARIABLE output ERROR_VARIABLE errors)
+require("the example finds the component without a manifest" NOT EXISTS "${bin}/alone.rtf")
+execute_process(
+    COMMAND ${COMPILER} -std=c++17 -municode -static -I "${PREFIX}/include"
+            "${SOURCES}/examples/component/invoice.cpp" "${bin}/manifest.o" -o "${bin}/embedded.exe"
+            -lole32 -loleaut32 -luuid
+    COMMAND_ERROR_IS_FATAL ANY)
+run(${bin}/embedded.exe embedded.rtf)
+require("the example with a manifest of its own has written no invoice"
+    EXISTS "${bin}/embedded.rtf")
 
 documented("${bin}/errors.cpp" cpp)
 build(errors "${bin}/errors.cpp")

@@ -12,6 +12,7 @@
 #include "tests/com/host/Component.h"
 #include "tests/com/host/LateBound.h"
 #include "tests/com/host/Process.h"
+#include "tests/com/host/imports.h"
 #include "tests/com/host/interfaces.h"
 #include "tests/com/host/registry.h"
 #include "tests/com/host/text.h"
@@ -83,6 +84,17 @@ std::set<std::string> agreedEntriesOfUser() {
 /// The identifier of a class, by its name.
 HRESULT classOf(const wchar_t* programId, CLSID& id) {
     return CLSIDFromProgID(programId, &id);
+}
+
+/// The name of a class, by its identifier.
+std::string nameOf(REFCLSID id) {
+    LPOLESTR name = nullptr;
+    if (FAILED(ProgIDFromCLSID(id, &name))) {
+        return "none";
+    }
+    const std::string text = utf8Text(name);
+    CoTaskMemFree(name);
+    return text;
 }
 
 HRESULT createByName(const wchar_t* programId, ComPtr<IDispatch>& object) {
@@ -232,6 +244,24 @@ TEST_F(Registration, LetsHostsMakeObjectsByName) {
     EXPECT_EQ(classOf(L"Quorvane.CRtfDoc", id), CO_E_CLASSSTRING);
 }
 
+TEST_F(Registration, NamesTheClasses) {
+    ASSERT_EQ(component_.call("DllRegisterServer"), S_OK);
+
+    EXPECT_EQ(nameOf(__uuidof(::CRtfDoc)), "Quorvane.CRtfDoc.1");
+    EXPECT_EQ(nameOf(__uuidof(::CRtfDriver)), "Quorvane.CRtfDriver.1");
+
+    EXPECT_EQ(component_.call("DllUnregisterServer"), S_OK);
+}
+
+TEST_F(Registration, LetsHostsCallFromOtherApartments) {
+    ASSERT_EQ(component_.call("DllRegisterServer"), S_OK);
+
+    const ProcessResult result = Process(testProgram(L"registeredHost.exe"), L"C:\\").wait();
+
+    EXPECT_EQ(result.status, 0U) << result.output;
+    EXPECT_EQ(component_.call("DllUnregisterServer"), S_OK);
+}
+
 TEST_F(Registration, LetsHostsFindTheTypeLibrary) {
     ComPtr<ITypeLib> library;
     GUID id;
@@ -261,17 +291,185 @@ TEST_F(Registration, WorksWithTheSystemsProgram) {
     EXPECT_EQ(run(L"", L"C:\\no such file.dll"), 3U);
 }
 
+/// A copy of the component in a folder of its own.
+std::wstring copyOfComponent(const std::wstring& folderName) {
+    const std::wstring folder = temporaryFile(folderName);
+    const std::wstring copy = folder + L"\\quorvane.dll";
+    if (!CreateDirectoryW(folder.c_str(), nullptr) ||
+        !CopyFileW(componentFile().c_str(), copy.c_str(), TRUE)) {
+        throw std::runtime_error("cannot copy the component");
+    }
+    return copy;
+}
+
 TEST_F(Registration, IsOfTheFileWhereverItIs) {
-    const std::wstring folder = temporaryFile(L"\u00DCn\u00EF c\u00F6d\u00EB");
-    const std::wstring moved = folder + L"\\quorvane.dll";
-    ASSERT_TRUE(CreateDirectoryW(folder.c_str(), nullptr));
-    ASSERT_TRUE(CopyFileW(componentFile().c_str(), moved.c_str(), TRUE));
+    const std::wstring moved = copyOfComponent(L"\u00DCn\u00EF c\u00F6d\u00EB");
     const Component elsewhere(moved);
 
     EXPECT_EQ(elsewhere.call("DllRegisterServer"), S_OK);
 
     expectAgreedEntries(moved);
     EXPECT_EQ(elsewhere.call("DllUnregisterServer"), S_OK);
+}
+
+TEST_F(Registration, OfANewFileStaysWhenTheOldOneIsUnregistered) {
+    const std::wstring newFile = copyOfComponent(L"new");
+    const Component newer(newFile);
+    EXPECT_EQ(component_.call("DllRegisterServer"), S_OK);
+    EXPECT_EQ(newer.call("DllRegisterServer"), S_OK);
+
+    EXPECT_EQ(component_.call("DllUnregisterServer"), S_OK);
+
+    expectAgreedEntries(newFile);
+    ComPtr<IDispatch> object;
+    EXPECT_EQ(createByName(L"Quorvane.CRtfDoc", object), S_OK);
+    EXPECT_EQ(newer.call("DllUnregisterServer"), S_OK);
+}
+
+TEST_F(Registration, OfANewFileForTheUserStaysWhenTheOldOneIsUnregistered) {
+    const Component newer(copyOfComponent(L"new for the user"));
+    EXPECT_EQ(install(newer, true, L"user"), S_OK);
+    const ClassRegistry registered = classRegistry();
+
+    EXPECT_EQ(install(component_, false, L"user"), S_OK);
+
+    expectSame(classRegistry().user, registered.user);
+    EXPECT_EQ(install(newer, false, L"user"), S_OK);
+}
+
+constexpr const wchar_t* serverOfDocuments =
+    L"Software\\Classes\\CLSID\\{1811CD11-270D-4B00-A52C-4047F643EAB9}\\InprocServer32";
+
+void setServerOfDocuments(const std::wstring& text, DWORD type) {
+    EXPECT_EQ(RegSetKeyValueW(HKEY_LOCAL_MACHINE, serverOfDocuments, nullptr, type, text.c_str(),
+                              static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t))),
+              ERROR_SUCCESS);
+}
+
+std::wstring shortPath(const std::wstring& file) {
+    wchar_t path[MAX_PATH];
+    GetShortPathNameW(file.c_str(), path, MAX_PATH);
+    return path;
+}
+
+std::wstring inUpperCase(std::wstring text) {
+    CharUpperW(text.data());
+    return text;
+}
+
+TEST_F(Registration, IsOfTheFileHoweverItsPathIsSpelled) {
+    const std::wstring file = copyOfComponent(L"a folder with a long name");
+    const std::wstring folder = file.substr(0, file.rfind(L'\\'));
+    const Component component(file);
+    SetEnvironmentVariableW(L"QUORVANE_TEST_FOLDER", folder.c_str());
+    const auto expectOwn = [&](const std::wstring& text, DWORD type = REG_SZ) {
+        EXPECT_EQ(component.call("DllRegisterServer"), S_OK);
+        setServerOfDocuments(text, type);
+        EXPECT_EQ(component.call("DllUnregisterServer"), S_OK);
+        CLSID id;
+        EXPECT_EQ(classOf(L"Quorvane.CRtfDoc", id), CO_E_CLASSSTRING) << utf8Text(text);
+    };
+    EXPECT_NE(shortPath(file), file);
+
+    expectOwn(inUpperCase(file));
+    expectOwn(shortPath(file));
+    expectOwn(L'"' + file + L'"');
+    expectOwn(L"\\\\?\\" + file);
+    expectOwn(folder + L"\\.\\..\\" + folder.substr(folder.rfind(L'\\') + 1) + L"/quorvane.dll");
+    expectOwn(L"%QUORVANE_TEST_FOLDER%\\quorvane.dll", REG_EXPAND_SZ);
+    expectOwn(L"\"%QUORVANE_TEST_FOLDER%\\quorvane.dll\"", REG_EXPAND_SZ);
+}
+
+TEST_F(Registration, OfAnotherFileStaysWhateverItsName) {
+    for (const std::wstring& other :
+         {std::wstring(L"C:\\nosuch\\quorvane.dll"), std::wstring(L"quorvane.dll"),
+          componentFile() + L".old", std::wstring(L"\\\\server\\share\\quorvane.dll")}) {
+        EXPECT_EQ(component_.call("DllRegisterServer"), S_OK);
+        setServerOfDocuments(other, REG_SZ);
+
+        EXPECT_EQ(component_.call("DllUnregisterServer"), S_OK);
+
+        CLSID id;
+        EXPECT_EQ(classOf(L"Quorvane.CRtfDoc", id), S_OK) << utf8Text(other);
+        EXPECT_EQ(classOf(L"Quorvane.CRtfDriver", id), CO_E_CLASSSTRING) << utf8Text(other);
+        setServerOfDocuments(componentFile(), REG_SZ);
+        EXPECT_EQ(component_.call("DllUnregisterServer"), S_OK);
+    }
+}
+
+/// Functions of the system that the component is refused, as long as it lives. The first calls may
+/// be allowed.
+class RefusedCalls {
+public:
+    RefusedCalls(const Component& component, const char* library, const char* name, void* refusal,
+                 int allowed = 0)
+        : module_(component.module()), name_(name) {
+        original_ = reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA(library), name));
+        create_ = reinterpret_cast<Create>(original_);
+        allowed_ = allowed;
+        EXPECT_TRUE(redirectImport(module_, name_, refusal)) << name;
+    }
+    RefusedCalls(const RefusedCalls&) = delete;
+    RefusedCalls& operator=(const RefusedCalls&) = delete;
+    ~RefusedCalls() { redirectImport(module_, name_, original_); }
+
+    static LSTATUS WINAPI createKey(HKEY parent, LPCWSTR path, DWORD reserved, LPWSTR type,
+                                    DWORD options, REGSAM access, LPSECURITY_ATTRIBUTES security,
+                                    PHKEY key, LPDWORD disposition) {
+        return --allowed_ < 0 ? ERROR_ACCESS_DENIED
+                              : create_(parent, path, reserved, type, options, access, security,
+                                        key, disposition);
+    }
+    static LSTATUS WINAPI deleteTree(HKEY, LPCWSTR) { return ERROR_ACCESS_DENIED; }
+    static HRESULT WINAPI registerTypeLibrary(ITypeLib*, OLECHAR*, OLECHAR*) {
+        return TYPE_E_REGISTRYACCESS;
+    }
+
+private:
+    using Create = decltype(&createKey);
+
+    HMODULE module_;
+    const char* name_;
+    void* original_;
+    static inline Create create_ = nullptr;
+    static inline int allowed_ = 0;
+};
+
+TEST_F(Registration, WithoutRightsIsRefusedAndChangesNothing) {
+    // Of the part of the registry and of the 13 entries of each class.
+    for (const int allowed : {0, 1, 7, 15, 26}) {
+        {
+            const RefusedCalls refused(component_, "advapi32.dll", "RegCreateKeyExW",
+                                       reinterpret_cast<void*>(&RefusedCalls::createKey), allowed);
+            EXPECT_EQ(component_.call("DllRegisterServer"), E_ACCESSDENIED) << allowed;
+        }
+        const ClassRegistry after = classRegistry();
+        EXPECT_TRUE(after == before()) << allowed;
+    }
+}
+
+TEST_F(Registration, WithoutTheRightToTheTypeLibraryIsRefusedAndChangesNothing) {
+    const RefusedCalls refused(component_, "oleaut32.dll", "RegisterTypeLib",
+                               reinterpret_cast<void*>(&RefusedCalls::registerTypeLibrary));
+
+    EXPECT_EQ(component_.call("DllRegisterServer"), E_ACCESSDENIED);
+}
+
+TEST_F(Registration, IsNotRemovedWithoutRights) {
+    EXPECT_EQ(component_.call("DllRegisterServer"), S_OK);
+    const ClassRegistry registered = classRegistry();
+    {
+        const RefusedCalls refused(component_, "advapi32.dll", "RegCreateKeyExW",
+                                   reinterpret_cast<void*>(&RefusedCalls::createKey));
+        EXPECT_EQ(component_.call("DllUnregisterServer"), E_ACCESSDENIED);
+    }
+    EXPECT_TRUE(classRegistry() == registered);
+    {
+        const RefusedCalls refused(component_, "advapi32.dll", "RegDeleteTreeW",
+                                   reinterpret_cast<void*>(&RefusedCalls::deleteTree));
+        EXPECT_EQ(component_.call("DllUnregisterServer"), E_ACCESSDENIED);
+    }
+    EXPECT_EQ(component_.call("DllUnregisterServer"), S_OK);
 }
 
 /// What a manifest makes known, as long as it lives.
@@ -311,6 +509,8 @@ TEST_F(Registration, IsNotNeededWithTheManifestOfTheComponent) {
                                     L"Quorvane.CRtfDoc.1", L"Quorvane.CRtfDriver.1"}) {
             EXPECT_EQ(createByName(name, object), S_OK);
         }
+        EXPECT_EQ(nameOf(__uuidof(::CRtfDoc)), "Quorvane.CRtfDoc.1");
+        EXPECT_EQ(nameOf(__uuidof(::CRtfDriver)), "Quorvane.CRtfDriver.1");
     }
     EXPECT_EQ(LateBound(object).get("Contents").value.text(), "{}");
     EXPECT_EQ(LateBound(object).object("RtfObject").object("TableRows").get("Count").value.number(),

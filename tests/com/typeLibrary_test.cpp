@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <cstdio>
+#include <regex>
 #include <sstream>
 #include <stdexcept>
 #include <string>
@@ -58,6 +60,46 @@ TEST(TypeLibrary, PublishesWhatWasAgreed) {
 
 TEST(TypeLibrary, IsPartOfTheComponent) {
     expectAgreedLibrary(componentFile());
+}
+
+TEST(TypeLibrary, HasAHelpTextForEverything) {
+    const ComPtr<ITypeLib> library = loaded(componentFile());
+
+    for (const std::string& line : linesOf(typeLibraryText(*library.get()))) {
+        EXPECT_FALSE(line.ends_with(" \"\"")) << line;
+    }
+}
+
+TEST(TypeLibrary, DescribesColorsAsDocumentsShowThem) {
+    const ComPtr<ITypeLib> library = loaded(componentFile());
+    const Component component;
+    const auto document = component.create<_CRtfDoc>(__uuidof(::CRtfDoc));
+    Bstr contents;
+    ASSERT_EQ(document->Refresh(), S_OK);
+    ASSERT_EQ(document->get_Contents(contents.out()), S_OK);
+    const std::string rtf = contents.utf8();
+    const std::regex tableEntry("\\\\red([0-9]+)\\\\green([0-9]+)\\\\blue([0-9]+);");
+    std::vector<std::string> shown;
+    for (std::sregex_iterator entry(rtf.begin(), rtf.end(), tableEntry), end; entry != end;
+         ++entry) {
+        char color[8];
+        std::snprintf(color, sizeof color, "#%02X%02X%02X", std::stoi(entry->str(1)),
+                      std::stoi(entry->str(2)), std::stoi(entry->str(3)));
+        shown.emplace_back(color);
+    }
+
+    const std::regex described("  e\\w+ = ([0-9]+) \"[A-Z][a-z ]+, (#[0-9A-F]{6})\"");
+    std::size_t count = 0;
+    for (const std::string& line : linesOf(typeLibraryText(*library.get()))) {
+        std::smatch found;
+        if (std::regex_match(line, found, described)) {
+            ++count;
+            EXPECT_EQ(found.str(1), std::to_string(count));
+            EXPECT_EQ(found.str(2), shown.at(count - 1)) << line;
+        }
+    }
+    EXPECT_EQ(count, shown.size());
+    EXPECT_EQ(count, 57U);
 }
 
 TEST(TypeLibrary, BeginsEveryVtableBehindThatOfIDispatch) {

@@ -84,9 +84,6 @@ TEST(RtfCheck, WantsItsHeader) {
 
 TEST(RtfCheck, WantsGroupsClosed) {
     EXPECT_THAT(found("{\\rtf1 {\\b a"), ElementsAre("1:8+1@7 unclosed-group"));
-    EXPECT_THAT(found("{\\rtf1 a}}"), ElementsAre("1:10+1@9 text-after-end"));
-    EXPECT_THAT(found("{\\rtf1 a} b {"), ElementsAre("1:10+1@9 text-after-end"));
-    EXPECT_THAT(found(std::string("{\\rtf1 a}\r\n\0", 12)), ElementsAre("2:1+1@11 text-after-end"));
 }
 
 /// The message and the hint of the first finding.
@@ -117,7 +114,7 @@ TEST(RtfCheck, CountsInWords) {
 
 TEST(RtfCheck, NamesTheNumberThatIsLeftOut) {
     EXPECT_EQ(told("{\\rtf1{\\fonttbl{\\f0 a;}{\\f b;}}}"),
-              "The font 0 is in the font table already. | ");
+              "The font 0 is in the font table already, with another definition. | ");
     EXPECT_EQ(told("{\\rtf1{\\stylesheet{\\s0 a;}{\\s b;}}}"),
               "The style s0 is in the stylesheet already. | ");
 }
@@ -143,7 +140,8 @@ TEST(RtfCheck, WantsAsManyCellsAsDefinitions) {
     EXPECT_THAT(found(documentOf("\\trowd\\cellx9 a\\cell b\\cell\\row")),
                 ElementsAre("2:28+4@95 cell-count"));
     EXPECT_THAT(found(documentOf("\\trowd\\row")), ElementsAre("2:7+4@74 row-without-cells"));
-    EXPECT_THAT(found(documentOf("\\trowd\\cellx9\\row")), ElementsAre("2:14+4@81 cell-count"));
+    EXPECT_THAT(found(documentOf("\\trowd\\cellx9\\row")),
+                ElementsAre("2:14+4@81 row-without-cells"));
 }
 
 TEST(RtfCheck, TakesADefinitionForTheRowsThatFollow) {
@@ -192,12 +190,145 @@ TEST(RtfCheck, WantsAnEndOfNestedRows) {
                 ElementsAre("2:23+9@90 unended-row"));
 }
 
+TEST(RtfCheck, WantsACellToEndInAParagraphOfItsOwnRow) {
+    EXPECT_THAT(found(documentOf("\\trowd\\cellx9 a\\itap2 b\\cell\\row")),
+                ElementsAre("2:16+6@83 unended-row"));
+    for (const char* words : {"\\itap2 b\\itap1 ", "\\itap2 b\\pard ", "{\\itap2 b}", "\\itap1 "}) {
+        EXPECT_THAT(found(documentOf(std::string("\\trowd\\cellx9 a") + words + "\\cell\\row")),
+                    IsEmpty());
+    }
+}
+
 TEST(RtfCheck, LooksReferencesUp) {
     EXPECT_THAT(found(documentOf("\\f1\\cf2\\s2\\cs1\\cf1\\s1\\s0\\f0\\cf0")),
                 ElementsAre("2:1+3@68 unknown-font", "2:4+4@71 unknown-color",
                             "2:8+3@75 unknown-style", "2:11+4@78 unknown-style"));
-    EXPECT_THAT(found("{\\rtf1\\deff3{\\fonttbl{\\f0 Arial;}}}"),
-                ElementsAre("1:7+6@6 unknown-font"));
+}
+
+TEST(RtfCheck, AllowsPaddingAfterTheEnd) {
+    // WordPad and RichEdit write a NUL byte, other programs blanks and line ends.
+    EXPECT_THAT(found(std::string("{\\rtf1 a}\r\n\0", 12)), IsEmpty());
+    EXPECT_THAT(found(std::string("{\\rtf1 a}\0\0 \t\n \r\n\0", 18)), IsEmpty());
+}
+
+TEST(RtfCheck, WantsNoTextAfterTheEnd) {
+    EXPECT_THAT(found("{\\rtf1 a} b {"), ElementsAre("1:11+1@10 text-after-end"));
+    EXPECT_THAT(found("{\\rtf1 a}\n{\\b b}"), ElementsAre("2:1+1@10 text-after-end"));
+    EXPECT_THAT(found("{\\rtf1 a}{\\*\\odd b{c}}\\par d"), ElementsAre("1:10+1@9 text-after-end"));
+    EXPECT_THAT(found("{\\rtf1 a}\\'e9"), ElementsAre("1:10+1@9 text-after-end"));
+    EXPECT_THAT(found("{\\rtf1 a}{\\rtf1 b}"), ElementsAre("1:10+1@9 text-after-end"));
+}
+
+TEST(RtfCheck, WarnsOfDataAfterTheEndThatShowsNoText) {
+    EXPECT_THAT(found("{\\rtf1 a}}"), ElementsAre("1:10+1@9 data-after-end"));
+    EXPECT_THAT(found("{\\rtf1 a}\\line \\par}"), ElementsAre("1:10+1@9 data-after-end"));
+    EXPECT_THAT(found("{\\rtf1 a}\n {\\*\\themedata 50{4b}03}{\\*\\odd b}"),
+                ElementsAre("2:2+1@11 data-after-end"));
+    EXPECT_THAT(found("{\\rtf1 a}\\"), ElementsAre("1:10+1@9 data-after-end"));
+}
+
+TEST(RtfCheck, ReportsANumberThatNoTableHasOnce) {
+    EXPECT_THAT(
+        found(documentOf("\\f7 a\\f8 b\\f7 c{\\af7 d}\\cf9\\cb9\\acf9\\s5\\cs5\\s5\\cs5")),
+        ElementsAre("2:1+3@68 unknown-font", "2:6+3@73 unknown-font", "2:24+4@91 unknown-color",
+                    "2:37+3@104 unknown-style", "2:40+4@107 unknown-style"));
+}
+
+TEST(RtfCheck, AllowsADefaultFontThatNoTableHas) {
+    EXPECT_THAT(found("{\\rtf1\\deff3{\\fonttbl{\\f0 Arial;}} a}"), IsEmpty());
+    EXPECT_THAT(found("{\\rtf1\\deff0 a}"), IsEmpty());
+}
+
+TEST(RtfCheck, ReadsTheFontTablesThatStandInTwoForms) {
+    EXPECT_THAT(
+        found("{\\rtf1{\\upr{\\fonttbl{\\f4 Times;}}{\\*\\ud{\\fonttbl{\\f4 T\\u105?mes;}}}}"
+              "\\f4 a}"),
+        IsEmpty());
+}
+
+TEST(RtfCheck, ReadsATableThatStandsAfterABlank) {
+    EXPECT_THAT(found("{\\rtf1{ \\fonttbl\n {\\f4 Times;} }\\f4 a}"), IsEmpty());
+}
+
+TEST(RtfCheck, AllowsTheSameFontTwice) {
+    EXPECT_THAT(found("{\\rtf1{\\fonttbl{\\f0\\froman\\fcharset0{\\*\\panose 02}Times New Roman;}\n"
+                      "{\\f0\\froman\\fcharset0{\\*\\panose 05}Times New\r\n Roman;}}}"),
+                IsEmpty());
+    EXPECT_THAT(found("{\\rtf1{\\fonttbl\\f0\\fswiss Arial;\\f1 Verdana;\\f0\\fswiss Arial;}}"),
+                IsEmpty());
+}
+
+TEST(RtfCheck, WarnsOfAnotherFontOfTheSameNumber) {
+    EXPECT_THAT(found("{\\rtf1{\\fonttbl{\\f0\\fswiss Arial;}{\\f0\\froman Arial;}}}"),
+                ElementsAre("1:36+3@35 duplicate-font"));
+    EXPECT_THAT(found("{\\rtf1{\\fonttbl{\\flomajor\\f0 Arial;}{\\fhimajor\\f0 \\'41rial;}}}"),
+                ElementsAre("1:47+3@46 duplicate-font"));
+    EXPECT_THAT(found("{\\rtf1{\\fonttbl\\f0 Arial;\\f1 Verdana;\\f0 Tahoma;}}"),
+                ElementsAre("1:38+3@37 duplicate-font"));
+}
+
+TEST(RtfCheck, AllowsTheRowsOfATableStyleToRepeatItsNumber) {
+    EXPECT_THAT(found("{\\rtf1{\\stylesheet{\\*\\ts15\\tsrowd grid;}{\\*\\ts15\\tsrowd\\tscfirstrow"
+                      " grid;}{\\*\\ts15\\tsrowd\\tsclastrow grid;}}\\ts15 a}"),
+                IsEmpty());
+}
+
+TEST(RtfCheck, ReportsAnUnknownWordThatBeginsAGroupOnce) {
+    EXPECT_THAT(found(documentOf("{\\odd a}{\\odd b}{\\odder c}")),
+                ElementsAre("2:2+4@69 unknown-destination", "2:18+6@85 unknown-destination"));
+}
+
+TEST(RtfCheck, ReadsAGroupThatBeginsWithAnUnknownWordWithoutIt) {
+    EXPECT_THAT(found("{\\rtf1{\\stylesheet{\\style\\s3 a;}}\\s3 b}"),
+                ElementsAre("1:20+6@19 unknown-destination"));
+    EXPECT_THAT(found("{\\rtf1{\\pu6\\cf7 b}}"),
+                ElementsAre("1:8+4@7 unknown-destination", "1:12+4@11 unknown-color"));
+}
+
+TEST(RtfCheck, WarnsOfCellsThatAreMissingAndOfEmptyOnesWithoutADefinition) {
+    EXPECT_THAT(found(documentOf("\\trowd\\cellx8\\cellx9 a\\cell\\row")),
+                ElementsAre("2:28+4@95 uneven-row"));
+    EXPECT_THAT(found(documentOf("\\trowd\\cellx9 a\\cell \\cell\\row")),
+                ElementsAre("2:27+4@94 uneven-row"));
+}
+
+TEST(RtfCheck, WantsNoCellLostThatHasSomethingInIt) {
+    for (const std::string content : {"b", "\\'62", "{\\b b}", "\\u98?", "\\emdash ", "\\{",
+                                      "{\\pict\\pngblip 89}", "{\\field{\\fldrslt b}}"}) {
+        const std::vector<std::string> list =
+            found(documentOf("\\trowd\\cellx9 a\\cell " + content + "\\cell\\row"));
+        ASSERT_EQ(list.size(), 1u) << content;
+        EXPECT_THAT(list[0], testing::EndsWith("cell-count")) << content;
+    }
+    EXPECT_THAT(found(documentOf("\\intbl a\\cell\\row")), ElementsAre("2:14+4@81 cell-count"));
+}
+
+TEST(RtfCheck, TakesACellOutsideAnyTableForNone) {
+    EXPECT_THAT(found(documentOf("a\\cell b\\cell")), IsEmpty());
+    EXPECT_THAT(found(documentOf("\\pard\\intbl a\\cell")), ElementsAre("2:14+5@81 unended-row"));
+}
+
+TEST(RtfCheck, WarnsOfASectionThatEndsWithinARow) {
+    EXPECT_THAT(found(documentOf("\\trowd\\cellx9 a\\sect b\\cell\\row\\sect c")),
+                ElementsAre("2:16+5@83 section-in-row"));
+}
+
+TEST(RtfCheck, WantsTheLengthOfBinaryData) {
+    EXPECT_THAT(found("{\\rtf1{\\pict\\bin ab}}"), ElementsAre("1:13+4@12 binary-length"));
+    EXPECT_THAT(found("{\\rtf1{\\pict\\bin0 ab}}"), ElementsAre("1:13+5@12 binary-length"));
+    EXPECT_THAT(found("{\\rtf1{\\pict\\bin-2 ab}}"), ElementsAre("1:13+6@12 binary-length"));
+}
+
+TEST(RtfCheck, OnlyWarnsOfWhatReadersPutRight) {
+    for (const char* text :
+         {"\\f9", "\\cf9", "\\s9", "{\\odd x}", "\\trowd\\cellx9\\cellx9 a\\cell\\cell\\row",
+          "\\trowd\\cellx8\\cellx9 a\\cell\\row"}) {
+        const std::vector<Diagnostic> diagnostics = checkRtf(documentOf(text));
+        EXPECT_EQ(diagnostics.size(), 1u) << text;
+        for (const Diagnostic& diagnostic : diagnostics) {
+            EXPECT_EQ(diagnostic.severity, Severity::Warning) << text;
+        }
+    }
 }
 
 TEST(RtfCheck, WantsNumbersOnce) {

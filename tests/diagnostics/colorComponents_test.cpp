@@ -2,11 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include "quorvane/rtfgroups/CRtfGrpColorTable.h"
+
 namespace quorvane {
 namespace {
 
 std::string nearest(std::string_view text) {
-    const std::optional<ColorComponents> components = componentsIn(text);
+    const std::optional<RgbColor> components = componentsIn(text);
     return components ? nearestColorName(*components, Vocabulary()) : "";
 }
 
@@ -39,13 +41,13 @@ TEST(ColorComponents, KnowWhichColorTheLanguageShowsUnderACrossedName) {
 }
 
 TEST(ColorComponents, AreThoseOfTheColorTable) {
-    const std::optional<ColorComponents> pink = componentsOf(28);
+    const std::optional<RgbColor> pink = CRtfGrpColorTable::color(28);
     ASSERT_TRUE(pink);
     EXPECT_EQ(pink->red, 255);
     EXPECT_EQ(pink->green, 157);
     EXPECT_EQ(pink->blue, 180);
-    EXPECT_FALSE(componentsOf(0));
-    EXPECT_FALSE(componentsOf(58));
+    EXPECT_FALSE(CRtfGrpColorTable::color(0));
+    EXPECT_FALSE(CRtfGrpColorTable::color(58));
 }
 
 }  // namespace

@@ -10,7 +10,8 @@ namespace {
 /// What a control names by a number that no document has.
 std::string missing(const std::string& text, const KnownStyles* styles = nullptr) {
     const RtfControl control = rtfControlAt(text, 0);
-    return std::string(missingReference(control.word, control, styles));
+    const RtfWord* const word = findRtfWord(control.word);
+    return word ? std::string(missingReference(*word, control, styles)) : "no control word";
 }
 
 TEST(DocumentNumbers, OfFontsAreFrom0To17) {
@@ -24,7 +25,8 @@ TEST(DocumentNumbers, OfFontsAreFrom0To17) {
 }
 
 TEST(DocumentNumbers, OfColorsAreFrom0To57) {
-    for (const char* word : {"\\cf", "\\cb", "\\highlight", "\\chcbpat", "\\clcbpat", "\\brdrcf"}) {
+    for (const char* word :
+         {"\\cf", "\\cb", "\\acf", "\\highlight", "\\chcbpat", "\\clcbpat", "\\brdrcf"}) {
         EXPECT_EQ(missing(word), "") << word;
         EXPECT_EQ(missing(word + std::string("57")), "") << word;
         EXPECT_EQ(missing(word + std::string("58")), "color") << word;

@@ -45,6 +45,20 @@ TEST(TextColors, OfPlainTextAreNoneOnTheFirstGround) {
     EXPECT_THAT(parts("\\cf5\\cb7 a\\plain b"), ElementsAre("a: 5 on 7", "b: 0 on 2"));
 }
 
+TEST(TextColors, OfCharactersThatAreControlWordsCount) {
+    EXPECT_THAT(parts("\\cf5\\emdash\\cf6\\chpgn\\cf7\\emspace"),
+                ElementsAre("\\emdash: 5 on 2", "\\chpgn: 6 on 2"));
+}
+
+TEST(TextColors, OfWhatAnObjectShowsCount) {
+    EXPECT_THAT(parts("{\\object{\\*\\objdata 00}{\\result\\cf5 a}}"), ElementsAre("a: 5 on 2"));
+    EXPECT_THAT(parts("{\\footnote{\\field{\\fldrslt\\cf5 a}}}"), IsEmpty());
+}
+
+TEST(TextColors, OfBinaryDataAreNone) {
+    EXPECT_THAT(parts("a{\\cf5\\bin3 }}}}b"), ElementsAre("a{\\cf5\\bin3 }}}}b: 1 on 2"));
+}
+
 TEST(TextColors, EndWithTheirGroup) {
     EXPECT_THAT(parts("a{\\cf5 b{\\cb6 c}}d"),
                 ElementsAre("a: 1 on 2", "b: 5 on 2", "c: 5 on 6", "d: 1 on 2"));

@@ -181,5 +181,22 @@ TEST(CRtfGrpColorTable, NamesAColorOfANumber) {
     }
 }
 
+TEST(CRtfGrpColorTable, HasTheColorsThatItWrites) {
+    EXPECT_EQ(CRtfGrpColorTable::color(1), (RgbColor{127, 255, 212}));
+    EXPECT_EQ(CRtfGrpColorTable::color(57), (RgbColor{153, 0, 0}));
+    for (const std::int32_t number : {-1, 0, 58}) {
+        EXPECT_EQ(CRtfGrpColorTable::color(number), std::nullopt);
+    }
+    std::string expected = "\r\n{\\colortbl;";
+    for (std::int32_t number = 1; number <= CRtfGrpColorTable::colorCount; ++number) {
+        const RgbColor color = *CRtfGrpColorTable::color(number);
+        expected += "\r\n\\red" + std::to_string(color.red) + "\\green" +
+                    std::to_string(color.green) + "\\blue" + std::to_string(color.blue) + ";";
+    }
+    std::string written;
+    CRtfGrpColorTable().render(written);
+    EXPECT_EQ(written, expected + "}");
+}
+
 }  // namespace
 }  // namespace quorvane

@@ -52,16 +52,16 @@ std::wstring builtProgram(const std::string& file) {
 // Wine's script host does not connect events. JScript does not tell the source of an error.
 const Example examples[] = {
     {"VBScript", script("invoice.vbs"), "This script host does not connect events.\n",
-     "error -2147221501 (Error: eWrongPath, CRtfDriver.ParseFile): ", "error 75 (): "},
+     "error 0x80040003 (Error: eWrongPath, CRtfDriver.ParseFile): ", "error 0x800A004B (): "},
     {"JScript", script("invoice.js"), "This script host does not connect events.\n",
-     "error -2147221501: ", "error -2146828213: "},
+     "error 0x80040003: ", "error 0x800A004B: "},
     {"Cpp", builtProgram("invoice.exe"),
-     "in the description: error -2147221493 (sLine is neither a recognized node nor a leaf, sLeaf "
+     "in the description: error 0x8004000B (sLine is neither a recognized node nor a leaf, sLeaf "
      "= "
      "(para-text=Reminder, CRtfDriver.treeWalkerBuild): (para-text=Reminder has a wrong syntax\n"
-     "in the description: error -2147221493 (CRtfDriver.paraWalkerSyntax): In a para group "
+     "in the description: error 0x8004000B (CRtfDriver.paraWalkerSyntax): In a para group "
      "para-text is mandatory.\n",
-     "error -2147221501 (Error: eWrongPath, CRtfDriver.ParseFile): ", "error -2146828213 (): "},
+     "error 0x80040003 (Error: eWrongPath, CRtfDriver.ParseFile): ", "error 0x800A004B (): "},
 };
 
 void registerComponent(const std::wstring& arguments) {
@@ -117,11 +117,12 @@ TEST_P(RunExample, CommitsTheBytesOfTheLibrary) {
 TEST_P(RunExample, TellsWhatItDoes) {
     const ProcessResult result = runWithBoth();
 
-    EXPECT_EQ(result.output, utf8Text(invoice_.path()) + " is written.\n" + GetParam().events +
-                                 "rows made of the wrong description: 1\n" + GetParam().wrongPath +
+    EXPECT_EQ(result.output, utf8Text(invoice_.path()) + " was written.\n" + GetParam().events +
+                                 "rows built from the faulty description: 1\n" +
+                                 GetParam().wrongPath +
                                  "no-such-file.rtfspec doesn't exist or is unreacheable\n" +
-                                 "rows made of the right description: 3\n" +
-                                 utf8Text(reminder_.path()) + " is written.\n");
+                                 "rows built from the correct description: 3\n" +
+                                 utf8Text(reminder_.path()) + " was written.\n");
     EXPECT_EQ(result.errors, "");
     EXPECT_EQ(result.status, 0U);
 }
@@ -130,7 +131,7 @@ TEST_P(RunExample, NeedsNoPathForTheReminder) {
     const ProcessResult result = runWith(inQuotes(invoice_.path()));
 
     EXPECT_EQ(invoice_.bytes(), libraryInvoice());
-    EXPECT_THAT(result.output, EndsWith("rows made of the right description: 3\n"));
+    EXPECT_THAT(result.output, EndsWith("rows built from the correct description: 3\n"));
     EXPECT_EQ(result.status, 0U);
 }
 
@@ -166,7 +167,7 @@ TEST_P(RunExample, TellsThatAFileIsNotWritten) {
 
     const ProcessResult result = runWith(inQuotes(file));
 
-    EXPECT_THAT(result.output, EndsWith(utf8Text(file) + " is not written.\n"));
+    EXPECT_THAT(result.output, EndsWith(utf8Text(file) + " was not written.\n"));
     EXPECT_EQ(result.status, 1U);
 }
 
@@ -187,7 +188,7 @@ TEST(CompiledExample, NeedsTheComponentRegistered) {
 
     const ProcessResult result = run(builtProgram("invoice.exe"), inQuotes(invoice.path()));
 
-    EXPECT_THAT(result.output, StartsWith("error -2147221005 "));  // CO_E_CLASSSTRING
+    EXPECT_THAT(result.output, StartsWith("error 0x800401F3 "));  // CO_E_CLASSSTRING
     EXPECT_EQ(result.status, 1U);
 }
 

@@ -45,11 +45,13 @@ using Member = std::function<std::string(NativeFace&, const Held&, const Argumen
 
 const std::map<std::string, Member>& members();
 
-// How a host sees the number of an error.
+// How a host sees the number of an error, and the source of one that has none. The error of a file
+// that cannot be deleted has no source for a host either.
 std::string textOf(const RtfError& error) {
     const auto number = static_cast<std::uint32_t>(error.number);
+    const bool isNamed = !error.source.empty() || error.is(RunTimeError::PathFileAccessError);
     return errorText(number < 0x10000 ? 0x800A0000U + number : number, error.description,
-                     error.source);
+                     isNamed ? error.source : "Quorvane");
 }
 
 class NativeFace : public Face {

@@ -1,4 +1,4 @@
-#include "quorvane/diagnostics/rtfWords.h"
+#include "quorvane/rtf/RtfWord.h"
 
 #include <gtest/gtest.h>
 
@@ -279,24 +279,74 @@ constexpr std::string_view words[] = {
 };
 
 TEST(RtfWords, AreKnownInEverySectionOfTheFormat) {
-    for (const std::string_view word : words) {
-        EXPECT_TRUE(isRtfWord(word)) << word;
+    for (const std::string_view letters : words) {
+        const RtfWord* const word = findRtfWord(letters);
+        ASSERT_TRUE(word) << letters;
+        EXPECT_EQ(word->word, letters);
     }
 }
 
 TEST(RtfWords, AreNoOtherWords) {
     for (const std::string_view word :
          {"", "bold", "italic", "budget", "nbsp", "PAR", "cellX", "texpage", "parr", "odd", "x"}) {
-        EXPECT_FALSE(isRtfWord(word)) << word;
+        EXPECT_FALSE(findRtfWord(word)) << word;
     }
 }
 
-TEST(RtfWords, BeginDestinationsWhereTheirGroupsHaveAMeaningOfTheirOwn) {
-    for (const std::string_view word : {"fonttbl", "headery", "footnote", "fldinst", "mlimLow"}) {
-        EXPECT_TRUE(isRtfDestination(word)) << word;
+TEST(RtfWords, AreEachFoundByTheirLetters) {
+    EXPECT_GT(rtfWords().size(), 1800u);
+    for (const RtfWord& word : rtfWords()) {
+        // A word that stands in the table twice is not found where it stands.
+        EXPECT_EQ(findRtfWord(word.word), &word) << word.word;
     }
-    for (const std::string_view word : {"b", "noproof", "trowd", "pard", "nosuch"}) {
-        EXPECT_FALSE(isRtfDestination(word)) << word;
+}
+
+RtfDestination destinationOf(std::string_view word) {
+    return findRtfWord(word)->destination;
+}
+
+TEST(RtfWords, BeginDestinationsWhereTheirGroupsHaveAMeaningOfTheirOwn) {
+    EXPECT_EQ(destinationOf("fonttbl"), RtfDestination::FontTable);
+    EXPECT_EQ(destinationOf("fldinst"), RtfDestination::Instruction);
+    for (const std::string_view word : {"headery", "footnote", "mlimLow", "pict", "ud"}) {
+        EXPECT_EQ(destinationOf(word), RtfDestination::Other) << word;
+    }
+    for (const std::string_view word : {"rtf", "field", "fldrslt", "result", "upr"}) {
+        EXPECT_EQ(destinationOf(word), RtfDestination::Text) << word;
+    }
+    for (const std::string_view word : {"b", "noproof", "trowd", "pard", "bin"}) {
+        EXPECT_EQ(destinationOf(word), RtfDestination::None) << word;
+    }
+}
+
+TEST(RtfWords, NameFontsColorsAndStylesByTheirNumbers) {
+    const auto roleOf = [](std::string_view word) { return findRtfWord(word)->role; };
+    for (const std::string_view word : {"f", "af"}) {
+        EXPECT_EQ(roleOf(word), RtfRole::Font) << word;
+    }
+    for (const std::string_view word :
+         {"cf", "acf", "cb", "highlight", "clcbpat", "brdrcf", "ulc"}) {
+        EXPECT_TRUE(namesColor(roleOf(word))) << word;
+    }
+    for (const std::string_view word : {"s", "cs", "ds", "ts"}) {
+        EXPECT_TRUE(namesStyle(roleOf(word))) << word;
+    }
+    for (const std::string_view word : {"fs", "deff", "b", "trowd", "chshdng"}) {
+        EXPECT_FALSE(namesColor(roleOf(word)) || namesStyle(roleOf(word)) ||
+                     roleOf(word) == RtfRole::Font)
+            << word;
+    }
+}
+
+TEST(RtfWords, ShowCharacters) {
+    for (const std::string_view word : {"tab", "line", "par", "emspace"}) {
+        EXPECT_EQ(findRtfWord(word)->shown, ' ') << word;
+    }
+    for (const std::string_view word : {"emdash", "bullet", "rquote", "chpgn"}) {
+        EXPECT_EQ(findRtfWord(word)->shown, '?') << word;
+    }
+    for (const std::string_view word : {"b", "pard", "softline"}) {
+        EXPECT_EQ(findRtfWord(word)->shown, '\0') << word;
     }
 }
 

@@ -1,4 +1,4 @@
-#include "quorvane/diagnostics/rtfControls.h"
+#include "quorvane/rtf/RtfControl.h"
 
 #include <gtest/gtest.h>
 

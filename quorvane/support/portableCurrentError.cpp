@@ -1,12 +1,12 @@
-#include "quorvane/support/currentError.h"
-
 #include <memory>
+
+#include "quorvane/support/currentError.h"
 
 namespace quorvane {
 
 namespace {
 
-// Most calls find no error to forget: the flag spares them the look at the object behind it.
+// Most calls find no error to forget: the flag spares them the look at the object itself.
 thread_local constinit bool errorIsSet = false;
 thread_local constinit std::unique_ptr<RtfError> error;
 

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "quorvane/rtf/RtfWord.h"
+
+namespace quorvane {
+
+/// What a group is, as far as it has been read.
+struct RtfGroup {
+    RtfDestination destination = RtfDestination::Text;
+    /// True until something other than blanks stands in the group.
+    bool isFresh = true;
+    /// True once `\*` stands at its beginning: readers that do not know its first word skip it.
+    bool isMarked = false;
+
+    /// A group that opens within this one.
+    RtfGroup inner() const { return {destination}; }
+
+    /// Takes the symbol `\*`.
+    void takeMark() { isMarked = isMarked || isFresh; }
+
+    /// Takes a control word, or null for one that RTF does not have. The first word of a group says
+    /// what the group is.
+    void takeWord(const RtfWord* word);
+
+    /// True where the words for tables, fonts, colors and styles concern the document's text.
+    bool isOfDocument() const {
+        return destination == RtfDestination::Text || destination == RtfDestination::NestedRow;
+    }
+};
+
+}  // namespace quorvane
