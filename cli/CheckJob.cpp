@@ -126,7 +126,7 @@ void CheckJob::checkStyles(const std::string& file) {
             return;
         }
         styles_.emplace(utf8FromCodePage1252(*bytes));
-        if (!openingOfDescription(styles_->text()).empty() || findNotATextFile(*bytes)) {
+        if (!openingOfDescription(styles_->text()).empty()) {
             styles_.reset();
         }
     } catch (const RtfError& error) {

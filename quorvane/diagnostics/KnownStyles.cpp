@@ -7,14 +7,13 @@
 #include "quorvane/stylesheet/stylesheetParser.h"
 #include "quorvane/support/RtfError.h"
 #include "quorvane/support/textCase.h"
-#include "quorvane/support/trimming.h"
 
 namespace quorvane {
 
 namespace {
 
 std::string searched(std::string_view name) {
-    return lowerCase(TrimEx(name));
+    return lowerCase(name);
 }
 
 StyleKind kindOf(const std::string& word) {

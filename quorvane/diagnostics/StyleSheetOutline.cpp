@@ -29,7 +29,8 @@ SheetDefinition readDefinition(std::string_view brace, std::string_view body) {
         const std::size_t end = std::min(body.find(';', start), body.size());
         const std::string_view part = body.substr(start, end - start);
         start = end + 1;
-        if (!trimWhitespace(part).empty()) {
+        // Only an empty item after the last ";" is skipped.
+        if (end < body.size() || !trimWhitespace(part).empty()) {
             definition.items.push_back(readItem(part));
         }
     }

@@ -1,7 +1,6 @@
 #include "quorvane/diagnostics/nodeErrors.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstdint>
 #include <limits>
 #include <string>
@@ -80,10 +79,6 @@ Hint hintOr(Hint first, Hint otherwise) {
     return first.empty() ? otherwise : first;
 }
 
-bool isAlignmentNumber(double number) {
-    return number >= 0 && number <= static_cast<int>(eJustified) && number == std::floor(number);
-}
-
 bool fitsLong(double number) {
     // Halves go to the even neighbour: the lower border keeps its half, the upper one does not.
     return number >= std::numeric_limits<std::int32_t>::min() - 0.5 &&
@@ -155,19 +150,21 @@ private:
         const std::string value = valueText(leaf.value());
         const std::string_view key = leaf.key;
         if (vocabulary_.isColorKey(key)) {
-            if (!vocabulary_.colorNamed(leaf.value())) {
+            const bool isNumber = leaf.number && Vocabulary::isColorNumber(*leaf.number);
+            if (!isNumber && !vocabulary_.colorNamed(leaf.value())) {
                 report(DiagnosticId::WrongColor, leaf, leaf.text, {value},
                        hintOr(colorValueHint(value, vocabulary_),
                               nameHint(value, Vocabulary::colorNames(), "color")));
             }
         } else if (vocabulary_.isBorderKey(key)) {
-            if (!vocabulary_.borderNamed(leaf.value())) {
+            const bool isNumber = leaf.number && Vocabulary::isBorderNumber(*leaf.number);
+            if (!isNumber && !vocabulary_.borderNamed(leaf.value())) {
                 report(DiagnosticId::WrongBorder, leaf, leaf.text, {value},
                        hintOr(borderValueHint(value),
                               nameHint(value, Vocabulary::borderNames(), "border")));
             }
         } else if (leaf.key.ends_with("-alignment")) {
-            const bool isNumber = leaf.number && isAlignmentNumber(*leaf.number);
+            const bool isNumber = leaf.number && Vocabulary::isAlignmentNumber(*leaf.number);
             if (!isNumber && !vocabulary_.alignmentNamed(leaf.value())) {
                 report(DiagnosticId::WrongAlignment, leaf, leaf.text, {value},
                        nameHint(value, Vocabulary::alignmentNames(), "alignment"));

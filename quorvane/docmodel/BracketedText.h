@@ -21,8 +21,10 @@ namespace quorvane {
 ///
 /// The text lies in segments, each from one bracket to the next, that know those of equal text: a
 /// replacement touches only the segments where something is replaced. A walk over all brackets
-/// takes time in proportion to the text, unless tokens reach over hundreds of segments that repeat
-/// themselves elsewhere: then each takes time in proportion to the text.
+/// takes time in proportion to the text (but for a logarithm), also when tokens reach over one
+/// another, as long as each has a segment that at most a few are like. A token that reaches over
+/// hundreds of segments, all of which repeat themselves elsewhere, takes time in proportion to the
+/// text by itself.
 template <class Character>
 class BracketedText {
 public:
@@ -130,7 +132,7 @@ private:
         bool operator()(Index left, Index right) const { return text->isBefore(left, right); }
     };
 
-    /// The segments of one hash, from the left to the right.
+    /// Segments from the left to the right; most often those of one hash.
     using Alike = std::set<Index, ByOrder>;
 
     struct Segment {
@@ -269,8 +271,13 @@ private:
         return isEqual(segment, token[matched]) ? matched + 1 : matched;
     }
 
-    /// Of the token's first segments and its last ones that which the fewest are like.
+    /// A segment of the token that few are like, if there is one. Otherwise that one of its first
+    /// segments and its last ones which the fewest are like.
     Index rarestSegment() const {
+        const auto rare = rare_.lower_bound(opening_.segment);
+        if (rare != rare_.end() && isBefore(*rare, closing_.segment)) {
+            return *rare;
+        }
         constexpr int samples = 64;
         Index rarest = opening_.segment;
         const auto consider = [&](Index segment) {
@@ -436,6 +443,13 @@ private:
             const auto alike = alike_.try_emplace(segments_[segment].hash, ByOrder{this}).first;
             segments_[segment].alike = &alike->second;
             alike->second.insert(alike->second.end(), segment);
+            if (alike->second.size() <= mostAlikeRare) {
+                rare_.insert(rare_.end(), segment);
+            } else if (alike->second.size() == mostAlikeRare + 1) {
+                for (const Index common : alike->second) {
+                    rare_.erase(common);
+                }
+            }
         }
     }
 
@@ -443,6 +457,11 @@ private:
         if (segment != beginning) {
             Alike& alike = *segments_[segment].alike;
             alike.erase(segment);
+            if (alike.size() < mostAlikeRare) {
+                rare_.erase(segment);
+            } else if (alike.size() == mostAlikeRare) {
+                rare_.insert(alike.begin(), alike.end());
+            }
             if (alike.empty()) {
                 alike_.erase(segments_[segment].hash);
             }
@@ -453,6 +472,9 @@ private:
     // Those that were replaced.
     std::vector<Index> unused_;
     std::unordered_map<std::uint64_t, Alike> alike_;
+    // The segments that few are like: a token with one of them is found without a search.
+    static constexpr std::size_t mostAlikeRare = 4;
+    Alike rare_{ByOrder{this}};
     std::size_t size_ = 0;
     std::uint64_t written_ = 0;
     Mark opening_;

@@ -41,9 +41,7 @@ CRtfDoc::CRtfDoc(Platform& platform)
 
 const std::string& CRtfDoc::Contents() {
     clearCurrentError();
-    if (changed_) {
-        Refresh();
-    }
+    refresh("Contents");
     return contents_;
 }
 
@@ -54,8 +52,8 @@ void CRtfDoc::setStyleSheetFile(const std::string& sName) {
 
 void CRtfDoc::Commit(const std::string& sPath) {
     clearCurrentError();
-    if (changed_) {
-        Refresh();
+    if (!refresh("Commit")) {
+        return;
     }
     if (GFileSystem::saveStringToFile(errors_, sPath, contents_, false)) {
         return;
@@ -76,18 +74,30 @@ void CRtfDoc::LoadStyleSheetFromMemmory(std::string_view sStyleSheet) {
 
 void CRtfDoc::Refresh() {
     clearCurrentError();
-    // The stale text makes room first: its memory serves the new one. Should rendering fail for
-    // want of memory, the document still counts as changed.
-    std::string rtf = std::move(contents_);
-    contents_ = "{}";
     changed_ = true;
+    refresh("Refresh");
+}
+
+bool CRtfDoc::refresh(const char* procedure) {
+    return !changed_ || errors_.absorbing(moduleName, procedure, [this] { render(); });
+}
+
+void CRtfDoc::render() {
+    std::string rtf;
+    if (!styleSheet_->CharacterWordsHoldTokens()) {
+        // Only words that hold tokens can make a text endless. Without them the stale text makes
+        // room: its memory serves the new one. Should rendering fail for want of memory, the
+        // document still counts as changed.
+        rtf = std::move(contents_);
+        contents_ = "{}";
+    }
     rtf.assign(1, '{');
     header_.render(rtf);
     fontTable_.render(rtf);
     colorTable_.render(rtf);
     styleSheet_->render(rtf);
     format_->render(rtf);
-    body_->render(rtf);
+    body_.render(rtf);
     rtf += '}';
     contents_ = std::move(rtf);
     changed_ = false;
@@ -124,12 +134,12 @@ std::string_view CRtfDoc::GetCharacterStyle(std::string_view sName) const {
 // begin anew.
 void CRtfDoc::initAllGroups() {
     auto format = std::make_unique<CRtfGrpDocumentFormat>(*this);
-    body_ = std::make_unique<CRtfGrpBody>(*this);
+    body_ = CRtfGrpBody<CRtfTableRows>(Ref<CRtfTableRows>(new CRtfTableRows(*this)));
     format_ = std::move(format);
 }
 
 void CRtfDoc::letGo() noexcept {
-    body_.reset();
+    body_.destroy();
     format_.reset();
     styleSheet_.reset();
     contents_ = {};

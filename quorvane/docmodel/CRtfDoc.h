@@ -6,11 +6,11 @@
 #include <string>
 #include <string_view>
 
-#include "quorvane/docmodel/CRtfGrpBody.h"
 #include "quorvane/docmodel/CRtfTableRows.h"
 #include "quorvane/docmodel/TableDocument.h"
 #include "quorvane/docmodel/enumerations.h"
 #include "quorvane/docmodel/references.h"
+#include "quorvane/rtfgroups/CRtfGrpBody.h"
 #include "quorvane/rtfgroups/CRtfGrpColorTable.h"
 #include "quorvane/rtfgroups/CRtfGrpDocumentFormat.h"
 #include "quorvane/rtfgroups/CRtfGrpFontTable.h"
@@ -35,7 +35,8 @@ public:
     static Ref<CRtfDoc> create(Platform& platform = systemPlatform());
 
     /// The document's text, made anew when something changed. Good until the next call on the
-    /// document. A new document on which nothing was set is "{}".
+    /// document. A new document on which nothing was set is "{}". A text that cannot be made (see
+    /// `Refresh`) is the one that the document had before.
     const std::string& Contents();
 
     /// True when the text that was made last is stale. Initially false.
@@ -46,8 +47,9 @@ public:
     /// Name of the stylesheet's file; empty when none was set or the styles come from a text.
     const std::string& StyleSheetFile() const { return styleSheet_->StyleSheetFile(); }
     /// Reads a stylesheet file in place of the styles loaded before. A missing file raises nothing:
-    /// `StyleSheetOk` is false then. Errors 445 (bad keyword or value) and 31037 (braces) for a bad
-    /// stylesheet.
+    /// `StyleSheetOk` is false then. The document is marked changed when styles are loaded, and
+    /// when the load takes away styles that were there. Errors 445 (bad keyword or value) and 31037
+    /// (braces) for a bad stylesheet; no styles are loaded then.
     void setStyleSheetFile(const std::string& sName);
 
     /// True when a stylesheet was loaded without an error.
@@ -87,21 +89,24 @@ public:
     void setPageWidth(std::int32_t twips) { format_->setPaperWidth(twips); }
 
     /// The rows of the table; the same object every time until `ClearStructure`.
-    Ref<CRtfTableRows> TableRows() const { return body_->TableRows(); }
+    Ref<CRtfTableRows> TableRows() const { return body_.TableRows(); }
 
     /// Writes the document (Windows-1252, a character that has no place there becomes "?"). An
     /// existing file is deleted first. Error 75 when it cannot be deleted, as when another program
     /// holds it open; a failure to write the new file goes to the error module (see
-    /// `setAbsorbedErrorObserver`) and leaves no part of it.
+    /// `setAbsorbedErrorObserver`) and leaves no part of it. When the text cannot be made (see
+    /// `Refresh`), nothing is deleted or written.
     void Commit(const std::string& sPath);
 
-    /// Reads the styles of a text in place of those loaded before. Errors 445 and 31037 for a bad
-    /// stylesheet.
+    /// Reads the styles of a text in place of those loaded before; marks the document changed as
+    /// `setStyleSheetFile` does. Errors 445 and 31037 for a bad stylesheet; no styles are loaded
+    /// then.
     void LoadStyleSheetFromMemmory(std::string_view sStyleSheet);
 
     /// Makes the document's text anew. Rendering gives cells the colours of their styles and
-    /// paragraphs the alignment of their cells for good. Error 6 when character styles whose words
-    /// hold tokens of inline styles would make the text endless.
+    /// paragraphs the alignment of their cells for good. Character styles whose words hold tokens
+    /// of inline styles can make a text endless: error 6 then goes to the error module (see
+    /// `setAbsorbedErrorObserver`), the text stays the one before, and the document stays changed.
     void Refresh();
 
     /// The ground colour that the named cell style declares; `eNoColor` when there is none.
@@ -127,6 +132,10 @@ private:
     ~CRtfDoc() override = default;
 
     void initAllGroups();
+    // Makes a stale text anew. A failure goes to the error module as one of this procedure; false
+    // then.
+    bool refresh(const char* procedure);
+    void render();
     void letGo() noexcept override;
     CRtfDoc* document() noexcept override { return this; }
     void markChanged() noexcept override { changed_ = true; }
@@ -142,7 +151,7 @@ private:
     CRtfGrpColorTable colorTable_;
     std::unique_ptr<CRtfGrpStyleSheetTable> styleSheet_;
     std::unique_ptr<CRtfGrpDocumentFormat> format_;
-    std::unique_ptr<CRtfGrpBody> body_;
+    CRtfGrpBody<CRtfTableRows> body_;
     // Names of styles set lately, at the place of their hash: equal ones share their characters.
     std::array<SharedText, 16> names_;
 };

@@ -1,5 +1,7 @@
 #include "quorvane/docmodel/CRtfParagraph.h"
 
+#include <utility>
+
 #include "quorvane/docmodel/inlineStyles.h"
 #include "quorvane/rtfgroups/GTextMarkedFields.h"
 #include "quorvane/support/RtfError.h"
@@ -27,12 +29,23 @@ std::string_view alignmentWord(std::int32_t align) {
 }  // namespace
 
 void retain(CRtfParagraph* paragraph) noexcept {
-    paragraph->counts_.retain();
+    if (!paragraph->isHeldOutside()) {
+        retain(paragraph->cell_);
+    }
+    ++paragraph->references_;
 }
 
 void release(CRtfParagraph* paragraph) noexcept {
-    if (paragraph->counts_.release()) {
+    const bool wasHeldOutside = paragraph->isHeldOutside();
+    --paragraph->references_;
+    CRtfTableCell* releasedCell =
+        wasHeldOutside && !paragraph->isHeldOutside() ? paragraph->cell_ : nullptr;
+    if (paragraph->references_ == 0) {
         delete paragraph;
+    }
+    // Last, as it can be the end of the cell and of the paragraph with it.
+    if (releasedCell) {
+        release(releasedCell);
     }
 }
 
@@ -42,15 +55,14 @@ Ref<CRtfParagraph> CRtfParagraph::create(CRtfTableCell& cell) {
 }
 
 void CRtfParagraph::operator delete(CRtfParagraph* paragraph, std::destroying_delete_t) noexcept {
-    const WeakRef<CRtfTableCell> cell = paragraph->parent_;
-    MemoryPool& pool = poolOf(*cell.memory());
+    MemoryPool& pool = poolOf(*paragraph->cell_);
     paragraph->text_.clear(pool);
     paragraph->~CRtfParagraph();
     pool.deallocate(paragraph, sizeof(CRtfParagraph));
 }
 
 Ref<CRtfTableCell> CRtfParagraph::Parent() const {
-    return Ref<CRtfTableCell>(parent_.get());
+    return Ref<CRtfTableCell>(cell_);
 }
 
 void CRtfParagraph::setText(std::string_view text) {
@@ -86,18 +98,39 @@ void CRtfParagraph::asMarkedField(const Value& vFieldData) {
     }
 }
 
+void CRtfParagraph::enterList() noexcept {
+    isListed_ = 1;
+    if (!isHeldOutside()) {
+        release(cell_);
+    }
+}
+
+void CRtfParagraph::leaveList() noexcept {
+    if (!isHeldOutside()) {
+        retain(cell_);
+    }
+    isListed_ = 0;
+}
+
+void CRtfParagraph::moveTo(CRtfTableCell& cell) noexcept {
+    CRtfTableCell* old = std::exchange(cell_, &cell);
+    if (isHeldOutside()) {
+        retain(cell_);
+        release(old);
+    }
+}
+
 void CRtfParagraph::takeOver(const CRtfParagraph& old) {
     text_.assign(old.text_.view(), pool());
     style_ = old.style_;
 }
 
 TableDocument* CRtfParagraph::document() const noexcept {
-    const CRtfTableCell* cell = parent_.get();
-    return cell ? documentOf(*cell) : nullptr;
+    return documentOf(*cell_);
 }
 
 MemoryPool& CRtfParagraph::pool() const noexcept {
-    return poolOf(*parent_.memory());
+    return poolOf(*cell_);
 }
 
 void CRtfParagraph::render(TableRendering& rendering, std::size_t position) const {

@@ -11,7 +11,6 @@
 #include "quorvane/docmodel/TableRendering.h"
 #include "quorvane/docmodel/enumerations.h"
 #include "quorvane/docmodel/references.h"
-#include "quorvane/support/Counted.h"
 #include "quorvane/support/KeyedList.h"
 #include "quorvane/support/PooledText.h"
 #include "quorvane/support/Ref.h"
@@ -25,8 +24,8 @@ namespace quorvane {
 /// document is gone; the value is set all the same.
 class CRtfParagraph final : public KeyedListElement {
 public:
-    /// The owning cell, also after the paragraph was removed from it; Nothing when the cell is
-    /// gone.
+    /// The owning cell, also after the paragraph was removed from it. A paragraph that someone
+    /// holds keeps its cell alive.
     Ref<CRtfTableCell> Parent() const;
 
     /// The text as it is written into the document: RTF control words and inline styles such as
@@ -62,18 +61,26 @@ private:
     friend void release(CRtfParagraph* paragraph) noexcept;
 
     static Ref<CRtfParagraph> create(CRtfTableCell& cell);
-    explicit CRtfParagraph(CRtfTableCell& cell) : parent_(&cell) {}
+    explicit CRtfParagraph(CRtfTableCell& cell) : cell_(&cell) {}
     ~CRtfParagraph() = default;
     static void operator delete(CRtfParagraph* paragraph, std::destroying_delete_t) noexcept;
 
-    void setParent(CRtfTableCell& cell) { parent_ = WeakRef<CRtfTableCell>(&cell); }
+    // Called when the cell's list takes over a reference to the paragraph, and before it gives that
+    // reference away.
+    void enterList() noexcept;
+    void leaveList() noexcept;
+    void moveTo(CRtfTableCell& cell) noexcept;
+    bool isHeldOutside() const noexcept { return references_ > isListed_; }
     void takeOver(const CRtfParagraph& old);
     TableDocument* document() const noexcept;
     MemoryPool& pool() const noexcept;
     void render(TableRendering& rendering, std::size_t position) const;
 
-    Counted counts_;
-    WeakRef<CRtfTableCell> parent_;
+    // All references to the paragraph, that of its cell's list among them. While there are others,
+    // the paragraph holds one reference to the cell for all of them.
+    std::uint32_t references_ : 31 = 0;
+    std::uint32_t isListed_ : 1 = 0;
+    CRtfTableCell* cell_;
     PooledText text_;
     SharedText style_;
     std::int32_t foreColor_ = eNoColor;
@@ -82,7 +89,8 @@ private:
     std::unique_ptr<std::string> markedField_;
 };
 
-/// The document that a cell belongs to, for its paragraphs; null when it is gone.
+/// The document that a cell belongs to, for its paragraphs; null when the row or the document is
+/// gone.
 TableDocument* documentOf(const CRtfTableCell& cell) noexcept;
 
 /// The memory that a cell and its paragraphs are in.

@@ -23,18 +23,27 @@ Ref<CRtfParagraph> CRtfParagraphs::refile(const Ref<CRtfParagraph>& old, std::st
     Ref<CRtfParagraph> fresh = CRtfParagraph::create(cell_);
     fresh->takeOver(*old);
     list_.replaceAt(position, fresh, key);
+    old->leaveList();
+    fresh->enterList();
     owner.markChanged();
     return fresh;
 }
 
 void CRtfParagraphs::insertNew(const List::Place& place, TableDocument&) {
-    list_.insert(place, CRtfParagraph::create(cell_));
+    const Ref<CRtfParagraph> fresh = CRtfParagraph::create(cell_);
+    list_.insert(place, fresh);
+    fresh->enterList();
+}
+
+void CRtfParagraphs::removeAt(std::size_t position) noexcept {
+    list_.at(position).leaveList();
+    list_.removeAt(position);
 }
 
 void CRtfParagraphs::takeFrom(CRtfParagraphs& other) {
     list_ = std::move(other.list_);
     for (CRtfParagraph* paragraph : list_) {
-        paragraph->setParent(cell_);
+        paragraph->moveTo(cell_);
     }
 }
 

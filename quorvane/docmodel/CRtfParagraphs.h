@@ -11,7 +11,7 @@
 
 namespace quorvane {
 
-/// The paragraphs of a cell, in order.
+/// The paragraphs of a cell, in order. Who holds the collection holds the cell.
 class CRtfParagraphs : public TableCollection<CRtfParagraphs, CRtfParagraph> {
 public:
     /// The owning cell.
@@ -21,7 +21,7 @@ public:
     /// null, 5 when it is not in the list.
     std::int32_t indexOf(const CRtfParagraph* paragraph) const;
 
-    /// Puts a new paragraph with this key, and with the text and the style of the old one, in the
+    /// Puts a new paragraph with this key, and with the text and the style of the old one, in
     /// its place, and answers it. Errors: 5 the old paragraph is not in the list, 457 the key is
     /// there already, the old paragraph's own included.
     Ref<CRtfParagraph> refile(const Ref<CRtfParagraph>& old, std::string_view key);
@@ -36,7 +36,7 @@ private:
 
     TableDocument* document() const noexcept { return documentOf(cell_); }
     void insertNew(const List::Place& place, TableDocument& document);
-    void removeAt(std::size_t position) noexcept { list_.removeAt(position); }
+    void removeAt(std::size_t position) noexcept;
     void takeFrom(CRtfParagraphs& other);
     void setForeColors(tColorIndex color) noexcept;
     void setAligns(tCellAlign align) noexcept;

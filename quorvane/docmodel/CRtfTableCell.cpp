@@ -31,19 +31,9 @@ void retain(CRtfTableCell* cell) noexcept {
 }
 
 void release(CRtfTableCell* cell) noexcept {
-    cell->counts_.release(cell);
-}
-
-void retainWeak(CRtfTableCell* cell) noexcept {
-    cell->counts_.retainWeak();
-}
-
-void releaseWeak(CRtfTableCell* cell) noexcept {
-    cell->counts_.releaseWeak(cell);
-}
-
-bool isAlive(const CRtfTableCell* cell) noexcept {
-    return cell->counts_.isAlive();
+    if (cell->counts_.release()) {
+        delete cell;
+    }
 }
 
 void retain(CRtfParagraphs* paragraphs) noexcept {
@@ -71,11 +61,6 @@ void CRtfTableCell::operator delete(CRtfTableCell* cell, std::destroying_delete_
     const WeakRef<CRtfTableRow> row = cell->parent_;
     cell->~CRtfTableCell();
     poolOf(*row.memory()).deallocate(cell, sizeof(CRtfTableCell));
-}
-
-// The parent stays: by way of it paragraphs that are still held find the memory they are in.
-void CRtfTableCell::letGo() noexcept {
-    paragraphs_.list_.clear();
 }
 
 Ref<CRtfTableRow> CRtfTableCell::Parent() const {

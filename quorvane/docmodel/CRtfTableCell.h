@@ -80,12 +80,8 @@ public:
 private:
     friend class CRtfTableCells;
     friend class CRtfTableRow;
-    friend class CountedOwner;
     friend void retain(CRtfTableCell* cell) noexcept;
     friend void release(CRtfTableCell* cell) noexcept;
-    friend void retainWeak(CRtfTableCell* cell) noexcept;
-    friend void releaseWeak(CRtfTableCell* cell) noexcept;
-    friend bool isAlive(const CRtfTableCell* cell) noexcept;
     friend TableDocument* documentOf(const CRtfTableCell& cell) noexcept;
     friend MemoryPool& poolOf(const CRtfTableCell& cell) noexcept;
 
@@ -94,7 +90,6 @@ private:
     ~CRtfTableCell() = default;
     static void operator delete(CRtfTableCell* cell, std::destroying_delete_t) noexcept;
 
-    void letGo() noexcept;
     void setParent(CRtfTableRow& row) { parent_ = WeakRef<CRtfTableRow>(&row); }
     TableDocument* document() const noexcept;
     CRtfTableRow& row() const;
@@ -104,7 +99,7 @@ private:
     void renderDefinition(TableRendering& rendering, std::int32_t rightEdge);
     void renderContent(TableRendering& rendering);
 
-    CountedOwner counts_;
+    Counted counts_;
     WeakRef<CRtfTableRow> parent_;
     Borders borders_;
     std::int32_t backColor_ = eNoColor;

@@ -18,10 +18,13 @@ namespace quorvane {
 /// forgets all widths that were set before (error 6 when an edge leaves 32 bits). When a cell is
 /// removed, its left neighbour takes over its right edge, unless it was the first or just one cell
 /// is left; the other edges stay.
+///
+/// Who holds the collection does not hold the row. When the row is gone, the collection is empty
+/// and has no `Parent`; what would change it raises error 91.
 class CRtfTableCells : public TableCollection<CRtfTableCells, CRtfTableCell> {
 public:
-    /// The owning row.
-    Ref<CRtfTableRow> Parent() const { return Ref<CRtfTableRow>(&row_); }
+    /// The owning row; Nothing when it is gone.
+    Ref<CRtfTableRow> Parent() const { return Ref<CRtfTableRow>(isAlive(&row_) ? &row_ : nullptr); }
 
     /// Removes the last cell. Error 5 when there is none.
     void removeTail();
@@ -52,7 +55,7 @@ private:
 
     explicit CRtfTableCells(CRtfTableRow& row) : row_(row) {}
 
-    TableDocument* document() const noexcept { return documentOf(row_); }
+    TableDocument* document() const noexcept { return isAlive(&row_) ? documentOf(row_) : nullptr; }
     void insertNew(const List::Place& place, TableDocument& document);
     void removeAt(std::size_t position) noexcept;
     void takeFrom(CRtfTableCells& other);

@@ -25,11 +25,11 @@ bool isAlive(const CRtfTableRow* row) noexcept {
 }
 
 void retain(CRtfTableCells* cells) noexcept {
-    retain(&cells->row_);
+    retainWeak(&cells->row_);
 }
 
 void release(CRtfTableCells* cells) noexcept {
-    release(&cells->row_);
+    releaseWeak(&cells->row_);
 }
 
 TableDocument* documentOf(const CRtfTableRow& row) noexcept {

@@ -56,8 +56,8 @@ void CRtfTableRows::insertNew(const List::Place& place, TableDocument&) {
     list_.insert(place, CRtfTableRow::create(parent_));
 }
 
-void CRtfTableRows::render(TableDocument& document, std::string& rtf) const {
-    TableRendering rendering(document, rtf);
+void CRtfTableRows::render(std::string& rtf) const {
+    TableRendering rendering(required(document()), rtf);
     const std::size_t start = rtf.size();
     std::size_t rendered = 0;
     for (CRtfTableRow* row : list_) {

@@ -8,12 +8,15 @@
 #include "quorvane/docmodel/CRtfTableRow.h"
 #include "quorvane/docmodel/TableCollection.h"
 #include "quorvane/docmodel/references.h"
+#include "quorvane/rtfgroups/CRtfGrpBody.h"
 #include "quorvane/support/Counted.h"
 #include "quorvane/support/Ref.h"
 
 namespace quorvane {
 
-/// The rows of the document's table, in order.
+/// The rows of the document's table, in order. When the document is gone, the collection is empty
+/// and has no `Parent`; what would change it raises error 91. One that `ClearStructure` took out of
+/// the document before keeps its rows.
 class CRtfTableRows : public TableCollection<CRtfTableRows, CRtfTableRow> {
 public:
     /// The document that the rows were made for; Nothing when it is gone. Rows that a document's
@@ -27,7 +30,8 @@ public:
 
 private:
     friend class TableCollection;
-    friend class CRtfGrpBody;
+    friend class CRtfDoc;
+    friend class CRtfGrpBody<CRtfTableRows>;
     friend void retain(CRtfTableRows* rows) noexcept;
     friend void release(CRtfTableRows* rows) noexcept;
 
@@ -37,7 +41,8 @@ private:
     TableDocument* document() const noexcept { return parent_.get(); }
     void insertNew(const List::Place& place, TableDocument& document);
     void removeAt(std::size_t position) noexcept { list_.removeAt(position); }
-    void render(TableDocument& document, std::string& rtf) const;
+    void render(std::string& rtf) const;
+    void destroy() noexcept { list_.clear(); }
 
     Counted counts_;
     WeakRef<TableDocument> parent_;

@@ -218,26 +218,29 @@ private:
         next_ = body_.size();
     }
 
+    /// How much may come of so much when words put tokens in: a walk that would never end is given
+    /// up there. Few may grow a thousandfold, many not so much, since a host waits meanwhile.
+    static std::uint64_t mostGrown(std::uint64_t size, std::uint64_t room, std::uint64_t most) {
+        return std::min((size + room) * 1000, most + size * 8);
+    }
+
     /// The walk as it is defined, on a body of any form.
     void walkOver(std::size_t open, std::size_t close) {
         if (open == nowhere || done_.find(closing, close + 1) == nowhere) {
             return;
         }
-        // A style whose words hold tokens can make a walk that never ends.
-        constexpr std::uint64_t largestGrowth = 1000;
-        constexpr std::uint64_t roomForCharacters = 1000;
-        constexpr std::uint64_t roomForBrackets = 20;
-        const std::uint64_t mostWritten = (done_.size() + roomForCharacters) * largestGrowth;
+        const std::uint64_t mostWritten = mostGrown(done_.size(), 1000, 2'000'000);
         Brackets text(done_);
         done_ = Text();
-        const std::uint64_t mostBrackets = (text.brackets() + roomForBrackets) * largestGrowth;
+        const std::uint64_t mostBrackets = mostGrown(text.brackets(), 20, 200'000);
         std::uint64_t stepsLeft = mostBrackets;
         open = text.markOpening(open);
         while (open != nowhere) {
-            if (stepsLeft == 0 || text.brackets() > mostBrackets || text.written() > mostWritten) {
+            if (wordsHoldTokens_ && (stepsLeft == 0 || text.brackets() > mostBrackets ||
+                                     text.written() > mostWritten)) {
                 raise(RunTimeError::Overflow);
             }
-            --stepsLeft;
+            stepsLeft -= stepsLeft > 0 ? 1 : 0;
             close = text.markClosing(close + 1);
             if (close == nowhere || close <= open) {
                 break;
@@ -266,8 +269,9 @@ private:
     }
 
     void appendWords(View name, bool hasValue, Text& text) {
-        [[maybe_unused]] const std::size_t start = text.size();
+        const std::size_t start = text.size();
         quorvane::appendWords(document_, name, hasValue, text);
+        wordsHoldTokens_ = wordsHoldTokens_ || text.find(opening, start) != nowhere;
         if constexpr (sizeof(Character) == 1) {
             placesAreRight_ = placesAreRight_ && asciiRunEnd(text, start) == text.size();
         }
@@ -280,6 +284,8 @@ private:
     // Where in `done_` the group stands that a token was replaced by first.
     ReplacedTokens<View> replaced_;
     bool placesAreRight_ = true;
+    // Words that were put in have had a "<": without any, each token leaves fewer of them.
+    bool wordsHoldTokens_ = false;
 };
 
 }  // namespace

@@ -10,9 +10,15 @@ class CRtfTableCell;
 class CRtfParagraphs;
 class CRtfParagraph;
 
-// How references to the objects of a document are counted. An owner holds its children strongly, a
-// child knows its owner weakly; a cell's paragraphs and a row's cells are part of their owner, so
-// holding the collection holds the owner.
+// How references to the objects of a document are counted. An owner holds its children.
+//
+// - A document, its rows and a row are owners that their children know weakly: who holds a child
+//   does not hold the owner. A row's cells are a part of the row, and a reference to them keeps its
+//   memory only: when the row goes, they are empty.
+// - A paragraph holds its cell while anyone but the cell refers to it, and so does the cell's
+//   collection of paragraphs, which is a part of the cell. The cell's own references to its
+//   paragraphs do not count, so there is no cycle: cell and paragraphs go together with the last
+//   reference from outside.
 
 void retain(CRtfDoc* document) noexcept;
 void release(CRtfDoc* document) noexcept;
@@ -31,9 +37,6 @@ void release(CRtfTableCells* cells) noexcept;
 
 void retain(CRtfTableCell* cell) noexcept;
 void release(CRtfTableCell* cell) noexcept;
-void retainWeak(CRtfTableCell* cell) noexcept;
-void releaseWeak(CRtfTableCell* cell) noexcept;
-bool isAlive(const CRtfTableCell* cell) noexcept;
 
 void retain(CRtfParagraphs* paragraphs) noexcept;
 void release(CRtfParagraphs* paragraphs) noexcept;

@@ -104,11 +104,13 @@ void DescriptionChecks::checkValue(const Leaf& leaf) const {
     const auto refuse = [&leaf](const std::string& message, const char* source) {
         raise(driverError(eWrongValue, message, source, leaf.line));
     };
+    // A number is admitted: whether it is a value of the enumeration shows when the document is
+    // built.
     if (vocabulary_.isColorKey(key)) {
-        if (!vocabulary_.colorNamed(leaf)) {
+        if (!leaf.isNumber() && !vocabulary_.colorNamed(leaf)) {
             refuse(leaf.valueText() + " isn't a recognized color.", "CRtfDriver.treWalkerSemantic");
         }
-    } else if (vocabulary_.isBorderKey(key) && !vocabulary_.borderNamed(leaf)) {
+    } else if (vocabulary_.isBorderKey(key) && !leaf.isNumber() && !vocabulary_.borderNamed(leaf)) {
         refuse(leaf.valueText() + " isn't a recognized border.", "CRtfDriver.treWalkerSemantic");
     }
     if (vocabulary_.isTextOrNumberKey(key)) {

@@ -16,8 +16,9 @@ public:
     void docWalkerSyntax(const DescriptionNode& doc) const;
 
     /// Checks the values of the leaves, in the order of the description, and where the children
-    /// stand. Errors: `eWrongValue` a value that is no colour, no border or no number where there
-    /// must be one; `eSyntaxError` a node that may not stand where it is.
+    /// stand. Errors: `eWrongValue` a text that is not a color or a border where there must be one,
+    /// a value that is not a number where there must be one; `eSyntaxError` a node that may not
+    /// stand where it is.
     void treeWalkerSemantic(const DescriptionNode& node, NodeKind kind) const;
 
 private:

@@ -18,7 +18,7 @@ const DescriptionNode& DescriptionNode::child(std::int32_t childNumber) const {
         return node.number == childNumber;
     });
     if (found == all.end()) {
-        raise(RunTimeError::ObjectNotSet);
+        raise(RunTimeError::InvalidProcedureCall);
     }
     return *found;
 }

@@ -104,7 +104,7 @@ struct DescriptionNode {
     Chain<Leaf> leaves() const { return Chain<Leaf>(firstLeaf); }
     Chain<DescriptionNode> children() const { return Chain<DescriptionNode>(firstChild); }
 
-    /// The child node of a number; error 91 when there is none.
+    /// The child node of a number; error 5 when there is none.
     const DescriptionNode& child(std::int32_t childNumber) const;
 };
 

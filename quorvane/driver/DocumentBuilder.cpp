@@ -2,7 +2,6 @@
 
 #include <array>
 #include <bit>
-#include <cmath>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -38,33 +37,17 @@ std::int32_t number(const Leaf& leaf) {
     return roundToLong(leaf.number);
 }
 
-bool isValueOf(std::int32_t number, tColorIndex) {
-    return number >= eNoColor && number <= eRedBrick;
-}
-
-bool isValueOf(std::int32_t number, tBorderWidth) {
-    return number == eNone || number == eHair || number == eThin || number == eNormal ||
-           number == eThick;
-}
-
-bool isValueOf(std::int32_t number, tCellAlign) {
-    return number >= eNoDefault && number <= eJustified;
-}
-
 // A name's value, or a number that is itself a value of the enumeration.
 template <class Enumeration>
 Enumeration namedOrNumbered(const Leaf& leaf, std::optional<Enumeration> named,
-                            const char* complaint) {
+                            bool (*isValue)(double), const char* complaint) {
     if (named) {
         return *named;
     }
-    if (leaf.isNumber() && std::abs(leaf.number) < 1000) {
-        const auto whole = static_cast<std::int32_t>(leaf.number);
-        if (leaf.number == whole && isValueOf(whole, Enumeration{})) {
-            return static_cast<Enumeration>(whole);
-        }
+    if (leaf.isNumber() && isValue(leaf.number)) {
+        return static_cast<Enumeration>(static_cast<std::int32_t>(leaf.number));
     }
-    raise(driverError(eWrongValue, leaf.valueText() + complaint));
+    raise(driverError(eWrongValue, leaf.valueText() + complaint, "CRtfDriver.treWalkerSemantic"));
 }
 
 }  // namespace
@@ -248,15 +231,17 @@ void DocumentBuilder::applyParaLeaf(const Ref<CRtfParagraphs>& paragraphs,
 }
 
 tColorIndex DocumentBuilder::color(const Leaf& leaf) const {
-    return namedOrNumbered(leaf, vocabulary_.colorNamed(leaf), " isn't a recognized color.");
+    return namedOrNumbered(leaf, vocabulary_.colorNamed(leaf), Vocabulary::isColorNumber,
+                           " isn't a recognized color.");
 }
 
 tBorderWidth DocumentBuilder::border(const Leaf& leaf) const {
-    return namedOrNumbered(leaf, vocabulary_.borderNamed(leaf), " isn't a recognized border.");
+    return namedOrNumbered(leaf, vocabulary_.borderNamed(leaf), Vocabulary::isBorderNumber,
+                           " isn't a recognized border.");
 }
 
 tCellAlign DocumentBuilder::alignment(const Leaf& leaf) const {
-    return namedOrNumbered(leaf, vocabulary_.alignmentNamed(leaf),
+    return namedOrNumbered(leaf, vocabulary_.alignmentNamed(leaf), Vocabulary::isAlignmentNumber,
                            " isn't a recognized alignment.");
 }
 

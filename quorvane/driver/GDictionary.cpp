@@ -5,7 +5,9 @@
 #include <iterator>
 #include <utility>
 
+#include "quorvane/support/RandomNumbers.h"
 #include "quorvane/support/RtfError.h"
+#include "quorvane/support/numberText.h"
 #include "quorvane/support/quicksort.h"
 
 namespace quorvane {
@@ -52,8 +54,7 @@ void SortVariant(std::vector<Value>& list) {
     if (isSorted(list, true)) {
         return;
     }
-    RandomNumbers random;
-    SortVariantHelp(list, 0, static_cast<std::int32_t>(list.size()) - 1, random);
+    SortVariantHelp(list, 0, static_cast<std::int32_t>(list.size()) - 1);
 }
 
 bool isSorted(const std::vector<Value>& list, bool ascending) {
@@ -62,23 +63,21 @@ bool isSorted(const std::vector<Value>& list, bool ascending) {
     });
 }
 
-void SortVariantHelp(std::vector<Value>& list, std::int32_t low, std::int32_t high,
-                     RandomNumbers& random) {
+void SortVariantHelp(std::vector<Value>& list, std::int32_t low, std::int32_t high) {
     if (low >= high) {
         return;
     }
-    quicksort(list.begin() + low, list.begin() + high + 1, compareVariants,
-              [&random](std::ptrdiff_t count) {
-                  return GetRandom(0, static_cast<std::int32_t>(count) - 1, random);
-              });
+    quicksort(
+        list.begin() + low, list.begin() + high + 1, compareVariants,
+        [](std::ptrdiff_t count) { return GetRandom(0, static_cast<std::int32_t>(count) - 1); });
 }
 
 void VariantSwap(std::vector<Value>& list, std::int32_t a, std::int32_t b) {
     std::swap(list[static_cast<std::size_t>(a)], list[static_cast<std::size_t>(b)]);
 }
 
-std::int32_t GetRandom(std::int32_t low, std::int32_t high, RandomNumbers& random) {
-    return random.between(low, high);
+std::int32_t GetRandom(std::int32_t low, std::int32_t high) {
+    return RandomNumbers::ofProcess().between(low, high);
 }
 
 std::vector<Value> variantSubst(const Value& oldValue, const Value& newValue,
@@ -88,6 +87,33 @@ std::vector<Value> variantSubst(const Value& oldValue, const Value& newValue,
         *found = newValue;
     }
     return list;
+}
+
+std::vector<Value> variantRemove(const Value& value, std::vector<Value> list) {
+    const auto found = std::find(list.begin(), list.end(), value);
+    if (found != list.end()) {
+        list.erase(found);
+    }
+    return list;
+}
+
+std::vector<Value> variantCons(const Value& value, std::vector<Value> list) {
+    list.insert(list.begin(), value);
+    return list;
+}
+
+std::string listToString(const std::vector<Value>& list, std::string_view separator) {
+    std::string text;
+    std::string_view before;
+    for (const Value& value : list) {
+        if (!value.isText() && !value.isNumber()) {
+            raise(RunTimeError::TypeMismatch);
+        }
+        text += before;
+        text += value.isText() ? value.text() : numberText(value.number());
+        before = separator;
+    }
+    return text;
 }
 
 }  // namespace quorvane

@@ -1,9 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
+#include <string_view>
 #include <vector>
 
-#include "quorvane/support/RandomNumbers.h"
 #include "quorvane/support/Value.h"
 
 namespace quorvane {
@@ -36,17 +37,27 @@ bool isSorted(const std::vector<Value>& list, bool ascending);
 
 /// Sorts the elements from `low` to `high`, both inclusive, by quicksort with random pivots. Does
 /// nothing when `low` is not below `high`. Error 13 as `SortVariant`.
-void SortVariantHelp(std::vector<Value>& list, std::int32_t low, std::int32_t high,
-                     RandomNumbers& random);
+void SortVariantHelp(std::vector<Value>& list, std::int32_t low, std::int32_t high);
 
 /// Exchanges two elements.
 void VariantSwap(std::vector<Value>& list, std::int32_t a, std::int32_t b);
 
-/// A whole number from low to high, both inclusive. `low` must not be above `high`.
-std::int32_t GetRandom(std::int32_t low, std::int32_t high, RandomNumbers& random);
+/// A whole number from low to high, both inclusive. `low` must not be above `high`. The generator
+/// is seeded once per process, on the first call.
+std::int32_t GetRandom(std::int32_t low, std::int32_t high);
 
 /// The list with the first element that equals `oldValue` replaced by `newValue`.
 std::vector<Value> variantSubst(const Value& oldValue, const Value& newValue,
                                 std::vector<Value> list);
+
+/// The list without the first element that equals the value.
+std::vector<Value> variantRemove(const Value& value, std::vector<Value> list);
+
+/// The list with the value in front of its elements.
+std::vector<Value> variantCons(const Value& value, std::vector<Value> list);
+
+/// The elements as texts, numbers in their shortest form, with the separator between them. Error 13
+/// for an element that is neither.
+std::string listToString(const std::vector<Value>& list, std::string_view separator = " ");
 
 }  // namespace quorvane

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
@@ -297,6 +298,10 @@ std::optional<Enumeration> valueNamed(const Pairs& pairs, const Leaf& leaf) {
     return leaf.kind == LeafKind::Text ? valueNamed<Enumeration>(pairs, leaf.text) : std::nullopt;
 }
 
+bool isWholeFrom(std::int32_t low, double number, std::int32_t high) {
+    return number >= low && number <= high && number == std::floor(number);
+}
+
 }  // namespace
 
 std::string Vocabulary::expand(std::string_view word) const {
@@ -402,6 +407,19 @@ std::optional<tBorderWidth> Vocabulary::borderNamed(const Leaf& leaf) const {
 
 std::optional<tCellAlign> Vocabulary::alignmentNamed(const Leaf& leaf) const {
     return valueNamed<tCellAlign>(alignments, leaf);
+}
+
+bool Vocabulary::isColorNumber(double number) {
+    return isWholeFrom(eNoColor, number, eRedBrick);
+}
+
+bool Vocabulary::isBorderNumber(double number) {
+    constexpr std::int32_t widths[] = {eNone, eHair, eThin, eNormal, eThick};
+    return std::find(std::begin(widths), std::end(widths), number) != std::end(widths);
+}
+
+bool Vocabulary::isAlignmentNumber(double number) {
+    return isWholeFrom(eNoDefault, number, eJustified);
 }
 
 std::vector<std::string_view> Vocabulary::keysOf(NodeKind kind) {

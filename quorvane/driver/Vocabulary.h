@@ -49,6 +49,11 @@ public:
     std::optional<tBorderWidth> borderNamed(const Leaf& leaf) const;
     std::optional<tCellAlign> alignmentNamed(const Leaf& leaf) const;
 
+    /// True for a number that is itself a value of the enumeration: it may stand for a name.
+    static bool isColorNumber(double number);
+    static bool isBorderNumber(double number);
+    static bool isAlignmentNumber(double number);
+
     /// The words themselves, the keys in their long forms; `None` has no keys.
     static std::vector<std::string_view> keysOf(NodeKind kind);
     static std::vector<std::string_view> colorNames();

@@ -1,56 +1,76 @@
 #include "quorvane/rtfgroups/CRtfGrpFontTable.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <iterator>
 
+#include "quorvane/support/textCase.h"
 #include "quorvane/support/wildcards.h"
 
 namespace quorvane {
 
 namespace {
 
-constexpr std::string_view entries[] = {
-    R"(\fonttbl)",
-    R"({\f0\fswiss\fcharset0\fprq2 Arial;})",
-    R"({\f1\froman\fcharset0\fprq2 Book Antiqua;})",
-    R"({\f2\froman\fcharset0\fprq2 Bookman Old Style;})",
-    R"({\f3\fmodern\fcharset0\fprq1 Courier New;})",
-    R"({\f4\froman\fcharset0\fprq2 Garamond;})",
-    R"({\f5\froman\fcharset0\fprq2 Georgia;})",
-    R"({\f6\fswiss\fcharset0\fprq2 Lucida Sans;})",
-    R"({\f7\froman\fcharset2\fprq2 Symbol;})",
-    R"({\f8\fswiss\fcharset0\fprq2 Tahoma;})",
-    R"({\f9\froman\fcharset0\fprq2 Times New Roman;})",
-    R"({\f10\fswiss\fcharset0\fprq2 Trebuchet MS;})",
-    R"({\f11\fswiss\fcharset0\fprq2 Verdana;})",
-    R"({\f12\froman\fcharset2\fprq2 Webdings;})",
-    R"({\f13\fdecor\fcharset2\fprq2 Wingdings;})",
-    R"({\f14\fswiss\fcharset0\fprq2 Arial Black;})",
-    R"({\f15\fswiss\fcharset0\fprq2 Impact;})",
-    R"({\f16\fscript\fcharset0\fprq2 Comic Sans MS;})",
-    R"({\f17\fswiss\fcharset0\fprq2 Century Gothic;})",
+struct Font {
+    std::string_view key;
+    std::string_view entry;
 };
 
-static_assert(std::size(entries) == CRtfGrpFontTable::fontCount + 1);
+constexpr std::string_view opening = R"(\fonttbl)";
+
+// By their numbers.
+constexpr Font fonts[] = {
+    {"Arial", R"({\f0\fswiss\fcharset0\fprq2 Arial;})"},
+    {"Book Antiqua", R"({\f1\froman\fcharset0\fprq2 Book Antiqua;})"},
+    {"Bookman Old Style", R"({\f2\froman\fcharset0\fprq2 Bookman Old Style;})"},
+    {"Courier New", R"({\f3\fmodern\fcharset0\fprq1 Courier New;})"},
+    {"Garamond", R"({\f4\froman\fcharset0\fprq2 Garamond;})"},
+    {"Georgia", R"({\f5\froman\fcharset0\fprq2 Georgia;})"},
+    {"Lucida Sans", R"({\f6\fswiss\fcharset0\fprq2 Lucida Sans;})"},
+    {"Symbol", R"({\f7\froman\fcharset2\fprq2 Symbol;})"},
+    {"Tahoma", R"({\f8\fswiss\fcharset0\fprq2 Tahoma;})"},
+    {"Times New Roman", R"({\f9\froman\fcharset0\fprq2 Times New Roman;})"},
+    {"Trebuchet", R"({\f10\fswiss\fcharset0\fprq2 Trebuchet MS;})"},
+    {"Verdana", R"({\f11\fswiss\fcharset0\fprq2 Verdana;})"},
+    {"Webdings", R"({\f12\froman\fcharset2\fprq2 Webdings;})"},
+    {"Wingdings", R"({\f13\fdecor\fcharset2\fprq2 Wingdings;})"},
+    {"Arial Black", R"({\f14\fswiss\fcharset0\fprq2 Arial Black;})"},
+    {"Impact", R"({\f15\fswiss\fcharset0\fprq2 Impact;})"},
+    {"Comic Sans MS", R"({\f16\fscript\fcharset0\fprq2 Comic Sans MS;})"},
+    {"Century Gothic", R"({\f17\fswiss\fcharset0\fprq2 Century Gothic;})"},
+};
+
+static_assert(std::size(fonts) == CRtfGrpFontTable::fontCount);
 
 }  // namespace
 
 std::int32_t CRtfGrpFontTable::GetFontIndex(std::string_view sName) const {
-    std::int32_t number = -1;
-    for (const std::string_view entry : entries) {
-        if (matchesWildcards(entry, sName)) {
-            return number;
-        }
-        ++number;
+    if (matchesWildcards(opening, sName)) {
+        return -1;
     }
-    return 0;
+    const auto* const found = std::ranges::find_if(
+        fonts, [sName](const Font& font) { return matchesWildcards(font.entry, sName); });
+    return found == std::end(fonts) ? 0 : static_cast<std::int32_t>(found - fonts);
+}
+
+std::optional<std::int32_t> CRtfGrpFontTable::fontNumber(std::string_view key) {
+    const auto* const found = std::ranges::find_if(
+        fonts, [&](const Font& font) { return lowerCase(font.key) == lowerCase(key); });
+    return found == std::end(fonts) ? std::nullopt
+                                    : std::optional(static_cast<std::int32_t>(found - fonts));
+}
+
+std::string_view CRtfGrpFontTable::fontKey(std::int32_t number) {
+    const bool isThere = number >= 0 && static_cast<std::size_t>(number) < std::size(fonts);
+    return isThere ? fonts[number].key : std::string_view();
 }
 
 void CRtfGrpFontTable::render(std::string& rtf) const {
-    std::string_view separator = "\r\n{";
-    for (const std::string_view entry : entries) {
-        rtf += separator;
-        rtf += entry;
-        separator = "\r\n";
+    rtf += "\r\n{";
+    rtf += opening;
+    for (const Font& font : fonts) {
+        rtf += "\r\n";
+        rtf += font.entry;
     }
     rtf += '}';
 }

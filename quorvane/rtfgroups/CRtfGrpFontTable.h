@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -17,6 +18,13 @@ public:
     /// case counts), such as "*Georgia;}"; 0 when none does. An entry is the whole text of the
     /// font's group; "\fonttbl" stands before the fonts as an entry of its own and would be -1.
     std::int32_t GetFontIndex(std::string_view sName) const;
+
+    /// Number of the font of that key, in any case; nothing when no font has it. A key is the name
+    /// in the font's entry, but for font 10: "Trebuchet", whose entry names "Trebuchet MS".
+    static std::optional<std::int32_t> fontNumber(std::string_view key);
+
+    /// Key of the font of that number; empty for a number that the table does not have.
+    static std::string_view fontKey(std::int32_t number);
 
     /// Appends the group's text.
     void render(std::string& rtf) const;

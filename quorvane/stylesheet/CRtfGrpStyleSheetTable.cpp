@@ -11,10 +11,6 @@ namespace quorvane {
 
 namespace {
 
-std::string searchedName(std::string_view name) {
-    return lowerCase(TrimEx(name));
-}
-
 std::string reference(std::string_view word, const StyleList& styles, const std::string& name) {
     const int position = name.empty() ? -1 : styles.find(name);
     return position < 0 ? std::string() : std::string(word) + std::to_string(styleNumber(position));
@@ -46,6 +42,16 @@ std::string characterEntry(const StyleList& styles, int position) {
     return "{" + words + " " + style.format() + " " + style.name + ";}";
 }
 
+bool holdTokens(const StyleList& styles) {
+    const int count = static_cast<int>(styles.count());
+    for (int position = 1; position <= count; ++position) {
+        if (styles.at(position).format().find('<') != std::string::npos) {
+            return true;
+        }
+    }
+    return false;
+}
+
 template <class Entry>
 void appendEntries(const StyleList& styles, Entry entry, std::string& rtf) {
     const int count = static_cast<int>(styles.count());
@@ -71,7 +77,7 @@ void CRtfGrpStyleSheetTable::loadStyleSheetFromMemory(std::string_view text) {
 }
 
 bool CRtfGrpStyleSheetTable::IsStyleDefined(std::string_view sName) const {
-    const std::string name = searchedName(sName);
+    const std::string name = lowerCase(sName);
     return loaded_ && (paragraphStyles_.find(name) > 0 || characterStyles_.find(name) > 0 ||
                        cellStyles_.find(name) > 0);
 }
@@ -89,7 +95,7 @@ std::int32_t CRtfGrpStyleSheetTable::getCellStyleBackColor(std::string_view sNam
 }
 
 std::string CRtfGrpStyleSheetTable::GetMarkedFieldStyle(std::string_view sName) const {
-    const int position = loaded_ ? cellStyles_.find(searchedName(sName)) : -1;
+    const int position = loaded_ ? cellStyles_.find(lowerCase(sName)) : -1;
     return position < 0 ? std::string() : cellStyles_.at(position).format();
 }
 
@@ -100,8 +106,12 @@ void CRtfGrpStyleSheetTable::render(std::string& rtf) const {
 }
 
 void CRtfGrpStyleSheetTable::clear() noexcept {
+    if (loaded_) {
+        owner_.markChanged();
+    }
     fileName_.clear();
     loaded_ = false;
+    characterWordsHoldTokens_ = false;
     paragraphStyles_.clear();
     characterStyles_.clear();
     cellStyles_.clear();
@@ -118,6 +128,7 @@ void CRtfGrpStyleSheetTable::load(std::string_view text) {
     appendEntries(paragraphStyles_, paragraphEntry, group_);
     appendEntries(characterStyles_, characterEntry, group_);
     group_ += '}';
+    characterWordsHoldTokens_ = holdTokens(characterStyles_);
     loaded_ = true;
     owner_.markChanged();
 }

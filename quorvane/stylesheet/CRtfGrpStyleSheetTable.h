@@ -14,8 +14,9 @@ namespace quorvane {
 
 /// The document's styles: what a stylesheet text defines, the group that is written for it, and the
 /// lookups made while the document is rendered. Until a stylesheet was read without an error the
-/// group is empty and every lookup answers empty. Lookups trim the blanks of the name that they are
-/// asked for and take no regard of its case; they never fail.
+/// group is empty and every lookup answers empty. Lookups take no regard of the case of the name
+/// that they are asked for, but do not trim it: "strong " is a name that no sheet has. They never
+/// fail.
 class CRtfGrpStyleSheetTable {
 public:
     CRtfGrpStyleSheetTable(GroupOwner& owner, Platform& platform)
@@ -23,18 +24,23 @@ public:
 
     /// Name of the stylesheet's file; empty when the styles come from a text.
     const std::string& StyleSheetFile() const { return fileName_; }
-    /// Forgets all styles and reads those of a file (Windows-1252), whatever its extension. On
-    /// success the document is marked changed. A missing file raises nothing: its name is kept and
-    /// no styles are loaded. A file that exists but cannot be read counts as empty. Errors 445 and
-    /// 31037 for a bad stylesheet; the name is empty then.
+    /// Forgets all styles and reads those of a file (Windows-1252), whatever its extension. The
+    /// document is marked changed on success, and when styles had been loaded before. A missing
+    /// file raises nothing: its name is kept and no styles are loaded. A file that exists but
+    /// cannot be read counts as empty. Errors 445 and 31037 for a bad stylesheet; the name is empty
+    /// then.
     void setStyleSheetFile(std::string sName);
 
-    /// Forgets all styles and the file name and reads the styles of a text (UTF-8). On success the
-    /// document is marked changed. Errors 445 and 31037 for a bad stylesheet.
+    /// Forgets all styles and the file name and reads the styles of a text (UTF-8). Marks the
+    /// document changed as `setStyleSheetFile` does. Errors 445 and 31037 for a bad stylesheet.
     void loadStyleSheetFromMemory(std::string_view text);
 
     /// True when a stylesheet was read without an error.
     bool StyleSheetOk() const noexcept { return loaded_; }
+
+    /// True when a "<" stands in the words of a character style: only then can inline styles make a
+    /// text endless.
+    bool CharacterWordsHoldTokens() const noexcept { return characterWordsHoldTokens_; }
 
     /// True when a paragraph, character or cell style of that name exists.
     bool IsStyleDefined(std::string_view sName) const;
@@ -59,6 +65,7 @@ public:
     void render(std::string& rtf) const;
 
 private:
+    // Takes away what was loaded before; the document then differs from its text.
     void clear() noexcept;
     void load(std::string_view text);
     void file(const StyleDefinition& definition);
@@ -67,6 +74,7 @@ private:
     Platform& platform_;
     std::string fileName_;
     bool loaded_ = false;
+    bool characterWordsHoldTokens_ = false;
     // The group's text, which is the same for every rendering.
     std::string group_;
     StyleList paragraphStyles_;

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "quorvane/support/textCase.h"
-#include "quorvane/support/trimming.h"
 
 namespace quorvane {
 
@@ -33,7 +32,7 @@ std::string_view StyleAnswers::find(const StyleList& styles, std::string_view na
         if (asked_.size() >= mostNamesKept) {
             asked_.clear();
         }
-        const int position = styles.find(lowerCase(TrimEx(name)));
+        const int position = styles.find(lowerCase(name));
         asked = asked_.emplace(std::string(name), position).first;
     }
     return asked->second < 0 ? std::string_view(answerForUnknown_)

@@ -18,7 +18,7 @@ public:
     /// Prepares the answers for a list. `answerForUnknown` is what a name that is not in it gets.
     StyleAnswers(const StyleList& styles, std::string answerForUnknown);
 
-    /// The answer for a name in any case, with blanks around it or none.
+    /// The answer for a name in any case. Blanks around it count.
     std::string_view find(const StyleList& styles, std::string_view name) const;
 
 private:

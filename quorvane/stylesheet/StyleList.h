@@ -33,7 +33,7 @@ public:
     /// The style at a 1-based position, which must be there.
     const Style& at(int position) const { return styles_[static_cast<std::size_t>(position) - 1]; }
 
-    /// 1-based position of the first style of that name, which must be trimmed and in lower case;
+    /// 1-based position of the first style of that name, which must be in lower case;
     /// -1 when there is none.
     int find(std::string_view name) const;
 

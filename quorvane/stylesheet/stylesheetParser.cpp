@@ -116,8 +116,8 @@ StyleDefinition parseDefinition(std::string_view text) {
         const std::size_t end = std::min(text.find(';', start), text.size());
         const std::string_view part = text.substr(start, end - start);
         start = end + 1;
-        if (trimWhitespace(part).empty()) {
-            continue;
+        if (end == text.size() && trimWhitespace(part).empty()) {
+            break;
         }
         const Item item = parseItem(part);
         if (definition.names.empty()) {

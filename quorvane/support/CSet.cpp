@@ -8,7 +8,9 @@
 namespace quorvane {
 
 void CSet::add(const Value& Item) {
-    map_.setItem(Item, Item);
+    if (!map_.Exists(Item)) {
+        map_.add(Item, Item);
+    }
 }
 
 void CSet::loadFromRes(Platform& platform, int ResId) {

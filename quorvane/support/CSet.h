@@ -12,7 +12,7 @@ namespace quorvane {
 /// `CMap` are.
 class CSet {
 public:
-    /// Adds the item, unless it is a member already.
+    /// Adds the item, unless it is a member already: the stored one stays as it is then.
     void add(const Value& Item);
 
     std::int32_t Count() const { return map_.Count(); }

@@ -1,6 +1,7 @@
 #include "quorvane/support/CStringList.h"
 
 #include <algorithm>
+#include <limits>
 #include <numeric>
 #include <utility>
 #include <vector>
@@ -180,7 +181,9 @@ std::optional<std::size_t> CStringList::placeFor(const Value& before, const Valu
 }
 
 void CStringList::insert(std::size_t place, Entry entry) {
-    charSize_ += static_cast<std::int64_t>(characterCount(entry.text));
+    charSize_ = static_cast<std::int32_t>(
+        std::min(static_cast<std::size_t>(charSize_) + characterCount(entry.text),
+                 static_cast<std::size_t>(std::numeric_limits<std::int32_t>::max())));
     if (place == 0) {
         --firstOrdinal_;
     } else if (place < entries_.size()) {

@@ -126,8 +126,8 @@ public:
     bool IsEmpty() const { return entries_.empty(); }
 
     /// Number of characters of all strings that were ever added since the last `clear`; removing a
-    /// string does not reduce it.
-    std::int64_t CharSize() const { return charSize_; }
+    /// string does not reduce it. It stays at 2,147,483,647 when there were more.
+    std::int32_t CharSize() const { return charSize_; }
 
 private:
     /// The 0-based place of the element that the index names; nothing when it names none.
@@ -146,7 +146,7 @@ private:
     // it, so that the others' need not.
     std::unordered_map<std::string, std::int64_t> ordinals_;
     std::int64_t firstOrdinal_ = 0;
-    std::int64_t charSize_ = 0;
+    std::int32_t charSize_ = 0;
 };
 
 }  // namespace quorvane

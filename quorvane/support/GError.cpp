@@ -25,25 +25,30 @@ std::string sourceOfCurrentError() {
     return error ? error->source : std::string();
 }
 
+enum class Outcome { Success, CannotCreateObject, Failure };
+
 /// Runs the action with the error as the thread's current one, and makes it the current one again
-/// whatever was raised meanwhile. True when the action threw nothing.
+/// whatever was raised meanwhile.
 template <class Action>
-bool succeedsUnder(const RtfError& error, Action&& action) {
-    bool succeeded = true;
+Outcome runUnder(const RtfError& error, Action&& action) {
+    Outcome outcome = Outcome::Success;
     setCurrentError(error);
     try {
         action();
+    } catch (const RtfError& failure) {
+        outcome = failure.is(RunTimeError::CannotCreateObject) ? Outcome::CannotCreateObject
+                                                               : Outcome::Failure;
     } catch (...) {
-        succeeded = false;
+        outcome = Outcome::Failure;
     }
     setCurrentError(error);
-    return succeeded;
+    return outcome;
 }
 
 }  // namespace
 
 void GError::handleError(const RtfError& error, const std::string& moduleName,
-                         const std::string& procedureName, const std::string& extraInfo) noexcept {
+                         const std::string& procedureName, const ExtraInfo& extraInfo) noexcept {
     try {
         // A copy: the error may be the thread's current one, which the steps below replace.
         const AbsorbedError absorbed{error, moduleName, procedureName};
@@ -63,10 +68,12 @@ void GError::handleError(const RtfError& error, const std::string& moduleName,
             showError(reported.number, reported.description, moduleName, procedureName);
         };
 
-        succeedsUnder(reported, tellObserver);
-        const bool delivered = reporterSwitch_ && succeedsUnder(reported, tellReporter);
-        if (!delivered && reported.is(RunTimeError::CannotCreateObject)) {
-            succeedsUnder(reported, show);
+        runUnder(reported, tellObserver);
+        const Outcome delivery =
+            reporterSwitch_ ? runUnder(reported, tellReporter) : Outcome::Failure;
+        if (delivery == Outcome::CannotCreateObject ||
+            (delivery == Outcome::Failure && reported.is(RunTimeError::CannotCreateObject))) {
+            runUnder(reported, show);
         }
     } catch (...) {
         // Not even memory for a copy of the error: there is nobody left to tell.
@@ -88,7 +95,7 @@ void GError::showError(std::int32_t number, const std::string& description,
 
 void GError::sendToReporter(std::int32_t number, const std::string& description,
                             const std::string& moduleName, const std::string& procedureName,
-                            const std::string& extraInfo) const {
+                            const ExtraInfo& extraInfo) const {
     const std::unique_ptr<ErrorReporter> reporter = platform_.createReporter("Vantrel.CVantrel");
     const ProgramVersion version = platform_.programVersion();
     std::string applicationId =

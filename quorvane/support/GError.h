@@ -37,12 +37,14 @@ public:
     Platform& platform() const noexcept { return platform_; }
 
     /// Takes the error that ended the procedure: tells the observer, then the external error
-    /// collection when the reporter switch is on. With the switch off, or when the delivery fails,
-    /// error 429 is shown in a message box and any other error leaves no trace. Never raises,
-    /// whatever observer, reporter and message box do. Afterwards the error is the thread's current
-    /// error.
+    /// collection when the reporter switch is on. With the switch off, error 429 is shown in a
+    /// message box and any other error leaves no trace. When the delivery fails, the error is shown
+    /// in a message box if it or the failure is error 429. `extraInfo` goes to the error
+    /// collection; null for none. Never raises, whatever observer, reporter and message box do.
+    /// Afterwards the error is the thread's current error.
     void handleError(const RtfError& error, const std::string& moduleName,
-                     const std::string& procedureName, const std::string& extraInfo = {}) noexcept;
+                     const std::string& procedureName,
+                     const ExtraInfo& extraInfo = nullptr) noexcept;
 
     /// The report of an error: five lines, broken by CR LF, with number, description, module,
     /// procedure and the source of the thread's current error. "Funtion: " is spelled so.
@@ -58,7 +60,7 @@ public:
     /// cannot be created; otherwise raises what it raises.
     void sendToReporter(std::int32_t number, const std::string& description,
                         const std::string& moduleName, const std::string& procedureName,
-                        const std::string& extraInfo) const;
+                        const ExtraInfo& extraInfo) const;
 
     /// True when errors go to the external error collection. Initially false.
     bool ReporterSwitch() const noexcept { return reporterSwitch_; }

@@ -8,6 +8,8 @@
 
 namespace quorvane {
 
+class CStringList;
+
 /// A file that is being written. Destroying it closes it and tells no error; a file that was made
 /// and that `close` did not end goes then, so that none is there in part.
 class OutputFile {
@@ -26,6 +28,9 @@ struct ProgramVersion {
     int revision = 0;
 };
 
+/// A collection of further information on an error; null for none.
+using ExtraInfo = std::shared_ptr<const CStringList>;
+
 /// What the external error collection is told of one error.
 struct ErrorReport {
     std::int32_t number = 0;
@@ -36,8 +41,8 @@ struct ErrorReport {
     std::string version;
     /// The error's source; empty when none is told.
     std::string source;
-    /// Further information that the reporting procedure gave; usually empty.
-    std::string extraInfo;
+    /// Further information that the reporting procedure gave; null for none.
+    ExtraInfo extraInfo;
 };
 
 /// The external error collection, bound by name when it is needed.

@@ -10,6 +10,11 @@ RandomNumbers::RandomNumbers()
           static_cast<std::uint32_t>(std::chrono::steady_clock::now().time_since_epoch().count())) {
 }
 
+RandomNumbers& RandomNumbers::ofProcess() {
+    static RandomNumbers numbers;
+    return numbers;
+}
+
 std::int32_t RandomNumbers::between(std::int32_t low, std::int32_t high) {
     const double count = static_cast<double>(high) - low + 1;
     return static_cast<std::int32_t>(std::floor(count * next()) + low);
@@ -17,8 +22,8 @@ std::int32_t RandomNumbers::between(std::int32_t low, std::int32_t high) {
 
 double RandomNumbers::next() {
     // A step of a fixed length on the circle of all states, whose bits are then mixed.
-    state_ += 0x9E3779B97F4A7C15u;
-    std::uint64_t mixed = state_;
+    constexpr std::uint64_t step = 0x9E3779B97F4A7C15u;
+    std::uint64_t mixed = state_.fetch_add(step, std::memory_order_relaxed) + step;
     mixed = (mixed ^ (mixed >> 30)) * 0xBF58476D1CE4E5B9u;
     mixed = (mixed ^ (mixed >> 27)) * 0x94D049BB133111EBu;
     mixed ^= mixed >> 31;

@@ -14,6 +14,7 @@
 #include "quorvane/support/RtfError.h"
 #include "quorvane/support/utf16.h"
 #include "quorvane/support/windowsErrorToRunTimeError.h"
+#include "quorvane/support/windowsStringCollection.h"
 
 namespace quorvane {
 
@@ -321,15 +322,12 @@ public:
 
     void sendError(const ErrorReport& report) override {
         Variant extraInfo;
+        extraInfo.pdispVal =
+            report.extraInfo ? new WindowsStringCollection(report.extraInfo) : nullptr;
         extraInfo.vt = VT_DISPATCH;
-        extraInfo.pdispVal = nullptr;
-        Variant extraText(report.extraInfo);
-        Variant arguments[] = {Variant::reference(report.extraInfo.empty() ? extraInfo : extraText),
-                               Variant(report.source),
-                               Variant(report.version),
-                               Variant(report.procedureName),
-                               Variant(report.moduleName),
-                               Variant(report.description),
+        Variant arguments[] = {Variant::reference(extraInfo), Variant(report.source),
+                               Variant(report.version),       Variant(report.procedureName),
+                               Variant(report.moduleName),    Variant(report.description),
                                Variant(report.number)};
         call(L"sendError", arguments, 7);
     }

@@ -2,14 +2,17 @@
 #include <windows.h>
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <thread>
 #include <vector>
 
+#include "quorvane/support/CStringList.h"
 #include "quorvane/support/GError.h"
 #include "quorvane/support/Platform.h"
 #include "quorvane/support/RtfError.h"
 #include "quorvane/support/currentError.h"
+#include "quorvane/support/windowsStringCollection.h"
 #include "tests/com/host/Component.h"
 #include "tests/com/host/Process.h"
 #include "tests/com/host/text.h"
@@ -158,12 +161,46 @@ TEST_F(ErrorCollectionTest, GetsFurtherInformation) {
     GError errors(systemPlatform());
     errors.setReporterSwitch(true);
 
-    errors.handleError(RtfError(5, "Caf\xC3\xA9", "s"), "m", "p", "more");
+    CStringList extra;
+    extra.AddTail("more");
+    extra.AddTail("Caf\xC3\xA9", "key");
+    errors.handleError(RtfError(5, "Caf\xC3\xA9", "s"), "m", "p",
+                       std::make_shared<const CStringList>(extra));
 
     const std::string written = bytesOfFile(file_);
     EXPECT_NE(written.find("sendError [I4 5] [BSTR Caf\xC3\xA9] [BSTR m] [BSTR p] "),
               std::string::npos);
-    EXPECT_TRUE(written.ends_with("[BSTR s] [by reference BSTR more]\n"));
+    EXPECT_TRUE(written.ends_with("[BSTR s] [by reference Object]\n"));
+}
+
+TEST(FurtherInformation, IsAnAutomationCollectionForTheErrorCollection) {
+    CStringList list;
+    list.AddTail("more");
+    list.AddTail("Caf\xC3\xA9", "key");
+    auto* collection = new WindowsStringCollection(std::make_shared<const CStringList>(list));
+    const auto itemAt = [&](VARIANT index) {
+        VARIANT item;
+        VariantInit(&item);
+        DISPPARAMS arguments{&index, nullptr, 1, 0};
+        const HRESULT result =
+            collection->Invoke(DISPID_VALUE, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET,
+                               &arguments, &item, nullptr, nullptr);
+        const std::string text = result == S_OK ? utf8Text(V_BSTR(&item)) : "no element";
+        VariantClear(&item);
+        return text;
+    };
+    VARIANT index;
+    VariantInit(&index);
+    V_VT(&index) = VT_I4;
+    V_I4(&index) = 2;
+    EXPECT_EQ(itemAt(index), "Caf\xC3\xA9");
+    V_I4(&index) = 3;
+    EXPECT_EQ(itemAt(index), "no element");
+    V_VT(&index) = VT_BSTR;
+    V_BSTR(&index) = SysAllocString(L"KEY");
+    EXPECT_EQ(itemAt(index), "Caf\xC3\xA9");
+    VariantClear(&index);
+    EXPECT_EQ(collection->Release(), 0U);
 }
 
 TEST_F(ErrorCollectionTest, IsNotToldWhenTheSwitchIsOff) {

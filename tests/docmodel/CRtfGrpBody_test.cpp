@@ -1,42 +1,48 @@
-#include "quorvane/docmodel/CRtfGrpBody.h"
+#include "quorvane/rtfgroups/CRtfGrpBody.h"
 
 #include <gtest/gtest.h>
+
+#include <string>
 
 #include "tests/docmodel/documentParts.h"
 
 namespace quorvane {
 namespace {
 
-std::string rendered(const CRtfGrpBody& body) {
-    std::string rtf;
-    body.render(rtf);
-    return rtf;
-}
-
 TEST(CRtfGrpBody, HasRowsThatAreTheSameEveryTime) {
-    const Ref<CRtfDoc> document = CRtfDoc::create();
-    const CRtfGrpBody body(*document);
+    const Ref<CRtfTableRows> rows = CRtfDoc::create()->TableRows();
+    const CRtfGrpBody<CRtfTableRows> body(rows);
 
-    EXPECT_EQ(body.TableRows(), body.TableRows());
-    EXPECT_EQ(body.TableRows()->Count(), 0);
-    EXPECT_EQ(body.TableRows()->Parent(), document);
-}
-
-TEST(CRtfGrpBody, WritesNothingWithoutRows) {
-    const Ref<CRtfDoc> document = CRtfDoc::create();
-
-    EXPECT_EQ(rendered(CRtfGrpBody(*document)), "");
+    EXPECT_EQ(body.TableRows(), rows);
 }
 
 TEST(CRtfGrpBody, WritesItsRowsAndNothingElse) {
     const Ref<CRtfDoc> document = CRtfDoc::create();
-    const CRtfGrpBody body(*document);
+    const CRtfGrpBody<CRtfTableRows> body(document->TableRows());
+    std::string rtf;
+    body.render(rtf);
+    EXPECT_EQ(rtf, "");
+
     body.TableRows()->AddTail();
     body.TableRows()->AddTail();
 
-    EXPECT_EQ(rendered(body),
+    body.render(rtf);
+    EXPECT_EQ(rtf,
               "\r\n{\\intbl\\trowd\\trql\\trgaph70\\trleft0\\row}"
               "\r\n{\\intbl\\trowd\\trql\\trgaph70\\trleft0\\row}");
+}
+
+TEST(CRtfGrpBody, TearsItsRowsDownWhenItIsDestroyedOnly) {
+    const Ref<CRtfDoc> document = CRtfDoc::create();
+    const Ref<CRtfTableRows> rows = document->TableRows();
+    rows->AddTail();
+    { const CRtfGrpBody<CRtfTableRows> forgotten(rows); }
+    EXPECT_EQ(rows->Count(), 1);
+
+    CRtfGrpBody<CRtfTableRows> body(rows);
+    body.destroy();
+
+    EXPECT_EQ(rows->Count(), 0);
 }
 
 }  // namespace

@@ -264,9 +264,9 @@ TEST_F(StyledCell, WritesNoColourWithoutOwnColourAndStyle) {
 }
 
 TEST_F(StyledCell, KeepsItsStyleAsItIsNamed) {
-    first()->setStyle(" Dark ");
+    first()->setStyle("Dark");
 
-    EXPECT_EQ(first()->Style(), " Dark ");
+    EXPECT_EQ(first()->Style(), "Dark");
     EXPECT_EQ(definition(), "\\clcbpat24\\cellx9000");
 }
 

@@ -7,6 +7,11 @@
 #include <vector>
 
 #include "quorvane/docmodel/CRtfDoc.h"
+#include "quorvane/docmodel/CRtfParagraph.h"
+#include "quorvane/docmodel/CRtfParagraphs.h"
+#include "quorvane/docmodel/CRtfTableCell.h"
+#include "quorvane/docmodel/CRtfTableCells.h"
+#include "quorvane/docmodel/CRtfTableRow.h"
 #include "tests/support/FakePlatform.h"
 #include "tests/support/errorNumberOf.h"
 
@@ -56,8 +61,12 @@ TEST_F(InlineStyles, LeaveNoWordsForAnUnknownStyle) {
     EXPECT_EQ(styled("<title=Total>"), "{Total}");
 }
 
-TEST_F(InlineStyles, LookNamesUpWithoutRegardToCaseAndBlanks) {
-    EXPECT_EQ(styled("<BOLD =x>"), "{\\cs100\\b x}");
+TEST_F(InlineStyles, LookNamesUpWithoutRegardToCase) {
+    EXPECT_EQ(styled("<BOLD=x>"), "{\\cs100\\b x}");
+}
+
+TEST_F(InlineStyles, DoNotTrimNames) {
+    EXPECT_EQ(styled("<bold =x>"), "{x}");
 }
 
 TEST_F(InlineStyles, SplitATokenAtItsFirstEqualsSign) {
@@ -184,19 +193,61 @@ TEST_F(InlineStyles, OverflowInALongTextBeforeTheyTakeMuchMemory) {
     EXPECT_EQ(errorNumberOf([&] { styled(text); }), 6);
 }
 
-TEST_F(InlineStyles, LeaveTheDocumentChangedWhenTheyOverflow) {
-    document->LoadStyleSheetFromMemmory("{name: once; style-def: cs; format: <once=>}");
-    document->TableRows()->AddTail();
-    const Ref<CRtfTableCells> cells = document->TableRows()->PeekTail()->TableCells();
-    cells->AddTail();
-    cells->PeekTail()->Paragraphs()->AddTail();
-    cells->PeekTail()->Paragraphs()->PeekTail()->setText("<once=>");
+/// A document whose text would be endless, and the errors that its error module takes.
+class EndlessText : public InlineStyles {
+protected:
+    EndlessText() {
+        document->LoadStyleSheetFromMemmory(
+            "{name: once; style-def: cs; format: <once=>}{name: p; style-def: s}");
+        cells->AddTail();
+        cells->PeekTail()->Paragraphs()->AddTail();
+        paragraph()->setText("fine");
+        before = document->Contents();
+        document->setAbsorbedErrorObserver([this](const AbsorbedError& error) {
+            absorbed += std::to_string(error.error.number) + " " + error.moduleName + " " +
+                        error.procedureName + "\n";
+        });
+        paragraph()->setText("<once=>");
+    }
 
-    EXPECT_EQ(errorNumberOf([this] { document->Contents(); }), 6);
+    Ref<CRtfParagraph> paragraph() { return cells->PeekTail()->Paragraphs()->PeekTail(); }
 
+    Ref<CRtfTableCells> cells =
+        (document->TableRows()->AddTail(), document->TableRows()->PeekTail()->TableCells());
+    std::string before;
+    std::string absorbed;
+};
+
+TEST_F(EndlessText, EndsInTheErrorModule) {
+    document->Contents();
+    document->Refresh();
+    document->Commit("a.rtf");
+
+    EXPECT_EQ(absorbed, "6 CRtfDoc.cls Contents\n6 CRtfDoc.cls Refresh\n6 CRtfDoc.cls Commit\n");
+}
+
+TEST_F(EndlessText, LeavesTheTextThatTheDocumentHadBefore) {
+    EXPECT_EQ(document->Contents(), before);
+    document->Refresh();
     EXPECT_TRUE(document->Changed());
-    cells->RemoveHead();
-    EXPECT_NE(document->Contents(), "{}");
+    EXPECT_EQ(document->Contents(), before);
+}
+
+TEST_F(EndlessText, LeavesTheFileThatIsThere) {
+    platform.files["a.rtf"] = "kept";
+
+    document->Commit("a.rtf");
+
+    EXPECT_EQ(platform.files["a.rtf"], "kept");
+    EXPECT_TRUE(document->Changed());
+}
+
+TEST_F(EndlessText, CanBeReplacedAndRendered) {
+    document->Contents();
+    paragraph()->setText("fine");
+
+    EXPECT_EQ(document->Contents(), before);
+    EXPECT_FALSE(document->Changed());
 }
 
 TEST_F(InlineStyles, ReplaceNothingWithoutAStylesheet) {
@@ -274,7 +325,7 @@ private:
 
     Text charStyleToRtf(const Text& inner) const {
         const std::size_t equals = inner.find(u'=');
-        Text name = trimmed(inner.substr(0, equals));
+        Text name = inner.substr(0, equals);
         for (char16_t& unit : name) {
             if (unit >= u'A' && unit <= u'Z') {
                 unit = static_cast<char16_t>(unit + 32);

@@ -440,17 +440,17 @@ TEST_F(CRtfDriverTest, TellsThatTheClipboardFailedAndGoesOn) {
 
 TEST(Analysis, ReportsEveryStepForAnEmptyText) {
     EXPECT_THAT(errorsOf(""),
-                ElementsAre(wrongFileType(), missingElements(), wrongRoot(0), objectNotSet()));
+                ElementsAre(wrongFileType(), missingElements(), wrongRoot(0), absentKey()));
     EXPECT_THAT(checkedErrorsOf(""), ElementsAre(wrongFileType(), missingElements(), wrongRoot(0),
-                                                 objectNotSet(), objectNotSet(), objectNotSet()));
+                                                 absentKey(), absentKey(), absentKey()));
 }
 
 TEST(Analysis, ReportsATextWithoutADocAndGoesOn) {
     const std::string text = "(row|(cell|cell)|row)";
     EXPECT_THAT(errorsOf(text),
-                ElementsAre(wrongFileType(), missingElements(), wrongRoot(1), objectNotSet()));
+                ElementsAre(wrongFileType(), missingElements(), wrongRoot(1), absentKey()));
     EXPECT_THAT(checkedErrorsOf(text), ElementsAre(wrongFileType(), missingElements(), wrongRoot(1),
-                                                   objectNotSet(), objectNotSet(), objectNotSet()));
+                                                   absentKey(), absentKey(), absentKey()));
 }
 
 TEST(Analysis, WantsADocAndOneOfRowAndCell) {
@@ -465,14 +465,14 @@ TEST(Analysis, WantsADocAndOneOfRowAndCell) {
 }
 
 TEST(Analysis, FindsTheDocAnywhereInTheText) {
-    EXPECT_THAT(errorsOf("; (doc (r"), ElementsAre(wrongRoot(0), objectNotSet()));
+    EXPECT_THAT(errorsOf("; (doc (r"), ElementsAre(wrongRoot(0), absentKey()));
     EXPECT_THAT(errorsOf("(r|r)|x(docx"),
                 ElementsAre(wrongRoot(1),
                             driverErrorOf(eSyntaxError, "x(docx has a wrong syntax",
                                           "sLine is neither a recognized node nor a leaf\r\n"
                                           "sLeaf = x(docx\r\nCRtfDriver.treeWalkerBuild",
                                           3),
-                            objectNotSet()));
+                            absentKey()));
 }
 
 TEST(Analysis, WantsTheDocInLowerCaseButReadsItAllTheSame) {
@@ -513,13 +513,13 @@ TEST(Analysis, LooksAtFourCharactersOfTheFirstAndTheLastLineOnly) {
                                           "sLine is neither a recognized node nor a leaf\r\n"
                                           "sLeaf = doc)x\r\nCRtfDriver.treeWalkerBuild",
                                           4),
-                            objectNotSet()));
+                            absentKey()));
 }
 
 TEST(Analysis, MissesTheDocInEveryStepThatNeedsIt) {
-    EXPECT_THAT(errorsOf("(doc=1)|(r|r)|doc)"), ElementsAre(objectNotSet()));
+    EXPECT_THAT(errorsOf("(doc=1)|(r|r)|doc)"), ElementsAre(absentKey()));
     EXPECT_THAT(checkedErrorsOf("(doc=1)|(r|r)|doc)"),
-                ElementsAre(objectNotSet(), objectNotSet(), objectNotSet()));
+                ElementsAre(absentKey(), absentKey(), absentKey()));
 }
 
 TEST(Analysis, BuildsWhatWasReadBeforeAnError) {
@@ -535,7 +535,8 @@ TEST(Analysis, ReportsTheErrorsOfAllStepsInTheirOrder) {
     EXPECT_THAT(
         checkedErrorsOf(text),
         ElementsAre(wrongNodeType("doc)", 11), noKeyword("foo", "row", 3), noNumber("foo", 3),
-                    driverErrorOf(eWrongValue, "crimson isn't a recognized color.", "", 4)));
+                    driverErrorOf(eWrongValue, "crimson isn't a recognized color.",
+                                  "CRtfDriver.treWalkerSemantic", 4)));
 }
 
 TEST(Analysis, ReportsAllSevenErrorsThatOneTextCanHave) {
@@ -545,7 +546,7 @@ TEST(Analysis, ReportsAllSevenErrorsThatOneTextCanHave) {
                                           "sLine is neither a recognized node nor a leaf\r\n"
                                           "sLeaf = x\r\nCRtfDriver.treeWalkerBuild",
                                           1),
-                            objectNotSet(), objectNotSet(), objectNotSet()));
+                            absentKey(), absentKey(), absentKey()));
 }
 
 TEST(Analysis, ChecksOnlyWhenItIsTold) {
@@ -563,27 +564,37 @@ TEST(Analysis, BuildsWhatFailedTheChecks) {
 }
 
 TEST(Analysis, GoesOnWithTheValuesWhenTheSyntaxIsWrong) {
-    EXPECT_THAT(
-        checkedErrorsOf("(doc|(r|(rtb=medium)|r)|doc)"),
-        ElementsAre(mustHave("cell", "row", 2),
-                    driverErrorOf(eWrongValue, "medium isn't a recognized border.",
-                                  "CRtfDriver.treWalkerSemantic", 3),
-                    driverErrorOf(eWrongValue, "medium isn't a recognized border.", "", 3)));
+    EXPECT_THAT(checkedErrorsOf("(doc|(r|(rtb=medium)|r)|doc)"),
+                ElementsAre(mustHave("cell", "row", 2),
+                            driverErrorOf(eWrongValue, "medium isn't a recognized border.",
+                                          "CRtfDriver.treWalkerSemantic", 3),
+                            driverErrorOf(eWrongValue, "medium isn't a recognized border.",
+                                          "CRtfDriver.treWalkerSemantic", 3)));
 }
 
 TEST(Analysis, TellsOnlyTheBuildOfAnAlignmentThatIsNone) {
-    EXPECT_THAT(
-        checkedErrorsOf(cellWith("(ca=middle)")),
-        ElementsAre(driverErrorOf(eWrongValue, "middle isn't a recognized alignment.", "", 4)));
+    EXPECT_THAT(checkedErrorsOf(cellWith("(ca=middle)")),
+                ElementsAre(driverErrorOf(eWrongValue, "middle isn't a recognized alignment.",
+                                          "CRtfDriver.treWalkerSemantic", 4)));
 }
 
-TEST(Analysis, TakesANumberForANameOnlyWithoutChecks) {
+TEST(Analysis, TakesANumberForANameWithAndWithoutChecks) {
     EXPECT_THAT(errorsOf(rowWith("(rb=32)")), IsEmpty());
-    const ParsedDescription checked(rowWith("(rb=32)"), Checks::On);
-    EXPECT_THAT(checked.errors,
-                ElementsAre(driverErrorOf(eWrongValue, "32 isn't a recognized color.",
-                                          "CRtfDriver.treWalkerSemantic", 3)));
+    const ParsedDescription checked(rowWith("(rb=32)|(rtb=10)"), Checks::On);
+    EXPECT_THAT(checked.errors, IsEmpty());
     EXPECT_EQ(checked.row()->BackColor(), eSilver);
+    EXPECT_EQ(checked.row()->TopBorder(), eThin);
+}
+
+TEST(Analysis, ReportsANumberThatIsNoValueOnceWhenItBuilds) {
+    for (const Checks checks : {Checks::On, Checks::Off}) {
+        EXPECT_THAT(ParsedDescription(rowWith("(rb=58)"), checks).errors,
+                    ElementsAre(driverErrorOf(eWrongValue, "58 isn't a recognized color.",
+                                              "CRtfDriver.treWalkerSemantic", 3)));
+        EXPECT_THAT(ParsedDescription(rowWith("(rtb=11)"), checks).errors,
+                    ElementsAre(driverErrorOf(eWrongValue, "11 isn't a recognized border.",
+                                              "CRtfDriver.treWalkerSemantic", 3)));
+    }
 }
 
 TEST(Analysis, ReportsADocWithoutRows) {
@@ -634,7 +645,8 @@ TEST(Analysis, KeepsTheLineNumbersOfTheTextWhenItRepairs) {
     EXPECT_THAT(checkedErrorsOf("(doc|(r|(r|(c|c)|(r|(c|(cb=a)|c)|r)|doc)"),
                 ElementsAre(driverErrorOf(eWrongValue, "a isn't a recognized color.",
                                           "CRtfDriver.treWalkerSemantic", 8),
-                            driverErrorOf(eWrongValue, "a isn't a recognized color.", "", 8)));
+                            driverErrorOf(eWrongValue, "a isn't a recognized color.",
+                                          "CRtfDriver.treWalkerSemantic", 8)));
     EXPECT_THAT(checkedErrorsOf("(doc|(r|(r|(c|c)|(r|(c|c)|p)|doc)"),
                 ElementsAre(wrongNodeType("p)", 9)));
 }

@@ -130,7 +130,7 @@ TEST(DescriptionTree, TellsKeysApartToTheLetter) {
 TEST(DescriptionTree, HasNoChildOfAnotherNumber) {
     DescriptionTree tree;
     tree.AddNode(tree.root(), NodeKind::Doc, 2, 1);
-    EXPECT_EQ(errorOf([&] { tree.root().child(1); }), objectNotSet());
+    EXPECT_EQ(errorOf([&] { tree.root().child(1); }), absentKey());
 }
 
 TEST(DescriptionTree, FreesNodesThatAreNestedAsDeepAsCanBe) {

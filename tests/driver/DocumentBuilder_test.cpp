@@ -28,7 +28,7 @@ std::vector<ToldError> errorsOf(const std::string& text) {
 }
 
 ToldError wrongValue(const std::string& description, int line) {
-    return driverErrorOf(eWrongValue, description, "", line);
+    return driverErrorOf(eWrongValue, description, "CRtfDriver.treWalkerSemantic", line);
 }
 
 /// The rows as they are rendered.

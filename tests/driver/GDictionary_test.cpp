@@ -6,8 +6,10 @@
 #include <cstdint>
 #include <memory>
 #include <random>
+#include <set>
 #include <string>
 
+#include "quorvane/support/RandomNumbers.h"
 #include "tests/support/errorNumberOf.h"
 
 namespace quorvane {
@@ -146,27 +148,22 @@ TEST(GDictionary, IsSortedHoldsForNoneOrOne) {
 
 TEST(GDictionary, TheSortStepSortsItsPartOnly) {
     List list{9, 3, 1, 2, 0};
-    RandomNumbers random(1);
-    SortVariantHelp(list, 1, 3, random);
+    SortVariantHelp(list, 1, 3);
     EXPECT_EQ(list, (List{9, 1, 2, 3, 0}));
 }
 
 TEST(GDictionary, TheSortStepDoesNothingWithoutASpan) {
     List list{2, 1};
-    RandomNumbers random(1);
-    SortVariantHelp(list, 0, 0, random);
-    SortVariantHelp(list, 1, 0, random);
-    SortVariantHelp(list, 0, -1, random);
+    SortVariantHelp(list, 0, 0);
+    SortVariantHelp(list, 1, 0);
+    SortVariantHelp(list, 0, -1);
     EXPECT_EQ(list, (List{2, 1}));
 }
 
-TEST(GDictionary, TheSortStepExchangesTwoElementsWithoutARandomNumber) {
+TEST(GDictionary, TheSortStepExchangesTwoElements) {
     List list{2, 1};
-    RandomNumbers random(1);
-    SortVariantHelp(list, 0, 1, random);
+    SortVariantHelp(list, 0, 1);
     EXPECT_EQ(list, (List{1, 2}));
-    RandomNumbers untouched(1);
-    EXPECT_EQ(GetRandom(0, 1000000, random), GetRandom(0, 1000000, untouched));
 }
 
 TEST(GDictionary, SwapsTwoElements) {
@@ -178,18 +175,16 @@ TEST(GDictionary, SwapsTwoElements) {
 }
 
 TEST(GDictionary, GetRandomOfOneNumberIsThatNumber) {
-    RandomNumbers random;
     for (int i = 0; i < 100; ++i) {
-        EXPECT_EQ(GetRandom(5, 5, random), 5);
+        EXPECT_EQ(GetRandom(5, 5), 5);
     }
 }
 
 TEST(GDictionary, GetRandomReachesBothEnds) {
-    RandomNumbers random(1);
     bool reachesLow = false;
     bool reachesHigh = false;
     for (int i = 0; i < 1000; ++i) {
-        const std::int32_t number = GetRandom(1, 4, random);
+        const std::int32_t number = GetRandom(1, 4);
         ASSERT_GE(number, 1);
         ASSERT_LE(number, 4);
         reachesLow = reachesLow || number == 1;
@@ -207,6 +202,37 @@ TEST(GDictionary, SubstitutesTheFirstOfEqualElementsOnly) {
 TEST(GDictionary, SubstitutesNothingThatIsNotThere) {
     EXPECT_EQ(variantSubst("x", "b", {1, "a"}), (List{1, "a"}));
     EXPECT_THAT(variantSubst("x", "b", {}), IsEmpty());
+}
+
+TEST(GDictionary, GetRandomIsSeededOncePerProcess) {
+    // Were it seeded by the clock for each number, numbers asked for at once would be the same.
+    std::set<std::int32_t> numbers;
+    for (int i = 0; i < 200; ++i) {
+        numbers.insert(GetRandom(0, 2'000'000'000));
+    }
+    EXPECT_GT(numbers.size(), 190U);
+    EXPECT_EQ(&RandomNumbers::ofProcess(), &RandomNumbers::ofProcess());
+}
+
+TEST(GDictionary, RemovesTheFirstOfEqualElements) {
+    EXPECT_EQ(variantRemove("b", {1, "b", 2, "b"}), (List{1, 2, "b"}));
+    EXPECT_EQ(variantRemove("x", {1, "b"}), (List{1, "b"}));
+    EXPECT_EQ(variantRemove("x", {}), List{});
+}
+
+TEST(GDictionary, PutsAValueInFront) {
+    EXPECT_EQ(variantCons("a", {1, "b"}), (List{"a", 1, "b"}));
+    EXPECT_EQ(variantCons(7, {}), List{7});
+}
+
+TEST(GDictionary, JoinsTheElementsAsTexts) {
+    EXPECT_EQ(listToString({"a", 12, 1.5, ""}), "a 12 1.5 ");
+    EXPECT_EQ(listToString({"a", 12}, ", "), "a, 12");
+    EXPECT_EQ(listToString({}), "");
+}
+
+TEST(GDictionary, JoinsNoElementThatIsNeitherTextNorNumber) {
+    EXPECT_EQ(errorNumberOf([] { listToString({"a", true}); }), 13);
 }
 
 }  // namespace

@@ -40,8 +40,8 @@ inline ToldError driverErrorOf(tErrorLevel level, std::string description, std::
     return {-2147221504 + level, std::move(description), std::move(source), line};
 }
 
-inline ToldError objectNotSet() {
-    return {91, "Object variable or With block variable not set", "", 0};
+inline ToldError absentKey() {
+    return {5, "Invalid procedure call or argument", "", 0};
 }
 
 inline ToldError duplicateKey(int line) {

@@ -20,8 +20,8 @@ const std::string good = paraWithText("good");
 const std::string badColor = rowWith("(rb=crimson)");
 const std::string threeErrors = lines("(doc|(r|(foo=bar)|(rb=crimson)|(c|c)|r)|doc)");
 
-const ToldError badColorError =
-    driverErrorOf(eWrongValue, "crimson isn't a recognized color.", "", 3);
+const ToldError badColorError = driverErrorOf(eWrongValue, "crimson isn't a recognized color.",
+                                              "CRtfDriver.treWalkerSemantic", 3);
 
 class NotifyError : public testing::Test {
 protected:
@@ -48,12 +48,12 @@ TEST_F(NotifyError, ShowsNumberDescriptionSourceAndLineAsTheCurrentError) {
     driver->setErroneousInput(true);
     driver->setNotifyErrorHandler([&](CRtfDriver&) { errors.push_back(told(*currentError())); });
     driver->ParseFromMemmory(threeErrors);
-    EXPECT_THAT(errors,
-                ElementsAre(ToldError{-2147221498, "foo isn't a valid keyword.",
-                                      "CRtfDriver.rowWalkerSyntax", 3},
-                            ToldError{-2147221496, "Value for foo should be numeric.",
-                                      "CRtfDriver.treeWalkerSemantic", 3},
-                            ToldError{-2147221496, "crimson isn't a recognized color.", "", 4}));
+    EXPECT_THAT(errors, ElementsAre(ToldError{-2147221498, "foo isn't a valid keyword.",
+                                              "CRtfDriver.rowWalkerSyntax", 3},
+                                    ToldError{-2147221496, "Value for foo should be numeric.",
+                                              "CRtfDriver.treeWalkerSemantic", 3},
+                                    ToldError{-2147221496, "crimson isn't a recognized color.",
+                                              "CRtfDriver.treWalkerSemantic", 4}));
 }
 
 class ThrowingClipboard : public FakePlatform {
@@ -70,7 +70,7 @@ TEST_F(NotifyError, ShowsAnErrorThatThePlatformThrewWithoutMakingItTheCurrentOne
     other->setNotifyErrorHandler([&](CRtfDriver&) { numbers.push_back(currentError()->number); });
     clearCurrentError();
     other->ParseFromMemmory("(r");
-    EXPECT_THAT(numbers, ElementsAre(70, -2147221500, -2147221499, 91));
+    EXPECT_THAT(numbers, ElementsAre(70, -2147221500, -2147221499, 5));
 }
 
 TEST_F(NotifyError, IsNotRaisedWhenNothingIsWrong) {
@@ -122,7 +122,7 @@ TEST_F(NotifyError, LetsItsHandlerPutAnotherInItsPlace) {
     driver->ParseFromMemmory(lines("(row|row)"));
     ASSERT_EQ(told.size(), 4u);
     EXPECT_EQ(told[0], "first The provided file isn't a correct rtfspec file.");
-    EXPECT_EQ(told[3], "second Object variable or With block variable not set");
+    EXPECT_EQ(told[3], "second Invalid procedure call or argument");
 }
 
 TEST_F(NotifyError, LetsItsHandlerSwitchTheChecksOnForTheStepsToCome) {

@@ -87,9 +87,9 @@ inline void requirePlainAnalysis(DescriptionRun& run, std::string_view text) {
         errors += toldText(error);
     }
     requireEqual(run.events(), errors, "an analysis reports the errors that are told");
-    const std::int32_t error = errorOfCall([&] { analysis.document->refresh(); });
-    require((error != 0) == document->Changed(), "a document can be rendered when it is told so");
-    if (error == 0) {
+    const bool isMade = analysis.document->refresh();
+    require(isMade != document->Changed(), "a document can be rendered when it is told so");
+    if (isMade) {
         requireEqual(document->Contents(), analysis.document->contents,
                      "a description's document is the one that is told");
     }

@@ -200,15 +200,23 @@ struct Cell {
 };
 
 struct Row {
+    Row() = default;
+    Row(const Row&) = delete;
+    Row& operator=(const Row&) = delete;
+    /// Its collection is torn down with it, whoever holds that.
+    ~Row() { cells->entries.clear(); }
+
     const void* original = nullptr;
+    /// Where its collection of cells stands, which outlives it in the hands of a host.
+    const void* originalCells = nullptr;
     std::weak_ptr<Document> owner;
     Borders borders{-1, -1, -1, -1};
     std::int32_t backColor = 0;
-    List<Cell> cells;
+    std::shared_ptr<List<Cell>> cells = std::make_shared<List<Cell>>();
 
     std::int32_t width(std::size_t position) const {
-        const std::int64_t left = position == 1 ? 0 : cells.at(position - 1)->edge;
-        return measure(cells.at(position)->edge - left);
+        const std::int64_t left = position == 1 ? 0 : cells->at(position - 1)->edge;
+        return measure(cells->at(position)->edge - left);
     }
 };
 
@@ -219,6 +227,12 @@ struct Rows {
 };
 
 struct Document {
+    Document() = default;
+    Document(const Document&) = delete;
+    Document& operator=(const Document&) = delete;
+    /// Its rows are torn down with it, whoever holds them.
+    ~Document() { rows->rows.entries.clear(); }
+
     /// Where inline styles find their words.
     const CRtfDoc* original = nullptr;
     std::shared_ptr<Rows> rows = std::make_shared<Rows>();
@@ -253,6 +267,7 @@ struct Document {
 
     /// A bad sheet leaves no styles and no name of a file.
     void load(const std::string& sheet) {
+        forgetStyles();
         styleSheetFile.clear();
         styles = StyleSheet(sheet);
         if (!styles.isLoaded()) {
@@ -261,24 +276,27 @@ struct Document {
         changed = true;
     }
 
+    /// What was loaded goes, and the text with it.
+    void forgetStyles() {
+        changed = changed || styles.isLoaded();
+        styles = {};
+    }
+
     std::string paragraphStyle(const std::string& name) const {
         const std::string words = styles.paragraphWords(name);
         return words.empty() ? " " : words;
     }
 
-    void refresh() {
-        contents = "{}";
+    /// False when the text cannot be made, which then is the one before.
+    bool refresh() {
         changed = true;
-        const std::string page = render();
-        contents = std::string("{") + fixedGroups + styles.group() + page;
-        changed = false;
-    }
-
-    const std::string& currentContents() {
-        if (changed) {
-            refresh();
+        try {
+            const std::string page = render();
+            contents = std::string("{") + fixedGroups + styles.group() + page;
+            changed = false;
+        } catch (const RtfError&) {
         }
-        return contents;
+        return !changed;
     }
 
     /// The page setup and the rows, which a document ends with.
@@ -297,10 +315,10 @@ struct Document {
 private:
     std::string renderRow(Row& row) const {
         std::string rtf = "\r\n{\\intbl\\trowd\\trql\\trgaph70\\trleft0";
-        for (auto& entry : row.cells.entries) {
+        for (auto& entry : row.cells->entries) {
             rtf += " " + renderDefinition(*entry.element);
         }
-        for (auto& entry : row.cells.entries) {
+        for (auto& entry : row.cells->entries) {
             rtf += " " + renderContent(*entry.element) + "\\cell";
         }
         return rtf + "\\row}";
@@ -387,7 +405,7 @@ inline void setBackColorOf(Row& row, std::int32_t color) {
     if (row.backColor != color) {
         row.backColor = color;
         required(row.owner.lock());
-        for (auto& entry : row.cells.entries) {
+        for (auto& entry : row.cells->entries) {
             entry.element->setBackColor(color);
         }
         markChanged(row.owner.lock());
@@ -399,7 +417,7 @@ inline void setBorderOf(Row& row, std::size_t side, std::int32_t width) {
     if (row.borders[side] != width) {
         row.borders[side] = width;
         required(row.owner.lock());
-        for (auto& entry : row.cells.entries) {
+        for (auto& entry : row.cells->entries) {
             entry.element->borders = row.borders;
         }
         markChanged(row.owner.lock());
@@ -415,8 +433,8 @@ inline std::int32_t evenWidth(const Document& document, std::size_t count) {
 }
 
 inline void spread(Row& row, std::int32_t width) {
-    for (std::size_t position = 1; position <= row.cells.count(); ++position) {
-        row.cells.at(position)->edge = width * static_cast<std::int32_t>(position);
+    for (std::size_t position = 1; position <= row.cells->count(); ++position) {
+        row.cells->at(position)->edge = width * static_cast<std::int32_t>(position);
     }
 }
 
@@ -442,9 +460,8 @@ struct RowsView {
         fresh->owner = rows->owner;
         fresh->borders = old->borders;
         fresh->backColor = old->backColor;
-        fresh->cells = std::move(old->cells);
-        old->cells = {};
-        for (auto& entry : fresh->cells.entries) {
+        std::swap(fresh->cells->entries, old->cells->entries);
+        for (auto& entry : fresh->cells->entries) {
             entry.element->owner = fresh;
         }
         list().entries[position - 1] = {fresh, key};
@@ -455,16 +472,24 @@ struct RowsView {
 
 struct CellsView {
     using Element = Cell;
-    std::shared_ptr<Row> row;
 
-    List<Cell>& list() const { return row->cells; }
-    std::shared_ptr<Document> document() const { return row->owner.lock(); }
+    CellsView() = default;
+    CellsView(const std::shared_ptr<Row>& owner) : row(owner), cells(owner->cells) {}
+
+    std::weak_ptr<Row> row;
+    std::shared_ptr<List<Cell>> cells;
+
+    List<Cell>& list() const { return *cells; }
+    std::shared_ptr<Document> document() const {
+        const auto owner = row.lock();
+        return owner ? owner->owner.lock() : nullptr;
+    }
     void insert(std::size_t place, const Value& key) const {
         const std::int32_t width = evenWidth(*document(), list().count() + 1);
         auto cell = std::make_shared<Cell>();
         cell->owner = row;
         list().insert(place, key, cell);
-        spread(*row, width);
+        spread(*row.lock(), width);
     }
     void remove(std::size_t position) const {
         const std::int32_t edge = list().at(position)->edge;
@@ -530,7 +555,7 @@ inline std::int32_t widthOf(const Cell& cell, std::int32_t units) {
     if (!row) {
         throw 91;
     }
-    const std::int32_t twips = row->width(row->cells.positionOf(&cell));
+    const std::int32_t twips = row->width(row->cells->positionOf(&cell));
     if (units == 1) {
         return twips;
     }
@@ -546,9 +571,9 @@ inline void setWidthOf(const Cell& cell, std::int32_t units, std::int32_t value)
     Document& document = required(row->owner.lock());
     const std::int32_t twips =
         units == 0 ? quotient(measure(std::int64_t{document.usableWidth()} * value), 100) : value;
-    const std::size_t position = row->cells.positionOf(&cell);
-    const std::size_t count = row->cells.count();
-    const auto edge = [&row](std::size_t at) { return std::int64_t{row->cells.at(at)->edge}; };
+    const std::size_t position = row->cells->positionOf(&cell);
+    const std::size_t count = row->cells->count();
+    const auto edge = [&row](std::size_t at) { return std::int64_t{row->cells->at(at)->edge}; };
     std::size_t changed = position;
     std::int64_t wanted = position == 1 ? twips : measure(edge(position - 1) + twips);
     std::int64_t lower = 200;
@@ -565,7 +590,7 @@ inline void setWidthOf(const Cell& cell, std::int32_t units, std::int32_t value)
         upper = measure(edge(position) - 200);
     }
     wanted = wanted > upper ? upper : wanted < lower ? lower : wanted;
-    row->cells.at(changed)->edge = static_cast<std::int32_t>(wanted);
+    row->cells->at(changed)->edge = static_cast<std::int32_t>(wanted);
     document.changed = true;
 }
 

@@ -159,10 +159,12 @@ inline void checkSemantics(const Node& node, int kind) {
             throw driverErrorOf(eWrongValue, message, source, entry.leaf.line);
         };
         const bool isKnown = known.contains(entry.key);
-        if (isKnown && endsIn(entry.key, "-backcolor") && !named(colorNames, entry.leaf)) {
+        if (isKnown && endsIn(entry.key, "-backcolor") && !entry.leaf.number &&
+            !named(colorNames, entry.leaf)) {
             fail(entry.leaf.value() + " isn't a recognized color.", "CRtfDriver.treWalkerSemantic");
         }
-        if (isKnown && endsIn(entry.key, "-border") && !named(borderNames, entry.leaf)) {
+        if (isKnown && endsIn(entry.key, "-border") && !entry.leaf.number &&
+            !named(borderNames, entry.leaf)) {
             fail(entry.leaf.value() + " isn't a recognized border.",
                  "CRtfDriver.treWalkerSemantic");
         }
@@ -255,7 +257,8 @@ private:
                 return value;
             }
         }
-        throw driverErrorOf(eWrongValue, leaf.value() + complaint, "", leaf.line);
+        throw driverErrorOf(eWrongValue, leaf.value() + complaint, "CRtfDriver.treWalkerSemantic",
+                            leaf.line);
     }
 
     static std::int32_t colorOf(const Leaf& leaf) {
@@ -430,7 +433,7 @@ private:
                 return entry.child.front();
             }
         }
-        throw objectNotSet();
+        throw absentKey();
     }
 
     template <class Body>

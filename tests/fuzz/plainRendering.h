@@ -217,10 +217,8 @@ private:
             files[output] = document.contents;
             return;
         }
-        try {
-            document.refresh();
-        } catch (const RtfError& error) {
-            tell(output, {error.number, error.description, "", 0}, 2);
+        if (!document.refresh()) {
+            tell(output, {6, "Overflow", "", 0}, 2);
             return;
         }
         files[output] = codePage1252FromUtf8(document.contents);

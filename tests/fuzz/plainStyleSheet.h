@@ -141,7 +141,7 @@ public:
         return rtf + "}";
     }
 
-    // Names are looked up without blanks around them, in lower case.
+    // Names are looked up in lower case, with the blanks around them.
 
     std::string paragraphWords(const std::string& name) const {
         return paragraphStyles_.paragraphLookup(searched(name));
@@ -235,7 +235,7 @@ private:
         }
         return text;
     }
-    static std::string searched(const std::string& name) { return lowerCase(without(name, " ")); }
+    static std::string searched(const std::string& name) { return lowerCase(name); }
     static std::string trimmedItem(const std::string& text) { return without(text, " \t\r\n"); }
 
     static std::vector<std::string> split(const std::string& text, char separator) {
@@ -283,10 +283,11 @@ private:
     void define(const std::string& definition) {
         std::vector<std::string> names;
         std::string record;
-        for (const std::string& item : split(definition, ';')) {
-            if (trimmedItem(item).empty()) {
-                continue;
-            }
+        std::vector<std::string> items = split(definition, ';');
+        if (trimmedItem(items.back()).empty()) {
+            items.pop_back();
+        }
+        for (const std::string& item : items) {
             const std::size_t colon = item.find(':');
             const std::string keyword = lowerCase(trimmedItem(item.substr(0, colon)));
             const std::string value =

@@ -274,6 +274,17 @@ TEST_F(InlineTokens, GrowProportionallyWithinOneAnother) {
         [](std::size_t count) { return repeated("<bold", count) + repeated(">", count); }, 5000);
 }
 
+// The text shrinks below the walk, so that each token reaches over those after it to the far end.
+TEST_F(InlineTokens, GrowProportionallyWithinOneAnotherWhenTheirStyleIsUnknown) {
+    for (const char* inner : {"", "x", "<b"}) {
+        expectProportionalTo(
+            [inner](std::size_t count) {
+                return repeated("<a=", count) + repeated(inner, count) + repeated(">", 2 * count);
+            },
+            2000);
+    }
+}
+
 TEST_F(InlineTokens, GrowProportionallyWhenOnlyOneOfManyThatBeginAlikeIsClosed) {
     expectProportionalTo(
         [](std::size_t count) {

@@ -78,5 +78,20 @@ TEST(CRtfGrpFontTable, CountsTheTablesOwnWordAsAnEntryBeforeTheFonts) {
     EXPECT_EQ(fonts.GetFontIndex(R"(\fonttbl)"), -1);
 }
 
+TEST(CRtfGrpFontTable, HasAKeyForEveryFont) {
+    EXPECT_EQ(CRtfGrpFontTable::fontNumber("Arial"), 0);
+    EXPECT_EQ(CRtfGrpFontTable::fontNumber("comic sans ms"), 16);
+    EXPECT_EQ(CRtfGrpFontTable::fontNumber("nosuch"), std::nullopt);
+    EXPECT_EQ(CRtfGrpFontTable::fontKey(17), "Century Gothic");
+    EXPECT_EQ(CRtfGrpFontTable::fontKey(18), "");
+    EXPECT_EQ(CRtfGrpFontTable::fontKey(-1), "");
+}
+
+TEST(CRtfGrpFontTable, KnowsFont10ByAKeyThatItsEntryDoesNotName) {
+    EXPECT_EQ(CRtfGrpFontTable::fontKey(10), "Trebuchet");
+    EXPECT_EQ(CRtfGrpFontTable::fontNumber("Trebuchet"), 10);
+    EXPECT_EQ(CRtfGrpFontTable::fontNumber("Trebuchet MS"), std::nullopt);
+}
+
 }  // namespace
 }  // namespace quorvane

@@ -222,14 +222,40 @@ TEST_F(StyleSheetTable, AnswersNothingForAnUnknownCharacterStyle) {
     EXPECT_EQ(table.GetCharacterStyle("title"), "");
 }
 
-TEST_F(StyleSheetTable, LooksNamesUpWithoutRegardToCaseAndBlanksAround) {
+TEST_F(StyleSheetTable, LooksNamesUpWithoutRegardToCase) {
     table.loadStyleSheetFromMemory(sheet);
 
-    EXPECT_EQ(table.GetParagraphStyle(" TITLE  "), "\\s101\\b ");
-    EXPECT_EQ(table.GetCharacterStyle(" Bold "), "\\cs100\\b ");
-    EXPECT_EQ(table.getCellStyleBackColor(" Shaded"), 24);
-    EXPECT_EQ(table.GetMarkedFieldStyle("SHADED "), "navy-blue");
-    EXPECT_TRUE(table.IsStyleDefined(" sHaDeD "));
+    EXPECT_EQ(table.GetParagraphStyle("TITLE"), "\\s101\\b ");
+    EXPECT_EQ(table.GetCharacterStyle("Bold"), "\\cs100\\b ");
+    EXPECT_EQ(table.getCellStyleBackColor("Shaded"), 24);
+    EXPECT_EQ(table.GetMarkedFieldStyle("SHADED"), "navy-blue");
+    EXPECT_TRUE(table.IsStyleDefined("sHaDeD"));
+}
+
+TEST_F(StyleSheetTable, DoesNotTrimTheNamesThatItLooksUp) {
+    table.loadStyleSheetFromMemory(sheet);
+
+    EXPECT_EQ(table.GetParagraphStyle("title "), table.GetParagraphStyle("nosuch"));
+    EXPECT_EQ(table.GetCharacterStyle("bold "), "");
+    EXPECT_EQ(table.getCellStyleBackColor(" shaded"), 0);
+    EXPECT_EQ(table.GetMarkedFieldStyle("shaded "), "");
+    EXPECT_FALSE(table.IsStyleDefined(" shaded "));
+}
+
+TEST_F(StyleSheetTable, MarksNothingChangedByALoadThatFailsWhenNothingWasLoaded) {
+    EXPECT_EQ(errorNumberOf([&] { table.loadStyleSheetFromMemory(badSheet); }), 445);
+    table.setStyleSheetFile("nosuch.rtfss");
+
+    EXPECT_EQ(owner.changes, 0);
+}
+
+TEST_F(StyleSheetTable, KnowsWhetherWordsOfItsCharacterStylesHoldTokens) {
+    table.loadStyleSheetFromMemory("{name: <x; style-def: s; format: <y=>}");
+    EXPECT_FALSE(table.CharacterWordsHoldTokens());
+    table.loadStyleSheetFromMemory("{name: x; style-def: cs; format: <y=>}");
+    EXPECT_TRUE(table.CharacterWordsHoldTokens());
+    table.loadStyleSheetFromMemory("");
+    EXPECT_FALSE(table.CharacterWordsHoldTokens());
 }
 
 TEST_F(StyleSheetTable, KnowsTheColourOfACellStyle) {
@@ -292,7 +318,7 @@ TEST_F(StyleSheetTable, ForgetsTheOldStylesWithEveryLoad) {
     EXPECT_EQ(table.GetParagraphStyle("title"), "\\s0\\i ");
     EXPECT_EQ(table.GetCharacterStyle("bold"), "");
     EXPECT_EQ(table.getCellStyleBackColor("shaded"), 0);
-    EXPECT_EQ(owner.changes, 2);
+    EXPECT_EQ(owner.changes, 3);
 }
 
 TEST_F(StyleSheetTable, IsUnloadedAfterABadText) {
@@ -302,7 +328,7 @@ TEST_F(StyleSheetTable, IsUnloadedAfterABadText) {
 
     expectUnloaded();
     EXPECT_FALSE(table.IsStyleDefined("early"));
-    EXPECT_EQ(owner.changes, 1);
+    EXPECT_EQ(owner.changes, 2);
 }
 
 TEST_F(StyleSheetTable, TellsWhatIsWrongWithAText) {
@@ -367,7 +393,7 @@ TEST_F(StyleSheetTable, IsUnloadedByAFileThatIsMissingAndKeepsItsName) {
 
     expectUnloaded();
     EXPECT_EQ(table.StyleSheetFile(), "nosuch.rtfss");
-    EXPECT_EQ(owner.changes, 1);
+    EXPECT_EQ(owner.changes, 2);
     EXPECT_EQ(platform.count("readFile"), 0U);
 }
 
@@ -391,7 +417,7 @@ TEST_F(StyleSheetTable, ForgetsTheNameOfABadFile) {
 
     expectUnloaded();
     EXPECT_EQ(table.StyleSheetFile(), "");
-    EXPECT_EQ(owner.changes, 1);
+    EXPECT_EQ(owner.changes, 2);
 }
 
 TEST_F(StyleSheetTable, ForgetsTheFilesNameWhenATextIsLoaded) {

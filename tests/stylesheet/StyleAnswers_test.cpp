@@ -32,12 +32,14 @@ TEST_F(StyleAnswersTest, SelectAStyleByItsName) {
     EXPECT_EQ(answer("title"), "\\s101\\b ");
 }
 
-TEST_F(StyleAnswersTest, TakeNoRegardOfCaseAndBlanksAround) {
-    EXPECT_EQ(answer("  TITLE "), "\\s101\\b ");
+TEST_F(StyleAnswersTest, TakeNoRegardOfCase) {
+    EXPECT_EQ(answer("TITLE"), "\\s101\\b ");
     EXPECT_EQ(answer("Title"), "\\s101\\b ");
 }
 
-TEST_F(StyleAnswersTest, TrimNothingButBlanks) {
+TEST_F(StyleAnswersTest, DoNotTrimTheName) {
+    EXPECT_EQ(answer(" title"), "unknown");
+    EXPECT_EQ(answer("title "), "unknown");
     EXPECT_EQ(answer("title\t"), "unknown");
     EXPECT_EQ(answer("title\r\n"), "unknown");
 }

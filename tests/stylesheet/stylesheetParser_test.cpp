@@ -106,8 +106,14 @@ TEST(StylesheetParser, TakesEmptyNames) {
     EXPECT_THAT(parse("{name: a,, b,}"), ElementsAre(StyleDefinition{{"a", "", "b", ""}, ""}));
 }
 
-TEST(StylesheetParser, SkipsEmptyItems) {
-    EXPECT_THAT(parse("{;; name: x;; style-def: s; }"), ElementsAre(StyleDefinition{{"x"}, "^ds"}));
+TEST(StylesheetParser, SkipsAnEmptyItemAfterTheLastSemicolon) {
+    EXPECT_THAT(parse("{name: x; style-def: s; \r\n}"), ElementsAre(StyleDefinition{{"x"}, "^ds"}));
+}
+
+TEST(StylesheetParser, RefusesAnyOtherEmptyItem) {
+    for (const char* text : {"{; name: x}", "{name: x;; style-def: s}", "{name: x; ; }", "{;}"}) {
+        expectRefused(text, 445, "Error while processing stylesheet.\r\n is not a valid keyword.");
+    }
 }
 
 TEST(StylesheetParser, TakesAnItemWithoutColonForAKeywordWithoutValue) {

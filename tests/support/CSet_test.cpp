@@ -111,5 +111,16 @@ TEST(CSetTest, LetsNoErrorOfTheResourceEscape) {
     EXPECT_TRUE(set.IsSetEmpty());
 }
 
+TEST(CSetTest, LeavesAStoredValueAsItIsWhenAnEqualOneIsAdded) {
+    CSet set;
+    set.add(std::int32_t{1});
+    set.add(1.0);
+
+    const auto items = set.Items();
+    ASSERT_TRUE(items.has_value());
+    ASSERT_EQ(items->size(), 1U);
+    EXPECT_TRUE(items->front().holds<std::int32_t>());
+}
+
 }  // namespace
 }  // namespace quorvane

@@ -568,5 +568,16 @@ TEST(CStringListTest, TakesManyStringsAtEitherEnd) {
     EXPECT_EQ(list.Item("f"), "first");
 }
 
+TEST(CStringListTest, CharSizeHas32Bits) {
+    static_assert(std::is_same_v<decltype(CStringList().CharSize()), std::int32_t>);
+    CStringList list;
+    const std::string text(std::size_t{1} << 28U, 'x');
+    for (int i = 0; i < 9; ++i) {
+        list.AddTail(text);
+        list.removeTail();
+    }
+    EXPECT_EQ(list.CharSize(), 2147483647);
+}
+
 }  // namespace
 }  // namespace quorvane

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "quorvane/support/CStringList.h"
 #include "quorvane/support/currentError.h"
 #include "tests/support/FakePlatform.h"
 
@@ -178,7 +179,10 @@ TEST_F(GErrorReporterTest, IsCreatedByItsNameAndToldOfTheProgram) {
 TEST_F(GErrorReporterTest, IsToldOfTheError) {
     platform.version = {7, 12, 345};
 
-    errors.handleError(overflow, "CRtfDoc.cls", "Commit", "extra");
+    CStringList extra;
+    extra.AddTail("extra");
+    errors.handleError(overflow, "CRtfDoc.cls", "Commit",
+                       std::make_shared<const CStringList>(extra));
 
     ASSERT_EQ(platform.reports.size(), 1U);
     const ErrorReport& report = platform.reports[0];
@@ -188,13 +192,14 @@ TEST_F(GErrorReporterTest, IsToldOfTheError) {
     EXPECT_EQ(report.procedureName, "Commit");
     EXPECT_EQ(report.version, "7.12.345");
     EXPECT_EQ(report.source, "CRtfTableCell.Width");
-    EXPECT_EQ(report.extraInfo, "extra");
+    ASSERT_NE(report.extraInfo, nullptr);
+    EXPECT_EQ(report.extraInfo->ConCat(","), "extra");
 }
 
 TEST_F(GErrorReporterTest, IsToldNoExtraInformationWhenNoneIsGiven) {
     errors.handleError(overflow, "CRtfDoc.cls", "Commit");
 
-    EXPECT_EQ(platform.reports.at(0).extraInfo, "");
+    EXPECT_EQ(platform.reports.at(0).extraInfo, nullptr);
 }
 
 TEST_F(GErrorReporterTest, IsIntroducedBeforeItIsToldAndIsReleasedAfterwards) {
@@ -225,7 +230,7 @@ TEST_F(GErrorReporterTest, CanBeToldDirectlyWithTheSwitchOff) {
     errors.setReporterSwitch(false);
     setCurrentError(overflow);
 
-    errors.sendToReporter(6, "Overflow", "CRtfDoc.cls", "Commit", "extra");
+    errors.sendToReporter(6, "Overflow", "CRtfDoc.cls", "Commit", nullptr);
 
     EXPECT_EQ(platform.reports.at(0).number, 6);
     EXPECT_EQ(platform.reports.at(0).source, "CRtfTableCell.Width");
@@ -235,7 +240,7 @@ TEST_F(GErrorReporterTest, ThatIsNotRegisteredIsError429WhenToldDirectly) {
     platform.reporterIsRegistered = false;
 
     try {
-        errors.sendToReporter(6, "Overflow", "CRtfDoc.cls", "Commit", "");
+        errors.sendToReporter(6, "Overflow", "CRtfDoc.cls", "Commit", nullptr);
         FAIL() << "nothing was raised";
     } catch (const RtfError& error) {
         EXPECT_EQ(error.number, 429);
@@ -255,12 +260,40 @@ TEST_F(GErrorReporterTest, ThatIsNotRegisteredGivesWayToTheMessageBox) {
               "Source: Vantrel");
 }
 
-TEST_F(GErrorReporterTest, ThatIsNotRegisteredLeavesAnyOtherErrorWithoutATrace) {
+TEST_F(GErrorReporterTest, ThatIsNotRegisteredShowsTheErrorThatItWasToTake) {
     platform.reporterIsRegistered = false;
 
     errors.handleError(overflow, "CRtfDoc.cls", "Commit");
 
-    EXPECT_THAT(platform.operations, ElementsAre("createReporter Vantrel.CVantrel"));
+    ASSERT_EQ(platform.messageBoxes.size(), 1U);
+    EXPECT_EQ(platform.messageBoxes[0].text,
+              "Number: 6\r\n"
+              "Description: Overflow\r\n"
+              "Module: CRtfDoc.cls\r\n"
+              "Funtion: Commit\r\n"
+              "Source: CRtfTableCell.Width");
+    EXPECT_EQ(platform.messageBoxes[0].style, 64);
+}
+
+TEST_F(GErrorReporterTest, ThatFailsWithError429AtAnyStepShowsTheErrorThatItWasToTake) {
+    for (const char* step : {"Create", "sendError", "programFolder"}) {
+        platform.messageBoxes.clear();
+        platform.fail(step, RunTimeError::CannotCreateObject);
+
+        errors.handleError(overflow, "CRtfDoc.cls", "Commit");
+
+        platform.repair(step);
+        ASSERT_EQ(platform.messageBoxes.size(), 1U) << step;
+        EXPECT_THAT(platform.messageBoxes[0].text, StartsWith("Number: 6\r\n"));
+    }
+}
+
+TEST_F(GErrorReporterTest, ThatFailsWithAnotherErrorLeavesAnyErrorBut429WithoutATrace) {
+    platform.fail("sendError", RtfError(438, "No such method", "Reporter"));
+
+    errors.handleError(overflow, "CRtfDoc.cls", "Commit");
+
+    EXPECT_THAT(platform.messageBoxes, IsEmpty());
 }
 
 TEST_F(GErrorReporterTest, ThatFailsToBeIntroducedGivesWayToTheMessageBox) {
