@@ -220,6 +220,9 @@ private:
     }
 
     static Hint keywordHint(std::string_view keyword) {
+        if (keyword.empty()) {
+            return "one ; stands between two items";
+        }
         if (keyword == "name") {
             return "name is the first item of a definition";
         }

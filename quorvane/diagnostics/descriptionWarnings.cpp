@@ -22,6 +22,7 @@
 #include "quorvane/diagnostics/widthOrder.h"
 #include "quorvane/support/RtfError.h"
 #include "quorvane/support/numberText.h"
+#include "quorvane/support/trimming.h"
 
 namespace quorvane {
 
@@ -134,6 +135,11 @@ private:
     Hint styleHint(StyleKind kind, std::string_view name) {
         if (++hints_ > mostHints) {
             return {};
+        }
+        const std::string trimmed(trimWhitespace(name));
+        if (trimmed != name && styles_->find(kind, trimmed) > 0) {
+            styles_->markUsed(kind, trimmed);
+            return {"leave out the blank: the style is named " + trimmed, trimmed};
         }
         for (const StyleKind other :
              {StyleKind::Paragraph, StyleKind::Character, StyleKind::Cell}) {

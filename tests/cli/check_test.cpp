@@ -516,7 +516,7 @@ TEST_F(CheckTest, TellsFindingsAboutADocumentInTheOrderOfTheirPlaces) {
               "a.rtf:3:1: error: Two hexadecimal digits must follow \\'. [bad-hex-escape]\n"
               "    \\'z\n"
               "    ^~\n"
-              "4 errors in 1 file\n");
+              "3 errors, 1 warning in 1 file\n");
 }
 
 TEST_F(CheckTest, GivesUpOnGroupsThatAreNestedVeryDeep) {

@@ -117,7 +117,8 @@ TEST_F(CommandTest, TellsAnErrorAsAnObject) {
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.errors,
               R"({"file":"letter.rtfspec","line":3,"number":-2147221496,"level":"eWrongValue",)"
-              R"("source":null,"message":"crimson isn't a recognized color.","kind":"event"})"
+              R"("source":"CRtfDriver.treWalkerSemantic",)"
+              R"("message":"crimson isn't a recognized color.","kind":"event"})"
               "\n");
 }
 
@@ -136,7 +137,7 @@ TEST_F(CommandTest, TellsErrorsInTheOrderInWhichTheyCome) {
               "Error while processing stylesheet.\r\nnam is not a valid keyword.");
     EXPECT_EQ(objects[1].at("source"), "CRtfDriver.treWalkerSemantic");
     EXPECT_EQ(objects[1].at("kind"), "event");
-    EXPECT_EQ(objects[2].at("source"), nullptr);
+    EXPECT_EQ(objects[2].at("source"), "CRtfDriver.treWalkerSemantic");
     EXPECT_EQ(objects[3].at("file"), "style.rtfss");
     EXPECT_EQ(objects[4].at("message"), "missing.rtfspec doesn't exist or is unreacheable");
     EXPECT_EQ(objects[4].at("cause"), "File not found");

@@ -379,8 +379,8 @@ TEST_F(RenderReports, EveryEventAsAnObjectAsBefore) {
               R"(CRtfDriver.treeWalkerBuild","message":"(doc x has a wrong syntax",)"
               R"("kind":"event"})"
               "\n"
-              R"({"file":"a.rtfspec","line":null,"number":91,"level":null,"source":null,)"
-              R"("message":"Object variable or With block variable not set","kind":"event"})"
+              R"({"file":"a.rtfspec","line":null,"number":5,"level":null,"source":null,)"
+              R"("message":"Invalid procedure call or argument","kind":"event"})"
               "\n");
 }
 

@@ -635,6 +635,29 @@ a.rtfspec:6:1: error: (p (pt=x) p) has a wrong syntax [wrong-syntax]
 )");
 }
 
+TEST(ReportsOfStyleSheets, NameABlankInTheNameOfAStyle) {
+    const std::string sheet =
+        "{ name: normal; style-def: s; format: \\fs20 }\n"
+        "{ name: strong; style-def: cs; format: \\b }\n";
+    EXPECT_EQ(
+        reportOf(paragraphWith("<strong =a>"), sheet),
+        R"(a.rtfspec:5:6: warning: The stylesheet has no character style strong : its text gets no format. [unknown-character-style]
+    (pt=<strong =a>)
+         ^~~~~~~
+    hint: leave out the blank: the style is named strong
+)");
+}
+
+TEST(ReportsOfStyleSheets, ReportAnEmptyItemThatIsNotTheLast) {
+    EXPECT_EQ(
+        reportOfFile("a.rtfss", "{ name: a;; style-def: s; format: \\b }\n"),
+        R"(a.rtfss:1:11: error: Error while processing stylesheet.  is not a valid keyword. [bad-keyword]
+    { name: a;; style-def: s; format: \b }
+              ^
+    hint: one ; stands between two items
+)");
+}
+
 TEST(ReportsOfStyleSheets, TellAWrongKindOnce) {
     EXPECT_EQ(reportOfFile("a.rtfss",
                            "{ name: a; style-def: paragraph; format: \\b }\n"

@@ -14,7 +14,7 @@ namespace quorvane {
 namespace {
 
 TEST(FormatStyleSheet, WritesADefinitionOnALine) {
-    EXPECT_EQ(formattedStyleSheet("{NAME:normal,Base;\nstyle-def : s;;format:\\f9 ; }"),
+    EXPECT_EQ(formattedStyleSheet("{NAME:normal,Base;\nstyle-def : s;format:\\f9 ; }"),
               "{ name: normal, Base; style-def: s; format: \\f9 }\n");
 }
 
