@@ -11,7 +11,7 @@
 #include <utility>
 #include <vector>
 
-#include "tests/cli/TemporaryFolder.h"
+#include "tests/cli/ProgramTest.h"
 #include "tests/cli/WithoutPrivileges.h"
 #include "tests/cli/descriptions.h"
 #include "tests/cli/runProgram.h"
@@ -26,18 +26,9 @@ using testing::IsEmpty;
 using testing::Not;
 using testing::SizeIs;
 
-class CheckFixTest : public testing::Test {
+class CheckFixTest : public ProgramTest {
 protected:
-    CheckFixTest() { start.folder = folder.path(); }
-
-    ProgramResult run(std::vector<std::string> arguments) {
-        arguments.insert(arguments.begin(), "check");
-        start.arguments = std::move(arguments);
-        return runProgram(start);
-    }
-
-    TemporaryFolder folder;
-    ProgramStart start;
+    CheckFixTest() : ProgramTest({"check"}) {}
 };
 
 /// Two mistakes that can be fixed for certain, and one that cannot; in Windows-1252, with trailing

@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "quorvane/diagnostics/diagnosticRules.h"
-#include "tests/cli/TemporaryFolder.h"
+#include "tests/cli/ProgramTest.h"
 #include "tests/cli/WithoutPrivileges.h"
 #include "tests/cli/descriptions.h"
 #include "tests/cli/runProgram.h"
@@ -26,18 +26,9 @@ using testing::HasSubstr;
 using testing::Not;
 using testing::SizeIs;
 
-class CheckOptionsTest : public testing::Test {
+class CheckOptionsTest : public ProgramTest {
 protected:
-    CheckOptionsTest() { start.folder = folder.path(); }
-
-    ProgramResult run(std::vector<std::string> arguments) {
-        arguments.insert(arguments.begin(), "check");
-        start.arguments = std::move(arguments);
-        return runProgram(start);
-    }
-
-    TemporaryFolder folder;
-    ProgramStart start;
+    CheckOptionsTest() : ProgramTest({"check"}) {}
 };
 
 /// An error on line 3 and a warning on line 6.

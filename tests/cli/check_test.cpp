@@ -18,7 +18,7 @@
 #include <vector>
 
 #include "quorvane/diagnostics/diagnosticRules.h"
-#include "tests/cli/TemporaryFolder.h"
+#include "tests/cli/ProgramTest.h"
 #include "tests/cli/descriptions.h"
 #include "tests/cli/runProgram.h"
 
@@ -38,18 +38,9 @@ std::string contentsOf(const fs::path& path) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-class CheckTest : public testing::Test {
+class CheckTest : public ProgramTest {
 protected:
-    CheckTest() { start.folder = folder.path(); }
-
-    ProgramResult run(std::vector<std::string> arguments) {
-        arguments.insert(arguments.begin(), "check");
-        start.arguments = std::move(arguments);
-        return runProgram(start);
-    }
-
-    TemporaryFolder folder;
-    ProgramStart start;
+    CheckTest() : ProgramTest({"check"}) {}
 };
 
 constexpr const char* reportOfBadColor =

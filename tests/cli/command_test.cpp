@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/cli/TemporaryFolder.h"
+#include "tests/cli/ProgramTest.h"
 #include "tests/cli/descriptions.h"
 #include "tests/cli/runProgram.h"
 
@@ -27,18 +27,7 @@ using testing::SizeIs;
 using testing::StartsWith;
 
 /// The built program, run in a folder of its own.
-class CommandTest : public testing::Test {
-protected:
-    CommandTest() { start.folder = folder.path(); }
-
-    ProgramResult run(std::vector<std::string> arguments) {
-        start.arguments = std::move(arguments);
-        return runProgram(start);
-    }
-
-    TemporaryFolder folder;
-    ProgramStart start;
-};
+class CommandTest : public ProgramTest {};
 
 std::vector<json> objectsOf(const std::string& errors) {
     std::vector<json> objects;

@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "tests/cli/TemporaryFolder.h"
+#include "tests/cli/ProgramTest.h"
 #include "tests/cli/descriptions.h"
 #include "tests/cli/runProgram.h"
 
@@ -23,18 +23,9 @@ using testing::StartsWith;
 const std::string loose = "(doc\n(row\n(c\nc)\nrow)\ndoc)";
 const std::string canonical = "(doc\n  (row\n    (c\n    c)\n  row)\ndoc)\n";
 
-class FormatTest : public testing::Test {
+class FormatTest : public ProgramTest {
 protected:
-    FormatTest() { start.folder = folder.path(); }
-
-    ProgramResult run(std::vector<std::string> arguments) {
-        arguments.insert(arguments.begin(), "format");
-        start.arguments = std::move(arguments);
-        return runProgram(start);
-    }
-
-    TemporaryFolder folder;
-    ProgramStart start;
+    FormatTest() : ProgramTest({"format"}) {}
 };
 
 TEST_F(FormatTest, PutsFilesIntoTheirCanonicalForm) {

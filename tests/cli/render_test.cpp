@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "tests/cli/TemporaryFolder.h"
+#include "tests/cli/ProgramTest.h"
 #include "tests/cli/descriptions.h"
 #include "tests/cli/runProgram.h"
 
@@ -19,15 +19,9 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-class RenderTest : public testing::Test {
+class RenderTest : public ProgramTest {
 protected:
-    RenderTest() { start.folder = folder.path(); }
-
-    ProgramResult run(std::vector<std::string> arguments) {
-        arguments.insert(arguments.begin(), "render");
-        start.arguments = std::move(arguments);
-        return runProgram(start);
-    }
+    RenderTest() : ProgramTest({"render"}) {}
 
     /// What a run reports that does not begin, without the line about the help.
     std::string refusalOf(std::vector<std::string> arguments) {
@@ -38,9 +32,6 @@ protected:
         EXPECT_EQ(lines.size(), 2U) << result.errors;
         return lines.empty() ? std::string() : lines.front();
     }
-
-    TemporaryFolder folder;
-    ProgramStart start;
 };
 
 using NeverOverwrites = RenderTest;
