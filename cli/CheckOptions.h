@@ -11,8 +11,8 @@ namespace quorvane::cli {
 /// The form in which findings are told on standard output.
 enum class FindingsForm { Text, Json, Sarif };
 
-/// What `quorvane check` was asked to do. Paths are as they were given; "-" is standard input, and a
-/// folder stands for the files below it.
+/// What `quorvane check` was asked to do. Paths are as they were given; "-" is standard input, and
+/// a folder stands for the files below it.
 struct CheckOptions {
     std::vector<std::string> files;
     std::optional<std::string> styleSheet;

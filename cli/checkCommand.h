@@ -6,8 +6,8 @@
 namespace quorvane::cli {
 
 /// Runs `quorvane check` on the standard streams: findings go to standard output, files that cannot
-/// be read or written to standard error. Where standard output is for a diff or for the fixed text of
-/// standard input, findings go to standard error too. Throws `UsageError`.
+/// be read or written to standard error. Where standard output is for a diff or for the fixed text
+/// of standard input, findings go to standard error too. Throws `UsageError`.
 ExitStatus check(const CheckOptions& options);
 
 }  // namespace quorvane::cli

@@ -236,7 +236,8 @@ private:
     /// How many nodes of the kind there are, and how many can be read.
     std::string tooManyHint(NodeKind kind) const {
         const auto count = std::count_if(lines_.begin(), lines_.end(), [&](const Line& line) {
-            return !line.isInserted && !isLeaf(line.text) && openedKind(line.text, vocabulary_) == kind;
+            return !line.isInserted && !isLeaf(line.text) &&
+                   openedKind(line.text, vocabulary_) == kind;
         });
         const std::string nodes =
             std::to_string(count) + " " + std::string(nodeKindName(kind)) + "s";

@@ -1,14 +1,11 @@
 #include "quorvane/support/RandomNumbers.h"
 
-#include <chrono>
 #include <cmath>
+#include <ctime>
 
 namespace quorvane {
 
-RandomNumbers::RandomNumbers()
-    : RandomNumbers(
-          static_cast<std::uint32_t>(std::chrono::steady_clock::now().time_since_epoch().count())) {
-}
+RandomNumbers::RandomNumbers() : RandomNumbers(static_cast<std::uint32_t>(std::time(nullptr))) {}
 
 RandomNumbers& RandomNumbers::ofProcess() {
     static RandomNumbers numbers;

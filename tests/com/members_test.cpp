@@ -295,7 +295,7 @@ TEST_F(Members, AnswerTheSameWhenTheOwnersAreGone) {
 
     EXPECT_EQ(perform(2, "_CRtfTableRows.get Parent"), "Nothing");
     EXPECT_EQ(perform(3, "_CRtfTableRow.get Parent"), "Nothing");
-    EXPECT_EQ(perform(2, "_CRtfTableRows.get Count"), "1");
+    EXPECT_EQ(perform(2, "_CRtfTableRows.get Count"), "0");
     perform(2, "_CRtfTableRows.call AddTail", {Missing{}});
     perform(3, "_CRtfTableRow.set BackColor", {4});
     perform(3, "_CRtfTableRow.get BackColor");
@@ -309,7 +309,9 @@ TEST_F(Members, AnswerTheSameWhenTheOwnersAreGone) {
     perform(5, "_CRtfTableCell.get Parent");
     letGo(5);
     letGo(6);
-    EXPECT_EQ(perform(7, "_CRtfParagraph.get Parent"), "Nothing");
+    // A paragraph keeps its cell, for which the host gets an object again.
+    EXPECT_EQ(perform(7, "_CRtfParagraph.get Parent"), "_CRtfTableCell 8");
+    EXPECT_EQ(perform(8, "_CRtfTableCell.get Parent"), "Nothing");
     EXPECT_EQ(perform(7, "_CRtfParagraph.get Text"), "\"abc\"");
 }
 

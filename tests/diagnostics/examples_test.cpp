@@ -103,8 +103,7 @@ TEST(ExamplesOfTheTable, AreThereForAllButWhatFewLinesCannotShow) {
             without.emplace_back(rule.identifier);
         }
     }
-    EXPECT_THAT(without,
-                testing::ElementsAre("not-a-text-file", "rejected", "stylesheet-rejected",
+    EXPECT_THAT(without, testing::ElementsAre("not-a-text-file", "rejected", "stylesheet-rejected",
                                               "wrong-extension"));
 }
 
