@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <set>
+#include <iterator>
+#include <map>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -82,7 +84,7 @@ private:
         return trimWhitespace(line);
     }
 
-    CheckComment commentAt(std::size_t index, std::string_view text) const {
+    CheckComment commentAt(std::size_t index, std::string_view text) {
         CheckComment comment;
         comment.whole = trimWhitespace(text);
         comment.identifiers = wordsIn(comment.whole);
@@ -100,27 +102,71 @@ private:
     }
 
     /// The number of the line that ends the definition that begins next.
-    std::int64_t lastLineOfDefinition(std::size_t from) const {
-        const std::size_t open = source_.text().find('{', from);
-        const std::size_t close = open == nowhere ? nowhere : source_.text().find('}', open);
-        const std::size_t end = std::min(close, source_.text().size());
-        return source_.place(end, end).line;
+    std::int64_t lastLineOfDefinition(std::size_t from) {
+        // Comments that follow one another are about the same definition: it is looked up once.
+        if (!definition_ || definition_->open < from) {
+            const std::size_t open = source_.text().find('{', from);
+            const std::size_t close = open == nowhere ? nowhere : source_.text().find('}', open);
+            const std::size_t end = std::min(close, source_.text().size());
+            definition_ = Definition{open, source_.place(end, end).line};
+        }
+        return definition_->lastLine;
     }
 
     /// The number of the next line that is neither blank nor a comment.
-    std::int64_t nextLine(std::size_t index) const {
-        for (++index; index < source_.lines().size(); ++index) {
-            const std::string_view line = trimWhitespace(lineAt(index));
+    std::int64_t nextLine(std::size_t index) {
+        // Comments that follow one another are about the same line: it is looked up once.
+        for (next_ = std::max(next_, index + 1); next_ < source_.lines().size(); ++next_) {
+            const std::string_view line = trimWhitespace(lineAt(next_));
             if (!line.empty() && line.front() != ';') {
                 break;
             }
         }
-        return static_cast<std::int64_t>(index) + 1;
+        return static_cast<std::int64_t>(next_) + 1;
     }
+
+    struct Definition {
+        std::size_t open;
+        std::int64_t lastLine;
+    };
 
     const SourceText& source_;
     bool isStyleSheet_;
     std::ptrdiff_t depth_ = 0;
+    std::optional<Definition> definition_;
+    std::size_t next_ = 0;
+};
+
+/// Which diagnostics are ignored on which lines.
+class IgnoredLines {
+public:
+    /// The first line must not be before that of an earlier call.
+    void add(DiagnosticId id, std::int64_t first, std::int64_t last) {
+        std::vector<Lines>& lines = lines_[id];
+        if (lines.empty() || lines.back().last < last) {
+            lines.push_back({first, last});
+        }
+    }
+
+    bool contain(DiagnosticId id, std::int64_t line) const {
+        const auto known = lines_.find(id);
+        if (known == lines_.end()) {
+            return false;
+        }
+        const auto after = std::upper_bound(
+            known->second.begin(), known->second.end(), line,
+            [](std::int64_t sought, const Lines& lines) { return sought < lines.first; });
+        return after != known->second.begin() && line <= std::prev(after)->last;
+    }
+
+private:
+    struct Lines {
+        std::int64_t first;
+        std::int64_t last;
+    };
+
+    // Both ends of the lines of a diagnostic rise.
+    std::map<DiagnosticId, std::vector<Lines>> lines_;
 };
 
 }  // namespace
@@ -131,20 +177,19 @@ std::vector<Diagnostic> withoutIgnored(std::vector<Diagnostic> diagnostics, std:
         return diagnostics;
     }
     const SourceText source(text);
-    std::set<std::pair<DiagnosticId, std::int64_t>> ignored;
+    IgnoredLines ignored;
     for (const CheckComment& comment : CommentReader(source, language).read()) {
         if (comment.command != "ignore") {
             continue;
         }
         for (const std::string_view identifier : comment.identifiers) {
-            const DiagnosticRule* rule = findDiagnosticRule(identifier);
-            for (std::int64_t line = comment.firstLine; rule && line <= comment.lastLine; ++line) {
-                ignored.emplace(rule->id, line);
+            if (const DiagnosticRule* rule = findDiagnosticRule(identifier)) {
+                ignored.add(rule->id, comment.firstLine, comment.lastLine);
             }
         }
     }
     std::erase_if(diagnostics, [&](const Diagnostic& diagnostic) {
-        return ignored.contains({diagnostic.id, diagnostic.place.line});
+        return ignored.contain(diagnostic.id, diagnostic.place.line);
     });
     return diagnostics;
 }

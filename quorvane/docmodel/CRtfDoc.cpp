@@ -58,7 +58,12 @@ void CRtfDoc::Commit(const std::string& sPath) {
     if (GFileSystem::saveStringToFile(errors_, sPath, contents_, false)) {
         return;
     }
-    const RtfError failure = *currentError();
+    const RtfError* current = currentError();
+    if (!current) {
+        // The thread cannot keep an error. The error module already has this one.
+        return;
+    }
+    const RtfError failure = *current;
     if (failure.is(RunTimeError::PathFileAccessError)) {
         RtfError locked(failure.number, lockedFileMessage(sPath));
         locked.cause = failure.cause;

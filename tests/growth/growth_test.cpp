@@ -183,6 +183,15 @@ TEST(Growth, OfCheckingBracesIsProportional) {
     }
 }
 
+TEST(Growth, OfCheckingIgnoreCommentsIsProportional) {
+    const std::string comment = "; quorvane: ignore wrong-color\n";
+    expectProportional(
+        [&](std::size_t size) { checkDescription(repeated(comment, size) + "(doc\n", nullptr); },
+        500);
+    expectProportional(
+        [&](std::size_t size) { checkStyleSheet(repeated(comment, size) + "{ name: a\n"); }, 500);
+}
+
 TEST(Growth, OfCheckingFieldsAndColorsIsProportional) {
     KnownStyles styles("{name: b; style-def: cs; format: \\cf36}");
     for (const char* part : {"{\\fldinst x", "{\\cf36 x", "<b=x", "{\\*\\x<b=\\u1?>", "\\cell"}) {
