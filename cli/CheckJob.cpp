@@ -100,7 +100,7 @@ ExitStatus CheckJob::run() {
     for (const std::string& file : options_.files) {
         if (isFolder(file)) {
             checkFolder(file);
-        } else if (file != options_.styleSheet) {
+        } else if (!options_.styleSheet || !isSameFile(file, *options_.styleSheet)) {
             checkFile(file);
         }
     }

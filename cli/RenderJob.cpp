@@ -29,12 +29,6 @@ RenderJob::RenderJob(RenderOptions options, RenderReceivers receivers, Platform&
       platform_(platform) {}
 
 ExitStatus RenderJob::run() {
-    const ExitStatus status = renderAll();
-    const bool isForgiven = options_.failOn == FailOn::Never && status == ExitStatus::ContentErrors;
-    return isForgiven ? ExitStatus::Success : status;
-}
-
-ExitStatus RenderJob::renderAll() {
     if (options_.styleSheet) {
         requireStyleSheetExtension(*options_.styleSheet, options_.descriptions);
     }

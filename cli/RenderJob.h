@@ -26,7 +26,6 @@ public:
     ExitStatus run();
 
 private:
-    ExitStatus renderAll();
     bool prepareOutputFolder();
     ExitStatus readStyleSheet();
     ExitStatus render(const Assignment& assignment);

@@ -104,6 +104,15 @@ const std::map<std::string, FailOn>& failingSeverities() {
     return severities;
 }
 
+/// What `render` can fail on: a run without a document is a failure.
+const std::map<std::string, FailOn>& severitiesThatStopRendering() {
+    static const std::map<std::string, FailOn> severities = {
+        {"error", FailOn::Error},
+        {"warning", FailOn::Warning},
+    };
+    return severities;
+}
+
 const std::map<std::string, DiagnosticsForm>& diagnosticsForms() {
     static const std::map<std::string, DiagnosticsForm> forms = {
         {"text", DiagnosticsForm::Text},
@@ -326,9 +335,9 @@ void addRenderCommand(CLI::App& app, RenderOptions& options) {
                      "Repair unclosed rows; check keys, values and texts");
     render
         ->add_option("--fail-on", storeIn(options.failOn),
-                     "Fail on errors, on warnings of check too, or never")
-        ->type_name("error|warning|never")
-        ->check(CLI::IsMember(failingSeverities()).description(""));
+                     "Fail on errors only, or on warnings of check too")
+        ->type_name("error|warning")
+        ->check(CLI::IsMember(severitiesThatStopRendering()).description(""));
     render->add_flag("--keep-going", options.keepGoing,
                      "Write what could be built in spite of errors");
     render

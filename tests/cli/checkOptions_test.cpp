@@ -43,6 +43,15 @@ constexpr const char* reportOfWarning =
     "    (pt=)\n"
     "        ^\n";
 
+TEST_F(CheckOptionsTest, ChecksTheStylesheetOnceWhateverNameItIsGivenBy) {
+    folder.write("a.rtfss", "{ name: a; style-def: q }\n");
+    EXPECT_EQ(run({"-s", "a.rtfss", "./a.rtfss"}).output,
+              "a.rtfss:1:23: error: q is not a valid value for style-def [bad-style-kind]\n"
+              "    { name: a; style-def: q }\n"
+              "                          ^\n"
+              "1 error in 1 file\n");
+}
+
 TEST_F(CheckOptionsTest, IgnoreLeavesDiagnosticsOut) {
     folder.write("a.rtfspec", errorAndWarning);
     ProgramResult result = run({"--ignore", "wrong-color", "a.rtfspec"});

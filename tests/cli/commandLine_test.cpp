@@ -101,7 +101,7 @@ TEST(CommandLine, ShowsTheHelpOfRenderWithEveryOptionAndTheExitStatuses) {
     for (const char* part :
          {"DESCRIPTION", "-s,--stylesheet FILE", "-o,--output FILE", "--output-dir DIR", "--check",
           "--keep-going", "--diagnostics text|json", "--help", "-V,--version", "--mkdir",
-          "--fail-on error|warning|never", "Exit status:"}) {
+          "--fail-on error|warning", "Exit status:"}) {
         EXPECT_THAT(help, HasSubstr(part));
     }
 }
@@ -206,9 +206,8 @@ TEST(CommandLine, TakesWhatMakesARunFail) {
     EXPECT_EQ(optionsOf({"x"}).failOn, FailOn::Error);
     EXPECT_EQ(optionsOf({"--fail-on=error", "x"}).failOn, FailOn::Error);
     EXPECT_EQ(optionsOf({"--fail-on", "warning", "x"}).failOn, FailOn::Warning);
-    EXPECT_EQ(optionsOf({"--fail-on=never", "x"}).failOn, FailOn::Never);
     EXPECT_EQ(usageErrorOf({"render", "--fail-on=always", "x"}),
-              "--fail-on: always not in {error,never,warning}");
+              "--fail-on: always not in {error,warning}");
 }
 
 TEST(CommandLine, MakesOnlyAFolderThatIsNamed) {

@@ -314,15 +314,6 @@ TEST_F(FailsOn, WarningsInOneObject) {
               "\n");
 }
 
-TEST_F(FailsOn, NothingInADescriptionWhenAsked) {
-    folder.write("a.rtfspec", descriptionWithBadColour);
-    const ProgramResult result = run({"--fail-on=never", "a.rtfspec"});
-    EXPECT_EQ(result.status, 0);
-    EXPECT_THAT(result.errors, HasSubstr("[wrong-color]"));
-    EXPECT_FALSE(folder.has("a.rtf"));
-    EXPECT_EQ(run({"--fail-on=never", "nosuch.rtfspec"}).status, 2);
-}
-
 using RenderReports = RenderTest;
 
 TEST_F(RenderReports, EachMistakeOnceAndNotWhatFollowsFromIt) {
