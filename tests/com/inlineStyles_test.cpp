@@ -22,11 +22,11 @@ protected:
     void SetUp() override {
         const LateBound rows = document_.object("TableRows");
         rows.call("AddTail");
-        const LateBound cells = rows.object("PeekTail").object("TableCells");
+        const LateBound cells = rows.object("Item", {1}).object("TableCells");
         cells.call("AddTail");
-        const LateBound paragraphs = cells.object("PeekTail").object("Paragraphs");
+        const LateBound paragraphs = cells.object("Item", {1}).object("Paragraphs");
         paragraphs.call("AddTail");
-        paragraph_ = paragraphs.object("PeekTail");
+        paragraph_ = paragraphs.object("Item", {1});
     }
 
     std::string earlyContents() const {
