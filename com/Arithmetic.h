@@ -1,5 +1,7 @@
 #pragma once
 
+#include <xmmintrin.h>
+
 namespace quorvane::com {
 
 // Some hosts let invalid operations of the floating-point unit raise exceptions, round in another
@@ -13,7 +15,12 @@ public:
     static Arithmetic current() noexcept;
     /// True for the settings that programs begin with: nothing traps, results are rounded to the
     /// nearest.
-    static bool isUsual() noexcept;
+    static bool isUsual() noexcept {
+        unsigned short coprocessor = 0;
+        __asm__ volatile("fnstcw %0" : "=m"(coprocessor));
+        return (coprocessor & coprocessorMasks) == coprocessorMasks &&
+               (_mm_getcsr() & settings) == usualControl;
+    }
     /// Sets this thread to those.
     static void setUsual() noexcept;
     /// Sets this thread to these.
@@ -24,6 +31,11 @@ private:
     struct Environment {
         unsigned words[7];
     };
+
+    // Without what operations have recorded, which is no setting.
+    static constexpr unsigned settings = 0xFFC0;
+    static constexpr unsigned usualControl = 0x1F80;
+    static constexpr unsigned short coprocessorMasks = 0x3F;
 
     Environment coprocessor_;
     unsigned control_;

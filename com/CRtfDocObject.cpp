@@ -47,7 +47,7 @@ STDMETHODIMP CRtfDocObject::get_Contents(BSTR* value) {
 }
 
 STDMETHODIMP CRtfDocObject::get_Changed(VARIANT_BOOL* value) {
-    return get(value, [&] { return native().Changed(); });
+    return getStored(value, [&] { return native().Changed(); });
 }
 
 STDMETHODIMP CRtfDocObject::put_Changed(VARIANT_BOOL value) {
@@ -63,11 +63,11 @@ STDMETHODIMP CRtfDocObject::put_StyleSheetFile(BSTR value) {
 }
 
 STDMETHODIMP CRtfDocObject::get_StyleSheetOk(VARIANT_BOOL* value) {
-    return get(value, [&] { return native().StyleSheetOk(); });
+    return getStored(value, [&] { return native().StyleSheetOk(); });
 }
 
 STDMETHODIMP CRtfDocObject::get_BottomMargin(LONG* value) {
-    return get(value, [&] { return native().BottomMargin(); });
+    return getStored(value, [&] { return native().BottomMargin(); });
 }
 
 STDMETHODIMP CRtfDocObject::put_BottomMargin(LONG value) {
@@ -75,7 +75,7 @@ STDMETHODIMP CRtfDocObject::put_BottomMargin(LONG value) {
 }
 
 STDMETHODIMP CRtfDocObject::get_TopMargin(LONG* value) {
-    return get(value, [&] { return native().TopMargin(); });
+    return getStored(value, [&] { return native().TopMargin(); });
 }
 
 STDMETHODIMP CRtfDocObject::put_TopMargin(LONG value) {
@@ -83,7 +83,7 @@ STDMETHODIMP CRtfDocObject::put_TopMargin(LONG value) {
 }
 
 STDMETHODIMP CRtfDocObject::get_LeftMargin(LONG* value) {
-    return get(value, [&] { return native().LeftMargin(); });
+    return getStored(value, [&] { return native().LeftMargin(); });
 }
 
 STDMETHODIMP CRtfDocObject::put_LeftMargin(LONG value) {
@@ -91,7 +91,7 @@ STDMETHODIMP CRtfDocObject::put_LeftMargin(LONG value) {
 }
 
 STDMETHODIMP CRtfDocObject::get_RightMargin(LONG* value) {
-    return get(value, [&] { return native().RightMargin(); });
+    return getStored(value, [&] { return native().RightMargin(); });
 }
 
 STDMETHODIMP CRtfDocObject::put_RightMargin(LONG value) {
@@ -99,7 +99,7 @@ STDMETHODIMP CRtfDocObject::put_RightMargin(LONG value) {
 }
 
 STDMETHODIMP CRtfDocObject::get_PageNumberStart(LONG* value) {
-    return get(value, [&] { return native().PageNumberStart(); });
+    return getStored(value, [&] { return native().PageNumberStart(); });
 }
 
 STDMETHODIMP CRtfDocObject::put_PageNumberStart(LONG value) {
@@ -107,7 +107,7 @@ STDMETHODIMP CRtfDocObject::put_PageNumberStart(LONG value) {
 }
 
 STDMETHODIMP CRtfDocObject::get_PageHeight(LONG* value) {
-    return get(value, [&] { return native().PageHeight(); });
+    return getStored(value, [&] { return native().PageHeight(); });
 }
 
 STDMETHODIMP CRtfDocObject::put_PageHeight(LONG value) {
@@ -115,7 +115,7 @@ STDMETHODIMP CRtfDocObject::put_PageHeight(LONG value) {
 }
 
 STDMETHODIMP CRtfDocObject::get_PageWidth(LONG* value) {
-    return get(value, [&] { return native().PageWidth(); });
+    return getStored(value, [&] { return native().PageWidth(); });
 }
 
 STDMETHODIMP CRtfDocObject::put_PageWidth(LONG value) {

@@ -81,7 +81,7 @@ STDMETHODIMP CRtfDriverObject::Commit(BSTR path) {
 }
 
 STDMETHODIMP CRtfDriverObject::get_ErroneousInput(VARIANT_BOOL* value) {
-    return get(value, [&] { return native().ErroneousInput(); });
+    return getStored(value, [&] { return native().ErroneousInput(); });
 }
 
 STDMETHODIMP CRtfDriverObject::put_ErroneousInput(VARIANT_BOOL value) {
@@ -89,7 +89,7 @@ STDMETHODIMP CRtfDriverObject::put_ErroneousInput(VARIANT_BOOL value) {
 }
 
 STDMETHODIMP CRtfDriverObject::get_notifyError(VARIANT_BOOL* value) {
-    return get(value, [&] { return native().notifyError(); });
+    return getStored(value, [&] { return native().notifyError(); });
 }
 
 STDMETHODIMP CRtfDriverObject::put_notifyError(VARIANT_BOOL value) {

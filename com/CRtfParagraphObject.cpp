@@ -39,7 +39,7 @@ STDMETHODIMP CRtfParagraphObject::put_Style(BSTR value) {
 }
 
 STDMETHODIMP CRtfParagraphObject::get_ForeColor(::tColorIndex* value) {
-    return get(value, [&] { return native().ForeColor(); });
+    return getStored(value, [&] { return native().ForeColor(); });
 }
 
 STDMETHODIMP CRtfParagraphObject::put_ForeColor(::tColorIndex value) {
@@ -47,7 +47,7 @@ STDMETHODIMP CRtfParagraphObject::put_ForeColor(::tColorIndex value) {
 }
 
 STDMETHODIMP CRtfParagraphObject::get_Align(::tCellAlign* value) {
-    return get(value, [&] { return native().Align(); });
+    return getStored(value, [&] { return native().Align(); });
 }
 
 STDMETHODIMP CRtfParagraphObject::put_Align(::tCellAlign value) {

@@ -37,7 +37,7 @@ STDMETHODIMP CRtfTableCellObject::get_Parent(::_CRtfTableRow** value) {
 }
 
 STDMETHODIMP CRtfTableCellObject::get_BottomBorder(::tBorderWidth* value) {
-    return get(value, [&] { return native().BottomBorder(); });
+    return getStored(value, [&] { return native().BottomBorder(); });
 }
 
 STDMETHODIMP CRtfTableCellObject::put_BottomBorder(::tBorderWidth value) {
@@ -45,7 +45,7 @@ STDMETHODIMP CRtfTableCellObject::put_BottomBorder(::tBorderWidth value) {
 }
 
 STDMETHODIMP CRtfTableCellObject::get_TopBorder(::tBorderWidth* value) {
-    return get(value, [&] { return native().TopBorder(); });
+    return getStored(value, [&] { return native().TopBorder(); });
 }
 
 STDMETHODIMP CRtfTableCellObject::put_TopBorder(::tBorderWidth value) {
@@ -53,7 +53,7 @@ STDMETHODIMP CRtfTableCellObject::put_TopBorder(::tBorderWidth value) {
 }
 
 STDMETHODIMP CRtfTableCellObject::get_LeftBorder(::tBorderWidth* value) {
-    return get(value, [&] { return native().LeftBorder(); });
+    return getStored(value, [&] { return native().LeftBorder(); });
 }
 
 STDMETHODIMP CRtfTableCellObject::put_LeftBorder(::tBorderWidth value) {
@@ -61,7 +61,7 @@ STDMETHODIMP CRtfTableCellObject::put_LeftBorder(::tBorderWidth value) {
 }
 
 STDMETHODIMP CRtfTableCellObject::get_RightBorder(::tBorderWidth* value) {
-    return get(value, [&] { return native().RightBorder(); });
+    return getStored(value, [&] { return native().RightBorder(); });
 }
 
 STDMETHODIMP CRtfTableCellObject::put_RightBorder(::tBorderWidth value) {
@@ -69,7 +69,7 @@ STDMETHODIMP CRtfTableCellObject::put_RightBorder(::tBorderWidth value) {
 }
 
 STDMETHODIMP CRtfTableCellObject::get_BackColor(::tColorIndex* value) {
-    return get(value, [&] { return native().BackColor(); });
+    return getStored(value, [&] { return native().BackColor(); });
 }
 
 STDMETHODIMP CRtfTableCellObject::put_BackColor(::tColorIndex value) {
@@ -89,7 +89,7 @@ STDMETHODIMP CRtfTableCellObject::get_Paragraphs(::_CRtfParagraphs** value) {
 }
 
 STDMETHODIMP CRtfTableCellObject::get_Align(::tCellAlign* value) {
-    return get(value, [&] { return native().Align(); });
+    return getStored(value, [&] { return native().Align(); });
 }
 
 STDMETHODIMP CRtfTableCellObject::put_Align(::tCellAlign value) {

@@ -33,7 +33,7 @@ STDMETHODIMP CRtfTableRowObject::get_TableCells(::_CRtfTableCells** value) {
 }
 
 STDMETHODIMP CRtfTableRowObject::get_BackColor(::tColorIndex* value) {
-    return get(value, [&] { return native().BackColor(); });
+    return getStored(value, [&] { return native().BackColor(); });
 }
 
 STDMETHODIMP CRtfTableRowObject::put_BackColor(::tColorIndex value) {
@@ -41,7 +41,7 @@ STDMETHODIMP CRtfTableRowObject::put_BackColor(::tColorIndex value) {
 }
 
 STDMETHODIMP CRtfTableRowObject::get_BottomBorder(::tBorderWidth* value) {
-    return get(value, [&] { return native().BottomBorder(); });
+    return getStored(value, [&] { return native().BottomBorder(); });
 }
 
 STDMETHODIMP CRtfTableRowObject::put_BottomBorder(::tBorderWidth value) {
@@ -49,7 +49,7 @@ STDMETHODIMP CRtfTableRowObject::put_BottomBorder(::tBorderWidth value) {
 }
 
 STDMETHODIMP CRtfTableRowObject::get_TopBorder(::tBorderWidth* value) {
-    return get(value, [&] { return native().TopBorder(); });
+    return getStored(value, [&] { return native().TopBorder(); });
 }
 
 STDMETHODIMP CRtfTableRowObject::put_TopBorder(::tBorderWidth value) {
@@ -57,7 +57,7 @@ STDMETHODIMP CRtfTableRowObject::put_TopBorder(::tBorderWidth value) {
 }
 
 STDMETHODIMP CRtfTableRowObject::get_LeftBorder(::tBorderWidth* value) {
-    return get(value, [&] { return native().LeftBorder(); });
+    return getStored(value, [&] { return native().LeftBorder(); });
 }
 
 STDMETHODIMP CRtfTableRowObject::put_LeftBorder(::tBorderWidth value) {
@@ -65,7 +65,7 @@ STDMETHODIMP CRtfTableRowObject::put_LeftBorder(::tBorderWidth value) {
 }
 
 STDMETHODIMP CRtfTableRowObject::get_RightBorder(::tBorderWidth* value) {
-    return get(value, [&] { return native().RightBorder(); });
+    return getStored(value, [&] { return native().RightBorder(); });
 }
 
 STDMETHODIMP CRtfTableRowObject::put_RightBorder(::tBorderWidth value) {

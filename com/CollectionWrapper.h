@@ -41,7 +41,7 @@ public:
         return this->get(parent, [&] { return this->native().Parent(); });
     }
     STDMETHODIMP get_Count(LONG* count) override {
-        return this->get(count, [&] { return this->native().Count(); });
+        return this->getStored(count, [&] { return this->native().Count(); });
     }
     STDMETHODIMP get_NewEnum(IUnknown** enumerator) override {
         using Element = EnumeratedElement<

@@ -174,6 +174,20 @@ protected:
         return run([&] { give(answer, std::forward<Body>(body)()); });
     }
 
+    /// A property that is stored as a number, a flag or a name of an enumeration, and takes no
+    /// arithmetic to read. Reading the processor's floating-point settings would take several times
+    /// as long as reading the property.
+    template <class Answer, class Body>
+    HRESULT getStored(Answer* answer, Body&& body) const noexcept {
+        static_assert(std::is_integral_v<Answer> || std::is_enum_v<Answer>);
+        if (!answer) {
+            return plainFailure(E_POINTER);
+        }
+        *answer = Answer{};
+        return answeringAsIs(__uuidof(Interface),
+                             [&] { give(answer, std::forward<Body>(body)()); });
+    }
+
 private:
     Self* self() noexcept { return static_cast<Self*>(this); }
 

@@ -32,11 +32,11 @@ void clearErrorObject() noexcept;
 /// Answers a failure that has no error object.
 HRESULT plainFailure(HRESULT result) noexcept;
 
-/// Runs the body of a COM method. What it throws becomes the method's result: an error of the
-/// library with an error object, E_OUTOFMEMORY when memory is short, otherwise E_UNEXPECTED.
+/// Runs the body of a COM method that computes with no floating-point number. What it throws
+/// becomes the method's result: an error of the library with an error object, E_OUTOFMEMORY when
+/// memory is short, otherwise E_UNEXPECTED.
 template <Source source = Source::Added, class Body>
-HRESULT answering(REFIID interfaceId, Body&& body) noexcept {
-    const UsualArithmetic arithmetic;
+HRESULT answeringAsIs(REFIID interfaceId, Body&& body) noexcept {
     try {
         std::forward<Body>(body)();
         return S_OK;
@@ -48,6 +48,14 @@ HRESULT answering(REFIID interfaceId, Body&& body) noexcept {
     } catch (...) {
         return plainFailure(E_UNEXPECTED);
     }
+}
+
+/// The same for a body that may compute: the thread has the usual floating-point settings
+/// meanwhile.
+template <Source source = Source::Added, class Body>
+HRESULT answering(REFIID interfaceId, Body&& body) noexcept {
+    const UsualArithmetic arithmetic;
+    return answeringAsIs<source>(interfaceId, std::forward<Body>(body));
 }
 
 }  // namespace quorvane::com

@@ -149,6 +149,42 @@ TEST_F(FloatingPoint, MayTrapWhateverNumberIsGiven) {
     }
 }
 
+TEST_F(FloatingPoint, IsLeftAloneByPropertiesThatAreStored) {
+    cell_.set("Width", {0, 33});
+    const LateBound driver(component_.create<IDispatch>(__uuidof(::CRtfDriver)));
+    const LateBound row = rows_.object("Item", {1});
+    const LateBound paragraph = cell_.object("Paragraphs").object("Item", {1});
+    const auto read = [&] {
+        std::vector<std::string> values;
+        const auto add = [&values](const LateBound& object, std::vector<const char*> names) {
+            for (const char* name : names) {
+                values.push_back(describe(object.get(name).value.get()));
+            }
+        };
+        add(document_, {"Changed", "StyleSheetOk", "BottomMargin", "TopMargin", "LeftMargin",
+                        "RightMargin", "PageNumberStart", "PageHeight", "PageWidth"});
+        for (const LateBound& bordered : {row, cell_}) {
+            add(bordered, {"BottomBorder", "TopBorder", "LeftBorder", "RightBorder", "BackColor"});
+        }
+        add(cell_, {"Align"});
+        add(paragraph, {"Align", "ForeColor"});
+        add(rows_, {"Count"});
+        add(driver, {"ErroneousInput", "notifyError"});
+        return values;
+    };
+    const std::vector<std::string> expected = read();
+    std::vector<std::string> actual;
+    bool isSet = false;
+    {
+        const TrappingArithmetic trapping;
+        actual = read();
+        isSet = TrappingArithmetic::isSet();
+    }
+
+    EXPECT_EQ(actual, expected);
+    EXPECT_TRUE(isSet);
+}
+
 TEST_F(FloatingPoint, OfItemWithoutANumberIsAnInvalidArgument) {
     HRESULT answer = S_OK;
     {

@@ -63,6 +63,44 @@ void driveLateBound(const Component& component) {
     ASSERT_GT(events, 0);
 }
 
+/// What a host holds longer than what it belonged to.
+void holdLonger(const Component& component) {
+    auto document = component.create<_CRtfDoc>(__uuidof(::CRtfDoc));
+    ComPtr<_CRtfTableRows> rows;
+    document->get_TableRows(rows.out());
+    const auto addRow = [&rows] {
+        ComPtr<_CRtfTableRow> row;
+        ComPtr<_CRtfTableCells> cells;
+        rows->AddTail(nullptr);
+        rows->PeekTail(row.out());
+        row->get_TableCells(cells.out());
+        cells->AddTail(nullptr);
+        return cells;
+    };
+    const auto addParagraph = [](const ComPtr<_CRtfTableCells>& cells) {
+        ComPtr<_CRtfTableCell> cell;
+        ComPtr<_CRtfParagraphs> paragraphs;
+        cells->PeekTail(cell.out());
+        cell->get_Paragraphs(paragraphs.out());
+        paragraphs->AddTail(nullptr);
+        return paragraphs;
+    };
+    const auto cells = addRow();
+    ComPtr<_CRtfParagraph> paragraph;
+    addParagraph(cells)->PeekTail(paragraph.out());
+    cells->Remove(Variant(1).get());
+    paragraph->put_Text(Bstr(L"set after its cell has left the row").get());
+    cells->AddTail(nullptr);
+    const auto paragraphs = addParagraph(cells);
+    cells->Remove(Variant(1).get());
+    const auto cellsOfNoRow = addRow();
+    rows->Remove(Variant(2).get());
+    document.reset();
+    LONG count = 0;
+    cellsOfNoRow->get_Count(&count);
+    rows->get_Count(&count);
+}
+
 void expectNoLeak(void (*work)(const Component&), int times) {
     const Component component;
     // What is allocated once and kept: names, caches of the system, the run-time library.
@@ -84,6 +122,10 @@ void expectNoLeak(void (*work)(const Component&), int times) {
 
 TEST(Memory, OfDocumentsIsFreed) {
     expectNoLeak(buildByHand, 100000);
+}
+
+TEST(Memory, OfObjectsThatOutliveTheirOwnersIsFreed) {
+    expectNoLeak(holdLonger, 20000);
 }
 
 TEST(Memory, OfDriversIsFreed) {

@@ -17,6 +17,8 @@
 #include <string>
 #include <vector>
 
+#include "quorvane/diagnostics/Diagnostic.h"
+#include "quorvane/diagnostics/RtfCheck.h"
 #include "quorvane/driver/CRtfDriver.h"
 #include "quorvane/support/codePage1252.h"
 #include "quorvane/support/currentError.h"
@@ -201,6 +203,54 @@ TEST_P(RichEditTest, FindsTheAlignmentOfParagraphsThatBeginALine) {
                 << paragraph.Text();
         }
     });
+}
+
+/// The errors that the check finds in a document, one on a line.
+std::string errorsIn(const std::string& rtf) {
+    std::string errors;
+    for (const Diagnostic& diagnostic : checkRtf(rtf)) {
+        if (diagnostic.severity == Severity::Error) {
+            errors += std::to_string(diagnostic.place.line) + ": " + diagnostic.message + "\n";
+        }
+    }
+    return errors;
+}
+
+TEST_P(RichEditTest, WritesWhatItReadWithoutAnErrorThatTheCheckFinds) {
+    ASSERT_EQ(control.read(bytes()), 0u);
+    const std::string rtf = control.written();
+
+    EXPECT_TRUE(rtf.starts_with("{\\rtf1")) << rtf;
+    EXPECT_EQ(errorsIn(rtf), "") << rtf;
+}
+
+/// A document of the control's own, and what of it must be in what it writes.
+struct Written {
+    const char* rtf;
+    std::vector<const char*> parts;
+};
+
+TEST(RichEditAsAWriter, MakesNoErrorThatTheCheckFinds) {
+    const Written documents[] = {
+        {R"({\rtf1\ansi plain {\b bold} {\i\fs40 large} text\par})", {"\\b", "\\fs40", "large"}},
+        {R"({\rtf1\ansi\uc1 \u-10179?\u-8704? \u8364?\'e9\par})", {"\\u-10179?\\u-8704?", "\\'e9"}},
+        {R"({\rtf1\ansi{\colortbl;\red255\green0\blue0;}{\cf1 red}\par{\fs18 small}\par})",
+         {"\\red255", "\\cf1"}},
+        {R"({\rtf1\ansi\trowd\cellx2000\cellx5000\intbl one\cell two\cell\row)"
+         R"(\trowd\cellx2000\cellx5000\intbl{\b three}\cell four\cell\row after\par})",
+         {"\\cellx5000", "\\row", "three"}},
+        {R"({\rtf1\ansi \{braces\} and \\ and\tab a tab\par})", {"\\{braces\\}", "\\tab"}},
+    };
+    for (const auto& [document, parts] : documents) {
+        const RichEdit control;
+        ASSERT_EQ(control.read(document), 0u);
+        const std::string rtf = control.written();
+
+        for (const char* part : parts) {
+            EXPECT_NE(rtf.find(part), std::string::npos) << part << " is not in " << rtf;
+        }
+        EXPECT_EQ(errorsIn(rtf), "") << rtf;
+    }
 }
 
 std::vector<std::string> descriptions() {

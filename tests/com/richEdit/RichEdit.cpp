@@ -17,6 +17,13 @@ DWORD CALLBACK readSome(DWORD_PTR cookie, BYTE* buffer, LONG size, LONG* count) 
     return 0;
 }
 
+DWORD CALLBACK writeSome(DWORD_PTR cookie, BYTE* buffer, LONG size, LONG* count) {
+    reinterpret_cast<std::string*>(cookie)->append(reinterpret_cast<const char*>(buffer),
+                                                   static_cast<std::size_t>(size));
+    *count = size;
+    return 0;
+}
+
 }  // namespace
 
 RichEdit::RichEdit()
@@ -38,6 +45,16 @@ DWORD RichEdit::read(std::string_view rtf) const {
     EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&rtf), 0, readSome};
     SendMessageW(window_, EM_STREAMIN, SF_RTF, reinterpret_cast<LPARAM>(&stream));
     return stream.dwError;
+}
+
+std::string RichEdit::written() const {
+    std::string rtf;
+    EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&rtf), 0, writeSome};
+    SendMessageW(window_, EM_STREAMOUT, SF_RTF, reinterpret_cast<LPARAM>(&stream));
+    if (stream.dwError != 0) {
+        throw std::runtime_error("the rich edit control does not write");
+    }
+    return rtf;
 }
 
 std::wstring RichEdit::text() const {

@@ -19,6 +19,10 @@ public:
     /// Has it read a document through EM_STREAMIN. Answers the error that it tells, 0 for none.
     DWORD read(std::string_view rtf) const;
 
+    /// The document that it writes through EM_STREAMOUT. An error that it reports ends the test
+    /// with an exception.
+    std::string written() const;
+
     /// All its text. Cells end in a tab, rows in a line break; a row begins with a line break, too.
     std::wstring text() const;
 
