@@ -7,7 +7,8 @@ namespace quorvane::com {
 std::wstring RegistryKey::text() const {
     std::wstring text(MAX_PATH, L'\0');
     while (true) {
-        auto size = static_cast<DWORD>(text.size() * sizeof(wchar_t));
+        const std::size_t bytes = text.size() * sizeof(wchar_t);
+        auto size = static_cast<DWORD>(bytes);
         const LSTATUS status =
             RegGetValueW(key_, nullptr, nullptr, RRF_RT_REG_SZ, nullptr, text.data(), &size);
         if (status == ERROR_MORE_DATA) {

@@ -147,11 +147,10 @@ void RtfCheck::finish() {
     const bool isCutOff = lexer_.isInBinary();
     const RtfLexer::Token last = lexer_.finish();
     if (last == RtfLexer::Token::Control) {
-        if (groups_.empty()) {
-            take(last);
-        } else if (lexer_.control().isBadEscape()) {
+        const bool isInDocument = !groups_.empty();
+        if (isInDocument && lexer_.control().isBadEscape()) {
             engine_.report(DiagnosticId::BadHexEscape, place(1));
-        } else if (!lexer_.word() && lexer_.control().word.empty()) {
+        } else if (isInDocument && !lexer_.word() && lexer_.control().word.empty()) {
             engine_.report(DiagnosticId::CutOff, place(1), {"a control word"});
         } else {
             take(last);

@@ -75,7 +75,7 @@ Hint nameHint(const std::string& value, const std::vector<std::string_view>& nam
     return spellingHint(value, names);
 }
 
-Hint hintOr(Hint first, Hint otherwise) {
+Hint hintOr(const Hint& first, const Hint& otherwise) {
     return first.empty() ? otherwise : first;
 }
 
