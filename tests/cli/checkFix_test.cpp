@@ -210,12 +210,8 @@ TEST_F(CheckFixTest, ReportsAFileThatCannotBeWrittenAndWhatIsWrongWithIt) {
     folder.write("a.rtfspec", mistyped);
     fs::permissions(folder / "a.rtfspec", fs::perms::all & ~fs::perms::owner_write &
                                               ~fs::perms::group_write & ~fs::perms::others_write);
-    fs::permissions(folder.path(), fs::perms::all);
-    ProgramResult result;
-    {
-        const WithoutPrivileges ordinary;
-        result = run({"--fix", "a.rtfspec"});
-    }
+    start.prepare = giveUpOverridingPermissions;
+    const ProgramResult result = run({"--fix", "a.rtfspec"});
     EXPECT_EQ(result.errors, "a.rtfspec: Permission denied\n");
     EXPECT_THAT(result.output, testing::EndsWith("\n2 errors, 1 warning in 1 file\n"));
     EXPECT_THAT(result.output, Not(HasSubstr("fixed")));

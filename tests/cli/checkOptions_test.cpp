@@ -238,12 +238,8 @@ TEST_F(CheckOptionsTest, AFolderThatCannotBeReadIsReportedAndTheOthersAreChecked
     fs::create_directories(folder.path() / "d" / "closed");
     folder.write("d/a.rtfspec", descriptionWithBadColour);
     fs::permissions(folder.path() / "d" / "closed", fs::perms::none);
-    fs::permissions(folder.path(), fs::perms::all);
-    ProgramResult result;
-    {
-        const WithoutPrivileges ordinary;
-        result = run({"d"});
-    }
+    start.prepare = giveUpOverridingPermissions;
+    const ProgramResult result = run({"d"});
     fs::permissions(folder.path() / "d" / "closed", fs::perms::all);
     EXPECT_EQ(result.errors, "d/closed: Permission denied\n");
     EXPECT_THAT(result.output, EndsWith("\n1 error in 1 file\n"));
