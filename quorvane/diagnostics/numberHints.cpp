@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 
+#include "quorvane/diagnostics/measureHints.h"
 #include "quorvane/support/numberText.h"
 #include "quorvane/support/textCase.h"
 #include "quorvane/support/trimming.h"
@@ -53,7 +54,7 @@ bool isInTwips(std::string_view key) {
 
 std::string acceptedNumber(std::string_view key) {
     if (isInTwips(key)) {
-        return "write a number of twips, 1440 of which are an inch and 567 a centimetre";
+        return "write a number of twips, 1440 of which are an inch and 567 a centimeter";
     }
     return key == "cell-width" ? "write a number, per cent of the room between the page's margins, "
                                  "without a sign"
@@ -61,7 +62,7 @@ std::string acceptedNumber(std::string_view key) {
 }
 
 /// What to write for a number with one comma; empty for anything else.
-Hint withoutComma(std::string_view value) {
+Hint withoutComma(std::string_view key, std::string_view value) {
     const std::size_t comma = value.find(',');
     std::string text(value);
     if (comma == nowhere || text.find('.') != std::string::npos) {
@@ -70,8 +71,13 @@ Hint withoutComma(std::string_view value) {
     text[comma] = '.';
     const std::string withPoint = text;
     text.erase(comma, 1);
-    if (!readNumber(withPoint) || comma + 1 == value.size()) {
+    const std::optional<double> number = readNumber(withPoint);
+    if (!number || comma + 1 == value.size()) {
         return {};
+    }
+    // A length so short is one in another unit, which a point alone would hide.
+    if (isTinyMeasure(key, *number)) {
+        return tinyMeasureHint(key, *number);
     }
     // Three digits behind a comma are thousandths to some and thousands to others.
     return value.size() - comma == 4
@@ -136,7 +142,7 @@ Hint numberHint(std::string_view key, std::string_view value) {
         return acceptedNumber(key);
     }
     const std::string rest = lowerCase(trimWhitespace(value.substr(end)));
-    if (Hint written = withoutComma(value); !written.empty()) {
+    if (Hint written = withoutComma(key, value); !written.empty()) {
         return written;
     }
     if (Hint written = withPointAndUnit(key, value); !written.empty()) {

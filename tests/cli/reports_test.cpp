@@ -510,7 +510,7 @@ a.rtfspec:4:15: error: Value for paper-height should be numeric. [not-a-number]
 a.rtfspec:5:13: error: Value for top-margin should be numeric. [not-a-number]
     (top-margin=50,5)
                 ^~~~
-    hint: a number has no comma: write 50.5
+    hint: measures are in twips; did you mean 50.5 points? Write 1010
 a.rtfspec:6:16: error: Value for bottom-margin should be numeric. [not-a-number]
     (bottom-margin=1e3000)
                    ^~~~~~
@@ -518,7 +518,7 @@ a.rtfspec:6:16: error: Value for bottom-margin should be numeric. [not-a-number]
 a.rtfspec:7:15: error: Value for right-margin should be numeric. [not-a-number]
     (right-margin=)
                   ^
-    hint: the value is missing: write a number of twips, 1440 of which are an inch and 567 a centimetre
+    hint: the value is missing: write a number of twips, 1440 of which are an inch and 567 a centimeter
 a.rtfspec:8:14: error: Value for left-margin should be numeric. [not-a-number]
     (left-margin=20pt)
                  ^~~~

@@ -126,9 +126,9 @@ TEST(DescriptionCheck, KnowsValuesInQuotationMarksAndNumbersWithAComma) {
               "(cw=12,5)\n(ca=\"\")\nc)\nr)\ndoc)\n"),
         ElementsAre("2 not-a-number: a number has no comma: write 1000, or 1.000",
                     "3 not-a-number: a number has no comma, but at most one point: write a number "
-                    "of twips, 1440 of which are an inch and 567 a centimetre",
+                    "of twips, 1440 of which are an inch and 567 a centimeter",
                     "4 not-a-number: a number has no comma, but at most one point: write a number "
-                    "of twips, 1440 of which are an inch and 567 a centimetre",
+                    "of twips, 1440 of which are an inch and 567 a centimeter",
                     "6 wrong-color: did you mean red?", "7 wrong-border: did you mean thin?",
                     "9 not-a-number: a number has no comma: write 12.5", "10 wrong-alignment"));
 }

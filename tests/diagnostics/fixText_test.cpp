@@ -71,6 +71,11 @@ TEST(FixText, SpellsKeysAndValuesRight) {
     EXPECT_THAT(fixed.rounds, SizeIs(2));
 }
 
+TEST(FixText, LeavesALengthThatIsCertainlyInAnotherUnit) {
+    const std::string text = "(doc\n(left-margin=2,5)\n(r\n(c\nc)\nr)\ndoc)\n";
+    EXPECT_EQ(fixText(text, descriptionCheck).bytes, text);
+}
+
 TEST(FixText, SpellsStylesRight) {
     const std::string sheet =
         "{ name: normal; style-def: s }{ name: reserved; style-def: s }{ name: heading; style-def: "

@@ -9,7 +9,7 @@ namespace quorvane {
 namespace {
 
 constexpr const char* twips =
-    "write a number of twips, 1440 of which are an inch and 567 a centimetre";
+    "write a number of twips, 1440 of which are an inch and 567 a centimeter";
 constexpr const char* perCent =
     "write a number, per cent of the room between the page's margins, without a sign";
 

@@ -17,7 +17,7 @@ NAMESPACES = {
 }
 SIDES = ("top", "right", "bottom", "left")
 # The measures of a page, and by how many twips LibreOffice tells them differently: it keeps
-# hundredths of a millimetre, and gives a paper that is almost a known one the size of that.
+# hundredths of a millimeter, and gives a paper that is almost a known one the size of that.
 PAGE_MEASURES = {"page-width": 3, "page-height": 3, "margin-top": 0.5, "margin-right": 0.5,
                  "margin-bottom": 0.5, "margin-left": 0.5}
 ALIGNMENTS = {0: None, 1: "center", 2: "start", 3: "end", 4: "justify"}
