@@ -76,7 +76,7 @@ constexpr const char* formatFooter =
 tell, by its extension; - is standard input, whose canonical form goes to
 standard output. A file that is in its form is not touched, nor is one that is
 neither a description nor a stylesheet: that is an error. The form means the
-same: it renders to the same document. Errors may be told in other words, as
+same: it renders to the same document. Errors may have other texts, as
 they repeat lines of the description.
 
 --diff writes a unified diff, which "patch -p1" and "git apply" take.
@@ -248,7 +248,7 @@ void addIdentifiersOption(CLI::App& app, const std::string& name,
 
 CLI::App* addCheckCommand(CLI::App& app, CheckOptions& options) {
     CLI::App* check =
-        app.add_subcommand("check", "Tell what is wrong with descriptions, stylesheets and RTF.");
+        app.add_subcommand("check", "Report every problem in descriptions, stylesheets and RTF.");
     check->footer(checkFooter);
     addStandardFlags(*check);
     check->add_option("FILE", storeIn(options.files), "Files to check")
@@ -342,7 +342,7 @@ void addRenderCommand(CLI::App& app, RenderOptions& options) {
                      "Write what could be built in spite of errors");
     render
         ->add_option("--diagnostics", storeIn(options.diagnostics),
-                     "Tell errors as text or as JSON objects")
+                     "Report errors as text or as JSON objects")
         ->type_name("text|json")
         ->check(CLI::IsMember(diagnosticsForms()).description(""));
     refuseEmptyValues(*render);
