@@ -414,7 +414,8 @@ private:
             return "the cells are laid out before the page is set up: the paper must be wider than "
                    "the table with its margins";
         }
-        return "the cells are laid out before the page is set up: (left-margin=" +
+        return "the cells are laid out before the page is set up, but their per cents count from "
+               "the page: (left-margin=" +
                std::to_string(left) + ") and (right-margin=" + std::to_string(right) +
                ") leave them " + std::to_string(table) + " twips";
     }

@@ -333,7 +333,7 @@ TEST(ReportsOfWidths, TellWhichCellsAPageOfAnotherWidthMakesNarrow) {
         R"(a.rtfspec:2:14: warning: The row is 8840 twips wide, the page has room for 13436. [table-underrun]
     (paper-width=16838)
                  ^~~~~
-    hint: the cells are laid out before the page is set up: (left-margin=3999) and (right-margin=3999) leave them 8840 twips
+    hint: the cells are laid out before the page is set up, but their per cents count from the page: (left-margin=3999) and (right-margin=3999) leave them 8840 twips
 a.rtfspec:5:5: warning: The cell becomes 16 per cent wide instead of 50. [width-clamped]
     (cw=50)
         ^~
@@ -772,7 +772,7 @@ TEST(ReportsOfPages, SayNothingOfATableThatNearlyFillsThePage) {
         R"(a.rtfspec:2:14: warning: The row is 8840 twips wide, the page has room for 9638. [table-underrun]
     (paper-width=11906)
                  ^~~~~
-    hint: the cells are laid out before the page is set up: (left-margin=1533) and (right-margin=1533) leave them 8840 twips
+    hint: the cells are laid out before the page is set up, but their per cents count from the page: (left-margin=1533) and (right-margin=1533) leave them 8840 twips
 )");
 }
 
