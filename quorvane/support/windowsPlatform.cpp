@@ -323,7 +323,7 @@ public:
     void sendError(const ErrorReport& report) override {
         Variant extraInfo;
         extraInfo.pdispVal =
-            report.extraInfo ? new WindowsStringCollection(report.extraInfo) : nullptr;
+            report.extraInfo ? makeWindowsStringCollection(report.extraInfo) : nullptr;
         extraInfo.vt = VT_DISPATCH;
         Variant arguments[] = {Variant::reference(extraInfo), Variant(report.source),
                                Variant(report.version),       Variant(report.procedureName),

@@ -1,6 +1,12 @@
 #include "quorvane/support/windowsStringCollection.h"
 
+#include <windows.h>
+
+#include <oleauto.h>
+
+#include <cstdint>
 #include <exception>
+#include <string>
 #include <utility>
 
 #include "quorvane/support/utf16.h"
@@ -8,6 +14,28 @@
 namespace quorvane {
 
 namespace {
+
+class WindowsStringCollection final : public IDispatch {
+public:
+    explicit WindowsStringCollection(std::shared_ptr<const CStringList> list);
+
+    STDMETHODIMP QueryInterface(REFIID id, void** object) override;
+    STDMETHODIMP_(ULONG) AddRef() override;
+    STDMETHODIMP_(ULONG) Release() override;
+    STDMETHODIMP GetTypeInfoCount(UINT* count) override;
+    STDMETHODIMP GetTypeInfo(UINT index, LCID locale, ITypeInfo** information) override;
+    STDMETHODIMP GetIDsOfNames(REFIID reserved, LPOLESTR* names, UINT count, LCID locale,
+                               DISPID* ids) override;
+    STDMETHODIMP Invoke(DISPID member, REFIID reserved, LCID locale, WORD flags,
+                        DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* exception,
+                        UINT* badArgument) override;
+
+private:
+    ~WindowsStringCollection() = default;
+
+    const std::shared_ptr<const CStringList> list_;
+    LONG references_ = 1;
+};
 
 constexpr DISPID countId = 1;
 
@@ -38,8 +66,6 @@ HRESULT fetchItem(const CStringList& list, VARIANT& given, VARIANT& result) {
     VariantClear(&index);
     return status;
 }
-
-}  // namespace
 
 WindowsStringCollection::WindowsStringCollection(std::shared_ptr<const CStringList> list)
     : list_(std::move(list)) {}
@@ -125,6 +151,12 @@ STDMETHODIMP WindowsStringCollection::Invoke(DISPID member, REFIID, LCID, WORD f
         VariantClear(&value);
     }
     return S_OK;
+}
+
+}  // namespace
+
+IDispatch* makeWindowsStringCollection(std::shared_ptr<const CStringList> list) {
+    return new WindowsStringCollection(std::move(list));
 }
 
 }  // namespace quorvane

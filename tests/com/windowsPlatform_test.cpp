@@ -177,7 +177,7 @@ TEST(FurtherInformation, IsAnAutomationCollectionForTheErrorCollection) {
     CStringList list;
     list.AddTail("more");
     list.AddTail("Caf\xC3\xA9", "key");
-    auto* collection = new WindowsStringCollection(std::make_shared<const CStringList>(list));
+    IDispatch* collection = makeWindowsStringCollection(std::make_shared<const CStringList>(list));
     const auto itemAt = [&](VARIANT index) {
         VARIANT item;
         VariantInit(&item);
