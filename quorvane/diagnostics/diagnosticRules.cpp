@@ -15,7 +15,7 @@ constexpr bool corruptsDocument = true;
 
 constexpr DiagnosticRule table[] = {
 #define QUORVANE_DIAGNOSTIC(id, identifier, severity, language, text, explanation, wrong, right, \
-                            companion, ...)                                                      \
+                            ...)                                                                 \
     {DiagnosticId::id,                                                                           \
      identifier,                                                                                 \
      Severity::severity,                                                                         \
@@ -24,7 +24,7 @@ constexpr DiagnosticRule table[] = {
      explanation,                                                                                \
      wrong,                                                                                      \
      right,                                                                                      \
-     companion __VA_OPT__(, ) __VA_ARGS__},
+     __VA_ARGS__},
 #include "quorvane/diagnostics/diagnosticTable.h"
 };
 

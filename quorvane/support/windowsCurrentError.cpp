@@ -64,7 +64,7 @@ void setCurrentError(const RtfError& raised) {
     auto error = std::make_unique<RtfError>(raised);
     const std::unique_ptr<RtfError> previous(keptError());
     if (FlsSetValue(slot(), error.get())) {
-        error.release();
+        static_cast<void>(error.release());
     }
 }
 
