@@ -32,7 +32,7 @@ namespace quorvane::cli {
 namespace {
 
 constexpr std::size_t pieceLength = std::size_t{1024} * 1024;
-// So many findings about an RTF file are held back to be told in the order of their places.
+// How many diagnostics about an RTF file are held back to be reported in the order of their places.
 constexpr std::size_t mostFindingsHeld = 100'000;
 
 /// The next bytes of a stream; empty at its end.
@@ -234,8 +234,8 @@ std::vector<quorvane::Diagnostic> CheckJob::reported(std::vector<quorvane::Diagn
                                             : withoutIgnored(std::move(findings), text, language);
 }
 
-/// Tells what the check finds in a text, and fixes the file where that is asked for. Returns the
-/// bytes of the text as they are afterwards, or would be; nothing for what is no text.
+/// Reports what the check finds in a text, and fixes the file if --fix is given. Returns the bytes
+/// of the text as they are afterwards, or would be; nothing for a file that is not a text.
 std::optional<std::string> CheckJob::tellText(const std::string& file, std::string_view bytes,
                                               bool isStream, const TextCheck& check) {
     ++counts_.files;

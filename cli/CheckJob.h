@@ -47,8 +47,8 @@ public:
     CheckJob(CheckOptions options, FindingSink find, DiagnosticSink fail,
              Platform& platform = systemPlatform(), BytesSink write = {});
 
-    /// Tells all findings, and every file that cannot be read or written. Throws a `UsageError` for
-    /// a stylesheet without the extension rtfss, and for an identifier that there is not.
+    /// Reports every diagnostic, and every file that cannot be read or written. Throws a
+    /// `UsageError` for a stylesheet without the extension rtfss and for an unknown identifier.
     ExitStatus run();
 
     const CheckCounts& counts() const { return counts_; }

@@ -8,7 +8,7 @@
 
 namespace quorvane::cli {
 
-/// The form in which findings are told on standard output.
+/// The form in which diagnostics are reported on standard output.
 enum class FindingsForm { Text, Json, Sarif };
 
 /// What `quorvane check` was asked to do. Paths are as they were given; "-" is standard input, and

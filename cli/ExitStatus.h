@@ -2,8 +2,8 @@
 
 namespace quorvane::cli {
 
-/// The command's exit status. Of several results of rendering the greatest counts; a check tells
-/// warnings only where there are no errors.
+/// The command's exit status. Of several results of rendering the greatest counts; a check
+/// reports warnings by its status only if there are no errors.
 enum class ExitStatus {
     /// All is well.
     Success = 0,

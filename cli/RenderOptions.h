@@ -8,7 +8,7 @@
 
 namespace quorvane::cli {
 
-/// The form in which errors are told on standard error.
+/// The form in which errors are reported on standard error.
 enum class DiagnosticsForm { Text, Json };
 
 /// In place of a file's name it stands for standard input or standard output.

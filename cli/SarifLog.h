@@ -18,7 +18,7 @@ public:
     /// Adds a finding about a file, named as on the command line, with the file's window.
     void add(const std::string& file, quorvane::Diagnostic finding, const FileWindow& window);
 
-    /// The log, which ends with a line break. `isComplete` tells whether all files could be read.
+    /// The log, which ends with a line break. `isComplete` is true if all files could be read.
     std::string text(bool isComplete) const;
 
 private:

@@ -20,7 +20,7 @@ std::variant<RenderOptions, CheckOptions, FormatOptions, Information> parseComma
     const std::vector<std::string>& arguments);
 
 /// The form of diagnostics that the arguments ask for, which need not be right otherwise: the form
-/// in which the user is told what is wrong with them.
+/// in which an error in them is reported.
 DiagnosticsForm requestedDiagnosticsForm(const std::vector<std::string>& arguments);
 
 }  // namespace quorvane::cli
