@@ -10,7 +10,7 @@
 #include <string_view>
 
 #include "bench/standardJob.h"
-#include "quorvane/diagnostics/RtfCheck.h"
+#include "quorvane/diagnostics/rtf/RtfCheck.h"
 
 namespace {
 

@@ -13,11 +13,11 @@
 #include "cli/Diagnostic.h"
 #include "cli/ExitStatus.h"
 #include "cli/FindingExcerpt.h"
-#include "quorvane/diagnostics/Diagnostic.h"
-#include "quorvane/diagnostics/KnownStyles.h"
-#include "quorvane/diagnostics/diagnosticRules.h"
-#include "quorvane/diagnostics/fixText.h"
-#include "quorvane/support/Platform.h"
+#include "quorvane/base/platform/Platform.h"
+#include "quorvane/diagnostics/engine/Diagnostic.h"
+#include "quorvane/diagnostics/engine/diagnosticRules.h"
+#include "quorvane/diagnostics/engine/fixText.h"
+#include "quorvane/diagnostics/stylesheet/KnownStyles.h"
 
 namespace quorvane::cli {
 

@@ -7,7 +7,7 @@
 #include "cli/RenderOptions.h"
 #include "cli/fileFailure.h"
 #include "cli/process.h"
-#include "quorvane/support/RtfError.h"
+#include "quorvane/base/values/RtfError.h"
 
 namespace quorvane::cli {
 

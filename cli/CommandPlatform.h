@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "quorvane/support/Platform.h"
+#include "quorvane/base/platform/Platform.h"
 
 namespace quorvane::cli {
 

@@ -6,11 +6,11 @@
 #include "cli/RenderOptions.h"
 #include "cli/fileFailure.h"
 #include "cli/process.h"
+#include "quorvane/base/text/codePage1252.h"
+#include "quorvane/base/text/utf8.h"
 #include "quorvane/docmodel/CRtfTableRows.h"
 #include "quorvane/driver/driverErrors.h"
-#include "quorvane/support/codePage1252.h"
 #include "quorvane/support/currentError.h"
-#include "quorvane/support/utf8.h"
 
 namespace quorvane::cli {
 

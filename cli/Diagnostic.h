@@ -3,7 +3,7 @@
 #include <functional>
 #include <string>
 
-#include "quorvane/support/RtfError.h"
+#include "quorvane/base/values/RtfError.h"
 
 namespace quorvane::cli {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "quorvane/support/codePage1252.h"
+#include "quorvane/base/text/codePage1252.h"
 
 namespace quorvane::cli {
 

@@ -8,8 +8,8 @@
 
 #include "cli/FindingExcerpt.h"
 #include "cli/findingText.h"
-#include "quorvane/diagnostics/Diagnostic.h"
-#include "quorvane/diagnostics/RepeatedDiagnostics.h"
+#include "quorvane/diagnostics/engine/Diagnostic.h"
+#include "quorvane/diagnostics/engine/RepeatedDiagnostics.h"
 
 namespace quorvane::cli {
 

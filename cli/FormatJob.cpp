@@ -11,11 +11,11 @@
 #include "cli/fileFailure.h"
 #include "cli/process.h"
 #include "cli/unifiedDiff.h"
+#include "quorvane/base/text/codePage1252.h"
 #include "quorvane/diagnostics/languageOf.h"
 #include "quorvane/diagnostics/textFile.h"
 #include "quorvane/formatting/formatStyleSheet.h"
 #include "quorvane/formatting/languageToFormat.h"
-#include "quorvane/support/codePage1252.h"
 
 namespace quorvane::cli {
 

@@ -7,7 +7,7 @@
 #include "cli/Diagnostic.h"
 #include "cli/ExitStatus.h"
 #include "cli/FormatOptions.h"
-#include "quorvane/support/Platform.h"
+#include "quorvane/base/platform/Platform.h"
 
 namespace quorvane::cli {
 

@@ -5,9 +5,9 @@
 #include "cli/ExitStatus.h"
 #include "cli/RenderOptions.h"
 #include "cli/RenderReport.h"
+#include "quorvane/base/memory/Ref.h"
+#include "quorvane/base/platform/Platform.h"
 #include "quorvane/driver/CRtfDriver.h"
-#include "quorvane/support/Platform.h"
-#include "quorvane/support/Ref.h"
 
 namespace quorvane::cli {
 

@@ -4,15 +4,15 @@
 #include <utility>
 
 #include "cli/locatedErrors.h"
-#include "quorvane/diagnostics/DescriptionCheck.h"
-#include "quorvane/diagnostics/DiagnosticEngine.h"
-#include "quorvane/diagnostics/StyleSheetCheck.h"
-#include "quorvane/diagnostics/diagnosticRules.h"
-#include "quorvane/diagnostics/fileNameCheck.h"
-#include "quorvane/diagnostics/ignoreComments.h"
+#include "quorvane/base/text/codePage1252.h"
+#include "quorvane/diagnostics/description/DescriptionCheck.h"
+#include "quorvane/diagnostics/description/fileNameCheck.h"
+#include "quorvane/diagnostics/engine/DiagnosticEngine.h"
+#include "quorvane/diagnostics/engine/diagnosticRules.h"
+#include "quorvane/diagnostics/engine/ignoreComments.h"
 #include "quorvane/diagnostics/languageOf.h"
+#include "quorvane/diagnostics/stylesheet/StyleSheetCheck.h"
 #include "quorvane/diagnostics/textFile.h"
-#include "quorvane/support/codePage1252.h"
 
 namespace quorvane::cli {
 

@@ -11,8 +11,8 @@
 #include "cli/Diagnostic.h"
 #include "cli/FindingExcerpt.h"
 #include "cli/RenderOptions.h"
-#include "quorvane/diagnostics/Diagnostic.h"
-#include "quorvane/diagnostics/KnownStyles.h"
+#include "quorvane/diagnostics/engine/Diagnostic.h"
+#include "quorvane/diagnostics/stylesheet/KnownStyles.h"
 
 namespace quorvane::cli {
 

@@ -10,7 +10,7 @@
 
 #include "cli/RenderOptions.h"
 #include "cli/utf8Path.h"
-#include "quorvane/diagnostics/diagnosticRules.h"
+#include "quorvane/diagnostics/engine/diagnosticRules.h"
 
 namespace quorvane::cli {
 

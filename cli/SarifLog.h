@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "cli/FindingExcerpt.h"
-#include "quorvane/diagnostics/Diagnostic.h"
+#include "quorvane/diagnostics/engine/Diagnostic.h"
 
 namespace quorvane::cli {
 

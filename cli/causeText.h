@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "quorvane/support/RtfError.h"
+#include "quorvane/base/values/RtfError.h"
 
 namespace quorvane::cli {
 

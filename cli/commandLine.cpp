@@ -7,7 +7,7 @@
 
 #include "cli/UsageError.h"
 #include "cli/licenses.h"
-#include "quorvane/diagnostics/nearestWord.h"
+#include "quorvane/diagnostics/engine/nearestWord.h"
 
 namespace quorvane::cli {
 

@@ -4,8 +4,8 @@
 
 #include "cli/exampleReport.h"
 #include "cli/oneLine.h"
-#include "quorvane/diagnostics/diagnosticRules.h"
-#include "quorvane/support/trimming.h"
+#include "quorvane/base/text/trimming.h"
+#include "quorvane/diagnostics/engine/diagnosticRules.h"
 
 namespace quorvane::cli {
 
@@ -15,7 +15,7 @@ constexpr std::string_view introduction = R"(# Diagnostics
 
 What `quorvane check` reports about descriptions, stylesheets and RTF files: one section for each identifier. `quorvane check --explain IDENTIFIER` shows the same on the terminal, `quorvane check --list` all identifiers. An error is what the library rejects or a reader cannot make sense of; a warning is what is accepted and does not do what its author wants. The messages of errors are the library's own where it has one.
 
-This page is made of the table `quorvane/diagnostics/diagnosticTable.h` by `scripts/diagnostics-page`; each report in it is what the command writes about the example above it, without the summary at its end. In an example the lines between `; N times:` and `; so far` stand there N times.
+This page is made of the table `quorvane/diagnostics/engine/diagnosticTable.h` by `scripts/diagnostics-page`; each report in it is what the command writes about the example above it, without the summary at its end. In an example the lines between `; N times:` and `; so far` stand there N times.
 
 )";
 

@@ -6,8 +6,8 @@
 #include "cli/CheckJob.h"
 #include "cli/FindingReport.h"
 #include "cli/oneLine.h"
-#include "quorvane/diagnostics/TrialPlatform.h"
-#include "quorvane/support/trimming.h"
+#include "quorvane/base/text/trimming.h"
+#include "quorvane/diagnostics/description/TrialPlatform.h"
 
 namespace quorvane::cli {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "quorvane/diagnostics/diagnosticRules.h"
+#include "quorvane/diagnostics/engine/diagnosticRules.h"
 
 namespace quorvane::cli {
 

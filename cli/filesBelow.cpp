@@ -4,7 +4,7 @@
 #include <filesystem>
 
 #include "cli/utf8Path.h"
-#include "quorvane/support/textCase.h"
+#include "quorvane/base/text/textCase.h"
 
 namespace quorvane::cli {
 

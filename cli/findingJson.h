@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "quorvane/diagnostics/Diagnostic.h"
+#include "quorvane/diagnostics/engine/Diagnostic.h"
 
 namespace quorvane::cli {
 

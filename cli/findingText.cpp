@@ -2,9 +2,9 @@
 
 #include "cli/oneLine.h"
 #include "cli/shortened.h"
-#include "quorvane/diagnostics/diagnosticRules.h"
-#include "quorvane/support/trimming.h"
-#include "quorvane/support/utf8.h"
+#include "quorvane/base/text/trimming.h"
+#include "quorvane/base/text/utf8.h"
+#include "quorvane/diagnostics/engine/diagnosticRules.h"
 
 namespace quorvane::cli {
 

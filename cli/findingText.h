@@ -4,7 +4,7 @@
 
 #include "cli/FindingExcerpt.h"
 #include "cli/colors.h"
-#include "quorvane/diagnostics/Diagnostic.h"
+#include "quorvane/diagnostics/engine/Diagnostic.h"
 
 namespace quorvane::cli {
 

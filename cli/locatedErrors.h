@@ -3,8 +3,8 @@
 #include <set>
 #include <vector>
 
-#include "quorvane/diagnostics/Diagnostic.h"
-#include "quorvane/support/RtfError.h"
+#include "quorvane/base/values/RtfError.h"
+#include "quorvane/diagnostics/engine/Diagnostic.h"
 
 namespace quorvane::cli {
 

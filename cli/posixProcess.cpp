@@ -17,8 +17,8 @@
 
 #include "cli/followLinks.h"
 #include "cli/process.h"
-#include "quorvane/support/RtfError.h"
-#include "quorvane/support/errnoToRunTimeError.h"
+#include "quorvane/base/platform/errnoToRunTimeError.h"
+#include "quorvane/base/values/RtfError.h"
 
 namespace quorvane::cli {
 

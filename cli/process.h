@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "quorvane/support/Platform.h"
+#include "quorvane/base/platform/Platform.h"
 
 /// What the command asks of the operating system beyond the library's platform. Errors have the
 /// numbers of the platform's; their cause is what the system said. Paths are UTF-8.

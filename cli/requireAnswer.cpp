@@ -5,7 +5,7 @@
 #include <memory>
 #include <utility>
 
-#include "quorvane/support/RtfError.h"
+#include "quorvane/base/values/RtfError.h"
 
 namespace quorvane::cli {
 

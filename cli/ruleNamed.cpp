@@ -1,7 +1,7 @@
 #include "cli/ruleNamed.h"
 
 #include "cli/UsageError.h"
-#include "quorvane/diagnostics/nearestWord.h"
+#include "quorvane/diagnostics/engine/nearestWord.h"
 
 namespace quorvane::cli {
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "quorvane/diagnostics/diagnosticRules.h"
+#include "quorvane/diagnostics/engine/diagnosticRules.h"
 
 namespace quorvane::cli {
 

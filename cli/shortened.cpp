@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-#include "quorvane/support/utf8.h"
+#include "quorvane/base/text/utf8.h"
 
 namespace quorvane::cli {
 

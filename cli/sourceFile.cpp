@@ -11,10 +11,10 @@
 
 #include "cli/requireAnswer.h"
 #include "cli/utf8Path.h"
+#include "quorvane/base/text/codePage1252.h"
+#include "quorvane/base/values/RtfError.h"
 #include "quorvane/diagnostics/fileEncoding.h"
 #include "quorvane/formatting/languageToFormat.h"
-#include "quorvane/support/RtfError.h"
-#include "quorvane/support/codePage1252.h"
 
 namespace quorvane::cli {
 

@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "quorvane/diagnostics/diagnosticRules.h"
+#include "quorvane/diagnostics/engine/diagnosticRules.h"
 
 namespace quorvane::cli {
 

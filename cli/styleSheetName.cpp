@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "cli/UsageError.h"
+#include "quorvane/base/text/textCase.h"
 #include "quorvane/support/GFileSystem.h"
-#include "quorvane/support/textCase.h"
 
 namespace quorvane::cli {
 

@@ -2,7 +2,7 @@
 #include <vector>
 
 #include "cli/runCommand.h"
-#include "quorvane/support/utf16.h"
+#include "quorvane/base/text/utf16.h"
 
 int wmain(int argc, wchar_t** argv) {
     std::vector<std::string> arguments;

@@ -6,9 +6,9 @@
 #include <utility>
 
 #include "cli/process.h"
-#include "quorvane/support/RtfError.h"
-#include "quorvane/support/utf16.h"
-#include "quorvane/support/windowsErrorToRunTimeError.h"
+#include "quorvane/base/platform/windowsErrorToRunTimeError.h"
+#include "quorvane/base/text/utf16.h"
+#include "quorvane/base/values/RtfError.h"
 
 namespace quorvane::cli {
 

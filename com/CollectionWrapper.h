@@ -11,7 +11,7 @@
 #include "com/Enumerator.h"
 #include "com/Wrapper.h"
 #include "com/hostValue.h"
-#include "quorvane/support/Ref.h"
+#include "quorvane/base/memory/Ref.h"
 
 namespace quorvane::com {
 

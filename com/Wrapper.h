@@ -20,7 +20,7 @@
 #include "com/serverModule.h"
 #include "com/typeLibrary.h"
 #include "com/wrappers.h"
-#include "quorvane/support/Ref.h"
+#include "quorvane/base/memory/Ref.h"
 
 namespace quorvane::com {
 

@@ -10,7 +10,7 @@
 
 #include "com/ComPtr.h"
 #include "com/Lock.h"
-#include "quorvane/support/Ref.h"
+#include "quorvane/base/memory/Ref.h"
 
 namespace quorvane::com {
 

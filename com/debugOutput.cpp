@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "quorvane/support/utf16.h"
+#include "quorvane/base/text/utf16.h"
 
 namespace quorvane::com {
 

@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "com/Arithmetic.h"
-#include "quorvane/support/RtfError.h"
+#include "quorvane/base/values/RtfError.h"
 
 namespace quorvane::com {
 

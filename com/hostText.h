@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-#include "quorvane/support/utf16.h"
+#include "quorvane/base/text/utf16.h"
 
 namespace quorvane::com {
 

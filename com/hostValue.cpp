@@ -4,7 +4,7 @@
 #include <new>
 
 #include "com/hostText.h"
-#include "quorvane/support/Object.h"
+#include "quorvane/base/values/Object.h"
 
 namespace quorvane::com {
 

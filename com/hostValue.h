@@ -4,7 +4,7 @@
 
 #include <oleauto.h>
 
-#include "quorvane/support/Value.h"
+#include "quorvane/base/values/Value.h"
 
 namespace quorvane::com {
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "quorvane/base/memory/Ref.h"
 #include "quorvane/docmodel/references.h"
-#include "quorvane/support/Ref.h"
 #include "quorvaneInterfaces.h"
 
 namespace quorvane::com {

@@ -5,12 +5,12 @@
 #include <optional>
 #include <string>
 
-#include "quorvane/diagnostics/SourceText.h"
+#include "quorvane/base/text/textCase.h"
+#include "quorvane/base/text/trimming.h"
+#include "quorvane/diagnostics/engine/SourceText.h"
 #include "quorvane/diagnostics/fileEncoding.h"
 #include "quorvane/driver/Vocabulary.h"
 #include "quorvane/driver/lineClassifier.h"
-#include "quorvane/support/textCase.h"
-#include "quorvane/support/trimming.h"
 
 namespace quorvane {
 

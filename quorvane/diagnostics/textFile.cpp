@@ -5,12 +5,12 @@
 #include <initializer_list>
 #include <utility>
 
-#include "quorvane/diagnostics/DiagnosticEngine.h"
-#include "quorvane/diagnostics/KnownStyles.h"
+#include "quorvane/base/text/codePage1252.h"
+#include "quorvane/base/text/trimming.h"
+#include "quorvane/diagnostics/engine/DiagnosticEngine.h"
 #include "quorvane/diagnostics/fileEncoding.h"
 #include "quorvane/diagnostics/languageOf.h"
-#include "quorvane/support/codePage1252.h"
-#include "quorvane/support/trimming.h"
+#include "quorvane/diagnostics/stylesheet/KnownStyles.h"
 
 namespace quorvane {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "quorvane/diagnostics/Diagnostic.h"
+#include "quorvane/diagnostics/engine/Diagnostic.h"
 
 namespace quorvane {
 

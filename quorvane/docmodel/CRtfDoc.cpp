@@ -3,9 +3,9 @@
 #include <functional>
 #include <utility>
 
+#include "quorvane/base/values/RtfError.h"
 #include "quorvane/docmodel/measures.h"
 #include "quorvane/support/GFileSystem.h"
-#include "quorvane/support/RtfError.h"
 #include "quorvane/support/currentError.h"
 
 namespace quorvane {

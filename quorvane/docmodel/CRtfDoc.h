@@ -6,6 +6,9 @@
 #include <string>
 #include <string_view>
 
+#include "quorvane/base/memory/Ref.h"
+#include "quorvane/base/memory/SharedText.h"
+#include "quorvane/base/platform/Platform.h"
 #include "quorvane/docmodel/CRtfTableRows.h"
 #include "quorvane/docmodel/TableDocument.h"
 #include "quorvane/docmodel/enumerations.h"
@@ -17,9 +20,6 @@
 #include "quorvane/rtfgroups/CRtfGrpHeader.h"
 #include "quorvane/stylesheet/CRtfGrpStyleSheetTable.h"
 #include "quorvane/support/GError.h"
-#include "quorvane/support/Platform.h"
-#include "quorvane/support/Ref.h"
-#include "quorvane/support/SharedText.h"
 
 namespace quorvane {
 

@@ -2,9 +2,9 @@
 
 #include <utility>
 
+#include "quorvane/base/values/RtfError.h"
 #include "quorvane/docmodel/inlineStyles.h"
 #include "quorvane/rtfgroups/GTextMarkedFields.h"
-#include "quorvane/support/RtfError.h"
 #include "quorvane/support/currentError.h"
 
 namespace quorvane {

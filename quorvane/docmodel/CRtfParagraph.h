@@ -7,15 +7,15 @@
 #include <string>
 #include <string_view>
 
+#include "quorvane/base/collections/KeyedList.h"
+#include "quorvane/base/memory/PooledText.h"
+#include "quorvane/base/memory/Ref.h"
+#include "quorvane/base/memory/SharedText.h"
+#include "quorvane/base/values/Value.h"
 #include "quorvane/docmodel/TableDocument.h"
 #include "quorvane/docmodel/TableRendering.h"
 #include "quorvane/docmodel/enumerations.h"
 #include "quorvane/docmodel/references.h"
-#include "quorvane/support/KeyedList.h"
-#include "quorvane/support/PooledText.h"
-#include "quorvane/support/Ref.h"
-#include "quorvane/support/SharedText.h"
-#include "quorvane/support/Value.h"
 
 namespace quorvane {
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "quorvane/support/RtfError.h"
+#include "quorvane/base/values/RtfError.h"
 #include "quorvane/support/currentError.h"
 
 namespace quorvane {

@@ -4,10 +4,10 @@
 #include <cstdint>
 #include <string>
 
+#include "quorvane/base/memory/Ref.h"
 #include "quorvane/docmodel/CRtfParagraph.h"
 #include "quorvane/docmodel/TableCollection.h"
 #include "quorvane/docmodel/references.h"
-#include "quorvane/support/Ref.h"
 
 namespace quorvane {
 

@@ -1,7 +1,7 @@
 #include "quorvane/docmodel/CRtfTableCell.h"
 
+#include "quorvane/base/values/RtfError.h"
 #include "quorvane/rtfgroups/GTextMarkedFields.h"
-#include "quorvane/support/RtfError.h"
 #include "quorvane/support/currentError.h"
 
 namespace quorvane {

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "quorvane/base/values/RtfError.h"
 #include "quorvane/docmodel/measures.h"
-#include "quorvane/support/RtfError.h"
 #include "quorvane/support/currentError.h"
 
 namespace quorvane {

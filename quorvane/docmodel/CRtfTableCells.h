@@ -5,10 +5,10 @@
 #include <string>
 #include <string_view>
 
+#include "quorvane/base/memory/Ref.h"
 #include "quorvane/docmodel/CRtfTableCell.h"
 #include "quorvane/docmodel/TableCollection.h"
 #include "quorvane/docmodel/references.h"
-#include "quorvane/support/Ref.h"
 
 namespace quorvane {
 

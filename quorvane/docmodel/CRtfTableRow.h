@@ -4,13 +4,13 @@
 #include <new>
 #include <string>
 
+#include "quorvane/base/collections/KeyedList.h"
+#include "quorvane/base/memory/Counted.h"
+#include "quorvane/base/memory/Ref.h"
 #include "quorvane/docmodel/CRtfTableCells.h"
 #include "quorvane/docmodel/TableDocument.h"
 #include "quorvane/docmodel/enumerations.h"
 #include "quorvane/docmodel/references.h"
-#include "quorvane/support/Counted.h"
-#include "quorvane/support/KeyedList.h"
-#include "quorvane/support/Ref.h"
 
 namespace quorvane {
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "quorvane/base/memory/largePages.h"
 #include "quorvane/support/currentError.h"
-#include "quorvane/support/largePages.h"
 
 namespace quorvane {
 

@@ -5,12 +5,12 @@
 #include <string>
 #include <string_view>
 
+#include "quorvane/base/memory/Counted.h"
+#include "quorvane/base/memory/Ref.h"
 #include "quorvane/docmodel/CRtfTableRow.h"
 #include "quorvane/docmodel/TableCollection.h"
 #include "quorvane/docmodel/references.h"
 #include "quorvane/rtfgroups/CRtfGrpBody.h"
-#include "quorvane/support/Counted.h"
-#include "quorvane/support/Ref.h"
 
 namespace quorvane {
 

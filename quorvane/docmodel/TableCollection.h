@@ -3,10 +3,10 @@
 #include <cstdint>
 #include <string_view>
 
+#include "quorvane/base/collections/KeyedList.h"
+#include "quorvane/base/memory/Ref.h"
+#include "quorvane/base/values/Value.h"
 #include "quorvane/docmodel/TableDocument.h"
-#include "quorvane/support/KeyedList.h"
-#include "quorvane/support/Ref.h"
-#include "quorvane/support/Value.h"
 #include "quorvane/support/currentError.h"
 
 namespace quorvane {

@@ -1,6 +1,6 @@
 #include "quorvane/docmodel/TableDocument.h"
 
-#include "quorvane/support/RtfError.h"
+#include "quorvane/base/values/RtfError.h"
 
 namespace quorvane {
 

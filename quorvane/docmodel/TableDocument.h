@@ -4,12 +4,12 @@
 #include <string>
 #include <string_view>
 
+#include "quorvane/base/memory/Counted.h"
+#include "quorvane/base/memory/MemoryPool.h"
+#include "quorvane/base/memory/SharedText.h"
 #include "quorvane/docmodel/references.h"
 #include "quorvane/rtfgroups/GroupOwner.h"
-#include "quorvane/support/Counted.h"
 #include "quorvane/support/GError.h"
-#include "quorvane/support/MemoryPool.h"
-#include "quorvane/support/SharedText.h"
 
 namespace quorvane {
 

@@ -3,10 +3,10 @@
 #include <string>
 #include <string_view>
 
+#include "quorvane/base/memory/SharedText.h"
+#include "quorvane/base/text/TextOutput.h"
 #include "quorvane/docmodel/Borders.h"
 #include "quorvane/docmodel/TableDocument.h"
-#include "quorvane/support/SharedText.h"
-#include "quorvane/support/TextOutput.h"
 
 namespace quorvane {
 

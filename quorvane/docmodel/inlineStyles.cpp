@@ -9,12 +9,12 @@
 #include <utility>
 #include <vector>
 
+#include "quorvane/base/text/trimming.h"
+#include "quorvane/base/text/utf16Units.h"
+#include "quorvane/base/text/utf8.h"
+#include "quorvane/base/values/RtfError.h"
 #include "quorvane/docmodel/BracketedText.h"
 #include "quorvane/docmodel/TableDocument.h"
-#include "quorvane/support/RtfError.h"
-#include "quorvane/support/trimming.h"
-#include "quorvane/support/utf16Units.h"
-#include "quorvane/support/utf8.h"
 
 namespace quorvane {
 

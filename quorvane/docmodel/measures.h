@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-#include "quorvane/support/RtfError.h"
-#include "quorvane/support/rounding.h"
+#include "quorvane/base/text/rounding.h"
+#include "quorvane/base/values/RtfError.h"
 
 namespace quorvane {
 

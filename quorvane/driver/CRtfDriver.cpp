@@ -4,18 +4,18 @@
 #include <utility>
 #include <vector>
 
+#include "quorvane/base/text/codePage1252.h"
+#include "quorvane/base/text/textCase.h"
+#include "quorvane/base/text/utf8.h"
+#include "quorvane/base/values/RtfError.h"
 #include "quorvane/driver/DescriptionChecks.h"
 #include "quorvane/driver/DescriptionReader.h"
 #include "quorvane/driver/DescriptionTree.h"
 #include "quorvane/driver/DocumentBuilder.h"
 #include "quorvane/driver/driverErrors.h"
 #include "quorvane/support/GFileSystem.h"
-#include "quorvane/support/RtfError.h"
-#include "quorvane/support/codePage1252.h"
 #include "quorvane/support/currentError.h"
 #include "quorvane/support/recordStrings.h"
-#include "quorvane/support/textCase.h"
-#include "quorvane/support/utf8.h"
 
 namespace quorvane {
 

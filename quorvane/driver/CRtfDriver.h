@@ -4,12 +4,12 @@
 #include <string>
 #include <string_view>
 
+#include "quorvane/base/memory/Counted.h"
+#include "quorvane/base/memory/Ref.h"
+#include "quorvane/base/platform/Platform.h"
 #include "quorvane/docmodel/CRtfDoc.h"
 #include "quorvane/driver/Vocabulary.h"
-#include "quorvane/support/Counted.h"
 #include "quorvane/support/GError.h"
-#include "quorvane/support/Platform.h"
-#include "quorvane/support/Ref.h"
 
 namespace quorvane {
 

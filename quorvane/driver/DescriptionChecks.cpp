@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "quorvane/base/values/RtfError.h"
 #include "quorvane/driver/driverErrors.h"
-#include "quorvane/support/RtfError.h"
 
 namespace quorvane {
 

@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "quorvane/base/values/Value.h"
 #include "quorvane/driver/DescriptionKey.h"
-#include "quorvane/support/Value.h"
 
 namespace quorvane {
 

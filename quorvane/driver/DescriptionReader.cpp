@@ -4,9 +4,9 @@
 #include <cstddef>
 #include <string>
 
+#include "quorvane/base/text/numberText.h"
+#include "quorvane/base/values/RtfError.h"
 #include "quorvane/driver/driverErrors.h"
-#include "quorvane/support/RtfError.h"
-#include "quorvane/support/numberText.h"
 
 namespace quorvane {
 

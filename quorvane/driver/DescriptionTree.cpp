@@ -4,8 +4,8 @@
 #include <new>
 #include <string>
 
+#include "quorvane/base/values/RtfError.h"
 #include "quorvane/driver/driverErrors.h"
-#include "quorvane/support/RtfError.h"
 
 namespace quorvane {
 

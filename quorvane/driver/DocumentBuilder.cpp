@@ -6,9 +6,9 @@
 #include <optional>
 #include <string>
 
+#include "quorvane/base/text/rounding.h"
+#include "quorvane/base/values/RtfError.h"
 #include "quorvane/driver/driverErrors.h"
-#include "quorvane/support/RtfError.h"
-#include "quorvane/support/rounding.h"
 
 namespace quorvane {
 

@@ -3,10 +3,10 @@
 #include <cstdint>
 #include <string>
 
+#include "quorvane/base/memory/Ref.h"
 #include "quorvane/docmodel/CRtfDoc.h"
 #include "quorvane/driver/DescriptionNode.h"
 #include "quorvane/driver/Vocabulary.h"
-#include "quorvane/support/Ref.h"
 
 namespace quorvane {
 

@@ -5,10 +5,10 @@
 #include <iterator>
 #include <utility>
 
-#include "quorvane/support/RandomNumbers.h"
-#include "quorvane/support/RtfError.h"
-#include "quorvane/support/numberText.h"
-#include "quorvane/support/quicksort.h"
+#include "quorvane/base/collections/quicksort.h"
+#include "quorvane/base/platform/RandomNumbers.h"
+#include "quorvane/base/text/numberText.h"
+#include "quorvane/base/values/RtfError.h"
 
 namespace quorvane {
 

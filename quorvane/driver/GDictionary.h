@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "quorvane/support/Value.h"
+#include "quorvane/base/values/Value.h"
 
 namespace quorvane {
 

@@ -10,7 +10,7 @@
 #include <span>
 #include <utility>
 
-#include "quorvane/support/textCase.h"
+#include "quorvane/base/text/textCase.h"
 
 namespace quorvane {
 

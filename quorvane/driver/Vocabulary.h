@@ -5,9 +5,9 @@
 #include <string_view>
 #include <vector>
 
+#include "quorvane/base/values/Value.h"
 #include "quorvane/docmodel/enumerations.h"
 #include "quorvane/driver/DescriptionNode.h"
-#include "quorvane/support/Value.h"
 
 namespace quorvane {
 

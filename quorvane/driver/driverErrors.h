@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "quorvane/base/values/RtfError.h"
 #include "quorvane/docmodel/enumerations.h"
-#include "quorvane/support/RtfError.h"
 #include "quorvane/support/currentError.h"
 
 namespace quorvane {

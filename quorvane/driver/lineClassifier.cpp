@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "quorvane/support/trimming.h"
+#include "quorvane/base/text/trimming.h"
 
 namespace quorvane {
 

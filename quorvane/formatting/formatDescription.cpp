@@ -5,13 +5,13 @@
 #include <cstddef>
 #include <vector>
 
+#include "quorvane/base/text/textCase.h"
+#include "quorvane/base/text/trimming.h"
 #include "quorvane/driver/DescriptionReader.h"
 #include "quorvane/driver/Vocabulary.h"
 #include "quorvane/driver/lineClassifier.h"
 #include "quorvane/formatting/sourceLines.h"
 #include "quorvane/support/recordStrings.h"
-#include "quorvane/support/textCase.h"
-#include "quorvane/support/trimming.h"
 
 namespace quorvane {
 

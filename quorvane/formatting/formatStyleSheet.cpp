@@ -4,11 +4,11 @@
 #include <cstddef>
 #include <vector>
 
+#include "quorvane/base/text/textCase.h"
+#include "quorvane/base/text/trimming.h"
+#include "quorvane/base/values/RtfError.h"
 #include "quorvane/formatting/sourceLines.h"
 #include "quorvane/stylesheet/stylesheetParser.h"
-#include "quorvane/support/RtfError.h"
-#include "quorvane/support/textCase.h"
-#include "quorvane/support/trimming.h"
 
 namespace quorvane {
 

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <string>
 
-#include "quorvane/diagnostics/StyleSheetOutline.h"
+#include "quorvane/base/text/textCase.h"
 #include "quorvane/diagnostics/languageOf.h"
+#include "quorvane/diagnostics/stylesheet/StyleSheetOutline.h"
 #include "quorvane/driver/Vocabulary.h"
 #include "quorvane/driver/lineClassifier.h"
-#include "quorvane/support/textCase.h"
 
 namespace quorvane {
 

@@ -3,7 +3,7 @@
 #include <optional>
 #include <string_view>
 
-#include "quorvane/diagnostics/diagnosticRules.h"
+#include "quorvane/diagnostics/engine/diagnosticRules.h"
 
 namespace quorvane {
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <utility>
 
-#include "quorvane/support/Ref.h"
+#include "quorvane/base/memory/Ref.h"
 
 namespace quorvane {
 

@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <iterator>
 
-#include "quorvane/support/textCase.h"
-#include "quorvane/support/wildcards.h"
+#include "quorvane/base/text/textCase.h"
+#include "quorvane/base/text/wildcards.h"
 
 namespace quorvane {
 

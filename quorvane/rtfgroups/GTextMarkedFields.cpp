@@ -1,7 +1,7 @@
 #include "quorvane/rtfgroups/GTextMarkedFields.h"
 
-#include "quorvane/support/RtfError.h"
-#include "quorvane/support/codePage1252.h"
+#include "quorvane/base/text/codePage1252.h"
+#include "quorvane/base/values/RtfError.h"
 
 namespace quorvane::GTextMarkedFields {
 

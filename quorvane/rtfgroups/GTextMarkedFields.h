@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "quorvane/support/TextOutput.h"
-#include "quorvane/support/Value.h"
+#include "quorvane/base/text/TextOutput.h"
+#include "quorvane/base/values/Value.h"
 
 /// Marked text fields: a run of text between two private destinations, the first of which carries
 /// data of the host.

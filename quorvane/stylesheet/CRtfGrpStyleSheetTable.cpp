@@ -2,10 +2,10 @@
 
 #include <utility>
 
+#include "quorvane/base/text/textCase.h"
+#include "quorvane/base/text/trimming.h"
 #include "quorvane/rtfgroups/CRtfGrpColorTable.h"
 #include "quorvane/support/GFileSystem.h"
-#include "quorvane/support/textCase.h"
-#include "quorvane/support/trimming.h"
 
 namespace quorvane {
 

@@ -4,11 +4,11 @@
 #include <string>
 #include <string_view>
 
+#include "quorvane/base/platform/Platform.h"
 #include "quorvane/rtfgroups/GroupOwner.h"
 #include "quorvane/stylesheet/StyleAnswers.h"
 #include "quorvane/stylesheet/StyleList.h"
 #include "quorvane/stylesheet/stylesheetParser.h"
-#include "quorvane/support/Platform.h"
 
 namespace quorvane {
 

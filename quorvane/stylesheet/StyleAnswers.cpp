@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "quorvane/support/textCase.h"
+#include "quorvane/base/text/textCase.h"
 
 namespace quorvane {
 

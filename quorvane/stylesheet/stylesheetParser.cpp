@@ -4,10 +4,10 @@
 #include <cstdint>
 #include <utility>
 
-#include "quorvane/support/RtfError.h"
+#include "quorvane/base/text/textCase.h"
+#include "quorvane/base/text/trimming.h"
+#include "quorvane/base/values/RtfError.h"
 #include "quorvane/support/recordStrings.h"
-#include "quorvane/support/textCase.h"
-#include "quorvane/support/trimming.h"
 
 namespace quorvane {
 

@@ -3,9 +3,9 @@
 #include <cstddef>
 #include <optional>
 
+#include "quorvane/base/text/textCase.h"
+#include "quorvane/base/text/utf8.h"
 #include "quorvane/support/recordStrings.h"
-#include "quorvane/support/textCase.h"
-#include "quorvane/support/utf8.h"
 
 namespace quorvane {
 

@@ -4,7 +4,7 @@
 #include <bit>
 #include <utility>
 
-#include "quorvane/support/RtfError.h"
+#include "quorvane/base/values/RtfError.h"
 
 namespace quorvane {
 

@@ -6,8 +6,8 @@
 #include <optional>
 #include <vector>
 
-#include "quorvane/support/Object.h"
-#include "quorvane/support/Value.h"
+#include "quorvane/base/values/Object.h"
+#include "quorvane/base/values/Value.h"
 
 namespace quorvane {
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "quorvane/support/Value.h"
+#include "quorvane/base/values/Value.h"
 
 namespace quorvane {
 

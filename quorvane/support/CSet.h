@@ -2,9 +2,9 @@
 
 #include <cstdint>
 
+#include "quorvane/base/platform/Platform.h"
+#include "quorvane/base/values/Value.h"
 #include "quorvane/support/CMap.h"
-#include "quorvane/support/Platform.h"
-#include "quorvane/support/Value.h"
 
 namespace quorvane {
 

@@ -2,13 +2,13 @@
 
 #include <optional>
 
+#include "quorvane/base/text/codePage1252.h"
+#include "quorvane/base/text/textCase.h"
+#include "quorvane/base/text/textSearch.h"
+#include "quorvane/base/text/utf8.h"
+#include "quorvane/base/values/RtfError.h"
 #include "quorvane/support/CStringCompare.h"
-#include "quorvane/support/RtfError.h"
-#include "quorvane/support/codePage1252.h"
 #include "quorvane/support/recordStrings.h"
-#include "quorvane/support/textCase.h"
-#include "quorvane/support/textSearch.h"
-#include "quorvane/support/utf8.h"
 
 namespace quorvane {
 

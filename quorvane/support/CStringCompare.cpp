@@ -1,6 +1,6 @@
 #include "quorvane/support/CStringCompare.h"
 
-#include "quorvane/support/textCase.h"
+#include "quorvane/base/text/textCase.h"
 
 namespace quorvane {
 

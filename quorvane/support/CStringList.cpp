@@ -6,14 +6,14 @@
 #include <utility>
 #include <vector>
 
+#include "quorvane/base/collections/listPosition.h"
+#include "quorvane/base/collections/quicksort.h"
+#include "quorvane/base/platform/RandomNumbers.h"
+#include "quorvane/base/text/textCase.h"
+#include "quorvane/base/text/utf8.h"
+#include "quorvane/base/text/wildcards.h"
+#include "quorvane/base/values/RtfError.h"
 #include "quorvane/support/CIsisStringCompare.h"
-#include "quorvane/support/RandomNumbers.h"
-#include "quorvane/support/RtfError.h"
-#include "quorvane/support/listPosition.h"
-#include "quorvane/support/quicksort.h"
-#include "quorvane/support/textCase.h"
-#include "quorvane/support/utf8.h"
-#include "quorvane/support/wildcards.h"
 
 namespace quorvane {
 

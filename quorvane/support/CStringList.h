@@ -8,8 +8,8 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "quorvane/base/values/Value.h"
 #include "quorvane/support/IStringCompare.h"
-#include "quorvane/support/Value.h"
 
 namespace quorvane {
 

@@ -5,8 +5,8 @@
 #include <string>
 #include <utility>
 
-#include "quorvane/support/Platform.h"
-#include "quorvane/support/RtfError.h"
+#include "quorvane/base/platform/Platform.h"
+#include "quorvane/base/values/RtfError.h"
 
 namespace quorvane {
 

@@ -4,10 +4,10 @@
 #include <memory>
 #include <optional>
 
-#include "quorvane/support/codePage1252.h"
+#include "quorvane/base/text/codePage1252.h"
+#include "quorvane/base/text/trimming.h"
+#include "quorvane/base/text/utf8.h"
 #include "quorvane/support/currentError.h"
-#include "quorvane/support/trimming.h"
-#include "quorvane/support/utf8.h"
 
 namespace quorvane::GFileSystem {
 

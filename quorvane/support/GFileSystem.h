@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "quorvane/base/platform/Platform.h"
 #include "quorvane/support/GError.h"
-#include "quorvane/support/Platform.h"
 
 /// File helpers. Paths and texts are UTF-8; files are Windows-1252, in both directions.
 namespace quorvane::GFileSystem {

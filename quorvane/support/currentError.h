@@ -1,6 +1,6 @@
 #pragma once
 
-#include "quorvane/support/RtfError.h"
+#include "quorvane/base/values/RtfError.h"
 
 namespace quorvane {
 

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "quorvane/support/textCase.h"
-#include "quorvane/support/textSearch.h"
-#include "quorvane/support/utf8.h"
+#include "quorvane/base/text/textCase.h"
+#include "quorvane/base/text/textSearch.h"
+#include "quorvane/base/text/utf8.h"
 
 namespace quorvane {
 

@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "quorvane/base/text/trimming.h"
 #include "quorvane/support/SourceLine.h"
-#include "quorvane/support/trimming.h"
 
 namespace quorvane {
 

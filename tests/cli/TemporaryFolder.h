@@ -11,7 +11,7 @@
 #include <string>
 #include <string_view>
 
-#include "quorvane/diagnostics/RtfCheck.h"
+#include "quorvane/diagnostics/rtf/RtfCheck.h"
 
 namespace quorvane::cli {
 

@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-#include "quorvane/diagnostics/diagnosticRules.h"
+#include "quorvane/diagnostics/engine/diagnosticRules.h"
 #include "tests/cli/ProgramTest.h"
 #include "tests/cli/WithoutPrivileges.h"
 #include "tests/cli/descriptions.h"

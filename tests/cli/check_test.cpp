@@ -17,7 +17,7 @@
 #include <utility>
 #include <vector>
 
-#include "quorvane/diagnostics/diagnosticRules.h"
+#include "quorvane/diagnostics/engine/diagnosticRules.h"
 #include "tests/cli/ProgramTest.h"
 #include "tests/cli/descriptions.h"
 #include "tests/cli/runProgram.h"

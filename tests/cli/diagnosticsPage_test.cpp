@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "quorvane/diagnostics/diagnosticRules.h"
+#include "quorvane/diagnostics/engine/diagnosticRules.h"
 #include "tests/cli/TemporaryFolder.h"
 #include "tests/cli/runProgram.h"
 

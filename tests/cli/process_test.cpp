@@ -14,7 +14,7 @@
 #include <string_view>
 #include <thread>
 
-#include "quorvane/support/RtfError.h"
+#include "quorvane/base/values/RtfError.h"
 #include "tests/cli/TemporaryFolder.h"
 #include "tests/cli/WithoutPrivileges.h"
 

@@ -5,7 +5,7 @@
 
 #include "cli/CheckJob.h"
 #include "cli/FindingReport.h"
-#include "quorvane/diagnostics/TrialPlatform.h"
+#include "quorvane/diagnostics/description/TrialPlatform.h"
 
 namespace quorvane::cli {
 

@@ -7,8 +7,8 @@
 #include <utility>
 #include <vector>
 
-#include "quorvane/diagnostics/diagnosticRules.h"
-#include "quorvane/diagnostics/judgement.h"
+#include "quorvane/diagnostics/description/judgement.h"
+#include "quorvane/diagnostics/engine/diagnosticRules.h"
 #include "tests/cli/reportOf.h"
 
 namespace quorvane::cli {

@@ -17,12 +17,12 @@
 #include <string>
 #include <vector>
 
-#include "quorvane/diagnostics/Diagnostic.h"
-#include "quorvane/diagnostics/RtfCheck.h"
+#include "quorvane/base/text/codePage1252.h"
+#include "quorvane/base/text/utf16.h"
+#include "quorvane/diagnostics/engine/Diagnostic.h"
+#include "quorvane/diagnostics/rtf/RtfCheck.h"
 #include "quorvane/driver/CRtfDriver.h"
-#include "quorvane/support/codePage1252.h"
 #include "quorvane/support/currentError.h"
-#include "quorvane/support/utf16.h"
 #include "tests/com/richEdit/RichEdit.h"
 
 namespace quorvane::host {

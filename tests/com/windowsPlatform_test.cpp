@@ -7,12 +7,12 @@
 #include <thread>
 #include <vector>
 
+#include "quorvane/base/platform/Platform.h"
+#include "quorvane/base/platform/windowsStringCollection.h"
+#include "quorvane/base/values/RtfError.h"
 #include "quorvane/support/CStringList.h"
 #include "quorvane/support/GError.h"
-#include "quorvane/support/Platform.h"
-#include "quorvane/support/RtfError.h"
 #include "quorvane/support/currentError.h"
-#include "quorvane/support/windowsStringCollection.h"
 #include "tests/com/host/Component.h"
 #include "tests/com/host/Process.h"
 #include "tests/com/host/text.h"

@@ -7,12 +7,12 @@
 #include <string>
 #include <vector>
 
-#include "quorvane/diagnostics/DescriptionCheck.h"
-#include "quorvane/diagnostics/RtfCheck.h"
-#include "quorvane/diagnostics/StyleSheetCheck.h"
-#include "quorvane/diagnostics/diagnosticRules.h"
+#include "quorvane/base/text/codePage1252.h"
+#include "quorvane/diagnostics/description/DescriptionCheck.h"
+#include "quorvane/diagnostics/engine/diagnosticRules.h"
 #include "quorvane/diagnostics/languageOf.h"
-#include "quorvane/support/codePage1252.h"
+#include "quorvane/diagnostics/rtf/RtfCheck.h"
+#include "quorvane/diagnostics/stylesheet/StyleSheetCheck.h"
 
 namespace quorvane {
 

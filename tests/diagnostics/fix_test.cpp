@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "quorvane/diagnostics/DiagnosticEngine.h"
+#include "quorvane/diagnostics/engine/DiagnosticEngine.h"
 
 namespace quorvane {
 namespace {

@@ -5,9 +5,9 @@
 #include <string>
 #include <string_view>
 
-#include "quorvane/diagnostics/DescriptionCheck.h"
-#include "quorvane/diagnostics/RtfCheck.h"
-#include "quorvane/diagnostics/StyleSheetCheck.h"
+#include "quorvane/diagnostics/description/DescriptionCheck.h"
+#include "quorvane/diagnostics/rtf/RtfCheck.h"
+#include "quorvane/diagnostics/stylesheet/StyleSheetCheck.h"
 
 namespace quorvane {
 namespace {

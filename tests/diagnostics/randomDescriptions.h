@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "quorvane/support/codePage1252.h"
+#include "quorvane/base/text/codePage1252.h"
 
 namespace quorvane {
 

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "quorvane/diagnostics/DescriptionCheck.h"
-#include "quorvane/diagnostics/StyleSheetCheck.h"
-#include "quorvane/diagnostics/diagnosticRules.h"
+#include "quorvane/diagnostics/description/DescriptionCheck.h"
+#include "quorvane/diagnostics/engine/diagnosticRules.h"
+#include "quorvane/diagnostics/stylesheet/StyleSheetCheck.h"
 #include "quorvane/rtfgroups/CRtfGrpColorTable.h"
 
 namespace quorvane {

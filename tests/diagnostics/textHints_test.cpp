@@ -5,11 +5,11 @@
 #include <string>
 #include <vector>
 
-#include "quorvane/diagnostics/htmlTags.h"
-#include "quorvane/diagnostics/measureHints.h"
-#include "quorvane/diagnostics/numberHints.h"
-#include "quorvane/diagnostics/textFormatHints.h"
-#include "quorvane/diagnostics/valueHints.h"
+#include "quorvane/diagnostics/description/htmlTags.h"
+#include "quorvane/diagnostics/description/numberHints.h"
+#include "quorvane/diagnostics/description/valueHints.h"
+#include "quorvane/diagnostics/stylesheet/measureHints.h"
+#include "quorvane/diagnostics/stylesheet/textFormatHints.h"
 
 namespace quorvane {
 namespace {

@@ -6,11 +6,11 @@
 #include <string>
 #include <vector>
 
-#include "quorvane/diagnostics/DescriptionCheck.h"
-#include "quorvane/diagnostics/RtfCheck.h"
+#include "quorvane/base/text/codePage1252.h"
+#include "quorvane/diagnostics/description/DescriptionCheck.h"
+#include "quorvane/diagnostics/rtf/RtfCheck.h"
 #include "quorvane/driver/CRtfDriver.h"
 #include "quorvane/rtf/RtfWord.h"
-#include "quorvane/support/codePage1252.h"
 #include "tests/support/FakePlatform.h"
 
 namespace quorvane {

@@ -9,7 +9,7 @@
 #include <set>
 #include <string>
 
-#include "quorvane/support/RandomNumbers.h"
+#include "quorvane/base/platform/RandomNumbers.h"
 #include "tests/support/errorNumberOf.h"
 
 namespace quorvane {

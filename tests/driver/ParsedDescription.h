@@ -8,8 +8,8 @@
 #include <utility>
 #include <vector>
 
+#include "quorvane/base/values/RtfError.h"
 #include "quorvane/driver/CRtfDriver.h"
-#include "quorvane/support/RtfError.h"
 #include "quorvane/support/currentError.h"
 #include "tests/support/FakePlatform.h"
 

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "quorvane/support/RtfError.h"
+#include "quorvane/base/values/RtfError.h"
 #include "tests/diagnostics/randomDescriptions.h"
 #include "tests/driver/ParsedDescription.h"
 #include "tests/fuzz/plainAnalysis.h"

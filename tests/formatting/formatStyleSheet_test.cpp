@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "quorvane/base/values/RtfError.h"
 #include "quorvane/driver/CRtfDriver.h"
-#include "quorvane/support/RtfError.h"
 #include "tests/diagnostics/randomDescriptions.h"
 #include "tests/support/FakePlatform.h"
 

@@ -12,11 +12,11 @@
 #include <utility>
 #include <vector>
 
+#include "quorvane/base/text/codePage1252.h"
+#include "quorvane/base/text/textCase.h"
+#include "quorvane/base/values/Value.h"
 #include "quorvane/docmodel/CRtfDoc.h"
 #include "quorvane/docmodel/inlineStyles.h"
-#include "quorvane/support/Value.h"
-#include "quorvane/support/codePage1252.h"
-#include "quorvane/support/textCase.h"
 #include "tests/docmodel/fixedGroups.h"
 #include "tests/fuzz/plainStyleSheet.h"
 

@@ -6,9 +6,9 @@
 #include <string>
 #include <string_view>
 
-#include "quorvane/support/codePage1252.h"
-#include "quorvane/support/utf16.h"
-#include "quorvane/support/utf8.h"
+#include "quorvane/base/text/codePage1252.h"
+#include "quorvane/base/text/utf16.h"
+#include "quorvane/base/text/utf8.h"
 #include "tests/fuzz/require.h"
 
 namespace {

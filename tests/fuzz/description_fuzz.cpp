@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "quorvane/support/codePage1252.h"
+#include "quorvane/base/text/codePage1252.h"
 #include "tests/fuzz/DescriptionRun.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -4,12 +4,12 @@
 #include <string>
 #include <string_view>
 
+#include "quorvane/base/text/codePage1252.h"
+#include "quorvane/base/values/RtfError.h"
 #include "quorvane/docmodel/CRtfDoc.h"
 #include "quorvane/docmodel/CRtfTableCells.h"
 #include "quorvane/docmodel/CRtfTableRow.h"
 #include "quorvane/docmodel/CRtfTableRows.h"
-#include "quorvane/support/RtfError.h"
-#include "quorvane/support/codePage1252.h"
 #include "tests/fuzz/require.h"
 #include "tests/support/FakePlatform.h"
 

@@ -7,10 +7,10 @@
 #include <string>
 #include <string_view>
 
+#include "quorvane/base/text/textCase.h"
+#include "quorvane/base/text/utf16.h"
 #include "quorvane/docmodel/CRtfDoc.h"
 #include "quorvane/docmodel/inlineStyles.h"
-#include "quorvane/support/textCase.h"
-#include "quorvane/support/utf16.h"
 #include "tests/fuzz/FuzzInput.h"
 #include "tests/fuzz/documentChecks.h"
 

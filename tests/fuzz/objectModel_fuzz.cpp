@@ -11,9 +11,9 @@
 #include <utility>
 #include <vector>
 
+#include "quorvane/base/text/codePage1252.h"
 #include "quorvane/docmodel/CRtfDoc.h"
 #include "quorvane/support/CMap.h"
-#include "quorvane/support/codePage1252.h"
 #include "tests/fuzz/FuzzInput.h"
 #include "tests/fuzz/PlainDocument.h"
 #include "tests/fuzz/documentChecks.h"

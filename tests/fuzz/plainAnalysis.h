@@ -11,8 +11,8 @@
 #include <string>
 #include <vector>
 
-#include "quorvane/support/RtfError.h"
-#include "quorvane/support/Value.h"
+#include "quorvane/base/values/RtfError.h"
+#include "quorvane/base/values/Value.h"
 #include "tests/driver/plainReader.h"
 #include "tests/fuzz/PlainDocument.h"
 

@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "quorvane/support/textCase.h"
+#include "quorvane/base/text/textCase.h"
 
 // Stylesheets as their rules are told, with no regard to speed: texts are read character by
 // character, entries searched one by one and texts joined.

@@ -5,12 +5,12 @@
 #include <string>
 #include <vector>
 
+#include "quorvane/base/text/codePage1252.h"
+#include "quorvane/base/text/textCase.h"
+#include "quorvane/base/text/utf8.h"
 #include "quorvane/support/CIsisStringCompare.h"
 #include "quorvane/support/CString.h"
-#include "quorvane/support/codePage1252.h"
 #include "quorvane/support/recordStrings.h"
-#include "quorvane/support/textCase.h"
-#include "quorvane/support/utf8.h"
 #include "tests/fuzz/FuzzInput.h"
 #include "tests/fuzz/documentChecks.h"
 

@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "quorvane/base/text/codePage1252.h"
 #include "quorvane/stylesheet/CRtfGrpStyleSheetTable.h"
-#include "quorvane/support/codePage1252.h"
 #include "tests/fuzz/DescriptionRun.h"
 #include "tests/fuzz/FuzzInput.h"
 #include "tests/fuzz/plainStyleSheet.h"

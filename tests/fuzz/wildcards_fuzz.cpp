@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
+#include "quorvane/base/text/utf8.h"
+#include "quorvane/base/text/wildcards.h"
 #include "quorvane/support/CStringList.h"
-#include "quorvane/support/utf8.h"
-#include "quorvane/support/wildcards.h"
 #include "tests/fuzz/FuzzInput.h"
 #include "tests/fuzz/documentChecks.h"
 

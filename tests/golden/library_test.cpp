@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "quorvane/base/text/codePage1252.h"
 #include "quorvane/driver/CRtfDriver.h"
-#include "quorvane/support/codePage1252.h"
 #include "quorvane/support/currentError.h"
 #include "tests/golden/goldenCases.h"
 

@@ -7,6 +7,7 @@
 #include <iterator>
 #include <string>
 
+#include "quorvane/base/text/codePage1252.h"
 #include "quorvane/docmodel/CRtfDoc.h"
 #include "quorvane/docmodel/CRtfParagraph.h"
 #include "quorvane/docmodel/CRtfParagraphs.h"
@@ -15,7 +16,6 @@
 #include "quorvane/docmodel/CRtfTableRow.h"
 #include "quorvane/docmodel/CRtfTableRows.h"
 #include "quorvane/driver/CRtfDriver.h"
-#include "quorvane/support/codePage1252.h"
 
 namespace quorvane {
 namespace {

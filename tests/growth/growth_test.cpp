@@ -10,15 +10,15 @@
 #include <string>
 #include <string_view>
 
-#include "quorvane/diagnostics/DescriptionCheck.h"
-#include "quorvane/diagnostics/KnownStyles.h"
-#include "quorvane/diagnostics/RtfCheck.h"
-#include "quorvane/diagnostics/StyleSheetCheck.h"
+#include "quorvane/base/text/wildcards.h"
+#include "quorvane/diagnostics/description/DescriptionCheck.h"
+#include "quorvane/diagnostics/rtf/RtfCheck.h"
+#include "quorvane/diagnostics/stylesheet/KnownStyles.h"
+#include "quorvane/diagnostics/stylesheet/StyleSheetCheck.h"
 #include "quorvane/docmodel/CRtfDoc.h"
 #include "quorvane/docmodel/inlineStyles.h"
 #include "quorvane/driver/CRtfDriver.h"
 #include "quorvane/support/recordStrings.h"
-#include "quorvane/support/wildcards.h"
 #include "tests/support/FakePlatform.h"
 
 namespace quorvane {

@@ -1,4 +1,4 @@
-#include "quorvane/support/Value.h"
+#include "quorvane/base/values/Value.h"
 
 #include <gtest/gtest.h>
 

@@ -7,8 +7,8 @@
 #include <memory>
 #include <string>
 
+#include "quorvane/base/text/codePage1252.h"
 #include "quorvane/driver/CRtfDriver.h"
-#include "quorvane/support/codePage1252.h"
 #include "quorvane/support/currentError.h"
 #include "tests/outOfMemory/withoutMemory.h"
 #include "tests/support/FakePlatform.h"

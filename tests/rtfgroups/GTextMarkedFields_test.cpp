@@ -5,8 +5,8 @@
 #include <memory>
 #include <vector>
 
-#include "quorvane/support/RtfError.h"
-#include "quorvane/support/codePage1252.h"
+#include "quorvane/base/text/codePage1252.h"
+#include "quorvane/base/values/RtfError.h"
 
 namespace quorvane {
 namespace {

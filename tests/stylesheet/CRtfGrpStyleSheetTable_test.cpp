@@ -5,7 +5,7 @@
 #include <random>
 #include <vector>
 
-#include "quorvane/support/RtfError.h"
+#include "quorvane/base/values/RtfError.h"
 #include "tests/fuzz/plainStyleSheet.h"
 #include "tests/support/FakePlatform.h"
 #include "tests/support/errorNumberOf.h"

@@ -13,8 +13,8 @@
 #include <utility>
 #include <vector>
 
-#include "quorvane/support/Platform.h"
-#include "quorvane/support/RtfError.h"
+#include "quorvane/base/platform/Platform.h"
+#include "quorvane/base/values/RtfError.h"
 
 namespace quorvane {
 

@@ -9,9 +9,9 @@
 #include <string>
 #include <thread>
 
+#include "quorvane/base/platform/Platform.h"
+#include "quorvane/base/values/RtfError.h"
 #include "quorvane/docmodel/CRtfDoc.h"
-#include "quorvane/support/Platform.h"
-#include "quorvane/support/RtfError.h"
 #include "tests/cli/TemporaryFolder.h"
 #include "tests/support/FakePlatform.h"
 

@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-#include "quorvane/diagnostics/RtfCheck.h"
+#include "quorvane/diagnostics/rtf/RtfCheck.h"
 #include "tests/support/FakePlatform.h"
 
 namespace quorvane {

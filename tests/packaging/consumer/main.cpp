@@ -3,9 +3,9 @@
 #include <cstdio>
 #include <string>
 
+#include "quorvane/base/text/codePage1252.h"
 #include "quorvane/docmodel/CRtfDoc.h"
 #include "quorvane/driver/CRtfDriver.h"
-#include "quorvane/support/codePage1252.h"
 
 int main() {
     const auto driver = quorvane::CRtfDriver::create();

@@ -1,0 +1,139 @@
+#include "quorvane/base/text/numberText.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <system_error>
+
+namespace quorvane {
+
+namespace {
+
+bool isDigit(char character) {
+    return character >= '0' && character <= '9';
+}
+
+std::size_t countDigits(std::string_view text) {
+    std::size_t count = 0;
+    while (count < text.size() && isDigit(text[count])) {
+        ++count;
+    }
+    return count;
+}
+
+bool isSign(char character) {
+    return character == '+' || character == '-';
+}
+
+// The parts of a number's text; views into it.
+struct NumberParts {
+    bool isNegative = false;
+    /// Digits and point.
+    std::string_view mantissa;
+    /// Digits and sign; empty without an exponent.
+    std::string_view exponent;
+};
+
+std::optional<NumberParts> splitNumber(std::string_view text) {
+    NumberParts parts;
+    if (!text.empty() && isSign(text.front())) {
+        parts.isNegative = text.front() == '-';
+        text.remove_prefix(1);
+    }
+    const std::size_t wholeDigits = countDigits(text);
+    std::size_t mantissaLength = wholeDigits;
+    std::size_t fractionDigits = 0;
+    if (wholeDigits < text.size() && text[wholeDigits] == '.') {
+        fractionDigits = countDigits(text.substr(wholeDigits + 1));
+        mantissaLength += 1 + fractionDigits;
+    }
+    if (wholeDigits + fractionDigits == 0) {
+        return std::nullopt;
+    }
+    parts.mantissa = text.substr(0, mantissaLength);
+    text.remove_prefix(mantissaLength);
+    if (text.empty()) {
+        return parts;
+    }
+    if (text.front() != 'e' && text.front() != 'E') {
+        return std::nullopt;
+    }
+    parts.exponent = text.substr(1);
+    const std::size_t signLength =
+        !parts.exponent.empty() && isSign(parts.exponent.front()) ? 1 : 0;
+    const std::string_view exponentDigits = parts.exponent.substr(signLength);
+    if (exponentDigits.empty() || countDigits(exponentDigits) != exponentDigits.size()) {
+        return std::nullopt;
+    }
+    return parts;
+}
+
+// The exponent as a number; the greatest or smallest there is for one beyond the range.
+std::int64_t exponentValue(std::string_view exponent) {
+    if (exponent.empty()) {
+        return 0;
+    }
+    const bool isNegative = exponent.front() == '-';
+    if (exponent.front() == '+') {
+        exponent.remove_prefix(1);
+    }
+    std::int64_t value = 0;
+    const auto [end, problem] =
+        std::from_chars(exponent.data(), exponent.data() + exponent.size(), value);
+    if (problem != std::errc{}) {
+        return isNegative ? INT64_MIN / 2 : INT64_MAX / 2;
+    }
+    return value;
+}
+
+// Whether a number that no double can hold is too small, rather than too great.
+bool isTooSmall(const NumberParts& parts) {
+    const std::size_t point = std::min(parts.mantissa.find('.'), parts.mantissa.size());
+    const std::size_t firstDigit = parts.mantissa.find_first_not_of(".0");
+    const auto magnitude = static_cast<std::int64_t>(point) - static_cast<std::int64_t>(firstDigit);
+    return magnitude + exponentValue(parts.exponent) < 0;
+}
+
+}  // namespace
+
+std::optional<double> readNumber(std::string_view text) {
+    const std::optional<NumberParts> parts = splitNumber(text);
+    if (!parts) {
+        return std::nullopt;
+    }
+    // A double holds every whole number of so many digits.
+    constexpr std::size_t exactDigits = 15;
+    const char* first = parts->mantissa.data();
+    double number = 0;
+    if (text.size() <= exactDigits && countDigits(text) == text.size()) {
+        std::int64_t whole = 0;
+        std::from_chars(first, text.data() + text.size(), whole);
+        return static_cast<double>(whole);
+    }
+    const auto [end, problem] = std::from_chars(first, text.data() + text.size(), number);
+    if (problem == std::errc::result_out_of_range) {
+        if (!isTooSmall(*parts)) {
+            return std::nullopt;
+        }
+        number = 0;
+    }
+    return parts->isNegative ? -number : number;
+}
+
+std::string numberText(double number) {
+    if (number == 0) {
+        return "0";
+    }
+    const double magnitude = std::fabs(number);
+    const auto format = magnitude >= 1e-5 && magnitude < 1e15 ? std::chars_format::fixed
+                                                              : std::chars_format::scientific;
+    std::array<char, 32> buffer{};
+    const auto [end, problem] =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, format);
+    return std::string(buffer.data(), end);
+}
+
+}  // namespace quorvane

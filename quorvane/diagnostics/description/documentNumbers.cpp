@@ -1,0 +1,38 @@
+#include "quorvane/diagnostics/description/documentNumbers.h"
+
+#include "quorvane/rtfgroups/CRtfGrpColorTable.h"
+#include "quorvane/rtfgroups/CRtfGrpFontTable.h"
+
+namespace quorvane {
+
+namespace {
+
+bool isStyleMissing(int number, const KnownStyles* styles, StyleKind kind) {
+    if (number == 0 && kind == StyleKind::Paragraph) {
+        return false;
+    }
+    const int first = styleNumber(1);
+    return styles &&
+           (number < first || number >= first + static_cast<int>(styles->styles(kind).count()));
+}
+
+}  // namespace
+
+std::string_view missingReference(const RtfWord& word, const RtfControl& control,
+                                  const KnownStyles* styles) {
+    const int number = control.number.value_or(0);
+    if (word.role == RtfRole::Font) {
+        return number < 0 || number >= CRtfGrpFontTable::fontCount ? "font" : "";
+    }
+    if (namesColor(word.role)) {
+        return number < 0 || number > CRtfGrpColorTable::colorCount ? "color" : "";
+    }
+    if (word.role == RtfRole::ParagraphStyle || word.role == RtfRole::CharacterStyle) {
+        const StyleKind kind =
+            word.role == RtfRole::ParagraphStyle ? StyleKind::Paragraph : StyleKind::Character;
+        return isStyleMissing(number, styles, kind) ? "style" : "";
+    }
+    return namesStyle(word.role) ? "style" : "";
+}
+
+}  // namespace quorvane

@@ -1,0 +1,164 @@
+#include "quorvane/diagnostics/description/numberHints.h"
+
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <optional>
+#include <string>
+
+#include "quorvane/base/text/numberText.h"
+#include "quorvane/base/text/textCase.h"
+#include "quorvane/base/text/trimming.h"
+#include "quorvane/diagnostics/stylesheet/measureHints.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr std::size_t nowhere = std::string_view::npos;
+
+struct Unit {
+    std::string_view name;
+    double twips;
+};
+
+constexpr std::array<Unit, 11> units{{
+    {"mm", 1440 / 25.4},
+    {"cm", 1440 / 2.54},
+    {"in", 1440},
+    {"inch", 1440},
+    {"inches", 1440},
+    {"\"", 1440},
+    {"pt", 20},
+    {"pc", 240},
+    {"tw", 1},
+    {"twip", 1},
+    {"twips", 1},
+}};
+
+const Unit* unitNamed(std::string_view name) {
+    for (const Unit& unit : units) {
+        if (unit.name == name) {
+            return &unit;
+        }
+    }
+    return nullptr;
+}
+
+/// True for the measures of the page.
+bool isInTwips(std::string_view key) {
+    return key.starts_with("paper-") || key.ends_with("-margin");
+}
+
+std::string acceptedNumber(std::string_view key) {
+    if (isInTwips(key)) {
+        return "write a number of twips, 1440 of which are an inch and 567 a centimeter";
+    }
+    return key == "cell-width" ? "write a number, per cent of the room between the page's margins, "
+                                 "without a sign"
+                               : "write a number";
+}
+
+/// What to write for a number with one comma; empty for anything else.
+Hint withoutComma(std::string_view key, std::string_view value) {
+    const std::size_t comma = value.find(',');
+    std::string text(value);
+    if (comma == nowhere || text.find('.') != std::string::npos) {
+        return {};
+    }
+    text[comma] = '.';
+    const std::string withPoint = text;
+    text.erase(comma, 1);
+    const std::optional<double> number = readNumber(withPoint);
+    if (!number || comma + 1 == value.size()) {
+        return {};
+    }
+    // A length so short is one in another unit, which a point alone would hide.
+    if (isTinyMeasure(key, *number)) {
+        return tinyMeasureHint(key, *number);
+    }
+    // Three digits behind a comma are thousandths to some and thousands to others.
+    return value.size() - comma == 4
+               ? Hint("a number has no comma: write " + text + ", or " + withPoint)
+               : Hint("a number has no comma: write " + withPoint, withPoint);
+}
+
+Hint lengthHint(std::string_view key, double number, const Unit& unit, std::string_view value) {
+    constexpr double most = std::numeric_limits<std::int32_t>::max();
+    const double twips = unit.twips == 1 ? number : std::round(number * unit.twips);
+    if (!isInTwips(key) || std::abs(twips) > most) {
+        return acceptedNumber(key);
+    }
+    const std::string text = numberText(twips);
+    return {unit.twips == 1 ? "write the number alone: " + text
+                            : std::string(value) + " is " + text + " twips: write " + text,
+            text};
+}
+
+/// What to write for a number with a comma and a unit, such as "29,7cm"; empty for anything else.
+Hint withPointAndUnit(std::string_view key, std::string_view value) {
+    const std::size_t comma = value.find(',');
+    if (comma == nowhere || value.find_first_of(",.", comma + 1) != nowhere) {
+        return {};
+    }
+    const std::size_t end = value.find_first_not_of("0123456789", comma + 1);
+    // Three digits behind a comma may be meant as thousands.
+    if (end == nowhere || end == comma + 1 || end == comma + 4) {
+        return {};
+    }
+    std::string text(value);
+    text[comma] = '.';
+    Hint hint = numberHint(key, text);
+    return hint.replacement ? hint : Hint();
+}
+
+}  // namespace
+
+Hint numberHint(std::string_view key, std::string_view value) {
+    if (value.empty()) {
+        return "the value is missing: " + acceptedNumber(key);
+    }
+    if (lowerCase(value) == "a4" && key.starts_with("paper-")) {
+        return "A4 is 11906 twips wide and 16838 high";
+    }
+    if (lowerCase(value) == "letter" && key.starts_with("paper-")) {
+        return "US letter is 12240 twips wide and 15840 high";
+    }
+    if (value.find_first_not_of("+-.0123456789eE") == nowhere &&
+        value.find_first_of("0123456789") != nowhere && value.find_first_of("eE") != nowhere) {
+        return "the number is too large, or is none: write its digits, without an exponent";
+    }
+    const bool isQuoted = value.size() > 2 && value.front() == value.back() &&
+                          (value.front() == '"' || value.front() == '\'');
+    if (isQuoted && readNumber(value.substr(1, value.size() - 2))) {
+        const std::string bare(value.substr(1, value.size() - 2));
+        return {"write the number without quotation marks: " + bare, bare};
+    }
+    const std::size_t end = value.find_first_not_of("+-.0123456789");
+    const std::optional<double> number = readNumber(value.substr(0, end));
+    if (!number || end == nowhere) {
+        return acceptedNumber(key);
+    }
+    const std::string rest = lowerCase(trimWhitespace(value.substr(end)));
+    if (Hint written = withoutComma(key, value); !written.empty()) {
+        return written;
+    }
+    if (Hint written = withPointAndUnit(key, value); !written.empty()) {
+        return written;
+    }
+    if (rest.starts_with(',')) {
+        return "a number has no comma, but at most one point: " + acceptedNumber(key);
+    }
+    if (rest == "%" && key == "cell-width") {
+        const std::string alone(value.substr(0, end));
+        return {"write the number alone: " + alone, alone};
+    }
+    if (const Unit* unit = unitNamed(rest)) {
+        return lengthHint(key, *number, *unit, value);
+    }
+    return acceptedNumber(key);
+}
+
+}  // namespace quorvane

@@ -1,0 +1,223 @@
+#include "quorvane/diagnostics/description/syntaxGuess.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <vector>
+
+#include "quorvane/base/text/textCase.h"
+#include "quorvane/base/text/trimming.h"
+#include "quorvane/diagnostics/engine/nearestWord.h"
+
+namespace quorvane {
+
+namespace {
+
+using Meant = SyntaxGuess::Meant;
+
+constexpr std::size_t nowhere = std::string_view::npos;
+constexpr std::string_view nodeNames[] = {"doc", "row", "cell", "para"};
+
+bool isKey(std::string_view word, const Vocabulary& vocabulary) {
+    const std::string key = vocabulary.expand(word);
+    for (const NodeKind kind : {NodeKind::Row, NodeKind::Cell, NodeKind::Para, NodeKind::Doc}) {
+        if (vocabulary.isKeyOf(kind, key)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// The node that a name stands for, or nearly stands for.
+NodeKind nodeNearly(std::string_view name, const Vocabulary& vocabulary) {
+    if (lowerCase(name) == "document") {
+        return NodeKind::Doc;
+    }
+    if (lowerCase(name) == "paragraph") {
+        return NodeKind::Para;
+    }
+    const NodeKind kind = vocabulary.nodeKind(name);
+    return kind != NodeKind::None || name.size() < 3
+               ? kind
+               : vocabulary.nodeKind(nearestWord(name, nodeNames));
+}
+
+/// True when a name is certainly meant to be that of a node.
+bool isCertainNode(std::string_view name, const Vocabulary& vocabulary) {
+    const std::string lower = lowerCase(name);
+    return lower == "document" || lower == "paragraph" ||
+           vocabulary.nodeKind(name) != NodeKind::None || !certainWord(name, nodeNames).empty();
+}
+
+/// The node's name as it is written here: in its long form, unless the line has the short one.
+std::string nameFor(NodeKind kind, std::string_view written) {
+    constexpr std::string_view longNames[] = {"row", "cell", "para", "doc"};
+    const std::string_view name = longNames[static_cast<std::size_t>(kind)];
+    return written.size() == 1 && kind != NodeKind::Doc ? lowerCase(written) : std::string(name);
+}
+
+/// True when a line goes on behind a leaf with another one.
+bool beginsLeaf(std::string_view rest, const Vocabulary& vocabulary) {
+    const std::size_t equals = rest.find('=');
+    return rest.starts_with('(') && equals != nowhere &&
+           isKey(TrimEx(rest.substr(1, equals - 1)), vocabulary);
+}
+
+/// What to do about a text that goes on after its first ")". Where the line ends with one more and
+/// each has its "(", it is certain which of them are text.
+Hint parenthesisHint(std::string_view line, std::size_t equals, const Vocabulary& vocabulary) {
+    const std::string words = "the value ends at the first ): write \\'29 for a ) in a text";
+    const std::string_view key = TrimEx(line.substr(1, equals - 1));
+    const std::string_view text = line.substr(equals + 1, line.size() - equals - 2);
+    std::ptrdiff_t open = 0;
+    std::string escaped;
+    for (const char character : text) {
+        open += character == '(' ? 1 : (character == ')' ? -1 : 0);
+        escaped += character == ')' ? "\\'29" : std::string(1, character);
+        if (open < 0) {
+            return words;
+        }
+    }
+    if (line.back() != ')' || open != 0 || text.find(';') != nowhere ||
+        vocabulary.expand(key) != "para-text") {
+        return words;
+    }
+    return {words, "(" + std::string(key) + "=" + escaped + ")"};
+}
+
+SyntaxGuess guessLeaf(std::string_view line, std::size_t equals, const Vocabulary& vocabulary) {
+    SyntaxGuess guess;
+    const bool isOpened = line.front() == '(';
+    guess.key = TrimEx(line.substr(isOpened ? 1 : 0, equals - (isOpened ? 1 : 0)));
+    const std::size_t close = line.find(')', equals);
+    guess.value = TrimEx(line.substr(equals + 1, close == nowhere ? close : close - equals - 1));
+    guess.meant = Meant::Leaf;
+    if (guess.key.find('(') != nowhere) {
+        guess.meant = Meant::Nothing;
+        guess.hint = "each node and each key stands on a line of its own";
+    } else if (!isOpened) {
+        guess.hint = "did you mean (" + std::string(line) + (close == nowhere ? ")?" : "?");
+    } else if (close == nowhere) {
+        guess.meant = Meant::LeafWithoutEnd;
+        guess.hint =
+            "the ) is missing; a value ends on its own line: write \\line for a line break";
+    } else if (line.find(')') < equals) {
+        guess.hint = "the key holds a )";
+    } else if (beginsLeaf(trimWhitespace(line.substr(close + 1)), vocabulary)) {
+        guess.hint = "each node and each key stands on a line of its own";
+    } else {
+        guess.hint = parenthesisHint(line, equals, vocabulary);
+    }
+    return guess;
+}
+
+SyntaxGuess guessOpener(std::string_view line, const Vocabulary& vocabulary) {
+    const std::string_view head = line.substr(1, line.find_first_of(" \t;)=", 1) - 1);
+    const std::string_view rest = trimWhitespace(line.substr(head.size() + 1));
+    const std::size_t colon = std::min(line.find(':'), line.size());
+    if (const std::string_view key = TrimEx(line.substr(1, colon - 1));
+        colon < line.size() && isKey(key, vocabulary)) {
+        SyntaxGuess guess;
+        guess.meant = Meant::Leaf;
+        guess.key = key;
+        const std::size_t end = std::min(line.find(')', colon), line.size());
+        guess.value = TrimEx(line.substr(colon + 1, end - colon - 1));
+        guess.hint = "did you mean (" + std::string(key) + "=" + std::string(guess.value) + ")?";
+        return guess;
+    }
+    if (isKey(head, vocabulary) && vocabulary.nodeKind(head) == NodeKind::None) {
+        SyntaxGuess guess;
+        guess.meant = Meant::Leaf;
+        guess.key = head;
+        const bool isEnded = !rest.empty() && rest.back() == ')';
+        guess.hint = "did you mean (" + std::string(head) + "=" +
+                     std::string(rest.substr(0, rest.size() - (isEnded ? 1 : 0))) + ")?";
+        return guess;
+    }
+    SyntaxGuess guess;
+    guess.kind = nodeNearly(head, vocabulary);
+    if (guess.kind == NodeKind::None) {
+        return guess;
+    }
+    const std::string name = nameFor(guess.kind, head);
+    guess.meant = Meant::Opener;
+    if (rest == ")") {
+        guess.hint = "(" + name + " opens the node and " + name + ") closes it";
+    } else if (!rest.empty() && rest.front() != ';') {
+        guess.hint = "nothing but a comment behind ; follows (" + name;
+    } else {
+        guess.hint = "did you mean (" + name + "?";
+        if (isCertainNode(head, vocabulary)) {
+            guess.hint.replacement = "(" + name + std::string(line.substr(head.size() + 1));
+        }
+    }
+    return guess;
+}
+
+/// A closer as other languages write it: "(/row)" or "</row>".
+SyntaxGuess guessSlashedCloser(std::string_view line, std::size_t slash,
+                               const Vocabulary& vocabulary) {
+    SyntaxGuess guess;
+    const std::string_view name =
+        line.substr(slash + 1, line.find_first_of(" \t;)>", slash) - slash - 1);
+    guess.kind = nodeNearly(name, vocabulary);
+    if (guess.kind != NodeKind::None) {
+        guess.meant = Meant::Closer;
+        guess.hint = "did you mean " + nameFor(guess.kind, name) + ")?";
+    }
+    return guess;
+}
+
+SyntaxGuess guessCloser(std::string_view line, const Vocabulary& vocabulary) {
+    SyntaxGuess guess;
+    const std::string_view head = line.substr(0, line.find_first_of(" \t;)"));
+    guess.kind = nodeNearly(head, vocabulary);
+    if (guess.kind == NodeKind::None) {
+        return guess;
+    }
+    const std::string name = nameFor(guess.kind, head);
+    if (line.find(')') == nowhere) {
+        guess.hint = "did you mean (" + name + " or " + name + ")?";
+        guess.kind = NodeKind::None;
+        return guess;
+    }
+    guess.meant = Meant::Closer;
+    guess.hint = vocabulary.nodeKind(head) == NodeKind::None || line[head.size()] != ')'
+                     ? "did you mean " + name + ")?"
+                     : "nothing but a comment behind ; follows " + name + ")";
+    const std::string_view rest = trimWhitespace(line.substr(head.size()));
+    const std::string_view after =
+        trimWhitespace(rest.substr(std::min<std::size_t>(1, rest.size())));
+    if (rest.starts_with(')') && (after.empty() || after.front() == ';') &&
+        isCertainNode(head, vocabulary)) {
+        guess.hint.replacement = name + std::string(rest);
+    }
+    return guess;
+}
+
+}  // namespace
+
+SyntaxGuess guessLine(std::string_view line, const Vocabulary& vocabulary) {
+    for (const std::string_view mark : {"#", "//", "/*", "--", "<!--"}) {
+        if (line.starts_with(mark)) {
+            SyntaxGuess guess;
+            guess.hint = "a comment begins with ;";
+            return guess;
+        }
+    }
+    const std::size_t equals = line.find('=');
+    const std::size_t comment = line.find(';');
+    if (equals != nowhere && (line.front() == '(' || equals < comment)) {
+        const std::string_view key = TrimEx(
+            line.substr(line.front() == '(' ? 1 : 0, equals - (line.front() == '(' ? 1U : 0U)));
+        if (line.front() == '(' || isKey(key, vocabulary)) {
+            return guessLeaf(line, equals, vocabulary);
+        }
+    }
+    if (line.size() > 1 && line[1] == '/' && (line.front() == '(' || line.front() == '<')) {
+        return guessSlashedCloser(line, 1, vocabulary);
+    }
+    return line.front() == '(' ? guessOpener(line, vocabulary) : guessCloser(line, vocabulary);
+}
+
+}  // namespace quorvane

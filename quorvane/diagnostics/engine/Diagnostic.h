@@ -1,0 +1,76 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <utility>
+
+namespace quorvane {
+
+/// Identifies a kind of finding: one enumerator for each row of the table of diagnostics.
+enum class DiagnosticId {
+#define QUORVANE_DIAGNOSTIC(id, ...) id,
+#include "quorvane/diagnostics/engine/diagnosticTable.h"
+};
+
+/// How much a finding weighs. An error is what the library rejects or a reader cannot make sense
+/// of; a warning is what is accepted and does not do what its author wants.
+enum class Severity { Error, Warning };
+
+/// Where something stands in a text. Lines and columns begin with 1 and count characters; in a file
+/// in Windows-1252 or RTF a character is a byte, and the offset is the byte offset.
+struct Place {
+    std::int64_t line = 1;
+    std::int64_t column = 1;
+    /// Characters from the column on, on the same line; 0 for a place between two.
+    std::int64_t length = 0;
+    /// Characters before it, from the beginning of the text.
+    std::int64_t offset = 0;
+};
+
+/// A replacement that certainly does what the author meant: a word spelled right, a brace escaped,
+/// a unit converted.
+struct Fix {
+    /// What is replaced. In a file in Windows-1252 its offset and length are bytes of the file.
+    Place place;
+    /// UTF-8, without line breaks; it is written in the encoding of the file.
+    std::string replacement;
+};
+
+/// What could be done about a finding, in words; empty when nothing is known.
+struct Hint {
+    Hint() = default;
+    // NOLINTBEGIN(google-explicit-constructor): most hints are words alone.
+    Hint(std::string words) : text(std::move(words)) {}
+    Hint(const char* words) : text(words) {}
+    // NOLINTEND(google-explicit-constructor)
+    Hint(std::string words, std::optional<std::string> certain)
+        : text(std::move(words)), replacement(std::move(certain)) {}
+
+    bool empty() const { return text.empty(); }
+
+    std::string text;
+    /// What the marked part is certainly meant to be; nothing where that is a guess.
+    std::optional<std::string> replacement;
+};
+
+/// One finding about a text.
+struct Diagnostic {
+    DiagnosticId id{};
+    Severity severity = Severity::Error;
+    Place place;
+    /// What is wrong. A text of the library stands here as it is, its line breaks included.
+    std::string message;
+    /// What could be done about it; empty when nothing is known.
+    std::string hint;
+    /// Set where the hint is a replacement that can be made without asking.
+    std::optional<Fix> fix{};
+    /// True when the fix was made: the place is that in the text before.
+    bool isFixed = false;
+};
+
+/// Takes findings one after the other.
+using DiagnosticReceiver = std::function<void(Diagnostic)>;
+
+}  // namespace quorvane

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "quorvane/diagnostics/engine/Diagnostic.h"
+
+namespace quorvane {
+
+/// Makes findings from the table of diagnostics and hands them on.
+class DiagnosticEngine {
+public:
+    explicit DiagnosticEngine(DiagnosticReceiver receiver) : receiver_(std::move(receiver)) {}
+
+    /// Hands on a finding. The arguments take the places of "{0}", "{1}" and so on in the text that
+    /// the table has for it. A replacement of the hint is the fix for the place.
+    void report(DiagnosticId id, const Place& place,
+                std::initializer_list<std::string_view> arguments = {}, Hint hint = {});
+
+    /// True when an error was reported.
+    bool hasErrors() const { return hasErrors_; }
+
+private:
+    DiagnosticReceiver receiver_;
+    bool hasErrors_ = false;
+};
+
+/// The text with the arguments in the places of "{0}", "{1}" and so on.
+std::string withArguments(std::string_view pattern,
+                          std::initializer_list<std::string_view> arguments);
+
+/// Puts the findings into the order of their places; those of one place stay as they were.
+void sortByPlace(std::vector<Diagnostic>& findings);
+
+}  // namespace quorvane

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+#include "quorvane/diagnostics/engine/Diagnostic.h"
+
+namespace quorvane {
+
+/// A UTF-8 text whose places are told by line and column. It must stay as long as this does.
+class SourceText {
+public:
+    /// A line without its end (CR LF, LF or CR).
+    struct Line {
+        std::size_t start;
+        std::size_t end;
+    };
+
+    explicit SourceText(std::string_view text);
+
+    std::string_view text() const { return text_; }
+    const std::vector<Line>& lines() const { return lines_; }
+
+    /// The place of the bytes from `from` to before `to`, as far as they stand on the line of
+    /// `from`. It costs no more in a long line than in a short one.
+    Place place(std::size_t from, std::size_t to) const;
+
+    /// The place of a part of the text: `part` must be a view into it.
+    Place placeOf(std::string_view part) const {
+        const auto from = static_cast<std::size_t>(part.data() - text_.data());
+        return place(from, from + part.size());
+    }
+
+private:
+    // A character's beginning, and how many characters are before it.
+    struct Mark {
+        std::size_t position;
+        std::size_t characters;
+    };
+
+    std::size_t charactersBefore(std::size_t position) const;
+
+    std::string_view text_;
+    std::vector<Line> lines_;
+    // One every so many bytes; none where all characters are one byte.
+    std::vector<Mark> marks_;
+};
+
+}  // namespace quorvane

@@ -1,0 +1,82 @@
+#include "quorvane/base/text/TextOutput.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <limits>
+#include <string>
+
+namespace quorvane {
+namespace {
+
+TEST(TextOutput, AppendsPiecesInOrderBehindWhatIsThere) {
+    std::string text = "before ";
+    TextOutput output(text);
+
+    output << "a" << std::string_view("b") << std::string_view() << std::string("c");
+    output.flush();
+
+    EXPECT_EQ(text, "before abc");
+}
+
+TEST(TextOutput, HandsNothingOnBeforeItIsFlushed) {
+    std::string text;
+    TextOutput output(text);
+
+    output << "a";
+
+    EXPECT_EQ(text, "");
+}
+
+TEST(TextOutput, HandsEveryPieceOnOnce) {
+    std::string text;
+    TextOutput output(text);
+
+    output << "a";
+    output.flush();
+    output.flush();
+
+    EXPECT_EQ(text, "a");
+}
+
+TEST(TextOutput, WritesNumbersInDecimal) {
+    std::string text;
+    TextOutput output(text);
+
+    output << std::int32_t{0} << " " << std::int32_t{-1} << " "
+           << std::numeric_limits<std::int32_t>::max() << " "
+           << std::numeric_limits<std::int32_t>::min();
+    output.flush();
+
+    EXPECT_EQ(text, "0 -1 2147483647 -2147483648");
+}
+
+TEST(TextOutput, TakesPiecesOfAnyLength) {
+    for (const std::size_t length : {1U, 8191U, 8192U, 8193U, 100000U}) {
+        std::string text;
+        TextOutput output(text);
+        const std::string piece(length, 'x');
+
+        output << "(" << piece << ")" << piece;
+        output.flush();
+
+        EXPECT_EQ(text, "(" + piece + ")" + piece) << length;
+    }
+}
+
+TEST(TextOutput, KeepsTheOrderWhenPiecesFillTheBuffer) {
+    std::string text;
+    TextOutput output(text);
+    std::string expected;
+
+    for (std::int32_t i = 0; i < 10000; ++i) {
+        output << i << ",";
+        expected += std::to_string(i) + ",";
+    }
+    output.flush();
+
+    EXPECT_EQ(text, expected);
+}
+
+}  // namespace
+}  // namespace quorvane

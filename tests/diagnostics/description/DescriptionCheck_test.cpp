@@ -1,0 +1,245 @@
+#include "quorvane/diagnostics/description/DescriptionCheck.h"
+
+#include <gmock/gmock.h>
+
+#include <string>
+#include <vector>
+
+#include "quorvane/diagnostics/engine/diagnosticRules.h"
+
+namespace quorvane {
+namespace {
+
+using testing::ElementsAre;
+using testing::EndsWith;
+using testing::StartsWith;
+
+/// The findings, each as its line, its identifier and its hint.
+std::vector<std::string> found(const std::string& text) {
+    std::vector<std::string> list;
+    for (const Diagnostic& finding : checkDescription(text)) {
+        list.push_back(std::to_string(finding.place.line) + " " +
+                       std::string(diagnosticRule(finding.id).identifier) +
+                       (finding.hint.empty() ? "" : ": " + finding.hint));
+    }
+    return list;
+}
+
+TEST(DescriptionCheck, TellsOfProseOnlyThatItIsNoDescription) {
+    EXPECT_THAT(found("Dear Sir,\nyours\n"),
+                ElementsAre("1 wrong-file-type: a description begins with (doc and ends with "
+                            "doc)"));
+    EXPECT_THAT(found(""), ElementsAre("1 wrong-file-type: a description begins with (doc and ends "
+                                       "with doc)"));
+}
+
+TEST(DescriptionCheck, KnowsTheMarkOfUtf8) {
+    EXPECT_EQ(found("\xC3\xAF\xC2\xBB\xC2\xBF(doc\n(r\n(c\nc)\nr)\ndoc)\n").front(),
+              "1 wrong-root: the file begins with a mark of UTF-8: save it in Windows-1252");
+}
+
+TEST(DescriptionCheck, GoesOnBehindTheMarkOfUtf8) {
+    for (const char* between : {"", "\n", "; mine\n", " "}) {
+        const std::vector<std::string> findings =
+            found("\xC3\xAF\xC2\xBB\xC2\xBF" + std::string(between) +
+                  "(doc\n(r\n(c\n(p\n(pt=a)\n(pa=centre)\np)\nc)\nr)\ndoc)\n");
+        ASSERT_EQ(findings.size(), 2U) << between;
+        EXPECT_THAT(findings[0], StartsWith("1 wrong-root: the file begins with a mark of UTF-8"));
+        EXPECT_THAT(findings[1], EndsWith(" wrong-alignment: did you mean centered?"));
+    }
+}
+
+TEST(DescriptionCheck, TellsEachCharacterThatBecomesAQuestionMark) {
+    // A host's text, which is in UTF-8 and read as such.
+    const std::vector<Diagnostic> findings = checkDescription(
+        "(doc\n(r\n(c\n(p\n(pt=\xE2\x86\x92\xE2\x86\x92)\np)\nc)\nr)\ndoc)\n", nullptr);
+    ASSERT_EQ(findings.size(), 2U);
+    for (const Diagnostic& finding : findings) {
+        EXPECT_EQ(finding.message,
+                  "The code page has no place for \xE2\x86\x92, which becomes a question mark.");
+    }
+}
+
+TEST(DescriptionCheck, NamesUtf16) {
+    const std::string mark = "\xC3\xBF\xC3\xBE";
+    const std::string doc("(\0d\0o\0c\0\n\0", 10);
+    for (const std::string& text : {mark + doc, doc, '\0' + doc}) {
+        EXPECT_THAT(
+            found(text),
+            ElementsAre("1 wrong-file-type: the file is in UTF-16: save it in Windows-1252"));
+    }
+}
+
+TEST(DescriptionCheck, KnowsTheWaysOfOtherLanguages) {
+    EXPECT_THAT(
+        found("(doc\n(row)\n(cell)\n(paragraph\n(text=a)\n</para>\n(/cell)\nrow)\ndoc)\n"),
+        ElementsAre("2 wrong-syntax: (row opens the node and row) closes it",
+                    "3 wrong-syntax: (cell opens the node and cell) closes it",
+                    "4 wrong-syntax: did you mean (para?",
+                    "5 wrong-keyword: did you mean para-text?",
+                    "6 wrong-syntax: did you mean para)?", "7 wrong-syntax: did you mean cell)?"));
+}
+
+TEST(DescriptionCheck, TakesATextThatGoesOnForOneMistake) {
+    EXPECT_THAT(found("(doc\n(r\n(c\n(p\n(pt=one\ntwo\nthree)\n(ps=x)\np)\nc)\nr)\ndoc)\n"),
+                ElementsAre("5 wrong-syntax: the ) is missing; a value ends on its own line: write "
+                            "\\line for a line break"));
+}
+
+TEST(DescriptionCheck, KnowsWhatWasMeantByAWrongLine) {
+    EXPECT_THAT(
+        found("(doc\n(r x\n(cel\n(p\npt=a)\n(pt=b) c)\np\np)\nprra)\nc) c\nr)\ndoc)\n"),
+        ElementsAre("2 wrong-syntax: nothing but a comment behind ; follows (r",
+                    "3 wrong-syntax: did you mean (cell?", "5 wrong-syntax: did you mean (pt=a)?",
+                    "6 wrong-syntax: the value ends at the first ): write \\'29 for a ) in "
+                    "a text",
+                    "6 duplicate-leaf: para-text stands on line 5 already",
+                    "7 wrong-syntax: did you mean (p or p)?", "9 wrong-syntax: did you mean para)?",
+                    "10 wrong-syntax: nothing but a comment behind ; follows c)"));
+}
+
+TEST(DescriptionCheck, KnowsLinesThatHoldTooMuch) {
+    EXPECT_THAT(found("(doc\n(r\n(c\n(p\n(pt=x) (ps=y)\np)\n(p (pt=x) p)\nc)\nr)\ndoc)\n"),
+                ElementsAre("5 wrong-syntax: each node and each key stands on a line of its own",
+                            "7 wrong-syntax: each node and each key stands on a line of its own"));
+}
+
+TEST(DescriptionCheck, KnowsCloserThatAreNotWhole) {
+    EXPECT_THAT(found("(doc\n(row\n(c\n(p\n(pt=x)\n)\n) ; cell\nrow )\ndoc)\n"),
+                ElementsAre("6 wrong-syntax: did you mean p)?", "7 wrong-syntax: did you mean c)?",
+                            "8 wrong-syntax: did you mean row)?"));
+}
+
+TEST(DescriptionCheck, KnowsOtherWaysToWriteKeysAndComments) {
+    EXPECT_THAT(found("(doc\n# a=b\n// note\n(r\n(c\n(p\n(pt: x)\np)\n(p\n(para-text : x: y)\np)\n"
+                      "c)\nr)\ndoc)\n"),
+                ElementsAre("2 wrong-syntax: a comment begins with ;",
+                            "3 wrong-syntax: a comment begins with ;",
+                            "7 wrong-syntax: did you mean (pt=x)?",
+                            "10 wrong-syntax: did you mean (para-text=x: y)?"));
+}
+
+TEST(DescriptionCheck, KnowsValuesInQuotationMarksAndNumbersWithAComma) {
+    EXPECT_THAT(
+        found("(doc\n(top-margin=1,000)\n(left-margin=1,2,3)\n(bottom-margin=12,)\n(r\n(rb=\"red\")"
+              "\n(rtb='Thin')\n(c\n"
+              "(cw=12,5)\n(ca=\"\")\nc)\nr)\ndoc)\n"),
+        ElementsAre("2 not-a-number: a number has no comma: write 1000, or 1.000",
+                    "3 not-a-number: a number has no comma, but at most one point: write a number "
+                    "of twips, 1440 of which are an inch and 567 a centimeter",
+                    "4 not-a-number: a number has no comma, but at most one point: write a number "
+                    "of twips, 1440 of which are an inch and 567 a centimeter",
+                    "6 wrong-color: did you mean red?", "7 wrong-border: did you mean thin?",
+                    "9 not-a-number: a number has no comma: write 12.5", "10 wrong-alignment"));
+}
+
+TEST(DescriptionCheck, KnowsNumbersInQuotationMarks) {
+    EXPECT_THAT(found("(doc\n(r\n(c\n(cw=\"50\")\nc)\nr)\ndoc)\n"),
+                ElementsAre("4 not-a-number: write the number without quotation marks: 50"));
+}
+
+TEST(DescriptionCheck, NamesTheOpenersThatAreMissing) {
+    EXPECT_THAT(found("(doc\n(r\n(p\n(pt=x)\np)\nr)\ndoc)\n"),
+                testing::Contains("3 outside-document: (c is missing before it"));
+    EXPECT_THAT(found("(doc\n(cell\ncell)\ndoc)\n"),
+                testing::Contains("2 outside-document: (row is missing before it"));
+    EXPECT_THAT(found("(doc\n(r\n(c\nc)\nr)\n(p\n(pt=x)\np)\ndoc)\n"),
+                testing::Contains("6 outside-document: (r and (c are missing before it"));
+    EXPECT_THAT(found("(doc\n(r\n(c\nc)\nr)\ndoc)\n(x=1)\ndoc)\n"),
+                testing::Contains("7 outside-document"));
+}
+
+TEST(DescriptionCheck, ComparesNoWidthsOnAPageTooNarrowForNumbers) {
+    EXPECT_THAT(found("(doc\n(paper-width=-2147483648)\n(r\n(c\n(p\n(pt=a)\np)\nc)\n(c\nc)\nr)\n"
+                      "doc)\n"),
+                ElementsAre("2 no-room"));
+}
+
+TEST(DescriptionCheck, TellsWhatToDoWithAParenthesisInAValue) {
+    EXPECT_THAT(found("(doc\n(r\n(c\n(cs=a (b); c)\n(p\n(pt=a (b); c)\np)\nc)\nr)\ndoc)\n"),
+                ElementsAre("4 cut-value: this value can hold no )",
+                            "6 cut-value: write \\'29 for a ) in a text"));
+    EXPECT_THAT(found("(doc\n(r\n(c\n(p\n(pt=a (b\\'29 c) ; (d)\np)\nc)\nr)\ndoc)\n"),
+                ElementsAre());
+}
+
+TEST(DescriptionCheck, TellsOfEveryWidthThatTheTableCannotHold) {
+    EXPECT_THAT(found("(doc\n(r\n(c\n(cw=2000000000)\nc)\n(c\n(cw=-2000000000)\nc)\n(c\n(cw=20)\n"
+                      "c)\nr)\ndoc)\n"),
+                ElementsAre("4 overflow", "7 overflow"));
+}
+
+TEST(DescriptionCheck, TellsOfNoMoreThanTwentyWidthsThatTheTableCannotHold) {
+    std::string cells;
+    for (int i = 0; i < 25; ++i) {
+        cells += "(c\n(cw=2000000000)\nc)\n";
+    }
+    const std::vector<std::string> findings = found("(doc\n(r\n" + cells + "r)\ndoc)\n");
+    ASSERT_EQ(findings.size(), 20u);
+    EXPECT_EQ(findings.front(), "4 overflow");
+    EXPECT_EQ(findings.back(), "61 overflow");
+}
+
+TEST(DescriptionCheck, KnowsTheLongNameOfADocument) {
+    EXPECT_THAT(found("(document\n(r\n(c\nc)\nr)\ndoc)\n").front(),
+                testing::HasSubstr("did you mean (doc?"));
+}
+
+TEST(DescriptionCheck, TakesAFieldWithoutInstructionForHarmless) {
+    EXPECT_THAT(found("(doc\n(r\n(c\n(p\n(pt={\\field{\\*\\fldinst { }}{\\fldrslt a}})\np)\nc)\n"
+                      "r)\ndoc)\n"),
+                ElementsAre());
+    EXPECT_THAT(found("(doc\n(r\n(c\n(p\n(pt=a\\fldinst)\np)\nc)\nr)\ndoc)\n"), ElementsAre());
+}
+
+TEST(DescriptionCheck, SaysToWhichNodeAKeyBelongs) {
+    EXPECT_THAT(found("(doc\n(rb=red)\n(r\n(CB=red)\n(c\n(CW=5)\nc)\nr)\ndoc)\n"),
+                ElementsAre("2 wrong-keyword: a key of a row, not of a document",
+                            "4 wrong-keyword: did you mean rb?",
+                            "6 wrong-keyword: keys are written in lower case: cw"));
+}
+
+TEST(DescriptionCheck, CountsColumnsInCharacters) {
+    const std::vector<Diagnostic> findings =
+        checkDescription("(doc\n(r\n(c\n(p\n(pt=\xC3\xA9\xC3\xA9})\np)\nc)\nr)\ndoc)\n");
+    ASSERT_EQ(findings.size(), 1u);
+    EXPECT_EQ(findings[0].place.line, 5);
+    EXPECT_EQ(findings[0].place.column, 7);
+    EXPECT_EQ(findings[0].place.length, 1);
+    EXPECT_EQ(findings[0].place.offset, 20);
+}
+
+TEST(DescriptionCheck, FindsTheCharactersThatTheCodePageCannotHold) {
+    const std::vector<Diagnostic> findings = checkDescription(
+        "(doc\n(r\n(c\n(p\n(pt=\xE2\x86\x92 \xF0\x9F\x98\x80 \xE2\x82\xAC)\np)\nc)\nr)\ndoc)\n");
+    ASSERT_EQ(findings.size(), 2u);
+    EXPECT_EQ(findings[0].id, DiagnosticId::UnencodableCharacter);
+    EXPECT_EQ(findings[0].hint, "write {\\uc1\\u8594?}");
+    EXPECT_EQ(findings[1].id, DiagnosticId::UnencodableCharacter);
+    EXPECT_EQ(findings[1].hint, "");
+}
+
+TEST(DescriptionCheck, KnowsWhatATextBringsAlong) {
+    const auto isEmbedding = [](const std::string& text) {
+        for (const Diagnostic& finding :
+             checkDescription("(doc\n(r\n(c\n(p\n(pt=" + text + ")\np)\nc)\nr)\ndoc)\n")) {
+            if (finding.id == DiagnosticId::EmbeddedContent) {
+                return true;
+            }
+        }
+        return false;
+    };
+    for (const char* text :
+         {"{\\object\\objemb}", "{\\pict\\pngblip 00}", "\\bin3 abc", "{\\*\\template x.dot}",
+          "{\\field{\\*\\fldinst MACROBUTTON x}}", "{\\field{\\*\\fldinst {ddeauto x}}}",
+          "{\\field{\\*\\fldinst HYPERLINK \"c:\\\\x\"}}"}) {
+        EXPECT_TRUE(isEmbedding(text)) << text;
+    }
+    for (const char* text : {"{\\field{\\*\\fldinst PAGE}}", "{\\b x}",
+                             "{\\field{\\*\\fldinst HYPERLINK \"https://a.example\"}}"}) {
+        EXPECT_FALSE(isEmbedding(text)) << text;
+    }
+}
+
+}  // namespace
+}  // namespace quorvane

@@ -1,0 +1,98 @@
+#include "quorvane/diagnostics/description/fileNameCheck.h"
+
+#include <gmock/gmock.h>
+
+#include <string>
+#include <vector>
+
+namespace quorvane {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr auto description = CheckedLanguage::Description;
+constexpr auto styleSheet = CheckedLanguage::StyleSheet;
+constexpr auto rtf = CheckedLanguage::Rtf;
+
+/// The findings, each as its place, its severity, its identifier and its message.
+std::vector<std::string> found(const std::string& bytes, CheckedLanguage language,
+                               const std::string& fileName) {
+    std::vector<std::string> list;
+    for (const Diagnostic& finding : findNameMismatch(bytes, language, fileName)) {
+        list.push_back(std::to_string(finding.place.line) + ":" +
+                       std::to_string(finding.place.column) + " " +
+                       std::string(severityName(finding.severity)) + " " +
+                       std::string(diagnosticRule(finding.id).identifier) + " " + finding.message);
+    }
+    return list;
+}
+
+std::string hintOf(CheckedLanguage language, const std::string& fileName) {
+    const std::vector<Diagnostic> findings = findNameMismatch("x", language, fileName);
+    return findings.empty() ? "" : findings.front().hint;
+}
+
+TEST(FileNameCheck, FindsNothingWhereNameAndContentAgree) {
+    EXPECT_THAT(found("(doc\n", description, "a.rtfspec"), IsEmpty());
+    EXPECT_THAT(found("{ name: a }", styleSheet, "A.RTFSS"), IsEmpty());
+    EXPECT_THAT(found("{\\rtf1 a}", rtf, "a.Rtf"), IsEmpty());
+}
+
+TEST(FileNameCheck, FindsNothingInFilesOfOtherNames) {
+    for (const char* name : {"", "-", "a.txt", "rtfspec", "a.rtfx"}) {
+        EXPECT_THAT(found("(doc\n", description, name), IsEmpty()) << name;
+        EXPECT_THAT(found("{\\rtf1 a}", rtf, name), IsEmpty()) << name;
+    }
+}
+
+TEST(FileNameCheck, FindsWhatADriverRejects) {
+    EXPECT_THAT(found("\n  { name: a }\n", styleSheet, "a.rtfspec"),
+                ElementsAre("2:3 error wrong-file-type The provided file isn't a correct rtfspec "
+                            "file."));
+    EXPECT_THAT(found("{\\rtf1 a}", rtf, "a.RTFSPEC"),
+                ElementsAre("1:1 error wrong-file-type The provided file isn't a correct rtfspec "
+                            "file."));
+}
+
+TEST(FileNameCheck, FindsWhatTheLoadingOfAStyleSheetRejects) {
+    EXPECT_THAT(found("{\\rtf1 a}", rtf, "a.rtfss"),
+                ElementsAre("1:1 error stylesheet-rejected Error while processing "
+                            "stylesheet.\r\n\\rtf1 a is not a valid keyword."));
+}
+
+TEST(FileNameCheck, WarnsOfADescriptionThatIsLoadedAsAStyleSheetWithoutStyles) {
+    EXPECT_THAT(found("; mine\n(doc\n", description, "a.rtfss"),
+                ElementsAre("2:1 warning description-as-stylesheet This is a description, not a "
+                            "stylesheet."));
+}
+
+TEST(FileNameCheck, WarnsOfAnExtensionThatMisleads) {
+    EXPECT_THAT(found("(doc\n", description, "a.rtf"),
+                ElementsAre("1:1 warning wrong-extension This is a description, but its extension "
+                            "is .rtf."));
+    EXPECT_THAT(found("{ name: a }", styleSheet, "a.rtf"),
+                ElementsAre("1:1 warning wrong-extension This is a stylesheet, but its extension "
+                            "is .rtf."));
+    EXPECT_THAT(found("\\rtf1 a", rtf, "a.rtfss"),
+                ElementsAre("1:1 warning wrong-extension This is an RTF file, but its extension is "
+                            ".rtfss."));
+}
+
+TEST(FileNameCheck, PointsToTheBeginningOfAFileThatSaysNothing) {
+    EXPECT_THAT(found("", description, "a.rtf"),
+                ElementsAre("1:1 warning wrong-extension This is a description, but its extension "
+                            "is .rtf."));
+}
+
+TEST(FileNameCheck, TellsTheExtensionThatTheContentHas) {
+    EXPECT_EQ(hintOf(description, "a.rtf"),
+              "the file reads as a description, which has the extension .rtfspec");
+    EXPECT_EQ(hintOf(styleSheet, "a.rtf"),
+              "the file reads as a stylesheet, which has the extension .rtfss");
+    EXPECT_EQ(hintOf(rtf, "a.rtfss"),
+              "the file reads as an RTF file, which has the extension .rtf");
+}
+
+}  // namespace
+}  // namespace quorvane

@@ -1,0 +1,95 @@
+// The table of diagnostics as a whole.
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "quorvane/diagnostics/description/DescriptionCheck.h"
+#include "quorvane/diagnostics/engine/DiagnosticEngine.h"
+#include "quorvane/diagnostics/engine/diagnosticRules.h"
+#include "tests/diagnostics/randomDescriptions.h"
+
+namespace quorvane {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::HasSubstr;
+
+std::string sourcesOfTheChecks() {
+    std::string all;
+    for (const auto& entry :
+         fs::recursive_directory_iterator(fs::path(QUORVANE_SOURCE_FOLDER) / "quorvane")) {
+        if (entry.path().extension() == ".cpp") {
+            all += bytesOf(entry.path());
+        }
+    }
+    return all;
+}
+
+std::vector<std::string> enumerators() {
+    return {
+#define QUORVANE_DIAGNOSTIC(id, ...) #id,
+#include "quorvane/diagnostics/engine/diagnosticTable.h"
+    };
+}
+
+TEST(DiagnosticTable, HasNoIdentifierThatNothingUses) {
+    const std::string sources = sourcesOfTheChecks();
+    for (const std::string& name : enumerators()) {
+        const std::string used = "DiagnosticId::" + name;
+        std::size_t at = sources.find(used);
+        const auto isWhole = [&] {
+            const char next = sources[at + used.size()];
+            return std::isalnum(static_cast<unsigned char>(next)) == 0;
+        };
+        while (at != std::string::npos && !isWhole()) {
+            at = sources.find(used, at + 1);
+        }
+        EXPECT_NE(at, std::string::npos) << name;
+    }
+}
+
+TEST(DiagnosticTable, NamesEachKindOnceAndInLowerCase) {
+    std::set<std::string_view> names;
+    for (const DiagnosticRule& rule : diagnosticRules()) {
+        EXPECT_TRUE(names.insert(rule.identifier).second) << rule.identifier;
+        EXPECT_EQ(rule.identifier.find_first_not_of("abcdefghijklmnopqrstuvwxyz-8"),
+                  std::string_view::npos)
+            << rule.identifier;
+        EXPECT_EQ(findDiagnosticRule(rule.identifier), &rule);
+        EXPECT_EQ(&diagnosticRule(rule.id), &rule);
+        EXPECT_FALSE(rule.explanation.empty());
+        EXPECT_EQ(rule.wrong.empty(), rule.right.empty());
+    }
+    EXPECT_EQ(findDiagnosticRule("no-such-thing"), nullptr);
+}
+
+TEST(DiagnosticTable, RepeatsLinesOfExamples) {
+    EXPECT_EQ(expandedExample("a\n; 3 times:\nb\nc\n; so far\nd\n"), "a\nb\nc\nb\nc\nb\nc\nd\n");
+    EXPECT_EQ(expandedExample("; three times:\na\n"), "; three times:\na\n");
+    EXPECT_EQ(expandedExample(""), "");
+}
+
+TEST(DiagnosticEngine, PutsArgumentsIntoTheirPlaces) {
+    EXPECT_EQ(withArguments("{1} on {0}, { }", {"red", "blue"}), "blue on red, { }");
+}
+
+TEST(DiagnosticEngine, KnowsWhetherThereWasAnError) {
+    std::vector<Diagnostic> findings;
+    DiagnosticEngine engine([&](Diagnostic finding) { findings.push_back(std::move(finding)); });
+    engine.report(DiagnosticId::EmptyText, {});
+    EXPECT_FALSE(engine.hasErrors());
+    engine.report(DiagnosticId::WrongColor, {3, 5, 7, 20}, {"crimson"}, "did you mean dark-red?");
+    EXPECT_TRUE(engine.hasErrors());
+    EXPECT_EQ(findings.at(1).message, "crimson isn't a recognized color.");
+    EXPECT_EQ(findings.at(1).severity, Severity::Error);
+    EXPECT_EQ(findings.at(1).hint, "did you mean dark-red?");
+    EXPECT_EQ(findings.at(1).place.line, 3);
+}
+
+}  // namespace
+}  // namespace quorvane
