@@ -123,14 +123,14 @@ Json message(std::string_view text) {
 Json rules() {
     Json list = Json::array();
     for (const DiagnosticRule& rule : diagnosticRules()) {
-        const std::string explained = messageText(rule.explanation) +
+        const std::string explained = messageText(explanationOf(rule)) +
                                       " See `quorvane check --explain " +
                                       std::string(rule.identifier) + "` for examples.";
         list.push_back(
             {{"id", rule.identifier},
              {"name", ruleName(rule.identifier)},
              {"shortDescription", message(ruleTitle(rule))},
-             {"fullDescription", message(rule.explanation)},
+             {"fullDescription", message(explanationOf(rule))},
              {"help", {{"text", explained}, {"markdown", explained}}},
              {"defaultConfiguration",
               {{"enabled", !isOffByDefault(rule.id)}, {"level", severityName(rule.severity)}}}});
