@@ -7,6 +7,7 @@
 #include "cli/RenderOptions.h"
 #include "cli/fileFailure.h"
 #include "cli/process.h"
+#include "quorvane/base/platform/fileReplacement.h"
 #include "quorvane/base/values/RtfError.h"
 
 namespace quorvane::cli {
@@ -24,7 +25,11 @@ std::string CommandPlatform::readFile(const std::string& path) {
 }
 
 std::unique_ptr<OutputFile> CommandPlatform::createFile(const std::string& path) {
-    return path == standardStream ? openStandardOutput() : openReplacement(path);
+    return path == standardStream ? openStandardOutput() : replaceFile(path);
+}
+
+std::unique_ptr<OutputFile> CommandPlatform::replaceFile(const std::string& path) {
+    return openReplacement(path, unfinishedFileWatch());
 }
 
 const std::string& CommandPlatform::styleSheetBytes() const {
@@ -35,11 +40,11 @@ std::string CommandPlatform::readOtherFile(const std::string& path) {
     try {
         return files_.readFile(path);
     } catch (RtfError& error) {
-        // This number alone stands for several obstacles.
-        if (error.is(RunTimeError::PathFileAccessError) && !error.cause) {
-            if (const std::error_code why = whyUnreadable(path)) {
-                error.cause = std::make_shared<RtfError>(why.value(), why.message());
-            }
+        // This number alone stands for several obstacles; any other says enough by itself.
+        if (!error.is(RunTimeError::PathFileAccessError)) {
+            error.cause = nullptr;
+        } else if (const std::error_code why = whyUnreadable(path)) {
+            error.cause = std::make_shared<RtfError>(why.value(), why.message());
         }
         raise(std::move(error));
     }

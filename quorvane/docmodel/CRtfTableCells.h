@@ -1,14 +1,10 @@
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
-#include <string>
 #include <string_view>
 
-#include "quorvane/base/memory/Ref.h"
 #include "quorvane/docmodel/CRtfTableCell.h"
 #include "quorvane/docmodel/TableCollection.h"
-#include "quorvane/docmodel/references.h"
 
 namespace quorvane {
 
@@ -16,15 +12,15 @@ namespace quorvane {
 ///
 /// Every insertion spreads the cells evenly over the usable width of the page as it is then, and so
 /// forgets all widths that were set before (error 6 when an edge leaves 32 bits). When a cell is
-/// removed, its left neighbour takes over its right edge, unless it was the first or just one cell
+/// removed, its left neighbor takes over its right edge, unless it was the first or just one cell
 /// is left; the other edges stay.
 ///
-/// Who holds the collection does not hold the row. When the row is gone, the collection is empty
-/// and has no `Parent`; what would change it raises error 91.
+/// A reference to the collection does not hold the row. When the row is gone, the collection is
+/// empty and has no `Parent`; what would change it raises error 91.
 class CRtfTableCells : public TableCollection<CRtfTableCells, CRtfTableCell> {
 public:
-    /// The owning row; Nothing when it is gone.
-    Ref<CRtfTableRow> Parent() const { return Ref<CRtfTableRow>(isAlive(&row_) ? &row_ : nullptr); }
+    /// The owning row; null when it is gone.
+    Ref<CRtfTableRow> Parent() const;
 
     /// Removes the last cell. Error 5 when there is none.
     void removeTail();
@@ -38,46 +34,14 @@ public:
     /// it is not in the list.
     std::int32_t indexOf(const CRtfTableCell* cell) const;
 
-    /// Puts a new cell with this key, and with the ground, the borders, the width and the
-    /// paragraphs of the old one, in its place, and answers it. Errors: 5 the old cell is not in
+    /// Puts a new cell with this key, and with the background, the borders, the width and the
+    /// paragraphs of the old one, in its place, and returns it. Errors: 5 the old cell is not in
     /// the list, 457 the key is there already, the old cell's own included.
     Ref<CRtfTableCell> refile(const Ref<CRtfTableCell>& old, std::string_view key);
 
-private:
-    friend class TableCollection;
-    friend class CRtfTableRow;
-    friend void retain(CRtfTableCells* cells) noexcept;
-    friend void release(CRtfTableCells* cells) noexcept;
-    friend std::int32_t cellWidth(const CRtfTableRow& row, const CRtfTableCell& cell,
-                                  tWidthUnit units);
-    friend void setCellWidth(CRtfTableRow& row, CRtfTableCell& cell, tWidthUnit units,
-                             std::int32_t width);
-
-    explicit CRtfTableCells(CRtfTableRow& row) : row_(row) {}
-
-    TableDocument* document() const noexcept { return isAlive(&row_) ? documentOf(row_) : nullptr; }
-    void insertNew(const List::Place& place, TableDocument& document);
-    void removeAt(std::size_t position) noexcept;
-    void takeFrom(CRtfTableCells& other);
-    void spread(std::int32_t uniformWidth) noexcept;
-    std::int32_t rightEdge(std::size_t position) const noexcept;
-    void setRightEdge(std::size_t position, std::int32_t edge) noexcept;
-    void writeEdges() noexcept;
-    std::int32_t width(std::size_t position) const;
-    std::int32_t widthOf(const CRtfTableCell& cell, tWidthUnit units) const;
-    void setWidthOf(const CRtfTableCell& cell, tWidthUnit units, std::int32_t value);
-    void render(TableRendering& rendering);
-
-    CRtfTableRow& row_;
-    // Once the cells are spread evenly, their edges follow from this width and their positions and
-    // are not written into the cells, so that adding a cell does not touch the others. 0 when all
-    // edges stand in the cells.
-    std::int32_t uniformWidth_ = 0;
-    // Cells removed at the head since the cells were spread: the edges of the others stay.
-    std::int32_t removedHeads_ = 0;
-    // How often the cells were spread. An edge that stands in a cell bears the number of its
-    // spread.
-    std::uint32_t spreads_ = 0;
+protected:
+    CRtfTableCells() = default;
+    ~CRtfTableCells() = default;
 };
 
 }  // namespace quorvane

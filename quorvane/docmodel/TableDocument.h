@@ -26,7 +26,7 @@ public:
     virtual std::string_view GetParagraphStyle(std::string_view sName) const = 0;
     /// Control words of the named character style, or nothing.
     virtual std::string_view GetCharacterStyle(std::string_view sName) const = 0;
-    /// Number of the colour that the named cell style declares, or 0.
+    /// Number of the color that the named cell style declares, or 0.
     virtual std::int32_t cellStyleColor(std::string_view sName) const = 0;
     /// A text for a style's name that shares its characters with equal names set lately.
     virtual SharedText sharedName(std::string_view sName) = 0;
@@ -40,17 +40,19 @@ private:
     friend void retainWeak(TableDocument* document) noexcept;
     friend void releaseWeak(TableDocument* document) noexcept;
     friend bool isAlive(const TableDocument* document) noexcept;
-    friend void retain(CRtfDoc* document) noexcept;
-    friend void release(CRtfDoc* document) noexcept;
+    friend void retainDocument(TableDocument& document) noexcept;
+    friend void releaseDocument(TableDocument& document) noexcept;
     friend class CountedOwner;
 
     // Called when the last reference goes: the groups are destroyed.
-    virtual void letGo() noexcept = 0;
+    virtual void releaseContents() noexcept = 0;
 
     CountedOwner counts_;
     MemoryPool pool_;
 };
 
+void retainDocument(TableDocument& document) noexcept;
+void releaseDocument(TableDocument& document) noexcept;
 void retainWeak(TableDocument* document) noexcept;
 void releaseWeak(TableDocument* document) noexcept;
 bool isAlive(const TableDocument* document) noexcept;

@@ -12,9 +12,10 @@
 #include "quorvane/driver/DescriptionReader.h"
 #include "quorvane/driver/DescriptionTree.h"
 #include "quorvane/driver/DocumentBuilder.h"
+#include "quorvane/driver/Vocabulary.h"
 #include "quorvane/driver/driverErrors.h"
 #include "quorvane/support/GFileSystem.h"
-#include "quorvane/support/currentError.h"
+#include "quorvane/support/published.h"
 #include "quorvane/support/recordStrings.h"
 
 namespace quorvane {
@@ -45,11 +46,11 @@ void requireDocAround(const std::vector<SourceLine>& lines) {
 }  // namespace
 
 void retain(CRtfDriver* driver) noexcept {
-    driver->counts_.retain();
+    ++driver->references_;
 }
 
 void release(CRtfDriver* driver) noexcept {
-    if (driver->counts_.release()) {
+    if (--driver->references_ == 0) {
         delete driver;
     }
 }
@@ -62,25 +63,25 @@ CRtfDriver::CRtfDriver(Platform& platform)
     : platform_(platform), document_(CRtfDoc::create(platform)) {}
 
 void CRtfDriver::ParseFile(const std::string& sPath) {
-    clearCurrentError();
-    if (sPath.empty()) {
-        raise(driverError(eWrongPath, "Path is empty!", parseFileSource));
-    }
-    std::string text;
-    try {
-        text = platform_.readFile(sPath);
-        if (asciiRunEnd(text, 0) < text.size()) {
-            text = utf8FromCodePage1252(text);
+    published([&] {
+        if (sPath.empty()) {
+            raise(driverError(eWrongPath, "Path is empty!", parseFileSource));
         }
-    } catch (const RtfError& error) {
-        raise(unreadableDescription(sPath, error));
-    }
-    AnalyseData(text);
+        std::string text;
+        try {
+            text = platform_.readFile(sPath);
+            if (asciiRunEnd(text, 0) < text.size()) {
+                text = utf8FromCodePage1252(text);
+            }
+        } catch (const RtfError& error) {
+            raise(unreadableDescription(sPath, error));
+        }
+        AnalyseData(text);
+    });
 }
 
 void CRtfDriver::ParseFromMemmory(std::string_view sBuffer) {
-    clearCurrentError();
-    AnalyseData(sBuffer);
+    published([&] { AnalyseData(sBuffer); });
 }
 
 void CRtfDriver::LoadStyleSheetFromMemmory(std::string_view sBuffer) {
@@ -92,19 +93,20 @@ void CRtfDriver::setNotifyErrorHandler(NotifyErrorHandler handler) {
 }
 
 void CRtfDriver::setStyleSheetFile(const std::string& sName) {
-    clearCurrentError();
-    const bool isStyleSheet = lowerCase(GFileSystem::getFileExtension(sName)) == "rtfss";
-    if (!isStyleSheet || sName == StyleSheetFile()) {
-        return;
-    }
-    try {
-        document_->setStyleSheetFile(sName);
-    } catch (const RtfError& error) {
-        RtfError refused = driverError(eWrongFileType, sName + " isn't a valid stylesheet.",
-                                       "CRtfDriver.StyleSheetFile");
-        refused.cause = std::make_shared<RtfError>(error);
-        raise(std::move(refused));
-    }
+    published([&] {
+        const bool isStyleSheet = lowerCase(GFileSystem::getFileExtension(sName)) == "rtfss";
+        if (!isStyleSheet || sName == StyleSheetFile()) {
+            return;
+        }
+        try {
+            document_->setStyleSheetFile(sName);
+        } catch (const RtfError& error) {
+            RtfError refused = driverError(eWrongFileType, sName + " isn't a valid stylesheet.",
+                                           "CRtfDriver.StyleSheetFile");
+            refused.cause = std::make_shared<RtfError>(error);
+            raise(std::move(refused));
+        }
+    });
 }
 
 void CRtfDriver::setAbsorbedErrorObserver(GError::Observer observer) {
@@ -112,8 +114,9 @@ void CRtfDriver::setAbsorbedErrorObserver(GError::Observer observer) {
 }
 
 void CRtfDriver::AnalyseData(std::string_view text) {
-    // A handler of the event may let go of the driver.
+    // A handler of the event may release the driver.
     const Ref<CRtfDriver> self(this);
+    const Vocabulary vocabulary;
     std::vector<SourceLine> lines;
     document_->ClearStructure();
     step([&] {
@@ -137,13 +140,13 @@ void CRtfDriver::AnalyseData(std::string_view text) {
     }
     // Of the lines of a description about half are leaves; the others open and close nodes.
     DescriptionTree tree(lines.size() / 2);
-    step([&] { DescriptionReader(vocabulary_).treeWalkerBuild(tree, lines); });
+    step([&] { DescriptionReader(vocabulary).treeWalkerBuild(tree, lines); });
     if (erroneousInput_) {
-        const DescriptionChecks checks(vocabulary_);
+        const DescriptionChecks checks(vocabulary);
         step([&] { checks.docWalkerSyntax(tree.root().child(docNumber)); });
         step([&] { checks.treeWalkerSemantic(tree.root().child(docNumber), NodeKind::Doc); });
     }
-    step([&] { DocumentBuilder(*document_, vocabulary_).build(tree.root().child(docNumber)); });
+    step([&] { DocumentBuilder(*document_, vocabulary).build(tree.root().child(docNumber)); });
 }
 
 template <class Body>
@@ -156,11 +159,11 @@ void CRtfDriver::step(Body&& body) {
 }
 
 void CRtfDriver::report(const RtfError& error) {
+    setCurrentError(error);
     if (notifyError_ && handler_) {
-        setCurrentError(error);
         // The handler may put another one in its place.
         const NotifyErrorHandler handler = handler_;
-        handler(*this);
+        handler(*this, error);
     }
 }
 

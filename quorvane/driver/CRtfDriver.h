@@ -1,14 +1,14 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
 
-#include "quorvane/base/memory/Counted.h"
 #include "quorvane/base/memory/Ref.h"
 #include "quorvane/base/platform/Platform.h"
+#include "quorvane/base/values/RtfError.h"
 #include "quorvane/docmodel/CRtfDoc.h"
-#include "quorvane/driver/Vocabulary.h"
 #include "quorvane/support/GError.h"
 
 namespace quorvane {
@@ -25,12 +25,12 @@ void release(CRtfDriver* driver) noexcept;
 /// it.
 class CRtfDriver {
 public:
-    /// The event `notifyError`: called with the driver for every error of an analysis. The error is
-    /// the thread's current one (see `currentError`), its `line` the line of the description that
-    /// it concerns. The handler may use the driver and its document in any way: the analysis goes
-    /// on with what it leaves, also when it lets go of the driver or ran an analysis of its own. An
-    /// exception that it throws ends the analysis and reaches its caller.
-    using NotifyErrorHandler = std::function<void(CRtfDriver& Sender)>;
+    /// The event `notifyError`: called with the driver for every error of an analysis, which is
+    /// also the thread's current one (see `currentError`). Its `line` is the line of the
+    /// description that it concerns. The handler may use the driver and its document in any way:
+    /// the analysis goes on with what it leaves, also when it releases the driver or ran an
+    /// analysis of its own. An exception that it throws ends the analysis and reaches its caller.
+    using NotifyErrorHandler = std::function<void(CRtfDriver& Sender, const RtfError& error)>;
 
     /// A new driver with an empty document. The platform must outlive it.
     static Ref<CRtfDriver> create(Platform& platform = systemPlatform());
@@ -91,10 +91,9 @@ private:
     void step(Body&& body);
     void report(const RtfError& error);
 
-    Counted counts_;
+    std::uint32_t references_ = 0;
     Platform& platform_;
     Ref<CRtfDoc> document_;
-    Vocabulary vocabulary_;
     NotifyErrorHandler handler_;
     bool erroneousInput_ = false;
     bool notifyError_ = true;

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "quorvane/base/platform/Platform.h"
+#include "quorvane/base/platform/Files.h"
 #include "quorvane/rtfgroups/GroupOwner.h"
 #include "quorvane/stylesheet/StyleAnswers.h"
 #include "quorvane/stylesheet/StyleList.h"
@@ -19,8 +19,7 @@ namespace quorvane {
 /// fail.
 class CRtfGrpStyleSheetTable {
 public:
-    CRtfGrpStyleSheetTable(GroupOwner& owner, Platform& platform)
-        : owner_(owner), platform_(platform) {}
+    CRtfGrpStyleSheetTable(GroupOwner& owner, Files& files) : owner_(owner), files_(files) {}
 
     /// Name of the stylesheet's file; empty when the styles come from a text.
     const std::string& StyleSheetFile() const { return fileName_; }
@@ -71,7 +70,7 @@ private:
     void file(const StyleDefinition& definition);
 
     GroupOwner& owner_;
-    Platform& platform_;
+    Files& files_;
     std::string fileName_;
     bool loaded_ = false;
     bool characterWordsHoldTokens_ = false;

@@ -47,18 +47,18 @@ public:
     std::int32_t number;
     /// What went wrong, for a person.
     std::string description;
-    /// The procedure that failed; empty when none is told.
+    /// The procedure that failed; empty when it is not known.
     std::string source;
     /// The 1-based line of the description text that the error concerns; 0 when there is none.
     int line = 0;
-    /// The error that lies behind this one; null when there is none.
+    /// The error that caused this one, such as the system's; null when there is none.
     std::shared_ptr<const RtfError> cause;
 };
 
-/// Makes the error the thread's current error and throws it.
+/// Throws the error.
 [[noreturn]] void raise(RtfError error);
 
-/// Raises the run-time error with its standard description.
+/// Throws the run-time error with its standard description.
 [[noreturn]] void raise(RunTimeError number);
 
 }  // namespace quorvane

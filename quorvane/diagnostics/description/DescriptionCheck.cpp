@@ -13,7 +13,6 @@
 #include "quorvane/diagnostics/engine/SourceText.h"
 #include "quorvane/diagnostics/engine/ignoreComments.h"
 #include "quorvane/driver/CRtfDriver.h"
-#include "quorvane/support/currentError.h"
 
 namespace quorvane {
 
@@ -36,7 +35,8 @@ std::vector<RtfError> driverErrorsOf(std::string_view text) {
     std::vector<RtfError> errors;
     const Ref<CRtfDriver> driver = CRtfDriver::create(platform);
     driver->setErroneousInput(true);
-    driver->setNotifyErrorHandler([&](CRtfDriver&) { errors.push_back(*currentError()); });
+    driver->setNotifyErrorHandler(
+        [&](CRtfDriver&, const RtfError& error) { errors.push_back(error); });
     driver->ParseFromMemmory(text);
     driver->setNotifyErrorHandler({});
     return errors;

@@ -82,7 +82,7 @@ class Judgement : public testing::Test {
 protected:
     Judgement() {
         driver->setErroneousInput(true);
-        driver->setNotifyErrorHandler([this](CRtfDriver&) { rejected = true; });
+        driver->setNotifyErrorHandler([this](CRtfDriver&, const RtfError&) { rejected = true; });
     }
     ~Judgement() override { driver->setNotifyErrorHandler({}); }
 

@@ -404,7 +404,7 @@ TEST(RtfCheck, FindsNothingInTheDocumentsOfGeneratedDescriptions) {
         const std::string text = random.description();
         bool isRejected = text.find_first_of("{}\\") != std::string::npos;
         driver->setErroneousInput(true);
-        driver->setNotifyErrorHandler([&](CRtfDriver&) { isRejected = true; });
+        driver->setNotifyErrorHandler([&](CRtfDriver&, const RtfError&) { isRejected = true; });
         driver->ParseFromMemmory(text);
         if (!isRejected) {
             ++sound;
