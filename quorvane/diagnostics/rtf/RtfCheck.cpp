@@ -163,7 +163,7 @@ void RtfCheck::finish() {
         return;
     }
     if (isCutOff || lexer_.isInBinary()) {
-        engine_.report(DiagnosticId::CutOff, binaryPlace_, {"its binary data"});
+        engine_.report(DiagnosticId::CutOff, binaryPlace_, {"binary data"});
         return;
     }
     if (groups_.empty()) {
@@ -487,8 +487,8 @@ std::string RtfCheck::unclosedGroupHint() const {
     if (groups_.size() > 1 || line == 0) {
         return {};
     }
-    return "a group is open where the row of line " + std::to_string(line) + " ends that was not " +
-           (deeperRowLine_ != 0 ? "at the ends of the rows before" : "where it begins");
+    return "when the row on line " + std::to_string(line) + " ends, a group is open that was not " +
+           (deeperRowLine_ != 0 ? "open at the end of earlier rows" : "open at its beginning");
 }
 
 /// A control word in the font table: the number of a font, or a part of its definition.
