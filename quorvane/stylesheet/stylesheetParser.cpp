@@ -59,10 +59,7 @@ std::vector<std::string> parseNames(const StyleItem& item) {
 }
 
 std::string parseFormat(const std::string& value) {
-    if (!IsIsisFormated(value)) {
-        return value;
-    }
-    return GetSubField(value, "v") + GetSubField(value, "f") + GetSubField(value, "p");
+    return IsIsisFormated(value) ? subFieldContents(value, "vfp") : value;
 }
 
 // The subfield that an item other than the first stands for.

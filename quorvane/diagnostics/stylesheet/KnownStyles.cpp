@@ -80,7 +80,6 @@ std::string_view styleKindName(StyleKind kind) {
 KnownStyles::KnownStyles(std::string_view styleSheet) : text_(styleSheet), soundText_(styleSheet) {
     try {
         load();
-        areLoaded_ = true;
     } catch (const RtfError&) {
         repair();
         load();

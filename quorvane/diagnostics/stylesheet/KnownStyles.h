@@ -19,9 +19,6 @@ public:
     /// meant to have.
     explicit KnownStyles(std::string_view styleSheet);
 
-    /// True when the stylesheet has no error.
-    bool areLoaded() const { return areLoaded_; }
-
     /// The text of the stylesheet, as it was given.
     const std::string& text() const { return text_; }
 
@@ -51,7 +48,6 @@ private:
 
     std::string text_;
     std::string soundText_;
-    bool areLoaded_ = false;
     std::array<StyleList, 3> lists_;
     std::array<std::unordered_set<std::string>, 3> used_;
     // The names of styles whose kind is uncertain, in lower case.
