@@ -10,9 +10,9 @@
 #include <vector>
 
 #include "cli/CheckOptions.h"
-#include "cli/Diagnostic.h"
+#include "cli/DiagnosticExcerpt.h"
 #include "cli/ExitStatus.h"
-#include "cli/FindingExcerpt.h"
+#include "cli/ReportedError.h"
 #include "quorvane/base/platform/Platform.h"
 #include "quorvane/diagnostics/engine/Diagnostic.h"
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
@@ -21,10 +21,10 @@
 
 namespace quorvane::cli {
 
-/// Takes a finding about a file, named as on the command line, and the file's window. One that was
-/// fixed comes with the window of the text before.
-using FindingSink =
-    std::function<void(const std::string& file, const quorvane::Diagnostic&, const FileWindow&)>;
+/// Takes a diagnostic about a file, named as on the command line, and the file's window. One that
+/// was fixed comes with the window of the text before.
+using DiagnosticSink =
+    std::function<void(const std::string& file, const Diagnostic&, const FileWindow&)>;
 
 /// How much a check found.
 struct CheckCounts {
@@ -44,7 +44,7 @@ public:
     using BytesSink = std::function<void(std::string_view)>;
 
     /// The platform must outlive the job. The last sink is needed only for fixes.
-    CheckJob(CheckOptions options, FindingSink find, DiagnosticSink fail,
+    CheckJob(CheckOptions options, DiagnosticSink find, ErrorSink fail,
              Platform& platform = systemPlatform(), BytesSink write = {});
 
     /// Reports every diagnostic, and every file that cannot be read or written. Throws a
@@ -65,25 +65,24 @@ private:
     void findUnused();
 
     bool isReported(DiagnosticId id) const;
-    std::vector<quorvane::Diagnostic> findingsOf(const std::string& file, std::string_view bytes,
-                                                 CheckedLanguage language);
-    std::vector<quorvane::Diagnostic> reported(std::vector<quorvane::Diagnostic> findings,
-                                               std::string_view text, CheckedLanguage language);
-    std::optional<std::string> tellText(const std::string& file, std::string_view bytes,
-                                        bool isStream, const TextCheck& check);
+    std::vector<Diagnostic> diagnosticsOf(const std::string& file, std::string_view bytes,
+                                          CheckedLanguage language);
+    std::vector<Diagnostic> reported(std::vector<Diagnostic> diagnostics, std::string_view text,
+                                     CheckedLanguage language);
+    std::optional<std::string> reportText(const std::string& file, std::string_view bytes,
+                                          bool isStream, const TextCheck& check);
     bool writeFixed(const std::string& file, std::string_view before, const FixedText& fixed);
     std::string shownName(const std::string& file) const;
-    void fail(const Diagnostic& failure);
-    void tell(const std::string& file, const quorvane::Diagnostic& finding,
-              const FileWindow& window);
-    void tellAll(const std::string& file, const std::vector<quorvane::Diagnostic>& findings,
-                 std::string_view bytes);
+    void fail(const ReportedError& failure);
+    void report(const std::string& file, const Diagnostic& diagnostic, const FileWindow& window);
+    void reportAll(const std::string& file, const std::vector<Diagnostic>& diagnostics,
+                   std::string_view bytes);
 
     CheckOptions options_;
     std::set<DiagnosticId> ignored_;
     std::set<DiagnosticId> enabled_;
-    FindingSink find_;
-    DiagnosticSink fail_;
+    DiagnosticSink find_;
+    ErrorSink fail_;
     Platform& platform_;
     BytesSink write_;
     std::optional<KnownStyles> styles_;

@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
-#include "cli/Diagnostic.h"
 #include "cli/ExitStatus.h"
 #include "cli/FormatOptions.h"
+#include "cli/ReportedError.h"
 #include "quorvane/base/platform/Platform.h"
 
 namespace quorvane::cli {
@@ -19,7 +19,7 @@ using TextSink = std::function<void(const std::string&)>;
 class FormatJob {
 public:
     /// The platform, from which files are read, must outlive the job.
-    FormatJob(FormatOptions options, TextSink write, DiagnosticSink fail,
+    FormatJob(FormatOptions options, TextSink write, ErrorSink fail,
               Platform& platform = systemPlatform());
 
     /// `ContentErrors` when nothing is to be changed, and a file is not in its canonical form.
@@ -32,7 +32,7 @@ private:
 
     FormatOptions options_;
     TextSink write_;
-    DiagnosticSink fail_;
+    ErrorSink fail_;
     Platform& platform_;
 };
 

@@ -76,7 +76,7 @@ bool RenderJob::prepareOutputFolder() {
     if (!std::filesystem::exists(status)) {
         reason = notMade ? notMade.message() : failure.message() + "; --mkdir creates it";
     }
-    report_.fail({DiagnosticKind::Raised, *options_.outputFolder, std::move(error), reason});
+    report_.fail({ErrorKind::Raised, *options_.outputFolder, std::move(error), reason});
     return false;
 }
 
@@ -108,8 +108,8 @@ ExitStatus RenderJob::render(const Assignment& assignment) {
         return status;
     } catch (const std::bad_alloc&) {
         driver_ = nullptr;
-        report_.fail({DiagnosticKind::Raised, assignment.description,
-                      RtfError(outOfMemory, "Out of memory")});
+        report_.fail(
+            {ErrorKind::Raised, assignment.description, RtfError(outOfMemory, "Out of memory")});
         return ExitStatus::Failure;
     }
 }

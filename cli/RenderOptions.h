@@ -9,7 +9,7 @@
 namespace quorvane::cli {
 
 /// The form in which errors are reported on standard error.
-enum class DiagnosticsForm { Text, Json };
+enum class ErrorForm { Text, Json };
 
 /// In place of a file's name it stands for standard input or standard output.
 inline constexpr const char* standardStream = "-";
@@ -29,7 +29,7 @@ struct RenderOptions {
     /// Write what could be built of a description that has errors.
     bool keepGoing = false;
     FailOn failOn = FailOn::Error;
-    DiagnosticsForm diagnostics = DiagnosticsForm::Text;
+    ErrorForm diagnostics = ErrorForm::Text;
 };
 
 }  // namespace quorvane::cli

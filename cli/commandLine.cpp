@@ -62,11 +62,11 @@ Exit status, after fixing:
 With --fail-on=error warnings do not count; with --fail-on=never the status is
 0 unless it is 2.)";
 
-const std::map<std::string, FindingsForm>& findingsForms() {
-    static const std::map<std::string, FindingsForm> forms = {
-        {"text", FindingsForm::Text},
-        {"json", FindingsForm::Json},
-        {"sarif", FindingsForm::Sarif},
+const std::map<std::string, ReportForm>& reportForms() {
+    static const std::map<std::string, ReportForm> forms = {
+        {"text", ReportForm::Text},
+        {"json", ReportForm::Json},
+        {"sarif", ReportForm::Sarif},
     };
     return forms;
 }
@@ -113,10 +113,10 @@ const std::map<std::string, FailOn>& severitiesThatStopRendering() {
     return severities;
 }
 
-const std::map<std::string, DiagnosticsForm>& diagnosticsForms() {
-    static const std::map<std::string, DiagnosticsForm> forms = {
-        {"text", DiagnosticsForm::Text},
-        {"json", DiagnosticsForm::Json},
+const std::map<std::string, ErrorForm>& errorForms() {
+    static const std::map<std::string, ErrorForm> forms = {
+        {"text", ErrorForm::Text},
+        {"json", ErrorForm::Json},
     };
     return forms;
 }
@@ -183,9 +183,9 @@ CLI::callback_t storeIn(std::vector<std::string>& target) {
     };
 }
 
-CLI::callback_t storeIn(DiagnosticsForm& target) {
+CLI::callback_t storeIn(ErrorForm& target) {
     return [&target](const CLI::results_t& results) {
-        target = diagnosticsForms().at(results.front());
+        target = errorForms().at(results.front());
         return true;
     };
 }
@@ -197,9 +197,9 @@ CLI::callback_t storeIn(FailOn& target) {
     };
 }
 
-CLI::callback_t storeIn(FindingsForm& target) {
+CLI::callback_t storeIn(ReportForm& target) {
     return [&target](const CLI::results_t& results) {
-        target = findingsForms().at(results.front());
+        target = reportForms().at(results.front());
         return true;
     };
 }
@@ -263,7 +263,7 @@ CLI::App* addCheckCommand(CLI::App& app, CheckOptions& options) {
         ->add_option("--diagnostics", storeIn(options.form),
                      "Report as text, JSON objects or a SARIF log")
         ->type_name("text|json|sarif")
-        ->check(CLI::IsMember(findingsForms()).description(""));
+        ->check(CLI::IsMember(reportForms()).description(""));
     check->add_flag("--fix", options.fixes, "Make the replacements that are certain");
     check->add_flag("--diff", options.showsDiff, "Show what --fix would change; change nothing");
     addIdentifiersOption(*check, "--ignore", options.ignored, "Leave these diagnostics out");
@@ -344,7 +344,7 @@ void addRenderCommand(CLI::App& app, RenderOptions& options) {
         ->add_option("--diagnostics", storeIn(options.diagnostics),
                      "Report errors as text or as JSON objects")
         ->type_name("text|json")
-        ->check(CLI::IsMember(diagnosticsForms()).description(""));
+        ->check(CLI::IsMember(errorForms()).description(""));
     refuseEmptyValues(*render);
 }
 
@@ -446,7 +446,7 @@ std::variant<RenderOptions, CheckOptions, FormatOptions, Information> parseComma
     }
 }
 
-DiagnosticsForm requestedDiagnosticsForm(const std::vector<std::string>& arguments) {
+ErrorForm requestedErrorForm(const std::vector<std::string>& arguments) {
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         const bool hasJsonNext = i + 1 < arguments.size() && arguments[i + 1] == "json";
         if (arguments[i] == "--") {
@@ -454,10 +454,10 @@ DiagnosticsForm requestedDiagnosticsForm(const std::vector<std::string>& argumen
         }
         if (arguments[i] == "--diagnostics=json" ||
             (arguments[i] == "--diagnostics" && hasJsonNext)) {
-            return DiagnosticsForm::Json;
+            return ErrorForm::Json;
         }
     }
-    return DiagnosticsForm::Text;
+    return ErrorForm::Text;
 }
 
 }  // namespace quorvane::cli

@@ -21,6 +21,6 @@ std::variant<RenderOptions, CheckOptions, FormatOptions, Information> parseComma
 
 /// The form of diagnostics that the arguments ask for, which need not be right otherwise: the form
 /// in which an error in them is reported.
-DiagnosticsForm requestedDiagnosticsForm(const std::vector<std::string>& arguments);
+ErrorForm requestedErrorForm(const std::vector<std::string>& arguments);
 
 }  // namespace quorvane::cli

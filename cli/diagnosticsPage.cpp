@@ -15,7 +15,7 @@ constexpr std::string_view introduction = R"(# Diagnostics
 
 What `quorvane check` reports about descriptions, stylesheets and RTF files: one section for each identifier. `quorvane check --explain IDENTIFIER` shows the same on the terminal, `quorvane check --list` all identifiers. An error is what the library rejects or a reader cannot make sense of; a warning is what is accepted and does not do what its author wants. The messages of errors are the library's own where it has one.
 
-This page is made of the table `quorvane/diagnostics/engine/diagnosticTable.h` by `scripts/diagnostics-page`; each report in it is what the command writes about the example above it, without the summary at its end. In an example the lines between `; N times:` and `; so far` stand there N times.
+This page is made of the tables in `quorvane/diagnostics/table/` by `scripts/diagnostics-page`; each report in it is what the command writes about the example above it, without the summary at its end. In an example the lines between `; N times:` and `; so far` stand there N times.
 
 )";
 
@@ -43,7 +43,7 @@ std::string code(std::string_view text) {
 std::string section(const DiagnosticRule& rule) {
     std::string text = "### " + std::string(rule.identifier) + "\n\n" +
                        (rule.severity == Severity::Error ? "Error: " : "Warning: ") +
-                       code(rule.text) + "\n\n" + std::string(rule.explanation) + "\n\n";
+                       code(rule.message) + "\n\n" + explanationOf(rule) + "\n\n";
     if (!rule.companion.empty()) {
         text += block(rule.language == CheckedLanguage::StyleSheet ? "The description of both:"
                                                                    : "The stylesheet of both:",
@@ -60,7 +60,7 @@ std::string section(const DiagnosticRule& rule) {
 std::string tableLine(const DiagnosticRule& rule) {
     const std::string name(rule.identifier);
     return "| [" + name + "](#" + name + ") | " + std::string(severityName(rule.severity)) + " | " +
-           code(rule.text) + " |\n";
+           code(rule.message) + " |\n";
 }
 
 }  // namespace

@@ -19,6 +19,6 @@ struct LocatedErrors {
 /// Finds the diagnostics that are behind the errors: those on an error's line or, for an error
 /// without a line, with its message. Errors that only follow from others are left out.
 LocatedErrors locateErrors(const std::vector<RtfError>& errors,
-                           const std::vector<quorvane::Diagnostic>& diagnostics);
+                           const std::vector<Diagnostic>& diagnostics);
 
 }  // namespace quorvane::cli

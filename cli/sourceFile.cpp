@@ -9,7 +9,7 @@
 #include <system_error>
 #include <utility>
 
-#include "cli/requireAnswer.h"
+#include "cli/throwUnlessAbsent.h"
 #include "cli/utf8Path.h"
 #include "quorvane/base/text/codePage1252.h"
 #include "quorvane/base/values/RtfError.h"
@@ -30,7 +30,7 @@ std::error_code lastFailure() {
 std::string beginningOf(const std::string& path) {
     std::ifstream file(pathFromUtf8(path), std::ios::binary);
     if (!file.is_open()) {
-        requireAnswer(lastFailure());
+        throwUnlessAbsent(lastFailure());
         return {};
     }
     std::string bytes(enough, '\0');

@@ -83,9 +83,9 @@ private:
         std::ifstream file(entry.path(), std::ios::binary);
         const std::string bytes{std::istreambuf_iterator<char>(file), {}};
         if (bytes.starts_with("{\\rtf")) {
-            for (const quorvane::Diagnostic& finding : checkRtf(bytes)) {
-                ADD_FAILURE() << entry.path() << ":" << finding.place.line << ": "
-                              << finding.message;
+            for (const Diagnostic& diagnostic : checkRtf(bytes)) {
+                ADD_FAILURE() << entry.path() << ":" << diagnostic.place.line << ": "
+                              << diagnostic.message;
             }
         }
     }

@@ -44,7 +44,7 @@ TEST(CommandLine, AsksForNothingMoreThanItsDescription) {
     EXPECT_EQ(options.outputFolder, std::nullopt);
     EXPECT_FALSE(options.check);
     EXPECT_FALSE(options.keepGoing);
-    EXPECT_EQ(options.diagnostics, DiagnosticsForm::Text);
+    EXPECT_EQ(options.diagnostics, ErrorForm::Text);
 }
 
 TEST(CommandLine, TakesSeveralDescriptionsInTheirOrder) {
@@ -75,9 +75,9 @@ TEST(CommandLine, TakesTheSwitches) {
 }
 
 TEST(CommandLine, TakesTheFormOfDiagnostics) {
-    EXPECT_EQ(optionsOf({"--diagnostics=json", "x"}).diagnostics, DiagnosticsForm::Json);
-    EXPECT_EQ(optionsOf({"--diagnostics", "json", "x"}).diagnostics, DiagnosticsForm::Json);
-    EXPECT_EQ(optionsOf({"--diagnostics=text", "x"}).diagnostics, DiagnosticsForm::Text);
+    EXPECT_EQ(optionsOf({"--diagnostics=json", "x"}).diagnostics, ErrorForm::Json);
+    EXPECT_EQ(optionsOf({"--diagnostics", "json", "x"}).diagnostics, ErrorForm::Json);
+    EXPECT_EQ(optionsOf({"--diagnostics=text", "x"}).diagnostics, ErrorForm::Text);
 }
 
 TEST(CommandLine, TakesAllThatFollowsTwoDashesForDescriptions) {
@@ -145,7 +145,7 @@ TEST(CommandLine, RefusesAnOptionThatItDoesNotKnow) {
     EXPECT_EQ(usageErrorOf({"--colour"}), "The following argument was not expected: --colour");
 }
 
-TEST(CommandLine, TellsAnOptionThatItDoesNotKnowBeforeAMissingDescription) {
+TEST(CommandLine, ReportsAnOptionThatItDoesNotKnowBeforeAMissingDescription) {
     EXPECT_EQ(usageErrorOf({"render", "--colour"}),
               "The following argument was not expected: --colour");
     EXPECT_EQ(usageErrorOf({"render", "-a.rtfspec"}),
@@ -240,14 +240,12 @@ TEST(CommandLine, RefusesAFileAndAFolderForTheOutput) {
               "--output excludes --output-dir");
 }
 
-TEST(CommandLine, TellsTheFormOfDiagnosticsOfWrongArgumentsToo) {
-    EXPECT_EQ(requestedDiagnosticsForm({"render", "--wrong", "--diagnostics=json"}),
-              DiagnosticsForm::Json);
-    EXPECT_EQ(requestedDiagnosticsForm({"--diagnostics", "json"}), DiagnosticsForm::Json);
-    EXPECT_EQ(requestedDiagnosticsForm({"render", "--diagnostics"}), DiagnosticsForm::Text);
-    EXPECT_EQ(requestedDiagnosticsForm({"render", "--diagnostics=xml"}), DiagnosticsForm::Text);
-    EXPECT_EQ(requestedDiagnosticsForm({"render", "--", "--diagnostics=json"}),
-              DiagnosticsForm::Text);
+TEST(CommandLine, ReportsTheFormOfDiagnosticsOfWrongArgumentsToo) {
+    EXPECT_EQ(requestedErrorForm({"render", "--wrong", "--diagnostics=json"}), ErrorForm::Json);
+    EXPECT_EQ(requestedErrorForm({"--diagnostics", "json"}), ErrorForm::Json);
+    EXPECT_EQ(requestedErrorForm({"render", "--diagnostics"}), ErrorForm::Text);
+    EXPECT_EQ(requestedErrorForm({"render", "--diagnostics=xml"}), ErrorForm::Text);
+    EXPECT_EQ(requestedErrorForm({"render", "--", "--diagnostics=json"}), ErrorForm::Text);
 }
 
 TEST(CommandLine, TakesTheOptionsOfCheck) {
@@ -255,7 +253,7 @@ TEST(CommandLine, TakesTheOptionsOfCheck) {
         parseCommandLine({"check", "a", "-s", "b", "--diagnostics", "sarif", "--", "-c"}));
     EXPECT_THAT(options.files, ElementsAre("a", "-c"));
     EXPECT_EQ(options.styleSheet, "b");
-    EXPECT_EQ(options.form, FindingsForm::Sarif);
+    EXPECT_EQ(options.form, ReportForm::Sarif);
     EXPECT_EQ(options.explained, std::nullopt);
     EXPECT_EQ(std::get<CheckOptions>(parseCommandLine({"check", "--explain=x"})).explained, "x");
     EXPECT_EQ(usageErrorOf({"check"}), "FILE is required");

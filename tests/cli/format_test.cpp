@@ -83,7 +83,7 @@ TEST_F(FormatTest, KeepsEveryByteOfATextInWindows1252) {
     EXPECT_THAT(folder.read("a.rtfspec"), HasSubstr("(pt=" + bytes + ")"));
 }
 
-TEST_F(FormatTest, TellsWhatItCannotDoAndFormatsTheRest) {
+TEST_F(FormatTest, ReportsWhatItCannotDoAndFormatsTheRest) {
     folder.write("a.rtfspec", loose);
     folder.write("c.rtf", "{\\rtf1 a}");
     const ProgramResult result = run({"nosuch", "c.rtf", "a.rtfspec"});

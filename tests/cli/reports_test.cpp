@@ -14,7 +14,7 @@
 namespace quorvane::cli {
 namespace {
 
-TEST(ReportsOfTexts, TellOfControlsThatBreakTheTable) {
+TEST(ReportsOfTexts, ReportControlsThatBreakTheTable) {
     EXPECT_EQ(
         reportOf(paragraphWith("a\\cell b\\row {\\trowd\\cellx99} \\sect")),
         R"(a.rtfspec:5:6: warning: \cell breaks the table in the middle of a text. [table-control]
@@ -35,7 +35,7 @@ a.rtfspec:5:35: warning: \sect breaks the table in the middle of a text. [table-
 )");
 }
 
-TEST(ReportsOfTexts, SayNothingOfATableWithinAFootnoteOrANestedOne) {
+TEST(ReportsOfTexts, DoNotMentionATableWithinAFootnoteOrANestedOne) {
     EXPECT_EQ(reportOf(paragraphWith("a{\\footnote \\trowd\\cellx9 b\\cell\\row}")), "");
     EXPECT_EQ(reportOf(paragraphWith("\\itap2 a\\nestcell{\\*\\nesttableprops\\trowd\\cellx9"
                                      "\\nestrow}\\itap1 b")),
@@ -46,7 +46,7 @@ TEST(ReportsOfTexts, SayNothingOfATableWithinAFootnoteOrANestedOne) {
     EXPECT_EQ(reportOf(paragraphWith("a{\\footnote \\itap2 b}")), "");
 }
 
-TEST(ReportsOfTexts, TellOfATableWithinACellThatIsNotWhole) {
+TEST(ReportsOfTexts, ReportATableWithinACellThatIsNotWhole) {
     const std::string hint =
         "    hint: the rows of a table within a cell are whole where they stand in its text: each "
         "\\nestcell has its definition, and \\itap1 follows\n";
@@ -70,7 +70,7 @@ TEST(ReportsOfTexts, TellOfATableWithinACellThatIsNotWhole) {
 )" + hint);
 }
 
-TEST(ReportsOfTexts, TellOfTheBeginningOfADocument) {
+TEST(ReportsOfTexts, ReportTheBeginningOfADocument) {
     EXPECT_EQ(
         reportOf(paragraphWith("{\\rtf1{\\fonttbl{\\f0 A;}}{\\colortbl;}{\\stylesheet{a;}}b}")),
         R"(a.rtfspec:5:6: warning: \rtf1 belongs at the beginning of a document. [header-control]
@@ -88,7 +88,7 @@ a.rtfspec:5:42: warning: \stylesheet belongs at the beginning of a document. [he
 )");
 }
 
-TEST(ReportsOfTexts, TellOfAValueThatIsCutOff) {
+TEST(ReportsOfTexts, ReportAValueThatIsCutOff) {
     EXPECT_EQ(reportOf("(doc\n(r\n(c\n(p\n(pt=see (page 2); thanks)\np)\nc)\nr)\ndoc)\n"),
               R"(a.rtfspec:5:16: warning: The value ends here: ); thanks is lost. [cut-value]
     (pt=see (page 2); thanks)
@@ -109,13 +109,13 @@ a.rtfspec:6:15: warning: The value ends here: ) ; incl. VAT is lost. [cut-value]
 )");
 }
 
-TEST(ReportsOfTexts, SayNothingOfCommentsWithParentheses) {
+TEST(ReportsOfTexts, DoNotMentionCommentsWithParentheses) {
     EXPECT_EQ(reportOf("(doc\n(r\n(c\n(p\n(pt=a (b\\'29) ; see (c)\np)\n"
                        "(p\n(pt=a) ; (b)\np)\n(p\n(pt=a (b) ; c\np)\nc)\nr)\ndoc)\n"),
               "");
 }
 
-TEST(ReportsOfTexts, TellOfAnInlineStyleThatIsNotClosed) {
+TEST(ReportsOfTexts, ReportAnInlineStyleThatIsNotClosed) {
     const std::string sheet =
         "{ name: normal; style-def: s }\n{ name: reserved; style-def: s }\n"
         "{ name: strong; style-def: cs; format: \\b }\n";
@@ -130,7 +130,7 @@ TEST(ReportsOfTexts, TellOfAnInlineStyleThatIsNotClosed) {
     EXPECT_EQ(reportOf(paragraphWith("<strong=a")), "");
 }
 
-TEST(ReportsOfTexts, TellOfNumbersThatTheTablesDoNotHave) {
+TEST(ReportsOfTexts, ReportNumbersThatTheTablesDoNotHave) {
     EXPECT_EQ(
         reportOf(paragraphWith("\\f18\\cf58\\highlight99\\cb-1\\ts1 \\f17\\cf57\\cb0\\s100 a")),
         R"(a.rtfspec:5:5: warning: \f18 names no font of the document. [unknown-number]
@@ -164,7 +164,7 @@ a.rtfspec:5:11: warning: \cs100 names no style of the document. [unknown-number]
 )");
 }
 
-TEST(ReportsOfFormats, TellOfControlsAndNumbersThatDoNotFit) {
+TEST(ReportsOfFormats, ReportControlsAndNumbersThatDoNotFit) {
     EXPECT_EQ(reportOf(paragraphWith("a"),
                        "{ name: normal; style-def: s; format: \\F99\\cf58\\cell\\s102 }\n"),
               R"(a.rtfss:1:39: warning: \F99 names no font of the document. [unknown-number]
@@ -306,7 +306,7 @@ TEST(ReportsOfFields, JudgeFieldsWithinFields) {
 )");
 }
 
-TEST(ReportsOfFields, SayNothingOfHarmlessOnes) {
+TEST(ReportsOfFields, DoNotMentionHarmlessOnes) {
     for (const char* instruction :
          {"PAGE", "HYPERLINK \"https://a.example/x\"", "HYPERLINK mailto:a@b.example",
           "HYPERLINK \\\\l \"place\"", "QUOTE INCLUDETEXT", "{\\b DATE} \\\\@ \"d\""}) {
@@ -317,7 +317,7 @@ TEST(ReportsOfFields, SayNothingOfHarmlessOnes) {
     }
 }
 
-TEST(ReportsOfWidths, TellOfASingleCellThatIsTooNarrow) {
+TEST(ReportsOfWidths, ReportASingleCellThatIsTooNarrow) {
     EXPECT_EQ(
         reportOf("(doc\n(r\n(c\n(cw=1)\nc)\nr)\ndoc)\n"),
         R"(a.rtfspec:4:5: warning: The cell becomes 2 per cent wide instead of 1. [width-clamped]
@@ -327,7 +327,7 @@ TEST(ReportsOfWidths, TellOfASingleCellThatIsTooNarrow) {
     EXPECT_EQ(reportOf("(doc\n(r\n(c\n(cw=50)\nc)\nr)\ndoc)\n"), "");
 }
 
-TEST(ReportsOfWidths, TellWhichCellsAPageOfAnotherWidthMakesNarrow) {
+TEST(ReportsOfWidths, ReportWhichCellsAPageOfAnotherWidthMakesNarrow) {
     EXPECT_EQ(
         reportOf("(doc\n(paper-width=16838)\n(r\n(c\n(cw=50)\nc)\n(c\n(cw=50)\nc)\nr)\ndoc)\n"),
         R"(a.rtfspec:2:14: warning: The row is 8840 twips wide, the page has room for 13436. [table-underrun]
@@ -340,7 +340,7 @@ a.rtfspec:5:5: warning: The cell becomes 16 per cent wide instead of 50. [width-
 )");
 }
 
-TEST(ReportsOfWidths, TellOfAPageWithoutRoom) {
+TEST(ReportsOfWidths, ReportAPageWithoutRoom) {
     EXPECT_EQ(
         reportOf("(doc\n(bottom-margin=9000)\n(paper-height=8000)\n(r\n(c\nc)\nr)\ndoc)\n"),
         R"(a.rtfspec:3:15: warning: The margins are 10418 twips high together, the paper is 8000. [no-room]
@@ -373,7 +373,7 @@ TEST(ReportsOfCharacters, FindThemInEverythingThatReachesTheDocument) {
               "    hint: save the file in Windows-1252\n");
 }
 
-TEST(ReportsOfCharacters, TellTheFirstThatIsMisread) {
+TEST(ReportsOfCharacters, ReportTheFirstThatIsMisread) {
     // Two texts of a file in UTF-8, in which each kind of character stands several times.
     const std::string text = "caf\xC3\xA9 \xE2\x86\x92 ol\xC3\xA9 \xE2\x86\x92";
     const std::string cell = "(c\n(p\n(pt=" + text + ")\np)\nc)\n";
@@ -403,7 +403,7 @@ TEST(ReportsOfCharacters, TellTheFirstThatIsMisread) {
               "    hint: save the file in Windows-1252\n");
 }
 
-TEST(ReportsOfNames, TellOfADescriptionThatIsNone) {
+TEST(ReportsOfNames, ReportADescriptionThatIsNone) {
     const std::string hint = "    hint: the file reads as ";
     EXPECT_EQ(reportOfFile("a.rtfspec", "{ name: a; style-def: s }\n"),
               "a.rtfspec:1:1: error: The provided file isn't a correct rtfspec file. "
@@ -422,7 +422,7 @@ TEST(ReportsOfNames, TellOfADescriptionThatIsNone) {
                   "an RTF file, which has the extension .rtf\n");
 }
 
-TEST(ReportsOfNames, TellOfAStyleSheetThatIsNone) {
+TEST(ReportsOfNames, ReportAStyleSheetThatIsNone) {
     const std::string description = "(doc\n(r\n(c\nc)\nr)\ndoc)\n";
     EXPECT_EQ(reportOfFile("a.rtfss", description),
               "a.rtfss:1:1: warning: This is a description, not a stylesheet. "
@@ -439,12 +439,12 @@ TEST(ReportsOfNames, TellOfAStyleSheetThatIsNone) {
                   "\n    hint: the file reads as an RTF file, which has the extension .rtf\n");
 }
 
-TEST(ReportsOfNames, SayNothingOfOtherExtensions) {
+TEST(ReportsOfNames, DoNotMentionOtherExtensions) {
     EXPECT_EQ(reportOfFile("a.txt", "(doc\n(r\n(c\nc)\nr)\ndoc)\n"), "");
     EXPECT_EQ(reportOfFile("a.txt", "{ name: a; style-def: s }\n"), "");
 }
 
-TEST(ReportsOfStyleSheets, TellOfKeywordsWithoutBraces) {
+TEST(ReportsOfStyleSheets, ReportKeywordsWithoutBraces) {
     EXPECT_EQ(reportOfFile("a.rtfss", "; mine\n  Name : a; style-def: s\n"),
               "a.rtfss:2:3: warning: The stylesheet has no styles. [no-styles]\n"
               "      Name : a; style-def: s\n"
@@ -658,7 +658,7 @@ TEST(ReportsOfStyleSheets, ReportAnEmptyItemThatIsNotTheLast) {
 )");
 }
 
-TEST(ReportsOfStyleSheets, TellAWrongKindOnce) {
+TEST(ReportsOfStyleSheets, ReportAWrongKindOnce) {
     EXPECT_EQ(reportOfFile("a.rtfss",
                            "{ name: a; style-def: paragraph; format: \\b }\n"
                            "{ name: b; style-def: char; format: \\b }\n"
@@ -728,7 +728,7 @@ TEST(ReportsOfTexts, TakeALineBreakOfOtherLanguagesForOne) {
 )");
 }
 
-TEST(ReportsOfTexts, TellAllHalvesOfACharacterAtOnce) {
+TEST(ReportsOfTexts, ReportAllHalvesOfACharacterAtOnce) {
     EXPECT_EQ(
         reportOf(paragraphWith("\\u-10179?\\u-8704? {\\uc1\\u345?} \\u345 ?")),
         R"(a.rtfspec:5:5: warning: The ? after \u-10179 is shown: nothing stands in for the character. [shown-substitute]
@@ -738,11 +738,11 @@ TEST(ReportsOfTexts, TellAllHalvesOfACharacterAtOnce) {
 )");
 }
 
-TEST(ReportsOfTexts, SayNothingOfBracesThatGroup) {
+TEST(ReportsOfTexts, DoNotMentionBracesThatGroup) {
     EXPECT_EQ(reportOf(paragraphWith("{\\b a}{\\i {b}} \\u77{}c {} { } {<1=a>}")), "");
 }
 
-TEST(ReportsOfPages, TellOfMeasuresInAnotherUnitAndOfNoConsequences) {
+TEST(ReportsOfPages, ReportMeasuresInAnotherUnitAndOfNoConsequences) {
     EXPECT_EQ(
         reportOf("(doc\n(paper-width=210)\n(paper-height=297)\n(left-margin=2.5)\n"
                  "(right-margin=1000)\n(r\n(c\n(cw=50)\nc)\n(c\n(cw=50)\nc)\nr)\ndoc)\n"),
@@ -761,7 +761,7 @@ a.rtfspec:4:14: warning: A left-margin of 2.5 twips is 0 millimeters. [tiny-meas
 )");
 }
 
-TEST(ReportsOfPages, SayNothingOfATableThatNearlyFillsThePage) {
+TEST(ReportsOfPages, DoNotMentionATableThatNearlyFillsThePage) {
     const std::string table = "(r\n(c\nc)\n(c\nc)\nr)\ndoc)\n";
     // Margins of 25 millimeters on A4 leave 9072 twips, those of 20 millimeters 9638.
     EXPECT_EQ(
@@ -776,7 +776,7 @@ TEST(ReportsOfPages, SayNothingOfATableThatNearlyFillsThePage) {
 )");
 }
 
-TEST(ReportsOfPages, SayNothingOfASingleCellThatIsMeantToBeNarrow) {
+TEST(ReportsOfPages, DoNotMentionASingleCellThatIsMeantToBeNarrow) {
     EXPECT_EQ(reportOf("(doc\n(r\n(c\n(cw=50)\nc)\nr)\ndoc)\n"), "");
 }
 
@@ -831,12 +831,13 @@ TEST(ReportsOfBinaryFiles, SayOnceWhatTheyAre) {
     EXPECT_EQ(reportOf(files, options), expected("a.rtfss", "a PNG picture"));
 }
 
-/// The report of findings about a text.
+/// The report of diagnostics about a text.
 std::string reportOfFindings(const std::string& file, const std::string& text,
-                             const std::vector<quorvane::Diagnostic>& findings) {
+                             const std::vector<Diagnostic>& diagnostics) {
     std::string report;
-    for (const quorvane::Diagnostic& finding : findings) {
-        report += findingText(file, finding, excerptAt(finding.place, windowOf(text)), Colors::Off);
+    for (const Diagnostic& diagnostic : diagnostics) {
+        report += diagnosticText(file, diagnostic, excerptAt(diagnostic.place, windowOf(text)),
+                                 Colors::Off);
     }
     return report;
 }

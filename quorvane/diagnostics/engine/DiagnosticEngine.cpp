@@ -15,8 +15,8 @@ void DiagnosticEngine::report(DiagnosticId id, const Place& place,
     if (hint.replacement) {
         fix = Fix{place, *std::move(hint.replacement)};
     }
-    receiver_({id, rule.severity, place, withArguments(rule.text, arguments), std::move(hint.text),
-               std::move(fix)});
+    receiver_({id, rule.severity, place, withArguments(rule.message, arguments),
+               std::move(hint.text), std::move(fix)});
 }
 
 std::string withArguments(std::string_view pattern,

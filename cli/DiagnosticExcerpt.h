@@ -13,14 +13,14 @@ namespace quorvane::cli {
 using FileWindow = std::function<std::string(std::int64_t offset, std::int64_t length)>;
 
 /// The part of a line around a place, in UTF-8 and with blanks for control characters.
-struct FindingExcerpt {
+struct DiagnosticExcerpt {
     std::string before;
     std::string marked;
     std::string after;
 };
 
 /// Cuts the excerpt out of the file. Of a long line it takes the neighbourhood of the place.
-FindingExcerpt excerptAt(const Place& place, const FileWindow& window);
+DiagnosticExcerpt excerptAt(const Place& place, const FileWindow& window);
 
 /// The window of a file that is held as a whole; the bytes must outlive it.
 FileWindow windowOf(std::string_view bytes);

@@ -1,4 +1,4 @@
-#include "cli/FindingReport.h"
+#include "cli/DiagnosticReport.h"
 
 #include <cstddef>
 
@@ -7,22 +7,23 @@ namespace quorvane::cli {
 namespace {
 
 // So many causes of one file are held back; what comes later is counted anew.
-constexpr std::size_t mostCausesHeld = 10'000;
+constexpr std::size_t maxCausesHeld = 10'000;
 
 }  // namespace
 
-void FindingReport::add(const std::string& file, const quorvane::Diagnostic& finding,
-                        const FileWindow& window) {
-    if (file != file_ || causes_.count() == mostCausesHeld) {
+void DiagnosticReport::add(const std::string& file, const Diagnostic& diagnostic,
+                           const FileWindow& window) {
+    if (file != file_ || causes_.count() == maxCausesHeld) {
         end();
         file_ = file;
     }
-    if (causes_.add(finding).isFirst) {
-        texts_.push_back(findingText(file, finding, excerptAt(finding.place, window), colors_));
+    if (causes_.add(diagnostic).isFirst) {
+        texts_.push_back(
+            diagnosticText(file, diagnostic, excerptAt(diagnostic.place, window), colors_));
     }
 }
 
-void FindingReport::end() {
+void DiagnosticReport::end() {
     for (std::size_t i = 0; i < texts_.size(); ++i) {
         write_(texts_[i]);
         if (const std::string repeated = causes_.repetitionText(i); !repeated.empty()) {
