@@ -7,52 +7,54 @@
 
 namespace quorvane {
 
-/// What the rows, the cells of a row and the paragraphs of a cell have in common: an ordered
-/// collection that makes its elements itself. Positions begin with 1; keys are texts, compared
-/// without regard to case. Every call that changes the list marks the document changed; a call that
-/// fails leaves list and document as they were. Changing the list raises error 91 when the document
-/// is gone.
+/// An ordered collection that makes its elements itself: the common members of `CRtfTableRows`,
+/// `CRtfTableCells` and `CRtfParagraphs`. Positions start at 1. Keys are texts; upper and lower
+/// case are the same, and an empty text is a key like any other. Every call that changes the list
+/// marks the document changed; error 91 if the document no longer exists. A call that fails changes
+/// nothing.
 ///
-/// `Collection` is the class itself.
+/// `Collection` is the derived class.
 template <class Collection, class Element>
 class TableCollection {
 public:
     TableCollection(const TableCollection&) = delete;
     TableCollection& operator=(const TableCollection&) = delete;
 
-    /// Number of elements.
+    /// Returns the number of elements.
     std::int32_t Count() const;
 
-    /// Makes an element and puts it at the end or, with `Before` or `After` (a position or a key),
-    /// there. `Key` is a text or absent. It returns nothing: the element is fetched by position or
-    /// key. Errors: 13 a key of another type, 5 both `Before` and `After` or a bad one, 457 a key
-    /// that is there already.
+    /// Makes an element and adds it at the end or, with `Before` or `After` (a position or a key),
+    /// next to that element. `Key` is a text or absent. It returns nothing: get the new element
+    /// with `Item`, `PeekHead` or `PeekTail`. Errors: 13 if the key is not a text, 5 if both
+    /// `Before` and `After` are given or there is no such element, 457 if the key is already in the
+    /// list.
     void add(const Value& Key = Missing{}, const Value& Before = Missing{},
              const Value& After = Missing{});
 
-    /// Removes the element at a position (halves to even) or with a key. Errors: 5 there is none,
-    /// 13 neither a number nor a text.
+    /// Removes the element at a position (rounded, halves to even) or with a key. Errors: 5 if
+    /// there is none, 13 if `Index` is neither a number nor a text.
     void Remove(const Value& Index);
 
-    /// The element at a position (halves to even) or with a key. Errors as `Remove`.
+    /// Returns the element at a position (rounded, halves to even) or with a key. Errors as for
+    /// `Remove`.
     Ref<Element> Item(const Value& Index) const;
 
-    /// Makes an element and puts it first. Errors as `add`.
+    /// Makes an element and adds it at the beginning. Errors as for `add`.
     void AddHead(const Value& Key = Missing{});
 
-    /// The first element, null when there is none.
+    /// Returns the first element; null if there is none.
     Ref<Element> PeekHead() const;
 
-    /// Removes the first element. Marks the document changed also when there is none.
+    /// Removes the first element. Marks the document changed even if there is none.
     void RemoveHead();
 
-    /// Makes an element and puts it last. Errors as `add`.
+    /// Makes an element and adds it at the end. Errors as for `add`.
     void AddTail(const Value& Key = Missing{});
 
-    /// The last element, null when there is none.
+    /// Returns the last element; null if there is none.
     Ref<Element> PeekTail() const;
 
-    /// Removes the last element. Marks the document changed also when there is none.
+    /// Removes the last element. Marks the document changed even if there is none.
     void removeTail();
 
 protected:
