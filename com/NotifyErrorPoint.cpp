@@ -92,7 +92,7 @@ STDMETHODIMP NotifyErrorPoint::Advise(IUnknown* sink, DWORD* cookie) {
         FAILED(sink->QueryInterface(IID_IDispatch, connected.outVoid()))) {
         return plainFailure(CONNECT_E_CANNOTCONNECT);
     }
-    return answering(IID_IConnectionPoint, [&] {
+    return toHresult(IID_IConnectionPoint, [&] {
         connections_.push_back({lastCookie_ + 1, std::move(connected)});
         *cookie = ++lastCookie_;
     });
@@ -116,7 +116,7 @@ STDMETHODIMP NotifyErrorPoint::EnumConnections(IEnumConnections** enumerator) {
         return plainFailure(E_POINTER);
     }
     *enumerator = nullptr;
-    return answering(IID_IConnectionPoint, [&] {
+    return toHresult(IID_IConnectionPoint, [&] {
         std::vector<EnumeratedConnection> connections;
         for (const Connection& each : connections_) {
             connections.push_back({each.cookie, each.sink});
