@@ -1,4 +1,4 @@
-#include "quorvane/diagnostics/rtf/RtfCheck.h"
+#include "quorvane/diagnostics/rtf/RtfChecker.h"
 
 #include <algorithm>
 #include <utility>
@@ -34,7 +34,7 @@ constexpr RtfGroup betweenGroups{RtfDestination::Text, false, false};
 
 }  // namespace
 
-void RtfCheck::feed(std::string_view bytes) {
+void RtfChecker::feed(std::string_view bytes) {
     if (hasLostText_) {
         return;
     }
@@ -45,7 +45,7 @@ void RtfCheck::feed(std::string_view bytes) {
     }
 }
 
-void RtfCheck::take(RtfLexer::Token token) {
+void RtfChecker::take(RtfLexer::Token token) {
     if (groups_.empty()) {
         if (hasEnded_) {
             takeAfterDocument(token);
@@ -74,7 +74,7 @@ void RtfCheck::take(RtfLexer::Token token) {
     }
 }
 
-void RtfCheck::takeBeforeDocument(RtfLexer::Token token) {
+void RtfChecker::takeBeforeDocument(RtfLexer::Token token) {
     if (token == RtfLexer::Token::Text &&
         std::all_of(lexer_.text().begin(), lexer_.text().end(), isBlank)) {
         return;
@@ -90,7 +90,7 @@ void RtfCheck::takeBeforeDocument(RtfLexer::Token token) {
 }
 
 /// Looks for text after the document, which readers do not show.
-void RtfCheck::takeAfterDocument(RtfLexer::Token token) {
+void RtfChecker::takeAfterDocument(RtfLexer::Token token) {
     if (hasLostText_) {
         return;
     }
@@ -138,7 +138,7 @@ void RtfCheck::takeAfterDocument(RtfLexer::Token token) {
     }
 }
 
-void RtfCheck::finish() {
+void RtfChecker::finish() {
     const bool isCutOff = lexer_.isInBinary();
     const RtfLexer::Token last = lexer_.finish();
     if (last == RtfLexer::Token::Control) {
@@ -171,22 +171,22 @@ void RtfCheck::finish() {
     }
 }
 
-Place RtfCheck::place(std::int64_t length) const {
+Place RtfChecker::place(std::int64_t length) const {
     const RtfLexer::Position& begin = lexer_.begin();
     return {begin.line, begin.offset - begin.lineBegin + 1, length, begin.offset};
 }
 
-Place RtfCheck::controlPlace() const {
+Place RtfChecker::controlPlace() const {
     return place(static_cast<std::int64_t>(lexer_.control().shownLength));
 }
 
-void RtfCheck::reportNotRtf(const Place& place) {
+void RtfChecker::reportNotRtf(const Place& place) {
     if (!std::exchange(reportedStart_, true)) {
         engine_.report(DiagnosticId::NotRtf, place);
     }
 }
 
-void RtfCheck::openGroup() {
+void RtfChecker::openGroup() {
     if (groups_.size() >= deepestGroups) {
         if (!std::exchange(reportedDepth_, true)) {
             engine_.report(DiagnosticId::DeepNesting, place(1), {std::to_string(deepestGroups)});
@@ -208,7 +208,7 @@ void RtfCheck::openGroup() {
     groups_.push_back(group);
 }
 
-void RtfCheck::closeGroup() {
+void RtfChecker::closeGroup() {
     if (deeperGroups_ > 0) {
         --deeperGroups_;
         return;
@@ -230,7 +230,7 @@ void RtfCheck::closeGroup() {
     }
 }
 
-void RtfCheck::takeText(std::string_view text) {
+void RtfChecker::takeText(std::string_view text) {
     Group& group = groups_.back();
     if (!hasBegun_) {
         reportNotRtf(group.begin);
@@ -250,7 +250,7 @@ void RtfCheck::takeText(std::string_view text) {
     }
 }
 
-void RtfCheck::takeControl() {
+void RtfChecker::takeControl() {
     const RtfControl& control = lexer_.control();
     if (!control.word.empty()) {
         takeWord();
@@ -276,7 +276,7 @@ void RtfCheck::takeControl() {
     }
 }
 
-void RtfCheck::takeWord() {
+void RtfChecker::takeWord() {
     const RtfWord* const word = lexer_.word();
     Group& group = groups_.back();
     if (group.isFresh) {
@@ -298,7 +298,7 @@ void RtfCheck::takeWord() {
     takeRole(*word);
 }
 
-void RtfCheck::takeRole(const RtfWord& word) {
+void RtfChecker::takeRole(const RtfWord& word) {
     Group& group = groups_.back();
     const RtfControl& control = lexer_.control();
     if (word.role == RtfRole::None) {
@@ -326,7 +326,7 @@ void RtfCheck::takeRole(const RtfWord& word) {
     }
 }
 
-void RtfCheck::takeFirstWord() {
+void RtfChecker::takeFirstWord() {
     Group& group = groups_.back();
     const RtfWord* const word = findRtfWord(lexer_.control().word);
     if (!std::exchange(hasBegun_, true) && (!word || word->role != RtfRole::Document)) {
@@ -341,18 +341,9 @@ void RtfCheck::takeFirstWord() {
 }
 
 /// True for an unknown word that was not reported yet.
-bool RtfCheck::isNewWord(std::string_view word) {
+bool RtfChecker::isNewWord(std::string_view word) {
     return reportedWords_.size() < maxReported && !reportedWords_.contains(word) &&
            reportedWords_.emplace(word).second;
-}
-
-std::vector<Diagnostic> checkRtf(std::string_view bytes) {
-    std::vector<Diagnostic> diagnostics;
-    RtfCheck check([&](Diagnostic diagnostic) { diagnostics.push_back(std::move(diagnostic)); });
-    check.feed(bytes);
-    check.finish();
-    sortByPlace(diagnostics);
-    return diagnostics;
 }
 
 }  // namespace quorvane

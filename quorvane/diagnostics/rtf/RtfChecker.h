@@ -18,21 +18,18 @@
 
 namespace quorvane {
 
-/// Checks an RTF file, whoever wrote it, that is handed over piece by piece: whether its groups
-/// balance, its table rows are whole, what it refers to is there, and nothing follows its end. It
-/// builds no tree and keeps no text: its memory does not grow with the file, only with the tables
-/// of fonts and styles.
-class RtfCheck {
+/// What `RtfCheck` does, with its state.
+class RtfChecker {
 public:
     /// Diagnostics come in the order in which they are certain, which is nearly that of their
     /// places.
-    explicit RtfCheck(DiagnosticReceiver receiver) : engine_(std::move(receiver)) {}
+    explicit RtfChecker(DiagnosticReceiver receiver) : engine_(std::move(receiver)) {}
     // Its parts refer to its engine.
-    RtfCheck(const RtfCheck&) = delete;
-    RtfCheck& operator=(const RtfCheck&) = delete;
-    RtfCheck(RtfCheck&&) = delete;
-    RtfCheck& operator=(RtfCheck&&) = delete;
-    ~RtfCheck() = default;
+    RtfChecker(const RtfChecker&) = delete;
+    RtfChecker& operator=(const RtfChecker&) = delete;
+    RtfChecker(RtfChecker&&) = delete;
+    RtfChecker& operator=(RtfChecker&&) = delete;
+    ~RtfChecker() = default;
 
     /// Takes the next bytes of the file.
     void feed(std::string_view bytes);
@@ -87,8 +84,5 @@ private:
     // The unknown words that were reported.
     std::set<std::string, std::less<>> reportedWords_;
 };
-
-/// The diagnostics of an RTF file that is held as a whole, in the order of their places.
-std::vector<Diagnostic> checkRtf(std::string_view bytes);
 
 }  // namespace quorvane
