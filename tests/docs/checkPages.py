@@ -92,10 +92,15 @@ def check_spelling(page):
 
 
 def test_names():
-    sources = "\n".join(file.read_text(encoding="utf-8")
-                        for file in (project / "tests").rglob("*") if file.suffix in (".cpp", ".h"))
-    return {f"{suite}.{name}"
-            for suite, name in re.findall(r"\bTEST(?:_F|_P)?\(\s*(\w+),\s*(\w+)\)", sources)}
+    """The names of all tests, of GoogleTest as well as of CTest."""
+    names = set()
+    for file in (project / "tests").rglob("*"):
+        if file.suffix == ".cpp":
+            names.update(f"{suite}.{name}" for suite, name in re.findall(
+                r"\bTEST(?:_F|_P)?\(\s*(\w+),\s*(\w+)\)", file.read_text(encoding="utf-8")))
+        elif file.name == "CMakeLists.txt":
+            names.update(re.findall(r"NAME (\w+\.\w+)", file.read_text(encoding="utf-8")))
+    return names
 
 
 class Promises:
