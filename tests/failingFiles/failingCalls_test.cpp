@@ -217,7 +217,7 @@ protected:
 
     auto teller() {
         reported.clear();
-        return [this](const cli::Diagnostic& diagnostic) { reported.push_back(diagnostic); };
+        return [this](const cli::ReportedError& diagnostic) { reported.push_back(diagnostic); };
     }
 
     void render() { status = cli::RenderJob(options, {teller()}).run(); }
@@ -252,7 +252,7 @@ protected:
     }
 
     cli::RenderOptions options;
-    std::vector<cli::Diagnostic> reported;
+    std::vector<cli::ReportedError> reported;
     cli::ExitStatus status = cli::ExitStatus::Success;
 };
 

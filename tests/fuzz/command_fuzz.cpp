@@ -18,16 +18,16 @@
 #include <vector>
 
 #include "cli/CheckJob.h"
-#include "cli/Diagnostic.h"
-#include "cli/FindingExcerpt.h"
+#include "cli/DiagnosticExcerpt.h"
 #include "cli/FormatJob.h"
 #include "cli/RenderJob.h"
+#include "cli/ReportedError.h"
 #include "cli/UsageError.h"
 #include "cli/commandLine.h"
 #include "cli/diagnosticJson.h"
 #include "cli/diagnosticText.h"
-#include "cli/findingJson.h"
-#include "cli/findingText.h"
+#include "cli/errorJson.h"
+#include "cli/errorText.h"
 #include "tests/fuzz/FuzzInput.h"
 #include "tests/fuzz/plainRendering.h"
 #include "tests/fuzz/require.h"
@@ -123,11 +123,11 @@ void requireSameFiles(const plain::Files& actual, const plain::Files& expected,
 }
 
 /// Renders, and requires the outcome that the rules state for such a run.
-int rendered(const cli::RenderOptions& options, const cli::DiagnosticSink& report) {
+int rendered(const cli::RenderOptions& options, const cli::ErrorSink& report) {
     const plain::Files inputs = filesThere();
     std::string lines;
     const auto run = [&] {
-        const auto note = [&](const cli::Diagnostic& diagnostic) {
+        const auto note = [&](const cli::ReportedError& diagnostic) {
             lines += plain::errorLine(diagnostic.file, told(diagnostic.error));
             report(diagnostic);
         };
@@ -159,8 +159,8 @@ int rendered(const cli::RenderOptions& options, const cli::DiagnosticSink& repor
 
 /// Checks, and requires that files change only when they are fixed, and only the first time. Adds
 /// what is for standard output to the text.
-int checked(const cli::CheckOptions& options, const cli::FindingSink& find,
-            const cli::DiagnosticSink& report, std::string& text) {
+int checked(const cli::CheckOptions& options, const cli::DiagnosticSink& find,
+            const cli::ErrorSink& report, std::string& text) {
     const plain::Files before = filesThere();
     const auto write = [&text](std::string_view bytes) { text += bytes; };
     const auto status =
@@ -198,15 +198,15 @@ void requireSameWhenLocated(const std::vector<std::string>& arguments, int expec
     }
     std::string reported;
     cli::RenderReceivers receivers;
-    receivers.report = [&](const cli::Diagnostic& diagnostic) {
-        reported += cli::diagnosticText(diagnostic) + "\n";
+    receivers.report = [&](const cli::ReportedError& diagnostic) {
+        reported += cli::errorText(diagnostic) + "\n";
     };
     receivers.locate = [&](const std::string& file, const Diagnostic& diagnostic,
                            const cli::FileWindow& window) {
         require(diagnostic.severity == Severity::Error || options->failOn == cli::FailOn::Warning,
                 "what makes a rendering fail is an error");
-        reported += cli::findingText(file, diagnostic, cli::excerptAt(diagnostic.place, window),
-                                     cli::Colors::Off);
+        reported += cli::diagnosticText(file, diagnostic, cli::excerptAt(diagnostic.place, window),
+                                        cli::Colors::Off);
     };
     int status = -1;
     try {
@@ -229,9 +229,9 @@ std::string outcome(const std::vector<std::string>& arguments) {
             require(!information->text.empty(), "there is something to know");
             return information->text;
         }
-        const auto report = [&](const cli::Diagnostic& diagnostic) {
-            const std::string line = cli::diagnosticText(diagnostic);
-            const std::string json = cli::diagnosticJson(diagnostic);
+        const auto report = [&](const cli::ReportedError& diagnostic) {
+            const std::string line = cli::errorText(diagnostic);
+            const std::string json = cli::errorJson(diagnostic);
             require(line.find('\n') == std::string::npos, "a diagnostic is one line");
             require(json.find('\n') == std::string::npos, "a JSON diagnostic is one line");
             text += line + "\n" + json + "\n";
@@ -239,11 +239,12 @@ std::string outcome(const std::vector<std::string>& arguments) {
         if (const auto* check = std::get_if<cli::CheckOptions>(&request)) {
             const auto find = [&text](const std::string& file, const Diagnostic& diagnostic,
                                       const cli::FileWindow& window) {
-                const std::string line = cli::findingJson(file, diagnostic);
+                const std::string line = cli::diagnosticJson(file, diagnostic);
                 require(line.find('\n') == std::string::npos, "a diagnostic in JSON is one line");
-                text += line + "\n" +
-                        cli::findingText(file, diagnostic, cli::excerptAt(diagnostic.place, window),
-                                         cli::Colors::Off);
+                text +=
+                    line + "\n" +
+                    cli::diagnosticText(file, diagnostic, cli::excerptAt(diagnostic.place, window),
+                                        cli::Colors::Off);
             };
             status = checked(*check, find, report, text);
         } else if (const auto* format = std::get_if<cli::FormatOptions>(&request)) {

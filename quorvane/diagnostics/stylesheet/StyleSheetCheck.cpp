@@ -48,7 +48,7 @@ std::string separatorHint(std::string_view value) {
         const std::string word =
             lowerCase(before.substr(last == std::string_view::npos ? 0 : last + 1));
         if (last != std::string_view::npos && isKeyword(word)) {
-            return "items are separated by ; which is missing before " + word;
+            return "write a ; before " + word;
         }
     }
     return {};
@@ -103,7 +103,7 @@ public:
         const std::string_view opening = openingOfDescription(source_.text());
         if (!opening.empty()) {
             report(DiagnosticId::DescriptionAsStyleSheet, opening, {},
-                   "were the names of the two files swapped?");
+                   "did you swap the names of the two files?");
         } else {
             findKeywordWithoutBraces();
         }
@@ -128,9 +128,8 @@ private:
     void findKeywordWithoutBraces() {
         const std::string_view text = source_.text();
         if (trimWhitespace(behindByteOrderMark(text)).empty()) {
-            report(
-                DiagnosticId::NoStyles, text.substr(0, 0), {},
-                "the file is empty; a style is defined in braces: { name: ...; style-def: ... }");
+            report(DiagnosticId::NoStyles, text.substr(0, 0), {},
+                   "the file is empty; write definitions such as { name: ...; style-def: ... }");
             return;
         }
         if (text.find_first_of("{}") != std::string_view::npos) {
@@ -149,7 +148,7 @@ private:
                                                 keyword) != std::end(keywords));
             if (isKeyword) {
                 report(DiagnosticId::NoStyles, word, {},
-                       "a definition stands in braces: { name: ...; style-def: ... }");
+                       "enclose the definition in braces: { name: ...; style-def: ... }");
                 return;
             }
         }
@@ -189,7 +188,7 @@ private:
     static Hint firstKeywordHint(const SheetItem& first) {
         constexpr std::string_view name[] = {"name"};
         if (first.keyword.starts_with("name") && first.value.empty()) {
-            return "a : follows the keyword name";
+            return "write a : after the keyword name";
         }
         Hint hint("a definition begins with name:");
         if (!certainWord(first.keyword, name).empty()) {
@@ -221,14 +220,14 @@ private:
 
     static Hint keywordHint(std::string_view keyword) {
         if (keyword.empty()) {
-            return "one ; stands between two items";
+            return "write only one ; between two items";
         }
         if (keyword == "name") {
-            return "name is the first item of a definition";
+            return "name must be the first item of a definition";
         }
         const std::string_view word = keyword.substr(0, keyword.find_first_of(" \t\r\n="));
         if (word.size() < keyword.size() && isKeyword(word)) {
-            return "a : follows the keyword " + std::string(word);
+            return "write a : after the keyword " + std::string(word);
         }
         return spellingHint(keyword, keywords);
     }
@@ -238,10 +237,10 @@ private:
             return "write s, cs or cell";
         }
         if (value.starts_with("p")) {
-            return "a paragraph style is s";
+            return "write s for a paragraph style";
         }
         if (value.starts_with("ch")) {
-            return "a character style is cs";
+            return "write cs for a character style";
         }
         return spellingHint(value, kinds);
     }
@@ -277,7 +276,7 @@ private:
             CRtfGrpColorTable::colorNumber(color) == 0) {
             report(DiagnosticId::UnknownCellColor, item.value,
                    {color.empty() ? std::string_view("An empty format") : item.value},
-                   color.empty() ? Hint("write none where no color is meant")
+                   color.empty() ? Hint("write none for no color")
                                  : spellingHint(color, viewsOf(cellColorNames())));
         }
     }
