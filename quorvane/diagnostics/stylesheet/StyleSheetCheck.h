@@ -8,15 +8,12 @@
 
 namespace quorvane {
 
-/// Returns all diagnostics about a stylesheet (UTF-8), in the order of their places. A stylesheet
-/// has an error if and only if loading it raises one.
+/// Returns all diagnostics about a stylesheet (UTF-8), in the order of their places. One of them is
+/// an error if and only if loading the stylesheet raises one.
 std::vector<Diagnostic> checkStyleSheet(std::string_view text);
 
-/// The findings that the check comes to by itself, before it is compared with what the loading
-/// says. For tests of the check.
-std::vector<Diagnostic> findingsWithoutLoading(std::string_view text);
-
-/// Returns a diagnostic for each style of a stylesheet that was not marked as used.
+/// Returns a diagnostic for each style that was not marked as used, with its place in the text of
+/// the stylesheet.
 std::vector<Diagnostic> findUnusedStyles(const KnownStyles& styles);
 
 }  // namespace quorvane
