@@ -26,7 +26,8 @@ def report(page, line, text):
 
 
 def pages():
-    return [*sorted(project.glob("*.md")), *sorted((project / "docs").glob("*.md"))]
+    return [page for folder in (".", "docs", "examples")
+            for page in sorted((project / folder).glob("*.md"))]
 
 
 def lines_of(page):
