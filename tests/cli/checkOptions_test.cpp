@@ -173,8 +173,8 @@ TEST_F(CheckOptionsTest, ACommentThatCannotBeFollowedIsReported) {
     folder.write("a.rtfspec", "(doc\n; quorvane: ignore wrong-colour\n(r\n(c\nc)\nr)\ndoc)\n");
     const ProgramResult result = run({"a.rtfspec"});
     EXPECT_EQ(result.output,
-              "a.rtfspec:2:20: warning: This comment cannot be followed. wrong-colour is not a "
-              "diagnostic. [ignore-comment]\n"
+              "a.rtfspec:2:20: warning: Invalid quorvane comment: there is no diagnostic "
+              "wrong-colour. [ignore-comment]\n"
               "    ; quorvane: ignore wrong-colour\n"
               "                       ^~~~~~~~~~~~\n"
               "    hint: did you mean wrong-color?\n"
@@ -292,7 +292,7 @@ TEST_F(CheckOptionsTest, ExplainSaysWhatIsOffByDefault) {
     const std::string text = run({"--explain", "unused-style"}).output;
     EXPECT_THAT(text, testing::StartsWith("unused-style: warning in stylesheets, off by default\n"
                                           "    No description uses the style sum.\n"));
-    EXPECT_THAT(text, HasSubstr("\nThe report:\n"
+    EXPECT_THAT(text, HasSubstr("\nReport:\n"
                                 "    example.rtfss:2:9: warning: No description uses the style "
                                 "sum. [unused-style]\n"));
 }

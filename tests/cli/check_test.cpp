@@ -179,10 +179,10 @@ TEST_F(CheckTest, ReportsThatABrokenDocumentIsNone) {
     folder.write("b.rtf", "");
     const ProgramResult result = run({"a.rtf", "b.rtf"});
     EXPECT_EQ(result.output,
-              "a.rtf:1:1: error: The file doesn't begin with {\\rtf. [not-rtf]\n"
+              "a.rtf:1:1: error: The file does not begin with {\\rtf. [not-rtf]\n"
               "    rtf1 {\\b Total}\n"
               "    ^\n"
-              "b.rtf:1:1: error: The file doesn't begin with {\\rtf. [not-rtf]\n"
+              "b.rtf:1:1: error: The file does not begin with {\\rtf. [not-rtf]\n"
               "2 errors in 2 files\n");
     EXPECT_EQ(result.status, 1);
 }
@@ -286,7 +286,7 @@ TEST_F(CheckTest, DoublesBracesInSarifWhereOneWouldBeAPlaceholder) {
     const json log = json::parse(run({"--diagnostics=sarif", "a.rtfspec"}).output);
     const json& run = log.at("runs").at(0);
     EXPECT_EQ(run.at("results").at(0).at("message").at("text"),
-              "The {{ has no partner. (write \\{{ for a brace to be seen)");
+              "Unmatched {{. (write \\{{ for a literal brace)");
     const json& rules = run.at("tool").at("driver").at("rules");
     const auto wrongColor = std::find_if(rules.begin(), rules.end(), [](const json& rule) {
         return rule.at("id") == "wrong-color";
@@ -318,7 +318,7 @@ TEST_F(CheckTest, GivesSarifWhatCodeScanningRequires) {
         EXPECT_EQ(rule.at("defaultConfiguration").at("enabled"), id != "unused-style");
     }
     const json& rules = run.at("tool").at("driver").at("rules");
-    EXPECT_EQ(rules.at(0).at("name"), "WrongFileType");
+    EXPECT_EQ(rules.at(0).at("name"), "NotATextFile");
     const json& found = run.at("results").at(0);
     EXPECT_TRUE(found.at("partialFingerprints").contains("primaryLocationLineHash"));
 }
@@ -434,7 +434,7 @@ TEST_F(CheckTest, ExplainsEveryIdentifier) {
               "Wrong:\n"
               "    (doc\n    (r\n    (rtb=medium)\n    (c\n    c)\n    r)\n    doc)\n"
               "\n"
-              "The report:\n"
+              "Report:\n"
               "    example.rtfspec:3:6: error: medium isn't a recognized border. [wrong-border]\n"
               "        (rtb=medium)\n"
               "             ^~~~~~\n"
