@@ -12,6 +12,7 @@
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/diagnostics/engine/nearestWord.h"
+#include "quorvane/stylesheet/stylesheetSyntax.h"
 
 namespace quorvane {
 
@@ -61,8 +62,8 @@ public:
                 comments.push_back(commentAt(i, text.substr(mark.size())));
             }
             if (isStyleSheet_) {
-                depth_ += std::count(line.begin(), line.end(), '{') -
-                          std::count(line.begin(), line.end(), '}');
+                const auto [opened, closed] = countBraces(line);
+                depth_ += opened - closed;
             }
         }
         return comments;
@@ -105,10 +106,9 @@ private:
     std::int64_t lastLineOfDefinition(std::size_t from) {
         // Comments that follow one another are about the same definition: it is looked up once.
         if (!definition_ || definition_->open < from) {
-            const std::size_t open = source_.text().find('{', from);
-            const std::size_t close = open == nowhere ? nowhere : source_.text().find('}', open);
-            const std::size_t end = std::min(close, source_.text().size());
-            definition_ = Definition{open, source_.place(end, end).line};
+            const std::optional<BracedText> next = bracedTextFrom(source_.text(), from);
+            const std::size_t end = next ? next->close : source_.text().size();
+            definition_ = Definition{next ? next->open : nowhere, source_.place(end, end).line};
         }
         return definition_->lastLine;
     }
