@@ -263,7 +263,7 @@ TEST(ReportsOfColors, MarkTheWholeTextWhereItsOwnColorIsTheReason) {
 }
 
 TEST(ReportsOfFields, TakeTheInstructionForWhatItSays) {
-    const auto expectFinding = [](const std::string& instruction, const std::string& brought) {
+    const auto expectReport = [](const std::string& instruction, const std::string& brought) {
         const std::string report =
             reportOf(paragraphWith("{\\field{\\*\\fldinst " + instruction + "}}"));
         EXPECT_EQ(report,
@@ -271,24 +271,24 @@ TEST(ReportsOfFields, TakeTheInstructionForWhatItSays) {
                       " into the document. [embedded-content]\n    (pt={\\field{\\*\\fldinst " +
                       instruction + "}})\n                  ^~~~~~~~\n");
     };
-    expectFinding("{\\b INCLUDETEXT x}", "a link to a file");
-    expectFinding("IN{}CLUDETEXT x", "a link to a file");
-    expectFinding("\\'49NCLUDETEXT x", "a link to a file");
-    expectFinding("{\\uc1\\u73?}{\\i N}CLUDE\\b0 TEXT x", "a link to a file");
-    expectFinding("\\u77?ACROBUTTON x", "a macro");
-    expectFinding("\\u-65459?ACROBUTTON x", "a macro");
-    expectFinding("\\uc0\\u77 ACROBUTTON x", "a macro");
-    expectFinding("{\\uc2\\u77\\'4d?}ACROBUTTON x", "a macro");
-    expectFinding("\\u77{}ACROBUTTON x", "a macro");
-    expectFinding("MACRO\\u8203 BUTTON x", "a macro");
-    expectFinding("MACRO\\u8203?BUTTON x", "a macro");
-    expectFinding("MACRO\\zwnj\\-BUTTON x", "a macro");
-    expectFinding("MACRO\\'adBUTTON x", "a macro");
-    expectFinding("\\'09\\'a0MACROBUTTON x", "a macro");
-    expectFinding("{\\*\\datafield QUOTE}dde{\\rtlch auto} x", "a link to a program");
-    expectFinding("{\\cs100 MACRO}{\\cs100 BUTTON} x y", "a macro");
-    expectFinding("HYPERLINK \"c:\\\\x http://\"", "a link to a file");
-    expectFinding("HYPER{\\b LINK} file:///x", "a link to a file");
+    expectReport("{\\b INCLUDETEXT x}", "a link to a file");
+    expectReport("IN{}CLUDETEXT x", "a link to a file");
+    expectReport("\\'49NCLUDETEXT x", "a link to a file");
+    expectReport("{\\uc1\\u73?}{\\i N}CLUDE\\b0 TEXT x", "a link to a file");
+    expectReport("\\u77?ACROBUTTON x", "a macro");
+    expectReport("\\u-65459?ACROBUTTON x", "a macro");
+    expectReport("\\uc0\\u77 ACROBUTTON x", "a macro");
+    expectReport("{\\uc2\\u77\\'4d?}ACROBUTTON x", "a macro");
+    expectReport("\\u77{}ACROBUTTON x", "a macro");
+    expectReport("MACRO\\u8203 BUTTON x", "a macro");
+    expectReport("MACRO\\u8203?BUTTON x", "a macro");
+    expectReport("MACRO\\zwnj\\-BUTTON x", "a macro");
+    expectReport("MACRO\\'adBUTTON x", "a macro");
+    expectReport("\\'09\\'a0MACROBUTTON x", "a macro");
+    expectReport("{\\*\\datafield QUOTE}dde{\\rtlch auto} x", "a link to a program");
+    expectReport("{\\cs100 MACRO}{\\cs100 BUTTON} x y", "a macro");
+    expectReport("HYPERLINK \"c:\\\\x http://\"", "a link to a file");
+    expectReport("HYPER{\\b LINK} file:///x", "a link to a file");
 }
 
 TEST(ReportsOfFields, JudgeFieldsWithinFields) {
