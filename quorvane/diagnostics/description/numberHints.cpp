@@ -54,7 +54,7 @@ bool isInTwips(std::string_view key) {
 
 std::string acceptedNumber(std::string_view key) {
     if (isInTwips(key)) {
-        return "write a number of twips; an inch has 1440, a centimeter 567";
+        return "write a number of twips: an inch is 1440, a centimeter 567";
     }
     return key == "cell-width" ? "write a percentage of the width between the margins, without a %"
                                : "write a number";

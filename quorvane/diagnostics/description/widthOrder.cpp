@@ -129,9 +129,8 @@ Hint widthOrderHint(const CellPercents& percents, std::int32_t room) {
         for (const std::optional<double>& percent : order) {
             text += (text.empty() ? "" : ", ") + numberText(*percent);
         }
-        return areAllGiven
-                   ? "in the order " + text + ", all cells get their widths"
-                   : "give all cells a width; in the order " + text + ", all of them get it";
+        return areAllGiven ? "the order " + text + " gives all cells their widths"
+                           : "give all cells a width, in the order " + text;
     } catch (const RtfError&) {
         // Measures beyond 32 bits have no order.
         return {};

@@ -96,27 +96,27 @@ TEST(RtfCheck, SaysInWhichRowAGroupWasLeftOpen) {
     const std::string row = "{\\trowd\\cellx9 a\\cell\\row}\n";
     const std::string broken = "{\\trowd\\cellx9 {a\\cell\\row}\n";
     EXPECT_EQ(told(documentOf(row + row + broken + row)),
-              "The group is not closed. | a group is open where the row of line 4 ends that was "
-              "not at the ends of the rows before");
+              "The group is not closed. | when the row on line 4 ends, a group is open that "
+              "was not open at the end of earlier rows");
     EXPECT_EQ(told(documentOf(broken + row)),
-              "The group is not closed. | a group is open where the row of line 2 ends that was "
-              "not where it begins");
+              "The group is not closed. | when the row on line 2 ends, a group is open that "
+              "was not open at its beginning");
     EXPECT_EQ(told(documentOf(row + "{a\n")), "The group is not closed. | ");
     EXPECT_EQ(told("{\\rtf1 " + row + "{"), "The group is not closed. | ");
 }
 
 TEST(RtfCheck, CountsInWords) {
     EXPECT_EQ(told(documentOf("\\trowd\\cellx9 a\\cell b\\cell\\row")),
-              "The row has 2 cells and 1 cell definition. | ");
+              "The row has 2 cells but 1 cell definition. | ");
     EXPECT_EQ(told(documentOf("\\trowd\\cellx8\\cellx9 a\\cell\\row")),
-              "The row has 1 cell and 2 cell definitions. | ");
+              "The row has 1 cell but 2 cell definitions. | ");
 }
 
 TEST(RtfCheck, NamesTheNumberThatIsLeftOut) {
     EXPECT_EQ(told("{\\rtf1{\\fonttbl{\\f0 a;}{\\f b;}}}"),
-              "The font 0 is in the font table already, with another definition. | ");
+              "The font 0 is already in the font table, with another definition. | ");
     EXPECT_EQ(told("{\\rtf1{\\stylesheet{\\s0 a;}{\\s b;}}}"),
-              "The style s0 is in the stylesheet already. | ");
+              "The style s0 is already in the stylesheet. | ");
 }
 
 TEST(RtfCheck, WantsWholeControlsAndData) {
