@@ -57,6 +57,7 @@ StyleItem readStyleItem(std::string_view text) {
     item.whole = trimWhitespace(text);
     item.writtenKeyword = trimWhitespace(text.substr(0, colon));
     item.keyword = lowerCase(item.writtenKeyword);
+    item.known = findStyleKeyword(item.keyword);
     item.value =
         colon == nowhere ? text.substr(text.size()) : trimWhitespace(text.substr(colon + 1));
     return item;
@@ -66,14 +67,11 @@ StyleItemFault faultOfFirst(const StyleItem& item) {
     return item.keyword == nameKeyword ? StyleItemFault::None : StyleItemFault::Keyword;
 }
 
-StyleItemFault faultOf(const StyleItem& item) {
-    const StyleKeyword* const keyword = findStyleKeyword(item.keyword);
-    if (!keyword) {
+StyleItemFault faultOf(const StyleItem& item, std::string_view lowerValue) {
+    if (!item.known) {
         return StyleItemFault::Keyword;
     }
-    return keyword->values.empty() || keyword->accepts(lowerCase(item.value))
-               ? StyleItemFault::None
-               : StyleItemFault::Value;
+    return item.known->accepts(lowerValue) ? StyleItemFault::None : StyleItemFault::Value;
 }
 
 std::optional<std::string_view> Pieces::next() {

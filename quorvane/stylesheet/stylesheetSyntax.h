@@ -42,6 +42,8 @@ struct StyleItem {
     std::string_view writtenKeyword;
     /// In lower case.
     std::string keyword;
+    /// What the keyword is in an item other than the first; null when it is not one of those.
+    const StyleKeyword* known;
     /// Empty when the item has no ":".
     std::string_view value;
 
@@ -56,8 +58,8 @@ enum class StyleItemFault { None, Keyword, Value };
 /// The fault of the first item of a definition.
 StyleItemFault faultOfFirst(const StyleItem& item);
 
-/// The fault of any other item. The value is compared without regard to case.
-StyleItemFault faultOf(const StyleItem& item);
+/// The fault of any other item. The value is given in lower case.
+StyleItemFault faultOf(const StyleItem& item, std::string_view lowerValue);
 
 /// The pieces of a text between separators. An empty text is one empty piece.
 class Pieces {
