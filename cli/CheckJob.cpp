@@ -74,7 +74,7 @@ bool isSameFile(const std::string& a, const std::string& b) {
     return std::filesystem::equivalent(pathFromUtf8(a), pathFromUtf8(b), failure);
 }
 
-/// A file that is not treated as asked for, for another reason than one of the system.
+/// A file that cannot be handled as requested, for a reason that is not the system's.
 ReportedError refusal(const std::string& file, const char* why) {
     const auto number = static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall);
     return {ErrorKind::Raised, file, RtfError(number, why), why};
@@ -167,8 +167,8 @@ void CheckJob::checkFile(const std::string& file) {
             return;
         }
         // The file of an RTF document may be larger than the memory. A file that is something else
-        // is read by the platform, which also tells why one cannot be read; so is a pipe, which
-        // can be read only once. Whether a stylesheet would be loaded shows when all of it is read.
+        // is read by the platform, which also reports why one cannot be read; so is a pipe, which
+        // can be read only once. A stylesheet must be read whole to see whether it can be loaded.
         const std::filesystem::path path = pathFromUtf8(file);
         std::error_code failure;
         if (std::filesystem::is_regular_file(path, failure)) {
@@ -234,7 +234,7 @@ std::vector<Diagnostic> CheckJob::reported(std::vector<Diagnostic> diagnostics,
 }
 
 /// Reports what the check finds in a text, and fixes the file if --fix is given. Returns the bytes
-/// of the text as they are afterwards, or would be; nothing for a file that is not a text.
+/// of the text after its fixes, or no value for a file that is not a text.
 std::optional<std::string> CheckJob::reportText(const std::string& file, std::string_view bytes,
                                                 bool isStream, const TextCheck& check) {
     ++counts_.files;
@@ -253,7 +253,7 @@ std::optional<std::string> CheckJob::reportText(const std::string& file, std::st
     }
     FixedText fixed = fixText(bytes, check);
     if (fixed.wasRefused) {
-        fail_(refusal(shownName(file), "Not fixed: with its fixes it would have more errors"));
+        fail_(refusal(shownName(file), "Not fixed: the fixes would cause more errors"));
     }
     if (options_.showsDiff) {
         reportAll(file, fixed.rounds.empty() ? fixed.remaining : check(bytes), bytes);
@@ -273,7 +273,7 @@ std::optional<std::string> CheckJob::reportText(const std::string& file, std::st
     return fixed.bytes;
 }
 
-/// Writes the fixed text in the place of the one before; false when that fails.
+/// Replaces the file with the fixed text; returns false when that fails.
 bool CheckJob::writeFixed(const std::string& file, std::string_view before,
                           const FixedText& fixed) {
     if (fixed.bytes == before) {

@@ -21,8 +21,8 @@
 
 namespace quorvane::cli {
 
-/// Takes a diagnostic about a file, named as on the command line, and the file's window. One that
-/// was fixed comes with the window of the text before.
+/// Receives a diagnostic about a file, named as on the command line, and the file's window. For one
+/// that was fixed, the window is that of the text before the fix.
 using DiagnosticSink =
     std::function<void(const std::string& file, const Diagnostic&, const FileWindow&)>;
 
@@ -32,12 +32,12 @@ struct CheckCounts {
     std::size_t files = 0;
     std::size_t errors = 0;
     std::size_t warnings = 0;
-    /// Findings that were fixed; they are no errors or warnings any more.
+    /// Diagnostics that were fixed, which no longer count as errors or warnings.
     std::size_t fixed = 0;
 };
 
-/// What `quorvane check` does: checks files one after the other, each as what it is by its content,
-/// and fixes descriptions and stylesheets where it is asked to. RTF files are read in pieces.
+/// Implements `quorvane check`: checks files one after the other, each according to its content,
+/// and fixes descriptions and stylesheets on request. RTF files are read in pieces.
 class CheckJob {
 public:
     /// Takes bytes for standard output: the text of standard input with its fixes, or a diff.

@@ -25,7 +25,7 @@ struct CheckOptions {
     bool isQuiet = false;
     /// Makes the fixes that diagnostics carry.
     bool fixes = false;
-    /// Shows what the fixes would change, and makes none.
+    /// Shows what the fixes would change, without applying them.
     bool showsDiff = false;
     /// The name that standard input is checked and reported under.
     std::optional<std::string> stdinName;

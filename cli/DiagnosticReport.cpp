@@ -6,7 +6,7 @@ namespace quorvane::cli {
 
 namespace {
 
-// So many causes of one file are held back; what comes later is counted anew.
+// At most this many causes of one file are held back; then counting starts again.
 constexpr std::size_t maxCausesHeld = 10'000;
 
 }  // namespace

@@ -25,7 +25,7 @@ public:
     /// each other.
     void add(const std::string& file, const Diagnostic& diagnostic, const FileWindow& window);
 
-    /// Writes what is held back of the last file.
+    /// Writes what is held back about the last file.
     void end();
 
 private:

@@ -94,7 +94,7 @@ std::string FormatJob::formatted(const std::string& file, std::string_view bytes
     }
     refuse(languageOf(bytes, shownName(file)) == CheckedLanguage::Rtf
                ? "An RTF file has no canonical form"
-               : "Neither a description nor a stylesheet");
+               : "The file is neither a description nor a stylesheet");
 }
 
 ExitStatus format(const FormatOptions& options) {

@@ -100,8 +100,8 @@ ExitStatus RenderJob::render(const Assignment& assignment) {
     try {
         const ExitStatus status =
             DescriptionRendering(assignment, manner_, platform_, driver_, report_).run();
-        // The next document uses the memory of a small one again; that of a large one shall not
-        // stay beside it. After an error the next description begins anew.
+        // The next document uses the memory of a small one again; that of a large one is
+        // released. After an error the next description gets a new driver.
         if (status != ExitStatus::Success || driver_->Contents().size() > largestKeptDocument) {
             driver_ = nullptr;
         }

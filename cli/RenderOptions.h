@@ -11,10 +11,10 @@ namespace quorvane::cli {
 /// The form in which errors are reported on standard error.
 enum class ErrorForm { Text, Json };
 
-/// In place of a file's name it stands for standard input or standard output.
+/// The name that stands for standard input or standard output.
 inline constexpr const char* standardStream = "-";
 
-/// What `quorvane render` was asked to do. Paths are as they were given.
+/// The options of `quorvane render`. Paths are as given.
 struct RenderOptions {
     std::vector<std::string> descriptions;
     std::optional<std::string> styleSheet;

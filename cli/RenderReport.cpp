@@ -92,7 +92,7 @@ bool RenderReport::passBytes(const std::string& name, std::string_view bytes) {
     return !binary;
 }
 
-/// Nothing of such a file can be shown.
+/// No part of such a file can be shown.
 void RenderReport::refuseBinary(const std::string& file, const Diagnostic& diagnostic) {
     if (receivers_.locate) {
         receivers_.locate(file, diagnostic, windowOf({}));

@@ -19,12 +19,12 @@ namespace quorvane::cli {
 /// Called before each description with its number, how many there are, and its name.
 using ProgressSink = std::function<void(std::size_t number, std::size_t count, const std::string&)>;
 
-/// Who takes what a rendering reports.
+/// Receives what a rendering reports.
 struct RenderReceivers {
-    /// Takes errors, each as the library has it. `locate`, where it is set, takes those instead
+    /// Receives errors as the library raises them. If `locate` is set, it receives those instead
     /// that the check of the file finds too.
     ErrorSink report;
-    /// Takes what the check has about a file, and the file's window.
+    /// Receives a diagnostic about a file, and the file's window.
     std::function<void(const std::string& file, const Diagnostic&, const FileWindow&)> locate{};
     ProgressSink progress{};
 };

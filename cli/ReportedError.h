@@ -28,7 +28,7 @@ struct ReportedError {
     std::string reason{};
 };
 
-/// Takes the errors in the order in which they come.
+/// Receives the errors in the order in which they occur.
 using ErrorSink = std::function<void(const ReportedError&)>;
 
 }  // namespace quorvane::cli

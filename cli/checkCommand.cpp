@@ -94,7 +94,7 @@ void reportFailure(const ReportedError& failure, ReportForm form) {
                          "\n");
 }
 
-/// What the options ask for instead of a check; empty when they ask for one.
+/// The text that the options ask for instead of a check; empty if they ask for a check.
 std::string textWithoutCheck(const CheckOptions& options) {
     if (options.explained) {
         return explanation(ruleNamed("--explain", *options.explained));

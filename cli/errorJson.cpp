@@ -33,16 +33,16 @@ std::string_view kindName(ErrorKind kind) {
 
 }  // namespace
 
-std::string errorJson(const ReportedError& diagnostic) {
-    const RtfError& error = diagnostic.error;
+std::string errorJson(const ReportedError& reported) {
+    const RtfError& error = reported.error;
     Json object;
-    object["file"] = textOrNull(diagnostic.file);
+    object["file"] = textOrNull(reported.file);
     object["line"] = error.line > 0 ? Json(error.line) : Json(nullptr);
     object["number"] = error.number;
     object["level"] = levelOrNull(error.number);
     object["source"] = textOrNull(error.source);
     object["message"] = error.description;
-    object["kind"] = kindName(diagnostic.kind);
+    object["kind"] = kindName(reported.kind);
     if (error.cause) {
         object["cause"] = causeText(error);
     }

@@ -8,26 +8,26 @@ namespace quorvane::cli {
 
 namespace {
 
-std::string place(const ReportedError& diagnostic) {
-    if (diagnostic.file.empty()) {
+std::string place(const ReportedError& reported) {
+    if (reported.file.empty()) {
         return {};
     }
-    const int line = diagnostic.error.line;
-    return diagnostic.file + (line > 0 ? ":" + std::to_string(line) : "") + ": ";
+    const int line = reported.error.line;
+    return reported.file + (line > 0 ? ":" + std::to_string(line) : "") + ": ";
 }
 
 }  // namespace
 
-std::string errorText(const ReportedError& diagnostic) {
-    const RtfError& error = diagnostic.error;
-    if (!diagnostic.reason.empty()) {
-        return oneLine(place(diagnostic) + diagnostic.reason);
+std::string errorText(const ReportedError& reported) {
+    const RtfError& error = reported.error;
+    if (!reported.reason.empty()) {
+        return oneLine(place(reported) + reported.reason);
     }
     // A raised error may name the file that it is about; that of an event repeats a line.
-    const std::string message = diagnostic.kind == ErrorKind::Event
+    const std::string message = reported.kind == ErrorKind::Event
                                     ? shortened(oneLine(error.description))
                                     : error.description;
-    return oneLine(place(diagnostic) + "error: " + withCause(message, error));
+    return oneLine(place(reported) + "error: " + withCause(message, error));
 }
 
 }  // namespace quorvane::cli

@@ -7,9 +7,9 @@
 namespace quorvane::cli {
 
 /// The error for a person, on one line without its end:
-/// "letter.rtfspec:12: error: crimson isn't a recognized color.", what lies behind it in
-/// parentheses after it; or, for a file that cannot be read or written, the system's reason alone:
+/// "letter.rtfspec:12: error: crimson isn't a recognized color.", followed by its cause in
+/// parentheses; or, for a file that cannot be read or written, the system's reason alone:
 /// "letter.rtfspec: No such file or directory".
-std::string errorText(const ReportedError& diagnostic);
+std::string errorText(const ReportedError& reported);
 
 }  // namespace quorvane::cli

@@ -136,8 +136,8 @@ UsageError wouldReplaceInput(const std::string& description, const std::string& 
 
 UsageError bothWouldGoTo(const std::string& output, const std::string& first,
                          const std::string& second) {
-    return UsageError("the documents of " + first + " and " + second + " would both go to " +
-                      output);
+    return UsageError("the documents of " + first + " and " + second +
+                      " would both be written to " + output);
 }
 
 }  // namespace

@@ -25,8 +25,8 @@ namespace quorvane::cli {
 
 namespace {
 
-std::string lineOf(const ReportedError& diagnostic, ErrorForm form) {
-    return (form == ErrorForm::Json ? errorJson(diagnostic) : errorText(diagnostic)) + "\n";
+std::string lineOf(const ReportedError& error, ErrorForm form) {
+    return (form == ErrorForm::Json ? errorJson(error) : errorText(error)) + "\n";
 }
 
 void reportUsageError(const UsageError& error, ErrorForm form) {
@@ -70,9 +70,9 @@ ExitStatus render(const RenderOptions& options) {
         }
     };
     RenderReceivers receivers;
-    receivers.report = [&](const ReportedError& diagnostic) {
+    receivers.report = [&](const ReportedError& error) {
         eraseProgress();
-        writeToStandardError(lineOf(diagnostic, options.diagnostics));
+        writeToStandardError(lineOf(error, options.diagnostics));
     };
     if (options.diagnostics == ErrorForm::Text) {
         receivers.locate = [&, colors = wantedColors(columns > 0)](const std::string& file,

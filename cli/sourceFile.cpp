@@ -61,7 +61,7 @@ std::optional<CheckedLanguage> languageOfSourceFile(const std::string& path) {
         bytes.erase(0, bytes.find_first_of("({;"));
     }
     const std::string text = utf8FromCodePage1252(behindByteOrderMark(bytes));
-    // A stylesheet is one under any name; what says too little is what its name says.
+    // A stylesheet is recognized under any name; if the content is unclear, the name decides.
     const std::optional<CheckedLanguage> language = languageOfStreamToFormat(text);
     return language ? language : languageToFormat(text, path);
 }

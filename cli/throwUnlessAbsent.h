@@ -4,8 +4,8 @@
 
 namespace quorvane::cli {
 
-/// Raises error 57 with its cause when a look at a path failed so that it is not known what is
-/// there, as when a disk goes. A path that leads nowhere is an answer.
+/// Raises error 57 with the failure as its cause, unless the failure means that there is nothing at
+/// the path. It is for failures that leave unknown what is there, as when a disk breaks.
 void throwUnlessAbsent(const std::error_code& failure);
 
 }  // namespace quorvane::cli

@@ -295,7 +295,7 @@ TEST_F(RenderJobTest, RefusesTwoDocumentsInOneFileBeforeItWritesAny) {
     options.descriptions = {folder.write("a.rtfspec", descriptionOf("Text")),
                             folder.write("b.rtfspec", descriptionOf("Text")),
                             folder.write("a.txt", descriptionOf("Text"))};
-    EXPECT_THAT(usageError(), HasSubstr("would both go to"));
+    EXPECT_THAT(usageError(), HasSubstr("would both be written to"));
     EXPECT_THAT(folder.names(), ElementsAre("a.rtfspec", "a.txt", "b.rtfspec"));
 }
 

@@ -44,7 +44,7 @@ public:
     /// Path of a file of the folder.
     std::string operator/(std::string_view name) const { return (path_ / name).string(); }
 
-    /// Writes a file of the folder and answers its path.
+    /// Writes a file of the folder and returns its path.
     std::string write(std::string_view name, std::string_view bytes) const {
         std::ofstream(path_ / name, std::ios::binary) << bytes;
         written_.insert(path_ / name);

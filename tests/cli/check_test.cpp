@@ -139,7 +139,7 @@ TEST_F(CheckTest, TakesAnEmptyStyleSheetForOne) {
     const ProgramResult result = run({"s.rtfss", "t.rtfss"});
     EXPECT_EQ(result.output,
               "s.rtfss:1:1: warning: The stylesheet has no styles. [no-styles]\n"
-              "    hint: the file is empty; a style is defined in braces: { name: ...; style-def: "
+              "    hint: the file is empty; write definitions such as { name: ...; style-def: "
               "... }\n"
               "1 warning in 2 files\n");
     EXPECT_EQ(result.status, 3);
@@ -201,7 +201,7 @@ TEST_F(CheckTest, RefusesTheStyleSheetsThatRenderRefuses) {
         start.arguments = {command, "-s", "a.rtfspec", "s.rtfss"};
         result = runProgram(start);
         EXPECT_THAT(result.errors, StartsWith("quorvane: the stylesheet a.rtfspec must have the "
-                                              "extension rtfss; is it swapped with s.rtfss?\n"));
+                                              "extension rtfss; did you swap it with s.rtfss?\n"));
         EXPECT_EQ(result.status, 2);
     }
 }
@@ -215,7 +215,7 @@ TEST_F(CheckTest, SaysWhereADescriptionIsGivenAsStyleSheet) {
               "[description-as-stylesheet]\n"
               "    (doc\n"
               "    ^~~~\n"
-              "    hint: were the names of the two files swapped?\n"
+              "    hint: did you swap the names of the two files?\n"
               "1 warning in 2 files\n");
     EXPECT_EQ(result.status, 3);
 }
@@ -463,12 +463,12 @@ TEST_F(CheckTest, ShowsTheNeighbourhoodOfAPlaceInALongLine) {
     const std::string after(200, 'b');
     folder.write("long.rtfspec", descriptionOf(before + "}" + after));
     EXPECT_EQ(run({"long.rtfspec"}).output,
-              "long.rtfspec:5:205: warning: The } has no partner. [unbalanced-brace]\n"
+              "long.rtfspec:5:205: warning: Unmatched }. [unbalanced-brace]\n"
               "    ..." +
                   before.substr(0, 80) + "}" + after.substr(0, 60) + "...\n" +
                   std::string(87, ' ') +
                   "^\n"
-                  "    hint: write \\} for a brace to be seen\n"
+                  "    hint: write \\} for a literal brace\n"
                   "1 warning in 1 file\n");
 }
 
@@ -501,7 +501,7 @@ TEST_F(CheckTest, ReportsDiagnosticsAboutADocumentInTheOrderOfTheirPlaces) {
               "a.rtf:2:1: warning: The color 9 is not in the color table. [unknown-color]\n"
               "    \\cf9 \\trowd\\cellx9 a\\cell\n"
               "    ^~~~\n"
-              "a.rtf:2:6: error: The row that begins here is not ended. [unended-row]\n"
+              "a.rtf:2:6: error: The row that begins here has no end. [unended-row]\n"
               "    \\cf9 \\trowd\\cellx9 a\\cell\n"
               "         ^~~~~~\n"
               "a.rtf:3:1: error: Two hexadecimal digits must follow \\'. [bad-hex-escape]\n"
@@ -513,7 +513,7 @@ TEST_F(CheckTest, ReportsDiagnosticsAboutADocumentInTheOrderOfTheirPlaces) {
 TEST_F(CheckTest, GivesUpOnGroupsThatAreNestedVeryDeep) {
     folder.write("deep.rtf", "{\\rtf1\n" + std::string(1200, '{') + std::string(1200, '}') + "}\n");
     EXPECT_EQ(run({"deep.rtf"}).output,
-              "deep.rtf:2:1000: error: Groups are nested deeper than 1000. [deep-nesting]\n"
+              "deep.rtf:2:1000: error: Groups are nested more than 1000 deep. [deep-nesting]\n"
               "    ..." +
                   std::string(80, '{') + std::string(61, '{') + "...\n" + std::string(87, ' ') +
                   "^\n"

@@ -42,13 +42,13 @@ std::string missingOpenerHint(NodeKind parent, NodeKind kind, std::string_view l
     const std::string row = isShort ? "(r" : "(row";
     const std::string cell = isShort ? "(c" : "(cell";
     if (kind == NodeKind::Cell && parent == NodeKind::Doc) {
-        return row + " is missing before it";
+        return row + " is missing before this line";
     }
     if (kind == NodeKind::Para && parent == NodeKind::Row) {
-        return cell + " is missing before it";
+        return cell + " is missing before this line";
     }
     return kind == NodeKind::Para && parent == NodeKind::Doc
-               ? row + " and " + cell + " are missing before it"
+               ? row + " and " + cell + " are missing before this line"
                : std::string();
 }
 
@@ -140,10 +140,11 @@ private:
         }
         startsAsDocument_ = first.starts_with("(doc");
         if (!startsAsDocument_) {
-            engine_.report(DiagnosticId::WrongRoot, source_.placeOf(first), {},
-                           behindByteOrderMark(first).size() < first.size()
-                               ? "the file begins with a mark of UTF-8: save it in Windows-1252"
-                               : "");
+            engine_.report(
+                DiagnosticId::WrongRoot, source_.placeOf(first), {},
+                behindByteOrderMark(first).size() < first.size()
+                    ? "the file begins with a UTF-8 byte order mark; save it in Windows-1252"
+                    : "");
         } else if (!last.starts_with("doc)")) {
             engine_.report(DiagnosticId::WrongRoot, source_.placeOf(last), {},
                            "the last line must be doc)");
@@ -196,8 +197,8 @@ private:
         const auto [known, isNew] = level.keys.emplace(leaf.key, line);
         if (!isNew) {
             engine_.report(DiagnosticId::DuplicateLeaf, source_.placeOf(line), {},
-                           leaf.key + " stands on line " +
-                               std::to_string(source_.placeOf(known->second).line) + " already");
+                           leaf.key + " is already on line " +
+                               std::to_string(source_.placeOf(known->second).line));
             return;
         }
         reportOutside(line);
@@ -243,9 +244,9 @@ private:
             std::to_string(count) + " " + std::string(nodeKindName(kind)) + "s";
         return count <= mostNodes
                    ? "there are only " + nodes +
-                         ", but each closer that is missing skips numbers: close every node"
-                   : "there are " + nodes + ", and " + std::to_string(mostNodes) +
-                         " can be read: make several descriptions, or use the object model, which "
+                         ", but every missing closer skips numbers; close every node"
+                   : "there are " + nodes + ", but only " + std::to_string(mostNodes) +
+                         " can be read; split the description, or use the object model, which "
                          "has no limit";
     }
 
@@ -277,7 +278,7 @@ private:
         const bool isOpen = openNodes_[code(kind)] > 0;
         std::string hint;
         if (isOpen) {
-            hint = "the " + std::string(nodeKindName(expected)) + " of line " +
+            hint = "the " + std::string(nodeKindName(expected)) + " on line " +
                    std::to_string(source_.placeOf(levels_.back().node->line).line) +
                    " is not closed";
         } else {

@@ -50,7 +50,7 @@ std::string_view withoutQuotes(std::string_view value) {
 Hint nameHint(const std::string& value, const std::vector<std::string_view>& names,
               std::string_view noun) {
     if (value.empty()) {
-        return "the value is missing: write none for no " + std::string(noun);
+        return "the value is missing; write none for no " + std::string(noun);
     }
     if (const std::string_view bare = withoutQuotes(value); bare.size() < value.size()) {
         return spellingHint(lowerCase(bare), names);
@@ -186,14 +186,14 @@ private:
     Hint keyHint(NodeKind kind, const OutlineLeaf& leaf) const {
         const std::string lower = lowerCase(leaf.writtenKey);
         if (lower != leaf.writtenKey && vocabulary_.isKeyOf(kind, vocabulary_.expand(lower))) {
-            return {"keys are written in lower case: " + lower, lower};
+            return {"write keys in lower case: " + lower, lower};
         }
         if (Hint hint = textFormatHint(kind, leaf.writtenKey, leaf.text); !hint.empty()) {
             return hint;
         }
         for (const NodeKind other : kinds) {
             if (vocabulary_.isKeyOf(other, leaf.key)) {
-                return "a key of a " + std::string(nodeKindName(other)) + ", not of a " +
+                return "this is a key of a " + std::string(nodeKindName(other)) + ", not of a " +
                        std::string(nodeKindName(kind));
             }
         }
@@ -224,7 +224,7 @@ private:
                 taken.erase(std::to_string(child->number));
             } else {
                 report(DiagnosticId::TakenKey, *leaf, leaf->text, {},
-                       "the " + std::string(nodeKindName(holder->second->kind)) + " of line " +
+                       "the " + std::string(nodeKindName(holder->second->kind)) + " on line " +
                            std::to_string(source_.placeOf(holder->second->line).line) +
                            " has the key " + key);
             }

@@ -202,17 +202,17 @@ void findWrongIgnoreComments(const SourceText& source, CheckedLanguage language,
     };
     for (const CheckComment& comment : CommentReader(source, language).read()) {
         if (comment.command.empty()) {
-            report(comment.whole, "It says nothing", "write ignore and an identifier");
+            report(comment.whole, "the command is missing", "write ignore and an identifier");
         } else if (comment.command != "ignore") {
             report(comment.command, std::string(comment.command) + " is not a command",
                    spellingHint(comment.command, commands));
         } else if (comment.identifiers.empty()) {
-            report(comment.command, "No identifier follows ignore",
-                   "write the identifiers that stand in brackets in the report");
+            report(comment.command, "the identifier is missing",
+                   "write the identifier that the report shows in brackets");
         } else {
             for (const std::string_view identifier : comment.identifiers) {
                 if (!findDiagnosticRule(identifier)) {
-                    report(identifier, std::string(identifier) + " is not a diagnostic",
+                    report(identifier, "there is no diagnostic " + std::string(identifier),
                            spellingHint(identifier, diagnosticIdentifiers()));
                 }
             }

@@ -158,7 +158,7 @@ void RtfCheck::finish() {
         return;
     }
     if (isCutOff || lexer_.isInBinary()) {
-        engine_.report(DiagnosticId::CutOff, binaryPlace_, {"its binary data"});
+        engine_.report(DiagnosticId::CutOff, binaryPlace_, {"binary data"});
         return;
     }
     if (groups_.empty()) {

@@ -176,8 +176,8 @@ std::string RtfTableCheck::unclosedGroupHint() const {
     if (line == 0) {
         return {};
     }
-    return "a group is open where the row of line " + std::to_string(line) + " ends that was not " +
-           (deeperRowLine_ != 0 ? "at the ends of the rows before" : "where it begins");
+    return "when the row on line " + std::to_string(line) + " ends, a group is open that was not " +
+           (deeperRowLine_ != 0 ? "open at the end of earlier rows" : "open at its beginning");
 }
 
 void RtfTableCheck::endDocument() {

@@ -41,7 +41,7 @@ std::string separatorHint(std::string_view value) {
         const std::string word =
             lowerCase(before.substr(last == std::string_view::npos ? 0 : last + 1));
         if (last != std::string_view::npos && findStyleKeyword(word)) {
-            return "items are separated by ; which is missing before " + word;
+            return "write a ; before " + word;
         }
     }
     return {};
@@ -90,7 +90,7 @@ public:
         const std::string_view opening = openingOfDescription(source_.text());
         if (!opening.empty()) {
             report(DiagnosticId::DescriptionAsStyleSheet, opening, {},
-                   "were the names of the two files swapped?");
+                   "did you swap the names of the two files?");
         } else {
             findKeywordWithoutBraces();
         }
@@ -114,9 +114,8 @@ private:
     void findKeywordWithoutBraces() {
         const std::string_view text = source_.text();
         if (trimWhitespace(behindByteOrderMark(text)).empty()) {
-            report(
-                DiagnosticId::NoStyles, text.substr(0, 0), {},
-                "the file is empty; a style is defined in braces: { name: ...; style-def: ... }");
+            report(DiagnosticId::NoStyles, text.substr(0, 0), {},
+                   "the file is empty; write definitions such as { name: ...; style-def: ... }");
             return;
         }
         if (text.find_first_of("{}") != std::string_view::npos) {
@@ -128,7 +127,7 @@ private:
             const bool isKeyword = item.keyword == nameKeyword || item.known;
             if (isKeyword && item.hasColon()) {
                 report(DiagnosticId::NoStyles, item.writtenKeyword, {},
-                       "a definition stands in braces: { name: ...; style-def: ... }");
+                       "enclose the definition in braces: { name: ...; style-def: ... }");
                 return;
             }
         }
@@ -166,7 +165,7 @@ private:
     static Hint firstKeywordHint(const StyleItem& first) {
         constexpr std::string_view name[] = {nameKeyword};
         if (first.keyword.starts_with(nameKeyword) && first.value.empty()) {
-            return "a : follows the keyword name";
+            return "write a : after the keyword name";
         }
         Hint hint("a definition begins with name:");
         if (!certainWord(first.keyword, name).empty()) {
@@ -202,14 +201,14 @@ private:
 
     static Hint keywordHint(std::string_view keyword) {
         if (keyword.empty()) {
-            return "one ; stands between two items";
+            return "write only one ; between two items";
         }
         if (keyword == nameKeyword) {
-            return "name is the first item of a definition";
+            return "name must be the first item of a definition";
         }
         const std::string_view word = keyword.substr(0, keyword.find_first_of(" \t\r\n="));
         if (word.size() < keyword.size() && findStyleKeyword(word)) {
-            return "a : follows the keyword " + std::string(word);
+            return "write a : after the keyword " + std::string(word);
         }
         return spellingHint(keyword, styleKeywordWords());
     }
@@ -219,10 +218,10 @@ private:
             return "write s, cs or cell";
         }
         if (value.starts_with("p")) {
-            return "a paragraph style is s";
+            return "write s for a paragraph style";
         }
         if (value.starts_with("ch")) {
-            return "a character style is cs";
+            return "write cs for a character style";
         }
         return spellingHint(value, findStyleKeyword("style-def")->values);
     }
@@ -258,7 +257,7 @@ private:
             CRtfGrpColorTable::colorNumber(color) == 0) {
             report(DiagnosticId::UnknownCellColor, item.value,
                    {color.empty() ? std::string_view("An empty format") : item.value},
-                   color.empty() ? Hint("write none where no color is meant")
+                   color.empty() ? Hint("write none for no color")
                                  : spellingHint(color, viewsOf(cellColorNames())));
         }
     }

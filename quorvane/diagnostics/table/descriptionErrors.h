@@ -12,8 +12,8 @@ inline constexpr DiagnosticRule descriptionErrors[] = {
      .language = CheckedLanguage::Description,
      .message = "The provided file isn't a correct rtfspec file.",
      .explanation = R"(
-A description is one `doc` node. A text without `(doc` is none, and a stylesheet or an RTF file
-named `.rtfspec` is none either.
+A description is one `doc` node. A text without `(doc` is not a description, and neither is a
+stylesheet or an RTF file that is named `.rtfspec`.
 )",
      .wrong = R"(
 (dco
@@ -44,8 +44,8 @@ doc)
      .language = CheckedLanguage::Description,
      .message = "Missing some requiered elements:\r\n(doc\r\n(row\r\n(cell",
      .explanation = R"(
-A description holds at least one row with a cell: one of `(row`, `(r`, `(cell` and `(c`, in lower
-case, must stand in it.
+A description has at least one row with a cell. One of `(row`, `(r`, `(cell` and `(c`, in lower
+case, must occur in it.
 )",
      .wrong = R"(
 (doc
@@ -70,8 +70,8 @@ doc)
      .language = CheckedLanguage::Description,
      .message = "(doc must be the first node.",
      .explanation = R"(
-The first line begins with `(doc` and the last one with `doc)`, in lower case. Comments and blank
-lines do not count.
+The first line must begin with `(doc` and the last one with `doc)`, in lower case. Comments and
+blank lines do not count.
 )",
      .wrong = R"(
 (doc
@@ -101,8 +101,8 @@ doc)
      .language = CheckedLanguage::Description,
      .message = "Too many {0} nodes.",
      .explanation = R"(
-A description has at most 999 rows, 999 cells and 999 paragraphs. At the limit the reading ends. A
-longer table is made of several descriptions, or through the object model.
+A description can have at most 999 rows, 999 cells and 999 paragraphs. Reading stops at the limit.
+Split a longer table into several descriptions, or build it with the object model.
 )",
      .wrong = R"(
 (doc
@@ -131,8 +131,8 @@ doc)
      .language = CheckedLanguage::Description,
      .message = "Wrong node type in {0}",
      .explanation = R"(
-A closer closes the node that is open. Where another node is open still, its own closer is missing
-before.
+A closer closes the node that was opened last. If another node is still open, its closer is missing
+before this line.
 )",
      .wrong = R"(
 (doc
@@ -163,8 +163,8 @@ doc)
      .message = "{0} has a wrong syntax",
      .explanation = R"(
 A line is an opener such as `(row`, a closer such as `row)`, a leaf such as `(pt=Total)`, or a
-comment behind `;`. A leaf begins and ends on one line, and its value ends at the first `)`: write
-`\line` for a line break and `\'29` for a `)` in a text.
+comment, which begins with `;`. A leaf begins and ends on one line, and its value ends at the first
+`)`. In a text, write `\line` for a line break and `\'29` for a `)`.
 )",
      .wrong = R"(
 (doc
@@ -195,7 +195,7 @@ doc)
      .language = CheckedLanguage::Description,
      .message = "This key is already associated with an element of this collection",
      .explanation = R"(
-Each key stands once in a node. The long and the short form of a key are the same key.
+A key can occur only once in a node. The long and the short form of a key are the same key.
 )",
      .wrong = R"(
 (doc
@@ -227,7 +227,7 @@ doc)
      .language = CheckedLanguage::Description,
      .message = "Object variable or With block variable not set",
      .explanation = R"(
-The first line begins with `(doc` but opens no `doc` node, so there is no document.
+The first line begins with `(doc`, but does not open a `doc` node, so there is no document.
 )",
      .wrong = R"(
 (doc=1)
@@ -258,8 +258,7 @@ doc)
      .language = CheckedLanguage::Description,
      .message = "{0} isn't a valid keyword.",
      .explanation = R"(
-Each kind of node has keys of its own. Keys are written in lower case, in the long or the short
-form.
+Each kind of node has its own keys. They are written in lower case, in the long or the short form.
 )",
      .wrong = R"(
 (doc
@@ -311,7 +310,7 @@ doc)
      .language = CheckedLanguage::Description,
      .message = "Must have at least one cell.",
      .explanation = R"(
-A row has at least one cell: word processors lose a table that has a row without cells.
+A row has at least one cell. Word processors lose a table that has a row without cells.
 )",
      .wrong = R"(
 (doc
@@ -334,7 +333,7 @@ doc)
      .language = CheckedLanguage::Description,
      .message = "In a para group para-text is mandatory.",
      .explanation = R"(
-A paragraph has the key `para-text`, short `pt`. Its value may be empty.
+A paragraph must have the key `para-text`, or `pt` for short. Its value may be empty.
 )",
      .wrong = R"(
 (doc
@@ -366,7 +365,7 @@ doc)
      .language = CheckedLanguage::Description,
      .message = "A paragraph is a terminal node",
      .explanation = R"(
-A paragraph holds no other node.
+A paragraph cannot contain other nodes.
 )",
      .wrong = R"(
 (doc
@@ -399,8 +398,8 @@ doc)
      .language = CheckedLanguage::Description,
      .message = "Invalid node declaration in this context\r\n",
      .explanation = R"(
-A document holds rows, a row holds cells, a cell holds paragraphs. A `doc` node stands in no other
-node.
+A document contains rows, a row contains cells, and a cell contains paragraphs. A `doc` node cannot
+be inside another node.
 )",
      .wrong = R"(
 (doc
@@ -427,7 +426,7 @@ doc)
      .language = CheckedLanguage::Description,
      .message = "{0} isn't a recognized color.",
      .explanation = R"(
-A background is the name of one of the 37 colors of the language, or `none`.
+A background is one of the 37 color names of the description language, or `none`.
 )",
      .wrong = R"(
 (doc
@@ -481,7 +480,7 @@ doc)
      .language = CheckedLanguage::Description,
      .message = "{0} isn't a recognized alignment.",
      .explanation = R"(
-An alignment is `left`, `right`, `centered`, `justified` or `none`, or one of the numbers 0 to 4.
+An alignment is `left`, `right`, `centered`, `justified` or `none`, or a number from 0 to 4.
 )",
      .wrong = R"(
 (doc
@@ -508,8 +507,8 @@ doc)
      .language = CheckedLanguage::Description,
      .message = "Value for {0} should be numeric.",
      .explanation = R"(
-The keys of the document, `cell-width`, `row-key`, `cell-key` and `para-key` take a number: digits
-with at most one `.`, a sign before and an exponent behind if need be; no unit.
+The keys of the document, `cell-width`, `row-key`, `cell-key` and `para-key` take a number without a
+unit: digits with at most one `.`, optionally with a sign before them and an exponent after them.
 )",
      .wrong = R"(
 (doc
@@ -536,7 +535,8 @@ doc)
      .language = CheckedLanguage::Description,
      .message = "Overflow",
      .explanation = R"(
-A number is rounded to a whole one of 32 bits, and so are the measures that come out of it.
+A number is rounded to a whole number, which must fit into 32 bits. So must the measures that are
+computed from it.
 )",
      .wrong = R"(
 (doc
@@ -563,8 +563,9 @@ doc)
      .language = CheckedLanguage::Description,
      .message = "This key is already associated with an element of this collection",
      .explanation = R"(
-Two rows of the document, two cells of a row or two paragraphs of a cell cannot have one key. A node
-without a key has its number as key: rows count from 1001, cells from 2001 and paragraphs from 3001.
+Two rows of a document, two cells of a row, or two paragraphs of a cell cannot have the same key.
+The key of a node without one is its number: rows count from 1001, cells from 2001 and paragraphs
+from 3001.
 )",
      .wrong = R"(
 (doc
@@ -597,8 +598,8 @@ doc)
      .language = CheckedLanguage::Description,
      .message = "{0}",
      .explanation = R"(
-The analysis ends with an error that no other row of this table tells. The message is the error's
-own.
+The library rejects the description with an error that has no diagnostic of its own. The message is
+that of the error.
 )"},
 };
 

@@ -12,9 +12,9 @@ inline constexpr DiagnosticRule fileDiagnostics[] = {
      .language = CheckedLanguage::Description,
      .message = "This is {0}, not {1}.",
      .explanation = R"(
-Descriptions and stylesheets are texts, one byte a character. A PDF file, a picture, an archive, a
-program, the document of an office program, and a text in UTF-16 cannot be read as one. Nothing else
-is said of such a file.
+Descriptions and stylesheets are text files in Windows-1252, with one byte for each character. A PDF
+file, a picture, an archive, a program, the document of an office program, or a text in UTF-16
+cannot be read as one. Nothing else is reported about such a file.
 )"},
 
     {.id = DiagnosticId::WrongExtension,
@@ -23,8 +23,8 @@ is said of such a file.
      .language = CheckedLanguage::Rtf,
      .message = "This is {0}, but its extension is {1}.",
      .explanation = R"(
-A file is checked as what it holds. Programs and people go by its extension: `.rtfspec` is that of
-descriptions, `.rtfss` that of stylesheets, `.rtf` that of documents.
+A file is checked as what it contains, but people and programs go by its extension: `.rtfspec` for
+descriptions, `.rtfss` for stylesheets, `.rtf` for documents. Rename the file.
 )"},
 };
 

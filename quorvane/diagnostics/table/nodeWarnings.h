@@ -10,10 +10,11 @@ inline constexpr DiagnosticRule nodeWarnings[] = {
      .identifier = "closed-by-opener",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "{0} closes the {1} that is open.",
+     .message = "{0} closes the {1} that is still open.",
      .explanation = R"(
-An opener that cannot stand where it is met closes the open nodes up to the one in which it can.
-What was meant to stay open is closed too, and numbers of nodes are skipped.
+An opener that does not belong in the open node closes nodes until it reaches one that it belongs
+in. This also closes nodes that were meant to stay open, and skips node numbers. Close each node
+with its closer.
 )",
      .wrong = R"(
 (doc
@@ -47,10 +48,10 @@ doc)
      .identifier = "repeated-opener",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "This (r is dropped, because another one follows.",
+     .message = "The next line is another (r; checking drops this one.",
      .explanation = R"(
-Of two lines `(r` that follow each other the repair drops the first when the description is checked.
-Without checking both are rows, and word processors lose a table that has a row without cells.
+When a description is checked, the first of two consecutive lines `(r` is dropped. Without checking,
+both are rows, and word processors lose a table that has a row without cells.
 )",
      .wrong = R"(
 (doc
@@ -76,7 +77,7 @@ doc)
      .language = CheckedLanguage::Description,
      .message = "r) is missing before this line.",
      .explanation = R"(
-The repair puts it there when the description is checked.
+When the description is checked, the missing `r)` is inserted here.
 )",
      .wrong = R"(
 (doc
@@ -106,10 +107,10 @@ doc)
      .identifier = "outside-document",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "From here on nothing is read into the document.",
+     .message = "Everything from here on is outside the doc node and ignored.",
      .explanation = R"(
-What stands behind the end of the `doc` node is passed over. The node ends with its closer, and with
-an opener of a cell or a paragraph where no row is open.
+Whatever follows the end of the `doc` node is ignored. The node ends with its closer, but also with
+an opener of a cell or a paragraph when no row is open.
 )",
      .wrong = R"(
 (doc
@@ -138,11 +139,11 @@ doc)
      .identifier = "lost-alignment",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "The alignment is lost, because {0} files the {1} anew.",
+     .message = "The alignment is lost because {0} replaces the {1}.",
      .explanation = R"(
-A key puts a new entry into the place of the one that is built, and the alignment, which is applied
-before, stays behind. Align the paragraphs of a cell with `cell-key`, and the cell of a paragraph
-with `para-key`.
+A key makes a new cell or paragraph that replaces the one being built. The alignment has been
+applied to the old one by then. If a cell has `cell-key`, align its paragraphs; if a paragraph has
+`para-key`, align its cell.
 )",
      .wrong = R"(
 (doc
@@ -172,10 +173,10 @@ doc)
      .identifier = "refused-marked-field",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "The marked field refuses a number: {0} is lost.",
+     .message = "A marked field cannot hold a number; {0} is lost.",
      .explanation = R"(
-The text of a marked field that reads as a number is refused: a paragraph is marked without it, a
-cell is not marked at all. Put a letter in front.
+A marked field refuses a text that reads as a number. A paragraph is then marked without the text,
+and a cell is not marked at all. Put a letter in front of the number.
 )",
      .wrong = R"(
 (doc
@@ -202,8 +203,8 @@ doc)
      .language = CheckedLanguage::Description,
      .message = "{0} is read as {1}.",
      .explanation = R"(
-A key or the name of a style that reads as a number is taken as that number, in its shortest form:
-zeros at its beginning and behind its point are lost, and a sign `+`.
+A key or style name that reads as a number is stored as that number in its shortest form. Zeros at
+its beginning or after its decimal point are lost, and so is a `+` sign.
 )",
      .wrong = R"(
 (doc
@@ -228,11 +229,11 @@ doc)
      .identifier = "ignore-comment",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "This comment cannot be followed. {0}.",
+     .message = "Invalid quorvane comment: {0}.",
      .explanation = R"(
-A comment `; quorvane: ignore ID` takes the diagnostics of that identifier on the next line out of
-the report; several identifiers are separated by commas. In a stylesheet it stands on a line of its
-own outside of braces, and is about the definition that follows.
+The comment `; quorvane: ignore ID` leaves the diagnostics with that identifier out of the report
+for the next line. Separate several identifiers with commas. In a stylesheet, the comment stands on
+a line of its own outside the braces and applies to the definition that follows.
 )",
      .wrong = R"(
 (doc

@@ -10,10 +10,10 @@ inline constexpr DiagnosticRule pageWarnings[] = {
      .identifier = "widths-sum",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "The widths of the cells add up to {0} per cent.",
+     .message = "The cell widths add up to {0} percent, not 100.",
      .explanation = R"(
-The widths of the cells of a row should add up to a hundred: the last cell gets what is left,
-whatever its width says of it.
+The widths of the cells of a row should add up to 100 percent. The last cell gets whatever is left,
+regardless of its own width.
 )",
      .wrong = R"(
 (doc
@@ -44,12 +44,12 @@ doc)
      .identifier = "width-clamped",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "The cell becomes {0} per cent wide instead of {1}.",
+     .message = "The cell will be {0} percent wide instead of {1}.",
      .explanation = R"(
-The cells begin with equal widths, and from left to right each one moves its right edge. It cannot
-reach beyond its right neighbor as that stands then, and no cell becomes narrower than 200 twips. So
-of three cells the first can take 64 per cent, and the second more once the first is narrow: 80, 10,
-10 does not fit, 10, 80, 10 does. The hint names an order that was tried.
+The cells start with equal widths. From left to right, each one then moves its right edge, but not
+beyond the current right edge of the next cell, and no cell becomes narrower than 200 twips. Of
+three cells, the first can therefore take 64 percent, and the second more once the first is narrow:
+80, 10, 10 does not fit, but 10, 80, 10 does. The hint suggests an order that fits.
 )",
      .wrong = R"(
 (doc
@@ -86,11 +86,11 @@ doc)
      .identifier = "table-overrun",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "The row is {0} twips wide, the page has room for {1}.",
+     .message = "The row is {0} twips wide, but the page has room for only {1}.",
      .explanation = R"(
-The cells are laid out before the keys of the document are applied, on the default page with 8840
-twips between the margins, and stay so; and no cell is narrower than 200 twips. Choose margins that
-leave 8840 twips: 1533 each side on A4, 1700 on US letter.
+Cells are laid out before the keys of the document are applied. They therefore get the widths of the
+default page, which has 8840 twips between its margins, and keep them; and no cell is narrower than
+200 twips. Choose margins that leave 8840 twips: 1533 on each side for A4, 1700 for US letter.
 )",
      .wrong = R"(
 (doc
@@ -121,14 +121,14 @@ doc)
      .identifier = "table-underrun",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "The row is {0} twips wide, the page has room for {1}.",
+     .message = "The row is {0} twips wide, but the page has room for {1}.",
      .explanation = R"(
-The cells are laid out before the keys of the document are applied, on the default page with 8840
-twips between the margins, and stay so. A wider page, such as one in landscape, leaves the table as
-wide as it was, and `cell-width`, which counts in per cent of the page, then moves the cells to
-where nobody wants them. Choose margins that leave 8840 twips: 1533 each side on A4, 3999 on A4 in
-landscape. A row of a single cell can be as wide as the page, with `cell-width`. Wider rows of
-several cells are made through the object model.
+Cells are laid out before the keys of the document are applied. They therefore get the widths of the
+default page, which has 8840 twips between its margins, and keep them. A wider page, such as one in
+landscape, does not make the table wider, and `cell-width`, which is a percentage of the page, then
+puts cells in the wrong places. Choose margins that leave 8840 twips: 1533 on each side for A4, 3999
+for A4 in landscape. Only a row with a single cell can be as wide as the page, with `cell-width`.
+Build wider rows with several cells with the object model.
 )",
      .wrong = R"(
 (doc
@@ -161,11 +161,11 @@ doc)
      .identifier = "margin-fallback",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "The margin doesn't fit and becomes {0}.",
+     .message = "The margin does not fit; {0} twips is used instead.",
      .explanation = R"(
-A margin is at least 1 and less than 0.9 of the paper less the opposite margin. The keys are applied
-in the order of their names: `bottom-margin` and `left-margin` are compared with the default paper,
-12242 by 15842 twips.
+A margin must be at least 1 twip, and together with the opposite margin less than 0.9 of the paper.
+Keys are applied in alphabetical order, so `bottom-margin` and `left-margin` are compared with the
+default paper, which is 12242 by 15842 twips.
 )",
      .wrong = R"(
 (doc
@@ -190,11 +190,11 @@ doc)
      .identifier = "no-room",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "The margins are {0} twips {1} together, the paper is {2}.",
+     .message = "Together the margins are {0} twips {1}, but the paper is only {2}.",
      .explanation = R"(
-Margins are compared with the paper as it is when their turn comes. The keys are applied in the
-order of their names: a margin that fits the default paper, 12242 by 15842 twips, can be too large
-for the paper that `paper-width` or `paper-height` sets after it.
+A margin is compared with the paper as it is when the margin is applied. Keys are applied in
+alphabetical order: a margin that fits the default paper, which is 12242 by 15842 twips, can be too
+large for the paper that `paper-width` or `paper-height` sets later.
 )",
      .wrong = R"(
 (doc
@@ -222,10 +222,10 @@ doc)
      .identifier = "tiny-measure",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "A {0} of {1} twips is {2} millimeters.",
+     .message = "A {0} of {1} twips is only {2} millimeters.",
      .explanation = R"(
-The measures of the page are in twips: 1440 are an inch, 567 a centimeter, 57 a millimeter. Paper of
-less than an inch and a margin of less than two millimeters are most likely meant in another unit.
+The measures of the page are in twips: an inch has 1440, a centimeter 567 and a millimeter 57. Paper
+smaller than an inch or a margin smaller than two millimeters was probably meant in another unit.
 )",
      .wrong = R"(
 (doc
@@ -252,9 +252,9 @@ doc)
      .identifier = "page-number-fallback",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "The number of the first page becomes 2.",
+     .message = "The first page number must be at least 1; 2 is used instead.",
      .explanation = R"(
-The first page has a number from 1 on.
+The first page can have any number from 1.
 )",
      .wrong = R"(
 (doc
@@ -279,10 +279,10 @@ doc)
      .identifier = "too-many-cells",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "The row has {0} cells; word processors take 63.",
+     .message = "The row has {0} cells, but word processors support only 63.",
      .explanation = R"(
-Word processors refuse or cut a row of more than 63 cells. Cells are at least 200 twips wide, so 44
-of them fill the default page already.
+Word processors refuse or cut off a row of more than 63 cells. Because cells are at least 200 twips
+wide, 44 of them already fill the default page.
 )",
      .wrong = R"(
 (doc

@@ -10,7 +10,7 @@ inline constexpr DiagnosticRule rtfDiagnostics[] = {
      .identifier = "not-rtf",
      .severity = Severity::Error,
      .language = CheckedLanguage::Rtf,
-     .message = R"(The file doesn't begin with {\rtf.)",
+     .message = R"(The file does not begin with {\rtf.)",
      .explanation = R"(
 An RTF file begins with `{\rtf` and its version.
 )",
@@ -27,7 +27,7 @@ An RTF file begins with `{\rtf` and its version.
      .language = CheckedLanguage::Rtf,
      .message = "The group is not closed.",
      .explanation = R"(
-Each `{` has its `}`. Readers refuse a file that ends before, or show a part of it.
+Every `{` needs a `}`. Readers refuse a file that ends before it, or show only a part of the file.
 )",
      .wrong = R"(
 {\rtf1 {\b Total}
@@ -40,11 +40,11 @@ Each `{` has its `}`. Readers refuse a file that ends before, or show a part of 
      .identifier = "text-after-end",
      .severity = Severity::Error,
      .language = CheckedLanguage::Rtf,
-     .message = "The document ends before this.",
+     .message = "The document ends before this text.",
      .explanation = R"(
-Readers stop at the brace that closes the document. Where text follows it, there is one `}` too many
-before it, and readers lose that text. Blanks, line ends and NUL bytes, which programs write there,
-are fine.
+Readers stop at the brace that closes the document. If text follows it, there is one `}` too many
+before it, and the text is lost. Blanks, line breaks and NUL bytes after the end, which some
+programs write, are fine.
 )",
      .wrong = R"(
 {\rtf1 {\b Total}} Sum}
@@ -57,11 +57,11 @@ are fine.
      .identifier = "data-after-end",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Rtf,
-     .message = "The document ends before this.",
+     .message = "The document ends before this data.",
      .explanation = R"(
-Something that shows no text follows the brace that closes the document, such as another `}` or a
-group of data: one `}` too many stands before it, or the file was put together from others. Readers
-pass over it.
+Something without text follows the brace that closes the document, such as another `}` or a group of
+data. Either there is one `}` too many before it, or the file was put together from others. Readers
+ignore it.
 )",
      .wrong = R"(
 {\rtf1 {\b Total} Sum}}
@@ -76,7 +76,7 @@ pass over it.
      .language = CheckedLanguage::Rtf,
      .message = R"(Two hexadecimal digits must follow \'.)",
      .explanation = R"(
-A character in the form `\'e9` has two hexadecimal digits.
+A character escape such as `\'e9` has two hexadecimal digits.
 )",
      .wrong = R"(
 {\rtf1\ansi\deff0{\fonttbl{\f0 Arial;}}
@@ -91,9 +91,9 @@ caf\'e9}
      .identifier = "cut-off",
      .severity = Severity::Error,
      .language = CheckedLanguage::Rtf,
-     .message = "The file ends within {0}.",
+     .message = "The file ends in the middle of {0}.",
      .explanation = R"(
-The file ends in the middle of a control word or before its binary data is complete.
+The file ends in the middle of a control word, or before its binary data is complete.
 )",
      .wrong = R"(
 {\rtf1 {\pict\bin100 abc}}
@@ -108,8 +108,8 @@ The file ends in the middle of a control word or before its binary data is compl
      .language = CheckedLanguage::Rtf,
      .message = R"(The number of bytes must follow \bin.)",
      .explanation = R"(
-`\bin` and a number say how many bytes of binary data follow. Without a number above 0 LibreOffice
-loses a character, or refuses the file. A picture in hexadecimal digits has no `\bin`.
+`\bin` is followed by the number of bytes of binary data that come next. Without a number above 0,
+LibreOffice loses a character or refuses the file. A picture in hexadecimal digits has no `\bin`.
 )",
      .wrong = R"(
 {\rtf1 {\pict\pngblip\bin 89504e47}}
@@ -122,9 +122,9 @@ loses a character, or refuses the file. A picture in hexadecimal digits has no `
      .identifier = "deep-nesting",
      .severity = Severity::Error,
      .language = CheckedLanguage::Rtf,
-     .message = "Groups are nested deeper than {0}.",
+     .message = "Groups are nested more than {0} deep.",
      .explanation = R"(
-Word processors give up on groups that are nested so deep. What is deeper is not checked.
+Word processors give up on groups that are nested so deeply. Deeper groups are not checked.
 )",
      .wrong = R"(
 {\rtf1
@@ -153,10 +153,10 @@ Total
      .identifier = "cell-count",
      .severity = Severity::Error,
      .language = CheckedLanguage::Rtf,
-     .message = "The row has {0} and {1}.",
+     .message = "The row has {0} but {1}.",
      .explanation = R"(
-A row has as many cells, each ended by `\cell`, as it has definitions, each ended by `\cellx`.
-Readers drop a cell that has no definition, with its text.
+A row has as many cells, each ended by `\cell`, as definitions, each ended by `\cellx`. Readers drop
+a cell without a definition together with its text.
 )",
      .wrong = R"(
 {\rtf1\ansi\deff0{\fonttbl{\f0 Arial;}}
@@ -175,10 +175,10 @@ Readers drop a cell that has no definition, with its text.
      .identifier = "uneven-row",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Rtf,
-     .message = "The row has {0} and {1}.",
+     .message = "The row has {0} but {1}.",
      .explanation = R"(
-A row has as many cells, each ended by `\cell`, as it has definitions, each ended by `\cellx`.
-Readers add empty cells where some are missing, and drop empty ones that have no definition.
+A row has as many cells, each ended by `\cell`, as definitions, each ended by `\cellx`. Readers add
+empty cells if some are missing, and drop empty cells without a definition.
 )",
      .wrong = R"(
 {\rtf1\ansi\deff0{\fonttbl{\f0 Arial;}}
@@ -199,8 +199,8 @@ Readers add empty cells where some are missing, and drop empty ones that have no
      .language = CheckedLanguage::Rtf,
      .message = "The row has no cells.",
      .explanation = R"(
-A row has at least one cell, ended by `\cell`. LibreOffice loses the whole table when one of its
-rows has none.
+A row has at least one cell, ended by `\cell`. LibreOffice loses the whole table if one of its rows
+has none.
 )",
      .wrong = R"(
 {\rtf1\ansi\deff0{\fonttbl{\f0 Arial;}}
@@ -218,10 +218,10 @@ rows has none.
      .identifier = "falling-edge",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Rtf,
-     .message = "The edge {0} is not to the right of the one before, {1}.",
+     .message = "The right edge {0} is not beyond the previous one, {1}.",
      .explanation = R"(
-The right edges of a row's cells rise from left to right. Where one does not, readers give the cell
-a width of their own.
+The right edges of the cells of a row increase from left to right. If one does not, readers choose
+the width of the cell themselves.
 )",
      .wrong = R"(
 {\rtf1\ansi\deff0{\fonttbl{\f0 Arial;}}
@@ -240,9 +240,9 @@ a width of their own.
      .identifier = "unended-row",
      .severity = Severity::Error,
      .language = CheckedLanguage::Rtf,
-     .message = "The row that begins here is not ended.",
+     .message = "The row that begins here has no end.",
      .explanation = R"(
-Cells that no `\row` follows are in no row. Readers lose them, or the table.
+Cells that are not followed by `\row` belong to no row. Readers lose them, or the whole table.
 )",
      .wrong = R"(
 {\rtf1\ansi\deff0{\fonttbl{\f0 Arial;}}
@@ -261,9 +261,10 @@ Cells that no `\row` follows are in no row. Readers lose them, or the table.
      .identifier = "section-in-row",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Rtf,
-     .message = "A section ends within the row.",
+     .message = "A section ends inside the row.",
      .explanation = R"(
-`\sect` stands between rows or outside the table. Within a row, LibreOffice makes two tables of one.
+`\sect` belongs between rows or outside the table. Inside a row, it makes LibreOffice split the
+table into two.
 )",
      .wrong = R"(
 {\rtf1\ansi\deff0{\fonttbl{\f0 Arial;}}
@@ -284,8 +285,8 @@ Cells that no `\row` follows are in no row. Readers lose them, or the table.
      .language = CheckedLanguage::Rtf,
      .message = "The font {0} is not in the font table.",
      .explanation = R"(
-`\f` and `\af` name a font by its number in the font table, which stands before. Readers show the
-text in another font. Each number is reported once.
+`\f` and `\af` refer to a font by its number in the font table, which comes before them. Readers
+show the text in another font. Each number is reported once.
 )",
      .wrong = R"(
 {\rtf1\ansi\deff0{\fonttbl{\f0 Arial;}}
@@ -302,8 +303,9 @@ text in another font. Each number is reported once.
      .language = CheckedLanguage::Rtf,
      .message = "The color {0} is not in the color table.",
      .explanation = R"(
-Colors are named by their number in the color table: the empty entry at its beginning is number 0.
-Readers show the color that they have for text without one. Each number is reported once.
+Colors are referred to by their number in the color table. The empty entry at its beginning is
+number 0. Readers show text with an unknown color in their default color. Each number is reported
+once.
 )",
      .wrong = R"(
 {\rtf1\ansi\deff0{\fonttbl{\f0 Arial;}}
@@ -322,8 +324,8 @@ Readers show the color that they have for text without one. Each number is repor
      .language = CheckedLanguage::Rtf,
      .message = "The style {0} is not in the stylesheet.",
      .explanation = R"(
-`\s`, `\cs`, `\ds` and `\ts` name a style by its number in the list of styles. The paragraph style 0
-is always there. Readers go without the style. Each number is reported once.
+`\s`, `\cs`, `\ds` and `\ts` refer to a style by its number in the list of styles. Paragraph style 0
+always exists. Readers ignore the reference. Each number is reported once.
 )",
      .wrong = R"(
 {\rtf1\ansi\deff0{\fonttbl{\f0 Arial;}}
@@ -340,10 +342,10 @@ is always there. Readers go without the style. Each number is reported once.
      .identifier = "duplicate-font",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Rtf,
-     .message = "The font {0} is in the font table already, with another definition.",
+     .message = "The font {0} is already in the font table, with another definition.",
      .explanation = R"(
-Each font has a number of its own. Readers differ in which of the two they take. The same font may
-stand there twice.
+Each font has its own number. Of two fonts with the same number, some readers use the first and some
+the second. The same font may be listed twice.
 )",
      .wrong = R"(
 {\rtf1{\fonttbl{\f0 Arial;}{\f0 Verdana;}} Total}
@@ -356,10 +358,11 @@ stand there twice.
      .identifier = "duplicate-style-number",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Rtf,
-     .message = "The style {0} is in the stylesheet already.",
+     .message = "The style {0} is already in the stylesheet.",
      .explanation = R"(
-Each paragraph style and each character style has a number of its own kind. Readers differ in which
-of the two they take. The rows of a table style repeat its number.
+Each paragraph style has its own number, and so does each character style. Of two styles with the
+same number, some readers use the first and some the second. The rows of a table style share its
+number.
 )",
      .wrong = R"(
 {\rtf1\ansi\deff0{\fonttbl{\f0 Arial;}}
@@ -374,11 +377,11 @@ of the two they take. The rows of a table style repeat its number.
      .identifier = "unknown-destination",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Rtf,
-     .message = R"({0} is no known destination and not marked with \*.)",
+     .message = R"({0} is not a known destination and is not marked with \*.)",
      .explanation = R"(
-A group that begins with a control word that readers may not know is marked with `\*`, so that they
-pass over it. Without the mark they ignore the word and show what the group holds. Each word is
-reported once.
+Readers skip a group that begins with a control word they do not know if the word is marked with
+`\*`. Without the mark, they ignore the word and show the contents of the group as text. Each word
+is reported once.
 )",
      .wrong = R"(
 {\rtf1\ansi\deff0{\fonttbl{\f0 Arial;}}

@@ -12,7 +12,7 @@ inline constexpr DiagnosticRule styleSheetDiagnostics[] = {
      .language = CheckedLanguage::StyleSheet,
      .message = "Error in stylesheet\r\nBraces stack underflow: there are more } than {.",
      .explanation = R"(
-Each definition stands in one pair of braces, also those in what is meant as a comment.
+Each definition is enclosed in one pair of braces. Braces inside a comment count too.
 )",
      .wrong = R"(
 { name: normal; style-def: s; format: \fs20 } }
@@ -27,7 +27,7 @@ Each definition stands in one pair of braces, also those in what is meant as a c
      .language = CheckedLanguage::StyleSheet,
      .message = "Error in stylesheet\r\nBraces stack overflow: there are more { than }",
      .explanation = R"(
-Each definition stands in one pair of braces, also those in what is meant as a comment.
+Each definition is enclosed in one pair of braces. Braces inside a comment count too.
 )",
      .wrong = R"(
 { name: normal; style-def: s; format: \fs20
@@ -44,8 +44,8 @@ Each definition stands in one pair of braces, also those in what is meant as a c
      .language = CheckedLanguage::StyleSheet,
      .message = "Error while processing stylesheet.\r\n{0} is not a valid keyword.",
      .explanation = R"(
-The first item of a definition is `name`; the others are `style-def`, `format`, `based-on`, `next`
-and `additive`, each with a `:` and a value.
+The first item of a definition is `name`. The others are `style-def`, `format`, `based-on`, `next`
+and `additive`. Each is followed by `:` and a value.
 )",
      .wrong = R"(
 { name: normal; style-def: s; fromat: \fs20 }
@@ -60,7 +60,7 @@ and `additive`, each with a `:` and a value.
      .language = CheckedLanguage::StyleSheet,
      .message = "{0} is not a valid value for style-def",
      .explanation = R"(
-A style is a paragraph style, `s`, a character style, `cs`, or a cell style, `cell`.
+A style is a paragraph style (`s`), a character style (`cs`) or a cell style (`cell`).
 )",
      .wrong = R"(
 { name: normal; style-def: p; format: \fs20 }
@@ -90,8 +90,8 @@ A style is a paragraph style, `s`, a character style, `cs`, or a cell style, `ce
      .language = CheckedLanguage::StyleSheet,
      .message = "{0}",
      .explanation = R"(
-The loading ends with an error that no other row of this table tells, as that of a file that is no
-stylesheet in spite of its extension. The message is the error's own.
+The library rejects the stylesheet with an error that has no diagnostic of its own, for example
+because the file is not a stylesheet in spite of its extension. The message is that of the error.
 )"},
 
     {.id = DiagnosticId::DescriptionAsStyleSheet,
@@ -100,9 +100,9 @@ stylesheet in spite of its extension. The message is the error's own.
      .language = CheckedLanguage::StyleSheet,
      .message = "This is a description, not a stylesheet.",
      .explanation = R"(
-What is given as the stylesheet begins with a node of a description. Text outside of braces says
-nothing in a stylesheet: it is accepted, and has no styles. Styles of the descriptions are not
-looked up in it.
+The file that was given as the stylesheet begins with a node of a description. In a stylesheet, text
+outside braces is accepted but ignored, so this one has no styles. The styles of the descriptions
+are not looked up in it.
 )",
      .wrong = R"(
 (doc
@@ -133,8 +133,8 @@ doc)
      .language = CheckedLanguage::StyleSheet,
      .message = "The stylesheet has no styles.",
      .explanation = R"(
-The definition of a style stands in braces. Text outside of braces says nothing: it is accepted, and
-has no styles. An empty file is accepted too.
+The definition of a style is enclosed in braces. Text outside braces is accepted but ignored, and an
+empty file is accepted too.
 )",
      .wrong = R"(
 name: total; style-def: s; format: \b
@@ -147,10 +147,10 @@ name: total; style-def: s; format: \b
      .identifier = "duplicate-style",
      .severity = Severity::Warning,
      .language = CheckedLanguage::StyleSheet,
-     .message = "The style {0} is defined already, on line {1}.",
+     .message = "The style {0} is already defined on line {1}.",
      .explanation = R"(
-Of a name that is defined twice the first definition is found. The second one takes a number and
-nothing else.
+If a name is defined twice, only the first definition is used. The second one takes up a style
+number and has no other effect.
 )",
      .wrong = R"(
 { name: normal; style-def: s; format: \fs20 }
@@ -167,10 +167,10 @@ nothing else.
      .language = CheckedLanguage::StyleSheet,
      .message = "No description uses the style {0}.",
      .explanation = R"(
-The style is not named by any of the descriptions that were checked together with the stylesheet,
-nor by `next` or `based-on` of another style. The first paragraph style, `normal` and the paragraph
-styles that keep the numbers of character styles free count as used. A house stylesheet serves many
-descriptions: the warning is given only with `--enable unused-style`.
+None of the descriptions that were checked together with the stylesheet uses the style, and no other
+style names it in `next` or `based-on`. The first paragraph style, `normal`, and the paragraph
+styles that reserve the numbers of character styles count as used. Because a shared stylesheet
+serves many descriptions, this warning is reported only with `--enable unused-style`.
 )",
      .wrong = R"(
 { name: normal; style-def: s; format: \fs20 }
@@ -195,7 +195,7 @@ doc)
      .identifier = "no-style-kind",
      .severity = Severity::Warning,
      .language = CheckedLanguage::StyleSheet,
-     .message = "The definition has no style-def and is a cell style.",
+     .message = "The definition has no style-def and becomes a cell style.",
      .explanation = R"(
 A definition without `style-def` is a cell style, whatever its format.
 )",
@@ -210,9 +210,9 @@ A definition without `style-def` is a cell style, whatever its format.
      .identifier = "repeated-item",
      .severity = Severity::Warning,
      .language = CheckedLanguage::StyleSheet,
-     .message = "{0} stands in the definition already; this one is passed over.",
+     .message = "{0} is repeated; this one is ignored.",
      .explanation = R"(
-Of an item that is repeated the first counts.
+If an item is repeated in a definition, only the first one counts.
 )",
      .wrong = R"(
 { name: normal; style-def: s; format: \fs20; format: \b }
@@ -227,7 +227,7 @@ Of an item that is repeated the first counts.
      .language = CheckedLanguage::StyleSheet,
      .message = "The style has an empty name.",
      .explanation = R"(
-The style takes a number, and it is found by no name but the empty one.
+The style takes up a number, but can be used only under the empty name.
 )",
      .wrong = R"(
 { name: normal,; style-def: s; format: \fs20 }
@@ -240,9 +240,10 @@ The style takes a number, and it is found by no name but the empty one.
      .identifier = "undefined-reference",
      .severity = Severity::Warning,
      .language = CheckedLanguage::StyleSheet,
-     .message = "{0} names no {1} style: it is left out.",
+     .message = "There is no {1} style {0}; the reference is left out.",
      .explanation = R"(
-`based-on` and `next` name a style of the same kind. A reference to another one is not written.
+`based-on` and `next` refer to a style of the same kind. A reference to any other style is not
+written.
 )",
      .wrong = R"(
 { name: normal; style-def: s; format: \fs20; next: sum }
@@ -255,10 +256,10 @@ The style takes a number, and it is found by no name but the empty one.
      .identifier = "unknown-cell-color",
      .severity = Severity::Warning,
      .language = CheckedLanguage::StyleSheet,
-     .message = "{0} is the name of no color: cells of this style get background 0.",
+     .message = "{0} is not a color; cells of this style get background 0.",
      .explanation = R"(
-The format of a cell style is the name of one of the 57 colours, with `-` in place of blanks. Any
-other word gives the background 0, which some readers show black.
+The format of a cell style is one of the 57 color names, with `-` for blanks. Any other word gives
+the background 0, which some readers show as black.
 )",
      .wrong = R"(
 { name: shaded; style-def: cell; format: sliver }
@@ -271,11 +272,11 @@ other word gives the background 0, which some readers show black.
      .identifier = "format-text",
      .severity = Severity::Warning,
      .language = CheckedLanguage::StyleSheet,
-     .message = "{0} is no control word: it is printed wherever the style is used.",
+     .message = "{0} is not a control word; it will appear as text wherever the style is used.",
      .explanation = R"(
-The format of a paragraph style and of a character style goes into the document as it is. It is made
-of control words, each with its backslash and its number behind it; any other word is text, which
-each paragraph of the style begins with.
+The format of a paragraph or character style is copied to the document as it is. It consists of
+control words, each with its backslash and, if it takes one, its number. Anything else is text, and
+every paragraph of the style begins with it.
 )",
      .wrong = R"(
 { name: normal; style-def: s; format: fs20 b }

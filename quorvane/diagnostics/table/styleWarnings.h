@@ -10,10 +10,10 @@ inline constexpr DiagnosticRule styleWarnings[] = {
      .identifier = "unknown-paragraph-style",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "The stylesheet has no paragraph style {0}: {1}.",
+     .message = "The stylesheet has no paragraph style {0}; {1}.",
      .explanation = R"(
-A paragraph whose style the stylesheet does not have gets the format of the first paragraph style,
-under the number 0.
+A paragraph whose style is not in the stylesheet gets the format of the first paragraph style, with
+the style number 0.
 )",
      .wrong = R"(
 (doc
@@ -47,10 +47,10 @@ doc)
      .identifier = "unknown-character-style",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "The stylesheet has no character style {0}: its text gets no format.",
+     .message = "The stylesheet has no character style {0}; the text gets no format.",
      .explanation = R"(
-An inline style that the stylesheet does not have writes its text without a format. Character styles
-are defined with `style-def: cs`.
+The text of an inline style that is not in the stylesheet is written without a format. Define
+character styles with `style-def: cs`.
 )",
      .wrong = R"(
 (doc
@@ -83,10 +83,10 @@ doc)
      .identifier = "unknown-cell-style",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "The stylesheet has no cell style {0}: the cell gets background 0.",
+     .message = "The stylesheet has no cell style {0}; the cell gets background 0.",
      .explanation = R"(
-A cell style that the stylesheet does not have gives the cell the background 0, which some readers
-show black. Cell styles are defined with `style-def: cell`.
+A cell whose style is not in the stylesheet gets the background 0, which some readers show as black.
+Define cell styles with `style-def: cell`.
 )",
      .wrong = R"(
 (doc
@@ -114,12 +114,13 @@ doc)
      .identifier = "shared-style-number",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "The paragraph style {0} shares the number {1} with the character style {2}.",
+     .message = "Paragraph style {0} and character style {2} share the number {1}; LibreOffice may "
+                "lose the table.",
      .explanation = R"(
-Paragraph styles and character styles are both numbered from 100 on. LibreOffice loses the whole
-table when the first or the last paragraph of a cell, other than the last cell of a row, has a
-number that a character style has too. Put as many unused paragraph styles first as the stylesheet
-has character styles, the first of them with the format of `normal`.
+Paragraph styles and character styles are both numbered from 100. LibreOffice loses the whole table
+if the first or last paragraph of a cell, other than the last cell of a row, has a style number that
+is also the number of a character style. Begin the stylesheet with as many unused paragraph styles
+as it has character styles, and give the first of them the format of `normal`.
 )",
      .wrong = R"(
 (doc
@@ -159,12 +160,12 @@ doc)
      .identifier = "low-contrast",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "The text is {0} on {1} and can hardly be read.",
+     .message = "The text is {0} on {1} and hard to read.",
      .explanation = R"(
-The contrast between a text and what it stands on is less than 3 to 1. The colour of a text is that
-of its paragraph's style, of an inline style, or of a `\cf` in the text; it is white where the cell
-is dark, and it stands on the cell's background or on a `\highlight` or a shading of its own. Take
-another background, or a style with another colour.
+The contrast between the text and its background is less than 3 to 1. The color of a text comes from
+the style of its paragraph, from an inline style, or from a `\cf` in the text; in a dark cell it is
+white. Its background is that of the cell, or its own `\highlight` or shading. Choose another
+background, or a style with another color.
 )",
      .wrong = R"(
 (doc

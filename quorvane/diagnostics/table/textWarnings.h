@@ -10,11 +10,11 @@ inline constexpr DiagnosticRule textWarnings[] = {
      .identifier = "cut-value",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "The value ends here: {0} is lost.",
+     .message = "The value ends here; {0} is lost.",
      .explanation = R"(
-A value ends at the first `)`, and behind a `;` the rest of the line is a comment. A `(` in the
-value and one more `)` in that comment are a sign that the comment was meant to be text. Write
-`\'29` for a `)` in a text.
+A value ends at the first `)`, and the rest of the line after a `;` is a comment. Here the value has
+a `(` and the comment has a `)`, so the comment was probably meant to be text. In a text, write
+`\'29` for a `)`.
 )",
      .wrong = R"(
 (doc
@@ -43,10 +43,10 @@ doc)
      .identifier = "unclosed-inline-style",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "The inline style {0} is not closed: the text shows it as it is written.",
+     .message = "The inline style {0} is not closed; it will appear as written.",
      .explanation = R"(
-An inline style is the style's name between `<` and `=`, then its text, then a `>`. Without that `>`
-it stands in the document as it stands in the description.
+An inline style consists of `<`, the name of the style, `=`, the text, and `>`. Without the `>`, all
+of this appears in the document as it is written.
 )",
      .wrong = R"(
 (doc
@@ -79,11 +79,11 @@ doc)
      .identifier = "html-tag",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "{0} is not a tag here: the text shows it as it is written.",
+     .message = "Texts are not HTML; {0} will appear as written.",
      .explanation = R"(
-Texts are not HTML. Words take a character style of the stylesheet in an inline style such as
-`<strong=Total>`, or the control words of RTF in a group such as `{\b Total}`; `\line` is a line
-break. Write `\'3c` for a `<` that is to be seen in front of such a name.
+To format words, use a character style of the stylesheet in an inline style such as
+`<strong=Total>`, or RTF control words in a group such as `{\b Total}`. For a line break, write
+`\line`. For a literal `<` before such a name, write `\'3c`.
 )",
      .wrong = R"(
 (doc
@@ -116,7 +116,7 @@ doc)
      .identifier = "empty-text",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "The paragraph has no text and vanishes.",
+     .message = "Empty paragraph: it will not appear in the document.",
      .explanation = R"(
 A paragraph with an empty text writes nothing, not even an empty line. Write `\~` for an empty line.
 )",
@@ -147,11 +147,11 @@ doc)
      .identifier = "unbalanced-brace",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "The {0} has no partner.",
+     .message = "Unmatched {0}.",
      .explanation = R"(
-Texts and formats go into the document as they are. An open brace makes readers refuse the file, a
-closing one cuts the document off, so that `render --check` refuses both. Write `\{` and `\}` for
-braces that shall be seen.
+Texts and formats are copied to the document as they are. An unmatched opening brace makes readers
+refuse the file, and an unmatched closing brace cuts the document off. `render --check` therefore
+refuses both. Write `\{` and `\}` for literal braces.
 )",
      .wrong = R"(
 (doc
@@ -181,11 +181,11 @@ doc)
      .identifier = "hidden-braces",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "The braces are not shown.",
+     .message = "The braces will not appear in the document.",
      .explanation = R"(
-Texts go into the document as they are, and a pair of braces is a group in RTF: readers show what it
-holds without the braces. Write `\{` and `\}` for braces that shall be seen. A group with a control
-word, such as `{\b Total}`, is what braces are for.
+Texts are copied to the document as they are, and in RTF a pair of braces is a group: readers show
+its contents without the braces. Write `\{` and `\}` for literal braces. Use groups together with
+control words, as in `{\b Total}`.
 )",
      .wrong = R"(
 (doc
@@ -216,9 +216,9 @@ doc)
      .language = CheckedLanguage::Description,
      .message = "The backslash swallows what follows it.",
      .explanation = R"(
-Texts and formats go into the document as they are, and a backslash begins a control word or symbol.
-Write `\\` for a backslash that shall be seen, and two hexadecimal digits after `\'`. `render
---check` refuses a lone one.
+Texts and formats are copied to the document as they are, and a backslash begins a control word or
+symbol. Write `\\` for a literal backslash, and two hexadecimal digits after `\'`. `render --check`
+refuses a backslash that is neither.
 )",
      .wrong = R"(
 (doc
@@ -248,10 +248,10 @@ doc)
      .identifier = "unknown-control-word",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "{0} is no RTF control word.",
+     .message = "{0} is not an RTF control word; readers will ignore it.",
      .explanation = R"(
-Texts and formats go into the document as they are, and readers pass over control words that they do
-not know. Control words are written in lower case. Write `\\` for a backslash that shall be seen.
+Texts and formats are copied to the document as they are, and readers ignore control words that they
+do not know. Control words are written in lower case. Write `\\` for a literal backslash.
 )",
      .wrong = R"(
 (doc
@@ -280,10 +280,10 @@ doc)
      .identifier = "control-character",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "The character {0} is none that can be printed.",
+     .message = "{0} is a control character and will not be printed.",
      .explanation = R"(
-A form feed, a tab or another control character vanishes in a text or is shown as it comes. Write
-`\tab` for a tab, `\line` for a line break and `\page` for a page break.
+Tabs, form feeds and other control characters disappear from a text, or readers show them in
+different ways. Write `\tab` for a tab, `\line` for a line break and `\page` for a page break.
 )",
      .wrong = "(doc\n(r\n(c\n(p\n(pt=a\vb)\np)\nc)\nr)\ndoc)\n",
      .right = R"(
@@ -302,10 +302,11 @@ doc)
      .identifier = "embedded-content",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "{0} brings {1} into the document.",
+     .message = "{0} puts {1} into the document.",
      .explanation = R"(
-A text or a format can embed objects, pictures and other binary data, fields that run macros, and
-links to files. Where it comes from somebody else, that is seldom what the document's author wants.
+Texts and formats can embed objects, pictures and other binary data, fields that run macros, and
+links to files. If the text comes from somebody else, this is seldom what the author of the document
+wants.
 )",
      .wrong = R"(
 (doc
@@ -334,12 +335,12 @@ doc)
      .identifier = "table-control",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "{0} breaks the table in the middle of a text.",
+     .message = "{0} in a text or a format breaks the table.",
      .explanation = R"(
-`\cell`, `\row`, `\trowd`, `\cellx` and `\sect` end cells, rows and pages. In a text or a format
-they come on top of those that the table is made of: its row has more cells then than definitions,
-and readers lose it. Write a cell or a row of the description instead. A table within the cell,
-which is made of `\itap`, `\nestcell` and `\nestrow`, has whole rows, and `\itap1` behind it.
+`\cell`, `\row`, `\trowd`, `\cellx` and `\sect` end cells, rows and sections. In a text or a format
+they come in addition to those of the table, so that its row has more cells than definitions and
+readers lose it. Add a cell or a row to the description instead. A nested table, which uses `\itap`,
+`\nestcell` and `\nestrow`, must consist of complete rows and be followed by `\itap1`.
 )",
      .wrong = R"(
 (doc
@@ -373,11 +374,11 @@ doc)
      .identifier = "header-control",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "{0} belongs at the beginning of a document.",
+     .message = "{0} belongs only at the beginning of a document.",
      .explanation = R"(
-`\rtf`, `\fonttbl`, `\colortbl` and `\stylesheet` begin a document and its tables. It has them
-already: what a second one in the middle of it does is up to the reader. Of an RTF file only what
-follows its tables can be a text.
+`\rtf`, `\fonttbl`, `\colortbl` and `\stylesheet` begin a document and its tables, and the document
+already has them. Readers treat a second one in different ways. If you copy from an RTF file, copy
+only what follows its tables.
 )",
      .wrong = R"(
 (doc
@@ -406,11 +407,11 @@ doc)
      .identifier = "unknown-number",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "{0} names no {1} of the document.",
+     .message = "{0} refers to a {1} that the document does not have.",
      .explanation = R"(
-`\f` and the like name a font by its number, 0 to 17, `\cf`, `\highlight`, `\cb` and the like a
-colour, 0 to 57, and `\s` and `\cs` a style of the stylesheet, which is numbered from 100 on. What a
-number names that the document's tables do not have is up to the reader.
+`\f` and similar control words refer to a font by its number, 0 to 17; `\cf`, `\highlight`, `\cb`
+and similar ones to a color, 0 to 57; `\s` and `\cs` to a style of the stylesheet, numbered from
+100. If the document does not have the number, the result depends on the reader.
 )",
      .wrong = R"(
 (doc
@@ -439,11 +440,11 @@ doc)
      .identifier = "shown-substitute",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "The ? after {0} is shown: nothing stands in for the character.",
+     .message = "The ? after {0} will appear in the document.",
      .explanation = R"(
-In RTF a character can follow `\u` and its number that is shown by readers without Unicode.
-Documents say `\uc0`: no character does, so a `?` there is text. Write a group that says otherwise,
-such as `{\uc1\u345?}`, or end the number with a blank.
+In RTF, a substitute for readers without Unicode can follow `\u` and its number. Documents use
+`\uc0`, which means that there are no substitutes, so a `?` there is text. Write a group that allows
+one, such as `{\uc1\u345?}`, or end the number with a blank.
 )",
      .wrong = R"(
 (doc
@@ -472,12 +473,12 @@ doc)
      .identifier = "unencodable-character",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "The code page has no place for {0}, which {1}.",
+     .message = "{0} is not in Windows-1252; it will appear as {1}.",
      .explanation = R"(
-Documents are written in Windows-1252. A character that it has no place for becomes a question mark,
-or where the file is in UTF-8 two or more other characters. Of those the first is told. In a text
-such characters are written as RTF writes them: `{\uc1\u8594?}` is an arrow, and a question mark
-where a reader has none. The data of a marked field and the names of styles have no such form.
+Documents are written in Windows-1252. A character outside of it becomes a question mark or, if the
+file is in UTF-8, two or more other characters; only the first of these is reported. In a text,
+write such a character as RTF does: `{\uc1\u8594?}` is an arrow, with a question mark for readers
+that do not know it. The data of a marked field and the names of styles cannot hold such characters.
 )",
      .wrong = R"(
 (doc
@@ -506,11 +507,11 @@ doc)
      .identifier = "utf-8-text",
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
-     .message = "{0} is read as {1}: the file is in UTF-8.",
+     .message = "{0} will appear as {1}, because the file is in UTF-8.",
      .explanation = R"(
-Files are read in Windows-1252, one byte a character. In a file in UTF-8 every other character than
-those of ASCII turns into two or three; the first is told. Save the file in Windows-1252, or write
-`\'e9` and the like.
+Files are read in Windows-1252, one byte for each character. In a file in UTF-8, every character
+outside ASCII therefore becomes two or more; only the first is reported. Save the file in
+Windows-1252, or write characters as `\'e9`.
 )",
      .wrong = R"(
 (doc
