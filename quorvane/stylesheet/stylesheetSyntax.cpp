@@ -55,7 +55,7 @@ StyleItem readStyleItem(std::string_view text) {
     const std::size_t colon = text.find(':');
     StyleItem item;
     item.whole = trimWhitespace(text);
-    item.writtenKeyword = trimWhitespace(text.substr(0, colon));
+    item.writtenKeyword = colon == nowhere ? item.whole : trimWhitespace(text.substr(0, colon));
     item.keyword = lowerCase(item.writtenKeyword);
     item.known = findStyleKeyword(item.keyword);
     item.value =
@@ -107,15 +107,15 @@ BraceCount countBraces(std::string_view text) {
 
 std::string_view findLoneBrace(std::string_view text) {
     std::size_t open = nowhere;
-    for (std::size_t at = text.find_first_of("{}"); at != nowhere;
-         at = text.find_first_of("{}", at + 1)) {
-        if (text[at] == '{' && open != nowhere) {
-            return text.substr(open, 1);
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (text[at] != '{' && text[at] != '}') {
+            continue;
         }
-        if (text[at] == '}' && open == nowhere) {
-            return text.substr(at, 1);
+        const bool opens = text[at] == '{';
+        if (opens == (open != nowhere)) {
+            return text.substr(opens ? open : at, 1);
         }
-        open = text[at] == '{' ? at : nowhere;
+        open = opens ? at : nowhere;
     }
     return open == nowhere ? text.substr(0, 0) : text.substr(open, 1);
 }
