@@ -37,7 +37,7 @@ std::string formattedDefinition(std::string_view body, std::string_view lineEnd)
     std::vector<std::string> items;
     std::size_t length = 4;
     StyleItems read(body);
-    while (const std::optional<StyleItem> item = read.next()) {
+    while (const StyleItem* const item = read.next()) {
         if (!item->whole.empty()) {
             items.push_back(formattedItem(*item, items.empty()));
             length += items.back().size() + 2;

@@ -79,12 +79,12 @@ std::string parseSubField(const StyleItem& item) {
 
 StyleDefinition parseDefinition(std::string_view body) {
     StyleItems items(body);
-    const std::optional<StyleItem> first = items.next();
+    const StyleItem* const first = items.next();
     if (!first) {
         raiseBadKeyword({});
     }
     StyleDefinition definition{parseNames(*first), {}};
-    while (const std::optional<StyleItem> item = items.next()) {
+    while (const StyleItem* const item = items.next()) {
         definition.record += parseSubField(*item);
     }
     return definition;

@@ -74,22 +74,13 @@ StyleItemFault faultOf(const StyleItem& item, std::string_view lowerValue) {
     return item.known->accepts(lowerValue) ? StyleItemFault::None : StyleItemFault::Value;
 }
 
-std::optional<std::string_view> Pieces::next() {
-    if (areAllRead()) {
-        return std::nullopt;
-    }
-    const std::size_t end = std::min(text_.find(separator_, start_), text_.size());
-    const std::string_view piece = text_.substr(start_, end - start_);
-    start_ = end + 1;
-    return piece;
-}
-
-std::optional<StyleItem> StyleItems::next() {
+const StyleItem* StyleItems::next() {
     const std::optional<std::string_view> piece = pieces_.next();
     if (!piece || (pieces_.areAllRead() && trimWhitespace(*piece).empty())) {
-        return std::nullopt;
+        return nullptr;
     }
-    return readStyleItem(*piece);
+    item_ = readStyleItem(*piece);
+    return &item_;
 }
 
 std::vector<std::string_view> styleNamesIn(std::string_view value) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <optional>
 #include <span>
@@ -43,7 +44,7 @@ struct StyleItem {
     /// In lower case.
     std::string keyword;
     /// What the keyword is in an item other than the first; null when it is not one of those.
-    const StyleKeyword* known;
+    const StyleKeyword* known = nullptr;
     /// Empty when the item has no ":".
     std::string_view value;
 
@@ -67,7 +68,15 @@ public:
     Pieces(std::string_view text, char separator) : text_(text), separator_(separator) {}
 
     /// The next piece; nothing after the last one.
-    std::optional<std::string_view> next();
+    std::optional<std::string_view> next() {
+        if (areAllRead()) {
+            return std::nullopt;
+        }
+        const std::size_t end = std::min(text_.find(separator_, start_), text_.size());
+        const std::string_view piece = text_.substr(start_, end - start_);
+        start_ = end + 1;
+        return piece;
+    }
 
     bool areAllRead() const { return start_ > text_.size(); }
 
@@ -83,11 +92,12 @@ public:
     /// `body` is the text between the braces.
     explicit StyleItems(std::string_view body) : pieces_(body, ';') {}
 
-    /// The next item; nothing after the last one.
-    std::optional<StyleItem> next();
+    /// Reads the next item, which stays valid until the next call; null after the last one.
+    const StyleItem* next();
 
 private:
     Pieces pieces_;
+    StyleItem item_;
 };
 
 /// The names in the value of an item "name", in the case in which they are written.

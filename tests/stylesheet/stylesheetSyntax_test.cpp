@@ -20,7 +20,7 @@ std::vector<std::string> piecesOf(std::string_view text) {
 std::vector<std::string> itemsOf(std::string_view body) {
     std::vector<std::string> all;
     StyleItems items(body);
-    while (const auto item = items.next()) {
+    while (const StyleItem* const item = items.next()) {
         all.push_back(item->keyword + "=" + std::string(item->value));
     }
     return all;
