@@ -464,7 +464,7 @@ TEST_F(TableCell, MovesItsLeftEdgeWhenItIsTheLastOfSeveral) {
     EXPECT_EQ(definition(), "\\cellx6000 \\cellx9000");
 }
 
-TEST_F(TableCell, LeavesItsRightNeighbour200Twips) {
+TEST_F(TableCell, LeavesItsRightNeighbor200Twips) {
     addCells(1);
     cell(1)->setWidth(eTwips, 8900);
     EXPECT_EQ(definition(), "\\cellx8800 \\cellx9000");
@@ -482,7 +482,7 @@ TEST_F(TableCell, KeepsAtLeast200TwipsItself) {
     }
 }
 
-TEST_F(TableCell, LeavesItsLeftNeighbour200TwipsWhenItIsTheLast) {
+TEST_F(TableCell, LeavesItsLeftNeighbor200TwipsWhenItIsTheLast) {
     addCells(2);
     cell(3)->setWidth(eTwips, 9000);
     EXPECT_EQ(definition(), "\\cellx3000 \\cellx3200 \\cellx9000");

@@ -163,7 +163,7 @@ TEST_F(TableCells, CheckTheirArgumentsBeforeTheWidth) {
     EXPECT_EQ(errorNumberOf([&] { cells->add(Missing{}, 9); }), 5);
 }
 
-TEST_F(TableCells, GiveTheEdgeOfARemovedCellToItsLeftNeighbour) {
+TEST_F(TableCells, GiveTheEdgeOfARemovedCellToItsLeftNeighbor) {
     add(3);
 
     cells->Remove(2);
