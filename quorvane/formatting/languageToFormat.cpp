@@ -17,7 +17,7 @@ constexpr NodeKind nodeKinds[] = {NodeKind::Doc, NodeKind::Row, NodeKind::Cell, 
 
 bool hasKeyword(const StyleItem& item) {
     // A word without a ":" is not a keyword: it may be a statement in another language.
-    return item.hasColon() && (item.keyword == nameKeyword || findStyleKeyword(item.keyword));
+    return item.hasColon() && (item.keyword == nameKeyword || item.known);
 }
 
 bool isNamed(const OutlinedDefinition& definition) {
@@ -54,10 +54,10 @@ bool beginsAsStyleSheet(std::string_view text) {
 }
 
 bool isStyleKind(const StyleItem& item) {
-    return item.keyword == "style-def" && findStyleKeyword(item.keyword)->accepts(item.value);
+    return item.keyword == "style-def" && item.known->accepts(item.value);
 }
 
-/// Among other text, as in a program, braces with a name are not enough.
+/// Between other text, as in a program, braces with a name are not enough.
 bool holdsStyles(std::string_view text) {
     const StyleSheetOutline outline = readStyleSheetOutline(text);
     return std::any_of(outline.definitions.begin(), outline.definitions.end(),
@@ -68,7 +68,7 @@ bool holdsStyles(std::string_view text) {
                        });
 }
 
-/// Of a file named as a stylesheet: braces without a single keyword are another language's.
+/// For a file named as a stylesheet: braces without any keyword belong to another language.
 bool mayBeStyleSheet(std::string_view text) {
     const StyleSheetOutline outline = readStyleSheetOutline(text);
     return std::any_of(outline.definitions.begin(), outline.definitions.end(), hasAnyKeyword);
@@ -77,7 +77,7 @@ bool mayBeStyleSheet(std::string_view text) {
 }  // namespace
 
 std::optional<CheckedLanguage> languageToFormat(std::string_view text, std::string_view fileName) {
-    // A byte of zero is in no text, but in every other one of UTF-16.
+    // No text has a zero byte, except one in UTF-16.
     if (text.find('\0') != std::string_view::npos) {
         return std::nullopt;
     }
