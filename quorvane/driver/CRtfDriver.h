@@ -8,7 +8,7 @@
 #include "quorvane/base/memory/Ref.h"
 #include "quorvane/base/platform/Platform.h"
 #include "quorvane/docmodel/CRtfDoc.h"
-#include "quorvane/driver/Vocabulary.h"
+#include "quorvane/driver/Dialect.h"
 #include "quorvane/support/GError.h"
 
 namespace quorvane {
@@ -28,7 +28,7 @@ public:
     /// The event `notifyError`: called with the driver for every error of an analysis. The error is
     /// the thread's current one (see `currentError`), its `line` the line of the description that
     /// it concerns. The handler may use the driver and its document in any way: the analysis goes
-    /// on with what it leaves, also when it lets go of the driver or ran an analysis of its own. An
+    /// on with what it leaves, also when it releases the driver or ran an analysis of its own. An
     /// exception that it throws ends the analysis and reaches its caller.
     using NotifyErrorHandler = std::function<void(CRtfDriver& Sender)>;
 
@@ -94,7 +94,7 @@ private:
     Counted counts_;
     Platform& platform_;
     Ref<CRtfDoc> document_;
-    Vocabulary vocabulary_;
+    const Dialect& dialect_ = originalDialect();
     NotifyErrorHandler handler_;
     bool erroneousInput_ = false;
     bool notifyError_ = true;

@@ -10,7 +10,7 @@
 #include "quorvane/base/text/numberText.h"
 #include "quorvane/base/text/rounding.h"
 #include "quorvane/base/values/RtfError.h"
-#include "quorvane/diagnostics/description/TrialPlatform.h"
+#include "quorvane/diagnostics/description/NullPlatform.h"
 #include "quorvane/docmodel/CRtfDoc.h"
 
 namespace quorvane {
@@ -22,7 +22,7 @@ constexpr std::size_t mostCells = 63;
 
 /// The widths of a row's cells in twips, as a document lays them out.
 std::vector<std::int32_t> laidOut(const CellPercents& percents, std::int32_t room) {
-    TrialPlatform platform;
+    NullPlatform platform;
     const Ref<CRtfDoc> document = CRtfDoc::create(platform);
     document->TableRows()->AddTail();
     const Ref<CRtfTableCells> cells = document->TableRows()->Item(1)->TableCells();

@@ -11,7 +11,6 @@
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/base/values/RtfError.h"
-#include "quorvane/diagnostics/description/judgement.h"
 #include "quorvane/diagnostics/description/misreadCharacters.h"
 #include "quorvane/diagnostics/description/rtfText.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
@@ -372,8 +371,7 @@ std::vector<Diagnostic> checkStyleSheet(std::string_view text) {
     if (isUtf16(text)) {
         return findingsInUtf16(text);
     }
-    return judgedFindings(findingsWithoutLoading(text), loadingErrors(text),
-                          DiagnosticId::StyleSheetRejected, SourceText(text));
+    return findingsWithoutLoading(text);
 }
 
 std::vector<Diagnostic> findUnusedStyles(const KnownStyles& styles) {
