@@ -74,7 +74,7 @@ public:
         fs::create_directory(folder_);
     }
 
-    /// Prints the ratios of the best times and answers a run of the first.
+    /// Prints the ratios of the best times and returns a run of the first.
     Run compare(const char* what, int times, const MakeCommand& ours, const MakeCommand& plain) {
         std::vector<Run> our;
         std::vector<Run> their;

@@ -45,16 +45,16 @@ int main(int argc, char** argv) {
     std::ptrdiff_t lines = 0;
     const double counting = speedOf(
         bytes, [&](std::string_view text) { lines += std::count(text.begin(), text.end(), '\n'); });
-    std::size_t findings = 0;
+    std::size_t diagnostics = 0;
     const double checking = speedOf(bytes, [&](std::string_view text) {
-        quorvane::RtfCheck check([&](const quorvane::Diagnostic&) { ++findings; });
+        quorvane::RtfCheck check([&](const quorvane::Diagnostic&) { ++diagnostics; });
         for (std::size_t at = 0; at < text.size(); at += pieceLength) {
             check.feed(text.substr(at, pieceLength));
         }
         check.finish();
     });
-    std::printf("%.1f MB, %td line ends counted, %zu findings\n",
-                static_cast<double>(bytes.size()) / megabyte, lines, findings);
+    std::printf("%.1f MB, %td line ends counted, %zu diagnostics\n",
+                static_cast<double>(bytes.size()) / megabyte, lines, diagnostics);
     std::printf("counting bytes: %8.0f MB/s\nchecking:       %8.0f MB/s\n", counting, checking);
     return 0;
 }

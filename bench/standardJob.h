@@ -11,7 +11,7 @@
 namespace quorvane::bench {
 
 // The standard job: rows of five cells of one paragraph of 24 characters, thin borders everywhere,
-// a ground colour on every second row, one of three paragraph styles a row, one bold word a row.
+// a background color on every second row, one of three paragraph styles a row, one bold word a row.
 
 inline constexpr std::int32_t cellsPerRow = 5;
 inline constexpr std::size_t characterCount = 24;

@@ -33,7 +33,7 @@ namespace {
 
 constexpr std::size_t pieceLength = std::size_t{1024} * 1024;
 // How many diagnostics about an RTF file are held back to be reported in the order of their places.
-constexpr std::size_t mostFindingsHeld = 100'000;
+constexpr std::size_t maxDiagnosticsHeld = 100'000;
 
 /// The next bytes of a stream; empty at its end.
 std::string readPiece(std::istream& stream) {
@@ -74,15 +74,15 @@ bool isSameFile(const std::string& a, const std::string& b) {
     return std::filesystem::equivalent(pathFromUtf8(a), pathFromUtf8(b), failure);
 }
 
-/// A file that is not treated as asked for, for another reason than one of the system.
-Diagnostic refusal(const std::string& file, const char* why) {
+/// A file that cannot be handled as requested, for a reason that is not the system's.
+ReportedError refusal(const std::string& file, const char* why) {
     const auto number = static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall);
-    return {DiagnosticKind::Raised, file, RtfError(number, why), why};
+    return {ErrorKind::Raised, file, RtfError(number, why), why};
 }
 
 }  // namespace
 
-CheckJob::CheckJob(CheckOptions options, FindingSink find, DiagnosticSink fail, Platform& platform,
+CheckJob::CheckJob(CheckOptions options, DiagnosticSink find, ErrorSink fail, Platform& platform,
                    BytesSink write)
     : options_(std::move(options)),
       ignored_(idsOf("--ignore", options_.ignored)),
@@ -115,13 +115,13 @@ ExitStatus CheckJob::run() {
 void CheckJob::checkStyles(const std::string& file) {
     try {
         const auto check = [&](std::string_view bytes) {
-            if (std::optional<quorvane::Diagnostic> binary = findNotATextFile(bytes)) {
+            if (std::optional<Diagnostic> binary = findNotATextFile(bytes)) {
                 return std::vector{*std::move(binary)};
             }
             const std::string text = utf8FromCodePage1252(bytes);
             return reported(checkStyleSheet(text), text, CheckedLanguage::StyleSheet);
         };
-        const auto bytes = tellText(file, platform_.readFile(file), false, check);
+        const auto bytes = reportText(file, platform_.readFile(file), false, check);
         if (!bytes) {
             return;
         }
@@ -138,9 +138,9 @@ void CheckJob::findUnused() {
     if (!styles_ || !checkedDescriptions_ || !isReported(DiagnosticId::UnusedStyle)) {
         return;
     }
-    tellAll(*options_.styleSheet,
-            reported(findUnusedStyles(*styles_), styles_->text(), CheckedLanguage::StyleSheet),
-            codePage1252FromUtf8(styles_->text()));
+    reportAll(*options_.styleSheet,
+              reported(findUnusedStyles(*styles_), styles_->text(), CheckedLanguage::StyleSheet),
+              codePage1252FromUtf8(styles_->text()));
 }
 
 void CheckJob::checkFolder(const std::string& folder) {
@@ -167,8 +167,8 @@ void CheckJob::checkFile(const std::string& file) {
             return;
         }
         // The file of an RTF document may be larger than the memory. A file that is something else
-        // is read by the platform, which also tells why one cannot be read; so is a pipe, which
-        // can be read only once. Whether a stylesheet would be loaded shows when all of it is read.
+        // is read by the platform, which also reports why one cannot be read; so is a pipe, which
+        // can be read only once. A stylesheet must be read whole to see whether it can be loaded.
         const std::filesystem::path path = pathFromUtf8(file);
         std::error_code failure;
         if (std::filesystem::is_regular_file(path, failure)) {
@@ -189,34 +189,33 @@ void CheckJob::checkFile(const std::string& file) {
 
 void CheckJob::checkText(const std::string& file, std::string_view bytes, bool isStream) {
     const CheckedLanguage language = languageOf(bytes, file);
-    tellText(file, bytes, isStream,
-             [&](std::string_view text) { return findingsOf(file, text, language); });
+    reportText(file, bytes, isStream,
+               [&](std::string_view text) { return diagnosticsOf(file, text, language); });
 }
 
-std::vector<quorvane::Diagnostic> CheckJob::findingsOf(const std::string& file,
-                                                       std::string_view bytes,
-                                                       CheckedLanguage language) {
-    if (std::optional<quorvane::Diagnostic> binary = findNotATextFile(bytes)) {
+std::vector<Diagnostic> CheckJob::diagnosticsOf(const std::string& file, std::string_view bytes,
+                                                CheckedLanguage language) {
+    if (std::optional<Diagnostic> binary = findNotATextFile(bytes)) {
         return {*std::move(binary)};
     }
-    std::vector<quorvane::Diagnostic> all = findNameMismatch(bytes, language, file);
-    std::vector<quorvane::Diagnostic> findings;
+    std::vector<Diagnostic> all = findNameMismatch(bytes, language, file);
+    std::vector<Diagnostic> diagnostics;
     std::string text;
     switch (language) {
         case CheckedLanguage::Rtf:
-            findings = checkRtf(bytes);
+            diagnostics = checkRtf(bytes);
             break;
         case CheckedLanguage::StyleSheet:
             text = utf8FromCodePage1252(bytes);
-            findings = checkStyleSheet(text);
+            diagnostics = checkStyleSheet(text);
             break;
         case CheckedLanguage::Description:
             checkedDescriptions_ = true;
             text = utf8FromCodePage1252(bytes);
-            findings = checkDescription(text, styles_ ? &*styles_ : nullptr);
+            diagnostics = checkDescription(text, styles_ ? &*styles_ : nullptr);
             break;
     }
-    std::move(findings.begin(), findings.end(), std::back_inserter(all));
+    std::move(diagnostics.begin(), diagnostics.end(), std::back_inserter(all));
     return reported(std::move(all), text, language);
 }
 
@@ -224,24 +223,24 @@ bool CheckJob::isReported(DiagnosticId id) const {
     return !ignored_.contains(id) && (!isOffByDefault(id) || enabled_.contains(id));
 }
 
-/// The findings without those that are to be ignored.
-std::vector<quorvane::Diagnostic> CheckJob::reported(std::vector<quorvane::Diagnostic> findings,
-                                                     std::string_view text,
-                                                     CheckedLanguage language) {
-    std::erase_if(findings,
-                  [this](const quorvane::Diagnostic& finding) { return !isReported(finding.id); });
-    return language == CheckedLanguage::Rtf ? findings
-                                            : withoutIgnored(std::move(findings), text, language);
+/// The diagnostics without those that are to be ignored.
+std::vector<Diagnostic> CheckJob::reported(std::vector<Diagnostic> diagnostics,
+                                           std::string_view text, CheckedLanguage language) {
+    std::erase_if(diagnostics,
+                  [this](const Diagnostic& diagnostic) { return !isReported(diagnostic.id); });
+    return language == CheckedLanguage::Rtf
+               ? diagnostics
+               : withoutIgnored(std::move(diagnostics), text, language);
 }
 
 /// Reports what the check finds in a text, and fixes the file if --fix is given. Returns the bytes
-/// of the text as they are afterwards, or would be; nothing for a file that is not a text.
-std::optional<std::string> CheckJob::tellText(const std::string& file, std::string_view bytes,
-                                              bool isStream, const TextCheck& check) {
+/// of the text after its fixes, or no value for a file that is not a text.
+std::optional<std::string> CheckJob::reportText(const std::string& file, std::string_view bytes,
+                                                bool isStream, const TextCheck& check) {
     ++counts_.files;
-    if (const std::optional<quorvane::Diagnostic> binary = findNotATextFile(bytes)) {
+    if (const std::optional<Diagnostic> binary = findNotATextFile(bytes)) {
         if (isReported(binary->id)) {
-            tell(file, *binary, windowOf({}));
+            report(file, *binary, windowOf({}));
         }
         if (isStream && options_.fixes && !options_.showsDiff) {
             write_(bytes);
@@ -249,23 +248,23 @@ std::optional<std::string> CheckJob::tellText(const std::string& file, std::stri
         return std::nullopt;
     }
     if (!options_.fixes && !options_.showsDiff) {
-        tellAll(file, check(bytes), bytes);
+        reportAll(file, check(bytes), bytes);
         return std::string(bytes);
     }
     FixedText fixed = fixText(bytes, check);
     if (fixed.wasRefused) {
-        fail_(refusal(shownName(file), "Not fixed: with its fixes it would have more errors"));
+        fail_(refusal(shownName(file), "Not fixed: the fixes would cause more errors"));
     }
     if (options_.showsDiff) {
-        tellAll(file, fixed.rounds.empty() ? fixed.remaining : check(bytes), bytes);
+        reportAll(file, fixed.rounds.empty() ? fixed.remaining : check(bytes), bytes);
         write_(unifiedDiff(file == standardStream ? "stdin" : file, bytes, fixed.bytes));
     } else if (isStream || writeFixed(file, bytes, fixed)) {
         for (const FixedText::Round& round : fixed.rounds) {
-            tellAll(file, round.fixed, round.bytes);
+            reportAll(file, round.fixed, round.bytes);
         }
-        tellAll(file, fixed.remaining, fixed.bytes);
+        reportAll(file, fixed.remaining, fixed.bytes);
     } else {
-        tellAll(file, check(bytes), bytes);
+        reportAll(file, check(bytes), bytes);
         fixed.bytes = bytes;
     }
     if (isStream && !options_.showsDiff) {
@@ -274,7 +273,7 @@ std::optional<std::string> CheckJob::tellText(const std::string& file, std::stri
     return fixed.bytes;
 }
 
-/// Writes the fixed text in the place of the one before; false when that fails.
+/// Replaces the file with the fixed text; returns false when that fails.
 bool CheckJob::writeFixed(const std::string& file, std::string_view before,
                           const FixedText& fixed) {
     if (fixed.bytes == before) {
@@ -300,23 +299,23 @@ void CheckJob::checkRtfFile(const std::string& file, std::istream& stream,
                             const std::string& beginning) {
     ++counts_.files;
     const FileWindow window = windowOfFile(file);
-    std::vector<quorvane::Diagnostic> held;
-    const auto tellHeld = [&] {
+    std::vector<Diagnostic> held;
+    const auto reportHeld = [&] {
         sortByPlace(held);
-        for (const quorvane::Diagnostic& finding : held) {
-            tell(file, finding, window);
+        for (const Diagnostic& diagnostic : held) {
+            report(file, diagnostic, window);
         }
         held.clear();
     };
-    RtfCheck check([&](quorvane::Diagnostic finding) {
-        if (isReported(finding.id)) {
-            held.push_back(std::move(finding));
+    RtfCheck check([&](Diagnostic diagnostic) {
+        if (isReported(diagnostic.id)) {
+            held.push_back(std::move(diagnostic));
         }
-        if (held.size() == mostFindingsHeld) {
-            tellHeld();
+        if (held.size() == maxDiagnosticsHeld) {
+            reportHeld();
         }
     });
-    tellAll(
+    reportAll(
         file,
         reported(findNameMismatch(beginning, CheckedLanguage::Rtf, file), {}, CheckedLanguage::Rtf),
         beginning);
@@ -328,31 +327,31 @@ void CheckJob::checkRtfFile(const std::string& file, std::istream& stream,
         raise(RunTimeError::DeviceIoError);
     }
     check.finish();
-    tellHeld();
+    reportHeld();
 }
 
 std::string CheckJob::shownName(const std::string& file) const {
     return file == standardStream ? options_.stdinName.value_or("<stdin>") : file;
 }
 
-void CheckJob::fail(const Diagnostic& failure) {
+void CheckJob::fail(const ReportedError& failure) {
     hasFailed_ = true;
     fail_(failure);
 }
 
-void CheckJob::tell(const std::string& file, const quorvane::Diagnostic& finding,
-                    const FileWindow& window) {
-    ++(finding.isFixed                       ? counts_.fixed
-       : finding.severity == Severity::Error ? counts_.errors
-                                             : counts_.warnings);
-    find_(file, finding, window);
+void CheckJob::report(const std::string& file, const Diagnostic& diagnostic,
+                      const FileWindow& window) {
+    ++(diagnostic.isFixed                       ? counts_.fixed
+       : diagnostic.severity == Severity::Error ? counts_.errors
+                                                : counts_.warnings);
+    find_(file, diagnostic, window);
 }
 
-void CheckJob::tellAll(const std::string& file, const std::vector<quorvane::Diagnostic>& findings,
-                       std::string_view bytes) {
+void CheckJob::reportAll(const std::string& file, const std::vector<Diagnostic>& diagnostics,
+                         std::string_view bytes) {
     const FileWindow window = windowOf(bytes);
-    for (const quorvane::Diagnostic& finding : findings) {
-        tell(file, finding, window);
+    for (const Diagnostic& diagnostic : diagnostics) {
+        report(file, diagnostic, window);
     }
 }
 

@@ -10,9 +10,9 @@
 #include <vector>
 
 #include "cli/CheckOptions.h"
-#include "cli/Diagnostic.h"
+#include "cli/DiagnosticExcerpt.h"
 #include "cli/ExitStatus.h"
-#include "cli/FindingExcerpt.h"
+#include "cli/ReportedError.h"
 #include "quorvane/base/platform/Platform.h"
 #include "quorvane/diagnostics/engine/Diagnostic.h"
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
@@ -21,10 +21,10 @@
 
 namespace quorvane::cli {
 
-/// Takes a finding about a file, named as on the command line, and the file's window. One that was
-/// fixed comes with the window of the text before.
-using FindingSink =
-    std::function<void(const std::string& file, const quorvane::Diagnostic&, const FileWindow&)>;
+/// Receives a diagnostic about a file, named as on the command line, and the file's window. For one
+/// that was fixed, the window is that of the text before the fix.
+using DiagnosticSink =
+    std::function<void(const std::string& file, const Diagnostic&, const FileWindow&)>;
 
 /// How much a check found.
 struct CheckCounts {
@@ -32,19 +32,19 @@ struct CheckCounts {
     std::size_t files = 0;
     std::size_t errors = 0;
     std::size_t warnings = 0;
-    /// Findings that were fixed; they are no errors or warnings any more.
+    /// Diagnostics that were fixed, which no longer count as errors or warnings.
     std::size_t fixed = 0;
 };
 
-/// What `quorvane check` does: checks files one after the other, each as what it is by its content,
-/// and fixes descriptions and stylesheets where it is asked to. RTF files are read in pieces.
+/// Implements `quorvane check`: checks files one after the other, each according to its content,
+/// and fixes descriptions and stylesheets on request. RTF files are read in pieces.
 class CheckJob {
 public:
     /// Takes bytes for standard output: the text of standard input with its fixes, or a diff.
     using BytesSink = std::function<void(std::string_view)>;
 
     /// The platform must outlive the job. The last sink is needed only for fixes.
-    CheckJob(CheckOptions options, FindingSink find, DiagnosticSink fail,
+    CheckJob(CheckOptions options, DiagnosticSink find, ErrorSink fail,
              Platform& platform = systemPlatform(), BytesSink write = {});
 
     /// Reports every diagnostic, and every file that cannot be read or written. Throws a
@@ -65,25 +65,24 @@ private:
     void findUnused();
 
     bool isReported(DiagnosticId id) const;
-    std::vector<quorvane::Diagnostic> findingsOf(const std::string& file, std::string_view bytes,
-                                                 CheckedLanguage language);
-    std::vector<quorvane::Diagnostic> reported(std::vector<quorvane::Diagnostic> findings,
-                                               std::string_view text, CheckedLanguage language);
-    std::optional<std::string> tellText(const std::string& file, std::string_view bytes,
-                                        bool isStream, const TextCheck& check);
+    std::vector<Diagnostic> diagnosticsOf(const std::string& file, std::string_view bytes,
+                                          CheckedLanguage language);
+    std::vector<Diagnostic> reported(std::vector<Diagnostic> diagnostics, std::string_view text,
+                                     CheckedLanguage language);
+    std::optional<std::string> reportText(const std::string& file, std::string_view bytes,
+                                          bool isStream, const TextCheck& check);
     bool writeFixed(const std::string& file, std::string_view before, const FixedText& fixed);
     std::string shownName(const std::string& file) const;
-    void fail(const Diagnostic& failure);
-    void tell(const std::string& file, const quorvane::Diagnostic& finding,
-              const FileWindow& window);
-    void tellAll(const std::string& file, const std::vector<quorvane::Diagnostic>& findings,
-                 std::string_view bytes);
+    void fail(const ReportedError& failure);
+    void report(const std::string& file, const Diagnostic& diagnostic, const FileWindow& window);
+    void reportAll(const std::string& file, const std::vector<Diagnostic>& diagnostics,
+                   std::string_view bytes);
 
     CheckOptions options_;
     std::set<DiagnosticId> ignored_;
     std::set<DiagnosticId> enabled_;
-    FindingSink find_;
-    DiagnosticSink fail_;
+    DiagnosticSink find_;
+    ErrorSink fail_;
     Platform& platform_;
     BytesSink write_;
     std::optional<KnownStyles> styles_;

@@ -9,23 +9,23 @@
 namespace quorvane::cli {
 
 /// The form in which diagnostics are reported on standard output.
-enum class FindingsForm { Text, Json, Sarif };
+enum class ReportForm { Text, Json, Sarif };
 
 /// What `quorvane check` was asked to do. Paths are as they were given; "-" is standard input, and
 /// a folder stands for the files below it.
 struct CheckOptions {
     std::vector<std::string> files;
     std::optional<std::string> styleSheet;
-    FindingsForm form = FindingsForm::Text;
+    ReportForm form = ReportForm::Text;
     /// Identifiers of diagnostics to leave out, and of those to report that are off by default.
     std::vector<std::string> ignored;
     std::vector<std::string> enabled;
     FailOn failOn = FailOn::Warning;
     /// No summary.
     bool isQuiet = false;
-    /// Makes the fixes that findings carry.
+    /// Makes the fixes that diagnostics carry.
     bool fixes = false;
-    /// Shows what the fixes would change, and makes none.
+    /// Shows what the fixes would change, without applying them.
     bool showsDiff = false;
     /// The name that standard input is checked and reported under.
     std::optional<std::string> stdinName;

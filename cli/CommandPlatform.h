@@ -8,9 +8,9 @@
 
 namespace quorvane::cli {
 
-/// The platform on which the command lets the library run: files are read from another platform, a
-/// document's file is replaced as a whole or is standard output, and nothing is put on the
-/// clipboard or into message boxes. An error 75 of reading has as its cause what the system said.
+/// The platform for the library when the command runs it: files are read from another platform, a
+/// document replaces its file as a whole or goes to standard output, and the clipboard and message
+/// boxes are not used. The cause of an error 75 of reading is the system's message.
 class CommandPlatform : public Platform {
 public:
     /// The other platform must outlive this one.

@@ -138,7 +138,7 @@ bool DescriptionRendering::mayWrite() {
     if (driver_->RtfObject()->TableRows()->Count() > 0) {
         return true;
     }
-    report_.fail({DiagnosticKind::Raised, inputName(assignment_.description),
+    report_.fail({ErrorKind::Raised, inputName(assignment_.description),
                   RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
                            "Nothing could be built; " + outputName(assignment_.output) +
                                " was not written.")});
@@ -158,7 +158,7 @@ void DescriptionRendering::write() {
     }
 }
 
-void DescriptionRendering::fail(const Diagnostic& failure) {
+void DescriptionRendering::fail(const ReportedError& failure) {
     // First of all: the failure counts even when it cannot be reported.
     status_ = ExitStatus::Failure;
     report_.fail(failure);

@@ -45,7 +45,7 @@ private:
     bool mayWrite();
     void leaveDocumentBefore();
     void write();
-    void fail(const Diagnostic& failure);
+    void fail(const ReportedError& failure);
 
     const Assignment& assignment_;
     const RenderingManner& manner_;

@@ -5,7 +5,7 @@ namespace quorvane::cli {
 /// The command's exit status. Of several results of rendering the greatest counts; a check
 /// reports warnings by its status only if there are no errors.
 enum class ExitStatus {
-    /// All is well.
+    /// No errors.
     Success = 0,
     /// A description or the stylesheet has errors.
     ContentErrors = 1,

@@ -2,7 +2,7 @@
 
 namespace quorvane::cli {
 
-/// What makes a run fail: errors, warnings too, or nothing that is found in a file.
+/// The lowest severity that makes a run fail.
 enum class FailOn { Error, Warning, Never };
 
 }  // namespace quorvane::cli

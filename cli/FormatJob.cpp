@@ -7,7 +7,7 @@
 
 #include "cli/RenderOptions.h"
 #include "cli/colors.h"
-#include "cli/diagnosticText.h"
+#include "cli/errorText.h"
 #include "cli/fileFailure.h"
 #include "cli/process.h"
 #include "cli/unifiedDiff.h"
@@ -32,7 +32,7 @@ struct StandardOutputFailure {
 
 }  // namespace
 
-FormatJob::FormatJob(FormatOptions options, TextSink write, DiagnosticSink fail, Platform& platform)
+FormatJob::FormatJob(FormatOptions options, TextSink write, ErrorSink fail, Platform& platform)
     : options_(std::move(options)),
       write_(std::move(write)),
       fail_(std::move(fail)),
@@ -79,7 +79,7 @@ std::string FormatJob::shownName(const std::string& file) const {
 
 /// The bytes in their canonical form.
 std::string FormatJob::formatted(const std::string& file, std::string_view bytes) const {
-    if (const std::optional<quorvane::Diagnostic> binary = findNotATextFile(bytes)) {
+    if (const std::optional<Diagnostic> binary = findNotATextFile(bytes)) {
         refuse(binary->message);
     }
     const std::string text = utf8FromCodePage1252(bytes);
@@ -94,12 +94,12 @@ std::string FormatJob::formatted(const std::string& file, std::string_view bytes
     }
     refuse(languageOf(bytes, shownName(file)) == CheckedLanguage::Rtf
                ? "An RTF file has no canonical form"
-               : "Neither a description nor a stylesheet");
+               : "The file is neither a description nor a stylesheet");
 }
 
 ExitStatus format(const FormatOptions& options) {
-    const auto fail = [](const Diagnostic& failure) {
-        writeToStandardError(diagnosticText(failure) + "\n");
+    const auto fail = [](const ReportedError& failure) {
+        writeToStandardError(errorText(failure) + "\n");
     };
     const bool showsOnTerminal = options.diff && standardOutputIsTerminal();
     try {

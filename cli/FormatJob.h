@@ -4,25 +4,25 @@
 #include <string>
 #include <string_view>
 
-#include "cli/Diagnostic.h"
 #include "cli/ExitStatus.h"
 #include "cli/FormatOptions.h"
+#include "cli/ReportedError.h"
 #include "quorvane/base/platform/Platform.h"
 
 namespace quorvane::cli {
 
-/// Takes a text for standard output: the name of a file, a diff, or a file's canonical form.
+/// Receives a text for standard output: the name of a file, a diff, or a file's canonical form.
 using TextSink = std::function<void(const std::string&)>;
 
-/// What `quorvane format` does: puts descriptions and stylesheets into their canonical form, each
-/// in its place, and what comes from standard input on standard output.
+/// Implements `quorvane format`: replaces descriptions and stylesheets with their canonical form,
+/// and writes that of standard input to standard output.
 class FormatJob {
 public:
     /// The platform, from which files are read, must outlive the job.
-    FormatJob(FormatOptions options, TextSink write, DiagnosticSink fail,
+    FormatJob(FormatOptions options, TextSink write, ErrorSink fail,
               Platform& platform = systemPlatform());
 
-    /// `ContentErrors` when nothing is to be changed, and a file is not in its canonical form.
+    /// Returns `ContentErrors` if a file is not in canonical form and must not be changed.
     ExitStatus run();
 
 private:
@@ -32,7 +32,7 @@ private:
 
     FormatOptions options_;
     TextSink write_;
-    DiagnosticSink fail_;
+    ErrorSink fail_;
     Platform& platform_;
 };
 

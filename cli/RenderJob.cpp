@@ -76,7 +76,7 @@ bool RenderJob::prepareOutputFolder() {
     if (!std::filesystem::exists(status)) {
         reason = notMade ? notMade.message() : failure.message() + "; --mkdir creates it";
     }
-    report_.fail({DiagnosticKind::Raised, *options_.outputFolder, std::move(error), reason});
+    report_.fail({ErrorKind::Raised, *options_.outputFolder, std::move(error), reason});
     return false;
 }
 
@@ -100,16 +100,16 @@ ExitStatus RenderJob::render(const Assignment& assignment) {
     try {
         const ExitStatus status =
             DescriptionRendering(assignment, manner_, platform_, driver_, report_).run();
-        // The next document uses the memory of a small one again; that of a large one shall not
-        // stay beside it. After an error the next description begins anew.
+        // The next document uses the memory of a small one again; that of a large one is
+        // released. After an error the next description gets a new driver.
         if (status != ExitStatus::Success || driver_->Contents().size() > largestKeptDocument) {
             driver_ = nullptr;
         }
         return status;
     } catch (const std::bad_alloc&) {
         driver_ = nullptr;
-        report_.fail({DiagnosticKind::Raised, assignment.description,
-                      RtfError(outOfMemory, "Out of memory")});
+        report_.fail(
+            {ErrorKind::Raised, assignment.description, RtfError(outOfMemory, "Out of memory")});
         return ExitStatus::Failure;
     }
 }

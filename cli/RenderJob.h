@@ -11,9 +11,9 @@
 
 namespace quorvane::cli {
 
-/// What `quorvane render` does: renders descriptions one after the other, each on its own. It
-/// reports every error and stops at none, but renders nothing when it is asked for something that
-/// makes no sense, or when the stylesheet cannot be read and it was not asked to keep going.
+/// Implements `quorvane render`: renders descriptions one after the other, each on its own. It
+/// reports every error and continues with the next description, but renders none if the options
+/// make no sense, or if the stylesheet cannot be read and --keep-going is not given.
 class RenderJob {
 public:
     /// Descriptions and stylesheet are read from the platform, which must outlive the job.

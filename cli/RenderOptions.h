@@ -9,12 +9,12 @@
 namespace quorvane::cli {
 
 /// The form in which errors are reported on standard error.
-enum class DiagnosticsForm { Text, Json };
+enum class ErrorForm { Text, Json };
 
-/// In place of a file's name it stands for standard input or standard output.
+/// The name that stands for standard input or standard output.
 inline constexpr const char* standardStream = "-";
 
-/// What `quorvane render` was asked to do. Paths are as they were given.
+/// The options of `quorvane render`. Paths are as given.
 struct RenderOptions {
     std::vector<std::string> descriptions;
     std::optional<std::string> styleSheet;
@@ -29,7 +29,7 @@ struct RenderOptions {
     /// Write what could be built of a description that has errors.
     bool keepGoing = false;
     FailOn failOn = FailOn::Error;
-    DiagnosticsForm diagnostics = DiagnosticsForm::Text;
+    ErrorForm diagnostics = ErrorForm::Text;
 };
 
 }  // namespace quorvane::cli

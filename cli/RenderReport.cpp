@@ -18,9 +18,9 @@ namespace quorvane::cli {
 
 namespace {
 
-using Diagnostics = std::vector<quorvane::Diagnostic>;
+using Diagnostics = std::vector<Diagnostic>;
 
-bool isError(const quorvane::Diagnostic& diagnostic) {
+bool isError(const Diagnostic& diagnostic) {
     return diagnostic.severity == Severity::Error;
 }
 
@@ -30,7 +30,7 @@ bool hasErrors(const Diagnostics& diagnostics) {
 
 std::set<DiagnosticId> kindsOfErrors(const Diagnostics& diagnostics) {
     std::set<DiagnosticId> kinds;
-    for (const quorvane::Diagnostic& diagnostic : diagnostics) {
+    for (const Diagnostic& diagnostic : diagnostics) {
         if (isError(diagnostic)) {
             kinds.insert(diagnostic.id);
         }
@@ -49,7 +49,7 @@ RtfError failureOfWarnings(std::size_t count) {
 
 /// The refusal of a file as one error: the first diagnostic, and how many there are.
 RtfError refusal(const Diagnostics& reasons) {
-    const quorvane::Diagnostic& first = reasons.front();
+    const Diagnostic& first = reasons.front();
     std::string text =
         first.message + " [" + std::string(diagnosticRule(first.id).identifier) + "]";
     if (reasons.size() > 1) {
@@ -64,7 +64,7 @@ RtfError refusal(const Diagnostics& reasons) {
 
 bool RenderReport::passStyleSheet(const std::string& name, const std::string& bytes) {
     styleSheet_.emplace(StyleSheet{name, bytes});
-    if (const std::optional<quorvane::Diagnostic> binary = findNotATextFile(bytes)) {
+    if (const std::optional<Diagnostic> binary = findNotATextFile(bytes)) {
         styleSheet_->diagnostics = Diagnostics{*binary};
         styleSheet_->isReported = true;
         refuseBinary(name, *binary);
@@ -84,7 +84,7 @@ bool RenderReport::passStyleSheet(const std::string& name, const std::string& by
 
 bool RenderReport::passBytes(const std::string& name, std::string_view bytes) {
     // For programs, the events say what the library makes of it.
-    const std::optional<quorvane::Diagnostic> binary =
+    const std::optional<Diagnostic> binary =
         receivers_.locate ? findNotATextFile(bytes) : std::nullopt;
     if (binary) {
         refuseBinary(name, *binary);
@@ -92,19 +92,19 @@ bool RenderReport::passBytes(const std::string& name, std::string_view bytes) {
     return !binary;
 }
 
-/// Nothing of such a file can be shown.
-void RenderReport::refuseBinary(const std::string& file, const quorvane::Diagnostic& diagnostic) {
+/// No part of such a file can be shown.
+void RenderReport::refuseBinary(const std::string& file, const Diagnostic& diagnostic) {
     if (receivers_.locate) {
         receivers_.locate(file, diagnostic, windowOf({}));
     } else {
-        receivers_.report({DiagnosticKind::Check, file, refusal({diagnostic})});
+        receivers_.report({ErrorKind::Check, file, refusal({diagnostic})});
     }
 }
 
 void RenderReport::refuseStyleSheet(const RtfError& error) {
     const bool isLocated = receivers_.locate && hasErrors(styleSheetDiagnostics());
     if (!isLocated) {
-        receivers_.report({DiagnosticKind::Raised, styleSheet_->name, error});
+        receivers_.report({ErrorKind::Raised, styleSheet_->name, error});
     } else if (!std::exchange(styleSheet_->isReported, true)) {
         locate(styleSheet_->name, styleSheet_->bytes, styleSheetDiagnostics(),
                kindsOfErrors(styleSheetDiagnostics()));
@@ -114,7 +114,7 @@ void RenderReport::refuseStyleSheet(const RtfError& error) {
 void RenderReport::event(const std::string& file, const RtfError& error) {
     errors_.push_back(error);
     if (!receivers_.locate) {
-        receivers_.report({DiagnosticKind::Event, file, error});
+        receivers_.report({ErrorKind::Event, file, error});
     }
 }
 
@@ -136,7 +136,7 @@ bool RenderReport::passDescription(const std::string& name, const std::string& p
         // With checks, the analysis and the check find the same mistakes, if not on the same lines.
         if (!options_.check || !hasErrors(diagnostics)) {
             for (const RtfError& error : mistakes.others) {
-                receivers_.report({DiagnosticKind::Event, name, error});
+                receivers_.report({ErrorKind::Event, name, error});
             }
         }
         locate(name, bytes, diagnostics, mistakes.kinds);
@@ -144,7 +144,7 @@ bool RenderReport::passDescription(const std::string& name, const std::string& p
     return pass(name, diagnostics, !errors.empty());
 }
 
-bool RenderReport::corrupts(const quorvane::Diagnostic& diagnostic) const {
+bool RenderReport::corrupts(const Diagnostic& diagnostic) const {
     return options_.check && diagnosticRule(diagnostic.id).corruptsDocument;
 }
 
@@ -175,7 +175,7 @@ KnownStyles* RenderReport::knownStyles() {
 void RenderReport::locate(const std::string& file, const std::string& bytes,
                           const Diagnostics& diagnostics, const std::set<DiagnosticId>& kinds) {
     const FileWindow window = windowOf(bytes);
-    for (quorvane::Diagnostic diagnostic : diagnostics) {
+    for (Diagnostic diagnostic : diagnostics) {
         const bool isShown = isError(diagnostic)
                                  ? isChecked() || kinds.contains(diagnostic.id)
                                  : corrupts(diagnostic) || options_.failOn == FailOn::Warning;
@@ -193,7 +193,7 @@ bool RenderReport::pass(const std::string& file, const Diagnostics& diagnostics,
     const bool refusesWarnings = options_.failOn == FailOn::Warning;
     Diagnostics reasons;
     bool areWarnings = true;
-    for (const quorvane::Diagnostic& diagnostic : diagnostics) {
+    for (const Diagnostic& diagnostic : diagnostics) {
         if (isError(diagnostic) ? refusesWarnings && !hasOthers
                                 : refusesWarnings || corrupts(diagnostic)) {
             reasons.push_back(diagnostic);
@@ -204,9 +204,9 @@ bool RenderReport::pass(const std::string& file, const Diagnostics& diagnostics,
         return true;
     }
     if (!receivers_.locate) {
-        receivers_.report({DiagnosticKind::Check, file, refusal(reasons)});
+        receivers_.report({ErrorKind::Check, file, refusal(reasons)});
     } else if (areWarnings && !hasOthers) {
-        receivers_.report({DiagnosticKind::Check, file, failureOfWarnings(reasons.size())});
+        receivers_.report({ErrorKind::Check, file, failureOfWarnings(reasons.size())});
     }
     return false;
 }

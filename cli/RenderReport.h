@@ -8,9 +8,9 @@
 #include <string_view>
 #include <vector>
 
-#include "cli/Diagnostic.h"
-#include "cli/FindingExcerpt.h"
+#include "cli/DiagnosticExcerpt.h"
 #include "cli/RenderOptions.h"
+#include "cli/ReportedError.h"
 #include "quorvane/diagnostics/engine/Diagnostic.h"
 #include "quorvane/diagnostics/stylesheet/KnownStyles.h"
 
@@ -19,14 +19,13 @@ namespace quorvane::cli {
 /// Called before each description with its number, how many there are, and its name.
 using ProgressSink = std::function<void(std::size_t number, std::size_t count, const std::string&)>;
 
-/// Who takes what a rendering reports.
+/// Receives what a rendering reports.
 struct RenderReceivers {
-    /// Takes errors, each as the library has it. `locate`, where it is set, takes those instead
+    /// Receives errors as the library raises them. If `locate` is set, it receives those instead
     /// that the check of the file finds too.
-    DiagnosticSink report;
-    /// Takes what the check has about a file, and the file's window.
-    std::function<void(const std::string& file, const quorvane::Diagnostic&, const FileWindow&)>
-        locate{};
+    ErrorSink report;
+    /// Receives a diagnostic about a file, and the file's window.
+    std::function<void(const std::string& file, const Diagnostic&, const FileWindow&)> locate{};
     ProgressSink progress{};
 };
 
@@ -40,7 +39,7 @@ public:
         : options_(options), receivers_(receivers) {}
 
     /// A file that cannot be read or written, or a document that cannot be made.
-    void fail(const Diagnostic& failure) { receivers_.report(failure); }
+    void fail(const ReportedError& failure) { receivers_.report(failure); }
 
     /// Takes the bytes of the stylesheet. Returns false when the check refuses it.
     bool passStyleSheet(const std::string& name, const std::string& bytes);
@@ -63,22 +62,20 @@ private:
     struct StyleSheet {
         std::string name;
         std::string bytes;
-        std::optional<std::vector<quorvane::Diagnostic>> diagnostics{};
+        std::optional<std::vector<Diagnostic>> diagnostics{};
         std::optional<KnownStyles> styles{};
         bool isReported = false;
     };
 
     /// The check decides, whether there are errors or not.
     bool isChecked() const { return options_.check || options_.failOn == FailOn::Warning; }
-    bool corrupts(const quorvane::Diagnostic& diagnostic) const;
-    void refuseBinary(const std::string& file, const quorvane::Diagnostic& diagnostic);
-    const std::vector<quorvane::Diagnostic>& styleSheetDiagnostics();
+    bool corrupts(const Diagnostic& diagnostic) const;
+    void refuseBinary(const std::string& file, const Diagnostic& diagnostic);
+    const std::vector<Diagnostic>& styleSheetDiagnostics();
     KnownStyles* knownStyles();
     void locate(const std::string& file, const std::string& bytes,
-                const std::vector<quorvane::Diagnostic>& diagnostics,
-                const std::set<DiagnosticId>& kinds);
-    bool pass(const std::string& file, const std::vector<quorvane::Diagnostic>& diagnostics,
-              bool hasOthers);
+                const std::vector<Diagnostic>& diagnostics, const std::set<DiagnosticId>& kinds);
+    bool pass(const std::string& file, const std::vector<Diagnostic>& diagnostics, bool hasOthers);
 
     const RenderOptions& options_;
     const RenderReceivers& receivers_;

@@ -123,14 +123,14 @@ Json message(std::string_view text) {
 Json rules() {
     Json list = Json::array();
     for (const DiagnosticRule& rule : diagnosticRules()) {
-        const std::string explained = messageText(rule.explanation) +
+        const std::string explained = messageText(explanationOf(rule)) +
                                       " See `quorvane check --explain " +
                                       std::string(rule.identifier) + "` for examples.";
         list.push_back(
             {{"id", rule.identifier},
              {"name", ruleName(rule.identifier)},
              {"shortDescription", message(ruleTitle(rule))},
-             {"fullDescription", message(rule.explanation)},
+             {"fullDescription", message(explanationOf(rule))},
              {"help", {{"text", explained}, {"markdown", explained}}},
              {"defaultConfiguration",
               {{"enabled", !isOffByDefault(rule.id)}, {"level", severityName(rule.severity)}}}});
@@ -152,38 +152,37 @@ Json fixOf(const std::string& file, const Fix& fix, const std::string& hint) {
                                               {"replacements", Json::array({replacement})}}})}};
 }
 
-Json resultOf(const std::string& file, const quorvane::Diagnostic& finding,
+Json resultOf(const std::string& file, const Diagnostic& diagnostic,
               const std::string& fingerprint) {
-    const DiagnosticRule& rule = diagnosticRule(finding.id);
-    const std::string hint = finding.hint.empty() ? "" : " (" + finding.hint + ")";
+    const DiagnosticRule& rule = diagnosticRule(diagnostic.id);
+    const std::string hint = diagnostic.hint.empty() ? "" : " (" + diagnostic.hint + ")";
     Json result = {{"ruleId", rule.identifier},
                    {"ruleIndex", &rule - diagnosticRules().data()},
-                   {"level", severityName(finding.severity)},
-                   {"message", message(finding.message + hint)},
+                   {"level", severityName(diagnostic.severity)},
+                   {"message", message(diagnostic.message + hint)},
                    {"locations", Json::array({{{"physicalLocation",
                                                 {{"artifactLocation", artifactLocation(file)},
-                                                 {"region", region(finding.place)}}}}})},
+                                                 {"region", region(diagnostic.place)}}}}})},
                    {"partialFingerprints", {{"primaryLocationLineHash", fingerprint}}}};
-    if (finding.fix) {
-        result["fixes"] = Json::array({fixOf(file, *finding.fix, finding.hint)});
+    if (diagnostic.fix) {
+        result["fixes"] = Json::array({fixOf(file, *diagnostic.fix, diagnostic.hint)});
     }
     return result;
 }
 
 }  // namespace
 
-void SarifLog::add(const std::string& file, quorvane::Diagnostic finding,
-                   const FileWindow& window) {
-    const std::string hash = hashOf(std::string(diagnosticRule(finding.id).identifier) + "\n" +
-                                    lineContent(finding.place, window));
+void SarifLog::add(const std::string& file, Diagnostic diagnostic, const FileWindow& window) {
+    const std::string hash = hashOf(std::string(diagnosticRule(diagnostic.id).identifier) + "\n" +
+                                    lineContent(diagnostic.place, window));
     const int occurrence = ++occurrences_[{file, hash}];
-    results_.push_back({file, std::move(finding), hash + ":" + std::to_string(occurrence)});
+    results_.push_back({file, std::move(diagnostic), hash + ":" + std::to_string(occurrence)});
 }
 
 std::string SarifLog::text(bool isComplete) const {
     Json results = Json::array();
     for (const Result& result : results_) {
-        results.push_back(resultOf(result.file, result.finding, result.fingerprint));
+        results.push_back(resultOf(result.file, result.diagnostic, result.fingerprint));
     }
     Json invocation = {{"executionSuccessful", isComplete}};
     Json run = {

@@ -6,17 +6,17 @@
 #include <utility>
 #include <vector>
 
-#include "cli/FindingExcerpt.h"
+#include "cli/DiagnosticExcerpt.h"
 #include "quorvane/diagnostics/engine/Diagnostic.h"
 
 namespace quorvane::cli {
 
-/// The findings of one run as a log in the Static Analysis Results Interchange Format (SARIF)
+/// The diagnostics of one run as a log in the Static Analysis Results Interchange Format (SARIF)
 /// 2.1.0, with what code scanning of GitHub requires. Its rules are the table of diagnostics.
 class SarifLog {
 public:
-    /// Adds a finding about a file, named as on the command line, with the file's window.
-    void add(const std::string& file, quorvane::Diagnostic finding, const FileWindow& window);
+    /// Adds a diagnostic about a file, named as on the command line, with the file's window.
+    void add(const std::string& file, Diagnostic diagnostic, const FileWindow& window);
 
     /// The log, which ends with a line break. `isComplete` is true if all files could be read.
     std::string text(bool isComplete) const;
@@ -24,13 +24,13 @@ public:
 private:
     struct Result {
         std::string file;
-        quorvane::Diagnostic finding;
+        Diagnostic diagnostic;
         // Stays the same when the line moves.
         std::string fingerprint;
     };
 
     std::vector<Result> results_;
-    // How often a line's content has had the same finding, by file and hash.
+    // How often a line's content has had the same diagnostic, by file and hash.
     std::map<std::pair<std::string, std::string>, int> occurrences_;
 };
 

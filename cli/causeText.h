@@ -6,11 +6,11 @@
 
 namespace quorvane::cli {
 
-/// What lies behind the error: the description of its cause and, in parentheses, of the cause's
-/// own. Empty when nothing does.
+/// The description of the error's cause and, in parentheses, of the cause's own; empty for an error
+/// without a cause.
 std::string causeText(const RtfError& error);
 
-/// The text with what lies behind the error after it, in parentheses, when anything does.
+/// The text, followed by the error's cause in parentheses if it has one.
 std::string withCause(std::string text, const RtfError& error);
 
 }  // namespace quorvane::cli

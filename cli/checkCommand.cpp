@@ -9,16 +9,16 @@
 #include <utility>
 
 #include "cli/CheckJob.h"
-#include "cli/FindingReport.h"
+#include "cli/DiagnosticReport.h"
 #include "cli/RenderOptions.h"
 #include "cli/SarifLog.h"
 #include "cli/checkSummary.h"
 #include "cli/colors.h"
 #include "cli/diagnosticJson.h"
-#include "cli/diagnosticText.h"
+#include "cli/errorJson.h"
+#include "cli/errorText.h"
 #include "cli/explanation.h"
 #include "cli/fileFailure.h"
-#include "cli/findingJson.h"
 #include "cli/process.h"
 #include "cli/ruleNamed.h"
 #include "cli/unifiedDiff.h"
@@ -89,22 +89,22 @@ private:
     std::string gathered_;
 };
 
-void tellFailure(const Diagnostic& failure, FindingsForm form) {
-    writeToStandardError(
-        (form == FindingsForm::Text ? diagnosticText(failure) : diagnosticJson(failure)) + "\n");
+void reportFailure(const ReportedError& failure, ReportForm form) {
+    writeToStandardError((form == ReportForm::Text ? errorText(failure) : errorJson(failure)) +
+                         "\n");
 }
 
-/// What the options ask for instead of a check; empty when they ask for one.
-std::string answerWithoutCheck(const CheckOptions& options) {
+/// The text that the options ask for instead of a check; empty if they ask for a check.
+std::string textWithoutCheck(const CheckOptions& options) {
     if (options.explained) {
         return explanation(ruleNamed("--explain", *options.explained));
     }
     if (!options.lists) {
         return {};
     }
-    return options.form == FindingsForm::Text   ? diagnosticsList()
-           : options.form == FindingsForm::Json ? diagnosticsListJson()
-                                                : SarifLog().text(true);
+    return options.form == ReportForm::Text   ? diagnosticsList()
+           : options.form == ReportForm::Json ? diagnosticsListJson()
+                                              : SarifLog().text(true);
 }
 
 /// True when standard output is for the bytes of a fixed text or for a diff.
@@ -114,12 +114,12 @@ bool isOutputForBytes(const CheckOptions& options) {
     return options.showsDiff || (options.fixes && readsInput);
 }
 
-ExitStatus checkAndTell(const CheckOptions& options) {
+ExitStatus checkAndReport(const CheckOptions& options) {
     const bool isForBytes = isOutputForBytes(options);
     const Colors outputColors = wantedColors(standardOutputIsTerminal());
     const Colors colors = isForBytes ? wantedColors(standardErrorColumns() > 0) : outputColors;
     Gatherer report(!isForBytes);
-    if (const std::string answer = answerWithoutCheck(options); !answer.empty()) {
+    if (const std::string answer = textWithoutCheck(options); !answer.empty()) {
         report.add(answer);
         report.end();
         return ExitStatus::Success;
@@ -129,25 +129,25 @@ ExitStatus checkAndTell(const CheckOptions& options) {
         bytes.emplace(true);
     }
     SarifLog log;
-    FindingReport texts(colors, [&](std::string_view part) { report.add(part); });
-    const auto find = [&](const std::string& file, const quorvane::Diagnostic& finding,
+    DiagnosticReport texts(colors, [&](std::string_view part) { report.add(part); });
+    const auto find = [&](const std::string& file, const Diagnostic& diagnostic,
                           const FileWindow& window) {
         switch (options.form) {
-            case FindingsForm::Text:
-                texts.add(shownName(file), finding, window);
+            case ReportForm::Text:
+                texts.add(shownName(file), diagnostic, window);
                 break;
-            case FindingsForm::Json:
-                report.add(findingJson(shownName(file), finding) + "\n");
+            case ReportForm::Json:
+                report.add(diagnosticJson(shownName(file), diagnostic) + "\n");
                 break;
-            case FindingsForm::Sarif:
+            case ReportForm::Sarif:
                 // A log says what is wrong with the files as they are now.
-                if (!finding.isFixed) {
-                    log.add(file, finding, window);
+                if (!diagnostic.isFixed) {
+                    log.add(file, diagnostic, window);
                 }
                 break;
         }
     };
-    const auto fail = [&](const Diagnostic& failure) { tellFailure(failure, options.form); };
+    const auto fail = [&](const ReportedError& failure) { reportFailure(failure, options.form); };
     const auto write = [&](std::string_view part) {
         bytes->add(options.showsDiff && standardOutputIsTerminal()
                        ? diffForTerminal(part, outputColors)
@@ -156,9 +156,9 @@ ExitStatus checkAndTell(const CheckOptions& options) {
     CheckJob job(options, find, fail, systemPlatform(), write);
     const ExitStatus status = job.run();
     texts.end();
-    if (options.form == FindingsForm::Sarif) {
+    if (options.form == ReportForm::Sarif) {
         report.add(log.text(!job.hasFailed()));
-    } else if (options.form == FindingsForm::Text && !options.isQuiet) {
+    } else if (options.form == ReportForm::Text && !options.isQuiet) {
         report.add(checkSummary(job.counts()));
     }
     if (bytes) {
@@ -172,9 +172,9 @@ ExitStatus checkAndTell(const CheckOptions& options) {
 
 ExitStatus check(const CheckOptions& options) {
     try {
-        return checkAndTell(options);
+        return checkAndReport(options);
     } catch (const OutputFailure& failure) {
-        tellFailure(fileFailure("<stdout>", failure.error), options.form);
+        reportFailure(fileFailure("<stdout>", failure.error), options.form);
         return ExitStatus::Failure;
     }
 }

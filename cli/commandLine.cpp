@@ -18,72 +18,74 @@ constexpr const char* versionText = "quorvane " QUORVANE_VERSION;
 constexpr const char* renderFooter =
     R"(A description (.rtfspec) is a text file in Windows-1252; - is standard input.
 
-Without --output and --output-dir a document goes beside its description, under
-its name with the extension rtf, and that of standard input to standard output,
-which --output names as -. In a folder the document of standard input is named
-stdin.rtf. A description that has errors is not rendered, unless with
---keep-going, which writes what could be built of it, if anything could. A
-document appears whole or not at all, and never takes the place of a
-description or a stylesheet.
+Unless --output or --output-dir is given, a document is written next to its
+description, with the extension rtf. The document of standard input goes to
+standard output, or to the file stdin.rtf in the folder of --output-dir;
+--output - names standard output too.
+
+Nothing is written for a description with errors unless --keep-going is given.
+A document appears whole or not at all, and never replaces a description or a
+stylesheet.
 
 Errors are reported on standard error as "quorvane check" reports them. With
 --check, texts that would corrupt the document are errors too.
 
 Exit status:
-  0  all is well
+  0  success
   1  a description or the stylesheet has errors
   2  wrong usage, or a file that cannot be read or written)";
 
 constexpr const char* checkFooter =
-    R"(A file is a description, a stylesheet or an RTF file by its content, and where
-that does not tell, by its extension; - is standard input. A folder stands for
-the .rtfspec, .rtfss and .rtf files below it. What is wrong is reported on
-standard output:
+    R"(The content of a file shows whether it is a description, a stylesheet or an RTF
+file; if it does not, the extension decides. - is standard input. A folder
+stands for all .rtfspec, .rtfss and .rtf files in it and its subfolders. The
+report goes to standard output:
 
   letter.rtfspec:3:5: error: crimson isn't a recognized color. [wrong-color]
       (rb=crimson)
           ^~~~~~~
       hint: did you mean dark-red?
 
-The name in brackets is the identifier that --explain, --ignore and --enable
-take. A comment takes a diagnostic of the next line out of the report:
+The name in brackets is the identifier for --explain, --ignore and --enable. A
+comment leaves a diagnostic out of the report for the next line:
 
   ; quorvane: ignore wrong-color
 
-With --fix the report of standard input goes to standard error, and its fixed
-text to standard output; so does the diff of --diff. On a terminal the text is
-colored, unless the environment has a variable NO_COLOR that is not empty.
+With --diff, the diff goes to standard output and the report to standard error.
+So do the fixed text of standard input and its report with --fix. On a terminal
+the report is colored unless the environment variable NO_COLOR is set.
 
 Exit status, after fixing:
-  0  nothing is wrong
-  1  there are errors
+  0  no errors and no warnings
+  1  errors
   2  wrong usage, or a file that cannot be read or written
-  3  there are warnings and no errors
-With --fail-on=error warnings do not count; with --fail-on=never the status is
-0 unless it is 2.)";
+  3  warnings but no errors
+With --fail-on=error, warnings do not count. With --fail-on=never, the status
+is 0 or 2.)";
 
-const std::map<std::string, FindingsForm>& findingsForms() {
-    static const std::map<std::string, FindingsForm> forms = {
-        {"text", FindingsForm::Text},
-        {"json", FindingsForm::Json},
-        {"sarif", FindingsForm::Sarif},
+const std::map<std::string, ReportForm>& reportForms() {
+    static const std::map<std::string, ReportForm> forms = {
+        {"text", ReportForm::Text},
+        {"json", ReportForm::Json},
+        {"sarif", ReportForm::Sarif},
     };
     return forms;
 }
 
 constexpr const char* formatFooter =
-    R"(A file is a description or a stylesheet by its content, and where that does not
-tell, by its extension; - is standard input, whose canonical form goes to
-standard output. A file that is in its form is not touched, nor is one that is
-neither a description nor a stylesheet: that is an error. The form means the
-same: it renders to the same document. Errors may have other texts, as
-they repeat lines of the description.
+    R"(The content of a file shows whether it is a description or a stylesheet; if it
+does not, the extension decides. Any other file is an error. - is standard
+input, whose canonical form goes to standard output. A file that is already in
+canonical form is not touched.
 
---diff writes a unified diff, which "patch -p1" and "git apply" take.
+The canonical form renders to the same document. The messages of errors may
+differ, because they repeat lines of the description.
+
+--diff writes a unified diff for "patch -p1" or "git apply".
 
 Exit status:
-  0  all is well
-  1  with --check or --diff: a file is not in its canonical form
+  0  success
+  1  with --check or --diff: a file is not in canonical form
   2  wrong usage, or a file that cannot be read, formatted or written)";
 
 const std::map<std::string, NameForm>& nameForms() {
@@ -113,16 +115,16 @@ const std::map<std::string, FailOn>& severitiesThatStopRendering() {
     return severities;
 }
 
-const std::map<std::string, DiagnosticsForm>& diagnosticsForms() {
-    static const std::map<std::string, DiagnosticsForm> forms = {
-        {"text", DiagnosticsForm::Text},
-        {"json", DiagnosticsForm::Json},
+const std::map<std::string, ErrorForm>& errorForms() {
+    static const std::map<std::string, ErrorForm> forms = {
+        {"text", ErrorForm::Text},
+        {"json", ErrorForm::Json},
     };
     return forms;
 }
 
 // The parser takes an argument in brackets for a list of several, and loses what comes after "--"
-// behind the first description. Begun with a byte that no argument can hold, an argument is a name
+// after the first description. Begun with a byte that no argument can hold, an argument is a name
 // like any other.
 constexpr char nameMark = '\0';
 
@@ -135,17 +137,17 @@ std::string asGiven(std::string argument) {
     return argument;
 }
 
-/// The parser would take the next argument for the value of "--output=", and "=a.rtf" for that of
+/// The parser would use the next argument as the value of "--output=", and "=a.rtf" as that of
 /// "-o=a.rtf".
 void requireValueAfterSign(const std::string& argument) {
     const std::size_t sign = argument.find('=');
     if (argument.starts_with("--") && sign + 1 == argument.size()) {
-        throw UsageError(argument + " lacks its value");
+        throw UsageError(argument + " needs a value");
     }
     if (argument.starts_with('-') && argument[1] != '-' && sign == 2) {
         const std::string option = argument.substr(0, sign);
-        throw UsageError(argument + " has a = too many; write " + option + " " +
-                         argument.substr(sign + 1));
+        throw UsageError("write " + option + " " + argument.substr(sign + 1) + " instead of " +
+                         argument);
     }
 }
 
@@ -183,9 +185,9 @@ CLI::callback_t storeIn(std::vector<std::string>& target) {
     };
 }
 
-CLI::callback_t storeIn(DiagnosticsForm& target) {
+CLI::callback_t storeIn(ErrorForm& target) {
     return [&target](const CLI::results_t& results) {
-        target = diagnosticsForms().at(results.front());
+        target = errorForms().at(results.front());
         return true;
     };
 }
@@ -197,9 +199,9 @@ CLI::callback_t storeIn(FailOn& target) {
     };
 }
 
-CLI::callback_t storeIn(FindingsForm& target) {
+CLI::callback_t storeIn(ReportForm& target) {
     return [&target](const CLI::results_t& results) {
-        target = findingsForms().at(results.front());
+        target = reportForms().at(results.front());
         return true;
     };
 }
@@ -209,7 +211,7 @@ void addStandardFlags(CLI::App& app) {
     app.set_version_flag("-V,--version", versionText, "Show the version and exit");
 }
 
-/// Refuses values without a character: they name no file and mean nothing.
+/// Refuses empty values: they cannot name a file or anything else.
 void refuseEmptyValues(CLI::App& app) {
     for (CLI::Option* option : app.get_options()) {
         if (option->get_items_expected_max() > 0) {
@@ -247,35 +249,39 @@ void addIdentifiersOption(CLI::App& app, const std::string& name,
 }
 
 CLI::App* addCheckCommand(CLI::App& app, CheckOptions& options) {
-    CLI::App* check =
-        app.add_subcommand("check", "Report every problem in descriptions, stylesheets and RTF.");
+    CLI::App* check = app.add_subcommand(
+        "check", "Report every problem in descriptions, stylesheets and RTF files.");
     check->footer(checkFooter);
     addStandardFlags(*check);
-    check->add_option("FILE", storeIn(options.files), "Files to check")
+    check->add_option("FILE", storeIn(options.files), "Files and folders to check")
         ->type_name("")
         ->expected(1, CLI::detail::expected_max_vector_size)
         ->allow_extra_args();
     check
         ->add_option("-s,--stylesheet", storeIn(options.styleSheet),
-                     "Look styles up in this .rtfss file; check it too")
+                     "Look up styles in this .rtfss file, and check it too")
         ->type_name("FILE");
     check
         ->add_option("--diagnostics", storeIn(options.form),
-                     "Report as text, JSON objects or a SARIF log")
+                     "Report as text, as JSON objects or as a SARIF log")
         ->type_name("text|json|sarif")
-        ->check(CLI::IsMember(findingsForms()).description(""));
-    check->add_flag("--fix", options.fixes, "Make the replacements that are certain");
-    check->add_flag("--diff", options.showsDiff, "Show what --fix would change; change nothing");
-    addIdentifiersOption(*check, "--ignore", options.ignored, "Leave these diagnostics out");
-    addIdentifiersOption(*check, "--enable", options.enabled, "Report these too, off by default");
+        ->check(CLI::IsMember(reportForms()).description(""));
+    check->add_flag("--fix", options.fixes, "Apply the fixes that are certain");
+    check->add_flag("--diff", options.showsDiff,
+                    "Show what --fix would change, without changing it");
+    addIdentifiersOption(*check, "--ignore", options.ignored, "Do not report these diagnostics");
+    addIdentifiersOption(*check, "--enable", options.enabled,
+                         "Also report these, which are off by default");
     check
         ->add_option("--fail-on", storeIn(options.failOn),
-                     "From which severity on the exit status is not 0")
+                     "Lowest severity for an exit status other than 0")
         ->type_name("error|warning|never")
         ->check(CLI::IsMember(failingSeverities()).description(""));
-    check->add_flag("-q,--quiet", options.isQuiet, "Leave out the summary at the end");
+    check->add_flag("-q,--quiet", options.isQuiet, "Omit the summary at the end");
     check->add_flag("--list", options.lists, "List all diagnostics");
-    check->add_option("--explain", storeIn(options.explained), "Explain a diagnostic")
+    check
+        ->add_option("--explain", storeIn(options.explained),
+                     "Explain this diagnostic, with an example")
         ->type_name("ID");
     addStdinFilename(*check, options.stdinName);
     refuseEmptyValues(*check);
@@ -290,8 +296,8 @@ CLI::callback_t storeIn(NameForm& target) {
 }
 
 CLI::App* addFormatCommand(CLI::App& app, FormatOptions& options) {
-    CLI::App* format =
-        app.add_subcommand("format", "Put descriptions and stylesheets into their canonical form.");
+    CLI::App* format = app.add_subcommand(
+        "format", "Format descriptions and stylesheets in their canonical form.");
     format->footer(formatFooter);
     addStandardFlags(*format);
     format->add_option("FILE", storeIn(options.files), "Files to format")
@@ -299,11 +305,14 @@ CLI::App* addFormatCommand(CLI::App& app, FormatOptions& options) {
         ->required()
         ->expected(1, CLI::detail::expected_max_vector_size)
         ->allow_extra_args();
-    format->add_option("--names", storeIn(options.names), "Write long or short names, or keep them")
+    format
+        ->add_option("--names", storeIn(options.names),
+                     "Write long or short names, or keep them as they are")
         ->type_name("long|short|keep")
         ->check(CLI::IsMember(nameForms()).description(""));
-    format->add_flag("--check", options.check, "Change nothing; name files that would change");
-    format->add_flag("--diff", options.diff, "Change nothing; show what would change");
+    format->add_flag("--check", options.check,
+                     "List the files that would change, without changing them");
+    format->add_flag("--diff", options.diff, "Show what would change, without changing it");
     addStdinFilename(*format, options.stdinName);
     refuseEmptyValues(*format);
     return format;
@@ -335,16 +344,15 @@ void addRenderCommand(CLI::App& app, RenderOptions& options) {
                      "Repair unclosed rows; check keys, values and texts");
     render
         ->add_option("--fail-on", storeIn(options.failOn),
-                     "Fail on errors only, or on warnings of check too")
+                     "Fail on errors only, or on warnings too")
         ->type_name("error|warning")
         ->check(CLI::IsMember(severitiesThatStopRendering()).description(""));
-    render->add_flag("--keep-going", options.keepGoing,
-                     "Write what could be built in spite of errors");
+    render->add_flag("--keep-going", options.keepGoing, "Write what could be built despite errors");
     render
         ->add_option("--diagnostics", storeIn(options.diagnostics),
                      "Report errors as text or as JSON objects")
         ->type_name("text|json")
-        ->check(CLI::IsMember(diagnosticsForms()).description(""));
+        ->check(CLI::IsMember(errorForms()).description(""));
     refuseEmptyValues(*render);
 }
 
@@ -353,7 +361,21 @@ constexpr std::string_view commands[] = {"render", "check", "format", "help"};
 std::string unknownCommandText(const std::string& name) {
     const std::string guess = didYouMean(name, commands);
     return name + " is not a subcommand; " +
-           (guess.empty() ? "render, check, format and help are" : guess);
+           (guess.empty() ? "use render, check, format or help" : guess);
+}
+
+std::string unknownOptionText(const CLI::App& app, const std::string& argument) {
+    const auto used = app.get_subcommands();
+    std::vector<std::string> names;
+    for (const CLI::Option* option : (used.empty() ? app : *used.front()).get_options()) {
+        for (const std::string& name : option->get_lnames()) {
+            names.push_back("--" + name);
+        }
+    }
+    const std::string name = argument.substr(0, argument.find('='));
+    const std::string guess =
+        didYouMean(name, std::vector<std::string_view>(names.begin(), names.end()));
+    return name + " is not an option" + (guess.empty() ? "" : "; " + guess);
 }
 
 /// The arguments that "help" with what follows it stands for.
@@ -384,22 +406,20 @@ void requireOneTask(const CheckOptions& options) {
         throw UsageError("FILE is required");
     }
     if (tasks > 1) {
-        throw UsageError("--list and --explain stand alone, without a FILE");
+        throw UsageError("--list and --explain cannot be combined with each other or with a FILE");
     }
 }
 
-/// What is wrong with the arguments. The parser complains of what is missing first; where something
-/// is there that it does not know, that is the mistake.
+/// What is wrong with the arguments. The parser reports a missing argument first, but when there
+/// is one that it does not know, that is the mistake.
 std::string usageErrorText(const CLI::App& app, const CLI::ParseError& error) {
     const std::vector<std::string> unknown = app.remaining(true);
-    if (unknown.empty() || error.get_name() != "RequiredError") {
+    const bool isUnknown = error.get_name() == "RequiredError" || error.get_name() == "ExtrasError";
+    if (unknown.empty() || !isUnknown) {
         return error.what();
     }
     const std::string& first = unknown.front();
-    if (first.starts_with('-') || app.got_subcommand("render")) {
-        return "The following argument was not expected: " + first;
-    }
-    return unknownCommandText(first);
+    return first.starts_with('-') ? unknownOptionText(app, first) : unknownCommandText(first);
 }
 
 }  // namespace
@@ -409,12 +429,12 @@ std::variant<RenderOptions, CheckOptions, FormatOptions, Information> parseComma
     RenderOptions options;
     CheckOptions checkOptions;
     FormatOptions formatOptions;
-    CLI::App app("Renders descriptions of documents as Rich Text Format.", "quorvane");
+    CLI::App app("Render descriptions as documents in Rich Text Format (RTF).", "quorvane");
     app.require_subcommand(1);
     addStandardFlags(app);
     app.add_flag_callback(
         "--licenses", [] { throw CLI::CallForVersion(licensesText(), 0); },
-        "Show the licenses of Quorvane and of what it contains, and exit");
+        "Show the licenses of Quorvane and its components, and exit");
     app.allow_windows_style_options(false);
     addRenderCommand(app, options);
     const CLI::App* check = addCheckCommand(app, checkOptions);
@@ -446,7 +466,7 @@ std::variant<RenderOptions, CheckOptions, FormatOptions, Information> parseComma
     }
 }
 
-DiagnosticsForm requestedDiagnosticsForm(const std::vector<std::string>& arguments) {
+ErrorForm requestedErrorForm(const std::vector<std::string>& arguments) {
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         const bool hasJsonNext = i + 1 < arguments.size() && arguments[i + 1] == "json";
         if (arguments[i] == "--") {
@@ -454,10 +474,10 @@ DiagnosticsForm requestedDiagnosticsForm(const std::vector<std::string>& argumen
         }
         if (arguments[i] == "--diagnostics=json" ||
             (arguments[i] == "--diagnostics" && hasJsonNext)) {
-            return DiagnosticsForm::Json;
+            return ErrorForm::Json;
         }
     }
-    return DiagnosticsForm::Text;
+    return ErrorForm::Text;
 }
 
 }  // namespace quorvane::cli

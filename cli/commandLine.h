@@ -10,17 +10,17 @@
 
 namespace quorvane::cli {
 
-/// A text that was asked for instead of work: the help or the version.
+/// A text to show instead of doing any work, such as the help or the version.
 struct Information {
     std::string text;
 };
 
-/// What the arguments after the program's name ask for. Throws `UsageError`.
+/// Returns what the arguments after the program's name ask for. Throws `UsageError`.
 std::variant<RenderOptions, CheckOptions, FormatOptions, Information> parseCommandLine(
     const std::vector<std::string>& arguments);
 
-/// The form of diagnostics that the arguments ask for, which need not be right otherwise: the form
-/// in which an error in them is reported.
-DiagnosticsForm requestedDiagnosticsForm(const std::vector<std::string>& arguments);
+/// The form in which an error in the arguments is reported: the one that they ask for, even if
+/// they are wrong otherwise.
+ErrorForm requestedErrorForm(const std::vector<std::string>& arguments);
 
 }  // namespace quorvane::cli

@@ -2,53 +2,33 @@
 
 #include <nlohmann/json.hpp>
 
-#include "cli/causeText.h"
-#include "quorvane/driver/driverErrors.h"
+#include "quorvane/diagnostics/engine/diagnosticRules.h"
 
 namespace quorvane::cli {
 
-namespace {
-
-using Json = nlohmann::ordered_json;
-
-Json textOrNull(const std::string& text) {
-    return text.empty() ? Json(nullptr) : Json(text);
-}
-
-Json levelOrNull(std::int32_t number) {
-    const auto level = errorLevel(number);
-    return level ? Json(errorLevelName(*level)) : Json(nullptr);
-}
-
-std::string_view kindName(DiagnosticKind kind) {
-    switch (kind) {
-        case DiagnosticKind::Event:
-            return "event";
-        case DiagnosticKind::Check:
-            return "check";
-        default:
-            return "raised";
+std::string diagnosticJson(const std::string& file, const Diagnostic& diagnostic) {
+    nlohmann::ordered_json object;
+    object["file"] = file;
+    object["line"] = diagnostic.place.line;
+    object["column"] = diagnostic.place.column;
+    object["length"] = diagnostic.place.length;
+    object["offset"] = diagnostic.place.offset;
+    object["severity"] = severityName(diagnostic.severity);
+    object["identifier"] = diagnosticRule(diagnostic.id).identifier;
+    object["message"] = diagnostic.message;
+    if (!diagnostic.hint.empty()) {
+        object["hint"] = diagnostic.hint;
     }
-}
-
-}  // namespace
-
-std::string diagnosticJson(const Diagnostic& diagnostic) {
-    const RtfError& error = diagnostic.error;
-    Json object;
-    object["file"] = textOrNull(diagnostic.file);
-    object["line"] = error.line > 0 ? Json(error.line) : Json(nullptr);
-    object["number"] = error.number;
-    object["level"] = levelOrNull(error.number);
-    object["source"] = textOrNull(error.source);
-    object["message"] = error.description;
-    object["kind"] = kindName(diagnostic.kind);
-    if (error.cause) {
-        object["cause"] = causeText(error);
+    if (diagnostic.fix) {
+        object["fix"] = {{"offset", diagnostic.fix->place.offset},
+                         {"length", diagnostic.fix->place.length},
+                         {"replacement", diagnostic.fix->replacement}};
     }
-    // File names need not be UTF-8, and a text of the library may hold a lone surrogate.
-    constexpr auto replaceWhatIsNotUtf8 = Json::error_handler_t::replace;
-    return object.dump(-1, ' ', false, replaceWhatIsNotUtf8);
+    if (diagnostic.isFixed) {
+        object["fixed"] = true;
+    }
+    // File names need not be UTF-8.
+    return object.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
 }
 
 }  // namespace quorvane::cli

@@ -2,14 +2,15 @@
 
 #include <string>
 
-#include "cli/Diagnostic.h"
+#include "quorvane/diagnostics/engine/Diagnostic.h"
 
 namespace quorvane::cli {
 
-/// The error for a program: a JSON object on one line without its end. Its fields are `file`,
-/// `line`, `number`, `level`, `source`, `message` and `kind` ("event" or "raised"); `file`, `line`,
-/// `level` and `source` are null where there is none. What lies behind the error stands in a
-/// further field `cause`, which is not there otherwise.
-std::string diagnosticJson(const Diagnostic& diagnostic);
+/// A diagnostic for a program: a JSON object on one line without its end, with the fields `file`,
+/// `line`, `column`, `length`, `offset`, `severity`, `identifier`, `message` and, where there is
+/// one, `hint`. Where the hint is a replacement, `fix` has the `offset` and the `length` of what is
+/// replaced, in bytes of the file, and the `replacement`. `fixed` is true for one that was fixed,
+/// and not there otherwise.
+std::string diagnosticJson(const std::string& file, const Diagnostic& diagnostic);
 
 }  // namespace quorvane::cli

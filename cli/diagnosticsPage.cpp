@@ -13,9 +13,9 @@ namespace {
 
 constexpr std::string_view introduction = R"(# Diagnostics
 
-What `quorvane check` reports about descriptions, stylesheets and RTF files: one section for each identifier. `quorvane check --explain IDENTIFIER` shows the same on the terminal, `quorvane check --list` all identifiers. An error is what the library rejects or a reader cannot make sense of; a warning is what is accepted and does not do what its author wants. The messages of errors are the library's own where it has one.
+This page lists everything that `quorvane check` can report about descriptions, stylesheets and RTF files, with one section for each identifier. `quorvane check --explain IDENTIFIER` shows a section on the terminal, and `quorvane check --list` lists all identifiers. An error is something that the library rejects or that readers of the document cannot make sense of. A warning is something that is accepted but does not do what its author wants. An error that the library reports too has the library's message.
 
-This page is made of the table `quorvane/diagnostics/engine/diagnosticTable.h` by `scripts/diagnostics-page`; each report in it is what the command writes about the example above it, without the summary at its end. In an example the lines between `; N times:` and `; so far` stand there N times.
+The page is generated from the tables in `quorvane/diagnostics/table/` by `scripts/diagnostics-page`. Each report is what the command writes about the example above it, without the summary. In an example, the lines between `; N times:` and `; so far` are repeated N times.
 
 )";
 
@@ -43,15 +43,15 @@ std::string code(std::string_view text) {
 std::string section(const DiagnosticRule& rule) {
     std::string text = "### " + std::string(rule.identifier) + "\n\n" +
                        (rule.severity == Severity::Error ? "Error: " : "Warning: ") +
-                       code(rule.text) + "\n\n" + std::string(rule.explanation) + "\n\n";
+                       code(rule.message) + "\n\n" + explanationOf(rule) + "\n\n";
     if (!rule.companion.empty()) {
-        text += block(rule.language == CheckedLanguage::StyleSheet ? "The description of both:"
-                                                                   : "The stylesheet of both:",
+        text += block(rule.language == CheckedLanguage::StyleSheet ? "With this description:"
+                                                                   : "With this stylesheet:",
                       rule.companion);
     }
     if (!rule.wrong.empty()) {
         text += block("Wrong:", rule.wrong);
-        text += block("The report:", exampleReport(rule));
+        text += block("Report:", exampleReport(rule));
         text += block("Right:", rule.right);
     }
     return text;
@@ -60,7 +60,7 @@ std::string section(const DiagnosticRule& rule) {
 std::string tableLine(const DiagnosticRule& rule) {
     const std::string name(rule.identifier);
     return "| [" + name + "](#" + name + ") | " + std::string(severityName(rule.severity)) + " | " +
-           code(rule.text) + " |\n";
+           code(rule.message) + " |\n";
 }
 
 }  // namespace

@@ -4,8 +4,8 @@
 
 namespace quorvane::cli {
 
-/// The reference page of the diagnostics, in Markdown, made of the table of diagnostics. The
-/// reports in it are those that `quorvane check` gives of the examples.
+/// The reference page of the diagnostics, in Markdown, generated from the tables of diagnostics.
+/// Its reports are those of `quorvane check` about the examples.
 std::string diagnosticsPage();
 
 }  // namespace quorvane::cli

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "cli/CheckJob.h"
-#include "cli/FindingReport.h"
+#include "cli/DiagnosticReport.h"
 #include "cli/oneLine.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/diagnostics/description/NullPlatform.h"
@@ -29,7 +29,7 @@ private:
     std::map<std::string, std::string> files_;
 };
 
-void checkExample(const DiagnosticRule& rule, const FindingSink& find) {
+void checkExample(const DiagnosticRule& rule, const DiagnosticSink& find) {
     if (rule.wrong.empty()) {
         return;
     }
@@ -58,7 +58,7 @@ void checkExample(const DiagnosticRule& rule, const FindingSink& find) {
         files.add(styleSheetName, rule.wrong);
     }
     CheckJob(
-        options, find, [](const Diagnostic&) {}, files)
+        options, find, [](const ReportedError&) {}, files)
         .run();
 }
 
@@ -66,21 +66,20 @@ void checkExample(const DiagnosticRule& rule, const FindingSink& find) {
 
 std::string exampleReport(const DiagnosticRule& rule) {
     std::string report;
-    FindingReport text(Colors::Off, [&](std::string_view part) { report += part; });
-    checkExample(rule, [&](const std::string& file, const quorvane::Diagnostic& finding,
-                           const FileWindow& window) { text.add(file, finding, window); });
+    DiagnosticReport text(Colors::Off, [&](std::string_view part) { report += part; });
+    checkExample(rule, [&](const std::string& file, const Diagnostic& diagnostic,
+                           const FileWindow& window) { text.add(file, diagnostic, window); });
     text.end();
     return report;
 }
 
 std::string exampleMessage(const DiagnosticRule& rule) {
     std::string message;
-    checkExample(rule,
-                 [&](const std::string&, const quorvane::Diagnostic& finding, const FileWindow&) {
-                     if (finding.id == rule.id && message.empty()) {
-                         message = TrimEx(oneLine(finding.message));
-                     }
-                 });
+    checkExample(rule, [&](const std::string&, const Diagnostic& diagnostic, const FileWindow&) {
+        if (diagnostic.id == rule.id && message.empty()) {
+            message = TrimEx(oneLine(diagnostic.message));
+        }
+    });
     return message.empty() ? ruleTitle(rule) : message;
 }
 

@@ -10,7 +10,7 @@ namespace quorvane::cli {
 /// it has none.
 std::string exampleReport(const DiagnosticRule& rule);
 
-/// The rule's message as it is about its example, on one line; its title when it has none.
+/// The message about the rule's example, on one line; the rule's title when it has no example.
 std::string exampleMessage(const DiagnosticRule& rule);
 
 }  // namespace quorvane::cli

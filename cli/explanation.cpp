@@ -62,9 +62,8 @@ std::string explanation(const DiagnosticRule& rule) {
            std::string(languageName(rule.language)) +
            (isOffByDefault(rule.id) ? ", off by default" : "") + "\n    " + exampleMessage(rule) +
            "\n\n" + wrapped(rule.explanation) +
-           example(isSheet ? "The description of both:" : "The stylesheet of both:",
-                   rule.companion) +
-           example("Wrong:", rule.wrong) + example("The report:", exampleReport(rule)) +
+           example(isSheet ? "With this description:" : "With this stylesheet:", rule.companion) +
+           example("Wrong:", rule.wrong) + example("Report:", exampleReport(rule)) +
            example("Right:", rule.right);
 }
 

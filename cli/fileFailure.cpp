@@ -34,12 +34,12 @@ bool isDevice(const std::string& path) {
 
 }  // namespace
 
-Diagnostic fileFailure(std::string shownName, RtfError error) {
+ReportedError fileFailure(std::string shownName, RtfError error) {
     std::string reason = error.cause ? deepestCause(error).description : std::string();
-    return {DiagnosticKind::Raised, std::move(shownName), std::move(error), std::move(reason)};
+    return {ErrorKind::Raised, std::move(shownName), std::move(error), std::move(reason)};
 }
 
-Diagnostic unreadableFile(std::string shownName, const std::string& path, RtfError error) {
+ReportedError unreadableFile(std::string shownName, const std::string& path, RtfError error) {
     const RtfError& deepest = deepestCause(error);
     std::string reason = deepest.description;
     if (isBare(deepest)) {
@@ -49,7 +49,7 @@ Diagnostic unreadableFile(std::string shownName, const std::string& path, RtfErr
             reason = "Is a device";
         }
     }
-    return {DiagnosticKind::Raised, std::move(shownName), std::move(error), std::move(reason)};
+    return {ErrorKind::Raised, std::move(shownName), std::move(error), std::move(reason)};
 }
 
 std::error_code whyUnreadable(const std::string& path) {

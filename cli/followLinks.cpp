@@ -2,23 +2,23 @@
 
 #include <system_error>
 
-#include "cli/requireAnswer.h"
+#include "cli/throwUnlessAbsent.h"
 
 namespace quorvane::cli {
 
 std::filesystem::path followLinks(const std::filesystem::path& path) {
-    constexpr int mostLinks = 40;
+    constexpr int maxLinks = 40;
     std::filesystem::path target = path;
-    for (int links = 0; links < mostLinks; ++links) {
+    for (int links = 0; links < maxLinks; ++links) {
         std::error_code failure;
         const bool isLink = std::filesystem::is_symlink(target, failure);
-        requireAnswer(failure);
+        throwUnlessAbsent(failure);
         if (!isLink) {
             return target;
         }
         // A relative link begins at its own folder; an absolute one takes the whole path's place.
         const std::filesystem::path next = std::filesystem::read_symlink(target, failure);
-        requireAnswer(failure);
+        throwUnlessAbsent(failure);
         target = target.parent_path() / next;
     }
     return path;

@@ -4,19 +4,19 @@ namespace quorvane::cli {
 
 namespace {
 
-using Diagnostics = std::vector<quorvane::Diagnostic>;
+using Diagnostics = std::vector<Diagnostic>;
 
-bool isAbout(const quorvane::Diagnostic& diagnostic, const RtfError& error) {
+bool isAbout(const Diagnostic& diagnostic, const RtfError& error) {
     return error.line > 0 ? diagnostic.place.line == error.line
                           : diagnostic.message == error.description;
 }
 
-/// The kinds of the diagnostics that an error is about. Of several on its line those count that
-/// have its message, if any do.
-std::set<DiagnosticId> kindsBehind(const RtfError& error, const Diagnostics& diagnostics) {
+/// The kinds of the diagnostics that explain an error: those on its line with its message or,
+/// without such ones, all on its line.
+std::set<DiagnosticId> kindsOf(const RtfError& error, const Diagnostics& diagnostics) {
     std::set<DiagnosticId> sameLine;
     std::set<DiagnosticId> sameMessage;
-    for (const quorvane::Diagnostic& diagnostic : diagnostics) {
+    for (const Diagnostic& diagnostic : diagnostics) {
         if (diagnostic.severity == Severity::Error && isAbout(diagnostic, error)) {
             sameLine.insert(diagnostic.id);
             if (diagnostic.message == error.description) {
@@ -32,13 +32,13 @@ std::set<DiagnosticId> kindsBehind(const RtfError& error, const Diagnostics& dia
 LocatedErrors locateErrors(const std::vector<RtfError>& errors, const Diagnostics& diagnostics) {
     LocatedErrors result;
     for (const RtfError& error : errors) {
-        const std::set<DiagnosticId> behind = kindsBehind(error, diagnostics);
+        const std::set<DiagnosticId> kinds = kindsOf(error, diagnostics);
         // An analysis goes on after an error, and what it misses then has no line.
         const bool isFirst = result.kinds.empty() && result.others.empty();
-        if (behind.empty() && (error.line > 0 || isFirst)) {
+        if (kinds.empty() && (error.line > 0 || isFirst)) {
             result.others.push_back(error);
         }
-        result.kinds.insert(behind.begin(), behind.end());
+        result.kinds.insert(kinds.begin(), kinds.end());
     }
     return result;
 }

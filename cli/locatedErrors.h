@@ -8,17 +8,17 @@
 
 namespace quorvane::cli {
 
-/// What a person is shown of the errors that the library raised on a text: each mistake once.
+/// What a person sees of the errors that the library raised about a text: each mistake once.
 struct LocatedErrors {
-    /// The kinds of mistakes that are behind the errors, as the check of the text found them.
+    /// The kinds of the diagnostics that explain the errors.
     std::set<DiagnosticId> kinds;
     /// Errors that the check does not find.
     std::vector<RtfError> others;
 };
 
-/// Finds the diagnostics that are behind the errors: those on an error's line or, for an error
+/// Finds the diagnostics that explain the errors: those on an error's line or, for an error
 /// without a line, with its message. Errors that only follow from others are left out.
 LocatedErrors locateErrors(const std::vector<RtfError>& errors,
-                           const std::vector<quorvane::Diagnostic>& diagnostics);
+                           const std::vector<Diagnostic>& diagnostics);
 
 }  // namespace quorvane::cli

@@ -8,8 +8,8 @@
 #include "cli/UsageError.h"
 #include "cli/followLinks.h"
 #include "cli/process.h"
-#include "cli/requireAnswer.h"
 #include "cli/sourceFile.h"
+#include "cli/throwUnlessAbsent.h"
 #include "cli/utf8Path.h"
 
 namespace quorvane::cli {
@@ -42,7 +42,7 @@ std::string outputOf(const std::string& description, const RenderOptions& option
 fs::path canonicalPath(const fs::path& path) {
     std::error_code failure;
     fs::path whole = fs::weakly_canonical(path, failure);
-    requireAnswer(failure);
+    throwUnlessAbsent(failure);
     return failure ? path : whole;
 }
 
@@ -56,7 +56,7 @@ public:
         const fs::path target = followLinks(pathFromUtf8(name));
         std::error_code failure;
         const fs::path whole = fs::absolute(target, failure);
-        requireAnswer(failure);
+        throwUnlessAbsent(failure);
         const fs::path file = systemSpelling(failure ? target : withCanonicalFolder(whole));
         const std::u8string identity = file.generic_u8string();
         return {identity.begin(), identity.end()};
@@ -97,7 +97,7 @@ std::map<std::string, std::string> inputsOf(const RenderOptions& options, Identi
 bool wouldReplace(const std::string& name) {
     std::error_code failure;
     const bool isFile = fs::is_regular_file(pathFromUtf8(name), failure);
-    requireAnswer(failure);
+    throwUnlessAbsent(failure);
     return isFile;
 }
 
@@ -107,13 +107,13 @@ const std::string* linkedInput(const std::string& output,
     std::error_code failure;
     const fs::path path = pathFromUtf8(output);
     const bool hasOtherNames = fs::hard_link_count(path, failure) > 1;
-    requireAnswer(failure);
+    throwUnlessAbsent(failure);
     if (failure || !hasOtherNames) {
         return nullptr;
     }
     for (const auto& [identity, input] : inputs) {
         const bool isSame = fs::equivalent(path, pathFromUtf8(input), failure);
-        requireAnswer(failure);
+        throwUnlessAbsent(failure);
         if (isSame) {
             return &input;
         }
@@ -136,8 +136,8 @@ UsageError wouldReplaceInput(const std::string& description, const std::string& 
 
 UsageError bothWouldGoTo(const std::string& output, const std::string& first,
                          const std::string& second) {
-    return UsageError("the documents of " + first + " and " + second + " would both go to " +
-                      output);
+    return UsageError("the documents of " + first + " and " + second +
+                      " would both be written to " + output);
 }
 
 }  // namespace

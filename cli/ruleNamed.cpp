@@ -11,7 +11,7 @@ const DiagnosticRule& ruleNamed(std::string_view option, const std::string& iden
     }
     const std::string hint = didYouMean(identifier, diagnosticIdentifiers());
     throw UsageError(std::string(option) + ": there is no diagnostic " + identifier + "; " +
-                     (hint.empty() ? "check --list lists them" : hint));
+                     (hint.empty() ? "list them with quorvane check --list" : hint));
 }
 
 }  // namespace quorvane::cli

@@ -5,18 +5,18 @@
 #include <utility>
 #include <variant>
 
-#include "cli/Diagnostic.h"
 #include "cli/ExitStatus.h"
 #include "cli/FormatJob.h"
 #include "cli/RenderJob.h"
+#include "cli/ReportedError.h"
 #include "cli/UsageError.h"
 #include "cli/checkCommand.h"
 #include "cli/colors.h"
 #include "cli/commandLine.h"
-#include "cli/diagnosticJson.h"
 #include "cli/diagnosticText.h"
+#include "cli/errorJson.h"
+#include "cli/errorText.h"
 #include "cli/fileFailure.h"
-#include "cli/findingText.h"
 #include "cli/oneLine.h"
 #include "cli/process.h"
 #include "cli/progressLine.h"
@@ -25,17 +25,14 @@ namespace quorvane::cli {
 
 namespace {
 
-std::string lineOf(const Diagnostic& diagnostic, DiagnosticsForm form) {
-    return (form == DiagnosticsForm::Json ? diagnosticJson(diagnostic)
-                                          : diagnosticText(diagnostic)) +
-           "\n";
+std::string lineOf(const ReportedError& error, ErrorForm form) {
+    return (form == ErrorForm::Json ? errorJson(error) : errorText(error)) + "\n";
 }
 
-void tellUsageError(const UsageError& error, DiagnosticsForm form) {
-    if (form == DiagnosticsForm::Json) {
+void reportUsageError(const UsageError& error, ErrorForm form) {
+    if (form == ErrorForm::Json) {
         const auto number = static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall);
-        writeToStandardError(
-            lineOf({DiagnosticKind::Raised, {}, RtfError(number, error.what())}, form));
+        writeToStandardError(lineOf({ErrorKind::Raised, {}, RtfError(number, error.what())}, form));
     } else {
         writeToStandardError("quorvane: " + oneLine(error.what()) +
                              "\nRun with --help for more information.\n");
@@ -43,15 +40,15 @@ void tellUsageError(const UsageError& error, DiagnosticsForm form) {
 }
 
 /// Needs no memory itself.
-void tellOutOfMemory(DiagnosticsForm form) noexcept {
-    writeToStandardError(form == DiagnosticsForm::Json
+void reportOutOfMemory(ErrorForm form) noexcept {
+    writeToStandardError(form == ErrorForm::Json
                              ? R"({"file":null,"line":null,"number":7,"level":null,"source":null,)"
                                R"("message":"Out of memory","kind":"raised"})"
                                "\n"
                              : "quorvane: Out of memory\n");
 }
 
-ExitStatus show(const Information& information, DiagnosticsForm form) {
+ExitStatus show(const Information& information, ErrorForm form) {
     try {
         const auto output = openStandardOutput();
         output->write(information.text);
@@ -65,25 +62,25 @@ ExitStatus show(const Information& information, DiagnosticsForm form) {
 
 ExitStatus render(const RenderOptions& options) {
     const auto columns = static_cast<std::size_t>(standardErrorColumns());
-    const bool showsProgress = columns > 0 && options.descriptions.size() > 1 &&
-                               options.diagnostics == DiagnosticsForm::Text;
+    const bool showsProgress =
+        columns > 0 && options.descriptions.size() > 1 && options.diagnostics == ErrorForm::Text;
     const auto eraseProgress = [showsProgress] {
         if (showsProgress) {
             writeToStandardError(erasedLine);
         }
     };
     RenderReceivers receivers;
-    receivers.report = [&](const Diagnostic& diagnostic) {
+    receivers.report = [&](const ReportedError& error) {
         eraseProgress();
-        writeToStandardError(lineOf(diagnostic, options.diagnostics));
+        writeToStandardError(lineOf(error, options.diagnostics));
     };
-    if (options.diagnostics == DiagnosticsForm::Text) {
-        receivers.locate = [&, colors = wantedColors(columns > 0)](
-                               const std::string& file, const quorvane::Diagnostic& diagnostic,
-                               const FileWindow& window) {
+    if (options.diagnostics == ErrorForm::Text) {
+        receivers.locate = [&, colors = wantedColors(columns > 0)](const std::string& file,
+                                                                   const Diagnostic& diagnostic,
+                                                                   const FileWindow& window) {
             eraseProgress();
             writeToStandardError(
-                findingText(file, diagnostic, excerptAt(diagnostic.place, window), colors));
+                diagnosticText(file, diagnostic, excerptAt(diagnostic.place, window), colors));
         };
     }
     receivers.progress = [&](std::size_t number, std::size_t count, const std::string& name) {
@@ -96,7 +93,7 @@ ExitStatus render(const RenderOptions& options) {
     return status;
 }
 
-ExitStatus run(const std::vector<std::string>& arguments, DiagnosticsForm form) {
+ExitStatus run(const std::vector<std::string>& arguments, ErrorForm form) {
     const auto request = parseCommandLine(arguments);
     if (const auto* information = std::get_if<Information>(&request)) {
         return show(*information, form);
@@ -114,13 +111,13 @@ ExitStatus run(const std::vector<std::string>& arguments, DiagnosticsForm form) 
 
 int runCommand(const std::vector<std::string>& arguments) {
     prepareProcess();
-    const DiagnosticsForm form = requestedDiagnosticsForm(arguments);
+    const ErrorForm form = requestedErrorForm(arguments);
     try {
         return static_cast<int>(run(arguments, form));
     } catch (const UsageError& error) {
-        tellUsageError(error, form);
+        reportUsageError(error, form);
     } catch (const std::bad_alloc&) {
-        tellOutOfMemory(form);
+        reportOutOfMemory(form);
     } catch (const ClosedPipe&) {
         return static_cast<int>(ExitStatus::Success);
     }

@@ -5,8 +5,8 @@
 
 namespace quorvane::cli {
 
-/// Does what the arguments after the program's name ask for, on the standard streams. Answers the
-/// exit status.
+/// Runs the command with the arguments after the program's name, on the standard streams. Returns
+/// the exit status.
 int runCommand(const std::vector<std::string>& arguments);
 
 }  // namespace quorvane::cli

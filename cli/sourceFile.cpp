@@ -9,7 +9,7 @@
 #include <system_error>
 #include <utility>
 
-#include "cli/requireAnswer.h"
+#include "cli/throwUnlessAbsent.h"
 #include "cli/utf8Path.h"
 #include "quorvane/base/text/codePage1252.h"
 #include "quorvane/base/values/RtfError.h"
@@ -30,7 +30,7 @@ std::error_code lastFailure() {
 std::string beginningOf(const std::string& path) {
     std::ifstream file(pathFromUtf8(path), std::ios::binary);
     if (!file.is_open()) {
-        requireAnswer(lastFailure());
+        throwUnlessAbsent(lastFailure());
         return {};
     }
     std::string bytes(enough, '\0');
@@ -61,7 +61,7 @@ std::optional<CheckedLanguage> languageOfSourceFile(const std::string& path) {
         bytes.erase(0, bytes.find_first_of("({;"));
     }
     const std::string text = utf8FromCodePage1252(behindByteOrderMark(bytes));
-    // A stylesheet is one under any name; what says too little is what its name says.
+    // A stylesheet is recognized under any name; if the content is unclear, the name decides.
     const std::optional<CheckedLanguage> language = languageOfStreamToFormat(text);
     return language ? language : languageToFormat(text, path);
 }

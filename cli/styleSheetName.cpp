@@ -18,7 +18,7 @@ void requireStyleSheetExtension(const std::string& name, const std::vector<std::
     }
     const auto other = std::find_if(files.begin(), files.end(), isStyleSheetName);
     throw UsageError("the stylesheet " + name + " must have the extension rtfss" +
-                     (other == files.end() ? "" : "; is it swapped with " + *other + "?"));
+                     (other == files.end() ? "" : "; did you swap it with " + *other + "?"));
 }
 
 }  // namespace quorvane::cli

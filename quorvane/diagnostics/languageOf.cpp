@@ -10,6 +10,7 @@
 #include "quorvane/diagnostics/engine/SourceText.h"
 #include "quorvane/diagnostics/fileEncoding.h"
 #include "quorvane/driver/DescriptionLine.h"
+#include "quorvane/stylesheet/stylesheetSyntax.h"
 
 namespace quorvane {
 
@@ -80,7 +81,7 @@ CheckedLanguage languageOf(std::string_view beginning, std::string_view fileName
     if (hasRtfBrace(text) || named == CheckedLanguage::Rtf) {
         return CheckedLanguage::Rtf;
     }
-    const auto braces = std::count(text.begin(), text.end(), '{');
+    const std::ptrdiff_t braces = countBraces(text).opened;
     const std::ptrdiff_t lines = countDescriptionLines(text);
     if (first.starts_with('{') || (braces > lines && named != CheckedLanguage::Description)) {
         return CheckedLanguage::StyleSheet;

@@ -23,103 +23,105 @@
 
 namespace quorvane {
 
-/// An RTF document that consists of one table: its page setup, its stylesheet and its rows.
+/// An RTF document made of one table: its page setup, its stylesheet and its rows.
 ///
-/// The document keeps its text and makes it anew only when something changed. All page measures are
-/// in twips. It is counted: `create` answers the first reference, and the document lives while one
-/// is held; rows, cells and paragraphs that a host holds do not keep it alive.
+/// A document keeps its text and renders it again only when something has changed. Measures are in
+/// twips. `create` returns the first reference, and the document lives as long as one is held.
+/// Rows, cells and paragraphs do not keep it alive.
 class CRtfDoc final : public TableDocument {
 public:
-    /// A new document with the default page, no stylesheet and no rows. The platform must outlive
-    /// it.
+    /// Returns a new document with the default page, no stylesheet and no rows. The platform must
+    /// outlive it.
     static Ref<CRtfDoc> create(Platform& platform = systemPlatform());
 
-    /// The document's text, made anew when something changed. Good until the next call on the
-    /// document. A new document on which nothing was set is "{}". A text that cannot be made (see
-    /// `Refresh`) is the one that the document had before.
+    /// Returns the text of the document, rendered again if something has changed. The reference is
+    /// valid until the next call on the document. The text of a new document in which nothing was
+    /// set is "{}". If the text cannot be rendered (see `Refresh`), the previous one is returned.
     const std::string& Contents();
 
-    /// True when the text that was made last is stale. Initially false.
+    /// Returns whether the text is out of date. Initially false.
     bool Changed() const { return changed_; }
     /// Sets the flag and does nothing else.
     void setChanged(bool changed) { changed_ = changed; }
 
-    /// Name of the stylesheet's file; empty when none was set or the styles come from a text.
+    /// Returns the name of the stylesheet file; empty if none was set or the styles come from a
+    /// text.
     const std::string& StyleSheetFile() const { return styleSheet_->StyleSheetFile(); }
-    /// Reads a stylesheet file in place of the styles loaded before. A missing file raises nothing:
-    /// `StyleSheetOk` is false then. The document is marked changed when styles are loaded, and
-    /// when the load takes away styles that were there. Errors 445 (bad keyword or value) and 31037
-    /// (braces) for a bad stylesheet; no styles are loaded then.
+    /// Loads a stylesheet file in place of the current styles. A missing file is not an error: no
+    /// styles are loaded, and `StyleSheetOk` returns false. The document is marked changed if
+    /// styles are loaded or removed. Errors for a wrong stylesheet, which leaves the document
+    /// without styles: 445 (keyword or value), 31037 (braces).
     void setStyleSheetFile(const std::string& sName);
 
-    /// True when a stylesheet was loaded without an error.
+    /// Returns whether a stylesheet was loaded without errors.
     bool StyleSheetOk() const { return styleSheet_->StyleSheetOk(); }
 
-    /// Bottom margin, default 1418. It must be at least 1 and less than 0.9 of the page's height
-    /// less the top margin; otherwise it becomes 0.
+    /// Bottom margin, default 1418. A value below 1, or not below 0.9 of the page height less the
+    /// top margin, becomes 0. Setting another value marks the document changed.
     std::int32_t BottomMargin() const { return format_->BottomMargin(); }
     void setBottomMargin(std::int32_t twips) { format_->setBottomMargin(twips); }
 
-    /// Top margin, default 1418. It must be at least 1 and less than 0.9 of the page's height less
-    /// the bottom margin; otherwise it becomes 2.
+    /// Top margin, default 1418. A value below 1, or not below 0.9 of the page height less the
+    /// bottom margin, becomes 2. Setting another value marks the document changed.
     std::int32_t TopMargin() const { return format_->TopMargin(); }
     void setTopMargin(std::int32_t twips) { format_->setTopMargin(twips); }
 
-    /// Left margin, default 1701. It must be at least 1 and less than 0.9 of the page's width less
-    /// the right margin; otherwise it becomes 1.
+    /// Left margin, default 1701. A value below 1, or not below 0.9 of the page width less the
+    /// right margin, becomes 1. Setting another value marks the document changed.
     std::int32_t LeftMargin() const { return format_->LeftMargin(); }
     void setLeftMargin(std::int32_t twips) { format_->setLeftMargin(twips); }
 
-    /// Right margin, default 1701. It must be at least 1 and less than 0.9 of the page's width less
-    /// the left margin; otherwise it becomes 3.
+    /// Right margin, default 1701. A value below 1, or not below 0.9 of the page width less the
+    /// left margin, becomes 3. Setting another value marks the document changed.
     std::int32_t RightMargin() const { return format_->RightMargin(); }
     void setRightMargin(std::int32_t twips) { format_->setRightMargin(twips); }
 
-    /// Number of the first page, default 2. A number below 1 becomes 2.
+    /// Number of the first page, default 2. A value below 1 becomes 2. Setting another value marks
+    /// the document changed.
     std::int32_t PageNumberStart() const { return format_->PageNumberStart(); }
     void setPageNumberStart(std::int32_t number) { format_->setPageNumberStart(number); }
 
-    /// Height of the page, default 15842. Any value is taken, and marks the document changed.
+    /// Height of the page, default 15842; any value is accepted. Margins are not checked again.
+    /// Setting it always marks the document changed.
     std::int32_t PageHeight() const { return format_->PaperHeight(); }
     void setPageHeight(std::int32_t twips) { format_->setPaperHeight(twips); }
 
-    /// Width of the page, default 12242. Any value is taken, and marks the document changed; cells
-    /// that are there keep their widths.
+    /// Width of the page, default 12242; any value is accepted. Margins are not checked again, and
+    /// existing cells keep their widths. Setting it always marks the document changed.
     std::int32_t PageWidth() const { return format_->PaperWidth(); }
     void setPageWidth(std::int32_t twips) { format_->setPaperWidth(twips); }
 
-    /// The rows of the table; the same object every time until `ClearStructure`.
+    /// Returns the rows of the table: the same object every time, until `ClearStructure`.
     Ref<CRtfTableRows> TableRows() const { return body_.TableRows(); }
 
-    /// Writes the document (Windows-1252, a character that has no place there becomes "?"). An
-    /// existing file is deleted first. Error 75 when it cannot be deleted, as when another program
-    /// holds it open; a failure to write the new file goes to the error module (see
-    /// `setAbsorbedErrorObserver`) and leaves no part of it. When the text cannot be made (see
-    /// `Refresh`), nothing is deleted or written.
+    /// Writes the document to a file in Windows-1252; a character that the code page does not have
+    /// becomes "?". An existing file is deleted first. Error 75 if it cannot be deleted, for
+    /// example because another program has it open. A failure to write the new file goes to the
+    /// error module (see `setAbsorbedErrorObserver`) and leaves no partial file. If the text cannot
+    /// be rendered (see `Refresh`), no file is deleted or written.
     void Commit(const std::string& sPath);
 
-    /// Reads the styles of a text in place of those loaded before; marks the document changed as
-    /// `setStyleSheetFile` does. Errors 445 and 31037 for a bad stylesheet; no styles are loaded
-    /// then.
+    /// Loads a stylesheet from a text in place of the current styles. Marks the document changed
+    /// under the same conditions as `setStyleSheetFile`, and has the same errors: 445, 31037.
     void LoadStyleSheetFromMemmory(std::string_view sStyleSheet);
 
-    /// Makes the document's text anew. Rendering gives cells the colours of their styles and
-    /// paragraphs the alignment of their cells for good. Character styles whose words hold tokens
-    /// of inline styles can make a text endless: error 6 then goes to the error module (see
-    /// `setAbsorbedErrorObserver`), the text stays the one before, and the document stays changed.
+    /// Renders the document. Rendering changes it: cells get the background colors of their styles,
+    /// and paragraphs the alignment of their cells, for good. A character style whose format
+    /// contains tokens of itself would make the text endless: then error 6 goes to the error module
+    /// (see `setAbsorbedErrorObserver`), the previous text stays, and the document stays changed.
     void Refresh();
 
-    /// The ground colour that the named cell style declares; `eNoColor` when there is none.
+    /// Returns the background color of the named cell style; `eNoColor` if there is no such style.
     tColorIndex getCellStyleBackColor(std::string_view sName) const;
 
-    /// Lets go of the rows and sets the page to its defaults; the stylesheet stays, and `Changed`
-    /// is as it was. A host that holds the old rows can go on using them, but they are no part of
-    /// the document any more.
+    /// Removes the rows and resets the page to its defaults. The stylesheet stays, and `Changed`
+    /// keeps its value. A host that holds the old rows can go on using them, but they are no longer
+    /// part of the document.
     void ClearStructure();
 
-    /// Shows the host every error that ends a procedure without reaching it, such as a failure to
-    /// write the file of `Commit`. It must not change the lists of a document that a driver is just
-    /// building. An empty function ends it.
+    /// Sets a function that is called with every error that ends a procedure without being raised,
+    /// such as a failure of `Commit` to write its file. It must not change the collections of a
+    /// document that a driver is building. An empty function removes it.
     void setAbsorbedErrorObserver(GError::Observer observer);
 
     std::int32_t TextAreaWidth() const override;

@@ -19,39 +19,41 @@
 
 namespace quorvane {
 
-/// One paragraph of a cell. It is made by its cell's `Paragraphs`, and keeps what it holds when it
-/// has been removed there. A setter that marks the document changed raises error 91 when the
-/// document is gone; the value is set all the same.
+/// A paragraph of a cell. The cell's `Paragraphs` makes it; after it is removed there, it keeps its
+/// values. Setters that mark the document changed set the value and raise error 91 if the document
+/// no longer exists.
 class CRtfParagraph final : public KeyedListElement {
 public:
-    /// The owning cell, also after the paragraph was removed from it. A paragraph that someone
-    /// holds keeps its cell alive.
+    /// Returns the cell, even after the paragraph was removed from it. A paragraph that is held
+    /// keeps its cell alive.
     Ref<CRtfTableCell> Parent() const;
 
-    /// The text as it is written into the document: RTF control words and inline styles such as
-    /// `<bold-red=Total>` take effect. Empty by default; a paragraph without text writes nothing.
+    /// Text, empty by default. It goes into the document as it is: RTF control words and inline
+    /// styles such as `<bold-red=Total>` take effect. A paragraph without text writes nothing.
     std::string Text() const { return text_.text(); }
-    /// An empty text is ignored. Any other marks the document changed.
+    /// Ignores an empty text; any other text marks the document changed.
     void setText(std::string_view text);
 
-    /// Name of the paragraph's style; empty by default. Whether it exists is not checked.
+    /// Name of the paragraph style, empty by default. A name that the stylesheet does not have is
+    /// accepted.
     std::string Style() const { return style_.text(); }
-    /// Marks the document changed, also when the name is the same.
+    /// Always marks the document changed, even with the same name.
     void setStyle(std::string_view sName);
 
-    /// Colour of the text; `eNoColor` (0), the default, writes no colour.
+    /// Color of the text. The default, `eNoColor` (0), leaves the color to the style.
     tColorIndex ForeColor() const { return static_cast<tColorIndex>(foreColor_); }
-    /// Marks the document changed, also when the colour is the same.
+    /// Always marks the document changed, even with the same color.
     void setForeColor(tColorIndex color);
 
-    /// Alignment; `eNoDefault` (0) by default. 1 to 4 write an alignment, other values none.
+    /// Alignment, `eNoDefault` (0) by default. 1 to 4 write an alignment; any other value writes
+    /// none.
     tCellAlign Align() const { return static_cast<tCellAlign>(align_); }
     /// Does not mark the document changed.
     void setAlign(tCellAlign align) { align_ = align; }
 
-    /// Makes the paragraph a marked text field with the given data: a text or a 16-bit or 32-bit
-    /// integer. Data of another type is refused without an error: the paragraph is marked all the
-    /// same and keeps the data it had. Does not mark the document changed.
+    /// Makes the paragraph a marked field with this data: a text or a 16-bit or 32-bit integer.
+    /// With data of another type the paragraph is still marked, with the data that it had, and no
+    /// error is raised. Does not mark the document changed.
     void asMarkedField(const Value& vFieldData);
 
 private:
@@ -85,15 +87,15 @@ private:
     SharedText style_;
     std::int32_t foreColor_ = eNoColor;
     std::int32_t align_ = eNoDefault;
-    // Hexadecimal data of a marked field; null when the paragraph is none.
+    // Hexadecimal data of a marked field; null if the paragraph is not marked.
     std::unique_ptr<std::string> markedField_;
 };
 
-/// The document that a cell belongs to, for its paragraphs; null when the row or the document is
-/// gone.
+/// The document that a cell belongs to, for its paragraphs; null if the row or the document no
+/// longer exists.
 TableDocument* documentOf(const CRtfTableCell& cell) noexcept;
 
-/// The memory that a cell and its paragraphs are in.
+/// The memory pool of a cell and its paragraphs.
 MemoryPool& poolOf(const CRtfTableCell& cell) noexcept;
 
 }  // namespace quorvane

@@ -11,19 +11,19 @@
 
 namespace quorvane {
 
-/// The paragraphs of a cell, in order. Who holds the collection holds the cell.
+/// The paragraphs of a cell, in order. A host that holds the collection keeps the cell alive.
 class CRtfParagraphs : public TableCollection<CRtfParagraphs, CRtfParagraph> {
 public:
-    /// The owning cell.
+    /// Returns the cell; never null.
     Ref<CRtfTableCell> Parent() const { return Ref<CRtfTableCell>(&cell_); }
 
-    /// 1-based position of a paragraph. Errors: 91 "The paragraph object is set to Nothing" for
-    /// null, 5 when it is not in the list.
+    /// Returns the position of a paragraph, from 1. Errors: 91 "The paragraph object is set to
+    /// Nothing" for null, 5 if it is not in the list.
     std::int32_t indexOf(const CRtfParagraph* paragraph) const;
 
-    /// Puts a new paragraph with this key, and with the text and the style of the old one, in
-    /// its place, and answers it. Errors: 5 the old paragraph is not in the list, 457 the key is
-    /// there already, the old paragraph's own included.
+    /// Replaces a paragraph with a new one that has this key and the old one's text and style, and
+    /// returns the new one. Errors: 5 if the old paragraph is not in the list, 457 if the key is
+    /// already in the list, even as the old paragraph's own key.
     Ref<CRtfParagraph> refile(const Ref<CRtfParagraph>& old, std::string_view key);
 
 private:

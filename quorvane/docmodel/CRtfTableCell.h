@@ -20,61 +20,63 @@
 
 namespace quorvane {
 
-/// One cell of a row. It is made by its row's `TableCells`, and keeps what it holds when it has
-/// been removed there. A setter that marks the document changed raises error 91 when the document
-/// is gone; the value is set all the same.
+/// A cell of a row. The row's `TableCells` makes it; after it is removed there, it keeps its
+/// values. Setters that mark the document changed set the value and raise error 91 if the document
+/// no longer exists.
 class CRtfTableCell final : public KeyedListElement {
 public:
-    /// The owning row, also after the cell was removed from it; Nothing when the row is gone.
+    /// Returns the row, even after the cell was removed from it; null if the row no longer exists.
     Ref<CRtfTableRow> Parent() const;
 
-    /// Width of a border in twips, `eNone` (-1, the default) for no border.
+    /// Width of a border in twips; the default, `eNone` (-1), is no border. Any other number is
+    /// written as it is.
     tBorderWidth BottomBorder() const { return borders_[BorderSide::Bottom]; }
     tBorderWidth TopBorder() const { return borders_[BorderSide::Top]; }
     tBorderWidth LeftBorder() const { return borders_[BorderSide::Left]; }
     tBorderWidth RightBorder() const { return borders_[BorderSide::Right]; }
-    /// Marks the document changed when the value is another one.
+    /// Setting another value marks the document changed.
     void setBottomBorder(tBorderWidth width) { setBorder(BorderSide::Bottom, width); }
     void setTopBorder(tBorderWidth width) { setBorder(BorderSide::Top, width); }
     void setLeftBorder(tBorderWidth width) { setBorder(BorderSide::Left, width); }
     void setRightBorder(tBorderWidth width) { setBorder(BorderSide::Right, width); }
 
-    /// Colour of the cell's ground; `eNoColor` (0) by default, which leaves it to the cell's style.
+    /// Background color. The default, `eNoColor` (0), leaves it to the cell style.
     tColorIndex BackColor() const { return static_cast<tColorIndex>(backColor_); }
-    /// Another value marks the document changed, and a dark one makes the text of every paragraph
-    /// that is in the cell now white. Dark are black, blue, brown, the dark, deep and navy colours
-    /// and others: see `isDarkColor`.
+    /// Setting another value marks the document changed. If the new color is dark (see
+    /// `isDarkColor`), all paragraphs that are in the cell at that moment become white; a light
+    /// color does not change them.
     void setBackColor(tColorIndex color);
 
-    /// Width of the cell: its right edge less that of the cell before it. With `eTwips` in twips,
-    /// otherwise in per cent of the usable width of the page, rounded (halves to even). Errors: 5
-    /// when the cell is not in its row any more, 6 overflow, 11 per cent of a usable width of 0, 91
-    /// when row or document are gone.
+    /// Returns the width of the cell: its right edge minus that of the cell before it. With
+    /// `eTwips` in twips, otherwise in per cent of the text area, rounded (halves to even). Errors:
+    /// 5 if the cell is no longer in its row, 6 for an overflow, 11 for per cent of a text area of
+    /// width 0, 91 if the row or the document no longer exists.
     std::int32_t Width(tWidthUnit Units) const;
-    /// Moves one boundary so that the cell gets this width: its right edge or, for the last of
-    /// several cells, its left edge. `ePercent` takes per cent of the usable width, any other unit
-    /// twips. Every cell keeps at least 200 twips; a single cell is at most as wide as the usable
-    /// width. Marks the document changed. Errors as `Width`.
+    /// Gives the cell this width by moving one edge: the right edge or, for the last of several
+    /// cells, the left edge. With `ePercent` the width is in per cent of the text area, otherwise
+    /// in twips. The edge stops 200 twips before the next edge on either side; a single cell is at
+    /// least 200 twips and at most the text area wide. No other edge moves. Marks the document
+    /// changed. Errors as for `Width`.
     void setWidth(tWidthUnit Units, std::int32_t width);
 
-    /// The paragraphs; the same object every time.
+    /// Returns the paragraphs; the same object every time.
     Ref<CRtfParagraphs> Paragraphs() { return Ref<CRtfParagraphs>(&paragraphs_); }
 
-    /// Alignment of all paragraphs; `eNoDefault` (0), the default, leaves each its own. Any other
-    /// value is given to all paragraphs whenever the document is rendered.
+    /// Alignment of all paragraphs. The default, `eNoDefault` (0), leaves each paragraph its own;
+    /// any other value is given to all paragraphs whenever the document is rendered.
     tCellAlign Align() const { return static_cast<tCellAlign>(align_); }
     /// Does not mark the document changed.
     void setAlign(tCellAlign align) { align_ = align; }
 
-    /// Name of the cell's style; empty by default. It gives the colour of the ground when
-    /// `BackColor` is 0: rendering then sets `BackColor`, with all that follows from it.
+    /// Name of the cell style, empty by default. If `BackColor` is 0 when the document is rendered,
+    /// it is set to the color of the style, with the same effects as `setBackColor`.
     std::string Style() const { return style_.text(); }
-    /// Marks the document changed, also when the name is the same.
+    /// Always marks the document changed, even with the same name.
     void setStyle(std::string_view sName);
 
-    /// Makes the cell's content a marked text field with the given data: a text or a 16-bit or
-    /// 32-bit integer. Data of another type leaves the cell as it was; the error goes to the error
-    /// module. Does not mark the document changed.
+    /// Makes the cell a marked field with this data: a text or a 16-bit or 32-bit integer. Data of
+    /// another type leaves the cell as it was, and the error goes to the error module (see
+    /// `CRtfDoc::setAbsorbedErrorObserver`). Does not mark the document changed.
     void asMarkedField(const Value& vFieldData);
 
 private:
@@ -108,19 +110,19 @@ private:
     std::int32_t rightEdge_ = 0;
     std::uint32_t edgeSpread_ = 0;
     SharedText style_;
-    // Hexadecimal data of a marked field; null when the cell is none.
+    // Hexadecimal data of a marked field; null if the cell is not marked.
     std::unique_ptr<std::string> markedField_;
     CRtfParagraphs paragraphs_{*this};
 };
 
-/// True for the ground colours on which text is made white: 3, 4, 5, 8 to 15, 17, 24, 25, 29, 31,
-/// 38, 39, 41, 43, 44, 46, 48, 49, 51, 52, 53, 55 and 57.
+/// Returns whether text on this background becomes white: true for 3, 4, 5, 8 to 15, 17, 24, 25,
+/// 29, 31, 38, 39, 41, 43, 44, 46, 48, 49, 51, 52, 53, 55 and 57.
 bool isDarkColor(tColorIndex color) noexcept;
 
-/// The document that a row belongs to, for its cells; null when it is gone.
+/// The document that a row belongs to, for its cells; null if it no longer exists.
 TableDocument* documentOf(const CRtfTableRow& row) noexcept;
 
-/// The memory that a row and its cells are in.
+/// The memory pool of a row and its cells.
 MemoryPool& poolOf(const CRtfTableRow& row) noexcept;
 
 /// Width of a cell of the row; see `CRtfTableCell::Width`.

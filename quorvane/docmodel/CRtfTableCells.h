@@ -12,35 +12,36 @@
 
 namespace quorvane {
 
-/// The cells of a row, in order, with their right edges in twips from the left edge of the table.
+/// The cells of a row, in order.
 ///
-/// Every insertion spreads the cells evenly over the usable width of the page as it is then, and so
-/// forgets all widths that were set before (error 6 when an edge leaves 32 bits). When a cell is
-/// removed, its left neighbour takes over its right edge, unless it was the first or just one cell
-/// is left; the other edges stay.
+/// Every insertion spreads the cells of the row evenly over the text area, at least 200 twips each,
+/// and discards widths that were set before; error 6 if an edge does not fit 32 bits. So set widths
+/// when the row has all its cells. When a cell is removed, its left neighbor takes over its right
+/// edge, unless it was the first cell or only one cell is left; the other edges stay, so a new
+/// first cell grows to the left.
 ///
-/// Who holds the collection does not hold the row. When the row is gone, the collection is empty
-/// and has no `Parent`; what would change it raises error 91.
+/// Holding the collection does not keep the row alive. When the row no longer exists, the
+/// collection is empty and has no `Parent`, and every call that would change it raises error 91.
 class CRtfTableCells : public TableCollection<CRtfTableCells, CRtfTableCell> {
 public:
-    /// The owning row; Nothing when it is gone.
+    /// Returns the row; null if it no longer exists.
     Ref<CRtfTableRow> Parent() const { return Ref<CRtfTableRow>(isAlive(&row_) ? &row_ : nullptr); }
 
-    /// Removes the last cell. Error 5 when there is none.
+    /// Removes the last cell. Error 5 if there is none.
     void removeTail();
 
-    /// Spreads the cells evenly over the usable width of the page, each at least 200 twips wide (so
-    /// that many cells can be wider than the page). Marks the document changed. Errors: 11 when
-    /// there are no cells, 6 when an edge leaves 32 bits.
+    /// Spreads the cells evenly over the text area, at least 200 twips each, so many cells can be
+    /// wider than the page. Marks the document changed. Errors: 11 if there are no cells, 6 if an
+    /// edge does not fit 32 bits.
     void SetUniformWidths();
 
-    /// 1-based position of a cell. Errors: 91 "The Cell object is set to Nothing" for null, 5 when
-    /// it is not in the list.
+    /// Returns the position of a cell, from 1. Errors: 91 "The Cell object is set to Nothing" for
+    /// null, 5 if it is not in the list.
     std::int32_t indexOf(const CRtfTableCell* cell) const;
 
-    /// Puts a new cell with this key, and with the ground, the borders, the width and the
-    /// paragraphs of the old one, in its place, and answers it. Errors: 5 the old cell is not in
-    /// the list, 457 the key is there already, the old cell's own included.
+    /// Replaces a cell with a new one that has this key and the old one's background, borders,
+    /// width and paragraphs, and returns the new one. Errors: 5 if the old cell is not in the list,
+    /// 457 if the key is already in the list, even as the old cell's own key.
     Ref<CRtfTableCell> refile(const Ref<CRtfTableCell>& old, std::string_view key);
 
 private:

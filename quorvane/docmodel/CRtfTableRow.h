@@ -14,30 +14,31 @@
 
 namespace quorvane {
 
-/// One row of the table. It is made by the document's `TableRows`, and keeps what it holds when it
-/// has been removed there. Borders and ground of a row are written nowhere themselves: setting them
-/// copies them to the cells that are in the row then. A setter raises error 91 when the document is
-/// gone; the value is set all the same.
+/// A row of the table. The document's `TableRows` makes it; after it is removed there, it keeps its
+/// values. A row draws no borders and no background itself: setting them copies them to the cells
+/// that are in the row at that moment. Cells that are added later get nothing from the row. So set
+/// the values of a row when it has all its cells, and those of single cells afterwards. Setters set
+/// the value and raise error 91 if the document no longer exists.
 class CRtfTableRow final : public KeyedListElement {
 public:
-    /// The owning document, also after the row was removed from it; Nothing when it is gone.
+    /// Returns the document, even after the row was removed from it; null if it no longer exists.
     Ref<CRtfDoc> Parent() const;
 
-    /// The cells; the same object every time.
+    /// Returns the cells; the same object every time.
     Ref<CRtfTableCells> TableCells() { return Ref<CRtfTableCells>(&cells_); }
 
-    /// Colour of the ground; `eNoColor` (0) by default.
+    /// Background color, `eNoColor` (0) by default.
     tColorIndex BackColor() const { return static_cast<tColorIndex>(backColor_); }
-    /// Another value is copied to every cell of the row and marks the document changed.
+    /// Setting another value copies it to every cell of the row and marks the document changed.
     void setBackColor(tColorIndex color);
 
-    /// Width of a border in twips, `eNone` (-1, the default) for no border.
+    /// Width of a border in twips; the default, `eNone` (-1), is no border.
     tBorderWidth BottomBorder() const { return borders_[BorderSide::Bottom]; }
     tBorderWidth TopBorder() const { return borders_[BorderSide::Top]; }
     tBorderWidth LeftBorder() const { return borders_[BorderSide::Left]; }
     tBorderWidth RightBorder() const { return borders_[BorderSide::Right]; }
-    /// Another value makes all four borders of every cell of the row those of the row, not only
-    /// this one, and marks the document changed.
+    /// Setting another value copies all four borders of the row to every cell, not only this one,
+    /// so cells lose the borders that were set for them. It marks the document changed.
     void setBottomBorder(tBorderWidth width) { setBorder(BorderSide::Bottom, width); }
     void setTopBorder(tBorderWidth width) { setBorder(BorderSide::Top, width); }
     void setLeftBorder(tBorderWidth width) { setBorder(BorderSide::Left, width); }

@@ -14,18 +14,18 @@
 
 namespace quorvane {
 
-/// The rows of the document's table, in order. When the document is gone, the collection is empty
-/// and has no `Parent`; what would change it raises error 91. One that `ClearStructure` took out of
-/// the document before keeps its rows.
+/// The rows of the table, in order. When the document no longer exists, the collection is empty and
+/// has no `Parent`, and every call that would change it raises error 91. A collection that
+/// `CRtfDoc::ClearStructure` replaced before keeps its rows.
 class CRtfTableRows : public TableCollection<CRtfTableRows, CRtfTableRow> {
 public:
-    /// The document that the rows were made for; Nothing when it is gone. Rows that a document's
-    /// `ClearStructure` let go of still answer it.
+    /// Returns the document, even after its `ClearStructure` has replaced this collection; null if
+    /// it no longer exists.
     Ref<CRtfDoc> Parent() const;
 
-    /// Puts a new row with this key, and with the ground, the borders and the cells of the old one,
-    /// in its place, and answers it. Errors: 5 the old row is not in the list, 457 the key is there
-    /// already, the old row's own included.
+    /// Replaces a row with a new one that has this key and the old one's background, borders and
+    /// cells, and returns the new one. Errors: 5 if the old row is not in the list, 457 if the key
+    /// is already in the list, even as the old row's own key.
     Ref<CRtfTableRow> refile(const Ref<CRtfTableRow>& old, std::string_view key);
 
 private:

@@ -11,35 +11,37 @@
 
 namespace quorvane {
 
-/// What the rows, the cells of a row and the paragraphs of a cell have in common: an ordered
-/// collection that makes its elements itself. Positions begin with 1; keys are texts, compared
-/// without regard to case. Every call that changes the list marks the document changed; a call that
-/// fails leaves list and document as they were. Changing the list raises error 91 when the document
-/// is gone.
+/// An ordered collection that makes its elements itself: the common members of `CRtfTableRows`,
+/// `CRtfTableCells` and `CRtfParagraphs`. Positions start at 1. Keys are texts; upper and lower
+/// case are the same, and an empty text is a key like any other. Every call that changes the list
+/// marks the document changed; error 91 if the document no longer exists. A call that fails changes
+/// nothing.
 ///
-/// `Collection` is the class itself. It provides `document()` (the document, or null), `insertNew`
-/// at a place and `removeAt` a position, which do what a change means to its kind of element.
+/// `Collection` is the derived class. It provides `document()` (the document, or null),
+/// `insertNew`, which inserts at a place, and `removeAt`, which removes at a position; they do what
+/// a change means for the kind of element.
 template <class Collection, class Element>
 class TableCollection {
 public:
     TableCollection(const TableCollection&) = delete;
     TableCollection& operator=(const TableCollection&) = delete;
 
-    /// Number of elements.
+    /// Returns the number of elements.
     std::int32_t Count() const { return static_cast<std::int32_t>(list_.count()); }
 
-    /// Makes an element and puts it at the end or, with `Before` or `After` (a position or a key),
-    /// there. `Key` is a text or absent. It answers nothing: the element is fetched by position or
-    /// key. Errors: 13 a key of another type, 5 both `Before` and `After` or a bad one, 457 a key
-    /// that is there already.
+    /// Makes an element and adds it at the end or, with `Before` or `After` (a position or a key),
+    /// next to that element. `Key` is a text or absent. It returns nothing: get the new element
+    /// with `Item`, `PeekHead` or `PeekTail`. Errors: 13 if the key is not a text, 5 if both
+    /// `Before` and `After` are given or there is no such element, 457 if the key is already in the
+    /// list.
     void add(const Value& Key = Missing{}, const Value& Before = Missing{},
              const Value& After = Missing{}) {
         clearCurrentError();
         insert(Key, Before, After);
     }
 
-    /// Removes the element at a position (halves to even) or with a key. Errors: 5 there is none,
-    /// 13 neither a number nor a text.
+    /// Removes the element at a position (rounded, halves to even) or with a key. Errors: 5 if
+    /// there is none, 13 if `Index` is neither a number nor a text.
     void Remove(const Value& Index) {
         clearCurrentError();
         TableDocument& document = required(self().document());
@@ -47,37 +49,38 @@ public:
         document.markChanged();
     }
 
-    /// The element at a position (halves to even) or with a key. Errors as `Remove`.
+    /// Returns the element at a position (rounded, halves to even) or with a key. Errors as for
+    /// `Remove`.
     Ref<Element> Item(const Value& Index) const {
         clearCurrentError();
         return Ref<Element>(&list_.at(list_.positionOfIndex(Index)));
     }
 
-    /// Makes an element and puts it first. Errors as `add`.
+    /// Makes an element and adds it at the beginning. Errors as for `add`.
     void AddHead(const Value& Key = Missing{}) {
         clearCurrentError();
         insert(Key, list_.count() > 0 ? Value(1) : Value(Missing{}), Missing{});
     }
 
-    /// The first element, Nothing when there is none.
+    /// Returns the first element; null if there is none.
     Ref<Element> PeekHead() const { return peek(1); }
 
-    /// Removes the first element. Marks the document changed also when there is none.
+    /// Removes the first element. Marks the document changed even if there is none.
     void RemoveHead() {
         clearCurrentError();
         removeEnd(1);
     }
 
-    /// Makes an element and puts it last. Errors as `add`.
+    /// Makes an element and adds it at the end. Errors as for `add`.
     void AddTail(const Value& Key = Missing{}) {
         clearCurrentError();
         insert(Key, Missing{}, Missing{});
     }
 
-    /// The last element, Nothing when there is none.
+    /// Returns the last element; null if there is none.
     Ref<Element> PeekTail() const { return peek(list_.count()); }
 
-    /// Removes the last element. Marks the document changed also when there is none.
+    /// Removes the last element. Marks the document changed even if there is none.
     void removeTail() {
         clearCurrentError();
         removeEnd(list_.count());

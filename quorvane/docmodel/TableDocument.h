@@ -13,27 +13,30 @@
 
 namespace quorvane {
 
-/// What the rows, cells and paragraphs of a table need of their document.
+/// The interface through which rows, cells and paragraphs use their document.
 class TableDocument : public GroupOwner {
 public:
-    /// The document itself, for a host that asks for its child's parent.
+    /// Returns the document, for a host that asks a child for its parent.
     virtual CRtfDoc* document() noexcept = 0;
-    /// Usable width of the page in twips: paper width less right and left margin. Error 6 when it
-    /// leaves 32 bits.
+    /// Returns the width of the text area: the page width less the left and the right margin. Error
+    /// 6 if it does not fit 32 bits.
     virtual std::int32_t TextAreaWidth() const = 0;
-    /// Control words of the named paragraph style, a single blank when there are none. Good until
-    /// the stylesheet changes.
+    /// Returns the control words of the named paragraph style, or of the first one if the name is
+    /// unknown; a single blank if there are no paragraph styles. Valid until the stylesheet
+    /// changes.
     virtual std::string_view GetParagraphStyle(std::string_view sName) const = 0;
-    /// Control words of the named character style, or nothing.
+    /// Returns the control words of the named character style; empty if there is no such style.
+    /// Valid until the stylesheet changes.
     virtual std::string_view GetCharacterStyle(std::string_view sName) const = 0;
-    /// Number of the colour that the named cell style declares, or 0.
+    /// Returns the number of the color that the named cell style has as its format, or 0.
     virtual std::int32_t cellStyleColor(std::string_view sName) const = 0;
-    /// A text for a style's name that shares its characters with equal names set lately.
+    /// Returns a text for the name of a style; equal names that were set lately share their
+    /// characters.
     virtual SharedText sharedName(std::string_view sName) = 0;
-    /// The document's error module.
+    /// Returns the document's error module.
     virtual GError& errors() noexcept = 0;
-    /// Memory for rows, cells, paragraphs and their texts. It is there as long as one of them is,
-    /// since each knows its owner weakly, so that the document's own memory stays.
+    /// Returns the memory pool for rows, cells, paragraphs and their texts. It exists as long as
+    /// one of them does: each refers weakly to its owner, so the memory of the document stays.
     MemoryPool& pool() noexcept { return pool_; }
 
 private:
@@ -55,10 +58,10 @@ void retainWeak(TableDocument* document) noexcept;
 void releaseWeak(TableDocument* document) noexcept;
 bool isAlive(const TableDocument* document) noexcept;
 
-/// The document, which must be there: error 91 when it is null.
+/// Returns the document; error 91 if it is null.
 TableDocument& required(TableDocument* document);
 
-/// Marks the document changed; error 91 when it is null.
+/// Marks the document changed; error 91 if it is null.
 void markChanged(TableDocument* document);
 
 }  // namespace quorvane

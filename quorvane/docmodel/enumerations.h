@@ -4,9 +4,9 @@
 
 namespace quorvane {
 
-/// Colours: the number of the colour in every document's colour table; 0 is no colour. Numbers 33
-/// and 34 are crossed in the documents: the colour written for `eSkyBlue` is slate blue and the one
-/// for `eSlateBlue` is sky blue. Any 32-bit number is kept and written as it is.
+/// Colors, numbered as in every document's color table; 0 is no color. Numbers 33 and 34 are
+/// crossed in the documents: `eSkyBlue` shows slate blue and `eSlateBlue` sky blue. Any 32-bit
+/// number is kept and written as it is.
 enum tColorIndex : std::int32_t {
     eNoColor = 0,
     eAquamarine = 1,
@@ -77,13 +77,14 @@ enum tBorderWidth : std::int32_t {
     eThick = 30,
 };
 
-/// Units of a cell's width: per cent of the usable width of the page, or twips.
+/// Units of a cell's width: per cent of the text area, or twips. Any other value counts as twips
+/// when a width is set, and as per cent when it is read.
 enum tWidthUnit : std::int32_t {
     ePercent = 0,
     eTwips = 1,
 };
 
-/// Alignment of paragraphs; 0 leaves it to the paragraph's style.
+/// Alignments of paragraphs; 0 leaves the alignment to the paragraph's style.
 enum tCellAlign : std::int32_t {
     eNoDefault = 0,
     eCentered = 1,
@@ -92,7 +93,7 @@ enum tCellAlign : std::int32_t {
     eJustified = 4,
 };
 
-/// Kinds of the driver's errors: an error's number is 0x80040000 plus this.
+/// Kinds of the driver's errors. The number of an error is -2147221504 (0x80040000) plus its level.
 enum tErrorLevel : std::int32_t {
     eNoStyleSheet = 1,
     eWrongFileType = 2,

@@ -12,9 +12,9 @@
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/base/text/utf16Units.h"
 #include "quorvane/base/text/utf8.h"
-#include "quorvane/base/values/RtfError.h"
-#include "quorvane/docmodel/BracketedText.h"
 #include "quorvane/docmodel/TableDocument.h"
+#include "quorvane/docmodel/bracketWalk.h"
+#include "quorvane/docmodel/inlineToken.h"
 
 namespace quorvane {
 
@@ -55,7 +55,7 @@ public:
         return slots_[slot] == 0 ? nullptr : &entries_[slots_[slot] - 1].group;
     }
 
-    /// Keeps a token that is not there yet.
+    /// Adds a token that `find` does not find.
     void add(View token, Span group) {
         constexpr std::size_t smallestTable = 16;
         if (4 * (entries_.size() + 1) > 3 * slots_.size()) {
@@ -106,32 +106,32 @@ public:
 
     InlineStyles(const TableDocument& document, View body) : document_(document), body_(body) {}
 
-    /// Nothing when a style's words have characters that are not each one place: bytes are in ASCII
-    /// only.
+    /// Nothing when the words of a style have characters that are more than one place: a byte is
+    /// one place in ASCII only.
     std::optional<Text> apply() {
-        if (takesTurns()) {
+        if (bracketsAlternate()) {
             constexpr std::size_t roomForWords = 64;
             done_.reserve(body_.size() + roomForWords);
             walkOnce();
         } else {
             done_ = body_;
-            walkOver(done_.find(opening), done_.find(opening));
+            const std::size_t open = done_.find(opening);
+            walkOver({open, open});
         }
         return placesAreRight_ ? std::optional(std::move(done_)) : std::nullopt;
     }
 
 private:
-    using Brackets = BracketedText<Character>;
-    static constexpr Character opening = Brackets::opening;
-    static constexpr Character closing = Brackets::closing;
-    static constexpr auto isBracket = Brackets::isBracket;
+    static constexpr Character opening{'<'};
+    static constexpr Character closing{'>'};
 
     static bool isToken(View inner) {
-        return !inner.empty() && Brackets::beginsToken(inner[0]) &&
+        return !inner.empty() && beginsInlineToken(inner[0]) &&
                inner.find(Character{'='}) != nowhere;
     }
 
-    bool takesTurns() const {
+    /// True when every "<" is followed by a ">" before the next "<".
+    bool bracketsAlternate() const {
         bool isOpen = false;
         for (const Character character : body_) {
             if (isBracket(character)) {
@@ -144,9 +144,9 @@ private:
         return true;
     }
 
-    /// One pass for a body in which every "<" is followed by a ">" before the next "<". What is
-    /// left of the walk is in `done_`; what is right of it still is as it was, and each token that
-    /// was replaced once is replaced there when the walk comes to it.
+    /// One pass for a body whose brackets alternate. What the walk has passed is in `done_`. The
+    /// rest is as it was in the body: a token that was replaced already is replaced there when the
+    /// walk reaches it.
     void walkOnce() {
         std::optional<std::size_t> close;
         while (advanceToOpening()) {
@@ -170,12 +170,12 @@ private:
             if (leavesStep || std::any_of(group, done_.end(), isBracket)) {
                 done_.resize(open);
                 appendRest();
-                walkOver(open, close.value_or(open));
+                walkOver({open, close.value_or(open)});
                 return;
             }
             close = tokenClose;
             if (isReplaced) {
-                // The last token does not stand once more behind itself.
+                // The last token does not come again.
                 if (body_.find(opening, tokenEnd) != nowhere) {
                     replaced_.add(body_.substr(next_, tokenEnd - next_ + 1),
                                   Span{open, done_.size() - open});
@@ -189,7 +189,7 @@ private:
         appendRest();
     }
 
-    /// Moves on to the next "<" that is not the beginning of a token replaced before.
+    /// Advances to the next "<" that does not begin a token replaced before.
     bool advanceToOpening() {
         for (;;) {
             const std::size_t open = body_.find(opening, next_);
@@ -218,47 +218,22 @@ private:
         next_ = body_.size();
     }
 
-    /// How much may come of so much when words put tokens in: a walk that would never end is given
-    /// up there. Few may grow a thousandfold, many not so much, since a host waits meanwhile.
-    static std::uint64_t mostGrown(std::uint64_t size, std::uint64_t room, std::uint64_t most) {
-        return std::min((size + room) * 1000, most + size * 8);
-    }
-
-    /// The walk as it is defined, on a body of any form.
-    void walkOver(std::size_t open, std::size_t close) {
-        if (open == nowhere || done_.find(closing, close + 1) == nowhere) {
+    /// The walk as it is defined, for a body of any form.
+    void walkOver(BracketPlaces from) {
+        if (from.opening == nowhere || done_.find(closing, from.closing + 1) == nowhere) {
             return;
         }
-        const std::uint64_t mostWritten = mostGrown(done_.size(), 1000, 2'000'000);
-        Brackets text(done_);
-        done_ = Text();
-        const std::uint64_t mostBrackets = mostGrown(text.brackets(), 20, 200'000);
-        std::uint64_t stepsLeft = mostBrackets;
-        open = text.markOpening(open);
-        while (open != nowhere) {
-            if (wordsHoldTokens_ && (stepsLeft == 0 || text.brackets() > mostBrackets ||
-                                     text.written() > mostWritten)) {
-                raise(RunTimeError::Overflow);
-            }
-            stepsLeft -= stepsLeft > 0 ? 1 : 0;
-            close = text.markClosing(close + 1);
-            if (close == nowhere || close <= open) {
-                break;
-            }
-            if (const auto token = text.token()) {
-                Text words;
-                appendWords(token->name, token->hasValue, words);
-                if (!placesAreRight_) {
-                    return;
-                }
-                text.replaceToken(words);
-            }
-            open = text.markOpening(open + 1);
+        const WordsOfToken<Character> wordsOf = [this](View name, bool hasValue) {
+            Text words;
+            appendWords(name, hasValue, words);
+            return placesAreRight_ ? std::optional(std::move(words)) : std::nullopt;
+        };
+        if (auto walked = walkBrackets(View(done_), from, wordsHoldTokens_, wordsOf)) {
+            done_ = *std::move(walked);
         }
-        done_ = text.text();
     }
 
-    /// Appends the group that stands for a token.
+    /// Appends the group that replaces a token.
     void appendGroup(View inner, Text& text) {
         const std::size_t equals = inner.find(Character{'='});
         const View value = inner.substr(equals + 1);
@@ -281,10 +256,10 @@ private:
     View body_;
     std::size_t next_ = 0;
     Text done_;
-    // Where in `done_` the group stands that a token was replaced by first.
+    // Where in `done_` each token was replaced first.
     ReplacedTokens<View> replaced_;
     bool placesAreRight_ = true;
-    // Words that were put in have had a "<": without any, each token leaves fewer of them.
+    // Words that were put in hold a "<". Otherwise each token that is replaced leaves one "<" less.
     bool wordsHoldTokens_ = false;
 };
 

@@ -11,10 +11,9 @@ class TableDocument;
 /// group of the control words of the style bold-red and the text Total. Error 6 when styles whose
 /// own words hold tokens would make it endless.
 ///
-/// Tokens are found by walking over "<" and ">" as they stand. The walk takes its next ">" behind
-/// the place of the last one, and that place is not moved along when a replacement changes the
-/// length of the text: a token that shrinks can make the next ones be read together. Places count
-/// UTF-16 units.
+/// A walk over "<" and ">" finds the tokens. It searches the next ">" after the place of the last
+/// one, and a replacement that changes the length of the text does not move that place: when a
+/// token shrinks, the next ones can be read as one. Places count UTF-16 units.
 std::string withCharacterStyles(const TableDocument& document, std::string_view text);
 
 }  // namespace quorvane

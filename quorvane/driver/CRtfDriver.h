@@ -17,66 +17,65 @@ class CRtfDriver;
 void retain(CRtfDriver* driver) noexcept;
 void release(CRtfDriver* driver) noexcept;
 
-/// Turns a textual description of a document, with a stylesheet, into the document.
+/// Makes a document from a description and a stylesheet.
 ///
-/// An analysis goes through its steps (look at the text, read, repair, check, build) whatever
-/// happens: an error ends the step in which it arises, is reported through the event, and the next
-/// step goes on with what there is. The caller of `ParseFile` or `ParseFromMemmory` does not get
-/// it.
+/// An analysis goes through all its steps (look at the text, read, repair, check, build) whatever
+/// happens. An error ends its step, is reported through the event, and the next step works on what
+/// there is. `ParseFile` and `ParseFromMemmory` do not raise it.
 class CRtfDriver {
 public:
-    /// The event `notifyError`: called with the driver for every error of an analysis. The error is
-    /// the thread's current one (see `currentError`), its `line` the line of the description that
-    /// it concerns. The handler may use the driver and its document in any way: the analysis goes
-    /// on with what it leaves, also when it releases the driver or ran an analysis of its own. An
-    /// exception that it throws ends the analysis and reaches its caller.
+    /// The event `notifyError`. The handler is called with the driver for every error of an
+    /// analysis. The error is the thread's current error (see `currentError`), and its `line` is
+    /// the line of the description. The handler may use the driver and its document in any way,
+    /// release the driver, or run another analysis; the current analysis goes on with what is left.
+    /// An exception that the handler throws ends the analysis and reaches its caller.
     using NotifyErrorHandler = std::function<void(CRtfDriver& Sender)>;
 
-    /// A new driver with an empty document. The platform must outlive it.
+    /// Returns a new driver with an empty document. The platform must outlive it.
     static Ref<CRtfDriver> create(Platform& platform = systemPlatform());
 
-    /// Reads a description file (Windows-1252) and analyses it. Errors: `eWrongPath` for an empty
-    /// path, and for a file that does not exist or cannot be read.
+    /// Reads a description from a file (Windows-1252) and analyzes it. Error `eWrongPath` if the
+    /// path is empty, and if the file does not exist or cannot be read.
     void ParseFile(const std::string& sPath);
 
-    /// Analyses a description (UTF-8): the document's rows and page are made anew from it, the
-    /// stylesheet stays. Raises nothing. The text must stay as it is until the call ends.
+    /// Analyzes a description (UTF-8). The rows and the page of the document are built from it; the
+    /// stylesheet stays. Raises no error. The text must not change before the call returns.
     void ParseFromMemmory(std::string_view sBuffer);
 
-    /// Reads the styles of a text in place of those loaded before. Errors 445 (bad keyword or
-    /// value) and 31037 (braces) for a bad stylesheet.
+    /// Loads a stylesheet from a text in place of the current styles. Errors for a wrong
+    /// stylesheet: 445 (keyword or value), 31037 (braces).
     void LoadStyleSheetFromMemmory(std::string_view sBuffer);
 
     /// Writes the document to a file; see `CRtfDoc::Commit`.
     void Commit(const std::string& sPath) { document_->Commit(sPath); }
 
-    /// True when an analysis repairs unclosed rows and checks keys and values before it builds.
+    /// Whether an analysis repairs unclosed rows, and checks keys and values before it builds.
     /// Initially false.
     bool ErroneousInput() const { return erroneousInput_; }
     void setErroneousInput(bool check) { erroneousInput_ = check; }
 
-    /// True when errors of an analysis are reported through the event. Initially true.
+    /// Whether errors of an analysis are reported through the event. Initially true.
     bool notifyError() const { return notifyError_; }
     void setNotifyError(bool notify) { notifyError_ = notify; }
 
     /// Sets the handler of the event; an empty function removes it.
     void setNotifyErrorHandler(NotifyErrorHandler handler);
 
-    /// The document's text; see `CRtfDoc::Contents`.
+    /// Returns the text of the document; see `CRtfDoc::Contents`.
     const std::string& Contents() { return document_->Contents(); }
 
-    /// The driver's document: the same one as long as the driver lives.
+    /// Returns the document; the same object as long as the driver lives.
     Ref<CRtfDoc> RtfObject() const { return document_; }
 
-    /// Name of the document's stylesheet file.
+    /// Returns the name of the document's stylesheet file.
     const std::string& StyleSheetFile() const { return document_->StyleSheetFile(); }
-    /// Reads a stylesheet file. A name whose extension is not "rtfss" (in any case), and the name
-    /// that is set already, are ignored; a missing file leaves the document without styles. Error
-    /// `eWrongFileType` for a bad stylesheet; its cause is the error of the stylesheet.
+    /// Loads a stylesheet file. Ignores a name without the extension "rtfss" (in upper or lower
+    /// case) and the name that is already set. A missing file leaves the document without styles.
+    /// Error `eWrongFileType` for a wrong stylesheet, with the stylesheet's error as its cause.
     void setStyleSheetFile(const std::string& sName);
 
-    /// Shows the host every error that ends a procedure without reaching it; see
-    /// `CRtfDoc::setAbsorbedErrorObserver`.
+    /// Sets a function that is called with every error that ends a procedure without being raised;
+    /// see `CRtfDoc::setAbsorbedErrorObserver`.
     void setAbsorbedErrorObserver(GError::Observer observer);
 
 private:

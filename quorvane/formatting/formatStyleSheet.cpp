@@ -2,13 +2,14 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <optional>
 #include <vector>
 
-#include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/formatting/sourceLines.h"
 #include "quorvane/stylesheet/stylesheetParser.h"
+#include "quorvane/stylesheet/stylesheetSyntax.h"
 
 namespace quorvane {
 
@@ -16,51 +17,29 @@ namespace {
 
 constexpr std::size_t longestLine = 100;
 
-std::vector<std::string_view> split(std::string_view text, char separator) {
-    std::vector<std::string_view> parts;
-    for (std::size_t start = 0; start <= text.size();) {
-        const std::size_t end = std::min(text.find(separator, start), text.size());
-        parts.push_back(text.substr(start, end - start));
-        start = end + 1;
-    }
-    return parts;
-}
-
-/// True when each "{" has its "}" before the next "{".
-bool areBracesInTurns(std::string_view text) {
-    bool isOpen = false;
-    for (const char character : text) {
-        if ((character == '{' && isOpen) || (character == '}' && !isOpen)) {
-            return false;
-        }
-        isOpen = character == '{' || (isOpen && character != '}');
-    }
-    return !isOpen;
-}
-
 std::string formattedNames(std::string_view value) {
     std::string names;
-    for (const std::string_view name : split(value, ',')) {
-        names += names.empty() && name.data() == value.data() ? "" : ", ";
-        names += trimWhitespace(name);
+    std::string_view separator;
+    for (const std::string_view name : styleNamesIn(value)) {
+        names += separator;
+        names += name;
+        separator = ", ";
     }
     return names;
 }
 
-std::string formattedItem(std::string_view item, bool isFirst) {
-    const std::size_t colon = std::min(item.find(':'), item.size());
-    const std::string keyword = lowerCase(trimWhitespace(item.substr(0, colon)));
-    const std::string_view value = trimWhitespace(item.substr(std::min(colon + 1, item.size())));
-    const std::string shown = isFirst ? formattedNames(value) : std::string(value);
-    return keyword + ":" + (shown.empty() ? "" : " ") + shown;
+std::string formattedItem(const StyleItem& item, bool isFirst) {
+    const std::string value = isFirst ? formattedNames(item.value) : std::string(item.value);
+    return item.keyword + ":" + (value.empty() ? "" : " ") + value;
 }
 
 std::string formattedDefinition(std::string_view body, std::string_view lineEnd) {
     std::vector<std::string> items;
     std::size_t length = 4;
-    for (const std::string_view item : split(body, ';')) {
-        if (!trimWhitespace(item).empty()) {
-            items.push_back(formattedItem(item, items.empty()));
+    StyleItems read(body);
+    while (const std::optional<StyleItem> item = read.next()) {
+        if (!item->whole.empty()) {
+            items.push_back(formattedItem(*item, items.empty()));
             length += items.back().size() + 2;
         }
     }
@@ -139,18 +118,16 @@ std::string meaningOf(std::string_view text) {
 }  // namespace
 
 std::string formattedStyleSheet(std::string_view text) {
-    if (!areBracesInTurns(text)) {
+    if (!findLoneBrace(text).empty()) {
         return std::string(text);
     }
     const std::string_view lineEnd = lineEndOf(text);
     StyleSheetFormatter formatter(lineEnd);
     std::size_t start = 0;
-    for (std::size_t open = text.find('{'); open != std::string_view::npos;
-         open = text.find('{', start)) {
-        formatter.addText(text.substr(start, open - start));
-        const std::size_t close = text.find('}', open);
-        formatter.addLine(formattedDefinition(text.substr(open + 1, close - open - 1), lineEnd));
-        start = close + 1;
+    while (const std::optional<BracedText> definition = bracedTextFrom(text, start)) {
+        formatter.addText(text.substr(start, definition->open - start));
+        formatter.addLine(formattedDefinition(definition->body, lineEnd));
+        start = definition->close + 1;
     }
     formatter.addText(text.substr(start));
     std::string formatted = formatter.text();

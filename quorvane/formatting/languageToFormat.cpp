@@ -12,25 +12,21 @@ namespace quorvane {
 
 namespace {
 
-constexpr std::string_view keywords[] = {"style-def", "format", "based-on", "next", "additive"};
-
-bool hasKeyword(const SheetItem& item) {
-    // Without its ":" a word is no keyword: some language has it as a statement.
-    return item.whole.size() > item.writtenKeyword.size() &&
-           (item.keyword == "name" || std::find(std::begin(keywords), std::end(keywords),
-                                                item.keyword) != std::end(keywords));
+bool hasKeyword(const StyleItem& item) {
+    // A word without a ":" is not a keyword: it may be a statement in another language.
+    return item.hasColon() && (item.keyword == nameKeyword || findStyleKeyword(item.keyword));
 }
 
-bool isNamed(const SheetDefinition& definition) {
-    return !definition.items.empty() && definition.items.front().keyword == "name";
+bool isNamed(const OutlinedDefinition& definition) {
+    return !namesOf(definition).empty();
 }
 
-bool hasItemBesideName(const SheetDefinition& definition) {
+bool hasItemBesideName(const OutlinedDefinition& definition) {
     return isNamed(definition) &&
            std::any_of(definition.items.begin() + 1, definition.items.end(), hasKeyword);
 }
 
-bool hasAnyKeyword(const SheetDefinition& definition) {
+bool hasAnyKeyword(const OutlinedDefinition& definition) {
     return std::any_of(definition.items.begin(), definition.items.end(), hasKeyword);
 }
 
@@ -50,16 +46,15 @@ bool beginsAsStyleSheet(std::string_view text) {
            std::any_of(outline.definitions.begin(), outline.definitions.end(), hasItemBesideName);
 }
 
-bool isStyleKind(const SheetItem& item) {
-    return item.keyword == "style-def" &&
-           (item.value == "s" || item.value == "cs" || item.value == "cell");
+bool isStyleKind(const StyleItem& item) {
+    return item.keyword == "style-def" && findStyleKeyword(item.keyword)->accepts(item.value);
 }
 
 /// Among other text, as in a program, braces with a name are not enough.
 bool holdsStyles(std::string_view text) {
     const StyleSheetOutline outline = readStyleSheetOutline(text);
     return std::any_of(outline.definitions.begin(), outline.definitions.end(),
-                       [](const SheetDefinition& definition) {
+                       [](const OutlinedDefinition& definition) {
                            return isNamed(definition) &&
                                   std::any_of(definition.items.begin(), definition.items.end(),
                                               isStyleKind);

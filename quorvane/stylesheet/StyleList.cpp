@@ -10,12 +10,17 @@ namespace {
 
 constexpr std::string_view nameMark = "^t";
 
-// What names are searched in: a name is the style's when it stands between "^t" and the next "^".
+// The text that is searched for a name: what stands between "^t" and the next "^" is a name.
 std::string searchText(const Style& style) {
     return "^t" + style.name + style.record + "^";
 }
 
 }  // namespace
+
+StyleKind styleKindNamed(std::string_view word) {
+    return word == "s" ? StyleKind::Paragraph
+                       : (word == "cs" ? StyleKind::Character : StyleKind::Cell);
+}
 
 std::string Style::kind() const {
     return GetSubField(record, "d");

@@ -8,13 +8,19 @@
 
 namespace quorvane {
 
-/// A style under one of its names. Record strings as the stylesheet's parser makes them.
+enum class StyleKind { Paragraph, Character, Cell };
+
+/// The kind that a value of "style-def" names: "s" paragraph, "cs" character, any other cell.
+StyleKind styleKindNamed(std::string_view word);
+
+/// A style under one of its names. `record` is the record string that the parser makes.
 struct Style {
     std::string name;
     std::string record;
 
+    /// The value of "style-def"; empty when there is none.
     std::string kind() const;
-    /// The RTF control words, or a cell style's colour.
+    /// The RTF control words, or the color of a cell style.
     std::string format() const;
     std::string basedOn() const;
     std::string next() const;
@@ -24,17 +30,17 @@ struct Style {
 /// Styles of one kind, in the order of the stylesheet.
 class StyleList {
 public:
-    /// Appends a style. A name that is there already is found at its first style only.
+    /// Appends a style. Of several styles with one name, `find` returns the first.
     void add(std::string name, std::string record);
     void clear() noexcept;
 
     std::size_t count() const noexcept { return styles_.size(); }
     bool empty() const noexcept { return styles_.empty(); }
-    /// The style at a 1-based position, which must be there.
+    /// The style at a 1-based position, which must be valid.
     const Style& at(int position) const { return styles_[static_cast<std::size_t>(position) - 1]; }
 
     /// 1-based position of the first style of that name, which must be in lower case;
-    /// -1 when there is none.
+    /// -1 when no style has it.
     int find(std::string_view name) const;
 
 private:

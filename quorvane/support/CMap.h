@@ -58,14 +58,6 @@ public:
 
     bool IsMapEmpty() const { return entries_.empty(); }
 
-    /// Calls `visit(key, value)` for every entry in order. The map must not be changed meanwhile.
-    template <class Visit>
-    void forEach(Visit&& visit) const {
-        for (const Entry& entry : entries_) {
-            visit(entry.key, entry.value);
-        }
-    }
-
 private:
     struct Entry {
         Value key;

@@ -29,7 +29,9 @@ class RenderJobTest : public testing::Test {
 protected:
     ExitStatus run() { return run(systemPlatform()); }
     ExitStatus run(Platform& platform) {
-        const auto tell = [this](const Diagnostic& diagnostic) { told.push_back(diagnostic); };
+        const auto tell = [this](const ReportedError& diagnostic) {
+            reported.push_back(diagnostic);
+        };
         return RenderJob(options, {tell}, platform).run();
     }
 
@@ -58,14 +60,14 @@ protected:
 
     TemporaryFolder folder;
     RenderOptions options;
-    std::vector<Diagnostic> told;
+    std::vector<ReportedError> reported;
 };
 
 TEST_F(RenderJobTest, WritesTheBytesThatAHostWrites) {
     const std::string description = folder.write("a.rtfspec", descriptionOf("Caf\xE9 \x80 5"));
     options.descriptions = {description};
     EXPECT_EQ(run(), ExitStatus::Success);
-    EXPECT_THAT(told, IsEmpty());
+    EXPECT_THAT(reported, IsEmpty());
     EXPECT_EQ(folder.read("a.rtf"), bytesOfHost(description));
     EXPECT_THAT(folder.read("a.rtf"), HasSubstr("Caf\xE9 \x80 5"));
 }
@@ -109,16 +111,16 @@ TEST_F(RenderJobTest, LeavesTheClipboardAlone) {
     EXPECT_THAT(platform.clipboardTexts, IsEmpty());
 }
 
-TEST_F(RenderJobTest, TellsAnErrorOfTheAnalysisAsAnEvent) {
+TEST_F(RenderJobTest, ReportsAnErrorOfTheAnalysisAsAnEvent) {
     const std::string description = folder.write("a.rtfspec", descriptionWithBadColour);
     options.descriptions = {description};
     EXPECT_EQ(run(), ExitStatus::ContentErrors);
-    ASSERT_EQ(told.size(), 1U);
-    EXPECT_EQ(told[0].kind, DiagnosticKind::Event);
-    EXPECT_EQ(told[0].file, description);
-    EXPECT_EQ(errorLevel(told[0].error.number), eWrongValue);
-    EXPECT_EQ(told[0].error.description, "crimson isn't a recognized color.");
-    EXPECT_EQ(told[0].error.line, 3);
+    ASSERT_EQ(reported.size(), 1U);
+    EXPECT_EQ(reported[0].kind, ErrorKind::Event);
+    EXPECT_EQ(reported[0].file, description);
+    EXPECT_EQ(errorLevel(reported[0].error.number), eWrongValue);
+    EXPECT_EQ(reported[0].error.description, "crimson isn't a recognized color.");
+    EXPECT_EQ(reported[0].error.line, 3);
 }
 
 TEST_F(RenderJobTest, WritesNothingAfterAnError) {
@@ -146,36 +148,36 @@ TEST_F(RenderJobTest, RepairsAndChecksOnlyWhenAsked) {
     const std::string unknownKey = "(doc\n(r\n(colour=5)\n(c\n(p\n(pt=Text)\np)\nc)\nr)\ndoc)\n";
     options.descriptions = {folder.write("a.rtfspec", unknownKey)};
     EXPECT_EQ(run(), ExitStatus::Success);
-    EXPECT_THAT(told, IsEmpty());
+    EXPECT_THAT(reported, IsEmpty());
 
     options.check = true;
     EXPECT_EQ(run(), ExitStatus::ContentErrors);
-    ASSERT_EQ(told.size(), 1U);
-    EXPECT_EQ(errorLevel(told[0].error.number), eWrongKeyword);
+    ASSERT_EQ(reported.size(), 1U);
+    EXPECT_EQ(errorLevel(reported[0].error.number), eWrongKeyword);
 }
 
-TEST_F(RenderJobTest, TellsWhyADescriptionCannotBeRead) {
+TEST_F(RenderJobTest, ReportsWhyADescriptionCannotBeRead) {
     options.descriptions = {folder / "missing.rtfspec"};
     EXPECT_EQ(run(), ExitStatus::Failure);
-    ASSERT_EQ(told.size(), 1U);
-    EXPECT_EQ(told[0].kind, DiagnosticKind::Raised);
-    EXPECT_EQ(told[0].file, folder / "missing.rtfspec");
-    EXPECT_EQ(errorLevel(told[0].error.number), eWrongPath);
-    EXPECT_EQ(told[0].error.description,
+    ASSERT_EQ(reported.size(), 1U);
+    EXPECT_EQ(reported[0].kind, ErrorKind::Raised);
+    EXPECT_EQ(reported[0].file, folder / "missing.rtfspec");
+    EXPECT_EQ(errorLevel(reported[0].error.number), eWrongPath);
+    EXPECT_EQ(reported[0].error.description,
               folder / "missing.rtfspec" + " doesn't exist or is unreacheable");
-    ASSERT_TRUE(told[0].error.cause);
-    EXPECT_EQ(told[0].error.cause->number, 53);
+    ASSERT_TRUE(reported[0].error.cause);
+    EXPECT_EQ(reported[0].error.cause->number, 53);
 }
 
-TEST_F(RenderJobTest, TellsThatADescriptionIsAFolder) {
+TEST_F(RenderJobTest, ReportsThatADescriptionIsAFolder) {
     std::filesystem::create_directory(folder / "a.rtfspec");
     options.descriptions = {folder / "a.rtfspec"};
     EXPECT_EQ(run(), ExitStatus::Failure);
-    ASSERT_EQ(told.size(), 1U);
-    EXPECT_EQ(causeText(told[0].error), "Path/File access error (Is a directory)");
+    ASSERT_EQ(reported.size(), 1U);
+    EXPECT_EQ(causeText(reported[0].error), "Path/File access error (Is a directory)");
 }
 
-TEST_F(RenderJobTest, TellsThatADescriptionIsInAFolderThatIsClosed) {
+TEST_F(RenderJobTest, ReportsThatADescriptionIsInAFolderThatIsClosed) {
     std::filesystem::create_directory(folder / "closed");
     options.descriptions = {folder.write("closed/a.rtfspec", descriptionOf("Text"))};
     std::filesystem::permissions(folder.path(), std::filesystem::perms::all);
@@ -185,16 +187,16 @@ TEST_F(RenderJobTest, TellsThatADescriptionIsInAFolderThatIsClosed) {
         EXPECT_EQ(run(), ExitStatus::Failure);
     }
     std::filesystem::permissions(folder / "closed", std::filesystem::perms::owner_all);
-    ASSERT_EQ(told.size(), 1U);
-    EXPECT_EQ(causeText(told[0].error), "Path/File access error (Permission denied)");
+    ASSERT_EQ(reported.size(), 1U);
+    EXPECT_EQ(causeText(reported[0].error), "Path/File access error (Permission denied)");
 }
 
 TEST_F(RenderJobTest, HasNothingToAddToTheRefusalOfADevice) {
     options.descriptions = {"/dev/zero"};
     options.output = folder / "a.rtf";
     EXPECT_EQ(run(), ExitStatus::Failure);
-    ASSERT_EQ(told.size(), 1U);
-    EXPECT_EQ(causeText(told[0].error), "Path/File access error");
+    ASSERT_EQ(reported.size(), 1U);
+    EXPECT_EQ(causeText(reported[0].error), "Path/File access error");
 }
 
 TEST_F(RenderJobTest, WritesNothingForADescriptionThatCannotBeReadEvenWhenItKeepsGoing) {
@@ -204,27 +206,27 @@ TEST_F(RenderJobTest, WritesNothingForADescriptionThatCannotBeReadEvenWhenItKeep
     EXPECT_THAT(folder.names(), IsEmpty());
 }
 
-TEST_F(RenderJobTest, TellsARefusedStylesheetWithWhatItsParserSaid) {
+TEST_F(RenderJobTest, ReportsARefusedStylesheetWithWhatItsParserSaid) {
     options.descriptions = {folder.write("a.rtfspec", descriptionOf("Text"))};
     options.styleSheet = folder.write("style.rtfss", badStyleSheet);
     EXPECT_EQ(run(), ExitStatus::ContentErrors);
-    ASSERT_EQ(told.size(), 1U);
-    EXPECT_EQ(told[0].kind, DiagnosticKind::Raised);
-    EXPECT_EQ(told[0].file, *options.styleSheet);
-    EXPECT_EQ(errorLevel(told[0].error.number), eWrongFileType);
-    EXPECT_EQ(told[0].error.description, *options.styleSheet + " isn't a valid stylesheet.");
-    ASSERT_TRUE(told[0].error.cause);
-    EXPECT_EQ(told[0].error.cause->number, 445);
+    ASSERT_EQ(reported.size(), 1U);
+    EXPECT_EQ(reported[0].kind, ErrorKind::Raised);
+    EXPECT_EQ(reported[0].file, *options.styleSheet);
+    EXPECT_EQ(errorLevel(reported[0].error.number), eWrongFileType);
+    EXPECT_EQ(reported[0].error.description, *options.styleSheet + " isn't a valid stylesheet.");
+    ASSERT_TRUE(reported[0].error.cause);
+    EXPECT_EQ(reported[0].error.cause->number, 445);
     EXPECT_FALSE(folder.has("a.rtf"));
 }
 
-TEST_F(RenderJobTest, TellsTheErrorsOfADescriptionAfterThoseOfTheStylesheet) {
+TEST_F(RenderJobTest, ReportsTheErrorsOfADescriptionAfterThoseOfTheStylesheet) {
     options.descriptions = {folder.write("a.rtfspec", descriptionWithBadColour)};
     options.styleSheet = folder.write("style.rtfss", badStyleSheet);
     EXPECT_EQ(run(), ExitStatus::ContentErrors);
-    ASSERT_EQ(told.size(), 2U);
-    EXPECT_EQ(told[0].file, *options.styleSheet);
-    EXPECT_EQ(told[1].file, options.descriptions[0]);
+    ASSERT_EQ(reported.size(), 2U);
+    EXPECT_EQ(reported[0].file, *options.styleSheet);
+    EXPECT_EQ(reported[1].file, options.descriptions[0]);
 }
 
 TEST_F(RenderJobTest, RendersWithoutARefusedStylesheetWhenItKeepsGoing) {
@@ -242,10 +244,10 @@ TEST_F(RenderJobTest, RendersNothingWithoutTheStylesheetThatItWasGiven) {
                             folder.write("b.rtfspec", descriptionOf("Text"))};
     options.styleSheet = folder / "missing.rtfss";
     EXPECT_EQ(run(), ExitStatus::Failure);
-    ASSERT_EQ(told.size(), 1U);
-    EXPECT_EQ(told[0].kind, DiagnosticKind::Raised);
-    EXPECT_EQ(told[0].file, folder / "missing.rtfss");
-    EXPECT_EQ(told[0].error.number, 53);
+    ASSERT_EQ(reported.size(), 1U);
+    EXPECT_EQ(reported[0].kind, ErrorKind::Raised);
+    EXPECT_EQ(reported[0].file, folder / "missing.rtfss");
+    EXPECT_EQ(reported[0].error.number, 53);
     EXPECT_THAT(folder.names(), ElementsAre("a.rtfspec", "b.rtfspec"));
 }
 
@@ -256,29 +258,29 @@ TEST_F(RenderJobTest, RendersWithoutAMissingStylesheetWhenItKeepsGoing) {
     const std::string withoutStyles = bytesOfHost(description);
     options.styleSheet = folder / "missing.rtfss";
     EXPECT_EQ(run(), ExitStatus::Failure);
-    EXPECT_EQ(told.size(), 1U);
+    EXPECT_EQ(reported.size(), 1U);
     EXPECT_EQ(folder.read("a.rtf"), withoutStyles);
 }
 
-TEST_F(RenderJobTest, TellsThatAStylesheetIsAFolder) {
+TEST_F(RenderJobTest, ReportsThatAStylesheetIsAFolder) {
     std::filesystem::create_directory(folder / "style.rtfss");
     options.descriptions = {folder.write("a.rtfspec", descriptionOf("Text"))};
     options.styleSheet = folder / "style.rtfss";
     EXPECT_EQ(run(), ExitStatus::Failure);
-    ASSERT_EQ(told.size(), 1U);
-    EXPECT_EQ(told[0].error.number, 75);
+    ASSERT_EQ(reported.size(), 1U);
+    EXPECT_EQ(reported[0].error.number, 75);
 }
 
-TEST_F(RenderJobTest, TellsThatAStylesheetMayNotBeRead) {
+TEST_F(RenderJobTest, ReportsThatAStylesheetMayNotBeRead) {
     options.descriptions = {folder.write("a.rtfspec", descriptionOf("Text"))};
     options.styleSheet = folder.write("style.rtfss", goodStyleSheet);
     std::filesystem::permissions(*options.styleSheet, std::filesystem::perms::none);
     std::filesystem::permissions(folder.path(), std::filesystem::perms::all);
     const WithoutPrivileges guard;
     EXPECT_EQ(run(), ExitStatus::Failure);
-    ASSERT_EQ(told.size(), 1U);
-    EXPECT_EQ(told[0].error.number, 75);
-    EXPECT_EQ(causeText(told[0].error), "Permission denied");
+    ASSERT_EQ(reported.size(), 1U);
+    EXPECT_EQ(reported[0].error.number, 75);
+    EXPECT_EQ(causeText(reported[0].error), "Permission denied");
 }
 
 TEST_F(RenderJobTest, RefusesAStylesheetWithAnotherExtension) {
@@ -293,7 +295,7 @@ TEST_F(RenderJobTest, RefusesTwoDocumentsInOneFileBeforeItWritesAny) {
     options.descriptions = {folder.write("a.rtfspec", descriptionOf("Text")),
                             folder.write("b.rtfspec", descriptionOf("Text")),
                             folder.write("a.txt", descriptionOf("Text"))};
-    EXPECT_THAT(usageError(), HasSubstr("would both go to"));
+    EXPECT_THAT(usageError(), HasSubstr("would both be written to"));
     EXPECT_THAT(folder.names(), ElementsAre("a.rtfspec", "a.txt", "b.rtfspec"));
 }
 
@@ -308,43 +310,43 @@ TEST_F(RenderJobTest, WritesIntoTheFolderThatWasNamed) {
     EXPECT_FALSE(folder.has("a.rtf"));
 }
 
-TEST_F(RenderJobTest, TellsOnceThatTheFolderIsMissing) {
+TEST_F(RenderJobTest, ReportsOnceThatTheFolderIsMissing) {
     options.descriptions = {folder.write("a.rtfspec", descriptionOf("One")),
                             folder.write("b.rtfspec", descriptionOf("Two"))};
     options.outputFolder = folder / "out";
     EXPECT_EQ(run(), ExitStatus::Failure);
-    ASSERT_EQ(told.size(), 1U);
-    EXPECT_EQ(told[0].file, folder / "out");
-    EXPECT_EQ(told[0].error.number, 76);
-    ASSERT_TRUE(told[0].error.cause);
-    EXPECT_EQ(told[0].error.cause->description, "the folder of --output-dir must exist");
+    ASSERT_EQ(reported.size(), 1U);
+    EXPECT_EQ(reported[0].file, folder / "out");
+    EXPECT_EQ(reported[0].error.number, 76);
+    ASSERT_TRUE(reported[0].error.cause);
+    EXPECT_EQ(reported[0].error.cause->description, "the folder of --output-dir must exist");
 }
 
-TEST_F(RenderJobTest, TellsThatTheFolderIsAFile) {
+TEST_F(RenderJobTest, ReportsThatTheFolderIsAFile) {
     options.descriptions = {folder.write("a.rtfspec", descriptionOf("One"))};
     options.outputFolder = folder.write("out", "");
     EXPECT_EQ(run(), ExitStatus::Failure);
-    ASSERT_EQ(told.size(), 1U);
-    EXPECT_EQ(told[0].error.number, 76);
+    ASSERT_EQ(reported.size(), 1U);
+    EXPECT_EQ(reported[0].error.number, 76);
 }
 
-TEST_F(RenderJobTest, TellsThatAFileCannotBeWritten) {
+TEST_F(RenderJobTest, ReportsThatAFileCannotBeWritten) {
     options.descriptions = {folder.write("a.rtfspec", descriptionOf("Text"))};
     options.output = folder / "missing/a.rtf";
     EXPECT_EQ(run(), ExitStatus::Failure);
-    ASSERT_EQ(told.size(), 1U);
-    EXPECT_EQ(told[0].kind, DiagnosticKind::Raised);
-    EXPECT_EQ(told[0].file, *options.output);
-    EXPECT_EQ(told[0].error.number, 76);
-    EXPECT_EQ(told[0].error.description, "Path not found");
+    ASSERT_EQ(reported.size(), 1U);
+    EXPECT_EQ(reported[0].kind, ErrorKind::Raised);
+    EXPECT_EQ(reported[0].file, *options.output);
+    EXPECT_EQ(reported[0].error.number, 76);
+    EXPECT_EQ(reported[0].error.description, "Path not found");
 }
 
-TEST_F(RenderJobTest, TellsThatADeviceIsFull) {
+TEST_F(RenderJobTest, ReportsThatADeviceIsFull) {
     options.descriptions = {folder.write("a.rtfspec", descriptionOf("Text"))};
     options.output = "/dev/full";
     EXPECT_EQ(run(), ExitStatus::Failure);
-    ASSERT_EQ(told.size(), 1U);
-    EXPECT_EQ(told[0].error.number, 61);
+    ASSERT_EQ(reported.size(), 1U);
+    EXPECT_EQ(reported[0].error.number, 61);
 }
 
 TEST_F(RenderJobTest, KeepsAFileThatMayNotBeWritten) {
@@ -357,8 +359,8 @@ TEST_F(RenderJobTest, KeepsAFileThatMayNotBeWritten) {
         const WithoutPrivileges guard;
         EXPECT_EQ(run(), ExitStatus::Failure);
     }
-    ASSERT_EQ(told.size(), 1U);
-    EXPECT_EQ(told[0].error.number, 75);
+    ASSERT_EQ(reported.size(), 1U);
+    EXPECT_EQ(reported[0].error.number, 75);
     EXPECT_EQ(folder.read("a.rtf"), "old");
     EXPECT_THAT(folder.names(), ElementsAre("a.rtf", "a.rtfspec"));
 }
@@ -369,9 +371,9 @@ TEST_F(RenderJobTest, TreatsEachDescriptionOnItsOwn) {
                             folder / "missing.rtfspec",
                             folder.write("c.rtfspec", descriptionOf("Three"))};
     EXPECT_EQ(run(), ExitStatus::Failure);
-    ASSERT_EQ(told.size(), 2U);
-    EXPECT_EQ(told[0].file, folder / "b.rtfspec");
-    EXPECT_EQ(told[1].file, folder / "missing.rtfspec");
+    ASSERT_EQ(reported.size(), 2U);
+    EXPECT_EQ(reported[0].file, folder / "b.rtfspec");
+    EXPECT_EQ(reported[1].file, folder / "missing.rtfspec");
     EXPECT_EQ(folder.read("a.rtf"), bytesOfHost(folder / "a.rtfspec"));
     EXPECT_EQ(folder.read("c.rtf"), bytesOfHost(folder / "c.rtfspec"));
     EXPECT_FALSE(folder.has("b.rtf"));
@@ -391,7 +393,7 @@ TEST_F(RenderJobTest, RendersADocumentAfterOthersAsItRendersItAlone) {
     };
     options.descriptions = descriptions;
     EXPECT_EQ(run(), ExitStatus::ContentErrors);
-    EXPECT_EQ(told.size(), 1u);
+    EXPECT_EQ(reported.size(), 1u);
     for (const char* name : {"wide", "plain", "large", "afterLarge", "afterFaulty"}) {
         const std::string description = folder / (std::string(name) + ".rtfspec");
         EXPECT_TRUE(folder.read(std::string(name) + ".rtf") == bytesOfHost(description)) << name;
@@ -419,7 +421,7 @@ TEST_F(RenderJobTest, WritesTheStylesAloneForADescriptionThatMakesNothing) {
     EXPECT_NE(folder.read("b.rtf"), folder.read("a.rtf"));
 }
 
-TEST_F(RenderJobTest, AnswersTheWorstStatusWhereverItCame) {
+TEST_F(RenderJobTest, ReturnsTheWorstStatusWhereverItCame) {
     options.descriptions = {folder.write("b.rtfspec", descriptionWithBadColour),
                             folder.write("a.rtfspec", descriptionOf("One"))};
     EXPECT_EQ(run(), ExitStatus::ContentErrors);
@@ -429,16 +431,16 @@ TEST_F(RenderJobTest, DoesNotCountARefusedMarkedField) {
     const std::string numberAsField = "(doc\n(r\n(c\n(p\n(pt=Text)\n(pmf=5)\np)\nc)\nr)\ndoc)\n";
     options.descriptions = {folder.write("a.rtfspec", numberAsField)};
     EXPECT_EQ(run(), ExitStatus::Success);
-    EXPECT_THAT(told, IsEmpty());
+    EXPECT_THAT(reported, IsEmpty());
     EXPECT_TRUE(folder.has("a.rtf"));
 }
 
-TEST_F(RenderJobTest, TellsOfEachDescriptionBeforeItBegins) {
+TEST_F(RenderJobTest, ReportsEachDescriptionBeforeItBegins) {
     std::vector<std::string> steps;
     options.descriptions = {folder.write("a.rtfspec", descriptionWithBadColour),
                             folder.write("b.rtfspec", descriptionOf("Two"))};
     RenderReceivers receivers;
-    receivers.report = [&](const Diagnostic&) { steps.push_back("error"); };
+    receivers.report = [&](const ReportedError&) { steps.push_back("error"); };
     receivers.progress = [&](std::size_t number, std::size_t count, const std::string& name) {
         steps.push_back(std::to_string(number) + "/" + std::to_string(count) + " " + name);
     };
@@ -464,24 +466,24 @@ private:
     std::string name_;
 };
 
-TEST_F(RenderJobTest, TellsThatMemoryDoesNotSufficeAndGoesOnWithTheNext) {
+TEST_F(RenderJobTest, ReportsThatMemoryDoesNotSufficeAndGoesOnWithTheNext) {
     PlatformWithoutMemory platform("a.rtfspec");
     platform.files = {{"b.rtfspec", descriptionOf("Two")}};
     options.descriptions = {"a.rtfspec", "b.rtfspec"};
     options.outputFolder = folder.path().string();
     EXPECT_EQ(run(platform), ExitStatus::Failure);
-    ASSERT_EQ(told.size(), 1U);
-    EXPECT_EQ(told[0].kind, DiagnosticKind::Raised);
-    EXPECT_EQ(told[0].file, "a.rtfspec");
-    EXPECT_EQ(told[0].error.number, 7);
-    EXPECT_EQ(told[0].error.description, "Out of memory");
+    ASSERT_EQ(reported.size(), 1U);
+    EXPECT_EQ(reported[0].kind, ErrorKind::Raised);
+    EXPECT_EQ(reported[0].file, "a.rtfspec");
+    EXPECT_EQ(reported[0].error.number, 7);
+    EXPECT_EQ(reported[0].error.description, "Out of memory");
     EXPECT_THAT(folder.names(), ElementsAre("b.rtf"));
 }
 
 TEST_F(RenderJobTest, CountsAnErrorThatCannotBeTold) {
     options.descriptions = {folder.write("a.rtfspec", descriptionOf("Text"))};
     options.output = "/dev/full";
-    RenderJob job(options, {[](const Diagnostic&) { throw std::bad_alloc(); }});
+    RenderJob job(options, {[](const ReportedError&) { throw std::bad_alloc(); }});
     EXPECT_EQ(job.run(), ExitStatus::Failure);
 }
 

@@ -44,7 +44,7 @@ public:
     /// Path of a file of the folder.
     std::string operator/(std::string_view name) const { return (path_ / name).string(); }
 
-    /// Writes a file of the folder and answers its path.
+    /// Writes a file of the folder and returns its path.
     std::string write(std::string_view name, std::string_view bytes) const {
         std::ofstream(path_ / name, std::ios::binary) << bytes;
         written_.insert(path_ / name);
@@ -83,9 +83,9 @@ private:
         std::ifstream file(entry.path(), std::ios::binary);
         const std::string bytes{std::istreambuf_iterator<char>(file), {}};
         if (bytes.starts_with("{\\rtf")) {
-            for (const quorvane::Diagnostic& finding : checkRtf(bytes)) {
-                ADD_FAILURE() << entry.path() << ":" << finding.place.line << ": "
-                              << finding.message;
+            for (const Diagnostic& diagnostic : checkRtf(bytes)) {
+                ADD_FAILURE() << entry.path() << ":" << diagnostic.place.line << ": "
+                              << diagnostic.message;
             }
         }
     }

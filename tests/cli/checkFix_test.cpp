@@ -49,7 +49,7 @@ const std::string whatIsFixed =
     "    (rb=gren)  \n"
     "        ^~~~\n"
     "    fix: green\n"
-    "a.rtfspec:8:7: fixed: The } has no partner. [unbalanced-brace]\n"
+    "a.rtfspec:8:7: fixed: Unmatched }. [unbalanced-brace]\n"
     "    (pt=a } €)\n"
     "          ^\n"
     "    fix: \\}\n";
@@ -180,10 +180,10 @@ TEST_F(CheckFixTest, DiffShowsTheFixesAndMakesNone) {
                   "        ^~~~\n"
                   "    hint: did you mean green?\n" +
                       std::string(whatRemains) +
-                      "a.rtfspec:8:7: warning: The } has no partner. [unbalanced-brace]\n"
+                      "a.rtfspec:8:7: warning: Unmatched }. [unbalanced-brace]\n"
                       "    (pt=a } €)\n"
                       "          ^\n"
-                      "    hint: write \\} for a brace to be seen\n"
+                      "    hint: write \\} for a literal brace\n"
                       "2 errors, 1 warning in 1 file\n");
         EXPECT_EQ(result.status, 1);
         EXPECT_EQ(folder.read("a.rtfspec"), mistyped);

@@ -39,7 +39,7 @@ constexpr const char* reportOfError =
     "        ^~~~~~~\n"
     "    hint: did you mean dark-red?\n";
 constexpr const char* reportOfWarning =
-    "a.rtfspec:6:5: warning: The paragraph has no text and vanishes. [empty-text]\n"
+    "a.rtfspec:6:5: warning: Empty paragraph: it will not appear in the document. [empty-text]\n"
     "    (pt=)\n"
     "        ^\n";
 
@@ -85,8 +85,10 @@ TEST_F(CheckOptionsTest, RefuseIdentifiersThatThereAreNot) {
                                      "wrong-color?\nRun with --help for more information.\n");
         EXPECT_EQ(result.status, 2);
     }
-    EXPECT_THAT(run({"--ignore=nothing-like-it", "a.rtfspec"}).errors,
-                HasSubstr("there is no diagnostic nothing-like-it; check --list lists them\n"));
+    EXPECT_THAT(
+        run({"--ignore=nothing-like-it", "a.rtfspec"}).errors,
+        HasSubstr(
+            "there is no diagnostic nothing-like-it; list them with quorvane check --list\n"));
 }
 
 TEST_F(CheckOptionsTest, FailOnDecidesTheStatusOnly) {
@@ -279,7 +281,8 @@ TEST_F(CheckOptionsTest, ListAndExplainStandAlone) {
           std::vector<std::string>{"--list", "--explain=wrong-color"}}) {
         const ProgramResult result = run(arguments);
         EXPECT_EQ(result.errors,
-                  "quorvane: --list and --explain stand alone, without a FILE\nRun with --help "
+                  "quorvane: --list and --explain cannot be combined with each other or with a "
+                  "FILE\nRun with --help "
                   "for more information.\n");
         EXPECT_EQ(result.status, 2);
     }

@@ -50,7 +50,7 @@ constexpr const char* reportOfBadColor =
     "    hint: did you mean dark-red?\n"
     "1 error in 1 file\n";
 
-TEST_F(CheckTest, TellsWhatIsWrongAndWhere) {
+TEST_F(CheckTest, ReportsWhatIsWrongAndWhere) {
     folder.write("price.rtfspec", descriptionWithBadColour);
     const ProgramResult result = run({"price.rtfspec"});
     EXPECT_EQ(result.output, reportOfBadColor);
@@ -58,7 +58,7 @@ TEST_F(CheckTest, TellsWhatIsWrongAndWhere) {
     EXPECT_EQ(result.status, 1);
 }
 
-TEST_F(CheckTest, SaysNothingOfWhatIsRight) {
+TEST_F(CheckTest, DoesNotMentionWhatIsRight) {
     folder.write("letter.rtfspec", descriptionOf("Good morning."));
     folder.write("letter.rtfss", goodStyleSheet);
     const ProgramResult result = run({"letter.rtfspec", "letter.rtfss"});
@@ -101,7 +101,7 @@ TEST_F(CheckTest, WantsAFileOrAnIdentifier) {
     EXPECT_EQ(run({"--diagnostics=xml", "a.rtfspec"}).status, 2);
 }
 
-TEST_F(CheckTest, TellsFilesApartByTheirContent) {
+TEST_F(CheckTest, DistinguishesFilesByTheirContent) {
     folder.write("a.txt", descriptionWithBadColour);
     folder.write("b.txt", badStyleSheet);
     folder.write("c.txt", "{\\rtf1 {Total}");
@@ -139,7 +139,7 @@ TEST_F(CheckTest, TakesAnEmptyStyleSheetForOne) {
     const ProgramResult result = run({"s.rtfss", "t.rtfss"});
     EXPECT_EQ(result.output,
               "s.rtfss:1:1: warning: The stylesheet has no styles. [no-styles]\n"
-              "    hint: the file is empty; a style is defined in braces: { name: ...; style-def: "
+              "    hint: the file is empty; write definitions such as { name: ...; style-def: "
               "... }\n"
               "1 warning in 2 files\n");
     EXPECT_EQ(result.status, 3);
@@ -174,7 +174,7 @@ TEST_F(CheckTest, CountsWhatRepeatsForPeopleOnly) {
               3);
 }
 
-TEST_F(CheckTest, TellsThatABrokenDocumentIsNone) {
+TEST_F(CheckTest, ReportsThatABrokenDocumentIsNone) {
     folder.write("a.rtf", "rtf1 {\\b Total}");
     folder.write("b.rtf", "");
     const ProgramResult result = run({"a.rtf", "b.rtf"});
@@ -201,7 +201,7 @@ TEST_F(CheckTest, RefusesTheStyleSheetsThatRenderRefuses) {
         start.arguments = {command, "-s", "a.rtfspec", "s.rtfss"};
         result = runProgram(start);
         EXPECT_THAT(result.errors, StartsWith("quorvane: the stylesheet a.rtfspec must have the "
-                                              "extension rtfss; is it swapped with s.rtfss?\n"));
+                                              "extension rtfss; did you swap it with s.rtfss?\n"));
         EXPECT_EQ(result.status, 2);
     }
 }
@@ -215,7 +215,7 @@ TEST_F(CheckTest, SaysWhereADescriptionIsGivenAsStyleSheet) {
               "[description-as-stylesheet]\n"
               "    (doc\n"
               "    ^~~~\n"
-              "    hint: were the names of the two files swapped?\n"
+              "    hint: did you swap the names of the two files?\n"
               "1 warning in 2 files\n");
     EXPECT_EQ(result.status, 3);
 }
@@ -232,7 +232,7 @@ TEST_F(CheckTest, CountsTheStylesThatAnyOfTheDescriptionsUses) {
                 StartsWith("s.rtfss:1:59: warning: No description uses the style b."));
 }
 
-TEST_F(CheckTest, TellsFindingsAsJson) {
+TEST_F(CheckTest, ReportsDiagnosticsAsJson) {
     folder.write("price.rtfspec", descriptionWithBadColour);
     const ProgramResult result = run({"--diagnostics", "json", "price.rtfspec"});
     const std::vector<std::string> lines = linesOf(result.output);
@@ -249,12 +249,12 @@ TEST_F(CheckTest, TellsFindingsAsJson) {
     EXPECT_EQ(result.status, 1);
 }
 
-TEST_F(CheckTest, TellsAFileThatCannotBeReadAsJson) {
+TEST_F(CheckTest, ReportsAFileThatCannotBeReadAsJson) {
     const ProgramResult result = run({"--diagnostics=json", "nosuch.rtfspec"});
     EXPECT_EQ(json::parse(result.errors).at("number"), 53);
 }
 
-TEST_F(CheckTest, TellsFindingsAsSarif) {
+TEST_F(CheckTest, ReportsDiagnosticsAsSarif) {
     folder.write("price list.rtfspec", descriptionWithBadColour);
     const ProgramResult result = run({"--diagnostics=sarif", "price list.rtfspec"});
     EXPECT_EQ(result.status, 1);
@@ -373,7 +373,7 @@ TEST_F(CheckTest, GivesSarifFingerprintsThatStayWhenLinesMove) {
     EXPECT_NE(other, once);
 }
 
-TEST_F(CheckTest, TellsInSarifThatAFileCouldNotBeRead) {
+TEST_F(CheckTest, ReportsInSarifThatAFileCouldNotBeRead) {
     const json log = json::parse(run({"--diagnostics=sarif", "nosuch.rtfspec"}).output);
     EXPECT_FALSE(log.at("runs").at(0).at("invocations").at(0).at("executionSuccessful"));
 }
@@ -392,7 +392,7 @@ TEST_F(CheckTest, WritesSarifThatFollowsItsSchema) {
                                 (folder.path() / "log.sarif").string() +
                                 "' '" QUORVANE_CLI_TESTS_FOLDER "/sarifSchema.json' 2>/dev/null";
     EXPECT_EQ(std::system(command.c_str()), 0);
-    // A log that does not follow it is told.
+    // A log that does not follow it is reported.
     std::string wrong = result.output;
     wrong.replace(wrong.find("\"startLine\": 3"), 14, "\"startLine\": 0");
     folder.write("log.sarif", wrong);
@@ -463,12 +463,12 @@ TEST_F(CheckTest, ShowsTheNeighbourhoodOfAPlaceInALongLine) {
     const std::string after(200, 'b');
     folder.write("long.rtfspec", descriptionOf(before + "}" + after));
     EXPECT_EQ(run({"long.rtfspec"}).output,
-              "long.rtfspec:5:205: warning: The } has no partner. [unbalanced-brace]\n"
+              "long.rtfspec:5:205: warning: Unmatched }. [unbalanced-brace]\n"
               "    ..." +
                   before.substr(0, 80) + "}" + after.substr(0, 60) + "...\n" +
                   std::string(87, ' ') +
                   "^\n"
-                  "    hint: write \\} for a brace to be seen\n"
+                  "    hint: write \\} for a literal brace\n"
                   "1 warning in 1 file\n");
 }
 
@@ -492,7 +492,7 @@ TEST_F(CheckTest, ReadsALargeDocumentInPieces) {
                   "1 error in 1 file\n");
 }
 
-TEST_F(CheckTest, TellsFindingsAboutADocumentInTheOrderOfTheirPlaces) {
+TEST_F(CheckTest, ReportsDiagnosticsAboutADocumentInTheOrderOfTheirPlaces) {
     folder.write("a.rtf", "{\\rtf1 {\\b a\n\\cf9 \\trowd\\cellx9 a\\cell\n\\'z");
     EXPECT_EQ(run({"a.rtf"}).output,
               "a.rtf:1:8: error: The group is not closed. [unclosed-group]\n"
@@ -501,7 +501,7 @@ TEST_F(CheckTest, TellsFindingsAboutADocumentInTheOrderOfTheirPlaces) {
               "a.rtf:2:1: warning: The color 9 is not in the color table. [unknown-color]\n"
               "    \\cf9 \\trowd\\cellx9 a\\cell\n"
               "    ^~~~\n"
-              "a.rtf:2:6: error: The row that begins here is not ended. [unended-row]\n"
+              "a.rtf:2:6: error: The row that begins here has no end. [unended-row]\n"
               "    \\cf9 \\trowd\\cellx9 a\\cell\n"
               "         ^~~~~~\n"
               "a.rtf:3:1: error: Two hexadecimal digits must follow \\'. [bad-hex-escape]\n"
@@ -513,7 +513,7 @@ TEST_F(CheckTest, TellsFindingsAboutADocumentInTheOrderOfTheirPlaces) {
 TEST_F(CheckTest, GivesUpOnGroupsThatAreNestedVeryDeep) {
     folder.write("deep.rtf", "{\\rtf1\n" + std::string(1200, '{') + std::string(1200, '}') + "}\n");
     EXPECT_EQ(run({"deep.rtf"}).output,
-              "deep.rtf:2:1000: error: Groups are nested deeper than 1000. [deep-nesting]\n"
+              "deep.rtf:2:1000: error: Groups are nested more than 1000 deep. [deep-nesting]\n"
               "    ..." +
                   std::string(80, '{') + std::string(61, '{') + "...\n" + std::string(87, ' ') +
                   "^\n"
@@ -521,7 +521,7 @@ TEST_F(CheckTest, GivesUpOnGroupsThatAreNestedVeryDeep) {
 }
 
 /// A copy of the example invoice with twelve mistakes of twelve kinds.
-TEST_F(CheckTest, TellsTwelveMistakesInOneRun) {
+TEST_F(CheckTest, ReportsTwelveMistakesInOneRun) {
     std::string invoice = contentsOf(QUORVANE_EXAMPLES_FOLDER "/invoice.rtfspec");
     const auto mistype = [&invoice](const std::string& right, const std::string& wrong) {
         const std::size_t at = invoice.find(right);

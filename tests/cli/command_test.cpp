@@ -88,7 +88,7 @@ TEST_F(CommandTest, ReportsAnErrorAsCheckDoes) {
     EXPECT_THAT(folder.names(), ElementsAre("letter.rtfspec"));
 }
 
-TEST_F(CommandTest, TellsAnErrorOfStandardInput) {
+TEST_F(CommandTest, ReportsAnErrorOfStandardInput) {
     start.input = descriptionWithBadColour;
     const ProgramResult result = run({"render", "-"});
     EXPECT_EQ(result.status, 1);
@@ -100,7 +100,7 @@ TEST_F(CommandTest, TellsAnErrorOfStandardInput) {
               "    hint: did you mean dark-red?\n");
 }
 
-TEST_F(CommandTest, TellsAnErrorAsAnObject) {
+TEST_F(CommandTest, ReportsAnErrorAsAnObject) {
     folder.write("letter.rtfspec", descriptionWithBadColour);
     const ProgramResult result = run({"render", "--diagnostics=json", "letter.rtfspec"});
     EXPECT_EQ(result.status, 1);
@@ -111,7 +111,7 @@ TEST_F(CommandTest, TellsAnErrorAsAnObject) {
               "\n");
 }
 
-TEST_F(CommandTest, TellsErrorsInTheOrderInWhichTheyCome) {
+TEST_F(CommandTest, ReportsErrorsInTheOrderInWhichTheyCome) {
     folder.write("letter.rtfspec", descriptionWithBadColour);
     folder.write("style.rtfss", badStyleSheet);
     const ProgramResult result = run({"render", "--diagnostics", "json", "--check", "-s",
@@ -155,7 +155,7 @@ TEST_F(CommandTest, WritesWhatCouldBeBuiltWhenItKeepsGoing) {
     EXPECT_THAT(folder.read("letter.rtf"), StartsWith("{"));
 }
 
-TEST_F(CommandTest, TellsWrongUsageInTextAndEndsWithStatus2) {
+TEST_F(CommandTest, ReportsWrongUsageInTextAndEndsWithStatus2) {
     const ProgramResult result = run({"render", "--colour"});
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.output, "");
@@ -163,7 +163,7 @@ TEST_F(CommandTest, TellsWrongUsageInTextAndEndsWithStatus2) {
     EXPECT_THAT(result.errors, EndsWith("\nRun with --help for more information.\n"));
 }
 
-TEST_F(CommandTest, TellsWrongUsageAsAnObject) {
+TEST_F(CommandTest, ReportsWrongUsageAsAnObject) {
     const ProgramResult result = run({"render", "--diagnostics=json"});
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.errors, R"({"file":null,"line":null,"number":5,"level":null,"source":null,)"
@@ -207,7 +207,7 @@ TEST_F(CommandTest, ShowsHelpAndVersionOnStandardOutput) {
     EXPECT_EQ(version.errors, "");
 }
 
-TEST_F(CommandTest, TellsThatStandardOutputIsFull) {
+TEST_F(CommandTest, ReportsThatStandardOutputIsFull) {
     start.prepare = [] { ::dup2(::open("/dev/full", O_WRONLY), STDOUT_FILENO); };
     start.input = descriptionOf("Text");
     const ProgramResult result = run({"render", "-"});
@@ -271,14 +271,14 @@ TEST_F(CommandTest, NamesStandardOutputWhereItFailsWhateverWasWorkedOn) {
     }
 }
 
-TEST_F(CommandTest, TellsThatTheHelpCannotBeShown) {
+TEST_F(CommandTest, ReportsThatTheHelpCannotBeShown) {
     start.prepare = [] { ::dup2(::open("/dev/full", O_WRONLY), STDOUT_FILENO); };
     const ProgramResult result = run({"--help"});
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.errors, "<stdout>: No space left on device\n");
 }
 
-TEST_F(CommandTest, TellsThatAStandardStreamIsClosed) {
+TEST_F(CommandTest, ReportsThatAStandardStreamIsClosed) {
     start.prepare = [] { ::close(STDOUT_FILENO); };
     start.input = descriptionOf("Text");
     EXPECT_EQ(run({"render", "-"}).errors, "<stdout>: Bad file descriptor\n");
@@ -295,7 +295,7 @@ TEST_F(CommandTest, WritesNoDiagnosticIntoADocumentWhenStandardErrorIsClosed) {
     EXPECT_THAT(folder.read("a.rtf"), Not(HasSubstr("crimson")));
 }
 
-TEST_F(CommandTest, TellsThatStandardInputIsAFolder) {
+TEST_F(CommandTest, ReportsThatStandardInputIsAFolder) {
     start.prepare = [] { ::dup2(::open("/", O_RDONLY), STDIN_FILENO); };
     const ProgramResult result = run({"render", "-"});
     EXPECT_EQ(result.status, 2);

@@ -8,6 +8,7 @@
 #include <fstream>
 #include <iterator>
 #include <ostream>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -25,12 +26,32 @@ std::string pageInTheDocuments() {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-TEST(DiagnosticsPage, IsTheOneInTheDocuments) {
-    // scripts/diagnostics-page makes it anew.
-    EXPECT_TRUE(diagnosticsPage() == pageInTheDocuments());
+std::vector<std::string> linesOf(const std::string& text) {
+    std::istringstream stream(text);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(stream, line);) {
+        lines.push_back(line);
+    }
+    return lines;
 }
 
-/// What the page in the documents tells of an identifier.
+TEST(DiagnosticsPage, IsTheOneInTheDocuments) {
+    const std::string generated = diagnosticsPage();
+    const std::string inDocuments = pageInTheDocuments();
+    if (generated == inDocuments) {
+        return;
+    }
+    const std::vector<std::string> expected = linesOf(generated);
+    const std::vector<std::string> actual = linesOf(inDocuments);
+    const auto [line, other] =
+        std::mismatch(expected.begin(), expected.end(), actual.begin(), actual.end());
+    ADD_FAILURE() << "docs/diagnostics.md is out of date; scripts/diagnostics-page updates it.\n"
+                  << "First difference, in line " << line - expected.begin() + 1 << ":\n"
+                  << "  generated:    " << (line == expected.end() ? "(end)" : *line) << "\n"
+                  << "  in the file:  " << (other == actual.end() ? "(end)" : *other);
+}
+
+/// A section of the page in the documents.
 struct Section {
     std::string identifier;
     std::string companion;
@@ -44,7 +65,7 @@ void PrintTo(const Section& section, std::ostream* output) {
     *output << section.identifier;
 }
 
-/// The text in the fence behind a title; empty where the section has none.
+/// The text in the fence after a title; empty if the section has none.
 std::string fenced(const std::string& section, const std::string& title) {
     const std::string begin = "\n" + title + "\n\n```\n";
     const std::size_t at = section.find(begin);
@@ -63,13 +84,13 @@ std::vector<Section> sectionsWithExamples() {
         const std::string text = page.substr(at, next - at);
         Section section;
         section.identifier = text.substr(5, text.find('\n', 5) - 5);
-        section.companion = fenced(text, "The stylesheet of both:");
-        section.isSheet = text.find("\nThe description of both:") != std::string::npos;
+        section.companion = fenced(text, "With this stylesheet:");
+        section.isSheet = text.find("\nWith this description:") != std::string::npos;
         if (section.isSheet) {
-            section.companion = fenced(text, "The description of both:");
+            section.companion = fenced(text, "With this description:");
         }
         section.wrong = fenced(text, "Wrong:");
-        section.report = fenced(text, "The report:");
+        section.report = fenced(text, "Report:");
         section.right = fenced(text, "Right:");
         if (!section.wrong.empty()) {
             sections.push_back(section);

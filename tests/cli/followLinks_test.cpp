@@ -11,7 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-TEST(FollowLinks, AnswersAPathThatIsNoLink) {
+TEST(FollowLinks, ReturnsAPathThatIsNoLink) {
     const TemporaryFolder folder;
     EXPECT_EQ(followLinks(folder.write("a", "")), folder / "a");
     EXPECT_EQ(followLinks(folder / "missing"), folder / "missing");
@@ -31,7 +31,7 @@ TEST(FollowLinks, FollowsAbsoluteLinks) {
     EXPECT_EQ(followLinks(folder / "a"), "/nowhere/b");
 }
 
-TEST(FollowLinks, AnswersALinkThatLeadsInACircle) {
+TEST(FollowLinks, ReturnsALinkThatLeadsInACircle) {
     const TemporaryFolder folder;
     fs::create_symlink("b", folder / "a");
     fs::create_symlink("a", folder / "b");

@@ -83,7 +83,7 @@ TEST_F(FormatTest, KeepsEveryByteOfATextInWindows1252) {
     EXPECT_THAT(folder.read("a.rtfspec"), HasSubstr("(pt=" + bytes + ")"));
 }
 
-TEST_F(FormatTest, TellsWhatItCannotDoAndFormatsTheRest) {
+TEST_F(FormatTest, ReportsWhatItCannotDoAndFormatsTheRest) {
     folder.write("a.rtfspec", loose);
     folder.write("c.rtf", "{\\rtf1 a}");
     const ProgramResult result = run({"nosuch", "c.rtf", "a.rtfspec"});
@@ -117,7 +117,7 @@ TEST_F(FormatTest, RefusesWhatIsNeitherADescriptionNorAStyleSheet) {
         names.push_back(name);
         const bool isUtf16 = bytes.find('\0') != std::string::npos;
         expected += name + (isUtf16 ? ": This is text in UTF-16, not in Windows-1252.\n"
-                                    : ": Neither a description nor a stylesheet\n");
+                                    : ": The file is neither a description nor a stylesheet\n");
     }
     const ProgramResult result = run(names);
     EXPECT_EQ(result.status, 2);
@@ -135,7 +135,7 @@ TEST_F(FormatTest, RefusesWhatIsNeitherFromStandardInput) {
         const ProgramResult result = run(arguments);
         EXPECT_EQ(result.status, 2);
         EXPECT_EQ(result.output, "");
-        EXPECT_EQ(result.errors, "<stdin>: Neither a description nor a stylesheet\n");
+        EXPECT_EQ(result.errors, "<stdin>: The file is neither a description nor a stylesheet\n");
     }
 }
 
@@ -197,18 +197,18 @@ TEST_F(FormatTest, TakesAStyleSheetAfterProseFromStandardInput) {
     EXPECT_EQ(result.errors, "");
     EXPECT_EQ(result.output, "Styles of the house.\n{ name: a; style-def: cs; format: \\b }\n");
     start.input = "interface Style   { name: string; format: string }\n";
-    EXPECT_EQ(run({"-"}).errors, "<stdin>: Neither a description nor a stylesheet\n");
+    EXPECT_EQ(run({"-"}).errors, "<stdin>: The file is neither a description nor a stylesheet\n");
 }
 
 TEST_F(FormatTest, TakesStandardInputForAFileOfAName) {
     start.input = "; later  \n";
-    EXPECT_EQ(run({"-"}).errors, "<stdin>: Neither a description nor a stylesheet\n");
+    EXPECT_EQ(run({"-"}).errors, "<stdin>: The file is neither a description nor a stylesheet\n");
     EXPECT_EQ(run({"--stdin-filename", "sub/a.rtfspec", "-"}).output, "; later\n");
     EXPECT_EQ(run({"--stdin-filename=a.rtfss", "--check", "-"}).output, "a.rtfss\n");
     EXPECT_EQ(run({"--stdin-filename=a.rtfss", "--diff", "-"}).output,
               "--- a/a.rtfss\n+++ b/a.rtfss\n@@ -1 +1 @@\n-; later  \n+; later\n");
     EXPECT_EQ(run({"--stdin-filename=a.txt", "-"}).errors,
-              "a.txt: Neither a description nor a stylesheet\n");
+              "a.txt: The file is neither a description nor a stylesheet\n");
     EXPECT_EQ(run({"--stdin-filename=a.rtfss", "b.rtfss"}).status, 2);
     EXPECT_FALSE(folder.has("sub"));
 }

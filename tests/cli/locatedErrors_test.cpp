@@ -14,8 +14,8 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-quorvane::Diagnostic found(DiagnosticId id, int line, const std::string& message) {
-    quorvane::Diagnostic diagnostic;
+Diagnostic found(DiagnosticId id, int line, const std::string& message) {
+    Diagnostic diagnostic;
     diagnostic.id = id;
     diagnostic.place.line = line;
     diagnostic.message = message;
@@ -66,7 +66,7 @@ TEST(LocatedErrors, KeepWhatTheCheckDoesNotFind) {
 }
 
 TEST(LocatedErrors, AreNoWarnings) {
-    quorvane::Diagnostic warning = found(DiagnosticId::EmptyText, 3, "Empty.");
+    Diagnostic warning = found(DiagnosticId::EmptyText, 3, "Empty.");
     warning.severity = Severity::Warning;
     const LocatedErrors result = locateErrors({driverError(eWrongValue, "One.", "", 3)}, {warning});
     EXPECT_THAT(result.kinds, IsEmpty());

@@ -82,24 +82,25 @@ TEST(OutputPaths, RefuseAFileWithoutAName) {
 
 TEST(OutputPaths, RefuseTwoDocumentsInOneFile) {
     EXPECT_EQ(usageErrorOf(withDescriptions({"a.rtfspec", "b.rtfspec", "a.txt"})),
-              "the documents of a.rtfspec and a.txt would both go to a.rtf");
+              "the documents of a.rtfspec and a.txt would both be written to a.rtf");
 }
 
 TEST(OutputPaths, RefuseTheSameDescriptionTwice) {
-    EXPECT_EQ(usageErrorOf(withDescriptions({"a.rtfspec", "./x/../a.rtfspec"})),
-              "the documents of a.rtfspec and ./x/../a.rtfspec would both go to ./x/../a.rtf");
+    EXPECT_EQ(
+        usageErrorOf(withDescriptions({"a.rtfspec", "./x/../a.rtfspec"})),
+        "the documents of a.rtfspec and ./x/../a.rtfspec would both be written to ./x/../a.rtf");
 }
 
 TEST(OutputPaths, RefuseStandardOutputTwice) {
     EXPECT_EQ(usageErrorOf(withDescriptions({"-", "-"})),
-              "the documents of - and - would both go to -");
+              "the documents of - and - would both be written to -");
 }
 
 TEST(OutputPaths, RefuseTwoDescriptionsOfOneNameInAFolder) {
     RenderOptions options = withDescriptions({"x/a.rtfspec", "y/a.rtfspec"});
     options.outputFolder = "out";
     EXPECT_EQ(usageErrorOf(options),
-              "the documents of x/a.rtfspec and y/a.rtfspec would both go to out/a.rtf");
+              "the documents of x/a.rtfspec and y/a.rtfspec would both be written to out/a.rtf");
 }
 
 TEST(OutputPaths, RefuseTwoDocumentsInOneFileThatALinkNamesToo) {
@@ -107,7 +108,7 @@ TEST(OutputPaths, RefuseTwoDocumentsInOneFileThatALinkNamesToo) {
     std::filesystem::create_symlink("b.rtf", folder / "a.rtf");
     const RenderOptions options = withDescriptions({folder / "a.rtfspec", folder / "b.rtfspec"});
     EXPECT_EQ(usageErrorOf(options), "the documents of " + folder / "a.rtfspec" + " and " +
-                                         folder / "b.rtfspec" + " would both go to " +
+                                         folder / "b.rtfspec" + " would both be written to " +
                                          folder / "b.rtf");
 }
 

@@ -42,7 +42,7 @@ TEST_F(NeverOverwrites, TheDescriptionThatFollowsAnOptionWithoutItsValue) {
     folder.write("a.rtfspec", a);
     folder.write("b.rtfspec", b);
     EXPECT_EQ(refusalOf({"--output=", "a.rtfspec", "b.rtfspec"}),
-              "quorvane: --output= lacks its value");
+              "quorvane: --output= needs a value");
     EXPECT_EQ(refusalOf({"-o", "", "a.rtfspec"}), "quorvane: --output: the value is empty");
     EXPECT_EQ(refusalOf({""}), "quorvane: DESCRIPTION: the value is empty");
     EXPECT_EQ(folder.read("a.rtfspec"), a);
@@ -173,10 +173,10 @@ TEST_F(ChecksTexts, AndRefusesABraceWithoutItsPartner) {
     folder.write("a.rtfspec", "(doc\n(r\n(c\n(p\n(pt=a { b)\np)\nc)\nr)\ndoc)\n");
     folder.acceptBrokenDocuments();
     const std::string report =
-        "a.rtfspec:5:7: error: The { has no partner. [unbalanced-brace]\n"
+        "a.rtfspec:5:7: error: Unmatched {. [unbalanced-brace]\n"
         "    (pt=a { b)\n"
         "          ^\n"
-        "    hint: write \\{ for a brace to be seen\n";
+        "    hint: write \\{ for a literal brace\n";
     const ProgramResult result = run({"--check", "a.rtfspec"});
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.errors, report);
@@ -219,7 +219,7 @@ TEST_F(ChecksTexts, AndReportsARefusalAsOneObjectAfterTheEvents) {
     EXPECT_THAT(objects[0], HasSubstr(R"("kind":"event")"));
     EXPECT_THAT(objects[1], HasSubstr(R"("kind":"event")"));
     EXPECT_EQ(objects[2], R"({"file":"a.rtfspec","line":6,"number":5,"level":null,"source":null,)"
-                          R"x("message":"The { has no partner. [unbalanced-brace] (and 1 more)",)x"
+                          R"x("message":"Unmatched {. [unbalanced-brace] (and 1 more)",)x"
                           R"("kind":"check"})");
 }
 
@@ -258,7 +258,7 @@ using FailsOn = RenderTest;
 
 const std::string emptyText = "(doc\n(r\n(c\n(p\n(pt=)\np)\nc)\nr)\ndoc)\n";
 const std::string warning =
-    "a.rtfspec:5:5: warning: The paragraph has no text and vanishes. [empty-text]\n"
+    "a.rtfspec:5:5: warning: Empty paragraph: it will not appear in the document. [empty-text]\n"
     "    (pt=)\n"
     "        ^\n";
 
@@ -309,7 +309,7 @@ TEST_F(FailsOn, WarningsInOneObject) {
     folder.write("a.rtfspec", emptyText);
     EXPECT_EQ(run({"--fail-on=warning", "--diagnostics=json", "a.rtfspec"}).errors,
               R"({"file":"a.rtfspec","line":5,"number":5,"level":null,"source":null,)"
-              R"("message":"The paragraph has no text and vanishes. [empty-text]",)"
+              R"("message":"Empty paragraph: it will not appear in the document. [empty-text]",)"
               R"("kind":"check"})"
               "\n");
 }
@@ -322,7 +322,7 @@ TEST_F(RenderReports, EachMistakeOnceAndNotWhatFollowsFromIt) {
         "a.rtfspec:1:1: error: (doc x has a wrong syntax [wrong-syntax]\n"
         "    (doc x\n"
         "    ^~~~~~\n"
-        "    hint: nothing but a comment behind ; follows (doc\n";
+        "    hint: only a comment, which begins with ;, can follow (doc\n";
     EXPECT_EQ(run({"a.rtfspec"}).errors, report);
     EXPECT_EQ(run({"--check", "a.rtfspec"}).errors, report);
 }

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "cli/CheckJob.h"
-#include "cli/FindingReport.h"
+#include "cli/DiagnosticReport.h"
 #include "quorvane/diagnostics/description/TrialPlatform.h"
 
 namespace quorvane::cli {
@@ -19,11 +19,11 @@ public:
 /// The whole report about files.
 inline std::string reportOf(CheckedFiles platform, const CheckOptions& options) {
     std::string report;
-    FindingReport text(Colors::Off, [&](std::string_view part) { report += part; });
-    const auto find = [&](const std::string& file, const quorvane::Diagnostic& finding,
-                          const FileWindow& window) { text.add(file, finding, window); };
+    DiagnosticReport text(Colors::Off, [&](std::string_view part) { report += part; });
+    const auto find = [&](const std::string& file, const Diagnostic& diagnostic,
+                          const FileWindow& window) { text.add(file, diagnostic, window); };
     CheckJob(
-        options, find, [](const Diagnostic&) {}, platform)
+        options, find, [](const ReportedError&) {}, platform)
         .run();
     text.end();
     return report;

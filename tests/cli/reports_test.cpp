@@ -14,28 +14,28 @@
 namespace quorvane::cli {
 namespace {
 
-TEST(ReportsOfTexts, TellOfControlsThatBreakTheTable) {
+TEST(ReportsOfTexts, ReportControlsThatBreakTheTable) {
     EXPECT_EQ(
         reportOf(paragraphWith("a\\cell b\\row {\\trowd\\cellx99} \\sect")),
-        R"(a.rtfspec:5:6: warning: \cell breaks the table in the middle of a text. [table-control]
+        R"(a.rtfspec:5:6: warning: \cell in a text or a format breaks the table. [table-control]
     (pt=a\cell b\row {\trowd\cellx99} \sect)
          ^~~~~
-a.rtfspec:5:13: warning: \row breaks the table in the middle of a text. [table-control]
+a.rtfspec:5:13: warning: \row in a text or a format breaks the table. [table-control]
     (pt=a\cell b\row {\trowd\cellx99} \sect)
                 ^~~~
-a.rtfspec:5:19: warning: \trowd breaks the table in the middle of a text. [table-control]
+a.rtfspec:5:19: warning: \trowd in a text or a format breaks the table. [table-control]
     (pt=a\cell b\row {\trowd\cellx99} \sect)
                       ^~~~~~
-a.rtfspec:5:25: warning: \cellx99 breaks the table in the middle of a text. [table-control]
+a.rtfspec:5:25: warning: \cellx99 in a text or a format breaks the table. [table-control]
     (pt=a\cell b\row {\trowd\cellx99} \sect)
                             ^~~~~~~~
-a.rtfspec:5:35: warning: \sect breaks the table in the middle of a text. [table-control]
+a.rtfspec:5:35: warning: \sect in a text or a format breaks the table. [table-control]
     (pt=a\cell b\row {\trowd\cellx99} \sect)
                                       ^~~~~
 )");
 }
 
-TEST(ReportsOfTexts, SayNothingOfATableWithinAFootnoteOrANestedOne) {
+TEST(ReportsOfTexts, DoNotMentionATableWithinAFootnoteOrANestedOne) {
     EXPECT_EQ(reportOf(paragraphWith("a{\\footnote \\trowd\\cellx9 b\\cell\\row}")), "");
     EXPECT_EQ(reportOf(paragraphWith("\\itap2 a\\nestcell{\\*\\nesttableprops\\trowd\\cellx9"
                                      "\\nestrow}\\itap1 b")),
@@ -46,106 +46,106 @@ TEST(ReportsOfTexts, SayNothingOfATableWithinAFootnoteOrANestedOne) {
     EXPECT_EQ(reportOf(paragraphWith("a{\\footnote \\itap2 b}")), "");
 }
 
-TEST(ReportsOfTexts, TellOfATableWithinACellThatIsNotWhole) {
+TEST(ReportsOfTexts, ReportATableWithinACellThatIsNotWhole) {
     const std::string hint =
         "    hint: the rows of a table within a cell are whole where they stand in its text: each "
         "\\nestcell has its definition, and \\itap1 follows\n";
     EXPECT_EQ(
         reportOf(paragraphWith("a\\nestcell b")),
-        R"(a.rtfspec:5:6: warning: \nestcell breaks the table in the middle of a text. [table-control]
+        R"(a.rtfspec:5:6: warning: \nestcell in a text or a format breaks the table. [table-control]
     (pt=a\nestcell b)
          ^~~~~~~~~
 )" + hint);
     EXPECT_EQ(
         reportOf(paragraphWith("a\\nestrow b")),
-        R"(a.rtfspec:5:6: warning: \nestrow breaks the table in the middle of a text. [table-control]
+        R"(a.rtfspec:5:6: warning: \nestrow in a text or a format breaks the table. [table-control]
     (pt=a\nestrow b)
          ^~~~~~~~
 )" + hint);
     EXPECT_EQ(
         reportOf(paragraphWith("a\\itap2 b")),
-        R"(a.rtfspec:5:6: warning: \itap2 breaks the table in the middle of a text. [table-control]
+        R"(a.rtfspec:5:6: warning: \itap2 in a text or a format breaks the table. [table-control]
     (pt=a\itap2 b)
          ^~~~~~
 )" + hint);
 }
 
-TEST(ReportsOfTexts, TellOfTheBeginningOfADocument) {
+TEST(ReportsOfTexts, ReportTheBeginningOfADocument) {
     EXPECT_EQ(
         reportOf(paragraphWith("{\\rtf1{\\fonttbl{\\f0 A;}}{\\colortbl;}{\\stylesheet{a;}}b}")),
-        R"(a.rtfspec:5:6: warning: \rtf1 belongs at the beginning of a document. [header-control]
+        R"(a.rtfspec:5:6: warning: \rtf1 belongs only at the beginning of a document. [header-control]
     (pt={\rtf1{\fonttbl{\f0 A;}}{\colortbl;}{\stylesheet{a;}}b})
          ^~~~~
-a.rtfspec:5:12: warning: \fonttbl belongs at the beginning of a document. [header-control]
+a.rtfspec:5:12: warning: \fonttbl belongs only at the beginning of a document. [header-control]
     (pt={\rtf1{\fonttbl{\f0 A;}}{\colortbl;}{\stylesheet{a;}}b})
                ^~~~~~~~
-a.rtfspec:5:30: warning: \colortbl belongs at the beginning of a document. [header-control]
+a.rtfspec:5:30: warning: \colortbl belongs only at the beginning of a document. [header-control]
     (pt={\rtf1{\fonttbl{\f0 A;}}{\colortbl;}{\stylesheet{a;}}b})
                                  ^~~~~~~~~
-a.rtfspec:5:42: warning: \stylesheet belongs at the beginning of a document. [header-control]
+a.rtfspec:5:42: warning: \stylesheet belongs only at the beginning of a document. [header-control]
     (pt={\rtf1{\fonttbl{\f0 A;}}{\colortbl;}{\stylesheet{a;}}b})
                                              ^~~~~~~~~~~
 )");
 }
 
-TEST(ReportsOfTexts, TellOfAValueThatIsCutOff) {
+TEST(ReportsOfTexts, ReportAValueThatIsCutOff) {
     EXPECT_EQ(reportOf("(doc\n(r\n(c\n(p\n(pt=see (page 2); thanks)\np)\nc)\nr)\ndoc)\n"),
-              R"(a.rtfspec:5:16: warning: The value ends here: ); thanks is lost. [cut-value]
+              R"(a.rtfspec:5:16: warning: The value ends here; ); thanks is lost. [cut-value]
     (pt=see (page 2); thanks)
                    ^~~~~~~~~~
-    hint: write \'29 for a ) in a text
+    hint: write \'29 for a literal )
 )");
     EXPECT_EQ(
         reportOf("(doc\n(r\n(c\n(cmf=net (all)  ; x) y\n(p\n(pt=Price (net) ; incl. VAT)\np)\nc)\n"
                  "r)\ndoc)\n"),
-        R"(a.rtfspec:4:14: warning: The value ends here: )  ; x is lost. [cut-value]
+        R"(a.rtfspec:4:14: warning: The value ends here; )  ; x is lost. [cut-value]
     (cmf=net (all)  ; x) y
                  ^~~~~~~
-    hint: this value can hold no )
-a.rtfspec:6:15: warning: The value ends here: ) ; incl. VAT is lost. [cut-value]
+    hint: this value cannot contain a )
+a.rtfspec:6:15: warning: The value ends here; ) ; incl. VAT is lost. [cut-value]
     (pt=Price (net) ; incl. VAT)
                   ^~~~~~~~~~~~~~
-    hint: write \'29 for a ) in a text
+    hint: write \'29 for a literal )
 )");
 }
 
-TEST(ReportsOfTexts, SayNothingOfCommentsWithParentheses) {
+TEST(ReportsOfTexts, DoNotMentionCommentsWithParentheses) {
     EXPECT_EQ(reportOf("(doc\n(r\n(c\n(p\n(pt=a (b\\'29) ; see (c)\np)\n"
                        "(p\n(pt=a) ; (b)\np)\n(p\n(pt=a (b) ; c\np)\nc)\nr)\ndoc)\n"),
               "");
 }
 
-TEST(ReportsOfTexts, TellOfAnInlineStyleThatIsNotClosed) {
+TEST(ReportsOfTexts, ReportAnInlineStyleThatIsNotClosed) {
     const std::string sheet =
         "{ name: normal; style-def: s }\n{ name: reserved; style-def: s }\n"
         "{ name: strong; style-def: cs; format: \\b }\n";
     EXPECT_EQ(
         reportOf(paragraphWith("<strong=a <strong=b> c", "(ps=reserved)\n"), sheet),
-        R"(a.rtfspec:5:6: warning: The inline style strong is not closed: the text shows it as it is written. [unclosed-inline-style]
+        R"(a.rtfspec:5:6: warning: The inline style strong is not closed; it will appear as written. [unclosed-inline-style]
     (pt=<strong=a <strong=b> c)
          ^~~~~~
-    hint: a > ends the text of the style: <strong=Total>
+    hint: write a > after the text: <strong=Total>
 )");
     EXPECT_EQ(reportOf(paragraphWith("<strong=a> x <y=b", "(ps=reserved)\n"), sheet), "");
     EXPECT_EQ(reportOf(paragraphWith("<strong=a")), "");
 }
 
-TEST(ReportsOfTexts, TellOfNumbersThatTheTablesDoNotHave) {
+TEST(ReportsOfTexts, ReportNumbersThatTheTablesDoNotHave) {
     EXPECT_EQ(
         reportOf(paragraphWith("\\f18\\cf58\\highlight99\\cb-1\\ts1 \\f17\\cf57\\cb0\\s100 a")),
-        R"(a.rtfspec:5:5: warning: \f18 names no font of the document. [unknown-number]
+        R"(a.rtfspec:5:5: warning: \f18 refers to a font that the document does not have. [unknown-number]
     (pt=\f18\cf58\highlight99\cb-1\ts1 \f17\cf57\cb0\s100 a)
         ^~~~
-a.rtfspec:5:9: warning: \cf58 names no color of the document. [unknown-number]
+a.rtfspec:5:9: warning: \cf58 refers to a color that the document does not have. [unknown-number]
     (pt=\f18\cf58\highlight99\cb-1\ts1 \f17\cf57\cb0\s100 a)
             ^~~~~
-a.rtfspec:5:14: warning: \highlight99 names no color of the document. [unknown-number]
+a.rtfspec:5:14: warning: \highlight99 refers to a color that the document does not have. [unknown-number]
     (pt=\f18\cf58\highlight99\cb-1\ts1 \f17\cf57\cb0\s100 a)
                  ^~~~~~~~~~~~
-a.rtfspec:5:26: warning: \cb-1 names no color of the document. [unknown-number]
+a.rtfspec:5:26: warning: \cb-1 refers to a color that the document does not have. [unknown-number]
     (pt=\f18\cf58\highlight99\cb-1\ts1 \f17\cf57\cb0\s100 a)
                              ^~~~~
-a.rtfspec:5:31: warning: \ts1 names no style of the document. [unknown-number]
+a.rtfspec:5:31: warning: \ts1 refers to a style that the document does not have. [unknown-number]
     (pt=\f18\cf58\highlight99\cb-1\ts1 \f17\cf57\cb0\s100 a)
                                   ^~~~
 )");
@@ -154,29 +154,31 @@ a.rtfspec:5:31: warning: \ts1 names no style of the document. [unknown-number]
 TEST(ReportsOfTexts, LookNumbersOfStylesUpInTheStyleSheet) {
     const std::string sheet = "{ name: normal; style-def: s }\n{ name: b; style-def: s }\n";
     EXPECT_EQ(reportOf(paragraphWith("\\s0\\s101 a", "(ps=b)\n"), sheet), "");
-    EXPECT_EQ(reportOf(paragraphWith("\\s102{\\cs100 a}", "(ps=b)\n"), sheet),
-              R"(a.rtfspec:5:5: warning: \s102 names no style of the document. [unknown-number]
+    EXPECT_EQ(
+        reportOf(paragraphWith("\\s102{\\cs100 a}", "(ps=b)\n"), sheet),
+        R"(a.rtfspec:5:5: warning: \s102 refers to a style that the document does not have. [unknown-number]
     (pt=\s102{\cs100 a})
         ^~~~~
-a.rtfspec:5:11: warning: \cs100 names no style of the document. [unknown-number]
+a.rtfspec:5:11: warning: \cs100 refers to a style that the document does not have. [unknown-number]
     (pt=\s102{\cs100 a})
               ^~~~~~
 )");
 }
 
-TEST(ReportsOfFormats, TellOfControlsAndNumbersThatDoNotFit) {
-    EXPECT_EQ(reportOf(paragraphWith("a"),
-                       "{ name: normal; style-def: s; format: \\F99\\cf58\\cell\\s102 }\n"),
-              R"(a.rtfss:1:39: warning: \F99 names no font of the document. [unknown-number]
+TEST(ReportsOfFormats, ReportControlsAndNumbersThatDoNotFit) {
+    EXPECT_EQ(
+        reportOf(paragraphWith("a"),
+                 "{ name: normal; style-def: s; format: \\F99\\cf58\\cell\\s102 }\n"),
+        R"(a.rtfss:1:39: warning: \F99 refers to a font that the document does not have. [unknown-number]
     { name: normal; style-def: s; format: \F99\cf58\cell\s102 }
                                           ^~~~
-a.rtfss:1:43: warning: \cf58 names no color of the document. [unknown-number]
+a.rtfss:1:43: warning: \cf58 refers to a color that the document does not have. [unknown-number]
     { name: normal; style-def: s; format: \F99\cf58\cell\s102 }
                                               ^~~~~
-a.rtfss:1:48: warning: \cell breaks the table in the middle of a text. [table-control]
+a.rtfss:1:48: warning: \cell in a text or a format breaks the table. [table-control]
     { name: normal; style-def: s; format: \F99\cf58\cell\s102 }
                                                    ^~~~~
-a.rtfss:1:53: warning: \s102 names no style of the document. [unknown-number]
+a.rtfss:1:53: warning: \s102 refers to a style that the document does not have. [unknown-number]
     { name: normal; style-def: s; format: \F99\cf58\cell\s102 }
                                                         ^~~~~
 )");
@@ -185,11 +187,11 @@ a.rtfss:1:53: warning: \s102 names no style of the document. [unknown-number]
 TEST(ReportsOfFormats, GiveHintsThatHoldInAStyleSheet) {
     EXPECT_EQ(
         reportOf(paragraphWith("a"), "{ name: normal; style-def: s; format: \\bold\\xyzzyx\\5 }\n"),
-        R"(a.rtfss:1:39: warning: \bold is no RTF control word. [unknown-control-word]
+        R"(a.rtfss:1:39: warning: \bold is not an RTF control word; readers will ignore it. [unknown-control-word]
     { name: normal; style-def: s; format: \bold\xyzzyx\5 }
                                           ^~~~~
     hint: did you mean \b?
-a.rtfss:1:44: warning: \xyzzyx is no RTF control word. [unknown-control-word]
+a.rtfss:1:44: warning: \xyzzyx is not an RTF control word; readers will ignore it. [unknown-control-word]
     { name: normal; style-def: s; format: \bold\xyzzyx\5 }
                                                ^~~~~~~
     hint: a backslash begins a control word, such as \b or \fs20
@@ -201,15 +203,15 @@ a.rtfss:1:51: warning: The backslash swallows what follows it. [lone-backslash]
     EXPECT_EQ(
         reportOf(paragraphWith("a"),
                  "{ name: normal; style-def: s; format: {\\b }\n{ name: b; } style-def: s }\n"),
-        R"(a.rtfss:1:39: warning: The { has no partner. [unbalanced-brace]
+        R"(a.rtfss:1:39: warning: Unmatched {. [unbalanced-brace]
     { name: normal; style-def: s; format: {\b }
                                           ^
-    hint: a stylesheet has no braces but those around its definitions
+    hint: in a stylesheet, braces can only enclose definitions
 a.rtfss:1:40: error: Error while processing stylesheet. \b } { name is not a valid keyword. [bad-keyword]
     { name: normal; style-def: s; format: {\b }
                                            ^~~~
     hint: a definition begins with name:
-a.rtfss:2:3: warning: The definition has no style-def and is a cell style. [no-style-kind]
+a.rtfss:2:3: warning: The definition has no style-def and becomes a cell style. [no-style-kind]
     { name: b; } style-def: s }
       ^~~~~~~
 a.rtfss:2:12: error: Error while processing stylesheet. } style-def is not a valid keyword. [bad-keyword]
@@ -226,13 +228,13 @@ TEST(ReportsOfColors, SeeInlineStylesAndControlsInTheText) {
         "{ name: marked; style-def: cs; format: \\highlight3 }\n";
     EXPECT_EQ(
         reportOf(paragraphWith("dark <pale=white> {\\cf37 yellow} <marked=none> dark"), sheet),
-        R"(a.rtfspec:5:16: warning: The text is white on white and can hardly be read. [low-contrast]
+        R"(a.rtfspec:5:16: warning: The text is white on white and hard to read. [low-contrast]
     (pt=dark <pale=white> {\cf37 yellow} <marked=none> dark)
                    ^~~~~
-a.rtfspec:5:30: warning: The text is yellow on white and can hardly be read. [low-contrast]
+a.rtfspec:5:30: warning: The text is yellow on white and hard to read. [low-contrast]
     (pt=dark <pale=white> {\cf37 yellow} <marked=none> dark)
                                  ^~~~~~
-a.rtfspec:5:46: warning: The text is black on black and can hardly be read. [low-contrast]
+a.rtfspec:5:46: warning: The text is black on black and hard to read. [low-contrast]
     (pt=dark <pale=white> {\cf37 yellow} <marked=none> dark)
                                                  ^~~~
 )");
@@ -243,7 +245,7 @@ TEST(ReportsOfColors, TakeTheLastColorBeforeTheText) {
     const std::string dark = "(doc\n(r\n(c\n(cb=black)\n(p\n(pt=a \\plain b)\np)\nc)\nr)\ndoc)\n";
     EXPECT_EQ(
         reportOf(dark, "{ name: normal; style-def: s; format: \\cf3 }\n"),
-        R"(a.rtfspec:6:14: warning: The text is black on black and can hardly be read. [low-contrast]
+        R"(a.rtfspec:6:14: warning: The text is black on black and hard to read. [low-contrast]
     (pt=a \plain b)
                  ^
 )");
@@ -252,10 +254,9 @@ TEST(ReportsOfColors, TakeTheLastColorBeforeTheText) {
 }
 
 TEST(ReportsOfColors, MarkTheWholeTextWhereItsOwnColorIsTheReason) {
-    EXPECT_EQ(
-        reportOf(paragraphWith("a {\\cf3 b} c"),
-                 "{ name: normal; style-def: s; format: \\cf36 }\n"),
-        R"(a.rtfspec:5:5: warning: The text is white on white and can hardly be read. [low-contrast]
+    EXPECT_EQ(reportOf(paragraphWith("a {\\cf3 b} c"),
+                       "{ name: normal; style-def: s; format: \\cf36 }\n"),
+              R"(a.rtfspec:5:5: warning: The text is white on white and hard to read. [low-contrast]
     (pt=a {\cf3 b} c)
         ^~~~~~~~~~~~
 )");
@@ -294,19 +295,19 @@ TEST(ReportsOfFields, JudgeFieldsWithinFields) {
     EXPECT_EQ(
         reportOf(paragraphWith("{\\field{\\*\\fldinst {\\field{\\*\\fldinst QUOTE}"
                                "{\\fldrslt LINK}} x}}")),
-        R"(a.rtfspec:5:15: warning: \fldinst brings a link to a file into the document. [embedded-content]
+        R"(a.rtfspec:5:15: warning: \fldinst puts a link to a file into the document. [embedded-content]
     (pt={\field{\*\fldinst {\field{\*\fldinst QUOTE}{\fldrslt LINK}} x}})
                   ^~~~~~~~
 )");
     EXPECT_EQ(
         reportOf(paragraphWith("{\\field{\\*\\fldinst IF {\\field{\\*\\fldinst DDE x}}}}")),
-        R"(a.rtfspec:5:37: warning: \fldinst brings a link to a program into the document. [embedded-content]
+        R"(a.rtfspec:5:37: warning: \fldinst puts a link to a program into the document. [embedded-content]
     (pt={\field{\*\fldinst IF {\field{\*\fldinst DDE x}}}})
                                         ^~~~~~~~
 )");
 }
 
-TEST(ReportsOfFields, SayNothingOfHarmlessOnes) {
+TEST(ReportsOfFields, DoNotMentionHarmlessOnes) {
     for (const char* instruction :
          {"PAGE", "HYPERLINK \"https://a.example/x\"", "HYPERLINK mailto:a@b.example",
           "HYPERLINK \\\\l \"place\"", "QUOTE INCLUDETEXT", "{\\b DATE} \\\\@ \"d\""}) {
@@ -317,33 +318,33 @@ TEST(ReportsOfFields, SayNothingOfHarmlessOnes) {
     }
 }
 
-TEST(ReportsOfWidths, TellOfASingleCellThatIsTooNarrow) {
+TEST(ReportsOfWidths, ReportASingleCellThatIsTooNarrow) {
     EXPECT_EQ(
         reportOf("(doc\n(r\n(c\n(cw=1)\nc)\nr)\ndoc)\n"),
-        R"(a.rtfspec:4:5: warning: The cell becomes 2 per cent wide instead of 1. [width-clamped]
+        R"(a.rtfspec:4:5: warning: The cell will be 2 percent wide instead of 1. [width-clamped]
     (cw=1)
         ^
 )");
     EXPECT_EQ(reportOf("(doc\n(r\n(c\n(cw=50)\nc)\nr)\ndoc)\n"), "");
 }
 
-TEST(ReportsOfWidths, TellWhichCellsAPageOfAnotherWidthMakesNarrow) {
+TEST(ReportsOfWidths, ReportWhichCellsAPageOfAnotherWidthMakesNarrow) {
     EXPECT_EQ(
         reportOf("(doc\n(paper-width=16838)\n(r\n(c\n(cw=50)\nc)\n(c\n(cw=50)\nc)\nr)\ndoc)\n"),
-        R"(a.rtfspec:2:14: warning: The row is 8840 twips wide, the page has room for 13436. [table-underrun]
+        R"(a.rtfspec:2:14: warning: The row is 8840 twips wide, but the page has room for 13436. [table-underrun]
     (paper-width=16838)
                  ^~~~~
-    hint: the cells are laid out before the page is set up, but their per cents count from the page: (left-margin=3999) and (right-margin=3999) leave them 8840 twips
-a.rtfspec:5:5: warning: The cell becomes 16 per cent wide instead of 50. [width-clamped]
+    hint: the cells are laid out before the page is set up; choose (left-margin=3999) and (right-margin=3999) to leave 8840 twips for them
+a.rtfspec:5:5: warning: The cell will be 16 percent wide instead of 50. [width-clamped]
     (cw=50)
         ^~
 )");
 }
 
-TEST(ReportsOfWidths, TellOfAPageWithoutRoom) {
+TEST(ReportsOfWidths, ReportAPageWithoutRoom) {
     EXPECT_EQ(
         reportOf("(doc\n(bottom-margin=9000)\n(paper-height=8000)\n(r\n(c\nc)\nr)\ndoc)\n"),
-        R"(a.rtfspec:3:15: warning: The margins are 10418 twips high together, the paper is 8000. [no-room]
+        R"(a.rtfspec:3:15: warning: Together the margins are 10418 twips high, but the paper is only 8000. [no-room]
     (paper-height=8000)
                   ^~~~
 )");
@@ -373,7 +374,7 @@ TEST(ReportsOfCharacters, FindThemInEverythingThatReachesTheDocument) {
               "    hint: save the file in Windows-1252\n");
 }
 
-TEST(ReportsOfCharacters, TellTheFirstThatIsMisread) {
+TEST(ReportsOfCharacters, ReportTheFirstThatIsMisread) {
     // Two texts of a file in UTF-8, in which each kind of character stands several times.
     const std::string text = "caf\xC3\xA9 \xE2\x86\x92 ol\xC3\xA9 \xE2\x86\x92";
     const std::string cell = "(c\n(p\n(pt=" + text + ")\np)\nc)\n";
@@ -403,7 +404,7 @@ TEST(ReportsOfCharacters, TellTheFirstThatIsMisread) {
               "    hint: save the file in Windows-1252\n");
 }
 
-TEST(ReportsOfNames, TellOfADescriptionThatIsNone) {
+TEST(ReportsOfNames, ReportADescriptionThatIsNone) {
     const std::string hint = "    hint: the file reads as ";
     EXPECT_EQ(reportOfFile("a.rtfspec", "{ name: a; style-def: s }\n"),
               "a.rtfspec:1:1: error: The provided file isn't a correct rtfspec file. "
@@ -422,34 +423,34 @@ TEST(ReportsOfNames, TellOfADescriptionThatIsNone) {
                   "an RTF file, which has the extension .rtf\n");
 }
 
-TEST(ReportsOfNames, TellOfAStyleSheetThatIsNone) {
+TEST(ReportsOfNames, ReportAStyleSheetThatIsNone) {
     const std::string description = "(doc\n(r\n(c\nc)\nr)\ndoc)\n";
     EXPECT_EQ(reportOfFile("a.rtfss", description),
               "a.rtfss:1:1: warning: This is a description, not a stylesheet. "
               "[description-as-stylesheet]\n    (doc\n    ^~~~\n"
-              "    hint: the file reads as a description, which has the extension .rtfspec\n");
+              "    hint: the file looks like a description; its extension should be .rtfspec\n");
     EXPECT_EQ(reportOfFile("a.rtfss", paragraphWith("{\\b a}")),
               "a.rtfss:1:1: error: Error while processing stylesheet. \\b a is not a valid "
               "keyword. [stylesheet-rejected]\n    (doc\n    ^~~~\n"
-              "    hint: the file reads as a description, which has the extension .rtfspec\n");
+              "    hint: the file looks like a description; its extension should be .rtfspec\n");
     EXPECT_EQ(reportOfFile("a.rtfss", "{\\rtf1\\ansi a}"),
               "a.rtfss:1:1: error: Error while processing stylesheet. \\rtf1\\ansi a is not a "
               "valid keyword. [stylesheet-rejected]\n    {\\rtf1\\ansi a}\n    ^" +
                   std::string(13, '~') +
-                  "\n    hint: the file reads as an RTF file, which has the extension .rtf\n");
+                  "\n    hint: the file looks like an RTF file; its extension should be .rtf\n");
 }
 
-TEST(ReportsOfNames, SayNothingOfOtherExtensions) {
+TEST(ReportsOfNames, DoNotMentionOtherExtensions) {
     EXPECT_EQ(reportOfFile("a.txt", "(doc\n(r\n(c\nc)\nr)\ndoc)\n"), "");
     EXPECT_EQ(reportOfFile("a.txt", "{ name: a; style-def: s }\n"), "");
 }
 
-TEST(ReportsOfStyleSheets, TellOfKeywordsWithoutBraces) {
+TEST(ReportsOfStyleSheets, ReportKeywordsWithoutBraces) {
     EXPECT_EQ(reportOfFile("a.rtfss", "; mine\n  Name : a; style-def: s\n"),
               "a.rtfss:2:3: warning: The stylesheet has no styles. [no-styles]\n"
               "      Name : a; style-def: s\n"
               "      ^~~~\n"
-              "    hint: a definition stands in braces: { name: ...; style-def: ... }\n");
+              "    hint: enclose the definition in braces: { name: ...; style-def: ... }\n");
     EXPECT_EQ(reportOfFile("a.rtfss", "Styles to come: none\n; name: a\n"), "");
 }
 
@@ -502,11 +503,11 @@ doc)
 a.rtfspec:3:14: error: Value for paper-width should be numeric. [not-a-number]
     (paper-width=21cm)
                  ^~~~
-    hint: 21cm is 11906 twips: write 11906
+    hint: 21cm is 11906 twips; write 11906
 a.rtfspec:4:15: error: Value for paper-height should be numeric. [not-a-number]
     (paper-height=11 in)
                   ^~~~~
-    hint: 11 in is 15840 twips: write 15840
+    hint: 11 in is 15840 twips; write 15840
 a.rtfspec:5:13: error: Value for top-margin should be numeric. [not-a-number]
     (top-margin=50,5)
                 ^~~~
@@ -514,15 +515,15 @@ a.rtfspec:5:13: error: Value for top-margin should be numeric. [not-a-number]
 a.rtfspec:6:16: error: Value for bottom-margin should be numeric. [not-a-number]
     (bottom-margin=1e3000)
                    ^~~~~~
-    hint: the number is too large, or is none: write its digits, without an exponent
+    hint: the number is too large or malformed; write its digits without an exponent
 a.rtfspec:7:15: error: Value for right-margin should be numeric. [not-a-number]
     (right-margin=)
                   ^
-    hint: the value is missing: write a number of twips, 1440 of which are an inch and 567 a centimeter
+    hint: the value is missing; write a number of twips; an inch has 1440, a centimeter 567
 a.rtfspec:8:14: error: Value for left-margin should be numeric. [not-a-number]
     (left-margin=20pt)
                  ^~~~
-    hint: 20pt is 400 twips: write 400
+    hint: 20pt is 400 twips; write 400
 a.rtfspec:9:20: error: Value for page-number-start should be numeric. [not-a-number]
     (page-number-start=one)
                        ^~~
@@ -550,7 +551,7 @@ a.rtfspec:15:2: error: bottom-border isn't a valid keyword. [wrong-keyword]
 a.rtfspec:16:5: error: isn't a recognized color. [wrong-color]
     (rb=)
         ^
-    hint: the value is missing: write none for no color
+    hint: the value is missing; write none for no color
 a.rtfspec:18:2: error: width isn't a valid keyword. [wrong-keyword]
     (width=5)
      ^~~~~
@@ -558,7 +559,7 @@ a.rtfspec:18:2: error: width isn't a valid keyword. [wrong-keyword]
 a.rtfspec:19:5: error: Value for cell-width should be numeric. [not-a-number]
     (cw=5cm)
         ^~~
-    hint: write a number, per cent of the room between the page's margins, without a sign
+    hint: write a percentage of the width between the margins, without a %
     (and 1 more like this: line 29)
 a.rtfspec:20:2: error: align isn't a valid keyword. [wrong-keyword]
     (align=left)
@@ -567,7 +568,7 @@ a.rtfspec:20:2: error: align isn't a valid keyword. [wrong-keyword]
 a.rtfspec:21:5: error: isn't a recognized alignment. [wrong-alignment]
     (ca=)
         ^
-    hint: the value is missing: write none for no alignment
+    hint: the value is missing; write none for no alignment
 a.rtfspec:23:2: error: text isn't a valid keyword. [wrong-keyword]
     (text=5)
      ^~~~
@@ -579,7 +580,7 @@ a.rtfspec:24:2: error: alignment isn't a valid keyword. [wrong-keyword]
 a.rtfspec:25:2: error: font isn't a valid keyword. [wrong-keyword]
     (font=x)
      ^~~~
-    hint: styles format text: (ps=arial) with { name: arial; style-def: s; format: \f0 } in the stylesheet; for a few words <arial=words> with style-def: cs
+    hint: use a style: (ps=arial) with { name: arial; style-def: s; format: \f0 } in the stylesheet; for a few words, <arial=words> with style-def: cs
 a.rtfspec:30:2: error: bgcolor isn't a valid keyword. [wrong-keyword]
     (bgcolor=x)
      ^~~~~~~
@@ -601,16 +602,16 @@ TEST(ReportsOfStyleSheets, WithErrorsStillLetTheDescriptionBeChecked) {
 a.rtfss:2:25: error: p is not a valid value for style-def [bad-style-kind]
     { name: sum; style-def: p }
                             ^
-    hint: a paragraph style is s
+    hint: write s for a paragraph style
 a.rtfss:3:3: error: Error while processing stylesheet. nam is not a valid keyword. [bad-keyword]
     { nam: strong; style-def: cs; format: \b }
       ^~~
     hint: a definition begins with name:
-a.rtfspec:5:25: warning: The stylesheet has no character style string: its text gets no format. [unknown-character-style]
+a.rtfspec:5:25: warning: The stylesheet has no character style string; the text gets no format. [unknown-character-style]
     (pt=<strong=a> <sum=b> <string=c>)
                             ^~~~~~
     hint: did you mean strong?
-a.rtfspec:6:5: warning: The stylesheet has no paragraph style nromal: normal stands in for it. [unknown-paragraph-style]
+a.rtfspec:6:5: warning: The stylesheet has no paragraph style nromal; normal is used instead. [unknown-paragraph-style]
     (ps=nromal)
         ^~~~~~
     hint: did you mean normal?
@@ -627,11 +628,11 @@ TEST(ReportsOfKeys, KnowMoreThatIsWrittenByMistake) {
 a.rtfspec:4:2: error: border isn't a valid keyword. [wrong-keyword]
     (border=thin)
      ^~~~~~
-    hint: each side has a border of its own: row-top-border and -bottom-, -left-, -right-border
+    hint: each side has its own border: row-top-border, -bottom-border, -left-border, -right-border
 a.rtfspec:6:1: error: (p (pt=x) p) has a wrong syntax [wrong-syntax]
     (p (pt=x) p)
     ^~~~~~~~~~~~
-    hint: each node and each key stands on a line of its own
+    hint: write each node and each key on its own line
 )");
 }
 
@@ -641,10 +642,10 @@ TEST(ReportsOfStyleSheets, NameABlankInTheNameOfAStyle) {
         "{ name: strong; style-def: cs; format: \\b }\n";
     EXPECT_EQ(
         reportOf(paragraphWith("<strong =a>"), sheet),
-        R"(a.rtfspec:5:6: warning: The stylesheet has no character style strong : its text gets no format. [unknown-character-style]
+        R"(a.rtfspec:5:6: warning: The stylesheet has no character style strong ; the text gets no format. [unknown-character-style]
     (pt=<strong =a>)
          ^~~~~~~
-    hint: leave out the blank: the style is named strong
+    hint: remove the blank; the style is named strong
 )");
 }
 
@@ -654,11 +655,11 @@ TEST(ReportsOfStyleSheets, ReportAnEmptyItemThatIsNotTheLast) {
         R"(a.rtfss:1:11: error: Error while processing stylesheet.  is not a valid keyword. [bad-keyword]
     { name: a;; style-def: s; format: \b }
               ^
-    hint: one ; stands between two items
+    hint: write only one ; between two items
 )");
 }
 
-TEST(ReportsOfStyleSheets, TellAWrongKindOnce) {
+TEST(ReportsOfStyleSheets, ReportAWrongKindOnce) {
     EXPECT_EQ(reportOfFile("a.rtfss",
                            "{ name: a; style-def: paragraph; format: \\b }\n"
                            "{ name: b; style-def: char; format: \\b }\n"
@@ -666,15 +667,15 @@ TEST(ReportsOfStyleSheets, TellAWrongKindOnce) {
               R"(a.rtfss:1:23: error: paragraph is not a valid value for style-def [bad-style-kind]
     { name: a; style-def: paragraph; format: \b }
                           ^~~~~~~~~
-    hint: a paragraph style is s
+    hint: write s for a paragraph style
 a.rtfss:2:23: error: char is not a valid value for style-def [bad-style-kind]
     { name: b; style-def: char; format: \b }
                           ^~~~
-    hint: a character style is cs
+    hint: write cs for a character style
 a.rtfss:3:3: error: Error while processing stylesheet. name= c is not a valid keyword. [bad-keyword]
     { name= c; style-def: s }
       ^~~~~~~
-    hint: a : follows the keyword name
+    hint: write a : after the keyword name
 )");
 }
 
@@ -696,7 +697,7 @@ TEST(ReportsOfKeys, ShowTheStyleForAColorOfText) {
               R"(a.rtfspec:6:2: error: color isn't a valid keyword. [wrong-keyword]
     (color=red)
      ^~~~~
-    hint: styles format text: (ps=red) with { name: red; style-def: s; format: \cf30 } in the stylesheet; for a few words <red=words> with style-def: cs
+    hint: use a style: (ps=red) with { name: red; style-def: s; format: \cf30 } in the stylesheet; for a few words, <red=words> with style-def: cs
 )");
 }
 
@@ -711,57 +712,58 @@ TEST(ReportsOfKeys, SayWhatToDoInsteadOfKeysThatOtherLanguagesHave) {
 a.rtfspec:4:2: error: row-height isn't a valid keyword. [wrong-keyword]
     (row-height=500)
      ^~~~~~~~~~
-    hint: a row is as high as its text: \sb and \sa in a style's format add space
+    hint: a row is as high as its text; \sb and \sa in the format of a style add space
 a.rtfspec:6:2: error: colspan isn't a valid keyword. [wrong-keyword]
     (colspan=2)
      ^~~~~~~
-    hint: cells do not span columns: a row with fewer cells has wider ones
+    hint: cells cannot span columns; use fewer and wider cells in this row
 )");
 }
 
 TEST(ReportsOfTexts, TakeALineBreakOfOtherLanguagesForOne) {
-    EXPECT_EQ(reportOf(paragraphWith("Mill Road\\nCastleton")),
-              R"(a.rtfspec:5:14: warning: \nCastleton is no RTF control word. [unknown-control-word]
+    EXPECT_EQ(
+        reportOf(paragraphWith("Mill Road\\nCastleton")),
+        R"(a.rtfspec:5:14: warning: \nCastleton is not an RTF control word; readers will ignore it. [unknown-control-word]
     (pt=Mill Road\nCastleton)
                  ^~~~~~~~~~~
-    hint: did you mean \line Castleton? For a backslash to be seen write \\
+    hint: did you mean \line Castleton? For a literal backslash, write \\
 )");
 }
 
-TEST(ReportsOfTexts, TellAllHalvesOfACharacterAtOnce) {
+TEST(ReportsOfTexts, ReportAllHalvesOfACharacterAtOnce) {
     EXPECT_EQ(
         reportOf(paragraphWith("\\u-10179?\\u-8704? {\\uc1\\u345?} \\u345 ?")),
-        R"(a.rtfspec:5:5: warning: The ? after \u-10179 is shown: nothing stands in for the character. [shown-substitute]
+        R"(a.rtfspec:5:5: warning: The ? after \u-10179 will appear in the document. [shown-substitute]
     (pt=\u-10179?\u-8704? {\uc1\u345?} \u345 ?)
         ^~~~~~~~~~~~~~~~~
     hint: write {\uc1\u-10179?\u-8704?}
 )");
 }
 
-TEST(ReportsOfTexts, SayNothingOfBracesThatGroup) {
+TEST(ReportsOfTexts, DoNotMentionBracesThatGroup) {
     EXPECT_EQ(reportOf(paragraphWith("{\\b a}{\\i {b}} \\u77{}c {} { } {<1=a>}")), "");
 }
 
-TEST(ReportsOfPages, TellOfMeasuresInAnotherUnitAndOfNoConsequences) {
+TEST(ReportsOfPages, ReportMeasuresInAnotherUnitAndOfNoConsequences) {
     EXPECT_EQ(
         reportOf("(doc\n(paper-width=210)\n(paper-height=297)\n(left-margin=2.5)\n"
                  "(right-margin=1000)\n(r\n(c\n(cw=50)\nc)\n(c\n(cw=50)\nc)\nr)\ndoc)\n"),
-        R"(a.rtfspec:2:14: warning: A paper-width of 210 twips is 3.7 millimeters. [tiny-measure]
+        R"(a.rtfspec:2:14: warning: A paper-width of 210 twips is only 3.7 millimeters. [tiny-measure]
     (paper-width=210)
                  ^~~
     hint: measures are in twips; did you mean 210 millimeters? Write 11906
-a.rtfspec:3:15: warning: A paper-height of 297 twips is 5.2 millimeters. [tiny-measure]
+a.rtfspec:3:15: warning: A paper-height of 297 twips is only 5.2 millimeters. [tiny-measure]
     (paper-height=297)
                   ^~~
     hint: measures are in twips; did you mean 297 millimeters? Write 16838
-a.rtfspec:4:14: warning: A left-margin of 2.5 twips is 0 millimeters. [tiny-measure]
+a.rtfspec:4:14: warning: A left-margin of 2.5 twips is only 0 millimeters. [tiny-measure]
     (left-margin=2.5)
                  ^~~
     hint: measures are in twips; did you mean 2.5 centimeters? Write 1417
 )");
 }
 
-TEST(ReportsOfPages, SayNothingOfATableThatNearlyFillsThePage) {
+TEST(ReportsOfPages, DoNotMentionATableThatNearlyFillsThePage) {
     const std::string table = "(r\n(c\nc)\n(c\nc)\nr)\ndoc)\n";
     // Margins of 25 millimeters on A4 leave 9072 twips, those of 20 millimeters 9638.
     EXPECT_EQ(
@@ -769,24 +771,24 @@ TEST(ReportsOfPages, SayNothingOfATableThatNearlyFillsThePage) {
         "");
     EXPECT_EQ(
         reportOf("(doc\n(paper-width=11906)\n(left-margin=1134)\n(right-margin=1134)\n" + table),
-        R"(a.rtfspec:2:14: warning: The row is 8840 twips wide, the page has room for 9638. [table-underrun]
+        R"(a.rtfspec:2:14: warning: The row is 8840 twips wide, but the page has room for 9638. [table-underrun]
     (paper-width=11906)
                  ^~~~~
-    hint: the cells are laid out before the page is set up, but their per cents count from the page: (left-margin=1533) and (right-margin=1533) leave them 8840 twips
+    hint: the cells are laid out before the page is set up; choose (left-margin=1533) and (right-margin=1533) to leave 8840 twips for them
 )");
 }
 
-TEST(ReportsOfPages, SayNothingOfASingleCellThatIsMeantToBeNarrow) {
+TEST(ReportsOfPages, DoNotMentionASingleCellThatIsMeantToBeNarrow) {
     EXPECT_EQ(reportOf("(doc\n(r\n(c\n(cw=50)\nc)\nr)\ndoc)\n"), "");
 }
 
 TEST(ReportsOfPages, SayThatThePaperIsNarrowerThanTheTable) {
     EXPECT_EQ(
         reportOf("(doc\n(paper-width=8000)\n(r\n(c\nc)\n(c\nc)\nr)\ndoc)\n"),
-        R"(a.rtfspec:3:1: warning: The row is 8840 twips wide, the page has room for 4598. [table-overrun]
+        R"(a.rtfspec:3:1: warning: The row is 8840 twips wide, but the page has room for only 4598. [table-overrun]
     (r
     ^~
-    hint: the cells are laid out before the page is set up: the paper must be wider than the table with its margins
+    hint: the cells are laid out before the page is set up; choose paper that is wider than the table and its margins
 )");
 }
 
@@ -794,12 +796,12 @@ TEST(ReportsOfWidths, CountTheRowsOfATable) {
     const std::string row = "(r\n(c\n(cw=80)\nc)\n(c\n(cw=10)\nc)\n(c\n(cw=10)\nc)\nr)\n";
     EXPECT_EQ(
         reportOf("(doc\n" + row + row + row + "doc)\n"),
-        R"(a.rtfspec:4:5: warning: The cell becomes 64 per cent wide instead of 80. [width-clamped]
+        R"(a.rtfspec:4:5: warning: The cell will be 64 percent wide instead of 80. [width-clamped]
     (cw=80)
         ^~
-    hint: in the order 10, 80, 10 all cells get their widths
+    hint: in the order 10, 80, 10, all cells get their widths
     (and 2 more like this: lines 15 and 26)
-a.rtfspec:7:5: warning: The cell becomes 26 per cent wide instead of 10. [width-clamped]
+a.rtfspec:7:5: warning: The cell will be 26 percent wide instead of 10. [width-clamped]
     (cw=10)
         ^~
     (and 2 more like this: lines 18 and 29)
@@ -809,7 +811,7 @@ a.rtfspec:7:5: warning: The cell becomes 26 per cent wide instead of 10. [width-
 TEST(ReportsOfStyleSheets, SayThatAnEmptyOneHasNoStyles) {
     const std::string rest =
         "1: warning: The stylesheet has no styles. [no-styles]\n"
-        "    hint: the file is empty; a style is defined in braces: { name: "
+        "    hint: the file is empty; write definitions such as { name: "
         "...; style-def: ... }\n";
     EXPECT_EQ(reportOfFile("a.rtfss", ""), "a.rtfss:1:" + rest);
     EXPECT_EQ(reportOfFile("a.rtfss", " \r\n\t\n"), "a.rtfss:1:" + rest);
@@ -831,12 +833,13 @@ TEST(ReportsOfBinaryFiles, SayOnceWhatTheyAre) {
     EXPECT_EQ(reportOf(files, options), expected("a.rtfss", "a PNG picture"));
 }
 
-/// The report of findings about a text.
+/// The report of diagnostics about a text.
 std::string reportOfFindings(const std::string& file, const std::string& text,
-                             const std::vector<quorvane::Diagnostic>& findings) {
+                             const std::vector<Diagnostic>& diagnostics) {
     std::string report;
-    for (const quorvane::Diagnostic& finding : findings) {
-        report += findingText(file, finding, excerptAt(finding.place, windowOf(text)), Colors::Off);
+    for (const Diagnostic& diagnostic : diagnostics) {
+        report += diagnosticText(file, diagnostic, excerptAt(diagnostic.place, windowOf(text)),
+                                 Colors::Off);
     }
     return report;
 }
@@ -869,7 +872,7 @@ const std::map<std::string, std::pair<std::string, std::string>>& reportsWithout
             reportOfFile("a.rtf", "(doc\n(r\n(c\nc)\nr)\ndoc)\n"),
             "a.rtf:1:1: warning: This is a description, but its extension is .rtf. "
             "[wrong-extension]\n    (doc\n    ^~~~\n"
-            "    hint: the file reads as a description, which has the extension .rtfspec\n"};
+            "    hint: the file looks like a description; its extension should be .rtfspec\n"};
         return list;
     }();
     return reports;

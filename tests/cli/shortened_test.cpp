@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "cli/diagnosticText.h"
+#include "cli/errorText.h"
 #include "quorvane/driver/driverErrors.h"
 #include "tests/cli/reportOf.h"
 
@@ -28,7 +28,7 @@ TEST(Shortened, CutsTheMiddleOfALongerTextBetweenCharacters) {
 TEST(Shortened, IsTheMessageOfAnErrorInTextForm) {
     const std::string line(200'000, 'x');
     const RtfError error = driverError(eSyntaxError, line + " has a wrong syntax", "", 3);
-    EXPECT_EQ(diagnosticText({DiagnosticKind::Event, "a.rtfspec", error}),
+    EXPECT_EQ(errorText({ErrorKind::Event, "a.rtfspec", error}),
               "a.rtfspec:3: error: " + line.substr(0, 149) + "\xE2\x80\xA6" + line.substr(0, 31) +
                   " has a wrong syntax");
 }

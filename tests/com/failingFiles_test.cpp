@@ -203,7 +203,7 @@ protected:
 
     auto teller() {
         told.clear();
-        return [this](const cli::Diagnostic& diagnostic) { told.push_back(diagnostic); };
+        return [this](const cli::ReportedError& diagnostic) { told.push_back(diagnostic); };
     }
 
     void render() { status = cli::RenderJob(options, {teller()}).run(); }
@@ -238,7 +238,7 @@ protected:
     }
 
     cli::RenderOptions options;
-    std::vector<cli::Diagnostic> told;
+    std::vector<cli::ReportedError> told;
     cli::ExitStatus status = cli::ExitStatus::Success;
 };
 

@@ -1,7 +1,7 @@
 // Every call of the system that concerns a file fails once, and then for good, in everything that
 // reads or writes files: a document is whole or absent, an older one stays for as long as it can,
-// what failed is told, and all works again afterwards. Only what cannot be removed any more, since
-// the disk is gone for good, may stay in part.
+// what failed is reported, and all works again afterwards. Only what cannot be removed any more,
+// since the disk is gone for good, may stay in part.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -157,27 +157,27 @@ TEST_F(FailingCalls, LeaveAFileToBeFoundByAPattern) {
     EXPECT_GE(runs, 15);
 }
 
-/// Commits of a document, and what they tell.
+/// Commits of a document, and what they report.
 class FailingCommits : public FailingCalls {
 protected:
     void commit() {
-        told = 0;
-        document->setAbsorbedErrorObserver([this](const AbsorbedError&) { ++told; });
+        reported = 0;
+        document->setAbsorbedErrorObserver([this](const AbsorbedError&) { ++reported; });
         try {
             document->Commit(folder / "a.rtf");
         } catch (const RtfError&) {
-            ++told;
+            ++reported;
         }
     }
 
     Ref<CRtfDoc> document = filledDocument();
-    int told = 0;
+    int reported = 0;
 };
 
 TEST_F(FailingCommits, LeaveANewDocumentWholeOrAbsent) {
     failEachCall([&] { std::filesystem::remove(folder / "a.rtf"); }, [&] { commit(); },
                  [&](const auto&, Fault fault) {
-                     if (told == 0) {
+                     if (reported == 0) {
                          EXPECT_EQ(bytesOf("a.rtf"), whole);
                      } else if (fault == Fault::Once) {
                          EXPECT_FALSE(folder.has("a.rtf"));
@@ -189,12 +189,12 @@ TEST_F(FailingCommits, LeaveANewDocumentWholeOrAbsent) {
 }
 
 TEST_F(FailingCommits, KeepTheOlderDocumentUntilItIsRemoved) {
-    // Longer than the new one: none of it may stay behind that.
+    // Longer than the new one: none of it may remain after that.
     const std::string older(whole.size() + 100, 'o');
     failEachCall([&] { folder.write("a.rtf", older); }, [&] { commit(); },
                  [&](const std::vector<std::string>& calls, Fault fault) {
                      const auto bytes = bytesOf("a.rtf");
-                     if (told == 0) {
+                     if (reported == 0) {
                          EXPECT_EQ(bytes, whole);
                      } else if (!wasRemoved(calls)) {
                          EXPECT_EQ(bytes, older);
@@ -216,8 +216,8 @@ protected:
     }
 
     auto teller() {
-        told.clear();
-        return [this](const cli::Diagnostic& diagnostic) { told.push_back(diagnostic); };
+        reported.clear();
+        return [this](const cli::ReportedError& diagnostic) { reported.push_back(diagnostic); };
     }
 
     void render() { status = cli::RenderJob(options, {teller()}).run(); }
@@ -235,11 +235,11 @@ protected:
                               const std::optional<std::string>& undone, const std::string& name,
                               Fault fault) {
         if (status == cli::ExitStatus::Success) {
-            EXPECT_THAT(told, IsEmpty());
+            EXPECT_THAT(reported, IsEmpty());
             EXPECT_EQ(bytesOf(name), done);
         } else {
             EXPECT_EQ(status, cli::ExitStatus::Failure);
-            EXPECT_THAT(told, SizeIs(1));
+            EXPECT_THAT(reported, SizeIs(1));
             EXPECT_EQ(bytesOf(name), undone);
         }
         for (const std::string& file : folder.names()) {
@@ -252,7 +252,7 @@ protected:
     }
 
     cli::RenderOptions options;
-    std::vector<cli::Diagnostic> told;
+    std::vector<cli::ReportedError> reported;
     cli::ExitStatus status = cli::ExitStatus::Success;
 };
 
@@ -311,7 +311,7 @@ TEST_F(FailingJobs, KeepADescriptionThatTheDocumentWouldReplace) {
             try {
                 render();
             } catch (const cli::UsageError&) {
-                told.clear();
+                reported.clear();
             }
         };
         failEachCall([&] { folder.write("a.rtfspec", description); }, tryToRender,
@@ -348,14 +348,14 @@ protected:
         }
         checked.styleSheet = options.styleSheet;
         found.clear();
-        status =
-            cli::CheckJob(
-                checked,
-                [this](const std::string& file, const Diagnostic& finding, const cli::FileWindow&) {
-                    found.push_back(file + ": " + finding.message);
-                },
-                teller())
-                .run();
+        status = cli::CheckJob(
+                     checked,
+                     [this](const std::string& file, const Diagnostic& diagnostic,
+                            const cli::FileWindow&) {
+                         found.push_back(file + ": " + diagnostic.message);
+                     },
+                     teller())
+                     .run();
     }
 
     /// That a file is checked as it is, or said to be unreadable.
@@ -366,7 +366,7 @@ protected:
         ASSERT_THAT(all, Not(IsEmpty()));
         failEachCall([] {}, [&] { check({name}); },
                      [&](const auto&, Fault) {
-                         if (told.empty()) {
+                         if (reported.empty()) {
                              EXPECT_EQ(status, usual);
                              EXPECT_EQ(found, all);
                          } else {
@@ -431,7 +431,7 @@ TEST_F(FailingCommits, GoOnWhereTheSystemMovesOneByteAtATime) {
     const std::vector<std::string> calls =
         withFailingCall(0, Fault::ShortTransfers, 0, [&] { commit(); });
 
-    EXPECT_EQ(told, 0);
+    EXPECT_EQ(reported, 0);
     EXPECT_EQ(folder.read("a.rtf"), whole);
     EXPECT_GT(calls.size(), whole.size());
 }

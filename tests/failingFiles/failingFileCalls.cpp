@@ -76,13 +76,13 @@ Function* systemFunction(const char* name) {
     return reinterpret_cast<Function*>(::dlsym(RTLD_NEXT, name));
 }
 
-/// What a call answers: when it is one that fails, `failure`, and otherwise what the system does.
+/// What a call returns: when it is one that fails, `failure`, and otherwise what the system does.
 template <class Call, class Result>
 Result unlessFailing(const char* name, Result failure, Call call) {
     return plan.fails(name) ? failure : call();
 }
 
-/// The same for a call that lets go of something, which it does even when it fails.
+/// The same for a call that releases something, which it does even when it fails.
 template <class Call>
 int evenIfFailing(const char* name, Call call) {
     const bool fails = plan.fails(name);

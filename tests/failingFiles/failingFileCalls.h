@@ -16,9 +16,9 @@ enum class Fault {
     ShortTransfers,
 };
 
-/// Runs an action with the call of that number (from 0) and those calls behind it that the fault
+/// Runs an action with the call of that number (from 0) and those calls after it that the fault
 /// take along failing. The calls of the library, the command and the C++ library count: opening,
-/// reading, writing, closing, renaming, removing and looking at files, folders and links. Answers
+/// reading, writing, closing, renaming, removing and looking at files, folders and links. Returns
 /// the calls that were made, by name.
 std::vector<std::string> withFailingCall(std::size_t number, Fault fault, int error,
                                          const std::function<void()>& action);

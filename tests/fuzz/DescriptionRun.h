@@ -14,7 +14,7 @@
 
 namespace quorvane {
 
-inline std::string toldText(const ToldError& error) {
+inline std::string errorText(const ToldError& error) {
     return std::to_string(error.number) + " in line " + std::to_string(error.line) + ": " +
            error.description + " (" + error.source + ")\n";
 }
@@ -52,10 +52,10 @@ public:
         return events_ + renderedTwice(*document());
     }
 
-    /// What the stylesheet that was loaded last comes to as its rules are told.
+    /// What the rules make of the stylesheet that was loaded last.
     const plain::StyleSheet& styles() const { return styles_; }
 
-    /// Loads a stylesheet; the error that it gives, told as events are.
+    /// Loads a stylesheet; returns the error that it gives, as an event shows it.
     std::string styleSheetError(std::string_view text) {
         events_.clear();
         styles_ = plain::StyleSheet(std::string(text));
@@ -68,7 +68,7 @@ public:
     }
 
 private:
-    void note(const RtfError& error) { events_ += toldText(told(error)); }
+    void note(const RtfError& error) { events_ += errorText(told(error)); }
 
     FakePlatform platform_;
     Ref<CRtfDriver> driver_ = CRtfDriver::create(platform_);
@@ -77,21 +77,21 @@ private:
 };
 
 /// What the run made of the text, its errors and its document, is what the steps of an analysis
-/// are told to make of it. The document is rendered by now, or could not be.
+/// state about it. The document is rendered by now, or could not be.
 inline void requirePlainAnalysis(DescriptionRun& run, std::string_view text) {
     const Ref<CRtfDoc> document = run.document();
     plain::Analysis analysis(std::string(text), run.driver().ErroneousInput(), *document,
                              run.styles());
     std::string errors;
     for (const ToldError& error : analysis.errors) {
-        errors += toldText(error);
+        errors += errorText(error);
     }
-    requireEqual(run.events(), errors, "an analysis reports the errors that are told");
+    requireEqual(run.events(), errors, "an analysis reports the expected errors");
     const bool isMade = analysis.document->refresh();
-    require(isMade != document->Changed(), "a document can be rendered when it is told so");
+    require(isMade != document->Changed(), "a document can be rendered when the rules say so");
     if (isMade) {
         requireEqual(document->Contents(), analysis.document->contents,
-                     "a description's document is the one that is told");
+                     "a description gives the expected document");
     }
 }
 

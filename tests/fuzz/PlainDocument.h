@@ -20,7 +20,7 @@
 #include "tests/docmodel/fixedGroups.h"
 #include "tests/fuzz/plainStyleSheet.h"
 
-// A document as its rules are told, with no regard to speed: what the fuzzers compare the library
+// A document as its rules state it, without regard to speed: what the fuzzers compare the library
 // with. Where a call is to fail, the number of its error is thrown.
 
 namespace quorvane::plain {

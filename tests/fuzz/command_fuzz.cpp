@@ -18,16 +18,16 @@
 #include <vector>
 
 #include "cli/CheckJob.h"
-#include "cli/Diagnostic.h"
-#include "cli/FindingExcerpt.h"
+#include "cli/DiagnosticExcerpt.h"
 #include "cli/FormatJob.h"
 #include "cli/RenderJob.h"
+#include "cli/ReportedError.h"
 #include "cli/UsageError.h"
 #include "cli/commandLine.h"
 #include "cli/diagnosticJson.h"
 #include "cli/diagnosticText.h"
-#include "cli/findingJson.h"
-#include "cli/findingText.h"
+#include "cli/errorJson.h"
+#include "cli/errorText.h"
 #include "tests/fuzz/FuzzInput.h"
 #include "tests/fuzz/plainRendering.h"
 #include "tests/fuzz/require.h"
@@ -46,7 +46,7 @@ public:
         require(::mkdtemp(name.data()) != nullptr, "there is a folder to work in");
         path_ = name;
         files::current_path(path_);
-        // The command reads standard input and writes to standard output when told to.
+        // The command reads standard input and writes to standard output when asked to.
         ::dup2(::open("/dev/null", O_RDONLY | O_CLOEXEC), STDIN_FILENO);
         ::dup2(::open("/dev/null", O_WRONLY | O_CLOEXEC), STDOUT_FILENO);
     }
@@ -122,18 +122,18 @@ void requireSameFiles(const plain::Files& actual, const plain::Files& expected,
     }
 }
 
-/// Renders, and requires that it comes to what the rules tell of such a run.
-int rendered(const cli::RenderOptions& options, const cli::DiagnosticSink& tell) {
+/// Renders, and requires the outcome that the rules state for such a run.
+int rendered(const cli::RenderOptions& options, const cli::ErrorSink& report) {
     const plain::Files inputs = filesThere();
     std::string lines;
     const auto run = [&] {
-        const auto note = [&](const cli::Diagnostic& diagnostic) {
-            lines += plain::toldLine(diagnostic.file, told(diagnostic.error));
-            tell(diagnostic);
+        const auto note = [&](const cli::ReportedError& diagnostic) {
+            lines += plain::errorLine(diagnostic.file, told(diagnostic.error));
+            report(diagnostic);
         };
         const auto status = static_cast<int>(cli::RenderJob(options, {note}).run());
         require(status <= 2, "there are three exit statuses of rendering");
-        require((status == 0) == lines.empty(), "a run fails when it has something to tell");
+        require((status == 0) == lines.empty(), "a run fails when it reports something");
         return status;
     };
     if (!plain::Rendering::covers(options)) {
@@ -148,8 +148,8 @@ int rendered(const cli::RenderOptions& options, const cli::DiagnosticSink& tell)
         refusal = error;
     }
     require(refusal.has_value() == expected.isRefused, "the command refuses what it cannot do");
-    requireEqual(lines, expected.told, "the command tells the errors of an analysis");
-    require(status == expected.status, "the exit status tells what there was");
+    requireEqual(lines, expected.reported, "the command reports the errors of an analysis");
+    require(status == expected.status, "the exit status says what was reported");
     requireSameFiles(filesThere(), expected.files, "the command writes the documents alone");
     if (refusal) {
         throw cli::UsageError(*refusal);
@@ -159,12 +159,12 @@ int rendered(const cli::RenderOptions& options, const cli::DiagnosticSink& tell)
 
 /// Checks, and requires that files change only when they are fixed, and only the first time. Adds
 /// what is for standard output to the text.
-int checked(const cli::CheckOptions& options, const cli::FindingSink& find,
-            const cli::DiagnosticSink& tell, std::string& text) {
+int checked(const cli::CheckOptions& options, const cli::DiagnosticSink& find,
+            const cli::ErrorSink& report, std::string& text) {
     const plain::Files before = filesThere();
     const auto write = [&text](std::string_view bytes) { text += bytes; };
     const auto status =
-        static_cast<int>(cli::CheckJob(options, find, tell, systemPlatform(), write).run());
+        static_cast<int>(cli::CheckJob(options, find, report, systemPlatform(), write).run());
     const plain::Files after = filesThere();
     if (!options.fixes || options.showsDiff) {
         requireSameFiles(after, before, "a check changes no file");
@@ -198,15 +198,15 @@ void requireSameWhenLocated(const std::vector<std::string>& arguments, int expec
     }
     std::string reported;
     cli::RenderReceivers receivers;
-    receivers.report = [&](const cli::Diagnostic& diagnostic) {
-        reported += cli::diagnosticText(diagnostic) + "\n";
+    receivers.report = [&](const cli::ReportedError& diagnostic) {
+        reported += cli::errorText(diagnostic) + "\n";
     };
     receivers.locate = [&](const std::string& file, const Diagnostic& diagnostic,
                            const cli::FileWindow& window) {
         require(diagnostic.severity == Severity::Error || options->failOn == cli::FailOn::Warning,
                 "what makes a rendering fail is an error");
-        reported += cli::findingText(file, diagnostic, cli::excerptAt(diagnostic.place, window),
-                                     cli::Colors::Off);
+        reported += cli::diagnosticText(file, diagnostic, cli::excerptAt(diagnostic.place, window),
+                                        cli::Colors::Off);
     };
     int status = -1;
     try {
@@ -219,7 +219,7 @@ void requireSameWhenLocated(const std::vector<std::string>& arguments, int expec
             "a run fails when it has something to report");
 }
 
-/// What a run comes to: its status, what it tells, and the files that are there.
+/// What a run comes to: its status, what it reports, and the files that are there.
 std::string outcome(const std::vector<std::string>& arguments) {
     std::string text;
     int status = -1;
@@ -229,28 +229,29 @@ std::string outcome(const std::vector<std::string>& arguments) {
             require(!information->text.empty(), "there is something to know");
             return information->text;
         }
-        const auto tell = [&](const cli::Diagnostic& diagnostic) {
-            const std::string line = cli::diagnosticText(diagnostic);
-            const std::string json = cli::diagnosticJson(diagnostic);
+        const auto report = [&](const cli::ReportedError& diagnostic) {
+            const std::string line = cli::errorText(diagnostic);
+            const std::string json = cli::errorJson(diagnostic);
             require(line.find('\n') == std::string::npos, "a diagnostic is one line");
             require(json.find('\n') == std::string::npos, "a JSON diagnostic is one line");
             text += line + "\n" + json + "\n";
         };
         if (const auto* check = std::get_if<cli::CheckOptions>(&request)) {
-            const auto find = [&text](const std::string& file, const Diagnostic& finding,
+            const auto find = [&text](const std::string& file, const Diagnostic& diagnostic,
                                       const cli::FileWindow& window) {
-                const std::string line = cli::findingJson(file, finding);
-                require(line.find('\n') == std::string::npos, "a JSON finding is one line");
-                text += line + "\n" +
-                        cli::findingText(file, finding, cli::excerptAt(finding.place, window),
-                                         cli::Colors::Off);
+                const std::string line = cli::diagnosticJson(file, diagnostic);
+                require(line.find('\n') == std::string::npos, "a diagnostic in JSON is one line");
+                text +=
+                    line + "\n" +
+                    cli::diagnosticText(file, diagnostic, cli::excerptAt(diagnostic.place, window),
+                                        cli::Colors::Off);
             };
-            status = checked(*check, find, tell, text);
+            status = checked(*check, find, report, text);
         } else if (const auto* format = std::get_if<cli::FormatOptions>(&request)) {
             const auto write = [&text](const std::string& output) { text += output; };
-            status = static_cast<int>(cli::FormatJob(*format, write, tell).run());
+            status = static_cast<int>(cli::FormatJob(*format, write, report).run());
         } else {
-            status = rendered(std::get<cli::RenderOptions>(request), tell);
+            status = rendered(std::get<cli::RenderOptions>(request), report);
         }
         require(status >= 0 && status <= 3, "there are four exit statuses");
     } catch (const cli::UsageError& error) {
@@ -279,7 +280,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string first = outcome(arguments);
     const plain::Files filesAfter = filesThere();
     folder.fill(contents);
-    requireEqual(outcome(arguments), first, "the same run tells the same");
+    requireEqual(outcome(arguments), first, "the same run reports the same");
     requireSameFiles(filesThere(), filesAfter, "the same run writes the same");
     folder.fill(contents);
     requireSameWhenLocated(arguments, statusIn(first), filesAfter);

@@ -71,7 +71,7 @@ inline std::string renderedTwice(CRtfDoc& document) {
     return first;
 }
 
-/// A committed file holds what `Contents` answers.
+/// A committed file holds what `Contents` returns.
 inline void requireSameWhenCommitted(CRtfDoc& document, FakePlatform& platform) {
     document.Commit("committed.rtf");
     require(platform.files["committed.rtf"] == codePage1252FromUtf8(document.Contents()),

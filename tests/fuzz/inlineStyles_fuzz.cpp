@@ -1,5 +1,5 @@
 // Any text with inline styles, and any words of the styles in it: what the walk gives is what it
-// gives when it is walked as it is told. Four formats stand first, with form feeds behind them.
+// gives when it is walked step by step. Four formats stand first, each followed by a form feed.
 
 #include <cstddef>
 #include <cstdint>

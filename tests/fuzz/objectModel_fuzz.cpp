@@ -1,4 +1,4 @@
-// Any sequence of calls on documents, rows, cells and paragraphs, held and let go of in any order.
+// Any sequence of calls on documents, rows, cells and paragraphs, held and released in any order.
 // Each call has the result or the error that it has on a plain document, and so have the texts and
 // the errors that reach the error module only.
 
@@ -64,7 +64,7 @@ bool both(Call&& call, Plain&& plain) {
     if (actual != expected) {
         std::fprintf(stderr, "error %d, should be %d\n", actual, expected);
     }
-    require(actual == expected, "a call has the error that it is told to have");
+    require(actual == expected, "a call raises the expected error");
     return actual == 0;
 }
 
@@ -81,7 +81,7 @@ public:
              i < mostCalls && !input_.isEmpty() && failedRenderings_ < mostFailedRenderings; ++i) {
             call();
             keepCells();
-            requireEqual(observed_, absorbed_, "the error module is told of the errors it is to");
+            requireEqual(observed_, absorbed_, "the error module receives the expected errors");
         }
         for (auto& document : documents_) {
             checkText(document);
@@ -176,7 +176,7 @@ private:
         held.plain->rows->owner = held.plain;
         held.plain->rows->original = held.original->TableRows().get();
         held.original->setAbsorbedErrorObserver([this](const AbsorbedError& absorbed) {
-            observed_ += toldAbsorbed(absorbed.error.number, absorbed.procedureName);
+            observed_ += absorbedError(absorbed.error.number, absorbed.procedureName);
         });
         if (input_.flag()) {
             held.original->LoadStyleSheetFromMemmory(styleSheet);
@@ -347,10 +347,10 @@ private:
         require(document.Changed() == plain.changed, "a document is changed when something did");
         require(document.BottomMargin() == plain.bottom && document.LeftMargin() == plain.left &&
                     document.TopMargin() == plain.top && document.RightMargin() == plain.right,
-                "margins are as they are told");
+                "margins are as expected");
         require(document.PageWidth() == plain.width && document.PageHeight() == plain.height &&
                     document.PageNumberStart() == plain.pageNumber,
-                "a page is as it is told");
+                "a page is as expected");
         std::int32_t actual = 0;
         std::int32_t expected = 0;
         both([&] { actual = document.TextAreaWidth(); }, [&] { expected = plain.usableWidth(); });
@@ -367,11 +367,11 @@ private:
         const CRtfDoc& document = *held.original;
         const plain::Document& plain = *held.plain;
         requireEqual(document.GetParagraphStyle(name), plain.paragraphStyle(name),
-                     "a paragraph style has the words that are told");
+                     "a paragraph style has the expected words");
         requireEqual(document.GetCharacterStyle(name), plain.styles.characterWords(name),
-                     "a character style has the words that are told");
+                     "a character style has the expected words");
         require(document.getCellStyleBackColor(name) == plain.styles.cellColor(name),
-                "a cell style has the colour that is told");
+                "a cell style has the expected color");
     }
 
     void loadStyles(const HeldDocument& held) {
@@ -407,7 +407,7 @@ private:
         platform_.repair("readFile");
     }
 
-    static std::string toldAbsorbed(std::int32_t number, const std::string& procedure) {
+    static std::string absorbedError(std::int32_t number, const std::string& procedure) {
         return std::to_string(number) + " in " + procedure + "\n";
     }
 
@@ -425,15 +425,15 @@ private:
         both([&] { held.original->Commit(path); },
              [&] {
                  if (held.plain->changed && !held.plain->refresh()) {
-                     absorbed_ += toldAbsorbed(6, "Commit");
+                     absorbed_ += absorbedError(6, "Commit");
                  } else if (failing == "deleteFile" && isThere) {
-                     absorbed_ += toldAbsorbed(number, "saveStringToFile");
+                     absorbed_ += absorbedError(number, "saveStringToFile");
                      if (number == 75) {
                          throw number;
                      }
-                     absorbed_ += toldAbsorbed(number, "Commit");
+                     absorbed_ += absorbedError(number, "Commit");
                  } else if (!failing.empty() && failing != "deleteFile") {
-                     absorbed_ += toldAbsorbed(number, "saveString");
+                     absorbed_ += absorbedError(number, "saveString");
                  } else {
                      isWritten = true;
                  }
@@ -452,10 +452,10 @@ private:
     /// The text that is there, or made because it is stale.
     void checkContents(const HeldDocument& held) {
         if (held.plain->changed && !held.plain->refresh()) {
-            absorbed_ += toldAbsorbed(6, "Contents");
+            absorbed_ += absorbedError(6, "Contents");
         }
         requireEqual(held.original->Contents(), held.plain->contents,
-                     "a document's text is the one that is told");
+                     "a document has the expected text");
         countFailure(held);
     }
 
@@ -470,11 +470,11 @@ private:
         if (!isMade) {
             // By Refresh and by Contents, twice.
             for (const char* procedure : {"Refresh", "Contents", "Refresh", "Contents"}) {
-                absorbed_ += toldAbsorbed(6, procedure);
+                absorbed_ += absorbedError(6, procedure);
             }
         }
         countFailure(held);
-        requireEqual(text, held.plain->contents, "a document's text is the one that is told");
+        requireEqual(text, held.plain->contents, "a document has the expected text");
         if (countsRows_ && isMade && !holdsRowWords(held.plain->styles.group())) {
             requireBalancedRows(*held.original, text);
         }
@@ -523,7 +523,7 @@ private:
             default:
                 cellLists_.push_back({row.TableCells(), plain::CellsView(held.plain)});
         }
-        require(row.BackColor() == plain.backColor, "a colour is as it was set");
+        require(row.BackColor() == plain.backColor, "a color is as it was set");
         checkBorders(row, plain.borders);
         require(row.Parent().get() == (document ? document->original : nullptr),
                 "a row knows its document as long as it is there");
@@ -568,7 +568,7 @@ private:
                 std::int32_t expected = 0;
                 both([&] { actual = cell.Width(units); },
                      [&] { expected = plain::widthOf(plain, units); });
-                require(actual == expected, "a width is the one that is told");
+                require(actual == expected, "a width is the expected one");
                 break;
             }
             case 5:
@@ -590,7 +590,7 @@ private:
                 if (const auto digits = plain::fieldData(data)) {
                     plain.field = digits;
                 } else if (document) {
-                    absorbed_ += toldAbsorbed(-2147219990, "asMarkedField");
+                    absorbed_ += absorbedError(-2147219990, "asMarkedField");
                 }
                 break;
             }
@@ -756,7 +756,7 @@ private:
         if (both([&] { element = original->Item(which); },
                  [&] { position = view.list().position(which, 13); })) {
             require(element.get() == view.list().at(position)->original,
-                    "an index names the element that is told");
+                    "an index names the expected element");
             elements.push_back({element, view.list().at(position)});
         }
     }
@@ -783,7 +783,7 @@ private:
                  expected = view.list().positionOf(element.plain.get());
              });
         require(actual == static_cast<std::int32_t>(expected),
-                "an element has the position that is told");
+                "an element has the expected position");
     }
 
     template <class Original, class View, class Elements>
@@ -835,7 +835,7 @@ private:
                     hold(element, list.at(position));
                 }
             }
-            require(element.get() == plain.original, "an element stands where it is told");
+            require(element.get() == plain.original, "an element stands where it is expected");
             const auto& key = list.entries[position - 1].key;
             require(!key || original.Item(*key).get() == plain.original, "a key names its element");
         }
@@ -859,7 +859,7 @@ private:
     std::vector<Held<CRtfParagraphs, plain::ParagraphsView>> paragraphLists_;
     std::size_t nextKind_ = 0;
     int failedRenderings_ = 0;
-    // The errors that the error module was told of, and those that it is to be told of.
+    // The errors that the error module received, and those that it should receive.
     std::string observed_;
     std::string absorbed_;
 };

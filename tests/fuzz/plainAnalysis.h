@@ -16,7 +16,7 @@
 #include "tests/driver/plainReader.h"
 #include "tests/fuzz/PlainDocument.h"
 
-// An analysis as its steps are told, with no regard to speed: the description read into a tree,
+// An analysis as its steps are stated, without regard to speed: the description read into a tree,
 // checked and built into a plain document.
 
 namespace quorvane::plain {

@@ -23,7 +23,7 @@
 #include "tests/fuzz/documentChecks.h"
 #include "tests/fuzz/plainAnalysis.h"
 
-// What a run of `render` comes to as the command's rules are told: every description by itself,
+// What a run of `render` comes to as the command's rules state it: every description by itself,
 // analysed as `plainAnalysis.h` does it, and refused for what the check finds.
 
 namespace quorvane::plain {
@@ -31,9 +31,9 @@ namespace quorvane::plain {
 /// The files of a folder by their names, and those in folders in it by their paths.
 using Files = std::map<std::string, std::string>;
 
-/// What is told of an error: the file, the line and the number, and what went wrong where that is
-/// known beforehand.
-inline std::string toldLine(const std::string& file, const ToldError& error) {
+/// What is reported about an error: the file, the line and the number, and what went wrong where
+/// that is known beforehand.
+inline std::string errorLine(const std::string& file, const ToldError& error) {
     return file + ":" + std::to_string(error.line) + ": " + std::to_string(error.number) + " " +
            error.description + "\n";
 }
@@ -54,7 +54,7 @@ public:
         }
     }
 
-    /// Whether a run is one of those that are told here.
+    /// Whether a run is one of those that are modeled here.
     static bool covers(const cli::RenderOptions& options) {
         static const std::set<std::string> descriptions = {"a.rtfspec", "b.rtfspec"};
         static const std::set<std::string> outputs = {"a.rtf",     "b.rtf",      "c.rtf",
@@ -67,11 +67,11 @@ public:
                options.outputFolder.value_or("out") == "out";
     }
 
-    /// The command does not begin: nothing is told of any file, and none is changed.
+    /// The command does not begin: nothing is reported about any file, and none is changed.
     bool isRefused = false;
     int status = 0;
     /// A line for each error, in their order.
-    std::string told;
+    std::string reported;
     /// All that is there afterwards.
     Files files;
 
@@ -98,7 +98,7 @@ private:
                            });
     }
 
-    /// Tells the diagnostics for which the check refuses a file in one line.
+    /// Reports the diagnostics for which the check refuses a file in one line.
     void refuse(const std::string& file, const std::vector<Diagnostic>& diagnostics,
                 bool hasErrors) {
         static const std::set<std::string_view> corrupting = {"unbalanced-brace", "lone-backslash"};
@@ -115,7 +115,7 @@ private:
         if (reasons.empty()) {
             return;
         }
-        tell(file, lineFor(reasons), 1);
+        report(file, lineFor(reasons), 1);
     }
 
     /// The first of several diagnostics, and how many there are.
@@ -137,22 +137,22 @@ private:
             return true;
         }
         if (const auto binary = findNotATextFile(inputs.at("style.rtfss"))) {
-            tell("style.rtfss", lineFor({*binary}), 1);
+            report("style.rtfss", lineFor({*binary}), 1);
             return false;
         }
         if (!isChecked()) {
             return true;
         }
         const std::string sheet = utf8FromCodePage1252(inputs.at("style.rtfss"));
-        const std::string before = told;
+        const std::string before = reported;
         refuse("style.rtfss",
                withoutIgnored(checkStyleSheet(sheet), sheet, CheckedLanguage::StyleSheet),
                !StyleSheet(sheet).isLoaded());
-        return told == before;
+        return reported == before;
     }
 
-    void tell(const std::string& file, const ToldError& error, int worth) {
-        told += toldLine(file, error);
+    void report(const std::string& file, const ToldError& error, int worth) {
+        reported += errorLine(file, error);
         status = std::max(status, worth);
     }
 
@@ -165,29 +165,30 @@ private:
             styles = StyleSheet(sheet);
             errorOfCall([&] { original->LoadStyleSheetFromMemmory(sheet); });
             if (!styles.isLoaded()) {
-                tell("style.rtfss",
-                     driverErrorOf(eWrongFileType, "style.rtfss isn't a valid stylesheet.", ""), 1);
+                report("style.rtfss",
+                       driverErrorOf(eWrongFileType, "style.rtfss isn't a valid stylesheet.", ""),
+                       1);
                 isWell = false;
             }
         }
         Analysis analysis(utf8FromCodePage1252(inputs.at(description)), options_.check, *original,
                           styles);
         for (const ToldError& error : analysis.errors) {
-            tell(description, error, 1);
+            report(description, error, 1);
             isWell = false;
         }
         if (isChecked()) {
-            const std::string before = told;
+            const std::string before = reported;
             check(description, inputs, !analysis.errors.empty());
-            isWell = isWell && told == before;
+            isWell = isWell && reported == before;
         }
         if (isWell) {
             write(outputOf(description), *analysis.document);
         } else if (options_.keepGoing && analysis.document->rows->rows.entries.empty()) {
-            tell(description,
-                 {5, "Nothing could be built; " + outputOf(description) + " was not written.", "",
-                  0},
-                 1);
+            report(description,
+                   {5, "Nothing could be built; " + outputOf(description) + " was not written.", "",
+                    0},
+                   1);
         } else if (options_.keepGoing) {
             write(outputOf(description), *analysis.document);
         }
@@ -215,7 +216,7 @@ private:
             return;
         }
         if (!document.refresh()) {
-            tell(output, {6, "Overflow", "", 0}, 2);
+            report(output, {6, "Overflow", "", 0}, 2);
             return;
         }
         files[output] = codePage1252FromUtf8(document.contents);

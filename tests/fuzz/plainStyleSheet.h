@@ -9,7 +9,7 @@
 
 #include "quorvane/base/text/textCase.h"
 
-// Stylesheets as their rules are told, with no regard to speed: texts are read character by
+// Stylesheets as their rules state them, without regard to speed: texts are read character by
 // character, entries searched one by one and texts joined.
 
 namespace quorvane::plain {

@@ -114,7 +114,7 @@ void checkReading(const std::string& text, const std::string& other, const Plain
         codes += field.code;
         areEmpty = areEmpty && field.content.find_first_not_of(' ') == std::string::npos;
     }
-    requireEqual(record.GetDelims(), codes, "the codes stand behind each ^");
+    requireEqual(record.GetDelims(), codes, "the codes follow each ^");
     require(record.AllSubFieldsEmpty() == (text.empty() || areEmpty), "blanks are nothing");
     require(joined(record.GetSubFields()) == (isFormatted ? text : ""),
             "the subfields joined are the text");

@@ -1,5 +1,5 @@
 // Any text as a stylesheet, from memory and from a file, for the document and for the driver: it
-// has the error that its grammar tells, or the styles and the group that the plain steps make of
+// has the error that its grammar states, or the styles and the group that the plain steps make of
 // it.
 
 #include <cstddef>
@@ -23,21 +23,21 @@ public:
     void markChanged() noexcept override {}
 };
 
-/// What a table answers that a document does not hand on.
+/// What a table returns that a document does not pass on.
 void requirePlainTable(std::string_view text, const std::vector<std::string>& names,
                        const plain::StyleSheet& plain) {
     NoOwner owner;
     FakePlatform platform;
     CRtfGrpStyleSheetTable table(owner, platform);
     require(errorOfCall([&] { table.loadStyleSheetFromMemory(text); }) == plain.error().number,
-            "a table has the error that the grammar tells");
+            "a table has the error that the grammar states");
     for (const std::string& name : names) {
         requireEqual(table.GetParagraphStyle(name), plain.paragraphWords(name),
-                     "a table has the words of a paragraph style that are told");
+                     "a table has the expected words of a paragraph style");
         requireEqual(table.GetMarkedFieldStyle(name), plain.cellFormat(name),
-                     "a cell style has the format that is told");
+                     "a cell style has the expected format");
         require(table.IsStyleDefined(name) == plain.isDefined(name),
-                "a style is there when it is told to be");
+                "a style exists when it is expected to");
     }
 }
 
@@ -49,22 +49,22 @@ void requirePlainStyles(CRtfDoc& document, const std::vector<std::string>& names
     plainDocument.styles = plain;
     for (const std::string& name : names) {
         requireEqual(document.GetParagraphStyle(name), plainDocument.paragraphStyle(name),
-                     "a paragraph style has the words that are told");
+                     "a paragraph style has the expected words");
         requireEqual(document.GetCharacterStyle(name), plain.characterWords(name),
-                     "a character style has the words that are told");
+                     "a character style has the expected words");
         require(document.getCellStyleBackColor(name) == plain.cellColor(name),
-                "a cell style has the colour that is told");
+                "a cell style has the expected color");
     }
     plainDocument.refresh();
     requireEqual(renderedTwice(document), plainDocument.contents,
-                 "a document holds the group that is told");
+                 "a document holds the expected group");
 }
 
-/// The error of a sheet in the form that a run tells it.
-std::string toldError(const plain::StyleSheet& plain) {
+/// The error of a stylesheet in the form that a run reports it.
+std::string statedError(const plain::StyleSheet& plain) {
     return plain.error().number == 0
                ? ""
-               : toldText({plain.error().number, plain.error().description, "", 0});
+               : errorText({plain.error().number, plain.error().description, "", 0});
 }
 
 }  // namespace
@@ -86,8 +86,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     DescriptionRun run(false);
     // The second time the first styles are there already.
     for (int i = 0; i < 2; ++i) {
-        requireEqual(run.styleSheetError(text), toldError(plain),
-                     "a stylesheet has the error that its grammar tells");
+        requireEqual(run.styleSheetError(text), statedError(plain),
+                     "a stylesheet has the error that its grammar states");
         requirePlainStyles(*run.document(), names, plain);
     }
     requirePlainTable(text, names, plain);

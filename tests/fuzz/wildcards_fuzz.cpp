@@ -48,7 +48,7 @@ std::optional<bool> isInList(const Codes& list, char32_t code) {
 }
 
 /// A table of which beginnings of the pattern fit which beginnings of the text; nothing for a
-/// pattern that is none.
+/// invalid pattern.
 std::optional<bool> plainMatch(const Codes& pattern, const Codes& text) {
     std::vector<bool> fits(text.size() + 1, false);
     fits[0] = true;
@@ -102,7 +102,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         bool matches = false;
         const std::int32_t error =
             errorOfCall([&] { matches = matchesWildcards(pieces[i], pattern); });
-        require(error == (expected ? 0 : 5), "a pattern that is none is error 5");
+        require(error == (expected ? 0 : 5), "an invalid pattern is error 5");
         if (expected) {
             require(matches == *expected, "a pattern fits where its table says so");
             if (*expected && expectedPlace == CStringList::notFound) {

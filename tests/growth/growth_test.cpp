@@ -227,7 +227,7 @@ protected:
                              size);
     }
 
-    // One piece behind another one, each with a number of its own.
+    // One piece after another, each with a number of its own.
     static std::string numbered(const std::string& start, std::size_t count,
                                 const std::string& end) {
         std::string text;

@@ -28,7 +28,7 @@ expect() {
     said=$("$here/inspectLibrary.sh" "$folder/library.a" 2>&1)
     status=$?
     if [ "$said" != "${complaint:+$folder/library.a has $complaint}" ]; then
-        echo "with $*: expected \"$complaint\", was told \"$said\"" >&2
+        echo "with $*: expected \"$complaint\", got \"$said\"" >&2
         failed=1
     fi
     if [ "$status" -ne "$([ -z "$complaint" ]; echo $?)" ]; then

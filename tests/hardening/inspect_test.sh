@@ -32,7 +32,7 @@ expect() {
     said=$("$here/inspect.sh" "$folder/program" 2>&1)
     status=$?
     if [ "$said" != "${complaint:+$folder/program has $complaint}" ]; then
-        echo "with $*: expected \"$complaint\", was told \"$said\"" >&2
+        echo "with $*: expected \"$complaint\", got \"$said\"" >&2
         failed=1
     fi
     if [ "$status" -ne "$([ -z "$complaint" ]; echo $?)" ]; then

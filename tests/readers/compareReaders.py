@@ -16,7 +16,7 @@ NAMESPACES = {
     "text": "urn:oasis:names:tc:opendocument:xmlns:text:1.0",
 }
 SIDES = ("top", "right", "bottom", "left")
-# The measures of a page, and by how many twips LibreOffice tells them differently: it keeps
+# The measures of a page, and by how many twips LibreOffice reports them differently: it keeps
 # hundredths of a millimeter, and gives a paper that is almost a known one the size of that.
 PAGE_MEASURES = {"page-width": 3, "page-height": 3, "margin-top": 0.5, "margin-right": 0.5,
                  "margin-bottom": 0.5, "margin-left": 0.5}
@@ -49,7 +49,7 @@ def office_text(element):
 
 
 def format_of(font, size, color, **effects):
-    """A format in words such as "Arial 10 bold #990000"; a text without a colour is "automatic"."""
+    """A format in words such as "Arial 10 bold #990000"; a text without a color is "automatic"."""
     return " ".join([font, f"{size:g}", *(effect for effect, is_on in effects.items() if is_on),
                      color or "automatic"])
 
@@ -357,7 +357,7 @@ class Comparison:
             self.near(f"LibreOffice's {measure}", actual[measure], page[measure], tolerance)
 
     def edges(self, text, actual, row):
-        # It draws the last cell of a row up to the right edge of the table, and tells lengths with
+        # It draws the last cell of a row up to the right edge of the table, and reports lengths with
         # four digits.
         right = 0
         for number, (edge, cell) in enumerate(zip(actual[:-1], row)):
@@ -388,7 +388,7 @@ class Comparison:
 
         self.equal("AbiWord's texts", without_blanks(reader.texts),
                    without_blanks(model.texts(only_behind_line_breaks=True)))
-        # Colour 0, which a cell style without a ground gives, is black to it.
+        # Color 0, which a cell style without a ground gives, is black to it.
         expected = [["#000000" if cell["style"] and cell["fill"] == 0 else model.fill(cell)
                      for cell in row] for row in model.rows]
         self.equal("AbiWord's grounds", reader.fills, expected)

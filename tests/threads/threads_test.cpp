@@ -109,7 +109,7 @@ TEST(Threads, WorkOnDocumentsOfTheirOwnWithoutKnowingOfEachOther) {
     EXPECT_EQ(failures[1], "");
 }
 
-/// Raises an error, waits until the other thread raised its own, and answers the current one.
+/// Raises an error, waits until the other thread raised its own, and returns the current one.
 std::int32_t errorAfterTheOthers(const char* key, std::atomic<int>& raised) {
     const Ref<CRtfDoc> document = CRtfDoc::create();
     document->TableRows()->AddTail("key");

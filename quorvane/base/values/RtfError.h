@@ -7,8 +7,8 @@
 
 namespace quorvane {
 
-/// Numbers of the run-time errors that the library raises itself. They are below 65536; the errors
-/// of the driver have numbers of their own (see `tErrorLevel`).
+/// Numbers of the run-time errors that the library raises, all below 65536. The errors of the
+/// driver have other numbers (see `tErrorLevel`).
 enum class RunTimeError : std::int32_t {
     InvalidProcedureCall = 5,
     Overflow = 6,
@@ -27,31 +27,33 @@ enum class RunTimeError : std::int32_t {
     DuplicateKey = 457,
 };
 
-/// The one error type that crosses the library's borders.
+/// The error that all functions of the library throw.
 class RtfError : public std::exception {
 public:
+    /// An error with this number and description.
     RtfError(std::int32_t number, std::string description, std::string source = {});
 
     /// The run-time error with its standard description and no source.
     explicit RtfError(RunTimeError number);
 
-    /// The error's description.
+    /// Returns the description.
     const char* what() const noexcept override { return description.c_str(); }
 
-    /// True when the error is the given run-time error.
+    /// Returns whether this is the given run-time error.
     bool is(RunTimeError which) const noexcept {
         return number == static_cast<std::int32_t>(which);
     }
 
-    /// Error number, 32-bit signed: a run-time error number below 65536, or an automation error.
+    /// Number of the error: a run-time error below 65536, or -2147221504 plus a `tErrorLevel`.
+    /// Others come from automation objects.
     std::int32_t number;
-    /// What went wrong, for a person.
+    /// What went wrong, in words.
     std::string description;
-    /// The procedure that failed; empty when none is told.
+    /// The procedure that failed; often empty.
     std::string source;
-    /// The 1-based line of the description text that the error concerns; 0 when there is none.
+    /// The line of the description that the error is about, from 1; 0 if it is not about a line.
     int line = 0;
-    /// The error that lies behind this one; null when there is none.
+    /// The error that caused this one, or null.
     std::shared_ptr<const RtfError> cause;
 };
 

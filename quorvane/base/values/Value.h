@@ -13,7 +13,7 @@
 
 namespace quorvane {
 
-/// An optional argument that was not given.
+/// The value of an optional argument that was not given.
 struct Missing {
     bool operator==(const Missing&) const = default;
 };
@@ -28,20 +28,20 @@ struct Null {
     bool operator==(const Null&) const = default;
 };
 
-/// A date and time: days since 30 December 1899.
+/// A date and time, in days since 30 December 1899.
 struct Date {
     double days = 0;
     bool operator==(const Date&) const = default;
 };
 
-/// A dynamically typed value, as automation knows it: what a host may give where any type is taken,
-/// and what `CMap` keeps. Text is UTF-8.
+/// A value of any of the types of automation: the argument of a call that accepts any type, and
+/// what `CMap` keeps. Texts and numbers convert to it implicitly. Text is UTF-8.
 class Value {
 public:
     using Data = std::variant<Missing, Empty, Null, bool, std::int16_t, std::int32_t, float, double,
                               Date, std::string, std::shared_ptr<Object>>;
 
-    /// The Empty value.
+    /// A value of the argument's type; `Empty` without an argument.
     Value() : data_(Empty{}) {}
     Value(Missing) : data_(Missing{}) {}
     Value(Empty) : data_(Empty{}) {}
@@ -66,31 +66,36 @@ public:
     Value& operator=(Value&&) noexcept = default;
     ~Value() = default;
 
-    /// True for an argument that was not given, and for Empty.
+    /// Returns whether the value is `Missing` or `Empty`.
     bool isAbsent() const noexcept { return holds<Missing>() || holds<Empty>(); }
+    /// Returns whether the value is a text.
     bool isText() const noexcept { return holds<std::string>(); }
-    /// True for a 16-bit or 32-bit integer, a single and a double. A Boolean or a date is none.
+    /// Returns whether the value is a 16-bit or 32-bit integer, a float or a double. A Boolean and
+    /// a date are not numbers.
     bool isNumber() const noexcept;
 
-    /// The text; the value must be one.
+    /// Returns the text; the value must be a text.
     const std::string& text() const { return std::get<std::string>(data_); }
-    /// The number as a double; the value must be a number.
+    /// Returns the number as a double; the value must be a number.
     double number() const;
-    /// The object as a `T`; null when the value is something else.
+    /// Returns the object as a `T`; null if the value is anything else.
     template <class T>
     std::shared_ptr<T> object() const {
         const auto* reference = std::get_if<std::shared_ptr<Object>>(&data_);
         return reference ? std::dynamic_pointer_cast<T>(*reference) : nullptr;
     }
 
+    /// Returns whether the value has this type, such as `bool` or `Missing`.
     template <class T>
     bool holds() const noexcept {
         return std::holds_alternative<T>(data_);
     }
 
+    /// Returns the value as a `std::variant`.
     const Data& data() const noexcept { return data_; }
 
-    /// Numbers are equal by value whatever their kind, texts to the letter, objects by identity.
+    /// Numbers are equal by value, whatever their type; texts character by character; objects by
+    /// identity.
     bool operator==(const Value& other) const;
 
 private:

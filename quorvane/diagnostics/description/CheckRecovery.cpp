@@ -25,13 +25,13 @@ std::string missingOpenerHint(NodeKind parent, NodeKind kind, std::string_view o
     const std::string row = isShort ? "(r" : "(row";
     const std::string cell = isShort ? "(c" : "(cell";
     if (kind == NodeKind::Cell && parent == NodeKind::Doc) {
-        return row + " is missing before it";
+        return row + " is missing before this line";
     }
     if (kind == NodeKind::Para && parent == NodeKind::Row) {
-        return cell + " is missing before it";
+        return cell + " is missing before this line";
     }
     return kind == NodeKind::Para && parent == NodeKind::Doc
-               ? row + " and " + cell + " are missing before it"
+               ? row + " and " + cell + " are missing before this line"
                : std::string();
 }
 
@@ -60,13 +60,13 @@ void CheckRecovery::violation(const Violation& violation) {
 Hint CheckRecovery::hintFor(const Violation& violation) const {
     switch (violation.fault) {
         case DriverFault::DuplicateLeaf:
-            return std::string(violation.leaf->key.name) + " stands on line " +
-                   std::to_string(violation.leaf->line) + " already";
+            return std::string(violation.leaf->key.name) + " is already on line " +
+                   std::to_string(violation.leaf->line);
         case DriverFault::TooManyNodes:
             return tooManyHint(violation.kind);
         case DriverFault::WrongCloser:
             return violation.node
-                       ? "the " + std::string(nodeNoun(violation.node->kind)) + " of line " +
+                       ? "the " + std::string(nodeNoun(violation.node->kind)) + " on line " +
                              std::to_string(violation.node->line) + " is not closed"
                        : "no " + std::string(nodeNoun(violation.kind)) + " is open";
         default:
@@ -85,9 +85,9 @@ std::string CheckRecovery::tooManyHint(NodeKind kind) const {
     const std::string nodes = std::to_string(count) + " " + std::string(nodeNoun(kind)) + "s";
     return count <= limit
                ? "there are only " + nodes +
-                     ", but each closer that is missing skips numbers: close every node"
-               : "there are " + nodes + ", and " + std::to_string(limit) +
-                     " can be read: make several descriptions, or use the object model, which "
+                     ", but every missing closer skips numbers; close every node"
+               : "there are " + nodes + ", but only " + std::to_string(limit) +
+                     " can be read; split the description, or use the object model, which "
                      "has no limit";
 }
 

@@ -77,7 +77,7 @@ private:
             return "the last line must be doc)";
         }
         return behindByteOrderMark(violation.part).size() < violation.part.size()
-                   ? "the file begins with a mark of UTF-8: save it in Windows-1252"
+                   ? "the file begins with a UTF-8 byte order mark; save it in Windows-1252"
                    : Hint();
     }
 

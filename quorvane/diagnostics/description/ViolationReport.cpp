@@ -46,7 +46,7 @@ std::string_view withoutQuotes(std::string_view value) {
 Hint nameHint(const std::string& value, const std::vector<std::string_view>& names,
               std::string_view noun) {
     if (value.empty()) {
-        return "the value is missing: write none for no " + std::string(noun);
+        return "the value is missing; write none for no " + std::string(noun);
     }
     if (const std::string_view bare = withoutQuotes(value); bare.size() < value.size()) {
         return spellingHint(lowerCase(bare), names);
@@ -191,14 +191,14 @@ Hint ViolationReport::keyHint(const Violation& violation) const {
     const std::string_view written = violation.leaf->writtenKey;
     const std::string lower = lowerCase(written);
     if (lower != written && vocabulary_.isKeyOf(kind, vocabulary_.expand(lower))) {
-        return {"keys are written in lower case: " + lower, lower};
+        return {"write keys in lower case: " + lower, lower};
     }
     if (Hint hint = textFormatHint(kind, written, violation.leaf->text); !hint.empty()) {
         return hint;
     }
     for (const NodeKind other : nodeKinds) {
         if (contains(vocabulary_.keySetOf(other), violation.leaf->key.known)) {
-            return "a key of a " + std::string(nodeNoun(other)) + ", not of a " +
+            return "this is a key of a " + std::string(nodeNoun(other)) + ", not of a " +
                    std::string(nodeNoun(kind));
         }
     }
@@ -209,7 +209,7 @@ Hint ViolationReport::takenKeyHint(const Violation& violation) const {
     if (!violation.node) {
         return {};
     }
-    return "the " + std::string(nodeNoun(violation.node->kind)) + " of line " +
+    return "the " + std::string(nodeNoun(violation.node->kind)) + " on line " +
            std::to_string(violation.node->line) + " has the key " + violation.leaf->valueText();
 }
 

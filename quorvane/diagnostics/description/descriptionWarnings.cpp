@@ -115,8 +115,8 @@ private:
             engine_.report(DiagnosticId::CutValue, source_.placeOf(line.substr(0, last + 1)),
                            {line.substr(0, last)},
                            leaf.key.known == DescriptionKey::ParaText
-                               ? "write \\'29 for a ) in a text"
-                               : "this value can hold no )");
+                               ? "write \\'29 for a literal )"
+                               : "this value cannot contain a )");
         }
     }
 
@@ -140,7 +140,7 @@ private:
         findTextWarnings(leaf.text, TextUse::FieldData, styles_, source_, engine_);
         if (leaf.isNumber()) {
             report(DiagnosticId::RefusedMarkedField, leaf, {leaf.text},
-                   "put a letter in front: no " + std::string(leaf.text));
+                   "put a letter in front of the number: N" + std::string(leaf.text));
         }
     }
 
@@ -151,12 +151,12 @@ private:
         const std::string trimmed(trimWhitespace(name));
         if (trimmed != name && styles_->find(kind, trimmed) > 0) {
             styles_->markUsed(kind, trimmed);
-            return {"leave out the blank: the style is named " + trimmed, trimmed};
+            return {"remove the blank; the style is named " + trimmed, trimmed};
         }
         for (const StyleKind other :
              {StyleKind::Paragraph, StyleKind::Character, StyleKind::Cell}) {
             if (other != kind && styles_->find(other, name) > 0) {
-                return "it is a " + std::string(styleKindName(other)) + " style";
+                return std::string(name) + " is a " + std::string(styleKindName(other)) + " style";
             }
         }
         std::vector<std::string_view> names;
@@ -196,7 +196,7 @@ private:
             const StyleList& list = styles_->styles(StyleKind::Paragraph);
             report(DiagnosticId::UnknownParagraphStyle, leaf,
                    {name, list.empty() ? "the paragraph gets no format"
-                                       : list.at(1).name + " stands in for it"},
+                                       : list.at(1).name + " is used instead"},
                    styleHint(StyleKind::Paragraph, name));
         }
     }
@@ -238,7 +238,7 @@ private:
         for (const std::string_view name : open) {
             styles_->markUsed(StyleKind::Character, name);
             engine_.report(DiagnosticId::UnclosedInlineStyle, source_.placeOf(name), {name},
-                           "a > ends the text of the style: <" + std::string(name) + "=Total>");
+                           "write a > after the text: <" + std::string(name) + "=Total>");
         }
     }
 
@@ -423,13 +423,13 @@ private:
         trial->setRightMargin(right);
         if (left < 1 || isTinyMeasure("left-margin", left) || trial->LeftMargin() != left ||
             trial->RightMargin() != right) {
-            return "the cells are laid out before the page is set up: the paper must be wider than "
-                   "the table with its margins";
+            return "the cells are laid out before the page is set up; choose paper that is wider "
+                   "than "
+                   "the table and its margins";
         }
-        return "the cells are laid out before the page is set up, but their per cents count from "
-               "the page: (left-margin=" +
+        return "the cells are laid out before the page is set up; choose (left-margin=" +
                std::to_string(left) + ") and (right-margin=" + std::to_string(right) +
-               ") leave them " + std::to_string(table) + " twips";
+               ") to leave " + std::to_string(table) + " twips for them";
     }
 
     void findInCell(const BuiltTable::Cell& cell, std::span<const BuiltTable::Paragraph> paragraphs,

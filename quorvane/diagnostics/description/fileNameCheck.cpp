@@ -60,8 +60,8 @@ std::vector<Diagnostic> findNameMismatch(std::string_view bytes, CheckedLanguage
     const SourceText source(text);
     const std::string_view first = firstLineOf(text);
     const Place place = first.empty() ? Place{} : source.placeOf(first);
-    std::string hint = "the file reads as " + std::string(naming.noun) +
-                       ", which has the extension " + std::string(naming.extension);
+    std::string hint = "the file looks like " + std::string(naming.noun) +
+                       "; its extension should be " + std::string(naming.extension);
     const std::string loadingError = isNamedStyleSheet ? loadingErrorOf(text) : std::string();
     if (isNamedDescription) {
         engine.report(DiagnosticId::WrongFileType, place, {}, std::move(hint));

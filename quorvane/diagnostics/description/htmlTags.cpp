@@ -86,8 +86,8 @@ Hint hintFor(const std::string& name, std::string_view rest, const KnownStyles* 
         return formatHint(*tag, end == nowhere ? std::string_view() : rest.substr(0, end), styles);
     }
     return name == "p" || name == "div" || name == "li"
-               ? Hint("each paragraph is a node of its own: (p, (pt=words) and p)")
-               : Hint("styles format text: <strong=words> for words, (ps=heading) for a paragraph");
+               ? Hint("write each paragraph as a node: (p, (pt=words) and p)")
+               : Hint("use styles: <strong=words> for words, (ps=heading) for a paragraph");
 }
 
 }  // namespace

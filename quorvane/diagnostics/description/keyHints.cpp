@@ -37,22 +37,26 @@ constexpr MissingKey missingKeys[] = {
     {"landscape", true,
      "for landscape, paper-width is the longer side: (paper-width=16838) and "
      "(paper-height=11906) for A4"},
-    {"paper-size", true, "write both sides: (paper-width=11906) and (paper-height=16838) for A4"},
-    {"page-size", true, "write both sides: (paper-width=11906) and (paper-height=16838) for A4"},
-    {"format", true, "write both sides: (paper-width=11906) and (paper-height=16838) for A4"},
-    {"colspan", false, "cells do not span columns: a row with fewer cells has wider ones"},
-    {"col-span", false, "cells do not span columns: a row with fewer cells has wider ones"},
-    {"span", false, "cells do not span columns: a row with fewer cells has wider ones"},
-    {"rowspan", false, "cells do not span rows: leave the cells below empty"},
-    {"row-span", false, "cells do not span rows: leave the cells below empty"},
-    {"height", false, "a row is as high as its text: \\sb and \\sa in a style's format add space"},
+    {"paper-size", true,
+     "write the width and the height: (paper-width=11906) and (paper-height=16838) for A4"},
+    {"page-size", true,
+     "write the width and the height: (paper-width=11906) and (paper-height=16838) for A4"},
+    {"format", true,
+     "write the width and the height: (paper-width=11906) and (paper-height=16838) for A4"},
+    {"colspan", false, "cells cannot span columns; use fewer and wider cells in this row"},
+    {"col-span", false, "cells cannot span columns; use fewer and wider cells in this row"},
+    {"span", false, "cells cannot span columns; use fewer and wider cells in this row"},
+    {"rowspan", false, "cells cannot span rows; leave the cells below empty"},
+    {"row-span", false, "cells cannot span rows; leave the cells below empty"},
+    {"height", false,
+     "a row is as high as its text; \\sb and \\sa in the format of a style add space"},
     {"row-height", false,
-     "a row is as high as its text: \\sb and \\sa in a style's format add space"},
+     "a row is as high as its text; \\sb and \\sa in the format of a style add space"},
     {"cell-height", false,
-     "a row is as high as its text: \\sb and \\sa in a style's format add space"},
-    {"padding", false, "\\li, \\ri, \\sb and \\sa in a style's format add space"},
-    {"indent", false, "\\li in a style's format indents: \\li200 by 200 twips"},
-    {"para-indent", false, "\\li in a style's format indents: \\li200 by 200 twips"},
+     "a row is as high as its text; \\sb and \\sa in the format of a style add space"},
+    {"padding", false, "\\li, \\ri, \\sb and \\sa in the format of a style add space"},
+    {"indent", false, "\\li in the format of a style indents: \\li200 by 200 twips"},
+    {"para-indent", false, "\\li in the format of a style indents: \\li200 by 200 twips"},
 };
 
 /// The parts of a key between its "-", in the words of the keys, without the node's name, in an
@@ -103,9 +107,9 @@ Hint nearKeyHint(NodeKind kind, std::string_view word, const Vocabulary& vocabul
     if (meaning == std::vector<std::string>{"border"} && kind != NodeKind::Para &&
         kind != NodeKind::Doc) {
         const std::string node = kind == NodeKind::Row ? "row" : "cell";
-        return "each side has a border of its own: " + node +
-               "-top-border and -bottom-, -left-, "
-               "-right-border";
+        return "each side has its own border: " + node +
+               "-top-border, -bottom-border, "
+               "-left-border, -right-border";
     }
     return spellingHint(word, candidates);
 }

@@ -8,8 +8,8 @@ namespace quorvane {
 
 namespace {
 
-constexpr std::string_view inUtf8 = ": the file is in UTF-8";
-constexpr std::string_view ofOthers = " Other characters are misread too.";
+constexpr std::string_view inUtf8 = ", because the file is in UTF-8";
+constexpr std::string_view ofOthers = " Other characters are affected too.";
 
 bool isAboutMisreadCharacter(const Diagnostic& finding) {
     return (finding.id == DiagnosticId::Utf8Text ||
@@ -20,7 +20,7 @@ bool isAboutMisreadCharacter(const Diagnostic& finding) {
 }  // namespace
 
 std::string misreadText(std::string_view shown) {
-    return "is read as " + std::string(shown) + std::string(inUtf8);
+    return std::string(shown) + std::string(inUtf8);
 }
 
 void keepFirstMisreadCharacters(std::vector<Diagnostic>& findings) {

@@ -54,10 +54,9 @@ bool isInTwips(std::string_view key) {
 
 std::string acceptedNumber(std::string_view key) {
     if (isInTwips(key)) {
-        return "write a number of twips, 1440 of which are an inch and 567 a centimeter";
+        return "write a number of twips; an inch has 1440, a centimeter 567";
     }
-    return key == "cell-width" ? "write a number, per cent of the room between the page's margins, "
-                                 "without a sign"
+    return key == "cell-width" ? "write a percentage of the width between the margins, without a %"
                                : "write a number";
 }
 
@@ -81,8 +80,8 @@ Hint withoutComma(std::string_view key, std::string_view value) {
     }
     // Three digits behind a comma are thousandths to some and thousands to others.
     return value.size() - comma == 4
-               ? Hint("a number has no comma: write " + text + ", or " + withPoint)
-               : Hint("a number has no comma: write " + withPoint, withPoint);
+               ? Hint("write the number without a comma: " + text + " or " + withPoint)
+               : Hint("write a point instead of the comma: " + withPoint, withPoint);
 }
 
 Hint lengthHint(std::string_view key, double number, const Unit& unit, std::string_view value) {
@@ -92,8 +91,8 @@ Hint lengthHint(std::string_view key, double number, const Unit& unit, std::stri
         return acceptedNumber(key);
     }
     const std::string text = numberText(twips);
-    return {unit.twips == 1 ? "write the number alone: " + text
-                            : std::string(value) + " is " + text + " twips: write " + text,
+    return {unit.twips == 1 ? "write only the number: " + text
+                            : std::string(value) + " is " + text + " twips; write " + text,
             text};
 }
 
@@ -118,7 +117,7 @@ Hint withPointAndUnit(std::string_view key, std::string_view value) {
 
 Hint numberHint(std::string_view key, std::string_view value) {
     if (value.empty()) {
-        return "the value is missing: " + acceptedNumber(key);
+        return "the value is missing; " + acceptedNumber(key);
     }
     if (lowerCase(value) == "a4" && key.starts_with("paper-")) {
         return "A4 is 11906 twips wide and 16838 high";
@@ -128,7 +127,7 @@ Hint numberHint(std::string_view key, std::string_view value) {
     }
     if (value.find_first_not_of("+-.0123456789eE") == nowhere &&
         value.find_first_of("0123456789") != nowhere && value.find_first_of("eE") != nowhere) {
-        return "the number is too large, or is none: write its digits, without an exponent";
+        return "the number is too large or malformed; write its digits without an exponent";
     }
     const bool isQuoted = value.size() > 2 && value.front() == value.back() &&
                           (value.front() == '"' || value.front() == '\'');
@@ -149,11 +148,11 @@ Hint numberHint(std::string_view key, std::string_view value) {
         return written;
     }
     if (rest.starts_with(',')) {
-        return "a number has no comma, but at most one point: " + acceptedNumber(key);
+        return "a number has no comma and at most one decimal point; " + acceptedNumber(key);
     }
     if (rest == "%" && key == "cell-width") {
         const std::string alone(value.substr(0, end));
-        return {"write the number alone: " + alone, alone};
+        return {"write only the number: " + alone, alone};
     }
     if (const Unit* unit = unitNamed(rest)) {
         return lengthHint(key, *number, *unit, value);

@@ -210,7 +210,7 @@ std::string formatTextHint(std::string_view text, const RtfControl* before) {
     const bool takesNumber = before && !before->number;
     const std::size_t digits = std::min(text.find_first_not_of("0123456789"), text.size());
     if (takesNumber && digits > 0) {
-        return "no blank stands before the number: " + word + std::string(text.substr(0, digits));
+        return "remove the blank before the number: " + word + std::string(text.substr(0, digits));
     }
     if (takesNumber && (word == "\\cf" || word == "\\highlight" || word == "\\cb")) {
         std::string name = lowerCase(text);
@@ -221,20 +221,19 @@ std::string formatTextHint(std::string_view text, const RtfControl* before) {
     }
     if (before && before->number && text.size() > 1 && (text[0] == '.' || text[0] == ',') &&
         std::isdigit(static_cast<unsigned char>(text[1])) != 0) {
-        return "the number of a control word is a whole one";
+        return "the number of a control word must be a whole number";
     }
     if (const std::string meant = controlWordsMeant(text); !meant.empty()) {
         return "did you mean " + meant + "?";
     }
     if (text == ",") {
-        return "control words follow each other without a comma";
+        return "remove the comma between the control words";
     }
     if (before && before->number && lowerCase(text) == "pt") {
-        return word == "\\fs"
-                   ? "write \\fs and the number of half points alone: \\fs20 is 10 points"
-                   : "write the number alone: a unit is no part of it";
+        return word == "\\fs" ? "write the size in half points, without a unit: \\fs20 is 10 points"
+                              : "write the number without a unit";
     }
-    return "a format is made of control words, such as \\fs20\\b";
+    return "a format consists of control words, such as \\fs20\\b";
 }
 
 class TextWarnings {
@@ -326,8 +325,8 @@ private:
         for (const Part& part : nestedControls_) {
             at_ = part.at;
             report(DiagnosticId::TableControl, part.length, {text_.substr(at_, part.length)},
-                   "the rows of a table within a cell are whole where they stand in its text: each "
-                   "\\nestcell has its definition, and \\itap1 follows");
+                   "a nested table needs complete rows, with a definition for each \\nestcell, and "
+                   "\\itap1 after them");
         }
     }
 
@@ -336,10 +335,10 @@ private:
     /// `isSeen` is true for a brace that certainly is meant to be seen.
     Hint braceHint(char brace, bool isSeen) const {
         if (isOfStyleSheet()) {
-            return "a stylesheet has no braces but those around its definitions";
+            return "in a stylesheet, braces can only enclose definitions";
         }
         const std::string escaped = std::string("\\") + brace;
-        Hint hint("write " + escaped + " for a brace to be seen");
+        Hint hint("write " + escaped + " for a literal brace");
         if (isSeen) {
             hint.replacement = escaped;
         }
@@ -365,7 +364,7 @@ private:
 
     std::string backslashHint() const {
         return isOfStyleSheet() ? "a backslash begins a control word, such as \\b or \\fs20"
-                                : "write \\\\ for a backslash to be seen";
+                                : "write \\\\ for a literal backslash";
     }
 
     void takeCharacter() {
@@ -472,7 +471,7 @@ private:
         }
         const std::string_view group = text_.substr(at_, end + 1 - at_);
         report(DiagnosticId::HiddenBraces, group.size(), {},
-               "write \\{ and \\} for braces to be seen");
+               "write \\{ and \\} for literal braces");
     }
 
     void openGroup() {
@@ -516,7 +515,7 @@ private:
             addToInstruction(*character);
         }
         if (control.isBadEscape()) {
-            report(DiagnosticId::LoneBackslash, 2, {}, "two hexadecimal digits follow \\'");
+            report(DiagnosticId::LoneBackslash, 2, {}, "write two hexadecimal digits after \\'");
             swallowedEnd_ = at_ + 4;
             at_ += 2;
         } else if (isRtfSymbol(control.symbol)) {
@@ -541,7 +540,7 @@ private:
             report(DiagnosticId::UnknownControlWord, control.word.size() + 1, {"\\" + letters},
                    near.empty()       ? backslashHint()
                    : isOfStyleSheet() ? near
-                                      : near + " For a backslash to be seen write \\\\");
+                                      : near + " For a literal backslash, write \\\\");
         }
         at_ = std::min(at_ + control.length + binaryLengthAfter(control), text_.size());
     }
@@ -643,8 +642,8 @@ private:
             report(DiagnosticId::ControlCharacter, bytes.size(),
                    {numberedCharacter(character.code)}, "");
         } else if (codePage1252FromUtf8(bytes) == "?") {
-            report(DiagnosticId::UnencodableCharacter, bytes.size(),
-                   {bytes, "becomes a question mark"}, unicodeHint(character.code));
+            report(DiagnosticId::UnencodableCharacter, bytes.size(), {bytes, "?"},
+                   unicodeHint(character.code));
         }
         at_ += character.length;
     }

@@ -54,7 +54,7 @@ bool beginsLeaf(std::string_view rest, const Vocabulary& vocabulary) {
 /// What to do about a text that goes on after its first ")". Where the line ends with one more and
 /// each has its "(", it is certain which of them are text.
 Hint parenthesisHint(std::string_view line, std::size_t equals, const Vocabulary& vocabulary) {
-    const std::string words = "the value ends at the first ): write \\'29 for a ) in a text";
+    const std::string words = "the value ends at the first ); write \\'29 for a literal )";
     const std::string_view key = TrimEx(line.substr(1, equals - 1));
     const std::string_view text = line.substr(equals + 1, line.size() - equals - 2);
     std::ptrdiff_t open = 0;
@@ -83,17 +83,17 @@ SyntaxGuess guessLeaf(std::string_view line, std::size_t equals, const Vocabular
     guess.meant.line.type = LineType::Leaf;
     if (guess.meant.line.key.find('(') != nowhere) {
         guess.meant.line.type = LineType::Unreadable;
-        guess.hint = "each node and each key stands on a line of its own";
+        guess.hint = "write each node and each key on its own line";
     } else if (!isOpened) {
         guess.hint = "did you mean (" + std::string(line) + (close == nowhere ? ")?" : "?");
     } else if (close == nowhere) {
         guess.meant.goesOn = true;
         guess.hint =
-            "the ) is missing; a value ends on its own line: write \\line for a line break";
+            "the ) is missing; a value ends on its own line, so write \\line for a line break";
     } else if (line.find(')') < equals) {
-        guess.hint = "the key holds a )";
+        guess.hint = "the key contains a )";
     } else if (beginsLeaf(trimWhitespace(line.substr(close + 1)), vocabulary)) {
-        guess.hint = "each node and each key stands on a line of its own";
+        guess.hint = "write each node and each key on its own line";
     } else {
         guess.hint = parenthesisHint(line, equals, vocabulary);
     }
@@ -134,7 +134,7 @@ SyntaxGuess guessOpener(std::string_view line, const Vocabulary& vocabulary) {
     if (rest == ")") {
         guess.hint = "(" + name + " opens the node and " + name + ") closes it";
     } else if (!rest.empty() && rest.front() != ';') {
-        guess.hint = "nothing but a comment behind ; follows (" + name;
+        guess.hint = "only a comment, which begins with ;, can follow (" + name;
     } else {
         guess.hint = "did you mean (" + name + "?";
         if (isCertainNode(head, vocabulary)) {
@@ -174,7 +174,7 @@ SyntaxGuess guessCloser(std::string_view line, const Vocabulary& vocabulary) {
     guess.meant.line.type = LineType::Closer;
     guess.hint = vocabulary.nodeKind(head) == NodeKind::None || line[head.size()] != ')'
                      ? "did you mean " + name + ")?"
-                     : "nothing but a comment behind ; follows " + name + ")";
+                     : "only a comment, which begins with ;, can follow " + name + ")";
     const std::string_view rest = trimWhitespace(line.substr(head.size()));
     const std::string_view after =
         trimWhitespace(rest.substr(std::min<std::size_t>(1, rest.size())));

@@ -130,8 +130,8 @@ Hint widthOrderHint(const CellPercents& percents, std::int32_t room) {
             text += (text.empty() ? "" : ", ") + numberText(*percent);
         }
         return areAllGiven
-                   ? "in the order " + text + " all cells get their widths"
-                   : "with widths for all cells, in the order " + text + ", all of them get theirs";
+                   ? "in the order " + text + ", all cells get their widths"
+                   : "give all cells a width; in the order " + text + ", all of them get it";
     } catch (const RtfError&) {
         // Measures beyond 32 bits have no order.
         return {};

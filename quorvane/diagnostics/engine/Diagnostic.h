@@ -6,16 +6,12 @@
 #include <string>
 #include <utility>
 
+#include "quorvane/diagnostics/engine/DiagnosticId.h"
+
 namespace quorvane {
 
-/// Identifies a kind of finding: one enumerator for each row of the table of diagnostics.
-enum class DiagnosticId {
-#define QUORVANE_DIAGNOSTIC(id, ...) id,
-#include "quorvane/diagnostics/engine/diagnosticTable.h"
-};
-
-/// How much a finding weighs. An error is what the library rejects or a reader cannot make sense
-/// of; a warning is what is accepted and does not do what its author wants.
+/// How serious a diagnostic is. An error is what the library rejects or a reader cannot make sense
+/// of; a warning is what is accepted but does not do what its author wants.
 enum class Severity { Error, Warning };
 
 /// Where something stands in a text. Lines and columns begin with 1 and count characters; in a file
@@ -38,7 +34,7 @@ struct Fix {
     std::string replacement;
 };
 
-/// What could be done about a finding, in words; empty when nothing is known.
+/// What could be done about a diagnostic, in words; empty when nothing is known.
 struct Hint {
     Hint() = default;
     // NOLINTBEGIN(google-explicit-constructor): most hints are words alone.
@@ -55,7 +51,7 @@ struct Hint {
     std::optional<std::string> replacement;
 };
 
-/// One finding about a text.
+/// One problem in a text.
 struct Diagnostic {
     DiagnosticId id{};
     Severity severity = Severity::Error;
@@ -70,7 +66,7 @@ struct Diagnostic {
     bool isFixed = false;
 };
 
-/// Takes findings one after the other.
+/// Receives diagnostics one after the other.
 using DiagnosticReceiver = std::function<void(Diagnostic)>;
 
 }  // namespace quorvane

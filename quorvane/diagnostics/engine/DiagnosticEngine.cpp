@@ -9,7 +9,7 @@ namespace quorvane {
 
 void DiagnosticEngine::report(DiagnosticId id, const Place& place,
                               std::initializer_list<std::string_view> arguments, Hint hint) {
-    reportText(id, place, withArguments(diagnosticRule(id).text, arguments), std::move(hint));
+    reportText(id, place, withArguments(diagnosticRule(id).message, arguments), std::move(hint));
 }
 
 void DiagnosticEngine::reportText(DiagnosticId id, const Place& place, std::string message,

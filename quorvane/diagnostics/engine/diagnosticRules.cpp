@@ -1,32 +1,60 @@
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cstddef>
 #include <vector>
 
 #include "quorvane/base/text/trimming.h"
+#include "quorvane/diagnostics/table/descriptionErrors.h"
+#include "quorvane/diagnostics/table/fileDiagnostics.h"
+#include "quorvane/diagnostics/table/nodeWarnings.h"
+#include "quorvane/diagnostics/table/pageWarnings.h"
+#include "quorvane/diagnostics/table/rtfDiagnostics.h"
+#include "quorvane/diagnostics/table/styleSheetDiagnostics.h"
+#include "quorvane/diagnostics/table/styleWarnings.h"
+#include "quorvane/diagnostics/table/textWarnings.h"
 
 namespace quorvane {
 
 namespace {
 
-constexpr bool corruptsDocument = true;
+/// A text of a raw string begins on the line after its opening quote.
+constexpr std::string_view withoutFirstLineBreak(std::string_view text) {
+    return text.starts_with('\n') ? text.substr(1) : text;
+}
 
-constexpr DiagnosticRule table[] = {
-#define QUORVANE_DIAGNOSTIC(id, identifier, severity, language, text, explanation, wrong, right, \
-                            ...)                                                                 \
-    {DiagnosticId::id,                                                                           \
-     identifier,                                                                                 \
-     Severity::severity,                                                                         \
-     CheckedLanguage::language,                                                                  \
-     text,                                                                                       \
-     explanation,                                                                                \
-     wrong,                                                                                      \
-     right,                                                                                      \
-     __VA_ARGS__},
-#include "quorvane/diagnostics/engine/diagnosticTable.h"
-};
+constexpr DiagnosticRule withoutFirstLineBreaks(DiagnosticRule rule) {
+    rule.explanation = withoutFirstLineBreak(rule.explanation);
+    rule.wrong = withoutFirstLineBreak(rule.wrong);
+    rule.right = withoutFirstLineBreak(rule.right);
+    rule.companion = withoutFirstLineBreak(rule.companion);
+    return rule;
+}
+
+template <std::size_t... sizes>
+constexpr auto joined(const DiagnosticRule (&... tables)[sizes]) {
+    std::array<DiagnosticRule, (sizes + ...)> all;
+    auto end = all.begin();
+    ((end = std::transform(std::begin(tables), std::end(tables), end, withoutFirstLineBreaks)),
+     ...);
+    return all;
+}
+
+constexpr auto table = joined(fileDiagnostics, descriptionErrors, nodeWarnings, styleWarnings,
+                              textWarnings, pageWarnings, styleSheetDiagnostics, rtfDiagnostics);
+
+constexpr bool isInOrderOfIds() {
+    for (std::size_t i = 0; i < table.size(); ++i) {
+        if (table[i].id != static_cast<DiagnosticId>(i)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+static_assert(isInOrderOfIds(), "The tables list the diagnostics in the order of DiagnosticId.");
 
 std::string_view takeLine(std::string_view& text) {
     const std::size_t length = std::min(text.find('\n'), text.size() - 1) + 1;
@@ -60,10 +88,10 @@ const DiagnosticRule& diagnosticRule(DiagnosticId id) {
 }
 
 const DiagnosticRule* findDiagnosticRule(std::string_view identifier) {
-    const auto* found =
-        std::find_if(std::begin(table), std::end(table),
-                     [&](const DiagnosticRule& rule) { return rule.identifier == identifier; });
-    return found == std::end(table) ? nullptr : found;
+    const auto* found = std::find_if(table.begin(), table.end(), [&](const DiagnosticRule& rule) {
+        return rule.identifier == identifier;
+    });
+    return found == table.end() ? nullptr : found;
 }
 
 std::span<const std::string_view> diagnosticIdentifiers() {
@@ -81,13 +109,20 @@ bool isOffByDefault(DiagnosticId id) {
     return id == DiagnosticId::UnusedStyle;
 }
 
+std::string explanationOf(const DiagnosticRule& rule) {
+    std::string explanation(trimWhitespace(rule.explanation));
+    std::replace(explanation.begin(), explanation.end(), '\n', ' ');
+    return explanation;
+}
+
 std::string ruleTitle(const DiagnosticRule& rule) {
-    if (rule.text == "{0}") {
-        return std::string(rule.explanation.substr(0, rule.explanation.find(". ") + 1));
+    if (rule.message == "{0}") {
+        const std::string explanation = explanationOf(rule);
+        return explanation.substr(0, explanation.find(". ") + 1);
     }
     std::string title;
-    for (std::size_t at = 0; at < rule.text.size(); ++at) {
-        const std::string_view rest = rule.text.substr(at);
+    for (std::size_t at = 0; at < rule.message.size(); ++at) {
+        const std::string_view rest = rule.message.substr(at);
         const bool isPlace =
             rest.size() > 2 && rest[0] == '{' && rest[1] >= '0' && rest[1] <= '9' && rest[2] == '}';
         if (isPlace) {

@@ -11,51 +11,55 @@ namespace quorvane {
 /// The languages that are checked.
 enum class CheckedLanguage { Description, StyleSheet, Rtf };
 
-/// A row of the table of diagnostics.
+/// One entry of the tables of diagnostics in `quorvane/diagnostics/table/`.
 struct DiagnosticRule {
-    DiagnosticId id;
+    DiagnosticId id{};
     /// The name by which people and programs know it, such as "wrong-color".
-    std::string_view identifier;
-    Severity severity;
-    CheckedLanguage language;
-    /// The message, with "{0}", "{1}" where it names something.
-    std::string_view text;
-    std::string_view explanation;
-    /// A text that has the finding, and the same text put right; see `expandedExample`. Both are
-    /// empty where a text of a few lines cannot show it.
-    std::string_view wrong;
-    std::string_view right;
+    std::string_view identifier{};
+    Severity severity{};
+    CheckedLanguage language{};
+    /// What the report says, with "{0}", "{1}" where it names something.
+    std::string_view message{};
+    /// Broken into lines in the tables; see `explanationOf`.
+    std::string_view explanation{};
+    /// A text with the problem, and the same text corrected; see `expandedExample`. Both are empty
+    /// where a text of a few lines cannot show it.
+    std::string_view wrong{};
+    std::string_view right{};
     /// What the examples are checked together with: a stylesheet for a description, a description
     /// for a stylesheet; empty for none.
-    std::string_view companion;
+    std::string_view companion{};
     /// The text breaks the document that it is written into: readers refuse it or lose a part.
     bool corruptsDocument = false;
 };
 
-/// The table, in its order.
+/// All entries, in the order of `DiagnosticId`.
 std::span<const DiagnosticRule> diagnosticRules();
 
-/// The row of an identifier.
+/// The entry of a kind of diagnostic.
 const DiagnosticRule& diagnosticRule(DiagnosticId id);
 
-/// The row of that name; null when there is none.
+/// The entry of that name; null when there is none.
 const DiagnosticRule* findDiagnosticRule(std::string_view identifier);
 
-/// The identifiers of all rows, in the order of the table.
+/// The identifiers of all entries, in the same order.
 std::span<const std::string_view> diagnosticIdentifiers();
 
-/// True for a diagnostic that is left out unless it is asked for.
+/// True for a diagnostic that is reported only on request.
 bool isOffByDefault(DiagnosticId id);
 
+/// The explanation as one paragraph without line breaks.
+std::string explanationOf(const DiagnosticRule& rule);
+
 /// What the rule is about, on one line: its message with "…" for each word that a text puts in, or
-/// the beginning of its explanation where the message is a text of the library.
+/// the first sentence of its explanation where the message is the library's own.
 std::string ruleTitle(const DiagnosticRule& rule);
 
 /// "error" or "warning".
 std::string_view severityName(Severity severity);
 
-/// An example as it is checked: the lines between a line "; N times:" and a line "; so far" stand
-/// there N times.
+/// An example as it is checked: the lines between a line "; N times:" and a line "; so far" are
+/// repeated N times.
 std::string expandedExample(std::string_view example);
 
 }  // namespace quorvane

@@ -12,6 +12,7 @@
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/diagnostics/engine/nearestWord.h"
+#include "quorvane/stylesheet/stylesheetSyntax.h"
 
 namespace quorvane {
 
@@ -61,8 +62,8 @@ public:
                 comments.push_back(commentAt(i, text.substr(mark.size())));
             }
             if (isStyleSheet_) {
-                depth_ += std::count(line.begin(), line.end(), '{') -
-                          std::count(line.begin(), line.end(), '}');
+                const auto [opened, closed] = countBraces(line);
+                depth_ += opened - closed;
             }
         }
         return comments;
@@ -105,10 +106,9 @@ private:
     std::int64_t lastLineOfDefinition(std::size_t from) {
         // Comments that follow one another are about the same definition: it is looked up once.
         if (!definition_ || definition_->open < from) {
-            const std::size_t open = source_.text().find('{', from);
-            const std::size_t close = open == nowhere ? nowhere : source_.text().find('}', open);
-            const std::size_t end = std::min(close, source_.text().size());
-            definition_ = Definition{open, source_.place(end, end).line};
+            const std::optional<BracedText> next = bracedTextFrom(source_.text(), from);
+            const std::size_t end = next ? next->close : source_.text().size();
+            definition_ = Definition{next ? next->open : nowhere, source_.place(end, end).line};
         }
         return definition_->lastLine;
     }
@@ -202,17 +202,17 @@ void findWrongIgnoreComments(const SourceText& source, CheckedLanguage language,
     };
     for (const CheckComment& comment : CommentReader(source, language).read()) {
         if (comment.command.empty()) {
-            report(comment.whole, "It says nothing", "write ignore and an identifier");
+            report(comment.whole, "the command is missing", "write ignore and an identifier");
         } else if (comment.command != "ignore") {
             report(comment.command, std::string(comment.command) + " is not a command",
                    spellingHint(comment.command, commands));
         } else if (comment.identifiers.empty()) {
-            report(comment.command, "No identifier follows ignore",
-                   "write the identifiers that stand in brackets in the report");
+            report(comment.command, "the identifier is missing",
+                   "write the identifier that the report shows in brackets");
         } else {
             for (const std::string_view identifier : comment.identifiers) {
                 if (!findDiagnosticRule(identifier)) {
-                    report(identifier, std::string(identifier) + " is not a diagnostic",
+                    report(identifier, "there is no diagnostic " + std::string(identifier),
                            spellingHint(identifier, diagnosticIdentifiers()));
                 }
             }

@@ -12,17 +12,9 @@ namespace quorvane {
 
 namespace {
 
-std::string searched(std::string_view name) {
-    return lowerCase(name);
-}
-
-StyleKind kindOf(const std::string& word) {
-    return word == "s" ? StyleKind::Paragraph
-                       : (word == "cs" ? StyleKind::Character : StyleKind::Cell);
-}
-
-/// A definition without what is wrong with it.
-struct MendedDefinition {
+/// A definition without its errors.
+struct RepairedDefinition {
+    /// Empty when the definition has no names.
     std::string text;
     std::string names;
     bool isKindSure = true;
@@ -34,53 +26,48 @@ std::string withoutBraces(std::string_view text) {
     return kept;
 }
 
-bool isKeyword(std::string_view word) {
-    return word == "style-def" || word == "format" || word == "based-on" || word == "next" ||
-           word == "additive";
-}
-
 /// The first item names the style, whatever its keyword; a definition that begins with another
 /// item may name it later.
-std::string_view namesOf(const SheetDefinition& definition) {
-    const std::vector<SheetItem>& items = definition.items;
-    if (items.empty() || !isKeyword(items.front().keyword)) {
+std::string_view likelyNamesOf(const OutlinedDefinition& definition) {
+    const std::vector<StyleItem>& items = definition.items;
+    if (items.empty() || !findStyleKeyword(items.front().keyword)) {
         return items.empty() ? std::string_view() : items.front().value;
     }
-    const auto named = std::find_if(items.begin(), items.end(),
-                                    [](const SheetItem& item) { return item.keyword == "name"; });
+    const auto named = std::find_if(items.begin(), items.end(), [](const StyleItem& item) {
+        return item.keyword == nameKeyword;
+    });
     return named == items.end() ? std::string_view() : named->value;
 }
 
-MendedDefinition mendedDefinition(const SheetDefinition& definition) {
-    MendedDefinition mended;
-    mended.names = withoutBraces(namesOf(definition));
-    if (mended.names.empty()) {
-        return mended;
+/// True when an item other than the first may be a misspelled "style-def".
+bool hasUnknownKeyword(const OutlinedDefinition& definition) {
+    return std::any_of(definition.items.begin() + 1, definition.items.end(),
+                       [](const StyleItem& item) { return !findStyleKeyword(item.keyword); });
+}
+
+RepairedDefinition repairedDefinition(const OutlinedDefinition& definition) {
+    RepairedDefinition repaired;
+    repaired.names = withoutBraces(likelyNamesOf(definition));
+    if (repaired.names.empty()) {
+        return repaired;
     }
     bool hasKind = false;
-    mended.text = "{name:" + mended.names;
-    for (const SheetItem& item : definition.items) {
+    repaired.text = "{name:" + repaired.names;
+    for (const StyleItem& item : definition.items) {
+        const StyleKeyword* const keyword = findStyleKeyword(item.keyword);
         const std::string value = withoutBraces(item.value);
-        const std::string word = lowerCase(value);
-        const bool isKind = word == "s" || word == "cs" || word == "cell";
+        const bool isValid = keyword && keyword->accepts(lowerCase(value));
         if (item.keyword == "style-def") {
             hasKind = true;
-            mended.isKindSure = mended.isKindSure && isKind;
+            repaired.isKindSure = repaired.isKindSure && isValid;
         }
-        const bool isSound = item.keyword == "style-def"  ? isKind
-                             : item.keyword == "additive" ? word == "yes" || word == "no"
-                                                          : isKeyword(item.keyword);
-        if (isSound) {
-            mended.text += ";" + item.keyword + ":" + value;
+        if (isValid) {
+            repaired.text += ";" + item.keyword + ":" + value;
         }
     }
-    // A word that is no keyword may have been meant for style-def.
-    const auto strange =
-        std::count_if(definition.items.begin() + 1, definition.items.end(),
-                      [](const SheetItem& item) { return !isKeyword(item.keyword); });
-    mended.isKindSure = mended.isKindSure && (hasKind || strange == 0);
-    mended.text += "}";
-    return mended;
+    repaired.isKindSure = repaired.isKindSure && (hasKind || !hasUnknownKeyword(definition));
+    repaired.text += "}";
+    return repaired;
 }
 
 }  // namespace
@@ -93,9 +80,8 @@ std::string_view styleKindName(StyleKind kind) {
 KnownStyles::KnownStyles(std::string_view styleSheet) : text_(styleSheet), soundText_(styleSheet) {
     try {
         load();
-        areLoaded_ = true;
     } catch (const RtfError&) {
-        mend();
+        repair();
         load();
     }
 }
@@ -106,27 +92,27 @@ void KnownStyles::load() {
     }
     parseStyleSheet(soundText_, [this](const StyleDefinition& definition) {
         for (const std::string& name : definition.names) {
-            const StyleKind kind = kindOf(Style{name, definition.record}.kind());
+            const StyleKind kind = styleKindNamed(Style{name, definition.record}.kind());
             lists_[static_cast<std::size_t>(kind)].add(name, definition.record);
         }
     });
 }
 
-void KnownStyles::mend() {
+void KnownStyles::repair() {
     soundText_.clear();
-    for (const SheetDefinition& definition : readStyleSheetOutline(text_).definitions) {
-        const MendedDefinition mended = mendedDefinition(definition);
-        soundText_ += mended.text;
-        if (!mended.isKindSure) {
-            for (const std::string_view name : namesIn(mended.names)) {
-                ofAnyKind_.insert(searched(name));
+    for (const OutlinedDefinition& definition : readStyleSheetOutline(text_).definitions) {
+        const RepairedDefinition repaired = repairedDefinition(definition);
+        soundText_ += repaired.text;
+        if (!repaired.isKindSure) {
+            for (const std::string_view name : styleNamesIn(repaired.names)) {
+                ofAnyKind_.insert(lowerCase(name));
             }
         }
     }
 }
 
 int KnownStyles::find(StyleKind kind, std::string_view name) const {
-    return styles(kind).find(searched(name));
+    return styles(kind).find(lowerCase(name));
 }
 
 bool KnownStyles::lacks(StyleKind kind, std::string_view name) const {
@@ -134,15 +120,15 @@ bool KnownStyles::lacks(StyleKind kind, std::string_view name) const {
 }
 
 bool KnownStyles::isOfAnyKind(std::string_view name) const {
-    return ofAnyKind_.contains(searched(name));
+    return ofAnyKind_.contains(lowerCase(name));
 }
 
 void KnownStyles::markUsed(StyleKind kind, std::string_view name) {
-    used_[static_cast<std::size_t>(kind)].insert(searched(name));
+    used_[static_cast<std::size_t>(kind)].insert(lowerCase(name));
 }
 
 bool KnownStyles::isUsed(StyleKind kind, std::string_view name) const {
-    return used_[static_cast<std::size_t>(kind)].contains(searched(name));
+    return used_[static_cast<std::size_t>(kind)].contains(lowerCase(name));
 }
 
 }  // namespace quorvane

@@ -9,54 +9,48 @@
 
 namespace quorvane {
 
-/// Kinds of styles.
-enum class StyleKind { Paragraph, Character, Cell };
-
 /// "paragraph", "character" or "cell".
 std::string_view styleKindName(StyleKind kind);
 
 /// The styles of a stylesheet, and which of them descriptions use.
 class KnownStyles {
 public:
-    /// Reads a stylesheet (UTF-8). Of one that is wrong those styles are known that it was most
-    /// likely meant to have.
+    /// Reads a stylesheet (UTF-8). If it has errors, the styles are those that it was most likely
+    /// meant to have.
     explicit KnownStyles(std::string_view styleSheet);
 
-    /// True when the stylesheet has no error.
-    bool areLoaded() const { return areLoaded_; }
-
-    /// The text of the stylesheet.
+    /// The text of the stylesheet, as it was given.
     const std::string& text() const { return text_; }
 
-    /// A stylesheet with the known styles that has no error: the text itself where that has none.
+    /// The text of a stylesheet without errors that has the same styles: `text` when that has
+    /// none.
     const std::string& soundText() const { return soundText_; }
 
     const StyleList& styles(StyleKind kind) const { return lists_[static_cast<std::size_t>(kind)]; }
 
-    /// 1-based position of a style among those of its kind, its name in any case; -1 when there is
-    /// none.
+    /// 1-based position of a style among those of its kind, its name in any case; -1 when the
+    /// stylesheet has no such style.
     int find(StyleKind kind, std::string_view name) const;
 
-    /// True when the stylesheet surely has no style of that kind and name.
+    /// True when it is certain that the stylesheet has no style of that kind and name.
     bool lacks(StyleKind kind, std::string_view name) const;
 
-    /// True for a style whose kind cannot be read.
+    /// True for the name of a style whose kind is wrong or uncertain.
     bool isOfAnyKind(std::string_view name) const;
 
-    /// Remembers that a description names the style.
+    /// Records that a description uses the style.
     void markUsed(StyleKind kind, std::string_view name);
     bool isUsed(StyleKind kind, std::string_view name) const;
 
 private:
     void load();
-    void mend();
+    void repair();
 
     std::string text_;
     std::string soundText_;
-    bool areLoaded_ = false;
     std::array<StyleList, 3> lists_;
     std::array<std::unordered_set<std::string>, 3> used_;
-    // The names of styles whose kind cannot be read.
+    // The names of styles whose kind is uncertain, in lower case.
     std::unordered_set<std::string> ofAnyKind_;
 };
 

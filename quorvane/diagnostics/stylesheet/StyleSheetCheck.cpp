@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <span>
 #include <string>
 #include <unordered_map>
@@ -27,15 +28,8 @@ namespace quorvane {
 
 namespace {
 
-constexpr std::string_view keywords[] = {"style-def", "format", "based-on", "next", "additive"};
-constexpr int colorCount = 57;
-
-bool isKeyword(std::string_view word) {
-    return std::find(std::begin(keywords), std::end(keywords), word) != std::end(keywords);
-}
-
-/// What to say of a value that goes on with another item, such as "n, style-def: s"; empty for any
-/// other value.
+/// The hint for a value that another item follows without a ";", such as "n, style-def: s"; empty
+/// for any other value.
 std::string separatorHint(std::string_view value) {
     // Longer than any keyword with blanks around it: the search costs no more in a long value.
     constexpr std::size_t longestWord = 40;
@@ -46,8 +40,8 @@ std::string separatorHint(std::string_view value) {
         const std::size_t last = before.find_last_of(" \t\r\n,");
         const std::string word =
             lowerCase(before.substr(last == std::string_view::npos ? 0 : last + 1));
-        if (last != std::string_view::npos && isKeyword(word)) {
-            return "items are separated by ; which is missing before " + word;
+        if (last != std::string_view::npos && findStyleKeyword(word)) {
+            return "write a ; before " + word;
         }
     }
     return {};
@@ -60,7 +54,7 @@ std::vector<std::string_view> viewsOf(const std::vector<std::string>& texts) {
 const std::vector<std::string>& cellColorNames() {
     static const std::vector<std::string> names = [] {
         std::vector<std::string> list{"none"};
-        for (int number = 1; number <= colorCount; ++number) {
+        for (int number = 1; number <= CRtfGrpColorTable::colorCount; ++number) {
             list.push_back(CRtfGrpColorTable::colorName(number));
         }
         return list;
@@ -68,50 +62,44 @@ const std::vector<std::string>& cellColorNames() {
     return names;
 }
 
-StyleKind kindNearly(const std::string& word) {
-    return word == "s" || word.starts_with("p")     ? StyleKind::Paragraph
-           : word == "cs" || word.starts_with("ch") ? StyleKind::Character
-                                                    : StyleKind::Cell;
+/// The kind that the word names or is most likely meant to name.
+StyleKind likelyKind(const std::string& word) {
+    return word.starts_with("p")    ? StyleKind::Paragraph
+           : word.starts_with("ch") ? StyleKind::Character
+                                    : styleKindNamed(word);
 }
 
-StyleKind kindOf(const SheetDefinition& definition) {
+StyleKind kindOf(const OutlinedDefinition& definition) {
     for (std::size_t i = 1; i < definition.items.size(); ++i) {
         if (definition.items[i].keyword == "style-def") {
-            return kindNearly(lowerCase(definition.items[i].value));
+            return likelyKind(lowerCase(definition.items[i].value));
         }
     }
     return StyleKind::Cell;
 }
 
-/// The names of a definition; none where its first item is not "name".
-std::vector<std::string_view> namesOf(const SheetDefinition& definition) {
-    return !definition.items.empty() && definition.items.front().keyword == "name"
-               ? namesIn(definition.items.front().value)
-               : std::vector<std::string_view>();
-}
-
-class SheetFindings {
+class StyleSheetChecks {
 public:
-    SheetFindings(const SourceText& source, DiagnosticEngine& engine)
+    StyleSheetChecks(const SourceText& source, DiagnosticEngine& engine)
         : source_(source),
           engine_(engine),
           outline_(readStyleSheetOutline(source.text())),
           styles_(source.text()) {}
 
-    void find() {
+    void run() {
         const std::string_view opening = openingOfDescription(source_.text());
         if (!opening.empty()) {
             report(DiagnosticId::DescriptionAsStyleSheet, opening, {},
-                   "were the names of the two files swapped?");
+                   "did you swap the names of the two files?");
         } else {
             findKeywordWithoutBraces();
         }
         findBraces();
-        for (const SheetDefinition& definition : outline_.definitions) {
+        for (const OutlinedDefinition& definition : outline_.definitions) {
             findErrors(definition);
             findWarnings(definition);
         }
-        for (const SheetDefinition& definition : outline_.definitions) {
+        for (const OutlinedDefinition& definition : outline_.definitions) {
             findReferences(definition);
         }
     }
@@ -122,42 +110,32 @@ private:
         engine_.report(id, source_.placeOf(part), arguments, std::move(hint));
     }
 
-    /// What stands outside of braces says nothing: without any, a text that means to say something
-    /// has no styles, and neither has an empty one.
+    /// Text outside braces has no meaning: a text without braces defines no styles.
     void findKeywordWithoutBraces() {
         const std::string_view text = source_.text();
         if (trimWhitespace(behindByteOrderMark(text)).empty()) {
-            report(
-                DiagnosticId::NoStyles, text.substr(0, 0), {},
-                "the file is empty; a style is defined in braces: { name: ...; style-def: ... }");
+            report(DiagnosticId::NoStyles, text.substr(0, 0), {},
+                   "the file is empty; write definitions such as { name: ...; style-def: ... }");
             return;
         }
         if (text.find_first_of("{}") != std::string_view::npos) {
             return;
         }
         for (const SourceText::Line& bounds : source_.lines()) {
-            std::string_view line = text.substr(bounds.start, bounds.end - bounds.start);
-            if (trimWhitespace(line).starts_with(';')) {
-                continue;
-            }
-            const std::string_view word = trimWhitespace(line.substr(0, line.find(':')));
-            const std::string keyword = lowerCase(word);
+            const StyleItem item =
+                readStyleItem(text.substr(bounds.start, bounds.end - bounds.start));
             const bool isKeyword =
-                line.find(':') != std::string_view::npos &&
-                (keyword == "name" || std::find(std::begin(keywords), std::end(keywords),
-                                                keyword) != std::end(keywords));
-            if (isKeyword) {
-                report(DiagnosticId::NoStyles, word, {},
-                       "a definition stands in braces: { name: ...; style-def: ... }");
+                item.keyword == nameKeyword || findStyleKeyword(item.keyword) != nullptr;
+            if (isKeyword && item.hasColon()) {
+                report(DiagnosticId::NoStyles, item.writtenKeyword, {},
+                       "enclose the definition in braces: { name: ...; style-def: ... }");
                 return;
             }
         }
     }
 
     void findBraces() {
-        const std::string_view text = source_.text();
-        const auto opened = std::count(text.begin(), text.end(), '{');
-        const auto closed = std::count(text.begin(), text.end(), '}');
+        const auto [opened, closed] = countBraces(source_.text());
         if (opened != closed) {
             report(opened < closed ? DiagnosticId::BracesUnderflow : DiagnosticId::BracesOverflow,
                    outline_.loneBrace, {},
@@ -165,9 +143,9 @@ private:
         }
     }
 
-    void findErrors(const SheetDefinition& definition) {
+    void findErrors(const OutlinedDefinition& definition) {
         if (definition.items.empty() && !outline_.loneBrace.empty()) {
-            // That a brace is missing is told already.
+            // The unmatched brace is reported already.
             return;
         }
         if (definition.items.empty()) {
@@ -175,8 +153,8 @@ private:
                    "a definition begins with name:");
             return;
         }
-        const SheetItem& first = definition.items.front();
-        if (first.keyword != "name") {
+        const StyleItem& first = definition.items.front();
+        if (faultOfFirst(first) != StyleItemFault::None) {
             report(DiagnosticId::BadKeyword, first.writtenKeyword, {first.keyword},
                    firstKeywordHint(first));
         }
@@ -185,10 +163,10 @@ private:
         }
     }
 
-    static Hint firstKeywordHint(const SheetItem& first) {
-        constexpr std::string_view name[] = {"name"};
-        if (first.keyword.starts_with("name") && first.value.empty()) {
-            return "a : follows the keyword name";
+    static Hint firstKeywordHint(const StyleItem& first) {
+        constexpr std::string_view name[] = {nameKeyword};
+        if (first.keyword.starts_with(nameKeyword) && first.value.empty()) {
+            return "write a : after the keyword name";
         }
         Hint hint("a definition begins with name:");
         if (!certainWord(first.keyword, name).empty()) {
@@ -197,60 +175,63 @@ private:
         return hint;
     }
 
-    void findItemError(const SheetItem& item) {
-        const std::string value = lowerCase(item.value);
-        if (item.keyword == "style-def") {
-            constexpr std::string_view kinds[] = {"s", "cs", "cell"};
-            if (value != "s" && value != "cs" && value != "cell") {
-                const std::string separator = separatorHint(item.value);
-                report(DiagnosticId::BadStyleKind, item.value, {value},
-                       separator.empty() ? kindHint(value, kinds) : Hint(separator));
-            }
-        } else if (item.keyword == "additive") {
-            if (value != "yes" && value != "no") {
-                const std::string separator = separatorHint(item.value);
-                report(DiagnosticId::BadAdditive, item.value, {value},
-                       separator.empty() ? "write yes or no" : separator);
-            }
-        } else if (!isKeyword(item.keyword)) {
-            report(DiagnosticId::BadKeyword, item.writtenKeyword, {item.keyword},
-                   keywordHint(item.keyword));
+    void findItemError(const StyleItem& item) {
+        switch (faultOf(item)) {
+            case StyleItemFault::Keyword:
+                report(DiagnosticId::BadKeyword, item.writtenKeyword, {item.keyword},
+                       keywordHint(item.keyword));
+                break;
+            case StyleItemFault::Value:
+                report(item.keyword == "style-def" ? DiagnosticId::BadStyleKind
+                                                   : DiagnosticId::BadAdditive,
+                       item.value, {lowerCase(item.value)}, valueHint(item));
+                break;
+            case StyleItemFault::None:
+                break;
         }
+    }
+
+    static Hint valueHint(const StyleItem& item) {
+        if (std::string separator = separatorHint(item.value); !separator.empty()) {
+            return separator;
+        }
+        return item.keyword == "style-def" ? kindHint(lowerCase(item.value))
+                                           : Hint("write yes or no");
     }
 
     static Hint keywordHint(std::string_view keyword) {
         if (keyword.empty()) {
-            return "one ; stands between two items";
+            return "write only one ; between two items";
         }
-        if (keyword == "name") {
-            return "name is the first item of a definition";
+        if (keyword == nameKeyword) {
+            return "name must be the first item of a definition";
         }
         const std::string_view word = keyword.substr(0, keyword.find_first_of(" \t\r\n="));
-        if (word.size() < keyword.size() && isKeyword(word)) {
-            return "a : follows the keyword " + std::string(word);
+        if (word.size() < keyword.size() && findStyleKeyword(word)) {
+            return "write a : after the keyword " + std::string(word);
         }
-        return spellingHint(keyword, keywords);
+        return spellingHint(keyword, styleKeywordWords());
     }
 
-    static Hint kindHint(const std::string& value, std::span<const std::string_view> kinds) {
+    static Hint kindHint(const std::string& value) {
         if (value.empty()) {
             return "write s, cs or cell";
         }
         if (value.starts_with("p")) {
-            return "a paragraph style is s";
+            return "write s for a paragraph style";
         }
         if (value.starts_with("ch")) {
-            return "a character style is cs";
+            return "write cs for a character style";
         }
-        return spellingHint(value, kinds);
+        return spellingHint(value, findStyleKeyword("style-def")->values);
     }
 
-    void findWarnings(const SheetDefinition& definition) {
+    void findWarnings(const OutlinedDefinition& definition) {
         const StyleKind kind = kindOf(definition);
         std::unordered_set<std::string> seen;
         for (std::size_t i = 1; i < definition.items.size(); ++i) {
-            const SheetItem& item = definition.items[i];
-            if (isKeyword(item.keyword) && !seen.insert(item.keyword).second) {
+            const StyleItem& item = definition.items[i];
+            if (findStyleKeyword(item.keyword) && !seen.insert(item.keyword).second) {
                 report(DiagnosticId::RepeatedItem, item.writtenKeyword, {item.keyword});
             } else if (item.keyword == "format") {
                 findFormatWarningsOf(item, kind);
@@ -266,7 +247,7 @@ private:
         }
     }
 
-    void findFormatWarningsOf(const SheetItem& item, StyleKind kind) {
+    void findFormatWarningsOf(const StyleItem& item, StyleKind kind) {
         if (kind != StyleKind::Cell) {
             findTextWarnings(item.value, TextUse::Format, &styles_, source_, engine_);
             return;
@@ -276,7 +257,7 @@ private:
             CRtfGrpColorTable::colorNumber(color) == 0) {
             report(DiagnosticId::UnknownCellColor, item.value,
                    {color.empty() ? std::string_view("An empty format") : item.value},
-                   color.empty() ? Hint("write none where no color is meant")
+                   color.empty() ? Hint("write none for no color")
                                  : spellingHint(color, viewsOf(cellColorNames())));
         }
     }
@@ -309,10 +290,10 @@ private:
         return spellingHint(name, candidates);
     }
 
-    void findReferences(const SheetDefinition& definition) {
+    void findReferences(const OutlinedDefinition& definition) {
         const StyleKind kind = kindOf(definition);
         for (std::size_t i = 1; i < definition.items.size(); ++i) {
-            const SheetItem& item = definition.items[i];
+            const StyleItem& item = definition.items[i];
             const bool isWritten = (item.keyword == "based-on" && kind != StyleKind::Cell) ||
                                    (item.keyword == "next" && kind == StyleKind::Paragraph);
             const auto& names = defined_[static_cast<std::size_t>(kind)];
@@ -331,68 +312,63 @@ private:
     std::array<std::unordered_map<std::string, std::string_view>, 3> defined_;
 };
 
-std::vector<RtfError> loadingErrors(std::string_view text) {
+/// The description of the error that loading the text raises; nothing when it raises none.
+std::optional<std::string> loadingError(std::string_view text) {
     try {
         parseStyleSheet(text, [](const StyleDefinition&) {});
-        return {};
+        return std::nullopt;
     } catch (const RtfError& error) {
-        return {error};
+        return error.description;
     }
 }
 
-/// In UTF-16 no word is what it looks like: that alone is told.
-std::vector<Diagnostic> findingsInUtf16(std::string_view text) {
-    std::vector<Diagnostic> findings;
-    DiagnosticEngine engine([&](Diagnostic finding) { findings.push_back(std::move(finding)); });
-    const std::vector<RtfError> errors = loadingErrors(text);
-    if (errors.empty()) {
-        engine.report(DiagnosticId::NoStyles, {}, {}, std::string(utf16Hint));
+/// In UTF-16 no word is what it looks like, so the encoding is all that is reported.
+void reportUtf16(std::string_view text, DiagnosticEngine& engine) {
+    if (const std::optional<std::string> error = loadingError(text)) {
+        engine.report(DiagnosticId::StyleSheetRejected, {}, {*error}, std::string(utf16Hint));
     } else {
-        engine.report(DiagnosticId::StyleSheetRejected, {}, {errors.front().description},
-                      std::string(utf16Hint));
+        engine.report(DiagnosticId::NoStyles, {}, {}, std::string(utf16Hint));
     }
-    return findings;
 }
 
 }  // namespace
 
-std::vector<Diagnostic> findingsWithoutLoading(std::string_view text) {
-    std::vector<Diagnostic> findings;
-    const SourceText source(text);
-    DiagnosticEngine engine([&](Diagnostic finding) { findings.push_back(std::move(finding)); });
-    SheetFindings(source, engine).find();
-    findWrongIgnoreComments(source, CheckedLanguage::StyleSheet, engine);
-    sortByPlace(findings);
-    keepFirstMisreadCharacters(findings);
-    return findings;
-}
-
 std::vector<Diagnostic> checkStyleSheet(std::string_view text) {
+    std::vector<Diagnostic> diagnostics;
+    DiagnosticEngine engine(
+        [&](Diagnostic diagnostic) { diagnostics.push_back(std::move(diagnostic)); });
     if (isUtf16(text)) {
-        return findingsInUtf16(text);
+        reportUtf16(text, engine);
+        return diagnostics;
     }
-    return findingsWithoutLoading(text);
+    const SourceText source(text);
+    StyleSheetChecks(source, engine).run();
+    findWrongIgnoreComments(source, CheckedLanguage::StyleSheet, engine);
+    sortByPlace(diagnostics);
+    keepFirstMisreadCharacters(diagnostics);
+    return diagnostics;
 }
 
 std::vector<Diagnostic> findUnusedStyles(const KnownStyles& styles) {
-    std::vector<Diagnostic> findings;
+    std::vector<Diagnostic> diagnostics;
     const SourceText source(styles.text());
-    DiagnosticEngine engine([&](Diagnostic finding) { findings.push_back(std::move(finding)); });
+    DiagnosticEngine engine(
+        [&](Diagnostic diagnostic) { diagnostics.push_back(std::move(diagnostic)); });
     const StyleSheetOutline outline = readStyleSheetOutline(styles.text());
     std::unordered_set<std::string> referenced;
-    for (const SheetDefinition& definition : outline.definitions) {
-        for (const SheetItem& item : definition.items) {
+    for (const OutlinedDefinition& definition : outline.definitions) {
+        for (const StyleItem& item : definition.items) {
             if (item.keyword == "based-on" || item.keyword == "next") {
                 referenced.insert(lowerCase(item.value));
             }
         }
     }
-    // Paragraph styles that keep the numbers of the character styles free are not for use.
+    // Paragraph styles that only keep the numbers of the character styles free need no user.
     const int reserved = std::max(1, static_cast<int>(styles.styles(StyleKind::Character).count()));
-    for (const SheetDefinition& definition : outline.definitions) {
+    for (const OutlinedDefinition& definition : outline.definitions) {
         const StyleKind kind = kindOf(definition);
         const std::vector<std::string_view> names = namesOf(definition);
-        // One definition under several names is used when one of them is.
+        // A definition with several names is used when one of them is.
         const bool isUsed = std::any_of(names.begin(), names.end(), [&](std::string_view name) {
             const std::string lower = lowerCase(name);
             const bool isParagraph = kind == StyleKind::Paragraph;
@@ -408,7 +384,7 @@ std::vector<Diagnostic> findUnusedStyles(const KnownStyles& styles) {
                           {names.front()});
         }
     }
-    return findings;
+    return diagnostics;
 }
 
 }  // namespace quorvane

@@ -8,15 +8,11 @@
 
 namespace quorvane {
 
-/// All findings about a stylesheet (UTF-8), in the order of their places. A stylesheet has an error
-/// exactly when loading it raises one.
+/// All diagnostics about a stylesheet (UTF-8), in the order of their places. One of them is an
+/// error if and only if loading the stylesheet raises one.
 std::vector<Diagnostic> checkStyleSheet(std::string_view text);
 
-/// The findings that the check comes to by itself, before it is compared with what the loading
-/// says. For tests of the check.
-std::vector<Diagnostic> findingsWithoutLoading(std::string_view text);
-
-/// The styles of a stylesheet that were not marked as used, as findings about its text.
+/// A diagnostic for each style that was not marked as used, placed in the text of the stylesheet.
 std::vector<Diagnostic> findUnusedStyles(const KnownStyles& styles);
 
 }  // namespace quorvane

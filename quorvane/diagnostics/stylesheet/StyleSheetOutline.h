@@ -1,41 +1,31 @@
 #pragma once
 
-#include <string>
 #include <string_view>
 #include <vector>
 
+#include "quorvane/stylesheet/stylesheetSyntax.h"
+
 namespace quorvane {
 
-/// An item of a definition; the views are into the stylesheet.
-struct SheetItem {
-    /// All of it, without the blanks around it.
-    std::string_view whole;
-    /// In lower case.
-    std::string keyword;
-    std::string_view writtenKeyword;
-    std::string_view value;
-};
-
-/// A definition of a stylesheet.
-struct SheetDefinition {
-    /// What stands between its braces; empty for braces that stand the wrong way round.
-    std::string_view body;
-    /// Its brace.
+/// A definition of a stylesheet, with its items in order.
+struct OutlinedDefinition {
+    /// Its "{".
     std::string_view brace;
-    /// The items that are not empty.
-    std::vector<SheetItem> items;
+    std::vector<StyleItem> items;
 };
 
-/// What a stylesheet says, as far as its braces go.
+/// The definitions of a stylesheet, valid or not.
 struct StyleSheetOutline {
-    std::vector<SheetDefinition> definitions;
-    /// The first brace that has no partner; empty when there are as many "{" as "}".
+    std::vector<OutlinedDefinition> definitions;
+    /// The first unmatched brace; empty when there are as many "{" as "}".
     std::string_view loneBrace;
 };
 
+/// Reads a stylesheet as loading does when it has as many "{" as "}". Otherwise every "{" begins a
+/// definition that ends at the next brace: that is most likely how it is meant.
 StyleSheetOutline readStyleSheetOutline(std::string_view text);
 
-/// The names in the value of an item "name", as they are written, without the blanks around them.
-std::vector<std::string_view> namesIn(std::string_view value);
+/// The names of a definition; none when its first item is not "name".
+std::vector<std::string_view> namesOf(const OutlinedDefinition& definition);
 
 }  // namespace quorvane

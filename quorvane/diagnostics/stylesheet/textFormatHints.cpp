@@ -128,9 +128,9 @@ Hint textFormatHint(NodeKind kind, std::string_view key, std::string_view value)
         return {};
     }
     const Example example = exampleOf(*property, std::string(trimWhitespace(value)));
-    return "styles format text: (ps=" + example.name + ") with { name: " + example.name +
-           "; style-def: s; format: " + example.format + " } in the stylesheet; for a few words <" +
-           example.name + "=words> with style-def: cs";
+    return "use a style: (ps=" + example.name + ") with { name: " + example.name +
+           "; style-def: s; format: " + example.format +
+           " } in the stylesheet; for a few words, <" + example.name + "=words> with style-def: cs";
 }
 
 }  // namespace quorvane

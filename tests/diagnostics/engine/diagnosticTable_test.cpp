@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <set>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -31,14 +32,21 @@ std::string sourcesOfTheChecks() {
 }
 
 std::vector<std::string> enumerators() {
-    return {
-#define QUORVANE_DIAGNOSTIC(id, ...) #id,
-#include "quorvane/diagnostics/engine/diagnosticTable.h"
-    };
+    const std::string source = bytesOf(fs::path(QUORVANE_SOURCE_FOLDER) / "quorvane/diagnostics" /
+                                       "engine/DiagnosticId.h");
+    std::istringstream lines(source.substr(source.find("enum class DiagnosticId {")));
+    std::vector<std::string> names;
+    for (std::string line; std::getline(lines, line);) {
+        if (line.starts_with("    ") && line.ends_with(',')) {
+            names.push_back(line.substr(4, line.size() - 5));
+        }
+    }
+    return names;
 }
 
 TEST(DiagnosticTable, HasNoIdentifierThatNothingUses) {
     const std::string sources = sourcesOfTheChecks();
+    ASSERT_EQ(enumerators().size(), diagnosticRules().size());
     for (const std::string& name : enumerators()) {
         const std::string used = "DiagnosticId::" + name;
         std::size_t at = sources.find(used);

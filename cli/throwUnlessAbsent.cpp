@@ -1,4 +1,4 @@
-#include "cli/requireAnswer.h"
+#include "cli/throwUnlessAbsent.h"
 
 #include <algorithm>
 #include <array>
@@ -9,7 +9,7 @@
 
 namespace quorvane::cli {
 
-void requireAnswer(const std::error_code& failure) {
+void throwUnlessAbsent(const std::error_code& failure) {
     constexpr std::array absences = {
         std::errc::no_such_file_or_directory, std::errc::not_a_directory,
         std::errc::permission_denied,         std::errc::filename_too_long,

@@ -1,4 +1,4 @@
-#include "cli/FindingExcerpt.h"
+#include "cli/DiagnosticExcerpt.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -29,7 +29,7 @@ std::string shown(std::string_view bytes) {
 
 }  // namespace
 
-FindingExcerpt excerptAt(const Place& place, const FileWindow& window) {
+DiagnosticExcerpt excerptAt(const Place& place, const FileWindow& window) {
     const std::int64_t inLine = place.column - 1;
     const std::int64_t before = std::min(inLine, shownBefore);
     const std::int64_t marked = std::min(place.length, longestMark);
@@ -42,8 +42,8 @@ FindingExcerpt excerptAt(const Place& place, const FileWindow& window) {
     const std::size_t lineEnd = std::min(bytes.find_first_of("\r\n", cut), bytes.size());
     const std::size_t markEnd = std::min(cut + static_cast<std::size_t>(marked), lineEnd);
     const std::size_t end = std::min(lineEnd, markEnd + static_cast<std::size_t>(shownAfter));
-    FindingExcerpt excerpt{shown(bytes.substr(0, cut)), shown(bytes.substr(cut, markEnd - cut)),
-                           shown(bytes.substr(markEnd, end - markEnd))};
+    DiagnosticExcerpt excerpt{shown(bytes.substr(0, cut)), shown(bytes.substr(cut, markEnd - cut)),
+                              shown(bytes.substr(markEnd, end - markEnd))};
     if (before < inLine) {
         excerpt.before.insert(0, ellipsis);
     }

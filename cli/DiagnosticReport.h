@@ -6,8 +6,8 @@
 #include <utility>
 #include <vector>
 
-#include "cli/FindingExcerpt.h"
-#include "cli/findingText.h"
+#include "cli/DiagnosticExcerpt.h"
+#include "cli/diagnosticText.h"
 #include "quorvane/diagnostics/engine/Diagnostic.h"
 #include "quorvane/diagnostics/engine/RepeatedDiagnostics.h"
 
@@ -15,18 +15,17 @@ namespace quorvane::cli {
 
 /// The diagnostics about files as text for a person. In a file, those of one cause are shown once,
 /// with a line "(and 3 more like this: lines 4, 9 and 12)".
-class FindingReport {
+class DiagnosticReport {
 public:
     using Sink = std::function<void(std::string_view text)>;
 
-    FindingReport(Colors colors, Sink write) : colors_(colors), write_(std::move(write)) {}
+    DiagnosticReport(Colors colors, Sink write) : colors_(colors), write_(std::move(write)) {}
 
     /// Adds a diagnostic about a file under its shown name. The diagnostics about one file follow
     /// each other.
-    void add(const std::string& file, const quorvane::Diagnostic& finding,
-             const FileWindow& window);
+    void add(const std::string& file, const Diagnostic& diagnostic, const FileWindow& window);
 
-    /// Writes what is held back of the last file.
+    /// Writes what is held back about the last file.
     void end();
 
 private:

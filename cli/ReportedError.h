@@ -8,7 +8,7 @@
 namespace quorvane::cli {
 
 /// Where an error comes from.
-enum class DiagnosticKind {
+enum class ErrorKind {
     /// An analysis reported it through its event.
     Event,
     /// A call raised it to its caller, or failed in what it was asked to do.
@@ -18,8 +18,8 @@ enum class DiagnosticKind {
 };
 
 /// An error as the command reports it.
-struct Diagnostic {
-    DiagnosticKind kind;
+struct ReportedError {
+    ErrorKind kind;
     /// The file that it concerns, as it was named on the command line; empty for none.
     std::string file;
     RtfError error;
@@ -28,7 +28,7 @@ struct Diagnostic {
     std::string reason{};
 };
 
-/// Takes the errors in the order in which they come.
-using DiagnosticSink = std::function<void(const Diagnostic&)>;
+/// Receives the errors in the order in which they occur.
+using ErrorSink = std::function<void(const ReportedError&)>;
 
 }  // namespace quorvane::cli

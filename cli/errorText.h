@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+
+#include "cli/ReportedError.h"
+
+namespace quorvane::cli {
+
+/// The error for a person, on one line without its end:
+/// "letter.rtfspec:12: error: crimson isn't a recognized color.", followed by its cause in
+/// parentheses; or, for a file that cannot be read or written, the system's reason alone:
+/// "letter.rtfspec: No such file or directory".
+std::string errorText(const ReportedError& reported);
+
+}  // namespace quorvane::cli

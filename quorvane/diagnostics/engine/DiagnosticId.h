@@ -1,0 +1,122 @@
+#pragma once
+
+namespace quorvane {
+
+/// Identifies a kind of diagnostic. Each has its entry in one of the tables in
+/// `quorvane/diagnostics/table/`, which list them in this order.
+enum class DiagnosticId {
+    // fileDiagnostics.h
+    NotATextFile,
+    WrongExtension,
+
+    // descriptionErrors.h
+    WrongFileType,
+    MissingElement,
+    WrongRoot,
+    TooManyNodes,
+    WrongCloser,
+    WrongSyntax,
+    DuplicateLeaf,
+    NoDocument,
+    WrongKeyword,
+    NoRow,
+    NoCell,
+    NoParaText,
+    NodeInParagraph,
+    WrongContext,
+    WrongColor,
+    WrongBorder,
+    WrongAlignment,
+    NotANumber,
+    Overflow,
+    TakenKey,
+    Rejected,
+
+    // nodeWarnings.h
+    ClosedByOpener,
+    RepeatedOpener,
+    UnclosedRow,
+    OutsideDocument,
+    LostAlignment,
+    RefusedMarkedField,
+    LeadingZeros,
+    IgnoreComment,
+
+    // styleWarnings.h
+    UnknownParagraphStyle,
+    UnknownCharacterStyle,
+    UnknownCellStyle,
+    SharedStyleNumber,
+    LowContrast,
+
+    // textWarnings.h
+    CutValue,
+    UnclosedInlineStyle,
+    HtmlTag,
+    EmptyText,
+    UnbalancedBrace,
+    HiddenBraces,
+    LoneBackslash,
+    UnknownControlWord,
+    ControlCharacter,
+    EmbeddedContent,
+    TableControl,
+    HeaderControl,
+    UnknownNumber,
+    ShownSubstitute,
+    UnencodableCharacter,
+    Utf8Text,
+
+    // pageWarnings.h
+    WidthsSum,
+    WidthClamped,
+    TableOverrun,
+    TableUnderrun,
+    MarginFallback,
+    NoRoom,
+    TinyMeasure,
+    PageNumberFallback,
+    TooManyCells,
+
+    // styleSheetDiagnostics.h
+    BracesUnderflow,
+    BracesOverflow,
+    BadKeyword,
+    BadStyleKind,
+    BadAdditive,
+    StyleSheetRejected,
+    DescriptionAsStyleSheet,
+    NoStyles,
+    DuplicateStyle,
+    UnusedStyle,
+    NoStyleKind,
+    RepeatedItem,
+    EmptyStyleName,
+    UndefinedReference,
+    UnknownCellColor,
+    FormatText,
+
+    // rtfDiagnostics.h
+    NotRtf,
+    UnclosedGroup,
+    TextAfterEnd,
+    DataAfterEnd,
+    BadHexEscape,
+    CutOff,
+    BinaryLength,
+    DeepNesting,
+    CellCount,
+    UnevenRow,
+    RowWithoutCells,
+    FallingEdge,
+    UnendedRow,
+    SectionInRow,
+    UnknownFont,
+    UnknownColor,
+    UnknownStyle,
+    DuplicateFont,
+    DuplicateStyleNumber,
+    UnknownDestination,
+};
+
+}  // namespace quorvane

@@ -1,0 +1,606 @@
+#pragma once
+
+#include "quorvane/diagnostics/engine/diagnosticRules.h"
+
+namespace quorvane {
+
+/// What the library rejects in a description.
+inline constexpr DiagnosticRule descriptionErrors[] = {
+    {.id = DiagnosticId::WrongFileType,
+     .identifier = "wrong-file-type",
+     .severity = Severity::Error,
+     .language = CheckedLanguage::Description,
+     .message = "The provided file isn't a correct rtfspec file.",
+     .explanation = R"(
+A description is one `doc` node. A text without `(doc` is not a description, and neither is a
+stylesheet or an RTF file that is named `.rtfspec`.
+)",
+     .wrong = R"(
+(dco
+(r
+(c
+(p
+(pt=Total)
+p)
+c)
+r)
+doc)
+)",
+     .right = R"(
+(doc
+(r
+(c
+(p
+(pt=Total)
+p)
+c)
+r)
+doc)
+)"},
+
+    {.id = DiagnosticId::MissingElement,
+     .identifier = "missing-element",
+     .severity = Severity::Error,
+     .language = CheckedLanguage::Description,
+     .message = "Missing some requiered elements:\r\n(doc\r\n(row\r\n(cell",
+     .explanation = R"(
+A description has at least one row with a cell. One of `(row`, `(r`, `(cell` and `(c`, in lower
+case, must occur in it.
+)",
+     .wrong = R"(
+(doc
+(paper-width=11906)
+doc)
+)",
+     .right = R"(
+(doc
+(r
+(c
+(p
+(pt=Total)
+p)
+c)
+r)
+doc)
+)"},
+
+    {.id = DiagnosticId::WrongRoot,
+     .identifier = "wrong-root",
+     .severity = Severity::Error,
+     .language = CheckedLanguage::Description,
+     .message = "(doc must be the first node.",
+     .explanation = R"(
+The first line must begin with `(doc` and the last one with `doc)`, in lower case. Comments and
+blank lines do not count.
+)",
+     .wrong = R"(
+(doc
+(r
+(c
+(p
+(pt=Total)
+p)
+c)
+r)
+)",
+     .right = R"(
+(doc
+(r
+(c
+(p
+(pt=Total)
+p)
+c)
+r)
+doc)
+)"},
+
+    {.id = DiagnosticId::TooManyNodes,
+     .identifier = "too-many-nodes",
+     .severity = Severity::Error,
+     .language = CheckedLanguage::Description,
+     .message = "Too many {0} nodes.",
+     .explanation = R"(
+A description can have at most 999 rows, 999 cells and 999 paragraphs. Reading stops at the limit.
+Split a longer table into several descriptions, or build it with the object model.
+)",
+     .wrong = R"(
+(doc
+; 1000 times:
+(r
+(c
+c)
+r)
+; so far
+doc)
+)",
+     .right = R"(
+(doc
+; 999 times:
+(r
+(c
+c)
+r)
+; so far
+doc)
+)"},
+
+    {.id = DiagnosticId::WrongCloser,
+     .identifier = "wrong-closer",
+     .severity = Severity::Error,
+     .language = CheckedLanguage::Description,
+     .message = "Wrong node type in {0}",
+     .explanation = R"(
+A closer closes the node that was opened last. If another node is still open, its closer is missing
+before this line.
+)",
+     .wrong = R"(
+(doc
+(r
+(c
+(p
+(pt=Total)
+c)
+r)
+doc)
+)",
+     .right = R"(
+(doc
+(r
+(c
+(p
+(pt=Total)
+p)
+c)
+r)
+doc)
+)"},
+
+    {.id = DiagnosticId::WrongSyntax,
+     .identifier = "wrong-syntax",
+     .severity = Severity::Error,
+     .language = CheckedLanguage::Description,
+     .message = "{0} has a wrong syntax",
+     .explanation = R"(
+A line is an opener such as `(row`, a closer such as `row)`, a leaf such as `(pt=Total)`, or a
+comment, which begins with `;`. A leaf begins and ends on one line, and its value ends at the first
+`)`. In a text, write `\line` for a line break and `\'29` for a `)`.
+)",
+     .wrong = R"(
+(doc
+(r
+(c
+(p
+(pt Total)
+p)
+c)
+r)
+doc)
+)",
+     .right = R"(
+(doc
+(r
+(c
+(p
+(pt=Total)
+p)
+c)
+r)
+doc)
+)"},
+
+    {.id = DiagnosticId::DuplicateLeaf,
+     .identifier = "duplicate-leaf",
+     .severity = Severity::Error,
+     .language = CheckedLanguage::Description,
+     .message = "This key is already associated with an element of this collection",
+     .explanation = R"(
+A key can occur only once in a node. The long and the short form of a key are the same key.
+)",
+     .wrong = R"(
+(doc
+(r
+(c
+(p
+(pt=Total)
+(para-text=Sum)
+p)
+c)
+r)
+doc)
+)",
+     .right = R"(
+(doc
+(r
+(c
+(p
+(pt=Total)
+p)
+c)
+r)
+doc)
+)"},
+
+    {.id = DiagnosticId::NoDocument,
+     .identifier = "no-document",
+     .severity = Severity::Error,
+     .language = CheckedLanguage::Description,
+     .message = "Object variable or With block variable not set",
+     .explanation = R"(
+The first line begins with `(doc`, but does not open a `doc` node, so there is no document.
+)",
+     .wrong = R"(
+(doc=1)
+(r
+(c
+(p
+(pt=Total)
+p)
+c)
+r)
+doc)
+)",
+     .right = R"(
+(doc
+(r
+(c
+(p
+(pt=Total)
+p)
+c)
+r)
+doc)
+)"},
+
+    {.id = DiagnosticId::WrongKeyword,
+     .identifier = "wrong-keyword",
+     .severity = Severity::Error,
+     .language = CheckedLanguage::Description,
+     .message = "{0} isn't a valid keyword.",
+     .explanation = R"(
+Each kind of node has its own keys. They are written in lower case, in the long or the short form.
+)",
+     .wrong = R"(
+(doc
+(r
+(c
+(pt=Total)
+c)
+r)
+doc)
+)",
+     .right = R"(
+(doc
+(r
+(c
+(p
+(pt=Total)
+p)
+c)
+r)
+doc)
+)"},
+
+    {.id = DiagnosticId::NoRow,
+     .identifier = "no-row",
+     .severity = Severity::Error,
+     .language = CheckedLanguage::Description,
+     .message = "Must have at least one row.",
+     .explanation = R"(
+A document has at least one row.
+)",
+     .wrong = R"(
+(doc
+(c
+c)
+doc)
+)",
+     .right = R"(
+(doc
+(r
+(c
+c)
+r)
+doc)
+)"},
+
+    {.id = DiagnosticId::NoCell,
+     .identifier = "no-cell",
+     .severity = Severity::Error,
+     .language = CheckedLanguage::Description,
+     .message = "Must have at least one cell.",
+     .explanation = R"(
+A row has at least one cell. Word processors lose a table that has a row without cells.
+)",
+     .wrong = R"(
+(doc
+(r
+r)
+doc)
+)",
+     .right = R"(
+(doc
+(r
+(c
+c)
+r)
+doc)
+)"},
+
+    {.id = DiagnosticId::NoParaText,
+     .identifier = "no-para-text",
+     .severity = Severity::Error,
+     .language = CheckedLanguage::Description,
+     .message = "In a para group para-text is mandatory.",
+     .explanation = R"(
+A paragraph must have the key `para-text`, or `pt` for short. Its value may be empty.
+)",
+     .wrong = R"(
+(doc
+(r
+(c
+(p
+(pa=right)
+p)
+c)
+r)
+doc)
+)",
+     .right = R"(
+(doc
+(r
+(c
+(p
+(pt=Total)
+(pa=right)
+p)
+c)
+r)
+doc)
+)"},
+
+    {.id = DiagnosticId::NodeInParagraph,
+     .identifier = "node-in-paragraph",
+     .severity = Severity::Error,
+     .language = CheckedLanguage::Description,
+     .message = "A paragraph is a terminal node",
+     .explanation = R"(
+A paragraph cannot contain other nodes.
+)",
+     .wrong = R"(
+(doc
+(r
+(c
+(p
+(pt=Total)
+(doc
+doc)
+p)
+c)
+r)
+doc)
+)",
+     .right = R"(
+(doc
+(r
+(c
+(p
+(pt=Total)
+p)
+c)
+r)
+doc)
+)"},
+
+    {.id = DiagnosticId::WrongContext,
+     .identifier = "wrong-context",
+     .severity = Severity::Error,
+     .language = CheckedLanguage::Description,
+     .message = "Invalid node declaration in this context\r\n",
+     .explanation = R"(
+A document contains rows, a row contains cells, and a cell contains paragraphs. A `doc` node cannot
+be inside another node.
+)",
+     .wrong = R"(
+(doc
+(r
+(c
+(doc
+doc)
+c)
+r)
+doc)
+)",
+     .right = R"(
+(doc
+(r
+(c
+c)
+r)
+doc)
+)"},
+
+    {.id = DiagnosticId::WrongColor,
+     .identifier = "wrong-color",
+     .severity = Severity::Error,
+     .language = CheckedLanguage::Description,
+     .message = "{0} isn't a recognized color.",
+     .explanation = R"(
+A background is one of the 37 color names of the description language, or `none`.
+)",
+     .wrong = R"(
+(doc
+(r
+(rb=crimson)
+(c
+c)
+r)
+doc)
+)",
+     .right = R"(
+(doc
+(r
+(rb=dark-red)
+(c
+c)
+r)
+doc)
+)"},
+
+    {.id = DiagnosticId::WrongBorder,
+     .identifier = "wrong-border",
+     .severity = Severity::Error,
+     .language = CheckedLanguage::Description,
+     .message = "{0} isn't a recognized border.",
+     .explanation = R"(
+A border is `none`, `hair`, `thin`, `normal` or `thick`.
+)",
+     .wrong = R"(
+(doc
+(r
+(rtb=medium)
+(c
+c)
+r)
+doc)
+)",
+     .right = R"(
+(doc
+(r
+(rtb=normal)
+(c
+c)
+r)
+doc)
+)"},
+
+    {.id = DiagnosticId::WrongAlignment,
+     .identifier = "wrong-alignment",
+     .severity = Severity::Error,
+     .language = CheckedLanguage::Description,
+     .message = "{0} isn't a recognized alignment.",
+     .explanation = R"(
+An alignment is `left`, `right`, `centered`, `justified` or `none`, or a number from 0 to 4.
+)",
+     .wrong = R"(
+(doc
+(r
+(c
+(ca=center)
+c)
+r)
+doc)
+)",
+     .right = R"(
+(doc
+(r
+(c
+(ca=centered)
+c)
+r)
+doc)
+)"},
+
+    {.id = DiagnosticId::NotANumber,
+     .identifier = "not-a-number",
+     .severity = Severity::Error,
+     .language = CheckedLanguage::Description,
+     .message = "Value for {0} should be numeric.",
+     .explanation = R"(
+The keys of the document, `cell-width`, `row-key`, `cell-key` and `para-key` take a number without a
+unit: digits with at most one `.`, optionally with a sign before them and an exponent after them.
+)",
+     .wrong = R"(
+(doc
+(r
+(c
+(cw=50%)
+c)
+r)
+doc)
+)",
+     .right = R"(
+(doc
+(r
+(c
+(cw=50)
+c)
+r)
+doc)
+)"},
+
+    {.id = DiagnosticId::Overflow,
+     .identifier = "overflow",
+     .severity = Severity::Error,
+     .language = CheckedLanguage::Description,
+     .message = "Overflow",
+     .explanation = R"(
+A number is rounded to a whole number, which must fit into 32 bits. So must the measures that are
+computed from it.
+)",
+     .wrong = R"(
+(doc
+(paper-width=1e12)
+(r
+(c
+c)
+r)
+doc)
+)",
+     .right = R"(
+(doc
+(paper-width=12242)
+(r
+(c
+c)
+r)
+doc)
+)"},
+
+    {.id = DiagnosticId::TakenKey,
+     .identifier = "taken-key",
+     .severity = Severity::Error,
+     .language = CheckedLanguage::Description,
+     .message = "This key is already associated with an element of this collection",
+     .explanation = R"(
+Two rows of a document, two cells of a row, or two paragraphs of a cell cannot have the same key.
+The key of a node without one is its number: rows count from 1001, cells from 2001 and paragraphs
+from 3001.
+)",
+     .wrong = R"(
+(doc
+(r
+(c
+(cell-key=7)
+c)
+(c
+(cell-key=7)
+c)
+r)
+doc)
+)",
+     .right = R"(
+(doc
+(r
+(c
+(cell-key=7)
+c)
+(c
+(cell-key=8)
+c)
+r)
+doc)
+)"},
+
+    {.id = DiagnosticId::Rejected,
+     .identifier = "rejected",
+     .severity = Severity::Error,
+     .language = CheckedLanguage::Description,
+     .message = "{0}",
+     .explanation = R"(
+The library rejects the description with an error that has no diagnostic of its own. The message is
+that of the error.
+)"},
+};
+
+}  // namespace quorvane

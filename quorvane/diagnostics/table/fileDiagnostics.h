@@ -1,0 +1,31 @@
+#pragma once
+
+#include "quorvane/diagnostics/engine/diagnosticRules.h"
+
+namespace quorvane {
+
+/// What can be wrong with a file as a whole.
+inline constexpr DiagnosticRule fileDiagnostics[] = {
+    {.id = DiagnosticId::NotATextFile,
+     .identifier = "not-a-text-file",
+     .severity = Severity::Error,
+     .language = CheckedLanguage::Description,
+     .message = "This is {0}, not {1}.",
+     .explanation = R"(
+Descriptions and stylesheets are text files in Windows-1252, with one byte for each character. A PDF
+file, a picture, an archive, a program, the document of an office program, or a text in UTF-16
+cannot be read as one. Nothing else is reported about such a file.
+)"},
+
+    {.id = DiagnosticId::WrongExtension,
+     .identifier = "wrong-extension",
+     .severity = Severity::Warning,
+     .language = CheckedLanguage::Rtf,
+     .message = "This is {0}, but its extension is {1}.",
+     .explanation = R"(
+A file is checked as what it contains, but people and programs go by its extension: `.rtfspec` for
+descriptions, `.rtfss` for stylesheets, `.rtf` for documents. Rename the file.
+)"},
+};
+
+}  // namespace quorvane

@@ -1,0 +1,18 @@
+#pragma once
+
+namespace quorvane {
+
+// An inline style is a token such as `<strong=Total>`: the text between "<" and ">" that begins
+// with a character from "A" to "z" (the six punctuation characters between the letters included)
+// and holds a "=".
+
+/// True for a character that a token can have after its "<".
+constexpr bool beginsInlineToken(char32_t character) {
+    return character >= U'A' && character <= U'z';
+}
+
+constexpr bool isBracket(char32_t character) {
+    return character == U'<' || character == U'>';
+}
+
+}  // namespace quorvane

@@ -1,0 +1,146 @@
+#include "quorvane/stylesheet/stylesheetSyntax.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+#include "quorvane/base/text/textCase.h"
+#include "quorvane/base/text/trimming.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr std::size_t nowhere = std::string_view::npos;
+
+constexpr std::string_view styleKindWords[] = {"s", "cs", "cell"};
+constexpr std::string_view yesAndNo[] = {"yes", "no"};
+
+constexpr StyleKeyword keywords[] = {{"style-def", 'd', styleKindWords},
+                                     {"format", 'f', {}},
+                                     {"based-on", 'b', {}},
+                                     {"next", 'n', {}},
+                                     {"additive", 'a', yesAndNo}};
+
+constexpr auto keywordWords = [] {
+    std::array<std::string_view, std::size(keywords)> words;
+    std::transform(std::begin(keywords), std::end(keywords), words.begin(),
+                   [](const StyleKeyword& keyword) { return keyword.word; });
+    return words;
+}();
+
+BracedText bracedText(std::string_view text, std::size_t open, std::size_t close) {
+    const std::size_t length = close > open ? close - open - 1 : 0;
+    return {open, close, text.substr(open + 1, length)};
+}
+
+}  // namespace
+
+bool StyleKeyword::accepts(std::string_view value) const {
+    return values.empty() || std::find(values.begin(), values.end(), value) != values.end();
+}
+
+std::span<const std::string_view> styleKeywordWords() {
+    return keywordWords;
+}
+
+const StyleKeyword* findStyleKeyword(std::string_view word) {
+    const auto* const found =
+        std::find_if(std::begin(keywords), std::end(keywords),
+                     [&](const StyleKeyword& keyword) { return keyword.word == word; });
+    return found == std::end(keywords) ? nullptr : found;
+}
+
+StyleItem readStyleItem(std::string_view text) {
+    const std::size_t colon = text.find(':');
+    StyleItem item;
+    item.whole = trimWhitespace(text);
+    item.writtenKeyword = trimWhitespace(text.substr(0, colon));
+    item.keyword = lowerCase(item.writtenKeyword);
+    item.value =
+        colon == nowhere ? text.substr(text.size()) : trimWhitespace(text.substr(colon + 1));
+    return item;
+}
+
+StyleItemFault faultOfFirst(const StyleItem& item) {
+    return item.keyword == nameKeyword ? StyleItemFault::None : StyleItemFault::Keyword;
+}
+
+StyleItemFault faultOf(const StyleItem& item) {
+    const StyleKeyword* const keyword = findStyleKeyword(item.keyword);
+    if (!keyword) {
+        return StyleItemFault::Keyword;
+    }
+    return keyword->values.empty() || keyword->accepts(lowerCase(item.value))
+               ? StyleItemFault::None
+               : StyleItemFault::Value;
+}
+
+std::optional<std::string_view> Pieces::next() {
+    if (areAllRead()) {
+        return std::nullopt;
+    }
+    const std::size_t end = std::min(text_.find(separator_, start_), text_.size());
+    const std::string_view piece = text_.substr(start_, end - start_);
+    start_ = end + 1;
+    return piece;
+}
+
+std::optional<StyleItem> StyleItems::next() {
+    const std::optional<std::string_view> piece = pieces_.next();
+    if (!piece || (pieces_.areAllRead() && trimWhitespace(*piece).empty())) {
+        return std::nullopt;
+    }
+    return readStyleItem(*piece);
+}
+
+std::vector<std::string_view> styleNamesIn(std::string_view value) {
+    std::vector<std::string_view> names;
+    Pieces pieces(value, ',');
+    while (const std::optional<std::string_view> piece = pieces.next()) {
+        names.push_back(trimWhitespace(*piece));
+    }
+    return names;
+}
+
+BraceCount countBraces(std::string_view text) {
+    return {std::count(text.begin(), text.end(), '{'), std::count(text.begin(), text.end(), '}')};
+}
+
+std::string_view findLoneBrace(std::string_view text) {
+    std::size_t open = nowhere;
+    for (std::size_t at = text.find_first_of("{}"); at != nowhere;
+         at = text.find_first_of("{}", at + 1)) {
+        if (text[at] == '{' && open != nowhere) {
+            return text.substr(open, 1);
+        }
+        if (text[at] == '}' && open == nowhere) {
+            return text.substr(at, 1);
+        }
+        open = text[at] == '{' ? at : nowhere;
+    }
+    return open == nowhere ? text.substr(0, 0) : text.substr(open, 1);
+}
+
+std::optional<BracedText> bracedTextFrom(std::string_view text, std::size_t from) {
+    const std::size_t open = text.find('{', from);
+    if (open == nowhere) {
+        return std::nullopt;
+    }
+    return bracedText(text, open, std::min(text.find('}', open), text.size()));
+}
+
+BracedTexts::BracedTexts(std::string_view text)
+    : text_(text), open_(text.find('{')), close_(text.find('}')) {}
+
+std::optional<BracedText> BracedTexts::next() {
+    if (close_ == nowhere) {
+        return std::nullopt;
+    }
+    const BracedText definition = bracedText(text_, open_, close_);
+    open_ = text_.find('{', open_ + 1);
+    close_ = text_.find('}', close_ + 1);
+    return definition;
+}
+
+}  // namespace quorvane

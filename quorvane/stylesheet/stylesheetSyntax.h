@@ -1,0 +1,134 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quorvane {
+
+// The syntax of stylesheets. A stylesheet is a sequence of definitions, each in braces; the text
+// outside the braces has no meaning. A definition is a sequence of items separated by ";". An item
+// is a keyword, a ":" and a value; the value of the first item, "name", is a list of names
+// separated by ",". Blanks, tabs and line breaks at the ends of any part do not count. Everything
+// that reads stylesheets reads them through what is declared here. All views are into the text that
+// was given, and nothing fails.
+
+/// A keyword of a stylesheet.
+struct StyleKeyword {
+    std::string_view word;
+    /// The code of the subfield in which a parsed definition keeps the value.
+    char subField;
+    /// The values that the keyword accepts, in lower case; empty when it accepts any.
+    std::span<const std::string_view> values;
+
+    bool accepts(std::string_view value) const;
+};
+
+/// The keyword of the first item.
+inline constexpr std::string_view nameKeyword = "name";
+
+/// The keywords of the other items.
+std::span<const std::string_view> styleKeywordWords();
+
+/// The keyword of an item other than the first; null for any other word. Case counts.
+const StyleKeyword* findStyleKeyword(std::string_view word);
+
+/// An item of a definition.
+struct StyleItem {
+    std::string_view whole;
+    std::string_view writtenKeyword;
+    /// In lower case.
+    std::string keyword;
+    /// Empty when the item has no ":".
+    std::string_view value;
+
+    bool hasColon() const { return whole.size() > writtenKeyword.size(); }
+};
+
+StyleItem readStyleItem(std::string_view text);
+
+/// What makes an item invalid.
+enum class StyleItemFault { None, Keyword, Value };
+
+/// The fault of the first item of a definition.
+StyleItemFault faultOfFirst(const StyleItem& item);
+
+/// The fault of any other item. The value is compared without regard to case.
+StyleItemFault faultOf(const StyleItem& item);
+
+/// The pieces of a text between separators. An empty text is one empty piece.
+class Pieces {
+public:
+    Pieces(std::string_view text, char separator) : text_(text), separator_(separator) {}
+
+    /// The next piece; nothing after the last one.
+    std::optional<std::string_view> next();
+
+    bool areAllRead() const { return start_ > text_.size(); }
+
+private:
+    std::string_view text_;
+    char separator_;
+    std::size_t start_ = 0;
+};
+
+/// The items of a definition. One that is empty is an item like any other, except the last.
+class StyleItems {
+public:
+    /// `body` is the text between the braces.
+    explicit StyleItems(std::string_view body) : pieces_(body, ';') {}
+
+    /// The next item; nothing after the last one.
+    std::optional<StyleItem> next();
+
+private:
+    Pieces pieces_;
+};
+
+/// The names in the value of an item "name", in the case in which they are written.
+std::vector<std::string_view> styleNamesIn(std::string_view value);
+
+/// How many braces a text holds.
+struct BraceCount {
+    std::ptrdiff_t opened;
+    std::ptrdiff_t closed;
+};
+
+BraceCount countBraces(std::string_view text);
+
+/// The first brace that is not one of a pair: a "}" with no "{" open, or a "{" that another "{"
+/// follows before any "}". Empty when the braces alternate, each "{" followed by its "}".
+std::string_view findLoneBrace(std::string_view text);
+
+/// A definition's place in its stylesheet.
+struct BracedText {
+    /// Where its "{" is.
+    std::size_t open;
+    /// Where its "}" is; the size of the stylesheet when there is none.
+    std::size_t close;
+    /// The text between them; empty when the "}" comes first.
+    std::string_view body;
+};
+
+/// The first "{" at or after a place, with the first "}" after it; nothing when there is no "{".
+std::optional<BracedText> bracedTextFrom(std::string_view text, std::size_t from);
+
+/// The definitions of a stylesheet that has as many "{" as "}": the first "{" goes with the first
+/// "}", the second with the second, and so on, even where a "}" comes before its "{".
+class BracedTexts {
+public:
+    explicit BracedTexts(std::string_view text);
+
+    /// The next definition; nothing after the last one.
+    std::optional<BracedText> next();
+
+private:
+    std::string_view text_;
+    std::size_t open_;
+    std::size_t close_;
+};
+
+}  // namespace quorvane

@@ -1,0 +1,146 @@
+"""Checks the pages of the documentation: checkPages.py PROJECT
+
+- Links lead to files and headings that exist.
+- The table of contents of a page lists its sections, in their order.
+- A block of code that names a file of the project repeats that file.
+- The tests that docs/promises.md names exist.
+- Words are spelled as in American English.
+"""
+
+import pathlib
+import re
+import sys
+
+project = pathlib.Path(sys.argv[1]).resolve()
+problems = []
+
+BRITISH = re.compile(
+    r"\b(colours?|coloured|behaviours?|neighbours?|neighbouring|centred?|centres|catalogues?|"
+    r"analys(?:e|ed|ing)|recognis\w+|organis\w+|initialis\w+|serialis\w+|normalis\w+|"
+    r"summaris\w+|optimis\w+|licences?|honours?|favours?|greys?|artefacts?|labelled|cancelled)\b",
+    re.IGNORECASE)
+
+
+def report(page, line, text):
+    problems.append(f"{page.relative_to(project)}:{line}: {text}")
+
+
+def pages():
+    return [*sorted(project.glob("*.md")), *sorted((project / "docs").glob("*.md"))]
+
+
+def lines_of(page):
+    """The lines of a page with their numbers, and whether they are code."""
+    in_code = False
+    for number, line in enumerate(page.read_text(encoding="utf-8").split("\n"), 1):
+        fence = line.startswith("```")
+        yield number, line, in_code or fence
+        in_code ^= fence
+
+
+def anchor(heading):
+    text = re.sub(r"[^\w\- ]", "", heading.strip().lower())
+    return text.replace(" ", "-")
+
+
+def headings(page):
+    """The level and the anchor of each heading."""
+    return [(len(match[1]), anchor(match[2]))
+            for _, line, is_code in lines_of(page)
+            if not is_code and (match := re.match(r"(#+) (.*)", line))]
+
+
+def check_links(page):
+    for number, line, is_code in lines_of(page):
+        if is_code:
+            continue
+        for target in re.findall(r"\]\(([^)\s]+)\)", re.sub(r"`[^`]*`", "", line)):
+            if re.match(r"\w+:", target):
+                continue
+            path, _, fragment = target.partition("#")
+            file = (page.parent / path).resolve() if path else page
+            if not file.exists():
+                report(page, number, f"{target}: there is no such file")
+            elif fragment and fragment not in [name for _, name in headings(file)]:
+                report(page, number, f"{target}: there is no such heading")
+
+
+def check_contents(page):
+    text = page.read_text(encoding="utf-8")
+    contents = re.findall(r"^- \[[^\]]*\]\(#([^)]*)\)", text.split("\n## ")[0], re.MULTILINE)
+    sections = [name for level, name in headings(page) if level == 2]
+    if contents and contents != sections:
+        report(page, 1, f"the contents list {contents}, the sections are {sections}")
+
+
+def check_code(page):
+    """A block that begins with ```LANGUAGE FOLDER/FILE is that file."""
+    text = page.read_text(encoding="utf-8")
+    for block in re.finditer(r"^```\w+ (\S+/\S+)\n(.*?)^```$", text, re.MULTILINE | re.DOTALL):
+        file = project / block[1]
+        number = text.count("\n", 0, block.start()) + 1
+        if not file.exists():
+            report(page, number, f"{block[1]}: there is no such file")
+        elif file.read_text(encoding="utf-8") != block[2]:
+            report(page, number, f"the code differs from {block[1]}")
+
+
+def check_spelling(page):
+    for number, line, is_code in lines_of(page):
+        for word in BRITISH.findall("" if is_code else re.sub(r"`[^`]*`|\([^)]*\)", "", line)):
+            report(page, number, f"\"{word}\" is not American spelling")
+
+
+def test_names():
+    sources = "\n".join(file.read_text(encoding="utf-8")
+                        for file in (project / "tests").rglob("*") if file.suffix in (".cpp", ".h"))
+    return {f"{suite}.{name}"
+            for suite, name in re.findall(r"\bTEST(?:_F|_P)?\(\s*(\w+),\s*(\w+)\)", sources)}
+
+
+class Promises:
+    """What docs/promises.md names as proof."""
+
+    def __init__(self):
+        self.page = project / "docs" / "promises.md"
+        self.tests = test_names()
+        self.suites = {name.split(".")[0] for name in self.tests}
+        self.files = {file.name for file in (project / "tests").rglob("*")}
+        self.suite = ""
+
+    def exists(self, proof):
+        if "/" in proof:
+            return (project / proof).exists()
+        if proof.endswith("_fuzz"):
+            return (project / "tests" / "fuzz" / f"{proof}.cpp").exists()
+        if proof.endswith((".h", ".cpp", ".py")):
+            return proof in self.files
+        suite, _, name = proof.rstrip("…").partition(".")
+        self.suite = suite or self.suite
+        if not name:
+            return self.suite in self.suites
+        if proof.endswith("…"):
+            return any(test.startswith(f"{self.suite}.{name}") for test in self.tests)
+        return f"{self.suite}.{name}" in self.tests
+
+    def check(self):
+        for number, line, _ in lines_of(self.page):
+            if not line.startswith("|") or line.startswith(("|---", "| promise |")):
+                continue
+            proofs = re.findall(r"`([^`]+)`", line.rsplit("|", 2)[1])
+            if not proofs:
+                report(self.page, number, "the promise names no test")
+            for proof in proofs:
+                if not self.exists(proof):
+                    report(self.page, number, f"{proof}: there is no such test or file")
+
+
+for page in pages():
+    check_links(page)
+    check_contents(page)
+    check_code(page)
+    check_spelling(page)
+Promises().check()
+if problems:
+    sys.exit("\n".join(problems))
+print(f"{len(pages())} pages are sound.")
