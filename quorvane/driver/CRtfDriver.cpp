@@ -87,7 +87,7 @@ void CRtfDriver::setAbsorbedErrorObserver(GError::Observer observer) {
 }
 
 void CRtfDriver::AnalyseData(std::string_view text) {
-    // A handler of the event may let go of the driver.
+    // A handler of the event may release the driver.
     const Ref<CRtfDriver> self(this);
     document_->ClearStructure();
     std::vector<SourceLine> lines = PreProcessRawData(text);

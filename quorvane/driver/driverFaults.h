@@ -54,9 +54,6 @@ enum class DriverFault : std::uint8_t {
 /// that the table has for it; `line` is the 1-based line of the description, 0 for none.
 RtfError driverError(DriverFault fault, std::string_view argument = {}, int line = 0);
 
-/// The published text, with "{0}" for the argument.
-std::string_view driverErrorText(DriverFault fault);
-
 /// Something in a description that the driver rejects.
 struct Violation {
     DriverFault fault = DriverFault::Other;

@@ -146,10 +146,12 @@ private:
 
 /// True when the parser takes both lines for the same.
 bool isLineAlike(const SourceLine& a, const SourceLine& b, const Dialect& dialect) {
+    if (a.text == b.text) {
+        return true;
+    }
     const DescriptionLine left = descriptionLine(a.text, dialect);
     const DescriptionLine right = descriptionLine(b.text, dialect);
-    return left.type == right.type && left.kind == right.kind &&
-           (left.isReadable() || a.text == b.text) &&
+    return left.type == right.type && left.kind == right.kind && left.isReadable() &&
            dialect.vocabulary.leafKey(left.key).name ==
                dialect.vocabulary.leafKey(right.key).name &&
            left.value == right.value;

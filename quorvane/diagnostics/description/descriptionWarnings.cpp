@@ -29,14 +29,14 @@ namespace quorvane {
 
 namespace {
 
-constexpr std::size_t mostCells = 63;
-constexpr double leastContrast = 3;
-// A table that uses a larger part of the page's width is none that is too narrow.
-constexpr double mostUsed = 0.95;
-// Pairs of colors that are told of one paragraph.
-constexpr std::size_t mostColorsTold = 10;
+constexpr std::size_t maxCells = 63;
+constexpr double minContrast = 3;
+// A table that uses a larger part of the page's width is not too narrow.
+constexpr double maxUsed = 0.95;
+// Pairs of colors that are reported for one paragraph.
+constexpr std::size_t maxColorsReported = 10;
 // Looking for the style that was meant takes a while.
-constexpr int mostHints = 1000;
+constexpr int maxHints = 1000;
 
 bool isSound(const Leaf* leaf) {
     return leaf && !leaf->isFaulty;
@@ -96,7 +96,7 @@ private:
         engine_.report(id, source_.placeOf(leaf.text), arguments, std::move(hint));
     }
 
-    /// A value with a "(" that ends at the first ")" while another one stands in the comment behind
+    /// A value with a "(" that ends at the first ")" while another one stands in the comment after
     /// the leaf.
     void findCutValue(const Leaf& leaf) {
         constexpr std::string_view escape = "\\'29";
@@ -145,7 +145,7 @@ private:
     }
 
     Hint styleHint(StyleKind kind, std::string_view name) {
-        if (++hints_ > mostHints) {
+        if (++hints_ > maxHints) {
             return {};
         }
         const std::string trimmed(trimWhitespace(name));
@@ -219,7 +219,7 @@ private:
         return static_cast<std::size_t>(leaf.text.data() - source_.text().data());
     }
 
-    /// Without a ">" that ends it, an inline style is none and stands in the text as it is written.
+    /// Without a ">" that ends it, an inline style is plain text.
     void findUnclosedInlineStyles(std::string_view text) {
         std::vector<std::string_view> open;
         for (std::size_t at = text.find_first_of("<>"); at != std::string_view::npos;
@@ -233,8 +233,8 @@ private:
                 open.push_back(name);
             }
         }
-        constexpr std::size_t mostTold = 10;
-        open.resize(std::min(open.size(), mostTold));
+        constexpr std::size_t maxReported = 10;
+        open.resize(std::min(open.size(), maxReported));
         for (const std::string_view name : open) {
             styles_->markUsed(StyleKind::Character, name);
             engine_.report(DiagnosticId::UnclosedInlineStyle, source_.placeOf(name), {name},
@@ -320,7 +320,7 @@ private:
     void findInRow(const DescriptionNode& doc, const BuiltTable::Row& row, BuiltTable& table,
                    const CRtfDoc& document) {
         const std::span<const BuiltTable::Cell> cells = table.cellsOf(row);
-        if (cells.size() > mostCells) {
+        if (cells.size() > maxCells) {
             engine_.report(DiagnosticId::TooManyCells, source_.placeOf(row.node->opener),
                            {std::to_string(cells.size())});
         }
@@ -355,23 +355,23 @@ private:
         }
         // The even widths are rounded, each cell by less than a twip.
         const auto slack = static_cast<std::int64_t>(cells.size());
-        if (total > room + slack && !toldOverrun_) {
-            toldOverrun_ = true;
+        if (total > room + slack && !isOverrunReported_) {
+            isOverrunReported_ = true;
             engine_.report(DiagnosticId::TableOverrun, source_.placeOf(node.opener),
                            {std::to_string(total), std::to_string(room)},
                            marginsHint(document, total));
         }
         const bool isMeant = cells.empty() || (cells.size() == 1 && percents.front());
-        if (static_cast<double>(total) < room * mostUsed - static_cast<double>(slack) && !isMeant &&
-            !hasFallenMargin_ && !toldUnderrun_) {
-            toldUnderrun_ = true;
+        if (static_cast<double>(total) < room * maxUsed - static_cast<double>(slack) && !isMeant &&
+            !hasFallenMargin_ && !isUnderrunReported_) {
+            isUnderrunReported_ = true;
             engine_.report(DiagnosticId::TableUnderrun, source_.placeOf(widthLineOf(doc, node)),
                            {std::to_string(total), std::to_string(room)},
                            marginsHint(document, total));
         }
         // The page is to be made to fit the table; then it is the order of the cells that takes
         // widths away.
-        const bool fits = static_cast<double>(std::abs(total - room)) <= room * (1 - mostUsed);
+        const bool fits = static_cast<double>(std::abs(total - room)) <= room * (1 - maxUsed);
         const std::int32_t roomToBe = fits ? room : static_cast<std::int32_t>(total);
         bool hasHint = false;
         for (std::size_t i = 0; i < cells.size(); ++i) {
@@ -386,9 +386,9 @@ private:
 
     /// To try the orders takes a while; rows of one table have the same widths.
     Hint orderHint(const CellPercents& percents, std::int32_t room) {
-        constexpr std::size_t mostOrders = 20;
+        constexpr std::size_t maxOrders = 20;
         const auto known = orderHints_.find(percents);
-        if (known != orderHints_.end() || orderHints_.size() >= mostOrders) {
+        if (known != orderHints_.end() || orderHints_.size() >= maxOrders) {
             return known == orderHints_.end() ? Hint() : known->second;
         }
         return orderHints_.emplace(percents, widthOrderHint(percents, room)).first->second;
@@ -476,12 +476,13 @@ private:
         }
         TextColors colors = colorsBehind(formatOf(paragraph), {0, background});
         colors.text = own == eNoColor ? colors.text : own;
-        std::vector<TextColors> told;
+        std::vector<TextColors> reported;
         for (const ColoredPart& part : coloredParts(text->text, colors, styles_)) {
-            const bool isNew = std::find(told.begin(), told.end(), part.colors) == told.end() &&
-                               told.size() < mostColorsTold;
-            if (isNew && contrastOf(part.colors.text, part.colors.ground) < leastContrast) {
-                told.push_back(part.colors);
+            const bool isNew =
+                std::find(reported.begin(), reported.end(), part.colors) == reported.end() &&
+                reported.size() < maxColorsReported;
+            if (isNew && contrastOf(part.colors.text, part.colors.ground) < minContrast) {
+                reported.push_back(part.colors);
                 engine_.report(
                     DiagnosticId::LowContrast,
                     source_.placeOf(part.colors == colors ? text->text : part.part),
@@ -504,8 +505,8 @@ private:
     KnownStyles* styles_;
     const SourceText& source_;
     DiagnosticEngine& engine_;
-    bool toldOverrun_ = false;
-    bool toldUnderrun_ = false;
+    bool isOverrunReported_ = false;
+    bool isUnderrunReported_ = false;
     bool hasFallenMargin_ = false;
     // True for measures that are most likely in another unit.
     bool isWidthDoubtful_ = false;

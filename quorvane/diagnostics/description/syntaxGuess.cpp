@@ -44,7 +44,7 @@ std::string nameFor(NodeKind kind, std::string_view written) {
                                                         : std::string(nodeName(kind));
 }
 
-/// True when a line goes on behind a leaf with another one.
+/// True when a line goes on after a leaf with another one.
 bool beginsLeaf(std::string_view rest, const Vocabulary& vocabulary) {
     const std::size_t equals = rest.find('=');
     return rest.starts_with('(') && equals != nowhere &&

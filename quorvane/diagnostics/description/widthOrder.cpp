@@ -18,7 +18,7 @@ namespace quorvane {
 namespace {
 
 // Word processors take no more.
-constexpr std::size_t mostCells = 63;
+constexpr std::size_t maxCells = 63;
 
 /// The widths of a row's cells in twips, as a document lays them out.
 std::vector<std::int32_t> laidOut(const CellPercents& percents, std::int32_t room) {
@@ -116,7 +116,7 @@ Hint widthOrderHint(const CellPercents& percents, std::int32_t room) {
     const bool areAllGiven = std::all_of(percents.begin(), percents.end(),
                                          [](const auto& percent) { return percent.has_value(); });
     CellPercents filled = percents;
-    if (percents.size() < 3 || percents.size() > mostCells || !fillIn(filled)) {
+    if (percents.size() < 3 || percents.size() > maxCells || !fillIn(filled)) {
         return {};
     }
     try {
