@@ -155,7 +155,8 @@ void DescriptionRules::checkBuiltValues(DescriptionNode& doc) const {
 void DescriptionRules::checkBuiltValue(Leaf& leaf) const {
     const DescriptionKey key = leaf.key.known;
     if (const DriverFault fault = wrongNameFault(key); fault != DriverFault::Other) {
-        if (!hasNamedValue(leaf, dialect_.vocabulary)) {
+        const bool isBuilt = leaf.isNumber() || fault == DriverFault::WrongAlignment;
+        if (isBuilt && !hasNamedValue(leaf, dialect_.vocabulary)) {
             report(fault, leaf, leaf.valueText());
         }
     } else if (key != DescriptionKey::Unknown && !contains(textOrNumberKeys | filingKeys, key) &&

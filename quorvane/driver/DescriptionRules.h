@@ -36,8 +36,8 @@ public:
     /// not stand where it is.
     void treeWalkerSemantic(DescriptionNode& doc) const;
 
-    /// Checks the values that only the build rejects: `eWrongValue` a color, a border or an
-    /// alignment that is neither a name nor a number of the enumeration, 6 a number beyond 32 bits.
+    /// Checks the values that only the build rejects: `eWrongValue` a number that is not a color or
+    /// a border, and what is not an alignment, 6 a number beyond 32 bits.
     void checkBuiltValues(DescriptionNode& doc) const;
 
 private:

@@ -46,6 +46,14 @@ Enumeration required(std::optional<Enumeration> value, const Leaf& leaf) {
     return *value;
 }
 
+/// A host that is shown an absorbed error may remove elements that are not finished.
+template <class Collection>
+void requirePosition(const Collection& collection, std::int32_t position) {
+    if (position > collection.Count()) {
+        raise(RunTimeError::InvalidProcedureCall);
+    }
+}
+
 /// What the build reports an error of a leaf as.
 Violation violationOf(const RtfError& error, Leaf& leaf, DescriptionNode* keyHolder) {
     const bool isTaken = error.is(RunTimeError::DuplicateKey);
@@ -93,9 +101,13 @@ void DocumentBuilder::applyTo(Leaf& leaf, Apply apply) const {
 }
 
 BuiltTable DocumentBuilder::build(DescriptionNode& doc) {
+    const Ref<CRtfTableRows> rows = document_.TableRows();
+    // The handler of an error may have added rows.
+    std::int32_t position = rows->Count();
     addRows(doc);
     forEachLeaf(doc, NodeKind::Doc, [this](const Leaf& leaf) { applyDocLeaf(leaf); });
     for (BuiltTable::Row& row : table_.rows) {
+        requirePosition(*rows, ++position);
         applyRow(row);
     }
     return std::move(table_);
@@ -179,7 +191,9 @@ void DocumentBuilder::applyRow(BuiltTable::Row& row) {
     forEachLeaf(*row.node, NodeKind::Row, [&](const Leaf& leaf) { applyRowLeaf(row, leaf); });
     const Ref<CRtfTableCells> cells = row.element->TableCells();
     const std::span<BuiltTable::Cell> built = table_.cellsOf(row);
+    std::int32_t position = 0;
     for (BuiltTable::Cell& cell : built) {
+        requirePosition(*cells, ++position);
         applyCell(*cells, cell, built);
     }
 }
@@ -221,7 +235,9 @@ void DocumentBuilder::applyCell(CRtfTableCells& cells, BuiltTable::Cell& cell,
     });
     const Ref<CRtfParagraphs> paragraphs = cell.element->Paragraphs();
     const std::span<BuiltTable::Paragraph> built = table_.paragraphsOf(cell);
+    std::int32_t position = 0;
     for (BuiltTable::Paragraph& paragraph : built) {
+        requirePosition(*paragraphs, ++position);
         forEachLeaf(*paragraph.node, NodeKind::Para, [&](const Leaf& leaf) {
             if (leaf.key.known == DescriptionKey::ParaKey) {
                 refile(*paragraphs, paragraph, built, leaf);

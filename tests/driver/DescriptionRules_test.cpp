@@ -369,6 +369,7 @@ TEST(DescriptionRules, HoldForAMisplacedNodeByItsPlaceOrByItsKind) {
     const std::string text = "(doc|(doc|(paper-width=1)|(r|(c|c)|r)|doc)|doc)";
     EXPECT_THAT(violationsOf(text, MisplacedNodes::ByPlace),
                 ElementsAre("3 paper-width isn't a valid keyword.",
+                            "5 In a para group para-text is mandatory.",
                             "2 Invalid node declaration in this context\r\n"));
     EXPECT_THAT(violationsOf(text, MisplacedNodes::ByKind),
                 ElementsAre("2 Invalid node declaration in this context\r\n"));
