@@ -4,7 +4,7 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
 option(QUORVANE_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" ${PROJECT_IS_TOP_LEVEL})
-option(QUORVANE_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+option(QUORVANE_SANITIZE "Build with the address and undefined-behavior sanitizers" OFF)
 option(QUORVANE_SANITIZE_THREADS "Build with the thread sanitizer" OFF)
 option(QUORVANE_FUZZ "Build the fuzzers, which take clang, and nothing else to run" OFF)
 option(QUORVANE_COVERAGE "Build so that the tests' coverage can be measured" OFF)

@@ -47,7 +47,7 @@ CRtfDriverObject::CRtfDriverObject(Ref<CRtfDriver> driver) : Wrapper(std::move(d
     native().setNotifyErrorHandler([this](CRtfDriver&) { notifyErrorPoint_.fire(arithmetic_); });
 }
 
-// While a description is analysed, a handler of the event may release the host's last reference.
+// While a description is analyzed, a handler of the event may release the host's last reference.
 
 STDMETHODIMP CRtfDriverObject::ParseFile(BSTR path) {
     const ComPtr self(this);

@@ -1,5 +1,4 @@
-// Builds an order form with the object model and writes it to the file that is named on the command
-// line: orderForm order.rtf
+// Builds an order form: orderForm FILE
 
 #include <cstdio>
 #include <iostream>
@@ -13,8 +12,8 @@ using namespace quorvane;
 
 namespace {
 
-// One paragraph style that nothing uses stands first for the one character style, so that no style
-// number in use is shared; it has the format of "normal".
+// The stylesheet has one character style, so it begins with one paragraph style that nothing uses:
+// no number of a style in use is shared. It has the format of "normal".
 constexpr std::string_view styles = R"(
     { name: reserved; style-def: s; format: \f0\fs20\cf3 }
     { name: normal; style-def: s; format: \f0\fs20\cf3\sb40\sa40 }
@@ -41,7 +40,7 @@ struct Cell {
     tCellAlign align = eNoDefault;
 };
 
-// A paragraph's text is RTF, so a text that comes from outside is escaped.
+// The text of a paragraph is RTF, so plain text must be escaped.
 std::string escaped(std::string_view text) {
     std::string rtf;
     for (const char c : text) {
@@ -67,8 +66,9 @@ void addParagraph(CRtfTableCell& cell, std::string_view text, std::string_view s
     paragraph->setStyle(style);
 }
 
-// Adding a cell spreads the cells of the row evenly, so the widths come after all of them; borders
-// and background of a row go to the cells that it has then, so they come last of all.
+// Adding a cell spreads the cells of the row evenly, so the widths are set when all cells are
+// there. So are the borders and the background of a row, which go to the cells that the row has
+// then.
 Ref<CRtfTableRow> addRow(CRtfDoc& document, const std::vector<Cell>& cells) {
     document.TableRows()->AddTail();
     const auto row = document.TableRows()->PeekTail();
@@ -118,7 +118,7 @@ void fill(CRtfDoc& document, const std::vector<Item>& items) {
                                            {14, money(item.pence), "normal", eRight},
                                            {16, money(amount), "normal", eRight}});
         row->setBottomBorder(eHair);
-        // For the program that books the delivery: it finds the item's number in the document.
+        // The program that books the delivery finds the number of the item in the document.
         row->TableCells()->Item(1)->asMarkedField("item " + item.number);
     }
 
@@ -141,7 +141,7 @@ int main(int argc, char** argv) {
     }
     try {
         const auto document = CRtfDoc::create();
-        // Where a file cannot be written, Commit returns without an error; the observer is told.
+        // If the file cannot be written, Commit returns normally, and the observer is called.
         std::string failure;
         document->setAbsorbedErrorObserver(
             [&failure](const AbsorbedError& absorbed) { failure = absorbed.error.description; });

@@ -6,13 +6,12 @@
 
 namespace quorvane {
 
-/// The language that a text is written in, judged by its beginning, some thousand bytes of which
-/// are enough: a description begins with a node, RTF with a brace and a backslash, and a stylesheet
-/// with another brace, blank lines and comments aside. Where something else stands first, it is RTF
-/// when a backslash follows its first brace, a stylesheet when it has more braces than lines of the
-/// description language and is not named .rtfspec, and a description when it has such lines. Where
-/// the content does not tell, the name of the file does, by its extension; without one it is a
-/// description.
+/// Returns the language of a text. Its beginning is enough, some thousand bytes. Apart from blank
+/// lines and comments, a description begins with a node, RTF with a brace and a backslash, and a
+/// stylesheet with any other brace. If the text begins with anything else, it is RTF if a backslash
+/// follows its first brace; a stylesheet if it has more braces than lines of the description
+/// language and is not named .rtfspec; and a description if it has such lines. If the content does
+/// not decide, the extension of the file name does; without one, the text is a description.
 CheckedLanguage languageOf(std::string_view beginning, std::string_view fileName = {});
 
 /// The first line that is neither blank nor a comment, without the blanks around it; empty when

@@ -5,19 +5,18 @@
 
 namespace quorvane {
 
-/// Which forms the names of nodes and keys take: those that they have, or the long or short ones
-/// where there are two.
+/// The forms of names of nodes and keys: as they are, or the long or short ones.
 enum class NameForm { Kept, Long, Short };
 
-/// The description (UTF-8) in its canonical form: each node's lines two blanks further in than the
-/// node, names of nodes in lower case, no blanks around keys and values, one blank before a
-/// comment, no more than one blank line in a row, and CR LF at the ends of all lines where one has
-/// it. Comments stay. Lines that are no lines of the language stay as they are.
+/// Returns the canonical form of a description (UTF-8). The lines of a node are indented by two
+/// blanks more than the node; names of nodes are in lower case; there are no blanks around keys and
+/// values, one blank before a comment, and at most one blank line in a row. If a line ends with CR
+/// LF, all lines do. Comments stay, and so do lines that are not of the language.
 ///
-/// The result means the same, and formatting it again changes nothing: a driver makes the same
-/// document of it and raises as many errors, whose texts may repeat a line in its new form. Where
-/// names in another form or in lower case would mean something else (the repair sees short forms
-/// only), all names stay as they are.
+/// The result has the same meaning, and formatting it again changes nothing: a driver builds the
+/// same document from it and raises as many errors, whose texts may quote a line in its new form.
+/// If names in another form or in lower case would change the meaning (the repair recognizes short
+/// forms only), all names stay as they are.
 std::string formattedDescription(std::string_view text, NameForm names = NameForm::Kept);
 
 }  // namespace quorvane

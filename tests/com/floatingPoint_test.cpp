@@ -219,17 +219,17 @@ TEST_F(FloatingPoint, MayTrapInAnAnalysis) {
     const Bstr description(
         L"(doc\n(paper-width=1e999)\n(paper-height=1e-999)\n(left-margin=0.1)\n(row\n(cell\n"
         L"(cell-width=33.3)\ncell)\n(cell\n(cell-width=1e300)\ncell)\nrow)\ndoc)");
-    const auto analyse = [&] {
+    const auto analyze = [&] {
         Bstr contents;
         driver->ParseFromMemmory(description.get());
         driver->get_Contents(contents.out());
         return contents.utf8();
     };
-    const std::string expected = analyse();
+    const std::string expected = analyze();
     std::string actual;
     {
         const TrappingArithmetic trapping;
-        actual = analyse();
+        actual = analyze();
     }
 
     EXPECT_EQ(actual, expected);

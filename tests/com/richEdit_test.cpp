@@ -91,7 +91,7 @@ bool hasWord(const std::string& words, const std::string& word) {
     return std::regex_search(words, std::regex(R"(\\)" + word + R"((?![a-z0-9]))"));
 }
 
-/// The colours of the document's table.
+/// The colors of the document's table.
 std::vector<COLORREF> colorsOf(const std::string& rtf) {
     std::vector<COLORREF> colors;
     const std::regex pattern(R"(\\red(\d+)\\green(\d+)\\blue(\d+))");

@@ -55,7 +55,7 @@ TEST_F(Document, IsMadeOfItsGroupsInOrder) {
     EXPECT_EQ(document->Contents(), withoutStyles(defaultPage, ""));
 }
 
-TEST_F(Document, HasTheStylesheetGroupBetweenColoursAndPage) {
+TEST_F(Document, HasTheStylesheetGroupBetweenColorsAndPage) {
     document->LoadStyleSheetFromMemmory("{name: normal; style-def: s; format: \\f9}");
 
     EXPECT_EQ(document->Contents(), std::string("{") + fixedGroups +
@@ -213,7 +213,7 @@ TEST_F(Document, AnswersNothingForACharacterStyleThatItDoesNotKnow) {
     EXPECT_EQ(document->GetCharacterStyle("nosuch"), "");
 }
 
-TEST_F(Document, AnswersNoColourForACellStyleThatItDoesNotKnow) {
+TEST_F(Document, AnswersNoColorForACellStyleThatItDoesNotKnow) {
     EXPECT_EQ(document->getCellStyleBackColor("nosuch"), eNoColor);
 }
 

@@ -82,7 +82,7 @@ TEST_F(Paragraph, KeepsEachOfManyStylesApart) {
     }
 }
 
-TEST_F(Paragraph, IsChangedByEveryColour) {
+TEST_F(Paragraph, IsChangedByEveryColor) {
     EXPECT_TRUE(marksChanged(*document, [&] { first->setForeColor(eRed); }));
     EXPECT_TRUE(marksChanged(*document, [&] { first->setForeColor(eRed); }));
     EXPECT_EQ(first->ForeColor(), eRed);
@@ -137,7 +137,7 @@ TEST_F(Paragraph, WritesTheWordsOfItsStyle) {
     EXPECT_EQ(text(), "\r\n\\pard\\plain\\intbl\\s0\\f9 abc");
 }
 
-TEST_F(Paragraph, WritesItsColour) {
+TEST_F(Paragraph, WritesItsColor) {
     first->setForeColor(eDarkRed);
     EXPECT_EQ(text(), "\r\n\\pard\\plain\\intbl \\cf12 abc");
 
@@ -147,7 +147,7 @@ TEST_F(Paragraph, WritesItsColour) {
     }
 }
 
-TEST_F(Paragraph, WritesNoColourZero) {
+TEST_F(Paragraph, WritesNoColorZero) {
     first->setForeColor(eRed);
     first->setForeColor(eNoColor);
 
@@ -173,7 +173,7 @@ TEST_F(Paragraph, WritesNoOtherAlignment) {
     }
 }
 
-TEST_F(Paragraph, WritesColourThenAlignmentThenText) {
+TEST_F(Paragraph, WritesColorThenAlignmentThenText) {
     document->LoadStyleSheetFromMemmory("{name: a; style-def: s; format: \\b}");
     first->setStyle("a");
     first->setAlign(eJustified);
@@ -207,7 +207,7 @@ TEST_F(Paragraph, ReplacesItsInlineStyles) {
     EXPECT_EQ(first->Text(), "Sum <bold-red=Total>!");
 }
 
-TEST_F(Paragraph, ReplacesInlineStylesBehindColourAndAlignment) {
+TEST_F(Paragraph, ReplacesInlineStylesBehindColorAndAlignment) {
     document->LoadStyleSheetFromMemmory("{name: b; style-def: cs; format: \\b}");
     first->setForeColor(eRed);
     first->setAlign(eCentered);

@@ -131,7 +131,7 @@ TEST(Paragraphs, GiveARefiledParagraphTextAndStyleOnly) {
     EXPECT_EQ(old->Text(), "A");
 }
 
-TEST(Paragraphs, GiveARefiledParagraphNoColourInADarkCell) {
+TEST(Paragraphs, GiveARefiledParagraphNoColorInADarkCell) {
     const CellDocument parts{"A"};
     parts.only->setBackColor(eNavyBlue);
     ASSERT_EQ(parts.paragraph(1)->ForeColor(), eWhite);

@@ -116,7 +116,7 @@ TEST_F(TableCell, IsChangedByAnotherBorderOnly) {
     EXPECT_FALSE(marksChanged(*document, [&] { first()->setRightBorder(eThin); }));
 }
 
-TEST_F(TableCell, WritesItsColourBetweenBordersAndEdge) {
+TEST_F(TableCell, WritesItsColorBetweenBordersAndEdge) {
     addCells(1);
     cell(1)->setBackColor(eSilver);
     cell(1)->setTopBorder(eThin);
@@ -129,14 +129,14 @@ TEST_F(TableCell, WritesItsColourBetweenBordersAndEdge) {
               "\\clbrdrt\\brdrs\\brdrw10\\clcbpat32\\cellx4500 \\cellx9000");
 }
 
-TEST_F(TableCell, WritesAnyColourAsItsNumber) {
+TEST_F(TableCell, WritesAnyColorAsItsNumber) {
     for (const std::int32_t number : {1, 57, 58, 1000, -1, INT32_MAX, INT32_MIN}) {
         first()->setBackColor(color(number));
         EXPECT_EQ(definition(), "\\clcbpat" + std::to_string(number) + "\\cellx9000");
     }
 }
 
-TEST_F(TableCell, IsChangedByAnotherColourOnly) {
+TEST_F(TableCell, IsChangedByAnotherColorOnly) {
     EXPECT_TRUE(marksChanged(*document, [&] { first()->setBackColor(eRed); }));
     EXPECT_FALSE(marksChanged(*document, [&] { first()->setBackColor(eRed); }));
     EXPECT_TRUE(marksChanged(*document, [&] { first()->setBackColor(eNavyBlue); }));
@@ -157,7 +157,7 @@ TEST(DarkColors, AreNoneOutsideTheTable) {
     }
 }
 
-TEST_F(TableCell, MakesTheTextOfItsParagraphsWhiteOnEveryDarkColour) {
+TEST_F(TableCell, MakesTheTextOfItsParagraphsWhiteOnEveryDarkColor) {
     const Ref<CRtfParagraphs> paragraphs = first()->Paragraphs();
     paragraphs->AddTail();
     paragraphs->AddTail();
@@ -174,7 +174,7 @@ TEST_F(TableCell, MakesTheTextOfItsParagraphsWhiteOnEveryDarkColour) {
     }
 }
 
-TEST_F(TableCell, LeavesTheTextOfItsParagraphsWhiteOnALightColour) {
+TEST_F(TableCell, LeavesTheTextOfItsParagraphsWhiteOnALightColor) {
     first()->Paragraphs()->AddTail();
     first()->setBackColor(eBlack);
 
@@ -183,7 +183,7 @@ TEST_F(TableCell, LeavesTheTextOfItsParagraphsWhiteOnALightColour) {
     EXPECT_EQ(first()->Paragraphs()->PeekTail()->ForeColor(), eWhite);
 }
 
-TEST_F(TableCell, LeavesTheTextAloneWhenItsDarkColourStaysTheSame) {
+TEST_F(TableCell, LeavesTheTextAloneWhenItsDarkColorStaysTheSame) {
     first()->Paragraphs()->AddTail();
     first()->setBackColor(eBlack);
     first()->Paragraphs()->PeekTail()->setForeColor(eRed);
@@ -212,13 +212,13 @@ protected:
     }
 };
 
-TEST_F(StyledCell, WritesTheColourOfItsStyle) {
+TEST_F(StyledCell, WritesTheColorOfItsStyle) {
     first()->setStyle("light");
 
     EXPECT_EQ(cellsText(), " \\clcbpat37\\cellx9000 \r\n\r\n\r\n\\pard\\plain\\intbl x\\cell");
 }
 
-TEST_F(StyledCell, TakesTheColourOfItsStyleForGoodWhenItIsWritten) {
+TEST_F(StyledCell, TakesTheColorOfItsStyleForGoodWhenItIsWritten) {
     first()->setStyle("dark");
     EXPECT_EQ(first()->BackColor(), eNoColor);
 
@@ -240,7 +240,7 @@ TEST_F(StyledCell, LeavesTheDocumentUnchangedOnceItWasWritten) {
     EXPECT_FALSE(document->Changed());
 }
 
-TEST_F(StyledCell, WritesColourZeroForAStyleWithoutColour) {
+TEST_F(StyledCell, WritesColorZeroForAStyleWithoutColor) {
     for (const char* style : {"plain", "nosuch", "\xC3\xA9"}) {
         first()->setStyle(style);
         EXPECT_EQ(definition(), "\\clcbpat0\\cellx9000");
@@ -248,7 +248,7 @@ TEST_F(StyledCell, WritesColourZeroForAStyleWithoutColour) {
     }
 }
 
-TEST_F(StyledCell, PrefersItsOwnColourToThatOfItsStyle) {
+TEST_F(StyledCell, PrefersItsOwnColorToThatOfItsStyle) {
     first()->setStyle("dark");
     first()->setBackColor(eRed);
 
@@ -256,7 +256,7 @@ TEST_F(StyledCell, PrefersItsOwnColourToThatOfItsStyle) {
     EXPECT_EQ(first()->Paragraphs()->PeekTail()->ForeColor(), eNoColor);
 }
 
-TEST_F(StyledCell, WritesNoColourWithoutOwnColourAndStyle) {
+TEST_F(StyledCell, WritesNoColorWithoutOwnColorAndStyle) {
     first()->setStyle("dark");
     first()->setStyle("");
 
@@ -276,7 +276,7 @@ TEST_F(StyledCell, IsChangedByEveryStyle) {
     EXPECT_TRUE(marksChanged(*document, [&] { first()->setStyle(""); }));
 }
 
-TEST_F(StyledCell, WritesColourZeroForAStyleWhenNoStylesheetIsLoaded) {
+TEST_F(StyledCell, WritesColorZeroForAStyleWhenNoStylesheetIsLoaded) {
     document->setStyleSheetFile("nosuch");
     first()->setStyle("dark");
 
@@ -464,7 +464,7 @@ TEST_F(TableCell, MovesItsLeftEdgeWhenItIsTheLastOfSeveral) {
     EXPECT_EQ(definition(), "\\cellx6000 \\cellx9000");
 }
 
-TEST_F(TableCell, LeavesItsRightNeighbour200Twips) {
+TEST_F(TableCell, LeavesItsRightNeighbor200Twips) {
     addCells(1);
     cell(1)->setWidth(eTwips, 8900);
     EXPECT_EQ(definition(), "\\cellx8800 \\cellx9000");
@@ -482,7 +482,7 @@ TEST_F(TableCell, KeepsAtLeast200TwipsItself) {
     }
 }
 
-TEST_F(TableCell, LeavesItsLeftNeighbour200TwipsWhenItIsTheLast) {
+TEST_F(TableCell, LeavesItsLeftNeighbor200TwipsWhenItIsTheLast) {
     addCells(2);
     cell(3)->setWidth(eTwips, 9000);
     EXPECT_EQ(definition(), "\\cellx3000 \\cellx3200 \\cellx9000");

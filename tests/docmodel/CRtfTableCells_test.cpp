@@ -163,7 +163,7 @@ TEST_F(TableCells, CheckTheirArgumentsBeforeTheWidth) {
     EXPECT_EQ(errorNumberOf([&] { cells->add(Missing{}, 9); }), 5);
 }
 
-TEST_F(TableCells, GiveTheEdgeOfARemovedCellToItsLeftNeighbour) {
+TEST_F(TableCells, GiveTheEdgeOfARemovedCellToItsLeftNeighbor) {
     add(3);
 
     cells->Remove(2);
@@ -331,7 +331,7 @@ TEST_F(TableCells, GiveARefiledCellNothingElse) {
     EXPECT_EQ(cellsText(), " \\cellx9000 \r\n\\cell");
 }
 
-TEST_F(TableCells, LeaveTheColoursOfParagraphsWhenACellIsRefiled) {
+TEST_F(TableCells, LeaveTheColorsOfParagraphsWhenACellIsRefiled) {
     add(1);
     const Ref<CRtfTableCell> old = cell(1);
     old->setBackColor(eNavyBlue);

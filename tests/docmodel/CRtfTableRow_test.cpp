@@ -13,7 +13,7 @@ protected:
     TableRow() : RowDocument(2) {}
 };
 
-TEST_F(TableRow, HasNoColourAndNoBordersAtFirst) {
+TEST_F(TableRow, HasNoColorAndNoBordersAtFirst) {
     EXPECT_EQ(row->BackColor(), eNoColor);
     EXPECT_EQ(row->BottomBorder(), eNone);
     EXPECT_EQ(row->TopBorder(), eNone);
@@ -67,7 +67,7 @@ TEST_F(TableRow, WritesDefinitionsThenContentsOfItsCells) {
               "\\row}");
 }
 
-TEST_F(TableRow, GivesItsColourToTheCellsThatAreInIt) {
+TEST_F(TableRow, GivesItsColorToTheCellsThatAreInIt) {
     row->setBackColor(eSilver);
     cells->AddTail();
 
@@ -77,7 +77,7 @@ TEST_F(TableRow, GivesItsColourToTheCellsThatAreInIt) {
     EXPECT_EQ(cell(3)->BackColor(), eNoColor);
 }
 
-TEST_F(TableRow, MakesTheTextOfItsCellsWhiteOnADarkColour) {
+TEST_F(TableRow, MakesTheTextOfItsCellsWhiteOnADarkColor) {
     cell(2)->Paragraphs()->AddTail();
 
     row->setBackColor(eNavyBlue);
@@ -85,7 +85,7 @@ TEST_F(TableRow, MakesTheTextOfItsCellsWhiteOnADarkColour) {
     EXPECT_EQ(cell(2)->Paragraphs()->PeekTail()->ForeColor(), eWhite);
 }
 
-TEST_F(TableRow, LeavesItsCellsAloneWhenItsColourStaysTheSame) {
+TEST_F(TableRow, LeavesItsCellsAloneWhenItsColorStaysTheSame) {
     row->setBackColor(eSilver);
     cell(1)->setBackColor(eRed);
 
@@ -94,7 +94,7 @@ TEST_F(TableRow, LeavesItsCellsAloneWhenItsColourStaysTheSame) {
     EXPECT_EQ(cell(1)->BackColor(), eRed);
 }
 
-TEST_F(TableRow, TakesTheColourOffItsCells) {
+TEST_F(TableRow, TakesTheColorOffItsCells) {
     row->setBackColor(eSilver);
     cell(1)->setBackColor(eRed);
 
@@ -104,7 +104,7 @@ TEST_F(TableRow, TakesTheColourOffItsCells) {
     EXPECT_EQ(cell(2)->BackColor(), eNoColor);
 }
 
-TEST_F(TableRow, LeavesACellAloneThatHasItsNewColourAlready) {
+TEST_F(TableRow, LeavesACellAloneThatHasItsNewColorAlready) {
     cell(1)->setBackColor(eNavyBlue);
     cell(1)->Paragraphs()->AddTail();
 
@@ -113,7 +113,7 @@ TEST_F(TableRow, LeavesACellAloneThatHasItsNewColourAlready) {
     EXPECT_EQ(cell(1)->Paragraphs()->PeekTail()->ForeColor(), eNoColor);
 }
 
-TEST_F(TableRow, IsChangedByAnotherColour) {
+TEST_F(TableRow, IsChangedByAnotherColor) {
     EXPECT_TRUE(marksChanged(*document, [&] { row->setBackColor(eSilver); }));
     EXPECT_TRUE(marksChanged(*document, [&] { row->setBackColor(static_cast<tColorIndex>(-7)); }));
     EXPECT_EQ(row->BackColor(), -7);
@@ -177,7 +177,7 @@ TEST_F(TableRow, IsChangedByAnotherBorder) {
     EXPECT_TRUE(marksChanged(*document, [&] { row->setRightBorder(eThin); }));
 }
 
-TEST_F(TableRow, IsChangedByItsColourAndBordersWithoutCellsToo) {
+TEST_F(TableRow, IsChangedByItsColorAndBordersWithoutCellsToo) {
     document->TableRows()->AddTail();
     const Ref<CRtfTableRow> empty = document->TableRows()->PeekTail();
 

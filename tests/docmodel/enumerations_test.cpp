@@ -18,7 +18,7 @@ TEST(Enumerations, HoldAny32BitNumber) {
     EXPECT_TRUE(is32Bit<tErrorLevel>);
 }
 
-TEST(Enumerations, NumberTheColours) {
+TEST(Enumerations, NumberTheColors) {
     EXPECT_EQ(eNoColor, 0);
     EXPECT_EQ(eAquamarine, 1);
     EXPECT_EQ(eBisque, 2);

@@ -2,7 +2,7 @@
 
 namespace quorvane {
 
-/// What every document begins with: header, font table and colour table.
+/// What every document begins with: header, font table and color table.
 inline constexpr const char* fixedGroups =
     "\\rtf1\\ansicpg1252\\uc0\\deff0"
     "\r\n{\\fonttbl"

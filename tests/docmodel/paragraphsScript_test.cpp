@@ -7,7 +7,7 @@
 namespace quorvane {
 namespace {
 
-// A host's session with the paragraphs of a cell, call by call: texts, colours, alignments and
+// A host's session with the paragraphs of a cell, call by call: texts, colors, alignments and
 // marked fields.
 TEST(Script, OfParagraphs) {
     FakePlatform platform;

@@ -3,7 +3,7 @@
 - Links lead to files and headings that exist.
 - The table of contents of a page lists its sections, in their order.
 - A block of code that names a file of the project repeats that file.
-- The tests that docs/promises.md names exist.
+- The tests that docs/promises.md names exist, and the sources that the pages for developers name.
 - Words are spelled as in American English.
 """
 
@@ -26,7 +26,8 @@ def report(page, line, text):
 
 
 def pages():
-    return [*sorted(project.glob("*.md")), *sorted((project / "docs").glob("*.md"))]
+    return [page for folder in (".", "docs", "examples")
+            for page in sorted((project / folder).glob("*.md"))]
 
 
 def lines_of(page):
@@ -85,6 +86,21 @@ def check_code(page):
             report(page, number, f"the code differs from {block[1]}")
 
 
+def check_sources(page, sources):
+    """The sources that a page names exist, by their names or by the ends of their paths."""
+    for number, line, is_code in lines_of(page):
+        for name in re.findall(r"`([\w./]+\.(?:cpp|h|py|cmake|txt))`", "" if is_code else line):
+            if not any(f"/{source}".endswith(f"/{name}") for source in sources):
+                report(page, number, f"{name}: there is no such file")
+
+
+def source_files():
+    generated = ["quorvaneInterfaces.h"]
+    folders = ["quorvane", "com", "cli", "tests", "cmake", "bench", "scripts", "examples"]
+    return generated + [file.relative_to(project).as_posix()
+                        for folder in folders for file in (project / folder).rglob("*.*")]
+
+
 def check_spelling(page):
     for number, line, is_code in lines_of(page):
         for word in BRITISH.findall("" if is_code else re.sub(r"`[^`]*`|\([^)]*\)", "", line)):
@@ -92,10 +108,15 @@ def check_spelling(page):
 
 
 def test_names():
-    sources = "\n".join(file.read_text(encoding="utf-8")
-                        for file in (project / "tests").rglob("*") if file.suffix in (".cpp", ".h"))
-    return {f"{suite}.{name}"
-            for suite, name in re.findall(r"\bTEST(?:_F|_P)?\(\s*(\w+),\s*(\w+)\)", sources)}
+    """The names of all tests, of GoogleTest as well as of CTest."""
+    names = set()
+    for file in (project / "tests").rglob("*"):
+        if file.suffix == ".cpp":
+            names.update(f"{suite}.{name}" for suite, name in re.findall(
+                r"\bTEST(?:_F|_P)?\(\s*(\w+),\s*(\w+)\)", file.read_text(encoding="utf-8")))
+        elif file.name == "CMakeLists.txt":
+            names.update(re.findall(r"NAME (\w+\.\w+)", file.read_text(encoding="utf-8")))
+    return names
 
 
 class Promises:
@@ -140,6 +161,8 @@ for page in pages():
     check_contents(page)
     check_code(page)
     check_spelling(page)
+for name in ("CONTRIBUTING.md", "docs/internals.md", "docs/promises.md"):
+    check_sources(project / name, source_files())
 Promises().check()
 if problems:
     sys.exit("\n".join(problems))

@@ -64,7 +64,7 @@ void expectProportional(const Work& work, std::size_t size) {
     FAIL() << growth << " times the input takes " << times << " times as long";
 }
 
-void analyse(const std::string& text, bool erroneousInput) {
+void analyze(const std::string& text, bool erroneousInput) {
     FakePlatform platform;
     const Ref<CRtfDriver> driver = CRtfDriver::create(platform);
     driver->setErroneousInput(erroneousInput);
@@ -74,7 +74,7 @@ void analyse(const std::string& text, bool erroneousInput) {
 TEST(Growth, OfDeepNestingIsProportional) {
     expectProportional(
         [](std::size_t size) {
-            analyse(repeated("(doc\n", size) + "(r\n(c\nc)\nr)\n" + repeated("doc)\n", size), true);
+            analyze(repeated("(doc\n", size) + "(r\n(c\nc)\nr)\n" + repeated("doc)\n", size), true);
         },
         100);
 }
@@ -82,7 +82,7 @@ TEST(Growth, OfDeepNestingIsProportional) {
 TEST(Growth, OfUnclosedRowsIsProportional) {
     expectProportional(
         [](std::size_t size) {
-            analyse("(doc\n" + repeated("(r\n(c\n(p\n(pt=x)\np)\nc)\n", size) + "doc)", true);
+            analyze("(doc\n" + repeated("(r\n(c\n(p\n(pt=x)\np)\nc)\n", size) + "doc)", true);
         },
         1000);
 }
@@ -90,14 +90,14 @@ TEST(Growth, OfUnclosedRowsIsProportional) {
 TEST(Growth, OfRowsRightBehindEachOtherIsProportional) {
     expectProportional(
         [](std::size_t size) {
-            analyse("(doc\n" + repeated("(r\n", size) + "(c\nc)\nr)\ndoc)", true);
+            analyze("(doc\n" + repeated("(r\n", size) + "(c\nc)\nr)\ndoc)", true);
         },
         20'000);
 }
 
 TEST(Growth, OfClosersIsProportional) {
     expectProportional(
-        [](std::size_t size) { analyse("(doc\n(r\n" + repeated("c)\n", size) + "doc)", true); },
+        [](std::size_t size) { analyze("(doc\n(r\n" + repeated("c)\n", size) + "doc)", true); },
         100'000);
 }
 
@@ -118,7 +118,7 @@ TEST(Growth, OfALineThatIsNothingIsProportional) {
     for (const char* part : {"(", "=", ")", "(=", ";", "r)"}) {
         expectProportional(
             [part](std::size_t size) {
-                analyse("(doc\n(r\n" + repeated(part, size) + ".\ndoc)", false);
+                analyze("(doc\n(r\n" + repeated(part, size) + ".\ndoc)", false);
             },
             50'000);
     }

@@ -1,5 +1,5 @@
 #!/bin/sh
-# inspect.sh PROGRAM: fails when a program lacks a piece of its armour.
+# inspect.sh PROGRAM: fails if a program lacks a part of its hardening.
 program=$1
 failed=0
 

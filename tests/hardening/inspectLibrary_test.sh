@@ -1,6 +1,6 @@
 #!/bin/sh
-# inspectLibrary_test.sh COMPILER: inspectLibrary.sh has nothing to say of a library with the whole
-# armour, and names what another lacks in one file of two.
+# inspectLibrary_test.sh COMPILER: inspectLibrary.sh accepts a library with all of the hardening, and
+# names what another one lacks in one file of two.
 here=$(dirname "$0")
 compiler=$1
 folder=$(mktemp -d)

@@ -1,6 +1,6 @@
 #!/bin/sh
-# inspectWindows.sh FILE WINDRES: fails when a program or DLL for Windows lacks a piece of its
-# armour, needs a newer Windows than Windows 7, or does not say what it is.
+# inspectWindows.sh FILE WINDRES: fails if a program or DLL for Windows lacks a part of its
+# hardening, version information or manifest, or needs a newer Windows than Windows 7.
 file=$1
 windres=$2
 here=$(dirname "$0")

@@ -1,6 +1,6 @@
 #!/bin/sh
-# inspect_test.sh COMPILER: inspect.sh has nothing to say of a program with the whole armour, and
-# names the piece that another lacks.
+# inspect_test.sh COMPILER: inspect.sh accepts a program with all of the hardening, and names the
+# part that another one lacks.
 here=$(dirname "$0")
 compiler=$1
 folder=$(mktemp -d)

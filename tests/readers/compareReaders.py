@@ -55,7 +55,7 @@ def format_of(font, size, color, **effects):
 
 
 def joined(parts):
-    """Parts of a text with their formats, without blanks; neighbours of one format are one."""
+    """Parts of a text with their formats, without blanks; neighbors of one format are one."""
     result = []
     for text, text_format in parts:
         text = "".join(text.split())

@@ -7,7 +7,7 @@
 namespace quorvane {
 namespace {
 
-TEST(CRtfGrpColorTable, Writes57Colours) {
+TEST(CRtfGrpColorTable, Writes57Colors) {
     std::string rtf;
 
     CRtfGrpColorTable().render(rtf);
@@ -82,7 +82,7 @@ TEST(CRtfGrpColorTable, AppendsToWhatIsThere) {
     EXPECT_EQ(rtf.substr(0, 19), "before\r\n{\\colortbl;");
 }
 
-TEST(CRtfGrpColorTable, NumbersTheColoursFromOne) {
+TEST(CRtfGrpColorTable, NumbersTheColorsFromOne) {
     static constexpr std::string_view names[] = {
         "aquamarine",
         "bisque",

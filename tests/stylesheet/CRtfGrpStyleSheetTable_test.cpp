@@ -258,7 +258,7 @@ TEST_F(StyleSheetTable, KnowsWhetherWordsOfItsCharacterStylesHoldTokens) {
     EXPECT_FALSE(table.CharacterWordsHoldTokens());
 }
 
-TEST_F(StyleSheetTable, KnowsTheColourOfACellStyle) {
+TEST_F(StyleSheetTable, KnowsTheColorOfACellStyle) {
     table.loadStyleSheetFromMemory(
         "{name: a; style-def: cell; format: Dark-Golden-Rod}"
         "{name: b; style-def: cell; format: slate-blue}"
@@ -272,7 +272,7 @@ TEST_F(StyleSheetTable, KnowsTheColourOfACellStyle) {
     EXPECT_EQ(table.getCellStyleBackColor("e"), 12);
 }
 
-TEST_F(StyleSheetTable, KnowsNoColourOfACellStyleWithoutOne) {
+TEST_F(StyleSheetTable, KnowsNoColorOfACellStyleWithoutOne) {
     table.loadStyleSheetFromMemory(
         "{name: a; style-def: cell; format: none}"
         "{name: b; style-def: cell; format: nosuch}"

@@ -18,13 +18,13 @@
 
 namespace quorvane {
 
-/// Checks an RTF file, whoever wrote it, that is handed over piece by piece: whether its groups
-/// balance, its table rows are whole, what it refers to is there, and nothing follows its end. It
-/// builds no tree and keeps no text: its memory does not grow with the file, only with the tables
-/// of fonts and styles.
+/// Checks an RTF file from any program, which is passed piece by piece: whether its groups balance,
+/// its table rows are complete, everything that it refers to exists, and nothing follows its end.
+/// It builds no tree and keeps no text, so its memory grows only with the tables of fonts and
+/// styles, not with the file.
 class RtfCheck {
 public:
-    /// Diagnostics come in the order in which they are certain, which is nearly that of their
+    /// The receiver gets each diagnostic as soon as it is certain, which is nearly the order of the
     /// places.
     explicit RtfCheck(DiagnosticReceiver receiver) : engine_(std::move(receiver)) {}
     // Its parts refer to its engine.
@@ -34,7 +34,7 @@ public:
     RtfCheck& operator=(RtfCheck&&) = delete;
     ~RtfCheck() = default;
 
-    /// Takes the next bytes of the file.
+    /// Checks the next bytes of the file.
     void feed(std::string_view bytes);
 
     /// Ends the file.
@@ -88,7 +88,7 @@ private:
     std::set<std::string, std::less<>> reportedWords_;
 };
 
-/// The diagnostics of an RTF file that is held as a whole, in the order of their places.
+/// Returns the diagnostics of a whole RTF file, in the order of their places.
 std::vector<Diagnostic> checkRtf(std::string_view bytes);
 
 }  // namespace quorvane

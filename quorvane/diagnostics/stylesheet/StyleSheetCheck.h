@@ -8,11 +8,12 @@
 
 namespace quorvane {
 
-/// All diagnostics about a stylesheet (UTF-8), in the order of their places. One of them is an
-/// error if and only if loading the stylesheet raises one.
+/// Returns all diagnostics about a stylesheet (UTF-8), in the order of their places. One of them is
+/// an error if and only if loading the stylesheet raises one.
 std::vector<Diagnostic> checkStyleSheet(std::string_view text);
 
-/// A diagnostic for each style that was not marked as used, placed in the text of the stylesheet.
+/// Returns a diagnostic for each style that was not marked as used, with its place in the text of
+/// the stylesheet.
 std::vector<Diagnostic> findUnusedStyles(const KnownStyles& styles);
 
 }  // namespace quorvane

@@ -68,15 +68,15 @@ TEST(MemoryPool, PutsManySmallObjectsSideBySide) {
     constexpr int count = 100'000;
     MemoryPool pool;
     std::vector<char*> blocks;
-    int neighbours = 0;
+    int neighbors = 0;
     for (int i = 0; i < count; ++i) {
         blocks.push_back(static_cast<char*>(pool.allocate(size)));
         if (i > 0 && blocks[static_cast<std::size_t>(i) - 1] + size == blocks.back()) {
-            ++neighbours;
+            ++neighbors;
         }
     }
 
-    EXPECT_GT(neighbours, count * 99 / 100);
+    EXPECT_GT(neighbors, count * 99 / 100);
     for (char* block : blocks) {
         pool.deallocate(block, size);
     }

@@ -19,7 +19,7 @@ TEST(RoundToLong, RoundsToTheNearestWholeNumber) {
     EXPECT_EQ(roundToLong(-2.6), -3);
 }
 
-TEST(RoundToLong, RoundsHalvesToTheEvenNeighbour) {
+TEST(RoundToLong, RoundsHalvesToTheEvenNeighbor) {
     EXPECT_EQ(roundToLong(0.5), 0);
     EXPECT_EQ(roundToLong(1.5), 2);
     EXPECT_EQ(roundToLong(2.5), 2);
