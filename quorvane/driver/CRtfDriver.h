@@ -8,7 +8,7 @@
 #include "quorvane/base/memory/Ref.h"
 #include "quorvane/base/platform/Platform.h"
 #include "quorvane/docmodel/CRtfDoc.h"
-#include "quorvane/driver/Vocabulary.h"
+#include "quorvane/driver/Dialect.h"
 #include "quorvane/support/GError.h"
 
 namespace quorvane {
@@ -93,7 +93,7 @@ private:
     Counted counts_;
     Platform& platform_;
     Ref<CRtfDoc> document_;
-    Vocabulary vocabulary_;
+    const Dialect& dialect_ = originalDialect();
     NotifyErrorHandler handler_;
     bool erroneousInput_ = false;
     bool notifyError_ = true;

@@ -6,14 +6,11 @@
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/diagnostics/languageOf.h"
 #include "quorvane/diagnostics/stylesheet/StyleSheetOutline.h"
-#include "quorvane/driver/Vocabulary.h"
-#include "quorvane/driver/lineClassifier.h"
+#include "quorvane/driver/DescriptionLine.h"
 
 namespace quorvane {
 
 namespace {
-
-constexpr NodeKind nodeKinds[] = {NodeKind::Doc, NodeKind::Row, NodeKind::Cell, NodeKind::Para};
 
 bool hasKeyword(const StyleItem& item) {
     // A word without a ":" is not a keyword: it may be a statement in another language.
@@ -33,15 +30,11 @@ bool hasAnyKeyword(const OutlinedDefinition& definition) {
     return std::any_of(definition.items.begin(), definition.items.end(), hasKeyword);
 }
 
-bool isKey(std::string_view key, const Vocabulary& vocabulary) {
-    const std::string expanded = vocabulary.expand(key);
-    return std::any_of(std::begin(nodeKinds), std::end(nodeKinds),
-                       [&](NodeKind kind) { return vocabulary.isKeyOf(kind, expanded); });
-}
-
 bool beginsAsDescription(std::string_view text) {
     const std::string_view opening = openingOfDescription(text);
-    return !opening.empty() && (!isLeaf(opening) || isKey(leafKey(opening), Vocabulary()));
+    const DescriptionLine line = descriptionLine(opening, originalDialect());
+    return !opening.empty() &&
+           (line.type != LineType::Leaf || originalVocabulary().isKey(line.key));
 }
 
 bool beginsAsStyleSheet(std::string_view text) {

@@ -7,8 +7,11 @@
 #include <utility>
 #include <vector>
 
-#include "quorvane/diagnostics/description/judgement.h"
+#include "quorvane/diagnostics/description/ViolationReport.h"
+#include "quorvane/diagnostics/engine/DiagnosticEngine.h"
+#include "quorvane/diagnostics/engine/SourceText.h"
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
+#include "quorvane/driver/Vocabulary.h"
 #include "tests/cli/reportOf.h"
 
 namespace quorvane::cli {
@@ -848,25 +851,38 @@ std::string reportOfFindings(const std::string& file, const std::string& text,
     return report;
 }
 
-/// Reports of diagnostics that no text is known for, as the check has words of its own for all
-/// errors that the library raises today: what is told of an error that it does not know. One more
-/// goes by the name of the file, which an example does not have.
+/// The diagnostic for an error of a leaf that the check has no name for.
+std::vector<Diagnostic> diagnosticsOfOtherError(const SourceText& source, std::string_view value) {
+    std::vector<Diagnostic> diagnostics;
+    DiagnosticEngine engine([&](Diagnostic each) { diagnostics.push_back(std::move(each)); });
+    Leaf leaf{.text = value};
+    ViolationReport(source, originalVocabulary(),
+                    engine)({.error = RtfError(4711, "A new error"), .part = value, .leaf = &leaf});
+    return diagnostics;
+}
+
+/// The diagnostic for an error of loading a stylesheet that the check has no name for.
+std::vector<Diagnostic> diagnosticsOfOtherSheet(const SourceText& source) {
+    std::vector<Diagnostic> diagnostics;
+    DiagnosticEngine engine([&](Diagnostic each) { diagnostics.push_back(std::move(each)); });
+    engine.report(DiagnosticId::StyleSheetRejected, source.place(0, 11), {"A new error"});
+    return diagnostics;
+}
+
+/// Reports of diagnostics that no text is known for, as the check has names for all errors that the
+/// library raises today. One more goes by the name of the file, which an example does not have.
 const std::map<std::string, std::pair<std::string, std::string>>& reportsWithoutExample() {
     static const std::map<std::string, std::pair<std::string, std::string>> reports = [] {
-        RtfError error(4711, "A new error");
-        error.line = 2;
-        const std::string description = "(doc\n(row\ndoc)\n";
+        const std::string description = "(doc\n(cw=50)\ndoc)\n";
         const std::string sheet = "{ name: a }\n{ name: b }\n";
         std::map<std::string, std::pair<std::string, std::string>> list;
-        list["rejected"] = {reportOfFindings("a.rtfspec", description,
-                                             judgedFindings({}, {error}, DiagnosticId::Rejected,
-                                                            SourceText(description))),
-                            "a.rtfspec:2:1: error: A new error [rejected]\n    (row\n    ^~~~\n"};
-        error.line = 0;
+        list["rejected"] = {
+            reportOfFindings("a.rtfspec", description,
+                             diagnosticsOfOtherError(SourceText(description),
+                                                     std::string_view(description).substr(9, 2))),
+            "a.rtfspec:2:5: error: A new error [rejected]\n    (cw=50)\n        ^~\n"};
         list["stylesheet-rejected"] = {
-            reportOfFindings(
-                "a.rtfss", sheet,
-                judgedFindings({}, {error}, DiagnosticId::StyleSheetRejected, SourceText(sheet))),
+            reportOfFindings("a.rtfss", sheet, diagnosticsOfOtherSheet(SourceText(sheet))),
             "a.rtfss:1:1: error: A new error [stylesheet-rejected]\n    { name: a }\n"
             "    ^~~~~~~~~~~\n"};
         list["not-a-text-file"] = {

@@ -37,7 +37,7 @@ TEST(BorderHints, NameTheBorderOfAWidth) {
 }
 
 TEST(ColorHints, NameTheNearestColor) {
-    const Vocabulary vocabulary;
+    const Vocabulary& vocabulary = originalVocabulary();
     EXPECT_EQ(colorValueHint("#ff0000", vocabulary).text,
               "colors have names; the nearest one to #ff0000 is red");
     EXPECT_EQ(colorValueHint("99", vocabulary).text,

@@ -5,7 +5,7 @@
 
 namespace quorvane {
 
-/// How much two colors of the color table differ in lightness, from 1 to 21. As text, the colour
+/// How much two colors of the color table differ in lightness, from 1 to 21. As text, the color
 /// 0 is black, as a background white; so is any number that the table does not have.
 double contrastOf(std::int32_t textColor, std::int32_t background);
 

@@ -9,7 +9,7 @@ namespace quorvane {
 namespace {
 
 std::string hint(NodeKind kind, std::string_view word) {
-    return nearKeyHint(kind, word, Vocabulary()).text;
+    return nearKeyHint(kind, word, originalVocabulary()).text;
 }
 
 TEST(KeyHints, KnowTheWordsOfOtherLanguages) {
