@@ -65,20 +65,9 @@ std::set<DiagnosticId> idsOf(std::string_view option, const std::vector<std::str
     return ids;
 }
 
-bool isFolder(const std::string& file) {
-    std::error_code failure;
-    return file != standardStream && std::filesystem::is_directory(pathFromUtf8(file), failure);
-}
-
 bool isSameFile(const std::string& a, const std::string& b) {
     std::error_code failure;
     return std::filesystem::equivalent(pathFromUtf8(a), pathFromUtf8(b), failure);
-}
-
-/// A file that cannot be handled as requested, for a reason that is not the system's.
-ReportedError refusal(const std::string& file, const char* why) {
-    const auto number = static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall);
-    return {ErrorKind::Raised, file, RtfError(number, why), why};
 }
 
 }  // namespace
@@ -145,14 +134,10 @@ void CheckJob::findUnused() {
 }
 
 void CheckJob::checkFolder(const std::string& folder) {
-    const FolderContents contents = filesBelow(folder);
-    for (const auto& [name, failure] : contents.failures) {
-        RtfError error(RunTimeError::PathFileAccessError);
-        error.cause = std::make_shared<RtfError>(failure.value(), failure.message());
-        fail(fileFailure(name, error));
-    }
-    if (contents.files.empty() && contents.failures.empty()) {
-        fail(refusal(folder, "The folder has no .rtfspec, .rtfss or .rtf files"));
+    constexpr std::string_view extensions[] = {".rtfspec", ".rtfss", ".rtf"};
+    const FolderContents contents = filesBelow(folder, extensions);
+    for (const ReportedError& failure : contents.failures) {
+        fail(failure);
     }
     for (const std::string& file : contents.files) {
         if (!options_.styleSheet || !isSameFile(file, *options_.styleSheet)) {

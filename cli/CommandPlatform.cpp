@@ -1,5 +1,6 @@
 #include "cli/CommandPlatform.h"
 
+#include <filesystem>
 #include <memory>
 #include <system_error>
 #include <utility>
@@ -7,6 +8,7 @@
 #include "cli/RenderOptions.h"
 #include "cli/fileFailure.h"
 #include "cli/process.h"
+#include "cli/utf8Path.h"
 #include "quorvane/base/platform/fileReplacement.h"
 #include "quorvane/base/values/RtfError.h"
 
@@ -25,11 +27,29 @@ std::string CommandPlatform::readFile(const std::string& path) {
 }
 
 std::unique_ptr<OutputFile> CommandPlatform::createFile(const std::string& path) {
-    return path == standardStream ? openStandardOutput() : replaceFile(path);
+    if (path == standardStream) {
+        return openStandardOutput();
+    }
+    createMissingFolder();
+    return replaceFile(path);
 }
 
 std::unique_ptr<OutputFile> CommandPlatform::replaceFile(const std::string& path) {
     return openReplacement(path, unfinishedFileWatch());
+}
+
+void CommandPlatform::createMissingFolder() {
+    if (!missingFolder_) {
+        return;
+    }
+    std::error_code failure;
+    std::filesystem::create_directories(pathFromUtf8(*missingFolder_), failure);
+    if (failure) {
+        RtfError error(RunTimeError::PathNotFound);
+        error.cause = std::make_shared<RtfError>(failure.value(), failure.message());
+        raise(std::move(error));
+    }
+    missingFolder_.reset();
 }
 
 const std::string& CommandPlatform::styleSheetBytes() const {

@@ -19,6 +19,10 @@ public:
     /// Reads the stylesheet file, once for all descriptions. Raises what reading a file raises.
     void readStyleSheet(const std::string& path);
 
+    /// Creates the folder, and those that it is in, when the first file is created: a run without
+    /// documents leaves no folder.
+    void createFolderWithFirstFile(std::string folder) { missingFolder_ = std::move(folder); }
+
     /// The bytes of the stylesheet, which was read.
     const std::string& styleSheetBytes() const;
 
@@ -48,9 +52,11 @@ private:
 
     std::string readOtherFile(const std::string& path);
     bool isStyleSheet(const std::string& path) const;
+    void createMissingFolder();
 
     Platform& files_;
     std::optional<StyleSheet> styleSheet_;
+    std::optional<std::string> missingFolder_;
 };
 
 }  // namespace quorvane::cli

@@ -9,6 +9,7 @@
 #include "cli/colors.h"
 #include "cli/errorText.h"
 #include "cli/fileFailure.h"
+#include "cli/filesBelow.h"
 #include "cli/process.h"
 #include "cli/unifiedDiff.h"
 #include "quorvane/base/platform/fileReplacement.h"
@@ -42,14 +43,32 @@ FormatJob::FormatJob(FormatOptions options, TextSink write, ErrorSink fail, Plat
 ExitStatus FormatJob::run() {
     ExitStatus status = ExitStatus::Success;
     for (const std::string& file : options_.files) {
-        try {
-            status = std::max(status, format(file));
-        } catch (const RtfError& error) {
-            status = ExitStatus::Failure;
-            fail_(unreadableFile(shownName(file), file, error));
-        }
+        status = std::max(status, isFolder(file) ? formatFolder(file) : formatFile(file));
     }
     return status;
+}
+
+ExitStatus FormatJob::formatFolder(const std::string& folder) {
+    constexpr std::string_view extensions[] = {".rtfspec", ".rtfss"};
+    const FolderContents contents = filesBelow(folder, extensions);
+    ExitStatus status = ExitStatus::Success;
+    for (const ReportedError& failure : contents.failures) {
+        status = ExitStatus::Failure;
+        fail_(failure);
+    }
+    for (const std::string& file : contents.files) {
+        status = std::max(status, formatFile(file));
+    }
+    return status;
+}
+
+ExitStatus FormatJob::formatFile(const std::string& file) {
+    try {
+        return format(file);
+    } catch (const RtfError& error) {
+        fail_(unreadableFile(shownName(file), file, error));
+        return ExitStatus::Failure;
+    }
 }
 
 ExitStatus FormatJob::format(const std::string& file) {

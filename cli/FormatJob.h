@@ -26,6 +26,8 @@ public:
     ExitStatus run();
 
 private:
+    ExitStatus formatFolder(const std::string& folder);
+    ExitStatus formatFile(const std::string& file);
     ExitStatus format(const std::string& file);
     std::string shownName(const std::string& file) const;
     std::string formatted(const std::string& file, std::string_view bytes) const;

@@ -8,7 +8,8 @@
 
 namespace quorvane::cli {
 
-/// What `quorvane format` was asked to do. Paths are as they were given; "-" is standard input.
+/// What `quorvane format` was asked to do. Paths are as they were given; "-" is standard input,
+/// and a folder stands for the files in it.
 struct FormatOptions {
     std::vector<std::string> files;
     NameForm names = NameForm::Kept;

@@ -55,26 +55,28 @@ ExitStatus RenderJob::run() {
     return status;
 }
 
-/// Whether the folder of the documents is there; reports it when it is not.
+/// True if the folder of the documents exists or can be created with the first one; otherwise
+/// reports that it does not.
 bool RenderJob::prepareOutputFolder() {
     if (!options_.outputFolder) {
         return true;
     }
     const std::filesystem::path folder = pathFromUtf8(*options_.outputFolder);
     std::error_code failure;
-    if (options_.makesOutputFolder) {
-        std::filesystem::create_directories(folder, failure);
-    }
-    const std::error_code notMade = failure;
     const std::filesystem::file_status status = std::filesystem::status(folder, failure);
     if (std::filesystem::is_directory(status)) {
+        return true;
+    }
+    const bool isMissing = failure == std::errc::no_such_file_or_directory;
+    if (options_.makesOutputFolder && isMissing) {
+        platform_.createFolderWithFirstFile(*options_.outputFolder);
         return true;
     }
     RtfError error(RunTimeError::PathNotFound);
     error.cause = std::make_shared<RtfError>(error.number, "the folder of --output-dir must exist");
     std::string reason = std::make_error_code(std::errc::not_a_directory).message();
     if (!std::filesystem::exists(status)) {
-        reason = notMade ? notMade.message() : failure.message() + "; --mkdir creates it";
+        reason = failure.message() + (isMissing ? "; --mkdir creates it" : "");
     }
     report_.fail({ErrorKind::Raised, *options_.outputFolder, std::move(error), reason});
     return false;

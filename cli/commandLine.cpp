@@ -75,7 +75,8 @@ const std::map<std::string, ReportForm>& reportForms() {
 constexpr const char* formatFooter =
     R"(The content of a file shows whether it is a description or a stylesheet; if it
 does not, the extension decides. Any other file is an error. - is standard
-input, whose canonical form goes to standard output. A file that is already in
+input, whose canonical form goes to standard output. A folder stands for all
+.rtfspec and .rtfss files in it and its subfolders. A file that is already in
 canonical form is not touched.
 
 The canonical form renders to the same document. The messages of errors may
@@ -249,8 +250,7 @@ void addIdentifiersOption(CLI::App& app, const std::string& name,
 }
 
 CLI::App* addCheckCommand(CLI::App& app, CheckOptions& options) {
-    CLI::App* check = app.add_subcommand(
-        "check", "Report every problem in descriptions, stylesheets and RTF files.");
+    CLI::App* check = app.add_subcommand("check", "Check descriptions, stylesheets and RTF files.");
     check->footer(checkFooter);
     addStandardFlags(*check);
     check->add_option("FILE", storeIn(options.files), "Files and folders to check")
@@ -259,7 +259,7 @@ CLI::App* addCheckCommand(CLI::App& app, CheckOptions& options) {
         ->allow_extra_args();
     check
         ->add_option("-s,--stylesheet", storeIn(options.styleSheet),
-                     "Look up styles in this .rtfss file, and check it too")
+                     "Look up styles in this .rtfss file; check it too")
         ->type_name("FILE");
     check
         ->add_option("--diagnostics", storeIn(options.form),
@@ -267,8 +267,7 @@ CLI::App* addCheckCommand(CLI::App& app, CheckOptions& options) {
         ->type_name("text|json|sarif")
         ->check(CLI::IsMember(reportForms()).description(""));
     check->add_flag("--fix", options.fixes, "Apply the fixes that are certain");
-    check->add_flag("--diff", options.showsDiff,
-                    "Show what --fix would change, without changing it");
+    check->add_flag("--diff", options.showsDiff, "Only show what --fix would change");
     addIdentifiersOption(*check, "--ignore", options.ignored, "Do not report these diagnostics");
     addIdentifiersOption(*check, "--enable", options.enabled,
                          "Also report these, which are off by default");
@@ -296,23 +295,19 @@ CLI::callback_t storeIn(NameForm& target) {
 }
 
 CLI::App* addFormatCommand(CLI::App& app, FormatOptions& options) {
-    CLI::App* format = app.add_subcommand(
-        "format", "Format descriptions and stylesheets in their canonical form.");
+    CLI::App* format = app.add_subcommand("format", "Format descriptions and stylesheets.");
     format->footer(formatFooter);
     addStandardFlags(*format);
-    format->add_option("FILE", storeIn(options.files), "Files to format")
+    format->add_option("FILE", storeIn(options.files), "Files and folders to format")
         ->type_name("")
         ->required()
         ->expected(1, CLI::detail::expected_max_vector_size)
         ->allow_extra_args();
-    format
-        ->add_option("--names", storeIn(options.names),
-                     "Write long or short names, or keep them as they are")
+    format->add_option("--names", storeIn(options.names), "Write long or short names, or keep them")
         ->type_name("long|short|keep")
         ->check(CLI::IsMember(nameForms()).description(""));
-    format->add_flag("--check", options.check,
-                     "List the files that would change, without changing them");
-    format->add_flag("--diff", options.diff, "Show what would change, without changing it");
+    format->add_flag("--check", options.check, "Only list the files that would change");
+    format->add_flag("--diff", options.diff, "Only show what would change");
     addStdinFilename(*format, options.stdinName);
     refuseEmptyValues(*format);
     return format;
@@ -414,8 +409,9 @@ void requireOneTask(const CheckOptions& options) {
 /// is one that it does not know, that is the mistake.
 std::string usageErrorText(const CLI::App& app, const CLI::ParseError& error) {
     const std::vector<std::string> unknown = app.remaining(true);
-    const bool isUnknown = error.get_name() == "RequiredError" || error.get_name() == "ExtrasError";
-    if (unknown.empty() || !isUnknown) {
+    const auto code = static_cast<CLI::ExitCodes>(error.get_exit_code());
+    if (unknown.empty() ||
+        (code != CLI::ExitCodes::RequiredError && code != CLI::ExitCodes::ExtrasError)) {
         return error.what();
     }
     const std::string& first = unknown.front();
@@ -434,7 +430,7 @@ std::variant<RenderOptions, CheckOptions, FormatOptions, Information> parseComma
     addStandardFlags(app);
     app.add_flag_callback(
         "--licenses", [] { throw CLI::CallForVersion(licensesText(), 0); },
-        "Show the licenses of Quorvane and its components, and exit");
+        "Show all licenses and exit");
     app.allow_windows_style_options(false);
     addRenderCommand(app, options);
     const CLI::App* check = addCheckCommand(app, checkOptions);

@@ -7,7 +7,7 @@
 #include "cli/DiagnosticReport.h"
 #include "cli/oneLine.h"
 #include "quorvane/base/text/trimming.h"
-#include "quorvane/diagnostics/description/TrialPlatform.h"
+#include "quorvane/diagnostics/description/NullPlatform.h"
 
 namespace quorvane::cli {
 
@@ -18,7 +18,7 @@ constexpr const char* styleSheetName = "example.rtfss";
 constexpr const char* rtfName = "example.rtf";
 
 /// The files of an example.
-class ExampleFiles : public TrialPlatform {
+class ExampleFiles : public NullPlatform {
 public:
     void add(const std::string& name, std::string_view example) {
         files_[name] = expandedExample(example);

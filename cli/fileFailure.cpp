@@ -62,6 +62,11 @@ ReportedError unreadableFile(std::string shownName, const std::string& path, Rtf
     return {ErrorKind::Raised, std::move(shownName), std::move(error), std::move(reason)};
 }
 
+ReportedError refusal(const std::string& file, const std::string& why) {
+    const auto number = static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall);
+    return {ErrorKind::Raised, file, RtfError(number, why), why};
+}
+
 std::error_code whyUnreadable(const std::string& path) {
     const fs::path file = pathFromUtf8(path);
     std::error_code failure;

@@ -15,6 +15,9 @@ ReportedError fileFailure(std::string shownName, RtfError error);
 /// which a look at its path gives in the same words on every system.
 ReportedError unreadableFile(std::string shownName, const std::string& path, RtfError error);
 
+/// A file that cannot be handled as requested, for a reason that is not the system's.
+ReportedError refusal(const std::string& file, const std::string& why);
+
 /// Why the system does not let a file be read; no error when it is not the system that does not.
 std::error_code whyUnreadable(const std::string& path);
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "cli/RenderOptions.h"
+#include "cli/fileFailure.h"
 #include "cli/utf8Path.h"
 #include "quorvane/base/text/textCase.h"
 
@@ -16,14 +18,37 @@ bool isHidden(const fs::path& path) {
     return utf8FromPath(path.filename()).starts_with('.');
 }
 
-bool isChecked(const fs::path& path) {
+using Extensions = std::span<const std::string_view>;
+
+bool hasExtension(const fs::path& path, Extensions extensions) {
     const std::string extension = lowerCase(utf8FromPath(path.extension()));
-    return extension == ".rtfspec" || extension == ".rtfss" || extension == ".rtf";
+    return std::find(extensions.begin(), extensions.end(), extension) != extensions.end();
+}
+
+/// ".rtfspec, .rtfss or .rtf".
+std::string listed(Extensions extensions) {
+    std::string text;
+    for (std::size_t i = 0; i < extensions.size(); ++i) {
+        text += (i == 0 ? "" : i + 1 < extensions.size() ? ", " : " or ");
+        text += extensions[i];
+    }
+    return text;
+}
+
+ReportedError unreadableFolder(const fs::path& folder, const std::error_code& failure) {
+    RtfError error(RunTimeError::PathFileAccessError);
+    error.cause = std::make_shared<RtfError>(failure.value(), failure.message());
+    return fileFailure(utf8FromPath(folder), error);
 }
 
 }  // namespace
 
-FolderContents filesBelow(const std::string& folder) {
+bool isFolder(const std::string& path) {
+    std::error_code failure;
+    return path != standardStream && fs::is_directory(pathFromUtf8(path), failure);
+}
+
+FolderContents filesBelow(const std::string& folder, Extensions extensions) {
     FolderContents contents;
     std::vector<fs::path> files;
     std::vector<fs::path> folders{pathFromUtf8(folder)};
@@ -41,13 +66,17 @@ FolderContents filesBelow(const std::string& folder) {
             }
             if (entry->is_directory(unknown) && !entry->is_symlink(unknown)) {
                 folders.push_back(path);
-            } else if (isChecked(path) && entry->is_regular_file(unknown)) {
+            } else if (hasExtension(path, extensions) && entry->is_regular_file(unknown)) {
                 files.push_back(path);
             }
         }
         if (failure) {
-            contents.failures.emplace_back(utf8FromPath(current), failure);
+            contents.failures.push_back(unreadableFolder(current, failure));
         }
+    }
+    if (files.empty() && contents.failures.empty()) {
+        contents.failures.push_back(
+            refusal(folder, "The folder has no " + listed(extensions) + " files"));
     }
     std::sort(files.begin(), files.end());
     std::transform(files.begin(), files.end(), std::back_inserter(contents.files), utf8FromPath);

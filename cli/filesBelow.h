@@ -1,23 +1,27 @@
 #pragma once
 
+#include <span>
 #include <string>
-#include <system_error>
-#include <utility>
+#include <string_view>
 #include <vector>
+
+#include "cli/ReportedError.h"
 
 namespace quorvane::cli {
 
-/// What `check` looks at in a folder.
+/// The files in a folder and its subfolders.
 struct FolderContents {
-    /// The descriptions, stylesheets and RTF files below the folder by their extensions, in the
-    /// order of their paths. Hidden files and folders, whose names begin with a point, are passed
-    /// over; links are followed to files, not to folders.
+    /// In the order of their paths, which begin with the folder's. Hidden files and folders, whose
+    /// names begin with a point, are skipped; links are followed to files, not to folders.
     std::vector<std::string> files;
-    /// The folders that could not be read.
-    std::vector<std::pair<std::string, std::error_code>> failures;
+    /// The folders that could not be read, and a folder without files.
+    std::vector<ReportedError> failures;
 };
 
-/// The files below a folder, named by a path that begins with the folder's.
-FolderContents filesBelow(const std::string& folder);
+/// True for the path of a folder.
+bool isFolder(const std::string& path);
+
+/// The files in a folder that have one of the extensions, such as ".rtf".
+FolderContents filesBelow(const std::string& folder, std::span<const std::string_view> extensions);
 
 }  // namespace quorvane::cli

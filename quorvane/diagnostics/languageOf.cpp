@@ -9,8 +9,7 @@
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/diagnostics/engine/SourceText.h"
 #include "quorvane/diagnostics/fileEncoding.h"
-#include "quorvane/driver/Vocabulary.h"
-#include "quorvane/driver/lineClassifier.h"
+#include "quorvane/driver/DescriptionLine.h"
 #include "quorvane/stylesheet/stylesheetSyntax.h"
 
 namespace quorvane {
@@ -19,8 +18,9 @@ namespace {
 
 constexpr std::size_t enough = std::size_t{64} * 1024;
 
-bool opensNode(std::string_view line, const Vocabulary& vocabulary) {
-    return isLeaf(line) || openedKind(line, vocabulary) != NodeKind::None;
+bool opensNode(std::string_view line) {
+    const LineType type = descriptionLine(line, originalDialect()).type;
+    return type == LineType::Leaf || type == LineType::Opener;
 }
 
 /// True when a backslash follows the first brace, as in no stylesheet.
@@ -40,14 +40,13 @@ std::optional<CheckedLanguage> languageOfName(std::string_view fileName) {
                                         : std::nullopt;
 }
 
-std::ptrdiff_t countDescriptionLines(std::string_view text, const Vocabulary& vocabulary) {
+std::ptrdiff_t countDescriptionLines(std::string_view text) {
     const SourceText source(text);
     return std::count_if(
         source.lines().begin(), source.lines().end(), [&](const SourceText::Line& bounds) {
             const std::string_view line =
                 trimWhitespace(text.substr(bounds.start, bounds.end - bounds.start));
-            return !line.empty() &&
-                   (opensNode(line, vocabulary) || closedKind(line, vocabulary) != NodeKind::None);
+            return !line.empty() && descriptionLine(line, originalDialect()).isReadable();
         });
 }
 
@@ -72,11 +71,10 @@ CheckedLanguage languageOf(std::string_view beginning, std::string_view fileName
         return languageOf(ascii, fileName);
     }
     const std::string_view text = behindByteOrderMark(beginning.substr(0, enough));
-    const Vocabulary vocabulary;
     // Texts of a description may hold more braces than a stylesheet does, so that counting alone
     // would not do.
     const std::string_view first = firstLineOf(text);
-    if (opensNode(first, vocabulary)) {
+    if (opensNode(first)) {
         return CheckedLanguage::Description;
     }
     const std::optional<CheckedLanguage> named = languageOfName(fileName);
@@ -84,7 +82,7 @@ CheckedLanguage languageOf(std::string_view beginning, std::string_view fileName
         return CheckedLanguage::Rtf;
     }
     const std::ptrdiff_t braces = countBraces(text).opened;
-    const std::ptrdiff_t lines = countDescriptionLines(text, vocabulary);
+    const std::ptrdiff_t lines = countDescriptionLines(text);
     if (first.starts_with('{') || (braces > lines && named != CheckedLanguage::Description)) {
         return CheckedLanguage::StyleSheet;
     }
@@ -93,7 +91,7 @@ CheckedLanguage languageOf(std::string_view beginning, std::string_view fileName
 
 std::string_view openingOfDescription(std::string_view text) {
     const std::string_view first = firstLineOf(text.substr(0, enough));
-    return opensNode(first, Vocabulary()) ? first : std::string_view();
+    return opensNode(first) ? first : std::string_view();
 }
 
 }  // namespace quorvane

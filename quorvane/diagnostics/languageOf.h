@@ -15,11 +15,10 @@ namespace quorvane {
 CheckedLanguage languageOf(std::string_view beginning, std::string_view fileName = {});
 
 /// The first line that is neither blank nor a comment, without the blanks around it; empty when
-/// there is none.
+/// every line is one or the other.
 std::string_view firstLineOf(std::string_view text);
 
-/// The first line that is neither blank nor a comment, where it is one of a description; empty
-/// where it is not.
+/// The same line if it opens a node or is a leaf of a description; otherwise empty.
 std::string_view openingOfDescription(std::string_view text);
 
 }  // namespace quorvane

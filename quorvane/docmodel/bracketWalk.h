@@ -19,12 +19,12 @@ struct BracketPlaces {
     std::size_t closing;
 };
 
-/// Replaces the inline styles of a text whose brackets stand in any order, from two places on. Each
+/// Replaces the inline styles of a text whose brackets come in any order, from two places on. Each
 /// character is one place; `Character` is `char` or `char32_t`.
 ///
 /// This is the walk: the next ">" is searched from the place after the last one. When it comes
 /// after the "<" and a token is between the two, the token is replaced by a group of its style's
-/// words and its value, wherever else it is in the text, too. Then the next "<" is searched from
+/// words and its value, here and everywhere else in the text. Then the next "<" is searched from
 /// the place after the last one. Both places are counts of characters from the beginning of the
 /// text as it is by then; a replacement does not move them. The walk ends when there is no next "<"
 /// or ">", or the ">" comes first.

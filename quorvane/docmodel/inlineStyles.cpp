@@ -46,7 +46,7 @@ struct Span {
 template <class View>
 class ReplacedTokens {
 public:
-    /// Where the token's group stands, or null.
+    /// Where the group of the token is; null for a token that was not added.
     const Span* find(View token) const {
         if (slots_.empty()) {
             return nullptr;

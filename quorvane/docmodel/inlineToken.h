@@ -7,12 +7,12 @@ namespace quorvane {
 // and holds a "=".
 
 /// True for a character that a token can have after its "<".
-constexpr bool beginsInlineToken(char32_t character) {
-    return character >= U'A' && character <= U'z';
+constexpr bool beginsInlineToken(auto character) {
+    return character >= 'A' && character <= 'z';
 }
 
-constexpr bool isBracket(char32_t character) {
-    return character == U'<' || character == U'>';
-}
+inline constexpr auto isBracket = [](auto character) {
+    return character == '<' || character == '>';
+};
 
 }  // namespace quorvane

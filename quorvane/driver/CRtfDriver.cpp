@@ -8,42 +8,18 @@
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/utf8.h"
 #include "quorvane/base/values/RtfError.h"
-#include "quorvane/driver/DescriptionChecks.h"
-#include "quorvane/driver/DescriptionReader.h"
+#include "quorvane/driver/DescriptionFrame.h"
+#include "quorvane/driver/DescriptionParser.h"
+#include "quorvane/driver/DescriptionRules.h"
 #include "quorvane/driver/DescriptionTree.h"
+#include "quorvane/driver/Dialect.h"
 #include "quorvane/driver/DocumentBuilder.h"
-#include "quorvane/driver/Vocabulary.h"
 #include "quorvane/driver/driverErrors.h"
 #include "quorvane/support/GFileSystem.h"
 #include "quorvane/support/published.h"
 #include "quorvane/support/recordStrings.h"
 
 namespace quorvane {
-
-namespace {
-
-constexpr std::int32_t docNumber = 1;
-
-bool contains(std::string_view text, std::string_view part) {
-    return text.find(part) != std::string_view::npos;
-}
-
-bool hasRequiredElements(std::string_view text) {
-    return contains(text, "(doc") && (contains(text, "(row") || contains(text, "(cell") ||
-                                      contains(text, "(r") || contains(text, "(c"));
-}
-
-void requireDocAround(const std::vector<SourceLine>& lines) {
-    const bool begins = !lines.empty() && lines.front().text.starts_with("(doc");
-    const bool ends = !lines.empty() && lines.back().text.starts_with("doc)");
-    if (!begins || !ends) {
-        const int line = lines.empty() ? 0 : (begins ? lines.back() : lines.front()).number;
-        raise(driverError(eWrongRootNode, "(doc must be the first node.", "CRtfDriver.Analysedata",
-                          line));
-    }
-}
-
-}  // namespace
 
 void retain(CRtfDriver* driver) noexcept {
     ++driver->references_;
@@ -65,7 +41,7 @@ CRtfDriver::CRtfDriver(Platform& platform)
 void CRtfDriver::ParseFile(const std::string& sPath) {
     published([&] {
         if (sPath.empty()) {
-            raise(driverError(eWrongPath, "Path is empty!", parseFileSource));
+            raise(driverError(DriverFault::EmptyPath));
         }
         std::string text;
         try {
@@ -101,8 +77,7 @@ void CRtfDriver::setStyleSheetFile(const std::string& sName) {
         try {
             document_->setStyleSheetFile(sName);
         } catch (const RtfError& error) {
-            RtfError refused = driverError(eWrongFileType, sName + " isn't a valid stylesheet.",
-                                           "CRtfDriver.StyleSheetFile");
+            RtfError refused = driverError(DriverFault::WrongStyleSheet, sName);
             refused.cause = std::make_shared<RtfError>(error);
             raise(std::move(refused));
         }
@@ -116,37 +91,30 @@ void CRtfDriver::setAbsorbedErrorObserver(GError::Observer observer) {
 void CRtfDriver::AnalyseData(std::string_view text) {
     // A handler of the event may release the driver.
     const Ref<CRtfDriver> self(this);
-    const Vocabulary vocabulary;
-    std::vector<SourceLine> lines;
+    const Dialect& dialect = originalDialect();
     document_->ClearStructure();
-    step([&] {
-        if (!contains(text, "(doc")) {
-            platform_.setClipboardText(std::string(text));
-            raise(driverError(eWrongFileType, "The provided file isn't a correct rtfspec file.",
-                              "CRtfDriver.AnalyseData"));
-        }
-    });
-    step([&] {
-        if (!hasRequiredElements(text)) {
-            raise(driverError(eRequiredElementMissing,
-                              "Missing some requiered elements:\r\n(doc\r\n(row\r\n(cell",
-                              "CRtfDriver.AnalyseData"));
-        }
-    });
-    lines = PreProcessRawData(text);
-    step([&] { requireDocAround(lines); });
+    std::vector<SourceLine> lines = PreProcessRawData(text);
+    const DescriptionFrame frame = frameOf(text, lines, dialect);
+    for (const Violation& violation : frameViolations(frame, text, lines)) {
+        step([&] {
+            if (violation.fault == DriverFault::NotADescription) {
+                platform_.setClipboardText(std::string(text));
+            }
+            raiseViolation(violation);
+        });
+    }
     if (erroneousInput_) {
-        lines = repairLines(lines);
+        lines = repairLines(lines, dialect);
     }
     // Of the lines of a description about half are leaves; the others open and close nodes.
     DescriptionTree tree(lines.size() / 2);
-    step([&] { DescriptionReader(vocabulary).treeWalkerBuild(tree, lines); });
+    step([&] { DescriptionParser(dialect).treeWalkerBuild(tree, lines); });
     if (erroneousInput_) {
-        const DescriptionChecks checks(vocabulary);
-        step([&] { checks.docWalkerSyntax(tree.root().child(docNumber)); });
-        step([&] { checks.treeWalkerSemantic(tree.root().child(docNumber), NodeKind::Doc); });
+        const DescriptionRules rules(dialect, raiseViolation);
+        step([&] { rules.docWalkerSyntax(tree.root().child(documentNumber)); });
+        step([&] { rules.treeWalkerSemantic(tree.root().child(documentNumber)); });
     }
-    step([&] { DocumentBuilder(*document_, vocabulary).build(tree.root().child(docNumber)); });
+    step([&] { DocumentBuilder(*document_, dialect).build(tree.root().child(documentNumber)); });
 }
 
 template <class Body>

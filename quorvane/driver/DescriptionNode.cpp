@@ -4,7 +4,7 @@
 
 #include "quorvane/base/text/numberText.h"
 #include "quorvane/base/values/RtfError.h"
-#include "quorvane/driver/driverErrors.h"
+#include "quorvane/driver/driverFaults.h"
 
 namespace quorvane {
 
@@ -12,7 +12,16 @@ std::string Leaf::valueText() const {
     return isNumber() ? numberText(number) : std::string(text);
 }
 
-const DescriptionNode& DescriptionNode::child(std::int32_t childNumber) const {
+const Leaf* DescriptionNode::find(DescriptionKey key) const {
+    if (!contains(keys, key)) {
+        return nullptr;
+    }
+    const Chain<const Leaf> all = leaves();
+    return &*std::find_if(all.begin(), all.end(),
+                          [=](const Leaf& leaf) { return leaf.key.known == key; });
+}
+
+DescriptionNode& DescriptionNode::child(std::int32_t childNumber) {
     const Chain<DescriptionNode> all = children();
     const auto found = std::find_if(all.begin(), all.end(), [=](const DescriptionNode& node) {
         return node.number == childNumber;
@@ -23,19 +32,16 @@ const DescriptionNode& DescriptionNode::child(std::int32_t childNumber) const {
     return *found;
 }
 
+const DescriptionNode& DescriptionNode::child(std::int32_t childNumber) const {
+    return const_cast<DescriptionNode*>(this)->child(childNumber);
+}
+
 NodeKind NodeType(std::int32_t number) {
     constexpr NodeKind kinds[] = {NodeKind::Doc, NodeKind::Row, NodeKind::Cell, NodeKind::Para};
     if (number < 0 || number > 3999) {
-        raise(driverError(eWrongNodeType, std::to_string(number) + " isn't a valid key value.",
-                          "CRtfDriver.NodeType"));
+        raise(driverError(DriverFault::WrongNodeNumber, std::to_string(number)));
     }
     return kinds[number / 1000];
-}
-
-bool nests(NodeKind parent, NodeKind child) {
-    return (parent == NodeKind::Doc && child == NodeKind::Row) ||
-           (parent == NodeKind::Row && child == NodeKind::Cell) ||
-           (parent == NodeKind::Cell && child == NodeKind::Para);
 }
 
 std::string valueText(const Value& value) {

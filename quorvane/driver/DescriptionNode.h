@@ -5,14 +5,14 @@
 #include <iterator>
 #include <string>
 #include <string_view>
+#include <type_traits>
+#include <vector>
 
 #include "quorvane/base/values/Value.h"
 #include "quorvane/driver/DescriptionKey.h"
+#include "quorvane/driver/NodeKind.h"
 
 namespace quorvane {
-
-/// Kinds of nodes, by the codes that the nesting and the numbers of nodes go by.
-enum class NodeKind : std::int32_t { Row = 0, Cell = 1, Para = 2, Doc = 3, None = 4 };
 
 /// The key of a leaf: its long form, and which of the known keys it is.
 struct LeafKey {
@@ -23,14 +23,18 @@ struct LeafKey {
 /// What the value of a leaf is. A description gives texts and numbers only.
 enum class LeafKind : std::uint8_t { Text, Number, Neither };
 
-/// One key of a description with its value; its texts are views.
+/// One key of a description with its value; its texts are views of the description.
 struct Leaf {
     LeafKey key = {};
+    /// The key as it was written.
+    std::string_view writtenKey = {};
     /// The value as it was written.
     std::string_view text = {};
     /// The value, when it is a number.
     double number = 0;
     LeafKind kind = LeafKind::Text;
+    /// True when an error was reported for it: it is not built.
+    bool isFaulty = false;
     /// 1-based line on which it stands.
     int line = 0;
     /// The next leaf of the node.
@@ -50,15 +54,15 @@ public:
     class Iterator {
     public:
         using iterator_category = std::forward_iterator_tag;
-        using value_type = Element;
+        using value_type = std::remove_const_t<Element>;
         using difference_type = std::ptrdiff_t;
-        using pointer = const Element*;
-        using reference = const Element&;
+        using pointer = Element*;
+        using reference = Element&;
 
         Iterator() = default;
-        explicit Iterator(const Element* element) : element_(element) {}
-        const Element& operator*() const { return *element_; }
-        const Element* operator->() const { return element_; }
+        explicit Iterator(Element* element) : element_(element) {}
+        Element& operator*() const { return *element_; }
+        Element* operator->() const { return element_; }
         Iterator& operator++() {
             element_ = element_->next;
             return *this;
@@ -71,17 +75,17 @@ public:
         bool operator==(const Iterator&) const = default;
 
     private:
-        const Element* element_ = nullptr;
+        Element* element_ = nullptr;
     };
 
-    explicit Chain(const Element* first) : first_(first) {}
+    explicit Chain(Element* first) : first_(first) {}
 
     Iterator begin() const { return Iterator(first_); }
     Iterator end() const { return Iterator(); }
     bool empty() const { return first_ == nullptr; }
 
 private:
-    const Element* first_;
+    Element* first_;
 };
 
 /// A node of a description: its leaves, under their keys, and its child nodes, under their numbers.
@@ -89,10 +93,17 @@ private:
 struct DescriptionNode {
     /// 0 for the root.
     std::int32_t number = 0;
+    NodeKind kind = NodeKind::Doc;
     /// 1-based line on which the node is opened; 0 for the root.
     int line = 0;
     /// Which known keys its leaves have.
     KeySet keys = 0;
+    /// The line that opens it, without the blanks around it: a view of the description.
+    std::string_view opener = {};
+    /// True when an error was reported for it: neither it nor what is in it is built.
+    bool isFaulty = false;
+    /// True for what the document does not hold: it is neither checked nor built.
+    bool isOutside = false;
     Leaf* firstLeaf = nullptr;
     Leaf* lastLeaf = nullptr;
     DescriptionNode* firstChild = nullptr;
@@ -101,19 +112,42 @@ struct DescriptionNode {
     DescriptionNode* next = nullptr;
 
     /// In the order of the description.
-    Chain<Leaf> leaves() const { return Chain<Leaf>(firstLeaf); }
-    Chain<DescriptionNode> children() const { return Chain<DescriptionNode>(firstChild); }
+    Chain<const Leaf> leaves() const { return Chain<const Leaf>(firstLeaf); }
+    Chain<Leaf> leaves() { return Chain<Leaf>(firstLeaf); }
+    Chain<const DescriptionNode> children() const {
+        return Chain<const DescriptionNode>(firstChild);
+    }
+    Chain<DescriptionNode> children() { return Chain<DescriptionNode>(firstChild); }
+
+    /// The leaf of a known key; null when there is none.
+    const Leaf* find(DescriptionKey key) const;
 
     /// The child node of a number; error 5 when there is none.
+    DescriptionNode& child(std::int32_t childNumber);
     const DescriptionNode& child(std::int32_t childNumber) const;
 };
+
+/// Visits a node and all nodes in it, each before those in it. Nodes may be nested as deep as the
+/// text is long.
+template <class Visit>
+void forEachNode(const DescriptionNode& node, Visit visit) {
+    std::vector<const DescriptionNode*> pending{&node};
+    while (!pending.empty()) {
+        const DescriptionNode* const next = pending.back();
+        pending.pop_back();
+        visit(*next);
+        if (next != &node && next->next) {
+            pending.push_back(next->next);
+        }
+        if (next->firstChild) {
+            pending.push_back(next->firstChild);
+        }
+    }
+}
 
 /// Kind of the node of that number: 0 to 999 doc, 1000 to 1999 row, 2000 to 2999 cell, 3000 to 3999
 /// para. Error `eWrongNodeType` for any other number.
 NodeKind NodeType(std::int32_t number);
-
-/// True for a row in doc, a cell in a row and a paragraph in a cell.
-bool nests(NodeKind parent, NodeKind child);
 
 /// A leaf's value as text: a number in its shortest form.
 std::string valueText(const Value& value);

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "quorvane/base/values/RtfError.h"
-#include "quorvane/driver/driverErrors.h"
+#include "quorvane/driver/driverFaults.h"
 
 namespace quorvane {
 
@@ -22,43 +22,44 @@ constexpr std::size_t mostLeavesAtOnce = 16384;
 DescriptionTree::DescriptionTree(std::size_t leafCount)
     : memory_(roomForFew + std::min(leafCount, mostLeavesAtOnce) * roomForALeaf) {}
 
-bool DescriptionTree::addKey(DescriptionNode& node, const LeafKey& key) {
-    if (key.known == DescriptionKey::Unknown) {
-        return unknownKeys_.insert({&node, key.name}).second;
-    }
-    const bool isNew = (node.keys & setOf(key.known)) == 0;
-    node.keys |= setOf(key.known);
-    return isNew;
-}
-
-void DescriptionTree::addLeaf(DescriptionNode& node, const Leaf& leaf) {
+Leaf* DescriptionTree::addLeaf(DescriptionNode& node, const Leaf& leaf) {
     void* const memory = memory_.allocate(sizeof(Leaf), alignof(Leaf));
-    if (!addKey(node, leaf.key)) {
-        atLine(leaf.line, [] { raise(RunTimeError::DuplicateKey); });
+    if (leaf.key.known == DescriptionKey::Unknown) {
+        if (!leaves_.emplace(KeyOfNode{&node, leaf.key.name}, static_cast<Leaf*>(memory)).second) {
+            return nullptr;
+        }
+    } else if (contains(node.keys, leaf.key.known)) {
+        return nullptr;
     }
+    node.keys |= setOf(leaf.key.known);
     auto* const added = new (memory) Leaf(leaf);
     added->next = nullptr;
     (node.lastLeaf ? node.lastLeaf->next : node.firstLeaf) = added;
     node.lastLeaf = added;
+    return added;
+}
+
+Leaf& DescriptionTree::leafOf(const DescriptionNode& node, const LeafKey& key) {
+    // A known key is looked for among the leaves only once, however often it is repeated.
+    Leaf*& leaf = leaves_[{&node, key.name}];
+    for (Leaf* each = node.firstLeaf; !leaf; each = each->next) {
+        leaf = each->key.name == key.name ? each : nullptr;
+    }
+    return *leaf;
 }
 
 DescriptionNode& DescriptionTree::AddNode(DescriptionNode& parent, NodeKind kind,
-                                          std::int32_t number, int line) {
-    const auto code = static_cast<std::int32_t>(kind);
-    if (code < 0 || code > 3) {
-        raise(driverError(eWrongNodeType, "Can't add this type of node: " + std::to_string(code),
-                          "CRtfDriver.AddNode", line));
-    }
-    const Chain<DescriptionNode> children = parent.children();
-    const auto hasNumber = [=](const DescriptionNode& node) { return node.number == number; };
-    if (parent.lastChild && parent.lastChild->number >= number &&
-        std::any_of(children.begin(), children.end(), hasNumber)) {
-        raise(RunTimeError::DuplicateKey);
+                                          std::int32_t number, int line, std::string_view opener) {
+    if (std::find(nodeKinds.begin(), nodeKinds.end(), kind) == nodeKinds.end()) {
+        raise(driverError(DriverFault::WrongNodeKind,
+                          std::to_string(static_cast<std::int32_t>(kind)), line));
     }
     void* const memory = memory_.allocate(sizeof(DescriptionNode), alignof(DescriptionNode));
     auto* const child = new (memory) DescriptionNode();
     child->number = number;
+    child->kind = kind;
     child->line = line;
+    child->opener = opener;
     (parent.lastChild ? parent.lastChild->next : parent.firstChild) = child;
     parent.lastChild = child;
     return *child;

@@ -5,14 +5,17 @@
 #include <functional>
 #include <memory_resource>
 #include <string_view>
-#include <unordered_set>
+#include <unordered_map>
 
 #include "quorvane/driver/DescriptionNode.h"
 
 namespace quorvane {
 
+/// The number of the document's node, which is the root's child.
+constexpr std::int32_t documentNumber = 1;
+
 /// The nodes of one description. They lie beside each other in few blocks of memory that go
-/// together: letting go of a tree takes no time for each node and no memory, however deep nodes are
+/// together: releasing a tree takes no time for each node and no memory, however deep nodes are
 /// nested.
 class DescriptionTree {
 public:
@@ -24,34 +27,36 @@ public:
     DescriptionNode& root() { return root_; }
     const DescriptionNode& root() const { return root_; }
 
-    /// Adds a leaf to a node of this tree. What it views must outlive the tree. Error 457 when the
-    /// node has such a key already.
-    void addLeaf(DescriptionNode& node, const Leaf& leaf);
+    /// Adds a leaf to a node of this tree and returns it. What it views must outlive the tree. Null
+    /// when the node has such a key already.
+    Leaf* addLeaf(DescriptionNode& node, const Leaf& leaf);
 
-    /// Adds an empty child node under its number and answers it. Children of one kind are added in
-    /// ascending order of their numbers. Errors: `eWrongNodeType` for a kind that is none, 457 when
-    /// the number is there already.
-    DescriptionNode& AddNode(DescriptionNode& parent, NodeKind kind, std::int32_t number, int line);
+    /// The leaf that has the key, which is one of the node's.
+    Leaf& leafOf(const DescriptionNode& node, const LeafKey& key);
+
+    /// Adds an empty child node under its number and returns it. Each number of a kind is added
+    /// once and later than all smaller ones. `opener` is the line that opens it, without the blanks
+    /// around it. Error `eWrongNodeType` for a kind that no node has.
+    DescriptionNode& AddNode(DescriptionNode& parent, NodeKind kind, std::int32_t number, int line,
+                             std::string_view opener = {});
 
 private:
-    struct UnknownKey {
+    struct KeyOfNode {
         const DescriptionNode* node;
         std::string_view name;
-        bool operator==(const UnknownKey&) const = default;
+        bool operator==(const KeyOfNode&) const = default;
     };
-    struct UnknownKeyHash {
-        std::size_t operator()(const UnknownKey& key) const noexcept {
+    struct KeyOfNodeHash {
+        std::size_t operator()(const KeyOfNode& key) const noexcept {
             return std::hash<std::string_view>{}(key.name) ^
                    (std::hash<const void*>{}(key.node) * 31);
         }
     };
 
-    bool addKey(DescriptionNode& node, const LeafKey& key);
-
     std::pmr::monotonic_buffer_resource memory_;
     DescriptionNode root_;
-    // The known keys of a node are in its set.
-    std::pmr::unordered_set<UnknownKey, UnknownKeyHash> unknownKeys_{&memory_};
+    // Those of unknown keys, and of known ones that were looked for.
+    std::pmr::unordered_map<KeyOfNode, Leaf*, KeyOfNodeHash> leaves_{&memory_};
 };
 
 }  // namespace quorvane

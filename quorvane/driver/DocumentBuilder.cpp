@@ -1,25 +1,26 @@
 #include "quorvane/driver/DocumentBuilder.h"
 
+#include <algorithm>
 #include <array>
 #include <bit>
-#include <cstddef>
 #include <optional>
 #include <string>
 
 #include "quorvane/base/text/rounding.h"
 #include "quorvane/base/values/RtfError.h"
+#include "quorvane/driver/DescriptionRules.h"
 #include "quorvane/driver/driverErrors.h"
 
 namespace quorvane {
 
 namespace {
 
-// Calls `visit` with each child node of that kind; nodes of another kind are passed over. Those of
-// one kind stand in ascending order of their numbers.
+// Calls `visit` with each child node of that kind that can be built; others are passed over. Those
+// of one kind stand in ascending order of their numbers.
 template <class Visit>
-void forEachChild(const DescriptionNode& node, NodeKind kind, Visit visit) {
-    for (const DescriptionNode& child : node.children()) {
-        if (NodeType(child.number) == kind) {
+void forEachChild(DescriptionNode& node, NodeKind kind, Visit visit) {
+    for (DescriptionNode& child : node.children()) {
+        if (child.kind == kind && !child.isFaulty) {
             visit(child);
         }
     }
@@ -37,61 +38,106 @@ std::int32_t number(const Leaf& leaf) {
     return roundToLong(leaf.number);
 }
 
-// A name's value, or a number that is itself a value of the enumeration.
 template <class Enumeration>
-Enumeration namedOrNumbered(const Leaf& leaf, std::optional<Enumeration> named,
-                            bool (*isValue)(double), const char* complaint) {
-    if (named) {
-        return *named;
+Enumeration required(std::optional<Enumeration> value, const Leaf& leaf) {
+    if (!value) {
+        raise(driverError(wrongNameFault(leaf.key.known), leaf.valueText()));
     }
-    if (leaf.isNumber() && isValue(leaf.number)) {
-        return static_cast<Enumeration>(static_cast<std::int32_t>(leaf.number));
+    return *value;
+}
+
+/// A host that is shown an absorbed error may remove elements that are not finished.
+template <class Collection>
+void requirePosition(const Collection& collection, std::int32_t position) {
+    if (position > collection.Count()) {
+        raise(RunTimeError::InvalidProcedureCall);
     }
-    raise(driverError(eWrongValue, leaf.valueText() + complaint, "CRtfDriver.treWalkerSemantic"));
+}
+
+/// What the build reports an error of a leaf as.
+Violation violationOf(const RtfError& error, Leaf& leaf, DescriptionNode* keyHolder) {
+    const bool isTaken = error.is(RunTimeError::DuplicateKey);
+    return {.fault = isTaken                            ? DriverFault::TakenKey
+                     : error.is(RunTimeError::Overflow) ? DriverFault::Overflow
+                                                        : DriverFault::Other,
+            .error = error,
+            .part = leaf.text,
+            .node = isTaken ? keyHolder : nullptr,
+            .leaf = &leaf};
 }
 
 }  // namespace
 
 template <class Apply>
-void DocumentBuilder::forEachLeaf(const DescriptionNode& node, NodeKind kind, Apply apply) const {
+void DocumentBuilder::forEachLeaf(DescriptionNode& node, NodeKind kind, Apply apply) const {
     KeySet keys = node.keys & vocabulary_.keySetOf(kind);
     if (keys == 0) {
         return;
     }
-    std::array<const Leaf*, knownKeyCount> byKey;
-    for (const Leaf& leaf : node.leaves()) {
+    std::array<Leaf*, knownKeyCount> byKey;
+    for (Leaf& leaf : node.leaves()) {
         if (leaf.key.known != DescriptionKey::Unknown) {
             byKey[static_cast<std::size_t>(leaf.key.known)] = &leaf;
         }
     }
     for (; keys != 0; keys &= keys - 1) {
-        const Leaf& leaf = *byKey[static_cast<std::size_t>(std::countr_zero(keys))];
-        atLine(leaf.line, [&] { apply(leaf); });
+        Leaf& leaf = *byKey[static_cast<std::size_t>(std::countr_zero(keys))];
+        if (!leaf.isFaulty) {
+            applyTo(leaf, apply);
+        }
     }
 }
 
-void DocumentBuilder::build(const DescriptionNode& doc) {
-    const Ref<CRtfTableRows> rows = document_.TableRows();
-    // Who was told of an error may have added rows.
-    std::int32_t position = rows->Count();
-    addStructure(doc);
-    forEachLeaf(doc, NodeKind::Doc, [this](const Leaf& leaf) { applyDocLeaf(leaf); });
-    forEachChild(doc, NodeKind::Row,
-                 [&](const DescriptionNode& row) { applyRow(rows->Item(++position), row); });
+template <class Apply>
+void DocumentBuilder::applyTo(Leaf& leaf, Apply apply) const {
+    try {
+        atLine(leaf.line, [&] { apply(leaf); });
+    } catch (const RtfError& error) {
+        if (!receiver_) {
+            throw;
+        }
+        receiver_(violationOf(error, leaf, keyHolder_));
+    }
 }
 
-void DocumentBuilder::addStructure(const DescriptionNode& doc) {
+BuiltTable DocumentBuilder::build(DescriptionNode& doc) {
     const Ref<CRtfTableRows> rows = document_.TableRows();
-    forEachChild(doc, NodeKind::Row, [&](const DescriptionNode& row) {
-        atLine(row.line, [&] { rows->AddTail(keyOf(row)); });
-        const Ref<CRtfTableCells> cells = rows->PeekTail()->TableCells();
-        forEachChild(row, NodeKind::Cell, [&](const DescriptionNode& cell) {
-            atLine(cell.line, [&] { cells->AddTail(keyOf(cell)); });
-            const Ref<CRtfParagraphs> paragraphs = cells->PeekTail()->Paragraphs();
-            forEachChild(cell, NodeKind::Para, [&](const DescriptionNode& para) {
-                atLine(para.line, [&] { paragraphs->AddTail(keyOf(para)); });
-            });
-        });
+    // The handler of an error may have added rows.
+    std::int32_t position = rows->Count();
+    addRows(doc);
+    forEachLeaf(doc, NodeKind::Doc, [this](const Leaf& leaf) { applyDocLeaf(leaf); });
+    for (BuiltTable::Row& row : table_.rows) {
+        requirePosition(*rows, ++position);
+        applyRow(row);
+    }
+    return std::move(table_);
+}
+
+void DocumentBuilder::addRows(DescriptionNode& doc) {
+    const Ref<CRtfTableRows> rows = document_.TableRows();
+    forEachChild(doc, NodeKind::Row, [&](DescriptionNode& node) {
+        atLine(node.line, [&] { rows->AddTail(keyOf(node)); });
+        table_.rows.push_back({&node, rows->PeekTail(), table_.cells.size(), 0});
+        addCells(table_.rows.back());
+    });
+}
+
+void DocumentBuilder::addCells(BuiltTable::Row& row) {
+    const Ref<CRtfTableCells> cells = row.element->TableCells();
+    forEachChild(*row.node, NodeKind::Cell, [&](DescriptionNode& node) {
+        atLine(node.line, [&] { cells->AddTail(keyOf(node)); });
+        ++row.cellCount;
+        table_.cells.push_back({&node, cells->PeekTail(), table_.paragraphs.size(), 0});
+        addParagraphs(table_.cells.back());
+    });
+}
+
+void DocumentBuilder::addParagraphs(BuiltTable::Cell& cell) {
+    const Ref<CRtfParagraphs> paragraphs = cell.element->Paragraphs();
+    forEachChild(*cell.node, NodeKind::Para, [&](DescriptionNode& node) {
+        atLine(node.line, [&] { paragraphs->AddTail(keyOf(node)); });
+        ++cell.paragraphCount;
+        table_.paragraphs.push_back({&node, paragraphs->PeekTail()});
     });
 }
 
@@ -123,107 +169,132 @@ void DocumentBuilder::applyDocLeaf(const Leaf& leaf) {
     }
 }
 
-void DocumentBuilder::applyRow(Ref<CRtfTableRow> row, const DescriptionNode& node) {
-    forEachLeaf(node, NodeKind::Row, [&](const Leaf& leaf) { applyRowLeaf(row, leaf); });
-    const Ref<CRtfTableCells> cells = row->TableCells();
-    std::int32_t position = 0;
-    forEachChild(node, NodeKind::Cell, [&](const DescriptionNode& cell) {
-        applyCell(cells, cells->Item(++position), cell);
-    });
+template <class Collection, class Built>
+void DocumentBuilder::refile(Collection& collection, Built& built, std::span<Built> siblings,
+                             const Leaf& leaf) {
+    const std::string key = leaf.valueText();
+    try {
+        built.element = collection.refile(built.element, key);
+    } catch (const RtfError& error) {
+        if (receiver_ && error.is(RunTimeError::DuplicateKey)) {
+            const auto holder = collection.Item(key);
+            const auto found =
+                std::find_if(siblings.begin(), siblings.end(),
+                             [&](const Built& sibling) { return sibling.element == holder; });
+            keyHolder_ = found == siblings.end() ? nullptr : found->node;
+        }
+        throw;
+    }
 }
 
-void DocumentBuilder::applyRowLeaf(Ref<CRtfTableRow>& row, const Leaf& leaf) {
+void DocumentBuilder::applyRow(BuiltTable::Row& row) {
+    forEachLeaf(*row.node, NodeKind::Row, [&](const Leaf& leaf) { applyRowLeaf(row, leaf); });
+    const Ref<CRtfTableCells> cells = row.element->TableCells();
+    const std::span<BuiltTable::Cell> built = table_.cellsOf(row);
+    std::int32_t position = 0;
+    for (BuiltTable::Cell& cell : built) {
+        requirePosition(*cells, ++position);
+        applyCell(*cells, cell, built);
+    }
+}
+
+void DocumentBuilder::applyRowLeaf(BuiltTable::Row& row, const Leaf& leaf) {
+    CRtfTableRow& element = *row.element;
     switch (leaf.key.known) {
         case DescriptionKey::RowBackColor:
-            row->setBackColor(color(leaf));
+            element.setBackColor(color(leaf));
             break;
         case DescriptionKey::RowKey:
-            row = document_.TableRows()->refile(row, leaf.valueText());
+            refile(*document_.TableRows(), row, std::span(table_.rows), leaf);
             break;
         case DescriptionKey::RowTopBorder:
-            row->setTopBorder(border(leaf));
+            element.setTopBorder(border(leaf));
             break;
         case DescriptionKey::RowBottomBorder:
-            row->setBottomBorder(border(leaf));
+            element.setBottomBorder(border(leaf));
             break;
         case DescriptionKey::RowLeftBorder:
-            row->setLeftBorder(border(leaf));
+            element.setLeftBorder(border(leaf));
             break;
         case DescriptionKey::RowRightBorder:
-            row->setRightBorder(border(leaf));
+            element.setRightBorder(border(leaf));
             break;
         default:
             break;
     }
 }
 
-void DocumentBuilder::applyCell(const Ref<CRtfTableCells>& cells, Ref<CRtfTableCell> cell,
-                                const DescriptionNode& node) {
-    forEachLeaf(node, NodeKind::Cell, [&](const Leaf& leaf) { applyCellLeaf(cells, cell, leaf); });
-    const Ref<CRtfParagraphs> paragraphs = cell->Paragraphs();
-    std::int32_t position = 0;
-    forEachChild(node, NodeKind::Para, [&](const DescriptionNode& para) {
-        Ref<CRtfParagraph> paragraph = paragraphs->Item(++position);
-        forEachLeaf(para, NodeKind::Para,
-                    [&](const Leaf& leaf) { applyParaLeaf(paragraphs, paragraph, leaf); });
+void DocumentBuilder::applyCell(CRtfTableCells& cells, BuiltTable::Cell& cell,
+                                std::span<BuiltTable::Cell> siblings) {
+    forEachLeaf(*cell.node, NodeKind::Cell, [&](const Leaf& leaf) {
+        if (leaf.key.known == DescriptionKey::CellKey) {
+            refile(cells, cell, siblings, leaf);
+        } else {
+            applyCellLeaf(*cell.element, leaf);
+        }
     });
+    const Ref<CRtfParagraphs> paragraphs = cell.element->Paragraphs();
+    const std::span<BuiltTable::Paragraph> built = table_.paragraphsOf(cell);
+    std::int32_t position = 0;
+    for (BuiltTable::Paragraph& paragraph : built) {
+        requirePosition(*paragraphs, ++position);
+        forEachLeaf(*paragraph.node, NodeKind::Para, [&](const Leaf& leaf) {
+            if (leaf.key.known == DescriptionKey::ParaKey) {
+                refile(*paragraphs, paragraph, built, leaf);
+            } else {
+                applyParaLeaf(*paragraph.element, leaf);
+            }
+        });
+    }
 }
 
-void DocumentBuilder::applyCellLeaf(const Ref<CRtfTableCells>& cells, Ref<CRtfTableCell>& cell,
-                                    const Leaf& leaf) {
+void DocumentBuilder::applyCellLeaf(CRtfTableCell& cell, const Leaf& leaf) {
     switch (leaf.key.known) {
         case DescriptionKey::CellBackColor:
-            cell->setBackColor(color(leaf));
+            cell.setBackColor(color(leaf));
             break;
         case DescriptionKey::CellWidth:
-            cell->setWidth(ePercent, number(leaf));
+            cell.setWidth(ePercent, number(leaf));
             break;
         case DescriptionKey::CellTopBorder:
-            cell->setTopBorder(border(leaf));
+            cell.setTopBorder(border(leaf));
             break;
         case DescriptionKey::CellBottomBorder:
-            cell->setBottomBorder(border(leaf));
+            cell.setBottomBorder(border(leaf));
             break;
         case DescriptionKey::CellLeftBorder:
-            cell->setLeftBorder(border(leaf));
+            cell.setLeftBorder(border(leaf));
             break;
         case DescriptionKey::CellRightBorder:
-            cell->setRightBorder(border(leaf));
+            cell.setRightBorder(border(leaf));
             break;
         case DescriptionKey::CellAlignment:
-            cell->setAlign(alignment(leaf));
+            cell.setAlign(alignment(leaf));
             break;
         case DescriptionKey::CellStyle:
-            cell->setStyle(leaf.valueText());
+            cell.setStyle(leaf.valueText());
             break;
         case DescriptionKey::CellMarkedField:
-            cell->asMarkedField(leaf.value());
-            break;
-        case DescriptionKey::CellKey:
-            cell = cells->refile(cell, leaf.valueText());
+            cell.asMarkedField(leaf.value());
             break;
         default:
             break;
     }
 }
 
-void DocumentBuilder::applyParaLeaf(const Ref<CRtfParagraphs>& paragraphs,
-                                    Ref<CRtfParagraph>& paragraph, const Leaf& leaf) {
+void DocumentBuilder::applyParaLeaf(CRtfParagraph& paragraph, const Leaf& leaf) {
     switch (leaf.key.known) {
         case DescriptionKey::ParaText:
-            paragraph->setText(leaf.text);
+            paragraph.setText(leaf.text);
             break;
         case DescriptionKey::ParaStyle:
-            paragraph->setStyle(leaf.valueText());
+            paragraph.setStyle(leaf.valueText());
             break;
         case DescriptionKey::ParaAlignment:
-            paragraph->setAlign(alignment(leaf));
+            paragraph.setAlign(alignment(leaf));
             break;
         case DescriptionKey::ParaMarkedField:
-            paragraph->asMarkedField(leaf.value());
-            break;
-        case DescriptionKey::ParaKey:
-            paragraph = paragraphs->refile(paragraph, leaf.valueText());
+            paragraph.asMarkedField(leaf.value());
             break;
         default:
             break;
@@ -231,18 +302,15 @@ void DocumentBuilder::applyParaLeaf(const Ref<CRtfParagraphs>& paragraphs,
 }
 
 tColorIndex DocumentBuilder::color(const Leaf& leaf) const {
-    return namedOrNumbered(leaf, vocabulary_.colorNamed(leaf), Vocabulary::isColorNumber,
-                           " isn't a recognized color.");
+    return required(vocabulary_.colorOf(leaf), leaf);
 }
 
 tBorderWidth DocumentBuilder::border(const Leaf& leaf) const {
-    return namedOrNumbered(leaf, vocabulary_.borderNamed(leaf), Vocabulary::isBorderNumber,
-                           " isn't a recognized border.");
+    return required(vocabulary_.borderOf(leaf), leaf);
 }
 
 tCellAlign DocumentBuilder::alignment(const Leaf& leaf) const {
-    return namedOrNumbered(leaf, vocabulary_.alignmentNamed(leaf), Vocabulary::isAlignmentNumber,
-                           " isn't a recognized alignment.");
+    return required(vocabulary_.alignmentOf(leaf), leaf);
 }
 
 }  // namespace quorvane

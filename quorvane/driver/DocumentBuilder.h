@@ -1,44 +1,88 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
-#include <string>
+#include <span>
+#include <utility>
+#include <vector>
 
 #include "quorvane/base/memory/Ref.h"
 #include "quorvane/docmodel/CRtfDoc.h"
 #include "quorvane/driver/DescriptionNode.h"
-#include "quorvane/driver/Vocabulary.h"
+#include "quorvane/driver/Dialect.h"
+#include "quorvane/driver/driverFaults.h"
 
 namespace quorvane {
 
-/// Fills a document from the doc node of a description. An error of a value, a collection or a
-/// property ends the build; what was built so far stays.
+/// The rows, cells and paragraphs that were made of nodes, each with its node, in the order of the
+/// description.
+struct BuiltTable {
+    struct Paragraph {
+        DescriptionNode* node;
+        Ref<CRtfParagraph> element;
+    };
+    struct Cell {
+        DescriptionNode* node;
+        Ref<CRtfTableCell> element;
+        std::size_t firstParagraph;
+        std::size_t paragraphCount;
+    };
+    struct Row {
+        DescriptionNode* node;
+        Ref<CRtfTableRow> element;
+        std::size_t firstCell;
+        std::size_t cellCount;
+    };
+
+    std::vector<Row> rows;
+    std::vector<Cell> cells;
+    std::vector<Paragraph> paragraphs;
+
+    std::span<Cell> cellsOf(const Row& row) {
+        return std::span(cells).subspan(row.firstCell, row.cellCount);
+    }
+    std::span<Paragraph> paragraphsOf(const Cell& cell) {
+        return std::span(paragraphs).subspan(cell.firstParagraph, cell.paragraphCount);
+    }
+};
+
+/// Fills a document from the doc node of a description. Nodes and leaves that are marked as faulty
+/// are left out. Without a receiver, an error of a value, a collection or a property ends the build
+/// and is raised; what was built so far stays. With a receiver, an error of a leaf is reported to
+/// it and the build goes on with the next leaf.
 class DocumentBuilder {
 public:
-    DocumentBuilder(CRtfDoc& document, const Vocabulary& vocabulary)
-        : document_(document), vocabulary_(vocabulary) {}
+    DocumentBuilder(CRtfDoc& document, const Dialect& dialect, ViolationReceiver receiver = {})
+        : document_(document), vocabulary_(dialect.vocabulary), receiver_(std::move(receiver)) {}
 
     /// First adds all rows, cells and paragraphs under their nodes' numbers as keys, then applies
     /// the leaves, in ascending order of their keys. Errors: `eWrongValue` a word or number that is
-    /// no colour, border or alignment, 13 a value that is no number where there must be one, 6 a
-    /// number beyond 32 bits, 457 a key that is there already.
-    void build(const DescriptionNode& doc);
+    /// not a color, border or alignment, 13 a value that is not a number where there must be one, 6
+    /// a number beyond 32 bits, 457 a key that is there already.
+    BuiltTable build(DescriptionNode& doc);
 
 private:
     // Calls `apply` for each leaf whose key nodes of that kind have, in ascending order of the
     // keys.
     template <class Apply>
-    void forEachLeaf(const DescriptionNode& node, NodeKind kind, Apply apply) const;
+    void forEachLeaf(DescriptionNode& node, NodeKind kind, Apply apply) const;
+    template <class Apply>
+    void applyTo(Leaf& leaf, Apply apply) const;
 
-    void addStructure(const DescriptionNode& doc);
+    void addRows(DescriptionNode& doc);
+    void addCells(BuiltTable::Row& row);
+    void addParagraphs(BuiltTable::Cell& cell);
     void applyDocLeaf(const Leaf& leaf);
-    void applyRow(Ref<CRtfTableRow> row, const DescriptionNode& node);
-    void applyRowLeaf(Ref<CRtfTableRow>& row, const Leaf& leaf);
-    void applyCell(const Ref<CRtfTableCells>& cells, Ref<CRtfTableCell> cell,
-                   const DescriptionNode& node);
-    void applyCellLeaf(const Ref<CRtfTableCells>& cells, Ref<CRtfTableCell>& cell,
-                       const Leaf& leaf);
-    void applyParaLeaf(const Ref<CRtfParagraphs>& paragraphs, Ref<CRtfParagraph>& paragraph,
-                       const Leaf& leaf);
+    void applyRow(BuiltTable::Row& row);
+    void applyRowLeaf(BuiltTable::Row& row, const Leaf& leaf);
+    void applyCell(CRtfTableCells& cells, BuiltTable::Cell& cell,
+                   std::span<BuiltTable::Cell> siblings);
+    void applyCellLeaf(CRtfTableCell& cell, const Leaf& leaf);
+    void applyParaLeaf(CRtfParagraph& paragraph, const Leaf& leaf);
+
+    // Files an element under the value of its key; on error 457 keeps the node that has that key.
+    template <class Collection, class Built>
+    void refile(Collection& collection, Built& built, std::span<Built> siblings, const Leaf& leaf);
 
     tColorIndex color(const Leaf& leaf) const;
     tBorderWidth border(const Leaf& leaf) const;
@@ -46,6 +90,10 @@ private:
 
     CRtfDoc& document_;
     const Vocabulary& vocabulary_;
+    ViolationReceiver receiver_;
+    BuiltTable table_;
+    // The node that has the key of the last error 457.
+    DescriptionNode* keyHolder_ = nullptr;
 };
 
 }  // namespace quorvane

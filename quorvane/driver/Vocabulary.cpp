@@ -1,14 +1,8 @@
 #include "quorvane/driver/Vocabulary.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <cstddef>
-#include <cstdint>
-#include <initializer_list>
 #include <iterator>
-#include <span>
-#include <utility>
 
 #include "quorvane/base/text/textCase.h"
 
@@ -16,7 +10,13 @@ namespace quorvane {
 
 namespace {
 
-constexpr std::pair<std::string_view, std::string_view> longForms[] = {
+constexpr VocabularyWords::NodeWord nodes[] = {
+    {"row", NodeKind::Row}, {"r", NodeKind::Row},     {"cell", NodeKind::Cell},
+    {"c", NodeKind::Cell},  {"para", NodeKind::Para}, {"p", NodeKind::Para},
+    {"doc", NodeKind::Doc},
+};
+
+constexpr VocabularyWords::ShortForm shortForms[] = {
     {"r", "row"},
     {"c", "cell"},
     {"p", "para"},
@@ -40,7 +40,7 @@ constexpr std::pair<std::string_view, std::string_view> longForms[] = {
     {"cmf", "cell-marked-field"},
 };
 
-constexpr std::pair<std::string_view, std::int32_t> colors[] = {
+constexpr VocabularyWords::NamedValue colors[] = {
     {"black", eBlack},
     {"blue", eBlue},
     {"cyan", eCyan},
@@ -81,23 +81,18 @@ constexpr std::pair<std::string_view, std::int32_t> colors[] = {
     {"none", eNoColor},
 };
 
-constexpr std::pair<std::string_view, std::int32_t> borders[] = {
+constexpr VocabularyWords::NamedValue borders[] = {
     {"none", eNone}, {"hair", eHair}, {"thin", eThin}, {"normal", eNormal}, {"thick", eThick},
 };
 
-constexpr std::pair<std::string_view, std::int32_t> alignments[] = {
+constexpr VocabularyWords::NamedValue alignments[] = {
     {"left", eLeft},           {"right", eRight},    {"centered", eCentered},
     {"justified", eJustified}, {"none", eNoDefault},
 };
 
 using enum DescriptionKey;
 
-struct KnownKey {
-    std::string_view name;
-    DescriptionKey key;
-};
-
-constexpr KnownKey docKeys[] = {
+constexpr VocabularyWords::Key docKeys[] = {
     {"paper-height", PaperHeight},
     {"paper-width", PaperWidth},
     {"page-number-start", PageNumberStart},
@@ -107,13 +102,13 @@ constexpr KnownKey docKeys[] = {
     {"top-margin", TopMargin},
 };
 
-constexpr KnownKey rowKeys[] = {
+constexpr VocabularyWords::Key rowKeys[] = {
     {"row-backcolor", RowBackColor},        {"row-top-border", RowTopBorder},
     {"row-bottom-border", RowBottomBorder}, {"row-left-border", RowLeftBorder},
     {"row-right-border", RowRightBorder},   {"row-key", RowKey},
 };
 
-constexpr KnownKey cellKeys[] = {
+constexpr VocabularyWords::Key cellKeys[] = {
     {"cell-alignment", CellAlignment},
     {"cell-backcolor", CellBackColor},
     {"cell-top-border", CellTopBorder},
@@ -126,7 +121,7 @@ constexpr KnownKey cellKeys[] = {
     {"cell-marked-field", CellMarkedField},
 };
 
-constexpr KnownKey paraKeys[] = {
+constexpr VocabularyWords::Key paraKeys[] = {
     {"para-text", ParaText},
     {"para-style", ParaStyle},
     {"para-key", ParaKey},
@@ -134,112 +129,9 @@ constexpr KnownKey paraKeys[] = {
     {"para-marked-field", ParaMarkedField},
 };
 
-constexpr KeySet setOfAll(std::initializer_list<DescriptionKey> keys) {
-    KeySet set = 0;
-    for (const DescriptionKey key : keys) {
-        set |= setOf(key);
-    }
-    return set;
-}
-
-template <std::size_t count>
-constexpr KeySet setOfAll(const KnownKey (&keys)[count]) {
-    KeySet set = 0;
-    for (const KnownKey& known : keys) {
-        set |= setOf(known.key);
-    }
-    return set;
-}
-
-constexpr KeySet colorKeys = setOfAll({RowBackColor, CellBackColor});
-
-constexpr KeySet borderKeys =
-    setOfAll({RowTopBorder, RowBottomBorder, RowLeftBorder, RowRightBorder, CellTopBorder,
-              CellBottomBorder, CellLeftBorder, CellRightBorder});
-
-constexpr KeySet textOrNumberKeys = colorKeys | borderKeys |
-                                    setOfAll({ParaText, ParaStyle, ParaAlignment, ParaMarkedField,
-                                              CellAlignment, CellStyle, CellMarkedField});
-
-/// A hash table of all keys, in their long and their short forms, that is made before the program
-/// runs.
-class KeyTable {
-public:
-    constexpr KeyTable() {
-        addAll(docKeys);
-        addAll(rowKeys);
-        addAll(cellKeys);
-        addAll(paraKeys);
-    }
-
-    /// What a word stands for; null when it is no key.
-    constexpr const LeafKey* find(std::string_view word) const {
-        std::size_t slot = firstSlot(word);
-        while (!slots_[slot].word.empty() && slots_[slot].word != word) {
-            slot = next(slot);
-        }
-        return slots_[slot].word.empty() ? nullptr : &slots_[slot].key;
-    }
-
-private:
-    struct Slot {
-        std::string_view word;
-        LeafKey key;
-    };
-
-    // A power of two, several times as many as there are words.
-    static constexpr std::size_t slotCount = 256;
-
-    static constexpr std::size_t firstSlot(std::string_view word) {
-        if (word.empty()) {
-            return 0;
-        }
-        const auto code = [word](std::size_t position) {
-            return static_cast<std::size_t>(static_cast<unsigned char>(word[position]));
-        };
-        return (code(0) * 7 + code(word.size() / 2) * 31 + code(word.size() - 1) * 3 +
-                word.size() * 17) %
-               slotCount;
-    }
-    static constexpr std::size_t next(std::size_t slot) { return (slot + 1) % slotCount; }
-
-    constexpr void addAll(std::span<const KnownKey> keys) {
-        for (const KnownKey& known : keys) {
-            const LeafKey key{known.name, known.key};
-            add(known.name, key);
-            for (const auto& [shortForm, longForm] : longForms) {
-                if (longForm == known.name) {
-                    add(shortForm, key);
-                }
-            }
-        }
-    }
-
-    constexpr void add(std::string_view word, const LeafKey& key) {
-        std::size_t slot = firstSlot(word);
-        while (!slots_[slot].word.empty()) {
-            slot = next(slot);
-        }
-        slots_[slot] = {word, key};
-    }
-
-    std::array<Slot, slotCount> slots_{};
-};
-
-constexpr KeyTable keyTable;
-
-DescriptionKey keyNamed(std::string_view name) {
-    const LeafKey* key = keyTable.find(name);
-    return key && key->name == name ? key->known : DescriptionKey::Unknown;
-}
-
-bool isAmong(KeySet keys, DescriptionKey key) {
-    return (keys & setOf(key)) != 0;
-}
-
 /// Up to four characters as one number; letters count as small ones, which no other character
 /// becomes.
-constexpr std::uint32_t inOneNumber(std::string_view name) {
+std::uint32_t inOneNumber(std::string_view name) {
     constexpr std::uint32_t smallLetter = 0x20;
     std::uint32_t number = 0;
     for (const char character : name) {
@@ -248,10 +140,103 @@ constexpr std::uint32_t inOneNumber(std::string_view name) {
     return number;
 }
 
-std::string_view longForm(std::string_view word) {
+std::size_t hashOf(std::string_view word) {
+    if (word.empty()) {
+        return 0;
+    }
+    const auto code = [word](std::size_t position) {
+        return static_cast<std::size_t>(static_cast<unsigned char>(word[position]));
+    };
+    return code(0) * 7 + code(word.size() / 2) * 31 + code(word.size() - 1) * 3 + word.size() * 17;
+}
+
+template <class Enumeration>
+std::optional<Enumeration> valueNamed(std::span<const VocabularyWords::NamedValue> list,
+                                      std::string_view name) {
+    const std::string word = lowerCase(name);
+    for (const auto& [known, value] : list) {
+        if (known == word) {
+            return static_cast<Enumeration>(value);
+        }
+    }
+    return std::nullopt;
+}
+
+template <class Enumeration>
+std::optional<Enumeration> valueNamed(std::span<const VocabularyWords::NamedValue> list,
+                                      const Value& name) {
+    return name.isText() ? valueNamed<Enumeration>(list, std::string_view(name.text()))
+                         : std::nullopt;
+}
+
+template <class Enumeration>
+std::optional<Enumeration> valueNamed(std::span<const VocabularyWords::NamedValue> list,
+                                      const Leaf& leaf) {
+    return leaf.kind == LeafKind::Text ? valueNamed<Enumeration>(list, leaf.text) : std::nullopt;
+}
+
+bool isWholeFrom(std::int32_t low, double number, std::int32_t high) {
+    return number >= low && number <= high && number == std::floor(number);
+}
+
+bool isColor(double number) {
+    return isWholeFrom(eNoColor, number, eRedBrick);
+}
+
+bool isBorder(double number) {
+    constexpr std::int32_t widths[] = {eNone, eHair, eThin, eNormal, eThick};
+    return std::find(std::begin(widths), std::end(widths), number) != std::end(widths);
+}
+
+bool isAlignment(double number) {
+    return isWholeFrom(eNoDefault, number, eJustified);
+}
+
+/// The named value, or the number of the leaf when it is a value of the enumeration.
+template <class Enumeration>
+std::optional<Enumeration> namedOrNumbered(std::optional<Enumeration> named, const Leaf& leaf,
+                                           bool (*isValue)(double)) {
+    return !named && leaf.isNumber() && isValue(leaf.number)
+               ? std::optional(static_cast<Enumeration>(static_cast<std::int32_t>(leaf.number)))
+               : named;
+}
+
+}  // namespace
+
+Vocabulary::Vocabulary(const VocabularyWords& words) : words_(words) {
+    std::transform(words.nodes.begin(), words.nodes.end(), nodeNumbers_.begin(),
+                   [](const auto& node) { return inOneNumber(node.name); });
+    for (const NodeKind kind : nodeKinds) {
+        for (const auto& [name, key] : words.keys[indexOf(kind)]) {
+            keySets_[indexOf(kind)] |= setOf(key);
+            add(name, {name, key});
+            if (const std::string_view shortForm = shorten(name); shortForm != name) {
+                add(shortForm, {name, key});
+            }
+        }
+    }
+}
+
+void Vocabulary::add(std::string_view word, const LeafKey& key) {
+    std::size_t slot = hashOf(word) % slotCount;
+    while (!slots_[slot].word.empty()) {
+        slot = (slot + 1) % slotCount;
+    }
+    slots_[slot] = {word, key};
+}
+
+const LeafKey* Vocabulary::find(std::string_view word) const {
+    std::size_t slot = hashOf(word) % slotCount;
+    while (!slots_[slot].word.empty() && slots_[slot].word != word) {
+        slot = (slot + 1) % slotCount;
+    }
+    return slots_[slot].word.empty() ? nullptr : &slots_[slot].key;
+}
+
+std::string_view Vocabulary::longForm(std::string_view word) const {
     constexpr std::size_t longestShortForm = 3;
     if (word.size() <= longestShortForm) {
-        for (const auto& [shortForm, longForm] : longForms) {
+        for (const auto& [shortForm, longForm] : words_.shortForms) {
             if (word == shortForm) {
                 return longForm;
             }
@@ -260,194 +245,102 @@ std::string_view longForm(std::string_view word) {
     return word;
 }
 
-template <class Pairs>
-std::vector<std::string_view> namesOf(const Pairs& pairs) {
-    std::vector<std::string_view> names;
-    std::transform(std::begin(pairs), std::end(pairs), std::back_inserter(names),
-                   [](const auto& pair) { return pair.first; });
-    return names;
-}
-
-template <std::size_t count>
-std::vector<std::string_view> namesOf(const KnownKey (&keys)[count]) {
-    std::vector<std::string_view> names;
-    std::transform(std::begin(keys), std::end(keys), std::back_inserter(names),
-                   [](const KnownKey& known) { return known.name; });
-    return names;
-}
-
-template <class Enumeration, class Pairs>
-std::optional<Enumeration> valueNamed(const Pairs& pairs, std::string_view name) {
-    const std::string word = lowerCase(name);
-    for (const auto& [known, value] : pairs) {
-        if (known == word) {
-            return static_cast<Enumeration>(value);
-        }
-    }
-    return std::nullopt;
-}
-
-template <class Enumeration, class Pairs>
-std::optional<Enumeration> valueNamed(const Pairs& pairs, const Value& name) {
-    return name.isText() ? valueNamed<Enumeration>(pairs, std::string_view(name.text()))
-                         : std::nullopt;
-}
-
-template <class Enumeration, class Pairs>
-std::optional<Enumeration> valueNamed(const Pairs& pairs, const Leaf& leaf) {
-    return leaf.kind == LeafKind::Text ? valueNamed<Enumeration>(pairs, leaf.text) : std::nullopt;
-}
-
-bool isWholeFrom(std::int32_t low, double number, std::int32_t high) {
-    return number >= low && number <= high && number == std::floor(number);
-}
-
-}  // namespace
-
-std::string Vocabulary::expand(std::string_view word) const {
-    return std::string(longForm(word));
-}
-
 LeafKey Vocabulary::leafKey(std::string_view word) const {
-    const LeafKey* known = keyTable.find(word);
+    const LeafKey* known = find(word);
     return known ? *known : LeafKey{longForm(word)};
 }
 
+bool Vocabulary::isKey(std::string_view word) const {
+    return find(word) != nullptr;
+}
+
 std::string_view Vocabulary::shorten(std::string_view word) const {
-    const auto* found = std::find_if(std::begin(longForms), std::end(longForms),
-                                     [&](const auto& forms) { return forms.second == word; });
-    return found == std::end(longForms) ? word : std::string_view(found->first);
+    const auto found = std::find_if(words_.shortForms.begin(), words_.shortForms.end(),
+                                    [&](const auto& forms) { return forms.longForm == word; });
+    return found == words_.shortForms.end() ? word : found->shortForm;
 }
 
 NodeKind Vocabulary::nodeKind(std::string_view name) const {
     constexpr std::size_t longestName = 4;
-    if (name.size() > longestName) {
+    if (name.empty() || name.size() > longestName) {
         return NodeKind::None;
     }
-    switch (inOneNumber(name)) {
-        case inOneNumber("row"):
-        case inOneNumber("r"):
-            return NodeKind::Row;
-        case inOneNumber("cell"):
-        case inOneNumber("c"):
-            return NodeKind::Cell;
-        case inOneNumber("para"):
-        case inOneNumber("p"):
-            return NodeKind::Para;
-        case inOneNumber("doc"):
-            return NodeKind::Doc;
-        default:
-            return NodeKind::None;
+    const std::uint32_t number = inOneNumber(name);
+    for (std::size_t i = 0; i < words_.nodes.size(); ++i) {
+        if (nodeNumbers_[i] == number) {
+            return words_.nodes[i].kind;
+        }
     }
+    return NodeKind::None;
 }
 
 bool Vocabulary::isKeyOf(NodeKind kind, std::string_view key) const {
-    return isAmong(keySetOf(kind), keyNamed(key));
-}
-
-KeySet Vocabulary::keySetOf(NodeKind kind) const {
-    switch (kind) {
-        case NodeKind::Doc:
-            return setOfAll(docKeys);
-        case NodeKind::Row:
-            return setOfAll(rowKeys);
-        case NodeKind::Cell:
-            return setOfAll(cellKeys);
-        case NodeKind::Para:
-            return setOfAll(paraKeys);
-        case NodeKind::None:
-            break;
-    }
-    return 0;
-}
-
-bool Vocabulary::isColorKey(std::string_view key) const {
-    return isColorKey(keyNamed(key));
-}
-
-bool Vocabulary::isColorKey(DescriptionKey key) const {
-    return isAmong(colorKeys, key);
-}
-
-bool Vocabulary::isBorderKey(std::string_view key) const {
-    return isBorderKey(keyNamed(key));
-}
-
-bool Vocabulary::isBorderKey(DescriptionKey key) const {
-    return isAmong(borderKeys, key);
-}
-
-bool Vocabulary::isTextOrNumberKey(std::string_view key) const {
-    return isTextOrNumberKey(keyNamed(key));
-}
-
-bool Vocabulary::isTextOrNumberKey(DescriptionKey key) const {
-    return isAmong(textOrNumberKeys, key);
+    const LeafKey* known = find(key);
+    return known && known->name == key && contains(keySetOf(kind), known->known);
 }
 
 std::optional<tColorIndex> Vocabulary::colorNamed(const Value& name) const {
-    return valueNamed<tColorIndex>(colors, name);
+    return valueNamed<tColorIndex>(words_.colors, name);
 }
 
 std::optional<tBorderWidth> Vocabulary::borderNamed(const Value& name) const {
-    return valueNamed<tBorderWidth>(borders, name);
+    return valueNamed<tBorderWidth>(words_.borders, name);
 }
 
 std::optional<tCellAlign> Vocabulary::alignmentNamed(const Value& name) const {
-    return valueNamed<tCellAlign>(alignments, name);
+    return valueNamed<tCellAlign>(words_.alignments, name);
 }
 
 std::optional<tColorIndex> Vocabulary::colorNamed(const Leaf& leaf) const {
-    return valueNamed<tColorIndex>(colors, leaf);
+    return valueNamed<tColorIndex>(words_.colors, leaf);
 }
 
 std::optional<tBorderWidth> Vocabulary::borderNamed(const Leaf& leaf) const {
-    return valueNamed<tBorderWidth>(borders, leaf);
+    return valueNamed<tBorderWidth>(words_.borders, leaf);
 }
 
 std::optional<tCellAlign> Vocabulary::alignmentNamed(const Leaf& leaf) const {
-    return valueNamed<tCellAlign>(alignments, leaf);
+    return valueNamed<tCellAlign>(words_.alignments, leaf);
 }
 
-bool Vocabulary::isColorNumber(double number) {
-    return isWholeFrom(eNoColor, number, eRedBrick);
+std::optional<tColorIndex> Vocabulary::colorOf(const Leaf& leaf) const {
+    return namedOrNumbered(colorNamed(leaf), leaf, isColor);
 }
 
-bool Vocabulary::isBorderNumber(double number) {
-    constexpr std::int32_t widths[] = {eNone, eHair, eThin, eNormal, eThick};
-    return std::find(std::begin(widths), std::end(widths), number) != std::end(widths);
+std::optional<tBorderWidth> Vocabulary::borderOf(const Leaf& leaf) const {
+    return namedOrNumbered(borderNamed(leaf), leaf, isBorder);
 }
 
-bool Vocabulary::isAlignmentNumber(double number) {
-    return isWholeFrom(eNoDefault, number, eJustified);
+std::optional<tCellAlign> Vocabulary::alignmentOf(const Leaf& leaf) const {
+    return namedOrNumbered(alignmentNamed(leaf), leaf, isAlignment);
 }
 
-std::vector<std::string_view> Vocabulary::keysOf(NodeKind kind) {
-    switch (kind) {
-        case NodeKind::Row:
-            return namesOf(rowKeys);
-        case NodeKind::Cell:
-            return namesOf(cellKeys);
-        case NodeKind::Para:
-            return namesOf(paraKeys);
-        case NodeKind::Doc:
-            return namesOf(docKeys);
-        case NodeKind::None:
-            break;
+std::vector<std::string_view> Vocabulary::keysOf(NodeKind kind) const {
+    std::vector<std::string_view> names;
+    if (kind != NodeKind::None) {
+        const auto keys = words_.keys[indexOf(kind)];
+        std::transform(keys.begin(), keys.end(), std::back_inserter(names),
+                       [](const auto& known) { return known.name; });
     }
-    return {};
+    return names;
 }
 
-std::vector<std::string_view> Vocabulary::colorNames() {
-    return namesOf(colors);
+std::vector<std::string_view> Vocabulary::namesOf(
+    std::span<const VocabularyWords::NamedValue> list) {
+    std::vector<std::string_view> names;
+    std::transform(list.begin(), list.end(), std::back_inserter(names),
+                   [](const auto& named) { return named.name; });
+    return names;
 }
 
-std::vector<std::string_view> Vocabulary::borderNames() {
-    return namesOf(borders);
-}
-
-std::vector<std::string_view> Vocabulary::alignmentNames() {
-    return namesOf(alignments);
+const Vocabulary& originalVocabulary() {
+    static const Vocabulary vocabulary({.nodes = nodes,
+                                        .shortForms = shortForms,
+                                        .keys = {rowKeys, cellKeys, paraKeys, docKeys},
+                                        .colors = colors,
+                                        .borders = borders,
+                                        .alignments = alignments});
+    return vocabulary;
 }
 
 }  // namespace quorvane

@@ -5,11 +5,11 @@
 #include <memory>
 #include <utility>
 
+#include "quorvane/driver/driverFaults.h"
+
 namespace quorvane {
 
 namespace {
-
-constexpr auto errorBase = static_cast<std::int32_t>(0x80040000);
 
 constexpr std::array<std::string_view, 11> levelNames = {
     "eNoStyleSheet",    "eWrongFileType", "eWrongPath",          "eRequiredElementMissing",
@@ -20,20 +20,19 @@ constexpr std::array<std::string_view, 11> levelNames = {
 }  // namespace
 
 RtfError driverError(tErrorLevel level, std::string description, std::string source, int line) {
-    RtfError error(errorBase + level, std::move(description), std::move(source));
+    RtfError error(driverErrorBase + level, std::move(description), std::move(source));
     error.line = line;
     return error;
 }
 
 RtfError unreadableDescription(const std::string& path, const RtfError& reason) {
-    RtfError error =
-        driverError(eWrongPath, path + " doesn't exist or is unreacheable", parseFileSource);
+    RtfError error = driverError(DriverFault::UnreadableFile, path);
     error.cause = std::make_shared<RtfError>(reason);
     return error;
 }
 
 std::optional<tErrorLevel> errorLevel(std::int32_t number) {
-    const std::int64_t level = std::int64_t{number} - errorBase;
+    const std::int64_t level = std::int64_t{number} - driverErrorBase;
     if (level < 1 || level > static_cast<std::int64_t>(levelNames.size())) {
         return std::nullopt;
     }

@@ -10,13 +10,13 @@
 
 namespace quorvane {
 
-/// An error of the driver: its number is 0x80040000 plus the level. `line` is the 1-based line of
-/// the description that it concerns, 0 for none.
+/// What the level is added to.
+inline constexpr auto driverErrorBase = static_cast<std::int32_t>(0x80040000);
+
+/// An error of the driver: its number is `driverErrorBase` plus the level. `line` is the 1-based
+/// line of the description that it concerns, 0 for none.
 RtfError driverError(tErrorLevel level, std::string description, std::string source = {},
                      int line = 0);
-
-/// The source of errors of `CRtfDriver::ParseFile`.
-inline constexpr const char* parseFileSource = "Error: eWrongPath\r\nCRtfDriver.ParseFile";
 
 /// The error of a description that cannot be read from its file, `eWrongPath`, for this reason.
 RtfError unreadableDescription(const std::string& path, const RtfError& reason);
@@ -27,7 +27,7 @@ std::optional<tErrorLevel> errorLevel(std::int32_t number);
 /// The level's name, such as "eWrongValue".
 std::string_view errorLevelName(tErrorLevel level);
 
-/// Runs the body; an error that it raises and that tells no line concerns this one.
+/// Runs the body; an error that it raises and that has no line gets this one.
 template <class Body>
 void atLine(int line, Body&& body) {
     try {

@@ -1,15 +1,14 @@
 #include "quorvane/formatting/formatDescription.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/trimming.h"
-#include "quorvane/driver/DescriptionReader.h"
-#include "quorvane/driver/Vocabulary.h"
-#include "quorvane/driver/lineClassifier.h"
+#include "quorvane/driver/DescriptionFrame.h"
+#include "quorvane/driver/DescriptionParser.h"
 #include "quorvane/formatting/sourceLines.h"
 #include "quorvane/support/recordStrings.h"
 
@@ -21,83 +20,99 @@ constexpr std::size_t indentation = 2;
 // Documents hold rows, cells and paragraphs; only wrong ones are nested deeper.
 constexpr std::size_t deepestIndented = 20;
 
-/// What the head of a line is: an opener's "(row", a closer's "row)".
-std::string_view headOf(std::string_view line) {
-    return line.substr(0, line.find_first_of(" \t\r\n;"));
+/// A leaf whose first ")" stands before its "=" is one by accident: it stays as it is.
+bool isPlainLeaf(const DescriptionLine& leaf) {
+    return leaf.key.find(')') == std::string_view::npos;
 }
 
-/// A leaf whose first ")" stands before its "=" is one by accident: it stays as it is.
-bool isPlainLeaf(std::string_view leaf) {
-    return leaf.find(')') > leaf.find('=');
-}
+/// In how many nodes the lines of a description stand, and what they are.
+class LineDepths : public DescriptionRecovery {
+public:
+    struct Entry {
+        int number;
+        DescriptionLine line;
+        std::size_t depth;
+    };
+
+    LineDepths(std::string_view text, const Dialect& dialect) {
+        const std::vector<SourceLine> lines = PreProcessRawData(text);
+        entries_.reserve(lines.size());
+        DescriptionTree tree(lines.size() / 2);
+        DescriptionParser(dialect, this).treeWalkerBuild(tree, lines);
+    }
+
+    const std::vector<Entry>& entries() const { return entries_; }
+
+private:
+    void violation(const Violation&) override {}
+    MeantLine unreadable(const Violation&, const DescriptionNode&) override { return {}; }
+    bool readsAllLines() const override { return true; }
+    void lineRead(const SourceLine& line, const DescriptionLine& parts,
+                  std::size_t depth) override {
+        entries_.push_back({line.number, parts, depth});
+    }
+
+    std::vector<Entry> entries_;
+};
 
 class DescriptionFormatter {
 public:
-    DescriptionFormatter(const Vocabulary& vocabulary, NameForm form, bool lowersNames)
-        : vocabulary_(vocabulary), form_(form), lowersNames_(lowersNames) {}
+    DescriptionFormatter(const Dialect& dialect, NameForm form, bool lowersNames)
+        : dialect_(dialect), form_(form), lowersNames_(lowersNames) {}
 
-    std::string format(std::string_view text) {
+    std::string format(std::string_view text) const {
+        const LineDepths depths(text, dialect_);
+        auto entry = depths.entries().begin();
         const std::string_view lineEnd = lineEndOf(text);
         std::string formatted;
+        // Where comments stand.
+        std::size_t depth = 0;
+        int number = 0;
+        bool isBlankPending = false;
         for (const std::string_view raw : linesOf(text)) {
+            ++number;
             const std::string_view line = trimWhitespace(raw);
             if (line.empty()) {
-                pendingBlank_ = !formatted.empty();
+                isBlankPending = !formatted.empty();
                 continue;
             }
-            if (pendingBlank_) {
+            if (std::exchange(isBlankPending, false)) {
                 formatted += lineEnd;
-                pendingBlank_ = false;
             }
-            const std::string shown = formattedLine(line);
-            formatted.append(std::min(depth_, deepestIndented) * indentation, ' ');
-            formatted += shown;
+            if (entry != depths.entries().end() && entry->number == number) {
+                append(formatted, entry->depth, formattedLine(line, entry->line));
+                depth = entry->depth + (entry->line.type == LineType::Opener ? 1 : 0);
+                ++entry;
+            } else {
+                append(formatted, depth, line);
+            }
             formatted += lineEnd;
-            if (opened_ != NodeKind::None) {
-                levels_.push_back(opened_);
-                ++openNodes_[static_cast<std::size_t>(opened_)];
-                opened_ = NodeKind::None;
-            }
         }
         return formatted;
     }
 
 private:
-    /// The line without its indentation; sets how deep it stands.
-    std::string formattedLine(std::string_view line) {
-        depth_ = levels_.size();
-        if (isComment(line)) {
-            return std::string(line);
-        }
-        if (isLeaf(line)) {
-            return isPlainLeaf(line) ? formattedLeaf(line) : std::string(line);
-        }
-        const std::string_view head = headOf(line);
-        const std::string_view comment = trimWhitespace(line.substr(head.size()));
-        if (const NodeKind opened = openedKind(line, vocabulary_); opened != NodeKind::None) {
-            while (!levels_.empty() && opened != NodeKind::Doc && !nests(levels_.back(), opened)) {
-                leaveLevel();
-            }
-            depth_ = levels_.size();
-            opened_ = opened;
-            return withComment("(" + formattedName(head.substr(1)), comment);
-        }
-        if (const NodeKind closed = closedKind(line, vocabulary_); closed != NodeKind::None) {
-            if (openNodes_[static_cast<std::size_t>(closed)] > 0) {
-                while (levels_.back() != closed) {
-                    leaveLevel();
-                }
-                leaveLevel();
-            }
-            depth_ = levels_.size();
-            return withComment(formattedName(head.substr(0, head.size() - 1)) + ")", comment);
-        }
-        return std::string(line);
+    static void append(std::string& formatted, std::size_t depth, std::string_view line) {
+        formatted.append(std::min(depth, deepestIndented) * indentation, ' ');
+        formatted += line;
     }
 
-    void leaveLevel() {
-        --openNodes_[static_cast<std::size_t>(levels_.back())];
-        levels_.pop_back();
+    std::string formattedLine(std::string_view written, const DescriptionLine& line) const {
+        const std::string_view comment = trimWhitespace(line.rest);
+        switch (line.type) {
+            case LineType::Opener:
+                return withComment("(" + formattedName(line.name), comment);
+            case LineType::Closer:
+                return withComment(formattedName(line.name) + ")", comment);
+            case LineType::Leaf:
+                return isPlainLeaf(line) ? withComment("(" + inForm(line.key) + "=" +
+                                                           std::string(line.value) + ")",
+                                                       comment)
+                                         : std::string(written);
+            case LineType::Unreadable:
+                break;
+        }
+        return std::string(written);
     }
 
     static std::string withComment(std::string text, std::string_view comment) {
@@ -108,12 +123,6 @@ private:
         return text;
     }
 
-    std::string formattedLeaf(std::string_view line) const {
-        const std::string_view comment = trimWhitespace(line.substr(line.find(')') + 1));
-        return withComment("(" + inForm(leafKey(line)) + "=" + std::string(leafValue(line)) + ")",
-                           comment);
-    }
-
     std::string formattedName(std::string_view name) const {
         return inForm(lowersNames_ ? lowerCase(name) : std::string(name));
     }
@@ -121,76 +130,58 @@ private:
     std::string inForm(std::string_view word) const {
         switch (form_) {
             case NameForm::Long:
-                return vocabulary_.expand(word);
+                return dialect_.vocabulary.expand(word);
             case NameForm::Short:
-                return std::string(vocabulary_.shorten(word));
+                return std::string(dialect_.vocabulary.shorten(word));
             case NameForm::Kept:
                 break;
         }
         return std::string(word);
     }
 
-    const Vocabulary& vocabulary_;
+    const Dialect& dialect_;
     NameForm form_;
     bool lowersNames_;
-    std::vector<NodeKind> levels_;
-    // How many nodes of each kind are open.
-    std::array<std::size_t, 4> openNodes_{};
-    // What the line at hand opens.
-    NodeKind opened_ = NodeKind::None;
-    std::size_t depth_ = 0;
-    bool pendingBlank_ = false;
 };
 
-/// A line as the reader understands it: texts that are equal mean the same.
-std::string meaningOf(std::string_view line, const Vocabulary& vocabulary) {
-    if (isLeaf(line)) {
-        return "leaf " + vocabulary.expand(leafKey(line)) + "=" + std::string(leafValue(line));
+/// True when the parser takes both lines for the same.
+bool isLineAlike(const SourceLine& a, const SourceLine& b, const Dialect& dialect) {
+    if (a.text == b.text) {
+        return true;
     }
-    if (const NodeKind opened = openedKind(line, vocabulary); opened != NodeKind::None) {
-        return "open " + std::to_string(static_cast<int>(opened));
-    }
-    if (const NodeKind closed = closedKind(line, vocabulary); closed != NodeKind::None) {
-        return "close " + std::to_string(static_cast<int>(closed));
-    }
-    return "line " + std::string(line);
+    const DescriptionLine left = descriptionLine(a.text, dialect);
+    const DescriptionLine right = descriptionLine(b.text, dialect);
+    return left.type == right.type && left.kind == right.kind && left.isReadable() &&
+           dialect.vocabulary.leafKey(left.key).name ==
+               dialect.vocabulary.leafKey(right.key).name &&
+           left.value == right.value;
 }
 
 bool areLinesAlike(const std::vector<SourceLine>& a, const std::vector<SourceLine>& b,
-                   const Vocabulary& vocabulary) {
+                   const Dialect& dialect) {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                       [&](const SourceLine& left, const SourceLine& right) {
-                          return meaningOf(left.text, vocabulary) ==
-                                 meaningOf(right.text, vocabulary);
+                          return isLineAlike(left, right, dialect);
                       });
 }
 
-/// What a driver looks at before it reads lines.
-std::array<bool, 5> frameOf(std::string_view text, const std::vector<SourceLine>& lines) {
-    const auto holds = [&](std::string_view part) {
-        return text.find(part) != std::string_view::npos;
-    };
-    return {holds("(doc"), holds("(r") || holds("(c"),
-            !lines.empty() && lines.front().text.starts_with("(doc"),
-            !lines.empty() && lines.back().text.starts_with("doc)"), lines.empty()};
-}
-
-bool meanTheSame(std::string_view a, std::string_view b, const Vocabulary& vocabulary) {
+bool meanTheSame(std::string_view a, std::string_view b, const Dialect& dialect) {
     const std::vector<SourceLine> linesOfA = PreProcessRawData(a);
     const std::vector<SourceLine> linesOfB = PreProcessRawData(b);
-    return frameOf(a, linesOfA) == frameOf(b, linesOfB) &&
-           areLinesAlike(linesOfA, linesOfB, vocabulary) &&
-           areLinesAlike(repairLines(linesOfA), repairLines(linesOfB), vocabulary);
+    return linesOfA.empty() == linesOfB.empty() &&
+           frameOf(a, linesOfA, dialect) == frameOf(b, linesOfB, dialect) &&
+           areLinesAlike(linesOfA, linesOfB, dialect) &&
+           areLinesAlike(repairLines(linesOfA, dialect), repairLines(linesOfB, dialect), dialect);
 }
 
 }  // namespace
 
 std::string formattedDescription(std::string_view text, NameForm names) {
-    const Vocabulary vocabulary;
-    std::string formatted = DescriptionFormatter(vocabulary, names, true).format(text);
-    return meanTheSame(text, formatted, vocabulary)
+    const Dialect& dialect = originalDialect();
+    std::string formatted = DescriptionFormatter(dialect, names, true).format(text);
+    return meanTheSame(text, formatted, dialect)
                ? formatted
-               : DescriptionFormatter(vocabulary, NameForm::Kept, false).format(text);
+               : DescriptionFormatter(dialect, NameForm::Kept, false).format(text);
 }
 
 }  // namespace quorvane

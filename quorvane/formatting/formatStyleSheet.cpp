@@ -37,7 +37,7 @@ std::string formattedDefinition(std::string_view body, std::string_view lineEnd)
     std::vector<std::string> items;
     std::size_t length = 4;
     StyleItems read(body);
-    while (const std::optional<StyleItem> item = read.next()) {
+    while (const StyleItem* const item = read.next()) {
         if (!item->whole.empty()) {
             items.push_back(formattedItem(*item, items.empty()));
             length += items.back().size() + 2;
@@ -65,10 +65,10 @@ public:
         for (const std::string_view raw : linesOf(text)) {
             const std::string_view line = trimCharacters(raw, " \t");
             if (line.empty()) {
-                // The rest of the line on which the definition before ends is no blank line.
+                // The rest of the line on which a definition ends does not count as a blank line.
                 isBlankPending_ = isBlankPending_ || raw.data() != text.data() || text_.empty();
             } else {
-                addLine(isIndented(raw, text) ? withoutBlanksBehind(raw) : line);
+                addLine(isIndented(raw, text) ? withoutTrailingBlanks(raw) : line);
             }
         }
     }
@@ -85,12 +85,12 @@ public:
     std::string text() const { return text_; }
 
 private:
-    /// A line of text keeps its indentation, unless it begins behind a definition.
+    /// A line of text keeps its indentation, unless a definition ends on the same line.
     bool isIndented(std::string_view raw, std::string_view text) const {
         return raw.data() != text.data() || text_.empty();
     }
 
-    static std::string_view withoutBlanksBehind(std::string_view line) {
+    static std::string_view withoutTrailingBlanks(std::string_view line) {
         return line.substr(0, line.find_last_not_of(" \t") + 1);
     }
 

@@ -6,18 +6,15 @@
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/diagnostics/languageOf.h"
 #include "quorvane/diagnostics/stylesheet/StyleSheetOutline.h"
-#include "quorvane/driver/Vocabulary.h"
-#include "quorvane/driver/lineClassifier.h"
+#include "quorvane/driver/DescriptionLine.h"
 
 namespace quorvane {
 
 namespace {
 
-constexpr NodeKind nodeKinds[] = {NodeKind::Doc, NodeKind::Row, NodeKind::Cell, NodeKind::Para};
-
 bool hasKeyword(const StyleItem& item) {
     // A word without a ":" is not a keyword: it may be a statement in another language.
-    return item.hasColon() && (item.keyword == nameKeyword || findStyleKeyword(item.keyword));
+    return item.hasColon() && (item.keyword == nameKeyword || item.known);
 }
 
 bool isNamed(const OutlinedDefinition& definition) {
@@ -33,15 +30,11 @@ bool hasAnyKeyword(const OutlinedDefinition& definition) {
     return std::any_of(definition.items.begin(), definition.items.end(), hasKeyword);
 }
 
-bool isKey(std::string_view key, const Vocabulary& vocabulary) {
-    const std::string expanded = vocabulary.expand(key);
-    return std::any_of(std::begin(nodeKinds), std::end(nodeKinds),
-                       [&](NodeKind kind) { return vocabulary.isKeyOf(kind, expanded); });
-}
-
 bool beginsAsDescription(std::string_view text) {
     const std::string_view opening = openingOfDescription(text);
-    return !opening.empty() && (!isLeaf(opening) || isKey(leafKey(opening), Vocabulary()));
+    const DescriptionLine line = descriptionLine(opening, originalDialect());
+    return !opening.empty() &&
+           (line.type != LineType::Leaf || originalVocabulary().isKey(line.key));
 }
 
 bool beginsAsStyleSheet(std::string_view text) {
@@ -54,10 +47,10 @@ bool beginsAsStyleSheet(std::string_view text) {
 }
 
 bool isStyleKind(const StyleItem& item) {
-    return item.keyword == "style-def" && findStyleKeyword(item.keyword)->accepts(item.value);
+    return item.keyword == "style-def" && item.known->accepts(item.value);
 }
 
-/// Among other text, as in a program, braces with a name are not enough.
+/// Between other text, as in a program, braces with a name are not enough.
 bool holdsStyles(std::string_view text) {
     const StyleSheetOutline outline = readStyleSheetOutline(text);
     return std::any_of(outline.definitions.begin(), outline.definitions.end(),
@@ -68,7 +61,7 @@ bool holdsStyles(std::string_view text) {
                        });
 }
 
-/// Of a file named as a stylesheet: braces without a single keyword are another language's.
+/// For a file named as a stylesheet: braces without any keyword belong to another language.
 bool mayBeStyleSheet(std::string_view text) {
     const StyleSheetOutline outline = readStyleSheetOutline(text);
     return std::any_of(outline.definitions.begin(), outline.definitions.end(), hasAnyKeyword);
@@ -77,7 +70,7 @@ bool mayBeStyleSheet(std::string_view text) {
 }  // namespace
 
 std::optional<CheckedLanguage> languageToFormat(std::string_view text, std::string_view fileName) {
-    // A byte of zero is in no text, but in every other one of UTF-16.
+    // No text has a zero byte, except one in UTF-16.
     if (text.find('\0') != std::string_view::npos) {
         return std::nullopt;
     }

@@ -7,17 +7,18 @@
 
 namespace quorvane {
 
-/// The language in whose form a file may be put without harm: a description or a stylesheet, none
-/// for anything else. The text is the file's, in UTF-8.
+/// The language of a file that can be formatted without harm: a description or a stylesheet;
+/// nothing for any other file. The text is that of the file, in UTF-8.
 ///
-/// A file named .rtfspec or .rtfss may lack much of its language, but not be written in another
-/// one. Any other is a description when its first line that is neither blank nor a comment opens a
-/// node or is a leaf of a known key, and a stylesheet when it begins with a definition, of which
-/// one has an item beside its name: many languages have braces, and some a name in them.
+/// A file named .rtfspec or .rtfss may lack much of its language, but it must not be written in
+/// another one. Any other file is a description when its first line that is neither blank nor a
+/// comment opens a node or is a leaf of a known key. It is a stylesheet when it begins with a
+/// definition and one of its definitions has an item besides its name: many languages have braces,
+/// and some have a name in them.
 std::optional<CheckedLanguage> languageToFormat(std::string_view text, std::string_view fileName);
 
-/// The same of a text that has no name and whose canonical form takes no file's place: a stylesheet
-/// may begin with other text where one of its definitions has a name and a kind.
+/// The same for a text without a file name, whose canonical form does not replace a file: a
+/// stylesheet may begin with other text if one of its definitions has a name and a kind.
 std::optional<CheckedLanguage> languageOfStreamToFormat(std::string_view text);
 
 }  // namespace quorvane

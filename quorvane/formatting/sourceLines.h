@@ -7,7 +7,7 @@
 
 namespace quorvane {
 
-/// The lines of a text without their ends (CR LF, LF or CR); nothing behind the last end.
+/// The lines of a text without their ends (CR LF, LF or CR). No line begins after the last end.
 inline std::vector<std::string_view> linesOf(std::string_view text) {
     std::vector<std::string_view> lines;
     while (!text.empty()) {
@@ -19,7 +19,7 @@ inline std::vector<std::string_view> linesOf(std::string_view text) {
     return lines;
 }
 
-/// CR LF for a text in which a line ends so, LF for any other.
+/// CR LF for a text with at least one CR LF, otherwise LF.
 inline std::string_view lineEndOf(std::string_view text) {
     return text.find("\r\n") != std::string_view::npos ? "\r\n" : "\n";
 }

@@ -9,7 +9,7 @@ namespace quorvane {
 namespace {
 
 std::optional<int> hexDigit(char character) {
-    if (isRtfDigit(character)) {
+    if (isAsciiDigit(character)) {
         return character - '0';
     }
     const char lower = static_cast<char>(character | 0x20);

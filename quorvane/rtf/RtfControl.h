@@ -6,6 +6,8 @@
 #include <optional>
 #include <string_view>
 
+#include "quorvane/base/text/asciiCharacters.h"
+
 namespace quorvane {
 
 /// A control word or symbol of a text.
@@ -34,14 +36,6 @@ struct RtfControl {
     bool isBadEscape() const { return symbol == '\'' && length < 4; }
 };
 
-constexpr bool isRtfLetter(char character) {
-    return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z');
-}
-
-constexpr bool isRtfDigit(char character) {
-    return character >= '0' && character <= '9';
-}
-
 /// Reads the symbol at a backslash that no letter follows.
 void readRtfSymbol(std::string_view text, std::size_t backslash, RtfControl& control);
 
@@ -55,7 +49,7 @@ inline void readRtfControl(std::string_view text, std::size_t backslash, RtfCont
     const char* const wordBegin = begin + 1;
     const char* const wordLimit = limit(wordBegin, RtfControl::maxWordLength);
     const char* at = wordBegin;
-    while (at != wordLimit && isRtfLetter(*at)) {
+    while (at != wordLimit && isAsciiLetter(*at)) {
         ++at;
     }
     if (at == wordBegin) {
@@ -70,7 +64,7 @@ inline void readRtfControl(std::string_view text, std::size_t backslash, RtfCont
     const char* numberEnd = digits;
     // Far over 32 bits it stays as it is.
     std::int64_t number = 0;
-    while (numberEnd != numberLimit && isRtfDigit(*numberEnd)) {
+    while (numberEnd != numberLimit && isAsciiDigit(*numberEnd)) {
         number = number < 10'000'000'000 ? number * 10 + (*numberEnd - '0') : number;
         ++numberEnd;
     }
@@ -93,7 +87,7 @@ inline RtfControl rtfControlAt(std::string_view text, std::size_t backslash) {
     return control;
 }
 
-/// How many bytes after the control are binary data and no RTF: the number of `\bin`.
+/// How many bytes after the control are binary data, not RTF: the number of `\bin`.
 std::size_t binaryLengthAfter(const RtfControl& control);
 
 /// True for the character of a control symbol that RTF has. After any other one readers drop the
@@ -104,8 +98,8 @@ bool isRtfSymbol(char symbol);
 /// width, and those that set the direction of writing.
 bool isInvisible(char32_t code);
 
-/// The character that a control stands for, where it is one of ASCII; '?' for one that is not, and
-/// nothing where the control is no character or one that is invisible.
+/// The character that a control means, if it is in ASCII; '?' for any other character; nothing when
+/// the control is not a character or its character is invisible.
 std::optional<char> characterOf(const RtfControl& control, std::string_view text,
                                 std::size_t backslash);
 

@@ -22,7 +22,7 @@ void RtfGroup::takeWord(const RtfWord* word) {
     const bool isFirst = isFresh;
     isFresh = false;
     if (word && word->destination == RtfDestination::Instruction) {
-        // It is one wherever it stands: authors leave out its braces.
+        // Not only as the first word: authors leave out its braces.
         destination = RtfDestination::Instruction;
     } else if (!isFirst || destination == RtfDestination::Skipped) {
         return;

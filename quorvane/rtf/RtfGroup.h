@@ -4,12 +4,12 @@
 
 namespace quorvane {
 
-/// What a group is, as far as it has been read.
+/// What is known of a group from the part that has been read.
 struct RtfGroup {
     RtfDestination destination = RtfDestination::Text;
-    /// True until something other than blanks stands in the group.
+    /// True until the group has something other than blanks.
     bool isFresh = true;
-    /// True once `\*` stands at its beginning: readers that do not know its first word skip it.
+    /// True once the group has begun with `\*`: readers that do not know its first word skip it.
     bool isMarked = false;
 
     /// A group that opens within this one.
@@ -18,8 +18,8 @@ struct RtfGroup {
     /// Takes the symbol `\*`.
     void takeMark() { isMarked = isMarked || isFresh; }
 
-    /// Takes a control word, or null for one that RTF does not have. The first word of a group says
-    /// what the group is.
+    /// Takes a control word, or null for one that RTF does not have. The first word of a group
+    /// determines what the group is.
     void takeWord(const RtfWord* word);
 
     /// True where the words for tables, fonts, colors and styles concern the document's text.

@@ -14,7 +14,7 @@ RtfLexer::Token RtfLexer::finish() {
     return Token::Control;
 }
 
-/// Goes on with the control that the pieces before end within. `begin_` is still its place.
+/// Continues the control that the pieces before end within. `begin_` is still its place.
 RtfLexer::Token RtfLexer::completeControl() {
     const std::size_t before = held_.size();
     if (heldText_ > 0) {

@@ -11,9 +11,8 @@
 
 namespace quorvane {
 
-/// Cuts RTF, handed over piece by piece, into braces, controls and the text between them. Line ends
-/// and the data after `\bin` are passed over. What it keeps of the pieces before is at most one
-/// control.
+/// Splits RTF, passed in piece by piece, into braces, controls and the text between them. Line ends
+/// and the data after `\bin` are skipped. Of the pieces before it keeps one control at most.
 class RtfLexer {
 public:
     enum class Token : std::uint8_t { None, Open, Close, Text, Control };

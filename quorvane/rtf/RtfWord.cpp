@@ -8,7 +8,7 @@ namespace quorvane {
 
 namespace {
 
-// Each word stands in one of the three lists; the last two are sorted.
+// Each word is in one of the three lists; the last two are sorted.
 
 // clang-format off
 constexpr RtfWord wordsWithMeaning[] = {
@@ -402,7 +402,7 @@ public:
     }
 
 private:
-    // From 1 on; 0 for a free slot.
+    // Counted from 1; 0 for a free slot.
     std::array<std::uint16_t, Slots> positions_{};
 };
 

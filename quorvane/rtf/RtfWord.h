@@ -8,7 +8,7 @@ namespace quorvane {
 
 /// What the text of a group is that begins with a control word.
 enum class RtfDestination : std::uint8_t {
-    /// The word begins no group with a meaning of its own.
+    /// The word does not give its group a meaning of its own.
     None,
     /// The document's text: the document itself, and what a field or an object shows.
     Text,
@@ -19,7 +19,8 @@ enum class RtfDestination : std::uint8_t {
     NestedRow,
     /// What a field does.
     Instruction,
-    /// Text that is not shown where it stands, such as a header, a footnote or a picture's data.
+    /// Text that is not shown where it is written, such as a header, a footnote or a picture's
+    /// data.
     Other,
     /// A group that readers pass over.
     Skipped,
@@ -54,7 +55,7 @@ enum class RtfRole : std::uint8_t {
     Plain,
     Unicode,
     UnicodeLength,
-    /// So many bytes as its number says follow the word and are no RTF.
+    /// As many bytes as its number says follow the word and are not RTF.
     Binary,
 };
 
@@ -83,8 +84,8 @@ struct RtfWord {
 /// The control word of these letters; null for a word that RTF does not have. Case counts.
 const RtfWord* findRtfWord(std::string_view word);
 
-/// The same for a word that does something wherever it stands, which is faster; null for any other
-/// word, known or not.
+/// The same, faster, for a word that has an effect anywhere in a group; null for any other word,
+/// known or not.
 const RtfWord* findActiveRtfWord(std::string_view word);
 
 /// All control words.

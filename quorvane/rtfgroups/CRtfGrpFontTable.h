@@ -16,11 +16,11 @@ public:
 
     /// Number of the first font whose entry matches the pattern (`*`, `?`, `#`, bracketed lists;
     /// case counts), such as "*Georgia;}"; 0 when none does. An entry is the whole text of the
-    /// font's group; "\fonttbl" stands before the fonts as an entry of its own and would be -1.
+    /// font's group; "\fonttbl" is an entry of its own before the fonts, with the number -1.
     std::int32_t GetFontIndex(std::string_view sName) const;
 
     /// Number of the font of that key, in any case; nothing when no font has it. A key is the name
-    /// in the font's entry, but for font 10: "Trebuchet", whose entry names "Trebuchet MS".
+    /// in the font's entry, except for font 10: its key is "Trebuchet", its name "Trebuchet MS".
     static std::optional<std::int32_t> fontNumber(std::string_view key);
 
     /// Key of the font of that number; empty for a number that the table does not have.

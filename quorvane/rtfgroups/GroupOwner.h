@@ -2,7 +2,7 @@
 
 namespace quorvane {
 
-/// What a group needs of the document that owns it.
+/// What a group needs from the document that owns it.
 class GroupOwner {
 public:
     virtual ~GroupOwner() = default;

@@ -83,11 +83,11 @@ bool CRtfGrpStyleSheetTable::IsStyleDefined(std::string_view sName) const {
 }
 
 std::string_view CRtfGrpStyleSheetTable::GetParagraphStyle(std::string_view sName) const {
-    return loaded_ ? paragraphAnswers_.find(paragraphStyles_, sName) : std::string_view();
+    return loaded_ ? paragraphLookup_.find(paragraphStyles_, sName) : std::string_view();
 }
 
 std::string_view CRtfGrpStyleSheetTable::GetCharacterStyle(std::string_view sName) const {
-    return loaded_ ? characterAnswers_.find(characterStyles_, sName) : std::string_view();
+    return loaded_ ? characterLookup_.find(characterStyles_, sName) : std::string_view();
 }
 
 std::int32_t CRtfGrpStyleSheetTable::getCellStyleBackColor(std::string_view sName) const {
@@ -120,10 +120,10 @@ void CRtfGrpStyleSheetTable::clear() noexcept {
 void CRtfGrpStyleSheetTable::load(std::string_view text) {
     parseStyleSheet(text, [this](const StyleDefinition& definition) { file(definition); });
     // A paragraph of an unknown style gets the first one, under a number that no style has.
-    paragraphAnswers_ = StyleAnswers(
+    paragraphLookup_ = StyleLookup(
         paragraphStyles_,
         paragraphStyles_.empty() ? std::string() : selectionWords(paragraphStyles_.at(1), 0));
-    characterAnswers_ = StyleAnswers(characterStyles_, {});
+    characterLookup_ = StyleLookup(characterStyles_, {});
     group_ = "\r\n{\\stylesheet";
     appendEntries(paragraphStyles_, paragraphEntry, group_);
     appendEntries(characterStyles_, characterEntry, group_);
@@ -135,10 +135,10 @@ void CRtfGrpStyleSheetTable::load(std::string_view text) {
 
 void CRtfGrpStyleSheetTable::file(const StyleDefinition& definition) {
     for (const std::string& name : definition.names) {
-        const std::string kind = Style{name, definition.record}.kind();
-        StyleList& styles = kind == "s"    ? paragraphStyles_
-                            : kind == "cs" ? characterStyles_
-                                           : cellStyles_;
+        const StyleKind kind = styleKindNamed(Style{name, definition.record}.kind());
+        StyleList& styles = kind == StyleKind::Paragraph   ? paragraphStyles_
+                            : kind == StyleKind::Character ? characterStyles_
+                                                           : cellStyles_;
         styles.add(name, definition.record);
     }
 }

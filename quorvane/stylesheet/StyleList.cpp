@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::string_view nameMark = "^t";
 
-// The text that is searched for a name: what stands between "^t" and the next "^" is a name.
+// The text that is searched for a name: a name comes between "^t" and the next "^".
 std::string searchText(const Style& style) {
     return "^t" + style.name + style.record + "^";
 }

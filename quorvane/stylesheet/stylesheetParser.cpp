@@ -62,10 +62,10 @@ std::string parseFormat(const std::string& value) {
     return IsIsisFormated(value) ? subFieldContents(value, "vfp") : value;
 }
 
-// The subfield that an item other than the first stands for.
+// The subfield for an item other than the first.
 std::string parseSubField(const StyleItem& item) {
     const std::string value = lowerCase(item.value);
-    switch (faultOf(item)) {
+    switch (faultOf(item, value)) {
         case StyleItemFault::Keyword:
             raiseBadKeyword(item.keyword);
         case StyleItemFault::Value:
@@ -73,18 +73,18 @@ std::string parseSubField(const StyleItem& item) {
         case StyleItemFault::None:
             break;
     }
-    const char code = findStyleKeyword(item.keyword)->subField;
-    return std::string{'^', code} + (item.keyword == "format" ? parseFormat(value) : value);
+    return std::string{'^', item.known->subField} +
+           (item.keyword == "format" ? parseFormat(value) : value);
 }
 
 StyleDefinition parseDefinition(std::string_view body) {
     StyleItems items(body);
-    const std::optional<StyleItem> first = items.next();
+    const StyleItem* const first = items.next();
     if (!first) {
         raiseBadKeyword({});
     }
     StyleDefinition definition{parseNames(*first), {}};
-    while (const std::optional<StyleItem> item = items.next()) {
+    while (const StyleItem* const item = items.next()) {
         definition.record += parseSubField(*item);
     }
     return definition;

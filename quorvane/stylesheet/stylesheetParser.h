@@ -16,9 +16,9 @@ struct StyleDefinition {
     std::string record;
 };
 
-/// Reads a stylesheet text and hands over its definitions in order; what was handed over before an
-/// error stands. Errors: 31037 when the text has not as many "{" as "}", 445 for a bad keyword or
-/// value.
+/// Reads a stylesheet and passes its definitions to `file` in order. Definitions before an error
+/// are passed all the same. Errors: 31037 when the text does not have as many "{" as "}", 445 for a
+/// bad keyword or value.
 void parseStyleSheet(std::string_view text, const std::function<void(StyleDefinition)>& file);
 
 }  // namespace quorvane

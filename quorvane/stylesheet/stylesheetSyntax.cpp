@@ -55,8 +55,9 @@ StyleItem readStyleItem(std::string_view text) {
     const std::size_t colon = text.find(':');
     StyleItem item;
     item.whole = trimWhitespace(text);
-    item.writtenKeyword = trimWhitespace(text.substr(0, colon));
+    item.writtenKeyword = colon == nowhere ? item.whole : trimWhitespace(text.substr(0, colon));
     item.keyword = lowerCase(item.writtenKeyword);
+    item.known = findStyleKeyword(item.keyword);
     item.value =
         colon == nowhere ? text.substr(text.size()) : trimWhitespace(text.substr(colon + 1));
     return item;
@@ -66,32 +67,20 @@ StyleItemFault faultOfFirst(const StyleItem& item) {
     return item.keyword == nameKeyword ? StyleItemFault::None : StyleItemFault::Keyword;
 }
 
-StyleItemFault faultOf(const StyleItem& item) {
-    const StyleKeyword* const keyword = findStyleKeyword(item.keyword);
-    if (!keyword) {
+StyleItemFault faultOf(const StyleItem& item, std::string_view lowerValue) {
+    if (!item.known) {
         return StyleItemFault::Keyword;
     }
-    return keyword->values.empty() || keyword->accepts(lowerCase(item.value))
-               ? StyleItemFault::None
-               : StyleItemFault::Value;
+    return item.known->accepts(lowerValue) ? StyleItemFault::None : StyleItemFault::Value;
 }
 
-std::optional<std::string_view> Pieces::next() {
-    if (areAllRead()) {
-        return std::nullopt;
-    }
-    const std::size_t end = std::min(text_.find(separator_, start_), text_.size());
-    const std::string_view piece = text_.substr(start_, end - start_);
-    start_ = end + 1;
-    return piece;
-}
-
-std::optional<StyleItem> StyleItems::next() {
+const StyleItem* StyleItems::next() {
     const std::optional<std::string_view> piece = pieces_.next();
     if (!piece || (pieces_.areAllRead() && trimWhitespace(*piece).empty())) {
-        return std::nullopt;
+        return nullptr;
     }
-    return readStyleItem(*piece);
+    item_ = readStyleItem(*piece);
+    return &item_;
 }
 
 std::vector<std::string_view> styleNamesIn(std::string_view value) {
@@ -109,15 +98,15 @@ BraceCount countBraces(std::string_view text) {
 
 std::string_view findLoneBrace(std::string_view text) {
     std::size_t open = nowhere;
-    for (std::size_t at = text.find_first_of("{}"); at != nowhere;
-         at = text.find_first_of("{}", at + 1)) {
-        if (text[at] == '{' && open != nowhere) {
-            return text.substr(open, 1);
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (text[at] != '{' && text[at] != '}') {
+            continue;
         }
-        if (text[at] == '}' && open == nowhere) {
-            return text.substr(at, 1);
+        const bool opens = text[at] == '{';
+        if (opens == (open != nowhere)) {
+            return text.substr(opens ? open : at, 1);
         }
-        open = text[at] == '{' ? at : nowhere;
+        open = opens ? at : nowhere;
     }
     return open == nowhere ? text.substr(0, 0) : text.substr(open, 1);
 }

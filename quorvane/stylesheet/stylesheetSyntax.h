@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <optional>
 #include <span>
@@ -42,6 +43,8 @@ struct StyleItem {
     std::string_view writtenKeyword;
     /// In lower case.
     std::string keyword;
+    /// What the keyword is in an item other than the first; null when it is not one of those.
+    const StyleKeyword* known = nullptr;
     /// Empty when the item has no ":".
     std::string_view value;
 
@@ -56,8 +59,8 @@ enum class StyleItemFault { None, Keyword, Value };
 /// The fault of the first item of a definition.
 StyleItemFault faultOfFirst(const StyleItem& item);
 
-/// The fault of any other item. The value is compared without regard to case.
-StyleItemFault faultOf(const StyleItem& item);
+/// The fault of any other item. The value is given in lower case.
+StyleItemFault faultOf(const StyleItem& item, std::string_view lowerValue);
 
 /// The pieces of a text between separators. An empty text is one empty piece.
 class Pieces {
@@ -65,7 +68,15 @@ public:
     Pieces(std::string_view text, char separator) : text_(text), separator_(separator) {}
 
     /// The next piece; nothing after the last one.
-    std::optional<std::string_view> next();
+    std::optional<std::string_view> next() {
+        if (areAllRead()) {
+            return std::nullopt;
+        }
+        const std::size_t end = std::min(text_.find(separator_, start_), text_.size());
+        const std::string_view piece = text_.substr(start_, end - start_);
+        start_ = end + 1;
+        return piece;
+    }
 
     bool areAllRead() const { return start_ > text_.size(); }
 
@@ -81,11 +92,12 @@ public:
     /// `body` is the text between the braces.
     explicit StyleItems(std::string_view body) : pieces_(body, ';') {}
 
-    /// The next item; nothing after the last one.
-    std::optional<StyleItem> next();
+    /// Reads the next item, which stays valid until the next call; null after the last one.
+    const StyleItem* next();
 
 private:
     Pieces pieces_;
+    StyleItem item_;
 };
 
 /// The names in the value of an item "name", in the case in which they are written.

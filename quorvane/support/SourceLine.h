@@ -9,6 +9,8 @@ struct SourceLine {
     std::string_view text;
     /// 1-based line of the original text that it stands in.
     int number = 0;
+    /// True for a line that is not in the text: a repair put it in.
+    bool isInserted = false;
 };
 
 }  // namespace quorvane

@@ -112,7 +112,7 @@ TEST_F(RenderJobTest, LeavesTheClipboardAlone) {
 }
 
 TEST_F(RenderJobTest, ReportsAnErrorOfTheAnalysisAsAnEvent) {
-    const std::string description = folder.write("a.rtfspec", descriptionWithBadColour);
+    const std::string description = folder.write("a.rtfspec", descriptionWithBadColor);
     options.descriptions = {description};
     EXPECT_EQ(run(), ExitStatus::ContentErrors);
     ASSERT_EQ(reported.size(), 1U);
@@ -124,20 +124,20 @@ TEST_F(RenderJobTest, ReportsAnErrorOfTheAnalysisAsAnEvent) {
 }
 
 TEST_F(RenderJobTest, WritesNothingAfterAnError) {
-    options.descriptions = {folder.write("a.rtfspec", descriptionWithBadColour)};
+    options.descriptions = {folder.write("a.rtfspec", descriptionWithBadColor)};
     EXPECT_EQ(run(), ExitStatus::ContentErrors);
     EXPECT_FALSE(folder.has("a.rtf"));
 }
 
 TEST_F(RenderJobTest, LeavesAnOldFileAfterAnError) {
-    options.descriptions = {folder.write("a.rtfspec", descriptionWithBadColour)};
+    options.descriptions = {folder.write("a.rtfspec", descriptionWithBadColor)};
     folder.write("a.rtf", "old");
     EXPECT_EQ(run(), ExitStatus::ContentErrors);
     EXPECT_EQ(folder.read("a.rtf"), "old");
 }
 
 TEST_F(RenderJobTest, WritesWhatCouldBeBuiltWhenItKeepsGoing) {
-    const std::string description = folder.write("a.rtfspec", descriptionWithBadColour);
+    const std::string description = folder.write("a.rtfspec", descriptionWithBadColor);
     options.descriptions = {description};
     options.keepGoing = true;
     EXPECT_EQ(run(), ExitStatus::ContentErrors);
@@ -221,7 +221,7 @@ TEST_F(RenderJobTest, ReportsARefusedStylesheetWithWhatItsParserSaid) {
 }
 
 TEST_F(RenderJobTest, ReportsTheErrorsOfADescriptionAfterThoseOfTheStylesheet) {
-    options.descriptions = {folder.write("a.rtfspec", descriptionWithBadColour)};
+    options.descriptions = {folder.write("a.rtfspec", descriptionWithBadColor)};
     options.styleSheet = folder.write("style.rtfss", badStyleSheet);
     EXPECT_EQ(run(), ExitStatus::ContentErrors);
     ASSERT_EQ(reported.size(), 2U);
@@ -367,7 +367,7 @@ TEST_F(RenderJobTest, KeepsAFileThatMayNotBeWritten) {
 
 TEST_F(RenderJobTest, TreatsEachDescriptionOnItsOwn) {
     options.descriptions = {folder.write("a.rtfspec", descriptionOf("One")),
-                            folder.write("b.rtfspec", descriptionWithBadColour),
+                            folder.write("b.rtfspec", descriptionWithBadColor),
                             folder / "missing.rtfspec",
                             folder.write("c.rtfspec", descriptionOf("Three"))};
     EXPECT_EQ(run(), ExitStatus::Failure);
@@ -422,7 +422,7 @@ TEST_F(RenderJobTest, WritesTheStylesAloneForADescriptionThatMakesNothing) {
 }
 
 TEST_F(RenderJobTest, ReturnsTheWorstStatusWhereverItCame) {
-    options.descriptions = {folder.write("b.rtfspec", descriptionWithBadColour),
+    options.descriptions = {folder.write("b.rtfspec", descriptionWithBadColor),
                             folder.write("a.rtfspec", descriptionOf("One"))};
     EXPECT_EQ(run(), ExitStatus::ContentErrors);
 }
@@ -437,7 +437,7 @@ TEST_F(RenderJobTest, DoesNotCountARefusedMarkedField) {
 
 TEST_F(RenderJobTest, ReportsEachDescriptionBeforeItBegins) {
     std::vector<std::string> steps;
-    options.descriptions = {folder.write("a.rtfspec", descriptionWithBadColour),
+    options.descriptions = {folder.write("a.rtfspec", descriptionWithBadColor),
                             folder.write("b.rtfspec", descriptionOf("Two"))};
     RenderReceivers receivers;
     receivers.report = [&](const ReportedError&) { steps.push_back("error"); };

@@ -173,8 +173,8 @@ TEST_F(CheckOptionsTest, ACommentThatCannotBeFollowedIsReported) {
     folder.write("a.rtfspec", "(doc\n; quorvane: ignore wrong-colour\n(r\n(c\nc)\nr)\ndoc)\n");
     const ProgramResult result = run({"a.rtfspec"});
     EXPECT_EQ(result.output,
-              "a.rtfspec:2:20: warning: This comment cannot be followed. wrong-colour is not a "
-              "diagnostic. [ignore-comment]\n"
+              "a.rtfspec:2:20: warning: Invalid quorvane comment: there is no diagnostic "
+              "wrong-colour. [ignore-comment]\n"
               "    ; quorvane: ignore wrong-colour\n"
               "                       ^~~~~~~~~~~~\n"
               "    hint: did you mean wrong-color?\n"
@@ -185,13 +185,13 @@ TEST_F(CheckOptionsTest, ACommentThatCannotBeFollowedIsReported) {
 TEST_F(CheckOptionsTest, AFolderStandsForTheFilesBelowIt) {
     fs::create_directories(folder.path() / "d" / "b" / "c");
     fs::create_directories(folder.path() / "d" / ".git");
-    folder.write("d/z.rtfspec", descriptionWithBadColour);
-    folder.write("d/b/c/A.RTFSPEC", descriptionWithBadColour);
+    folder.write("d/z.rtfspec", descriptionWithBadColor);
+    folder.write("d/b/c/A.RTFSPEC", descriptionWithBadColor);
     folder.write("d/b/s.rtfss", badStyleSheet);
     folder.write("d/b/d.rtf", "{\\rtf1 {Total}");
-    folder.write("d/b/notes.txt", descriptionWithBadColour);
-    folder.write("d/.git/x.rtfspec", descriptionWithBadColour);
-    folder.write("d/.hidden.rtfspec", descriptionWithBadColour);
+    folder.write("d/b/notes.txt", descriptionWithBadColor);
+    folder.write("d/.git/x.rtfspec", descriptionWithBadColor);
+    folder.write("d/.hidden.rtfspec", descriptionWithBadColor);
     const ProgramResult result = run({"--diagnostics=json", "d"});
     std::vector<std::string> files;
     for (const std::string& line : linesOf(result.output)) {
@@ -206,7 +206,7 @@ TEST_F(CheckOptionsTest, AFolderStandsForTheFilesBelowIt) {
 
 TEST_F(CheckOptionsTest, AFolderWithLinksInACircleHasAnEnd) {
     fs::create_directories(folder.path() / "d" / "sub");
-    folder.write("d/sub/a.rtfspec", descriptionWithBadColour);
+    folder.write("d/sub/a.rtfspec", descriptionWithBadColor);
     fs::create_directory_symlink("..", folder.path() / "d" / "sub" / "up");
     fs::create_symlink("nowhere.rtfspec", folder.path() / "d" / "gone.rtfspec");
     fs::create_symlink("sub/a.rtfspec", folder.path() / "d" / "link.rtfspec");
@@ -238,7 +238,7 @@ TEST_F(CheckOptionsTest, TheStyleSheetOfAFolderIsCheckedOnceAndServesAllDescript
 
 TEST_F(CheckOptionsTest, AFolderThatCannotBeReadIsReportedAndTheOthersAreChecked) {
     fs::create_directories(folder.path() / "d" / "closed");
-    folder.write("d/a.rtfspec", descriptionWithBadColour);
+    folder.write("d/a.rtfspec", descriptionWithBadColor);
     fs::permissions(folder.path() / "d" / "closed", fs::perms::none);
     start.prepare = giveUpOverridingPermissions;
     const ProgramResult result = run({"d"});
@@ -292,7 +292,7 @@ TEST_F(CheckOptionsTest, ExplainSaysWhatIsOffByDefault) {
     const std::string text = run({"--explain", "unused-style"}).output;
     EXPECT_THAT(text, testing::StartsWith("unused-style: warning in stylesheets, off by default\n"
                                           "    No description uses the style sum.\n"));
-    EXPECT_THAT(text, HasSubstr("\nThe report:\n"
+    EXPECT_THAT(text, HasSubstr("\nReport:\n"
                                 "    example.rtfss:2:9: warning: No description uses the style "
                                 "sum. [unused-style]\n"));
 }

@@ -51,7 +51,7 @@ constexpr const char* reportOfBadColor =
     "1 error in 1 file\n";
 
 TEST_F(CheckTest, ReportsWhatIsWrongAndWhere) {
-    folder.write("price.rtfspec", descriptionWithBadColour);
+    folder.write("price.rtfspec", descriptionWithBadColor);
     const ProgramResult result = run({"price.rtfspec"});
     EXPECT_EQ(result.output, reportOfBadColor);
     EXPECT_EQ(result.errors, "");
@@ -70,7 +70,7 @@ TEST_F(CheckTest, DoesNotMentionWhatIsRight) {
 TEST_F(CheckTest, ReadsAPipeOnce) {
     const std::string pipe = folder / "pipe";
     ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
-    std::thread writer([&pipe] { std::ofstream(pipe) << descriptionWithBadColour; });
+    std::thread writer([&pipe] { std::ofstream(pipe) << descriptionWithBadColor; });
     const ProgramResult result = run({"pipe"});
     writer.join();
     EXPECT_THAT(result.output, StartsWith("pipe:3:5: error: crimson isn't a recognized color."));
@@ -80,12 +80,12 @@ TEST_F(CheckTest, ReadsAPipeOnce) {
 TEST_F(CheckTest, EndsWith3WhereThereAreWarningsOnly) {
     folder.write("a.rtfspec", descriptionOf(""));
     EXPECT_EQ(run({"a.rtfspec"}).status, 3);
-    folder.write("b.rtfspec", descriptionWithBadColour);
+    folder.write("b.rtfspec", descriptionWithBadColor);
     EXPECT_EQ(run({"a.rtfspec", "b.rtfspec"}).status, 1);
 }
 
 TEST_F(CheckTest, EndsWith2WhereAFileCannotBeReadAndChecksTheOthers) {
-    folder.write("price.rtfspec", descriptionWithBadColour);
+    folder.write("price.rtfspec", descriptionWithBadColor);
     const ProgramResult result = run({"nosuch.rtfspec", "price.rtfspec"});
     EXPECT_EQ(result.output, reportOfBadColor);
     EXPECT_THAT(result.errors, StartsWith("nosuch.rtfspec: No such file or directory\n"));
@@ -102,7 +102,7 @@ TEST_F(CheckTest, WantsAFileOrAnIdentifier) {
 }
 
 TEST_F(CheckTest, DistinguishesFilesByTheirContent) {
-    folder.write("a.txt", descriptionWithBadColour);
+    folder.write("a.txt", descriptionWithBadColor);
     folder.write("b.txt", badStyleSheet);
     folder.write("c.txt", "{\\rtf1 {Total}");
     const ProgramResult result = run({"a.txt", "b.txt", "c.txt"});
@@ -113,7 +113,7 @@ TEST_F(CheckTest, DistinguishesFilesByTheirContent) {
 }
 
 TEST_F(CheckTest, ReadsStandardInput) {
-    start.input = descriptionWithBadColour;
+    start.input = descriptionWithBadColor;
     EXPECT_THAT(run({"-"}).output, StartsWith("<stdin>:3:5: error: crimson"));
     start.input = "{\\rtf1 {Total}";
     EXPECT_THAT(run({"-"}).output, StartsWith("<stdin>:1:1: error: The group is not closed."));
@@ -179,10 +179,10 @@ TEST_F(CheckTest, ReportsThatABrokenDocumentIsNone) {
     folder.write("b.rtf", "");
     const ProgramResult result = run({"a.rtf", "b.rtf"});
     EXPECT_EQ(result.output,
-              "a.rtf:1:1: error: The file doesn't begin with {\\rtf. [not-rtf]\n"
+              "a.rtf:1:1: error: The file does not begin with {\\rtf. [not-rtf]\n"
               "    rtf1 {\\b Total}\n"
               "    ^\n"
-              "b.rtf:1:1: error: The file doesn't begin with {\\rtf. [not-rtf]\n"
+              "b.rtf:1:1: error: The file does not begin with {\\rtf. [not-rtf]\n"
               "2 errors in 2 files\n");
     EXPECT_EQ(result.status, 1);
 }
@@ -233,7 +233,7 @@ TEST_F(CheckTest, CountsTheStylesThatAnyOfTheDescriptionsUses) {
 }
 
 TEST_F(CheckTest, ReportsDiagnosticsAsJson) {
-    folder.write("price.rtfspec", descriptionWithBadColour);
+    folder.write("price.rtfspec", descriptionWithBadColor);
     const ProgramResult result = run({"--diagnostics", "json", "price.rtfspec"});
     const std::vector<std::string> lines = linesOf(result.output);
     ASSERT_THAT(lines, SizeIs(1));
@@ -255,7 +255,7 @@ TEST_F(CheckTest, ReportsAFileThatCannotBeReadAsJson) {
 }
 
 TEST_F(CheckTest, ReportsDiagnosticsAsSarif) {
-    folder.write("price list.rtfspec", descriptionWithBadColour);
+    folder.write("price list.rtfspec", descriptionWithBadColor);
     const ProgramResult result = run({"--diagnostics=sarif", "price list.rtfspec"});
     EXPECT_EQ(result.status, 1);
     const json log = json::parse(result.output);
@@ -286,7 +286,7 @@ TEST_F(CheckTest, DoublesBracesInSarifWhereOneWouldBeAPlaceholder) {
     const json log = json::parse(run({"--diagnostics=sarif", "a.rtfspec"}).output);
     const json& run = log.at("runs").at(0);
     EXPECT_EQ(run.at("results").at(0).at("message").at("text"),
-              "The {{ has no partner. (write \\{{ for a brace to be seen)");
+              "Unmatched {{. (write \\{{ for a literal brace)");
     const json& rules = run.at("tool").at("driver").at("rules");
     const auto wrongColor = std::find_if(rules.begin(), rules.end(), [](const json& rule) {
         return rule.at("id") == "wrong-color";
@@ -295,13 +295,13 @@ TEST_F(CheckTest, DoublesBracesInSarifWhereOneWouldBeAPlaceholder) {
 }
 
 TEST_F(CheckTest, SaysInSarifHowTheFilesAreEncoded) {
-    folder.write("a.rtfspec", descriptionWithBadColour);
+    folder.write("a.rtfspec", descriptionWithBadColor);
     const json log = json::parse(run({"--diagnostics=sarif", "a.rtfspec"}).output);
     EXPECT_EQ(log.at("runs").at(0).at("defaultEncoding"), "windows-1252");
 }
 
 TEST_F(CheckTest, GivesSarifWhatCodeScanningRequires) {
-    folder.write("a.rtfspec", descriptionWithBadColour);
+    folder.write("a.rtfspec", descriptionWithBadColor);
     const json log = json::parse(run({"--diagnostics=sarif", "a.rtfspec"}).output);
     const json& run = log.at("runs").at(0);
     for (const json& rule : run.at("tool").at("driver").at("rules")) {
@@ -318,14 +318,14 @@ TEST_F(CheckTest, GivesSarifWhatCodeScanningRequires) {
         EXPECT_EQ(rule.at("defaultConfiguration").at("enabled"), id != "unused-style");
     }
     const json& rules = run.at("tool").at("driver").at("rules");
-    EXPECT_EQ(rules.at(0).at("name"), "WrongFileType");
+    EXPECT_EQ(rules.at(0).at("name"), "NotATextFile");
     const json& found = run.at("results").at(0);
     EXPECT_TRUE(found.at("partialFingerprints").contains("primaryLocationLineHash"));
 }
 
 TEST_F(CheckTest, NamesFilesInSarifByRelativeOrFileUris) {
     fs::create_directory(folder.path() / "sub");
-    folder.write("sub/a.rtfspec", descriptionWithBadColour);
+    folder.write("sub/a.rtfspec", descriptionWithBadColor);
     const std::string whole = folder / "sub/a.rtfspec";
     const json log =
         json::parse(run({"--diagnostics=sarif", "./sub/../sub/a.rtfspec", whole}).output);
@@ -379,7 +379,7 @@ TEST_F(CheckTest, ReportsInSarifThatAFileCouldNotBeRead) {
 }
 
 TEST_F(CheckTest, WritesSarifThatFollowsItsSchema) {
-    folder.write("a.rtfspec", descriptionWithBadColour + "text <&\"\xE9\n(doc\n(rwo\n");
+    folder.write("a.rtfspec", descriptionWithBadColor + "text <&\"\xE9\n(doc\n(rwo\n");
     folder.write("fixable.rtfspec", descriptionOf("a } b { \\5"));
     folder.write("b.rtfss", badStyleSheet);
     folder.write("c.rtf", "{\\rtf1 {\\'zz\\trowd\\row");
@@ -400,7 +400,7 @@ TEST_F(CheckTest, WritesSarifThatFollowsItsSchema) {
 }
 
 TEST_F(CheckTest, ColorsTheReportOnATerminal) {
-    folder.write("price.rtfspec", descriptionWithBadColour);
+    folder.write("price.rtfspec", descriptionWithBadColor);
     start.outputOnTerminal = true;
     start.prepare = [] { ::unsetenv("NO_COLOR"); };
     EXPECT_EQ(run({"price.rtfspec"}).output,
@@ -415,7 +415,7 @@ TEST_F(CheckTest, ColorsTheReportOnATerminal) {
 }
 
 TEST_F(CheckTest, HeedsNoColor) {
-    folder.write("price.rtfspec", descriptionWithBadColour);
+    folder.write("price.rtfspec", descriptionWithBadColor);
     start.outputOnTerminal = true;
     start.prepare = [] { ::setenv("NO_COLOR", "1", 1); };
     EXPECT_EQ(run({"price.rtfspec"}).output, reportOfBadColor);
@@ -434,7 +434,7 @@ TEST_F(CheckTest, ExplainsEveryIdentifier) {
               "Wrong:\n"
               "    (doc\n    (r\n    (rtb=medium)\n    (c\n    c)\n    r)\n    doc)\n"
               "\n"
-              "The report:\n"
+              "Report:\n"
               "    example.rtfspec:3:6: error: medium isn't a recognized border. [wrong-border]\n"
               "        (rtb=medium)\n"
               "             ^~~~~~\n"

@@ -76,7 +76,7 @@ TEST_F(CommandTest, RendersStandardInputToAFile) {
 }
 
 TEST_F(CommandTest, ReportsAnErrorAsCheckDoes) {
-    folder.write("letter.rtfspec", descriptionWithBadColour);
+    folder.write("letter.rtfspec", descriptionWithBadColor);
     const ProgramResult result = run({"render", "letter.rtfspec"});
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.output, "");
@@ -89,7 +89,7 @@ TEST_F(CommandTest, ReportsAnErrorAsCheckDoes) {
 }
 
 TEST_F(CommandTest, ReportsAnErrorOfStandardInput) {
-    start.input = descriptionWithBadColour;
+    start.input = descriptionWithBadColor;
     const ProgramResult result = run({"render", "-"});
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.output, "");
@@ -101,7 +101,7 @@ TEST_F(CommandTest, ReportsAnErrorOfStandardInput) {
 }
 
 TEST_F(CommandTest, ReportsAnErrorAsAnObject) {
-    folder.write("letter.rtfspec", descriptionWithBadColour);
+    folder.write("letter.rtfspec", descriptionWithBadColor);
     const ProgramResult result = run({"render", "--diagnostics=json", "letter.rtfspec"});
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.errors,
@@ -112,7 +112,7 @@ TEST_F(CommandTest, ReportsAnErrorAsAnObject) {
 }
 
 TEST_F(CommandTest, ReportsErrorsInTheOrderInWhichTheyCome) {
-    folder.write("letter.rtfspec", descriptionWithBadColour);
+    folder.write("letter.rtfspec", descriptionWithBadColor);
     folder.write("style.rtfss", badStyleSheet);
     const ProgramResult result = run({"render", "--diagnostics", "json", "--check", "-s",
                                       "style.rtfss", "letter.rtfspec", "missing.rtfspec"});
@@ -148,7 +148,7 @@ TEST_F(CommandTest, ReportsARefusedStylesheetAsCheckDoesAndOnce) {
 }
 
 TEST_F(CommandTest, WritesWhatCouldBeBuiltWhenItKeepsGoing) {
-    folder.write("letter.rtfspec", descriptionWithBadColour);
+    folder.write("letter.rtfspec", descriptionWithBadColor);
     const ProgramResult result = run({"render", "--keep-going", "letter.rtfspec"});
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.errors, HasSubstr("crimson"));
@@ -225,7 +225,7 @@ void closeOtherEndOfOutput() {
 }
 
 TEST_F(CommandTest, EndsQuietlyWhenNobodyReadsStandardOutput) {
-    folder.write("a.rtfspec", descriptionWithBadColour);
+    folder.write("a.rtfspec", descriptionWithBadColor);
     folder.write("b.rtfspec", descriptionOf("Text"));
     start.prepare = closeOtherEndOfOutput;
     start.input = descriptionOf("Text");
@@ -248,7 +248,7 @@ TEST_F(CommandTest, EndsQuietlyWhenNobodyReadsStandardOutput) {
 }
 
 TEST_F(CommandTest, StillFailsForAnErrorWhenNobodyReadsTheDocument) {
-    folder.write("letter.rtfspec", descriptionWithBadColour);
+    folder.write("letter.rtfspec", descriptionWithBadColor);
     start.prepare = closeOtherEndOfOutput;
     EXPECT_EQ(run({"render", "--keep-going", "-o", "-", "letter.rtfspec"}).status, 1);
 }
@@ -290,7 +290,7 @@ TEST_F(CommandTest, ReportsThatAStandardStreamIsClosed) {
 
 TEST_F(CommandTest, WritesNoDiagnosticIntoADocumentWhenStandardErrorIsClosed) {
     start.prepare = [] { ::close(STDERR_FILENO); };
-    folder.write("a.rtfspec", descriptionWithBadColour);
+    folder.write("a.rtfspec", descriptionWithBadColor);
     EXPECT_EQ(run({"render", "--keep-going", "a.rtfspec"}).status, 1);
     EXPECT_THAT(folder.read("a.rtf"), Not(HasSubstr("crimson")));
 }
@@ -330,7 +330,7 @@ TEST_F(CommandTest, RendersManyFilesIntoAFolder) {
     std::vector<std::string> arguments = {"render", "--output-dir", "out"};
     for (int i = 0; i < 100; ++i) {
         const std::string name = std::to_string(i) + ".rtfspec";
-        folder.write(name, i == 50 ? descriptionWithBadColour : descriptionOf(name));
+        folder.write(name, i == 50 ? descriptionWithBadColor : descriptionOf(name));
         arguments.push_back(name);
     }
     const ProgramResult result = run(arguments);
@@ -352,7 +352,7 @@ TEST_F(CommandTest, RendersManyFilesIntoAFolder) {
 
 TEST_F(CommandTest, ShowsProgressOnATerminalAndErasesIt) {
     folder.write("a.rtfspec", descriptionOf("One"));
-    folder.write("b.rtfspec", descriptionWithBadColour);
+    folder.write("b.rtfspec", descriptionWithBadColor);
     start.errorsOnTerminal = true;
     EXPECT_EQ(run({"render", "a.rtfspec", "b.rtfspec"}).errors,
               "\r\x1b[K1/2 a.rtfspec"

@@ -10,7 +10,7 @@ inline std::string descriptionOf(const std::string& text) {
 }
 
 /// A description with one error, whether it is checked or not: line 3 has a colour that is none.
-inline const std::string descriptionWithBadColour =
+inline const std::string descriptionWithBadColor =
     "(doc\n(r\n(rb=crimson)\n(c\n(p\n(pt=Text)\np)\nc)\nr)\ndoc)\n";
 
 /// A stylesheet of one style, and one with a keyword that is none.

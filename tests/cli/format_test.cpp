@@ -94,6 +94,29 @@ TEST_F(FormatTest, ReportsWhatItCannotDoAndFormatsTheRest) {
     EXPECT_EQ(run({}).status, 2);
 }
 
+TEST_F(FormatTest, FormatsTheDescriptionsAndStylesheetsInAFolder) {
+    std::filesystem::create_directories(folder.path() / "in/deep/.hidden");
+    folder.write("in/deep/a.rtfspec", loose);
+    folder.write("in/deep/.hidden/b.rtfspec", loose);
+    folder.write("in/c.rtf", "{\\rtf1 a}");
+    const ProgramResult checked = run({"--check", "in"});
+    EXPECT_EQ(checked.output, (std::filesystem::path("in") / "deep" / "a.rtfspec").string() + "\n");
+    EXPECT_EQ(checked.status, 1);
+    const ProgramResult result = run({"in"});
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(folder.read("in/deep/a.rtfspec"), canonical);
+    EXPECT_EQ(folder.read("in/deep/.hidden/b.rtfspec"), loose);
+}
+
+TEST_F(FormatTest, ReportsAFolderWithoutDescriptionsAndStylesheets) {
+    std::filesystem::create_directory(folder.path() / "in");
+    folder.write("in/c.rtf", "{\\rtf1 a}");
+    const ProgramResult result = run({"in"});
+    EXPECT_EQ(result.errors, "in: The folder has no .rtfspec or .rtfss files\n");
+    EXPECT_EQ(result.status, 2);
+}
+
 TEST_F(FormatTest, RefusesWhatIsNeitherADescriptionNorAStyleSheet) {
     const std::vector<std::pair<std::string, std::string>> others = {
         {"a.c", "int main(void)   { return 0; }\n"},

@@ -18,6 +18,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::StartsWith;
 
 class RenderTest : public ProgramTest {
 protected:
@@ -284,7 +285,7 @@ TEST_F(FailsOn, WarningsAboutStylesheets) {
     const ProgramResult result = run({"--fail-on=warning", "-s", "style.rtfss", "a.rtfspec"});
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.errors, HasSubstr("style.rtfss:2:2: warning: The definition has no "
-                                         "style-def and is a cell style. [no-style-kind]\n"));
+                                         "style-def and becomes a cell style. [no-style-kind]\n"));
     EXPECT_THAT(result.errors, HasSubstr(", with --fail-on=warning\n"));
     EXPECT_FALSE(folder.has("a.rtf"));
 }
@@ -381,6 +382,20 @@ TEST_F(RenderReports, AFileThatCannotBeReadInTheWordsOfTheSystem) {
     EXPECT_EQ(run({"-s", "no.rtfss", "a.rtfspec"}).errors, "no.rtfss: No such file or directory\n");
     EXPECT_EQ(run({"/dev/zero", "-o", "a.rtf"}).errors, "/dev/zero: Is a device\n");
     EXPECT_EQ(run({"-o", "no/a.rtf", "a.rtfspec"}).errors, "no/a.rtf: No such file or directory\n");
+}
+
+TEST_F(RenderReports, ADescriptionWithErrorsWithoutMakingTheFolder) {
+    folder.write("a.rtfspec", "(doc\n");
+    EXPECT_EQ(run({"--mkdir", "--output-dir", "x/y", "a.rtfspec"}).status, 1);
+    EXPECT_FALSE(std::filesystem::exists(folder.path() / "x"));
+}
+
+TEST_F(RenderReports, AFolderThatCannotBeMade) {
+    folder.write("a.rtfspec", descriptionOf("Text"));
+    std::filesystem::create_symlink("nosuch/x", folder.path() / "link");
+    const ProgramResult result = run({"--mkdir", "--output-dir", "link", "a.rtfspec"});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_THAT(result.errors, StartsWith("link/a.rtf: "));
 }
 
 TEST_F(RenderReports, AMissingFolderForDocumentsAndMakesItWhenAsked) {

@@ -5,12 +5,12 @@
 
 #include "cli/CheckJob.h"
 #include "cli/DiagnosticReport.h"
-#include "quorvane/diagnostics/description/TrialPlatform.h"
+#include "quorvane/diagnostics/description/NullPlatform.h"
 
 namespace quorvane::cli {
 
 /// Files that are checked without being on a disk.
-class CheckedFiles : public TrialPlatform {
+class CheckedFiles : public NullPlatform {
 public:
     std::map<std::string, std::string> files;
     std::string readFile(const std::string& path) override { return files.at(path); }

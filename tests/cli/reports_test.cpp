@@ -7,8 +7,11 @@
 #include <utility>
 #include <vector>
 
-#include "quorvane/diagnostics/description/judgement.h"
+#include "quorvane/diagnostics/description/ViolationReport.h"
+#include "quorvane/diagnostics/engine/DiagnosticEngine.h"
+#include "quorvane/diagnostics/engine/SourceText.h"
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
+#include "quorvane/driver/Vocabulary.h"
 #include "tests/cli/reportOf.h"
 
 namespace quorvane::cli {
@@ -48,8 +51,8 @@ TEST(ReportsOfTexts, DoNotMentionATableWithinAFootnoteOrANestedOne) {
 
 TEST(ReportsOfTexts, ReportATableWithinACellThatIsNotWhole) {
     const std::string hint =
-        "    hint: the rows of a table within a cell are whole where they stand in its text: each "
-        "\\nestcell has its definition, and \\itap1 follows\n";
+        "    hint: a nested table needs complete rows, with a definition for each \\nestcell, and "
+        "\\itap1 after them\n";
     EXPECT_EQ(
         reportOf(paragraphWith("a\\nestcell b")),
         R"(a.rtfspec:5:6: warning: \nestcell in a text or a format breaks the table. [table-control]
@@ -263,32 +266,32 @@ TEST(ReportsOfColors, MarkTheWholeTextWhereItsOwnColorIsTheReason) {
 }
 
 TEST(ReportsOfFields, TakeTheInstructionForWhatItSays) {
-    const auto expectFinding = [](const std::string& instruction, const std::string& brought) {
+    const auto expectReport = [](const std::string& instruction, const std::string& brought) {
         const std::string report =
             reportOf(paragraphWith("{\\field{\\*\\fldinst " + instruction + "}}"));
         EXPECT_EQ(report,
-                  "a.rtfspec:5:15: warning: \\fldinst brings " + brought +
+                  "a.rtfspec:5:15: warning: \\fldinst puts " + brought +
                       " into the document. [embedded-content]\n    (pt={\\field{\\*\\fldinst " +
                       instruction + "}})\n                  ^~~~~~~~\n");
     };
-    expectFinding("{\\b INCLUDETEXT x}", "a link to a file");
-    expectFinding("IN{}CLUDETEXT x", "a link to a file");
-    expectFinding("\\'49NCLUDETEXT x", "a link to a file");
-    expectFinding("{\\uc1\\u73?}{\\i N}CLUDE\\b0 TEXT x", "a link to a file");
-    expectFinding("\\u77?ACROBUTTON x", "a macro");
-    expectFinding("\\u-65459?ACROBUTTON x", "a macro");
-    expectFinding("\\uc0\\u77 ACROBUTTON x", "a macro");
-    expectFinding("{\\uc2\\u77\\'4d?}ACROBUTTON x", "a macro");
-    expectFinding("\\u77{}ACROBUTTON x", "a macro");
-    expectFinding("MACRO\\u8203 BUTTON x", "a macro");
-    expectFinding("MACRO\\u8203?BUTTON x", "a macro");
-    expectFinding("MACRO\\zwnj\\-BUTTON x", "a macro");
-    expectFinding("MACRO\\'adBUTTON x", "a macro");
-    expectFinding("\\'09\\'a0MACROBUTTON x", "a macro");
-    expectFinding("{\\*\\datafield QUOTE}dde{\\rtlch auto} x", "a link to a program");
-    expectFinding("{\\cs100 MACRO}{\\cs100 BUTTON} x y", "a macro");
-    expectFinding("HYPERLINK \"c:\\\\x http://\"", "a link to a file");
-    expectFinding("HYPER{\\b LINK} file:///x", "a link to a file");
+    expectReport("{\\b INCLUDETEXT x}", "a link to a file");
+    expectReport("IN{}CLUDETEXT x", "a link to a file");
+    expectReport("\\'49NCLUDETEXT x", "a link to a file");
+    expectReport("{\\uc1\\u73?}{\\i N}CLUDE\\b0 TEXT x", "a link to a file");
+    expectReport("\\u77?ACROBUTTON x", "a macro");
+    expectReport("\\u-65459?ACROBUTTON x", "a macro");
+    expectReport("\\uc0\\u77 ACROBUTTON x", "a macro");
+    expectReport("{\\uc2\\u77\\'4d?}ACROBUTTON x", "a macro");
+    expectReport("\\u77{}ACROBUTTON x", "a macro");
+    expectReport("MACRO\\u8203 BUTTON x", "a macro");
+    expectReport("MACRO\\u8203?BUTTON x", "a macro");
+    expectReport("MACRO\\zwnj\\-BUTTON x", "a macro");
+    expectReport("MACRO\\'adBUTTON x", "a macro");
+    expectReport("\\'09\\'a0MACROBUTTON x", "a macro");
+    expectReport("{\\*\\datafield QUOTE}dde{\\rtlch auto} x", "a link to a program");
+    expectReport("{\\cs100 MACRO}{\\cs100 BUTTON} x y", "a macro");
+    expectReport("HYPERLINK \"c:\\\\x http://\"", "a link to a file");
+    expectReport("HYPER{\\b LINK} file:///x", "a link to a file");
 }
 
 TEST(ReportsOfFields, JudgeFieldsWithinFields) {
@@ -354,12 +357,13 @@ TEST(ReportsOfCharacters, FindThemInEverythingThatReachesTheDocument) {
     // A file in UTF-8 with an arrow, which the code page does not have, and with an e acute.
     EXPECT_EQ(
         reportOf(paragraphWith("a", "(pmf=\xE2\x86\x92)\n")),
-        "a.rtfspec:6:6: warning: The code page has no place for \xE2\x86\x92, which is read as "
-        "\xC3\xA2\xE2\x80\xA0\xE2\x80\x99: the file is in UTF-8. [unencodable-character]\n"
+        "a.rtfspec:6:6: warning: \xE2\x86\x92 is not in Windows-1252; it will appear as "
+        "\xC3\xA2\xE2\x80\xA0\xE2\x80\x99, because the file is in UTF-8. [unencodable-character]\n"
         "    (pmf=\xC3\xA2\xE2\x80\xA0\xE2\x80\x99)\n"
         "         ^~~\n");
     EXPECT_EQ(reportOf("(doc\n(r\n(c\n(cmf=\xC3\xA9)\nc)\nr)\ndoc)\n"),
-              "a.rtfspec:4:6: warning: \xC3\xA9 is read as \xC3\x83\xC2\xA9: the file is in UTF-8. "
+              "a.rtfspec:4:6: warning: \xC3\xA9 will appear as \xC3\x83\xC2\xA9, because the file "
+              "is in UTF-8. "
               "[utf-8-text]\n"
               "    (cmf=\xC3\x83\xC2\xA9)\n"
               "         ^~\n"
@@ -367,7 +371,8 @@ TEST(ReportsOfCharacters, FindThemInEverythingThatReachesTheDocument) {
     EXPECT_EQ(reportOfFile("a.rtfss",
                            "{ name: normal; style-def: s }\n{ name: \xC3\xA9; style-def: cell; "
                            "format: none }\n{ name: normal, \xC3\xA9; style-def: cs }\n"),
-              "a.rtfss:3:17: warning: \xC3\xA9 is read as \xC3\x83\xC2\xA9: the file is in UTF-8. "
+              "a.rtfss:3:17: warning: \xC3\xA9 will appear as \xC3\x83\xC2\xA9, because the file "
+              "is in UTF-8. "
               "[utf-8-text]\n"
               "    { name: normal, \xC3\x83\xC2\xA9; style-def: cs }\n"
               "                    ^~\n"
@@ -381,36 +386,38 @@ TEST(ReportsOfCharacters, ReportTheFirstThatIsMisread) {
     const std::string shown =
         "    (pt=caf\xC3\x83\xC2\xA9 \xC3\xA2\xE2\x80\xA0\xE2\x80\x99 ol\xC3\x83\xC2\xA9 "
         "\xC3\xA2\xE2\x80\xA0\xE2\x80\x99)\n";
-    EXPECT_EQ(
-        reportOf("(doc\n(r\n" + cell + cell + "r)\ndoc)\n"),
-        "a.rtfspec:5:8: warning: \xC3\xA9 is read as \xC3\x83\xC2\xA9: the file is in UTF-8. "
-        "Other characters are misread too. [utf-8-text]\n" +
-            shown +
-            "           ^~\n"
-            "    hint: save the file in Windows-1252, or write \\'e9\n"
-            "a.rtfspec:5:11: warning: The code page has no place for \xE2\x86\x92, which is "
-            "read as \xC3\xA2\xE2\x80\xA0\xE2\x80\x99: the file is in UTF-8. Other characters are "
-            "misread too. [unencodable-character]\n" +
-            shown +
-            "              ^~~\n"
-            "    hint: write {\\uc1\\u8594?}\n");
+    EXPECT_EQ(reportOf("(doc\n(r\n" + cell + cell + "r)\ndoc)\n"),
+              "a.rtfspec:5:8: warning: \xC3\xA9 will appear as \xC3\x83\xC2\xA9, because the file "
+              "is in UTF-8. "
+              "Other characters are affected too. [utf-8-text]\n" +
+                  shown +
+                  "           ^~\n"
+                  "    hint: save the file in Windows-1252, or write \\'e9\n"
+                  "a.rtfspec:5:11: warning: \xE2\x86\x92 is not in Windows-1252; it will "
+                  "appear as \xC3\xA2\xE2\x80\xA0\xE2\x80\x99, because the file is in UTF-8. Other "
+                  "characters are "
+                  "affected too. [unencodable-character]\n" +
+                  shown +
+                  "              ^~~\n"
+                  "    hint: write {\\uc1\\u8594?}\n");
     const std::string names = "\xC3\xA9, caf\xC3\xA9";
     EXPECT_EQ(reportOfFile("a.rtfss", "{ name: normal; style-def: s }\n{ name: " + names +
                                           "; style-def: cs }\n"),
-              "a.rtfss:2:9: warning: \xC3\xA9 is read as \xC3\x83\xC2\xA9: the file is in UTF-8. "
-              "Other characters are misread too. [utf-8-text]\n"
+              "a.rtfss:2:9: warning: \xC3\xA9 will appear as \xC3\x83\xC2\xA9, because the file is "
+              "in UTF-8. "
+              "Other characters are affected too. [utf-8-text]\n"
               "    { name: \xC3\x83\xC2\xA9, caf\xC3\x83\xC2\xA9; style-def: cs }\n"
               "            ^~\n"
               "    hint: save the file in Windows-1252\n");
 }
 
 TEST(ReportsOfNames, ReportADescriptionThatIsNone) {
-    const std::string hint = "    hint: the file reads as ";
+    const std::string hint = "    hint: the file looks like ";
     EXPECT_EQ(reportOfFile("a.rtfspec", "{ name: a; style-def: s }\n"),
               "a.rtfspec:1:1: error: The provided file isn't a correct rtfspec file. "
               "[wrong-file-type]\n    { name: a; style-def: s }\n    ^" +
                   std::string(24, '~') + "\n" + hint +
-                  "a stylesheet, which has the extension .rtfss\n");
+                  "a stylesheet; its extension should be .rtfss\n");
     EXPECT_EQ(reportOfFile("a.rtfspec", "f(void) { return 0; }\n"),
               "a.rtfspec:1:1: error: The provided file isn't a correct rtfspec file. "
               "[wrong-file-type]\n    f(void) { return 0; }\n    ^" +
@@ -420,7 +427,7 @@ TEST(ReportsOfNames, ReportADescriptionThatIsNone) {
               "A.RTFSPEC:1:1: error: The provided file isn't a correct rtfspec file. "
               "[wrong-file-type]\n    {\\rtf1\\ansi a}\n    ^" +
                   std::string(13, '~') + "\n" + hint +
-                  "an RTF file, which has the extension .rtf\n");
+                  "an RTF file; its extension should be .rtf\n");
 }
 
 TEST(ReportsOfNames, ReportAStyleSheetThatIsNone) {
@@ -519,7 +526,7 @@ a.rtfspec:6:16: error: Value for bottom-margin should be numeric. [not-a-number]
 a.rtfspec:7:15: error: Value for right-margin should be numeric. [not-a-number]
     (right-margin=)
                   ^
-    hint: the value is missing; write a number of twips; an inch has 1440, a centimeter 567
+    hint: the value is missing; write a number of twips: an inch is 1440, a centimeter 567
 a.rtfspec:8:14: error: Value for left-margin should be numeric. [not-a-number]
     (left-margin=20pt)
                  ^~~~
@@ -799,7 +806,7 @@ TEST(ReportsOfWidths, CountTheRowsOfATable) {
         R"(a.rtfspec:4:5: warning: The cell will be 64 percent wide instead of 80. [width-clamped]
     (cw=80)
         ^~
-    hint: in the order 10, 80, 10, all cells get their widths
+    hint: the order 10, 80, 10 gives all cells their widths
     (and 2 more like this: lines 15 and 26)
 a.rtfspec:7:5: warning: The cell will be 26 percent wide instead of 10. [width-clamped]
     (cw=10)
@@ -844,25 +851,38 @@ std::string reportOfFindings(const std::string& file, const std::string& text,
     return report;
 }
 
-/// Reports of diagnostics that no text is known for, as the check has words of its own for all
-/// errors that the library raises today: what is told of an error that it does not know. One more
-/// goes by the name of the file, which an example does not have.
+/// The diagnostic for an error of a leaf that the check has no name for.
+std::vector<Diagnostic> diagnosticsOfOtherError(const SourceText& source, std::string_view value) {
+    std::vector<Diagnostic> diagnostics;
+    DiagnosticEngine engine([&](Diagnostic each) { diagnostics.push_back(std::move(each)); });
+    Leaf leaf{.text = value};
+    ViolationReport(source, originalVocabulary(),
+                    engine)({.error = RtfError(4711, "A new error"), .part = value, .leaf = &leaf});
+    return diagnostics;
+}
+
+/// The diagnostic for an error of loading a stylesheet that the check has no name for.
+std::vector<Diagnostic> diagnosticsOfOtherSheet(const SourceText& source) {
+    std::vector<Diagnostic> diagnostics;
+    DiagnosticEngine engine([&](Diagnostic each) { diagnostics.push_back(std::move(each)); });
+    engine.report(DiagnosticId::StyleSheetRejected, source.place(0, 11), {"A new error"});
+    return diagnostics;
+}
+
+/// Reports of diagnostics that no text is known for, as the check has names for all errors that the
+/// library raises today. One more goes by the name of the file, which an example does not have.
 const std::map<std::string, std::pair<std::string, std::string>>& reportsWithoutExample() {
     static const std::map<std::string, std::pair<std::string, std::string>> reports = [] {
-        RtfError error(4711, "A new error");
-        error.line = 2;
-        const std::string description = "(doc\n(row\ndoc)\n";
+        const std::string description = "(doc\n(cw=50)\ndoc)\n";
         const std::string sheet = "{ name: a }\n{ name: b }\n";
         std::map<std::string, std::pair<std::string, std::string>> list;
-        list["rejected"] = {reportOfFindings("a.rtfspec", description,
-                                             judgedFindings({}, {error}, DiagnosticId::Rejected,
-                                                            SourceText(description))),
-                            "a.rtfspec:2:1: error: A new error [rejected]\n    (row\n    ^~~~\n"};
-        error.line = 0;
+        list["rejected"] = {
+            reportOfFindings("a.rtfspec", description,
+                             diagnosticsOfOtherError(SourceText(description),
+                                                     std::string_view(description).substr(9, 2))),
+            "a.rtfspec:2:5: error: A new error [rejected]\n    (cw=50)\n        ^~\n"};
         list["stylesheet-rejected"] = {
-            reportOfFindings(
-                "a.rtfss", sheet,
-                judgedFindings({}, {error}, DiagnosticId::StyleSheetRejected, SourceText(sheet))),
+            reportOfFindings("a.rtfss", sheet, diagnosticsOfOtherSheet(SourceText(sheet))),
             "a.rtfss:1:1: error: A new error [stylesheet-rejected]\n    { name: a }\n"
             "    ^~~~~~~~~~~\n"};
         list["not-a-text-file"] = {

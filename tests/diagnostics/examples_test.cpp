@@ -103,8 +103,8 @@ TEST(ExamplesOfTheTable, AreThereForAllButWhatFewLinesCannotShow) {
             without.emplace_back(rule.identifier);
         }
     }
-    EXPECT_THAT(without, testing::ElementsAre("not-a-text-file", "rejected", "stylesheet-rejected",
-                                              "wrong-extension"));
+    EXPECT_THAT(without, testing::ElementsAre("not-a-text-file", "wrong-extension", "rejected",
+                                              "stylesheet-rejected"));
 }
 
 }  // namespace

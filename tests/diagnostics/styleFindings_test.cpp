@@ -47,7 +47,7 @@ constexpr const char* plainSheet =
 
 TEST(StyleFindings, SayOfWhichKindAStyleIs) {
     EXPECT_THAT(found("(doc\n(r\n(c\n(p\n(pt=a)\n(ps=label)\np)\nc)\nr)\ndoc)\n", plainSheet),
-                ElementsAre("6 unknown-paragraph-style: it is a character style"));
+                ElementsAre("6 unknown-paragraph-style: label is a character style"));
 }
 
 TEST(StyleFindings, TakeNoLonelyAngleForAnInlineStyle) {
@@ -125,8 +125,8 @@ TEST(StyleFindings, TellWhatBecomesOfAParagraphWithoutAnyParagraphStyle) {
         checkDescription("(doc\n(r\n(c\n(p\n(pt=a)\n(ps=label)\np)\nc)\nr)\ndoc)\n", &styles);
     ASSERT_EQ(findings.size(), 1u);
     EXPECT_EQ(findings[0].message,
-              "The stylesheet has no paragraph style label: the paragraph gets no format.");
-    EXPECT_EQ(findings[0].hint, "it is a character style");
+              "The stylesheet has no paragraph style label; the paragraph gets no format.");
+    EXPECT_EQ(findings[0].hint, "label is a character style");
 }
 
 TEST(StyleFindings, NameNoStyleForOneThatIsMissingAmongTooMany) {
@@ -165,9 +165,9 @@ TEST(StyleFindings, TakeAStyleForUsedThatAnotherOneIsBasedOn) {
 
 TEST(StyleFindings, KnowTheKindThatWasMeant) {
     EXPECT_THAT(lines(checkStyleSheet("{ name: a; style-def: character; format: \\b }\n")),
-                Contains(HasSubstr("a character style is cs")));
+                Contains(HasSubstr("write cs for a character style")));
     EXPECT_THAT(lines(checkStyleSheet("{ name: a; style-def: paragraph; format: \\b }\n")),
-                Contains(HasSubstr("a paragraph style is s")));
+                Contains(HasSubstr("write s for a paragraph style")));
 }
 
 /// What is found about the format of a paragraph style.
@@ -180,26 +180,26 @@ TEST(StyleFindings, WarnOfTextInAFormat) {
     EXPECT_THAT(foundInFormat("/fs20"), ElementsAre("1 format-text: did you mean \\fs20?"));
     EXPECT_THAT(foundInFormat("\\b FS20"), ElementsAre("1 format-text: did you mean \\fs20?"));
     EXPECT_THAT(foundInFormat("Arial 10pt bold"),
-                ElementsAre("1 format-text: a format is made of control words, such as "
+                ElementsAre("1 format-text: a format consists of control words, such as "
                             "\\fs20\\b"));
     EXPECT_THAT(foundInFormat("\\fs 20"),
-                ElementsAre("1 format-text: no blank stands before the number: \\fs20"));
+                ElementsAre("1 format-text: remove the blank before the number: \\fs20"));
     EXPECT_THAT(foundInFormat("\\fs20.5"),
-                ElementsAre("1 format-text: the number of a control word is a whole one"));
-    EXPECT_THAT(foundInFormat("\\fs20 .5."), Contains(HasSubstr("is a whole one")));
+                ElementsAre("1 format-text: the number of a control word must be a whole number"));
+    EXPECT_THAT(foundInFormat("\\fs20 .5."), Contains(HasSubstr("must be a whole number")));
     EXPECT_THAT(foundInFormat("\\fs20 .x"),
-                ElementsAre("1 format-text: a format is made of control words, such as "
+                ElementsAre("1 format-text: a format consists of control words, such as "
                             "\\fs20\\b"));
     EXPECT_THAT(foundInFormat("\\cf reddish"),
-                ElementsAre("1 format-text: a format is made of control words, such as "
+                ElementsAre("1 format-text: a format consists of control words, such as "
                             "\\fs20\\b"));
     EXPECT_THAT(foundInFormat("\\fs20pt"),
-                ElementsAre("1 format-text: write \\fs and the number of half points alone: "
+                ElementsAre("1 format-text: write the size in half points, without a unit: "
                             "\\fs20 is 10 points"));
     EXPECT_THAT(foundInFormat("\\li20pt"),
-                ElementsAre("1 format-text: write the number alone: a unit is no part of it"));
+                ElementsAre("1 format-text: write the number without a unit"));
     EXPECT_THAT(foundInFormat("\\fs20, \\b"),
-                ElementsAre("1 format-text: control words follow each other without a comma"));
+                ElementsAre("1 format-text: remove the comma between the control words"));
     EXPECT_THAT(foundInFormat("\\cf red"),
                 ElementsAre("1 format-text: did you mean \\cf" +
                             std::to_string(CRtfGrpColorTable::colorNumber("red")) + "?"));
@@ -216,7 +216,7 @@ TEST(StyleFindings, MarkTheTextInAFormat) {
         checkStyleSheet("{ name: a; style-def: s; format: \\fs20 Arial 10 \\b }\n");
     ASSERT_EQ(findings.size(), 1u);
     EXPECT_EQ(findings[0].message,
-              "Arial 10 is no control word: it is printed wherever the style is used.");
+              "Arial 10 is not a control word; it will appear as text wherever the style is used.");
     EXPECT_EQ(findings[0].place.column, 40);
     EXPECT_EQ(findings[0].place.length, 8);
 }
@@ -231,20 +231,21 @@ TEST(StyleFindings, WarnOfNoTextInAFormatOfControlWords) {
 
 TEST(StyleFindings, KnowItemsWithoutTheirSeparators) {
     EXPECT_THAT(lines(checkStyleSheet("{ name: n, style-def: s, format: \\b }\n")),
-                Contains("1 no-style-kind: items are separated by ; which is missing before "
+                Contains("1 no-style-kind: write a ; before "
                          "style-def"));
     EXPECT_THAT(lines(checkStyleSheet("{ name: n; style-def: s\n format: \\b }\n")),
-                ElementsAre("1 bad-style-kind: items are separated by ; which is missing before "
+                ElementsAre("1 bad-style-kind: write a ; before "
                             "format"));
     EXPECT_THAT(lines(checkStyleSheet("{ name: n; style-def: s; additive: yes next: n }\n")),
-                ElementsAre("1 bad-additive: items are separated by ; which is missing before "
+                ElementsAre("1 bad-additive: write a ; before "
                             "next"));
 }
 
 TEST(StyleFindings, KnowKeywordsWithoutTheirColon) {
-    EXPECT_THAT(lines(checkStyleSheet("{ name: n; style-def = s; format \\b }\n")),
-                ElementsAre("1 no-style-kind", "1 bad-keyword: a : follows the keyword style-def",
-                            "1 bad-keyword: a : follows the keyword format"));
+    EXPECT_THAT(
+        lines(checkStyleSheet("{ name: n; style-def = s; format \\b }\n")),
+        ElementsAre("1 no-style-kind", "1 bad-keyword: write a : after the keyword style-def",
+                    "1 bad-keyword: write a : after the keyword format"));
 }
 
 TEST(StyleFindings, WarnOfTextInTheWrittenPartsOfARecordString) {

@@ -37,7 +37,7 @@ TEST(BorderHints, NameTheBorderOfAWidth) {
 }
 
 TEST(ColorHints, NameTheNearestColor) {
-    const Vocabulary vocabulary;
+    const Vocabulary& vocabulary = originalVocabulary();
     EXPECT_EQ(colorValueHint("#ff0000", vocabulary).text,
               "colors have names; the nearest one to #ff0000 is red");
     EXPECT_EQ(colorValueHint("99", vocabulary).text,
@@ -50,8 +50,8 @@ TEST(FormatHints, ShowTheStyleThatDoesWhatAKeyWasMeantToDo) {
         return textFormatHint(NodeKind::Para, key, value).text;
     };
     const auto expected = [](const std::string& name, const std::string& format) {
-        return "styles format text: (ps=" + name + ") with { name: " + name +
-               "; style-def: s; format: " + format + " } in the stylesheet; for a few words <" +
+        return "use a style: (ps=" + name + ") with { name: " + name +
+               "; style-def: s; format: " + format + " } in the stylesheet; for a few words, <" +
                name + "=words> with style-def: cs";
     };
     EXPECT_EQ(hint("color", "red"), expected("red", "\\cf30"));
@@ -102,7 +102,7 @@ TEST(MeasureHints, DoubtNoMeasureThatSomebodyMayMean) {
 }
 
 TEST(NumberHints, ConvertAUnitBehindANumberWithAComma) {
-    EXPECT_EQ(numberHint("paper-height", "29,7cm").text, "29.7cm is 16838 twips: write 16838");
+    EXPECT_EQ(numberHint("paper-height", "29,7cm").text, "29.7cm is 16838 twips; write 16838");
     EXPECT_EQ(numberHint("paper-height", "29,7 cm").replacement, "16838");
     EXPECT_EQ(numberHint("cell-width", "12,5%").replacement, "12.5");
     EXPECT_FALSE(numberHint("paper-height", "1,000cm").replacement);
@@ -128,9 +128,9 @@ TEST(HtmlTags, GetTheFormThatDoesTheSame) {
               Tags{"<I>: write <emphasis=words> with { name: emphasis; style-def: cs; format: \\i "
                    "} in the stylesheet, or {\\i words}"});
     EXPECT_EQ(tagsIn("<p>x</p>"),
-              Tags{"<p>: each paragraph is a node of its own: (p, (pt=words) and p)"});
+              Tags{"<p>: write each paragraph as a node: (p, (pt=words) and p)"});
     EXPECT_EQ(tagsIn("<h1>x</h1>"),
-              Tags{"<h1>: styles format text: <strong=words> for words, (ps=heading) for a "
+              Tags{"<h1>: use styles: <strong=words> for words, (ps=heading) for a "
                    "paragraph"});
 }
 

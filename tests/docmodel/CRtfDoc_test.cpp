@@ -201,7 +201,7 @@ TEST_F(Document, HasNoUsableWidthBeyond32Bits) {
     EXPECT_EQ(errorNumberOf([&] { (void)document->TextAreaWidth(); }), 6);
 }
 
-TEST_F(Document, AnswersABlankForAParagraphStyleThatItDoesNotKnow) {
+TEST_F(Document, ReturnsABlankForAParagraphStyleThatItDoesNotKnow) {
     EXPECT_EQ(document->GetParagraphStyle("nosuch"), " ");
     EXPECT_EQ(document->GetParagraphStyle(""), " ");
 
@@ -209,11 +209,11 @@ TEST_F(Document, AnswersABlankForAParagraphStyleThatItDoesNotKnow) {
     EXPECT_EQ(document->GetParagraphStyle("nosuch"), " ");
 }
 
-TEST_F(Document, AnswersNothingForACharacterStyleThatItDoesNotKnow) {
+TEST_F(Document, ReturnsNothingForACharacterStyleThatItDoesNotKnow) {
     EXPECT_EQ(document->GetCharacterStyle("nosuch"), "");
 }
 
-TEST_F(Document, AnswersNoColorForACellStyleThatItDoesNotKnow) {
+TEST_F(Document, ReturnsNoColorForACellStyleThatItDoesNotKnow) {
     EXPECT_EQ(document->getCellStyleBackColor("nosuch"), eNoColor);
 }
 
@@ -266,7 +266,7 @@ TEST_F(Document, LetsTheErrorOfABadStylesheetReachTheHostOnly) {
     EXPECT_TRUE(absorbed.empty());
 }
 
-TEST_F(Document, AnswersTheSameRowsEveryTime) {
+TEST_F(Document, ReturnsTheSameRowsEveryTime) {
     EXPECT_EQ(document->TableRows(), document->TableRows());
 }
 
@@ -435,7 +435,7 @@ TEST_F(Commit, DeletesAnExistingFileFirst) {
                                         "createFile out.rtf", "write 2", "close out.rtf"}));
 }
 
-TEST_F(Commit, TellsTheHostOfAFileThatCannotBeDeleted) {
+TEST_F(Commit, ReportsToTheHostAFileThatCannotBeDeleted) {
     platform.files["my file.rtf"] = "old";
     platform.fail("deleteFile", RunTimeError::PathFileAccessError);
 
@@ -511,7 +511,7 @@ TEST_F(Commit, AbsorbsAFailureToCloseTheFile) {
     expectAbsorbed(0, RunTimeError::DiskFull, "GFileSystem.bas", "saveString");
 }
 
-TEST_F(Commit, ShowsNothingOfTheErrorsThatItAbsorbs) {
+TEST_F(Commit, DoesNotShowTheErrorsThatItAbsorbs) {
     platform.fail("createFile", RunTimeError::PathFileAccessError);
 
     document->Commit("out.rtf");
@@ -549,7 +549,7 @@ TEST_F(Commit, CanBeTriedAgainAfterAFailure) {
     EXPECT_EQ(platform.files.at("out.rtf"), document->Contents());
 }
 
-TEST_F(Commit, TellsNobodyOnceTheObserverIsRemoved) {
+TEST_F(Commit, ReportsToNobodyOnceTheObserverIsRemoved) {
     document->setAbsorbedErrorObserver({});
     platform.fail("createFile", RunTimeError::DiskFull);
 

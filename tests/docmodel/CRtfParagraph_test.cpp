@@ -207,7 +207,7 @@ TEST_F(Paragraph, ReplacesItsInlineStyles) {
     EXPECT_EQ(first->Text(), "Sum <bold-red=Total>!");
 }
 
-TEST_F(Paragraph, ReplacesInlineStylesBehindColorAndAlignment) {
+TEST_F(Paragraph, ReplacesInlineStylesAfterColorAndAlignment) {
     document->LoadStyleSheetFromMemmory("{name: b; style-def: cs; format: \\b}");
     first->setForeColor(eRed);
     first->setAlign(eCentered);
@@ -290,7 +290,7 @@ TEST_F(Paragraph, KeepsItsDataWhenOtherDataIsRefused) {
     }
 }
 
-TEST_F(Paragraph, TellsNobodyOfDataThatIsRefused) {
+TEST_F(Paragraph, ReportsNoErrorForDataThatItRefuses) {
     int absorbed = 0;
     document->setAbsorbedErrorObserver([&absorbed](const AbsorbedError&) { ++absorbed; });
 

@@ -54,7 +54,7 @@ TEST(Paragraphs, WriteTheirOrderAsItIsNow) {
               "\r\n\r\n\\par\\pard\\plain\\intbl B");
 }
 
-TEST(Paragraphs, DoNothingWhenTheTailOfNothingIsRemoved) {
+TEST(Paragraphs, DoNothingWhenTheTailIsRemovedWhileEmpty) {
     const CellDocument parts;
 
     EXPECT_TRUE(marksChanged(*parts.document, [&] { parts.paragraphs->removeTail(); }));
@@ -74,7 +74,7 @@ TEST(Paragraphs, KnowThePositionOfTheOnlyOne) {
     EXPECT_EQ(parts.paragraphs->indexOf(parts.paragraph(1).get()), 1);
 }
 
-TEST(Paragraphs, HaveNoPositionForNothing) {
+TEST(Paragraphs, HaveNoPositionForNull) {
     const CellDocument parts{"A"};
 
     try {

@@ -50,7 +50,7 @@ TEST_F(TableCell, HasItsDefaults) {
     EXPECT_EQ(first()->Paragraphs()->Count(), 0);
 }
 
-TEST_F(TableCell, AnswersTheSameParagraphsEveryTime) {
+TEST_F(TableCell, ReturnsTheSameParagraphsEveryTime) {
     EXPECT_EQ(first()->Paragraphs(), first()->Paragraphs());
     EXPECT_EQ(first()->Paragraphs()->Parent(), first());
 }
@@ -416,7 +416,7 @@ TEST_F(TableCell, IsAsWideAsItsEdgesAreApart) {
     EXPECT_EQ(cell(3)->Width(eTwips), 3000);
 }
 
-TEST_F(TableCell, AnswersItsWidthInPercentForEveryUnitButTwips) {
+TEST_F(TableCell, ReturnsItsWidthInPercentForEveryUnitButTwips) {
     addCells(2);
 
     EXPECT_EQ(cell(2)->Width(ePercent), 33);
@@ -598,7 +598,7 @@ TEST_F(TableCell, HasNoWidthInPercentOfAUsableWidthOfZero) {
     EXPECT_EQ(first()->Width(eTwips), 4500);
 }
 
-TEST_F(TableCell, TakesPercentOfAUsableWidthOfZeroForNothing) {
+TEST_F(TableCell, TakesPercentOfAUsableWidthOfZeroAsZero) {
     addCells(1);
     document->setPageWidth(3402);
 

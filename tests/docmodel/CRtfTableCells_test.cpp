@@ -258,7 +258,7 @@ TEST_F(TableCells, KnowThePositionOfACellAfterOthersCameAndWent) {
     EXPECT_EQ(cells->indexOf(last.get()), 3);
 }
 
-TEST_F(TableCells, HaveNoPositionForNothing) {
+TEST_F(TableCells, HaveNoPositionForNull) {
     try {
         (void)cells->indexOf(nullptr);
         FAIL();
@@ -317,7 +317,7 @@ TEST_F(TableCells, GiveARefiledCellGroundBordersWidthAndParagraphs) {
     EXPECT_EQ(old->Paragraphs()->Count(), 0);
 }
 
-TEST_F(TableCells, GiveARefiledCellNothingElse) {
+TEST_F(TableCells, LeaveOutEverythingElseOfARefiledCell) {
     add(1);
     const Ref<CRtfTableCell> old = cell(1);
     old->setAlign(eCentered);

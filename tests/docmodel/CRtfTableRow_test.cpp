@@ -27,7 +27,7 @@ TEST_F(TableRow, HasNoCellsAtFirst) {
     EXPECT_EQ(document->TableRows()->PeekTail()->TableCells()->Count(), 0);
 }
 
-TEST_F(TableRow, AnswersTheSameCellsEveryTime) {
+TEST_F(TableRow, ReturnsTheSameCellsEveryTime) {
     EXPECT_EQ(row->TableCells(), row->TableCells());
     EXPECT_EQ(row->TableCells()->Parent(), row);
 }
@@ -94,7 +94,7 @@ TEST_F(TableRow, LeavesItsCellsAloneWhenItsColorStaysTheSame) {
     EXPECT_EQ(cell(1)->BackColor(), eRed);
 }
 
-TEST_F(TableRow, TakesTheColorOffItsCells) {
+TEST_F(TableRow, RemovesItsColorFromItsCells) {
     row->setBackColor(eSilver);
     cell(1)->setBackColor(eRed);
 
@@ -185,14 +185,14 @@ TEST_F(TableRow, IsChangedByItsColorAndBordersWithoutCellsToo) {
     EXPECT_TRUE(marksChanged(*document, [&] { empty->setTopBorder(eThin); }));
 }
 
-TEST_F(TableRow, GivesNothingToCellsThatAreAddedLater) {
+TEST_F(TableRow, DoesNotChangeCellsThatAreAddedLater) {
     row->setTopBorder(eThick);
     cells->AddTail();
 
     EXPECT_EQ(cell(3)->TopBorder(), eNone);
 }
 
-TEST_F(TableRow, GivesNothingToCellsThatWereRemoved) {
+TEST_F(TableRow, DoesNotChangeCellsThatWereRemoved) {
     const Ref<CRtfTableCell> removed = cell(1);
     cells->Remove(1);
 

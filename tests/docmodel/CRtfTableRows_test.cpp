@@ -48,7 +48,7 @@ TEST_F(TableRows, GiveEveryRowTheDocumentForAParent) {
     EXPECT_EQ(rows->PeekTail()->Parent(), document);
 }
 
-TEST_F(TableRows, DoNothingWhenTheTailOfNothingIsRemoved) {
+TEST_F(TableRows, DoNothingWhenTheTailIsRemovedWhileEmpty) {
     EXPECT_TRUE(marksChanged(*document, [&] { rows->removeTail(); }));
     EXPECT_EQ(rows->Count(), 0);
 }

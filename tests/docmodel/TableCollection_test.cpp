@@ -198,7 +198,7 @@ TYPED_TEST(Collection, PeeksAtItsEnds) {
     EXPECT_EQ(TypeParam::number(*this->list->PeekTail()), 2);
 }
 
-TYPED_TEST(Collection, AnswersTheSameElementHoweverItIsNamed) {
+TYPED_TEST(Collection, ReturnsTheSameElementHoweverItIsNamed) {
     this->add(1);
     this->add(2, "key");
 
@@ -297,7 +297,7 @@ TYPED_TEST(Collection, ChecksTypeThenPositionThenKey) {
     this->expectError(5, [&] { this->list->add("key", 1, 1); });
 }
 
-TYPED_TEST(Collection, RefusesAnIndexThatNamesNothing) {
+TYPED_TEST(Collection, RefusesAnIndexThatNamesNoElement) {
     this->add(1, "key");
     for (const Value& index :
          {Value(0), Value(2), Value(-1), Value(0.5), Value(1.51), Value("nosuch"), Value("1")}) {
@@ -352,7 +352,7 @@ TYPED_TEST(Collection, IsChangedByRemoving) {
     EXPECT_TRUE(this->changes([&] { this->list->removeTail(); }));
 }
 
-TYPED_TEST(Collection, IsChangedByRemovingTheHeadOfNothing) {
+TYPED_TEST(Collection, IsChangedByRemovingTheHeadWhileEmpty) {
     EXPECT_TRUE(this->changes([&] { this->list->RemoveHead(); }));
     EXPECT_EQ(this->list->Count(), 0);
 }
@@ -404,7 +404,7 @@ struct PlainCollection {
         return -1;
     }
 
-    // 0-based index of a position or a key, -1 when there is none.
+    // 0-based index of a position or a key, -1 when no element has it.
     std::ptrdiff_t find(const Value& index) const {
         if (index.isText()) {
             return find(index.text());

@@ -45,7 +45,7 @@ TEST_F(Rendering, KnowsTheWordsOfNoStyleFirst) {
     EXPECT_EQ(rendering.paragraphStyle(SharedText("b")), "\\s101\\i ");
 }
 
-TEST_F(Rendering, TellsANameFromAnotherThatStoodInItsPlace) {
+TEST_F(Rendering, DistinguishesANameFromAnotherThatWasInItsPlace) {
     for (int i = 0; i < 100; ++i) {
         EXPECT_EQ(rendering.paragraphStyle(SharedText("a")), "\\s100\\b ");
         EXPECT_EQ(rendering.paragraphStyle(SharedText("b")), "\\s101\\i ");

@@ -125,7 +125,7 @@ TEST_F(InlineStyles, ReadNestedTokensFromTheFirstOpeningToTheFirstClosing) {
     EXPECT_EQ(styled("<bold=a<b=c>d>"), "{\\cs100\\b a{\\cs101\\b c}d}");
 }
 
-TEST_F(InlineStyles, TakeAClosingBracketInFrontForNoToken) {
+TEST_F(InlineStyles, IgnoreAClosingBracketBeforeAToken) {
     EXPECT_EQ(styled("> <bold=x>"), "> {\\cs100\\b x}");
 }
 
@@ -133,9 +133,9 @@ TEST_F(InlineStyles, StopAtAClosingBracketBetweenTwoTokens) {
     EXPECT_EQ(styled("<bold=x> 5 > 3 <b=y>"), "{\\cs100\\b x} 5 > 3 <b=y>");
 }
 
-TEST_F(InlineStyles, ReadTokensTogetherWhenTheFirstShrinks) {
+TEST_F(InlineStyles, ReadTokensAsOneWhenTheFirstShrinks) {
     // The first token loses twelve characters, so that the search for the end of the second one
-    // begins behind it and finds that of the third.
+    // begins after it and finds that of the third.
     EXPECT_EQ(styled("<nosuchstyle=x><b=y>, the others and <b=z>"),
               "{x}{\\cs101\\b y>, the others and <b=z}");
 }
@@ -144,7 +144,7 @@ TEST_F(InlineStyles, LeaveATokenWhoseEndIsOverlookedBecauseTheFirstShrank) {
     EXPECT_EQ(styled("<nosuchstyle=x><b=y>"), "{x}<b=y>");
 }
 
-TEST_F(InlineStyles, FindTheEndOfATokenThatComesRightBehindTheOldPlace) {
+TEST_F(InlineStyles, FindTheEndOfATokenThatComesRightAfterTheOldPlace) {
     EXPECT_EQ(styled("<No=1><b=>"), "{1}{\\cs101\\b}");
     EXPECT_EQ(styled("<Nos=1><b=>"), "{1}<b=>");
 }
@@ -173,7 +173,7 @@ TEST_F(InlineStyles, EndWhenTheWordsOfAStyleCountedInCharactersMakeThemEnd) {
               "{\\cs100\xC3\xA9<{\\cs100\xC3\xA9<<a=\xC3\xA9> \xC3\xA9> a<a=1=}}");
 }
 
-TEST_F(InlineStyles, GoOnInWhatAStylePutsIn) {
+TEST_F(InlineStyles, ContinueInWhatAStylePutsIn) {
     EXPECT_EQ(styled("<opens=1> x>"), "{\\cs106{ 1} x}");
 }
 
@@ -263,7 +263,7 @@ TEST_F(InlineStyles, KeepCharactersThatAreNoText) {
     EXPECT_EQ(styled("\xFF<bold=\xED\xA0\xBD>\x80"), "\xFF{\\cs100\\b \xED\xA0\xBD}\x80");
 }
 
-// The walk as it is told, step by step on UTF-16 units, with positions that begin with 1.
+// The walk as it is defined, step by step on UTF-16 units, with positions that begin with 1.
 class PlainWalk {
 public:
     using Text = std::u16string;
@@ -288,7 +288,7 @@ public:
     }
 
 private:
-    // 0 when there is none.
+    // 0 when there is no such unit.
     static std::size_t firstFrom(const Text& body, char16_t unit, std::size_t position) {
         for (; position >= 1 && position <= body.size(); ++position) {
             if (body[position - 1] == unit) {

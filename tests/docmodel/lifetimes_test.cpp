@@ -265,7 +265,7 @@ TEST(RemovedChildren, CanBeUsedAndMarkTheDocumentChanged) {
     EXPECT_EQ(rowsText(*held.document), "");
 }
 
-TEST(RemovedChildren, LetGoOfWhatNobodyHolds) {
+TEST(RemovedChildren, ReleaseWhatNobodyHolds) {
     Held held;
     held.cells = nullptr;
     held.cell = nullptr;
@@ -311,7 +311,7 @@ protected:
     }
 };
 
-TEST_F(Orphans, AnswerWhatTheyHold) {
+TEST_F(Orphans, ReturnWhatTheyHold) {
     EXPECT_EQ(rows->Count(), 0);
     EXPECT_EQ(rows->PeekHead(), nullptr);
     EXPECT_EQ(row->TopBorder(), eHair);

@@ -11,11 +11,11 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 Leaf leaf(std::string_view key, std::string_view text, int line) {
-    return {.key = Vocabulary().leafKey(key), .text = text, .line = line};
+    return {.key = originalVocabulary().leafKey(key), .text = text, .line = line};
 }
 
 Leaf numberLeaf(std::string_view key, double number, std::string_view text, int line) {
-    return {.key = Vocabulary().leafKey(key),
+    return {.key = originalVocabulary().leafKey(key),
             .text = text,
             .number = number,
             .kind = LeafKind::Number,
@@ -53,14 +53,11 @@ TEST(DescriptionTree, RefusesToAddWhatIsNoNode) {
     EXPECT_TRUE(tree.root().children().empty());
 }
 
-TEST(DescriptionTree, RefusesASecondChildOfTheSameNumber) {
+TEST(DescriptionTree, KeepsTheKindAndTheOpenerOfANode) {
     DescriptionTree tree;
-    const DescriptionNode& row = tree.AddNode(tree.root(), NodeKind::Row, 1001, 2);
-    tree.AddNode(tree.root(), NodeKind::Row, 1002, 3);
-    EXPECT_EQ(errorOf([&] { tree.AddNode(tree.root(), NodeKind::Row, 1001, 4); }).number, 457);
-    EXPECT_EQ(errorOf([&] { tree.AddNode(tree.root(), NodeKind::Row, 1002, 5); }).number, 457);
-    EXPECT_EQ(&tree.root().child(1001), &row);
-    EXPECT_THAT(childNumbers(tree.root()), ElementsAre(1001, 1002));
+    const DescriptionNode& row = tree.AddNode(tree.root(), NodeKind::Row, 1001, 2, "(r ; first");
+    EXPECT_EQ(row.kind, NodeKind::Row);
+    EXPECT_EQ(row.opener, "(r ; first");
 }
 
 TEST(DescriptionTree, KeepsLeavesAndChildrenApartInTheOrderOfTheDescription) {
@@ -99,11 +96,13 @@ TEST(DescriptionTree, KeepsALeafWithItsValueTextAndLine) {
     EXPECT_EQ(kept.line, 3);
 }
 
-TEST(DescriptionTree, RefusesAKeyThatIsThereAndTellsTheLineOfTheSecond) {
+TEST(DescriptionTree, RefusesAKeyThatIsThereAndHasItsLeaf) {
     for (const char* key : {"para-text", "any-other"}) {
         DescriptionTree tree;
-        tree.addLeaf(tree.root(), leaf(key, "a", 3));
-        EXPECT_EQ(errorOf([&] { tree.addLeaf(tree.root(), leaf(key, "b", 9)); }), duplicateKey(9));
+        const Leaf* first = tree.addLeaf(tree.root(), leaf(key, "a", 3));
+        const Leaf second = leaf(key, "b", 9);
+        EXPECT_EQ(tree.addLeaf(tree.root(), second), nullptr);
+        EXPECT_EQ(&tree.leafOf(tree.root(), second.key), first);
         EXPECT_EQ(leafOf(tree.root(), key).text, "a");
         EXPECT_THAT(leafKeys(tree.root()), ElementsAre(key));
     }

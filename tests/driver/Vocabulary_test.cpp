@@ -12,7 +12,7 @@ namespace {
 
 using testing::ElementsAre;
 
-const Vocabulary vocabulary;
+const Vocabulary& vocabulary = originalVocabulary();
 
 using Pairs = std::vector<std::pair<std::string, std::string>>;
 using Words = std::vector<std::string>;
@@ -51,6 +51,10 @@ const Words cellKeys = {"cell-alignment",     "cell-backcolor",   "cell-top-bord
                         "cell-marked-field"};
 const Words paraKeys = {"para-text", "para-style", "para-key", "para-alignment",
                         "para-marked-field"};
+
+DescriptionKey known(std::string_view key) {
+    return vocabulary.leafKey(key).known;
+}
 
 Words allKeys() {
     Words all;
@@ -191,27 +195,28 @@ TEST(Vocabulary, NumbersNoKeyThatItDoesNotKnow) {
 }
 
 TEST(Vocabulary, KnowsTheColourKeys) {
-    EXPECT_THAT(selected([](const std::string& key) { return vocabulary.isColorKey(key); }),
+    EXPECT_THAT(selected([](const std::string& key) { return contains(colorKeys, known(key)); }),
                 ElementsAre("row-backcolor", "cell-backcolor"));
 }
 
 TEST(Vocabulary, KnowsTheBorderKeys) {
-    EXPECT_THAT(selected([](const std::string& key) { return vocabulary.isBorderKey(key); }),
+    EXPECT_THAT(selected([](const std::string& key) { return contains(borderKeys, known(key)); }),
                 ElementsAre("row-top-border", "row-bottom-border", "row-left-border",
                             "row-right-border", "cell-top-border", "cell-bottom-border",
                             "cell-left-border", "cell-right-border"));
 }
 
 TEST(Vocabulary, TakesNumbersOnlyForMeasuresAndKeys) {
-    EXPECT_THAT(selected([](const std::string& key) { return !vocabulary.isTextOrNumberKey(key); }),
-                ElementsAre("paper-height", "paper-width", "page-number-start", "left-margin",
-                            "right-margin", "bottom-margin", "top-margin", "row-key", "cell-key",
-                            "cell-width", "para-key"));
+    EXPECT_THAT(
+        selected([](const std::string& key) { return !contains(textOrNumberKeys, known(key)); }),
+        ElementsAre("paper-height", "paper-width", "page-number-start", "left-margin",
+                    "right-margin", "bottom-margin", "top-margin", "row-key", "cell-key",
+                    "cell-width", "para-key"));
 }
 
 TEST(Vocabulary, TakesNumbersOnlyForKeysThatItDoesNotKnow) {
-    EXPECT_FALSE(vocabulary.isTextOrNumberKey("colour"));
-    EXPECT_FALSE(vocabulary.isTextOrNumberKey("Para-Text"));
+    EXPECT_FALSE(contains(textOrNumberKeys, known("colour")));
+    EXPECT_FALSE(contains(textOrNumberKeys, known("Para-Text")));
 }
 
 const std::vector<std::pair<std::string, int>> colors = {
@@ -318,6 +323,42 @@ TEST(Vocabulary, RefusesOtherWordsAndNumbersForAlignments) {
     }
 }
 
+Leaf leafOf(std::string_view key, std::string_view text) {
+    return {.key = vocabulary.leafKey(key), .text = text};
+}
+
+Leaf numberLeafOf(std::string_view key, double number) {
+    return {.key = vocabulary.leafKey(key), .number = number, .kind = LeafKind::Number};
+}
+
+TEST(Vocabulary, HasTheValuesThatNamesAndNumbersOfLeavesSet) {
+    EXPECT_EQ(vocabulary.colorOf(leafOf("rb", "Red")), eRed);
+    EXPECT_EQ(vocabulary.colorOf(numberLeafOf("rb", 30)), eRed);
+    EXPECT_EQ(vocabulary.borderOf(leafOf("rtb", "hair")), eHair);
+    EXPECT_EQ(vocabulary.borderOf(numberLeafOf("rtb", -1)), eNone);
+    EXPECT_EQ(vocabulary.alignmentOf(leafOf("ca", "right")), eRight);
+    EXPECT_EQ(vocabulary.alignmentOf(numberLeafOf("ca", 4)), eJustified);
+}
+
+TEST(Vocabulary, HasNoValueForOtherNamesAndNumbersOfLeaves) {
+    EXPECT_EQ(vocabulary.colorOf(leafOf("rb", "crimson")), std::nullopt);
+    EXPECT_EQ(vocabulary.colorOf(numberLeafOf("rb", 58)), std::nullopt);
+    EXPECT_EQ(vocabulary.colorOf(numberLeafOf("rb", 1.5)), std::nullopt);
+    EXPECT_EQ(vocabulary.borderOf(leafOf("rtb", "medium")), std::nullopt);
+    EXPECT_EQ(vocabulary.borderOf(numberLeafOf("rtb", 6)), std::nullopt);
+    EXPECT_EQ(vocabulary.alignmentOf(leafOf("ca", "center")), std::nullopt);
+    EXPECT_EQ(vocabulary.alignmentOf(numberLeafOf("ca", 5)), std::nullopt);
+}
+
+TEST(Vocabulary, KnowsAKeyOfAnyNodeInBothForms) {
+    for (const char* key : {"para-text", "pt", "paper-width", "row-key", "cmf"}) {
+        EXPECT_TRUE(vocabulary.isKey(key)) << key;
+    }
+    for (const char* word : {"", "r", "row", "PT", "colour"}) {
+        EXPECT_FALSE(vocabulary.isKey(word)) << word;
+    }
+}
+
 TEST(Vocabulary, ShortensWhatHasAShortForm) {
     EXPECT_EQ(vocabulary.shorten("row"), "r");
     EXPECT_EQ(vocabulary.shorten("cell-marked-field"), "cmf");
@@ -332,16 +373,16 @@ TEST(Vocabulary, KnowsNoKeyOfWhatIsNoNode) {
 }
 
 TEST(Vocabulary, ListsItsWords) {
-    EXPECT_EQ(Vocabulary::keysOf(NodeKind::Doc).size(), 7u);
-    EXPECT_EQ(Vocabulary::keysOf(NodeKind::None).size(), 0u);
+    EXPECT_EQ(vocabulary.keysOf(NodeKind::Doc).size(), 7u);
+    EXPECT_EQ(vocabulary.keysOf(NodeKind::None).size(), 0u);
     for (const NodeKind kind : {NodeKind::Row, NodeKind::Cell, NodeKind::Para, NodeKind::Doc}) {
-        for (const std::string_view key : Vocabulary::keysOf(kind)) {
+        for (const std::string_view key : vocabulary.keysOf(kind)) {
             EXPECT_TRUE(vocabulary.isKeyOf(kind, key)) << key;
         }
     }
-    EXPECT_EQ(Vocabulary::colorNames().size(), 38u);
-    EXPECT_EQ(Vocabulary::borderNames().size(), 5u);
-    EXPECT_EQ(Vocabulary::alignmentNames().size(), 5u);
+    EXPECT_EQ(vocabulary.colorNames().size(), 38u);
+    EXPECT_EQ(vocabulary.borderNames().size(), 5u);
+    EXPECT_EQ(vocabulary.alignmentNames().size(), 5u);
 }
 
 }  // namespace

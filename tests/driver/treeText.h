@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "quorvane/driver/DescriptionReader.h"
+#include "quorvane/driver/DescriptionParser.h"
 #include "quorvane/support/recordStrings.h"
 #include "tests/driver/ParsedDescription.h"
 
@@ -69,6 +69,7 @@ struct ReadDescription {
     ReadDescription(const ReadDescription&) = delete;
     ReadDescription& operator=(const ReadDescription&) = delete;
 
+    DescriptionNode& root() { return nodes.root(); }
     const DescriptionNode& root() const { return nodes.root(); }
 
     // What the tree views.
@@ -79,9 +80,9 @@ struct ReadDescription {
 
 private:
     void read(const std::vector<SourceLine>& sourceLines) {
-        static const Vocabulary vocabulary;
-        error = errorOf([&] { DescriptionReader(vocabulary).treeWalkerBuild(nodes, sourceLines); });
-        tree = treeText(root());
+        error = errorOf(
+            [&] { DescriptionParser(originalDialect()).treeWalkerBuild(nodes, sourceLines); });
+        tree = treeText(nodes.root());
     }
 };
 

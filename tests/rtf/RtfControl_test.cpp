@@ -52,7 +52,7 @@ TEST(RtfControls, HaveBothDigitsOfAnEscapeOrNone) {
     }
 }
 
-TEST(RtfControls, AreNothingAtTheEndOfTheText) {
+TEST(RtfControls, AreEmptyAtTheEndOfTheText) {
     const RtfControl control = rtfControlAt("a\\", 1);
     EXPECT_EQ(control.symbol, '\0');
     EXPECT_EQ(control.length, 1u);
@@ -86,7 +86,7 @@ TEST(RtfControls, OfUnicodeCountTheirLowest16Bits) {
     EXPECT_EQ(character("\\u-65471"), 'A');
 }
 
-TEST(RtfControls, StandForNothingWhereTheCharacterIsInvisible) {
+TEST(RtfControls, HaveNoCharacterWhenItIsInvisible) {
     for (const char* text : {"\\'ad", "\\u173", "\\u8203", "\\u8207", "\\u8234", "\\u8238",
                              "\\u8288", "\\u8292", "\\u-257"}) {
         EXPECT_EQ(character(text), std::nullopt) << text;
@@ -96,7 +96,7 @@ TEST(RtfControls, StandForNothingWhereTheCharacterIsInvisible) {
     }
 }
 
-TEST(RtfControls, StandForNothingWhereTheyAreNoCharacter) {
+TEST(RtfControls, HaveNoCharacterWhenTheyAreNotOne) {
     for (const char* text : {"\\b", "\\-", "\\*", "\\u", "\\lines"}) {
         EXPECT_EQ(character(text), std::nullopt) << text;
     }

@@ -5,7 +5,7 @@
 namespace quorvane {
 namespace {
 
-// Counts how often it is told that something changed.
+// Counts how often it is marked changed.
 class Owner final : public GroupOwner {
 public:
     int changes = 0;

@@ -59,7 +59,7 @@ TEST(CRtfGrpFontTable, FindsTheFirstFontThatMatches) {
     EXPECT_EQ(fonts.GetFontIndex("*[WZ]*dings;}"), 12);
 }
 
-TEST(CRtfGrpFontTable, AnswersTheDefaultFontForANameThatMatchesNoEntry) {
+TEST(CRtfGrpFontTable, ReturnsTheDefaultFontForANameThatMatchesNoEntry) {
     const CRtfGrpFontTable fonts;
 
     EXPECT_EQ(fonts.GetFontIndex("Georgia"), 0);

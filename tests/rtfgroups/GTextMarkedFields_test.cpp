@@ -119,7 +119,7 @@ TEST(GTextMarkedFields, WritesNoDataWordWithoutData) {
               R"({\*\txfieldstart\txfieldtype0\txfieldflags128\txfieldbin}Hi{\*\txfieldend})");
 }
 
-TEST(GTextMarkedFields, EnclosesNothingToo) {
+TEST(GTextMarkedFields, EnclosesAnEmptyText) {
     EXPECT_EQ(wrapMarkedField("", ""),
               R"({\*\txfieldstart\txfieldtype0\txfieldflags128\txfieldbin}{\*\txfieldend})");
 }

@@ -13,7 +13,7 @@
 namespace quorvane {
 namespace {
 
-// Counts how often it is told that something changed.
+// Counts how often it is marked changed.
 class Owner final : public GroupOwner {
 public:
     int changes = 0;
@@ -53,7 +53,7 @@ protected:
     CRtfGrpStyleSheetTable table{owner, platform};
 };
 
-TEST_F(StyleSheetTable, AnswersNothingUntilAStylesheetIsLoaded) {
+TEST_F(StyleSheetTable, ReturnsNothingUntilAStylesheetIsLoaded) {
     expectUnloaded();
     EXPECT_EQ(table.StyleSheetFile(), "");
     EXPECT_EQ(owner.changes, 0);
@@ -208,14 +208,14 @@ TEST_F(StyleSheetTable, PutsTheFirstParagraphStyleInThePlaceOfAnUnknownOne) {
     EXPECT_EQ(table.GetParagraphStyle("bold"), "\\s0\\f9 ");
 }
 
-TEST_F(StyleSheetTable, AnswersNothingForAParagraphStyleWhenThereIsNone) {
+TEST_F(StyleSheetTable, ReturnsNothingForAParagraphStyleWhenItHasNone) {
     table.loadStyleSheetFromMemory("{name: bold; style-def: cs; format: \\b}");
 
     EXPECT_EQ(table.GetParagraphStyle("bold"), "");
     EXPECT_EQ(table.GetParagraphStyle("nosuch"), "");
 }
 
-TEST_F(StyleSheetTable, AnswersNothingForAnUnknownCharacterStyle) {
+TEST_F(StyleSheetTable, ReturnsNothingForAnUnknownCharacterStyle) {
     table.loadStyleSheetFromMemory(sheet);
 
     EXPECT_EQ(table.GetCharacterStyle("nosuch"), "");
@@ -242,7 +242,7 @@ TEST_F(StyleSheetTable, DoesNotTrimTheNamesThatItLooksUp) {
     EXPECT_FALSE(table.IsStyleDefined(" shaded "));
 }
 
-TEST_F(StyleSheetTable, MarksNothingChangedByALoadThatFailsWhenNothingWasLoaded) {
+TEST_F(StyleSheetTable, IsNotChangedByALoadThatFailsWhenNothingWasLoaded) {
     EXPECT_EQ(errorNumberOf([&] { table.loadStyleSheetFromMemory(badSheet); }), 445);
     table.setStyleSheetFile("nosuch.rtfss");
 
@@ -272,7 +272,7 @@ TEST_F(StyleSheetTable, KnowsTheColorOfACellStyle) {
     EXPECT_EQ(table.getCellStyleBackColor("e"), 12);
 }
 
-TEST_F(StyleSheetTable, KnowsNoColorOfACellStyleWithoutOne) {
+TEST_F(StyleSheetTable, HasNoColorForACellStyleWithoutOne) {
     table.loadStyleSheetFromMemory(
         "{name: a; style-def: cell; format: none}"
         "{name: b; style-def: cell; format: nosuch}"
@@ -284,7 +284,7 @@ TEST_F(StyleSheetTable, KnowsNoColorOfACellStyleWithoutOne) {
     }
 }
 
-TEST_F(StyleSheetTable, AnswersTheFormatOfACellStyleForAMarkedField) {
+TEST_F(StyleSheetTable, ReturnsTheFormatOfACellStyleForAMarkedField) {
     table.loadStyleSheetFromMemory(sheet);
 
     EXPECT_EQ(table.GetMarkedFieldStyle("shaded"), "navy-blue");
@@ -331,7 +331,7 @@ TEST_F(StyleSheetTable, IsUnloadedAfterABadText) {
     EXPECT_EQ(owner.changes, 2);
 }
 
-TEST_F(StyleSheetTable, TellsWhatIsWrongWithAText) {
+TEST_F(StyleSheetTable, ReportsWhatIsWrongWithAText) {
     try {
         table.loadStyleSheetFromMemory("{name: a; style-def: s; colour: red}");
         FAIL();

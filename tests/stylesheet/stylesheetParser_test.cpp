@@ -29,7 +29,7 @@ Definitions parse(std::string_view text) {
     return definitions;
 }
 
-// Expects the text to be refused with this error, and answers what was handed over before.
+// Expects this error from the text, and returns what was passed before it.
 Definitions expectRefused(std::string_view text, std::int32_t number,
                           const std::string& description) {
     Definitions definitions;
@@ -202,7 +202,7 @@ TEST(StylesheetParser, RefusesMoreOpeningBracesThanClosingOnes) {
     expectRefused("{", 31037, message);
 }
 
-TEST(StylesheetParser, HandsNothingOverWhenTheBracesDoNotBalance) {
+TEST(StylesheetParser, PassesNoDefinitionWhenTheBracesDoNotBalance) {
     EXPECT_THAT(expectRefused("{name:x}{name:y}{", 31037,
                               "Error in stylesheet\r\n"
                               "Braces stack overflow: there are more { than }"),

@@ -8,17 +8,15 @@
 #include <cstdint>
 #include <system_error>
 
+#include "quorvane/base/text/asciiCharacters.h"
+
 namespace quorvane {
 
 namespace {
 
-bool isDigit(char character) {
-    return character >= '0' && character <= '9';
-}
-
 std::size_t countDigits(std::string_view text) {
     std::size_t count = 0;
-    while (count < text.size() && isDigit(text[count])) {
+    while (count < text.size() && isAsciiDigit(text[count])) {
         ++count;
     }
     return count;

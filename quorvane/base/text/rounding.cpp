@@ -8,7 +8,7 @@ namespace quorvane {
 
 namespace {
 
-double roundHalfToEven(double value) {
+double roundHalfToEven(double value) noexcept {
     const double below = std::floor(value);
     const double distance = value - below;
     const bool roundsUp = distance > 0.5 || (distance == 0.5 && std::fmod(below, 2.0) != 0);
@@ -25,11 +25,15 @@ std::int32_t roundToLong(double value) {
             return whole;
         }
     }
-    const double rounded = roundHalfToEven(value);
-    if (!(rounded >= INT32_MIN && rounded <= INT32_MAX)) {
+    if (!fitsInLong(value)) {
         raise(RunTimeError::Overflow);
     }
-    return static_cast<std::int32_t>(rounded);
+    return static_cast<std::int32_t>(roundHalfToEven(value));
+}
+
+bool fitsInLong(double value) noexcept {
+    const double rounded = roundHalfToEven(value);
+    return rounded >= INT32_MIN && rounded <= INT32_MAX;
 }
 
 }  // namespace quorvane

@@ -9,4 +9,7 @@ namespace quorvane {
 /// not a number.
 std::int32_t roundToLong(double value);
 
+/// True when `roundToLong` has a result.
+bool fitsInLong(double value) noexcept;
+
 }  // namespace quorvane

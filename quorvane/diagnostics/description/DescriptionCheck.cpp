@@ -1,62 +1,147 @@
 #include "quorvane/diagnostics/description/DescriptionCheck.h"
 
+#include <algorithm>
 #include <utility>
 
-#include "quorvane/diagnostics/description/DescriptionOutline.h"
-#include "quorvane/diagnostics/description/TrialPlatform.h"
+#include "quorvane/base/text/trimming.h"
+#include "quorvane/diagnostics/description/CheckRecovery.h"
+#include "quorvane/diagnostics/description/NullPlatform.h"
+#include "quorvane/diagnostics/description/ViolationReport.h"
 #include "quorvane/diagnostics/description/descriptionWarnings.h"
-#include "quorvane/diagnostics/description/judgement.h"
 #include "quorvane/diagnostics/description/misreadCharacters.h"
-#include "quorvane/diagnostics/description/nodeErrors.h"
-#include "quorvane/diagnostics/description/trialDocument.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
 #include "quorvane/diagnostics/engine/SourceText.h"
 #include "quorvane/diagnostics/engine/ignoreComments.h"
-#include "quorvane/driver/CRtfDriver.h"
+#include "quorvane/diagnostics/fileEncoding.h"
+#include "quorvane/driver/DescriptionFrame.h"
+#include "quorvane/driver/DescriptionParser.h"
+#include "quorvane/driver/DescriptionRules.h"
+#include "quorvane/driver/DocumentBuilder.h"
+#include "quorvane/support/recordStrings.h"
 
 namespace quorvane {
 
 namespace {
 
-void findAll(const SourceText& source, KnownStyles* styles, DiagnosticEngine& engine) {
-    const Vocabulary vocabulary;
-    DescriptionOutline outline = readOutline(source, vocabulary, engine);
-    findNodeErrors(outline, source, vocabulary, engine);
-    TrialPlatform platform;
-    const Ref<CRtfDoc> document =
-        buildTrialDocument(outline, source, vocabulary, styles, platform, engine);
-    findDescriptionWarnings(outline, document.get(), styles, source, engine);
-    findWrongIgnoreComments(source, CheckedLanguage::Description, engine);
-}
+class DescriptionCheck {
+public:
+    DescriptionCheck(const SourceText& source, KnownStyles* styles, DiagnosticEngine& engine)
+        : source_(source), styles_(styles), engine_(engine) {}
 
-/// The errors that a driver that checks reports.
-std::vector<RtfError> driverErrorsOf(std::string_view text) {
-    TrialPlatform platform;
-    std::vector<RtfError> errors;
-    const Ref<CRtfDriver> driver = CRtfDriver::create(platform);
-    driver->setErroneousInput(true);
-    driver->setNotifyErrorHandler(
-        [&](CRtfDriver&, const RtfError& error) { errors.push_back(error); });
-    driver->ParseFromMemmory(text);
-    driver->setNotifyErrorHandler({});
-    return errors;
-}
+    void run() {
+        std::vector<SourceLine> lines = PreProcessRawData(source_.text());
+        frame_ = frameOf(source_.text(), lines, dialect_);
+        const std::string_view firstLine =
+            lines.empty() ? source_.text().substr(0, 0) : lines.front().text;
+        checkFrame(lines);
+        passOverByteOrderMark(lines);
+        if (!frame_.hasOpener && !holdsLines(lines)) {
+            // Prose or the like: that none of its lines can be read goes without saying.
+            return;
+        }
+        lines = repairLines(lines, dialect_, &recovery_);
+        recovery_.setLines(lines);
+        DescriptionTree tree(lines.size() / 2);
+        DescriptionParser(dialect_, &recovery_).treeWalkerBuild(tree, lines);
+        DescriptionNode* doc = documentOf(tree);
+        if (frame_.begins && (!doc || doc->number != documentNumber)) {
+            engine_.reportText(DiagnosticId::NoDocument, source_.placeOf(firstLine),
+                               driverError(DriverFault::NoDocument).description);
+        }
+        if (doc) {
+            checkDocument(*doc);
+        }
+    }
+
+private:
+    void checkFrame(const std::vector<SourceLine>& lines) {
+        for (const Violation& violation : frameViolations(frame_, source_.text(), lines)) {
+            engine_.reportText(diagnosticOf(violation.fault), source_.placeOf(violation.part),
+                               violation.error.description, frameHint(violation));
+            if (violation.fault == DriverFault::NotADescription) {
+                // The others follow from it.
+                return;
+            }
+        }
+    }
+
+    Hint frameHint(const Violation& violation) const {
+        if (violation.fault == DriverFault::NotADescription) {
+            return isUtf16(source_.text()) ? std::string(utf16Hint)
+                                           : "a description begins with (doc and ends with doc)";
+        }
+        if (violation.fault != DriverFault::WrongRoot) {
+            return {};
+        }
+        if (frame_.begins) {
+            return "the last line must be doc)";
+        }
+        return behindByteOrderMark(violation.part).size() < violation.part.size()
+                   ? "the file begins with a UTF-8 byte order mark; save it in Windows-1252"
+                   : Hint();
+    }
+
+    /// A mark before the first line is reported with the frame; it hides nothing of what follows.
+    void passOverByteOrderMark(std::vector<SourceLine>& lines) const {
+        if (lines.empty()) {
+            return;
+        }
+        std::string_view& first = lines.front().text;
+        first = trimWhitespace(behindByteOrderMark(first));
+        if (first.empty() || isComment(first, dialect_)) {
+            lines.erase(lines.begin());
+        }
+    }
+
+    bool holdsLines(const std::vector<SourceLine>& lines) const {
+        return std::any_of(lines.begin(), lines.end(), [&](const SourceLine& line) {
+            return descriptionLine(line.text, dialect_).isReadable();
+        });
+    }
+
+    /// The first doc node that no other node holds; null when there is none.
+    static DescriptionNode* documentOf(DescriptionTree& tree) {
+        const auto nodes = tree.root().children();
+        const auto doc = std::find_if(nodes.begin(), nodes.end(),
+                                      [](const DescriptionNode& node) { return !node.isOutside; });
+        return doc == nodes.end() ? nullptr : &*doc;
+    }
+
+    void checkDocument(DescriptionNode& doc) {
+        const ViolationReport report(source_, dialect_.vocabulary, engine_);
+        const DescriptionRules rules(dialect_, report, MisplacedNodes::ByKind);
+        rules.docWalkerSyntax(doc);
+        rules.treeWalkerSemantic(doc);
+        rules.checkBuiltValues(doc);
+        NullPlatform platform;
+        const Ref<CRtfDoc> document = CRtfDoc::create(platform);
+        if (styles_) {
+            document->LoadStyleSheetFromMemmory(styles_->soundText());
+        }
+        BuiltTable table = DocumentBuilder(*document, dialect_, report).build(doc);
+        findDescriptionWarnings(doc, *document, table, styles_, source_, engine_);
+    }
+
+    const SourceText& source_;
+    KnownStyles* styles_;
+    DiagnosticEngine& engine_;
+    const Dialect& dialect_ = originalDialect();
+    DescriptionFrame frame_;
+    CheckRecovery recovery_{source_, dialect_, engine_};
+};
 
 }  // namespace
 
-std::vector<Diagnostic> findingsWithoutDriver(std::string_view text, KnownStyles* styles) {
-    std::vector<Diagnostic> findings;
-    const SourceText source(text);
-    DiagnosticEngine engine([&](Diagnostic finding) { findings.push_back(std::move(finding)); });
-    findAll(source, styles, engine);
-    sortByPlace(findings);
-    keepFirstMisreadCharacters(findings);
-    return findings;
-}
-
 std::vector<Diagnostic> checkDescription(std::string_view text, KnownStyles* styles) {
-    return judgedFindings(findingsWithoutDriver(text, styles), driverErrorsOf(text),
-                          DiagnosticId::Rejected, SourceText(text));
+    std::vector<Diagnostic> diagnostics;
+    const SourceText source(text);
+    DiagnosticEngine engine(
+        [&](Diagnostic diagnostic) { diagnostics.push_back(std::move(diagnostic)); });
+    DescriptionCheck(source, styles, engine).run();
+    findWrongIgnoreComments(source, CheckedLanguage::Description, engine);
+    sortByPlace(diagnostics);
+    keepFirstMisreadCharacters(diagnostics);
+    return diagnostics;
 }
 
 }  // namespace quorvane

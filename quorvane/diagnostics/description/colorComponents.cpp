@@ -83,7 +83,7 @@ std::optional<RgbColor> componentsIn(std::string_view text) {
 std::string nearestColorName(const RgbColor& components, const Vocabulary& vocabulary) {
     std::string nearest;
     int best = 0;
-    for (const std::string_view name : Vocabulary::colorNames()) {
+    for (const std::string_view name : vocabulary.colorNames()) {
         const std::optional<RgbColor> color =
             CRtfGrpColorTable::color(vocabulary.colorNamed(Value(name)).value_or(eNoColor));
         if (color && (nearest.empty() || distance(*color, components) < best)) {

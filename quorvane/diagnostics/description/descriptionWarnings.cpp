@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <map>
 #include <optional>
+#include <span>
 #include <string>
 #include <utility>
 #include <vector>
@@ -14,12 +15,12 @@
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/diagnostics/description/InlineTokens.h"
-#include "quorvane/diagnostics/description/TrialPlatform.h"
+#include "quorvane/diagnostics/description/NullPlatform.h"
 #include "quorvane/diagnostics/description/colorContrast.h"
 #include "quorvane/diagnostics/description/htmlTags.h"
+#include "quorvane/diagnostics/description/nodeNouns.h"
 #include "quorvane/diagnostics/description/rtfText.h"
 #include "quorvane/diagnostics/description/textColors.h"
-#include "quorvane/diagnostics/description/trialDocument.h"
 #include "quorvane/diagnostics/description/widthOrder.h"
 #include "quorvane/diagnostics/engine/nearestWord.h"
 #include "quorvane/diagnostics/stylesheet/measureHints.h"
@@ -28,16 +29,16 @@ namespace quorvane {
 
 namespace {
 
-constexpr std::size_t mostCells = 63;
-constexpr double leastContrast = 3;
-// A table that uses a larger part of the page's width is none that is too narrow.
-constexpr double mostUsed = 0.95;
-// Pairs of colors that are told of one paragraph.
-constexpr std::size_t mostColorsTold = 10;
+constexpr std::size_t maxCells = 63;
+constexpr double minContrast = 3;
+// A table that uses a larger part of the page's width is not too narrow.
+constexpr double maxUsed = 0.95;
+// Pairs of colors that are reported for one paragraph.
+constexpr std::size_t maxColorsReported = 10;
 // Looking for the style that was meant takes a while.
-constexpr int mostHints = 1000;
+constexpr int maxHints = 1000;
 
-bool isSound(const OutlineLeaf* leaf) {
+bool isSound(const Leaf* leaf) {
     return leaf && !leaf->isFaulty;
 }
 
@@ -46,49 +47,58 @@ public:
     DescriptionWarnings(KnownStyles* styles, const SourceText& source, DiagnosticEngine& engine)
         : styles_(styles), source_(source), engine_(engine) {}
 
-    void findInLeaves(const OutlineNode& node) {
-        for (const OutlineLeaf& leaf : node.leaves) {
+    void findInLeaves(const DescriptionNode& node) {
+        for (const Leaf& leaf : node.leaves()) {
             if (leaf.isFaulty) {
                 continue;
             }
             findCutValue(leaf);
-            if (leaf.key.ends_with("-key")) {
-                findLeadingZeros(leaf);
-                findLostAlignment(node, leaf);
-            } else if (leaf.key.ends_with("-marked-field")) {
-                findInFieldData(leaf);
-            } else if (leaf.key == "cell-style") {
-                findLeadingZeros(leaf);
-                findCellStyle(leaf);
-            } else if (leaf.key == "para-style") {
-                findLeadingZeros(leaf);
-                findParagraphStyle(leaf);
-            } else if (leaf.key == "para-text") {
-                findInText(leaf);
+            switch (leaf.key.known) {
+                case DescriptionKey::RowKey:
+                case DescriptionKey::CellKey:
+                case DescriptionKey::ParaKey:
+                    findLeadingZeros(leaf);
+                    findLostAlignment(node, leaf);
+                    break;
+                case DescriptionKey::CellMarkedField:
+                case DescriptionKey::ParaMarkedField:
+                    findInFieldData(leaf);
+                    break;
+                case DescriptionKey::CellStyle:
+                    findLeadingZeros(leaf);
+                    findCellStyle(leaf);
+                    break;
+                case DescriptionKey::ParaStyle:
+                    findLeadingZeros(leaf);
+                    findParagraphStyle(leaf);
+                    break;
+                case DescriptionKey::ParaText:
+                    findInText(leaf);
+                    break;
+                default:
+                    break;
             }
         }
     }
 
-    void findInDocument(const OutlineNode& doc, CRtfDoc& document) {
+    void findInDocument(const DescriptionNode& doc, const CRtfDoc& document, BuiltTable& table) {
         findTinyMeasures(doc);
         findMargins(doc, document);
         findRoom(doc, document);
-        const Ref<CRtfTableRows> rows = document.TableRows();
-        std::int32_t position = 0;
-        for (const OutlineNode* row : builtChildren(doc)) {
-            findInRow(doc, *row, *rows->Item(++position), document);
+        for (const BuiltTable::Row& row : table.rows) {
+            findInRow(doc, row, table, document);
         }
     }
 
 private:
-    void report(DiagnosticId id, const OutlineLeaf& leaf,
+    void report(DiagnosticId id, const Leaf& leaf,
                 std::initializer_list<std::string_view> arguments, Hint hint = {}) {
         engine_.report(id, source_.placeOf(leaf.text), arguments, std::move(hint));
     }
 
-    /// A value with a "(" that ends at the first ")" while another one stands in the comment behind
+    /// A value with a "(" that ends at the first ")" while another one stands in the comment after
     /// the leaf.
-    void findCutValue(const OutlineLeaf& leaf) {
+    void findCutValue(const Leaf& leaf) {
         constexpr std::string_view escape = "\\'29";
         std::ptrdiff_t open = 0;
         for (std::size_t at = 0; at < leaf.text.size(); ++at) {
@@ -104,36 +114,38 @@ private:
         if (const std::size_t last = line.rfind(')'); last > 0) {
             engine_.report(DiagnosticId::CutValue, source_.placeOf(line.substr(0, last + 1)),
                            {line.substr(0, last)},
-                           leaf.key == "para-text" ? "write \\'29 for a literal )"
-                                                   : "this value cannot contain a )");
+                           leaf.key.known == DescriptionKey::ParaText
+                               ? "write \\'29 for a literal )"
+                               : "this value cannot contain a )");
         }
     }
 
-    void findLeadingZeros(const OutlineLeaf& leaf) {
-        const std::string read = valueText(leaf.value());
+    void findLeadingZeros(const Leaf& leaf) {
+        const std::string read = leaf.valueText();
         if (read != leaf.text) {
             report(DiagnosticId::LeadingZeros, leaf, {leaf.text, read});
         }
     }
 
-    void findLostAlignment(const OutlineNode& node, const OutlineLeaf& leaf) {
-        const OutlineLeaf* alignment =
-            node.find(node.kind == NodeKind::Cell ? "cell-alignment" : "para-alignment");
+    void findLostAlignment(const DescriptionNode& node, const Leaf& leaf) {
+        const Leaf* alignment =
+            node.find(node.kind == NodeKind::Cell ? DescriptionKey::CellAlignment
+                                                  : DescriptionKey::ParaAlignment);
         if (isSound(alignment)) {
-            report(DiagnosticId::LostAlignment, *alignment, {leaf.key, nodeKindName(node.kind)});
+            report(DiagnosticId::LostAlignment, *alignment, {leaf.key.name, nodeNoun(node.kind)});
         }
     }
 
-    void findInFieldData(const OutlineLeaf& leaf) {
+    void findInFieldData(const Leaf& leaf) {
         findTextWarnings(leaf.text, TextUse::FieldData, styles_, source_, engine_);
-        if (leaf.number) {
+        if (leaf.isNumber()) {
             report(DiagnosticId::RefusedMarkedField, leaf, {leaf.text},
                    "put a letter in front of the number: N" + std::string(leaf.text));
         }
     }
 
     Hint styleHint(StyleKind kind, std::string_view name) {
-        if (++hints_ > mostHints) {
+        if (++hints_ > maxHints) {
             return {};
         }
         const std::string trimmed(trimWhitespace(name));
@@ -163,8 +175,8 @@ private:
         return hint;
     }
 
-    void findCellStyle(const OutlineLeaf& leaf) {
-        const std::string name = valueText(leaf.value());
+    void findCellStyle(const Leaf& leaf) {
+        const std::string name = leaf.valueText();
         if (!styles_ || name.empty()) {
             return;
         }
@@ -174,8 +186,8 @@ private:
         }
     }
 
-    void findParagraphStyle(const OutlineLeaf& leaf) {
-        const std::string name = valueText(leaf.value());
+    void findParagraphStyle(const Leaf& leaf) {
+        const std::string name = leaf.valueText();
         if (!styles_ || name.empty()) {
             return;
         }
@@ -189,7 +201,7 @@ private:
         }
     }
 
-    void findInText(const OutlineLeaf& leaf) {
+    void findInText(const Leaf& leaf) {
         if (leaf.text.empty()) {
             engine_.report(DiagnosticId::EmptyText, source_.place(startOf(leaf), startOf(leaf)));
         }
@@ -203,11 +215,11 @@ private:
         }
     }
 
-    std::size_t startOf(const OutlineLeaf& leaf) const {
+    std::size_t startOf(const Leaf& leaf) const {
         return static_cast<std::size_t>(leaf.text.data() - source_.text().data());
     }
 
-    /// Without a ">" that ends it, an inline style is none and stands in the text as it is written.
+    /// Without a ">" that ends it, an inline style is plain text.
     void findUnclosedInlineStyles(std::string_view text) {
         std::vector<std::string_view> open;
         for (std::size_t at = text.find_first_of("<>"); at != std::string_view::npos;
@@ -221,8 +233,8 @@ private:
                 open.push_back(name);
             }
         }
-        constexpr std::size_t mostTold = 10;
-        open.resize(std::min(open.size(), mostTold));
+        constexpr std::size_t maxReported = 10;
+        open.resize(std::min(open.size(), maxReported));
         for (const std::string_view name : open) {
             styles_->markUsed(StyleKind::Character, name);
             engine_.report(DiagnosticId::UnclosedInlineStyle, source_.placeOf(name), {name},
@@ -249,125 +261,124 @@ private:
     }
 
     /// What is meant in another unit has consequences for the whole page, of which no more is said.
-    void findTinyMeasures(const OutlineNode& doc) {
-        for (const OutlineLeaf& leaf : doc.leaves) {
-            if (!isSound(&leaf) || !leaf.number || !isTinyMeasure(leaf.key, *leaf.number)) {
+    void findTinyMeasures(const DescriptionNode& doc) {
+        for (const Leaf& leaf : doc.leaves()) {
+            const std::string_view key = leaf.key.name;
+            if (!isSound(&leaf) || !leaf.isNumber() || !isTinyMeasure(key, leaf.number)) {
                 continue;
             }
-            report(DiagnosticId::TinyMeasure, leaf,
-                   {leaf.key, leaf.text, millimeterText(*leaf.number)},
-                   tinyMeasureHint(leaf.key, *leaf.number));
-            const bool isOfHeight = leaf.key == "paper-height" || leaf.key.starts_with("top-") ||
-                                    leaf.key.starts_with("bottom-");
+            report(DiagnosticId::TinyMeasure, leaf, {key, leaf.text, millimeterText(leaf.number)},
+                   tinyMeasureHint(key, leaf.number));
+            const bool isOfHeight =
+                key == "paper-height" || key.starts_with("top-") || key.starts_with("bottom-");
             (isOfHeight ? isHeightDoubtful_ : isWidthDoubtful_) = true;
         }
     }
 
-    void findMargins(const OutlineNode& doc, const CRtfDoc& document) {
-        const auto check = [&](std::string_view key, std::int32_t actual, DiagnosticId id) {
-            const OutlineLeaf* leaf = doc.find(key);
-            const bool isOfWidth = key == "left-margin" || key == "right-margin";
+    void findMargins(const DescriptionNode& doc, const CRtfDoc& document) {
+        using enum DescriptionKey;
+        const auto check = [&](DescriptionKey key, std::int32_t actual, DiagnosticId id) {
+            const Leaf* leaf = doc.find(key);
+            const bool isOfWidth = key == LeftMargin || key == RightMargin;
             const bool isDoubtful =
-                key.ends_with("-margin") && (isOfWidth ? isWidthDoubtful_ : isHeightDoubtful_);
-            if (isSound(leaf) && leaf->number && std::abs(*leaf->number - actual) > 0.5 &&
+                key != PageNumberStart && (isOfWidth ? isWidthDoubtful_ : isHeightDoubtful_);
+            if (isSound(leaf) && leaf->isNumber() && std::abs(leaf->number - actual) > 0.5 &&
                 !isDoubtful) {
                 report(id, *leaf, {std::to_string(actual)});
                 hasFallenMargin_ = hasFallenMargin_ || isOfWidth;
             }
         };
-        check("left-margin", document.LeftMargin(), DiagnosticId::MarginFallback);
-        check("right-margin", document.RightMargin(), DiagnosticId::MarginFallback);
-        check("top-margin", document.TopMargin(), DiagnosticId::MarginFallback);
-        check("bottom-margin", document.BottomMargin(), DiagnosticId::MarginFallback);
-        check("page-number-start", document.PageNumberStart(), DiagnosticId::PageNumberFallback);
+        check(LeftMargin, document.LeftMargin(), DiagnosticId::MarginFallback);
+        check(RightMargin, document.RightMargin(), DiagnosticId::MarginFallback);
+        check(TopMargin, document.TopMargin(), DiagnosticId::MarginFallback);
+        check(BottomMargin, document.BottomMargin(), DiagnosticId::MarginFallback);
+        check(PageNumberStart, document.PageNumberStart(), DiagnosticId::PageNumberFallback);
     }
 
     /// A margin is compared with the paper as it is when the margin's turn comes.
-    void findRoom(const OutlineNode& doc, const CRtfDoc& document) {
+    void findRoom(const DescriptionNode& doc, const CRtfDoc& document) {
+        using enum DescriptionKey;
         const auto check = [&](std::int64_t paper, std::int64_t margins, std::string_view direction,
-                               std::initializer_list<std::string_view> keys, bool isDoubtful) {
+                               std::initializer_list<DescriptionKey> keys, bool isDoubtful) {
             if (paper > margins || isDoubtful) {
                 return;
             }
-            std::string_view part = doc.line;
-            for (const std::string_view key : keys) {
-                const OutlineLeaf* leaf = doc.find(key);
+            std::string_view part = doc.opener;
+            for (const DescriptionKey key : keys) {
+                const Leaf* leaf = doc.find(key);
                 part = isSound(leaf) ? leaf->text : part;
             }
             engine_.report(DiagnosticId::NoRoom, source_.placeOf(part),
                            {std::to_string(margins), direction, std::to_string(paper)});
         };
         check(document.PageWidth(), std::int64_t{document.LeftMargin()} + document.RightMargin(),
-              "wide", {"left-margin", "right-margin", "paper-width"}, isWidthDoubtful_);
+              "wide", {LeftMargin, RightMargin, PaperWidth}, isWidthDoubtful_);
         check(document.PageHeight(), std::int64_t{document.TopMargin()} + document.BottomMargin(),
-              "high", {"top-margin", "bottom-margin", "paper-height"}, isHeightDoubtful_);
+              "high", {TopMargin, BottomMargin, PaperHeight}, isHeightDoubtful_);
     }
 
-    void findInRow(const OutlineNode& doc, const OutlineNode& node, CRtfTableRow& row,
+    void findInRow(const DescriptionNode& doc, const BuiltTable::Row& row, BuiltTable& table,
                    const CRtfDoc& document) {
-        const std::vector<OutlineNode*> nodes = builtChildren(node);
-        const Ref<CRtfTableCells> cells = row.TableCells();
-        if (nodes.size() > mostCells) {
-            engine_.report(DiagnosticId::TooManyCells, source_.placeOf(node.line),
-                           {std::to_string(nodes.size())});
+        const std::span<const BuiltTable::Cell> cells = table.cellsOf(row);
+        if (cells.size() > maxCells) {
+            engine_.report(DiagnosticId::TooManyCells, source_.placeOf(row.node->opener),
+                           {std::to_string(cells.size())});
         }
-        findWidths(doc, node, nodes, *cells, document);
-        std::int32_t position = 0;
-        for (const OutlineNode* cell : nodes) {
-            const bool isLast = cell == nodes.back();
-            findInCell(*cell, *cells->Item(++position), document, isLast);
+        findWidths(doc, *row.node, cells, document);
+        for (const BuiltTable::Cell& cell : cells) {
+            findInCell(cell, table.paragraphsOf(cell), document, &cell == &cells.back());
         }
     }
 
-    void findWidths(const OutlineNode& doc, const OutlineNode& node,
-                    const std::vector<OutlineNode*>& nodes, const CRtfTableCells& cells,
-                    const CRtfDoc& document) {
+    void findWidths(const DescriptionNode& doc, const DescriptionNode& node,
+                    std::span<const BuiltTable::Cell> cells, const CRtfDoc& document) {
         double sum = 0;
-        bool allGiven = !nodes.empty();
+        bool allGiven = !cells.empty();
         std::int64_t total = 0;
         std::vector<std::int32_t> widths;
         CellPercents percents;
-        for (std::size_t i = 0; i < nodes.size(); ++i) {
-            const OutlineLeaf* leaf = nodes[i]->find("cell-width");
+        for (const BuiltTable::Cell& cell : cells) {
+            const Leaf* leaf = cell.node->find(DescriptionKey::CellWidth);
             allGiven = allGiven && isSound(leaf);
-            sum += isSound(leaf) ? *leaf->number : 0;
-            percents.push_back(isSound(leaf) ? leaf->number : std::nullopt);
-            widths.push_back(cells.Item(static_cast<std::int32_t>(i) + 1)->Width(eTwips));
+            sum += isSound(leaf) ? leaf->number : 0;
+            percents.push_back(isSound(leaf) ? std::optional(leaf->number) : std::nullopt);
+            widths.push_back(cell.element->Width(eTwips));
             total += widths.back();
         }
-        if (nodes.size() > 1 && (allGiven ? std::abs(sum - 100) > 0.5 : sum >= 100)) {
-            engine_.report(DiagnosticId::WidthsSum, source_.placeOf(node.line), {numberText(sum)});
+        if (cells.size() > 1 && (allGiven ? std::abs(sum - 100) > 0.5 : sum >= 100)) {
+            engine_.report(DiagnosticId::WidthsSum, source_.placeOf(node.opener),
+                           {numberText(sum)});
         }
         const std::int32_t room = document.TextAreaWidth();
         if (room <= 0 || isWidthDoubtful_) {
             return;
         }
         // The even widths are rounded, each cell by less than a twip.
-        const auto slack = static_cast<std::int64_t>(nodes.size());
-        if (total > room + slack && !toldOverrun_) {
-            toldOverrun_ = true;
-            engine_.report(DiagnosticId::TableOverrun, source_.placeOf(node.line),
+        const auto slack = static_cast<std::int64_t>(cells.size());
+        if (total > room + slack && !isOverrunReported_) {
+            isOverrunReported_ = true;
+            engine_.report(DiagnosticId::TableOverrun, source_.placeOf(node.opener),
                            {std::to_string(total), std::to_string(room)},
                            marginsHint(document, total));
         }
-        const bool isMeant = nodes.empty() || (nodes.size() == 1 && percents.front());
-        if (static_cast<double>(total) < room * mostUsed - static_cast<double>(slack) && !isMeant &&
-            !hasFallenMargin_ && !toldUnderrun_) {
-            toldUnderrun_ = true;
+        const bool isMeant = cells.empty() || (cells.size() == 1 && percents.front());
+        if (static_cast<double>(total) < room * maxUsed - static_cast<double>(slack) && !isMeant &&
+            !hasFallenMargin_ && !isUnderrunReported_) {
+            isUnderrunReported_ = true;
             engine_.report(DiagnosticId::TableUnderrun, source_.placeOf(widthLineOf(doc, node)),
                            {std::to_string(total), std::to_string(room)},
                            marginsHint(document, total));
         }
         // The page is to be made to fit the table; then it is the order of the cells that takes
         // widths away.
-        const bool fits = static_cast<double>(std::abs(total - room)) <= room * (1 - mostUsed);
+        const bool fits = static_cast<double>(std::abs(total - room)) <= room * (1 - maxUsed);
         const std::int32_t roomToBe = fits ? room : static_cast<std::int32_t>(total);
         bool hasHint = false;
-        for (std::size_t i = 0; i < nodes.size(); ++i) {
+        for (std::size_t i = 0; i < cells.size(); ++i) {
             if (percents[i] && isOfOtherWidth(widths, i, *percents[i], room)) {
-                report(DiagnosticId::WidthClamped, *nodes[i]->find("cell-width"),
-                       {std::to_string(std::lround(widths[i] * 100.0 / room)),
-                        nodes[i]->find("cell-width")->text},
+                const Leaf& leaf = *cells[i].node->find(DescriptionKey::CellWidth);
+                report(DiagnosticId::WidthClamped, leaf,
+                       {std::to_string(std::lround(widths[i] * 100.0 / room)), leaf.text},
                        std::exchange(hasHint, true) ? Hint() : orderHint(percents, roomToBe));
             }
         }
@@ -375,27 +386,28 @@ private:
 
     /// To try the orders takes a while; rows of one table have the same widths.
     Hint orderHint(const CellPercents& percents, std::int32_t room) {
-        constexpr std::size_t mostOrders = 20;
+        constexpr std::size_t maxOrders = 20;
         const auto known = orderHints_.find(percents);
-        if (known != orderHints_.end() || orderHints_.size() >= mostOrders) {
+        if (known != orderHints_.end() || orderHints_.size() >= maxOrders) {
             return known == orderHints_.end() ? Hint() : known->second;
         }
         return orderHints_.emplace(percents, widthOrderHint(percents, room)).first->second;
     }
 
     /// The value that the width between the margins comes from, or the row.
-    static std::string_view widthLineOf(const OutlineNode& doc, const OutlineNode& row) {
-        for (const char* key : {"paper-width", "left-margin", "right-margin"}) {
-            if (const OutlineLeaf* leaf = doc.find(key); isSound(leaf)) {
+    static std::string_view widthLineOf(const DescriptionNode& doc, const DescriptionNode& row) {
+        for (const DescriptionKey key : {DescriptionKey::PaperWidth, DescriptionKey::LeftMargin,
+                                         DescriptionKey::RightMargin}) {
+            if (const Leaf* leaf = doc.find(key); isSound(leaf)) {
                 return leaf->text;
             }
         }
-        return row.line;
+        return row.opener;
     }
 
     /// Margins that leave the table its width, tried on the page.
     static Hint marginsHint(const CRtfDoc& document, std::int64_t tableWidth) {
-        TrialPlatform platform;
+        NullPlatform platform;
         const Ref<CRtfDoc> trial = CRtfDoc::create(platform);
         const std::int32_t evenWidth = trial->TextAreaWidth();
         // Rounded even widths add up to a little more or less.
@@ -420,59 +432,57 @@ private:
                ") to leave " + std::to_string(table) + " twips for them";
     }
 
-    void findInCell(const OutlineNode& node, CRtfTableCell& cell, const CRtfDoc& document,
-                    bool isLastOfRow) {
-        const std::vector<OutlineNode*> paragraphs = builtChildren(node);
+    void findInCell(const BuiltTable::Cell& cell, std::span<const BuiltTable::Paragraph> paragraphs,
+                    const CRtfDoc& document, bool isLastOfRow) {
         if (styles_ && !isLastOfRow && !paragraphs.empty()) {
-            findSharedNumber(*paragraphs.front());
+            findSharedNumber(*paragraphs.front().node);
             if (paragraphs.size() > 1) {
-                findSharedNumber(*paragraphs.back());
+                findSharedNumber(*paragraphs.back().node);
             }
         }
-        std::int32_t background = cell.BackColor();
+        std::int32_t background = cell.element->BackColor();
         bool isStyleColor = false;
-        if (background == eNoColor && !cell.Style().empty() && styles_) {
-            background = document.getCellStyleBackColor(cell.Style());
+        if (background == eNoColor && !cell.element->Style().empty() && styles_) {
+            background = document.getCellStyleBackColor(cell.element->Style());
             isStyleColor = background != eNoColor;
         }
-        std::int32_t position = 0;
-        for (const OutlineNode* paragraph : paragraphs) {
-            const CRtfParagraph& built = *cell.Paragraphs()->Item(++position);
+        for (const BuiltTable::Paragraph& paragraph : paragraphs) {
             const bool turnsWhite =
                 isStyleColor && isDarkColor(static_cast<tColorIndex>(background));
-            const std::int32_t own = turnsWhite ? eWhite : built.ForeColor();
-            findContrast(*paragraph, own, background);
+            const std::int32_t own = turnsWhite ? eWhite : paragraph.element->ForeColor();
+            findContrast(*paragraph.node, own, background);
         }
     }
 
-    void findSharedNumber(const OutlineNode& paragraph) {
-        const OutlineLeaf* leaf = paragraph.find("para-style");
-        const OutlineLeaf* text = paragraph.find("para-text");
+    void findSharedNumber(const DescriptionNode& paragraph) {
+        const Leaf* leaf = paragraph.find(DescriptionKey::ParaStyle);
+        const Leaf* text = paragraph.find(DescriptionKey::ParaText);
         if (!isSound(leaf) || !text || text->text.empty()) {
             return;
         }
-        const int position = styles_->find(StyleKind::Paragraph, valueText(leaf->value()));
+        const int position = styles_->find(StyleKind::Paragraph, leaf->valueText());
         const StyleList& others = styles_->styles(StyleKind::Character);
         if (position > 0 && static_cast<std::size_t>(position) <= others.count()) {
             report(DiagnosticId::SharedStyleNumber, *leaf,
-                   {valueText(leaf->value()), std::to_string(styleNumber(position)),
+                   {leaf->valueText(), std::to_string(styleNumber(position)),
                     others.at(position).name});
         }
     }
 
-    void findContrast(const OutlineNode& paragraph, std::int32_t own, std::int32_t background) {
-        const OutlineLeaf* text = paragraph.find("para-text");
+    void findContrast(const DescriptionNode& paragraph, std::int32_t own, std::int32_t background) {
+        const Leaf* text = paragraph.find(DescriptionKey::ParaText);
         if (!isSound(text) || text->text.empty()) {
             return;
         }
         TextColors colors = colorsBehind(formatOf(paragraph), {0, background});
         colors.text = own == eNoColor ? colors.text : own;
-        std::vector<TextColors> told;
+        std::vector<TextColors> reported;
         for (const ColoredPart& part : coloredParts(text->text, colors, styles_)) {
-            const bool isNew = std::find(told.begin(), told.end(), part.colors) == told.end() &&
-                               told.size() < mostColorsTold;
-            if (isNew && contrastOf(part.colors.text, part.colors.ground) < leastContrast) {
-                told.push_back(part.colors);
+            const bool isNew =
+                std::find(reported.begin(), reported.end(), part.colors) == reported.end() &&
+                reported.size() < maxColorsReported;
+            if (isNew && contrastOf(part.colors.text, part.colors.ground) < minContrast) {
+                reported.push_back(part.colors);
                 engine_.report(
                     DiagnosticId::LowContrast,
                     source_.placeOf(part.colors == colors ? text->text : part.part),
@@ -482,12 +492,12 @@ private:
     }
 
     /// The format of the style that the paragraph is written in.
-    std::string formatOf(const OutlineNode& paragraph) const {
+    std::string formatOf(const DescriptionNode& paragraph) const {
         if (!styles_ || styles_->styles(StyleKind::Paragraph).empty()) {
             return {};
         }
-        const OutlineLeaf* leaf = paragraph.find("para-style");
-        const std::string name = isSound(leaf) ? valueText(leaf->value()) : std::string();
+        const Leaf* leaf = paragraph.find(DescriptionKey::ParaStyle);
+        const std::string name = isSound(leaf) ? leaf->valueText() : std::string();
         const int position = styles_->find(StyleKind::Paragraph, name);
         return styles_->styles(StyleKind::Paragraph).at(position > 0 ? position : 1).format();
     }
@@ -495,8 +505,8 @@ private:
     KnownStyles* styles_;
     const SourceText& source_;
     DiagnosticEngine& engine_;
-    bool toldOverrun_ = false;
-    bool toldUnderrun_ = false;
+    bool isOverrunReported_ = false;
+    bool isUnderrunReported_ = false;
     bool hasFallenMargin_ = false;
     // True for measures that are most likely in another unit.
     bool isWidthDoubtful_ = false;
@@ -507,21 +517,15 @@ private:
 
 }  // namespace
 
-void findDescriptionWarnings(const DescriptionOutline& outline, CRtfDoc* document,
+void findDescriptionWarnings(const DescriptionNode& doc, CRtfDoc& document, BuiltTable& table,
                              KnownStyles* styles, const SourceText& source,
                              DiagnosticEngine& engine) {
     DescriptionWarnings warnings(styles, source, engine);
-    for (const OutlineNode& node : outline.nodes) {
-        if (!node.isOutside) {
-            warnings.findInLeaves(node);
-        }
-    }
-    if (document && outline.doc) {
-        try {
-            warnings.findInDocument(*outline.doc, *document);
-        } catch (const RtfError&) {
-            // A page of extreme measures has no widths to compare with.
-        }
+    forEachNode(doc, [&](const DescriptionNode& node) { warnings.findInLeaves(node); });
+    try {
+        warnings.findInDocument(doc, document, table);
+    } catch (const RtfError&) {
+        // A page of extreme measures has no widths to compare with.
     }
 }
 

@@ -1,17 +1,19 @@
 #pragma once
 
-#include "quorvane/diagnostics/description/DescriptionOutline.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
 #include "quorvane/diagnostics/engine/SourceText.h"
 #include "quorvane/diagnostics/stylesheet/KnownStyles.h"
 #include "quorvane/docmodel/CRtfDoc.h"
+#include "quorvane/driver/DescriptionNode.h"
+#include "quorvane/driver/DocumentBuilder.h"
 
 namespace quorvane {
 
-/// Warns of what a description says that does not do what its author wants. Measures and colours
-/// are looked up in the trial document, which may be null; styles are looked up and marked as used,
-/// where there are any.
-void findDescriptionWarnings(const DescriptionOutline& outline, CRtfDoc* document,
+/// Warns of what a description says that does not do what its author wants. Measures and colors are
+/// looked up in the document that was built of it, whose elements the table has with their nodes;
+/// styles are looked up and marked as used, when there are any. Leaves marked as faulty are left
+/// out.
+void findDescriptionWarnings(const DescriptionNode& doc, CRtfDoc& document, BuiltTable& table,
                              KnownStyles* styles, const SourceText& source,
                              DiagnosticEngine& engine);
 

@@ -54,8 +54,9 @@ std::vector<Diagnostic> findNameMismatch(std::string_view bytes, CheckedLanguage
     if (!isNamedAny || name.ends_with(naming.extension)) {
         return {};
     }
-    std::vector<Diagnostic> findings;
-    DiagnosticEngine engine([&](Diagnostic finding) { findings.push_back(std::move(finding)); });
+    std::vector<Diagnostic> diagnostics;
+    DiagnosticEngine engine(
+        [&](Diagnostic diagnostic) { diagnostics.push_back(std::move(diagnostic)); });
     const std::string text = utf8FromCodePage1252(bytes);
     const SourceText source(text);
     const std::string_view first = firstLineOf(text);
@@ -73,7 +74,7 @@ std::vector<Diagnostic> findNameMismatch(std::string_view bytes, CheckedLanguage
         engine.report(DiagnosticId::WrongExtension, place,
                       {naming.noun, isNamedStyleSheet ? ".rtfss" : ".rtf"}, std::move(hint));
     }
-    return findings;
+    return diagnostics;
 }
 
 }  // namespace quorvane

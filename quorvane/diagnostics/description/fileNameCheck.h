@@ -8,7 +8,7 @@
 
 namespace quorvane {
 
-/// The finding about a file whose extension is that of another language than the one that it
+/// The diagnostic about a file whose extension is that of another language than the one that it
 /// holds; none where they agree or the extension is any other. It is an error where the library
 /// rejects the file for what it is named as. The bytes are the file's, in Windows-1252; of one that
 /// is not named as a stylesheet the first line is enough.

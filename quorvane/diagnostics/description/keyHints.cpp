@@ -59,11 +59,10 @@ constexpr MissingKey missingKeys[] = {
     {"para-indent", false, "\\li in the format of a style indents: \\li200 by 200 twips"},
 };
 
-constexpr std::string_view kindNames[] = {"row", "cell", "para", "paper"};
-
 /// The parts of a key between its "-", in the words of the keys, without the node's name, in an
 /// order of their own.
 std::vector<std::string> meaningOf(std::string_view key, NodeKind kind) {
+    const std::string_view node = kind == NodeKind::Doc ? "paper" : nodeName(kind);
     std::vector<std::string> parts;
     for (std::size_t start = 0; start <= key.size();) {
         const std::size_t end = std::min(key.find_first_of("-_. ", start), key.size());
@@ -72,7 +71,7 @@ std::vector<std::string> meaningOf(std::string_view key, NodeKind kind) {
         for (const auto& [other, meant] : otherWords) {
             part = part == other ? std::string(meant) : part;
         }
-        if (!part.empty() && part != kindNames[static_cast<std::size_t>(kind)]) {
+        if (!part.empty() && part != node) {
             parts.push_back(std::move(part));
         }
     }
@@ -84,7 +83,7 @@ std::vector<std::string> meaningOf(std::string_view key, NodeKind kind) {
 }  // namespace
 
 Hint nearKeyHint(NodeKind kind, std::string_view word, const Vocabulary& vocabulary) {
-    const std::vector<std::string_view> keys = Vocabulary::keysOf(kind);
+    const std::vector<std::string_view> keys = vocabulary.keysOf(kind);
     std::vector<std::string_view> candidates = keys;
     for (const std::string_view key : keys) {
         candidates.push_back(vocabulary.shorten(key));

@@ -11,8 +11,8 @@ namespace quorvane {
 /// What is said of a character of a file in UTF-8, which reads as several in Windows-1252.
 std::string misreadText(std::string_view shown);
 
-/// Keeps the first finding of each kind about a misread character, which says that there are more:
-/// in a file in UTF-8 there is one in every other line.
-void keepFirstMisreadCharacters(std::vector<Diagnostic>& findings);
+/// Keeps the first diagnostic of each kind about a misread character, which says that there are
+/// more: in a file in UTF-8 there is one in every other line.
+void keepFirstMisreadCharacters(std::vector<Diagnostic>& diagnostics);
 
 }  // namespace quorvane

@@ -54,7 +54,7 @@ bool isInTwips(std::string_view key) {
 
 std::string acceptedNumber(std::string_view key) {
     if (isInTwips(key)) {
-        return "write a number of twips; an inch has 1440, a centimeter 567";
+        return "write a number of twips: an inch is 1440, a centimeter 567";
     }
     return key == "cell-width" ? "write a percentage of the width between the margins, without a %"
                                : "write a number";
@@ -78,16 +78,16 @@ Hint withoutComma(std::string_view key, std::string_view value) {
     if (isTinyMeasure(key, *number)) {
         return tinyMeasureHint(key, *number);
     }
-    // Three digits behind a comma are thousandths to some and thousands to others.
+    // Three digits after a comma are thousandths to some and thousands to others.
     return value.size() - comma == 4
                ? Hint("write the number without a comma: " + text + " or " + withPoint)
                : Hint("write a point instead of the comma: " + withPoint, withPoint);
 }
 
 Hint lengthHint(std::string_view key, double number, const Unit& unit, std::string_view value) {
-    constexpr double most = std::numeric_limits<std::int32_t>::max();
+    constexpr double max = std::numeric_limits<std::int32_t>::max();
     const double twips = unit.twips == 1 ? number : std::round(number * unit.twips);
-    if (!isInTwips(key) || std::abs(twips) > most) {
+    if (!isInTwips(key) || std::abs(twips) > max) {
         return acceptedNumber(key);
     }
     const std::string text = numberText(twips);
@@ -103,7 +103,7 @@ Hint withPointAndUnit(std::string_view key, std::string_view value) {
         return {};
     }
     const std::size_t end = value.find_first_not_of("0123456789", comma + 1);
-    // Three digits behind a comma may be meant as thousands.
+    // Three digits after a comma may be meant as thousands.
     if (end == nowhere || end == comma + 1 || end == comma + 4) {
         return {};
     }

@@ -137,16 +137,17 @@ bool beginsHeader(const RtfWord& word) {
 
 /// True when the rows of the tables within a text are whole.
 bool hasWholeNestedRows(std::string_view text) {
-    const std::vector<Diagnostic> findings =
+    const std::vector<Diagnostic> diagnostics =
         checkRtf("{\\rtf1\\trowd\\cellx9 " + std::string(text) + "\\cell\\row}");
-    return std::none_of(findings.begin(), findings.end(), [](const Diagnostic& finding) {
-        return finding.id == DiagnosticId::CellCount || finding.id == DiagnosticId::UnevenRow ||
-               finding.id == DiagnosticId::UnendedRow ||
-               finding.id == DiagnosticId::RowWithoutCells;
+    return std::none_of(diagnostics.begin(), diagnostics.end(), [](const Diagnostic& diagnostic) {
+        return diagnostic.id == DiagnosticId::CellCount ||
+               diagnostic.id == DiagnosticId::UnevenRow ||
+               diagnostic.id == DiagnosticId::UnendedRow ||
+               diagnostic.id == DiagnosticId::RowWithoutCells;
     });
 }
 
-/// What an author most likely means by a control word that is none.
+/// What an author most likely means by an unknown control word.
 std::string nearControlWord(std::string_view word) {
     constexpr std::string_view words[] = {
         "additive", "b",     "caps",      "cb",  "cbpat", "cf",    "chcbpat", "emdash",
@@ -283,7 +284,7 @@ public:
     }
 
 private:
-    static constexpr int mostOfAKind = 10;
+    static constexpr int maxOfAKind = 10;
     // An instruction's name and its file stand at its beginning.
     static constexpr std::size_t longestInstruction = 1000;
 
@@ -303,16 +304,16 @@ private:
 
     struct Group : RtfGroup {
         std::size_t brace = 0;
-        // Position of the instruction that the group's text belongs to, from 1 on; 0 for none.
+        // Position of the instruction that the group's text belongs to, counted from 1; 0 for none.
         std::size_t instruction = 0;
-        // Characters behind a \u that stand in for it.
+        // Characters after a \u that stand in for it.
         int substitutes = 0;
     };
 
     void report(DiagnosticId id, std::size_t length,
                 std::initializer_list<std::string_view> arguments, Hint hint) {
-        int& told = told_[static_cast<std::size_t>(id)];
-        if (++told <= mostOfAKind) {
+        int& reported = reported_[static_cast<std::size_t>(id)];
+        if (++reported <= maxOfAKind) {
             engine_.report(id, source_.placeOf(text_.substr(at_, length)), arguments,
                            std::move(hint));
         }
@@ -349,7 +350,7 @@ private:
     bool beginsGroup(std::size_t brace) const { return text_.substr(brace + 1).starts_with('\\'); }
 
     /// What a backslash is that stands before no control: one to be seen, unless it may be meant to
-    /// escape the character behind it.
+    /// escape the character after it.
     Hint loneBackslashHint() const {
         const std::string_view rest = text_.substr(at_ + 1);
         const bool isSeen = rest.empty() || rest.front() == ' ' ||
@@ -430,7 +431,7 @@ private:
         }
     }
 
-    /// Tells of the text in a format that ends here.
+    /// Reports the text in a format that ends here.
     void endFormatText() {
         if (formatTextBegin_ == nowhere) {
             return;
@@ -593,13 +594,13 @@ private:
         std::size_t shown = 0;
         while (end < text_.size() && text_[end] == '\\') {
             const RtfControl control = rtfControlAt(text_, end);
-            const std::size_t behind = end + control.shownLength;
-            if (control.word != "u" || !control.number || behind >= text_.size() ||
-                text_[behind] != '?') {
+            const std::size_t after = end + control.shownLength;
+            if (control.word != "u" || !control.number || after >= text_.size() ||
+                text_[after] != '?') {
                 break;
             }
             shown = shown == 0 ? control.shownLength : shown;
-            end = behind + 1;
+            end = after + 1;
         }
         if (use_ != TextUse::Text || end == first || first < substitutesEnd_ ||
             groups_.back().substitutes > 0 || !groups_.back().isOfDocument() ||
@@ -703,7 +704,7 @@ private:
     DiagnosticEngine& engine_;
     InlineTokens tokens_;
     std::size_t at_ = 0;
-    // The groups that are open, behind one for the text itself.
+    // The groups that are open, after one for the text itself.
     std::vector<Group> groups_;
     std::vector<Instruction> instructions_;
     // The text in a format that is being read, and the control word before it.
@@ -726,7 +727,7 @@ private:
     std::size_t substitutesEnd_ = 0;
     // True where the next character stands in for the one that a \u names.
     bool isBehindUnicode_ = false;
-    std::array<int, 256> told_{};
+    std::array<int, 256> reported_{};
 };
 
 }  // namespace

@@ -21,7 +21,7 @@ enum class TextUse {
 };
 
 /// Warns of what a text (a view into the source) does to a document that it is written into. Of
-/// each kind of finding the first ones are reported. Without styles, numbers of styles are not
+/// each kind of diagnostic the first ones are reported. Without styles, numbers of styles are not
 /// looked up.
 void findTextWarnings(std::string_view text, TextUse use, const KnownStyles* styles,
                       const SourceText& source, DiagnosticEngine& engine);

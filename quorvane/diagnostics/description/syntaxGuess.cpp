@@ -13,20 +13,9 @@ namespace quorvane {
 
 namespace {
 
-using Meant = SyntaxGuess::Meant;
-
 constexpr std::size_t nowhere = std::string_view::npos;
-constexpr std::string_view nodeNames[] = {"doc", "row", "cell", "para"};
-
-bool isKey(std::string_view word, const Vocabulary& vocabulary) {
-    const std::string key = vocabulary.expand(word);
-    for (const NodeKind kind : {NodeKind::Row, NodeKind::Cell, NodeKind::Para, NodeKind::Doc}) {
-        if (vocabulary.isKeyOf(kind, key)) {
-            return true;
-        }
-    }
-    return false;
-}
+constexpr std::string_view nodeNames[] = {nodeName(NodeKind::Doc), nodeName(NodeKind::Row),
+                                          nodeName(NodeKind::Cell), nodeName(NodeKind::Para)};
 
 /// The node that a name stands for, or nearly stands for.
 NodeKind nodeNearly(std::string_view name, const Vocabulary& vocabulary) {
@@ -51,16 +40,15 @@ bool isCertainNode(std::string_view name, const Vocabulary& vocabulary) {
 
 /// The node's name as it is written here: in its long form, unless the line has the short one.
 std::string nameFor(NodeKind kind, std::string_view written) {
-    constexpr std::string_view longNames[] = {"row", "cell", "para", "doc"};
-    const std::string_view name = longNames[static_cast<std::size_t>(kind)];
-    return written.size() == 1 && kind != NodeKind::Doc ? lowerCase(written) : std::string(name);
+    return written.size() == 1 && kind != NodeKind::Doc ? lowerCase(written)
+                                                        : std::string(nodeName(kind));
 }
 
-/// True when a line goes on behind a leaf with another one.
+/// True when a line goes on after a leaf with another one.
 bool beginsLeaf(std::string_view rest, const Vocabulary& vocabulary) {
     const std::size_t equals = rest.find('=');
     return rest.starts_with('(') && equals != nowhere &&
-           isKey(TrimEx(rest.substr(1, equals - 1)), vocabulary);
+           vocabulary.isKey(TrimEx(rest.substr(1, equals - 1)));
 }
 
 /// What to do about a text that goes on after its first ")". Where the line ends with one more and
@@ -88,17 +76,18 @@ Hint parenthesisHint(std::string_view line, std::size_t equals, const Vocabulary
 SyntaxGuess guessLeaf(std::string_view line, std::size_t equals, const Vocabulary& vocabulary) {
     SyntaxGuess guess;
     const bool isOpened = line.front() == '(';
-    guess.key = TrimEx(line.substr(isOpened ? 1 : 0, equals - (isOpened ? 1 : 0)));
+    guess.meant.line.key = TrimEx(line.substr(isOpened ? 1 : 0, equals - (isOpened ? 1 : 0)));
     const std::size_t close = line.find(')', equals);
-    guess.value = TrimEx(line.substr(equals + 1, close == nowhere ? close : close - equals - 1));
-    guess.meant = Meant::Leaf;
-    if (guess.key.find('(') != nowhere) {
-        guess.meant = Meant::Nothing;
+    guess.meant.line.value =
+        TrimEx(line.substr(equals + 1, close == nowhere ? close : close - equals - 1));
+    guess.meant.line.type = LineType::Leaf;
+    if (guess.meant.line.key.find('(') != nowhere) {
+        guess.meant.line.type = LineType::Unreadable;
         guess.hint = "write each node and each key on its own line";
     } else if (!isOpened) {
         guess.hint = "did you mean (" + std::string(line) + (close == nowhere ? ")?" : "?");
     } else if (close == nowhere) {
-        guess.meant = Meant::LeafWithoutEnd;
+        guess.meant.goesOn = true;
         guess.hint =
             "the ) is missing; a value ends on its own line, so write \\line for a line break";
     } else if (line.find(')') < equals) {
@@ -116,31 +105,32 @@ SyntaxGuess guessOpener(std::string_view line, const Vocabulary& vocabulary) {
     const std::string_view rest = trimWhitespace(line.substr(head.size() + 1));
     const std::size_t colon = std::min(line.find(':'), line.size());
     if (const std::string_view key = TrimEx(line.substr(1, colon - 1));
-        colon < line.size() && isKey(key, vocabulary)) {
+        colon < line.size() && vocabulary.isKey(key)) {
         SyntaxGuess guess;
-        guess.meant = Meant::Leaf;
-        guess.key = key;
+        guess.meant.line.type = LineType::Leaf;
+        guess.meant.line.key = key;
         const std::size_t end = std::min(line.find(')', colon), line.size());
-        guess.value = TrimEx(line.substr(colon + 1, end - colon - 1));
-        guess.hint = "did you mean (" + std::string(key) + "=" + std::string(guess.value) + ")?";
+        guess.meant.line.value = TrimEx(line.substr(colon + 1, end - colon - 1));
+        guess.hint =
+            "did you mean (" + std::string(key) + "=" + std::string(guess.meant.line.value) + ")?";
         return guess;
     }
-    if (isKey(head, vocabulary) && vocabulary.nodeKind(head) == NodeKind::None) {
+    if (vocabulary.isKey(head) && vocabulary.nodeKind(head) == NodeKind::None) {
         SyntaxGuess guess;
-        guess.meant = Meant::Leaf;
-        guess.key = head;
+        guess.meant.line.type = LineType::Leaf;
+        guess.meant.line.key = head;
         const bool isEnded = !rest.empty() && rest.back() == ')';
         guess.hint = "did you mean (" + std::string(head) + "=" +
                      std::string(rest.substr(0, rest.size() - (isEnded ? 1 : 0))) + ")?";
         return guess;
     }
     SyntaxGuess guess;
-    guess.kind = nodeNearly(head, vocabulary);
-    if (guess.kind == NodeKind::None) {
+    guess.meant.line.kind = nodeNearly(head, vocabulary);
+    if (guess.meant.line.kind == NodeKind::None) {
         return guess;
     }
-    const std::string name = nameFor(guess.kind, head);
-    guess.meant = Meant::Opener;
+    const std::string name = nameFor(guess.meant.line.kind, head);
+    guess.meant.line.type = LineType::Opener;
     if (rest == ")") {
         guess.hint = "(" + name + " opens the node and " + name + ") closes it";
     } else if (!rest.empty() && rest.front() != ';') {
@@ -160,10 +150,10 @@ SyntaxGuess guessSlashedCloser(std::string_view line, std::size_t slash,
     SyntaxGuess guess;
     const std::string_view name =
         line.substr(slash + 1, line.find_first_of(" \t;)>", slash) - slash - 1);
-    guess.kind = nodeNearly(name, vocabulary);
-    if (guess.kind != NodeKind::None) {
-        guess.meant = Meant::Closer;
-        guess.hint = "did you mean " + nameFor(guess.kind, name) + ")?";
+    guess.meant.line.kind = nodeNearly(name, vocabulary);
+    if (guess.meant.line.kind != NodeKind::None) {
+        guess.meant.line.type = LineType::Closer;
+        guess.hint = "did you mean " + nameFor(guess.meant.line.kind, name) + ")?";
     }
     return guess;
 }
@@ -171,17 +161,17 @@ SyntaxGuess guessSlashedCloser(std::string_view line, std::size_t slash,
 SyntaxGuess guessCloser(std::string_view line, const Vocabulary& vocabulary) {
     SyntaxGuess guess;
     const std::string_view head = line.substr(0, line.find_first_of(" \t;)"));
-    guess.kind = nodeNearly(head, vocabulary);
-    if (guess.kind == NodeKind::None) {
+    guess.meant.line.kind = nodeNearly(head, vocabulary);
+    if (guess.meant.line.kind == NodeKind::None) {
         return guess;
     }
-    const std::string name = nameFor(guess.kind, head);
+    const std::string name = nameFor(guess.meant.line.kind, head);
     if (line.find(')') == nowhere) {
         guess.hint = "did you mean (" + name + " or " + name + ")?";
-        guess.kind = NodeKind::None;
+        guess.meant.line.kind = NodeKind::None;
         return guess;
     }
-    guess.meant = Meant::Closer;
+    guess.meant.line.type = LineType::Closer;
     guess.hint = vocabulary.nodeKind(head) == NodeKind::None || line[head.size()] != ')'
                      ? "did you mean " + name + ")?"
                      : "only a comment, which begins with ;, can follow " + name + ")";
@@ -210,7 +200,7 @@ SyntaxGuess guessLine(std::string_view line, const Vocabulary& vocabulary) {
     if (equals != nowhere && (line.front() == '(' || equals < comment)) {
         const std::string_view key = TrimEx(
             line.substr(line.front() == '(' ? 1 : 0, equals - (line.front() == '(' ? 1U : 0U)));
-        if (line.front() == '(' || isKey(key, vocabulary)) {
+        if (line.front() == '(' || vocabulary.isKey(key)) {
             return guessLeaf(line, equals, vocabulary);
         }
     }

@@ -3,21 +3,14 @@
 #include <string_view>
 
 #include "quorvane/diagnostics/engine/Diagnostic.h"
-#include "quorvane/driver/DescriptionNode.h"
+#include "quorvane/driver/DescriptionRecovery.h"
 #include "quorvane/driver/Vocabulary.h"
 
 namespace quorvane {
 
-/// What a line that is none was most likely meant to be; the views are into the line.
+/// What a line that cannot be read was most likely meant to be; the views are into the line.
 struct SyntaxGuess {
-    enum class Meant { Nothing, Opener, Closer, Leaf, LeafWithoutEnd };
-
-    Meant meant = Meant::Nothing;
-    /// Of an opener and a closer.
-    NodeKind kind = NodeKind::None;
-    /// Of a leaf.
-    std::string_view key{};
-    std::string_view value{};
+    MeantLine meant{};
     /// Its replacement is that of the whole line.
     Hint hint{};
 };

@@ -139,7 +139,7 @@ private:
     const KnownStyles* styles_;
     InlineTokens tokens_;
     std::size_t at_ = 0;
-    // What is open, behind one for the text itself.
+    // What is open, after one for the text itself.
     std::vector<Group> groups_;
     std::vector<ColoredPart> parts_;
 };

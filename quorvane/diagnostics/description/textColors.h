@@ -22,7 +22,7 @@ struct ColoredPart {
     TextColors colors;
 };
 
-/// The colors behind the control words of a format, which begin with those in front of it.
+/// The colors after the control words of a format, which begin with those before it.
 TextColors colorsBehind(std::string_view format, TextColors before);
 
 /// The parts of a paragraph's text, in which inline styles and control words change the colors that

@@ -10,7 +10,7 @@
 #include "quorvane/base/text/numberText.h"
 #include "quorvane/base/text/rounding.h"
 #include "quorvane/base/values/RtfError.h"
-#include "quorvane/diagnostics/description/TrialPlatform.h"
+#include "quorvane/diagnostics/description/NullPlatform.h"
 #include "quorvane/docmodel/CRtfDoc.h"
 
 namespace quorvane {
@@ -18,11 +18,11 @@ namespace quorvane {
 namespace {
 
 // Word processors take no more.
-constexpr std::size_t mostCells = 63;
+constexpr std::size_t maxCells = 63;
 
 /// The widths of a row's cells in twips, as a document lays them out.
 std::vector<std::int32_t> laidOut(const CellPercents& percents, std::int32_t room) {
-    TrialPlatform platform;
+    NullPlatform platform;
     const Ref<CRtfDoc> document = CRtfDoc::create(platform);
     document->TableRows()->AddTail();
     const Ref<CRtfTableCells> cells = document->TableRows()->Item(1)->TableCells();
@@ -116,7 +116,7 @@ Hint widthOrderHint(const CellPercents& percents, std::int32_t room) {
     const bool areAllGiven = std::all_of(percents.begin(), percents.end(),
                                          [](const auto& percent) { return percent.has_value(); });
     CellPercents filled = percents;
-    if (percents.size() < 3 || percents.size() > mostCells || !fillIn(filled)) {
+    if (percents.size() < 3 || percents.size() > maxCells || !fillIn(filled)) {
         return {};
     }
     try {
@@ -129,9 +129,8 @@ Hint widthOrderHint(const CellPercents& percents, std::int32_t room) {
         for (const std::optional<double>& percent : order) {
             text += (text.empty() ? "" : ", ") + numberText(*percent);
         }
-        return areAllGiven
-                   ? "in the order " + text + ", all cells get their widths"
-                   : "give all cells a width; in the order " + text + ", all of them get it";
+        return areAllGiven ? "the order " + text + " gives all cells their widths"
+                           : "give all cells a width, in the order " + text;
     } catch (const RtfError&) {
         // Measures beyond 32 bits have no order.
         return {};

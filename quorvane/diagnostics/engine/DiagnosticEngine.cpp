@@ -9,14 +9,18 @@ namespace quorvane {
 
 void DiagnosticEngine::report(DiagnosticId id, const Place& place,
                               std::initializer_list<std::string_view> arguments, Hint hint) {
-    const DiagnosticRule& rule = diagnosticRule(id);
-    hasErrors_ = hasErrors_ || rule.severity == Severity::Error;
+    reportText(id, place, withArguments(diagnosticRule(id).message, arguments), std::move(hint));
+}
+
+void DiagnosticEngine::reportText(DiagnosticId id, const Place& place, std::string message,
+                                  Hint hint) {
+    const Severity severity = diagnosticRule(id).severity;
+    hasErrors_ = hasErrors_ || severity == Severity::Error;
     std::optional<Fix> fix;
     if (hint.replacement) {
         fix = Fix{place, *std::move(hint.replacement)};
     }
-    receiver_({id, rule.severity, place, withArguments(rule.message, arguments),
-               std::move(hint.text), std::move(fix)});
+    receiver_({id, severity, place, std::move(message), std::move(hint.text), std::move(fix)});
 }
 
 std::string withArguments(std::string_view pattern,

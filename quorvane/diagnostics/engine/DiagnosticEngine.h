@@ -20,6 +20,9 @@ public:
     void report(DiagnosticId id, const Place& place,
                 std::initializer_list<std::string_view> arguments = {}, Hint hint = {});
 
+    /// Hands on a diagnostic whose text is known, such as that of an error of the library.
+    void reportText(DiagnosticId id, const Place& place, std::string message, Hint hint = {});
+
     /// True when an error was reported.
     bool hasErrors() const { return hasErrors_; }
 

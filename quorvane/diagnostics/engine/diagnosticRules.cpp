@@ -97,6 +97,7 @@ const DiagnosticRule* findDiagnosticRule(std::string_view identifier) {
 std::span<const std::string_view> diagnosticIdentifiers() {
     static const std::vector<std::string_view> identifiers = [] {
         std::vector<std::string_view> list;
+        list.reserve(table.size());
         for (const DiagnosticRule& rule : table) {
             list.push_back(rule.identifier);
         }

@@ -30,7 +30,7 @@ std::string withoutBraces(std::string_view text) {
 /// item may name it later.
 std::string_view likelyNamesOf(const OutlinedDefinition& definition) {
     const std::vector<StyleItem>& items = definition.items;
-    if (items.empty() || !findStyleKeyword(items.front().keyword)) {
+    if (items.empty() || !items.front().known) {
         return items.empty() ? std::string_view() : items.front().value;
     }
     const auto named = std::find_if(items.begin(), items.end(), [](const StyleItem& item) {
@@ -42,7 +42,7 @@ std::string_view likelyNamesOf(const OutlinedDefinition& definition) {
 /// True when an item other than the first may be a misspelled "style-def".
 bool hasUnknownKeyword(const OutlinedDefinition& definition) {
     return std::any_of(definition.items.begin() + 1, definition.items.end(),
-                       [](const StyleItem& item) { return !findStyleKeyword(item.keyword); });
+                       [](const StyleItem& item) { return !item.known; });
 }
 
 RepairedDefinition repairedDefinition(const OutlinedDefinition& definition) {
@@ -54,9 +54,8 @@ RepairedDefinition repairedDefinition(const OutlinedDefinition& definition) {
     bool hasKind = false;
     repaired.text = "{name:" + repaired.names;
     for (const StyleItem& item : definition.items) {
-        const StyleKeyword* const keyword = findStyleKeyword(item.keyword);
         const std::string value = withoutBraces(item.value);
-        const bool isValid = keyword && keyword->accepts(lowerCase(value));
+        const bool isValid = item.known && item.known->accepts(lowerCase(value));
         if (item.keyword == "style-def") {
             hasKind = true;
             repaired.isKindSure = repaired.isKindSure && isValid;

@@ -124,8 +124,7 @@ private:
         for (const SourceText::Line& bounds : source_.lines()) {
             const StyleItem item =
                 readStyleItem(text.substr(bounds.start, bounds.end - bounds.start));
-            const bool isKeyword =
-                item.keyword == nameKeyword || findStyleKeyword(item.keyword) != nullptr;
+            const bool isKeyword = item.keyword == nameKeyword || item.known;
             if (isKeyword && item.hasColon()) {
                 report(DiagnosticId::NoStyles, item.writtenKeyword, {},
                        "enclose the definition in braces: { name: ...; style-def: ... }");
@@ -176,7 +175,8 @@ private:
     }
 
     void findItemError(const StyleItem& item) {
-        switch (faultOf(item)) {
+        const std::string value = lowerCase(item.value);
+        switch (faultOf(item, value)) {
             case StyleItemFault::Keyword:
                 report(DiagnosticId::BadKeyword, item.writtenKeyword, {item.keyword},
                        keywordHint(item.keyword));
@@ -184,7 +184,7 @@ private:
             case StyleItemFault::Value:
                 report(item.keyword == "style-def" ? DiagnosticId::BadStyleKind
                                                    : DiagnosticId::BadAdditive,
-                       item.value, {lowerCase(item.value)}, valueHint(item));
+                       item.value, {value}, valueHint(item));
                 break;
             case StyleItemFault::None:
                 break;
@@ -231,7 +231,7 @@ private:
         std::unordered_set<std::string> seen;
         for (std::size_t i = 1; i < definition.items.size(); ++i) {
             const StyleItem& item = definition.items[i];
-            if (findStyleKeyword(item.keyword) && !seen.insert(item.keyword).second) {
+            if (item.known && !seen.insert(item.keyword).second) {
                 report(DiagnosticId::RepeatedItem, item.writtenKeyword, {item.keyword});
             } else if (item.keyword == "format") {
                 findFormatWarningsOf(item, kind);

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <optional>
-#include <utility>
 
 namespace quorvane {
 
@@ -12,8 +11,8 @@ namespace {
 OutlinedDefinition outlinedDefinition(std::string_view brace, std::string_view body) {
     OutlinedDefinition definition{brace, {}};
     StyleItems items(body);
-    while (std::optional<StyleItem> item = items.next()) {
-        definition.items.push_back(*std::move(item));
+    while (const StyleItem* const item = items.next()) {
+        definition.items.push_back(*item);
     }
     return definition;
 }

@@ -8,14 +8,13 @@
 namespace quorvane {
 
 /// True for a measure of the page that is far too small to be meant in twips: paper of less than an
-/// inch, or a margin of more than nothing and less than two millimeters. The key is in its long
-/// form.
+/// inch, or a margin of more than 0 and less than two millimeters. The key is in its long form.
 bool isTinyMeasure(std::string_view key, double twips);
 
 /// The measure in millimeters, for messages.
 std::string millimeterText(double twips);
 
-/// What such a measure is in twips when it is in the unit that the number looks like.
+/// The hint for such a measure: what it is in twips when it is meant in the likely unit.
 Hint tinyMeasureHint(std::string_view key, double number);
 
 }  // namespace quorvane

@@ -101,7 +101,7 @@ Example sizeExample(std::string_view value) {
 Example exampleOf(Property property, const std::string& value) {
     switch (property) {
         case Property::Color:
-            return colorExample(lowerCase(value), Vocabulary());
+            return colorExample(lowerCase(value), originalVocabulary());
         case Property::Font:
             return value.find_first_of("*?#[]") == std::string::npos ? fontExample(value)
                                                                      : fontExample({});

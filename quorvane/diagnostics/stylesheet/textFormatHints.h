@@ -7,8 +7,8 @@
 
 namespace quorvane {
 
-/// What to do in place of a key that is to format text, such as `color`, `font-size` or `bold`: no
-/// node has one, styles do it. Empty for any other key, and for a color outside of a paragraph,
+/// The hint for a key that is meant to format text, such as `color`, `font-size` or `bold`: no node
+/// has such a key, styles do it. Empty for any other key, and for a color outside a paragraph,
 /// which may be meant as a background.
 Hint textFormatHint(NodeKind kind, std::string_view key, std::string_view value);
 

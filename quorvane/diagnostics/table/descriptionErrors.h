@@ -1,16 +1,17 @@
 #pragma once
 
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
+#include "quorvane/driver/driverErrorTable.h"
 
 namespace quorvane {
 
-/// What the library rejects in a description.
+/// What the library rejects in a description. The messages are those of the driver's errors.
 inline constexpr DiagnosticRule descriptionErrors[] = {
     {.id = DiagnosticId::WrongFileType,
      .identifier = "wrong-file-type",
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
-     .message = "The provided file isn't a correct rtfspec file.",
+     .message = driverErrorText(DriverFault::NotADescription),
      .explanation = R"(
 A description is one `doc` node. A text without `(doc` is not a description, and neither is a
 stylesheet or an RTF file that is named `.rtfspec`.
@@ -42,7 +43,7 @@ doc)
      .identifier = "missing-element",
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
-     .message = "Missing some requiered elements:\r\n(doc\r\n(row\r\n(cell",
+     .message = driverErrorText(DriverFault::MissingElements),
      .explanation = R"(
 A description has at least one row with a cell. One of `(row`, `(r`, `(cell` and `(c`, in lower
 case, must occur in it.
@@ -68,7 +69,7 @@ doc)
      .identifier = "wrong-root",
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
-     .message = "(doc must be the first node.",
+     .message = driverErrorText(DriverFault::WrongRoot),
      .explanation = R"(
 The first line must begin with `(doc` and the last one with `doc)`, in lower case. Comments and
 blank lines do not count.
@@ -99,7 +100,7 @@ doc)
      .identifier = "too-many-nodes",
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
-     .message = "Too many {0} nodes.",
+     .message = driverErrorText(DriverFault::TooManyNodes),
      .explanation = R"(
 A description can have at most 999 rows, 999 cells and 999 paragraphs. Reading stops at the limit.
 Split a longer table into several descriptions, or build it with the object model.
@@ -129,7 +130,7 @@ doc)
      .identifier = "wrong-closer",
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
-     .message = "Wrong node type in {0}",
+     .message = driverErrorText(DriverFault::WrongCloser),
      .explanation = R"(
 A closer closes the node that was opened last. If another node is still open, its closer is missing
 before this line.
@@ -160,7 +161,7 @@ doc)
      .identifier = "wrong-syntax",
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
-     .message = "{0} has a wrong syntax",
+     .message = driverErrorText(DriverFault::WrongSyntax),
      .explanation = R"(
 A line is an opener such as `(row`, a closer such as `row)`, a leaf such as `(pt=Total)`, or a
 comment, which begins with `;`. A leaf begins and ends on one line, and its value ends at the first
@@ -225,7 +226,7 @@ doc)
      .identifier = "no-document",
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
-     .message = "Object variable or With block variable not set",
+     .message = "Invalid procedure call or argument",
      .explanation = R"(
 The first line begins with `(doc`, but does not open a `doc` node, so there is no document.
 )",
@@ -256,7 +257,7 @@ doc)
      .identifier = "wrong-keyword",
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
-     .message = "{0} isn't a valid keyword.",
+     .message = driverErrorText(DriverFault::UnknownDocKey),
      .explanation = R"(
 Each kind of node has its own keys. They are written in lower case, in the long or the short form.
 )",
@@ -285,7 +286,7 @@ doc)
      .identifier = "no-row",
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
-     .message = "Must have at least one row.",
+     .message = driverErrorText(DriverFault::NoRow),
      .explanation = R"(
 A document has at least one row.
 )",
@@ -308,7 +309,7 @@ doc)
      .identifier = "no-cell",
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
-     .message = "Must have at least one cell.",
+     .message = driverErrorText(DriverFault::NoCell),
      .explanation = R"(
 A row has at least one cell. Word processors lose a table that has a row without cells.
 )",
@@ -331,7 +332,7 @@ doc)
      .identifier = "no-para-text",
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
-     .message = "In a para group para-text is mandatory.",
+     .message = driverErrorText(DriverFault::NoParaText),
      .explanation = R"(
 A paragraph must have the key `para-text`, or `pt` for short. Its value may be empty.
 )",
@@ -363,7 +364,7 @@ doc)
      .identifier = "node-in-paragraph",
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
-     .message = "A paragraph is a terminal node",
+     .message = driverErrorText(DriverFault::NodeInParagraph),
      .explanation = R"(
 A paragraph cannot contain other nodes.
 )",
@@ -396,7 +397,7 @@ doc)
      .identifier = "wrong-context",
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
-     .message = "Invalid node declaration in this context\r\n",
+     .message = driverErrorText(DriverFault::WrongContext),
      .explanation = R"(
 A document contains rows, a row contains cells, and a cell contains paragraphs. A `doc` node cannot
 be inside another node.
@@ -424,7 +425,7 @@ doc)
      .identifier = "wrong-color",
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
-     .message = "{0} isn't a recognized color.",
+     .message = driverErrorText(DriverFault::WrongColor),
      .explanation = R"(
 A background is one of the 37 color names of the description language, or `none`.
 )",
@@ -451,7 +452,7 @@ doc)
      .identifier = "wrong-border",
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
-     .message = "{0} isn't a recognized border.",
+     .message = driverErrorText(DriverFault::WrongBorder),
      .explanation = R"(
 A border is `none`, `hair`, `thin`, `normal` or `thick`.
 )",
@@ -478,7 +479,7 @@ doc)
      .identifier = "wrong-alignment",
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
-     .message = "{0} isn't a recognized alignment.",
+     .message = driverErrorText(DriverFault::WrongAlignment),
      .explanation = R"(
 An alignment is `left`, `right`, `centered`, `justified` or `none`, or a number from 0 to 4.
 )",
@@ -505,7 +506,7 @@ doc)
      .identifier = "not-a-number",
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
-     .message = "Value for {0} should be numeric.",
+     .message = driverErrorText(DriverFault::NotANumber),
      .explanation = R"(
 The keys of the document, `cell-width`, `row-key`, `cell-key` and `para-key` take a number without a
 unit: digits with at most one `.`, optionally with a sign before them and an exponent after them.

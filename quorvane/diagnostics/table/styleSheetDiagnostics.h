@@ -90,8 +90,8 @@ A style is a paragraph style (`s`), a character style (`cs`) or a cell style (`c
      .language = CheckedLanguage::StyleSheet,
      .message = "{0}",
      .explanation = R"(
-The library rejects the stylesheet with an error that has no diagnostic of its own, for example
-because the file is not a stylesheet in spite of its extension. The message is that of the error.
+The library rejects the stylesheet with an error that has no diagnostic of its own. The file may not
+be a stylesheet in spite of its extension, for example. The message is that of the error.
 )"},
 
     {.id = DiagnosticId::DescriptionAsStyleSheet,

@@ -7,7 +7,7 @@ namespace {
 
 std::string nearest(std::string_view text) {
     const std::optional<RgbColor> components = componentsIn(text);
-    return components ? nearestColorName(*components, Vocabulary()) : "";
+    return components ? nearestColorName(*components, originalVocabulary()) : "";
 }
 
 TEST(ColorComponents, AreReadInAllTheirForms) {

@@ -87,11 +87,11 @@ TEST(FileNameCheck, PointsToTheBeginningOfAFileThatSaysNothing) {
 
 TEST(FileNameCheck, TellsTheExtensionThatTheContentHas) {
     EXPECT_EQ(hintOf(description, "a.rtf"),
-              "the file reads as a description, which has the extension .rtfspec");
+              "the file looks like a description; its extension should be .rtfspec");
     EXPECT_EQ(hintOf(styleSheet, "a.rtf"),
-              "the file reads as a stylesheet, which has the extension .rtfss");
+              "the file looks like a stylesheet; its extension should be .rtfss");
     EXPECT_EQ(hintOf(rtf, "a.rtfss"),
-              "the file reads as an RTF file, which has the extension .rtf");
+              "the file looks like an RTF file; its extension should be .rtf");
 }
 
 }  // namespace

@@ -9,7 +9,7 @@ namespace quorvane {
 namespace {
 
 std::string hint(NodeKind kind, std::string_view word) {
-    return nearKeyHint(kind, word, Vocabulary()).text;
+    return nearKeyHint(kind, word, originalVocabulary()).text;
 }
 
 TEST(KeyHints, KnowTheWordsOfOtherLanguages) {
@@ -36,11 +36,11 @@ TEST(KeyHints, KnowAKeyWithoutItsNode) {
 
 TEST(KeyHints, TellThatEachSideHasABorderOfItsOwn) {
     EXPECT_EQ(hint(NodeKind::Row, "border"),
-              "each side has a border of its own: row-top-border and -bottom-, -left-, "
-              "-right-border");
+              "each side has its own border: row-top-border, -bottom-border, "
+              "-left-border, -right-border");
     EXPECT_EQ(hint(NodeKind::Cell, "cell-border"),
-              "each side has a border of its own: cell-top-border and -bottom-, -left-, "
-              "-right-border");
+              "each side has its own border: cell-top-border, -bottom-border, "
+              "-left-border, -right-border");
 }
 
 TEST(KeyHints, TellNothingOfBordersWhereANodeHasNone) {

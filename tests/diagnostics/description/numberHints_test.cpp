@@ -8,10 +8,8 @@
 namespace quorvane {
 namespace {
 
-constexpr const char* twips =
-    "write a number of twips, 1440 of which are an inch and 567 a centimeter";
-constexpr const char* perCent =
-    "write a number, per cent of the room between the page's margins, without a sign";
+constexpr const char* twips = "write a number of twips: an inch is 1440, a centimeter 567";
+constexpr const char* perCent = "write a percentage of the width between the margins, without a %";
 
 std::string said(std::string_view key, std::string_view value) {
     return numberHint(key, value).text;
@@ -26,24 +24,24 @@ TEST(NumberHints, TellWhatTheKeyTakes) {
 }
 
 TEST(NumberHints, TellThatAValueIsMissing) {
-    EXPECT_EQ(said("row-key", ""), "the value is missing: write a number");
-    EXPECT_EQ(said("top-margin", ""), std::string("the value is missing: ") + twips);
+    EXPECT_EQ(said("row-key", ""), "the value is missing; write a number");
+    EXPECT_EQ(said("top-margin", ""), std::string("the value is missing; ") + twips);
 }
 
 TEST(NumberHints, ReckonUnitsOfLengthInTwips) {
-    EXPECT_EQ(said("paper-width", "21cm"), "21cm is 11906 twips: write 11906");
-    EXPECT_EQ(said("paper-height", "297 MM"), "297 MM is 16838 twips: write 16838");
-    EXPECT_EQ(said("top-margin", "1.5in"), "1.5in is 2160 twips: write 2160");
-    EXPECT_EQ(said("top-margin", "1 inch"), "1 inch is 1440 twips: write 1440");
-    EXPECT_EQ(said("top-margin", "2 Inches"), "2 Inches is 2880 twips: write 2880");
-    EXPECT_EQ(said("left-margin", "2\""), "2\" is 2880 twips: write 2880");
-    EXPECT_EQ(said("left-margin", "20pt"), "20pt is 400 twips: write 400");
-    EXPECT_EQ(said("right-margin", "-3pc"), "-3pc is -720 twips: write -720");
+    EXPECT_EQ(said("paper-width", "21cm"), "21cm is 11906 twips; write 11906");
+    EXPECT_EQ(said("paper-height", "297 MM"), "297 MM is 16838 twips; write 16838");
+    EXPECT_EQ(said("top-margin", "1.5in"), "1.5in is 2160 twips; write 2160");
+    EXPECT_EQ(said("top-margin", "1 inch"), "1 inch is 1440 twips; write 1440");
+    EXPECT_EQ(said("top-margin", "2 Inches"), "2 Inches is 2880 twips; write 2880");
+    EXPECT_EQ(said("left-margin", "2\""), "2\" is 2880 twips; write 2880");
+    EXPECT_EQ(said("left-margin", "20pt"), "20pt is 400 twips; write 400");
+    EXPECT_EQ(said("right-margin", "-3pc"), "-3pc is -720 twips; write -720");
 }
 
 TEST(NumberHints, TakeTwipsFromBehindTheirNumber) {
     for (const char* value : {"567tw", "567 twip", "567twips"}) {
-        EXPECT_EQ(said("left-margin", value), "write the number alone: 567") << value;
+        EXPECT_EQ(said("left-margin", value), "write only the number: 567") << value;
     }
 }
 
@@ -53,7 +51,7 @@ TEST(NumberHints, ReckonNoUnitForKeysThatTakeNoLength) {
 }
 
 TEST(NumberHints, TakeThePerCentSignFromAWidthAlone) {
-    EXPECT_EQ(said("cell-width", "50 %"), "write the number alone: 50");
+    EXPECT_EQ(said("cell-width", "50 %"), "write only the number: 50");
     EXPECT_EQ(said("paper-width", "50%"), twips);
 }
 
@@ -71,12 +69,12 @@ TEST(NumberHints, KnowTheSizesOfPaper) {
 }
 
 TEST(NumberHints, MakeAPointOfAComma) {
-    EXPECT_EQ(said("cell-width", "12,5"), "a number has no comma: write 12.5");
-    EXPECT_EQ(said("top-margin", "1,000"), "a number has no comma: write 1000, or 1.000");
+    EXPECT_EQ(said("cell-width", "12,5"), "write a point instead of the comma: 12.5");
+    EXPECT_EQ(said("top-margin", "1,000"), "write the number without a comma: 1000 or 1.000");
 }
 
 TEST(NumberHints, MakeNothingOfCommasThatDivideNoNumber) {
-    const std::string hint = "a number has no comma, but at most one point: write a number";
+    const std::string hint = "a number has no comma and at most one decimal point; write a number";
     EXPECT_EQ(said("row-key", "1,2,3"), hint);
     EXPECT_EQ(said("row-key", "12,"), hint);
     EXPECT_EQ(said("row-key", "1.5,2"), hint);
@@ -84,7 +82,7 @@ TEST(NumberHints, MakeNothingOfCommasThatDivideNoNumber) {
 
 TEST(NumberHints, WriteNumbersWithoutExponent) {
     const std::string hint =
-        "the number is too large, or is none: write its digits, without an exponent";
+        "the number is too large or malformed; write its digits without an exponent";
     EXPECT_EQ(said("paper-width", "1e3000"), hint);
     EXPECT_EQ(said("row-key", "-2.5E999"), hint);
     EXPECT_EQ(said("row-key", "e"), "write a number");

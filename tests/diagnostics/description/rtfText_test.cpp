@@ -41,26 +41,26 @@ std::string field(const std::string& instruction) {
 }
 
 constexpr const char* brokenNestedTable =
-    ": the rows of a table within a cell are whole where they stand in its text: each \\nestcell "
-    "has its definition, and \\itap1 follows";
+    ": a nested table needs complete rows, with a definition for each \\nestcell, and "
+    "\\itap1 after them";
 
 TEST(TextFindings, KnowTheWordsOfOtherLanguagesForControlWords) {
     EXPECT_THAT(found("\\bold a"), ElementsAre("1 unknown-control-word: did you mean \\b? For a "
-                                               "backslash to be seen write \\\\"));
+                                               "literal backslash, write \\\\"));
     EXPECT_THAT(found("\\NewLine a"), ElementsAre("1 unknown-control-word: did you mean \\line? "
-                                                  "For a backslash to be seen write \\\\"));
+                                                  "For a literal backslash, write \\\\"));
     EXPECT_THAT(found("\\nbsp a"), ElementsAre("1 unknown-control-word: did you mean \\~? For a "
-                                               "backslash to be seen write \\\\"));
+                                               "literal backslash, write \\\\"));
     EXPECT_THAT(found("\\Centered", TextUse::Format),
                 ElementsAre("1 unknown-control-word: did you mean \\qc?"));
 }
 
 TEST(TextFindings, KnowControlWordsThatAreMisspelt) {
     EXPECT_THAT(found("\\highligth7 a"),
-                ElementsAre("1 unknown-control-word: did you mean \\highlight? For a backslash to "
-                            "be seen write \\\\"));
+                ElementsAre("1 unknown-control-word: did you mean \\highlight? For a literal "
+                            "backslash, write \\\\"));
     EXPECT_THAT(found("C:\\xyzzyx"),
-                ElementsAre("3 unknown-control-word: write \\\\ for a backslash to be seen"));
+                ElementsAre("3 unknown-control-word: write \\\\ for a literal backslash"));
 }
 
 TEST(TextFindings, SayNothingOfANestedTableThatIsWhole) {
@@ -101,8 +101,8 @@ TEST(TextFindings, TellOfTheBeginningOfADocument) {
 }
 
 TEST(TextFindings, TellOfBracesWithoutTheirPartners) {
-    EXPECT_THAT(found("a}b{"), ElementsAre("2 unbalanced-brace: write \\} for a brace to be seen",
-                                           "4 unbalanced-brace: write \\{ for a brace to be seen"));
+    EXPECT_THAT(found("a}b{"), ElementsAre("2 unbalanced-brace: write \\} for a literal brace",
+                                           "4 unbalanced-brace: write \\{ for a literal brace"));
 }
 
 TEST(TextFindings, SayNothingOfHyperlinksToPagesAndLetters) {
@@ -115,13 +115,13 @@ TEST(TextFindings, SayNothingOfHyperlinksToPagesAndLetters) {
 TEST(TextFindings, TellOfHyperlinksToFiles) {
     for (const char* target : {"\"c:\\\\a.exe\"", "c:\\\\a.exe", "\"file://a", "  \"ftp://a\" b"}) {
         EXPECT_THAT(messages(field("HYPERLINK " + std::string(target))),
-                    ElementsAre("\\fldinst brings a link to a file into the document."))
+                    ElementsAre("\\fldinst puts a link to a file into the document."))
             << target;
     }
 }
 
 TEST(TextFindings, TakeTheCharactersOfAnInstructionAsReadersDo) {
-    const std::vector<std::string> dde{"\\fldinst brings a link to a program into the document."};
+    const std::vector<std::string> dde{"\\fldinst puts a link to a program into the document."};
     EXPECT_EQ(messages(field("\\'44\\'44\\'45 a")), dde);
     EXPECT_EQ(messages(field("\\uc0\\u68\\u68\\u69  a")), dde);
     EXPECT_EQ(messages(field("\\uc1\\u68?\\u68?\\u69? a")), dde);
@@ -132,7 +132,7 @@ TEST(TextFindings, TakeTheCharactersOfAnInstructionAsReadersDo) {
 TEST(TextFindings, LookForWhatAnInstructionDoesAtItsBeginning) {
     const std::string blanks(2000, ' ');
     EXPECT_THAT(messages(field("INCLUDETEXT " + blanks + "a")),
-                ElementsAre("\\fldinst brings a link to a file into the document."));
+                ElementsAre("\\fldinst puts a link to a file into the document."));
     EXPECT_THAT(messages(field("PAGE " + blanks + "INCLUDETEXT a")), IsEmpty());
 }
 
@@ -164,8 +164,8 @@ TEST(TextFindings, TellWhatToWriteForACharacterThatTheCodePageLacks) {
 
 TEST(TextFindings, TellOfControlCharacters) {
     EXPECT_THAT(messages("a\x01\xC2\x81"),
-                ElementsAre("The character U+0001 is none that can be printed.",
-                            "The character U+0081 is none that can be printed."));
+                ElementsAre("U+0001 is a control character and will not be printed.",
+                            "U+0081 is a control character and will not be printed."));
     EXPECT_THAT(found("a\tb"), ElementsAre("2 control-character: write \\tab for a tab"));
     EXPECT_THAT(found("\xC2\x81", TextUse::FieldData), IsEmpty());
 }

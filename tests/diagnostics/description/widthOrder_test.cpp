@@ -30,29 +30,29 @@ bool isClean(const std::string& widths) {
 
 TEST(WidthOrder, MovesAWideFirstCellByOnePlaceWhereThatIsEnough) {
     EXPECT_EQ(widthOrderHint({80, 10, 10}, room).text,
-              "in the order 10, 80, 10 all cells get their widths");
+              "the order 10, 80, 10 gives all cells their widths");
     EXPECT_FALSE(isClean("80, 10, 10"));
     EXPECT_TRUE(isClean("10, 80, 10"));
 }
 
 TEST(WidthOrder, MovesItFurtherWhereItMust) {
     EXPECT_EQ(widthOrderHint({60, 20, 10, 10}, room).text,
-              "in the order 20, 10, 60, 10 all cells get their widths");
+              "the order 20, 10, 60, 10 gives all cells their widths");
     EXPECT_FALSE(isClean("20, 60, 10, 10"));
     EXPECT_TRUE(isClean("20, 10, 60, 10"));
 }
 
 TEST(WidthOrder, SortsTheCellsWhereOneMoveIsNotEnough) {
     EXPECT_EQ(widthOrderHint({45, 40, 5, 5, 5}, room).text,
-              "in the order 5, 5, 5, 40, 45 all cells get their widths");
+              "the order 5, 5, 5, 40, 45 gives all cells their widths");
     EXPECT_TRUE(isClean("5, 5, 5, 40, 45"));
 }
 
 TEST(WidthOrder, SharesWhatIsLeftAmongTheCellsWithoutAWidth) {
     EXPECT_EQ(widthOrderHint({80, none, none}, room).text,
-              "with widths for all cells, in the order 10, 80, 10, all of them get theirs");
+              "give all cells a width, in the order 10, 80, 10");
     EXPECT_EQ(widthOrderHint({75, none, none, none}, room).text,
-              "with widths for all cells, in the order 9, 8, 75, 8, all of them get theirs");
+              "give all cells a width, in the order 9, 8, 75, 8");
     EXPECT_TRUE(isClean("9, 8, 75, 8"));
 }
 
@@ -79,12 +79,12 @@ TEST(WidthOrder, IsRightWheneverItNamesOne) {
         }
         percents.emplace_back(rest);
         const std::string hint = widthOrderHint(percents, room).text;
-        const std::string begin = "in the order ";
+        const std::string begin = "the order ";
         if (hint.empty()) {
             continue;
         }
         ++named;
-        const std::string order = hint.substr(begin.size(), hint.find(" all") - begin.size());
+        const std::string order = hint.substr(begin.size(), hint.find(" gives") - begin.size());
         EXPECT_TRUE(isClean(order)) << order;
     }
     EXPECT_GT(named, 50);

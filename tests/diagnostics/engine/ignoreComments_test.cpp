@@ -93,16 +93,16 @@ std::vector<std::string> messagesAbout(const std::string& comment) {
 
 TEST(IgnoreComments, ThatCannotBeFollowedAreReported) {
     EXPECT_THAT(messagesAbout("; quorvane: ignore wrong-colour, wrong-border"),
-                ElementsAre("This comment cannot be followed. wrong-colour is not a diagnostic. "
+                ElementsAre("Invalid quorvane comment: there is no diagnostic wrong-colour. "
                             "did you mean wrong-color?"));
     EXPECT_THAT(messagesAbout("; quorvane: ingore wrong-color"),
-                ElementsAre("This comment cannot be followed. ingore is not a command. did you "
+                ElementsAre("Invalid quorvane comment: ingore is not a command. did you "
                             "mean ignore?"));
     EXPECT_THAT(messagesAbout("; quorvane: ignore"),
-                ElementsAre("This comment cannot be followed. No identifier follows ignore. write "
-                            "the identifiers that stand in brackets in the report"));
+                ElementsAre("Invalid quorvane comment: the identifier is missing. write "
+                            "the identifier that the report shows in brackets"));
     EXPECT_THAT(messagesAbout("; quorvane:"),
-                ElementsAre("This comment cannot be followed. It says nothing. write ignore and an "
+                ElementsAre("Invalid quorvane comment: the command is missing. write ignore and an "
                             "identifier"));
 }
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "quorvane/base/text/codePage1252.h"
+#include "quorvane/diagnostics/engine/DiagnosticEngine.h"
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
 #include "quorvane/driver/CRtfDriver.h"
 #include "tests/diagnostics/randomDescriptions.h"
@@ -19,22 +20,22 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-std::string shown(const Diagnostic& finding) {
-    const Place& place = finding.place;
+std::string shown(const Diagnostic& diagnostic) {
+    const Place& place = diagnostic.place;
     return std::to_string(place.line) + ":" + std::to_string(place.column) + "+" +
            std::to_string(place.length) + "@" + std::to_string(place.offset) + " " +
-           std::string(diagnosticRule(finding.id).identifier);
+           std::string(diagnosticRule(diagnostic.id).identifier);
 }
 
 std::vector<std::string> found(const std::string& rtf) {
     std::vector<std::string> list;
-    for (const Diagnostic& finding : checkRtf(rtf)) {
-        list.push_back(shown(finding));
+    for (const Diagnostic& diagnostic : checkRtf(rtf)) {
+        list.push_back(shown(diagnostic));
     }
     return list;
 }
 
-/// A document with one font, one colour and one style, and the text.
+/// A document with one font, one color and one style, and the text.
 std::string documentOf(const std::string& text) {
     return "{\\rtf1{\\fonttbl{\\f0 Arial;}}{\\colortbl;\\red1;}{\\stylesheet{\\s1 a;}}\n" + text +
            "}";
@@ -46,7 +47,7 @@ TEST(RtfCheck, FindsNothingInASoundDocument) {
     EXPECT_THAT(found("\r\n {\\rtf1 Total}\r\n"), IsEmpty());
 }
 
-TEST(RtfCheck, TellsLineColumnAndByteOffset) {
+TEST(RtfCheck, ReportsLineColumnAndByteOffset) {
     EXPECT_THAT(found(documentOf("a\r\nb\n\\cf7 x")), ElementsAre("4:1+4@73 unknown-color"));
 }
 
@@ -58,16 +59,17 @@ TEST(RtfCheck, FindsTheSameInPieces) {
     const std::vector<std::string> whole = found(rtf);
     EXPECT_EQ(whole.size(), 7u);
     for (std::size_t size = 1; size < rtf.size(); ++size) {
-        std::vector<Diagnostic> findings;
-        RtfCheck check([&](Diagnostic finding) { findings.push_back(std::move(finding)); });
+        std::vector<Diagnostic> diagnostics;
+        RtfCheck check(
+            [&](Diagnostic diagnostic) { diagnostics.push_back(std::move(diagnostic)); });
         for (std::size_t at = 0; at < rtf.size(); at += size) {
             check.feed(std::string_view(rtf).substr(at, size));
         }
         check.finish();
-        sortByPlace(findings);
+        sortByPlace(diagnostics);
         std::vector<std::string> pieces;
-        for (const Diagnostic& finding : findings) {
-            pieces.push_back(shown(finding));
+        for (const Diagnostic& diagnostic : diagnostics) {
+            pieces.push_back(shown(diagnostic));
         }
         ASSERT_EQ(pieces, whole) << size;
     }
@@ -86,37 +88,37 @@ TEST(RtfCheck, WantsGroupsClosed) {
     EXPECT_THAT(found("{\\rtf1 {\\b a"), ElementsAre("1:8+1@7 unclosed-group"));
 }
 
-/// The message and the hint of the first finding.
-std::string told(const std::string& rtf) {
-    const std::vector<Diagnostic> findings = checkRtf(rtf);
-    return findings.empty() ? "" : findings[0].message + " | " + findings[0].hint;
+/// The message and the hint of the first diagnostic.
+std::string reported(const std::string& rtf) {
+    const std::vector<Diagnostic> diagnostics = checkRtf(rtf);
+    return diagnostics.empty() ? "" : diagnostics[0].message + " | " + diagnostics[0].hint;
 }
 
 TEST(RtfCheck, SaysInWhichRowAGroupWasLeftOpen) {
     const std::string row = "{\\trowd\\cellx9 a\\cell\\row}\n";
     const std::string broken = "{\\trowd\\cellx9 {a\\cell\\row}\n";
-    EXPECT_EQ(told(documentOf(row + row + broken + row)),
-              "The group is not closed. | a group is open where the row of line 4 ends that was "
-              "not at the ends of the rows before");
-    EXPECT_EQ(told(documentOf(broken + row)),
-              "The group is not closed. | a group is open where the row of line 2 ends that was "
-              "not where it begins");
-    EXPECT_EQ(told(documentOf(row + "{a\n")), "The group is not closed. | ");
-    EXPECT_EQ(told("{\\rtf1 " + row + "{"), "The group is not closed. | ");
+    EXPECT_EQ(reported(documentOf(row + row + broken + row)),
+              "The group is not closed. | when the row on line 4 ends, a group is open that "
+              "was not open at the end of earlier rows");
+    EXPECT_EQ(reported(documentOf(broken + row)),
+              "The group is not closed. | when the row on line 2 ends, a group is open that "
+              "was not open at its beginning");
+    EXPECT_EQ(reported(documentOf(row + "{a\n")), "The group is not closed. | ");
+    EXPECT_EQ(reported("{\\rtf1 " + row + "{"), "The group is not closed. | ");
 }
 
 TEST(RtfCheck, CountsInWords) {
-    EXPECT_EQ(told(documentOf("\\trowd\\cellx9 a\\cell b\\cell\\row")),
-              "The row has 2 cells and 1 cell definition. | ");
-    EXPECT_EQ(told(documentOf("\\trowd\\cellx8\\cellx9 a\\cell\\row")),
-              "The row has 1 cell and 2 cell definitions. | ");
+    EXPECT_EQ(reported(documentOf("\\trowd\\cellx9 a\\cell b\\cell\\row")),
+              "The row has 2 cells but 1 cell definition. | ");
+    EXPECT_EQ(reported(documentOf("\\trowd\\cellx8\\cellx9 a\\cell\\row")),
+              "The row has 1 cell but 2 cell definitions. | ");
 }
 
 TEST(RtfCheck, NamesTheNumberThatIsLeftOut) {
-    EXPECT_EQ(told("{\\rtf1{\\fonttbl{\\f0 a;}{\\f b;}}}"),
-              "The font 0 is in the font table already, with another definition. | ");
-    EXPECT_EQ(told("{\\rtf1{\\stylesheet{\\s0 a;}{\\s b;}}}"),
-              "The style s0 is in the stylesheet already. | ");
+    EXPECT_EQ(reported("{\\rtf1{\\fonttbl{\\f0 a;}{\\f b;}}}"),
+              "The font 0 is already in the font table, with another definition. | ");
+    EXPECT_EQ(reported("{\\rtf1{\\stylesheet{\\s0 a;}{\\s b;}}}"),
+              "The style s0 is already in the stylesheet. | ");
 }
 
 TEST(RtfCheck, WantsWholeControlsAndData) {
@@ -386,10 +388,10 @@ TEST(RtfCheck, FindsNothingInTheGoldenDocumentsButWhatTheirCasesBreak) {
             continue;
         }
         const auto broken = brokenDocuments.find(entry.path().filename().string());
-        const std::vector<std::string> findings = found(bytesOf(entry.path() / "expected.rtf"));
-        EXPECT_EQ(findings.empty(), broken == brokenDocuments.end()) << entry.path();
-        for (const std::string& finding : findings) {
-            EXPECT_THAT(finding, testing::EndsWith(" " + broken->second)) << entry.path();
+        const std::vector<std::string> diagnostics = found(bytesOf(entry.path() / "expected.rtf"));
+        EXPECT_EQ(diagnostics.empty(), broken == brokenDocuments.end()) << entry.path();
+        for (const std::string& diagnostic : diagnostics) {
+            EXPECT_THAT(diagnostic, testing::EndsWith(" " + broken->second)) << entry.path();
         }
     }
 }

@@ -1,19 +1,19 @@
-// A text has an error for the check exactly when the library rejects it.
+// The check of a text has an error exactly when the library rejects it, and has the library's own.
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include <algorithm>
-#include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/diagnostics/description/DescriptionCheck.h"
-#include "quorvane/diagnostics/description/judgement.h"
-#include "quorvane/diagnostics/engine/SourceText.h"
+#include "quorvane/diagnostics/description/ViolationReport.h"
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
 #include "quorvane/diagnostics/stylesheet/StyleSheetCheck.h"
 #include "quorvane/driver/CRtfDriver.h"
+#include "quorvane/driver/driverErrorTable.h"
 #include "quorvane/stylesheet/stylesheetParser.h"
 #include "tests/diagnostics/randomDescriptions.h"
 #include "tests/support/FakePlatform.h"
@@ -21,100 +21,79 @@
 namespace quorvane {
 namespace {
 
-using testing::ElementsAre;
-
-bool hasError(const std::vector<Diagnostic>& findings) {
-    return std::any_of(findings.begin(), findings.end(), [](const Diagnostic& finding) {
-        return finding.severity == Severity::Error;
+bool hasError(const std::vector<Diagnostic>& diagnostics) {
+    return std::any_of(diagnostics.begin(), diagnostics.end(), [](const Diagnostic& diagnostic) {
+        return diagnostic.severity == Severity::Error;
     });
 }
 
-// What becomes of findings where the library judges otherwise, which no text is known for.
-class JudgedFindings : public testing::Test {
+bool has(const std::vector<Diagnostic>& diagnostics, DiagnosticId id) {
+    return std::any_of(diagnostics.begin(), diagnostics.end(),
+                       [id](const Diagnostic& diagnostic) { return diagnostic.id == id; });
+}
+
+/// True when the error itself is reported, on its line if it has one.
+bool isReported(const RtfError& error, const std::vector<Diagnostic>& diagnostics) {
+    return std::any_of(diagnostics.begin(), diagnostics.end(), [&](const Diagnostic& diagnostic) {
+        return diagnostic.severity == Severity::Error && diagnostic.message == error.description &&
+               (error.line == 0 || diagnostic.place.line == error.line);
+    });
+}
+
+/// Compares the check of descriptions with a driver that checks.
+class CheckAndDriver : public testing::Test {
 protected:
-    /// The findings that are left, each as its line, its identifier and its message.
-    std::vector<std::string> judged(const std::vector<Diagnostic>& findings,
-                                    const std::vector<RtfError>& errors) const {
-        std::vector<std::string> list;
-        for (const Diagnostic& finding :
-             judgedFindings(findings, errors, DiagnosticId::Rejected, source)) {
-            list.push_back(std::to_string(finding.place.line) + " " +
-                           std::string(diagnosticRule(finding.id).identifier) + " " +
-                           finding.message);
-        }
-        return list;
-    }
-
-    static RtfError errorIn(int line) {
-        RtfError error(4711, "A new error");
-        error.line = line;
-        return error;
-    }
-
-    const SourceText source{"(doc\n(row\ndoc)"};
-    const Diagnostic error{DiagnosticId::NoRow, Severity::Error, source.place(0, 4), "none", ""};
-    const Diagnostic warning{DiagnosticId::EmptyText, Severity::Warning, source.place(5, 9),
-                             "empty", ""};
-};
-
-TEST_F(JudgedFindings, HaveNoErrorInWhatTheLibraryAccepts) {
-    EXPECT_THAT(judged({error, warning}, {}), ElementsAre("2 empty-text empty"));
-}
-
-TEST_F(JudgedFindings, StayWhereTheLibraryRejectsTheTextToo) {
-    EXPECT_THAT(judged({error, warning}, {errorIn(3)}),
-                ElementsAre("1 no-row none", "2 empty-text empty"));
-}
-
-TEST_F(JudgedFindings, HoldTheLibrarysErrorsInTheirPlacesWhereNoneIsAnError) {
-    EXPECT_THAT(
-        judged({warning}, {errorIn(3), errorIn(1)}),
-        ElementsAre("1 rejected A new error", "2 empty-text empty", "3 rejected A new error"));
-}
-
-TEST_F(JudgedFindings, PutAnErrorWithoutALineIntoTheFirstAndOneBeyondTheEndIntoTheLast) {
-    EXPECT_THAT(judged({}, {errorIn(4), errorIn(0)}),
-                ElementsAre("1 rejected A new error", "3 rejected A new error"));
-}
-
-/// Compares the check with a driver that checks.
-class Judgement : public testing::Test {
-protected:
-    Judgement() {
+    CheckAndDriver() {
         driver->setErroneousInput(true);
-        driver->setNotifyErrorHandler([this](CRtfDriver&, const RtfError&) { rejected = true; });
+        driver->setNotifyErrorHandler(
+            [this](CRtfDriver&, const RtfError& error) { errors.push_back(error); });
     }
-    ~Judgement() override { driver->setNotifyErrorHandler({}); }
+    ~CheckAndDriver() override { driver->setNotifyErrorHandler({}); }
 
     void compare(const std::string& text) {
-        rejected = false;
+        errors.clear();
         driver->ParseFromMemmory(text);
-        ++(rejected ? rejections : acceptances);
-        ASSERT_EQ(hasError(checkDescription(text)), rejected) << text;
-        const bool foundAlone = hasError(findingsWithoutDriver(text));
-        ASSERT_FALSE(foundAlone && !rejected) << "an error in what is accepted:\n" << text;
-        missed += rejected && !foundAlone ? 1 : 0;
+        ++(errors.empty() ? acceptances : rejections);
+        const std::vector<Diagnostic> diagnostics = checkDescription(text);
+        ASSERT_EQ(hasError(diagnostics), !errors.empty()) << text;
+        if (!errors.empty() && !isReported(errors.front(), diagnostics)) {
+            ASSERT_TRUE(isReportedOtherwise(errors.front(), diagnostics))
+                << errors.front().line << ": " << errors.front().description << "\n"
+                << text;
+            ++otherReports;
+        }
+    }
+
+    /// A misspelled para-text is reported instead of the text that is missing then. A node that
+    /// stands where it may not goes by the rules of its own kind, in the driver by those of its
+    /// place.
+    static bool isReportedOtherwise(const RtfError& error,
+                                    const std::vector<Diagnostic>& diagnostics) {
+        const bool lacksText = error.description == driverErrorText(DriverFault::NoParaText);
+        return (lacksText && has(diagnostics, DiagnosticId::WrongKeyword)) ||
+               has(diagnostics, DiagnosticId::WrongContext) ||
+               has(diagnostics, DiagnosticId::NodeInParagraph);
     }
 
     FakePlatform platform;
     Ref<CRtfDriver> driver = CRtfDriver::create(platform);
-    bool rejected = false;
+    std::vector<RtfError> errors;
     int rejections = 0;
     int acceptances = 0;
-    int missed = 0;
+    int otherReports = 0;
 };
 
-TEST_F(Judgement, OfGeneratedDescriptionsIsTheDrivers) {
+TEST_F(CheckAndDriver, AgreeOnGeneratedDescriptions) {
     RandomDescriptions random(1);
     for (int i = 0; i < 2000; ++i) {
         ASSERT_NO_FATAL_FAILURE(compare(random.description()));
     }
     EXPECT_GT(rejections, 300);
     EXPECT_GT(acceptances, 300);
-    EXPECT_EQ(missed, 0);
+    EXPECT_LT(otherReports, rejections / 10);
 }
 
-TEST_F(Judgement, OfMutatedDescriptionsIsTheDrivers) {
+TEST_F(CheckAndDriver, AgreeOnMutatedDescriptions) {
     RandomDescriptions random(2);
     for (int i = 0; i < 1500; ++i) {
         std::string text = random.description();
@@ -123,20 +102,18 @@ TEST_F(Judgement, OfMutatedDescriptionsIsTheDrivers) {
     }
     EXPECT_GT(rejections, 300);
     EXPECT_GT(acceptances, 50);
-    EXPECT_EQ(missed, 0);
+    EXPECT_LT(otherReports, rejections / 10);
 }
 
-/// A driver that does not check rejects nothing that the check finds nothing in, not even a
-/// warning.
-TEST_F(Judgement, OfADriverThatDoesNotCheckIsNotStricter) {
+TEST_F(CheckAndDriver, ReportSomethingWhereADriverThatDoesNotCheckHasAnError) {
     RandomDescriptions random(9);
     driver->setErroneousInput(false);
     for (int i = 0; i < 2000; ++i) {
-        rejected = false;
+        errors.clear();
         const std::string text = random.mutated(random.description(), random.below(3));
         driver->ParseFromMemmory(text);
-        ++(rejected ? rejections : acceptances);
-        if (rejected) {
+        ++(errors.empty() ? acceptances : rejections);
+        if (!errors.empty()) {
             ASSERT_FALSE(checkDescription(text).empty()) << text;
         }
     }
@@ -144,7 +121,39 @@ TEST_F(Judgement, OfADriverThatDoesNotCheckIsNotStricter) {
     EXPECT_GT(acceptances, 200);
 }
 
-TEST_F(Judgement, OfMutatedGoldenDescriptionsIsTheDrivers) {
+/// A document whose number is not the first one's is not built.
+TEST_F(CheckAndDriver, AgreeOnADocumentThatComesAfterANestedOne) {
+    compare("(doc=1)\n(r\n(c\n(doc\ndoc)\nc)\nr)\n(doc\n(r\n(c\nc)\nr)\ndoc)");
+    EXPECT_EQ(rejections, 1);
+}
+
+TEST_F(CheckAndDriver, AgreeOnManyErrorsOfTheBuild) {
+    std::string cells;
+    for (int i = 0; i < 100; ++i) {
+        cells += "(c\n(cw=99999999)\nc)\n";
+    }
+    const std::string text = "(doc\n(r\n" + cells + "r)\ndoc)";
+    compare(text);
+    const std::vector<Diagnostic> diagnostics = checkDescription(text);
+    EXPECT_EQ(
+        std::count_if(diagnostics.begin(), diagnostics.end(),
+                      [](const Diagnostic& each) { return each.id == DiagnosticId::Overflow; }),
+        100);
+}
+
+/// What the driver rejects, the tables of diagnostics have in the same words.
+TEST(TextsOfErrors, AreThoseOfTheDriver) {
+    for (int i = 0; i < static_cast<int>(DriverFault::Other); ++i) {
+        const auto fault = static_cast<DriverFault>(i);
+        if (diagnosticOf(fault) != DiagnosticId::Rejected) {
+            EXPECT_EQ(diagnosticRule(diagnosticOf(fault)).message,
+                      driverError(fault, "{0}").description)
+                << i;
+        }
+    }
+}
+
+TEST_F(CheckAndDriver, AgreeOnMutatedGoldenDescriptions) {
     RandomDescriptions random(3);
     for (const std::string& text : textsBelow(QUORVANE_GOLDEN_FOLDER, ".rtfspec")) {
         ASSERT_NO_FATAL_FAILURE(compare(text));
@@ -155,10 +164,10 @@ TEST_F(Judgement, OfMutatedGoldenDescriptionsIsTheDrivers) {
     }
     EXPECT_GT(rejections, 200);
     EXPECT_GT(acceptances, 60);
-    EXPECT_EQ(missed, 0);
+    EXPECT_LT(otherReports, rejections / 10);
 }
 
-TEST_F(Judgement, OfAnyBytesIsTheDrivers) {
+TEST_F(CheckAndDriver, AgreeOnAnyBytes) {
     RandomDescriptions random(4);
     for (int i = 0; i < 300; ++i) {
         std::string bytes;
@@ -168,11 +177,11 @@ TEST_F(Judgement, OfAnyBytesIsTheDrivers) {
         ASSERT_NO_FATAL_FAILURE(compare(bytes));
         ASSERT_NO_FATAL_FAILURE(compare("(doc\n(r\n(c\n(p\n(pt=" + bytes + ")\np)\nc)\nr)\ndoc)"));
     }
-    EXPECT_EQ(missed, 0);
+    EXPECT_LT(otherReports, rejections / 10);
 }
 
 /// Compares the check of stylesheets with their loading.
-class SheetJudgement : public testing::Test {
+class CheckAndLoading : public testing::Test {
 protected:
     void compare(const std::string& text) {
         bool rejected = false;
@@ -215,7 +224,7 @@ std::string soundSheet(RandomDescriptions& random) {
     return text;
 }
 
-TEST_F(SheetJudgement, OfGeneratedStyleSheetsIsThatOfLoadingThem) {
+TEST_F(CheckAndLoading, AgreeOnGeneratedStyleSheets) {
     RandomDescriptions random(5);
     for (int i = 0; i < 4000; ++i) {
         ASSERT_NO_FATAL_FAILURE(compare(randomSheet(random)));
@@ -226,7 +235,7 @@ TEST_F(SheetJudgement, OfGeneratedStyleSheetsIsThatOfLoadingThem) {
     EXPECT_GT(acceptances, 400);
 }
 
-TEST_F(SheetJudgement, OfMutatedGoldenStyleSheetsIsThatOfLoadingThem) {
+TEST_F(CheckAndLoading, AgreeOnMutatedGoldenStyleSheets) {
     RandomDescriptions random(6);
     for (const std::string& text : textsBelow(QUORVANE_GOLDEN_FOLDER, ".rtfss")) {
         for (int i = 0; i < 50; ++i) {

@@ -1,4 +1,4 @@
-#include "quorvane/diagnostics/description/TrialPlatform.h"
+#include "quorvane/diagnostics/description/NullPlatform.h"
 
 #include <gtest/gtest.h>
 
@@ -7,16 +7,16 @@
 namespace quorvane {
 namespace {
 
-TEST(TrialPlatform, HasNoFiles) {
-    TrialPlatform platform;
+TEST(NullPlatform, HasNoFiles) {
+    NullPlatform platform;
     EXPECT_FALSE(platform.fileExists("a.rtf"));
     EXPECT_EQ(errorNumberOf([&] { platform.readFile("a.rtf"); }), 53);
     EXPECT_EQ(errorNumberOf([&] { platform.deleteFile("a.rtf"); }), 53);
     EXPECT_EQ(errorNumberOf([&] { platform.createFile("a.rtf"); }), 75);
 }
 
-TEST(TrialPlatform, TellsOfNoProgram) {
-    TrialPlatform platform;
+TEST(NullPlatform, HasNoProgram) {
+    NullPlatform platform;
     EXPECT_EQ(platform.programFolder(), "");
     EXPECT_EQ(platform.programFileName(), "");
     EXPECT_EQ(platform.programVersion().major, 0);

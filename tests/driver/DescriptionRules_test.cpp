@@ -1,8 +1,9 @@
-#include "quorvane/driver/DescriptionChecks.h"
+#include "quorvane/driver/DescriptionRules.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <string>
+#include <vector>
 
 #include "tests/driver/ParsedDescription.h"
 #include "tests/driver/treeText.h"
@@ -10,26 +11,44 @@
 namespace quorvane {
 namespace {
 
-const Vocabulary vocabulary;
-const DescriptionChecks checks(vocabulary);
+using testing::ElementsAre;
 
-/// What a check finds in a description that is read without an error.
-template <class Check>
-ToldError findingOf(const std::string& text, Check check) {
-    const ReadDescription read(lines(text));
+/// What a walk raises for a description that is read without an error.
+template <class Walk>
+ToldError firstErrorOf(const std::string& text, Walk walk) {
+    ReadDescription read(lines(text));
     EXPECT_EQ(read.error, ToldError()) << text;
-    return errorOf([&] { check(read.root().child(1)); });
+    const DescriptionRules rules(originalDialect(), raiseViolation);
+    return errorOf([&] { walk(rules, read.root().child(1)); });
 }
 
-/// The finding of the syntax walk.
+/// The first error of the syntax walk.
 ToldError syntaxOf(const std::string& text) {
-    return findingOf(text, [](const DescriptionNode& doc) { checks.docWalkerSyntax(doc); });
+    return firstErrorOf(text, [](const DescriptionRules& rules, DescriptionNode& doc) {
+        rules.docWalkerSyntax(doc);
+    });
 }
 
-/// The finding of the semantic walk.
+/// The first error of the semantic walk.
 ToldError semanticsOf(const std::string& text) {
-    return findingOf(
-        text, [](const DescriptionNode& doc) { checks.treeWalkerSemantic(doc, NodeKind::Doc); });
+    return firstErrorOf(text, [](const DescriptionRules& rules, DescriptionNode& doc) {
+        rules.treeWalkerSemantic(doc);
+    });
+}
+
+/// All violations that the walks report in turn, each as its line and its text.
+std::vector<std::string> violationsOf(const std::string& text, MisplacedNodes misplaced) {
+    ReadDescription read(lines(text));
+    std::vector<std::string> violations;
+    const auto keep = [&](const Violation& violation) {
+        violations.push_back(std::to_string(violation.error.line) + " " +
+                             violation.error.description);
+    };
+    const DescriptionRules rules(originalDialect(), keep, misplaced);
+    rules.docWalkerSyntax(read.root().child(1));
+    rules.treeWalkerSemantic(read.root().child(1));
+    rules.checkBuiltValues(read.root().child(1));
+    return violations;
 }
 
 constexpr const char* docWalker = "CRtfDriver.docWalkerSyntax";
@@ -297,9 +316,11 @@ TEST(DescriptionSemantics, RefuseAValueThatIsNeitherTextNorNumber) {
     for (const char* key : {"para-text", "para-style", "para-alignment", "cell-alignment",
                             "cell-style", "para-marked-field", "cell-marked-field"}) {
         DescriptionTree tree;
-        tree.addLeaf(tree.root(),
-                     {.key = vocabulary.leafKey(key), .kind = LeafKind::Neither, .line = 7});
-        EXPECT_EQ(errorOf([&] { checks.treeWalkerSemantic(tree.root(), NodeKind::Para); }),
+        tree.addLeaf(
+            tree.root(),
+            {.key = originalVocabulary().leafKey(key), .kind = LeafKind::Neither, .line = 7});
+        const DescriptionRules rules(originalDialect(), raiseViolation);
+        EXPECT_EQ(errorOf([&] { rules.treeWalkerSemantic(tree.root()); }),
                   driverErrorOf(eWrongValue,
                                 "Value for " + std::string(key) + " should be numeric or string.",
                                 valueWalker, 7));
@@ -331,6 +352,41 @@ TEST(DescriptionSemantics, RefuseADocInEveryNode) {
 
 TEST(DescriptionSemantics, DoNotLookIntoANodeThatStandsInTheWrongPlace) {
     EXPECT_EQ(semanticsOf("(doc|(doc|(paper-width=wide)|doc)|doc)"), wrongPlace(2));
+}
+
+TEST(DescriptionRules, ReportEveryViolationInTheOrderOfTheWalks) {
+    EXPECT_THAT(
+        violationsOf("(doc|(z=a)|(b=1)|(r|(rb=crimson)|r)|(r|(c|(ca=99)|(cw=1e10)|(p|(ps=x)|p)|"
+                     "c)|r)|doc)",
+                     MisplacedNodes::ByPlace),
+        ElementsAre("3 b isn't a valid keyword.", "2 z isn't a valid keyword.",
+                    "4 Must have at least one cell.", "11 In a para group para-text is mandatory.",
+                    "2 Value for z should be numeric.", "5 crimson isn't a recognized color.",
+                    "9 99 isn't a recognized alignment.", "10 Overflow"));
+}
+
+TEST(DescriptionRules, HoldForAMisplacedNodeByItsPlaceOrByItsKind) {
+    const std::string text = "(doc|(doc|(paper-width=1)|(r|(c|c)|r)|doc)|doc)";
+    EXPECT_THAT(violationsOf(text, MisplacedNodes::ByPlace),
+                ElementsAre("3 paper-width isn't a valid keyword.",
+                            "5 In a para group para-text is mandatory.",
+                            "2 Invalid node declaration in this context\r\n"));
+    EXPECT_THAT(violationsOf(text, MisplacedNodes::ByKind),
+                ElementsAre("2 Invalid node declaration in this context\r\n"));
+}
+
+TEST(DescriptionRules, ReachNodesThatAreNestedAsDeepAsCanBe) {
+    DescriptionTree tree;
+    DescriptionNode* innermost = &tree.root();
+    for (int depth = 0; depth < 200000; ++depth) {
+        innermost = &tree.AddNode(*innermost, NodeKind::Doc, 1, 1);
+    }
+    int misplaced = 0;
+    const DescriptionRules rules(
+        originalDialect(), [&](const Violation&) { ++misplaced; }, MisplacedNodes::ByKind);
+    rules.docWalkerSyntax(tree.root());
+    rules.treeWalkerSemantic(tree.root());
+    EXPECT_EQ(misplaced, 200000);
 }
 
 TEST(DescriptionSemantics, MissNeitherRowsNorTexts) {

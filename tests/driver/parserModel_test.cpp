@@ -1,4 +1,4 @@
-// The reader compared with a plain model of it, on lines of chance.
+// The parser compared with a plain model of it, on random lines.
 
 #include <gtest/gtest.h>
 
@@ -131,7 +131,7 @@ constexpr std::int32_t duplicate = 457;
 constexpr std::int32_t wrongNode = -2147221504 + eWrongNodeType;
 constexpr std::int32_t wrongSyntax = -2147221504 + eSyntaxError;
 
-TEST(readerModel, ReadsAnyLinesAsTheReaderDoes) {
+TEST(parserModel, ReadsAnyLinesAsTheParserDoes) {
     Lines random(1);
     Tally tally;
     for (int i = 0; i < 20000; ++i) {
@@ -148,7 +148,7 @@ TEST(readerModel, ReadsAnyLinesAsTheReaderDoes) {
     EXPECT_GT(tally.nodes, 40000u);
 }
 
-TEST(readerModel, ReadsDescriptionsWithFaultsAsTheReaderDoes) {
+TEST(parserModel, ReadsDescriptionsWithFaultsAsTheParserDoes) {
     Lines random(2);
     Tally tally;
     for (int i = 0; i < 3000; ++i) {
@@ -185,7 +185,7 @@ std::vector<SourceLine> manyNodes(Lines& random, std::size_t kind) {
     return lines;
 }
 
-TEST(readerModel, ReachesTheLimitsWhereTheReaderDoes) {
+TEST(parserModel, ReachesTheLimitsWhereTheParserDoes) {
     static const char* const messages[] = {"Too many row nodes.", "Too many cell nodes.",
                                            "Too many para nodes."};
     Lines random(3);
@@ -199,7 +199,7 @@ TEST(readerModel, ReachesTheLimitsWhereTheReaderDoes) {
     }
 }
 
-TEST(readerModel, RepairsAnyLinesAsTheReaderDoes) {
+TEST(parserModel, RepairsAnyLinesAsTheParserDoes) {
     static const char* const words[] = {"(r", "(r", "(r", "c)", "c)", "r)", "(c", "(row", "(r ;"};
     Lines random(4);
     int repairs = 0;

@@ -1,4 +1,4 @@
-#include "quorvane/driver/DescriptionReader.h"
+#include "quorvane/driver/DescriptionParser.h"
 
 #include <gmock/gmock.h>
 
@@ -55,7 +55,7 @@ std::vector<std::string> repaired(const std::string& text) {
     return result;
 }
 
-TEST(DescriptionReader, ReadsACompleteDescription) {
+TEST(DescriptionParser, ReadsACompleteDescription) {
     EXPECT_EQ(treeOf("(doc|(paper-width=11906)|(paper-height=16838)|(top-margin=1440)|"
                      "(r ; header row|(rb=light-yellow)|(rbb=thin)|"
                      "(c|(cw=50)|(ca=centered)|(p|(pt=Name)|(ps=1)|p)|(p|(pt=Surname)|p)|c)|"
@@ -68,31 +68,31 @@ TEST(DescriptionReader, ReadsACompleteDescription) {
               "2002{cell-width=50 3003{para-text=\"Total\" para-alignment=\"right\"}}}}}");
 }
 
-TEST(DescriptionReader, ReadsNothingOfNoLines) {
+TEST(DescriptionParser, ReadsNothingOfNoLines) {
     EXPECT_EQ(treeOf(""), "{}");
 }
 
-TEST(DescriptionReader, NumbersTheNodesOfEachKindThroughTheDescription) {
+TEST(DescriptionParser, NumbersTheNodesOfEachKindThroughTheDescription) {
     EXPECT_EQ(treeOf("(doc|(r|(c|(p|p)|c)|(c|c)|r)|(r|(c|(p|p)|(p|p)|c)|r)|doc)"),
               "{1{1001{2001{3001{}} 2002{}} 1002{2003{3002{} 3003{}}}}}");
 }
 
-TEST(DescriptionReader, NumbersFromTheStartWithEveryReader) {
+TEST(DescriptionParser, NumbersFromTheStartWithEveryParser) {
     EXPECT_EQ(treeOf("(doc|(r|r)|doc)"), "{1{1001{}}}");
     EXPECT_EQ(treeOf("(doc|(r|r)|doc)"), "{1{1001{}}}");
 }
 
-TEST(DescriptionReader, ReadsNodeNamesInAnyCase) {
+TEST(DescriptionParser, ReadsNodeNamesInAnyCase) {
     EXPECT_EQ(treeOf("(doc|(R|(CELL|(Para|PARA)|Cell)|ROW)|(Row|r)|DOC)"),
               "{1{1001{2001{3001{}}} 1002{}}}");
 }
 
-TEST(DescriptionReader, ReadsKeysAsTheyAreWritten) {
+TEST(DescriptionParser, ReadsKeysAsTheyAreWritten) {
     EXPECT_EQ(treeOf("(doc|(r|(c|(p|(PT=Total)|(Para-Style=x)|p)|c)|r)|doc)"),
               "{1{1001{2001{3001{PT=\"Total\" Para-Style=\"x\"}}}}}");
 }
 
-TEST(DescriptionReader, ReadsShortAndLongKeysAsTheSame) {
+TEST(DescriptionParser, ReadsShortAndLongKeysAsTheSame) {
     EXPECT_EQ(treeOf("(rb=red)|(rtb=thin)|(rbb=thin)|(rlb=thin)|(rrb=thin)"),
               treeOf("(row-backcolor=red)|(row-top-border=thin)|(row-bottom-border=thin)|"
                      "(row-left-border=thin)|(row-right-border=thin)"));
@@ -104,16 +104,16 @@ TEST(DescriptionReader, ReadsShortAndLongKeysAsTheSame) {
               treeOf("(para-text=x)|(para-style=x)|(para-alignment=x)|(para-marked-field=x)"));
 }
 
-TEST(DescriptionReader, ExpandsTheNamesOfNodesAsKeysToo) {
+TEST(DescriptionParser, ExpandsTheNamesOfNodesAsKeysToo) {
     EXPECT_EQ(treeOf("(r=1)|(c=2)|(p=3)"), "{row=1 cell=2 para=3}");
 }
 
-TEST(DescriptionReader, ReadsLeavesBeforeBetweenAndBehindChildren) {
+TEST(DescriptionParser, ReadsLeavesBeforeBetweenAndAfterChildren) {
     EXPECT_EQ(treeOf("(doc|(r|(c|c)|(rb=red)|(c|c)|(rtb=thin)|r)|doc)"),
               "{1{1001{2001{} row-backcolor=\"red\" 2002{} row-top-border=\"thin\"}}}");
 }
 
-TEST(DescriptionReader, ReadsTheFormsOfNumbers) {
+TEST(DescriptionParser, ReadsTheFormsOfNumbers) {
     const auto valueOf = [](const std::string& text) { return treeOf("(k=" + text + ")"); };
     EXPECT_EQ(valueOf("0012"), "{k=12}");
     EXPECT_EQ(valueOf("+1.50"), "{k=1.5}");
@@ -130,7 +130,7 @@ TEST(DescriptionReader, ReadsTheFormsOfNumbers) {
     EXPECT_EQ(valueOf("  7  "), "{k=7}");
 }
 
-TEST(DescriptionReader, ReadsEverythingElseAsText) {
+TEST(DescriptionParser, ReadsEverythingElseAsText) {
     const auto valueOf = [](const std::string& text) { return treeOf("(k=" + text + ")"); };
     for (const char* text : {"12a", "a12",   "1,5",    "1 000", "0x10", "&H10", "inf",   "Infinity",
                              "nan", "1e999", "-1e999", ".",     "+",    "-",    "e3",    "1e",
@@ -140,7 +140,7 @@ TEST(DescriptionReader, ReadsEverythingElseAsText) {
     }
 }
 
-TEST(DescriptionReader, KeepsTheTextAndTheLineOfALeaf) {
+TEST(DescriptionParser, KeepsTheTextAndTheLineOfALeaf) {
     const ReadDescription read(lines("; first||(pt = 0012 )|(ps=x)"));
     EXPECT_EQ(leafOf(read.root(), "para-text").text, "0012");
     EXPECT_EQ(leafOf(read.root(), "para-text").line, 3);
@@ -148,7 +148,7 @@ TEST(DescriptionReader, KeepsTheTextAndTheLineOfALeaf) {
     EXPECT_EQ(leafOf(read.root(), "para-style").line, 4);
 }
 
-TEST(DescriptionReader, KeepsTheLineOfANode) {
+TEST(DescriptionParser, KeepsTheLineOfANode) {
     const ReadDescription read(lines("(doc||(r|; cell|(c"));
     const DescriptionNode& doc = read.root().child(1);
     EXPECT_EQ(read.root().line, 0);
@@ -157,93 +157,93 @@ TEST(DescriptionReader, KeepsTheLineOfANode) {
     EXPECT_EQ(doc.child(1001).child(2001).line, 5);
 }
 
-TEST(DescriptionReader, ReadsValuesWithEqualsSignsSemicolonsAndOpeningParentheses) {
+TEST(DescriptionParser, ReadsValuesWithEqualsSignsSemicolonsAndOpeningParentheses) {
     EXPECT_EQ(treeOf("(a=b=c)|(d=e;f)|(g=h(i)|(j=;)|(k=(l)"),
               R"({a="b=c" d="e;f" g="h(i" j=";" k="(l"})");
 }
 
-TEST(DescriptionReader, ReadsOddKeys) {
+TEST(DescriptionParser, ReadsOddKeys) {
     EXPECT_EQ(treeOf("(=x)|(a;=b)|(c);=d)|(1001=e)"), R"({="x" a;="b" c);="d" 1001="e"})");
 }
 
-TEST(DescriptionReader, ReadsALineWithALeafInItsCommentAsALeaf) {
+TEST(DescriptionParser, ReadsALineWithALeafInItsCommentAsALeaf) {
     EXPECT_EQ(treeOf("(doc|(r ; as wide as (cw=50)"), "{1{r ; as wide as (cw=50}}");
 }
 
-TEST(DescriptionReader, LetsCommentsFollowEveryKindOfLine) {
+TEST(DescriptionParser, LetsCommentsFollowEveryKindOfLine) {
     EXPECT_EQ(treeOf("(doc ; a|(r;b|(c\t; c|(p ; (d|(pt=x) ; e|p);f|c)\t;g|r) ; h|doc) ; i"),
               "{1{1001{2001{3001{para-text=\"x\"}}}}}");
 }
 
-TEST(DescriptionReader, ClosesCellAndRowForARow) {
+TEST(DescriptionParser, ClosesCellAndRowForARow) {
     EXPECT_EQ(treeOf("(doc|(r|(c|(cw=5)|(r|(rb=red)|r)|doc)"),
               "{1{1001{2001{cell-width=5}} 1004{row-backcolor=\"red\"}}}");
 }
 
-TEST(DescriptionReader, ClosesParagraphCellAndRowForARow) {
+TEST(DescriptionParser, ClosesParagraphCellAndRowForARow) {
     EXPECT_EQ(treeOf("(doc|(r|(c|(p|(pt=a)|(r|r)|doc)"),
               "{1{1001{2001{3001{para-text=\"a\"}}} 1005{}}}");
 }
 
-TEST(DescriptionReader, ClosesARowForARow) {
+TEST(DescriptionParser, ClosesARowForARow) {
     EXPECT_EQ(treeOf("(doc|(r|(r|(c|c)|r)|doc)"), "{1{1001{} 1003{2001{}}}}");
 }
 
-TEST(DescriptionReader, ClosesACellForACellAndAParagraphForAParagraph) {
+TEST(DescriptionParser, ClosesACellForACellAndAParagraphForAParagraph) {
     EXPECT_EQ(treeOf("(doc|(r|(c|(c|(p|(p|p)|c)|r)|doc)"), "{1{1001{2001{} 2003{3001{} 3003{}}}}}");
 }
 
-TEST(DescriptionReader, ClosesParagraphAndCellForACell) {
+TEST(DescriptionParser, ClosesParagraphAndCellForACell) {
     EXPECT_EQ(treeOf("(doc|(r|(c|(p|(c|c)|r)|doc)"), "{1{1001{2001{3001{}} 2004{}}}}");
 }
 
-TEST(DescriptionReader, CountsAnOpenerAgainOnEveryLevelThatItCloses) {
+TEST(DescriptionParser, CountsAnOpenerAgainOnEveryLevelThatItCloses) {
     EXPECT_EQ(treeOf("(doc|(r|(c|(p|(r|(c|(p|(r|(c|(p|p)|c)|r)|(r|r)|doc)"),
               "{1{1001{2001{3001{}}} 1005{2002{3002{}}} 1009{2003{3003{}}} 1010{}}}");
 }
 
-TEST(DescriptionReader, CountsOnFromTheNumberOfTheLastNodeOfTheKind) {
+TEST(DescriptionParser, CountsOnFromTheNumberOfTheLastNodeOfTheKind) {
     EXPECT_EQ(treeOf("(doc|(r|(c|(r|(c|c)|(c|c)|r)|(r|r)|doc)"),
               "{1{1001{2001{}} 1004{2002{} 2003{}} 1005{}}}");
 }
 
-TEST(DescriptionReader, EndsAtAnOpenerThatCanStandNowhere) {
+TEST(DescriptionParser, EndsAtAnOpenerThatCanStandNowhere) {
     EXPECT_EQ(treeOf("(doc|(c|(cw=5)|c)|x|doc)"), "{1{}}");
     EXPECT_EQ(treeOf("(doc|(r|(p|(pt=x)|p)|r)|doc)"), "{1{1001{}}}");
     EXPECT_EQ(treeOf("(doc|(p|p)|doc)"), "{1{}}");
 }
 
-TEST(DescriptionReader, OpensADocAnywhere) {
+TEST(DescriptionParser, OpensADocAnywhere) {
     EXPECT_EQ(treeOf("(doc|(doc|(r|(doc|doc)|(c|(doc|doc)|(p|(doc|doc)|p)|c)|r)|doc)|doc)"),
               "{1{2{1001{3{} 2001{4{} 3001{5{}}}}}}}");
 }
 
-TEST(DescriptionReader, ReadsTheInsideOfANestedDocAsThatOfAnyDoc) {
+TEST(DescriptionParser, ReadsTheInsideOfANestedDocAsThatOfAnyDoc) {
     EXPECT_EQ(treeOf("(doc|(r|(doc|(paper-width=5)|(r|(c|c)|r)|doc)|(c|c)|r)|doc)"),
               "{1{1001{2{paper-width=5 1002{2001{}}} 2002{}}}}");
 }
 
-TEST(DescriptionReader, ReadsARowThatStandsOutsideTheDoc) {
+TEST(DescriptionParser, ReadsARowThatStandsOutsideTheDoc) {
     EXPECT_EQ(treeOf("(r|(c|c)|r)|(doc|(r|r)|doc)|(r|r)|(rb=red)"),
               "{1001{2001{}} 1{1002{}} 1003{} row-backcolor=\"red\"}");
 }
 
-TEST(DescriptionReader, EndsAtTheCloserOfADocOutsideTheDoc) {
+TEST(DescriptionParser, EndsAtTheCloserOfADocOutsideTheDoc) {
     EXPECT_EQ(treeOf("(doc|doc)|doc)|x|(r"), "{1{}}");
     EXPECT_EQ(treeOf("doc)|(doc|doc)"), "{}");
 }
 
-TEST(DescriptionReader, LeavesOpenWhatNobodyCloses) {
+TEST(DescriptionParser, LeavesOpenWhatNoLineCloses) {
     EXPECT_EQ(treeOf("(doc|(r|(c|(p|(pt=x)"), "{1{1001{2001{3001{para-text=\"x\"}}}}}");
 }
 
-TEST(DescriptionReader, RefusesTheCloserOfAnotherNode) {
+TEST(DescriptionParser, RefusesTheCloserOfAnotherNode) {
     const ReadDescription read(lines("(doc|(r|(c|(p|(pt=x)|c) ; too early|(c|c)|r)|doc)"));
     EXPECT_EQ(read.error, wrongNodeType("c) ; too early", 6));
     EXPECT_EQ(read.tree, "{1{1001{2001{3001{para-text=\"x\"}}}}}");
 }
 
-TEST(DescriptionReader, RefusesEveryCloserButTheOwnOne) {
+TEST(DescriptionParser, RefusesEveryCloserButTheOwnOne) {
     const std::string openers[] = {"(doc", "(doc|(r", "(doc|(r|(c", "(doc|(r|(c|(p"};
     const std::string closers[] = {"doc)", "r)", "c)", "p)"};
     for (std::size_t open = 0; open < 4; ++open) {
@@ -256,51 +256,51 @@ TEST(DescriptionReader, RefusesEveryCloserButTheOwnOne) {
     }
 }
 
-TEST(DescriptionReader, RefusesTheCloserOfARowOutsideTheDoc) {
+TEST(DescriptionParser, RefusesTheCloserOfARowOutsideTheDoc) {
     EXPECT_EQ(ReadDescription(lines("(doc|doc)|r)")).error, wrongNodeType("r)", 3));
 }
 
-TEST(DescriptionReader, RefusesTheCloserOfTheDocWhileARowIsOpen) {
+TEST(DescriptionParser, RefusesTheCloserOfTheDocWhileARowIsOpen) {
     EXPECT_EQ(ReadDescription(lines("(doc|(r|doc)")).error, wrongNodeType("doc)", 3));
 }
 
-TEST(DescriptionReader, TellsAWrongCloserAsItIsWritten) {
+TEST(DescriptionParser, NamesAWrongCloserAsItIsWritten) {
     EXPECT_EQ(ReadDescription(lines("(doc|  Row)\t;x")).error, wrongNodeType("Row)\t;x", 2));
 }
 
-TEST(DescriptionReader, RefusesALineThatIsNothing) {
+TEST(DescriptionParser, RefusesALineThatIsNothing) {
     const ReadDescription read(lines("(doc|(r|(c|(p|(pt Total)|p)|c)|r)|doc)"));
     EXPECT_EQ(read.error, wrongSyntax("(pt Total)", 5));
     EXPECT_EQ(read.tree, "{1{1001{2001{3001{}}}}}");
 }
 
-TEST(DescriptionReader, RefusesEveryKindOfLineThatIsNothing) {
+TEST(DescriptionParser, RefusesEveryKindOfLineThatIsNothing) {
     for (const char* line : {"x", "(", ")", "()", "(rows", "rows)", "(r)", "(r (c", "(pt=x) y",
                              "(pt=x", "pt=x)", "(doc)", "p) p)", "(pt=a)b)", "( r"}) {
         EXPECT_EQ(ReadDescription(lines("(doc|" + std::string(line))).error, wrongSyntax(line, 2));
     }
 }
 
-TEST(DescriptionReader, RefusesAKeyThatStandsTwiceInANode) {
+TEST(DescriptionParser, RefusesAKeyThatStandsTwiceInANode) {
     const ReadDescription read(lines("(doc|(r|(c|(cw=5)||(cw=6)|(cb=red)"));
     EXPECT_EQ(read.error, duplicateKey(6));
     EXPECT_EQ(read.tree, "{1{1001{2001{cell-width=5}}}}");
 }
 
-TEST(DescriptionReader, RefusesAKeyInItsShortFormBesideItsLongForm) {
+TEST(DescriptionParser, RefusesAKeyInItsShortFormBesideItsLongForm) {
     EXPECT_EQ(ReadDescription(lines("(para-text=a)|(pt=a)")).error, duplicateKey(2));
     EXPECT_EQ(ReadDescription(lines("(x=a)|( x =b)")).error, duplicateKey(2));
 }
 
-TEST(DescriptionReader, TakesTheSameKeyInDifferentNodes) {
+TEST(DescriptionParser, TakesTheSameKeyInDifferentNodes) {
     EXPECT_EQ(treeOf("(doc|(k=1)|(r|(k=2)|r)|(r|(k=3)|r)|doc)"), "{1{k=1 1001{k=2} 1002{k=3}}}");
 }
 
-TEST(DescriptionReader, TakesAKeyThatIsTheNumberOfAChild) {
+TEST(DescriptionParser, TakesAKeyThatIsTheNumberOfAChild) {
     EXPECT_EQ(treeOf("(doc|(r|r)|(1001=5)|doc)"), "{1{1001{} 1001=5}}");
 }
 
-TEST(DescriptionReader, Takes999RowsAndNoMore) {
+TEST(DescriptionParser, Takes999RowsAndNoMore) {
     const ReadDescription fits(lines("(doc|" + repeated("(r|r)|", 999) + "doc)"));
     EXPECT_EQ(fits.error, ToldError());
     EXPECT_EQ(childNumbers(fits.root().child(1)).back(), 1999);
@@ -310,7 +310,7 @@ TEST(DescriptionReader, Takes999RowsAndNoMore) {
     EXPECT_EQ(childNumbers(tooMany.root().child(1)).size(), 999u);
 }
 
-TEST(DescriptionReader, Takes999CellsAndNoMore) {
+TEST(DescriptionParser, Takes999CellsAndNoMore) {
     const ReadDescription fits(lines("(doc|(r|" + repeated("(c|c)|", 999) + "r)|doc)"));
     EXPECT_EQ(fits.error, ToldError());
     EXPECT_EQ(childNumbers(fits.root().child(1).child(1001)).back(), 2999);
@@ -320,7 +320,7 @@ TEST(DescriptionReader, Takes999CellsAndNoMore) {
     EXPECT_EQ(childNumbers(tooMany.root().child(1).child(1001)).size(), 999u);
 }
 
-TEST(DescriptionReader, Takes999ParagraphsAndNoMore) {
+TEST(DescriptionParser, Takes999ParagraphsAndNoMore) {
     const ReadDescription fits(lines("(doc|(r|(c|" + repeated("(p|p)|", 999) + "c)|r)|doc)"));
     EXPECT_EQ(fits.error, ToldError());
     EXPECT_EQ(childNumbers(fits.root().child(1).child(1001).child(2001)).back(), 3999);
@@ -330,7 +330,7 @@ TEST(DescriptionReader, Takes999ParagraphsAndNoMore) {
     EXPECT_EQ(childNumbers(tooMany.root().child(1).child(1001).child(2001)).size(), 999u);
 }
 
-TEST(DescriptionReader, Takes999DocsAndNoMore) {
+TEST(DescriptionParser, Takes999DocsAndNoMore) {
     const ReadDescription fits(lines("(doc|" + repeated("(doc|doc)|", 998) + "doc)"));
     EXPECT_EQ(fits.error, ToldError());
     EXPECT_EQ(childNumbers(fits.root().child(1)).back(), 999);
@@ -340,19 +340,19 @@ TEST(DescriptionReader, Takes999DocsAndNoMore) {
     EXPECT_EQ(childNumbers(tooMany.root().child(1)).size(), 998u);
 }
 
-TEST(DescriptionReader, CountsTheCellsOfAllRowsTogether) {
+TEST(DescriptionParser, CountsTheCellsOfAllRowsTogether) {
     const std::string text = "(doc|" + repeated("(r|(c|c)|(c|c)|r)|", 500) + "doc)";
     EXPECT_EQ(ReadDescription(lines(text)).error, tooManyNodes("cell", 1 + 499 * 6 + 4));
 }
 
-TEST(DescriptionReader, ReachesTheLimitSoonerByNumbersThatAreSkipped) {
+TEST(DescriptionParser, ReachesTheLimitSoonerByNumbersThatAreSkipped) {
     const ReadDescription read(lines("(doc|" + repeated("(r|", 600)));
     EXPECT_EQ(childNumbers(read.root().child(1)).size(), 500u);
     EXPECT_EQ(childNumbers(read.root().child(1)).back(), 1999);
     EXPECT_EQ(read.error, tooManyNodes("row", 502));
 }
 
-TEST(DescriptionReader, CountsTowardsTheLimitOnEveryLevelThatAnOpenerCloses) {
+TEST(DescriptionParser, CountsTowardsTheLimitOnEveryLevelThatAnOpenerCloses) {
     const auto nextRowAfter = [](int rows) {
         return ReadDescription(lines("(doc|" + repeated("(r|r)|", rows) + "(r|(c|(r|r)|doc)"));
     };
@@ -362,13 +362,13 @@ TEST(DescriptionReader, CountsTowardsTheLimitOnEveryLevelThatAnOpenerCloses) {
     EXPECT_EQ(nextRowAfter(998).error, tooManyNodes("row", 1 + 998 * 2 + 3));
 }
 
-TEST(DescriptionReader, ChecksTheLimitBeforeTheNesting) {
+TEST(DescriptionParser, ChecksTheLimitBeforeTheNesting) {
     const std::string cells = repeated("(c|c)|", 999);
     EXPECT_EQ(ReadDescription(lines("(doc|(r|" + cells + "r)|(c")).error,
               tooManyNodes("cell", 2 + 999 * 2 + 2));
 }
 
-TEST(DescriptionReader, HasNoLimitForLeaves) {
+TEST(DescriptionParser, HasNoLimitForLeaves) {
     std::string text = "(doc|";
     for (int i = 0; i < 5000; ++i) {
         text += "(key" + std::to_string(i) + "=" + std::to_string(i) + ")|";

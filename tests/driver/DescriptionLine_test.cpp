@@ -1,4 +1,4 @@
-#include "quorvane/driver/lineClassifier.h"
+#include "quorvane/driver/DescriptionLine.h"
 
 #include <gtest/gtest.h>
 
@@ -9,39 +9,59 @@
 namespace quorvane {
 namespace {
 
-const Vocabulary vocabulary;
+DescriptionLine taken(std::string_view line) {
+    return descriptionLine(line, originalDialect());
+}
 
 NodeKind opened(std::string_view line) {
-    return openedKind(line, vocabulary);
+    const DescriptionLine parts = taken(line);
+    return parts.type == LineType::Opener ? parts.kind : NodeKind::None;
 }
 
 NodeKind closed(std::string_view line) {
-    return closedKind(line, vocabulary);
+    const DescriptionLine parts = taken(line);
+    return parts.type == LineType::Closer ? parts.kind : NodeKind::None;
+}
+
+bool isLeaf(std::string_view line) {
+    return taken(line).type == LineType::Leaf;
+}
+
+std::string_view leafKey(std::string_view line) {
+    return taken(line).key;
+}
+
+std::string_view leafValue(std::string_view line) {
+    return taken(line).value;
+}
+
+bool isComment(std::string_view text) {
+    return isComment(text, originalDialect());
 }
 
 void expectNothing(std::initializer_list<const char*> lines) {
     for (const char* line : lines) {
-        EXPECT_FALSE(isLeaf(line)) << line;
-        EXPECT_EQ(opened(line), NodeKind::None) << line;
-        EXPECT_EQ(closed(line), NodeKind::None) << line;
+        EXPECT_EQ(taken(line).type, LineType::Unreadable) << line;
+        EXPECT_EQ(taken(line).kind, NodeKind::None) << line;
+        EXPECT_FALSE(taken(line).isReadable()) << line;
     }
 }
 
-TEST(lineClassifier, KnowsACommentByItsFirstCharacter) {
+TEST(DescriptionLine, KnowsACommentByItsFirstCharacter) {
     EXPECT_TRUE(isComment(";"));
     EXPECT_TRUE(isComment("; first row"));
     EXPECT_TRUE(isComment("  ;"));
     EXPECT_TRUE(isComment(" \t; (r"));
 }
 
-TEST(lineClassifier, KnowsNoOtherComment) {
+TEST(DescriptionLine, KnowsNoOtherComment) {
     EXPECT_FALSE(isComment(""));
     EXPECT_FALSE(isComment("  "));
     EXPECT_FALSE(isComment("x ; y"));
     EXPECT_FALSE(isComment("(r ; y"));
 }
 
-TEST(lineClassifier, KnowsTheOpenerOfEveryNode) {
+TEST(DescriptionLine, KnowsTheOpenerOfEveryNode) {
     EXPECT_EQ(opened("(doc"), NodeKind::Doc);
     EXPECT_EQ(opened("(row"), NodeKind::Row);
     EXPECT_EQ(opened("(r"), NodeKind::Row);
@@ -51,13 +71,13 @@ TEST(lineClassifier, KnowsTheOpenerOfEveryNode) {
     EXPECT_EQ(opened("(p"), NodeKind::Para);
 }
 
-TEST(lineClassifier, KnowsOpenersInAnyCase) {
+TEST(DescriptionLine, KnowsOpenersInAnyCase) {
     EXPECT_EQ(opened("(R"), NodeKind::Row);
     EXPECT_EQ(opened("(Row"), NodeKind::Row);
     EXPECT_EQ(opened("(DOC"), NodeKind::Doc);
 }
 
-TEST(lineClassifier, KnowsTheCloserOfEveryNode) {
+TEST(DescriptionLine, KnowsTheCloserOfEveryNode) {
     EXPECT_EQ(closed("doc)"), NodeKind::Doc);
     EXPECT_EQ(closed("row)"), NodeKind::Row);
     EXPECT_EQ(closed("r)"), NodeKind::Row);
@@ -67,17 +87,17 @@ TEST(lineClassifier, KnowsTheCloserOfEveryNode) {
     EXPECT_EQ(closed("p)"), NodeKind::Para);
 }
 
-TEST(lineClassifier, KnowsClosersInAnyCase) {
+TEST(DescriptionLine, KnowsClosersInAnyCase) {
     EXPECT_EQ(closed("R)"), NodeKind::Row);
     EXPECT_EQ(closed("Cell)"), NodeKind::Cell);
 }
 
-TEST(lineClassifier, TakesAnOpenerForNoCloserAndACloserForNoOpener) {
+TEST(DescriptionLine, TakesAnOpenerForNoCloserAndACloserForNoOpener) {
     EXPECT_EQ(closed("(r"), NodeKind::None);
     EXPECT_EQ(opened("r)"), NodeKind::None);
 }
 
-TEST(lineClassifier, EndsAHeadAtBlankTabLineBreakAndSemicolon) {
+TEST(DescriptionLine, EndsAHeadAtBlankTabLineBreakAndSemicolon) {
     for (const char* line : {"(r ", "(r\t", "(r\r", "(r\n", "(r;", "(r ; x", "(r;x", "(r\t;x",
                              "(r \t ;", "(r\r\n;x"}) {
         EXPECT_EQ(opened(line), NodeKind::Row) << line;
@@ -87,11 +107,11 @@ TEST(lineClassifier, EndsAHeadAtBlankTabLineBreakAndSemicolon) {
     }
 }
 
-TEST(lineClassifier, LetsNothingButACommentFollowAHead) {
+TEST(DescriptionLine, LetsOnlyACommentFollowAHead) {
     expectNothing({"(r x", "(r (c", "(r\tx ; y", "(r c)", "r) x", "r) c)", "r) (r", "r)\t.;"});
 }
 
-TEST(lineClassifier, KnowsNoOtherHeads) {
+TEST(DescriptionLine, KnowsNoOtherHeads) {
     expectNothing({"(",
                    ")",
                    "()",
@@ -115,36 +135,36 @@ TEST(lineClassifier, KnowsNoOtherHeads) {
                    "x"});
 }
 
-TEST(lineClassifier, KnowsALeafByParenthesesAndEqualsSign) {
+TEST(DescriptionLine, KnowsALeafByParenthesesAndEqualsSign) {
     for (const char* line : {"(paper-width=11906)", "(pt=Total)", "(pt=)", "(=)", "(=x)",
                              "(pt = x )", "(pt=a=b)", "(pt=(a)", "(r=1)", "(a;=b)", "(a b=c d)"}) {
         EXPECT_TRUE(isLeaf(line)) << line;
     }
 }
 
-TEST(lineClassifier, LetsACommentFollowALeaf) {
+TEST(DescriptionLine, LetsACommentFollowALeaf) {
     for (const char* line : {"(pt=x);", "(pt=x) ; label", "(pt=x)\t; label", "(pt=x) ; (y) z",
                              "(pt=x) ", "(pt=x)\t"}) {
         EXPECT_TRUE(isLeaf(line)) << line;
     }
 }
 
-TEST(lineClassifier, LetsNothingElseFollowALeaf) {
+TEST(DescriptionLine, LetsNothingElseFollowALeaf) {
     expectNothing({"(pt=x) y", "(pt=x))", "(pt=a)b)", "(pt=x) (ps=y)", "(pt=x) .;"});
 }
 
-TEST(lineClassifier, KnowsNoLeafWithoutItsCharactersInOrder) {
+TEST(DescriptionLine, KnowsNoLeafWithoutItsCharactersInOrder) {
     expectNothing({"(pt Total)", "(pt=x", "pt=x)", "=)", "x(pt=y)", "(pt)=x", "(a) ; b=c"});
 }
 
-TEST(lineClassifier, LooksBehindTheFirstClosingParenthesisOfALeaf) {
+TEST(DescriptionLine, LooksAfterTheFirstClosingParenthesisOfALeaf) {
     EXPECT_TRUE(isLeaf("(a);=b)"));
     EXPECT_TRUE(isLeaf("(a) ; b=c)"));
     EXPECT_FALSE(isLeaf("(a)=b)"));
     EXPECT_FALSE(isLeaf("(a) b=c)"));
 }
 
-TEST(lineClassifier, ReadsTheKeyUpToTheFirstEqualsSign) {
+TEST(DescriptionLine, ReadsTheKeyUpToTheFirstEqualsSign) {
     EXPECT_EQ(leafKey("(pt=x)"), "pt");
     EXPECT_EQ(leafKey("(pt=a=b)"), "pt");
     EXPECT_EQ(leafKey("(=x)"), "");
@@ -154,13 +174,13 @@ TEST(lineClassifier, ReadsTheKeyUpToTheFirstEqualsSign) {
     EXPECT_EQ(leafKey("((a=b)"), "(a");
 }
 
-TEST(lineClassifier, TrimsBlanksAndNothingElseFromTheKey) {
+TEST(DescriptionLine, TrimsBlanksAndNothingElseFromTheKey) {
     EXPECT_EQ(leafKey("(  a b  =x)"), "a b");
     EXPECT_EQ(leafKey("(   =x)"), "");
     EXPECT_EQ(leafKey("(\tpt\t=x)"), "\tpt\t");
 }
 
-TEST(lineClassifier, ReadsTheValueUpToTheClosingParenthesis) {
+TEST(DescriptionLine, ReadsTheValueUpToTheClosingParenthesis) {
     EXPECT_EQ(leafValue("(pt=x)"), "x");
     EXPECT_EQ(leafValue("(pt=)"), "");
     EXPECT_EQ(leafValue("(pt=a=b)"), "a=b");
@@ -169,7 +189,7 @@ TEST(lineClassifier, ReadsTheValueUpToTheClosingParenthesis) {
     EXPECT_EQ(leafValue("(pt=x) ; label (y)"), "x");
 }
 
-TEST(lineClassifier, TakesOnlyTheEnclosingParenthesesFromTheValue) {
+TEST(DescriptionLine, TakesOnlyTheEnclosingParenthesesFromTheValue) {
     EXPECT_EQ(leafValue("(pt=a(b)"), "a(b");
     EXPECT_EQ(leafValue("(pt=(a)"), "(a");
     EXPECT_EQ(leafValue("(pt=(()"), "((");
@@ -177,20 +197,20 @@ TEST(lineClassifier, TakesOnlyTheEnclosingParenthesesFromTheValue) {
     EXPECT_EQ(leafValue("(a) ; b=c)d"), "c");
 }
 
-TEST(lineClassifier, TrimsBlanksAndNothingElseFromTheValue) {
+TEST(DescriptionLine, TrimsBlanksAndNothingElseFromTheValue) {
     EXPECT_EQ(leafValue("(pt=  a b  )"), "a b");
     EXPECT_EQ(leafValue("(pt=   )"), "");
     EXPECT_EQ(leafValue("(pt=\tx\t)"), "\tx\t");
 }
 
-TEST(lineClassifier, TakesALineWithALeafInItsCommentForALeaf) {
+TEST(DescriptionLine, TakesALineWithALeafInItsCommentForALeaf) {
     constexpr const char* line = "(r ; as wide as (cw=50)";
     EXPECT_TRUE(isLeaf(line));
     EXPECT_EQ(leafKey(line), "r ; as wide as (cw");
     EXPECT_EQ(leafValue(line), "50");
 }
 
-TEST(lineClassifier, TakesALineThatHasMoreBehindTheLeafInItsCommentForAnOpener) {
+TEST(DescriptionLine, TakesALineThatHasMoreAfterTheLeafInItsCommentForAnOpener) {
     EXPECT_FALSE(isLeaf("(r ; as (cw=50) says"));
     EXPECT_EQ(opened("(r ; as (cw=50) says"), NodeKind::Row);
 }
@@ -206,7 +226,7 @@ std::string randomLine(std::mt19937& random) {
 }
 
 // So nothing can be said against a leaf for want of its "=".
-TEST(lineClassifier, TakesNoLineWithoutAnEqualsSignForALeaf) {
+TEST(DescriptionLine, TakesNoLineWithoutAnEqualsSignForALeaf) {
     std::mt19937 random(4);
     int leaves = 0;
     for (int i = 0; i < 100000; ++i) {
@@ -219,15 +239,27 @@ TEST(lineClassifier, TakesNoLineWithoutAnEqualsSignForALeaf) {
     EXPECT_GT(leaves, 100);
 }
 
-TEST(lineClassifier, TakesNoLineForAnOpenerAndACloser) {
+TEST(DescriptionLine, HasTheNameOfANodeAsItIsWrittenAndWhatFollows) {
+    for (const char* line : {"(Row ; first", "Row) ; first"}) {
+        EXPECT_EQ(taken(line).name, "Row");
+        EXPECT_EQ(taken(line).rest, " ; first");
+    }
+    EXPECT_EQ(taken("(r").rest, "");
+    EXPECT_EQ(taken("(pt=x);y").rest, ";y");
+    EXPECT_EQ(taken("(pt=x)").rest, "");
+}
+
+TEST(DescriptionLine, HasTheKindOfItsNodeExactlyWhenItOpensOrClosesOne) {
     std::mt19937 random(5);
     int openers = 0;
     int closers = 0;
     for (int i = 0; i < 100000; ++i) {
         const std::string line = randomLine(random);
-        const bool opens = opened(line) != NodeKind::None;
-        const bool closes = closed(line) != NodeKind::None;
-        ASSERT_FALSE(opens && closes) << line;
+        const DescriptionLine parts = taken(line);
+        const bool opens = parts.type == LineType::Opener;
+        const bool closes = parts.type == LineType::Closer;
+        ASSERT_EQ(parts.kind != NodeKind::None, opens || closes) << line;
+        ASSERT_EQ(parts.name.empty(), !opens && !closes) << line;
         openers += opens ? 1 : 0;
         closers += closes ? 1 : 0;
     }

@@ -11,7 +11,7 @@ namespace quorvane {
 
 /// The platform of documents that are built to be looked at and thrown away: it has no files, no
 /// clipboard and no screen.
-class TrialPlatform : public Platform {
+class NullPlatform : public Platform {
 public:
     bool fileExists(const std::string&) override { return false; }
     std::string readFile(const std::string&) override { raise(RunTimeError::FileNotFound); }

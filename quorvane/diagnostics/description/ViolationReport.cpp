@@ -1,0 +1,216 @@
+#include "quorvane/diagnostics/description/ViolationReport.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "quorvane/base/text/textCase.h"
+#include "quorvane/diagnostics/description/keyHints.h"
+#include "quorvane/diagnostics/description/nodeNouns.h"
+#include "quorvane/diagnostics/description/numberHints.h"
+#include "quorvane/diagnostics/description/valueHints.h"
+#include "quorvane/diagnostics/engine/nearestWord.h"
+#include "quorvane/diagnostics/stylesheet/textFormatHints.h"
+
+namespace quorvane {
+
+namespace {
+
+/// Words that people write for names of this language that look quite different.
+constexpr std::pair<std::string_view, std::string_view> otherWords[] = {
+    {"crimson", "dark-red"},  {"maroon", "dark-red"},   {"scarlet", "red"},
+    {"navy", "navy-blue"},    {"grey", "gray"},         {"dark-grey", "dark-gray"},
+    {"light-gray", "silver"}, {"light-grey", "silver"}, {"lightgray", "silver"},
+    {"lightgrey", "silver"},  {"teal", "dark-cyan"},    {"lime", "green"},
+    {"olive", "dark-yellow"}, {"violet", "purple"},     {"fuchsia", "magenta"},
+    {"aqua", "cyan"},         {"transparent", "none"},  {"no", "none"},
+    {"medium", "normal"},     {"bold", "thick"},        {"single", "thin"},
+    {"solid", "thin"},        {"double", "thick"},      {"thinner", "hair"},
+    {"center", "centered"},   {"centre", "centered"},   {"centred", "centered"},
+    {"middle", "centered"},   {"justify", "justified"}, {"block", "justified"},
+};
+
+/// Those of them that are the name itself, spelled in another way.
+constexpr std::string_view otherSpellings[] = {"grey",   "dark-grey", "center",
+                                               "centre", "centred",   "justify"};
+
+/// The value within its quotation marks; the value where it has none.
+std::string_view withoutQuotes(std::string_view value) {
+    const bool isQuoted = value.size() > 2 && value.front() == value.back() &&
+                          (value.front() == '"' || value.front() == '\'');
+    return isQuoted ? value.substr(1, value.size() - 2) : value;
+}
+
+/// `noun` says what the names are names of.
+Hint nameHint(const std::string& value, const std::vector<std::string_view>& names,
+              std::string_view noun) {
+    if (value.empty()) {
+        return "the value is missing; write none for no " + std::string(noun);
+    }
+    if (const std::string_view bare = withoutQuotes(value); bare.size() < value.size()) {
+        return spellingHint(lowerCase(bare), names);
+    }
+    const std::string word = lowerCase(value);
+    for (const auto& [other, meant] : otherWords) {
+        if (word == other) {
+            for (const std::string_view name : names) {
+                if (name == meant) {
+                    const bool isSpelling =
+                        std::find(std::begin(otherSpellings), std::end(otherSpellings), other) !=
+                        std::end(otherSpellings);
+                    Hint hint("did you mean " + std::string(meant) + "?");
+                    if (isSpelling) {
+                        hint.replacement = std::string(meant);
+                    }
+                    return hint;
+                }
+            }
+        }
+    }
+    return spellingHint(value, names);
+}
+
+Hint hintOr(const Hint& first, const Hint& otherwise) {
+    return first.empty() ? otherwise : first;
+}
+
+bool isMisplaced(DriverFault fault) {
+    return fault == DriverFault::NodeInParagraph || fault == DriverFault::WrongContext;
+}
+
+}  // namespace
+
+DiagnosticId diagnosticOf(DriverFault fault) {
+    switch (fault) {
+        case DriverFault::NotADescription:
+            return DiagnosticId::WrongFileType;
+        case DriverFault::MissingElements:
+            return DiagnosticId::MissingElement;
+        case DriverFault::WrongRoot:
+            return DiagnosticId::WrongRoot;
+        case DriverFault::TooManyNodes:
+            return DiagnosticId::TooManyNodes;
+        case DriverFault::WrongCloser:
+            return DiagnosticId::WrongCloser;
+        case DriverFault::WrongSyntax:
+            return DiagnosticId::WrongSyntax;
+        case DriverFault::DuplicateLeaf:
+            return DiagnosticId::DuplicateLeaf;
+        case DriverFault::NoDocument:
+            return DiagnosticId::NoDocument;
+        case DriverFault::UnknownDocKey:
+        case DriverFault::UnknownRowKey:
+        case DriverFault::UnknownCellKey:
+        case DriverFault::UnknownParaKey:
+            return DiagnosticId::WrongKeyword;
+        case DriverFault::NoRow:
+            return DiagnosticId::NoRow;
+        case DriverFault::NoCell:
+            return DiagnosticId::NoCell;
+        case DriverFault::NoParaText:
+            return DiagnosticId::NoParaText;
+        case DriverFault::NodeInParagraph:
+            return DiagnosticId::NodeInParagraph;
+        case DriverFault::WrongContext:
+            return DiagnosticId::WrongContext;
+        case DriverFault::WrongColor:
+            return DiagnosticId::WrongColor;
+        case DriverFault::WrongBorder:
+            return DiagnosticId::WrongBorder;
+        case DriverFault::WrongAlignment:
+            return DiagnosticId::WrongAlignment;
+        case DriverFault::NotANumber:
+            return DiagnosticId::NotANumber;
+        case DriverFault::Overflow:
+            return DiagnosticId::Overflow;
+        case DriverFault::TakenKey:
+            return DiagnosticId::TakenKey;
+        default:
+            return DiagnosticId::Rejected;
+    }
+}
+
+void ViolationReport::operator()(const Violation& violation) const {
+    if (!violation.leaf) {
+        reportNode(violation);
+        return;
+    }
+    if (!std::exchange(violation.leaf->isFaulty, true)) {
+        engine_.reportText(diagnosticOf(violation.fault), source_.placeOf(violation.part),
+                           violation.error.description, hintFor(violation));
+    }
+}
+
+void ViolationReport::reportNode(const Violation& violation) const {
+    // A node in a paragraph breaks two rules with one mistake.
+    const bool isRepeated =
+        violation.fault == DriverFault::WrongContext && violation.kind == NodeKind::Para;
+    const bool isMeant = violation.fault == DriverFault::NoParaText && meansText(*violation.node);
+    if (!isRepeated && !isMeant) {
+        engine_.reportText(diagnosticOf(violation.fault), source_.placeOf(violation.part),
+                           violation.error.description);
+    }
+    violation.node->isFaulty = violation.node->isFaulty || isMisplaced(violation.fault);
+}
+
+/// True when an unknown key was most likely meant to be para-text.
+bool ViolationReport::meansText(const DescriptionNode& node) const {
+    constexpr std::string_view forms[] = {"para-text", "pt", "text"};
+    const KeySet known = vocabulary_.keySetOf(NodeKind::Para);
+    const auto leaves = node.leaves();
+    return std::any_of(leaves.begin(), leaves.end(), [&](const Leaf& leaf) {
+        return !contains(known, leaf.key.known) && !nearestWord(leaf.writtenKey, forms).empty();
+    });
+}
+
+Hint ViolationReport::hintFor(const Violation& violation) const {
+    const Leaf& leaf = *violation.leaf;
+    switch (diagnosticOf(violation.fault)) {
+        case DiagnosticId::WrongKeyword:
+            return keyHint(violation);
+        case DiagnosticId::WrongColor:
+            return hintOr(colorValueHint(leaf.valueText(), vocabulary_),
+                          nameHint(leaf.valueText(), vocabulary_.colorNames(), "color"));
+        case DiagnosticId::WrongBorder:
+            return hintOr(borderValueHint(leaf.valueText()),
+                          nameHint(leaf.valueText(), vocabulary_.borderNames(), "border"));
+        case DiagnosticId::WrongAlignment:
+            return nameHint(leaf.valueText(), vocabulary_.alignmentNames(), "alignment");
+        case DiagnosticId::NotANumber:
+            return numberHint(leaf.key.name, leaf.text);
+        case DiagnosticId::TakenKey:
+            return takenKeyHint(violation);
+        default:
+            return {};
+    }
+}
+
+Hint ViolationReport::keyHint(const Violation& violation) const {
+    const NodeKind kind = violation.kind;
+    const std::string_view written = violation.leaf->writtenKey;
+    const std::string lower = lowerCase(written);
+    if (lower != written && vocabulary_.isKeyOf(kind, vocabulary_.expand(lower))) {
+        return {"write keys in lower case: " + lower, lower};
+    }
+    if (Hint hint = textFormatHint(kind, written, violation.leaf->text); !hint.empty()) {
+        return hint;
+    }
+    for (const NodeKind other : nodeKinds) {
+        if (contains(vocabulary_.keySetOf(other), violation.leaf->key.known)) {
+            return "this is a key of a " + std::string(nodeNoun(other)) + ", not of a " +
+                   std::string(nodeNoun(kind));
+        }
+    }
+    return nearKeyHint(kind, written, vocabulary_);
+}
+
+Hint ViolationReport::takenKeyHint(const Violation& violation) const {
+    if (!violation.node) {
+        return {};
+    }
+    return "the " + std::string(nodeNoun(violation.node->kind)) + " on line " +
+           std::to_string(violation.node->line) + " has the key " + violation.leaf->valueText();
+}
+
+}  // namespace quorvane
