@@ -380,7 +380,7 @@ protected:
 };
 
 TEST_F(FailingChecks, FindAllInADescriptionOrTellOfIt) {
-    folder.write("b.rtfspec", cli::descriptionWithBadColour);
+    folder.write("b.rtfspec", cli::descriptionWithBadColor);
     expectCheckedOrTold("b.rtfspec");
     EXPECT_GE(runs, 30);
 }
