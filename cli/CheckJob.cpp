@@ -17,6 +17,7 @@
 #include "cli/styleSheetName.h"
 #include "cli/unifiedDiff.h"
 #include "cli/utf8Path.h"
+#include "quorvane/base/platform/fileReplacement.h"
 #include "quorvane/base/text/codePage1252.h"
 #include "quorvane/diagnostics/description/DescriptionCheck.h"
 #include "quorvane/diagnostics/description/fileNameCheck.h"
@@ -270,7 +271,7 @@ bool CheckJob::writeFixed(const std::string& file, std::string_view before,
         return false;
     }
     try {
-        const std::unique_ptr<OutputFile> output = openReplacement(file);
+        const std::unique_ptr<OutputFile> output = openReplacement(file, unfinishedFileWatch());
         output->write(fixed.bytes);
         output->close();
         return true;

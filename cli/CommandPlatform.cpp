@@ -9,6 +9,7 @@
 #include "cli/fileFailure.h"
 #include "cli/process.h"
 #include "cli/utf8Path.h"
+#include "quorvane/base/platform/fileReplacement.h"
 #include "quorvane/base/values/RtfError.h"
 
 namespace quorvane::cli {
@@ -30,7 +31,11 @@ std::unique_ptr<OutputFile> CommandPlatform::createFile(const std::string& path)
         return openStandardOutput();
     }
     createMissingFolder();
-    return openReplacement(path);
+    return replaceFile(path);
+}
+
+std::unique_ptr<OutputFile> CommandPlatform::replaceFile(const std::string& path) {
+    return openReplacement(path, unfinishedFileWatch());
 }
 
 void CommandPlatform::createMissingFolder() {
@@ -55,11 +60,11 @@ std::string CommandPlatform::readOtherFile(const std::string& path) {
     try {
         return files_.readFile(path);
     } catch (RtfError& error) {
-        // This number alone stands for several obstacles.
-        if (error.is(RunTimeError::PathFileAccessError) && !error.cause) {
-            if (const std::error_code why = whyUnreadable(path)) {
-                error.cause = std::make_shared<RtfError>(why.value(), why.message());
-            }
+        // This number alone stands for several obstacles; any other says enough by itself.
+        if (!error.is(RunTimeError::PathFileAccessError)) {
+            error.cause = nullptr;
+        } else if (const std::error_code why = whyUnreadable(path)) {
+            error.cause = std::make_shared<RtfError>(why.value(), why.message());
         }
         raise(std::move(error));
     }

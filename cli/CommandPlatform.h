@@ -32,6 +32,7 @@ public:
     void deleteFile(const std::string& path) override { files_.deleteFile(path); }
     /// Opens a replacement of the file, or standard output for the name "-".
     std::unique_ptr<OutputFile> createFile(const std::string& path) override;
+    std::unique_ptr<OutputFile> replaceFile(const std::string& path) override;
 
     void setClipboardText(const std::string&) override {}
     void showMessageBox(const std::string&, int, const std::string&) override {}

@@ -10,7 +10,6 @@
 #include "quorvane/base/text/utf8.h"
 #include "quorvane/docmodel/CRtfTableRows.h"
 #include "quorvane/driver/driverErrors.h"
-#include "quorvane/support/currentError.h"
 
 namespace quorvane::cli {
 
@@ -119,9 +118,9 @@ std::optional<std::string> DescriptionRendering::readDescription() {
 void DescriptionRendering::analyse(const std::string& text) {
     const std::string name = inputName(assignment_.description);
     driver_->setErroneousInput(manner_.check);
-    driver_->setNotifyErrorHandler([&](CRtfDriver&) {
+    driver_->setNotifyErrorHandler([&](CRtfDriver&, const RtfError& error) {
         status_ = std::max(status_, ExitStatus::ContentErrors);
-        report_.event(name, *currentError());
+        report_.event(name, error);
     });
     driver_->ParseFromMemmory(text);
     if (!report_.passDescription(name, assignment_.description, text)) {

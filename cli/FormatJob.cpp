@@ -12,6 +12,7 @@
 #include "cli/filesBelow.h"
 #include "cli/process.h"
 #include "cli/unifiedDiff.h"
+#include "quorvane/base/platform/fileReplacement.h"
 #include "quorvane/base/text/codePage1252.h"
 #include "quorvane/diagnostics/languageOf.h"
 #include "quorvane/diagnostics/textFile.h"
@@ -85,7 +86,7 @@ ExitStatus FormatJob::format(const std::string& file) {
     if (isStream) {
         write_(canonical);
     } else if (canonical != bytes) {
-        const std::unique_ptr<OutputFile> output = openReplacement(file);
+        const std::unique_ptr<OutputFile> output = openReplacement(file, unfinishedFileWatch());
         output->write(canonical);
         output->close();
     }

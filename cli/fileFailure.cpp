@@ -5,6 +5,7 @@
 #include <fstream>
 #include <utility>
 
+#include "cli/RenderOptions.h"
 #include "cli/utf8Path.h"
 
 namespace quorvane::cli {
@@ -32,6 +33,14 @@ bool isDevice(const std::string& path) {
     return type == fs::file_type::character || type == fs::file_type::block;
 }
 
+/// The reason why a file of that path cannot be read, where this error does not name one.
+std::string reasonOf(const RtfError& error, const std::string& path) {
+    if (const std::error_code why = whyUnreadable(path)) {
+        return why.message();
+    }
+    return isDevice(path) ? "Is a device" : error.description;
+}
+
 }  // namespace
 
 ReportedError fileFailure(std::string shownName, RtfError error) {
@@ -40,14 +49,15 @@ ReportedError fileFailure(std::string shownName, RtfError error) {
 }
 
 ReportedError unreadableFile(std::string shownName, const std::string& path, RtfError error) {
-    const RtfError& deepest = deepestCause(error);
-    std::string reason = deepest.description;
-    if (isBare(deepest)) {
-        if (const std::error_code why = whyUnreadable(path)) {
-            reason = why.message();
-        } else if (isDevice(path)) {
-            reason = "Is a device";
-        }
+    const RtfError* reading = &error;
+    while (reading->cause && !isBare(*reading)) {
+        reading = reading->cause.get();
+    }
+    const bool isFile = path != standardStream && isBare(*reading);
+    std::string reason = isFile ? reasonOf(*reading, path) : deepestCause(error).description;
+    // The number says it in other words, but for the one that stands for several obstacles.
+    if (isFile && reading == &error && !error.is(RunTimeError::PathFileAccessError)) {
+        error.cause = nullptr;
     }
     return {ErrorKind::Raised, std::move(shownName), std::move(error), std::move(reason)};
 }

@@ -11,8 +11,8 @@ namespace quorvane::cli {
 /// error has no reason.
 ReportedError fileFailure(std::string shownName, RtfError error);
 
-/// A file that cannot be read, reported under the name that is shown. Its path serves to find out
-/// the system's reason where the error does not have it.
+/// A file that cannot be read, reported under the name that is shown, with the system's reason,
+/// which a look at its path gives in the same words on every system.
 ReportedError unreadableFile(std::string shownName, const std::string& path, RtfError error);
 
 /// A file that cannot be handled as requested, for a reason that is not the system's.

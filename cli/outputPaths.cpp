@@ -6,11 +6,11 @@
 #include <system_error>
 
 #include "cli/UsageError.h"
-#include "cli/followLinks.h"
 #include "cli/process.h"
 #include "cli/sourceFile.h"
-#include "cli/throwUnlessAbsent.h"
 #include "cli/utf8Path.h"
+#include "quorvane/base/platform/followLinks.h"
+#include "quorvane/base/platform/throwUnlessAbsent.h"
 
 namespace quorvane::cli {
 

@@ -15,10 +15,10 @@
 #include <system_error>
 #include <utility>
 
-#include "cli/followLinks.h"
+#include "cli/StandardOutputFile.h"
 #include "cli/process.h"
-#include "quorvane/base/platform/errnoToRunTimeError.h"
-#include "quorvane/base/values/RtfError.h"
+#include "quorvane/base/platform/portableDescriptorFile.h"
+#include "quorvane/base/platform/portableSystemError.h"
 
 namespace quorvane::cli {
 
@@ -30,20 +30,10 @@ constexpr std::array endingSignals = {SIGHUP, SIGINT, SIGQUIT, SIGTERM};
 // their handler.
 std::array<char, PATH_MAX> unfinishedFile{};
 
-[[noreturn]] void raiseSystemError(RunTimeError number, int code) {
-    RtfError error(number);
-    error.cause = std::make_shared<RtfError>(code, std::generic_category().message(code));
-    raise(std::move(error));
-}
-
-[[noreturn]] void raiseSystemError(int code) {
-    raiseSystemError(errnoToRunTimeError(code), code);
-}
-
-/// Holds the ending signals back while it lives.
-class EndingSignalsHeld {
+/// Holds the ending signals back while a file is made, moved or removed.
+class SignalWatch : public UnfinishedFileWatch {
 public:
-    EndingSignalsHeld() noexcept {
+    void hold() noexcept override {
         sigset_t held;
         ::sigemptyset(&held);
         for (const int number : endingSignals) {
@@ -51,9 +41,12 @@ public:
         }
         ::pthread_sigmask(SIG_BLOCK, &held, &before_);
     }
-    EndingSignalsHeld(const EndingSignalsHeld&) = delete;
-    EndingSignalsHeld& operator=(const EndingSignalsHeld&) = delete;
-    ~EndingSignalsHeld() { ::pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
+    void resume() noexcept override { ::pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
+
+    void begin(const std::filesystem::path& path) override {
+        path.native().copy(unfinishedFile.data(), unfinishedFile.size() - 1);
+    }
+    void end() noexcept override { unfinishedFile.fill('\0'); }
 
 private:
     sigset_t before_{};
@@ -93,175 +86,6 @@ void occupyStandardStreams() {
             ::open("/dev/null", number == STDIN_FILENO ? O_WRONLY : O_RDONLY);
         }
     }
-}
-
-/// Makes a system call on a descriptor again for as long as a signal interrupts it, or the other
-/// side of a pipe that does not block is not ready.
-template <class Call>
-ssize_t whenReady(int descriptor, short event, Call call) {
-    while (true) {
-        const ssize_t result = call();
-        if (result != -1 || (errno != EINTR && errno != EAGAIN)) {
-            return result;
-        }
-        if (errno == EAGAIN) {
-            pollfd waiting{descriptor, event, 0};
-            ::poll(&waiting, 1, -1);
-        }
-    }
-}
-
-int openUninterrupted(const std::string& path, int flags, mode_t mode = 0) {
-    int descriptor = -1;
-    do {
-        descriptor = ::open(path.c_str(), flags | O_CLOEXEC | O_NOCTTY, mode);
-    } while (descriptor == -1 && errno == EINTR);
-    return descriptor;
-}
-
-/// Writes to a descriptor, which it closes.
-class DescriptorFile : public OutputFile {
-public:
-    explicit DescriptorFile(int descriptor) noexcept : descriptor_(descriptor) {}
-    DescriptorFile(const DescriptorFile&) = delete;
-    DescriptorFile& operator=(const DescriptorFile&) = delete;
-    ~DescriptorFile() override {
-        if (descriptor_ != -1) {
-            ::close(descriptor_);
-        }
-    }
-
-    int descriptor() const noexcept { return descriptor_; }
-
-    void write(std::string_view bytes) override {
-        while (!bytes.empty()) {
-            const ssize_t written = whenReady(descriptor_, POLLOUT, [&] {
-                return ::write(descriptor_, bytes.data(), bytes.size());
-            });
-            if (written == -1) {
-                raiseSystemError(errno);
-            }
-            bytes.remove_prefix(static_cast<std::size_t>(written));
-        }
-    }
-
-    void close() override {
-        // Not tried again: the descriptor is gone even when a signal interrupts the call.
-        if (::close(std::exchange(descriptor_, -1)) == -1 && errno != EINTR) {
-            raiseSystemError(errno);
-        }
-    }
-
-private:
-    int descriptor_;
-};
-
-/// Standard output, by a descriptor of its own.
-class StandardOutputFile : public OutputFile {
-public:
-    explicit StandardOutputFile(int descriptor) noexcept : file_(descriptor) {}
-
-    void write(std::string_view bytes) override {
-        try {
-            file_.write(bytes);
-        } catch (const RtfError& error) {
-            if (error.cause && error.cause->number == EPIPE) {
-                throw ClosedPipe();
-            }
-            throw;
-        }
-    }
-
-    void close() override { file_.close(); }
-
-private:
-    DescriptorFile file_;
-};
-
-std::string folderOf(const std::string& path) {
-    const std::size_t slash = path.rfind('/');
-    return slash == std::string::npos ? "./" : path.substr(0, slash + 1);
-}
-
-/// A new file beside another, taken along by a signal that ends the process.
-class UnfinishedFile {
-public:
-    explicit UnfinishedFile(const std::string& target) {
-        constexpr mode_t readAndWriteForAll = 0666;
-        const std::string prefix =
-            folderOf(target) + ".quorvane-" + std::to_string(::getpid()) + "-";
-        int descriptor = -1;
-        const EndingSignalsHeld held;
-        for (int number = 1; descriptor == -1; ++number) {
-            path_ = prefix + std::to_string(number) + ".tmp";
-            descriptor = openUninterrupted(path_, O_WRONLY | O_CREAT | O_EXCL, readAndWriteForAll);
-            if (descriptor == -1 && errno == ENOENT) {
-                raiseSystemError(RunTimeError::PathNotFound, ENOENT);
-            }
-            if (descriptor == -1 && errno != EEXIST) {
-                raiseSystemError(errno);
-            }
-        }
-        file_.emplace(descriptor);
-        path_.copy(unfinishedFile.data(), unfinishedFile.size() - 1);
-    }
-    UnfinishedFile(const UnfinishedFile&) = delete;
-    UnfinishedFile& operator=(const UnfinishedFile&) = delete;
-    ~UnfinishedFile() {
-        if (!path_.empty()) {
-            const EndingSignalsHeld held;
-            ::unlink(path_.c_str());
-            unfinishedFile.fill('\0');
-        }
-    }
-
-    DescriptorFile& file() noexcept { return *file_; }
-
-    void moveTo(const std::string& target) {
-        const EndingSignalsHeld held;
-        if (::rename(path_.c_str(), target.c_str()) == -1) {
-            raiseSystemError(errno);
-        }
-        path_.clear();
-        unfinishedFile.fill('\0');
-    }
-
-private:
-    std::string path_;
-    std::optional<DescriptorFile> file_;
-};
-
-class ReplacementFile : public OutputFile {
-public:
-    ReplacementFile(std::string target, std::optional<mode_t> permissions)
-        : target_(std::move(target)), unfinished_(target_) {
-        if (permissions && ::fchmod(unfinished_.file().descriptor(), *permissions) == -1) {
-            raiseSystemError(errno);
-        }
-    }
-
-    void write(std::string_view bytes) override { unfinished_.file().write(bytes); }
-
-    void close() override {
-        unfinished_.file().close();
-        unfinished_.moveTo(target_);
-    }
-
-private:
-    std::string target_;
-    UnfinishedFile unfinished_;
-};
-
-/// What a path leads to, past all links; nothing when nothing is there.
-std::optional<struct stat> statusOf(const std::string& path) {
-    struct stat status {};
-    if (::stat(path.c_str(), &status) == 0) {
-        return status;
-    }
-    if (errno != ENOENT) {
-        raiseSystemError(errno);
-    }
-    return std::nullopt;
 }
 
 }  // namespace
@@ -324,34 +148,13 @@ std::unique_ptr<OutputFile> openStandardOutput() {
     if (descriptor == -1) {
         raiseSystemError(errno);
     }
-    return std::make_unique<StandardOutputFile>(descriptor);
+    return std::make_unique<StandardOutputFile>(std::make_unique<DescriptorFile>(descriptor),
+                                                [](int code) { return code == EPIPE; });
 }
 
-std::unique_ptr<OutputFile> openReplacement(const std::string& path) {
-    struct stat own {};
-    if (::lstat(path.c_str(), &own) == -1 && errno == ENOENT) {
-        return std::make_unique<ReplacementFile>(path, std::nullopt);
-    }
-    const std::optional<struct stat> status = statusOf(path);
-    if (!status) {
-        return std::make_unique<ReplacementFile>(followLinks(path).native(), std::nullopt);
-    }
-    if (S_ISDIR(status->st_mode)) {
-        raiseSystemError(EISDIR);
-    }
-    if (!S_ISREG(status->st_mode)) {
-        const int descriptor = openUninterrupted(path, O_WRONLY);
-        if (descriptor == -1) {
-            raiseSystemError(errno);
-        }
-        return std::make_unique<DescriptorFile>(descriptor);
-    }
-    if (::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == -1) {
-        raiseSystemError(errno);
-    }
-    constexpr mode_t permissionBits = 07777;
-    return std::make_unique<ReplacementFile>(followLinks(path).native(),
-                                             status->st_mode & permissionBits);
+UnfinishedFileWatch& unfinishedFileWatch() {
+    static SignalWatch watch;
+    return watch;
 }
 
 std::filesystem::path systemSpelling(const std::filesystem::path& path) {

@@ -5,7 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "quorvane/base/platform/Platform.h"
+#include "quorvane/base/platform/Files.h"
+#include "quorvane/base/platform/UnfinishedFileWatch.h"
 
 /// What the command asks of the operating system beyond the library's platform. Errors have the
 /// numbers of the platform's; their cause is what the system said. Paths are UTF-8.
@@ -36,11 +37,8 @@ class ClosedPipe {};
 /// nobody reads.
 std::unique_ptr<OutputFile> openStandardOutput();
 
-/// A file that appears under its name with `close`, whole, in the place of the one that was there,
-/// whose permissions it takes. Until then the bytes are in a file beside it, which goes when the
-/// writing fails or ends without `close`. A symbolic link is followed; a device or a pipe is
-/// written as it is. Errors as `Platform::createFile`, and 75 for a file that may not be written.
-std::unique_ptr<OutputFile> openReplacement(const std::string& path);
+/// Lets the end of the process take an unfinished file along (see `openReplacement`).
+UnfinishedFileWatch& unfinishedFileWatch();
 
 /// One spelling for all in which the system takes the path of a file: in capitals where it does not
 /// tell them from small letters.

@@ -9,8 +9,8 @@
 #include <system_error>
 #include <utility>
 
-#include "cli/throwUnlessAbsent.h"
 #include "cli/utf8Path.h"
+#include "quorvane/base/platform/throwUnlessAbsent.h"
 #include "quorvane/base/text/codePage1252.h"
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/diagnostics/fileEncoding.h"

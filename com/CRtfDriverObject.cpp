@@ -44,7 +44,8 @@ std::span<const Member> CRtfDriverObject::members() {
 
 CRtfDriverObject::CRtfDriverObject(Ref<CRtfDriver> driver) : Wrapper(std::move(driver)) {
     reportAbsorbedErrors(native());
-    native().setNotifyErrorHandler([this](CRtfDriver&) { notifyErrorPoint_.fire(arithmetic_); });
+    native().setNotifyErrorHandler(
+        [this](CRtfDriver&, const RtfError& error) { notifyErrorPoint_.fire(error, arithmetic_); });
 }
 
 // While a description is analyzed, a handler of the event may release the host's last reference.

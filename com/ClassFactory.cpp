@@ -13,7 +13,7 @@ namespace {
 template <class Object>
 HRESULT create(REFIID interfaceId, void** object) {
     ComPtr<Object> created;
-    const HRESULT result = answering(interfaceId, [&] {
+    const HRESULT result = toHresult(interfaceId, [&] {
         created = WrapperRegistry<Object>::wrapperOf(Object::Native::create());
     });
     return FAILED(result) ? result : created->QueryInterface(interfaceId, object);

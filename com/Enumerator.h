@@ -64,7 +64,7 @@ public:
         }
         const ULONG count = wanted < left() ? wanted : left();
         ULONG done = 0;
-        const HRESULT result = answering(__uuidof(Interface), [&] {
+        const HRESULT result = toHresult(__uuidof(Interface), [&] {
             for (; done < count; ++done) {
                 (*items_)[next_ + done].answer(answers[done]);
             }

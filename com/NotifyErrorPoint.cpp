@@ -1,13 +1,11 @@
 #include "com/NotifyErrorPoint.h"
 
 #include <algorithm>
-#include <optional>
 #include <utility>
 
 #include "com/CRtfDriverObject.h"
 #include "com/Enumerator.h"
 #include "com/hostErrors.h"
-#include "quorvane/support/currentError.h"
 
 namespace quorvane::com {
 
@@ -94,7 +92,7 @@ STDMETHODIMP NotifyErrorPoint::Advise(IUnknown* sink, DWORD* cookie) {
         FAILED(sink->QueryInterface(IID_IDispatch, connected.outVoid()))) {
         return plainFailure(CONNECT_E_CANNOTCONNECT);
     }
-    return answering(IID_IConnectionPoint, [&] {
+    return toHresult(IID_IConnectionPoint, [&] {
         connections_.push_back({lastCookie_ + 1, std::move(connected)});
         *cookie = ++lastCookie_;
     });
@@ -118,7 +116,7 @@ STDMETHODIMP NotifyErrorPoint::EnumConnections(IEnumConnections** enumerator) {
         return plainFailure(E_POINTER);
     }
     *enumerator = nullptr;
-    return answering(IID_IConnectionPoint, [&] {
+    return toHresult(IID_IConnectionPoint, [&] {
         std::vector<EnumeratedConnection> connections;
         for (const Connection& each : connections_) {
             connections.push_back({each.cookie, each.sink});
@@ -128,21 +126,16 @@ STDMETHODIMP NotifyErrorPoint::EnumConnections(IEnumConnections** enumerator) {
     });
 }
 
-void NotifyErrorPoint::fire(const UsualArithmetic* arithmetic) {
+void NotifyErrorPoint::fire(const RtfError& error, const UsualArithmetic* arithmetic) {
     if (connections_.empty()) {
         return;
     }
-    // Copies: a sink may call the library, and so replace the current error, and change the
-    // connections.
-    const RtfError* current = currentError();
-    const std::optional<RtfError> error = current ? std::optional(*current) : std::nullopt;
+    // A copy: a sink may change the connections.
     const std::vector<Connection> connections = connections_;
     for (const Connection& each : connections) {
         if (isConnected(each.cookie)) {
-            if (error) {
-                setErrorObject(*error, DIID___CRtfDriver, Source::AsRaised,
-                               static_cast<DWORD>(error->number));
-            }
+            setErrorObject(error, DIID___CRtfDriver, Source::AsRaised,
+                           static_cast<DWORD>(error.number));
             const HostsArithmetic hosts(arithmetic);
             raiseIn(*each.sink.get(), driver_);
         }

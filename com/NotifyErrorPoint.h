@@ -9,6 +9,7 @@
 
 #include "com/Arithmetic.h"
 #include "com/ComPtr.h"
+#include "quorvane/base/values/RtfError.h"
 
 namespace quorvane::com {
 
@@ -32,11 +33,11 @@ public:
     STDMETHODIMP Unadvise(DWORD cookie) override;
     STDMETHODIMP EnumConnections(IEnumConnections** enumerator) override;
 
-    /// Raises the event `notifyError` in every sink that is connected. Each finds the thread's
-    /// current error as its error object, with the error's number as help context. A sink may
+    /// Raises the event `notifyError` in every sink that is connected. Each finds the error as the
+    /// thread's error object, with the error's number as help context. A sink may
     /// connect and disconnect, itself and others, and use the driver. It runs with the host's
     /// arithmetic, in whose place `arithmetic` stands.
-    void fire(const UsualArithmetic* arithmetic);
+    void fire(const RtfError& error, const UsualArithmetic* arithmetic);
 
 private:
     struct Connection {

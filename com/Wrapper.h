@@ -161,7 +161,7 @@ protected:
     /// A method that answers nothing.
     template <Source source = Source::Added, class Body>
     HRESULT run(Body&& body) const noexcept {
-        return answering<source>(__uuidof(Interface), std::forward<Body>(body));
+        return toHresult<source>(__uuidof(Interface), std::forward<Body>(body));
     }
 
     /// A method that answers what its body does.
@@ -184,7 +184,7 @@ protected:
             return plainFailure(E_POINTER);
         }
         *answer = Answer{};
-        return answeringAsIs(__uuidof(Interface),
+        return toHresultAsIs(__uuidof(Interface),
                              [&] { give(answer, std::forward<Body>(body)()); });
     }
 

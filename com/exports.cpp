@@ -38,7 +38,7 @@ STDAPI DllGetClassObject(REFCLSID classId, REFIID interfaceId, void** object) {
     }
     *object = nullptr;
     ComPtr<ClassFactory> factory;
-    const HRESULT result = answering(
+    const HRESULT result = toHresult(
         interfaceId, [&] { factory = ComPtr<ClassFactory>::adopt(newClassFactory(classId)); });
     if (FAILED(result)) {
         return result;

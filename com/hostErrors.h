@@ -29,14 +29,14 @@ void setErrorObject(const RtfError& error, REFIID interfaceId, Source source,
 /// Forgets the thread's error object.
 void clearErrorObject() noexcept;
 
-/// Answers a failure that has no error object.
+/// Returns a failure that has no error object.
 HRESULT plainFailure(HRESULT result) noexcept;
 
 /// Runs the body of a COM method that computes with no floating-point number. What it throws
 /// becomes the method's result: an error of the library with an error object, E_OUTOFMEMORY when
 /// memory is short, otherwise E_UNEXPECTED.
 template <Source source = Source::Added, class Body>
-HRESULT answeringAsIs(REFIID interfaceId, Body&& body) noexcept {
+HRESULT toHresultAsIs(REFIID interfaceId, Body&& body) noexcept {
     try {
         std::forward<Body>(body)();
         return S_OK;
@@ -53,9 +53,9 @@ HRESULT answeringAsIs(REFIID interfaceId, Body&& body) noexcept {
 /// The same for a body that may compute: the thread has the usual floating-point settings
 /// meanwhile.
 template <Source source = Source::Added, class Body>
-HRESULT answering(REFIID interfaceId, Body&& body) noexcept {
+HRESULT toHresult(REFIID interfaceId, Body&& body) noexcept {
     const UsualArithmetic arithmetic;
-    return answeringAsIs<source>(interfaceId, std::forward<Body>(body));
+    return toHresultAsIs<source>(interfaceId, std::forward<Body>(body));
 }
 
 }  // namespace quorvane::com

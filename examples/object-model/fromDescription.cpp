@@ -4,7 +4,6 @@
 #include <iostream>
 
 #include "quorvane/driver/CRtfDriver.h"
-#include "quorvane/support/currentError.h"
 
 int main(int argc, char** argv) {
     using namespace quorvane;
@@ -15,9 +14,9 @@ int main(int argc, char** argv) {
     const auto driver = CRtfDriver::create();
     driver->setErroneousInput(true);
     int errors = 0;
-    driver->setNotifyErrorHandler([&errors](CRtfDriver&) {
+    driver->setNotifyErrorHandler([&errors](CRtfDriver&, const RtfError& error) {
         ++errors;
-        std::cerr << "line " << currentError()->line << ": " << currentError()->description << '\n';
+        std::cerr << "line " << error.line << ": " << error.description << '\n';
     });
     try {
         driver->setStyleSheetFile(argv[2]);

@@ -22,7 +22,7 @@ Borders& Borders::operator=(const Borders& other) noexcept {
         ++other.wide()->references;
     }
     if (!isPacked()) {
-        letGoOfWide();
+        releaseWide();
     }
     setBits(other.bits());
     return *this;
@@ -45,7 +45,7 @@ void Borders::set(BorderSide side, tBorderWidth width) {
         fresh = reinterpret_cast<std::uintptr_t>(new Wide{1, changed});
     }
     if (!isPacked()) {
-        letGoOfWide();
+        releaseWide();
     }
     setBits(fresh);
 }
@@ -84,7 +84,7 @@ Borders::Widths Borders::widths() const noexcept {
     return widths;
 }
 
-void Borders::letGoOfWide() noexcept {
+void Borders::releaseWide() noexcept {
     Wide* mine = wide();
     if (--mine->references == 0) {
         delete mine;

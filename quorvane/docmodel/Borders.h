@@ -22,7 +22,7 @@ public:
     Borders& operator=(const Borders& other) noexcept;
     ~Borders() {
         if (!isPacked()) {
-            letGoOfWide();
+            releaseWide();
         }
     }
 
@@ -49,7 +49,7 @@ private:
     void setBits(std::uint64_t bits) noexcept;
     Wide* wide() const noexcept;
     Widths widths() const noexcept;
-    void letGoOfWide() noexcept;
+    void releaseWide() noexcept;
 
     // In halves, since a whole would be aligned to eight bytes.
     std::uint32_t low_ = static_cast<std::uint32_t>(noBorders);

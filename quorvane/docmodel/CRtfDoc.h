@@ -1,24 +1,14 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <string_view>
 
 #include "quorvane/base/memory/Ref.h"
-#include "quorvane/base/memory/SharedText.h"
 #include "quorvane/base/platform/Platform.h"
 #include "quorvane/docmodel/CRtfTableRows.h"
-#include "quorvane/docmodel/TableDocument.h"
 #include "quorvane/docmodel/enumerations.h"
 #include "quorvane/docmodel/references.h"
-#include "quorvane/rtfgroups/CRtfGrpBody.h"
-#include "quorvane/rtfgroups/CRtfGrpColorTable.h"
-#include "quorvane/rtfgroups/CRtfGrpDocumentFormat.h"
-#include "quorvane/rtfgroups/CRtfGrpFontTable.h"
-#include "quorvane/rtfgroups/CRtfGrpHeader.h"
-#include "quorvane/stylesheet/CRtfGrpStyleSheetTable.h"
 #include "quorvane/support/GError.h"
 
 namespace quorvane {
@@ -28,7 +18,7 @@ namespace quorvane {
 /// A document keeps its text and renders it again only when something has changed. Measures are in
 /// twips. `create` returns the first reference, and the document lives as long as one is held.
 /// Rows, cells and paragraphs do not keep it alive.
-class CRtfDoc final : public TableDocument {
+class CRtfDoc {
 public:
     /// Returns a new document with the default page, no stylesheet and no rows. The platform must
     /// outlive it.
@@ -40,13 +30,13 @@ public:
     const std::string& Contents();
 
     /// Returns whether the text is out of date. Initially false.
-    bool Changed() const { return changed_; }
+    bool Changed() const;
     /// Sets the flag and does nothing else.
-    void setChanged(bool changed) { changed_ = changed; }
+    void setChanged(bool changed);
 
     /// Returns the name of the stylesheet file; empty if none was set or the styles come from a
     /// text.
-    const std::string& StyleSheetFile() const { return styleSheet_->StyleSheetFile(); }
+    const std::string& StyleSheetFile() const;
     /// Loads a stylesheet file in place of the current styles. A missing file is not an error: no
     /// styles are loaded, and `StyleSheetOk` returns false. The document is marked changed if
     /// styles are loaded or removed. Errors for a wrong stylesheet, which leaves the document
@@ -54,45 +44,45 @@ public:
     void setStyleSheetFile(const std::string& sName);
 
     /// Returns whether a stylesheet was loaded without errors.
-    bool StyleSheetOk() const { return styleSheet_->StyleSheetOk(); }
+    bool StyleSheetOk() const;
 
     /// Bottom margin, default 1418. A value below 1, or not below 0.9 of the page height less the
     /// top margin, becomes 0. Setting another value marks the document changed.
-    std::int32_t BottomMargin() const { return format_->BottomMargin(); }
-    void setBottomMargin(std::int32_t twips) { format_->setBottomMargin(twips); }
+    std::int32_t BottomMargin() const;
+    void setBottomMargin(std::int32_t twips);
 
     /// Top margin, default 1418. A value below 1, or not below 0.9 of the page height less the
     /// bottom margin, becomes 2. Setting another value marks the document changed.
-    std::int32_t TopMargin() const { return format_->TopMargin(); }
-    void setTopMargin(std::int32_t twips) { format_->setTopMargin(twips); }
+    std::int32_t TopMargin() const;
+    void setTopMargin(std::int32_t twips);
 
     /// Left margin, default 1701. A value below 1, or not below 0.9 of the page width less the
     /// right margin, becomes 1. Setting another value marks the document changed.
-    std::int32_t LeftMargin() const { return format_->LeftMargin(); }
-    void setLeftMargin(std::int32_t twips) { format_->setLeftMargin(twips); }
+    std::int32_t LeftMargin() const;
+    void setLeftMargin(std::int32_t twips);
 
     /// Right margin, default 1701. A value below 1, or not below 0.9 of the page width less the
     /// left margin, becomes 3. Setting another value marks the document changed.
-    std::int32_t RightMargin() const { return format_->RightMargin(); }
-    void setRightMargin(std::int32_t twips) { format_->setRightMargin(twips); }
+    std::int32_t RightMargin() const;
+    void setRightMargin(std::int32_t twips);
 
     /// Number of the first page, default 2. A value below 1 becomes 2. Setting another value marks
     /// the document changed.
-    std::int32_t PageNumberStart() const { return format_->PageNumberStart(); }
-    void setPageNumberStart(std::int32_t number) { format_->setPageNumberStart(number); }
+    std::int32_t PageNumberStart() const;
+    void setPageNumberStart(std::int32_t number);
 
     /// Height of the page, default 15842; any value is accepted. Margins are not checked again.
     /// Setting it always marks the document changed.
-    std::int32_t PageHeight() const { return format_->PaperHeight(); }
-    void setPageHeight(std::int32_t twips) { format_->setPaperHeight(twips); }
+    std::int32_t PageHeight() const;
+    void setPageHeight(std::int32_t twips);
 
     /// Width of the page, default 12242; any value is accepted. Margins are not checked again, and
     /// existing cells keep their widths. Setting it always marks the document changed.
-    std::int32_t PageWidth() const { return format_->PaperWidth(); }
-    void setPageWidth(std::int32_t twips) { format_->setPaperWidth(twips); }
+    std::int32_t PageWidth() const;
+    void setPageWidth(std::int32_t twips);
 
     /// Returns the rows of the table: the same object every time, until `ClearStructure`.
-    Ref<CRtfTableRows> TableRows() const { return body_.TableRows(); }
+    Ref<CRtfTableRows> TableRows() const;
 
     /// Writes the document to a file in Windows-1252; a character that the code page does not have
     /// becomes "?". An existing file is deleted first. Error 75 if it cannot be deleted, for
@@ -124,38 +114,26 @@ public:
     /// document that a driver is building. An empty function removes it.
     void setAbsorbedErrorObserver(GError::Observer observer);
 
-    std::int32_t TextAreaWidth() const override;
-    std::string_view GetParagraphStyle(std::string_view sName) const override;
-    std::string_view GetCharacterStyle(std::string_view sName) const override;
-    GError& errors() noexcept override { return errors_; }
+    /// Returns the usable width of the page in twips: page width minus left and right margin. Error
+    /// 6 if it does not fit into 32 bits.
+    std::int32_t TextAreaWidth() const;
 
-private:
-    explicit CRtfDoc(Platform& platform);
-    ~CRtfDoc() override = default;
+    /// Returns the control words of the named paragraph style, a single blank if there are none.
+    /// Valid until the stylesheet changes.
+    std::string_view GetParagraphStyle(std::string_view sName) const;
 
-    void initAllGroups();
-    // Makes a stale text anew. A failure goes to the error module as one of this procedure; false
-    // then.
-    bool refresh(const char* procedure);
-    void render();
-    void letGo() noexcept override;
-    CRtfDoc* document() noexcept override { return this; }
-    void markChanged() noexcept override { changed_ = true; }
-    std::int32_t cellStyleColor(std::string_view sName) const override;
-    SharedText sharedName(std::string_view sName) override;
+    /// Returns the control words of the named character style, an empty text if there are none.
+    std::string_view GetCharacterStyle(std::string_view sName) const;
 
-    GError errors_;
-    bool changed_ = false;
-    // The text with its outer braces.
-    std::string contents_ = "{}";
-    CRtfGrpHeader header_;
-    CRtfGrpFontTable fontTable_;
-    CRtfGrpColorTable colorTable_;
-    std::unique_ptr<CRtfGrpStyleSheetTable> styleSheet_;
-    std::unique_ptr<CRtfGrpDocumentFormat> format_;
-    CRtfGrpBody<CRtfTableRows> body_;
-    // Names of styles set lately, at the place of their hash: equal ones share their characters.
-    std::array<SharedText, 16> names_;
+    /// Returns the error module of the document.
+    GError& errors() noexcept;
+
+    CRtfDoc(const CRtfDoc&) = delete;
+    CRtfDoc& operator=(const CRtfDoc&) = delete;
+
+protected:
+    CRtfDoc() = default;
+    ~CRtfDoc() = default;
 };
 
 }  // namespace quorvane

@@ -1,13 +1,10 @@
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
-#include <string>
+#include <string_view>
 
-#include "quorvane/base/memory/Ref.h"
 #include "quorvane/docmodel/CRtfParagraph.h"
 #include "quorvane/docmodel/TableCollection.h"
-#include "quorvane/docmodel/references.h"
 
 namespace quorvane {
 
@@ -15,7 +12,7 @@ namespace quorvane {
 class CRtfParagraphs : public TableCollection<CRtfParagraphs, CRtfParagraph> {
 public:
     /// Returns the cell; never null.
-    Ref<CRtfTableCell> Parent() const { return Ref<CRtfTableCell>(&cell_); }
+    Ref<CRtfTableCell> Parent() const;
 
     /// Returns the position of a paragraph, from 1. Errors: 91 "The paragraph object is set to
     /// Nothing" for null, 5 if it is not in the list.
@@ -26,23 +23,9 @@ public:
     /// already in the list, even as the old paragraph's own key.
     Ref<CRtfParagraph> refile(const Ref<CRtfParagraph>& old, std::string_view key);
 
-private:
-    friend class TableCollection;
-    friend class CRtfTableCell;
-    friend void retain(CRtfParagraphs* paragraphs) noexcept;
-    friend void release(CRtfParagraphs* paragraphs) noexcept;
-
-    explicit CRtfParagraphs(CRtfTableCell& cell) : cell_(cell) {}
-
-    TableDocument* document() const noexcept { return documentOf(cell_); }
-    void insertNew(const List::Place& place, TableDocument& document);
-    void removeAt(std::size_t position) noexcept;
-    void takeFrom(CRtfParagraphs& other);
-    void setForeColors(tColorIndex color) noexcept;
-    void setAligns(tCellAlign align) noexcept;
-    void render(TableRendering& rendering) const;
-
-    CRtfTableCell& cell_;
+protected:
+    CRtfParagraphs() = default;
+    ~CRtfParagraphs() = default;
 };
 
 }  // namespace quorvane

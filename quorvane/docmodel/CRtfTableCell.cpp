@@ -1,8 +1,9 @@
 #include "quorvane/docmodel/CRtfTableCell.h"
 
-#include "quorvane/base/values/RtfError.h"
+#include "quorvane/docmodel/InnerCell.h"
+#include "quorvane/docmodel/InnerRow.h"
 #include "quorvane/rtfgroups/GTextMarkedFields.h"
-#include "quorvane/support/currentError.h"
+#include "quorvane/support/published.h"
 
 namespace quorvane {
 
@@ -26,146 +27,93 @@ bool isDarkColor(tColorIndex color) noexcept {
     return color >= 0 && color < 64 && (darkColors >> color & 1U) != 0;
 }
 
-void retain(CRtfTableCell* cell) noexcept {
-    cell->counts_.retain();
-}
-
-void release(CRtfTableCell* cell) noexcept {
-    if (cell->counts_.release()) {
-        delete cell;
-    }
-}
-
-void retain(CRtfParagraphs* paragraphs) noexcept {
-    retain(&paragraphs->cell_);
-}
-
-void release(CRtfParagraphs* paragraphs) noexcept {
-    release(&paragraphs->cell_);
-}
-
-TableDocument* documentOf(const CRtfTableCell& cell) noexcept {
-    return cell.document();
-}
-
-MemoryPool& poolOf(const CRtfTableCell& cell) noexcept {
-    return poolOf(*cell.parent_.memory());
-}
-
-Ref<CRtfTableCell> CRtfTableCell::create(CRtfTableRow& row) {
-    void* memory = poolOf(row).allocate(sizeof(CRtfTableCell));
-    return Ref<CRtfTableCell>(::new (memory) CRtfTableCell(row));
-}
-
-void CRtfTableCell::operator delete(CRtfTableCell* cell, std::destroying_delete_t) noexcept {
-    const WeakRef<CRtfTableRow> row = cell->parent_;
-    cell->~CRtfTableCell();
-    poolOf(*row.memory()).deallocate(cell, sizeof(CRtfTableCell));
-}
-
 Ref<CRtfTableRow> CRtfTableCell::Parent() const {
-    return Ref<CRtfTableRow>(parent_.get());
+    return Ref<CRtfTableRow>(inner(*this).parent_.get());
 }
 
-TableDocument* CRtfTableCell::document() const noexcept {
-    const CRtfTableRow* row = parent_.get();
-    return row ? documentOf(*row) : nullptr;
+tBorderWidth CRtfTableCell::BottomBorder() const {
+    return inner(*this).borders_[BorderSide::Bottom];
 }
 
-CRtfTableRow& CRtfTableCell::row() const {
-    CRtfTableRow* row = parent_.get();
-    if (!row) {
-        raise(RunTimeError::ObjectNotSet);
-    }
-    return *row;
+tBorderWidth CRtfTableCell::TopBorder() const {
+    return inner(*this).borders_[BorderSide::Top];
 }
 
-void CRtfTableCell::takeOver(CRtfTableCell& old) {
-    backColor_ = old.backColor_;
-    borders_ = old.borders_;
-    rightEdge_ = old.rightEdge_;
-    edgeSpread_ = old.edgeSpread_;
-    paragraphs_.takeFrom(old.paragraphs_);
+tBorderWidth CRtfTableCell::LeftBorder() const {
+    return inner(*this).borders_[BorderSide::Left];
 }
 
-void CRtfTableCell::setBorder(BorderSide side, tBorderWidth width) {
-    clearCurrentError();
-    if (borders_[side] != width) {
-        borders_.set(side, width);
-        markChanged(document());
-    }
+tBorderWidth CRtfTableCell::RightBorder() const {
+    return inner(*this).borders_[BorderSide::Right];
+}
+
+void CRtfTableCell::setBottomBorder(tBorderWidth width) {
+    published([&] { inner(*this).setBorder(BorderSide::Bottom, width); });
+}
+
+void CRtfTableCell::setTopBorder(tBorderWidth width) {
+    published([&] { inner(*this).setBorder(BorderSide::Top, width); });
+}
+
+void CRtfTableCell::setLeftBorder(tBorderWidth width) {
+    published([&] { inner(*this).setBorder(BorderSide::Left, width); });
+}
+
+void CRtfTableCell::setRightBorder(tBorderWidth width) {
+    published([&] { inner(*this).setBorder(BorderSide::Right, width); });
+}
+
+tColorIndex CRtfTableCell::BackColor() const {
+    return static_cast<tColorIndex>(inner(*this).backColor_);
 }
 
 void CRtfTableCell::setBackColor(tColorIndex color) {
-    clearCurrentError();
-    applyBackColor(document(), color);
-}
-
-void CRtfTableCell::applyBackColor(TableDocument* document, tColorIndex color) {
-    if (backColor_ == color) {
-        return;
-    }
-    backColor_ = color;
-    if (isDarkColor(color)) {
-        paragraphs_.setForeColors(eWhite);
-    }
-    markChanged(document);
+    published([&] { inner(*this).applyBackColor(inner(*this).document(), color); });
 }
 
 std::int32_t CRtfTableCell::Width(tWidthUnit Units) const {
-    clearCurrentError();
-    return cellWidth(row(), *this, Units);
+    return published([&] { return cellsOf(inner(*this).row()).widthOf(inner(*this), Units); });
 }
 
 void CRtfTableCell::setWidth(tWidthUnit Units, std::int32_t width) {
-    clearCurrentError();
-    setCellWidth(row(), *this, Units, width);
+    published([&] { cellsOf(inner(*this).row()).setWidthOf(inner(*this), Units, width); });
+}
+
+Ref<CRtfParagraphs> CRtfTableCell::Paragraphs() {
+    return Ref<CRtfParagraphs>(&inner(*this).paragraphs_);
+}
+
+tCellAlign CRtfTableCell::Align() const {
+    return static_cast<tCellAlign>(inner(*this).align_);
+}
+
+void CRtfTableCell::setAlign(tCellAlign align) {
+    inner(*this).align_ = align;
+}
+
+std::string CRtfTableCell::Style() const {
+    return inner(*this).style_.text();
 }
 
 void CRtfTableCell::setStyle(std::string_view sName) {
-    clearCurrentError();
-    TableDocument* document = this->document();
-    style_ = document ? document->sharedName(sName) : SharedText(sName);
-    markChanged(document);
+    published([&] {
+        TableDocument* document = inner(*this).document();
+        inner(*this).style_ = document ? document->sharedName(sName) : SharedText(sName);
+        markChanged(document);
+    });
 }
 
 void CRtfTableCell::asMarkedField(const Value& vFieldData) {
-    clearCurrentError();
-    try {
-        markedField_ = std::make_unique<std::string>(GTextMarkedFields::fieldData(vFieldData));
-    } catch (const RtfError& error) {
-        if (TableDocument* document = this->document()) {
-            document->errors().handleError(error, "CRtfTableCell.cls", "asMarkedField");
+    published([&] {
+        try {
+            inner(*this).markedField_ =
+                std::make_unique<std::string>(GTextMarkedFields::fieldData(vFieldData));
+        } catch (const RtfError& error) {
+            if (TableDocument* document = inner(*this).document()) {
+                document->errors().handleError(error, "CRtfTableCell.cls", "asMarkedField");
+            }
         }
-    }
-}
-
-void CRtfTableCell::renderDefinition(TableRendering& rendering, std::int32_t rightEdge) {
-    TextOutput& out = rendering.out;
-    out << rendering.borderText(borders_);
-    if (backColor_ != eNoColor || !style_.empty()) {
-        if (backColor_ == eNoColor) {
-            applyBackColor(
-                &rendering.document,
-                static_cast<tColorIndex>(rendering.document.cellStyleColor(style_.view())));
-        }
-        out << "\\clcbpat" << backColor_;
-    }
-    out << "\\cellx" << rightEdge;
-}
-
-void CRtfTableCell::renderContent(TableRendering& rendering) {
-    if (align_ != eNoDefault) {
-        paragraphs_.setAligns(Align());
-    }
-    if (markedField_) {
-        GTextMarkedFields::writeFieldStart(*markedField_, rendering.out);
-    }
-    rendering.out << "\r\n";
-    paragraphs_.render(rendering);
-    if (markedField_) {
-        GTextMarkedFields::writeFieldEnd(rendering.out);
-    }
+    });
 }
 
 }  // namespace quorvane

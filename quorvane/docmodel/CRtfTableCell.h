@@ -1,20 +1,12 @@
 #pragma once
 
 #include <cstdint>
-#include <memory>
-#include <new>
 #include <string>
 #include <string_view>
 
-#include "quorvane/base/collections/KeyedList.h"
-#include "quorvane/base/memory/Counted.h"
 #include "quorvane/base/memory/Ref.h"
-#include "quorvane/base/memory/SharedText.h"
 #include "quorvane/base/values/Value.h"
-#include "quorvane/docmodel/Borders.h"
 #include "quorvane/docmodel/CRtfParagraphs.h"
-#include "quorvane/docmodel/TableDocument.h"
-#include "quorvane/docmodel/TableRendering.h"
 #include "quorvane/docmodel/enumerations.h"
 #include "quorvane/docmodel/references.h"
 
@@ -23,25 +15,25 @@ namespace quorvane {
 /// A cell of a row. The row's `TableCells` makes it; after it is removed there, it keeps its
 /// values. Setters that mark the document changed set the value and raise error 91 if the document
 /// no longer exists.
-class CRtfTableCell final : public KeyedListElement {
+class CRtfTableCell {
 public:
     /// Returns the row, even after the cell was removed from it; null if the row no longer exists.
     Ref<CRtfTableRow> Parent() const;
 
     /// Width of a border in twips; the default, `eNone` (-1), is no border. Any other number is
     /// written as it is.
-    tBorderWidth BottomBorder() const { return borders_[BorderSide::Bottom]; }
-    tBorderWidth TopBorder() const { return borders_[BorderSide::Top]; }
-    tBorderWidth LeftBorder() const { return borders_[BorderSide::Left]; }
-    tBorderWidth RightBorder() const { return borders_[BorderSide::Right]; }
+    tBorderWidth BottomBorder() const;
+    tBorderWidth TopBorder() const;
+    tBorderWidth LeftBorder() const;
+    tBorderWidth RightBorder() const;
     /// Setting another value marks the document changed.
-    void setBottomBorder(tBorderWidth width) { setBorder(BorderSide::Bottom, width); }
-    void setTopBorder(tBorderWidth width) { setBorder(BorderSide::Top, width); }
-    void setLeftBorder(tBorderWidth width) { setBorder(BorderSide::Left, width); }
-    void setRightBorder(tBorderWidth width) { setBorder(BorderSide::Right, width); }
+    void setBottomBorder(tBorderWidth width);
+    void setTopBorder(tBorderWidth width);
+    void setLeftBorder(tBorderWidth width);
+    void setRightBorder(tBorderWidth width);
 
     /// Background color. The default, `eNoColor` (0), leaves it to the cell style.
-    tColorIndex BackColor() const { return static_cast<tColorIndex>(backColor_); }
+    tColorIndex BackColor() const;
     /// Setting another value marks the document changed. If the new color is dark (see
     /// `isDarkColor`), all paragraphs that are in the cell at that moment become white; a light
     /// color does not change them.
@@ -60,17 +52,17 @@ public:
     void setWidth(tWidthUnit Units, std::int32_t width);
 
     /// Returns the paragraphs; the same object every time.
-    Ref<CRtfParagraphs> Paragraphs() { return Ref<CRtfParagraphs>(&paragraphs_); }
+    Ref<CRtfParagraphs> Paragraphs();
 
     /// Alignment of all paragraphs. The default, `eNoDefault` (0), leaves each paragraph its own;
     /// any other value is given to all paragraphs whenever the document is rendered.
-    tCellAlign Align() const { return static_cast<tCellAlign>(align_); }
+    tCellAlign Align() const;
     /// Does not mark the document changed.
-    void setAlign(tCellAlign align) { align_ = align; }
+    void setAlign(tCellAlign align);
 
     /// Name of the cell style, empty by default. If `BackColor` is 0 when the document is rendered,
     /// it is set to the color of the style, with the same effects as `setBackColor`.
-    std::string Style() const { return style_.text(); }
+    std::string Style() const;
     /// Always marks the document changed, even with the same name.
     void setStyle(std::string_view sName);
 
@@ -79,56 +71,16 @@ public:
     /// `CRtfDoc::setAbsorbedErrorObserver`). Does not mark the document changed.
     void asMarkedField(const Value& vFieldData);
 
-private:
-    friend class CRtfTableCells;
-    friend class CRtfTableRow;
-    friend void retain(CRtfTableCell* cell) noexcept;
-    friend void release(CRtfTableCell* cell) noexcept;
-    friend TableDocument* documentOf(const CRtfTableCell& cell) noexcept;
-    friend MemoryPool& poolOf(const CRtfTableCell& cell) noexcept;
+    CRtfTableCell(const CRtfTableCell&) = delete;
+    CRtfTableCell& operator=(const CRtfTableCell&) = delete;
 
-    static Ref<CRtfTableCell> create(CRtfTableRow& row);
-    explicit CRtfTableCell(CRtfTableRow& row) : parent_(&row) {}
+protected:
+    CRtfTableCell() = default;
     ~CRtfTableCell() = default;
-    static void operator delete(CRtfTableCell* cell, std::destroying_delete_t) noexcept;
-
-    void setParent(CRtfTableRow& row) { parent_ = WeakRef<CRtfTableRow>(&row); }
-    TableDocument* document() const noexcept;
-    CRtfTableRow& row() const;
-    void takeOver(CRtfTableCell& old);
-    void setBorder(BorderSide side, tBorderWidth width);
-    void applyBackColor(TableDocument* document, tColorIndex color);
-    void renderDefinition(TableRendering& rendering, std::int32_t rightEdge);
-    void renderContent(TableRendering& rendering);
-
-    Counted counts_;
-    WeakRef<CRtfTableRow> parent_;
-    Borders borders_;
-    std::int32_t backColor_ = eNoColor;
-    std::int32_t align_ = eNoDefault;
-    // Kept by the row's cells: the right edge counts while no later spread gave all cells new ones.
-    std::int32_t rightEdge_ = 0;
-    std::uint32_t edgeSpread_ = 0;
-    SharedText style_;
-    // Hexadecimal data of a marked field; null if the cell is not marked.
-    std::unique_ptr<std::string> markedField_;
-    CRtfParagraphs paragraphs_{*this};
 };
 
 /// Returns whether text on this background becomes white: true for 3, 4, 5, 8 to 15, 17, 24, 25,
 /// 29, 31, 38, 39, 41, 43, 44, 46, 48, 49, 51, 52, 53, 55 and 57.
 bool isDarkColor(tColorIndex color) noexcept;
-
-/// The document that a row belongs to, for its cells; null if it no longer exists.
-TableDocument* documentOf(const CRtfTableRow& row) noexcept;
-
-/// The memory pool of a row and its cells.
-MemoryPool& poolOf(const CRtfTableRow& row) noexcept;
-
-/// Width of a cell of the row; see `CRtfTableCell::Width`.
-std::int32_t cellWidth(const CRtfTableRow& row, const CRtfTableCell& cell, tWidthUnit units);
-
-/// Sets the width of a cell of the row; see `CRtfTableCell::setWidth`.
-void setCellWidth(CRtfTableRow& row, CRtfTableCell& cell, tWidthUnit units, std::int32_t width);
 
 }  // namespace quorvane

@@ -1,182 +1,44 @@
 #include "quorvane/docmodel/CRtfTableCells.h"
 
-#include <algorithm>
-#include <utility>
-
-#include "quorvane/base/values/RtfError.h"
-#include "quorvane/docmodel/measures.h"
-#include "quorvane/support/currentError.h"
+#include "quorvane/docmodel/InnerCells.h"
+#include "quorvane/docmodel/InnerRow.h"
+#include "quorvane/docmodel/tableCollectionMembers.h"
 
 namespace quorvane {
 
-namespace {
+template class TableCollection<CRtfTableCells, CRtfTableCell>;
 
-constexpr std::int32_t smallestWidth = 200;
-
-// Width of each of so many cells that share the page evenly; their edges must fit in 32 bits.
-std::int32_t evenWidth(const TableDocument& document, std::size_t count) {
-    const auto cells = static_cast<std::int32_t>(count);
-    const std::int32_t width = std::max(quotient(document.TextAreaWidth(), cells), smallestWidth);
-    product(width, cells);
-    return width;
+Ref<CRtfTableRow> CRtfTableCells::Parent() const {
+    InnerRow& row = inner(*this).row();
+    return Ref<CRtfTableRow>(isAlive(&row) ? &row : nullptr);
 }
-
-std::int32_t twipsOf(const TableDocument& document, std::int32_t percent) {
-    return quotient(product(document.TextAreaWidth(), percent), 100);
-}
-
-std::int32_t percentOf(const TableDocument& document, std::int32_t twips) {
-    return quotient(product(twips, 100), document.TextAreaWidth());
-}
-
-}  // namespace
 
 void CRtfTableCells::removeTail() {
-    if (list_.count() == 0) {
-        clearCurrentError();
-        raise(RunTimeError::InvalidProcedureCall);
+    if (inner(*this).list().count() == 0) {
+        published([] { raise(RunTimeError::InvalidProcedureCall); });
     }
     TableCollection::removeTail();
 }
 
 void CRtfTableCells::SetUniformWidths() {
-    clearCurrentError();
-    TableDocument& owner = required(document());
-    spread(evenWidth(owner, list_.count()));
-    owner.markChanged();
+    published([&] { inner(*this).spreadEvenly(); });
 }
 
 std::int32_t CRtfTableCells::indexOf(const CRtfTableCell* cell) const {
-    clearCurrentError();
-    if (!cell) {
-        raise(RtfError(static_cast<std::int32_t>(RunTimeError::ObjectNotSet),
-                       "The Cell object is set to Nothing"));
-    }
-    return static_cast<std::int32_t>(list_.requiredPositionOf(*cell));
+    return published([&] { return inner(*this).indexOf(cell); });
 }
 
 Ref<CRtfTableCell> CRtfTableCells::refile(const Ref<CRtfTableCell>& old, std::string_view key) {
-    clearCurrentError();
-    TableDocument& owner = required(document());
-    const std::size_t position = list_.requiredPositionOf(*old);
-    Ref<CRtfTableCell> fresh = CRtfTableCell::create(row_);
-    list_.replaceAt(position, fresh, key);
-    fresh->takeOver(*old);
-    owner.markChanged();
-    return fresh;
-}
-
-void CRtfTableCells::insertNew(const List::Place& place, TableDocument& document) {
-    const std::int32_t uniformWidth = evenWidth(document, list_.count() + 1);
-    list_.insert(place, CRtfTableCell::create(row_));
-    spread(uniformWidth);
-}
-
-void CRtfTableCells::removeAt(std::size_t position) noexcept {
-    if (position == 1) {
-        list_.removeAt(1);
-        ++removedHeads_;
-        return;
-    }
-    if (position < list_.count()) {
-        writeEdges();
-    }
-    const std::int32_t freedEdge = rightEdge(position);
-    list_.removeAt(position);
-    if (list_.count() != 1) {
-        setRightEdge(position - 1, freedEdge);
-    }
-}
-
-void CRtfTableCells::takeFrom(CRtfTableCells& other) {
-    list_ = std::move(other.list_);
-    uniformWidth_ = other.uniformWidth_;
-    removedHeads_ = other.removedHeads_;
-    spreads_ = other.spreads_;
-    for (CRtfTableCell* cell : list_) {
-        cell->setParent(row_);
-    }
-}
-
-void CRtfTableCells::spread(std::int32_t uniformWidth) noexcept {
-    uniformWidth_ = uniformWidth;
-    removedHeads_ = 0;
-    ++spreads_;
-}
-
-std::int32_t CRtfTableCells::rightEdge(std::size_t position) const noexcept {
-    const CRtfTableCell& cell = list_.at(position);
-    if (cell.edgeSpread_ == spreads_) {
-        return cell.rightEdge_;
-    }
-    return uniformWidth_ * (static_cast<std::int32_t>(position) + removedHeads_);
-}
-
-void CRtfTableCells::setRightEdge(std::size_t position, std::int32_t edge) noexcept {
-    CRtfTableCell& cell = list_.at(position);
-    cell.rightEdge_ = edge;
-    cell.edgeSpread_ = spreads_;
-}
-
-// For when positions are about to change that edges follow from.
-void CRtfTableCells::writeEdges() noexcept {
-    if (uniformWidth_ != 0) {
-        for (std::size_t position = 1; position <= list_.count(); ++position) {
-            setRightEdge(position, rightEdge(position));
-        }
-        uniformWidth_ = 0;
-    }
-}
-
-std::int32_t CRtfTableCells::width(std::size_t position) const {
-    return position == 1 ? rightEdge(1) : difference(rightEdge(position), rightEdge(position - 1));
-}
-
-std::int32_t CRtfTableCells::widthOf(const CRtfTableCell& cell, tWidthUnit units) const {
-    const std::int32_t twips = width(static_cast<std::size_t>(indexOf(&cell)));
-    return units == eTwips ? twips : percentOf(required(document()), twips);
-}
-
-void CRtfTableCells::setWidthOf(const CRtfTableCell& cell, tWidthUnit units, std::int32_t value) {
-    TableDocument& owner = required(document());
-    const std::int32_t twips = units == ePercent ? twipsOf(owner, value) : value;
-    const auto position = static_cast<std::size_t>(indexOf(&cell));
-    const std::size_t count = list_.count();
-    std::int32_t edge = position == 1 ? twips : sum(rightEdge(position - 1), twips);
-    std::int32_t lower = smallestWidth;
-    std::int32_t upper = 0;
-    std::size_t changed = position;
-    if (count == 1) {
-        upper = owner.TextAreaWidth();
-    } else if (position < count) {
-        lower = sum(difference(rightEdge(position), width(position)), smallestWidth);
-        upper = difference(rightEdge(position + 1), smallestWidth);
-    } else {
-        changed = position - 1;
-        edge = difference(rightEdge(position), twips);
-        lower = sum(difference(rightEdge(changed), width(changed)), smallestWidth);
-        upper = difference(rightEdge(position), smallestWidth);
-    }
-    if (edge > upper) {
-        edge = upper;
-    } else if (edge < lower) {
-        edge = lower;
-    }
-    setRightEdge(changed, edge);
-    owner.markChanged();
-}
-
-void CRtfTableCells::render(TableRendering& rendering) {
-    std::size_t position = 0;
-    for (CRtfTableCell* cell : list_) {
-        rendering.out << " ";
-        cell->renderDefinition(rendering, rightEdge(++position));
-    }
-    for (CRtfTableCell* cell : list_) {
-        rendering.out << " ";
-        cell->renderContent(rendering);
-        rendering.out << "\\cell";
-    }
+    return published([&]() -> Ref<CRtfTableCell> {
+        InnerCells& self = inner(*this);
+        TableDocument& owner = required(self.document());
+        const std::size_t position = self.list_.requiredPositionOf(inner(*old));
+        const Ref<InnerCell> fresh = InnerCell::create(self.row_);
+        self.list_.replaceAt(position, fresh, key);
+        fresh->takeOver(inner(*old));
+        owner.markChanged();
+        return fresh;
+    });
 }
 
 }  // namespace quorvane

@@ -1,70 +1,29 @@
 #include "quorvane/docmodel/CRtfTableRows.h"
 
-#include <algorithm>
-
-#include "quorvane/base/memory/largePages.h"
-#include "quorvane/support/currentError.h"
+#include "quorvane/docmodel/CRtfDoc.h"
+#include "quorvane/docmodel/InnerRows.h"
+#include "quorvane/docmodel/tableCollectionMembers.h"
 
 namespace quorvane {
 
-namespace {
-
-// Makes room for the rows that follow, as long as those rendered so far on the average. A text that
-// grew by itself would be moved time and again; room that is not used costs no memory.
-void reserveForRest(std::size_t start, std::size_t rendered, std::size_t count, std::string& rtf) {
-    constexpr std::size_t roomForARow = 4096;
-    constexpr std::size_t largestGrowth = 8;
-    if (rtf.capacity() - rtf.size() < roomForARow) {
-        const double perRow =
-            static_cast<double>(rtf.size() - start) / static_cast<double>(rendered);
-        const double expected = perRow * static_cast<double>(count - rendered) * 1.05;
-        const double most = static_cast<double>(rtf.size() * (largestGrowth - 1));
-        rtf.reserve(rtf.size() + roomForARow + static_cast<std::size_t>(std::min(expected, most)));
-        preferLargePages(rtf.data(), rtf.capacity());
-    }
-}
-
-}  // namespace
-
-void retain(CRtfTableRows* rows) noexcept {
-    rows->counts_.retain();
-}
-
-void release(CRtfTableRows* rows) noexcept {
-    if (rows->counts_.release()) {
-        delete rows;
-    }
-}
+template class TableCollection<CRtfTableRows, CRtfTableRow>;
 
 Ref<CRtfDoc> CRtfTableRows::Parent() const {
-    TableDocument* document = parent_.get();
+    TableDocument* document = inner(*this).document();
     return Ref<CRtfDoc>(document ? document->document() : nullptr);
 }
 
 Ref<CRtfTableRow> CRtfTableRows::refile(const Ref<CRtfTableRow>& old, std::string_view key) {
-    clearCurrentError();
-    TableDocument& owner = required(document());
-    const std::size_t position = list_.requiredPositionOf(*old);
-    Ref<CRtfTableRow> fresh = CRtfTableRow::create(parent_);
-    list_.replaceAt(position, fresh, key);
-    fresh->takeOver(*old);
-    owner.markChanged();
-    return fresh;
-}
-
-void CRtfTableRows::insertNew(const List::Place& place, TableDocument&) {
-    list_.insert(place, CRtfTableRow::create(parent_));
-}
-
-void CRtfTableRows::render(std::string& rtf) const {
-    TableRendering rendering(required(document()), rtf);
-    const std::size_t start = rtf.size();
-    std::size_t rendered = 0;
-    for (CRtfTableRow* row : list_) {
-        row->render(rendering);
-        rendering.out.flush();
-        reserveForRest(start, ++rendered, list_.count(), rtf);
-    }
+    return published([&]() -> Ref<CRtfTableRow> {
+        InnerRows& self = inner(*this);
+        TableDocument& owner = required(self.document());
+        const std::size_t position = self.list_.requiredPositionOf(inner(*old));
+        const Ref<InnerRow> fresh = InnerRow::create(self.parent_);
+        self.list_.replaceAt(position, fresh, key);
+        fresh->takeOver(inner(*old));
+        owner.markChanged();
+        return fresh;
+    });
 }
 
 }  // namespace quorvane

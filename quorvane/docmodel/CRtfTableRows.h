@@ -1,16 +1,9 @@
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
-#include <string>
 #include <string_view>
 
-#include "quorvane/base/memory/Counted.h"
-#include "quorvane/base/memory/Ref.h"
 #include "quorvane/docmodel/CRtfTableRow.h"
 #include "quorvane/docmodel/TableCollection.h"
-#include "quorvane/docmodel/references.h"
-#include "quorvane/rtfgroups/CRtfGrpBody.h"
 
 namespace quorvane {
 
@@ -28,24 +21,9 @@ public:
     /// is already in the list, even as the old row's own key.
     Ref<CRtfTableRow> refile(const Ref<CRtfTableRow>& old, std::string_view key);
 
-private:
-    friend class TableCollection;
-    friend class CRtfDoc;
-    friend class CRtfGrpBody<CRtfTableRows>;
-    friend void retain(CRtfTableRows* rows) noexcept;
-    friend void release(CRtfTableRows* rows) noexcept;
-
-    explicit CRtfTableRows(TableDocument& document) : parent_(&document) {}
+protected:
+    CRtfTableRows() = default;
     ~CRtfTableRows() = default;
-
-    TableDocument* document() const noexcept { return parent_.get(); }
-    void insertNew(const List::Place& place, TableDocument& document);
-    void removeAt(std::size_t position) noexcept { list_.removeAt(position); }
-    void render(std::string& rtf) const;
-    void destroy() noexcept { list_.clear(); }
-
-    Counted counts_;
-    WeakRef<TableDocument> parent_;
 };
 
 }  // namespace quorvane

@@ -4,6 +4,14 @@
 
 namespace quorvane {
 
+void retainDocument(TableDocument& document) noexcept {
+    document.counts_.retain();
+}
+
+void releaseDocument(TableDocument& document) noexcept {
+    document.counts_.release(&document);
+}
+
 void retainWeak(TableDocument* document) noexcept {
     document->counts_.retainWeak();
 }

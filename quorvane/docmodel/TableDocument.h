@@ -43,17 +43,19 @@ private:
     friend void retainWeak(TableDocument* document) noexcept;
     friend void releaseWeak(TableDocument* document) noexcept;
     friend bool isAlive(const TableDocument* document) noexcept;
-    friend void retain(CRtfDoc* document) noexcept;
-    friend void release(CRtfDoc* document) noexcept;
+    friend void retainDocument(TableDocument& document) noexcept;
+    friend void releaseDocument(TableDocument& document) noexcept;
     friend class CountedOwner;
 
     // Called when the last reference goes: the groups are destroyed.
-    virtual void letGo() noexcept = 0;
+    virtual void releaseContents() noexcept = 0;
 
     CountedOwner counts_;
     MemoryPool pool_;
 };
 
+void retainDocument(TableDocument& document) noexcept;
+void releaseDocument(TableDocument& document) noexcept;
 void retainWeak(TableDocument* document) noexcept;
 void releaseWeak(TableDocument* document) noexcept;
 bool isAlive(const TableDocument* document) noexcept;

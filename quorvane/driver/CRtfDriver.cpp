@@ -12,20 +12,21 @@
 #include "quorvane/driver/DescriptionParser.h"
 #include "quorvane/driver/DescriptionRules.h"
 #include "quorvane/driver/DescriptionTree.h"
+#include "quorvane/driver/Dialect.h"
 #include "quorvane/driver/DocumentBuilder.h"
 #include "quorvane/driver/driverErrors.h"
 #include "quorvane/support/GFileSystem.h"
-#include "quorvane/support/currentError.h"
+#include "quorvane/support/published.h"
 #include "quorvane/support/recordStrings.h"
 
 namespace quorvane {
 
 void retain(CRtfDriver* driver) noexcept {
-    driver->counts_.retain();
+    ++driver->references_;
 }
 
 void release(CRtfDriver* driver) noexcept {
-    if (driver->counts_.release()) {
+    if (--driver->references_ == 0) {
         delete driver;
     }
 }
@@ -38,25 +39,25 @@ CRtfDriver::CRtfDriver(Platform& platform)
     : platform_(platform), document_(CRtfDoc::create(platform)) {}
 
 void CRtfDriver::ParseFile(const std::string& sPath) {
-    clearCurrentError();
-    if (sPath.empty()) {
-        raise(driverError(DriverFault::EmptyPath));
-    }
-    std::string text;
-    try {
-        text = platform_.readFile(sPath);
-        if (asciiRunEnd(text, 0) < text.size()) {
-            text = utf8FromCodePage1252(text);
+    published([&] {
+        if (sPath.empty()) {
+            raise(driverError(DriverFault::EmptyPath));
         }
-    } catch (const RtfError& error) {
-        raise(unreadableDescription(sPath, error));
-    }
-    AnalyseData(text);
+        std::string text;
+        try {
+            text = platform_.readFile(sPath);
+            if (asciiRunEnd(text, 0) < text.size()) {
+                text = utf8FromCodePage1252(text);
+            }
+        } catch (const RtfError& error) {
+            raise(unreadableDescription(sPath, error));
+        }
+        AnalyseData(text);
+    });
 }
 
 void CRtfDriver::ParseFromMemmory(std::string_view sBuffer) {
-    clearCurrentError();
-    AnalyseData(sBuffer);
+    published([&] { AnalyseData(sBuffer); });
 }
 
 void CRtfDriver::LoadStyleSheetFromMemmory(std::string_view sBuffer) {
@@ -68,18 +69,19 @@ void CRtfDriver::setNotifyErrorHandler(NotifyErrorHandler handler) {
 }
 
 void CRtfDriver::setStyleSheetFile(const std::string& sName) {
-    clearCurrentError();
-    const bool isStyleSheet = lowerCase(GFileSystem::getFileExtension(sName)) == "rtfss";
-    if (!isStyleSheet || sName == StyleSheetFile()) {
-        return;
-    }
-    try {
-        document_->setStyleSheetFile(sName);
-    } catch (const RtfError& error) {
-        RtfError refused = driverError(DriverFault::WrongStyleSheet, sName);
-        refused.cause = std::make_shared<RtfError>(error);
-        raise(std::move(refused));
-    }
+    published([&] {
+        const bool isStyleSheet = lowerCase(GFileSystem::getFileExtension(sName)) == "rtfss";
+        if (!isStyleSheet || sName == StyleSheetFile()) {
+            return;
+        }
+        try {
+            document_->setStyleSheetFile(sName);
+        } catch (const RtfError& error) {
+            RtfError refused = driverError(DriverFault::WrongStyleSheet, sName);
+            refused.cause = std::make_shared<RtfError>(error);
+            raise(std::move(refused));
+        }
+    });
 }
 
 void CRtfDriver::setAbsorbedErrorObserver(GError::Observer observer) {
@@ -89,9 +91,10 @@ void CRtfDriver::setAbsorbedErrorObserver(GError::Observer observer) {
 void CRtfDriver::AnalyseData(std::string_view text) {
     // A handler of the event may release the driver.
     const Ref<CRtfDriver> self(this);
+    const Dialect& dialect = originalDialect();
     document_->ClearStructure();
     std::vector<SourceLine> lines = PreProcessRawData(text);
-    const DescriptionFrame frame = frameOf(text, lines, dialect_);
+    const DescriptionFrame frame = frameOf(text, lines, dialect);
     for (const Violation& violation : frameViolations(frame, text, lines)) {
         step([&] {
             if (violation.fault == DriverFault::NotADescription) {
@@ -101,17 +104,17 @@ void CRtfDriver::AnalyseData(std::string_view text) {
         });
     }
     if (erroneousInput_) {
-        lines = repairLines(lines, dialect_);
+        lines = repairLines(lines, dialect);
     }
     // Of the lines of a description about half are leaves; the others open and close nodes.
     DescriptionTree tree(lines.size() / 2);
-    step([&] { DescriptionParser(dialect_).treeWalkerBuild(tree, lines); });
+    step([&] { DescriptionParser(dialect).treeWalkerBuild(tree, lines); });
     if (erroneousInput_) {
-        const DescriptionRules rules(dialect_, raiseViolation);
+        const DescriptionRules rules(dialect, raiseViolation);
         step([&] { rules.docWalkerSyntax(tree.root().child(documentNumber)); });
         step([&] { rules.treeWalkerSemantic(tree.root().child(documentNumber)); });
     }
-    step([&] { DocumentBuilder(*document_, dialect_).build(tree.root().child(documentNumber)); });
+    step([&] { DocumentBuilder(*document_, dialect).build(tree.root().child(documentNumber)); });
 }
 
 template <class Body>
@@ -124,11 +127,11 @@ void CRtfDriver::step(Body&& body) {
 }
 
 void CRtfDriver::report(const RtfError& error) {
+    setCurrentError(error);
     if (notifyError_ && handler_) {
-        setCurrentError(error);
         // The handler may put another one in its place.
         const NotifyErrorHandler handler = handler_;
-        handler(*this);
+        handler(*this, error);
     }
 }
 

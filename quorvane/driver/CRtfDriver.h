@@ -1,14 +1,14 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
 
-#include "quorvane/base/memory/Counted.h"
 #include "quorvane/base/memory/Ref.h"
 #include "quorvane/base/platform/Platform.h"
+#include "quorvane/base/values/RtfError.h"
 #include "quorvane/docmodel/CRtfDoc.h"
-#include "quorvane/driver/Dialect.h"
 #include "quorvane/support/GError.h"
 
 namespace quorvane {
@@ -24,12 +24,12 @@ void release(CRtfDriver* driver) noexcept;
 /// there is. `ParseFile` and `ParseFromMemmory` do not raise it.
 class CRtfDriver {
 public:
-    /// The event `notifyError`. The handler is called with the driver for every error of an
-    /// analysis. The error is the thread's current error (see `currentError`), and its `line` is
-    /// the line of the description. The handler may use the driver and its document in any way,
+    /// The event `notifyError`. The handler is called with the driver and every error of an
+    /// analysis, which is also the thread's current error (see `currentError`). Its `line` is the
+    /// line of the description. The handler may use the driver and its document in any way,
     /// release the driver, or run another analysis; the current analysis goes on with what is left.
     /// An exception that the handler throws ends the analysis and reaches its caller.
-    using NotifyErrorHandler = std::function<void(CRtfDriver& Sender)>;
+    using NotifyErrorHandler = std::function<void(CRtfDriver& Sender, const RtfError& error)>;
 
     /// Returns a new driver with an empty document. The platform must outlive it.
     static Ref<CRtfDriver> create(Platform& platform = systemPlatform());
@@ -90,10 +90,9 @@ private:
     void step(Body&& body);
     void report(const RtfError& error);
 
-    Counted counts_;
+    std::uint32_t references_ = 0;
     Platform& platform_;
     Ref<CRtfDoc> document_;
-    const Dialect& dialect_ = originalDialect();
     NotifyErrorHandler handler_;
     bool erroneousInput_ = false;
     bool notifyError_ = true;

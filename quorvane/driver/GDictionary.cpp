@@ -9,6 +9,7 @@
 #include "quorvane/base/platform/RandomNumbers.h"
 #include "quorvane/base/text/numberText.h"
 #include "quorvane/base/values/RtfError.h"
+#include "quorvane/support/published.h"
 
 namespace quorvane {
 
@@ -51,15 +52,17 @@ bool isMember(const Value& value, const std::vector<Value>& list) {
 }
 
 void SortVariant(std::vector<Value>& list) {
-    if (isSorted(list, true)) {
-        return;
+    if (!isSorted(list, true)) {
+        SortVariantHelp(list, 0, static_cast<std::int32_t>(list.size()) - 1);
     }
-    SortVariantHelp(list, 0, static_cast<std::int32_t>(list.size()) - 1);
 }
 
 bool isSorted(const std::vector<Value>& list, bool ascending) {
-    return std::is_sorted(list.begin(), list.end(), [ascending](const Value& a, const Value& b) {
-        return ascending ? compareVariants(a, b) < 0 : compareVariants(a, b) > 0;
+    return published([&] {
+        return std::is_sorted(
+            list.begin(), list.end(), [ascending](const Value& a, const Value& b) {
+                return ascending ? compareVariants(a, b) < 0 : compareVariants(a, b) > 0;
+            });
     });
 }
 
@@ -67,9 +70,11 @@ void SortVariantHelp(std::vector<Value>& list, std::int32_t low, std::int32_t hi
     if (low >= high) {
         return;
     }
-    quicksort(
-        list.begin() + low, list.begin() + high + 1, compareVariants,
-        [](std::ptrdiff_t count) { return GetRandom(0, static_cast<std::int32_t>(count) - 1); });
+    const auto pick = [](std::ptrdiff_t count) {
+        return GetRandom(0, static_cast<std::int32_t>(count) - 1);
+    };
+    published(
+        [&] { quicksort(list.begin() + low, list.begin() + high + 1, compareVariants, pick); });
 }
 
 void VariantSwap(std::vector<Value>& list, std::int32_t a, std::int32_t b) {
@@ -103,17 +108,19 @@ std::vector<Value> variantCons(const Value& value, std::vector<Value> list) {
 }
 
 std::string listToString(const std::vector<Value>& list, std::string_view separator) {
-    std::string text;
-    std::string_view before;
-    for (const Value& value : list) {
-        if (!value.isText() && !value.isNumber()) {
-            raise(RunTimeError::TypeMismatch);
+    return published([&] {
+        std::string text;
+        std::string_view before;
+        for (const Value& value : list) {
+            if (!value.isText() && !value.isNumber()) {
+                raise(RunTimeError::TypeMismatch);
+            }
+            text += before;
+            text += value.isText() ? value.text() : numberText(value.number());
+            before = separator;
         }
-        text += before;
-        text += value.isText() ? value.text() : numberText(value.number());
-        before = separator;
-    }
-    return text;
+        return text;
+    });
 }
 
 }  // namespace quorvane

@@ -7,7 +7,6 @@
 
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/docmodel/enumerations.h"
-#include "quorvane/support/currentError.h"
 
 namespace quorvane {
 
@@ -36,7 +35,6 @@ void atLine(int line, Body&& body) {
     } catch (RtfError& error) {
         if (error.line == 0) {
             error.line = line;
-            setCurrentError(error);
         }
         throw;
     }

@@ -65,8 +65,8 @@ void appendEntries(const StyleList& styles, Entry entry, std::string& rtf) {
 
 void CRtfGrpStyleSheetTable::setStyleSheetFile(std::string sName) {
     clear();
-    if (GFileSystem::fileExists(platform_, sName)) {
-        load(GFileSystem::loadStringFromFile(platform_, sName));
+    if (GFileSystem::fileExists(files_, sName)) {
+        load(GFileSystem::loadStringFromFile(files_, sName));
     }
     fileName_ = std::move(sName);
 }

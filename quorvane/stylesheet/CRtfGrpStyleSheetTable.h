@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "quorvane/base/platform/Platform.h"
+#include "quorvane/base/platform/Files.h"
 #include "quorvane/rtfgroups/GroupOwner.h"
 #include "quorvane/stylesheet/StyleList.h"
 #include "quorvane/stylesheet/StyleLookup.h"
@@ -18,8 +18,7 @@ namespace quorvane {
 /// it: no stylesheet has a name like "strong ". They never fail.
 class CRtfGrpStyleSheetTable {
 public:
-    CRtfGrpStyleSheetTable(GroupOwner& owner, Platform& platform)
-        : owner_(owner), platform_(platform) {}
+    CRtfGrpStyleSheetTable(GroupOwner& owner, Files& files) : owner_(owner), files_(files) {}
 
     /// Name of the file of the stylesheet; empty when the styles come from a text.
     const std::string& StyleSheetFile() const { return fileName_; }
@@ -70,7 +69,7 @@ private:
     void file(const StyleDefinition& definition);
 
     GroupOwner& owner_;
-    Platform& platform_;
+    Files& files_;
     std::string fileName_;
     bool loaded_ = false;
     bool characterWordsHoldTokens_ = false;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "quorvane/base/values/RtfError.h"
+#include "quorvane/support/published.h"
 
 namespace quorvane {
 
@@ -46,11 +47,14 @@ CMap::List CMap::Keys() const {
 }
 
 void CMap::Key(const Value& Old, Value New) {
-    const std::uint32_t position = requiredPositionOf(Old);
-    const std::uint32_t taken = positionOf(New);
-    if (taken != nowhere && taken != position) {
-        raise(RunTimeError::DuplicateKey);
-    }
+    const std::uint32_t position = published([&] {
+        const std::uint32_t renamed = requiredPositionOf(Old);
+        const std::uint32_t taken = positionOf(New);
+        if (taken != nowhere && taken != renamed) {
+            raise(RunTimeError::DuplicateKey);
+        }
+        return renamed;
+    });
     Entry& entry = entries_[position];
     entry.hash = ValueHash{}(New);
     entry.key = std::move(New);
@@ -62,7 +66,7 @@ std::int32_t CMap::Count() const {
 }
 
 const Value& CMap::Item(const Value& Key) const {
-    return entries_[requiredPositionOf(Key)].value;
+    return entries_[published([&] { return requiredPositionOf(Key); })].value;
 }
 
 void CMap::setItem(const Value& Key, Value value) {
@@ -81,15 +85,17 @@ void CMap::RemoveAll() {
 }
 
 void CMap::Remove(const Value& Key) {
-    entries_.erase(entries_.begin() + requiredPositionOf(Key));
+    entries_.erase(entries_.begin() + published([&] { return requiredPositionOf(Key); }));
     fillSlots();
 }
 
 void CMap::add(Value Key, Value value) {
     const std::size_t hash = ValueHash{}(Key);
-    if (positionOf(Key, hash) != nowhere) {
-        raise(RunTimeError::DuplicateKey);
-    }
+    published([&] {
+        if (positionOf(Key, hash) != nowhere) {
+            raise(RunTimeError::DuplicateKey);
+        }
+    });
     append(std::move(Key), std::move(value), hash);
 }
 

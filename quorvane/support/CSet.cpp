@@ -13,9 +13,9 @@ void CSet::add(const Value& Item) {
     }
 }
 
-void CSet::loadFromRes(Platform& platform, int ResId) {
+void CSet::loadFromRes(HostServices& host, int ResId) {
     try {
-        const CString text(platform.resourceString(ResId).value_or(""));
+        const CString text(host.resourceString(ResId).value_or(""));
         const CStringList pieces = text.Parse("#");
         for (const std::string& piece : pieces.NewEnum()) {
             add(piece);

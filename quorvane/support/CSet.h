@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "quorvane/base/platform/Platform.h"
+#include "quorvane/base/platform/HostServices.h"
 #include "quorvane/base/values/Value.h"
 #include "quorvane/support/CMap.h"
 
@@ -31,7 +31,7 @@ public:
 
     /// Adds the pieces between the "#" of the string resource with that number, in order. Raises
     /// nothing: a resource that cannot be read leaves the set as it was.
-    void loadFromRes(Platform& platform, int ResId);
+    void loadFromRes(HostServices& host, int ResId);
 
 private:
     CMap map_;

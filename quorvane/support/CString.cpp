@@ -8,6 +8,7 @@
 #include "quorvane/base/text/utf8.h"
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/support/CStringCompare.h"
+#include "quorvane/support/published.h"
 #include "quorvane/support/recordStrings.h"
 
 namespace quorvane {
@@ -98,9 +99,11 @@ std::string CString::SubField(std::string_view Code) const {
 }
 
 void CString::setSubField(std::string_view Code, std::string_view content) {
-    if (!isOneCharacter(Code) || Code == "^") {
-        raise(RunTimeError::InvalidProcedureCall);
-    }
+    published([Code] {
+        if (!isOneCharacter(Code) || Code == "^") {
+            raise(RunTimeError::InvalidProcedureCall);
+        }
+    });
     const std::optional<SubFieldView> field = findSubFieldOf(text_, Code);
     std::string changed = text_;
     if (field) {
@@ -139,14 +142,17 @@ void CString::RemoveSubField(std::string_view Code) {
 }
 
 std::string CString::Char(std::int32_t Position) const {
-    return std::string(characterAt(Position));
+    return published([&] { return std::string(characterAt(Position)); });
 }
 
 void CString::setChar(std::int32_t Position, std::string_view character) {
-    const std::string_view replaced = characterAt(Position);
-    if (!isOneCharacter(character)) {
-        raise(RunTimeError::InvalidProcedureCall);
-    }
+    const std::string_view replaced = published([&] {
+        const std::string_view found = characterAt(Position);
+        if (!isOneCharacter(character)) {
+            raise(RunTimeError::InvalidProcedureCall);
+        }
+        return found;
+    });
     std::string changed = text_;
     changed.replace(static_cast<std::size_t>(replaced.data() - text_.data()), replaced.size(),
                     character);

@@ -14,19 +14,20 @@
 #include "quorvane/base/text/wildcards.h"
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/support/CIsisStringCompare.h"
+#include "quorvane/support/published.h"
 
 namespace quorvane {
 
 void CStringList::Remove(const Value& Index) {
-    erase(require(Index));
+    erase(published([&] { return require(Index); }));
 }
 
 const std::string& CStringList::Item(const Value& Index) const {
-    return entries_[require(Index)].text;
+    return entries_[published([&] { return require(Index); })].text;
 }
 
 void CStringList::setItem(const Value& Index, std::string item) {
-    entries_[require(Index)].text = std::move(item);
+    entries_[published([&] { return require(Index); })].text = std::move(item);
 }
 
 std::int32_t CStringList::Index(std::string_view Key) const {
@@ -127,9 +128,11 @@ std::string CStringList::ConCat(std::string_view Separator) const {
 }
 
 std::int32_t CStringList::Find(std::string_view Pattern) const {
-    const WildcardPattern pattern(Pattern);
-    const auto found = std::ranges::find_if(
-        entries_, [&pattern](const Entry& entry) { return pattern.matches(entry.text); });
+    const auto found = published([&] {
+        const WildcardPattern pattern(Pattern);
+        return std::ranges::find_if(
+            entries_, [&pattern](const Entry& entry) { return pattern.matches(entry.text); });
+    });
     if (found == entries_.end()) {
         return notFound;
     }

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "quorvane/base/values/TextCollection.h"
 #include "quorvane/base/values/Value.h"
 #include "quorvane/support/IStringCompare.h"
 
@@ -17,7 +18,7 @@ namespace quorvane {
 /// without regard to case. Where an element is asked for by a `Value`, a text is its key and a
 /// number, rounded half to even, its position. Adding and removing at either end and finding by
 /// position or key take the same time however long the list is.
-class CStringList {
+class CStringList : public TextCollection {
     struct Entry {
         std::string text;
         /// In lower case; nothing for an element without a key.
@@ -56,14 +57,14 @@ public:
     /// What `Index` and `Find` answer for what the list does not hold.
     static constexpr std::int32_t notFound = -1;
 
-    std::int32_t Count() const { return static_cast<std::int32_t>(entries_.size()); }
+    std::int32_t Count() const override { return static_cast<std::int32_t>(entries_.size()); }
 
     /// Removes an element. Error 5 when there is none of that key or position, error 13 when the
     /// index is neither a text nor a number.
     void Remove(const Value& Index);
 
     /// The string, which is good until the list is changed. Errors as `Remove`.
-    const std::string& Item(const Value& Index) const;
+    const std::string& Item(const Value& Index) const override;
 
     /// Replaces the string; its key and its place stay, and so does `CharSize`. Errors as `Remove`.
     void setItem(const Value& Index, std::string item);

@@ -11,8 +11,8 @@ namespace {
 constexpr int productNameResource = 8700;
 constexpr int informationStyle = 64;
 
-std::string productName(Platform& platform) {
-    return platform.resourceString(productNameResource).value_or("");
+std::string productName(HostServices& host) {
+    return host.resourceString(productNameResource).value_or("");
 }
 
 std::string joined(const ProgramVersion& version, const char* separator) {
@@ -54,13 +54,13 @@ void GError::handleError(const RtfError& error, const std::string& moduleName,
         const AbsorbedError absorbed{error, moduleName, procedureName};
         const RtfError& reported = absorbed.error;
 
-        const auto tellObserver = [&] {
+        const auto notifyObserver = [&] {
             const Observer observer = observer_;  // a copy: it may replace itself while it runs
             if (observer) {
                 observer(absorbed);
             }
         };
-        const auto tellReporter = [&] {
+        const auto notifyReporter = [&] {
             sendToReporter(reported.number, reported.description, moduleName, procedureName,
                            extraInfo);
         };
@@ -68,15 +68,15 @@ void GError::handleError(const RtfError& error, const std::string& moduleName,
             showError(reported.number, reported.description, moduleName, procedureName);
         };
 
-        runUnder(reported, tellObserver);
+        runUnder(reported, notifyObserver);
         const Outcome delivery =
-            reporterSwitch_ ? runUnder(reported, tellReporter) : Outcome::Failure;
+            reporterSwitch_ ? runUnder(reported, notifyReporter) : Outcome::Failure;
         if (delivery == Outcome::CannotCreateObject ||
             (delivery == Outcome::Failure && reported.is(RunTimeError::CannotCreateObject))) {
             runUnder(reported, show);
         }
     } catch (...) {
-        // Not even memory for a copy of the error: there is nobody left to tell.
+        // Not even memory for a copy of the error: nothing is left that could report it.
     }
 }
 
@@ -89,18 +89,18 @@ std::string GError::formatError(std::int32_t number, const std::string& descript
 
 void GError::showError(std::int32_t number, const std::string& description,
                        const std::string& moduleName, const std::string& procedureName) const {
-    platform_.showMessageBox(formatError(number, description, moduleName, procedureName),
-                             informationStyle, productName(platform_));
+    host_.showMessageBox(formatError(number, description, moduleName, procedureName),
+                         informationStyle, productName(host_));
 }
 
 void GError::sendToReporter(std::int32_t number, const std::string& description,
                             const std::string& moduleName, const std::string& procedureName,
                             const ExtraInfo& extraInfo) const {
-    const std::unique_ptr<ErrorReporter> reporter = platform_.createReporter("Vantrel.CVantrel");
-    const ProgramVersion version = platform_.programVersion();
+    const std::unique_ptr<ErrorReporter> reporter = host_.createReporter("Vantrel.CVantrel");
+    const ProgramVersion version = host_.programVersion();
     std::string applicationId =
-        platform_.programFolder() + "\\" + platform_.programFileName() + joined(version, "-");
-    reporter->Create(productName(platform_), applicationId);
+        host_.programFolder() + "\\" + host_.programFileName() + joined(version, "-");
+    reporter->Create(productName(host_), applicationId);
     reporter->sendError({.number = number,
                          .description = description,
                          .moduleName = moduleName,

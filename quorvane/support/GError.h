@@ -2,10 +2,11 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <utility>
 
-#include "quorvane/base/platform/Platform.h"
+#include "quorvane/base/platform/HostServices.h"
 #include "quorvane/base/values/RtfError.h"
 
 namespace quorvane {
@@ -21,25 +22,22 @@ struct AbsorbedError {
 
 /// The error module of one document: where an error goes that no procedure could handle. It is
 /// absorbed there; only error 429 (an automation object that cannot be created) is shown, in a
-/// message box. With the reporter switch on, the external error collection is told of every error.
+/// message box. With the reporter switch on, every error goes to the external error collection.
 class GError {
 public:
     /// Called with every error that is absorbed. What it throws is swallowed. It may call into the
     /// library and may replace itself by another, but must not destroy the error module.
     using Observer = std::function<void(const AbsorbedError&)>;
 
-    /// The platform must outlive the error module.
-    explicit GError(Platform& platform) : platform_(platform) {}
+    /// The host must outlive the error module.
+    explicit GError(HostServices& host) : host_(host) {}
     GError(const GError&) = delete;
     GError& operator=(const GError&) = delete;
 
-    /// The platform whose services the reports go through.
-    Platform& platform() const noexcept { return platform_; }
-
-    /// Takes the error that ended the procedure: tells the observer, then the external error
-    /// collection when the reporter switch is on. With the switch off, error 429 is shown in a
-    /// message box and any other error leaves no trace. When the delivery fails, the error is shown
-    /// in a message box if it or the failure is error 429. `extraInfo` goes to the error
+    /// Takes the error that ended the procedure: passes it to the observer, then to the external
+    /// error collection when the reporter switch is on. With the switch off, error 429 is shown in
+    /// a message box and any other error leaves no trace. When the delivery fails, the error is
+    /// shown in a message box if it or the failure is error 429. `extraInfo` goes to the error
     /// collection; null for none. Never raises, whatever observer, reporter and message box do.
     /// Afterwards the error is the thread's current error.
     void handleError(const RtfError& error, const std::string& moduleName,
@@ -52,7 +50,7 @@ public:
                                    const std::string& moduleName, const std::string& procedureName);
 
     /// Shows the report of an error in a message box with an information icon, titled with the
-    /// string resource 8700. Raises what the platform raises.
+    /// string resource 8700. Raises what the host raises.
     void showError(std::int32_t number, const std::string& description,
                    const std::string& moduleName, const std::string& procedureName) const;
 
@@ -69,21 +67,22 @@ public:
     /// Sets the observer; an empty function removes it.
     void setObserver(Observer observer) { observer_ = std::move(observer); }
 
-    /// Runs the body. An `RtfError` that it raises goes to `handleError` with the two names; true
-    /// when none was raised. Any other exception, such as `std::bad_alloc`, passes.
+    /// Runs the body. An `RtfError` that it raises goes to `handleError` with the two names, and is
+    /// returned. Any other exception, such as `std::bad_alloc`, passes.
     template <class Body>
-    bool absorbing(const char* moduleName, const char* procedureName, Body&& body) {
+    std::optional<RtfError> absorbing(const char* moduleName, const char* procedureName,
+                                      Body&& body) {
         try {
             std::forward<Body>(body)();
-            return true;
+            return std::nullopt;
         } catch (const RtfError& error) {
             handleError(error, moduleName, procedureName);
-            return false;
+            return error;
         }
     }
 
 private:
-    Platform& platform_;
+    HostServices& host_;
     Observer observer_;
     bool reporterSwitch_ = false;
 };

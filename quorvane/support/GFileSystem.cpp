@@ -2,12 +2,10 @@
 
 #include <cstddef>
 #include <memory>
-#include <optional>
 
 #include "quorvane/base/text/codePage1252.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/base/text/utf8.h"
-#include "quorvane/support/currentError.h"
 
 namespace quorvane::GFileSystem {
 
@@ -37,7 +35,7 @@ std::size_t lengthOfFirstBlock(std::string_view text) {
             return length;
         }
     }
-    return blockSize;  // no UTF-8 there, so there is no character to cut
+    return blockSize;  // not UTF-8, so there is no character to cut
 }
 
 void writeText(OutputFile& file, std::string_view text) {
@@ -57,42 +55,39 @@ void writeText(OutputFile& file, std::string_view text) {
 
 }  // namespace
 
-bool saveStringToFile(GError& errors, const std::string& path, std::string_view text,
+bool saveStringToFile(Files& files, GError& errors, const std::string& path, std::string_view text,
                       bool keepExisting) {
+    return !errorOfSaving(files, errors, path, text, keepExisting);
+}
+
+std::optional<RtfError> errorOfSaving(Files& files, GError& errors, const std::string& path,
+                                      std::string_view text, bool keepExisting) {
     return errors.absorbing(moduleName, "saveStringToFile", [&] {
-        if (!fileExists(errors.platform(), path)) {
-            saveString(errors, path, text);
+        if (!files.fileExists(path)) {
+            saveString(files, errors, path, text);
         } else if (!keepExisting) {
-            errors.platform().deleteFile(path);
-            saveString(errors, path, text);
+            files.deleteFile(path);
+            saveString(files, errors, path, text);
         }
     });
 }
 
-void saveString(GError& errors, const std::string& path, std::string_view text) {
+void saveString(Files& files, GError& errors, const std::string& path, std::string_view text) {
     errors.absorbing(moduleName, "saveString", [&] {
-        const std::unique_ptr<OutputFile> file = errors.platform().createFile(path);
+        const std::unique_ptr<OutputFile> file = files.createFile(path);
         writeText(*file, text);
         file->close();
     });
 }
 
-bool fileExists(Platform& platform, const std::string& path) {
-    return platform.fileExists(path);
+bool fileExists(Files& files, const std::string& path) {
+    return files.fileExists(path);
 }
 
-std::string loadStringFromFile(Platform& platform, const std::string& path) {
-    const RtfError* pending = currentError();
-    const std::optional<RtfError> errorBefore =
-        pending ? std::optional<RtfError>(*pending) : std::nullopt;
+std::string loadStringFromFile(Files& files, const std::string& path) {
     try {
-        return utf8FromCodePage1252(platform.readFile(path));
+        return utf8FromCodePage1252(files.readFile(path));
     } catch (const RtfError&) {
-        if (errorBefore) {
-            setCurrentError(*errorBefore);
-        } else {
-            clearCurrentError();
-        }
         return {};
     }
 }

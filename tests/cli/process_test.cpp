@@ -10,10 +10,12 @@
 #include <cstdlib>
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <thread>
 
+#include "quorvane/base/platform/fileReplacement.h"
 #include "quorvane/base/values/RtfError.h"
 #include "tests/cli/TemporaryFolder.h"
 #include "tests/cli/WithoutPrivileges.h"
@@ -33,6 +35,10 @@ RtfError errorOf(const std::function<void()>& action) {
         return error;
     }
     return RtfError(0, "no error");
+}
+
+std::unique_ptr<OutputFile> openReplacement(const std::string& path) {
+    return quorvane::openReplacement(path, unfinishedFileWatch());
 }
 
 void replace(const std::string& path, std::string_view bytes) {

@@ -45,14 +45,14 @@ public:
         }
     }
     ~HeldFile() {
-        letGo();
+        releaseHolder();
         DeleteFileW(path_.c_str());
     }
 
     std::string path() const { return utf8Text(path_); }
-    void letGo() { holder_.reset(); }
+    void releaseHolder() { holder_.reset(); }
     std::string bytes() {
-        letGo();
+        releaseHolder();
         return bytesOfFile(path_);
     }
 

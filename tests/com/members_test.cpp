@@ -57,10 +57,10 @@ protected:
         performed_.insert(member);
         return expected;
     }
-    void letGo(int object) {
-        native_->letGo(object);
-        early_->letGo(object);
-        late_->letGo(object);
+    void releaseObject(int object) {
+        native_->releaseObject(object);
+        early_->releaseObject(object);
+        late_->releaseObject(object);
     }
     /// The bytes that a document writes, which must be the same on all three.
     std::string committed(int object, const std::string& member) {
@@ -291,7 +291,7 @@ TEST_F(Members, AnswerTheSameWhenTheOwnersAreGone) {
     perform(5, "_CRtfTableCell.get Paragraphs");
     perform(6, "_CRtfParagraphs.call AddTail", {Missing{}});
     perform(6, "_CRtfParagraphs.get Item", {1});
-    letGo(document);
+    releaseObject(document);
 
     EXPECT_EQ(perform(2, "_CRtfTableRows.get Parent"), "Nothing");
     EXPECT_EQ(perform(3, "_CRtfTableRow.get Parent"), "Nothing");
@@ -303,12 +303,12 @@ TEST_F(Members, AnswerTheSameWhenTheOwnersAreGone) {
     perform(7, "_CRtfParagraph.set Text", {"abc"});
     perform(7, "_CRtfParagraph.get Text");
     perform(7, "_CRtfParagraph.get Parent");
-    letGo(2);
-    letGo(3);
-    letGo(4);
+    releaseObject(2);
+    releaseObject(3);
+    releaseObject(4);
     perform(5, "_CRtfTableCell.get Parent");
-    letGo(5);
-    letGo(6);
+    releaseObject(5);
+    releaseObject(6);
     // A paragraph keeps its cell, for which the host gets an object again.
     EXPECT_EQ(perform(7, "_CRtfParagraph.get Parent"), "_CRtfTableCell 8");
     EXPECT_EQ(perform(8, "_CRtfTableCell.get Parent"), "Nothing");
@@ -421,7 +421,7 @@ TEST_F(Members, AnswerTheSameToRandomOperations) {
             const int object = random.upTo(native_->objectCount());
             // The driver stays, and with it always something to go on with.
             if (object != driver && !native_->interfaceOf(object).empty()) {
-                letGo(object);
+                releaseObject(object);
             }
         }
     }

@@ -22,7 +22,6 @@
 #include "quorvane/diagnostics/engine/Diagnostic.h"
 #include "quorvane/diagnostics/rtf/RtfCheck.h"
 #include "quorvane/driver/CRtfDriver.h"
-#include "quorvane/support/currentError.h"
 #include "tests/com/richEdit/RichEdit.h"
 
 namespace quorvane::host {
@@ -110,7 +109,7 @@ protected:
             styleSheet.replace_filename("style.rtfss");
         }
         driver->setNotifyErrorHandler(
-            [](CRtfDriver&) { ADD_FAILURE() << currentError()->description; });
+            [](CRtfDriver&, const RtfError& error) { ADD_FAILURE() << error.description; });
         driver->setStyleSheetFile(styleSheet.string());
         driver->ParseFile(GetParam());
     }

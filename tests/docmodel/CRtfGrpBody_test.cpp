@@ -4,21 +4,27 @@
 
 #include <string>
 
+#include "quorvane/docmodel/InnerRows.h"
 #include "tests/docmodel/documentParts.h"
 
 namespace quorvane {
 namespace {
 
+Ref<InnerRows> rowsOf(const CRtfDoc& document) {
+    return Ref<InnerRows>(&inner(*document.TableRows()));
+}
+
 TEST(CRtfGrpBody, HasRowsThatAreTheSameEveryTime) {
-    const Ref<CRtfTableRows> rows = CRtfDoc::create()->TableRows();
-    const CRtfGrpBody<CRtfTableRows> body(rows);
+    const Ref<CRtfDoc> document = CRtfDoc::create();
+    const Ref<InnerRows> rows = rowsOf(*document);
+    const CRtfGrpBody<InnerRows> body(rows);
 
     EXPECT_EQ(body.TableRows(), rows);
 }
 
 TEST(CRtfGrpBody, WritesItsRowsAndNothingElse) {
     const Ref<CRtfDoc> document = CRtfDoc::create();
-    const CRtfGrpBody<CRtfTableRows> body(document->TableRows());
+    const CRtfGrpBody<InnerRows> body(rowsOf(*document));
     std::string rtf;
     body.render(rtf);
     EXPECT_EQ(rtf, "");
@@ -34,12 +40,12 @@ TEST(CRtfGrpBody, WritesItsRowsAndNothingElse) {
 
 TEST(CRtfGrpBody, TearsItsRowsDownWhenItIsDestroyedOnly) {
     const Ref<CRtfDoc> document = CRtfDoc::create();
-    const Ref<CRtfTableRows> rows = document->TableRows();
+    const Ref<InnerRows> rows = rowsOf(*document);
     rows->AddTail();
-    { const CRtfGrpBody<CRtfTableRows> forgotten(rows); }
+    { const CRtfGrpBody<InnerRows> forgotten(rows); }
     EXPECT_EQ(rows->Count(), 1);
 
-    CRtfGrpBody<CRtfTableRows> body(rows);
+    CRtfGrpBody<InnerRows> body(rows);
     body.destroy();
 
     EXPECT_EQ(rows->Count(), 0);

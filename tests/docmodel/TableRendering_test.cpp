@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "quorvane/docmodel/InnerDocument.h"
 #include "tests/docmodel/documentParts.h"
 
 namespace quorvane {
@@ -23,7 +24,7 @@ protected:
 
     Ref<CRtfDoc> document = CRtfDoc::create();
     std::string rtf;
-    TableRendering rendering{*document, rtf};
+    TableRendering rendering{inner(*document), rtf};
 };
 
 TEST_F(Rendering, KnowsTheWordsOfEveryStyle) {

@@ -12,6 +12,7 @@
 #include "quorvane/docmodel/CRtfTableCell.h"
 #include "quorvane/docmodel/CRtfTableCells.h"
 #include "quorvane/docmodel/CRtfTableRow.h"
+#include "quorvane/docmodel/InnerDocument.h"
 #include "tests/support/FakePlatform.h"
 #include "tests/support/errorNumberOf.h"
 
@@ -33,7 +34,9 @@ protected:
             "{name: title; style-def: s; format: \\fs28}");
     }
 
-    std::string styled(std::string_view text) const { return withCharacterStyles(*document, text); }
+    std::string styled(std::string_view text) const {
+        return withCharacterStyles(inner(*document), text);
+    }
 
     FakePlatform platform;
     Ref<CRtfDoc> document = CRtfDoc::create(platform);
@@ -465,7 +468,8 @@ protected:
     }
 
     void expectSame(const std::u16string& text) const {
-        ASSERT_EQ(withCharacterStyles(*document, utf8(text)), utf8(walk.apply(text))) << utf8(text);
+        ASSERT_EQ(withCharacterStyles(inner(*document), utf8(text)), utf8(walk.apply(text)))
+            << utf8(text);
     }
 
     Ref<CRtfDoc> document = CRtfDoc::create();
@@ -512,7 +516,8 @@ TEST(InlineStylesWithinOneAnother, AreLikeThePlainWalk) {
     const Ref<CRtfDoc> document = CRtfDoc::create();
     document->LoadStyleSheetFromMemmory("{name: b; style-def: cs; format: \\b}");
     const auto expectSame = [&](const std::u16string& text) {
-        ASSERT_EQ(withCharacterStyles(*document, utf8(text)), utf8(walk.apply(text))) << utf8(text);
+        ASSERT_EQ(withCharacterStyles(inner(*document), utf8(text)), utf8(walk.apply(text)))
+            << utf8(text);
     };
     for (const char16_t* part : {u"<b=", u"<b<b="}) {
         std::u16string deeperAndDeeper;
@@ -543,7 +548,7 @@ TEST(InlineStylesOfManyBrackets, AreLikeThePlainWalk) {
                                         "}{name: b; style-def: cs; format: \\b}");
     const std::u16string text = u"<b=1> <<a=x> <b=1> <a=y> <b=2>";
 
-    EXPECT_EQ(withCharacterStyles(*document, utf8(text)), utf8(walk.apply(text)));
+    EXPECT_EQ(withCharacterStyles(inner(*document), utf8(text)), utf8(walk.apply(text)));
 }
 
 INSTANTIATE_TEST_SUITE_P(Sheets, InlineStylesLikeThePlainWalk,

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "quorvane/support/currentError.h"
 #include "tests/driver/ParsedDescription.h"
 #include "tests/driver/documentText.h"
 #include "tests/support/soundDocuments.h"
@@ -174,7 +175,8 @@ TEST_F(CRtfDriverTest, ReadsAFileInItsCodePage) {
 
 TEST_F(CRtfDriverTest, AnalysesAFileAsItAnalysesAText) {
     std::vector<ToldError> errors;
-    driver->setNotifyErrorHandler([&](CRtfDriver&) { errors.push_back(told(*currentError())); });
+    driver->setNotifyErrorHandler(
+        [&](CRtfDriver&, const RtfError& error) { errors.push_back(told(error)); });
     platform.files["in"] = lines("(doc|(r|(c|(cb=crimson)|c)|r)|doc)");
     driver->ParseFile("in");
     EXPECT_EQ(errors, errorsOf("(doc|(r|(c|(cb=crimson)|c)|r)|doc)"));
@@ -215,7 +217,7 @@ TEST_F(CRtfDriverTest, LeavesTheDocumentAloneWhenAPathIsRefused) {
 
 TEST_F(CRtfDriverTest, RaisesTheErrorsOfPathAndStyleSheetToTheCallerOnly) {
     int events = 0;
-    driver->setNotifyErrorHandler([&](CRtfDriver&) { ++events; });
+    driver->setNotifyErrorHandler([&](CRtfDriver&, const RtfError&) { ++events; });
     platform.files["bad.rtfss"] = badKeyword;
     EXPECT_THROW(driver->ParseFile(""), RtfError);
     EXPECT_THROW(driver->ParseFile("no such"), RtfError);
@@ -402,7 +404,7 @@ TEST_F(CRtfDriverTest, KeepsTheTextOfTheDocumentUntilSomethingIsChanged) {
 TEST_F(CRtfDriverTest, HasNothingToDoWithAnotherDriver) {
     const Ref<CRtfDriver> other = CRtfDriver::create(platform);
     int events = 0;
-    other->setNotifyErrorHandler([&](CRtfDriver&) { ++events; });
+    other->setNotifyErrorHandler([&](CRtfDriver&, const RtfError&) { ++events; });
     other->ParseFromMemmory(paraWithText("other"));
     driver->setErroneousInput(true);
     driver->setNotifyError(false);
@@ -430,7 +432,8 @@ TEST_F(CRtfDriverTest, LeavesTheClipboardAloneOtherwise) {
 
 TEST_F(CRtfDriverTest, TellsThatTheClipboardFailedAndGoesOn) {
     std::vector<ToldError> errors;
-    driver->setNotifyErrorHandler([&](CRtfDriver&) { errors.push_back(told(*currentError())); });
+    driver->setNotifyErrorHandler(
+        [&](CRtfDriver&, const RtfError& error) { errors.push_back(told(error)); });
     platform.fail("setClipboardText", RunTimeError::PermissionDenied);
     driver->ParseFromMemmory("x");
     ASSERT_EQ(errors.size(), 5u);

@@ -10,7 +10,6 @@
 
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/driver/CRtfDriver.h"
-#include "quorvane/support/currentError.h"
 #include "tests/support/FakePlatform.h"
 
 namespace quorvane {
@@ -100,7 +99,7 @@ public:
     explicit ParsedDescription(std::string_view text, Checks checks = Checks::Off) {
         driver->setErroneousInput(checks == Checks::On);
         driver->setNotifyErrorHandler(
-            [this](CRtfDriver&) { errors.push_back(told(*currentError())); });
+            [this](CRtfDriver&, const RtfError& error) { errors.push_back(told(error)); });
         driver->ParseFromMemmory(text);
     }
     ParsedDescription(const ParsedDescription&) = delete;

@@ -141,7 +141,7 @@ class AnyText : public testing::Test {
 protected:
     AnyText() {
         driver->setNotifyErrorHandler(
-            [this](CRtfDriver&) { errors.push_back(told(*currentError())); });
+            [this](CRtfDriver&, const RtfError& error) { errors.push_back(told(error)); });
     }
     ~AnyText() override { driver->setNotifyErrorHandler({}); }
 

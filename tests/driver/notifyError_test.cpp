@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "quorvane/support/currentError.h"
 #include "tests/driver/ParsedDescription.h"
 
 namespace quorvane {
@@ -38,7 +39,7 @@ protected:
 
 TEST_F(NotifyError, IsRaisedWithTheDriverAsSender) {
     CRtfDriver* sender = nullptr;
-    driver->setNotifyErrorHandler([&](CRtfDriver& Sender) { sender = &Sender; });
+    driver->setNotifyErrorHandler([&](CRtfDriver& Sender, const RtfError&) { sender = &Sender; });
     driver->ParseFromMemmory(badColor);
     EXPECT_EQ(sender, driver.get());
 }
@@ -46,7 +47,8 @@ TEST_F(NotifyError, IsRaisedWithTheDriverAsSender) {
 TEST_F(NotifyError, ShowsNumberDescriptionSourceAndLineAsTheCurrentError) {
     std::vector<ToldError> errors;
     driver->setErroneousInput(true);
-    driver->setNotifyErrorHandler([&](CRtfDriver&) { errors.push_back(told(*currentError())); });
+    driver->setNotifyErrorHandler(
+        [&](CRtfDriver&, const RtfError& error) { errors.push_back(told(error)); });
     driver->ParseFromMemmory(threeErrors);
     EXPECT_THAT(errors, ElementsAre(ToldError{-2147221498, "foo isn't a valid keyword.",
                                               "CRtfDriver.rowWalkerSyntax", 3},
@@ -67,20 +69,21 @@ TEST_F(NotifyError, ShowsAnErrorThatThePlatformThrewWithoutMakingItTheCurrentOne
     ThrowingClipboard throwing;
     std::vector<std::int32_t> numbers;
     const Ref<CRtfDriver> other = CRtfDriver::create(throwing);
-    other->setNotifyErrorHandler([&](CRtfDriver&) { numbers.push_back(currentError()->number); });
+    other->setNotifyErrorHandler(
+        [&](CRtfDriver&, const RtfError& error) { numbers.push_back(error.number); });
     clearCurrentError();
     other->ParseFromMemmory("(r");
     EXPECT_THAT(numbers, ElementsAre(70, -2147221500, -2147221499, 5));
 }
 
 TEST_F(NotifyError, IsNotRaisedWhenNothingIsWrong) {
-    driver->setNotifyErrorHandler([&](CRtfDriver&) { ++events; });
+    driver->setNotifyErrorHandler([&](CRtfDriver&, const RtfError&) { ++events; });
     driver->ParseFromMemmory(good);
     EXPECT_EQ(events, 0);
 }
 
 TEST_F(NotifyError, IsSilentWhenItIsSwitchedOff) {
-    driver->setNotifyErrorHandler([&](CRtfDriver&) { ++events; });
+    driver->setNotifyErrorHandler([&](CRtfDriver&, const RtfError&) { ++events; });
     driver->setNotifyError(false);
     driver->ParseFromMemmory("");
     driver->ParseFromMemmory(badColor);
@@ -89,7 +92,7 @@ TEST_F(NotifyError, IsSilentWhenItIsSwitchedOff) {
 
 TEST_F(NotifyError, IsSilentWithoutAHandler) {
     driver->ParseFromMemmory("");
-    driver->setNotifyErrorHandler([&](CRtfDriver&) { ++events; });
+    driver->setNotifyErrorHandler([&](CRtfDriver&, const RtfError&) { ++events; });
     driver->setNotifyErrorHandler({});
     driver->ParseFromMemmory("");
     EXPECT_EQ(events, 0);
@@ -103,7 +106,7 @@ TEST_F(NotifyError, BuildsTheSameDocumentWhetherItIsRaisedOrNot) {
 }
 
 TEST_F(NotifyError, CanBeSwitchedOffByItsHandler) {
-    driver->setNotifyErrorHandler([&](CRtfDriver& Sender) {
+    driver->setNotifyErrorHandler([&](CRtfDriver& Sender, const RtfError&) {
         ++events;
         Sender.setNotifyError(false);
     });
@@ -114,10 +117,11 @@ TEST_F(NotifyError, CanBeSwitchedOffByItsHandler) {
 
 TEST_F(NotifyError, LetsItsHandlerPutAnotherInItsPlace) {
     std::vector<std::string> told;
-    driver->setNotifyErrorHandler([&](CRtfDriver& Sender) {
-        Sender.setNotifyErrorHandler(
-            [&](CRtfDriver&) { told.push_back("second " + currentError()->description); });
-        told.push_back("first " + currentError()->description);
+    driver->setNotifyErrorHandler([&](CRtfDriver& Sender, const RtfError& error) {
+        Sender.setNotifyErrorHandler([&](CRtfDriver&, const RtfError& later) {
+            told.push_back("second " + later.description);
+        });
+        told.push_back("first " + error.description);
     });
     driver->ParseFromMemmory(lines("(row|row)"));
     ASSERT_EQ(told.size(), 4u);
@@ -127,8 +131,8 @@ TEST_F(NotifyError, LetsItsHandlerPutAnotherInItsPlace) {
 
 TEST_F(NotifyError, LetsItsHandlerSwitchTheChecksOnForTheStepsToCome) {
     std::vector<ToldError> errors;
-    driver->setNotifyErrorHandler([&](CRtfDriver& Sender) {
-        errors.push_back(told(*currentError()));
+    driver->setNotifyErrorHandler([&](CRtfDriver& Sender, const RtfError& error) {
+        errors.push_back(told(error));
         Sender.setErroneousInput(true);
     });
     driver->ParseFromMemmory(lines("(doc|(r|(title=5)|(c|c)|r)"));
@@ -139,7 +143,7 @@ TEST_F(NotifyError, LetsItsHandlerSwitchTheChecksOnForTheStepsToCome) {
 }
 
 TEST_F(NotifyError, PassesAnErrorOfItsHandlerToTheCallerAndEndsTheAnalysis) {
-    driver->setNotifyErrorHandler([&](CRtfDriver&) {
+    driver->setNotifyErrorHandler([&](CRtfDriver&, const RtfError&) {
         ++events;
         raise(RunTimeError::PermissionDenied);
     });
@@ -148,7 +152,8 @@ TEST_F(NotifyError, PassesAnErrorOfItsHandlerToTheCallerAndEndsTheAnalysis) {
 }
 
 TEST_F(NotifyError, PassesAnyExceptionOfItsHandlerToTheCaller) {
-    driver->setNotifyErrorHandler([](CRtfDriver&) { throw std::runtime_error("handler"); });
+    driver->setNotifyErrorHandler(
+        [](CRtfDriver&, const RtfError&) { throw std::runtime_error("handler"); });
     EXPECT_THROW(driver->ParseFromMemmory(""), std::runtime_error);
     platform.files["in"] = "";
     EXPECT_THROW(driver->ParseFile("in"), std::runtime_error);
@@ -156,7 +161,8 @@ TEST_F(NotifyError, PassesAnyExceptionOfItsHandlerToTheCaller) {
 
 TEST_F(NotifyError, LeavesADriverGoodAfterItsHandlerThrew) {
     driver->setErroneousInput(true);
-    driver->setNotifyErrorHandler([](CRtfDriver&) { throw std::runtime_error("handler"); });
+    driver->setNotifyErrorHandler(
+        [](CRtfDriver&, const RtfError&) { throw std::runtime_error("handler"); });
     EXPECT_THROW(driver->ParseFromMemmory(threeErrors), std::runtime_error);
     EXPECT_EQ(driver->RtfObject()->TableRows()->Count(), 0);
     driver->ParseFromMemmory(good);
@@ -165,8 +171,8 @@ TEST_F(NotifyError, LeavesADriverGoodAfterItsHandlerThrew) {
 
 TEST_F(NotifyError, LetsItsHandlerAnalyseAnotherText) {
     std::vector<ToldError> errors;
-    driver->setNotifyErrorHandler([&](CRtfDriver& Sender) {
-        errors.push_back(told(*currentError()));
+    driver->setNotifyErrorHandler([&](CRtfDriver& Sender, const RtfError& error) {
+        errors.push_back(told(error));
         if (errors.size() == 1) {
             Sender.ParseFromMemmory(paraWithText("inner"));
         }
@@ -192,9 +198,9 @@ TEST_F(NotifyError, LetsItsHandlerUseAnotherDriver) {
     const Ref<CRtfDriver> other = CRtfDriver::create(platform);
     std::vector<std::string> descriptions;
     other->setNotifyErrorHandler(
-        [&](CRtfDriver&) { descriptions.push_back(currentError()->description); });
-    driver->setNotifyErrorHandler([&](CRtfDriver&) {
-        descriptions.push_back(currentError()->description);
+        [&](CRtfDriver&, const RtfError& error) { descriptions.push_back(error.description); });
+    driver->setNotifyErrorHandler([&](CRtfDriver&, const RtfError& error) {
+        descriptions.push_back(error.description);
         other->ParseFromMemmory(cellWith("(ca=middle)"));
     });
     driver->ParseFromMemmory(badColor);
@@ -204,7 +210,7 @@ TEST_F(NotifyError, LetsItsHandlerUseAnotherDriver) {
 
 TEST_F(NotifyError, LetsItsHandlerLetGoOfTheDriver) {
     const Ref<CRtfDoc> document = driver->RtfObject();
-    driver->setNotifyErrorHandler([&](CRtfDriver&) {
+    driver->setNotifyErrorHandler([&](CRtfDriver&, const RtfError&) {
         ++events;
         driver = {};
     });
@@ -216,7 +222,7 @@ TEST_F(NotifyError, LetsItsHandlerLetGoOfTheDriver) {
 
 TEST_F(NotifyError, LetsItsHandlerLetGoOfTheDriverWhileItReadsAFile) {
     platform.files["in"] = lines("(row|row)");
-    driver->setNotifyErrorHandler([&](CRtfDriver&) {
+    driver->setNotifyErrorHandler([&](CRtfDriver&, const RtfError&) {
         ++events;
         driver = {};
     });
@@ -225,7 +231,7 @@ TEST_F(NotifyError, LetsItsHandlerLetGoOfTheDriverWhileItReadsAFile) {
 }
 
 TEST_F(NotifyError, LetsItsHandlerAddToTheDocument) {
-    driver->setNotifyErrorHandler([&](CRtfDriver& Sender) {
+    driver->setNotifyErrorHandler([&](CRtfDriver& Sender, const RtfError&) {
         ++events;
         Sender.RtfObject()->TableRows()->AddTail("host");
     });
@@ -239,8 +245,8 @@ TEST_F(NotifyError, LetsItsHandlerAddToTheDocument) {
 
 TEST_F(NotifyError, MeetsARowThatItsHandlerPutInTheWay) {
     std::vector<ToldError> errors;
-    driver->setNotifyErrorHandler([&](CRtfDriver& Sender) {
-        errors.push_back(told(*currentError()));
+    driver->setNotifyErrorHandler([&](CRtfDriver& Sender, const RtfError& error) {
+        errors.push_back(told(error));
         if (errors.size() == 1) {
             Sender.RtfObject()->TableRows()->AddTail("1002");
         }
@@ -252,7 +258,7 @@ TEST_F(NotifyError, MeetsARowThatItsHandlerPutInTheWay) {
 }
 
 TEST_F(NotifyError, LetsItsHandlerEmptyTheDocumentThatTheBuildLeft) {
-    driver->setNotifyErrorHandler([&](CRtfDriver& Sender) {
+    driver->setNotifyErrorHandler([&](CRtfDriver& Sender, const RtfError&) {
         ++events;
         Sender.RtfObject()->ClearStructure();
     });
@@ -263,7 +269,8 @@ TEST_F(NotifyError, LetsItsHandlerEmptyTheDocumentThatTheBuildLeft) {
 
 TEST_F(NotifyError, LetsItsHandlerReadTheDocument) {
     std::string text;
-    driver->setNotifyErrorHandler([&](CRtfDriver& Sender) { text = Sender.Contents(); });
+    driver->setNotifyErrorHandler(
+        [&](CRtfDriver& Sender, const RtfError&) { text = Sender.Contents(); });
     driver->ParseFromMemmory(badColor);
     EXPECT_EQ(text, driver->Contents());
 }
@@ -271,7 +278,8 @@ TEST_F(NotifyError, LetsItsHandlerReadTheDocument) {
 // A refused marked field is absorbed, and whoever is told of it can do what it likes.
 TEST_F(NotifyError, SurvivesAnObserverThatTakesTheDocumentApartDuringTheBuild) {
     std::vector<ToldError> errors;
-    driver->setNotifyErrorHandler([&](CRtfDriver&) { errors.push_back(told(*currentError())); });
+    driver->setNotifyErrorHandler(
+        [&](CRtfDriver&, const RtfError& error) { errors.push_back(told(error)); });
     driver->setAbsorbedErrorObserver([&](const AbsorbedError&) {
         driver->RtfObject()->TableRows()->Item(1)->TableCells()->removeTail();
     });
@@ -290,7 +298,7 @@ TEST_F(NotifyError, SurvivesAnObserverThatLetsGoOfTheDriverDuringTheBuild) {
 }
 
 TEST_F(NotifyError, LeavesTheErrorReadableUntilTheNextCall) {
-    driver->setNotifyErrorHandler([&](CRtfDriver&) { ++events; });
+    driver->setNotifyErrorHandler([&](CRtfDriver&, const RtfError&) { ++events; });
     driver->ParseFromMemmory(badColor);
     ASSERT_NE(currentError(), nullptr);
     EXPECT_EQ(told(*currentError()), badColorError);

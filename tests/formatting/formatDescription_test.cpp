@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "quorvane/driver/CRtfDriver.h"
-#include "quorvane/support/currentError.h"
 #include "tests/diagnostics/randomDescriptions.h"
 #include "tests/support/FakePlatform.h"
 
@@ -78,7 +77,7 @@ std::vector<std::string> outcomeOf(const std::string& text, bool isChecked) {
     const Ref<CRtfDriver> driver = CRtfDriver::create(platform);
     driver->setErroneousInput(isChecked);
     driver->setNotifyErrorHandler(
-        [&](CRtfDriver&) { outcome.push_back(currentError()->description); });
+        [&](CRtfDriver&, const RtfError& error) { outcome.push_back(error.description); });
     driver->ParseFromMemmory(text);
     driver->setNotifyErrorHandler({});
     outcome.push_back(driver->Contents());

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "quorvane/driver/CRtfDriver.h"
-#include "quorvane/support/currentError.h"
 #include "tests/fuzz/documentChecks.h"
 #include "tests/fuzz/plainAnalysis.h"
 #include "tests/fuzz/require.h"
@@ -24,7 +23,7 @@ class DescriptionRun {
 public:
     explicit DescriptionRun(bool erroneousInput) {
         driver_->setErroneousInput(erroneousInput);
-        driver_->setNotifyErrorHandler([this](CRtfDriver&) { note(*currentError()); });
+        driver_->setNotifyErrorHandler([this](CRtfDriver&, const RtfError& error) { note(error); });
     }
     DescriptionRun(const DescriptionRun&) = delete;
     DescriptionRun& operator=(const DescriptionRun&) = delete;

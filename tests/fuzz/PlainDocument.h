@@ -16,6 +16,7 @@
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/values/Value.h"
 #include "quorvane/docmodel/CRtfDoc.h"
+#include "quorvane/docmodel/InnerDocument.h"
 #include "quorvane/docmodel/inlineStyles.h"
 #include "tests/docmodel/fixedGroups.h"
 #include "tests/fuzz/plainStyleSheet.h"
@@ -368,7 +369,7 @@ private:
             }
             rtf = position >= 2 ? "\r\n\\par\\pard\\plain\\intbl" : "\r\n\\pard\\plain\\intbl";
             rtf += paragraphStyle(paragraph.style);
-            rtf += withCharacterStyles(*original, body);
+            rtf += withCharacterStyles(inner(*original), body);
         }
         return wrapped(rtf, paragraph.field);
     }

@@ -10,6 +10,7 @@
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/utf16.h"
 #include "quorvane/docmodel/CRtfDoc.h"
+#include "quorvane/docmodel/InnerDocument.h"
 #include "quorvane/docmodel/inlineStyles.h"
 #include "tests/fuzz/FuzzInput.h"
 #include "tests/fuzz/documentChecks.h"
@@ -105,7 +106,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     // A walk without an end is one that the unit tests take.
     if (expected) {
         std::string styled;
-        require(errorOfCall([&] { styled = withCharacterStyles(*document, text); }) == 0,
+        require(errorOfCall([&] { styled = withCharacterStyles(inner(*document), text); }) == 0,
                 "a walk that ends gives a text");
         requireEqual(styled, *expected, "a text is what the walk makes of it");
     }

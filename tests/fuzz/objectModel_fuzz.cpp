@@ -91,7 +91,7 @@ public:
         while (documents_.size() + rows_.size() + cells_.size() + paragraphs_.size() +
                    rowLists_.size() + cellLists_.size() + paragraphLists_.size() >
                0) {
-            letGo();
+            releaseOne();
             keepCells();
         }
     }
@@ -210,29 +210,29 @@ private:
     }
 
     template <class List>
-    void letGoOf(List& list) {
+    void releaseOneOf(List& list) {
         if (!list.empty()) {
             list.erase(list.begin() + static_cast<std::ptrdiff_t>(input_.below(list.size())));
         }
     }
 
-    void letGo() {
+    void releaseOne() {
         const std::size_t kind = input_.isEmpty() ? nextKind_++ % 7 : input_.below(7);
         switch (kind) {
             case 0:
-                return letGoOf(documents_);
+                return releaseOneOf(documents_);
             case 1:
-                return letGoOf(rows_);
+                return releaseOneOf(rows_);
             case 2:
-                return letGoOf(cells_);
+                return releaseOneOf(cells_);
             case 3:
-                return letGoOf(paragraphs_);
+                return releaseOneOf(paragraphs_);
             case 4:
-                return letGoOf(rowLists_);
+                return releaseOneOf(rowLists_);
             case 5:
-                return letGoOf(cellLists_);
+                return releaseOneOf(cellLists_);
             default:
-                return letGoOf(paragraphLists_);
+                return releaseOneOf(paragraphLists_);
         }
     }
 
@@ -244,7 +244,7 @@ private:
                 }
                 return;
             case 1:
-                return letGo();
+                return releaseOne();
             case 2:
             case 3:
                 return documents_.empty() ? void() : callDocument(oneOf(documents_));

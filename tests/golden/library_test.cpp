@@ -6,7 +6,6 @@
 
 #include "quorvane/base/text/codePage1252.h"
 #include "quorvane/driver/CRtfDriver.h"
-#include "quorvane/support/currentError.h"
 #include "tests/golden/goldenCases.h"
 
 namespace quorvane::golden {
@@ -34,8 +33,8 @@ TEST_P(GoldenLibrary, GivesTheExpectedBytesAndErrors) {
     const Case& expected = GetParam();
     std::vector<SeenError> seen;
     const Ref<CRtfDriver> driver = CRtfDriver::create();
-    driver->setNotifyErrorHandler([&seen](CRtfDriver&) {
-        seen.push_back({"event", *currentError()});
+    driver->setNotifyErrorHandler([&seen](CRtfDriver&, const RtfError& error) {
+        seen.push_back({"event", error});
     });
     driver->setErroneousInput(expected.checked);
 

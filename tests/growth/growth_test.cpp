@@ -16,6 +16,7 @@
 #include "quorvane/diagnostics/stylesheet/KnownStyles.h"
 #include "quorvane/diagnostics/stylesheet/StyleSheetCheck.h"
 #include "quorvane/docmodel/CRtfDoc.h"
+#include "quorvane/docmodel/InnerDocument.h"
 #include "quorvane/docmodel/inlineStyles.h"
 #include "quorvane/driver/CRtfDriver.h"
 #include "quorvane/support/recordStrings.h"
@@ -105,7 +106,7 @@ TEST(Growth, OfAHundredMegabytesOfClosersIsBearable) {
     FakePlatform platform;
     const Ref<CRtfDriver> driver = CRtfDriver::create(platform);
     int events = 0;
-    driver->setNotifyErrorHandler([&events](CRtfDriver&) { ++events; });
+    driver->setNotifyErrorHandler([&events](CRtfDriver&, const RtfError&) { ++events; });
 
     driver->ParseFromMemmory("(doc\n(r\n" + repeated(std::string(60, ' ') + "c)\n", 1'600'000) +
                              "doc)");
@@ -216,7 +217,7 @@ protected:
     void expectProportionalTo(const Text& textOf, std::size_t size) {
         expectProportional(
             [&](std::size_t count) {
-                EXPECT_NE(withCharacterStyles(*document, textOf(count)), "");
+                EXPECT_NE(withCharacterStyles(inner(*document), textOf(count)), "");
             },
             size);
     }
@@ -245,7 +246,8 @@ TEST_F(InlineTokens, GrowProportionally) {
 }
 
 TEST_F(InlineTokens, MayBeAMillion) {
-    const std::string styled = withCharacterStyles(*document, repeated("<bold=x>", 1'000'000));
+    const std::string styled =
+        withCharacterStyles(inner(*document), repeated("<bold=x>", 1'000'000));
 
     EXPECT_EQ(styled, repeated("{\\cs100\\b x}", 1'000'000));
 }
@@ -314,7 +316,8 @@ TEST_F(InlineTokens, OverflowInProportionToTheWordsThatPutThemIn) {
             const Ref<CRtfDoc> endless = CRtfDoc::create();
             endless->LoadStyleSheetFromMemmory("{name: once; style-def: cs; format: <once=>" +
                                                repeated("x", count) + "}");
-            EXPECT_THROW(withCharacterStyles(*endless, "<once=>" + repeated("x", count)), RtfError);
+            EXPECT_THROW(withCharacterStyles(inner(*endless), "<once=>" + repeated("x", count)),
+                         RtfError);
         },
         1000);
 }

@@ -78,9 +78,9 @@ struct Subject {
         platform.files["description.rtfspec"] = codePage1252FromUtf8(description);
         platform.files["style.rtfss"] = styleSheet;
         driver->setErroneousInput(true);
-        driver->setNotifyErrorHandler([this](CRtfDriver&) {
+        driver->setNotifyErrorHandler([this](CRtfDriver&, const RtfError& error) {
             ++events;
-            lastError = currentError()->number;
+            lastError = error.number;
         });
         driver->LoadStyleSheetFromMemmory(styleSheet);
         driver->ParseFromMemmory("(doc\n(r\n(c\n(p\n(pt=before)\np)\nc)\nr)\ndoc)");

@@ -8,7 +8,6 @@
 #include <string_view>
 
 #include "quorvane/driver/CRtfDriver.h"
-#include "quorvane/support/currentError.h"
 
 namespace {
 
@@ -85,8 +84,8 @@ int main(int count, char** arguments) {
     try {
         int errors = 0;
         const Ref<CRtfDriver> driver = CRtfDriver::create();
-        driver->setNotifyErrorHandler([&errors](CRtfDriver&) {
-            std::cerr << currentError()->what() << "\n";
+        driver->setNotifyErrorHandler([&errors](CRtfDriver&, const RtfError& error) {
+            std::cerr << error.what() << "\n";
             ++errors;
         });
         driver->setStyleSheetFile(arguments[2]);

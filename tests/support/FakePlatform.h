@@ -30,7 +30,7 @@ public:
         std::string title;
     };
 
-    /// What a reporter was told in its "Create".
+    /// What a reporter received in its "Create".
     struct Introduction {
         std::string programId;
         std::string product;
@@ -52,7 +52,7 @@ public:
     std::string folder = "C:\\Programs";
     std::string fileName = "host.exe";
     ProgramVersion version{3, 14, 159};
-    /// Files being written and reporters that nobody has let go of yet.
+    /// Files being written and reporters that are still held.
     int openFiles = 0;
     int livingReporters = 0;
 
@@ -94,6 +94,11 @@ public:
         perform("createFile", path);
         files[path];
         return std::make_unique<File>(*this, path);
+    }
+
+    std::unique_ptr<OutputFile> replaceFile(const std::string& path) override {
+        perform("replaceFile", path);
+        return std::make_unique<Replacement>(*this, path);
     }
 
     void setClipboardText(const std::string& text) override {
@@ -166,6 +171,33 @@ private:
         std::size_t position_ = 0;
     };
 
+    /// Takes the file's place with `close`.
+    class Replacement : public OutputFile {
+    public:
+        Replacement(FakePlatform& platform, std::string path)
+            : platform_(platform), path_(std::move(path)) {
+            ++platform_.openFiles;
+        }
+        Replacement(const Replacement&) = delete;
+        Replacement& operator=(const Replacement&) = delete;
+        ~Replacement() override { --platform_.openFiles; }
+
+        void write(std::string_view bytes) override {
+            platform_.perform("write", std::to_string(bytes.size()));
+            content_ += bytes;
+        }
+
+        void close() override {
+            platform_.perform("close", path_);
+            platform_.files[path_] = content_;
+        }
+
+    private:
+        FakePlatform& platform_;
+        std::string path_;
+        std::string content_;
+    };
+
     class Reporter : public ErrorReporter {
     public:
         Reporter(FakePlatform& platform, std::string programId)
@@ -194,11 +226,11 @@ private:
     /// The name, once it is certain that such an operation exists: a test with a misspelled one
     /// would prove nothing.
     static std::string known(std::string_view operation) {
-        static constexpr std::array<std::string_view, 15> names{
-            "fileExists",     "readFile",        "deleteFile",       "createFile",
-            "write",          "close",           "setClipboardText", "showMessageBox",
-            "resourceString", "createReporter",  "Create",           "sendError",
-            "programFolder",  "programFileName", "programVersion"};
+        static constexpr std::array<std::string_view, 16> names{
+            "fileExists",     "readFile",       "deleteFile",      "createFile",
+            "replaceFile",    "write",          "close",           "setClipboardText",
+            "showMessageBox", "resourceString", "createReporter",  "Create",
+            "sendError",      "programFolder",  "programFileName", "programVersion"};
         if (std::find(names.begin(), names.end(), operation) == names.end()) {
             throw std::invalid_argument("no such operation: " + std::string(operation));
         }

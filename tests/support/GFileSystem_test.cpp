@@ -26,7 +26,7 @@ protected:
 
     /// The piece of text written by one `write`, in code page 1252.
     std::string saved(const std::string& text) {
-        GFileSystem::saveString(errors, "a.rtf", text);
+        GFileSystem::saveString(platform, errors, "a.rtf", text);
         return platform.files.at("a.rtf");
     }
 
@@ -38,7 +38,7 @@ protected:
 // saveStringToFile
 
 TEST_F(GFileSystemTest, SavingToAMissingFileMakesIt) {
-    EXPECT_TRUE(GFileSystem::saveStringToFile(errors, "a.rtf", "{}", false));
+    EXPECT_TRUE(GFileSystem::saveStringToFile(platform, errors, "a.rtf", "{}", false));
 
     EXPECT_EQ(platform.files.at("a.rtf"), "{}");
     EXPECT_THAT(platform.operations,
@@ -46,7 +46,7 @@ TEST_F(GFileSystemTest, SavingToAMissingFileMakesIt) {
 }
 
 TEST_F(GFileSystemTest, SavingToAMissingFileMakesItAlsoWhenExistingOnesAreKept) {
-    EXPECT_TRUE(GFileSystem::saveStringToFile(errors, "a.rtf", "{}", true));
+    EXPECT_TRUE(GFileSystem::saveStringToFile(platform, errors, "a.rtf", "{}", true));
 
     EXPECT_EQ(platform.files.at("a.rtf"), "{}");
 }
@@ -54,7 +54,7 @@ TEST_F(GFileSystemTest, SavingToAMissingFileMakesItAlsoWhenExistingOnesAreKept) 
 TEST_F(GFileSystemTest, SavingOverAnExistingFileReplacesItCompletely) {
     platform.files["a.rtf"] = "{a much longer text}";
 
-    EXPECT_TRUE(GFileSystem::saveStringToFile(errors, "a.rtf", "{}", false));
+    EXPECT_TRUE(GFileSystem::saveStringToFile(platform, errors, "a.rtf", "{}", false));
 
     EXPECT_EQ(platform.files.at("a.rtf"), "{}");
     EXPECT_THAT(platform.operations, ElementsAre("fileExists a.rtf", "deleteFile a.rtf",
@@ -65,7 +65,7 @@ TEST_F(GFileSystemTest, SavingOverAFileHeldByAnotherProgramIsFalseWithError75Pen
     platform.files["a.rtf"] = "held";
     platform.fail("deleteFile", RunTimeError::PathFileAccessError);
 
-    EXPECT_FALSE(GFileSystem::saveStringToFile(errors, "a.rtf", "{}", false));
+    EXPECT_FALSE(GFileSystem::saveStringToFile(platform, errors, "a.rtf", "{}", false));
 
     ASSERT_NE(currentError(), nullptr);
     EXPECT_EQ(currentError()->number, 75);
@@ -77,7 +77,7 @@ TEST_F(GFileSystemTest, AFileThatCannotBeDeletedIsReportedToTheErrorModule) {
     platform.files["a.rtf"] = "held";
     platform.fail("deleteFile", RunTimeError::PathFileAccessError);
 
-    GFileSystem::saveStringToFile(errors, "a.rtf", "{}", false);
+    GFileSystem::saveStringToFile(platform, errors, "a.rtf", "{}", false);
 
     ASSERT_EQ(absorbed.size(), 1U);
     EXPECT_EQ(absorbed[0].error.number, 75);
@@ -90,7 +90,7 @@ TEST_F(GFileSystemTest, AnErrorStaysPendingWhenTheReporterFails) {
     platform.fail("deleteFile", RunTimeError::PathFileAccessError);
     errors.setReporterSwitch(true);
 
-    EXPECT_FALSE(GFileSystem::saveStringToFile(errors, "a.rtf", "{}", false));
+    EXPECT_FALSE(GFileSystem::saveStringToFile(platform, errors, "a.rtf", "{}", false));
 
     EXPECT_EQ(currentError()->number, 75);
 }
@@ -98,7 +98,7 @@ TEST_F(GFileSystemTest, AnErrorStaysPendingWhenTheReporterFails) {
 TEST_F(GFileSystemTest, KeepingAnExistingFileLeavesItUntouchedAndIsTrue) {
     platform.files["a.rtf"] = "old";
 
-    EXPECT_TRUE(GFileSystem::saveStringToFile(errors, "a.rtf", "{}", true));
+    EXPECT_TRUE(GFileSystem::saveStringToFile(platform, errors, "a.rtf", "{}", true));
 
     EXPECT_EQ(platform.files.at("a.rtf"), "old");
     EXPECT_THAT(platform.operations, ElementsAre("fileExists a.rtf"));
@@ -107,7 +107,7 @@ TEST_F(GFileSystemTest, KeepingAnExistingFileLeavesItUntouchedAndIsTrue) {
 TEST_F(GFileSystemTest, AFileThatCannotBeMadeIsAbsorbedBySaveStringAndTrue) {
     platform.fail("createFile", RunTimeError::PathNotFound);
 
-    EXPECT_TRUE(GFileSystem::saveStringToFile(errors, "gone/a.rtf", "{}", false));
+    EXPECT_TRUE(GFileSystem::saveStringToFile(platform, errors, "gone/a.rtf", "{}", false));
 
     ASSERT_EQ(absorbed.size(), 1U);
     EXPECT_EQ(absorbed[0].error.number, 76);
@@ -189,7 +189,7 @@ TEST_F(GFileSystemTest, SavingAbsorbsAFailureOfEachStep) {
         absorbed.clear();
         platform.fail(step, RunTimeError::DiskFull);
 
-        EXPECT_NO_THROW(GFileSystem::saveString(errors, "a.rtf", "{}")) << step;
+        EXPECT_NO_THROW(GFileSystem::saveString(platform, errors, "a.rtf", "{}")) << step;
 
         ASSERT_EQ(absorbed.size(), 1U) << step;
         EXPECT_EQ(absorbed[0].error.number, 61) << step;
@@ -203,7 +203,7 @@ TEST_F(GFileSystemTest, SavingAbsorbsAFailureOfEachStep) {
 TEST_F(GFileSystemTest, WhatWasWrittenBeforeAFailureStays) {
     platform.fail("write", RunTimeError::DiskFull, 1);
 
-    GFileSystem::saveString(errors, "a.rtf", std::string(400000, 'x'));
+    GFileSystem::saveString(platform, errors, "a.rtf", std::string(400000, 'x'));
 
     EXPECT_EQ(platform.files.at("a.rtf").size(), 262144U);
     EXPECT_EQ(absorbed.at(0).error.number, 61);

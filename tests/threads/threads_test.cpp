@@ -62,7 +62,7 @@ void work(int number, std::string& failure) {
     documents[0]->LoadStyleSheetFromMemmory(styleSheet);
     int errors = 0;
     for (const Ref<CRtfDriver>& driver : drivers) {
-        driver->setNotifyErrorHandler([&errors](CRtfDriver&) { ++errors; });
+        driver->setNotifyErrorHandler([&errors](CRtfDriver&, const RtfError&) { ++errors; });
     }
     std::array<std::string, 4> first;
     for (int round = 0; round < 40; ++round) {

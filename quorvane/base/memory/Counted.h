@@ -16,8 +16,8 @@ private:
 };
 
 /// Counts of an object whose children refer to it weakly. When the last strong reference goes, the
-/// object lets go of all that it holds (its `letGo()` is called); its memory goes with the last
-/// weak one, so that a child that outlives its owner can still ask whether the owner is there.
+/// object releases all that it holds (its `releaseContents()` is called); its memory goes with the
+/// last weak one, so that a child that outlives its owner can still ask whether the owner is there.
 class CountedOwner {
 public:
     bool isAlive() const noexcept { return strong_ != 0; }
@@ -29,7 +29,7 @@ public:
     void release(Owner* owner) noexcept {
         if (--strong_ == 0) {
             ++weak_;
-            owner->letGo();
+            owner->releaseContents();
             releaseWeak(owner);
         }
     }

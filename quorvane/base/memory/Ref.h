@@ -1,13 +1,14 @@
 #pragma once
 
+#include <concepts>
 #include <cstddef>
 #include <utility>
 
 namespace quorvane {
 
-/// A counted reference to an object; null stands for Nothing. The object lives while a reference
-/// to it does. For the type, `retain(T*)` and `release(T*)` must be declared beside it, so that
-/// references to a type that is only declared can be held and handed on. Counts are not atomic: an
+/// A counted reference to an object; it can be null. The object lives while a reference to it does.
+/// For the type, `retain(T*)` and `release(T*)` must be declared beside it, so that references to a
+/// type that is only declared can be held and handed on. Counts are not atomic: an
 /// object is used by one thread at a time.
 template <class T>
 class Ref {
@@ -21,6 +22,10 @@ public:
     }
     Ref(const Ref& other) : Ref(other.object_) {}
     Ref(Ref&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
+    /// A reference to an object of a derived class is one to its base.
+    template <class Derived>
+    requires(!std::same_as<Derived, T> && std::convertible_to<Derived*, T*>) Ref(Ref<Derived> other)
+    noexcept : object_(other.detach()) {}
     Ref& operator=(Ref other) noexcept {
         std::swap(object_, other.object_);
         return *this;
@@ -46,38 +51,6 @@ public:
         reference.object_ = object;
         return reference;
     }
-
-private:
-    T* object_ = nullptr;
-};
-
-/// A reference that does not keep its object alive: `get` answers null once the object's last `Ref`
-/// has gone. For the type, `retainWeak`, `releaseWeak` and `isAlive` must be declared beside it.
-template <class T>
-class WeakRef {
-public:
-    WeakRef() = default;
-    explicit WeakRef(T* object) : object_(object) {
-        if (object_) {
-            retainWeak(object_);
-        }
-    }
-    WeakRef(const WeakRef& other) : WeakRef(other.object_) {}
-    WeakRef(WeakRef&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
-    WeakRef& operator=(WeakRef other) noexcept {
-        std::swap(object_, other.object_);
-        return *this;
-    }
-    ~WeakRef() {
-        if (object_) {
-            releaseWeak(object_);
-        }
-    }
-
-    T* get() const noexcept { return object_ && isAlive(object_) ? object_ : nullptr; }
-
-    /// The object, alive or not: as long as this reference is there, so is its memory.
-    T* memory() const noexcept { return object_; }
 
 private:
     T* object_ = nullptr;

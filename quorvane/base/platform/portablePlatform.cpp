@@ -11,10 +11,12 @@
 #include <string>
 #include <string_view>
 #include <system_error>
-#include <utility>
 
 #include "quorvane/base/platform/Platform.h"
 #include "quorvane/base/platform/errnoToRunTimeError.h"
+#include "quorvane/base/platform/fileReplacement.h"
+#include "quorvane/base/platform/portableDescriptorFile.h"
+#include "quorvane/base/platform/portableSystemError.h"
 #include "quorvane/base/text/fileNamePattern.h"
 
 namespace quorvane {
@@ -24,36 +26,7 @@ namespace {
 constexpr int productNameResource = 8700;
 constexpr std::size_t bufferForUnknownSize = std::size_t{64} * 1024;
 
-/// An open file's descriptor, closed when nobody did.
-class Descriptor {
-public:
-    explicit Descriptor(int number) noexcept : number_(number) {}
-    Descriptor(Descriptor&& other) noexcept : number_(other.release()) {}
-    Descriptor& operator=(Descriptor&&) = delete;
-    ~Descriptor() {
-        if (number_ != -1) {
-            ::close(number_);
-        }
-    }
-
-    int number() const noexcept { return number_; }
-    int release() noexcept { return std::exchange(number_, -1); }
-
-private:
-    int number_;
-};
-
-/// Makes a system call again for as long as a signal interrupts it.
-template <class Call>
-auto uninterrupted(Call call) {
-    auto result = call();
-    while (result == -1 && errno == EINTR) {
-        result = call();
-    }
-    return result;
-}
-
-/// What a path leads to, past all links; nothing when it leads nowhere.
+/// What a path leads to, past all links, if it leads anywhere.
 std::optional<struct stat> statusOf(const std::string& path) {
     struct stat status {};
     if (::stat(path.c_str(), &status) == -1) {
@@ -74,18 +47,17 @@ bool holdsNul(std::string_view path) {
     return path.find('\0') != std::string_view::npos;
 }
 
-void requireNoNul(std::string_view path) {
+void throwUnlessUsable(std::string_view path) {
     if (holdsNul(path)) {
         raise(RunTimeError::DeviceIoError);
     }
 }
 
 [[noreturn]] void raiseForPath(int code, const std::string& path) {
-    const RunTimeError error = errnoToRunTimeError(code);
-    if (error == RunTimeError::FileNotFound && !statusOf(folderOf(path))) {
-        raise(RunTimeError::PathNotFound);
+    if (errnoToRunTimeError(code) == RunTimeError::FileNotFound && !statusOf(folderOf(path))) {
+        raiseSystemError(RunTimeError::PathNotFound, code);
     }
-    raise(error);
+    raiseSystemError(code);
 }
 
 /// What the system says of a path that leads to no file. Of any other failure it is not known, and
@@ -95,22 +67,18 @@ bool meansAbsence(int code) {
            code == ELOOP;
 }
 
-int openFile(const std::string& path, int flags) {
-    constexpr mode_t readAndWriteForAll = 0666;
-    return uninterrupted(
-        [&] { return ::open(path.c_str(), flags | O_CLOEXEC | O_NOCTTY, readAndWriteForAll); });
-}
-
-/// A file written without a buffer of its own: what is written comes in large blocks.
+/// A file that is made, or written from its first byte where it is there.
 class PortableOutputFile : public OutputFile {
 public:
-    /// Opens the file, which is made where there is none.
     explicit PortableOutputFile(const std::string& path)
         : newPath_(path), file_(open(path, newPath_)) {
-        if (file_.number() == -1) {
-            const RunTimeError error = errnoToRunTimeError(errno);
+        if (file_.descriptor() == -1) {
+            const int code = errno;
             // The file itself would have been made: what is missing is its folder.
-            raise(error == RunTimeError::FileNotFound ? RunTimeError::PathNotFound : error);
+            if (errnoToRunTimeError(code) == RunTimeError::FileNotFound) {
+                raiseSystemError(RunTimeError::PathNotFound, code);
+            }
+            raiseSystemError(code);
         }
     }
     PortableOutputFile(const PortableOutputFile&) = delete;
@@ -121,50 +89,39 @@ public:
         }
     }
 
-    void write(std::string_view bytes) override {
-        while (!bytes.empty()) {
-            const ssize_t written =
-                uninterrupted([&] { return ::write(file_.number(), bytes.data(), bytes.size()); });
-            if (written == -1) {
-                raise(errnoToRunTimeError(errno));
-            }
-            bytes.remove_prefix(static_cast<std::size_t>(written));
-        }
-    }
+    void write(std::string_view bytes) override { file_.write(bytes); }
 
     void close() override {
-        // Not tried again: the descriptor is gone even when a signal interrupts the call.
-        if (::close(file_.release()) == -1 && errno != EINTR) {
-            raise(errnoToRunTimeError(errno));
-        }
+        file_.close();
         newPath_.clear();
     }
 
 private:
     static int open(const std::string& path, std::string& newPath) noexcept {
-        const int file = openFile(path, O_WRONLY | O_CREAT | O_EXCL);
+        const int file = openDescriptor(path, O_WRONLY | O_CREAT | O_EXCL);
         if (file != -1 || errno != EEXIST) {
             return file;
         }
         newPath.clear();
-        return openFile(path, O_WRONLY | O_CREAT);
+        return openDescriptor(path, O_WRONLY | O_CREAT);
     }
 
     // Of a file that was made; empty for one that was there.
     std::string newPath_;
-    Descriptor file_;
+    DescriptorFile file_;
 };
 
 std::string readToEnd(int file, std::size_t expectedSize) {
     // One byte more than expected: a file that has grown is not taken for whole. A pipe, and a file
-    // that the system makes up as it is read, tell no size.
+    // that the system makes up as it is read, have no size.
     std::string bytes(expectedSize > 0 ? expectedSize + 1 : bufferForUnknownSize, '\0');
     std::size_t length = 0;
     while (true) {
-        const ssize_t count = uninterrupted(
-            [&] { return ::read(file, bytes.data() + length, bytes.size() - length); });
+        const ssize_t count = whenReady(file, POLLIN, [&] {
+            return ::read(file, bytes.data() + length, bytes.size() - length);
+        });
         if (count == -1) {
-            raise(errnoToRunTimeError(errno));
+            raiseSystemError(errno);
         }
         if (count == 0) {
             bytes.resize(length);
@@ -193,7 +150,7 @@ bool anyFileMatches(const std::string& folder, std::string_view pattern) {
     return false;
 }
 
-/// Path of the running program; empty where the system does not tell it.
+/// Path of the running program; empty where the system does not say.
 std::string programPath() {
     std::error_code failure;
     return std::filesystem::read_symlink("/proc/self/exe", failure).native();
@@ -216,22 +173,24 @@ public:
     }
 
     std::string readFile(const std::string& path) override {
-        requireNoNul(path);
+        throwUnlessUsable(path);
         const std::optional<struct stat> status = statusOf(path);
         // Opening a device can do something, and reading one need not come to an end.
-        if (status &&
-            (S_ISDIR(status->st_mode) || S_ISCHR(status->st_mode) || S_ISBLK(status->st_mode))) {
+        if (status && (S_ISCHR(status->st_mode) || S_ISBLK(status->st_mode))) {
             raise(RunTimeError::PathFileAccessError);
         }
-        const Descriptor file(openFile(path, O_RDONLY));
-        if (file.number() == -1) {
+        if (status && S_ISDIR(status->st_mode)) {
+            raiseSystemError(EISDIR);
+        }
+        const DescriptorFile file(openDescriptor(path, O_RDONLY));
+        if (file.descriptor() == -1) {
             raiseForPath(errno, path);
         }
-        return readToEnd(file.number(), status ? static_cast<std::size_t>(status->st_size) : 0);
+        return readToEnd(file.descriptor(), status ? static_cast<std::size_t>(status->st_size) : 0);
     }
 
     void deleteFile(const std::string& path) override {
-        requireNoNul(path);
+        throwUnlessUsable(path);
         // A device or a pipe is not ours to remove, not even by the link that leads to it.
         const std::optional<struct stat> status = statusOf(path);
         if (status && !S_ISREG(status->st_mode)) {
@@ -243,8 +202,13 @@ public:
     }
 
     std::unique_ptr<OutputFile> createFile(const std::string& path) override {
-        requireNoNul(path);
+        throwUnlessUsable(path);
         return std::make_unique<PortableOutputFile>(path);
+    }
+
+    std::unique_ptr<OutputFile> replaceFile(const std::string& path) override {
+        throwUnlessUsable(path);
+        return openReplacement(path);
     }
 
     /// Does nothing: there is no clipboard.

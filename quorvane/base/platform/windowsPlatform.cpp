@@ -11,8 +11,11 @@
 #include <utility>
 
 #include "quorvane/base/platform/Platform.h"
+#include "quorvane/base/platform/fileReplacement.h"
 #include "quorvane/base/platform/windowsErrorToRunTimeError.h"
+#include "quorvane/base/platform/windowsHandleFile.h"
 #include "quorvane/base/platform/windowsStringCollection.h"
+#include "quorvane/base/platform/windowsSystemError.h"
 #include "quorvane/base/text/utf16.h"
 #include "quorvane/base/values/RtfError.h"
 
@@ -21,7 +24,6 @@ namespace quorvane {
 namespace {
 
 constexpr std::size_t bufferForUnknownSize = 64 * 1024;
-constexpr DWORD largestTransfer = 1U << 30;
 
 std::wstring wide(std::string_view text) {
     return utf16FromUtf8<wchar_t>(text);
@@ -32,7 +34,7 @@ std::string narrow(std::wstring_view text) {
 }
 
 [[noreturn]] void raiseLastError() {
-    raise(windowsErrorToRunTimeError(GetLastError()));
+    raiseSystemError(GetLastError());
 }
 
 /// The system would read such a path only up to the NUL, and so find another file than the one that
@@ -41,10 +43,14 @@ bool holdsNul(std::string_view path) {
     return path.find('\0') != std::string_view::npos;
 }
 
-std::wstring widePath(std::string_view path) {
+void throwUnlessUsable(std::string_view path) {
     if (holdsNul(path)) {
         raise(RunTimeError::DeviceIoError);
     }
+}
+
+std::wstring widePath(std::string_view path) {
+    throwUnlessUsable(path);
     return wide(path);
 }
 
@@ -56,44 +62,25 @@ bool meansAbsence(DWORD code) {
            code == ERROR_ACCESS_DENIED || code == ERROR_NO_MORE_FILES || code == ERROR_NOT_READY;
 }
 
-/// An open file's handle, closed when nobody did.
-class FileHandle {
-public:
-    explicit FileHandle(HANDLE handle) noexcept : handle_(handle) {}
-    FileHandle(FileHandle&& other) noexcept : handle_(other.release()) {}
-    FileHandle& operator=(FileHandle&&) = delete;
-    ~FileHandle() {
-        if (isOpen()) {
-            CloseHandle(handle_);
-        }
-    }
-
-    bool isOpen() const noexcept { return handle_ != INVALID_HANDLE_VALUE; }
-    HANDLE get() const noexcept { return handle_; }
-    HANDLE release() noexcept { return std::exchange(handle_, INVALID_HANDLE_VALUE); }
-
-private:
-    HANDLE handle_;
-};
-
 /// Opening a device can do something, and its name is no file's to delete or to write.
 bool isDevice(HANDLE file) {
     return GetFileType(file) == FILE_TYPE_CHAR;
 }
 
-/// A file written without a buffer of its own: what is written comes in large blocks.
+/// A file that is made, or written from its first byte where it is there.
 class WindowsOutputFile : public OutputFile {
 public:
-    /// Opens the file, which is made where there is none.
     explicit WindowsOutputFile(const std::string& path)
         : newPath_(widePath(path)),
           file_(CreateFileW(newPath_.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_ALWAYS,
                             FILE_ATTRIBUTE_NORMAL, nullptr)) {
         const DWORD result = GetLastError();
         if (!file_.isOpen()) {
-            const RunTimeError error = windowsErrorToRunTimeError(result);
             // The file itself would have been made: what is missing is its folder.
-            raise(error == RunTimeError::FileNotFound ? RunTimeError::PathNotFound : error);
+            if (windowsErrorToRunTimeError(result) == RunTimeError::FileNotFound) {
+                raiseSystemError(RunTimeError::PathNotFound, result);
+            }
+            raiseSystemError(result);
         }
         if (result == ERROR_ALREADY_EXISTS) {
             newPath_.clear();
@@ -103,40 +90,25 @@ public:
     WindowsOutputFile& operator=(const WindowsOutputFile&) = delete;
     ~WindowsOutputFile() override {
         if (!newPath_.empty()) {
-            // An open file cannot go.
-            if (file_.isOpen()) {
-                CloseHandle(file_.release());
-            }
+            file_.abandon();  // an open file cannot be removed
             DeleteFileW(newPath_.c_str());
         }
     }
 
-    void write(std::string_view bytes) override {
-        while (!bytes.empty()) {
-            const auto length =
-                static_cast<DWORD>(bytes.size() < largestTransfer ? bytes.size() : largestTransfer);
-            DWORD written = 0;
-            if (!WriteFile(file_.get(), bytes.data(), length, &written, nullptr)) {
-                raiseLastError();
-            }
-            bytes.remove_prefix(written);
-        }
-    }
+    void write(std::string_view bytes) override { file_.write(bytes); }
 
     void close() override {
-        if (!CloseHandle(file_.release())) {
-            raiseLastError();
-        }
+        file_.close();
         newPath_.clear();
     }
 
 private:
     // Of a file that was made; empty for one that was there.
     std::wstring newPath_;
-    FileHandle file_;
+    HandleFile file_;
 };
 
-/// Size of a file; 0 for what tells none, such as a pipe.
+/// Size of a file; 0 for what has none, such as a pipe.
 std::size_t expectedSize(HANDLE file) {
     LARGE_INTEGER size{};
     if (!GetFileSizeEx(file, &size) || size.QuadPart < 0) {
@@ -367,16 +339,16 @@ public:
     }
 
     std::string readFile(const std::string& path) override {
-        const FileHandle file(CreateFileW(widePath(path).c_str(), GENERIC_READ,
+        const HandleFile file(CreateFileW(widePath(path).c_str(), GENERIC_READ,
                                           FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
                                           OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
         if (!file.isOpen()) {
             raiseLastError();
         }
-        if (isDevice(file.get())) {
+        if (isDevice(file.handle())) {
             raise(RunTimeError::PathFileAccessError);
         }
-        return readToEnd(file.get());
+        return readToEnd(file.handle());
     }
 
     void deleteFile(const std::string& path) override {
@@ -389,7 +361,12 @@ public:
         return std::make_unique<WindowsOutputFile>(path);
     }
 
-    /// A clipboard that another program does not let go of is left alone.
+    std::unique_ptr<OutputFile> replaceFile(const std::string& path) override {
+        throwUnlessUsable(path);
+        return openReplacement(path);
+    }
+
+    /// A clipboard that another program keeps open is left alone.
     void setClipboardText(const std::string& text) override {
         Clipboard clipboard;
         if (clipboard.isOpen()) {
@@ -402,7 +379,7 @@ public:
     }
 
     std::optional<std::string> resourceString(int id) override {
-        // With no room given, it is the text in the module itself that is told.
+        // With no room given, the result is the text in the module itself.
         const wchar_t* text = nullptr;
         const int length =
             LoadStringW(ownModule(), static_cast<UINT>(id), reinterpret_cast<wchar_t*>(&text), 0);

@@ -17,7 +17,7 @@ namespace {
 
 class WindowsStringCollection final : public IDispatch {
 public:
-    explicit WindowsStringCollection(std::shared_ptr<const CStringList> list);
+    explicit WindowsStringCollection(std::shared_ptr<const TextCollection> list);
 
     STDMETHODIMP QueryInterface(REFIID id, void** object) override;
     STDMETHODIMP_(ULONG) AddRef() override;
@@ -33,7 +33,7 @@ public:
 private:
     ~WindowsStringCollection() = default;
 
-    const std::shared_ptr<const CStringList> list_;
+    const std::shared_ptr<const TextCollection> list_;
     LONG references_ = 1;
 };
 
@@ -43,8 +43,8 @@ std::string utf8Of(const VARIANT& text) {
     return utf8FromUtf16(std::wstring_view(V_BSTR(&text), SysStringLen(V_BSTR(&text))));
 }
 
-/// The string that an index names; nothing is changed when there is none.
-HRESULT fetchItem(const CStringList& list, VARIANT& given, VARIANT& result) {
+/// Sets the result to the string that an index names, if there is one.
+HRESULT fetchItem(const TextCollection& list, VARIANT& given, VARIANT& result) {
     VARIANT index;
     VariantInit(&index);
     HRESULT status = VariantCopyInd(&index, &given);
@@ -67,7 +67,7 @@ HRESULT fetchItem(const CStringList& list, VARIANT& given, VARIANT& result) {
     return status;
 }
 
-WindowsStringCollection::WindowsStringCollection(std::shared_ptr<const CStringList> list)
+WindowsStringCollection::WindowsStringCollection(std::shared_ptr<const TextCollection> list)
     : list_(std::move(list)) {}
 
 STDMETHODIMP WindowsStringCollection::QueryInterface(REFIID id, void** object) {
@@ -155,7 +155,7 @@ STDMETHODIMP WindowsStringCollection::Invoke(DISPID member, REFIID, LCID, WORD f
 
 }  // namespace
 
-IDispatch* makeWindowsStringCollection(std::shared_ptr<const CStringList> list) {
+IDispatch* makeWindowsStringCollection(std::shared_ptr<const TextCollection> list) {
     return new WindowsStringCollection(std::move(list));
 }
 

@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include "quorvane/support/currentError.h"
-
 namespace quorvane {
 
 namespace {
@@ -53,7 +51,6 @@ RtfError::RtfError(RunTimeError number_)
     : RtfError(static_cast<std::int32_t>(number_), standardDescription(number_)) {}
 
 void raise(RtfError error) {
-    setCurrentError(error);
     throw error;
 }
 

@@ -57,10 +57,10 @@ public:
     std::shared_ptr<const RtfError> cause;
 };
 
-/// Makes the error the thread's current error and throws it.
+/// Throws the error.
 [[noreturn]] void raise(RtfError error);
 
-/// Raises the run-time error with its standard description.
+/// Throws the run-time error with its standard description.
 [[noreturn]] void raise(RunTimeError number);
 
 }  // namespace quorvane

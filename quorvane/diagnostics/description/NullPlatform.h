@@ -21,6 +21,9 @@ public:
     }
     void setClipboardText(const std::string&) override {}
     void showMessageBox(const std::string&, int, const std::string&) override {}
+    std::unique_ptr<OutputFile> replaceFile(const std::string& path) override {
+        return createFile(path);
+    }
     std::optional<std::string> resourceString(int) override { return std::nullopt; }
     std::unique_ptr<ErrorReporter> createReporter(const std::string&) override {
         raise(RunTimeError::CannotCreateObject);

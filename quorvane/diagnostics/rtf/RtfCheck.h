@@ -1,22 +1,14 @@
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
-#include <functional>
-#include <set>
-#include <string>
+#include <memory>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "quorvane/diagnostics/engine/Diagnostic.h"
-#include "quorvane/diagnostics/engine/DiagnosticEngine.h"
-#include "quorvane/diagnostics/rtf/RtfReferences.h"
-#include "quorvane/diagnostics/rtf/RtfTableCheck.h"
-#include "quorvane/rtf/RtfGroup.h"
-#include "quorvane/rtf/RtfLexer.h"
 
 namespace quorvane {
+
+class RtfChecker;
 
 /// Checks an RTF file from any program, which is passed piece by piece: whether its groups balance,
 /// its table rows are complete, everything that it refers to exists, and nothing follows its end.
@@ -26,13 +18,10 @@ class RtfCheck {
 public:
     /// The receiver gets each diagnostic as soon as it is certain, which is nearly the order of the
     /// places.
-    explicit RtfCheck(DiagnosticReceiver receiver) : engine_(std::move(receiver)) {}
-    // Its parts refer to its engine.
+    explicit RtfCheck(DiagnosticReceiver receiver);
     RtfCheck(const RtfCheck&) = delete;
     RtfCheck& operator=(const RtfCheck&) = delete;
-    RtfCheck(RtfCheck&&) = delete;
-    RtfCheck& operator=(RtfCheck&&) = delete;
-    ~RtfCheck() = default;
+    ~RtfCheck();
 
     /// Checks the next bytes of the file.
     void feed(std::string_view bytes);
@@ -41,51 +30,7 @@ public:
     void finish();
 
 private:
-    struct Group : RtfGroup {
-        // True once an entry of the stylesheet has named its number.
-        bool hasNumber = false;
-        Place begin{};
-        RtfTableCheck::Paragraph paragraph{};
-    };
-
-    void take(RtfLexer::Token token);
-    void takeBeforeDocument(RtfLexer::Token token);
-    void takeAfterDocument(RtfLexer::Token token);
-    void takeText(std::string_view text);
-    void takeControl();
-    void takeWord();
-    void takeFirstWord();
-    void openGroup();
-    void closeGroup();
-    void reportNotRtf(const Place& place);
-    Place place(std::int64_t length) const;
-    Place controlPlace() const;
-    void takeRole(const RtfWord& word);
-    bool isNewWord(std::string_view word);
-
-    DiagnosticEngine engine_;
-    RtfTableCheck tables_{engine_};
-    RtfReferences references_{engine_};
-    RtfLexer lexer_;
-    std::vector<Group> groups_;
-    // Groups that are nested too deep to be looked at.
-    std::int64_t deeperGroups_ = 0;
-    bool reportedDepth_ = false;
-    bool reportedStart_ = false;
-    // True after the first group has its first word, and after it is closed.
-    bool hasBegun_ = false;
-    bool hasEnded_ = false;
-    // What follows the document: where it begins, the group at hand, how many groups are open in
-    // that one if it is not shown, and whether readers lose text there.
-    bool hasMore_ = false;
-    Place moreBegin_;
-    RtfGroup rest_{RtfDestination::Text, false, false};
-    std::int64_t hiddenGroups_ = 0;
-    bool hasLostText_ = false;
-    // The place of the \bin whose data is being passed over.
-    Place binaryPlace_;
-    // The unknown words that were reported.
-    std::set<std::string, std::less<>> reportedWords_;
+    std::unique_ptr<RtfChecker> checker_;
 };
 
 /// Returns the diagnostics of a whole RTF file, in the order of their places.

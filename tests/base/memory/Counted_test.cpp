@@ -18,7 +18,7 @@ struct Owner {
     Owner& operator=(const Owner&) = delete;
     ~Owner() { *isDeleted = true; }
 
-    void letGo() noexcept {
+    void releaseContents() noexcept {
         ++timesLetGo;
         whenLetGo();
     }

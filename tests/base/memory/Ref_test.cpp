@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "quorvane/base/memory/Counted.h"
+#include "quorvane/base/memory/WeakRef.h"
 
 namespace quorvane {
 namespace {
@@ -21,7 +22,7 @@ struct Owner {
     Owner& operator=(const Owner&) = delete;
     ~Owner() { --living; }
 
-    void letGo() noexcept { wasLetGo = true; }
+    void releaseContents() noexcept { wasLetGo = true; }
 };
 
 void retain(Owner* owner) noexcept {

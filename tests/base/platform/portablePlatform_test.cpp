@@ -354,12 +354,47 @@ TEST_F(PortablePlatformTest, AFailureWhileReadingIsError57AndClosesTheFile) {
     EXPECT_EQ(openDescriptors(), before);
 }
 
-TEST_F(PortablePlatformTest, AnErrorIsTheThreadsCurrentError) {
-    errorOf([&] { platform.readFile(path("gone.rtf")); });
+TEST_F(PortablePlatformTest, AnErrorHasTheSystemsOneAsItsCause) {
+    const auto causeOf = [](const std::function<void()>& action) {
+        try {
+            action();
+        } catch (const RtfError& error) {
+            return error.cause
+                       ? std::to_string(error.cause->number) + " " + error.cause->description
+                       : "";
+        }
+        return std::string("nothing was thrown");
+    };
+    makeFolder("folder");
 
-    ASSERT_NE(currentError(), nullptr);
-    EXPECT_EQ(currentError()->number, 53);
-    EXPECT_EQ(currentError()->description, "File not found");
+    EXPECT_EQ(causeOf([&] { platform.readFile(path("gone.rtf")); }), "2 No such file or directory");
+    EXPECT_EQ(causeOf([&] { platform.readFile(path("folder")); }), "21 Is a directory");
+    EXPECT_EQ(causeOf([&] { platform.deleteFile(path("gone.rtf")); }),
+              "2 No such file or directory");
+    EXPECT_EQ(causeOf([&] { platform.createFile(path("gone/a.rtf")); }),
+              "2 No such file or directory");
+    EXPECT_EQ(causeOf([&] { platform.createFile("/dev/full")->write("a"); }),
+              "28 No space left on device");
+    EXPECT_EQ(currentError(), nullptr);
+}
+
+TEST_F(PortablePlatformTest, AReplacementTakesTheFilesPlaceWhenItIsClosed) {
+    const auto file = platform.replaceFile(make("a.rtf", "old and long"));
+    file->write("new");
+    EXPECT_EQ(bytesOf("a.rtf"), "old and long");
+    file->close();
+    EXPECT_EQ(bytesOf("a.rtf"), "new");
+}
+
+TEST_F(PortablePlatformTest, AReplacementThatIsNotClosedLeavesTheFileAsItIs) {
+    fs::remove(path("seen"));
+    platform.replaceFile(make("a.rtf", "old"))->write("new");
+    EXPECT_EQ(bytesOf("a.rtf"), "old");
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder), fs::directory_iterator()), 1);
+}
+
+TEST_F(PortablePlatformTest, ReplacingAPathWithANulIsError57) {
+    EXPECT_EQ(errorOf([&] { platform.replaceFile(withNul); }), 57);
 }
 
 TEST_F(PortablePlatformTest, ReadsOnWhenASignalInterrupts) {
@@ -630,7 +665,8 @@ TEST_F(PortablePlatformTest, TheFileHelpersReplaceALongerFile) {
     GError errors(platform);
     make("a.rtf", "{a much longer text}");
 
-    EXPECT_TRUE(GFileSystem::saveStringToFile(errors, path("a.rtf"), "{caf\xC3\xA9}", false));
+    EXPECT_TRUE(
+        GFileSystem::saveStringToFile(platform, errors, path("a.rtf"), "{caf\xC3\xA9}", false));
 
     EXPECT_EQ(bytesOf("a.rtf"), "{caf\xE9}");
     EXPECT_EQ(GFileSystem::loadStringFromFile(platform, path("a.rtf")), "{caf\xC3\xA9}");
@@ -640,7 +676,7 @@ TEST_F(PortablePlatformTest, TheFileHelpersDoNotReplaceAFolder) {
     GError errors(platform);
     makeFolder("a");
 
-    EXPECT_FALSE(GFileSystem::saveStringToFile(errors, path("a"), "{}", false));
+    EXPECT_FALSE(GFileSystem::saveStringToFile(platform, errors, path("a"), "{}", false));
 
     EXPECT_EQ(currentError()->number, 75);
 }
@@ -648,7 +684,7 @@ TEST_F(PortablePlatformTest, TheFileHelpersDoNotReplaceAFolder) {
 TEST_F(PortablePlatformTest, TheFileHelpersDoNotReplaceADevice) {
     GError errors(platform);
 
-    EXPECT_FALSE(GFileSystem::saveStringToFile(errors, "/dev/full", "{}", false));
+    EXPECT_FALSE(GFileSystem::saveStringToFile(platform, errors, "/dev/full", "{}", false));
 
     EXPECT_EQ(currentError()->number, 75);
     EXPECT_TRUE(fs::is_character_file("/dev/full"));

@@ -10,7 +10,7 @@ std::string Face::perform(int object, const std::string& member, const Arguments
     return text + events_;
 }
 
-void Face::letGo(int object) {
+void Face::releaseObject(int object) {
     Object& entry = objects_.at(static_cast<std::size_t>(object));
     numbers_.erase(entry.identity);
     entry.interfaceName.clear();

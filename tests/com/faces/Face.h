@@ -30,7 +30,7 @@ public:
     }
     int objectCount() const { return static_cast<int>(objects_.size()); }
     /// Lets go of an object. It has another number when it is met again.
-    void letGo(int object);
+    void releaseObject(int object);
 
 protected:
     /// Performs an operation on an object that is held.

@@ -10,7 +10,6 @@
 
 #include "quorvane/docmodel/CRtfDoc.h"
 #include "quorvane/driver/CRtfDriver.h"
-#include "quorvane/support/currentError.h"
 #include "tests/com/faces/Face.h"
 
 namespace quorvane::host {
@@ -59,8 +58,7 @@ public:
     NativeFace() {
         render(CRtfDoc::create());
         const Ref<CRtfDriver> driver = CRtfDriver::create();
-        driver->setNotifyErrorHandler([this](CRtfDriver&) {
-            const RtfError& error = *currentError();
+        driver->setNotifyErrorHandler([this](CRtfDriver&, const RtfError& error) {
             addEvent(errorText(static_cast<std::uint32_t>(error.number), error.description,
                                error.source));
         });

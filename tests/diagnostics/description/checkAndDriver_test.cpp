@@ -15,7 +15,6 @@
 #include "quorvane/driver/CRtfDriver.h"
 #include "quorvane/driver/driverErrorTable.h"
 #include "quorvane/stylesheet/stylesheetParser.h"
-#include "quorvane/support/currentError.h"
 #include "tests/diagnostics/randomDescriptions.h"
 #include "tests/support/FakePlatform.h"
 
@@ -46,7 +45,8 @@ class CheckAndDriver : public testing::Test {
 protected:
     CheckAndDriver() {
         driver->setErroneousInput(true);
-        driver->setNotifyErrorHandler([this](CRtfDriver&) { errors.push_back(*currentError()); });
+        driver->setNotifyErrorHandler(
+            [this](CRtfDriver&, const RtfError& error) { errors.push_back(error); });
     }
     ~CheckAndDriver() override { driver->setNotifyErrorHandler({}); }
 

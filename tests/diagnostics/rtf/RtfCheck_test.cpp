@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "quorvane/base/text/codePage1252.h"
+#include "quorvane/diagnostics/engine/DiagnosticEngine.h"
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
 #include "quorvane/driver/CRtfDriver.h"
 #include "tests/diagnostics/randomDescriptions.h"
@@ -405,7 +406,7 @@ TEST(RtfCheck, FindsNothingInTheDocumentsOfGeneratedDescriptions) {
         const std::string text = random.description();
         bool isRejected = text.find_first_of("{}\\") != std::string::npos;
         driver->setErroneousInput(true);
-        driver->setNotifyErrorHandler([&](CRtfDriver&) { isRejected = true; });
+        driver->setNotifyErrorHandler([&](CRtfDriver&, const RtfError&) { isRejected = true; });
         driver->ParseFromMemmory(text);
         if (!isRejected) {
             ++sound;

@@ -1,4 +1,4 @@
-#include "cli/throwUnlessAbsent.h"
+#include "quorvane/base/platform/throwUnlessAbsent.h"
 
 #include <algorithm>
 #include <array>
@@ -7,7 +7,7 @@
 
 #include "quorvane/base/values/RtfError.h"
 
-namespace quorvane::cli {
+namespace quorvane {
 
 void throwUnlessAbsent(const std::error_code& failure) {
     constexpr std::array absences = {
@@ -22,4 +22,4 @@ void throwUnlessAbsent(const std::error_code& failure) {
     }
 }
 
-}  // namespace quorvane::cli
+}  // namespace quorvane

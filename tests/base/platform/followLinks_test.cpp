@@ -1,4 +1,4 @@
-#include "cli/followLinks.h"
+#include "quorvane/base/platform/followLinks.h"
 
 #include <gtest/gtest.h>
 
@@ -6,10 +6,11 @@
 
 #include "tests/cli/TemporaryFolder.h"
 
-namespace quorvane::cli {
+namespace quorvane {
 namespace {
 
 namespace fs = std::filesystem;
+using cli::TemporaryFolder;
 
 TEST(FollowLinks, ReturnsAPathThatIsNoLink) {
     const TemporaryFolder folder;
@@ -39,4 +40,4 @@ TEST(FollowLinks, ReturnsALinkThatLeadsInACircle) {
 }
 
 }  // namespace
-}  // namespace quorvane::cli
+}  // namespace quorvane

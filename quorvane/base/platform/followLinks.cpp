@@ -1,10 +1,10 @@
-#include "cli/followLinks.h"
+#include "quorvane/base/platform/followLinks.h"
 
 #include <system_error>
 
-#include "cli/throwUnlessAbsent.h"
+#include "quorvane/base/platform/throwUnlessAbsent.h"
 
-namespace quorvane::cli {
+namespace quorvane {
 
 std::filesystem::path followLinks(const std::filesystem::path& path) {
     constexpr int maxLinks = 40;
@@ -24,4 +24,4 @@ std::filesystem::path followLinks(const std::filesystem::path& path) {
     return path;
 }
 
-}  // namespace quorvane::cli
+}  // namespace quorvane

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "quorvane/base/collections/KeyedList.h"
+#include "quorvane/docmodel/CRtfTableCells.h"
+#include "quorvane/docmodel/InnerCell.h"
+
+namespace quorvane {
+
+/// What the cells of a row are inside.
+class InnerCells final : public CRtfTableCells {
+public:
+    using List = KeyedList<InnerCell>;
+
+    explicit InnerCells(InnerRow& row) : row_(row) {}
+
+    InnerRow& row() const noexcept { return row_; }
+    const List& list() const noexcept { return list_; }
+    TableDocument* document() const noexcept { return isAlive(&row_) ? documentOf(row_) : nullptr; }
+    void insertNew(const List::Place& place, TableDocument& document);
+    void removeAt(std::size_t position) noexcept;
+    void clear() noexcept { list_.clear(); }
+    void takeFrom(InnerCells& other);
+    std::int32_t indexOf(const CRtfTableCell* cell) const;
+    std::int32_t widthOf(const InnerCell& cell, tWidthUnit units) const;
+    void setWidthOf(const InnerCell& cell, tWidthUnit units, std::int32_t value);
+    void spreadEvenly();
+    void render(TableRendering& rendering);
+
+private:
+    friend class CRtfTableCells;
+
+    void spread(std::int32_t uniformWidth) noexcept;
+    std::int32_t rightEdge(std::size_t position) const noexcept;
+    void setRightEdge(std::size_t position, std::int32_t edge) noexcept;
+    void writeEdges() noexcept;
+    std::int32_t width(std::size_t position) const;
+
+    List list_;
+    InnerRow& row_;
+    // Once the cells are spread evenly, their edges follow from this width and their positions and
+    // are not written into the cells, so that adding a cell does not touch the others. 0 when all
+    // edges stand in the cells.
+    std::int32_t uniformWidth_ = 0;
+    // Cells removed at the head since the cells were spread: the edges of the others stay.
+    std::int32_t removedHeads_ = 0;
+    // How often the cells were spread. An edge that stands in a cell bears the number of its
+    // spread.
+    std::uint32_t spreads_ = 0;
+};
+
+inline InnerCells& inner(CRtfTableCells& cells) noexcept {
+    return static_cast<InnerCells&>(cells);
+}
+inline const InnerCells& inner(const CRtfTableCells& cells) noexcept {
+    return static_cast<const InnerCells&>(cells);
+}
+
+}  // namespace quorvane

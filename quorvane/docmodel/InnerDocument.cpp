@@ -1,0 +1,124 @@
+#include "quorvane/docmodel/InnerDocument.h"
+
+#include <functional>
+#include <optional>
+#include <utility>
+
+#include "quorvane/docmodel/measures.h"
+#include "quorvane/support/GFileSystem.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr const char* moduleName = "CRtfDoc.cls";
+
+std::string lockedFileMessage(const std::string& path) {
+    return "Error accessing " + path +
+           ". The file seems to be opened with exclusive rights by some other application (maybe "
+           "MS Word) and Quorvane can't modify it.  Use a diferent file name or close it.";
+}
+
+}  // namespace
+
+void retain(CRtfDoc* document) noexcept {
+    retainDocument(inner(*document));
+}
+
+void release(CRtfDoc* document) noexcept {
+    releaseDocument(inner(*document));
+}
+
+InnerDocument::InnerDocument(Platform& platform)
+    : files_(platform),
+      errors_(platform),
+      styleSheet_(std::make_unique<CRtfGrpStyleSheetTable>(*this, platform)) {
+    initAllGroups();
+}
+
+void InnerDocument::commit(const std::string& path) {
+    if (!refresh("Commit")) {
+        return;
+    }
+    const std::optional<RtfError> failure =
+        GFileSystem::errorOfSaving(files_, errors_, path, contents_, false);
+    if (!failure) {
+        return;
+    }
+    if (failure->is(RunTimeError::PathFileAccessError)) {
+        RtfError locked(failure->number, lockedFileMessage(path));
+        locked.cause = failure->cause;
+        raise(std::move(locked));
+    }
+    errors_.handleError(*failure, moduleName, "Commit");
+}
+
+bool InnerDocument::refresh(const char* procedure) {
+    return !changed_ || !errors_.absorbing(moduleName, procedure, [this] { render(); });
+}
+
+void InnerDocument::render() {
+    std::string rtf;
+    if (!styleSheet_->CharacterWordsHoldTokens()) {
+        // Only words that hold tokens can make a text endless. Without them the stale text makes
+        // room: its memory serves the new one. Should rendering fail for want of memory, the
+        // document still counts as changed.
+        rtf = std::move(contents_);
+        contents_ = "{}";
+    }
+    rtf.assign(1, '{');
+    header_.render(rtf);
+    fontTable_.render(rtf);
+    colorTable_.render(rtf);
+    styleSheet_->render(rtf);
+    format_->render(rtf);
+    body_.render(rtf);
+    rtf += '}';
+    contents_ = std::move(rtf);
+    changed_ = false;
+}
+
+// The fixed groups hold nothing that could change, and the stylesheet stays: only page and table
+// begin anew.
+void InnerDocument::initAllGroups() {
+    auto format = std::make_unique<CRtfGrpDocumentFormat>(*this);
+    body_ = CRtfGrpBody<InnerRows>(Ref<InnerRows>(new InnerRows(*this)));
+    format_ = std::move(format);
+}
+
+void InnerDocument::releaseContents() noexcept {
+    body_.destroy();
+    format_.reset();
+    styleSheet_.reset();
+    contents_ = {};
+    names_ = {};
+    errors_.setObserver({});
+}
+
+std::int32_t InnerDocument::TextAreaWidth() const {
+    return difference(difference(format_->PaperWidth(), format_->RightMargin()),
+                      format_->LeftMargin());
+}
+
+std::string_view InnerDocument::GetParagraphStyle(std::string_view sName) const {
+    const std::string_view words = styleSheet_->GetParagraphStyle(sName);
+    return words.empty() ? std::string_view(" ") : words;
+}
+
+std::string_view InnerDocument::GetCharacterStyle(std::string_view sName) const {
+    return styleSheet_->GetCharacterStyle(sName);
+}
+
+std::int32_t InnerDocument::cellStyleColor(std::string_view sName) const {
+    return styleSheet_->getCellStyleBackColor(sName);
+}
+
+SharedText InnerDocument::sharedName(std::string_view sName) {
+    SharedText& kept = names_[std::hash<std::string_view>{}(sName) % names_.size()];
+    if (kept.view() != sName) {
+        kept = SharedText(sName);
+    }
+    return kept;
+}
+
+}  // namespace quorvane

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "quorvane/base/memory/SharedText.h"
+#include "quorvane/base/platform/Platform.h"
+#include "quorvane/docmodel/CRtfDoc.h"
+#include "quorvane/docmodel/InnerRows.h"
+#include "quorvane/docmodel/TableDocument.h"
+#include "quorvane/rtfgroups/CRtfGrpBody.h"
+#include "quorvane/rtfgroups/CRtfGrpColorTable.h"
+#include "quorvane/rtfgroups/CRtfGrpDocumentFormat.h"
+#include "quorvane/rtfgroups/CRtfGrpFontTable.h"
+#include "quorvane/rtfgroups/CRtfGrpHeader.h"
+#include "quorvane/stylesheet/CRtfGrpStyleSheetTable.h"
+#include "quorvane/support/GError.h"
+
+namespace quorvane {
+
+/// What a document is inside.
+class InnerDocument final : public CRtfDoc, public TableDocument {
+public:
+    explicit InnerDocument(Platform& platform);
+
+    void commit(const std::string& path);
+    void initAllGroups();
+    // Makes a stale text anew. A failure goes to the error module as one of this procedure; false
+    // then.
+    bool refresh(const char* procedure);
+
+    CRtfDoc* document() noexcept override { return this; }
+    void markChanged() noexcept override { changed_ = true; }
+    std::int32_t TextAreaWidth() const override;
+    std::string_view GetParagraphStyle(std::string_view sName) const override;
+    std::string_view GetCharacterStyle(std::string_view sName) const override;
+    std::int32_t cellStyleColor(std::string_view sName) const override;
+    SharedText sharedName(std::string_view sName) override;
+    GError& errors() noexcept override { return errors_; }
+
+private:
+    friend class CRtfDoc;
+
+    ~InnerDocument() override = default;
+
+    void render();
+    void releaseContents() noexcept override;
+
+    Files& files_;
+    GError errors_;
+    bool changed_ = false;
+    // The text with its outer braces.
+    std::string contents_ = "{}";
+    CRtfGrpHeader header_;
+    CRtfGrpFontTable fontTable_;
+    CRtfGrpColorTable colorTable_;
+    std::unique_ptr<CRtfGrpStyleSheetTable> styleSheet_;
+    std::unique_ptr<CRtfGrpDocumentFormat> format_;
+    CRtfGrpBody<InnerRows> body_;
+    // Names of styles set lately, at the place of their hash: equal ones share their characters.
+    std::array<SharedText, 16> names_;
+};
+
+inline InnerDocument& inner(CRtfDoc& document) noexcept {
+    return static_cast<InnerDocument&>(document);
+}
+inline const InnerDocument& inner(const CRtfDoc& document) noexcept {
+    return static_cast<const InnerDocument&>(document);
+}
+
+}  // namespace quorvane

@@ -1,0 +1,126 @@
+#include "quorvane/docmodel/InnerParagraph.h"
+
+#include <utility>
+
+#include "quorvane/docmodel/inlineStyles.h"
+#include "quorvane/rtfgroups/GTextMarkedFields.h"
+
+namespace quorvane {
+
+namespace {
+
+std::string_view alignmentWord(std::int32_t align) {
+    switch (align) {
+        case eCentered:
+            return R"(\qc )";
+        case eLeft:
+            return R"(\ql )";
+        case eRight:
+            return R"(\qr )";
+        case eJustified:
+            return R"(\qj )";
+        default:
+            return {};
+    }
+}
+
+}  // namespace
+
+void retain(CRtfParagraph* paragraph) noexcept {
+    InnerParagraph& self = inner(*paragraph);
+    if (!self.isHeldOutside()) {
+        retain(self.cell_);
+    }
+    ++self.references_;
+}
+
+void release(CRtfParagraph* paragraph) noexcept {
+    InnerParagraph& self = inner(*paragraph);
+    const bool wasHeldOutside = self.isHeldOutside();
+    --self.references_;
+    InnerCell* releasedCell = wasHeldOutside && !self.isHeldOutside() ? self.cell_ : nullptr;
+    if (self.references_ == 0) {
+        delete &self;
+    }
+    // Last, as it can be the end of the cell and of the paragraph with it.
+    if (releasedCell) {
+        release(releasedCell);
+    }
+}
+
+Ref<InnerParagraph> InnerParagraph::create(InnerCell& cell) {
+    void* memory = poolOf(cell).allocate(sizeof(InnerParagraph));
+    return Ref<InnerParagraph>(::new (memory) InnerParagraph(cell));
+}
+
+void InnerParagraph::operator delete(InnerParagraph* paragraph, std::destroying_delete_t) noexcept {
+    MemoryPool& pool = poolOf(*paragraph->cell_);
+    paragraph->text_.clear(pool);
+    paragraph->~InnerParagraph();
+    pool.deallocate(paragraph, sizeof(InnerParagraph));
+}
+
+void InnerParagraph::enterList() noexcept {
+    isListed_ = 1;
+    if (!isHeldOutside()) {
+        release(cell_);
+    }
+}
+
+void InnerParagraph::leaveList() noexcept {
+    if (!isHeldOutside()) {
+        retain(cell_);
+    }
+    isListed_ = 0;
+}
+
+void InnerParagraph::moveTo(InnerCell& cell) noexcept {
+    InnerCell* old = std::exchange(cell_, &cell);
+    if (isHeldOutside()) {
+        retain(cell_);
+        release(old);
+    }
+}
+
+void InnerParagraph::takeOver(const InnerParagraph& old) {
+    text_.assign(old.text_.view(), pool());
+    style_ = old.style_;
+}
+
+TableDocument* InnerParagraph::document() const noexcept {
+    return documentOf(*cell_);
+}
+
+MemoryPool& InnerParagraph::pool() const noexcept {
+    return poolOf(*cell_);
+}
+
+void InnerParagraph::render(TableRendering& rendering, std::size_t position) const {
+    TextOutput& out = rendering.out;
+    if (markedField_) {
+        GTextMarkedFields::writeFieldStart(*markedField_, out);
+    }
+    if (!text_.empty()) {
+        if (position >= 2) {
+            out << "\r\n\\par\\pard\\plain\\intbl";
+        } else {
+            out << "\r\n\\pard\\plain\\intbl";
+        }
+        out << rendering.paragraphStyle(style_);
+        if (foreColor_ != eNoColor) {
+            out << "\\cf" << foreColor_ << " ";
+        }
+        out << alignmentWord(align_);
+        const std::string_view text = text_.view();
+        if (text.find('<') == std::string_view::npos) {
+            out << text;
+        } else {
+            out << withCharacterStyles(rendering.document, text);
+        }
+    }
+    if (markedField_) {
+        GTextMarkedFields::writeFieldEnd(out);
+    }
+}
+
+}  // namespace quorvane

@@ -1,0 +1,45 @@
+#include "quorvane/docmodel/InnerParagraphs.h"
+
+#include <utility>
+
+namespace quorvane {
+
+void InnerParagraphs::insertNew(const List::Place& place, TableDocument&) {
+    const Ref<InnerParagraph> fresh = InnerParagraph::create(cell_);
+    list_.insert(place, fresh);
+    fresh->enterList();
+}
+
+void InnerParagraphs::removeAt(std::size_t position) noexcept {
+    list_.at(position).leaveList();
+    list_.removeAt(position);
+}
+
+void InnerParagraphs::takeFrom(InnerParagraphs& other) {
+    list_ = std::move(other.list_);
+    for (InnerParagraph* paragraph : list_) {
+        paragraph->moveTo(cell_);
+    }
+}
+
+void InnerParagraphs::setForeColors(tColorIndex color) noexcept {
+    for (InnerParagraph* paragraph : list_) {
+        paragraph->fillForeColor(color);
+    }
+}
+
+void InnerParagraphs::setAligns(tCellAlign align) noexcept {
+    for (InnerParagraph* paragraph : list_) {
+        paragraph->fillAlign(align);
+    }
+}
+
+void InnerParagraphs::render(TableRendering& rendering) const {
+    std::size_t position = 0;
+    for (const InnerParagraph* paragraph : list_) {
+        rendering.out << "\r\n";
+        paragraph->render(rendering, ++position);
+    }
+}
+
+}  // namespace quorvane

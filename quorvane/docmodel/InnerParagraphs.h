@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstddef>
+
+#include "quorvane/base/collections/KeyedList.h"
+#include "quorvane/docmodel/CRtfParagraphs.h"
+#include "quorvane/docmodel/InnerParagraph.h"
+
+namespace quorvane {
+
+/// What the paragraphs of a cell are inside.
+class InnerParagraphs final : public CRtfParagraphs {
+public:
+    using List = KeyedList<InnerParagraph>;
+
+    explicit InnerParagraphs(InnerCell& cell) : cell_(cell) {}
+
+    InnerCell& cell() const noexcept { return cell_; }
+    const List& list() const noexcept { return list_; }
+    TableDocument* document() const noexcept { return documentOf(cell_); }
+    void insertNew(const List::Place& place, TableDocument& document);
+    void removeAt(std::size_t position) noexcept;
+    void takeFrom(InnerParagraphs& other);
+    void setForeColors(tColorIndex color) noexcept;
+    void setAligns(tCellAlign align) noexcept;
+    void render(TableRendering& rendering) const;
+
+private:
+    friend class CRtfParagraphs;
+
+    List list_;
+    InnerCell& cell_;
+};
+
+inline InnerParagraphs& inner(CRtfParagraphs& paragraphs) noexcept {
+    return static_cast<InnerParagraphs&>(paragraphs);
+}
+inline const InnerParagraphs& inner(const CRtfParagraphs& paragraphs) noexcept {
+    return static_cast<const InnerParagraphs&>(paragraphs);
+}
+
+}  // namespace quorvane

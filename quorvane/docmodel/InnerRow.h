@@ -1,0 +1,60 @@
+#pragma once
+
+#include <cstdint>
+#include <new>
+
+#include "quorvane/base/collections/KeyedList.h"
+#include "quorvane/base/memory/Counted.h"
+#include "quorvane/base/memory/Ref.h"
+#include "quorvane/base/memory/WeakRef.h"
+#include "quorvane/docmodel/Borders.h"
+#include "quorvane/docmodel/CRtfTableRow.h"
+#include "quorvane/docmodel/InnerCells.h"
+#include "quorvane/docmodel/TableDocument.h"
+#include "quorvane/docmodel/innerReferences.h"
+
+namespace quorvane {
+
+/// What a row is inside.
+class InnerRow final : public CRtfTableRow, public KeyedListElement {
+public:
+    static Ref<InnerRow> create(const WeakRef<TableDocument>& document);
+
+    InnerCells& cells() noexcept { return cells_; }
+    void takeOver(InnerRow& old);
+    void render(TableRendering& rendering);
+
+private:
+    friend class CRtfTableRow;
+    friend class CountedOwner;
+    friend void retain(CRtfTableRow* row) noexcept;
+    friend void release(CRtfTableRow* row) noexcept;
+    friend void retainWeak(InnerRow* row) noexcept;
+    friend void releaseWeak(InnerRow* row) noexcept;
+    friend bool isAlive(const InnerRow* row) noexcept;
+    friend TableDocument* documentOf(const InnerRow& row) noexcept;
+    friend MemoryPool& poolOf(const InnerRow& row) noexcept;
+
+    explicit InnerRow(const WeakRef<TableDocument>& document) : parent_(document) {}
+    ~InnerRow() = default;
+
+    static void operator delete(InnerRow* row, std::destroying_delete_t) noexcept;
+
+    void releaseContents() noexcept;
+    void setBorder(BorderSide side, tBorderWidth width);
+
+    CountedOwner counts_;
+    WeakRef<TableDocument> parent_;
+    Borders borders_;
+    std::int32_t backColor_ = eNoColor;
+    InnerCells cells_{*this};
+};
+
+inline InnerRow& inner(CRtfTableRow& row) noexcept {
+    return static_cast<InnerRow&>(row);
+}
+inline const InnerRow& inner(const CRtfTableRow& row) noexcept {
+    return static_cast<const InnerRow&>(row);
+}
+
+}  // namespace quorvane
