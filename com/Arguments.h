@@ -50,7 +50,7 @@ private:
 };
 
 // One parameter of a member for the time of a call: where its argument comes from, and where its
-// answer goes.
+// result goes.
 
 /// An argument that is converted to its type when it has another one.
 template <VARTYPE type>
@@ -68,7 +68,7 @@ public:
     HRESULT read(const Arguments& arguments, UINT position) noexcept {
         return arguments.read(position, type, room_, value_);
     }
-    void answer(VARIANT*) noexcept {}
+    void writeResult(VARIANT*) noexcept {}
 
 protected:
     const VARIANT* value_ = nullptr;
@@ -109,7 +109,7 @@ public:
         return value_ ? S_OK : DISP_E_PARAMNOTOPTIONAL;
     }
     VARIANT pass() const noexcept { return *value_; }
-    void answer(VARIANT*) noexcept {}
+    void writeResult(VARIANT*) noexcept {}
 
 private:
     VARIANT* value_ = nullptr;
@@ -128,13 +128,13 @@ public:
         return S_OK;
     }
     VARIANT* pass() const noexcept { return value_; }
-    void answer(VARIANT*) noexcept {}
+    void writeResult(VARIANT*) noexcept {}
 
 private:
     VARIANT* value_ = nullptr;
 };
 
-/// The answer of a member.
+/// The result of a member.
 template <bool isObject = false>
 class AnswerParameter {
 public:
@@ -145,12 +145,12 @@ public:
     HRESULT read(const Arguments&, UINT) noexcept { return S_OK; }
 };
 
-/// Answers a 32-bit number, or a value of an enumeration.
+/// Returns a 32-bit number, or a value of an enumeration.
 template <class T>
 class Parameter<T*> : public AnswerParameter<> {
 public:
     T* pass() noexcept { return &value_; }
-    void answer(VARIANT* result) const noexcept {
+    void writeResult(VARIANT* result) const noexcept {
         if (result) {
             V_VT(result) = VT_I4;
             V_I4(result) = static_cast<LONG>(value_);
@@ -165,7 +165,7 @@ template <>
 class Parameter<VARIANT_BOOL*> : public AnswerParameter<> {
 public:
     VARIANT_BOOL* pass() noexcept { return &value_; }
-    void answer(VARIANT* result) const noexcept {
+    void writeResult(VARIANT* result) const noexcept {
         if (result) {
             V_VT(result) = VT_BOOL;
             V_BOOL(result) = value_;
@@ -180,7 +180,7 @@ template <>
 class Parameter<BSTR*> : public AnswerParameter<> {
 public:
     BSTR* pass() noexcept { return &text_; }
-    void answer(VARIANT* result) const noexcept {
+    void writeResult(VARIANT* result) const noexcept {
         if (result) {
             V_VT(result) = VT_BSTR;
             V_BSTR(result) = text_;
@@ -193,12 +193,12 @@ private:
     BSTR text_ = nullptr;
 };
 
-/// Answers an object, or null.
+/// Returns an object, or null.
 template <class Interface>
 class Parameter<Interface**> : public AnswerParameter<std::is_base_of_v<IDispatch, Interface>> {
 public:
     Interface** pass() noexcept { return &object_; }
-    void answer(VARIANT* result) const noexcept {
+    void writeResult(VARIANT* result) const noexcept {
         if (!result) {
             if (object_) {
                 object_->Release();

@@ -14,9 +14,9 @@ namespace {
 
 /// The connection point, for the enumerator.
 struct EnumeratedPoint {
-    using Answer = IConnectionPoint*;
+    using HostValue = IConnectionPoint*;
 
-    void answer(IConnectionPoint*& value) const noexcept { value = ComPtr(point).detach(); }
+    void write(IConnectionPoint*& value) const noexcept { value = ComPtr(point).detach(); }
     static void clear(IConnectionPoint*& value) noexcept { value->Release(); }
 
     ComPtr<IConnectionPoint> point;

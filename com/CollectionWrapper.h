@@ -18,9 +18,9 @@ namespace quorvane::com {
 /// An element of a collection, for its enumerator.
 template <class Element>
 struct EnumeratedElement {
-    using Answer = VARIANT;
+    using HostValue = VARIANT;
 
-    void answer(VARIANT& value) const {
+    void write(VARIANT& value) const {
         auto* object = wrap(element);
         V_VT(&value) = VT_DISPATCH;
         V_DISPATCH(&value) = object;

@@ -18,13 +18,13 @@ namespace quorvane::com {
 /// An enumerator over items that were gathered when it was made: whatever happens to the collection
 /// meanwhile, it goes through what was there then.
 ///
-/// `Interface` is the kind of enumerator. `Item` says how an item is answered: `answer` writes it
-/// as a value of the type `Answer`, and may throw; `clear` takes such a value back.
+/// `Interface` is the kind of enumerator. `Item` says how an item is passed on: `write` writes it
+/// as a value of the type `HostValue`, and may throw; `clear` takes such a value back.
 template <class Interface, class Item>
 class Enumerator final : public Interface {
 public:
     using Items = std::shared_ptr<const std::vector<Item>>;
-    using Answer = typename Item::Answer;
+    using HostValue = typename Item::HostValue;
 
     explicit Enumerator(std::vector<Item> items)
         : items_(std::make_shared<const std::vector<Item>>(std::move(items))) {}
@@ -55,23 +55,23 @@ public:
         return static_cast<ULONG>(left);
     }
 
-    STDMETHODIMP Next(ULONG wanted, Answer* answers, ULONG* fetched) override {
+    STDMETHODIMP Next(ULONG wanted, HostValue* elements, ULONG* fetched) override {
         if (fetched) {
             *fetched = 0;
         }
-        if (!answers || (!fetched && wanted != 1)) {
+        if (!elements || (!fetched && wanted != 1)) {
             return plainFailure(E_POINTER);
         }
         const ULONG count = wanted < left() ? wanted : left();
         ULONG done = 0;
         const HRESULT result = toHresult(__uuidof(Interface), [&] {
             for (; done < count; ++done) {
-                (*items_)[next_ + done].answer(answers[done]);
+                (*items_)[next_ + done].write(elements[done]);
             }
         });
         if (FAILED(result)) {
             while (done > 0) {
-                Item::clear(answers[--done]);
+                Item::clear(elements[--done]);
             }
             return result;
         }

@@ -15,9 +15,9 @@ constexpr DISPID notifyErrorId = 1;
 
 /// A connection, for the enumerator.
 struct EnumeratedConnection {
-    using Answer = CONNECTDATA;
+    using HostValue = CONNECTDATA;
 
-    void answer(CONNECTDATA& value) const noexcept {
+    void write(CONNECTDATA& value) const noexcept {
         value.pUnk = ComPtr<IUnknown>(sink.get()).detach();
         value.dwCookie = cookie;
     }
@@ -32,7 +32,7 @@ void raiseIn(IDispatch& sink, IDispatch& sender) {
     V_VT(&argument) = VT_DISPATCH;
     V_DISPATCH(&argument) = &sender;
     DISPPARAMS arguments{&argument, nullptr, 1, 0};
-    // What the sink answers does not matter.
+    // What the sink returns does not matter.
     sink.Invoke(notifyErrorId, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &arguments, nullptr,
                 nullptr, nullptr);
 }

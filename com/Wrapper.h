@@ -24,32 +24,32 @@
 
 namespace quorvane::com {
 
-// What the library answers, as the host gets it.
+// What the library returns, as the host gets it.
 
-inline void give(BSTR* answer, std::string_view text) {
-    *answer = newBstr(text);
+inline void give(BSTR* result, std::string_view text) {
+    *result = newBstr(text);
 }
-inline void give(VARIANT_BOOL* answer, bool value) {
-    *answer = value ? VARIANT_TRUE : VARIANT_FALSE;
+inline void give(VARIANT_BOOL* result, bool value) {
+    *result = value ? VARIANT_TRUE : VARIANT_FALSE;
 }
-inline void give(LONG* answer, std::int32_t number) {
-    *answer = number;
+inline void give(LONG* result, std::int32_t number) {
+    *result = number;
 }
 template <class HostEnumeration, class Enumeration>
 requires std::is_enum_v<HostEnumeration>
-void give(HostEnumeration* answer, Enumeration value) {
-    *answer = static_cast<HostEnumeration>(static_cast<std::int32_t>(value));
+void give(HostEnumeration* result, Enumeration value) {
+    *result = static_cast<HostEnumeration>(static_cast<std::int32_t>(value));
 }
 template <class Interface, class Native>
-void give(Interface** answer, Ref<Native> object) {
-    *answer = wrap(std::move(object));
+void give(Interface** result, Ref<Native> object) {
+    *result = wrap(std::move(object));
 }
 
 /// A COM object that stands for an object of the library: what all of them have in common.
 ///
 /// `Self` is the class itself. It provides `classId`, the identifier of its class, and `members()`,
 /// the members of its interface for late-bound calls; by `extraInterface` and `eventInterface` it
-/// can tell of more.
+/// can say more.
 template <class Self, class HostInterface, class NativeObject>
 class Wrapper : public HostInterface, public ISupportErrorInfo, public IProvideClassInfo2 {
 public:
@@ -158,34 +158,34 @@ protected:
     /// The interface of the class's events; null when it has none.
     const GUID* eventInterface() const noexcept { return nullptr; }
 
-    /// A method that answers nothing.
+    /// A method that returns nothing.
     template <Source source = Source::Added, class Body>
     HRESULT run(Body&& body) const noexcept {
         return toHresult<source>(__uuidof(Interface), std::forward<Body>(body));
     }
 
-    /// A method that answers what its body does.
-    template <class Answer, class Body>
-    HRESULT get(Answer* answer, Body&& body) const noexcept {
-        if (!answer) {
+    /// A method that returns what its body does.
+    template <class Result, class Body>
+    HRESULT get(Result* result, Body&& body) const noexcept {
+        if (!result) {
             return plainFailure(E_POINTER);
         }
-        *answer = Answer{};
-        return run([&] { give(answer, std::forward<Body>(body)()); });
+        *result = Result{};
+        return run([&] { give(result, std::forward<Body>(body)()); });
     }
 
     /// A property that is stored as a number, a flag or a name of an enumeration, and takes no
     /// arithmetic to read. Reading the processor's floating-point settings would take several times
     /// as long as reading the property.
-    template <class Answer, class Body>
-    HRESULT getStored(Answer* answer, Body&& body) const noexcept {
-        static_assert(std::is_integral_v<Answer> || std::is_enum_v<Answer>);
-        if (!answer) {
+    template <class Result, class Body>
+    HRESULT getStored(Result* result, Body&& body) const noexcept {
+        static_assert(std::is_integral_v<Result> || std::is_enum_v<Result>);
+        if (!result) {
             return plainFailure(E_POINTER);
         }
-        *answer = Answer{};
+        *result = Result{};
         return toHresultAsIs(__uuidof(Interface),
-                             [&] { give(answer, std::forward<Body>(body)()); });
+                             [&] { give(result, std::forward<Body>(body)()); });
     }
 
 private:

@@ -29,13 +29,13 @@ HRESULT exceptionOf(HRESULT failure, EXCEPINFO* exception) noexcept {
 HRESULT invokeDefault(const Member& property, IDispatch* object, const LateCall& call) noexcept {
     DISPPARAMS none{};
     Arguments arguments(none, call.locale, nullptr, 0, false);
-    VARIANT answer;
-    VariantInit(&answer);
-    const HRESULT result = property.call(object, arguments, &answer);
+    VARIANT value;
+    VariantInit(&value);
+    const HRESULT result = property.call(object, arguments, &value);
     if (FAILED(result)) {
         return exceptionOf(result, call.exception);
     }
-    const auto owner = ComPtr<IDispatch>::adopt(V_DISPATCH(&answer));
+    const auto owner = ComPtr<IDispatch>::adopt(V_DISPATCH(&value));
     if (!owner) {
         return DISP_E_BADPARAMCOUNT;
     }

@@ -9,7 +9,7 @@ enum class RegisteredFor { Machine, User };
 
 /// Registers classes, type library and interfaces in the machine's or in the user's part of the
 /// registry, and leaves the other part alone. What was there before is replaced; when it fails,
-/// nothing is left behind. Without the right to write there it changes nothing and returns
+/// nothing is left. Without the right to write there it changes nothing and returns
 /// E_ACCESSDENIED.
 HRESULT registerServer(RegisteredFor whom) noexcept;
 

@@ -16,7 +16,7 @@ namespace {
 /// A document as scripts see it: all calls by name.
 class Dispatch : public testing::Test {
 protected:
-    /// The keys of the rows, which the borders tell: row n was given the top border n.
+    /// The keys of the rows, which the borders show: row n was given the top border n.
     std::vector<long> order() const {
         std::vector<long> borders;
         const long count = rows_.get("Count").value.number();

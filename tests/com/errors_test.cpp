@@ -161,18 +161,18 @@ TEST_F(Errors, AreToldByEveryClassOfObjects) {
     cell->get_Paragraphs(paragraphs.out());
     paragraphs->AddTail(nullptr);
     paragraphs->PeekTail(paragraph.out());
-    const auto tells = [](IUnknown* object, REFIID interfaceId) {
+    const auto supports = [](IUnknown* object, REFIID interfaceId) {
         const auto support = ComPtr<IUnknown>(object).as<ISupportErrorInfo>();
         return support && support->InterfaceSupportsErrorInfo(interfaceId) == S_OK;
     };
 
-    EXPECT_TRUE(tells(rows().get(), __uuidof(_CRtfTableRows)));
-    EXPECT_TRUE(tells(row.get(), __uuidof(_CRtfTableRow)));
-    EXPECT_TRUE(tells(cells.get(), __uuidof(_CRtfTableCells)));
-    EXPECT_TRUE(tells(cell.get(), __uuidof(_CRtfTableCell)));
-    EXPECT_TRUE(tells(paragraphs.get(), __uuidof(_CRtfParagraphs)));
-    EXPECT_TRUE(tells(paragraph.get(), __uuidof(_CRtfParagraph)));
-    EXPECT_TRUE(tells(driver_.get(), __uuidof(_CRtfDriver)));
+    EXPECT_TRUE(supports(rows().get(), __uuidof(_CRtfTableRows)));
+    EXPECT_TRUE(supports(row.get(), __uuidof(_CRtfTableRow)));
+    EXPECT_TRUE(supports(cells.get(), __uuidof(_CRtfTableCells)));
+    EXPECT_TRUE(supports(cell.get(), __uuidof(_CRtfTableCell)));
+    EXPECT_TRUE(supports(paragraphs.get(), __uuidof(_CRtfParagraphs)));
+    EXPECT_TRUE(supports(paragraph.get(), __uuidof(_CRtfParagraph)));
+    EXPECT_TRUE(supports(driver_.get(), __uuidof(_CRtfDriver)));
 }
 
 TEST_F(Errors, LeaveTheObjectsUsable) {

@@ -1,6 +1,6 @@
 // Every call of Windows that the library and the command make for a file fails once, and then for
 // good: a document is whole or absent, an older one stays for as long as it can, what failed is
-// told, and all works again afterwards. Only what cannot be removed any more, since the disk is
+// reported, and all works again afterwards. Only what cannot be removed any more, since the disk is
 // gone for good, may stay in part.
 
 #include <gmock/gmock.h>
@@ -141,27 +141,27 @@ TEST_F(FailingFiles, LeaveAStyleSheetLoadedOrEmpty) {
     EXPECT_GE(runs, 20);
 }
 
-/// Commits of a document, and what they tell.
+/// Commits of a document, and what they report.
 class FailingCommitsOfFiles : public FailingFiles {
 protected:
     void commit() {
-        told = 0;
-        document->setAbsorbedErrorObserver([this](const AbsorbedError&) { ++told; });
+        reported = 0;
+        document->setAbsorbedErrorObserver([this](const AbsorbedError&) { ++reported; });
         try {
             document->Commit(pathOf("a.rtf"));
         } catch (const RtfError&) {
-            ++told;
+            ++reported;
         }
     }
 
     Ref<CRtfDoc> document = filledDocument();
-    int told = 0;
+    int reported = 0;
 };
 
 TEST_F(FailingCommitsOfFiles, LeaveANewDocumentWholeOrAbsent) {
     failEachCall([&] { files::remove(folder / "a.rtf"); }, [&] { commit(); },
                  [&](const auto&, const Failure& failure) {
-                     if (told == 0) {
+                     if (reported == 0) {
                          EXPECT_TRUE(bytesOf("a.rtf") == whole);
                      } else if (!failure.isForGood) {
                          EXPECT_TRUE(bytesOf("a.rtf") == std::nullopt);
@@ -173,14 +173,14 @@ TEST_F(FailingCommitsOfFiles, LeaveANewDocumentWholeOrAbsent) {
 }
 
 TEST_F(FailingCommitsOfFiles, KeepTheOlderDocumentUntilItIsRemoved) {
-    // Longer than the new one: none of it may stay behind that.
+    // Longer than the new one: none of it may remain after that.
     const std::string older(whole.size() + 100, 'o');
     failEachCall([&] { write("a.rtf", older); }, [&] { commit(); },
                  [&](const std::vector<std::string>& calls, const Failure& failure) {
                      const auto bytes = bytesOf("a.rtf");
                      const bool wasRemoved = std::find(calls.begin(), calls.end() - 1,
                                                        "DeleteFileW") != calls.end() - 1;
-                     if (told == 0) {
+                     if (reported == 0) {
                          EXPECT_TRUE(bytes == whole);
                      } else if (!wasRemoved) {
                          EXPECT_TRUE(bytes == older);
@@ -202,8 +202,8 @@ protected:
     }
 
     auto teller() {
-        told.clear();
-        return [this](const cli::ReportedError& diagnostic) { told.push_back(diagnostic); };
+        reported.clear();
+        return [this](const cli::ReportedError& diagnostic) { reported.push_back(diagnostic); };
     }
 
     void render() { status = cli::RenderJob(options, {teller()}).run(); }
@@ -221,11 +221,11 @@ protected:
                               const std::optional<std::string>& undone, const char* name,
                               const Failure& failure) {
         if (status == cli::ExitStatus::Success) {
-            EXPECT_THAT(told, IsEmpty());
+            EXPECT_THAT(reported, IsEmpty());
             EXPECT_TRUE(bytesOf(name) == done);
         } else {
             EXPECT_EQ(status, cli::ExitStatus::Failure);
-            EXPECT_THAT(told, SizeIs(1));
+            EXPECT_THAT(reported, SizeIs(1));
             EXPECT_TRUE(bytesOf(name) == undone);
         }
         for (const files::path& file : files::directory_iterator(folder)) {
@@ -238,7 +238,7 @@ protected:
     }
 
     cli::RenderOptions options;
-    std::vector<cli::ReportedError> told;
+    std::vector<cli::ReportedError> reported;
     cli::ExitStatus status = cli::ExitStatus::Success;
 };
 

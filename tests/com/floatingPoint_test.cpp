@@ -52,10 +52,10 @@ private:
 const double notANumber = std::numeric_limits<double>::quiet_NaN();
 const double infinity = std::numeric_limits<double>::infinity();
 
-/// What a host does with numbers that lead to exceptions where those are not masked; the answers.
+/// What a host does with numbers that lead to exceptions where those are not masked; the results.
 class FloatingPoint : public testing::Test {
 protected:
-    using Answers = std::vector<HRESULT>;
+    using Results = std::vector<HRESULT>;
 
     void SetUp() override {
         rows_.call("AddTail", {"row"});
@@ -67,15 +67,15 @@ protected:
     }
 
     /// Every member that takes a number of any kind, with this one.
-    Answers callAll(const Variant& number) const {
+    Results callAll(const Variant& number) const {
         const Variant text("1e999");
         const LateBound row = rows_.object("Item", {"row"});
         const LateBound cells = row.object("TableCells");
         const LateBound paragraphs = cell_.object("Paragraphs");
         const LateBound paragraph = paragraphs.object("Item", {1});
-        Answers answers;
-        const auto note = [&answers](const Outcome& outcome) {
-            answers.push_back(outcome.error.number);
+        Results results;
+        const auto note = [&results](const Outcome& outcome) {
+            results.push_back(outcome.error.number);
         };
         for (const LateBound& collection : {rows_, cells, paragraphs}) {
             note(collection.get("Item", {number}));
@@ -104,11 +104,11 @@ protected:
         note(cell_.set("Width", {0, number}));
         note(cell_.set("Width", {number, 5}));
         note(cell_.get("Width", {number}));
-        return answers;
+        return results;
     }
 
     /// The same early bound, where a number of any kind can be given.
-    Answers callEarlyBound(const Variant& number) const {
+    Results callEarlyBound(const Variant& number) const {
         const auto rows = ComPtr<IDispatch>(rows_.get()).as<_CRtfTableRows>();
         ComPtr<_CRtfTableRow> row;
         Variant variable(number);
@@ -131,19 +131,19 @@ TEST_F(FloatingPoint, MayTrapWhateverNumberIsGiven) {
           Variant::ofType(VT_R4, 0x7FC00000), Variant::ofType(VT_R4, 0x7F800000),
           Variant::ofType(VT_R4, 0x7F800001), Variant::ofType(VT_R8, 0x7FF0000000000001),
           Variant::ofType(VT_DATE, 0x7FF8000000000000)}) {
-        const Answers expected = callAll(number);
-        const Answers expectedEarly = callEarlyBound(number);
-        Answers answers;
-        Answers early;
+        const Results expected = callAll(number);
+        const Results expectedEarly = callEarlyBound(number);
+        Results results;
+        Results early;
         bool isSet = false;
         {
             const TrappingArithmetic trapping;
-            answers = callAll(number);
+            results = callAll(number);
             early = callEarlyBound(number);
             isSet = TrappingArithmetic::isSet();
         }
 
-        EXPECT_EQ(answers, expected) << describe(number.get());
+        EXPECT_EQ(results, expected) << describe(number.get());
         EXPECT_EQ(early, expectedEarly) << describe(number.get());
         EXPECT_TRUE(isSet) << describe(number.get());
     }
@@ -186,13 +186,13 @@ TEST_F(FloatingPoint, IsLeftAloneByPropertiesThatAreStored) {
 }
 
 TEST_F(FloatingPoint, OfItemWithoutANumberIsAnInvalidArgument) {
-    HRESULT answer = S_OK;
+    HRESULT result = S_OK;
     {
         const TrappingArithmetic trapping;
-        answer = rows_.get("Item", {notANumber}).error.number;
+        result = rows_.get("Item", {notANumber}).error.number;
     }
 
-    EXPECT_EQ(answer, runTimeError(5));
+    EXPECT_EQ(result, runTimeError(5));
 }
 
 TEST_F(FloatingPoint, MayRoundInAnotherWay) {

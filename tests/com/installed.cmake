@@ -46,7 +46,7 @@ endfunction()
 require("the type library is not installed" EXISTS "${bin}/quorvane.tlb")
 require("the license is not installed" EXISTS "${PREFIX}/share/doc/quorvane/LICENSE")
 run(${bin}/quorvane.exe --version)
-require("the command does not tell its version" output MATCHES "^quorvane [0-9]")
+require("the command does not print its version" output MATCHES "^quorvane [0-9]")
 
 build(invoice "${SOURCES}/examples/component/invoice.cpp")
 run(${bin}/invoice.exe invoice.rtf)
@@ -73,7 +73,7 @@ documented("${bin}/errors.cpp" cpp)
 build(errors "${bin}/errors.cpp")
 file(WRITE "${bin}/bad.rtfspec" "(doc\n(r\n(c\n(cb=Crimson)\nc)\nr)\ndoc)")
 run(${bin}/errors.exe bad.rtfspec)
-require("the documented program does not tell the error"
+require("the documented program does not print the error"
     output MATCHES "80040008 Crimson isn't a recognized color")
 
 documented("${bin}/hello.vbs" vb)

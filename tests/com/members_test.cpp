@@ -48,7 +48,7 @@ std::string describe(const Operation& operation) {
 /// The same operations on the library's classes and on the component, early and late bound.
 class Members : public testing::Test {
 protected:
-    /// Performs an operation on all three; their answers must agree. Answers the library's.
+    /// Performs an operation on all three; their results must agree. Returns the library's.
     std::string perform(int object, const std::string& member, const Arguments& arguments = {}) {
         const std::string expected = native_->perform(object, member, arguments);
         const std::string where = describe({object, member, arguments});

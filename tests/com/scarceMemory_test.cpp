@@ -19,7 +19,7 @@
 namespace quorvane::host {
 namespace {
 
-/// What a host does; answers the first failure of the component.
+/// What a host does; returns the first failure of the component.
 using Work = std::function<HRESULT(const Component&)>;
 
 /// Goes from call to call as long as they succeed.
@@ -119,7 +119,7 @@ Work buildingByHand(std::string& read) {
         // A border of usual width needs no memory of its own.
         const ::tBorderWidth wide = borderOf(20000);
         Variant key("key");
-        Bstr answer;
+        Bstr value;
         ::tColorIndex color = eNoColor;
         ComPtr<_CRtfDoc> doc;
         ComPtr<_CRtfTableRows> rows;
@@ -132,13 +132,12 @@ Work buildingByHand(std::string& read) {
         read.clear();
         const auto reading = [&](auto&& call) {
             calls(call);
-            read += answer.utf8() + "\n";
+            read += value.utf8() + "\n";
         };
         calls([&] { return create(component, __uuidof(::CRtfDoc), doc); });
         calls([&] { return doc->put_StyleSheetFile(styleSheet->path()); });
-        calls([&] { return doc->get_StyleSheetFile(answer.out()); });
-        read +=
-            textOf(answer.get()) == textOf(styleSheet->path()) ? "its name\n" : "another name\n";
+        calls([&] { return doc->get_StyleSheetFile(value.out()); });
+        read += textOf(value.get()) == textOf(styleSheet->path()) ? "its name\n" : "another name\n";
         calls([&] { return doc->LoadStyleSheetFromMemmory(styleText.get()); });
         calls([&] { return doc->getCellStyleBackColor(cellStyle.get(), &color); });
         read += std::to_string(color) + "\n";
@@ -154,14 +153,14 @@ Work buildingByHand(std::string& read) {
         calls([&] { return cell->put_TopBorder(wide); });
         calls([&] { return cell->put_Width(eTwips, 3000); });
         calls([&] { return cell->put_Style(cellStyle.get()); });
-        reading([&] { return cell->get_Style(answer.out()); });
+        reading([&] { return cell->get_Style(value.out()); });
         calls([&] { return cell->asMarkedField(key.get()); });
         calls([&] { return cell->get_Paragraphs(paragraphs.out()); });
         fillCollection(calls, paragraphs, key, paragraph);
         calls([&] { return paragraph->put_Text(paragraphText.get()); });
-        reading([&] { return paragraph->get_Text(answer.out()); });
+        reading([&] { return paragraph->get_Text(value.out()); });
         calls([&] { return paragraph->put_Style(paragraphStyle.get()); });
-        reading([&] { return paragraph->get_Style(answer.out()); });
+        reading([&] { return paragraph->get_Style(value.out()); });
         calls([&] { return paragraph->asMarkedField(key.get()); });
         // What nobody holds any more is wrapped anew.
         cell.reset();
@@ -172,10 +171,10 @@ Work buildingByHand(std::string& read) {
         calls([&] { return doc->get_TableRows(rows.out()); });
         calls([&] { return doc->Commit(document.path()); });
         read += document.bytes() + "\n";
-        reading([&] { return doc->get_Contents(answer.out()); });
+        reading([&] { return doc->get_Contents(value.out()); });
         calls([&] { return doc->Refresh(); });
         calls([&] { return doc->ClearStructure(); });
-        reading([&] { return doc->get_Contents(answer.out()); });
+        reading([&] { return doc->get_Contents(value.out()); });
         return calls.result();
     };
 }
@@ -211,7 +210,7 @@ Work driving(std::string& read, int& events) {
         const WrittenFile committed(L"scarce.rtf", "");
         const Bstr description(lines);
         const Bstr styleText((std::string(styles)));
-        Bstr answer;
+        Bstr value;
         ComPtr<_CRtfDriver> driver;
         ComPtr<IConnectionPoint> point;
         ComPtr<IEnumConnections> connections;
@@ -223,7 +222,7 @@ Work driving(std::string& read, int& events) {
         read.clear();
         const auto reading = [&](auto&& call) {
             calls(call);
-            read += answer.utf8() + "\n";
+            read += value.utf8() + "\n";
         };
         calls([&] { return create(component, __uuidof(::CRtfDriver), driver); });
         calls([&] {
@@ -237,17 +236,16 @@ Work driving(std::string& read, int& events) {
         calls([&] { return point->EnumConnections(connections.out()); });
         calls([&] { return driver->put_ErroneousInput(VARIANT_TRUE); });
         calls([&] { return driver->put_StyleSheetFile(styleSheet->path()); });
-        calls([&] { return driver->get_StyleSheetFile(answer.out()); });
-        read +=
-            textOf(answer.get()) == textOf(styleSheet->path()) ? "its name\n" : "another name\n";
+        calls([&] { return driver->get_StyleSheetFile(value.out()); });
+        read += textOf(value.get()) == textOf(styleSheet->path()) ? "its name\n" : "another name\n";
         calls([&] { return driver->ParseFile(file->path()); });
-        reading([&] { return driver->get_Contents(answer.out()); });
+        reading([&] { return driver->get_Contents(value.out()); });
         calls([&] { return driver->LoadStyleSheetFromMemmory(styleText.get()); });
         calls([&] { return driver->ParseFromMemmory(description.get()); });
         calls([&] { return driver->Commit(committed.path()); });
         read += committed.bytes() + "\n";
         calls([&] { return driver->get_RtfObject(document.out()); });
-        reading([&] { return document->get_Contents(answer.out()); });
+        reading([&] { return document->get_Contents(value.out()); });
         calls([&] { return cookie != 0 ? point->Unadvise(cookie) : S_OK; });
         return calls.result();
     };

@@ -27,7 +27,7 @@ std::string programPath() {
     return utf8Text(path);
 }
 
-/// Waits for a dialogue of that title, tells its text and its buttons, and answers it with OK.
+/// Waits for a dialogue of that title, returns its text and its buttons, and closes it with OK.
 class DialogueWatcher {
 public:
     explicit DialogueWatcher(const wchar_t* title) : thread_([this, title] { watch(title); }) {}
@@ -112,7 +112,7 @@ TEST(ErrorsOfTheLibrary, ShowNothingElse) {
     EXPECT_EQ(FindWindowW(L"#32770", nullptr), nullptr);
 }
 
-/// The error collection is registered, and writes what it is told into a file.
+/// The error collection is registered, and writes what it receives into a file.
 class ErrorCollectionTest : public testing::Test {
 protected:
     void SetUp() override {

@@ -20,9 +20,9 @@ using testing::StartsWith;
 struct Example {
     std::string name;
     std::wstring program;
-    /// What is told of the errors of a description.
+    /// What is reported about the errors of a description.
     std::string events;
-    /// What is told of the errors `eWrongPath` and 75 before their descriptions.
+    /// What is reported about the errors `eWrongPath` and 75 before their descriptions.
     std::string wrongPath;
     std::string accessError;
 };
@@ -49,7 +49,7 @@ std::wstring builtProgram(const std::string& file) {
     return inQuotes(windowsPath(QUORVANE_BUILT_EXAMPLES "/" + file));
 }
 
-// Wine's script host does not connect events. JScript does not tell the source of an error.
+// Wine's script host does not connect events. JScript does not show the source of an error.
 const Example examples[] = {
     {"VBScript", script("invoice.vbs"), "This script host does not connect events.\n",
      "error 0x80040003 (Error: eWrongPath, CRtfDriver.ParseFile): ", "error 0x800A004B (): "},

@@ -37,7 +37,7 @@ ComFace::ComFace() {
     const auto driver = component_.create<_CRtfDriver>(__uuidof(::CRtfDriver));
     renderObject(driver);
     events_ = EventConnection(driver.get(), [this](const std::wstring&, DISPPARAMS&) {
-        // Only here an error object tells its number, as its help context.
+        // Only here an error object has its number, as its help context.
         HostError error = takeErrorObject(S_OK);
         error.number = static_cast<HRESULT>(error.helpContext);
         addEvent(textOf(error));
@@ -62,7 +62,7 @@ std::string ComFace::renderEnumerator(const ComPtr<IUnknown>& enumerator) {
     return text;
 }
 
-std::string ComFace::answer(int object, const std::string& member, const Arguments& arguments) {
+std::string ComFace::resultOf(int object, const std::string& member, const Arguments& arguments) {
     return answerOf(*held_.at(static_cast<std::size_t>(object)).get(), member, arguments);
 }
 

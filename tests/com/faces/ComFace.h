@@ -37,7 +37,8 @@ protected:
     virtual std::string answerOf(IDispatch& object, const std::string& member,
                                  const Arguments& arguments) = 0;
 
-    std::string answer(int object, const std::string& member, const Arguments& arguments) override;
+    std::string resultOf(int object, const std::string& member,
+                         const Arguments& arguments) override;
     void release(int object) override;
 
 private:

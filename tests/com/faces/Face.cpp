@@ -6,7 +6,7 @@ namespace quorvane::host {
 
 std::string Face::perform(int object, const std::string& member, const Arguments& arguments) {
     events_.clear();
-    std::string text = answer(object, member, arguments);
+    std::string text = resultOf(object, member, arguments);
     return text + events_;
 }
 

@@ -81,7 +81,8 @@ public:
     }
 
 protected:
-    std::string answer(int object, const std::string& member, const Arguments& arguments) override {
+    std::string resultOf(int object, const std::string& member,
+                         const Arguments& arguments) override {
         try {
             return members().at(member)(*this, held_.at(static_cast<std::size_t>(object)),
                                         arguments);

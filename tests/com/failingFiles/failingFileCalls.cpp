@@ -27,10 +27,10 @@ struct Plan {
 
 Plan plan;
 
-/// What a call answers: when it is one that fails, `failed`, and otherwise what the system does.
+/// What a call returns: when it is one that fails, `failed`, and otherwise what the system does.
 /// The system's function is asked for by its name, since this program's own import leads here.
 template <class Function, class Result, class... Arguments>
-Result answer(const char* name, Function*, Result failed, Arguments... arguments) {
+Result resultOf(const char* name, Function*, Result failed, Arguments... arguments) {
     if (plan.fails(name)) {
         SetLastError(plan.failure.error);
         return failed;
@@ -42,22 +42,22 @@ Result answer(const char* name, Function*, Result failed, Arguments... arguments
 
 HANDLE WINAPI createFile(LPCWSTR name, DWORD access, DWORD share, LPSECURITY_ATTRIBUTES security,
                          DWORD disposition, DWORD attributes, HANDLE pattern) {
-    return answer("CreateFileW", &CreateFileW, INVALID_HANDLE_VALUE, name, access, share, security,
-                  disposition, attributes, pattern);
+    return resultOf("CreateFileW", &CreateFileW, INVALID_HANDLE_VALUE, name, access, share,
+                    security, disposition, attributes, pattern);
 }
 
 BOOL WINAPI readFile(HANDLE file, LPVOID bytes, DWORD size, LPDWORD count, LPOVERLAPPED later) {
-    return answer("ReadFile", &ReadFile, FALSE, file, bytes, size, count, later);
+    return resultOf("ReadFile", &ReadFile, FALSE, file, bytes, size, count, later);
 }
 
 BOOL WINAPI writeFile(HANDLE file, LPCVOID bytes, DWORD size, LPDWORD count, LPOVERLAPPED later) {
-    return answer("WriteFile", &WriteFile, FALSE, file, bytes, size, count, later);
+    return resultOf("WriteFile", &WriteFile, FALSE, file, bytes, size, count, later);
 }
 
 // A handle whose closing fails is gone all the same.
 BOOL WINAPI closeHandle(HANDLE handle) {
     const bool isRunning = std::exchange(plan.isRunning, false);
-    const BOOL isClosed = answer("CloseHandle", &CloseHandle, FALSE, handle);
+    const BOOL isClosed = resultOf("CloseHandle", &CloseHandle, FALSE, handle);
     plan.isRunning = isRunning;
     if (plan.fails("CloseHandle")) {
         SetLastError(plan.failure.error);
@@ -68,33 +68,33 @@ BOOL WINAPI closeHandle(HANDLE handle) {
 
 BOOL WINAPI replaceFile(LPCWSTR target, LPCWSTR source, LPCWSTR backup, DWORD flags, LPVOID first,
                         LPVOID second) {
-    return answer("ReplaceFileW", &ReplaceFileW, FALSE, target, source, backup, flags, first,
-                  second);
+    return resultOf("ReplaceFileW", &ReplaceFileW, FALSE, target, source, backup, flags, first,
+                    second);
 }
 
 BOOL WINAPI moveFile(LPCWSTR from, LPCWSTR to, DWORD flags) {
-    return answer("MoveFileExW", &MoveFileExW, FALSE, from, to, flags);
+    return resultOf("MoveFileExW", &MoveFileExW, FALSE, from, to, flags);
 }
 
 BOOL WINAPI deleteFile(LPCWSTR name) {
-    return answer("DeleteFileW", &DeleteFileW, FALSE, name);
+    return resultOf("DeleteFileW", &DeleteFileW, FALSE, name);
 }
 
 HANDLE WINAPI findFirstFile(LPCWSTR name, LPWIN32_FIND_DATAW found) {
-    return answer("FindFirstFileW", &FindFirstFileW, INVALID_HANDLE_VALUE, name, found);
+    return resultOf("FindFirstFileW", &FindFirstFileW, INVALID_HANDLE_VALUE, name, found);
 }
 
 BOOL WINAPI getFileSize(HANDLE file, PLARGE_INTEGER size) {
-    return answer("GetFileSizeEx", &GetFileSizeEx, FALSE, file, size);
+    return resultOf("GetFileSizeEx", &GetFileSizeEx, FALSE, file, size);
 }
 
 DWORD WINAPI getFileType(HANDLE file) {
-    return answer("GetFileType", &GetFileType, DWORD{FILE_TYPE_UNKNOWN}, file);
+    return resultOf("GetFileType", &GetFileType, DWORD{FILE_TYPE_UNKNOWN}, file);
 }
 
 DWORD WINAPI getFinalPathName(HANDLE file, LPWSTR path, DWORD size, DWORD flags) {
-    return answer("GetFinalPathNameByHandleW", &GetFinalPathNameByHandleW, DWORD{0}, file, path,
-                  size, flags);
+    return resultOf("GetFinalPathNameByHandleW", &GetFinalPathNameByHandleW, DWORD{0}, file, path,
+                    size, flags);
 }
 
 template <class Function>

@@ -76,7 +76,7 @@ Outcome LateBound::invoke(DISPID id, WORD flags, std::vector<Variant> arguments)
 LateBound LateBound::object(const std::string& name, std::vector<Variant> arguments) const {
     const Outcome outcome = get(name, std::move(arguments));
     if (!outcome.value.object()) {
-        throw std::runtime_error(name + " answers no object");
+        throw std::runtime_error(name + " returns no object");
     }
     return LateBound(outcome.value.object());
 }

@@ -61,11 +61,11 @@ HRESULT NamedMembers::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* paramete
     if (!member) {
         return DISP_E_MEMBERNOTFOUND;
     }
-    Variant answer;
-    const HRESULT outcome = (*member)(CallArguments(*parameters), *answer.out());
+    Variant value;
+    const HRESULT outcome = (*member)(CallArguments(*parameters), *value.out());
     if (result) {
         VariantInit(result);
-        VariantCopy(result, input(answer.get()));
+        VariantCopy(result, input(value.get()));
     }
     return outcome;
 }
