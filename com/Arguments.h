@@ -50,7 +50,7 @@ private:
 };
 
 // One parameter of a member for the time of a call: where its argument comes from, and where its
-// answer goes.
+// result goes.
 
 /// An argument that is converted to its type when it has another one.
 template <VARTYPE type>
@@ -134,7 +134,7 @@ private:
     VARIANT* value_ = nullptr;
 };
 
-/// The answer of a member.
+/// The result of a member.
 template <bool isObject = false>
 class AnswerParameter {
 public:
@@ -145,7 +145,7 @@ public:
     HRESULT read(const Arguments&, UINT) noexcept { return S_OK; }
 };
 
-/// Answers a 32-bit number, or a value of an enumeration.
+/// Returns a 32-bit number, or a value of an enumeration.
 template <class T>
 class Parameter<T*> : public AnswerParameter<> {
 public:
@@ -193,7 +193,7 @@ private:
     BSTR text_ = nullptr;
 };
 
-/// Answers an object, or null.
+/// Returns an object, or null.
 template <class Interface>
 class Parameter<Interface**> : public AnswerParameter<std::is_base_of_v<IDispatch, Interface>> {
 public:

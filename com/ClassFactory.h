@@ -9,7 +9,7 @@ namespace quorvane::com {
 /// Makes the objects of one class.
 class ClassFactory final : public IClassFactory {
 public:
-    /// Makes an object and answers one of its interfaces.
+    /// Makes an object and returns one of its interfaces.
     using Create = HRESULT (*)(REFIID interfaceId, void** object);
 
     explicit ClassFactory(Create create) noexcept : create_(create) {}

@@ -31,7 +31,7 @@ public:
     T* operator->() const noexcept { return object_; }
     explicit operator bool() const noexcept { return object_ != nullptr; }
 
-    /// Where a call that answers a counted object writes it; the reference must be null.
+    /// Where a call that returns a counted object writes it; the reference must be null.
     T** out() noexcept { return &object_; }
     void** outVoid() noexcept { return reinterpret_cast<void**>(&object_); }
     /// Hands the counted object over to the caller.

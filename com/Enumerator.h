@@ -18,7 +18,7 @@ namespace quorvane::com {
 /// An enumerator over items that were gathered when it was made: whatever happens to the collection
 /// meanwhile, it goes through what was there then.
 ///
-/// `Interface` is the kind of enumerator. `Item` says how an item is answered: `answer` writes it
+/// `Interface` is the kind of enumerator. `Item` says how an item is returned: `answer` writes it
 /// as a value of the type `Answer`, and may throw; `clear` takes such a value back.
 template <class Interface, class Item>
 class Enumerator final : public Interface {

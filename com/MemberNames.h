@@ -10,14 +10,14 @@
 
 namespace quorvane::com {
 
-/// The names of an interface's members and of their parameters, as the type library tells them.
+/// The names of an interface's members and of their parameters, as the type library has them.
 /// Names are compared without regard to case.
 class MemberNames {
 public:
     /// Throws `std::bad_alloc`.
     explicit MemberNames(ITypeInfo& info);
 
-    /// The identifiers of a member and of its parameters, as `IDispatch::GetIDsOfNames` answers
+    /// The identifiers of a member and of its parameters, as `IDispatch::GetIDsOfNames` returns
     /// them.
     HRESULT find(const LPOLESTR* names, UINT count, DISPID* ids) const noexcept;
 

@@ -32,14 +32,14 @@ void raiseIn(IDispatch& sink, IDispatch& sender) {
     V_VT(&argument) = VT_DISPATCH;
     V_DISPATCH(&argument) = &sender;
     DISPPARAMS arguments{&argument, nullptr, 1, 0};
-    // What the sink answers does not matter.
+    // What the sink returns does not matter.
     sink.Invoke(notifyErrorId, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &arguments, nullptr,
                 nullptr, nullptr);
 }
 
 }  // namespace
 
-// A sink that is let go of may come back and disconnect: by then none is connected any more.
+// A sink that is released may come back and disconnect: by then none is connected any more.
 NotifyErrorPoint::~NotifyErrorPoint() {
     const std::vector<Connection> connections = std::exchange(connections_, {});
 }

@@ -24,7 +24,7 @@
 
 namespace quorvane::com {
 
-// What the library answers, as the host gets it.
+// What the library returns, as the host gets it.
 
 inline void give(BSTR* answer, std::string_view text) {
     *answer = newBstr(text);
@@ -49,7 +49,7 @@ void give(Interface** answer, Ref<Native> object) {
 ///
 /// `Self` is the class itself. It provides `classId`, the identifier of its class, and `members()`,
 /// the members of its interface for late-bound calls; by `extraInterface` and `eventInterface` it
-/// can tell of more.
+/// can declare more.
 template <class Self, class HostInterface, class NativeObject>
 class Wrapper : public HostInterface, public ISupportErrorInfo, public IProvideClassInfo2 {
 public:
@@ -87,7 +87,7 @@ public:
         const LONG left = InterlockedDecrement(&references_);
         if (left == 0) {
             WrapperRegistry<Self>::forget(native_.get(), self());
-            // What the object lets go of may use it once more, which must not end it twice.
+            // What the object releases may use it once more, which must not end it twice.
             constexpr LONG ending = LONG{1} << 30;
             references_ = ending;
             delete self();
@@ -158,13 +158,13 @@ protected:
     /// The interface of the class's events; null when it has none.
     const GUID* eventInterface() const noexcept { return nullptr; }
 
-    /// A method that answers nothing.
+    /// A method that returns no value.
     template <Source source = Source::Added, class Body>
     HRESULT run(Body&& body) const noexcept {
         return toHresult<source>(__uuidof(Interface), std::forward<Body>(body));
     }
 
-    /// A method that answers what its body does.
+    /// A method that returns what its body returns.
     template <class Answer, class Body>
     HRESULT get(Answer* answer, Body&& body) const noexcept {
         if (!answer) {

@@ -21,11 +21,11 @@ struct Member {
     DISPID id;
     /// The kinds of calls that it serves: DISPATCH_METHOD and so on.
     WORD kinds;
-    /// Number of its parameters, the answer not counted.
+    /// Number of its parameters, the result not counted.
     UINT parameters;
     /// Number of those that must be given.
     UINT required;
-    /// True when it answers an object that may have a default member.
+    /// True when it returns an object that may have a default member.
     bool answersObject;
     Call call;
 };
@@ -50,7 +50,7 @@ HRESULT callMethod(HRESULT (STDMETHODCALLTYPE Interface::*method)(Types...), IDi
     return outcome;
 }
 
-/// What a method's type tells of it.
+/// What is known of a method from its type.
 template <class Method>
 struct MethodTraits;
 
@@ -108,7 +108,7 @@ struct LateCall {
 bool isReserved(REFIID interfaceId) noexcept;
 
 /// Makes the call to one of the members. Arguments that follow a property without parameters go to
-/// the default member of the object that it answers.
+/// the default member of the object that it returns.
 HRESULT invoke(std::span<const Member> members, IDispatch* object, const LateCall& call) noexcept;
 
 }  // namespace quorvane::com

@@ -235,7 +235,7 @@ public:
     HRESULT result() const noexcept { return resultOf(status_, SELFREG_E_CLASS); }
 
 private:
-    /// Systems that do not need to be told lack the function.
+    /// Systems that do not need the call lack the function.
     static void registerTypeLibrariesForTheUser() noexcept {
         using Enable = void(STDAPICALLTYPE*)();
         const HMODULE automation = GetModuleHandleW(L"oleaut32.dll");

@@ -27,7 +27,7 @@ bool moduleIsUnused() noexcept;
 /// process's thread-local slots every time that it is loaded and gives none back.
 void pinModule() noexcept;
 
-/// Path of the DLL; empty when the system does not tell it.
+/// Path of the DLL; empty when the system does not report it.
 std::wstring modulePath();
 
 }  // namespace quorvane::com
