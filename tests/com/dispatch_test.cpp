@@ -16,7 +16,7 @@ namespace {
 /// A document as scripts see it: all calls by name.
 class Dispatch : public testing::Test {
 protected:
-    /// The keys of the rows, which the borders tell: row n was given the top border n.
+    /// The keys of the rows, which the borders show: row n was given the top border n.
     std::vector<long> order() const {
         std::vector<long> borders;
         const long count = rows_.get("Count").value.number();
@@ -125,7 +125,7 @@ TEST_F(Dispatch, ReadsPropertiesAsScriptsDoThatTakeThemForFunctions) {
     EXPECT_EQ(document_.invoke(document_.idOf("PageWidth"), DISPATCH_METHOD).value.number(), 12242);
 }
 
-TEST_F(Dispatch, AnswersMethodsThatAreCalledAsFunctions) {
+TEST_F(Dispatch, ReturnsFromMethodsThatAreCalledAsFunctions) {
     const Outcome outcome =
         rows_.invoke(rows_.idOf("AddTail"), DISPATCH_METHOD | DISPATCH_PROPERTYGET);
 
@@ -170,7 +170,7 @@ TEST_F(Dispatch, RefusesWhatIsNoNumber) {
     EXPECT_EQ(document_.get("PageWidth").value.number(), 12242);
 }
 
-TEST_F(Dispatch, TellsWhichArgumentIsBad) {
+TEST_F(Dispatch, ReportsWhichArgumentIsBad) {
     const LateBound cell = paragraph().object("Parent");
     VARIANT values[2] = {};
     values[0].vt = VT_I4;
@@ -438,7 +438,7 @@ TEST_F(Dispatch, ForgetsAnEarlierErrorWhenACallBegins) {
     EXPECT_EQ(GetErrorInfo(0, left.out()), S_FALSE);
 }
 
-TEST_F(Dispatch, TellsOfItsInterface) {
+TEST_F(Dispatch, DescribesItsInterface) {
     ComPtr<ITypeInfo> type;
     UINT count = 0;
     TYPEATTR* attributes = nullptr;

@@ -1,6 +1,6 @@
 // Every call of Windows that the library and the command make for a file fails once, and then for
 // good: a document is whole or absent, an older one stays for as long as it can, what failed is
-// told, and all works again afterwards. Only what cannot be removed any more, since the disk is
+// reported, and all works again afterwards. Only what cannot be removed any more, since the disk is
 // gone for good, may stay in part.
 
 #include <gmock/gmock.h>
@@ -100,7 +100,7 @@ protected:
     int runs = 0;
 };
 
-TEST_F(FailingFiles, LeaveADescriptionReadOrToldAsUnreachable) {
+TEST_F(FailingFiles, LeaveADescriptionReadOrReportedAsUnreachable) {
     Ref<CRtfDriver> driver;
     std::optional<RtfError> error;
     failEachCall(
@@ -141,7 +141,7 @@ TEST_F(FailingFiles, LeaveAStyleSheetLoadedOrEmpty) {
     EXPECT_GE(runs, 20);
 }
 
-/// Commits of a document, and what they tell.
+/// Commits of a document, and what they report.
 class FailingCommitsOfFiles : public FailingFiles {
 protected:
     void commit() {
@@ -173,7 +173,7 @@ TEST_F(FailingCommitsOfFiles, LeaveANewDocumentWholeOrAbsent) {
 }
 
 TEST_F(FailingCommitsOfFiles, KeepTheOlderDocumentUntilItIsRemoved) {
-    // Longer than the new one: none of it may stay behind that.
+    // Longer than the new one: none of it may stay after that.
     const std::string older(whole.size() + 100, 'o');
     failEachCall([&] { write("a.rtf", older); }, [&] { commit(); },
                  [&](const std::vector<std::string>& calls, const Failure& failure) {

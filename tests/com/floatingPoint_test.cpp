@@ -52,7 +52,7 @@ private:
 const double notANumber = std::numeric_limits<double>::quiet_NaN();
 const double infinity = std::numeric_limits<double>::infinity();
 
-/// What a host does with numbers that lead to exceptions where those are not masked; the answers.
+/// What a host does with numbers that lead to exceptions where those are not masked; the results.
 class FloatingPoint : public testing::Test {
 protected:
     using Answers = std::vector<HRESULT>;

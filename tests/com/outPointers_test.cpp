@@ -17,7 +17,7 @@
 namespace quorvane::host {
 namespace {
 
-/// Calls members that answer something without a place for it.
+/// Calls members that return something without a place for it.
 class OutPointers : public testing::Test {
 protected:
     /// The early-bound object behind a late-bound one.
@@ -26,7 +26,7 @@ protected:
         return ComPtr<IDispatch>(object.get()).as<Interface>();
     }
 
-    /// Calls a member with null for its answer; other arguments are of no matter.
+    /// Calls a member with null for its result; other arguments do not matter.
     template <class Interface, class... Parameters>
     void expectRefused(const ComPtr<Interface>& object, const std::string& name,
                        HRESULT (STDMETHODCALLTYPE Interface::*member)(Parameters...)) {
@@ -55,7 +55,7 @@ protected:
         expectRefused(object, name + ".get RightBorder", &Interface::get_RightBorder);
     }
 
-    /// The published members that answer something.
+    /// The published members that return something.
     static std::vector<std::string> answeringMembers() {
         ComPtr<ITypeLib> library;
         if (FAILED(LoadTypeLibEx(componentFile().c_str(), REGKIND_NONE, library.out()))) {

@@ -3,7 +3,7 @@
 // Limits that are the control's own: it keeps a row as lines of text in which a tab ends a cell, so
 // that only the first of the paragraphs between two line breaks has an alignment of its own; it
 // does not justify, and a paragraph without an alignment takes that of the one before; a line break
-// within a paragraph is a blank in the text that it answers, and the number of the page nothing; it
+// within a paragraph is a blank in the text that it returns, and the number of the page nothing; it
 // has no grounds, borders and styles of cells.
 
 #include <gtest/gtest.h>
@@ -76,7 +76,7 @@ std::vector<Piece> piecesOf(const CRtfDoc& document, const CRtfParagraph& paragr
     return pieces;
 }
 
-/// The number behind the last such control word; nothing when there is none.
+/// The number after the last such control word; nothing when there is none.
 std::optional<int> numberOf(const std::string& words, const std::string& word) {
     std::optional<int> number;
     const std::regex pattern(R"(\\)" + word + R"((\d+))");
@@ -118,7 +118,7 @@ protected:
     std::string bytes() const { return codePage1252FromUtf8(driver->Contents()); }
 
     /// Calls `visit` with each paragraph that has a text, with its place in the control's text and
-    /// whether a line of the control's begins with it. Answers the whole text.
+    /// whether a line of the control's begins with it. Returns the whole text.
     template <class Visit>
     std::wstring walk(Visit visit) const {
         const Ref<CRtfDoc> document = driver->RtfObject();

@@ -19,7 +19,7 @@
 namespace quorvane::host {
 namespace {
 
-/// What a host does; answers the first failure of the component.
+/// What a host does; returns the first failure of the component.
 using Work = std::function<HRESULT(const Component&)>;
 
 /// Goes from call to call as long as they succeed.
@@ -339,7 +339,7 @@ void expectOnlyOutOfMemory(const Work& work, HRESULT usual,
     }
 }
 
-TEST(ScarceMemory, LeavesADocumentThatIsBuiltByHandWholeOrTellsOfIt) {
+TEST(ScarceMemory, LeavesADocumentThatIsBuiltByHandWholeOrReportsTheShortage) {
     std::string contents;
     buildingByHand(contents)(Component());
     const std::string expected = contents;
@@ -347,7 +347,7 @@ TEST(ScarceMemory, LeavesADocumentThatIsBuiltByHandWholeOrTellsOfIt) {
     expectOnlyOutOfMemory(buildingByHand(contents), S_OK, [&] { EXPECT_EQ(contents, expected); });
 }
 
-TEST(ScarceMemory, LeavesADescribedDocumentWholeOrTellsOfIt) {
+TEST(ScarceMemory, LeavesADescribedDocumentWholeOrReportsTheShortage) {
     std::string contents;
     int events = 0;
     driving(contents, events)(Component());
@@ -361,7 +361,7 @@ TEST(ScarceMemory, LeavesADescribedDocumentWholeOrTellsOfIt) {
     });
 }
 
-TEST(ScarceMemory, IsToldToLateBoundHosts) {
+TEST(ScarceMemory, IsReportedToLateBoundHosts) {
     expectOnlyOutOfMemory(workLateBound, S_OK, [] {});
 }
 

@@ -27,7 +27,7 @@ std::string programPath() {
     return utf8Text(path);
 }
 
-/// Waits for a dialogue of that title, tells its text and its buttons, and answers it with OK.
+/// Waits for a dialog of that title, records its text and its buttons, and presses OK.
 class DialogueWatcher {
 public:
     explicit DialogueWatcher(const wchar_t* title) : thread_([this, title] { watch(title); }) {}
@@ -112,7 +112,7 @@ TEST(ErrorsOfTheLibrary, ShowNothingElse) {
     EXPECT_EQ(FindWindowW(L"#32770", nullptr), nullptr);
 }
 
-/// The error collection is registered, and writes what it is told into a file.
+/// The error collection is registered, and writes what it receives into a file.
 class ErrorCollectionTest : public testing::Test {
 protected:
     void SetUp() override {
@@ -141,7 +141,7 @@ std::string versionText() {
            std::to_string(version.revision);
 }
 
-TEST_F(ErrorCollectionTest, IsToldOfErrorsWhenTheSwitchIsOn) {
+TEST_F(ErrorCollectionTest, ReceivesErrorsWhenTheSwitchIsOn) {
     GError errors(systemPlatform());
     errors.setReporterSwitch(true);
     RtfError error(RunTimeError::PathNotFound);
@@ -203,7 +203,7 @@ TEST(FurtherInformation, IsAnAutomationCollectionForTheErrorCollection) {
     EXPECT_EQ(collection->Release(), 0U);
 }
 
-TEST_F(ErrorCollectionTest, IsNotToldWhenTheSwitchIsOff) {
+TEST_F(ErrorCollectionTest, ReceivesNoErrorsWhenTheSwitchIsOff) {
     GError errors(systemPlatform());
 
     errors.handleError(RtfError(RunTimeError::PathNotFound), "GFileSystem.bas", "saveStringToFile");
@@ -299,7 +299,7 @@ TEST_F(WindowsFiles, AreWrittenFromTheirFirstByteAndNotShortened) {
     EXPECT_EQ(platform_.readFile(path("a")), "abc3456789");
 }
 
-TEST_F(WindowsFiles, ThatAreNewAndLetGoOfBeforeTheirEndGo) {
+TEST_F(WindowsFiles, ThatAreNewAndReleasedBeforeTheirEndGo) {
     writeFile(wideText(path("a")), "0123456789");
 
     platform_.createFile(path("new"))->write("ab");
@@ -317,7 +317,7 @@ TEST_F(WindowsFiles, ThatCannotBeWrittenAreErrors) {
     EXPECT_EQ(errorNumberOf([&] { platform_.deleteFile(path("a")); }), 75);
 }
 
-TEST(WindowsProgram, TellsWhoItIs) {
+TEST(WindowsProgram, IdentifiesItself) {
     const std::string path = programPath();
     const std::size_t separator = path.rfind('\\');
 

@@ -74,7 +74,7 @@ TEST(StyleFindings, WarnOfNoSharedNumberWhereNoTextIsWritten) {
                 Not(Contains(HasSubstr("shared-style-number"))));
 }
 
-TEST(StyleFindings, TakeTheColourOfATextFromItsStyle) {
+TEST(StyleFindings, TakeTheColorOfATextFromItsStyle) {
     constexpr const char* dark = "{ name: normal; style-def: s; format: \\cf3\\fs20\\cf24 }\n";
     constexpr const char* light = "{ name: normal; style-def: s; format: \\cf3\\fs20\\cf21 }\n";
     constexpr const char* description =
@@ -109,7 +109,7 @@ TEST(StyleFindings, TakeTheColorOfACellForThatOfItsStyleWhereBothAreGiven) {
                 ElementsAre("7 low-contrast"));
 }
 
-TEST(StyleFindings, TellTenPairsOfColorsOfAParagraph) {
+TEST(StyleFindings, ReportTenPairsOfColorsOfAParagraph) {
     std::string text;
     for (const int color : {2, 20, 21, 22, 27, 28, 33, 35, 36, 37, 6, 1}) {
         text += "{\\cf" + std::to_string(color) + " a}";
@@ -119,7 +119,7 @@ TEST(StyleFindings, TellTenPairsOfColorsOfAParagraph) {
                 testing::SizeIs(2));
 }
 
-TEST(StyleFindings, TellWhatBecomesOfAParagraphWithoutAnyParagraphStyle) {
+TEST(StyleFindings, SayWhatBecomesOfAParagraphWithoutAnyParagraphStyle) {
     KnownStyles styles("{ name: label; style-def: cs; format: \\b }\n");
     const std::vector<Diagnostic> findings =
         checkDescription("(doc\n(r\n(c\n(p\n(pt=a)\n(ps=label)\np)\nc)\nr)\ndoc)\n", &styles);

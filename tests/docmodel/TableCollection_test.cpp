@@ -18,8 +18,8 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// What rows, cells and paragraphs have in common is tested on each of them. The elements are told
-// apart by a number that each kind keeps in some property of its own.
+// What rows, cells and paragraphs have in common is tested on each of them. The elements are
+// distinguished by a number that each kind keeps in some property of its own.
 
 struct Rows {
     static Ref<CRtfTableRows> of(const CellDocument& document) {

@@ -233,12 +233,12 @@ TEST(DescriptionSemantics, HaveNothingAgainstAGoodDescription) {
     EXPECT_EQ(semanticsOf(exampleDescription), ToldError());
 }
 
-TEST(DescriptionSemantics, TakeTheNamesOfColoursInAnyCase) {
+TEST(DescriptionSemantics, TakeTheNamesOfColorsInAnyCase) {
     EXPECT_EQ(semanticsOf(rowWith("(rb=Light-Yellow)")), ToldError());
     EXPECT_EQ(semanticsOf(cellWith("(cb=none)")), ToldError());
 }
 
-TEST(DescriptionSemantics, RefuseWhatIsNoColour) {
+TEST(DescriptionSemantics, RefuseWhatIsNoColor) {
     EXPECT_EQ(semanticsOf(rowWith("(rb=crimson)")), noColor("crimson", 3));
     EXPECT_EQ(semanticsOf(cellWith("(cb=Crimson)")), noColor("Crimson", 4));
     EXPECT_EQ(semanticsOf(cellWith("(cb=)")), noColor("", 4));

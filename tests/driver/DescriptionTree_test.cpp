@@ -119,7 +119,7 @@ TEST(DescriptionTree, TakesTheSameKeyInDifferentNodes) {
     }
 }
 
-TEST(DescriptionTree, TellsKeysApartToTheLetter) {
+TEST(DescriptionTree, DistinguishesKeysToTheLetter) {
     DescriptionTree tree;
     tree.addLeaf(tree.root(), leaf("para-text", "a", 3));
     tree.addLeaf(tree.root(), leaf("Para-Text", "b", 4));

@@ -173,7 +173,7 @@ TEST(CMapTest, RenamingToAnotherEntrysKeyIsAnError) {
     expectEntries(map, {"b", 3, "a"}, {2, "three", 1});
 }
 
-TEST(CMapTest, Keys2ValuesAnswersTheValuesInTheMapsOrder) {
+TEST(CMapTest, Keys2ValuesReturnsTheValuesInTheMapsOrder) {
     const CMap map = threeEntries();
     EXPECT_EQ(map.Keys2Values(map.Keys()), map.Items());
     EXPECT_EQ(map.Keys2Values(List{"a", "x", "b", "a"}), (List{2, 1}));

@@ -264,13 +264,13 @@ TEST(CStringListTest, RemovesNoHeadOrTailWhenItIsEmpty) {
     EXPECT_TRUE(list.IsEmpty());
 }
 
-TEST(CStringListTest, IndexAnswersThePositionOfTheKeyedString) {
+TEST(CStringListTest, IndexReturnsThePositionOfTheKeyedString) {
     const CStringList list = keyedList();
     EXPECT_EQ(list.Index("o"), 1);
     EXPECT_EQ(list.Index("T"), 2);
 }
 
-TEST(CStringListTest, IndexAnswersTheEarliestOfEqualStrings) {
+TEST(CStringListTest, IndexReturnsTheEarliestOfEqualStrings) {
     CStringList list;
     list.add("same");
     list.add("same", "k");

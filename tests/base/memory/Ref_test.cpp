@@ -10,7 +10,7 @@
 namespace quorvane {
 namespace {
 
-// An owner as the document is one: it is let go of with its last reference, and its memory goes
+// An owner as the document is one: it is released with its last reference, and its memory goes
 // with the last weak one.
 struct Owner {
     CountedOwner counts;
@@ -103,7 +103,7 @@ TEST(Ref, SurvivesBeingAssignedToItself) {
     EXPECT_EQ(Owner::living, 1);
 }
 
-TEST(Ref, LetsGoOfItsObjectWhenItTakesAnother) {
+TEST(Ref, ReleasesItsObjectWhenItTakesAnother) {
     Ref<Owner> reference = newOwner();
 
     reference = newOwner();
@@ -139,7 +139,7 @@ TEST(WeakRef, IsNothingAtFirst) {
     EXPECT_EQ(WeakRef<Owner>(nullptr).get(), nullptr);
 }
 
-TEST(WeakRef, AnswersItsObjectWhileThatIsAlive) {
+TEST(WeakRef, ReturnsItsObjectWhileThatIsAlive) {
     const Ref<Owner> owner = newOwner();
     const WeakRef<Owner> weak(owner.get());
 
@@ -155,7 +155,7 @@ TEST(WeakRef, DoesNotKeepItsObjectAlive) {
     EXPECT_EQ(weak.get(), nullptr);
 }
 
-TEST(WeakRef, AnswersNothingInItsCopiesToo) {
+TEST(WeakRef, ReturnsNothingInItsCopiesToo) {
     Ref<Owner> owner = newOwner();
     const WeakRef<Owner> weak(owner.get());
     WeakRef<Owner> copy = weak;

@@ -20,9 +20,9 @@ using testing::StartsWith;
 struct Example {
     std::string name;
     std::wstring program;
-    /// What is told of the errors of a description.
+    /// What is printed for the errors of a description.
     std::string events;
-    /// What is told of the errors `eWrongPath` and 75 before their descriptions.
+    /// What is printed for the errors `eWrongPath` and 75 before their descriptions.
     std::string wrongPath;
     std::string accessError;
 };
@@ -49,7 +49,7 @@ std::wstring builtProgram(const std::string& file) {
     return inQuotes(windowsPath(QUORVANE_BUILT_EXAMPLES "/" + file));
 }
 
-// Wine's script host does not connect events. JScript does not tell the source of an error.
+// Wine's script host does not connect events. JScript does not show the source of an error.
 const Example examples[] = {
     {"VBScript", script("invoice.vbs"), "This script host does not connect events.\n",
      "error 0x80040003 (Error: eWrongPath, CRtfDriver.ParseFile): ", "error 0x800A004B (): "},
@@ -114,7 +114,7 @@ TEST_P(RunExample, CommitsTheBytesOfTheLibrary) {
     EXPECT_EQ(reminder_.bytes(), libraryReminder());
 }
 
-TEST_P(RunExample, TellsWhatItDoes) {
+TEST_P(RunExample, PrintsWhatItDoes) {
     const ProcessResult result = runWithBoth();
 
     EXPECT_EQ(result.output, utf8Text(invoice_.path()) + " was written.\n" + GetParam().events +
@@ -143,7 +143,7 @@ TEST_P(RunExample, ReplacesAFile) {
     EXPECT_EQ(invoice_.bytes(), libraryInvoice());
 }
 
-TEST_P(RunExample, TellsTheComponentsErrorWhenAFileCannotBeReplaced) {
+TEST_P(RunExample, ReportsTheComponentsErrorWhenAFileCannotBeReplaced) {
     writeFile(invoice_.path(), "held open");
     const HANDLE held = CreateFileW(invoice_.path().c_str(), GENERIC_READ, 0, nullptr,
                                     OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
@@ -162,7 +162,7 @@ TEST_P(RunExample, TellsTheComponentsErrorWhenAFileCannotBeReplaced) {
     EXPECT_EQ(reminder_.bytes(), "");
 }
 
-TEST_P(RunExample, TellsThatAFileIsNotWritten) {
+TEST_P(RunExample, ReportsThatAFileIsNotWritten) {
     const std::wstring file = temporaryFile(L"no-such-folder") + L"\\invoice.rtf";
 
     const ProcessResult result = runWith(inQuotes(file));

@@ -37,7 +37,7 @@ ComFace::ComFace() {
     const auto driver = component_.create<_CRtfDriver>(__uuidof(::CRtfDriver));
     renderObject(driver);
     events_ = EventConnection(driver.get(), [this](const std::wstring&, DISPPARAMS&) {
-        // Only here an error object tells its number, as its help context.
+        // Only here does an error object have its number, as its help context.
         HostError error = takeErrorObject(S_OK);
         error.number = static_cast<HRESULT>(error.helpContext);
         addEvent(textOf(error));

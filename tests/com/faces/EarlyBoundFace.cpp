@@ -28,7 +28,7 @@ protected:
     }
 };
 
-// A parameter of a vtable function: what is handed over for it and, of a result, what it answers.
+// A parameter of a vtable function: what is passed for it and, of a result, what it returns.
 template <class Parameter>
 class Slot;
 

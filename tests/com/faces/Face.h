@@ -12,15 +12,15 @@ namespace quorvane::host {
 using Arguments = std::vector<Value>;
 
 /// One way of working with the system: its C++ classes, the component early bound, or the component
-/// late bound. The same operations must answer the same texts on each.
+/// late bound. The same operations must return the same texts on each.
 ///
 /// A member is named "_CRtfDoc.set TopMargin": interface, kind (get, set, call) and name. Objects
-/// are numbered as they are first answered; 0 is a document and 1 a driver.
+/// are numbered as they are first returned; 0 is a document and 1 a driver.
 class Face {
 public:
     virtual ~Face() = default;
 
-    /// Performs an operation; what it answers is a value, an error with number, description and
+    /// Performs an operation; what it returns is a value, an error with number, description and
     /// source, or "ok", followed by the events that it raised.
     std::string perform(int object, const std::string& member, const Arguments& arguments);
 
@@ -29,24 +29,24 @@ public:
         return objects_.at(static_cast<std::size_t>(object)).interfaceName;
     }
     int objectCount() const { return static_cast<int>(objects_.size()); }
-    /// Lets go of an object. It has another number when it is met again.
+    /// Releases an object. It has another number when it is met again.
     void releaseObject(int object);
 
 protected:
     /// Performs an operation on an object that is held.
     virtual std::string answer(int object, const std::string& member,
                                const Arguments& arguments) = 0;
-    /// Lets go of what is held under the number.
+    /// Releases what is held under the number.
     virtual void release(int object) = 0;
 
-    /// The number of an object that was answered before, or a new one.
+    /// The number of an object that was returned before, or a new one.
     struct Numbered {
         int number;
         bool isNew;
     };
     Numbered number(const void* identity, const std::string& interfaceName);
 
-    /// Adds what an event's handler saw to the answer of the current operation.
+    /// Adds what an event's handler saw to the result of the current operation.
     void addEvent(const std::string& error) { events_ += " event: " + error; }
 
 private:
@@ -68,7 +68,7 @@ std::unique_ptr<Face> lateBoundFace();
 std::vector<std::string> nativeMembers();
 std::vector<std::string> earlyBoundMembers();
 
-// How answers are written.
+// How results are written.
 std::string answerText(bool value);
 std::string answerText(std::int32_t value);
 std::string answerText(const std::string& text);

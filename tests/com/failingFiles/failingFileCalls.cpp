@@ -27,7 +27,7 @@ struct Plan {
 
 Plan plan;
 
-/// What a call answers: when it is one that fails, `failed`, and otherwise what the system does.
+/// What a call returns: when it is one that fails, `failed`, and otherwise what the system does.
 /// The system's function is asked for by its name, since this program's own import leads here.
 template <class Function, class Result, class... Arguments>
 Result answer(const char* name, Function*, Result failed, Arguments... arguments) {

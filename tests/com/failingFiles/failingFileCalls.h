@@ -18,7 +18,7 @@ struct Failure {
 };
 
 /// Runs an action with the call of that number (from 0) failing, of those that this program makes
-/// to open, read, write, close, replace, move, remove or look at files. Answers the calls that were
+/// to open, read, write, close, replace, move, remove or look at files. Returns the calls that were
 /// made, by name.
 std::vector<std::string> withFailingCall(std::size_t number, const Failure& failure,
                                          const std::function<void()>& action);

@@ -17,7 +17,7 @@ using EventHandler = std::function<HRESULT(const std::wstring& name, DISPPARAMS&
 class EventConnection {
 public:
     EventConnection() = default;
-    /// Connects the handler. `outcome` tells how that went.
+    /// Connects the handler. `outcome` shows how that went.
     EventConnection(IUnknown* source, EventHandler handler);
     EventConnection(EventConnection&&) noexcept = default;
     EventConnection& operator=(EventConnection&& other) noexcept;

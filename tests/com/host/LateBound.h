@@ -36,7 +36,7 @@ public:
     /// Calls a member by its identifier as scripts do that do not know what it is.
     Outcome invoke(DISPID id, WORD flags, std::vector<Variant> arguments = {}) const;
 
-    /// The object that a property answers; without one the test ends with an exception.
+    /// The object that a property returns; without one the test ends with an exception.
     LateBound object(const std::string& name, std::vector<Variant> arguments = {}) const;
 
 private:

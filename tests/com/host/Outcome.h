@@ -26,7 +26,7 @@ constexpr HRESULT runTimeError(unsigned long number) {
     return static_cast<HRESULT>(0x800A0000UL + number);
 }
 
-/// What a call answers: a value, or an error.
+/// What a call returns: a value, or an error.
 struct Outcome {
     HostError error;
     Variant value;
@@ -37,7 +37,7 @@ struct Outcome {
 /// The thread's error object, which reading removes, under the given number.
 HostError takeErrorObject(HRESULT number);
 
-/// The outcome of an early-bound call that answers a status.
+/// The outcome of an early-bound call that returns a status.
 Outcome outcomeOf(HRESULT status);
 
 }  // namespace quorvane::host

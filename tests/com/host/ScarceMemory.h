@@ -20,7 +20,7 @@ public:
     /// The allocation of that number fails, and others as the shortage is; the next one is
     /// number 1.
     void begin(int number, Shortage shortage);
-    /// Ends it; tells whether an allocation failed.
+    /// Ends it; returns whether an allocation failed.
     bool end();
 
 private:

@@ -4,7 +4,7 @@
 
 namespace quorvane::host {
 
-/// Lets a module's imports of that name lead to the function; tells whether there was one.
+/// Lets a module's imports of that name lead to the function; returns whether there was one.
 bool redirectImport(HMODULE module, const char* name, void* function);
 
 }  // namespace quorvane::host

@@ -16,7 +16,7 @@ public:
     RichEdit& operator=(const RichEdit&) = delete;
     ~RichEdit();
 
-    /// Has it read a document through EM_STREAMIN. Answers the error that it tells, 0 for none.
+    /// Has it read a document through EM_STREAMIN. Returns the error that it reports, 0 for none.
     DWORD read(std::string_view rtf) const;
 
     /// The document that it writes through EM_STREAMOUT. An error that it reports ends the test

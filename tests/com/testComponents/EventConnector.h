@@ -11,8 +11,8 @@ namespace quorvane::host {
 /// "QuorvaneTests.EventConnector": connects an object's events to the script of a host that cannot
 /// do that itself. `Connect(object, handlers)` calls the member of `handlers` that has the event's
 /// name or, when it has none, `handlers` itself, as for a function of JScript; `Disconnect()` ends
-/// it. While an event lasts, `Source`, `Description` and `HelpContext` tell of the error object
-/// that the thread had when it began.
+/// it. While an event lasts, `Source`, `Description` and `HelpContext` are those of the error
+/// object that the thread had when it began.
 class EventConnector : public NamedMembers {
 public:
     EventConnector();

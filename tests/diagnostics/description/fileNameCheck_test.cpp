@@ -85,7 +85,7 @@ TEST(FileNameCheck, PointsToTheBeginningOfAFileThatSaysNothing) {
                             "is .rtf."));
 }
 
-TEST(FileNameCheck, TellsTheExtensionThatTheContentHas) {
+TEST(FileNameCheck, SuggestsTheExtensionThatFitsTheContent) {
     EXPECT_EQ(hintOf(description, "a.rtf"),
               "the file looks like a description; its extension should be .rtfspec");
     EXPECT_EQ(hintOf(styleSheet, "a.rtf"),

@@ -70,7 +70,7 @@ TEST(TextFindings, SayNothingOfANestedTableThatIsWhole) {
     EXPECT_THAT(found("{\\footnote \\itap2 a\\nestcell}"), IsEmpty());
 }
 
-TEST(TextFindings, TellOfANestedTableWhoseRowsAreNotWhole) {
+TEST(TextFindings, ReportANestedTableWhoseRowsAreNotWhole) {
     // A cell without its definition, a row that does not end, and one without cells.
     EXPECT_THAT(found("\\itap2 a\\nestcell b\\nestcell{\\*\\nesttableprops\\trowd\\cellx9\\nestrow}"
                       "\\itap1 c"),
@@ -89,18 +89,18 @@ TEST(TextFindings, TellOfANestedTableWhoseRowsAreNotWhole) {
                 ElementsAre(std::string("2 table-control") + brokenNestedTable));
 }
 
-TEST(TextFindings, TellOfANestedTableThatIsNotLeft) {
+TEST(TextFindings, ReportANestedTableThatIsNotLeft) {
     EXPECT_THAT(found("\\itap2 a"),
                 ElementsAre(std::string("1 table-control") + brokenNestedTable));
 }
 
-TEST(TextFindings, TellOfTheBeginningOfADocument) {
+TEST(TextFindings, ReportTheBeginningOfADocument) {
     EXPECT_THAT(found("{\\rtf1{\\fonttbl}{\\colortbl}{\\stylesheet}a}"),
                 ElementsAre("2 header-control", "8 header-control", "18 header-control",
                             "29 header-control"));
 }
 
-TEST(TextFindings, TellOfBracesWithoutTheirPartners) {
+TEST(TextFindings, ReportUnmatchedBraces) {
     EXPECT_THAT(found("a}b{"), ElementsAre("2 unbalanced-brace: write \\} for a literal brace",
                                            "4 unbalanced-brace: write \\{ for a literal brace"));
 }
@@ -112,7 +112,7 @@ TEST(TextFindings, SayNothingOfHyperlinksToPagesAndLetters) {
     }
 }
 
-TEST(TextFindings, TellOfHyperlinksToFiles) {
+TEST(TextFindings, ReportHyperlinksToFiles) {
     for (const char* target : {"\"c:\\\\a.exe\"", "c:\\\\a.exe", "\"file://a", "  \"ftp://a\" b"}) {
         EXPECT_THAT(messages(field("HYPERLINK " + std::string(target))),
                     ElementsAre("\\fldinst puts a link to a file into the document."))
@@ -142,7 +142,7 @@ TEST(TextFindings, SayNothingOfNumbersInWhatIsNotTheTextsOwn) {
                 ElementsAre("8 unknown-number", "20 unknown-number"));
 }
 
-TEST(TextFindings, TellWhatToWriteForACharacterThatIsMisread) {
+TEST(TextFindings, SuggestWhatToWriteForACharacterThatIsMisread) {
     // A file in UTF-8, read in Windows-1252.
     const std::string misread = "\xC3\x83\xC2\xA9";
     EXPECT_THAT(found(misread), ElementsAre("1 utf-8-text: save the file in Windows-1252, or write "
@@ -153,7 +153,7 @@ TEST(TextFindings, TellWhatToWriteForACharacterThatIsMisread) {
                 ElementsAre("1 utf-8-text: save the file in Windows-1252"));
 }
 
-TEST(TextFindings, TellWhatToWriteForACharacterThatTheCodePageLacks) {
+TEST(TextFindings, SuggestWhatToWriteForACharacterThatTheCodePageLacks) {
     EXPECT_THAT(found("\xE2\x86\x92"),
                 ElementsAre("1 unencodable-character: write {\\uc1\\u8594?}"));
     EXPECT_THAT(found("\xEF\xAC\x81"),
@@ -162,7 +162,7 @@ TEST(TextFindings, TellWhatToWriteForACharacterThatTheCodePageLacks) {
     EXPECT_THAT(found("\xE2\x86\x92", TextUse::FieldData), ElementsAre("1 unencodable-character"));
 }
 
-TEST(TextFindings, TellOfControlCharacters) {
+TEST(TextFindings, ReportControlCharacters) {
     EXPECT_THAT(messages("a\x01\xC2\x81"),
                 ElementsAre("U+0001 is a control character and will not be printed.",
                             "U+0081 is a control character and will not be printed."));
@@ -170,14 +170,14 @@ TEST(TextFindings, TellOfControlCharacters) {
     EXPECT_THAT(found("\xC2\x81", TextUse::FieldData), IsEmpty());
 }
 
-TEST(TextFindings, TellOfTextInWhatIsWrittenOfAFormat) {
+TEST(TextFindings, ReportTextInWhatIsWrittenOfAFormat) {
     EXPECT_THAT(found("^pb^f\\f3^v\\b^x some words", TextUse::Format),
                 ElementsAre("3 format-text: did you mean \\b?"));
     EXPECT_THAT(found("^", TextUse::Format), IsEmpty());
     EXPECT_THAT(found("^zb", TextUse::Format), IsEmpty());
 }
 
-TEST(TextFindings, TellTheFirstTenOfAKind) {
+TEST(TextFindings, ReportTheFirstTenOfAKind) {
     EXPECT_EQ(found(std::string(12, '}')).size(), 10u);
 }
 
