@@ -14,7 +14,7 @@ using testing::ElementsAre;
 using testing::EndsWith;
 using testing::StartsWith;
 
-/// The findings, each as its line, its identifier and its hint.
+/// The diagnostics, each as its line, its identifier and its hint.
 std::vector<std::string> found(const std::string& text) {
     std::vector<std::string> list;
     for (const Diagnostic& finding : checkDescription(text)) {

@@ -15,7 +15,7 @@ constexpr auto description = CheckedLanguage::Description;
 constexpr auto styleSheet = CheckedLanguage::StyleSheet;
 constexpr auto rtf = CheckedLanguage::Rtf;
 
-/// The findings, each as its place, its severity, its identifier and its message.
+/// The diagnostics, each as its place, its severity, its identifier and its message.
 std::vector<std::string> found(const std::string& bytes, CheckedLanguage language,
                                const std::string& fileName) {
     std::vector<std::string> list;
