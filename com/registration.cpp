@@ -101,7 +101,7 @@ void note(HRESULT& first, HRESULT result) noexcept {
     }
 }
 
-/// True for the entry of a file that names this one. One that names no file serves nobody.
+/// True for the entry of a file that names this one. One that names no file is of no use.
 bool isOwn(const std::wstring& entry, const std::wstring& path) {
     const std::wstring file = withoutQuotes(entry);
     return file.empty() || areSamePath(file, path);

@@ -24,7 +24,7 @@ using testing::IsEmpty;
 
 class Events : public testing::Test {
 protected:
-    /// Analyzes a text that is no description: its one error is that the doc node is missing.
+    /// Analyzes a text that is not a description: its one error is that the doc node is missing.
     void parseRejectedText() const {
         EXPECT_EQ(driver_->ParseFromMemmory(Bstr(L"nothing").get()), S_OK);
     }

@@ -16,7 +16,7 @@ struct TextColors {
     bool operator==(const TextColors& other) const = default;
 };
 
-/// A part of a text that is to be seen, in one pair of colors.
+/// A visible part of a text, in one pair of colors.
 struct ColoredPart {
     std::string_view part;
     TextColors colors;

@@ -26,7 +26,7 @@ std::vector<std::string> found(const std::string& text, TextUse use = TextUse::T
     return list;
 }
 
-/// The messages of the findings about a text.
+/// The messages of the diagnostics about a text.
 std::vector<std::string> messages(const std::string& text) {
     std::vector<std::string> list;
     const SourceText source(text);
@@ -55,7 +55,7 @@ TEST(TextDiagnostics, KnowTheWordsOfOtherLanguagesForControlWords) {
                 ElementsAre("1 unknown-control-word: did you mean \\qc?"));
 }
 
-TEST(TextDiagnostics, KnowControlWordsThatAreMisspelt) {
+TEST(TextDiagnostics, KnowControlWordsThatAreMisspelled) {
     EXPECT_THAT(found("\\highligth7 a"),
                 ElementsAre("1 unknown-control-word: did you mean \\highlight? For a literal "
                             "backslash, write \\\\"));
