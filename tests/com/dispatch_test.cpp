@@ -161,7 +161,7 @@ TEST_F(Dispatch, RoundsFractionsHalvesToEven) {
     EXPECT_EQ(document_.get("PageWidth").value.number(), 0);
 }
 
-TEST_F(Dispatch, RefusesWhatIsNoNumber) {
+TEST_F(Dispatch, RefusesWhatIsNotANumber) {
     EXPECT_EQ(document_.set("PageWidth", {"wide"}).error.number, DISP_E_TYPEMISMATCH);
     EXPECT_EQ(document_.set("PageWidth", {Variant::null()}).error.number, DISP_E_TYPEMISMATCH);
     EXPECT_EQ(document_.set("PageWidth", {Variant(document_.get())}).error.number,

@@ -338,7 +338,7 @@ TEST_F(Events, ListTheirConnections) {
     EXPECT_EQ(connections().size(), 1U);
 }
 
-TEST_F(Events, RefuseWhatIsNoConnection) {
+TEST_F(Events, RefuseWhatIsNotAConnection) {
     DWORD cookie = 99;
     class Deaf : public ComObject<IUnknown> {};
 

@@ -146,7 +146,7 @@ TEST_F(Files, HaveNamesInAnyScript) {
     EXPECT_EQ(bytesOfFile(file), "{}");
 }
 
-TEST_F(Files, ThatCannotBeWrittenAreNoErrorToTheHost) {
+TEST_F(Files, ThatCannotBeWrittenAreNotAnErrorForTheHost) {
     EXPECT_TRUE(document_.call("Commit", {"C:\\no such folder\\x.rtf"}).succeeded());
     EXPECT_TRUE(document_.call("Commit", {""}).succeeded());
 }

@@ -264,7 +264,7 @@ TYPED_TEST(Collection, RefusesAKeyThatIsThereAlready) {
     this->expectError(457, [&] { this->list->AddTail("key"); });
 }
 
-TYPED_TEST(Collection, RefusesAKeyThatIsNoText) {
+TYPED_TEST(Collection, RefusesAKeyThatIsNotAText) {
     this->add(1);
     for (const Value& key : {Value(7), Value(1.5), Value(true), Value(Null{}), Value(Date{1})}) {
         this->expectError(13, [&] { this->list->add(key); });

@@ -589,7 +589,7 @@ TEST(Analysis, TakesANumberForANameWithAndWithoutChecks) {
     EXPECT_EQ(checked.row()->TopBorder(), eThin);
 }
 
-TEST(Analysis, ReportsANumberThatIsNoValueOnceWhenItBuilds) {
+TEST(Analysis, ReportsANumberThatIsNotAValueOnceWhenItBuilds) {
     for (const Checks checks : {Checks::On, Checks::Off}) {
         EXPECT_THAT(ParsedDescription(rowWith("(rb=58)"), checks).errors,
                     ElementsAre(driverErrorOf(eWrongValue, "58 isn't a recognized color.",
@@ -700,7 +700,7 @@ TEST(Analysis, ReportsTheLineOfANodeThatIsInTheWrongPlace) {
                             "CRtDriver.treeWalkerSemantic", 6)));
 }
 
-TEST(Analysis, ReportsTheLineOfTheRowThatIsTooMuch) {
+TEST(Analysis, ReportsTheLineOfTheFirstRowBeyondTheLimit) {
     std::string text = "(doc||";
     for (int i = 0; i < 1000; ++i) {
         text += "(r|r)|";

@@ -233,7 +233,7 @@ TEST(DocumentBuilder, TakesANumberInAnyFormForAColor) {
     }
 }
 
-TEST(DocumentBuilder, RefusesANumberThatIsNoColor) {
+TEST(DocumentBuilder, RefusesANumberThatIsNotAColor) {
     EXPECT_THAT(errorsOf(rowWith("(rb=58)")),
                 ElementsAre(wrongValue("58 isn't a recognized color.", 3)));
     EXPECT_THAT(errorsOf(cellWith("(cb=-1)")),
@@ -246,7 +246,7 @@ TEST(DocumentBuilder, RefusesANumberThatIsNoColor) {
                 ElementsAre(wrongValue("1e+300 isn't a recognized color.", 4)));
 }
 
-TEST(DocumentBuilder, RefusesAWordThatIsNoColor) {
+TEST(DocumentBuilder, RefusesAWordThatIsNotAColor) {
     EXPECT_THAT(errorsOf(rowWith("(rb=crimson)")),
                 ElementsAre(wrongValue("crimson isn't a recognized color.", 3)));
     EXPECT_THAT(errorsOf(cellWith("(cb=)")),
@@ -316,7 +316,7 @@ TEST(DocumentBuilder, TakesAwayTheBorderAndTheGroundOfTheRow) {
               "\r\n{\\intbl\\trowd\\trql\\trgaph70\\trleft0 \\cellx8840 \r\n\\cell\\row}");
 }
 
-TEST(DocumentBuilder, RefusesWhatIsNoBorder) {
+TEST(DocumentBuilder, RefusesWhatIsNotABorder) {
     for (const BorderKey& border : rowBorders) {
         EXPECT_THAT(errorsOf(rowWith("(" + std::string(border.key) + "=medium)")),
                     ElementsAre(wrongValue("medium isn't a recognized border.", 3)));
@@ -357,7 +357,7 @@ TEST(DocumentBuilder, TakesTheNumberOfAnAlignmentForItsName) {
     }
 }
 
-TEST(DocumentBuilder, RefusesWhatIsNoAlignment) {
+TEST(DocumentBuilder, RefusesWhatIsNotAnAlignment) {
     EXPECT_THAT(errorsOf(cellWith("(ca=center)")),
                 ElementsAre(wrongValue("center isn't a recognized alignment.", 4)));
     EXPECT_THAT(errorsOf(paraWith("(pa=)")),

@@ -367,7 +367,7 @@ TEST(Vocabulary, ShortensWhatHasAShortForm) {
     EXPECT_EQ(vocabulary.shorten("Row"), "Row");
 }
 
-TEST(Vocabulary, KnowsNoKeyOfWhatIsNoNode) {
+TEST(Vocabulary, KnowsNoKeyOfWhatIsNotANode) {
     EXPECT_FALSE(vocabulary.isKeyOf(NodeKind::None, "para-text"));
     EXPECT_FALSE(vocabulary.isKeyOf(NodeKind::None, ""));
 }

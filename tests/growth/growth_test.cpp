@@ -115,7 +115,7 @@ TEST(Growth, OfAHundredMegabytesOfClosersIsBearable) {
     EXPECT_EQ(events, 1);
 }
 
-TEST(Growth, OfALineThatIsNothingIsProportional) {
+TEST(Growth, OfAnUnreadableLineIsProportional) {
     for (const char* part : {"(", "=", ")", "(=", ";", "r)"}) {
         expectProportional(
             [part](std::size_t size) {

@@ -199,7 +199,7 @@ TEST(CMapTest, SubMapTakesAKeyThatIsAskedForTwiceOnce) {
     expectEntries(*part, {"a", "b"}, {1, 2});
 }
 
-TEST(CMapTest, SubMapIsNothingForEmptyKeysOrAnEmptyMap) {
+TEST(CMapTest, SubMapIsNullForEmptyKeysOrAnEmptyMap) {
     EXPECT_EQ(threeEntries().subMap(std::nullopt), nullptr);
     EXPECT_EQ(CMap().subMap(List{"a"}), nullptr);
 }

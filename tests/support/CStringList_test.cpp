@@ -181,7 +181,7 @@ TEST(CStringListTest, AddsNothingUnderAPresentKey) {
     EXPECT_EQ(list.CharSize(), 11);
 }
 
-TEST(CStringListTest, AddsNothingUnderAKeyThatIsNoText) {
+TEST(CStringListTest, AddsNothingUnderAKeyThatIsNotAText) {
     CStringList list = keyedList();
     EXPECT_FALSE(list.add("x", 7));
     EXPECT_FALSE(list.add("x", Null{}));
@@ -356,7 +356,7 @@ TEST(CStringListTest, FindsNothingThatFitsNoPattern) {
     EXPECT_EQ(CStringList().Find("*"), -1);
 }
 
-TEST(CStringListTest, FindingAPatternThatIsNoneIsAnError) {
+TEST(CStringListTest, FindingAMalformedPatternIsAnError) {
     EXPECT_EQ(errorNumberOf([] { CStringList().Find("["); }), 5);
 }
 

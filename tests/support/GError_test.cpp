@@ -424,7 +424,7 @@ TEST_F(GErrorReporterTest, ReceivesAnErrorThatTheObserverReceivedToo) {
     EXPECT_EQ(platform.reports.size(), 1U);
 }
 
-TEST_F(GErrorReporterTest, ThatFailsIsNoErrorOfTheObservers) {
+TEST_F(GErrorReporterTest, ThatFailsIsNotAnErrorOfTheObserver) {
     platform.reporterIsRegistered = false;
     observe();
 

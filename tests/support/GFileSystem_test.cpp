@@ -180,7 +180,7 @@ TEST_F(GFileSystemTest, CharactersAtEveryBorderAreNotCut) {
     EXPECT_TRUE(saved(text) == expected);
 }
 
-TEST_F(GFileSystemTest, BytesThatAreNoTextAreWrittenAsQuestionMarksAcrossTheBorder) {
+TEST_F(GFileSystemTest, BytesThatAreNotTextAreWrittenAsQuestionMarksAcrossTheBorder) {
     EXPECT_TRUE(saved(std::string(800000, '\x80')) == std::string(800000, '?'));
 }
 

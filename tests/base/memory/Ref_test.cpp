@@ -49,7 +49,7 @@ Ref<Owner> newOwner() {
     return Ref<Owner>(new Owner);
 }
 
-TEST(Ref, IsNothingAtFirst) {
+TEST(Ref, IsNullAtFirst) {
     const Ref<Owner> reference;
 
     EXPECT_FALSE(reference);
@@ -57,7 +57,7 @@ TEST(Ref, IsNothingAtFirst) {
     EXPECT_EQ(reference.get(), nullptr);
 }
 
-TEST(Ref, IsNothingWhenMadeOfNull) {
+TEST(Ref, IsNullWhenMadeOfNull) {
     EXPECT_FALSE(Ref<Owner>(nullptr));
     EXPECT_FALSE(Ref<Owner>(static_cast<Owner*>(nullptr)));
 }
@@ -83,7 +83,7 @@ TEST(Ref, KeepsItsObjectAliveAsLongAsACopyDoes) {
     EXPECT_EQ(Owner::living, 0);
 }
 
-TEST(Ref, IsNothingAfterItWasMoved) {
+TEST(Ref, IsNullAfterItWasMoved) {
     Ref<Owner> reference = newOwner();
     const Owner* const object = reference.get();
 
@@ -134,7 +134,7 @@ TEST(Ref, HandsItsCountOver) {
     EXPECT_EQ(Owner::living, 0);
 }
 
-TEST(WeakRef, IsNothingAtFirst) {
+TEST(WeakRef, IsNullAtFirst) {
     EXPECT_EQ(WeakRef<Owner>().get(), nullptr);
     EXPECT_EQ(WeakRef<Owner>(nullptr).get(), nullptr);
 }
@@ -155,7 +155,7 @@ TEST(WeakRef, DoesNotKeepItsObjectAlive) {
     EXPECT_EQ(weak.get(), nullptr);
 }
 
-TEST(WeakRef, ReturnsNothingInItsCopiesToo) {
+TEST(WeakRef, ReturnsNullInItsCopiesToo) {
     Ref<Owner> owner = newOwner();
     const WeakRef<Owner> weak(owner.get());
     WeakRef<Owner> copy = weak;

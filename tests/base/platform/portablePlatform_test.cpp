@@ -251,7 +251,7 @@ TEST_F(PortablePlatformTest, WildcardsCountInTheFileNameOnly) {
     EXPECT_FALSE(platform.fileExists(path("f*/a.rtf")));
 }
 
-TEST_F(PortablePlatformTest, ExistenceIsNoErrorWhenNoFolderCanBeOpened) {
+TEST_F(PortablePlatformTest, ExistenceIsNotAnErrorWhenNoFolderCanBeOpened) {
     make("a.rtf");
     const std::string pattern = path("*.rtf");
     ASSERT_TRUE(platform.fileExists(pattern));
