@@ -66,7 +66,7 @@ ExitStatus DescriptionRendering::run() {
     return status_;
 }
 
-/// A description that makes nothing does not change the document, which then still is rendered as
+/// A description that builds nothing does not change the document, which is then still rendered as
 /// the one before.
 void DescriptionRendering::leaveDocumentBefore() {
     const Ref<CRtfDoc> document = driver_->RtfObject();

@@ -25,8 +25,8 @@ struct RenderingManner {
 /// which then parses the stylesheet once.
 class DescriptionRendering {
 public:
-    /// The driver is made where there is none, and made anew where it cannot serve. All that is
-    /// given must outlive the rendering.
+    /// Creates the driver if there is none, and creates it again if it cannot be reused. All that
+    /// is given must outlive the rendering.
     DescriptionRendering(const Assignment& assignment, const RenderingManner& manner,
                          CommandPlatform& platform, Ref<CRtfDriver>& driver, RenderReport& report);
     DescriptionRendering(const DescriptionRendering&) = delete;

@@ -23,7 +23,7 @@ namespace quorvane::cli {
 
 namespace {
 
-/// A failure to write to standard output, which is no failure of a file that is formatted.
+/// A failure to write to standard output, which is not a failure of a file that is formatted.
 struct StandardOutputFailure {
     RtfError error;
 };

@@ -188,7 +188,8 @@ void RenderReport::locate(const std::string& file, const std::string& bytes,
     }
 }
 
-/// Whether the check lets a file pass that has errors besides or not; reports it when it does not.
+/// Whether the check lets a file pass; `hasOthers` says whether the library reports errors of it
+/// too. Reports a file that does not pass.
 bool RenderReport::pass(const std::string& file, const Diagnostics& diagnostics, bool hasOthers) {
     const bool refusesWarnings = options_.failOn == FailOn::Warning;
     Diagnostics reasons;

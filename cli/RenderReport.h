@@ -44,7 +44,7 @@ public:
     /// Takes the bytes of the stylesheet. Returns false when the check refuses it.
     bool passStyleSheet(const std::string& name, const std::string& bytes);
 
-    /// Takes the bytes of a description. Returns false when they are no text, which is reported as
+    /// Takes the bytes of a description. Returns false when they are not text, which is reported as
     /// text only: a program gets the events of the analysis.
     bool passBytes(const std::string& name, std::string_view bytes);
 

@@ -17,7 +17,7 @@ namespace quorvane::cli {
 /// the place of a standard stream that was closed.
 void prepareProcess();
 
-/// Columns of the terminal that standard error is; 0 when it is none.
+/// Columns of the terminal that standard error is; 0 when it is not a terminal.
 int standardErrorColumns();
 
 /// True when standard output is a terminal that understands control sequences.
@@ -40,8 +40,8 @@ std::unique_ptr<OutputFile> openStandardOutput();
 /// Lets the end of the process take an unfinished file along (see `openReplacement`).
 UnfinishedFileWatch& unfinishedFileWatch();
 
-/// One spelling for all in which the system takes the path of a file: in capitals where it does not
-/// tell them from small letters.
+/// One spelling for all that the system accepts as the path of a file: in capitals where it ignores
+/// case.
 std::filesystem::path systemSpelling(const std::filesystem::path& path);
 
 }  // namespace quorvane::cli

@@ -97,7 +97,7 @@ void writeToStandardError(std::string_view text) noexcept {
             return;
         }
     } catch (const std::bad_alloc&) {
-        // Written as bytes instead: what is told when memory is short is plain ASCII.
+        // Written as bytes instead: what is reported when memory is short is plain ASCII.
     }
     DWORD written = 0;
     while (!text.empty() &&

@@ -32,7 +32,7 @@ private:
         unsigned words[7];
     };
 
-    // Without what operations have recorded, which is no setting.
+    // Without what operations have recorded, which is not a setting.
     static constexpr unsigned settings = 0xFFC0;
     static constexpr unsigned usualControl = 0x1F80;
     static constexpr unsigned short coprocessorMasks = 0x3F;

@@ -39,7 +39,7 @@ void raiseIn(IDispatch& sink, IDispatch& sender) {
 
 }  // namespace
 
-// A sink that is let go of may come back and disconnect: by then none is connected any more.
+// A sink that is released may come back and disconnect: by then none is connected any more.
 NotifyErrorPoint::~NotifyErrorPoint() {
     const std::vector<Connection> connections = std::exchange(connections_, {});
 }

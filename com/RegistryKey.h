@@ -47,7 +47,7 @@ bool registryKeyExists(HKEY parent, const std::wstring& path, REGSAM view = 0) n
 LSTATUS writeRegistryText(HKEY parent, const std::wstring& path, const std::wstring& name,
                           const std::wstring& text) noexcept;
 
-/// Deletes a key and all below it. It is no error when it is not there.
+/// Deletes a key and all below it. It is not an error when it does not exist.
 LSTATUS deleteRegistryTree(HKEY parent, const std::wstring& path) noexcept;
 
 /// Deletes a key that holds nothing.

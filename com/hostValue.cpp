@@ -40,7 +40,7 @@ Value pointedTo(const VARIANT& reference) {
         return Null{};
     }
     if (V_VT(&reference) == (VT_BYREF | VT_VARIANT)) {
-        // A reference to a reference is none that automation knows, and could lead in a circle.
+        // Automation has no references to references, and they could lead in a circle.
         const VARIANT& value = *V_VARIANTREF(&reference);
         return V_VT(&value) == (VT_BYREF | VT_VARIANT) ? Value(Null{}) : valueOf(value);
     }

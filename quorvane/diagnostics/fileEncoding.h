@@ -10,8 +10,8 @@ inline constexpr std::string_view utf16Hint = "the file is in UTF-16; save it in
 /// True for the bytes of a file in UTF-16, as they are or as they read in Windows-1252.
 bool isUtf16(std::string_view text);
 
-/// The text behind the mark with which many programs begin a file in UTF-8: its bytes as they are
-/// or as they read in Windows-1252. All of a text that has none.
+/// The text after the mark with which many programs begin a file in UTF-8: its bytes as they are
+/// or as they read in Windows-1252. The whole text when it has no mark.
 std::string_view behindByteOrderMark(std::string_view text);
 
 }  // namespace quorvane

@@ -15,7 +15,7 @@ Borders::Borders(const Borders& other) noexcept : low_(other.low_), high_(other.
     }
 }
 
-// Counting up before letting go is right for an assignment to itself, too.
+// Retaining before releasing is also right for an assignment to itself.
 // NOLINTNEXTLINE(cert-oop54-cpp)
 Borders& Borders::operator=(const Borders& other) noexcept {
     if (!other.isPacked()) {

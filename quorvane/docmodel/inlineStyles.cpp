@@ -106,7 +106,7 @@ public:
 
     InlineStyles(const TableDocument& document, View body) : document_(document), body_(body) {}
 
-    /// Nothing when the words of a style have characters that are more than one place: a byte is
+    /// No text when the words of a style have characters that are more than one place: a byte is
     /// one place in ASCII only.
     std::optional<Text> apply() {
         if (bracketsAlternate()) {

@@ -9,7 +9,7 @@
 
 namespace quorvane {
 
-/// What a description is looked at for before its lines are read.
+/// What the driver looks for in a description before it reads the lines.
 struct DescriptionFrame {
     /// The opener of the document stands somewhere in the text.
     bool hasOpener = false;

@@ -9,7 +9,7 @@
 
 namespace quorvane {
 
-/// Which rules a node goes by that stands where it may not.
+/// Which rules apply to a node that is where it may not be.
 enum class MisplacedNodes {
     /// Those of the kind of node that could stand there, as the published walks have it.
     ByPlace,

@@ -24,7 +24,8 @@ struct NodeNumbers {
     std::int32_t last = 0;
 };
 
-/// What the text of a description is looked at for before its lines are read, to the letter.
+/// What the driver looks for, to the letter, in the text of a description before it reads the
+/// lines.
 struct DescriptionFrameWords {
     /// The first line begins with the opener, the last one with the closer.
     std::string_view opener;

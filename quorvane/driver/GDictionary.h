@@ -10,7 +10,7 @@
 namespace quorvane {
 
 // Helpers over lists of values, texts and numbers mixed. Positions count from 0. An empty list is
-// as good as any other.
+// valid.
 
 /// What `FilterType` looks for. A Boolean, a date or an object is neither.
 enum class ValueKind {

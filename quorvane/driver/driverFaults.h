@@ -42,7 +42,7 @@ enum class DriverFault : std::uint8_t {
     TakenKey,
     /// Any other error of the object model.
     Other,
-    // What is not said of a description.
+    // Not about a description.
     WrongNodeKind,
     WrongNodeNumber,
     EmptyPath,

@@ -94,7 +94,7 @@ std::size_t binaryLengthAfter(const RtfControl& control);
 /// backslash, the character, or both.
 bool isRtfSymbol(char symbol);
 
-/// True for a character that is not to be seen and takes up no room: the soft hyphen, those of zero
+/// True for a character that is invisible and takes up no room: the soft hyphen, those of zero
 /// width, and those that set the direction of writing.
 bool isInvisible(char32_t code);
 

@@ -21,7 +21,7 @@ public:
 
     bool Exists(const Value& Item) const { return map_.Exists(Item); }
 
-    /// Removes a member. Error 5 when it is none.
+    /// Removes a member. Error 5 when it is not in the set.
     void Remove(const Value& Item) { map_.Remove(Item); }
 
     void RemoveAll() { map_.RemoveAll(); }

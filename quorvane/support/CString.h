@@ -34,7 +34,7 @@ public:
     /// none.
     std::string StrZ() const;
 
-    /// True when `Code` occurs in what `GetDelims` answers, without regard to case. False for an
+    /// True when `Code` occurs in what `GetDelims` returns, without regard to case. False for an
     /// empty code.
     bool hasSubfield(std::string_view Code) const;
 
@@ -54,7 +54,7 @@ public:
     void ReplaceString(std::string_view search, std::string_view replacement);
 
     /// The text in code page 1252, filled up at its end to at least `length` characters with the
-    /// code page's character `fill`. A negative length is as good as 0.
+    /// code page's character `fill`. A negative length counts as 0.
     std::string StrToBytes(std::int32_t length = 0, char fill = ' ') const;
 
     /// The content of the first subfield of that code, empty when there is none; for a longer code

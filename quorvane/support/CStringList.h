@@ -54,7 +54,7 @@ public:
         const std::deque<Entry>* entries_;
     };
 
-    /// What `Index` and `Find` answer for what the list does not hold.
+    /// What `Index` and `Find` return for what the list does not hold.
     static constexpr std::int32_t notFound = -1;
 
     std::int32_t Count() const override { return static_cast<std::int32_t>(entries_.size()); }
@@ -74,9 +74,9 @@ public:
     std::int32_t Index(std::string_view Key) const;
 
     /// Adds a string at the end, or before or after the element that `Before` or `After` names.
-    /// A `Key`, `Before` or `After` that is missing or Empty was not given. Raises nothing: the
-    /// answer is false, and the list as it was, when the key is present or no text, when `Before`
-    /// or `After` names no element, or when both are given.
+    /// A `Key`, `Before` or `After` that is missing or Empty was not given. Raises no error:
+    /// returns false and leaves the list as it was when the key is present or not a text, when
+    /// `Before` or `After` names no element, or when both are given.
     bool add(std::string Item, const Value& Key = Missing{}, const Value& Before = Missing{},
              const Value& After = Missing{});
 
@@ -84,10 +84,10 @@ public:
     Strings NewEnum() const& { return Strings(entries_); }
     Strings NewEnum() const&& = delete;
 
-    /// Adds a string at the end. Answers as `add`.
+    /// Adds a string at the end. Returns the same as `add`.
     bool AddTail(std::string Item, const Value& Key = Missing{});
 
-    /// Adds a string at position 1. Answers as `add`.
+    /// Adds a string at position 1. Returns the same as `add`.
     bool AddHead(std::string Item, const Value& Key = Missing{});
 
     /// Removes the last element, if there is one.
@@ -118,7 +118,7 @@ public:
     std::string ConCat(std::string_view Separator) const;
 
     /// The position of the first string that fits the pattern, -1 when none does. Error 5 for a
-    /// pattern that is none (see `WildcardPattern`).
+    /// malformed pattern (see `WildcardPattern`).
     std::int32_t Find(std::string_view Pattern) const;
 
     /// Removes all elements and sets `CharSize` to 0.
@@ -133,7 +133,7 @@ public:
 private:
     /// The 0-based place of the element that the index names; nothing when it names none.
     std::optional<std::size_t> find(const Value& index) const;
-    /// The same, with the errors that `Remove` tells of.
+    /// The same, with the errors of `Remove`.
     std::size_t require(const Value& index) const;
     /// Where a new element goes; nothing when there is no such place.
     std::optional<std::size_t> placeFor(const Value& before, const Value& after) const;

@@ -26,7 +26,7 @@ struct SubFieldView {
     std::string_view content;
 };
 
-/// The first subfield whose "^" stands at the position or behind it; nothing when there is none.
+/// The first subfield whose "^" stands at the position or after it; nothing when there is none.
 std::optional<SubFieldView> findSubField(std::string_view text, std::size_t position = 0);
 
 /// The first subfield of that code; nothing when there is none. A code that is not one character
@@ -45,7 +45,7 @@ std::string subFieldContents(std::string_view text, std::string_view codes);
 /// True when the text is empty, or is formatted and every content is empty but for blanks.
 bool AllSubFieldsEmpty(std::string_view text);
 
-/// What stands behind the first separator, without blanks at its ends; empty when the text holds no
+/// What stands after the first separator, without blanks at its ends; empty when the text holds no
 /// separator or the separator is empty.
 std::string GetValue(std::string_view text, std::string_view separator);
 

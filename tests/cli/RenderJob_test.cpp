@@ -480,7 +480,7 @@ TEST_F(RenderJobTest, ReportsThatMemoryDoesNotSufficeAndGoesOnWithTheNext) {
     EXPECT_THAT(folder.names(), ElementsAre("b.rtf"));
 }
 
-TEST_F(RenderJobTest, CountsAnErrorThatCannotBeTold) {
+TEST_F(RenderJobTest, CountsAnErrorThatCannotBeReported) {
     options.descriptions = {folder.write("a.rtfspec", descriptionOf("Text"))};
     options.output = "/dev/full";
     RenderJob job(options, {[](const ReportedError&) { throw std::bad_alloc(); }});

@@ -1,4 +1,4 @@
-// What the subcommands make of files that are no text.
+// What the subcommands make of files that are not text.
 
 #include <gtest/gtest.h>
 

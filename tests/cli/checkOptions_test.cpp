@@ -75,7 +75,7 @@ TEST_F(CheckOptionsTest, IgnoreTakesAnRtfFilesDiagnosticsToo) {
     EXPECT_EQ(run({"--ignore", "unclosed-group", "a.rtf"}).output, "");
 }
 
-TEST_F(CheckOptionsTest, RefuseIdentifiersThatThereAreNot) {
+TEST_F(CheckOptionsTest, RefuseUnknownIdentifiers) {
     folder.write("a.rtfspec", errorAndWarning);
     for (const char* option : {"--ignore", "--enable"}) {
         const ProgramResult result = run({option, "empty-text,wrong-colour", "a.rtfspec"});

@@ -174,7 +174,7 @@ TEST_F(CheckTest, CountsWhatRepeatsForPeopleOnly) {
               3);
 }
 
-TEST_F(CheckTest, ReportsThatABrokenDocumentIsNone) {
+TEST_F(CheckTest, ReportsThatABrokenDocumentIsNotRtf) {
     folder.write("a.rtf", "rtf1 {\\b Total}");
     folder.write("b.rtf", "");
     const ProgramResult result = run({"a.rtf", "b.rtf"});
@@ -458,7 +458,7 @@ TEST_F(CheckTest, KnowsNoOtherIdentifier) {
     EXPECT_EQ(result.status, 2);
 }
 
-TEST_F(CheckTest, ShowsTheNeighbourhoodOfAPlaceInALongLine) {
+TEST_F(CheckTest, ShowsTheNeighborhoodOfAPlaceInALongLine) {
     const std::string before(200, 'a');
     const std::string after(200, 'b');
     folder.write("long.rtfspec", descriptionOf(before + "}" + after));

@@ -20,7 +20,7 @@ TEST(ErrorJson, ReportsAllFieldsInTheirOrder) {
               R"("message":"crimson isn't a recognized color.","kind":"event"})");
 }
 
-TEST(ErrorJson, IsNullWhereThereIsNothingToTell) {
+TEST(ErrorJson, IsNullWhereThereIsNothingToReport) {
     const RtfError error(RunTimeError::TypeMismatch);
     EXPECT_EQ(errorJson({ErrorKind::Raised, "", error}),
               R"({"file":null,"line":null,"number":13,"level":null,"source":null,)"

@@ -20,7 +20,7 @@ TEST(ErrorText, ReportsFileLineAndMessage) {
               "letter.rtfspec:12: error: crimson isn't a recognized color.");
 }
 
-TEST(ErrorText, LeavesOutALineThatThereIsNot) {
+TEST(ErrorText, LeavesOutAMissingLine) {
     const RtfError error = driverError(eWrongRootNode, "(doc must be the first node.");
     EXPECT_EQ(errorText(event(error)), "letter.rtfspec: error: (doc must be the first node.");
 }
@@ -30,7 +30,7 @@ TEST(ErrorText, ReportsNoNumber) {
               "letter.rtfspec: error: Type mismatch");
 }
 
-TEST(ErrorText, LeavesOutAFileThatThereIsNot) {
+TEST(ErrorText, LeavesOutAMissingFile) {
     const ReportedError diagnostic{ErrorKind::Raised, "", RtfError(RunTimeError::TypeMismatch)};
     EXPECT_EQ(errorText(diagnostic), "error: Type mismatch");
 }

@@ -131,7 +131,7 @@ private:
     std::filesystem::path folder_;
 };
 
-/// Runs the body in a process that has mounts of its own. Answers its exit status: 0 when nothing
+/// Runs the body in a process that has mounts of its own. Returns its exit status: 0 when nothing
 /// failed.
 int withOwnMounts(const std::function<void()>& body) {
     const pid_t process = ::fork();
@@ -197,7 +197,7 @@ TEST_F(FailingFiles, LeaveAFolderInTheWayAsItIs) {
     EXPECT_THAT(folder.names(), ElementsAre("a.rtf", "a.rtfspec"));
 }
 
-TEST_F(FailingFiles, AreToldWhenTheirPathsAreTooLong) {
+TEST_F(FailingFiles, AreReportedWhenTheirPathsAreTooLong) {
     const std::string longName(300, 'n');
     std::string longPath;
     for (int i = 0; i < 900; ++i) {

@@ -65,7 +65,7 @@ TEST(LocatedErrors, KeepWhatTheCheckDoesNotFind) {
     EXPECT_THAT(descriptionsOf(locateErrors(errors, {}).others), ElementsAre("One.", "Two."));
 }
 
-TEST(LocatedErrors, AreNoWarnings) {
+TEST(LocatedErrors, AreNotWarnings) {
     Diagnostic warning = found(DiagnosticId::EmptyText, 3, "Empty.");
     warning.severity = Severity::Warning;
     const LocatedErrors result = locateErrors({driverError(eWrongValue, "One.", "", 3)}, {warning});

@@ -34,7 +34,7 @@ TEST(OneLine, KeepsTheCharacterAfterTheUpperControlCharacters) {
               "b");
 }
 
-TEST(OneLine, KeepsAByteThatIsNoUtf8) {
+TEST(OneLine, KeepsAByteThatIsNotUtf8) {
     EXPECT_EQ(oneLine("a\xC2"), "a\xC2");
 }
 

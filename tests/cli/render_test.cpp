@@ -121,7 +121,7 @@ TEST_F(NeverOverwrites, ButReplacesDocumentsAndOtherFiles) {
         EXPECT_EQ(result.status, 0) << bytes << result.errors;
         EXPECT_THAT(folder.read("a.rtf"), HasSubstr("Text"));
     }
-    // RTF is no description, whatever its name.
+    // RTF is not a description, whatever its name.
     folder.write("b.rtfspec", "{\\rtf1 old}");
     EXPECT_EQ(run({"-o", "b.rtfspec", "a.rtfspec"}).status, 0);
     EXPECT_EQ(run({"-o", "/dev/null", "a.rtfspec"}).status, 0);

@@ -411,7 +411,7 @@ TEST(ReportsOfCharacters, ReportTheFirstThatIsMisread) {
               "    hint: save the file in Windows-1252\n");
 }
 
-TEST(ReportsOfNames, ReportADescriptionThatIsNone) {
+TEST(ReportsOfNames, ReportADescriptionThatIsNotOne) {
     const std::string hint = "    hint: the file looks like ";
     EXPECT_EQ(reportOfFile("a.rtfspec", "{ name: a; style-def: s }\n"),
               "a.rtfspec:1:1: error: The provided file isn't a correct rtfspec file. "
@@ -430,7 +430,7 @@ TEST(ReportsOfNames, ReportADescriptionThatIsNone) {
                   "an RTF file; its extension should be .rtf\n");
 }
 
-TEST(ReportsOfNames, ReportAStyleSheetThatIsNone) {
+TEST(ReportsOfNames, ReportAStyleSheetThatIsNotOne) {
     const std::string description = "(doc\n(r\n(c\nc)\nr)\ndoc)\n";
     EXPECT_EQ(reportOfFile("a.rtfss", description),
               "a.rtfss:1:1: warning: This is a description, not a stylesheet. "

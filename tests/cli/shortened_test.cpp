@@ -33,7 +33,7 @@ TEST(Shortened, IsTheMessageOfAnErrorInTextForm) {
                   " has a wrong syntax");
 }
 
-TEST(Shortened, IsTheMessageOfAFindingInTextForm) {
+TEST(Shortened, IsTheMessageOfADiagnosticInTextForm) {
     EXPECT_EQ(reportOf(paragraphWith("a", std::string(200'000, 'x') + "\n")),
               "a.rtfspec:6:1: error: " + std::string(149, 'x') + "\xE2\x80\xA6" +
                   std::string(31, 'x') + " has a wrong syntax [wrong-syntax]\n    " +

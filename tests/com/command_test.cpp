@@ -99,7 +99,7 @@ INSTANTIATE_TEST_SUITE_P(Cases, GoldenCommand, testing::ValuesIn(goldenCases()),
                              return name;
                          });
 
-TEST(Command, TellsItsVersion) {
+TEST(Command, PrintsItsVersion) {
     const ProcessResult result = runCommand(L"--version");
 
     EXPECT_EQ(result.output.substr(0, 9), "quorvane ");

@@ -125,7 +125,7 @@ TEST_F(Dispatch, ReadsPropertiesAsScriptsDoThatTakeThemForFunctions) {
     EXPECT_EQ(document_.invoke(document_.idOf("PageWidth"), DISPATCH_METHOD).value.number(), 12242);
 }
 
-TEST_F(Dispatch, AnswersMethodsThatAreCalledAsFunctions) {
+TEST_F(Dispatch, ReturnsFromMethodsThatAreCalledAsFunctions) {
     const Outcome outcome =
         rows_.invoke(rows_.idOf("AddTail"), DISPATCH_METHOD | DISPATCH_PROPERTYGET);
 
@@ -161,7 +161,7 @@ TEST_F(Dispatch, RoundsFractionsHalvesToEven) {
     EXPECT_EQ(document_.get("PageWidth").value.number(), 0);
 }
 
-TEST_F(Dispatch, RefusesWhatIsNoNumber) {
+TEST_F(Dispatch, RefusesWhatIsNotANumber) {
     EXPECT_EQ(document_.set("PageWidth", {"wide"}).error.number, DISP_E_TYPEMISMATCH);
     EXPECT_EQ(document_.set("PageWidth", {Variant::null()}).error.number, DISP_E_TYPEMISMATCH);
     EXPECT_EQ(document_.set("PageWidth", {Variant(document_.get())}).error.number,
@@ -170,7 +170,7 @@ TEST_F(Dispatch, RefusesWhatIsNoNumber) {
     EXPECT_EQ(document_.get("PageWidth").value.number(), 12242);
 }
 
-TEST_F(Dispatch, TellsWhichArgumentIsBad) {
+TEST_F(Dispatch, ReportsWhichArgumentIsBad) {
     const LateBound cell = paragraph().object("Parent");
     VARIANT values[2] = {};
     values[0].vt = VT_I4;
@@ -438,7 +438,7 @@ TEST_F(Dispatch, ForgetsAnEarlierErrorWhenACallBegins) {
     EXPECT_EQ(GetErrorInfo(0, left.out()), S_FALSE);
 }
 
-TEST_F(Dispatch, TellsOfItsInterface) {
+TEST_F(Dispatch, DescribesItsInterface) {
     ComPtr<ITypeInfo> type;
     UINT count = 0;
     TYPEATTR* attributes = nullptr;

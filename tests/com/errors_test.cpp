@@ -133,7 +133,7 @@ TEST_F(Errors, OfADescriptionFileThatIsNotThere) {
     EXPECT_EQ(late(driver_.get()).call("ParseFile", {"Z:\\nosuch"}).error, expected);
 }
 
-TEST_F(Errors, AreToldForTheInterfaceThatTheyAreOf) {
+TEST_F(Errors, AreReportedForTheirInterface) {
     const auto support = document_.as<ISupportErrorInfo>();
 
     EXPECT_EQ(support->InterfaceSupportsErrorInfo(__uuidof(_CRtfDoc)), S_OK);
@@ -147,7 +147,7 @@ TEST_F(Errors, AreToldForTheInterfaceThatTheyAreOf) {
     EXPECT_TRUE(IsEqualGUID(interfaceId, __uuidof(_CRtfDriver)));
 }
 
-TEST_F(Errors, AreToldByEveryClassOfObjects) {
+TEST_F(Errors, AreReportedByEveryClassOfObjects) {
     rows()->AddTail(nullptr);
     ComPtr<_CRtfTableRow> row;
     ComPtr<_CRtfTableCells> cells;

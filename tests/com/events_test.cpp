@@ -24,7 +24,7 @@ using testing::IsEmpty;
 
 class Events : public testing::Test {
 protected:
-    /// Analyzes a text that is no description: its one error is that the doc node is missing.
+    /// Analyzes a text that is not a description: its one error is that the doc node is missing.
     void parseRejectedText() const {
         EXPECT_EQ(driver_->ParseFromMemmory(Bstr(L"nothing").get()), S_OK);
     }
@@ -74,7 +74,7 @@ TEST_F(Events, AreNoneOfADocument) {
     EXPECT_FALSE(document.as<IConnectionPointContainer>());
 }
 
-TEST_F(Events, TellTheirNameAndTheirSender) {
+TEST_F(Events, PassTheirNameAndTheirSender) {
     std::vector<std::wstring> names;
     ComPtr<IUnknown> sender;
     const EventConnection connection(
@@ -283,7 +283,7 @@ TEST_F(Events, LetASinkComeBackToADriverThatEnds) {
     EXPECT_EQ(component_.canUnloadNow(), S_OK);
 }
 
-TEST_F(Events, DoNotCareWhatASinkAnswers) {
+TEST_F(Events, IgnoreWhatASinkReturns) {
     int count = 0;
     const EventConnection failing(driver_.get(),
                                   [](const std::wstring&, DISPPARAMS&) { return E_FAIL; });
@@ -315,7 +315,7 @@ TEST_F(Events, HaveOneConnectionPoint) {
     EXPECT_FALSE(more);
 }
 
-TEST_F(Events, TellTheirConnections) {
+TEST_F(Events, ListTheirConnections) {
     int count = 0;
     const EventConnection one(driver_.get(), counting(count));
     EventConnection two(driver_.get(), counting(count));
@@ -338,7 +338,7 @@ TEST_F(Events, TellTheirConnections) {
     EXPECT_EQ(connections().size(), 1U);
 }
 
-TEST_F(Events, RefuseWhatIsNoConnection) {
+TEST_F(Events, RefuseWhatIsNotAConnection) {
     DWORD cookie = 99;
     class Deaf : public ComObject<IUnknown> {};
 
@@ -350,7 +350,7 @@ TEST_F(Events, RefuseWhatIsNoConnection) {
     EXPECT_EQ(point()->Advise(makeCom<Deaf>().get(), nullptr), E_POINTER);
 }
 
-TEST_F(Events, NeedAPlaceForEveryAnswer) {
+TEST_F(Events, NeedAPlaceForEveryResult) {
     const ComPtr<IConnectionPointContainer> container = driver_.as<IConnectionPointContainer>();
     EXPECT_EQ(container->EnumConnectionPoints(nullptr), E_POINTER);
     EXPECT_EQ(container->FindConnectionPoint(__uuidof(__CRtfDriver), nullptr), E_POINTER);

@@ -91,7 +91,7 @@ public:
         }
     }
 
-    /// Nothing when there is no such text.
+    /// `std::nullopt` when there is no such text.
     std::optional<std::string> text(const std::wstring& name) const {
         void* found = nullptr;
         UINT length = 0;
@@ -146,7 +146,7 @@ TEST_F(Files, HaveNamesInAnyScript) {
     EXPECT_EQ(bytesOfFile(file), "{}");
 }
 
-TEST_F(Files, ThatCannotBeWrittenAreNoErrorToTheHost) {
+TEST_F(Files, ThatCannotBeWrittenAreNotAnErrorForTheHost) {
     EXPECT_TRUE(document_.call("Commit", {"C:\\no such folder\\x.rtf"}).succeeded());
     EXPECT_TRUE(document_.call("Commit", {""}).succeeded());
 }
@@ -245,7 +245,7 @@ TEST(ComponentFile, HasATitleForMessages) {
     EXPECT_STREQ(title, L"Quorvane");
 }
 
-TEST(ComponentFile, TellsWhatItIs) {
+TEST(ComponentFile, DescribesItself) {
     const VersionInformation information(componentFile());
 
     EXPECT_EQ(information.text(L"CompanyName"), "the Quorvane authors");
@@ -258,7 +258,7 @@ TEST(ComponentFile, TellsWhatItIs) {
     EXPECT_EQ(information.text(L"ProductVersion"), QUORVANE_VERSION);
 }
 
-TEST(ComponentFile, TellsThatItCanRegisterItself) {
+TEST(ComponentFile, DeclaresThatItCanRegisterItself) {
     EXPECT_EQ(VersionInformation(componentFile()).text(L"OLESelfRegister"), "");
 }
 

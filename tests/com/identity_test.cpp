@@ -137,7 +137,7 @@ TEST_F(Identity, RefusesNullPointers) {
         E_POINTER);
 }
 
-TEST_F(Identity, TellsTheClassOfEveryObject) {
+TEST_F(Identity, ReportsTheClassOfEveryObject) {
     const auto classOf = [](const auto& object) {
         ComPtr<ITypeInfo> info;
         Bstr name;

@@ -98,7 +98,7 @@ constexpr const char* styles =
 constexpr const char* badStyles = "{name: x; nosuch: 1}";
 constexpr const char* unbalancedStyles = "{name: x";
 
-TEST_F(Members, AnswerTheSameEarlyAndLateBoundAsTheLibrary) {
+TEST_F(Members, ReturnTheSameEarlyAndLateBoundAsTheLibrary) {
     const Value none{Missing{}};
     // The document.
     EXPECT_EQ(perform(document, "_CRtfDoc.get Contents"), "\"{}\"");
@@ -281,7 +281,7 @@ TEST_F(Members, AnswerTheSameEarlyAndLateBoundAsTheLibrary) {
                 testing::UnorderedElementsAreArray(members()));
 }
 
-TEST_F(Members, AnswerTheSameWhenTheOwnersAreGone) {
+TEST_F(Members, ReturnTheSameWhenTheOwnersAreGone) {
     perform(document, "_CRtfDoc.get TableRows");
     perform(2, "_CRtfTableRows.call AddTail", {Missing{}});
     perform(2, "_CRtfTableRows.get Item", {1});
@@ -412,7 +412,7 @@ private:
     std::vector<std::string> members_;
 };
 
-TEST_F(Members, AnswerTheSameToRandomOperations) {
+TEST_F(Members, ReturnTheSameToRandomOperations) {
     RandomOperations random(20031);
     for (int step = 0; step < 20000 && !HasFailure(); ++step) {
         const Operation operation = random.next(*native_);

@@ -337,7 +337,7 @@ void expectOnlyOutOfMemory(const Work& work, HRESULT usual,
     }
 }
 
-TEST(ScarceMemory, LeavesADocumentThatIsBuiltByHandWholeOrTellsOfIt) {
+TEST(ScarceMemory, LeavesADocumentThatIsBuiltByHandWholeOrReportsTheShortage) {
     std::string contents;
     buildingByHand(contents)(Component());
     const std::string expected = contents;
@@ -345,7 +345,7 @@ TEST(ScarceMemory, LeavesADocumentThatIsBuiltByHandWholeOrTellsOfIt) {
     expectOnlyOutOfMemory(buildingByHand(contents), S_OK, [&] { EXPECT_EQ(contents, expected); });
 }
 
-TEST(ScarceMemory, LeavesADescribedDocumentWholeOrTellsOfIt) {
+TEST(ScarceMemory, LeavesADescribedDocumentWholeOrReportsTheShortage) {
     std::string contents;
     int events = 0;
     driving(contents, events)(Component());
@@ -359,7 +359,7 @@ TEST(ScarceMemory, LeavesADescribedDocumentWholeOrTellsOfIt) {
     });
 }
 
-TEST(ScarceMemory, IsToldToLateBoundHosts) {
+TEST(ScarceMemory, IsReportedToLateBoundHosts) {
     expectOnlyOutOfMemory(workLateBound, S_OK, [] {});
 }
 

@@ -102,7 +102,7 @@ TEST(TypeLibrary, DescribesColorsAsDocumentsShowThem) {
     EXPECT_EQ(count, 57U);
 }
 
-TEST(TypeLibrary, BeginsEveryVtableBehindThatOfIDispatch) {
+TEST(TypeLibrary, BeginsEveryVtableAfterThatOfIDispatch) {
     const ComPtr<ITypeLib> library = loaded(typeLibraryFile());
     ComPtr<ITypeInfo> document;
     ComPtr<ITypeInfo> vtable;

@@ -2,7 +2,7 @@
 """unreached.py COVERAGE REASONS: compares the lines that no test reaches with those for which there
 is a reason. Fails when one has none, and when a reason is left of a line that is reached or gone.
 
-COVERAGE is gcovr's report in JSON, REASONS a text: paragraphs of a reason behind "#" and of lines,
+COVERAGE is gcovr's report in JSON, REASONS a text: paragraphs of a reason after "#" and of lines,
 each as "file: line"; several unreached lines that follow each other stand as one. A line is known by
 its text, since its number changes with whatever is written above it.
 """

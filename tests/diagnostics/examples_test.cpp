@@ -34,8 +34,8 @@ std::vector<std::string> identifiers(const std::vector<Diagnostic>& findings) {
     return names;
 }
 
-/// The findings about an example, together with its companion. Examples are files: their bytes are
-/// read in Windows-1252.
+/// The diagnostics about an example, together with its companion. Examples are files: their bytes
+/// are read in Windows-1252.
 std::vector<std::string> findingsOf(std::string_view example, const DiagnosticRule& rule) {
     const std::string text = expandedExample(example);
     const std::string companion(rule.companion);

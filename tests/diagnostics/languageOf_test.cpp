@@ -13,7 +13,7 @@ TEST(LanguageOf, IsDescriptionHoweverManyBracesItsTextsHold) {
               CheckedLanguage::Description);
 }
 
-TEST(LanguageOf, IsDescriptionBehindBlankLinesAndComments) {
+TEST(LanguageOf, IsDescriptionAfterBlankLinesAndComments) {
     EXPECT_EQ(languageOf("\r\n ; {a}{b}{c}\r\n\t(doc\r\n(r {{{{{{"), CheckedLanguage::Description);
 }
 
@@ -40,7 +40,7 @@ TEST(LanguageOf, IsRtfThatIsBrokenWhereABackslashFollowsTheFirstBrace) {
     }
 }
 
-TEST(LanguageOf, IsThatOfTheExtensionWhereTheContentDoesNotTell) {
+TEST(LanguageOf, IsThatOfTheExtensionWhereTheContentIsAmbiguous) {
     EXPECT_EQ(languageOf("", "a.rtfss"), CheckedLanguage::StyleSheet);
     EXPECT_EQ(languageOf("; none yet\n", "B.RTFSS"), CheckedLanguage::StyleSheet);
     EXPECT_EQ(languageOf("Styles to come.", "a.rtfss"), CheckedLanguage::StyleSheet);
@@ -55,7 +55,7 @@ TEST(LanguageOf, IsThatOfTheExtensionWhereTheContentDoesNotTell) {
     EXPECT_EQ(languageOf("(doc\n", "a.rtfss"), CheckedLanguage::Description);
 }
 
-TEST(LanguageOf, LooksBehindTheMarkOfUtf8AndIntoUtf16) {
+TEST(LanguageOf, LooksAfterTheMarkOfUtf8AndIntoUtf16) {
     EXPECT_EQ(languageOf("\xEF\xBB\xBF(doc\n(r {{{{"), CheckedLanguage::Description);
     EXPECT_EQ(languageOf(std::string("\xFF\xFE{\0 \0n\0a\0m\0e\0:\0", 16)),
               CheckedLanguage::StyleSheet);

@@ -101,7 +101,7 @@ TEST(MeasureHints, DoubtNoMeasureThatSomebodyMayMean) {
     EXPECT_FALSE(isTinyMeasure("cell-width", 10));
 }
 
-TEST(NumberHints, ConvertAUnitBehindANumberWithAComma) {
+TEST(NumberHints, ConvertAUnitAfterANumberWithAComma) {
     EXPECT_EQ(numberHint("paper-height", "29,7cm").text, "29.7cm is 16838 twips; write 16838");
     EXPECT_EQ(numberHint("paper-height", "29,7 cm").replacement, "16838");
     EXPECT_EQ(numberHint("cell-width", "12,5%").replacement, "12.5");

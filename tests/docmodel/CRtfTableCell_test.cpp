@@ -151,7 +151,7 @@ TEST(DarkColors, AreTheseAndNoOthers) {
     }
 }
 
-TEST(DarkColors, AreNoneOutsideTheTable) {
+TEST(DarkColors, DoNotExistOutsideTheTable) {
     for (const int number : {-1, -64, -61, 58, 63, 64, 67, 68, INT32_MAX, INT32_MIN}) {
         EXPECT_FALSE(isDarkColor(color(number))) << number;
     }

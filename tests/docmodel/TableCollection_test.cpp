@@ -18,8 +18,8 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// What rows, cells and paragraphs have in common is tested on each of them. The elements are told
-// apart by a number that each kind keeps in some property of its own.
+// What rows, cells and paragraphs have in common is tested on each of them. The elements are
+// distinguished by a number that each kind keeps in some property of its own.
 
 struct Rows {
     static Ref<CRtfTableRows> of(const CellDocument& document) {
@@ -264,7 +264,7 @@ TYPED_TEST(Collection, RefusesAKeyThatIsThereAlready) {
     this->expectError(457, [&] { this->list->AddTail("key"); });
 }
 
-TYPED_TEST(Collection, RefusesAKeyThatIsNoText) {
+TYPED_TEST(Collection, RefusesAKeyThatIsNotAText) {
     this->add(1);
     for (const Value& key : {Value(7), Value(1.5), Value(true), Value(Null{}), Value(Date{1})}) {
         this->expectError(13, [&] { this->list->add(key); });

@@ -116,7 +116,7 @@ TEST_F(InlineStyles, ReplaceManyTokens) {
               "{\\cs100\\b x}{\\cs101\\b y}{\\cs102\\b\\cf30 z}");
 }
 
-TEST_F(InlineStyles, PassOverWhatIsNoToken) {
+TEST_F(InlineStyles, PassOverWhatIsNotAToken) {
     EXPECT_EQ(styled("<1=a> <bold=x>"), "<1=a> {\\cs100\\b x}");
     EXPECT_EQ(styled("<> <bold=x>"), "<> {\\cs100\\b x}");
 }
@@ -259,7 +259,7 @@ TEST_F(InlineStyles, ReplaceNothingWithoutAStylesheet) {
     EXPECT_EQ(styled("<bold=x> <bold=>"), "{x} {}");
 }
 
-TEST_F(InlineStyles, KeepCharactersThatAreNoText) {
+TEST_F(InlineStyles, KeepCharactersThatAreNotText) {
     EXPECT_EQ(styled("\xFF<bold=\xED\xA0\xBD>\x80"), "\xFF{\\cs100\\b \xED\xA0\xBD}\x80");
 }
 
@@ -591,7 +591,7 @@ TEST_F(InlineStyles, ReplaceManyTokensOfUnknownStylesInOneText) {
     EXPECT_EQ(styled(text), expected);
 }
 
-TEST_F(InlineStyles, LeaveManyBracketsThatAreNoTokens) {
+TEST_F(InlineStyles, LeaveManyBracketsThatAreNotTokens) {
     std::string text;
     for (int i = 0; i < 50'000; ++i) {
         text += "<1> ";

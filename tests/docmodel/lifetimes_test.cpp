@@ -457,7 +457,7 @@ TEST(ClearedRows, StayUsable) {
     EXPECT_EQ(held.paragraph->Text(), "changed");
 }
 
-TEST(ClearedRows, AreNoPartOfTheDocument) {
+TEST(ClearedRows, AreNotPartOfTheDocument) {
     Held held;
     held.document->ClearStructure();
 

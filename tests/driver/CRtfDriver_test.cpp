@@ -118,7 +118,7 @@ TEST_F(CRtfDriverTest, LeavesItsDocumentToWhoeverHoldsIt) {
     EXPECT_THAT(document->Contents(), HasSubstr(" x\\cell\\row}}"));
 }
 
-TEST_F(CRtfDriverTest, RunsOnTheSystemUnlessToldOtherwise) {
+TEST_F(CRtfDriverTest, RunsOnTheSystemByDefault) {
     const Ref<CRtfDriver> systemDriver = CRtfDriver::create();
     systemDriver->ParseFromMemmory(oneCell);
     EXPECT_EQ(systemDriver->RtfObject()->TableRows()->Count(), 1);
@@ -173,7 +173,7 @@ TEST_F(CRtfDriverTest, ReadsAFileInItsCodePage) {
               "Größe 5 €");
 }
 
-TEST_F(CRtfDriverTest, AnalysesAFileAsItAnalysesAText) {
+TEST_F(CRtfDriverTest, AnalyzesAFileAsItAnalyzesAText) {
     std::vector<ToldError> errors;
     driver->setNotifyErrorHandler(
         [&](CRtfDriver&, const RtfError& error) { errors.push_back(told(error)); });
@@ -195,7 +195,7 @@ TEST_F(CRtfDriverTest, RefusesAFileThatIsNotThere) {
     EXPECT_EQ(told(*currentError()), wrongPath("no such.rtfspec doesn't exist or is unreacheable"));
 }
 
-TEST_F(CRtfDriverTest, RefusesAFileThatCannotBeReadAndTellsTheCause) {
+TEST_F(CRtfDriverTest, RefusesAFileThatCannotBeReadWithTheCause) {
     platform.files["in"] = oneCell;
     platform.fail("readFile", RunTimeError::PathFileAccessError);
     try {
@@ -298,7 +298,7 @@ TEST_F(CRtfDriverTest, TakesAStyleSheetThatCannotBeReadForAnEmptyOne) {
     EXPECT_TRUE(driver->RtfObject()->StyleSheetOk());
 }
 
-TEST_F(CRtfDriverTest, RefusesABadStyleSheetAndTellsTheCause) {
+TEST_F(CRtfDriverTest, RefusesABadStyleSheetWithTheCause) {
     platform.files["a.rtfss"] = badKeyword;
     try {
         driver->setStyleSheetFile("a.rtfss");
@@ -313,7 +313,7 @@ TEST_F(CRtfDriverTest, RefusesABadStyleSheetAndTellsTheCause) {
     EXPECT_FALSE(driver->RtfObject()->StyleSheetOk());
 }
 
-TEST_F(CRtfDriverTest, TellsUnbalancedBracesAsTheCause) {
+TEST_F(CRtfDriverTest, GivesUnbalancedBracesAsTheCause) {
     platform.files["a.rtfss"] = badBraces;
     try {
         driver->setStyleSheetFile("a.rtfss");
@@ -430,7 +430,7 @@ TEST_F(CRtfDriverTest, LeavesTheClipboardAloneOtherwise) {
     EXPECT_THAT(platform.clipboardTexts, IsEmpty());
 }
 
-TEST_F(CRtfDriverTest, TellsThatTheClipboardFailedAndGoesOn) {
+TEST_F(CRtfDriverTest, ReportsThatTheClipboardFailedAndGoesOn) {
     std::vector<ToldError> errors;
     driver->setNotifyErrorHandler(
         [&](CRtfDriver&, const RtfError& error) { errors.push_back(told(error)); });
@@ -506,7 +506,7 @@ TEST(Analysis, WantsTheParenthesisOfTheLastLineToo) {
                                                 6)));
 }
 
-TEST(Analysis, TellsTheFirstLineWhenBothAreWrong) {
+TEST(Analysis, ReportsTheFirstLineWhenBothAreWrong) {
     EXPECT_THAT(errorsOf("(k=1)|(doc|(r|r)|doc)|(k=2)"), testing::Contains(wrongRoot(1)));
 }
 
@@ -552,7 +552,7 @@ TEST(Analysis, ReportsAllSevenErrorsThatOneTextCanHave) {
                             absentKey(), absentKey(), absentKey()));
 }
 
-TEST(Analysis, ChecksOnlyWhenItIsTold) {
+TEST(Analysis, ChecksOnlyOnRequest) {
     const std::string text = "(doc|(r|(colour=red)|(c|(p|(PT=Total)|p)|c)|r)|doc)";
     EXPECT_THAT(errorsOf(text), IsEmpty());
     EXPECT_THAT(checkedErrorsOf(text),
@@ -575,7 +575,7 @@ TEST(Analysis, GoesOnWithTheValuesWhenTheSyntaxIsWrong) {
                                           "CRtfDriver.treWalkerSemantic", 3)));
 }
 
-TEST(Analysis, TellsOnlyTheBuildOfAnAlignmentThatIsNone) {
+TEST(Analysis, ReportsAnInvalidAlignmentInTheBuildOnly) {
     EXPECT_THAT(checkedErrorsOf(cellWith("(ca=middle)")),
                 ElementsAre(driverErrorOf(eWrongValue, "middle isn't a recognized alignment.",
                                           "CRtfDriver.treWalkerSemantic", 4)));
@@ -589,7 +589,7 @@ TEST(Analysis, TakesANumberForANameWithAndWithoutChecks) {
     EXPECT_EQ(checked.row()->TopBorder(), eThin);
 }
 
-TEST(Analysis, ReportsANumberThatIsNoValueOnceWhenItBuilds) {
+TEST(Analysis, ReportsANumberThatIsNotAValueOnceWhenItBuilds) {
     for (const Checks checks : {Checks::On, Checks::Off}) {
         EXPECT_THAT(ParsedDescription(rowWith("(rb=58)"), checks).errors,
                     ElementsAre(driverErrorOf(eWrongValue, "58 isn't a recognized color.",
@@ -670,7 +670,7 @@ TEST(Analysis, CountsLinesByDifferentLineBreaks) {
                 ElementsAre(typeMismatch(5)));
 }
 
-TEST(Analysis, TellsTheLineOfEveryKindOfError) {
+TEST(Analysis, ReportsTheLineOfEveryKindOfError) {
     const std::string before = "; first||(doc|";
     const std::string after = "|; last|doc)";
     const auto lineOf = [&](const std::string& text, Checks checks = Checks::Off) {
@@ -692,7 +692,7 @@ TEST(Analysis, TellsTheLineOfEveryKindOfError) {
     EXPECT_EQ(lineOf("(r|(c|(cw=1e9)|c)|r)"), 6);
 }
 
-TEST(Analysis, TellsTheLineOfANodeThatIsInTheWrongPlace) {
+TEST(Analysis, ReportsTheLineOfANodeThatIsInTheWrongPlace) {
     const std::vector<ToldError> errors =
         checkedErrorsOf("(doc|(r|(c|c)||(doc|(r|(c|c)|r)|doc)|r)|doc)");
     EXPECT_THAT(errors, testing::Contains(driverErrorOf(
@@ -700,7 +700,7 @@ TEST(Analysis, TellsTheLineOfANodeThatIsInTheWrongPlace) {
                             "CRtDriver.treeWalkerSemantic", 6)));
 }
 
-TEST(Analysis, TellsTheLineOfTheRowThatIsTooMuch) {
+TEST(Analysis, ReportsTheLineOfTheFirstRowBeyondTheLimit) {
     std::string text = "(doc||";
     for (int i = 0; i < 1000; ++i) {
         text += "(r|r)|";

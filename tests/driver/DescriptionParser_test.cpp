@@ -268,13 +268,13 @@ TEST(DescriptionParser, NamesAWrongCloserAsItIsWritten) {
     EXPECT_EQ(ReadDescription(lines("(doc|  Row)\t;x")).error, wrongNodeType("Row)\t;x", 2));
 }
 
-TEST(DescriptionParser, RefusesALineThatIsNothing) {
+TEST(DescriptionParser, RefusesAnUnreadableLine) {
     const ReadDescription read(lines("(doc|(r|(c|(p|(pt Total)|p)|c)|r)|doc)"));
     EXPECT_EQ(read.error, wrongSyntax("(pt Total)", 5));
     EXPECT_EQ(read.tree, "{1{1001{2001{3001{}}}}}");
 }
 
-TEST(DescriptionParser, RefusesEveryKindOfLineThatIsNothing) {
+TEST(DescriptionParser, RefusesEveryKindOfUnreadableLine) {
     for (const char* line : {"x", "(", ")", "()", "(rows", "rows)", "(r)", "(r (c", "(pt=x) y",
                              "(pt=x", "pt=x)", "(doc)", "p) p)", "(pt=a)b)", "( r"}) {
         EXPECT_EQ(ReadDescription(lines("(doc|" + std::string(line))).error, wrongSyntax(line, 2));

@@ -233,12 +233,12 @@ TEST(DescriptionSemantics, HaveNothingAgainstAGoodDescription) {
     EXPECT_EQ(semanticsOf(exampleDescription), ToldError());
 }
 
-TEST(DescriptionSemantics, TakeTheNamesOfColoursInAnyCase) {
+TEST(DescriptionSemantics, TakeTheNamesOfColorsInAnyCase) {
     EXPECT_EQ(semanticsOf(rowWith("(rb=Light-Yellow)")), ToldError());
     EXPECT_EQ(semanticsOf(cellWith("(cb=none)")), ToldError());
 }
 
-TEST(DescriptionSemantics, RefuseWhatIsNoColour) {
+TEST(DescriptionSemantics, RefuseWhatIsNotAColor) {
     EXPECT_EQ(semanticsOf(rowWith("(rb=crimson)")), noColor("crimson", 3));
     EXPECT_EQ(semanticsOf(cellWith("(cb=Crimson)")), noColor("Crimson", 4));
     EXPECT_EQ(semanticsOf(cellWith("(cb=)")), noColor("", 4));
@@ -255,7 +255,7 @@ TEST(DescriptionSemantics, TakeTheNamesOfBordersInAnyCaseOnEverySide) {
     EXPECT_EQ(semanticsOf(cellWith("(ctb=normal)|(cbb=thick)|(clb=thin)|(crb=none)")), ToldError());
 }
 
-TEST(DescriptionSemantics, RefuseWhatIsNoBorderOnEverySide) {
+TEST(DescriptionSemantics, RefuseWhatIsNotABorderOnEverySide) {
     for (const char* key : {"rtb", "rbb", "rlb", "rrb"}) {
         EXPECT_EQ(semanticsOf(rowWith("(" + std::string(key) + "=medium)")), noBorder("medium", 3));
     }

@@ -42,7 +42,7 @@ TEST(DescriptionTree, AddsChildrenOfEveryKind) {
     EXPECT_THAT(childNumbers(root), ElementsAre(1001, 2001, 3001, 1));
 }
 
-TEST(DescriptionTree, RefusesToAddWhatIsNoNode) {
+TEST(DescriptionTree, RefusesToAddWhatIsNotANode) {
     DescriptionTree tree;
     EXPECT_EQ(
         errorOf([&] { tree.AddNode(tree.root(), NodeKind::None, 1001, 8); }),
@@ -119,7 +119,7 @@ TEST(DescriptionTree, TakesTheSameKeyInDifferentNodes) {
     }
 }
 
-TEST(DescriptionTree, TellsKeysApartToTheLetter) {
+TEST(DescriptionTree, DistinguishesKeysToTheLetter) {
     DescriptionTree tree;
     tree.addLeaf(tree.root(), leaf("para-text", "a", 3));
     tree.addLeaf(tree.root(), leaf("Para-Text", "b", 4));

@@ -198,13 +198,13 @@ const std::vector<std::pair<std::string, int>> colors = {
     {"light-green", 20}, {"none", 0},
 };
 
-TEST(DocumentBuilder, SetsTheBackColourOfARowByEveryName) {
+TEST(DocumentBuilder, SetsTheBackColorOfARowByEveryName) {
     for (const auto& [name, value] : colors) {
         EXPECT_EQ(BuiltDocument(rowWith("(row-backcolor=" + name + ")")).row()->BackColor(), value);
     }
 }
 
-TEST(DocumentBuilder, SetsTheBackColourOfACellByEveryName) {
+TEST(DocumentBuilder, SetsTheBackColorOfACellByEveryName) {
     for (const auto& [name, value] : colors) {
         const BuiltDocument built(cellWith("(cell-backcolor=" + name + ")"));
         EXPECT_EQ(built.cell()->BackColor(), value);
@@ -219,21 +219,21 @@ TEST(DocumentBuilder, TakesNamesInAnyCase) {
     EXPECT_EQ(built.cell()->Align(), eCentered);
 }
 
-TEST(DocumentBuilder, TakesTheNumberOfEveryColour) {
+TEST(DocumentBuilder, TakesTheNumberOfEveryColor) {
     for (int value = 0; value <= 57; ++value) {
         EXPECT_EQ(BuiltDocument(rowWith("(rb=" + std::to_string(value) + ")")).row()->BackColor(),
                   value);
     }
 }
 
-TEST(DocumentBuilder, TakesANumberInAnyFormForAColour) {
+TEST(DocumentBuilder, TakesANumberInAnyFormForAColor) {
     for (const char* form : {"0032", "32.0", "3.2e1", "+32"}) {
         EXPECT_EQ(BuiltDocument(cellWith("(cb=" + std::string(form) + ")")).cell()->BackColor(),
                   eSilver);
     }
 }
 
-TEST(DocumentBuilder, RefusesANumberThatIsNoColour) {
+TEST(DocumentBuilder, RefusesANumberThatIsNotAColor) {
     EXPECT_THAT(errorsOf(rowWith("(rb=58)")),
                 ElementsAre(wrongValue("58 isn't a recognized color.", 3)));
     EXPECT_THAT(errorsOf(cellWith("(cb=-1)")),
@@ -246,7 +246,7 @@ TEST(DocumentBuilder, RefusesANumberThatIsNoColour) {
                 ElementsAre(wrongValue("1e+300 isn't a recognized color.", 4)));
 }
 
-TEST(DocumentBuilder, RefusesAWordThatIsNoColour) {
+TEST(DocumentBuilder, RefusesAWordThatIsNotAColor) {
     EXPECT_THAT(errorsOf(rowWith("(rb=crimson)")),
                 ElementsAre(wrongValue("crimson isn't a recognized color.", 3)));
     EXPECT_THAT(errorsOf(cellWith("(cb=)")),
@@ -316,7 +316,7 @@ TEST(DocumentBuilder, TakesAwayTheBorderAndTheGroundOfTheRow) {
               "\r\n{\\intbl\\trowd\\trql\\trgaph70\\trleft0 \\cellx8840 \r\n\\cell\\row}");
 }
 
-TEST(DocumentBuilder, RefusesWhatIsNoBorder) {
+TEST(DocumentBuilder, RefusesWhatIsNotABorder) {
     for (const BorderKey& border : rowBorders) {
         EXPECT_THAT(errorsOf(rowWith("(" + std::string(border.key) + "=medium)")),
                     ElementsAre(wrongValue("medium isn't a recognized border.", 3)));
@@ -357,7 +357,7 @@ TEST(DocumentBuilder, TakesTheNumberOfAnAlignmentForItsName) {
     }
 }
 
-TEST(DocumentBuilder, RefusesWhatIsNoAlignment) {
+TEST(DocumentBuilder, RefusesWhatIsNotAnAlignment) {
     EXPECT_THAT(errorsOf(cellWith("(ca=center)")),
                 ElementsAre(wrongValue("center isn't a recognized alignment.", 4)));
     EXPECT_THAT(errorsOf(paraWith("(pa=)")),
@@ -428,7 +428,7 @@ TEST(DocumentBuilder, LeavesACellUnmarkedForANumber) {
               "\r\n{\\intbl\\trowd\\trql\\trgaph70\\trleft0 \\cellx8840 \r\n\\cell\\row}");
 }
 
-TEST(DocumentBuilder, TellsTheObserverThatACellRefusedANumberForItsMarkedField) {
+TEST(DocumentBuilder, ReportsToTheObserverThatACellRefusedANumberForItsMarkedField) {
     FakePlatform platform;
     const Ref<CRtfDriver> driver = CRtfDriver::create(platform);
     std::vector<std::string> absorbed;
@@ -530,12 +530,12 @@ TEST(DocumentBuilder, TakesTheUsableWidthOfThePageThatTheDescriptionSets) {
     EXPECT_EQ(widthsOf(built), (std::vector<std::int32_t>{2500, 6340}));
 }
 
-TEST(DocumentBuilder, GivesTheBoundaryOfACellToItsRightNeighbour) {
+TEST(DocumentBuilder, GivesTheBoundaryOfACellToItsRightNeighbor) {
     const BuiltDocument built("(doc|(r|(c|(cw=10)|c)|(c|(cw=20)|c)|(c|c)|(c|c)|r)|doc)");
     EXPECT_EQ(widthsOf(built), (std::vector<std::int32_t>{884, 1768, 3978, 2210}));
 }
 
-TEST(DocumentBuilder, GivesTheBoundaryOfTheLastCellToItsLeftNeighbour) {
+TEST(DocumentBuilder, GivesTheBoundaryOfTheLastCellToItsLeftNeighbor) {
     const BuiltDocument built("(doc|(r|(c|c)|(c|(cw=75)|c)|r)|doc)");
     EXPECT_EQ(widthsOf(built), (std::vector<std::int32_t>{2210, 6630}));
 }
@@ -607,7 +607,7 @@ TEST(DocumentBuilder, KeepsTheEvenWidthOfACellThatItRefiles) {
     EXPECT_EQ(built.row()->TableCells()->indexOf(built.cell("9").get()), 2);
 }
 
-TEST(DocumentBuilder, KeepsAWidthThatANeighbourSetForACellThatItRefiles) {
+TEST(DocumentBuilder, KeepsAWidthThatANeighborSetForACellThatItRefiles) {
     const BuiltDocument built("(doc|(r|(c|(cw=25)|c)|(c|(cell-key=9)|c)|r)|doc)");
     EXPECT_EQ(widthsOf(built), (std::vector<std::int32_t>{2210, 6630}));
 }
@@ -618,7 +618,7 @@ TEST(DocumentBuilder, LosesTheAlignmentOfACellThatItRefiles) {
     EXPECT_EQ(built.cell("9")->Align(), eNoDefault);
 }
 
-TEST(DocumentBuilder, AppliesTheKeysBehindTheKeyToTheRefiledCell) {
+TEST(DocumentBuilder, AppliesTheKeysAfterTheKeyToTheRefiledCell) {
     const BuiltDocument built(
         "(doc|(r|(c|(cell-key=9)|(clb=hair)|(cmf=AB)|(crb=thin)|(cs=box)|"
         "(ctb=thick)|(cw=50)|c)|(c|c)|r)|doc)");
@@ -628,7 +628,7 @@ TEST(DocumentBuilder, AppliesTheKeysBehindTheKeyToTheRefiledCell) {
     EXPECT_THAT(tableOf(built), testing::HasSubstr("\\txfielddata 4142}"));
 }
 
-TEST(DocumentBuilder, AppliesTheBordersBehindTheKeyToTheRefiledRow) {
+TEST(DocumentBuilder, AppliesTheBordersAfterTheKeyToTheRefiledRow) {
     const BuiltDocument built(rowWith("(rlb=hair)|(rrb=thin)|(rtb=thick)|(row-key=7)"));
     EXPECT_EQ(bordersOf(built.row("7")), (std::vector<std::int32_t>{30, -1, 5, 10}));
     EXPECT_EQ(bordersOf(built.cell()), (std::vector<std::int32_t>{30, -1, 5, 10}));
@@ -691,7 +691,7 @@ TEST(DocumentBuilder, RefilesEveryEntryOnTheWayDown) {
     EXPECT_EQ(built.para("3", "2", "1")->Parent()->Parent().get(), built.row("1").get());
 }
 
-// The first row refuses its marked field, and whoever is told of it looks at the second row.
+// The first row refuses its marked field, and the observer looks at the second row.
 TEST(DocumentBuilder, TakesCellsAndParagraphsOfARefiledRowAsTheObjectsTheyAre) {
     FakePlatform platform;
     const Ref<CRtfDriver> driver = CRtfDriver::create(platform);

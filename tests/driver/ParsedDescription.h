@@ -14,7 +14,7 @@
 
 namespace quorvane {
 
-/// What can be told of an error.
+/// What a test compares of an error.
 struct ToldError {
     std::int32_t number = 0;
     std::string description;
@@ -93,7 +93,7 @@ inline std::string paraWithText(const std::string& text) {
 
 enum class Checks { Off, On };
 
-/// A driver that has analysed a description, and what it reported.
+/// A driver that has analyzed a description, and what it reported.
 class ParsedDescription {
 public:
     explicit ParsedDescription(std::string_view text, Checks checks = Checks::Off) {

@@ -194,7 +194,7 @@ TEST(Vocabulary, NumbersNoKeyThatItDoesNotKnow) {
     }
 }
 
-TEST(Vocabulary, KnowsTheColourKeys) {
+TEST(Vocabulary, KnowsTheColorKeys) {
     EXPECT_THAT(selected([](const std::string& key) { return contains(colorKeys, known(key)); }),
                 ElementsAre("row-backcolor", "cell-backcolor"));
 }
@@ -241,13 +241,13 @@ const std::vector<std::pair<std::string, int>> colors = {
     {"light-green", 20},   {"none", 0},
 };
 
-TEST(Vocabulary, KnowsTheNamesOfTheColours) {
+TEST(Vocabulary, KnowsTheNamesOfTheColors) {
     for (const auto& [name, value] : colors) {
         EXPECT_EQ(vocabulary.colorNamed(name), static_cast<tColorIndex>(value)) << name;
     }
 }
 
-TEST(Vocabulary, NamesTheColoursUpTo37OnceEach) {
+TEST(Vocabulary, NamesTheColorsUpTo37OnceEach) {
     std::vector<int> values;
     for (const auto& [name, value] : colors) {
         values.push_back(value);
@@ -258,12 +258,12 @@ TEST(Vocabulary, NamesTheColoursUpTo37OnceEach) {
     EXPECT_EQ(values, all);
 }
 
-TEST(Vocabulary, KnowsTheNamesOfColoursInAnyCase) {
+TEST(Vocabulary, KnowsTheNamesOfColorsInAnyCase) {
     EXPECT_EQ(vocabulary.colorNamed("Light-Yellow"), eLightYellow);
     EXPECT_EQ(vocabulary.colorNamed("NONE"), eNoColor);
 }
 
-TEST(Vocabulary, HasNoNamesForTheColoursFrom38) {
+TEST(Vocabulary, HasNoNamesForTheColorsFrom38) {
     for (const char* name : {"brick",           "cork",        "yellow-cork",    "dark-cork",
                              "dark-silver",     "gray-blue",   "dark-navy-blue", "light-royal-blue",
                              "violet",          "dodger-blue", "sargasso-green", "royal-blue",
@@ -273,7 +273,7 @@ TEST(Vocabulary, HasNoNamesForTheColoursFrom38) {
     }
 }
 
-TEST(Vocabulary, RefusesOtherWordsAndNumbersForColours) {
+TEST(Vocabulary, RefusesOtherWordsAndNumbersForColors) {
     for (const Value& value :
          {Value("crimson"), Value(""), Value("light yellow"), Value("lightyellow"), Value(" red"),
           Value("30"), Value(30), Value(30.0), Value(true), Value(Empty{})}) {
@@ -367,7 +367,7 @@ TEST(Vocabulary, ShortensWhatHasAShortForm) {
     EXPECT_EQ(vocabulary.shorten("Row"), "Row");
 }
 
-TEST(Vocabulary, KnowsNoKeyOfWhatIsNoNode) {
+TEST(Vocabulary, KnowsNoKeyOfWhatIsNotANode) {
     EXPECT_FALSE(vocabulary.isKeyOf(NodeKind::None, "para-text"));
     EXPECT_FALSE(vocabulary.isKeyOf(NodeKind::None, ""));
 }

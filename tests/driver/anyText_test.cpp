@@ -307,7 +307,7 @@ TEST_F(AnyText, MayBeOneEndlessText) {
     EXPECT_GT(driver->Contents().size(), megabytes);
 }
 
-TEST_F(AnyText, MayBeOneEndlessLineThatIsNothing) {
+TEST_F(AnyText, MayBeOneEndlessUnreadableLine) {
     for (const char* part :
          {"x", "(", ")", "=", "=)", "(=", "()", "r)", "(r", "\xC3\xA9", "a b "}) {
         const std::string line =

@@ -35,13 +35,13 @@ TEST(driverErrors, AreNumberedFromTheirBaseByLevel) {
     }
 }
 
-TEST(driverErrors, TellTheirLevel) {
+TEST(driverErrors, HaveALevel) {
     for (const NamedLevel& expected : levels) {
         EXPECT_EQ(errorLevel(expected.number), expected.level) << expected.name;
     }
 }
 
-TEST(driverErrors, TellTheNameOfTheirLevel) {
+TEST(driverErrors, NameTheirLevel) {
     for (const NamedLevel& expected : levels) {
         EXPECT_EQ(errorLevelName(expected.level), expected.name);
     }
@@ -62,7 +62,7 @@ TEST(driverErrors, CarryDescriptionSourceAndLine) {
               (ToldError{static_cast<std::int32_t>(0x80040008), "what", "where", 7}));
 }
 
-TEST(driverErrors, HaveNoSourceAndNoLineUnlessTold) {
+TEST(driverErrors, HaveNoSourceAndNoLineByDefault) {
     EXPECT_EQ(told(driverError(eWrongPath, "what")),
               (ToldError{static_cast<std::int32_t>(0x80040003), "what", "", 0}));
 }
@@ -72,7 +72,7 @@ TEST(driverErrors, GetTheLineOfTheBodyThatRaisesThem) {
     EXPECT_EQ(errorOf([&] { atLine(12, body); }), typeMismatch(12));
 }
 
-TEST(driverErrors, KeepTheLineThatTheyTellThemselves) {
+TEST(driverErrors, KeepTheirOwnLine) {
     const auto body = [] { raise(driverError(eWrongValue, "x", "", 3)); };
     EXPECT_EQ(errorOf([&] { atLine(12, body); }).line, 3);
 }

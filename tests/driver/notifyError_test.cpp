@@ -169,7 +169,7 @@ TEST_F(NotifyError, LeavesADriverGoodAfterItsHandlerThrew) {
     EXPECT_EQ(driver->RtfObject()->TableRows()->Count(), 1);
 }
 
-TEST_F(NotifyError, LetsItsHandlerAnalyseAnotherText) {
+TEST_F(NotifyError, LetsItsHandlerAnalyzeAnotherText) {
     std::vector<ToldError> errors;
     driver->setNotifyErrorHandler([&](CRtfDriver& Sender, const RtfError& error) {
         errors.push_back(told(error));
@@ -208,7 +208,7 @@ TEST_F(NotifyError, LetsItsHandlerUseAnotherDriver) {
                                           "middle isn't a recognized alignment."));
 }
 
-TEST_F(NotifyError, LetsItsHandlerLetGoOfTheDriver) {
+TEST_F(NotifyError, LetsItsHandlerReleaseTheDriver) {
     const Ref<CRtfDoc> document = driver->RtfObject();
     driver->setNotifyErrorHandler([&](CRtfDriver&, const RtfError&) {
         ++events;
@@ -220,7 +220,7 @@ TEST_F(NotifyError, LetsItsHandlerLetGoOfTheDriver) {
     EXPECT_EQ(document->TableRows()->Count(), 1);
 }
 
-TEST_F(NotifyError, LetsItsHandlerLetGoOfTheDriverWhileItReadsAFile) {
+TEST_F(NotifyError, LetsItsHandlerReleaseTheDriverWhileItReadsAFile) {
     platform.files["in"] = lines("(row|row)");
     driver->setNotifyErrorHandler([&](CRtfDriver&, const RtfError&) {
         ++events;
@@ -275,7 +275,7 @@ TEST_F(NotifyError, LetsItsHandlerReadTheDocument) {
     EXPECT_EQ(text, driver->Contents());
 }
 
-// A refused marked field is absorbed, and whoever is told of it can do what it likes.
+// A refused marked field is absorbed, and the observer can do what it likes.
 TEST_F(NotifyError, SurvivesAnObserverThatTakesTheDocumentApartDuringTheBuild) {
     std::vector<ToldError> errors;
     driver->setNotifyErrorHandler(
@@ -289,7 +289,7 @@ TEST_F(NotifyError, SurvivesAnObserverThatTakesTheDocumentApartDuringTheBuild) {
     EXPECT_EQ(driver->RtfObject()->TableRows()->Item(1)->TableCells()->Count(), 1);
 }
 
-TEST_F(NotifyError, SurvivesAnObserverThatLetsGoOfTheDriverDuringTheBuild) {
+TEST_F(NotifyError, SurvivesAnObserverThatReleasesTheDriverDuringTheBuild) {
     const Ref<CRtfDoc> document = driver->RtfObject();
     driver->setAbsorbedErrorObserver([&](const AbsorbedError&) { driver = {}; });
     driver->ParseFromMemmory(lines("(doc|(r|(c|(cmf=1)|(cw=50)|c)|r)|doc)"));

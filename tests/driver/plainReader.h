@@ -14,7 +14,7 @@
 #include "quorvane/support/SourceLine.h"
 #include "tests/driver/ParsedDescription.h"
 
-// The reader as its rules are told, step by step and level by level, with no regard to speed or
+// The reader as its rules are stated, step by step and level by level, with no regard to speed or
 // stack: what tests and fuzzers compare the reader with.
 
 namespace quorvane::plain {
@@ -165,7 +165,7 @@ inline int closedBy(const std::string& line) {
                : kindOfName(head.substr(0, head.size() - 1));
 }
 
-// "(", anything, "=", anything, ")", anything; behind the first ")" nothing but a comment.
+// "(", anything, "=", anything, ")", anything; after the first ")" only a comment.
 inline bool isLeaf(const std::string& line) {
     const std::size_t equals = line.find('=');
     return line.substr(0, 1) == "(" && equals != std::string::npos &&

@@ -101,7 +101,7 @@ protected:
     int runs = 0;
 };
 
-TEST_F(FailingCalls, LeaveADescriptionReadOrToldAsUnreachable) {
+TEST_F(FailingCalls, LeaveADescriptionReadOrReportedAsUnreachable) {
     Ref<CRtfDriver> driver;
     std::optional<RtfError> error;
     failEachCall(
@@ -324,7 +324,7 @@ TEST_F(FailingJobs, KeepADescriptionThatTheDocumentWouldReplace) {
     EXPECT_GE(runs, 10);
 }
 
-TEST_F(FailingJobs, TellOfAFolderThatCannotBeFound) {
+TEST_F(FailingJobs, ReportAFolderThatCannotBeFound) {
     options.outputFolder = folder / "sub";
     const auto prepare = [&] {
         std::filesystem::remove_all(folder / "sub");
@@ -379,19 +379,19 @@ protected:
     std::vector<std::string> found;
 };
 
-TEST_F(FailingChecks, FindAllInADescriptionOrTellOfIt) {
+TEST_F(FailingChecks, FindEverythingInADescriptionOrReportTheFailure) {
     folder.write("b.rtfspec", cli::descriptionWithBadColor);
     expectCheckedOrTold("b.rtfspec");
     EXPECT_GE(runs, 30);
 }
 
-TEST_F(FailingChecks, FindAllInAStyleSheetOrTellOfIt) {
+TEST_F(FailingChecks, FindEverythingInAStyleSheetOrReportTheFailure) {
     folder.write("b.rtfss", cli::badStyleSheet);
     expectCheckedOrTold("b.rtfss");
     EXPECT_GE(runs, 30);
 }
 
-TEST_F(FailingChecks, FindAllInARichTextFileOrTellOfIt) {
+TEST_F(FailingChecks, FindEverythingInARichTextFileOrReportTheFailure) {
     // Longer than what is read at once.
     folder.write("b.rtf", "{\\rtf1 " + std::string(std::size_t{1500} * 1024, 'x') + "}}");
     expectCheckedOrTold("b.rtf");

@@ -48,7 +48,7 @@ TEST(FormatDescription, KeepsTheKindOfLineEnds) {
     EXPECT_EQ(formattedDescription("(doc\r\n(r\nr)\rdoc)"), "(doc\r\n  (r\r\n  r)\r\ndoc)\r\n");
 }
 
-TEST(FormatDescription, KeepsLinesThatAreNone) {
+TEST(FormatDescription, KeepsUnreadableLines) {
     EXPECT_EQ(formattedDescription("(doc\n  (pt Total)\ntext\n(a) ;=x)\ndoc)"),
               "(doc\n  (pt Total)\n  text\n  (a) ;=x)\ndoc)\n");
 }

@@ -18,7 +18,7 @@ inline std::string errorText(const ToldError& error) {
            error.description + " (" + error.source + ")\n";
 }
 
-/// A driver that analyses descriptions in memory, and what it reported.
+/// A driver that analyzes descriptions in memory, and what it reported.
 class DescriptionRun {
 public:
     explicit DescriptionRun(bool erroneousInput) {

@@ -61,7 +61,7 @@ inline const Names borderNames = {
 inline const Names alignmentNames = {
     {"left", 2}, {"right", 3}, {"centered", 1}, {"justified", 4}, {"none", 0}};
 
-/// The value of a name, in whatever case; nothing for a number, which is no name.
+/// The value of a name, in whatever case; nothing for a number, which is not a name.
 inline std::optional<std::int32_t> named(const Names& names, const Leaf& leaf) {
     const auto found = names.find(lowered(leaf.text));
     return leaf.number || found == names.end() ? std::nullopt : std::optional(found->second);

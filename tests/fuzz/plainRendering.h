@@ -24,7 +24,7 @@
 #include "tests/fuzz/plainAnalysis.h"
 
 // What a run of `render` comes to as the command's rules state it: every description by itself,
-// analysed as `plainAnalysis.h` does it, and refused for what the check finds.
+// analyzed as `plainAnalysis.h` does it, and refused for what the check finds.
 
 namespace quorvane::plain {
 

@@ -88,7 +88,7 @@ TEST(Growth, OfUnclosedRowsIsProportional) {
         1000);
 }
 
-TEST(Growth, OfRowsRightBehindEachOtherIsProportional) {
+TEST(Growth, OfRowsRightAfterEachOtherIsProportional) {
     expectProportional(
         [](std::size_t size) {
             analyze("(doc\n" + repeated("(r\n", size) + "(c\nc)\nr)\ndoc)", true);
@@ -115,7 +115,7 @@ TEST(Growth, OfAHundredMegabytesOfClosersIsBearable) {
     EXPECT_EQ(events, 1);
 }
 
-TEST(Growth, OfALineThatIsNothingIsProportional) {
+TEST(Growth, OfAnUnreadableLineIsProportional) {
     for (const char* part : {"(", "=", ")", "(=", ";", "r)"}) {
         expectProportional(
             [part](std::size_t size) {
@@ -252,11 +252,11 @@ TEST_F(InlineTokens, MayBeAMillion) {
     EXPECT_EQ(styled, repeated("{\\cs100\\b x}", 1'000'000));
 }
 
-TEST_F(InlineTokens, GrowProportionallyBehindAStrayBracket) {
+TEST_F(InlineTokens, GrowProportionallyAfterAStrayBracket) {
     expectProportionalTo("5 < 7 ", "<bold=x> ", 4000);
 }
 
-TEST_F(InlineTokens, GrowProportionallyBehindAStrayBracketWhenTheyDiffer) {
+TEST_F(InlineTokens, GrowProportionallyAfterAStrayBracketWhenTheyDiffer) {
     expectProportionalTo(
         [](std::size_t count) { return "5 < 7 " + numbered("<bold=", count, "> "); }, 2000);
     expectProportionalTo(
@@ -265,7 +265,7 @@ TEST_F(InlineTokens, GrowProportionallyBehindAStrayBracketWhenTheyDiffer) {
         [](std::size_t count) { return "5 < 7 " + numbered("<bold=x> ", count, ""); }, 2000);
 }
 
-TEST_F(InlineTokens, GrowProportionallyBehindManyStrayBrackets) {
+TEST_F(InlineTokens, GrowProportionallyAfterManyStrayBrackets) {
     expectProportionalTo(repeated("< ", 50), "<bold=x> ", 1000);
     expectProportionalTo(
         [](std::size_t count) { return repeated("< ", 50) + numbered("<bold=", count, "> "); },

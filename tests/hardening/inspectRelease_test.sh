@@ -1,6 +1,6 @@
 #!/bin/sh
 # inspectRelease_test.sh SOURCES FOLDER COMPILER: inspectRelease.sh finds out when files are compiled
-# without optimisation, and so without fortified functions.
+# without optimization, and so without fortified functions.
 here=$(dirname "$0")
 if said=$("$here/inspectRelease.sh" "$@" -DCMAKE_CXX_FLAGS_RELEASE=-O0 2>&1); then
     echo "it had nothing to say" >&2

@@ -163,7 +163,7 @@ TEST(WholeRunsOutOfMemory, CanBeBegunAnewWithTheSameFile) {
                       100);
 }
 
-TEST(WholeRunsOutOfMemory, TellTheirErrorsWhenTheyAreBegunAnew) {
+TEST(WholeRunsOutOfMemory, ReportTheirErrorsWhenTheyAreBegunAnew) {
     Subject undisturbed;
     const std::string expected = undisturbed.contentsOf(faultyDescription);
     ASSERT_GT(undisturbed.events, 2);
@@ -224,7 +224,7 @@ TEST(WholeRunsOutOfMemory, KeepTheTextsWhoseInlineStylesCouldNotBeReplaced) {
     expectRenderedLater(overlappingStyles, 50);
 }
 
-TEST(WholeRunsOutOfMemory, WriteTheFileWhenTheyAreToldAgain) {
+TEST(WholeRunsOutOfMemory, WriteTheFileWhenTheyAreCalledAgain) {
     expectNothingLost(
         [](Subject& subject) {
             subject.driver->RtfObject()->setChanged(true);
@@ -238,7 +238,7 @@ TEST(WholeRunsOutOfMemory, WriteTheFileWhenTheyAreToldAgain) {
         5);
 }
 
-TEST(WholeRunsOutOfMemory, LoadTheStylesheetWhenTheyAreToldAgain) {
+TEST(WholeRunsOutOfMemory, LoadTheStylesheetWhenTheyAreCalledAgain) {
     const std::string expected = Subject().contentsOf(description);
 
     expectNothingLost(
@@ -252,7 +252,7 @@ TEST(WholeRunsOutOfMemory, LoadTheStylesheetWhenTheyAreToldAgain) {
         20);
 }
 
-TEST(WholeRunsOutOfMemory, LoadTheStylesheetsFileWhenTheyAreToldAgain) {
+TEST(WholeRunsOutOfMemory, LoadTheStylesheetsFileWhenTheyAreCalledAgain) {
     const std::string expected = Subject().contentsOf(description);
 
     expectNothingLost([](Subject& subject) { subject.driver->setStyleSheetFile("style.rtfss"); },

@@ -286,7 +286,7 @@ TEST(RtfWords, AreKnownInEverySectionOfTheFormat) {
     }
 }
 
-TEST(RtfWords, AreNoOtherWords) {
+TEST(RtfWords, DoNotIncludeOtherWords) {
     for (const std::string_view word :
          {"", "bold", "italic", "budget", "nbsp", "PAR", "cellX", "texpage", "parr", "odd", "x"}) {
         EXPECT_FALSE(findRtfWord(word)) << word;

@@ -173,7 +173,7 @@ TEST(CMapTest, RenamingToAnotherEntrysKeyIsAnError) {
     expectEntries(map, {"b", 3, "a"}, {2, "three", 1});
 }
 
-TEST(CMapTest, Keys2ValuesAnswersTheValuesInTheMapsOrder) {
+TEST(CMapTest, Keys2ValuesReturnsTheValuesInTheMapsOrder) {
     const CMap map = threeEntries();
     EXPECT_EQ(map.Keys2Values(map.Keys()), map.Items());
     EXPECT_EQ(map.Keys2Values(List{"a", "x", "b", "a"}), (List{2, 1}));
@@ -199,7 +199,7 @@ TEST(CMapTest, SubMapTakesAKeyThatIsAskedForTwiceOnce) {
     expectEntries(*part, {"a", "b"}, {1, 2});
 }
 
-TEST(CMapTest, SubMapIsNothingForEmptyKeysOrAnEmptyMap) {
+TEST(CMapTest, SubMapIsNullForEmptyKeysOrAnEmptyMap) {
     EXPECT_EQ(threeEntries().subMap(std::nullopt), nullptr);
     EXPECT_EQ(CMap().subMap(List{"a"}), nullptr);
 }

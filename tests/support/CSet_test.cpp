@@ -59,7 +59,7 @@ TEST(CSetTest, RemovesAMember) {
     EXPECT_TRUE(set.Exists("b"));
 }
 
-TEST(CSetTest, RemovingWhatIsNoMemberIsAnError) {
+TEST(CSetTest, RemovingWhatIsNotAMemberIsAnError) {
     CSet set;
     set.add("a");
     EXPECT_EQ(errorNumberOf([&] { set.Remove("b"); }), 5);

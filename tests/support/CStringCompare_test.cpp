@@ -5,7 +5,7 @@
 namespace quorvane {
 namespace {
 
-TEST(CStringCompareTest, AnswersMinusOneZeroOrOne) {
+TEST(CStringCompareTest, ReturnsMinusOneZeroOrOne) {
     const CStringCompare comparer;
     EXPECT_EQ(comparer.comp("a", "b"), -1);
     EXPECT_EQ(comparer.comp("a", "a"), 0);

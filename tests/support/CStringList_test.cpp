@@ -181,7 +181,7 @@ TEST(CStringListTest, AddsNothingUnderAPresentKey) {
     EXPECT_EQ(list.CharSize(), 11);
 }
 
-TEST(CStringListTest, AddsNothingUnderAKeyThatIsNoText) {
+TEST(CStringListTest, AddsNothingUnderAKeyThatIsNotAText) {
     CStringList list = keyedList();
     EXPECT_FALSE(list.add("x", 7));
     EXPECT_FALSE(list.add("x", Null{}));
@@ -264,13 +264,13 @@ TEST(CStringListTest, RemovesNoHeadOrTailWhenItIsEmpty) {
     EXPECT_TRUE(list.IsEmpty());
 }
 
-TEST(CStringListTest, IndexAnswersThePositionOfTheKeyedString) {
+TEST(CStringListTest, IndexReturnsThePositionOfTheKeyedString) {
     const CStringList list = keyedList();
     EXPECT_EQ(list.Index("o"), 1);
     EXPECT_EQ(list.Index("T"), 2);
 }
 
-TEST(CStringListTest, IndexAnswersTheEarliestOfEqualStrings) {
+TEST(CStringListTest, IndexReturnsTheEarliestOfEqualStrings) {
     CStringList list;
     list.add("same");
     list.add("same", "k");
@@ -356,7 +356,7 @@ TEST(CStringListTest, FindsNothingThatFitsNoPattern) {
     EXPECT_EQ(CStringList().Find("*"), -1);
 }
 
-TEST(CStringListTest, FindingAPatternThatIsNoneIsAnError) {
+TEST(CStringListTest, FindingAMalformedPatternIsAnError) {
     EXPECT_EQ(errorNumberOf([] { CStringList().Find("["); }), 5);
 }
 

@@ -59,7 +59,7 @@ TEST(CStringTest, StrZEndsWithOneZero) {
     EXPECT_EQ(CString("").StrZ(), std::string(1, '\0'));
 }
 
-TEST(CStringTest, StrZDropsWhatStandsBehindAZero) {
+TEST(CStringTest, StrZDropsWhatStandsAfterAZero) {
     EXPECT_EQ(CString(std::string("ab\0c", 4)).StrZ(), std::string("ab\0", 3));
     EXPECT_EQ(CString(std::string("ab\0\0", 4)).StrZ(), std::string("ab\0", 3));
     EXPECT_EQ(CString(std::string("ab\0", 3)).StrZ(), std::string("ab\0", 3));
@@ -118,7 +118,7 @@ TEST(CStringTest, GetDelimsIsEmptyWithoutASubfield) {
     EXPECT_EQ(CString("^").GetDelims(), "");
 }
 
-TEST(CStringTest, GetDelimsTakesADelimiterBehindADelimiterAsACode) {
+TEST(CStringTest, GetDelimsTakesADelimiterAfterADelimiterAsACode) {
     EXPECT_EQ(CString("^^aX").GetDelims(), "^a");
 }
 
@@ -156,7 +156,7 @@ TEST(CStringTest, StrToBytesNeverCuts) {
     EXPECT_EQ(CString("abc").StrToBytes(-1), "abc");
 }
 
-TEST(CStringTest, SubFieldAnswersTheContent) {
+TEST(CStringTest, SubFieldReturnsTheContent) {
     EXPECT_EQ(CString("^aSmith^bJohn").SubField("B"), "John");
     EXPECT_EQ(CString("^aSmith^bJohn").SubField("c"), "");
     EXPECT_EQ(CString("^aSmith^bJohn").SubField(""), "");
@@ -282,7 +282,7 @@ TEST(CStringTest, RemovingASubfieldKeepsTheSameContentElsewhere) {
               "^bX");
 }
 
-TEST(CStringTest, CharAnswersTheCharacterAtAPosition) {
+TEST(CStringTest, CharReturnsTheCharacterAtAPosition) {
     const CString text("a\xC3\xA9\xE2\x82\xAC");
     EXPECT_EQ(text.Char(1), "a");
     EXPECT_EQ(text.Char(2), "\xC3\xA9");

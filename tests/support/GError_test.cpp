@@ -134,7 +134,7 @@ TEST_F(GErrorTest, ShowsError429InAMessageBox) {
     EXPECT_EQ(platform.messageBoxes[0].title, "Quorvane");
 }
 
-TEST_F(GErrorTest, DoesNotTellTheReporterOfError429) {
+TEST_F(GErrorTest, DoesNotReportError429ToTheReporter) {
     platform.reporterIsRegistered = true;
 
     errors.handleError(cannotCreate, "CRtfDoc.cls", "Commit");
@@ -158,7 +158,7 @@ TEST_F(GErrorReporterTest, ItsSwitchCanBeTurnedOnAndOff) {
     EXPECT_FALSE(errors.ReporterSwitch());
 }
 
-TEST_F(GErrorReporterTest, IsCreatedByItsNameAndToldOfTheProgram) {
+TEST_F(GErrorReporterTest, IsCreatedByItsNameAndReceivesTheProgram) {
     platform.resources[8700] = "A product";
     platform.folder = "C:\\Programs\\Office";
     platform.fileName = "writer.exe";
@@ -172,7 +172,7 @@ TEST_F(GErrorReporterTest, IsCreatedByItsNameAndToldOfTheProgram) {
     EXPECT_EQ(platform.introductions[0].applicationId, "C:\\Programs\\Office\\writer.exe7-12-345");
 }
 
-TEST_F(GErrorReporterTest, IsToldOfTheError) {
+TEST_F(GErrorReporterTest, ReceivesTheError) {
     platform.version = {7, 12, 345};
 
     CStringList extra;
@@ -192,13 +192,13 @@ TEST_F(GErrorReporterTest, IsToldOfTheError) {
     EXPECT_EQ(report.extraInfo->Item(1), "extra");
 }
 
-TEST_F(GErrorReporterTest, IsToldNoExtraInformationWhenNoneIsGiven) {
+TEST_F(GErrorReporterTest, ReceivesNoExtraInformationWhenNoneIsGiven) {
     errors.handleError(overflow, "CRtfDoc.cls", "Commit");
 
     EXPECT_EQ(platform.reports.at(0).extraInfo, nullptr);
 }
 
-TEST_F(GErrorReporterTest, IsIntroducedBeforeItIsToldAndIsReleasedAfterwards) {
+TEST_F(GErrorReporterTest, IsIntroducedBeforeItReceivesAnErrorAndIsReleasedAfterwards) {
     errors.handleError(overflow, "CRtfDoc.cls", "Commit");
 
     EXPECT_EQ(platform.operations.front(), "createReporter Vantrel.CVantrel");
@@ -222,7 +222,7 @@ TEST_F(GErrorReporterTest, IsCreatedAnewForEachError) {
     EXPECT_EQ(platform.reports.size(), 2U);
 }
 
-TEST_F(GErrorReporterTest, CanBeToldDirectlyWithTheSwitchOff) {
+TEST_F(GErrorReporterTest, ReceivesErrorsDirectlyWithTheSwitchOff) {
     errors.setReporterSwitch(false);
     setCurrentError(overflow);
 
@@ -232,7 +232,7 @@ TEST_F(GErrorReporterTest, CanBeToldDirectlyWithTheSwitchOff) {
     EXPECT_EQ(platform.reports.at(0).source, "CRtfTableCell.Width");
 }
 
-TEST_F(GErrorReporterTest, ThatIsNotRegisteredIsError429WhenToldDirectly) {
+TEST_F(GErrorReporterTest, ThatIsNotRegisteredIsError429WhenUsedDirectly) {
     platform.reporterIsRegistered = false;
 
     try {
@@ -392,7 +392,7 @@ TEST_F(GErrorTest, HandlesTheCurrentErrorItself) {
 
 // The observer
 
-TEST_F(GErrorTest, TellsTheObserverOfAnErrorThatLeavesNoOtherTrace) {
+TEST_F(GErrorTest, ReportsToTheObserverAnErrorThatLeavesNoOtherTrace) {
     observe();
 
     errors.handleError(overflow, "CRtfDoc.cls", "Commit");
@@ -405,7 +405,7 @@ TEST_F(GErrorTest, TellsTheObserverOfAnErrorThatLeavesNoOtherTrace) {
     EXPECT_EQ(absorbed[0].procedureName, "Commit");
 }
 
-TEST_F(GErrorTest, TellsTheObserverOfError429Too) {
+TEST_F(GErrorTest, ReportsError429ToTheObserverToo) {
     observe();
 
     errors.handleError(cannotCreate, "CRtfDoc.cls", "Commit");
@@ -415,7 +415,7 @@ TEST_F(GErrorTest, TellsTheObserverOfError429Too) {
     EXPECT_EQ(platform.messageBoxes.size(), 1U);
 }
 
-TEST_F(GErrorReporterTest, TakesAnErrorThatTheObserverWasToldOfToo) {
+TEST_F(GErrorReporterTest, ReceivesAnErrorThatTheObserverReceivedToo) {
     observe();
 
     errors.handleError(overflow, "CRtfDoc.cls", "Commit");
@@ -424,7 +424,7 @@ TEST_F(GErrorReporterTest, TakesAnErrorThatTheObserverWasToldOfToo) {
     EXPECT_EQ(platform.reports.size(), 1U);
 }
 
-TEST_F(GErrorReporterTest, ThatFailsIsNoErrorOfTheObservers) {
+TEST_F(GErrorReporterTest, ThatFailsIsNotAnErrorOfTheObserver) {
     platform.reporterIsRegistered = false;
     observe();
 
@@ -458,7 +458,7 @@ TEST_F(GErrorTest, LetsTheObserverReplaceItself) {
     EXPECT_EQ(callsOfTheSecond, 1);
 }
 
-TEST_F(GErrorTest, TellsNoObserverOnceItIsRemoved) {
+TEST_F(GErrorTest, CallsNoObserverAfterItsRemoval) {
     observe();
     errors.setObserver({});
 

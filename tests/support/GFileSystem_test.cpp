@@ -180,7 +180,7 @@ TEST_F(GFileSystemTest, CharactersAtEveryBorderAreNotCut) {
     EXPECT_TRUE(saved(text) == expected);
 }
 
-TEST_F(GFileSystemTest, BytesThatAreNoTextAreWrittenAsQuestionMarksAcrossTheBorder) {
+TEST_F(GFileSystemTest, BytesThatAreNotTextAreWrittenAsQuestionMarksAcrossTheBorder) {
     EXPECT_TRUE(saved(std::string(800000, '\x80')) == std::string(800000, '?'));
 }
 
@@ -220,7 +220,7 @@ TEST_F(GFileSystemTest, FileExistsAsksThePlatform) {
 
 // loadStringFromFile
 
-TEST_F(GFileSystemTest, LoadingAnswersTheWholeText) {
+TEST_F(GFileSystemTest, LoadingReturnsTheWholeText) {
     platform.files["a.rtfss"] = "one\r\ntwo\r\n";
 
     EXPECT_EQ(GFileSystem::loadStringFromFile(platform, "a.rtfss"), "one\r\ntwo\r\n");
@@ -232,17 +232,17 @@ TEST_F(GFileSystemTest, LoadingReadsCodePage1252) {
     EXPECT_EQ(GFileSystem::loadStringFromFile(platform, "a.rtfss"), "caf\xC3\xA9 \xE2\x82\xAC");
 }
 
-TEST_F(GFileSystemTest, LoadingAnEmptyFileAnswersNothing) {
+TEST_F(GFileSystemTest, LoadingAnEmptyFileReturnsNothing) {
     platform.files["a.rtfss"] = "";
 
     EXPECT_EQ(GFileSystem::loadStringFromFile(platform, "a.rtfss"), "");
 }
 
-TEST_F(GFileSystemTest, LoadingAMissingFileAnswersNothing) {
+TEST_F(GFileSystemTest, LoadingAMissingFileReturnsNothing) {
     EXPECT_EQ(GFileSystem::loadStringFromFile(platform, "a.rtfss"), "");
 }
 
-TEST_F(GFileSystemTest, LoadingAFileThatCannotBeReadAnswersNothing) {
+TEST_F(GFileSystemTest, LoadingAFileThatCannotBeReadReturnsNothing) {
     platform.files["a.rtfss"] = "text";
     platform.fail("readFile", RunTimeError::PathFileAccessError);
 

@@ -7,7 +7,7 @@
 namespace quorvane {
 namespace {
 
-TEST(CurrentError, IsNoneOnANewThread) {
+TEST(CurrentError, IsNullOnANewThread) {
     setCurrentError(RtfError(RunTimeError::Overflow));
     bool hasError = true;
 
@@ -34,7 +34,7 @@ TEST(CurrentError, IsACopyOfWhatWasSet) {
     EXPECT_EQ(currentError()->description, "Bad keyword");
 }
 
-TEST(CurrentError, IsNoneOnceItWasCleared) {
+TEST(CurrentError, IsNullOnceItWasCleared) {
     setCurrentError(RtfError(RunTimeError::Overflow));
 
     clearCurrentError();

@@ -38,7 +38,7 @@ inline void giveBack(void* memory) {
 /// Runs an attempt again and again. In the first run its first allocation fails, in the second run
 /// the second one, and so on until a run is not short of memory; so everything must be prepared
 /// anew in `prepare`, whose result `attempt` and then, after a failure, `check` are called with.
-/// Answers how many runs failed.
+/// Returns how many runs failed.
 template <class Prepare, class Attempt, class Check>
 int failEachAllocation(Prepare prepare, Attempt attempt, Check check) {
     for (int failures = 0;; ++failures) {

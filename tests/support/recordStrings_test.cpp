@@ -24,12 +24,12 @@ TEST(IsIsisFormated, FailsForAnyOtherText) {
     EXPECT_FALSE(IsIsisFormated("Smith^bJohn"));
 }
 
-TEST(GetSubField, AnswersTheContentOfTheSubfield) {
+TEST(GetSubField, ReturnsTheContentOfTheSubfield) {
     EXPECT_EQ(GetSubField("^aSmith^bJohn", "a"), "Smith");
     EXPECT_EQ(GetSubField("^aSmith^bJohn", "b"), "John");
 }
 
-TEST(GetSubField, AnswersTheFirstOfEqualCodes) {
+TEST(GetSubField, ReturnsTheFirstOfEqualCodes) {
     EXPECT_EQ(GetSubField("^aX^bY^aZ", "a"), "X");
 }
 
@@ -55,7 +55,7 @@ TEST(GetSubField, KeepsTheBlanksOfTheContent) {
     EXPECT_EQ(GetSubField("^aSmith^b", "b"), "");
 }
 
-TEST(GetSubField, FindsASubfieldBehindOtherText) {
+TEST(GetSubField, FindsASubfieldAfterOtherText) {
     EXPECT_EQ(GetSubField("Smith^bJohn", "b"), "John");
 }
 
@@ -92,7 +92,7 @@ TEST(FindSubField, HasNoCodeForADelimiterAtTheEnd) {
     EXPECT_FALSE(findSubField("^aX^", 4));
 }
 
-TEST(FindSubField, TakesADelimiterBehindADelimiterAsItsCodeAndAsASubfieldOfItsOwn) {
+TEST(FindSubField, TakesADelimiterAfterADelimiterAsItsCodeAndAsASubfieldOfItsOwn) {
     const auto first = findSubField("^^aX");
     ASSERT_TRUE(first);
     EXPECT_EQ(first->whole, "^");
@@ -125,7 +125,7 @@ TEST(AllSubFieldsEmpty, FailsForATextThatIsNotFormatted) {
     EXPECT_FALSE(AllSubFieldsEmpty("Smith^a"));
 }
 
-TEST(GetValue, AnswersWhatStandsBehindTheFirstSeparator) {
+TEST(GetValue, ReturnsWhatStandsAfterTheFirstSeparator) {
     EXPECT_EQ(GetValue("paper-width=11906", "="), "11906");
     EXPECT_EQ(GetValue("a=b=c", "="), "b=c");
     EXPECT_EQ(GetValue("a::b", "::"), "b");

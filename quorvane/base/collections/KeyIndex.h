@@ -21,7 +21,7 @@ namespace quorvane {
 ///
 /// The entries stand in the order in which they were filed. Few are searched one by one; many have
 /// two open hash tables of their positions, by key and by element. Keys are often asked for in the
-/// order in which they were filed, so the entry behind the one that was found last is looked at
+/// order in which they were filed, so the entry after the one that was found last is looked at
 /// first: it is near in memory, which no place in a large table is.
 template <class Element>
 class KeyIndex {
@@ -243,7 +243,7 @@ private:
         slots[slot] = position;
     }
 
-    // Empties the position's slot and moves up what would not be found behind an empty one.
+    // Empties the position's slot and moves up what would not be found after an empty one.
     template <class HashAt>
     static void takeOut(Slots& slots, std::uint32_t position, HashAt hashAt) noexcept {
         const std::size_t mask = slots.size() - 1;
@@ -289,7 +289,7 @@ private:
     // Each has room for twice as many positions as there are.
     Slots byKey_;
     Slots byElement_;
-    // The entry behind the one found last.
+    // The entry after the one found last.
     mutable std::uint32_t expected_ = 0;
 };
 

@@ -122,7 +122,7 @@ public:
         return place;
     }
 
-    /// Puts the element at a place that `placeFor` answered.
+    /// Puts the element at a place that `placeFor` returned.
     void insert(const Place& place, Ref<Element> element) {
         requireRoomFor(place);
         if (place.key) {
@@ -135,7 +135,7 @@ public:
         block()->openSlot(place.position - 1, element.detach());
     }
 
-    /// Removes the element at a 1-based position, which must be there, and answers it.
+    /// Removes the element at a 1-based position, which must be there, and returns it.
     Ref<Element> removeAt(std::size_t position) noexcept {
         if (!hasBlock()) {
             return Ref<Element>::adopt(std::exchange(only_, nullptr));

@@ -21,7 +21,7 @@ public:
 
     /// Memory of at least one byte, aligned for pointers.
     void* allocate(std::size_t size);
-    /// Takes back memory that `allocate` answered for this size.
+    /// Takes back memory that `allocate` returned for this size.
     void deallocate(void* memory, std::size_t size) noexcept;
 
 private:

@@ -62,7 +62,7 @@ bool meansAbsence(DWORD code) {
            code == ERROR_ACCESS_DENIED || code == ERROR_NO_MORE_FILES || code == ERROR_NOT_READY;
 }
 
-/// Opening a device can do something, and its name is no file's to delete or to write.
+/// Opening a device can have effects, and its name is not that of a file to delete or write.
 bool isDevice(HANDLE file) {
     return GetFileType(file) == FILE_TYPE_CHAR;
 }

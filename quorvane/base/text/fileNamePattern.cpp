@@ -14,7 +14,7 @@ bool matchesFileNamePattern(std::string_view pattern, std::string_view name) {
     constexpr std::size_t none = std::string_view::npos;
     std::size_t inPattern = 0;
     std::size_t inName = 0;
-    // Where to go on when the rest does not match: behind the last *, which then takes one more.
+    // Where to go on when the rest does not match: after the last *, which then takes one more.
     std::size_t behindStar = none;
     std::size_t nameAtStar = 0;
     while (inName < name.size()) {

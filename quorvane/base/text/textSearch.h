@@ -7,9 +7,9 @@
 namespace quorvane {
 
 enum class Occurrences {
-    /// The search goes on behind each occurrence.
+    /// The search goes on after each occurrence.
     Separate,
-    /// The search goes on one character behind the beginning of each occurrence.
+    /// The search goes on one character after the beginning of each occurrence.
     Overlapping,
 };
 

@@ -16,7 +16,7 @@ bool isAscii(unsigned byte) {
     return byte < 0x80;
 }
 
-// Bytes that a lead byte announces; 0 when it is no lead byte.
+// Bytes that a lead byte announces; 0 when it is not a lead byte.
 std::size_t announcedLength(unsigned lead) {
     if (lead >= 0xC2 && lead <= 0xDF) {
         return 2;

@@ -14,7 +14,7 @@ public:
 
     virtual std::int32_t Count() const = 0;
 
-    /// The text at a position from 1 or with a key. Errors: 5 there is none, 13 the index is
+    /// The text at a position from 1 or with a key. Errors: 5 no such element, 13 the index is
     /// neither a number nor a text.
     virtual const std::string& Item(const Value& Index) const = 0;
 

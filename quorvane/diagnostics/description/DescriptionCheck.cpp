@@ -36,7 +36,7 @@ public:
         checkFrame(lines);
         passOverByteOrderMark(lines);
         if (!frame_.hasOpener && !holdsLines(lines)) {
-            // Prose or the like: that none of its lines can be read goes without saying.
+            // Prose or the like: an error for each of its lines would not help.
             return;
         }
         lines = repairLines(lines, dialect_, &recovery_);

@@ -165,7 +165,7 @@ private:
              ++i) {
             names.push_back(list.at(i).name);
         }
-        // What was misspelt is used all the same.
+        // The style whose name is misspelled counts as used.
         styles_->markUsed(kind, nearestWord(name, names));
         Hint hint = spellingHint(name, names);
         // Such a name cannot be written where it is meant.

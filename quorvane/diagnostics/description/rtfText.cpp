@@ -380,7 +380,7 @@ private:
         } else if (character == '\\') {
             readBackslash();
         } else if (character == '<' && tokens_.nameAt(at_)) {
-            // The name of an inline style is no text.
+            // The name of an inline style is not text.
             ++openTokens_;
             at_ += tokens_.nameAt(at_)->size() + 2;
         } else if (character == '>' && openTokens_ > 0) {

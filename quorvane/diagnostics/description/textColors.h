@@ -8,7 +8,7 @@
 
 namespace quorvane {
 
-/// The colors that text is written in, as numbers of the color table; 0 is none.
+/// The colors that text is written in, as numbers of the color table; 0 for no color.
 struct TextColors {
     std::int32_t text = 0;
     std::int32_t ground = 0;
@@ -16,7 +16,7 @@ struct TextColors {
     bool operator==(const TextColors& other) const = default;
 };
 
-/// A part of a text that is to be seen, in one pair of colors.
+/// A visible part of a text, in one pair of colors.
 struct ColoredPart {
     std::string_view part;
     TextColors colors;
@@ -26,7 +26,7 @@ struct ColoredPart {
 TextColors colorsBehind(std::string_view format, TextColors before);
 
 /// The parts of a paragraph's text, in which inline styles and control words change the colors that
-/// it begins with. Text that is not seen, such as the instruction of a field, is none of them.
+/// it begins with. Text that is not seen, such as the instruction of a field, is not among them.
 /// Without styles, inline styles change nothing.
 std::vector<ColoredPart> coloredParts(std::string_view text, TextColors colors,
                                       const KnownStyles* styles);

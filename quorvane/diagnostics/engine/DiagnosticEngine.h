@@ -10,17 +10,17 @@
 
 namespace quorvane {
 
-/// Makes findings from the table of diagnostics and hands them on.
+/// Makes diagnostics from their table and passes them to a receiver.
 class DiagnosticEngine {
 public:
     explicit DiagnosticEngine(DiagnosticReceiver receiver) : receiver_(std::move(receiver)) {}
 
-    /// Hands on a finding. The arguments take the places of "{0}", "{1}" and so on in the text that
-    /// the table has for it. A replacement of the hint is the fix for the place.
+    /// Passes on a diagnostic. The arguments take the places of "{0}", "{1}" and so on in the text
+    /// that the table has for it. A replacement of the hint is the fix for the place.
     void report(DiagnosticId id, const Place& place,
                 std::initializer_list<std::string_view> arguments = {}, Hint hint = {});
 
-    /// Hands on a diagnostic whose text is known, such as that of an error of the library.
+    /// Passes on a diagnostic whose text is known, such as that of an error of the library.
     void reportText(DiagnosticId id, const Place& place, std::string message, Hint hint = {});
 
     /// True when an error was reported.
@@ -35,7 +35,7 @@ private:
 std::string withArguments(std::string_view pattern,
                           std::initializer_list<std::string_view> arguments);
 
-/// Puts the findings into the order of their places; those of one place stay as they were.
+/// Puts the diagnostics into the order of their places; those of one place stay as they were.
 void sortByPlace(std::vector<Diagnostic>& findings);
 
 }  // namespace quorvane

@@ -9,7 +9,7 @@
 
 namespace quorvane {
 
-/// A UTF-8 text whose places are told by line and column. It must stay as long as this does.
+/// A UTF-8 text whose places are given by line and column. It must stay as long as this does.
 class SourceText {
 public:
     /// A line without its end (CR LF, LF or CR).

@@ -75,7 +75,7 @@ private:
         return source_.text().substr(line.start, line.end - line.start);
     }
 
-    /// The text behind the ";" of a line that is a comment; empty for any other line.
+    /// The text after the ";" of a line that is a comment; empty for any other line.
     static std::string_view textOfComment(std::string_view line) {
         line = trimWhitespace(line);
         if (!line.starts_with(';')) {

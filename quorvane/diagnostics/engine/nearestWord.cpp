@@ -11,7 +11,7 @@ namespace quorvane {
 
 namespace {
 
-// Longer words are no misspelt names.
+// Longer words are not misspelled names.
 constexpr std::size_t longestWord = 48;
 
 using Row = std::array<std::size_t, longestWord + 1>;

@@ -19,7 +19,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// An element with a number to tell it by; it is deleted with its last reference.
+// An element with a number to identify it by; it is deleted with its last reference.
 struct Entry : KeyedListElement {
     explicit Entry(int number_) : number(number_) { ++living; }
     Entry(const Entry&) = delete;
@@ -222,7 +222,7 @@ TEST(KeyedList, FindsByKeyWithoutRegardToCase) {
     EXPECT_EQ(list.find("cafe"), nullptr);
 }
 
-TEST(KeyedList, TellsKeysApartThatAreNotEqualToTheLetter) {
+TEST(KeyedList, DistinguishesKeysThatDifferInALetter) {
     List list;
     add(list, 1, "a");
     add(list, 2, "a ");
@@ -368,7 +368,7 @@ TEST(KeyedList, HoldsItsElementsUntilTheyAreRemoved) {
     EXPECT_EQ(Entry::living, 0);
 }
 
-TEST(KeyedList, LetsGoOfItsElementsWhenItIsCleared) {
+TEST(KeyedList, ReleasesItsElementsWhenItIsCleared) {
     List list = keyedList();
 
     list.clear();
@@ -466,7 +466,7 @@ TEST(KeyedList, IsEmptyAfterItWasMoved) {
     EXPECT_THAT(numbers(source), IsEmpty());  // NOLINT(bugprone-use-after-move)
 }
 
-TEST(KeyedList, LetsGoOfItsElementsWhenAnotherIsMovedIntoIt) {
+TEST(KeyedList, ReleasesItsElementsWhenAnotherIsMovedIntoIt) {
     List list = listOf(3);
 
     list = keyedList();
@@ -696,7 +696,7 @@ void expectEqual(const List& list, const PlainList& plain) {
 
 class KeyedListLikeAPlainOne : public testing::TestWithParam<unsigned> {};
 
-TEST_P(KeyedListLikeAPlainOne, AnswersAnyCalls) {
+TEST_P(KeyedListLikeAPlainOne, BehavesAlikeForAnyCalls) {
     RandomCalls calls(GetParam());
     List list;
     PlainList plain;

@@ -14,7 +14,7 @@ TEST(ListPosition, IsAWholeNumberFromOneToTheCount) {
     EXPECT_EQ(listPosition(3, 3), 3U);
 }
 
-TEST(ListPosition, IsNoneOutsideTheList) {
+TEST(ListPosition, DoesNotExistOutsideTheList) {
     EXPECT_EQ(listPosition(0, 3), 0U);
     EXPECT_EQ(listPosition(4, 3), 0U);
     EXPECT_EQ(listPosition(-1, 3), 0U);
@@ -38,7 +38,7 @@ TEST(ListPosition, TakesHalvesToEven) {
     EXPECT_EQ(listPosition(4.5, 4), 4U);
 }
 
-TEST(ListPosition, IsNoneForNumbersBeyondAllLists) {
+TEST(ListPosition, DoesNotExistForNumbersBeyondAllLists) {
     EXPECT_EQ(listPosition(1e300, 3), 0U);
     EXPECT_EQ(listPosition(-1e300, 3), 0U);
     EXPECT_EQ(listPosition(std::numeric_limits<double>::infinity(), 3), 0U);

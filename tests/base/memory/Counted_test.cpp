@@ -24,7 +24,7 @@ struct Owner {
     }
 };
 
-TEST(Counted, TellsWhenTheLastReferenceHasGone) {
+TEST(Counted, ReportsWhenTheLastReferenceIsGone) {
     Counted counts;
     counts.retain();
     counts.retain();
@@ -39,7 +39,7 @@ TEST(CountedOwner, IsNotAliveBeforeItsFirstReference) {
     EXPECT_FALSE(CountedOwner().isAlive());
 }
 
-TEST(CountedOwner, LetsGoAndDeletesWithTheLastReference) {
+TEST(CountedOwner, ReleasesAndDeletesWithTheLastReference) {
     bool isDeleted = false;
     auto* owner = new Owner(isDeleted);
     owner->counts.retain();
@@ -85,7 +85,7 @@ TEST(CountedOwner, OutlivesItsWeakReferencesWhileAStrongOneIsHeld) {
     EXPECT_TRUE(isDeleted);
 }
 
-TEST(CountedOwner, StaysUntilItHasLetGoOfTheLastThatRefersToItWeakly) {
+TEST(CountedOwner, StaysUntilItsLastWeakReferenceIsReleased) {
     bool isDeleted = false;
     bool wasDeletedWhileLettingGo = false;
     auto* owner = new Owner(isDeleted);

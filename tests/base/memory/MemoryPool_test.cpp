@@ -10,7 +10,7 @@
 namespace quorvane {
 namespace {
 
-TEST(MemoryPool, AnswersMemoryThatCanBeFilled) {
+TEST(MemoryPool, ReturnsMemoryThatCanBeFilled) {
     MemoryPool pool;
     std::vector<unsigned char*> blocks;
     for (unsigned char size = 1; size < 255; ++size) {

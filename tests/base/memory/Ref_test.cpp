@@ -10,7 +10,7 @@
 namespace quorvane {
 namespace {
 
-// An owner as the document is one: it is let go of with its last reference, and its memory goes
+// An owner as the document is one: it is released with its last reference, and its memory goes
 // with the last weak one.
 struct Owner {
     CountedOwner counts;
@@ -49,7 +49,7 @@ Ref<Owner> newOwner() {
     return Ref<Owner>(new Owner);
 }
 
-TEST(Ref, IsNothingAtFirst) {
+TEST(Ref, IsNullAtFirst) {
     const Ref<Owner> reference;
 
     EXPECT_FALSE(reference);
@@ -57,7 +57,7 @@ TEST(Ref, IsNothingAtFirst) {
     EXPECT_EQ(reference.get(), nullptr);
 }
 
-TEST(Ref, IsNothingWhenMadeOfNull) {
+TEST(Ref, IsNullWhenMadeOfNull) {
     EXPECT_FALSE(Ref<Owner>(nullptr));
     EXPECT_FALSE(Ref<Owner>(static_cast<Owner*>(nullptr)));
 }
@@ -83,7 +83,7 @@ TEST(Ref, KeepsItsObjectAliveAsLongAsACopyDoes) {
     EXPECT_EQ(Owner::living, 0);
 }
 
-TEST(Ref, IsNothingAfterItWasMoved) {
+TEST(Ref, IsNullAfterItWasMoved) {
     Ref<Owner> reference = newOwner();
     const Owner* const object = reference.get();
 
@@ -103,7 +103,7 @@ TEST(Ref, SurvivesBeingAssignedToItself) {
     EXPECT_EQ(Owner::living, 1);
 }
 
-TEST(Ref, LetsGoOfItsObjectWhenItTakesAnother) {
+TEST(Ref, ReleasesItsObjectWhenItTakesAnother) {
     Ref<Owner> reference = newOwner();
 
     reference = newOwner();
@@ -134,12 +134,12 @@ TEST(Ref, HandsItsCountOver) {
     EXPECT_EQ(Owner::living, 0);
 }
 
-TEST(WeakRef, IsNothingAtFirst) {
+TEST(WeakRef, IsNullAtFirst) {
     EXPECT_EQ(WeakRef<Owner>().get(), nullptr);
     EXPECT_EQ(WeakRef<Owner>(nullptr).get(), nullptr);
 }
 
-TEST(WeakRef, AnswersItsObjectWhileThatIsAlive) {
+TEST(WeakRef, ReturnsItsObjectWhileThatIsAlive) {
     const Ref<Owner> owner = newOwner();
     const WeakRef<Owner> weak(owner.get());
 
@@ -155,7 +155,7 @@ TEST(WeakRef, DoesNotKeepItsObjectAlive) {
     EXPECT_EQ(weak.get(), nullptr);
 }
 
-TEST(WeakRef, AnswersNothingInItsCopiesToo) {
+TEST(WeakRef, ReturnsNullInItsCopiesToo) {
     Ref<Owner> owner = newOwner();
     const WeakRef<Owner> weak(owner.get());
     WeakRef<Owner> copy = weak;

@@ -96,7 +96,7 @@ TEST(SharedText, OfMoreThanFourGigabytesIsRefused) {
     EXPECT_EQ(errorNumberOf([&] { SharedText text(huge.view()); }), 6);
 }
 
-TEST(SharedText, IsLetGoOfInAnyOrder) {
+TEST(SharedText, IsReleasedInAnyOrder) {
     std::vector<SharedText> texts(1, SharedText("abc"));
     for (int i = 0; i < 9; ++i) {
         texts.push_back(texts.front());

@@ -12,7 +12,7 @@ namespace {
 namespace fs = std::filesystem;
 using cli::TemporaryFolder;
 
-TEST(FollowLinks, ReturnsAPathThatIsNoLink) {
+TEST(FollowLinks, ReturnsAPathThatIsNotALink) {
     const TemporaryFolder folder;
     EXPECT_EQ(followLinks(folder.write("a", "")), folder / "a");
     EXPECT_EQ(followLinks(folder / "missing"), folder / "missing");

@@ -251,7 +251,7 @@ TEST_F(PortablePlatformTest, WildcardsCountInTheFileNameOnly) {
     EXPECT_FALSE(platform.fileExists(path("f*/a.rtf")));
 }
 
-TEST_F(PortablePlatformTest, ExistenceIsNoErrorWhenNoFolderCanBeOpened) {
+TEST_F(PortablePlatformTest, ExistenceIsNotAnErrorWhenNoFolderCanBeOpened) {
     make("a.rtf");
     const std::string pattern = path("*.rtf");
     ASSERT_TRUE(platform.fileExists(pattern));
@@ -289,7 +289,7 @@ TEST_F(PortablePlatformTest, ReadsAFileByALink) {
     EXPECT_EQ(platform.readFile(path("link")), "text");
 }
 
-TEST_F(PortablePlatformTest, ReadsAFileThatTellsNoSize) {
+TEST_F(PortablePlatformTest, ReadsAFileThatReportsNoSize) {
     EXPECT_THAT(platform.readFile("/proc/self/status"), testing::HasSubstr("\nPid:"));
 }
 
@@ -532,7 +532,7 @@ TEST_F(PortablePlatformTest, WritesOverAnExistingFileFromItsFirstByte) {
     EXPECT_EQ(bytesOf("a.rtf"), "{}23456789");
 }
 
-TEST_F(PortablePlatformTest, ClosesAFileThatIsLetGoOf) {
+TEST_F(PortablePlatformTest, ClosesAFileThatIsReleased) {
     const std::ptrdiff_t before = openDescriptors();
 
     platform.createFile(make("a.rtf", "0123456789"))->write("text");
@@ -541,7 +541,7 @@ TEST_F(PortablePlatformTest, ClosesAFileThatIsLetGoOf) {
     EXPECT_EQ(bytesOf("a.rtf"), "text456789");
 }
 
-TEST_F(PortablePlatformTest, LeavesNothingOfANewFileThatIsLetGoOfBeforeItsEnd) {
+TEST_F(PortablePlatformTest, LeavesNothingOfANewFileThatIsReleasedBeforeItsEnd) {
     platform.createFile(path("a.rtf"))->write("text");
 
     EXPECT_FALSE(platform.fileExists(path("a.rtf")));
@@ -729,7 +729,7 @@ TEST_F(PortablePlatformTest, KnowsFolderAndNameOfTheRunningProgram) {
     EXPECT_TRUE(fs::equivalent(folderOfProgram + "/base_test", "/proc/self/exe"));
 }
 
-TEST_F(PortablePlatformTest, TellsTheVersionOfTheLibrary) {
+TEST_F(PortablePlatformTest, ReturnsTheVersionOfTheLibrary) {
     const ProgramVersion version = platform.programVersion();
 
     EXPECT_EQ(version.major, 1);

@@ -9,7 +9,7 @@
 namespace quorvane {
 namespace {
 
-TEST(TextOutput, AppendsPiecesInOrderBehindWhatIsThere) {
+TEST(TextOutput, AppendsPiecesInOrderAfterWhatIsThere) {
     std::string text = "before ";
     TextOutput output(text);
 

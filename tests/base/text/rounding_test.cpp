@@ -52,7 +52,7 @@ TEST(RoundToLong, RaisesOverflowBeyond32Bits) {
     }
 }
 
-TEST(RoundToLong, RaisesOverflowForWhatIsNoNumber) {
+TEST(RoundToLong, RaisesOverflowForWhatIsNotANumber) {
     EXPECT_EQ(errorNumberOf([] { roundToLong(std::nan("")); }), 6);
 }
 

@@ -58,7 +58,7 @@ TEST(EqualIgnoringCase, FailsForTextsThatDifferOtherwise) {
     EXPECT_FALSE(equalIgnoringCase("\xCE\x91", "\xCE\xB1"));
 }
 
-TEST(CompareIgnoringCase, AnswersMinusOneZeroOrOne) {
+TEST(CompareIgnoringCase, ReturnsMinusOneZeroOrOne) {
     EXPECT_EQ(compareIgnoringCase("abc", "ABD"), -1);
     EXPECT_EQ(compareIgnoringCase("abc", "ABC"), 0);
     EXPECT_EQ(compareIgnoringCase("zbc", "ABC"), 1);
@@ -76,7 +76,7 @@ TEST(CompareIgnoringCase, OrdersByTheCodesOfTheSmallLetters) {
     EXPECT_EQ(compareIgnoringCase("\xEF\xBF\xBF", "\xF0\x90\x80\x80"), -1);
 }
 
-TEST(CompareIgnoringCase, PutsStrayBytesBehindAllCharacters) {
+TEST(CompareIgnoringCase, PutsStrayBytesAfterAllCharacters) {
     EXPECT_EQ(compareIgnoringCase("\xFF", "\xF4\x8F\xBF\xBF"), 1);
     EXPECT_EQ(compareIgnoringCase("\x80", "\xFF"), -1);
 }

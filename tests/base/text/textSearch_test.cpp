@@ -16,7 +16,7 @@ TEST(FindAll, FindsEveryOccurrenceInOrder) {
     EXPECT_EQ(findAll("abc", "d", Occurrences::Separate), Positions{});
 }
 
-TEST(FindAll, GoesOnBehindEachOccurrenceOrWithinIt) {
+TEST(FindAll, GoesOnAfterEachOccurrenceOrWithinIt) {
     EXPECT_EQ(findAll("aaaa", "aa", Occurrences::Separate), (Positions{0, 2}));
     EXPECT_EQ(findAll("aaaa", "aa", Occurrences::Overlapping), (Positions{0, 1, 2}));
 }

@@ -13,7 +13,7 @@ TEST(Utf16Units, AreOneForEachCharacterOfTheBasicPlane) {
     EXPECT_EQ(utf16Units("a\xC3\xA9\xE2\x82\xAC"), U"a\u00E9\u20AC");
 }
 
-TEST(Utf16Units, AreNoneForAnEmptyText) {
+TEST(Utf16Units, AreEmptyForAnEmptyText) {
     EXPECT_EQ(utf16Units(""), U"");
     EXPECT_EQ(textOfUtf16Units(U""), "");
 }

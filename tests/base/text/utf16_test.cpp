@@ -45,7 +45,7 @@ TEST(Utf16, MakesAStrayByteTheCharacterOfItsNumber) {
     EXPECT_EQ(utf16("a\xFF"), u"a\x00FF"s);
 }
 
-TEST(Utf16, TellsTheLengthBeforehand) {
+TEST(Utf16, KnowsTheLengthBeforehand) {
     EXPECT_EQ(utf16Length(""), 0U);
     EXPECT_EQ(utf16Length("aé€"), 3U);
     EXPECT_EQ(utf16Length("\xF0\x9F\x98\x80"), 2U);

@@ -69,7 +69,7 @@ TEST(RtfError, KeepsNumberDescriptionAndSource) {
     EXPECT_EQ(error.source, "CRtfDriver.ParseFile");
 }
 
-TEST(RtfError, ConcernsNoLineAndHasNoCauseUnlessTold) {
+TEST(RtfError, HasNoLineAndNoCauseByDefault) {
     const RtfError error(445, "Bad keyword");
 
     EXPECT_EQ(error.source, "");
@@ -77,7 +77,7 @@ TEST(RtfError, ConcernsNoLineAndHasNoCauseUnlessTold) {
     EXPECT_EQ(error.cause, nullptr);
 }
 
-TEST(RtfError, AnswersItsDescriptionAsAnyException) {
+TEST(RtfError, ReturnsItsDescriptionAsAnyException) {
     const RtfError error(445, "Bad keyword");
 
     EXPECT_STREQ(static_cast<const std::exception&>(error).what(), "Bad keyword");

@@ -86,34 +86,34 @@ TEST(Value, IsANumberWhenAnIntegerOrFloatingOnly) {
     }
 }
 
-TEST(Value, AnswersEveryKindOfNumberAsADouble) {
+TEST(Value, ReturnsEveryKindOfNumberAsADouble) {
     EXPECT_EQ(Value(shortInteger(-32768)).number(), -32768.0);
     EXPECT_EQ(Value(std::numeric_limits<std::int32_t>::max()).number(), 2147483647.0);
     EXPECT_EQ(Value(0.5F).number(), 0.5);
     EXPECT_EQ(Value(0.1).number(), 0.1);
 }
 
-TEST(Value, HasNoNumberWhenItIsNone) {
+TEST(Value, HasNoNumberWhenItIsNotANumber) {
     EXPECT_THROW(static_cast<void>(Value("1").number()), std::bad_variant_access);
 }
 
-TEST(Value, HasNoTextWhenItIsNone) {
+TEST(Value, HasNoTextWhenItIsNotAText) {
     EXPECT_THROW(static_cast<void>(Value(1).text()), std::bad_variant_access);
 }
 
-TEST(Value, AnswersAnObjectAsItsClass) {
+TEST(Value, ReturnsAnObjectAsItsClass) {
     const auto thing = std::make_shared<Thing>();
 
     EXPECT_EQ(Value(std::shared_ptr<Object>(thing)).object<Thing>(), thing);
 }
 
-TEST(Value, AnswersNoObjectOfAnotherClass) {
+TEST(Value, ReturnsNoObjectOfAnotherClass) {
     const Value value(std::shared_ptr<Object>(std::make_shared<Thing>()));
 
     EXPECT_EQ(value.object<OtherThing>(), nullptr);
 }
 
-TEST(Value, AnswersNoObjectWhenItHoldsSomethingElse) {
+TEST(Value, ReturnsNoObjectWhenItHoldsSomethingElse) {
     EXPECT_EQ(Value("a").object<Thing>(), nullptr);
 }
 
@@ -175,7 +175,7 @@ TEST(ValueHash, AgreesForEqualValuesOfEveryKind) {
     }
 }
 
-TEST(ValueHash, TellsTextsNumbersDatesAndObjectsApart) {
+TEST(ValueHash, DistinguishesTextsNumbersDatesAndObjects) {
     const ValueHash hash;
     const auto first = std::shared_ptr<Object>(std::make_shared<Thing>());
     const auto second = std::shared_ptr<Object>(std::make_shared<Thing>());

@@ -21,7 +21,7 @@ public:
     ComFace();
     ~ComFace() override;
 
-    /// An object that was answered; null is Nothing.
+    /// An object that was returned; null is shown as Nothing.
     template <class Interface>
     std::string renderObject(const ComPtr<Interface>& object) {
         return object ? renderHeld(ComPtr<IDispatch>(object.get())) : nothingText;

@@ -23,7 +23,7 @@ public:
     /// The argument as a text.
     std::wstring text(UINT index) const;
     long number(UINT index) const;
-    /// The argument as an object; null when it is none.
+    /// The argument as an object; null when it is not an object.
     IDispatch* object(UINT index) const;
 
 private:

@@ -76,7 +76,8 @@ public:
     /// The text; the value must be one.
     std::string text() const;
     std::wstring wide() const;
-    /// The object as a counted reference; null for Nothing and for a value that is no object.
+    /// The object as a counted reference; null for a null object and for a value that is not an
+    /// object.
     ComPtr<IDispatch> object() const;
 
 private:

@@ -14,7 +14,7 @@ using testing::ElementsAre;
 using testing::EndsWith;
 using testing::StartsWith;
 
-/// The findings, each as its line, its identifier and its hint.
+/// The diagnostics, each as its line, its identifier and its hint.
 std::vector<std::string> found(const std::string& text) {
     std::vector<std::string> list;
     for (const Diagnostic& finding : checkDescription(text)) {
@@ -25,7 +25,7 @@ std::vector<std::string> found(const std::string& text) {
     return list;
 }
 
-TEST(DescriptionCheck, TellsOfProseOnlyThatItIsNoDescription) {
+TEST(DescriptionCheck, ReportsOfProseOnlyThatItIsNotADescription) {
     EXPECT_THAT(found("Dear Sir,\nyours\n"),
                 ElementsAre("1 wrong-file-type: a description begins with (doc and ends with "
                             "doc)"));
@@ -39,7 +39,7 @@ TEST(DescriptionCheck, KnowsTheMarkOfUtf8) {
         "1 wrong-root: the file begins with a UTF-8 byte order mark; save it in Windows-1252");
 }
 
-TEST(DescriptionCheck, GoesOnBehindTheMarkOfUtf8) {
+TEST(DescriptionCheck, GoesOnAfterTheMarkOfUtf8) {
     for (const char* between : {"", "\n", "; mine\n", " "}) {
         const std::vector<std::string> findings =
             found("\xC3\xAF\xC2\xBB\xC2\xBF" + std::string(between) +
@@ -51,7 +51,7 @@ TEST(DescriptionCheck, GoesOnBehindTheMarkOfUtf8) {
     }
 }
 
-TEST(DescriptionCheck, TellsEachCharacterThatBecomesAQuestionMark) {
+TEST(DescriptionCheck, ReportsEachCharacterThatBecomesAQuestionMark) {
     // A host's text, which is in UTF-8 and read as such.
     const std::vector<Diagnostic> findings = checkDescription(
         "(doc\n(r\n(c\n(p\n(pt=\xE2\x86\x92\xE2\x86\x92)\np)\nc)\nr)\ndoc)\n", nullptr);
@@ -158,7 +158,7 @@ TEST(DescriptionCheck, ComparesNoWidthsOnAPageTooNarrowForNumbers) {
                 ElementsAre("2 no-room"));
 }
 
-TEST(DescriptionCheck, TellsWhatToDoWithAParenthesisInAValue) {
+TEST(DescriptionCheck, SuggestsWhatToDoWithAParenthesisInAValue) {
     EXPECT_THAT(found("(doc\n(r\n(c\n(cs=a (b); c)\n(p\n(pt=a (b); c)\np)\nc)\nr)\ndoc)\n"),
                 ElementsAre("4 cut-value: this value cannot contain a )",
                             "6 cut-value: write \\'29 for a literal )"));
@@ -166,7 +166,7 @@ TEST(DescriptionCheck, TellsWhatToDoWithAParenthesisInAValue) {
                 ElementsAre());
 }
 
-TEST(DescriptionCheck, TellsOfEveryWidthThatTheTableCannotHold) {
+TEST(DescriptionCheck, ReportsWidthsThatTheTableCannotHold) {
     EXPECT_THAT(found("(doc\n(r\n(c\n(cw=2000000000)\nc)\n(c\n(cw=-2000000000)\nc)\n(c\n(cw=20)\n"
                       "c)\nr)\ndoc)\n"),
                 ElementsAre("4 overflow", "7 overflow"));

@@ -15,7 +15,7 @@ constexpr auto description = CheckedLanguage::Description;
 constexpr auto styleSheet = CheckedLanguage::StyleSheet;
 constexpr auto rtf = CheckedLanguage::Rtf;
 
-/// The findings, each as its place, its severity, its identifier and its message.
+/// The diagnostics, each as its place, its severity, its identifier and its message.
 std::vector<std::string> found(const std::string& bytes, CheckedLanguage language,
                                const std::string& fileName) {
     std::vector<std::string> list;
@@ -85,7 +85,7 @@ TEST(FileNameCheck, PointsToTheBeginningOfAFileThatSaysNothing) {
                             "is .rtf."));
 }
 
-TEST(FileNameCheck, TellsTheExtensionThatTheContentHas) {
+TEST(FileNameCheck, SuggestsTheExtensionThatFitsTheContent) {
     EXPECT_EQ(hintOf(description, "a.rtf"),
               "the file looks like a description; its extension should be .rtfspec");
     EXPECT_EQ(hintOf(styleSheet, "a.rtf"),

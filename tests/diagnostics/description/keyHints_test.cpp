@@ -34,7 +34,7 @@ TEST(KeyHints, KnowAKeyWithoutItsNode) {
     EXPECT_EQ(hint(NodeKind::Para, "text"), "did you mean para-text?");
 }
 
-TEST(KeyHints, TellThatEachSideHasABorderOfItsOwn) {
+TEST(KeyHints, SayThatEachSideHasABorderOfItsOwn) {
     EXPECT_EQ(hint(NodeKind::Row, "border"),
               "each side has its own border: row-top-border, -bottom-border, "
               "-left-border, -right-border");
@@ -43,7 +43,7 @@ TEST(KeyHints, TellThatEachSideHasABorderOfItsOwn) {
               "-left-border, -right-border");
 }
 
-TEST(KeyHints, TellNothingOfBordersWhereANodeHasNone) {
+TEST(KeyHints, DoNotMentionBordersWhereANodeHasNone) {
     EXPECT_EQ(hint(NodeKind::Para, "border"), "");
     EXPECT_EQ(hint(NodeKind::Doc, "border"), "");
 }

@@ -15,7 +15,7 @@ std::string said(std::string_view key, std::string_view value) {
     return numberHint(key, value).text;
 }
 
-TEST(NumberHints, TellWhatTheKeyTakes) {
+TEST(NumberHints, SayWhatTheKeyAccepts) {
     for (const char* key : {"paper-width", "paper-height", "left-margin", "bottom-margin"}) {
         EXPECT_EQ(said(key, "wide"), twips) << key;
     }
@@ -23,7 +23,7 @@ TEST(NumberHints, TellWhatTheKeyTakes) {
     EXPECT_EQ(said("page-number-start", "one"), "write a number");
 }
 
-TEST(NumberHints, TellThatAValueIsMissing) {
+TEST(NumberHints, SayThatAValueIsMissing) {
     EXPECT_EQ(said("row-key", ""), "the value is missing; write a number");
     EXPECT_EQ(said("top-margin", ""), std::string("the value is missing; ") + twips);
 }
@@ -39,7 +39,7 @@ TEST(NumberHints, ReckonUnitsOfLengthInTwips) {
     EXPECT_EQ(said("right-margin", "-3pc"), "-3pc is -720 twips; write -720");
 }
 
-TEST(NumberHints, TakeTwipsFromBehindTheirNumber) {
+TEST(NumberHints, TakeTwipsFromAfterTheirNumber) {
     for (const char* value : {"567tw", "567 twip", "567twips"}) {
         EXPECT_EQ(said("left-margin", value), "write only the number: 567") << value;
     }

@@ -13,7 +13,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// The findings about a text, each as its column, its identifier and its hint.
+/// The diagnostics about a text, each as its column, its identifier and its hint.
 std::vector<std::string> found(const std::string& text, TextUse use = TextUse::Text) {
     std::vector<std::string> list;
     const SourceText source(text);
@@ -26,7 +26,7 @@ std::vector<std::string> found(const std::string& text, TextUse use = TextUse::T
     return list;
 }
 
-/// The messages of the findings about a text.
+/// The messages of the diagnostics about a text.
 std::vector<std::string> messages(const std::string& text) {
     std::vector<std::string> list;
     const SourceText source(text);
@@ -44,7 +44,7 @@ constexpr const char* brokenNestedTable =
     ": a nested table needs complete rows, with a definition for each \\nestcell, and "
     "\\itap1 after them";
 
-TEST(TextFindings, KnowTheWordsOfOtherLanguagesForControlWords) {
+TEST(TextDiagnostics, KnowTheWordsOfOtherLanguagesForControlWords) {
     EXPECT_THAT(found("\\bold a"), ElementsAre("1 unknown-control-word: did you mean \\b? For a "
                                                "literal backslash, write \\\\"));
     EXPECT_THAT(found("\\NewLine a"), ElementsAre("1 unknown-control-word: did you mean \\line? "
@@ -55,7 +55,7 @@ TEST(TextFindings, KnowTheWordsOfOtherLanguagesForControlWords) {
                 ElementsAre("1 unknown-control-word: did you mean \\qc?"));
 }
 
-TEST(TextFindings, KnowControlWordsThatAreMisspelt) {
+TEST(TextDiagnostics, KnowControlWordsThatAreMisspelled) {
     EXPECT_THAT(found("\\highligth7 a"),
                 ElementsAre("1 unknown-control-word: did you mean \\highlight? For a literal "
                             "backslash, write \\\\"));
@@ -63,14 +63,14 @@ TEST(TextFindings, KnowControlWordsThatAreMisspelt) {
                 ElementsAre("3 unknown-control-word: write \\\\ for a literal backslash"));
 }
 
-TEST(TextFindings, SayNothingOfANestedTableThatIsWhole) {
+TEST(TextDiagnostics, SayNothingOfANestedTableThatIsWhole) {
     const std::string row = "\\nestcell{\\*\\nesttableprops\\trowd\\cellx9\\nestrow}";
     EXPECT_THAT(found("\\itap2 a" + row + "\\itap1 b"), IsEmpty());
     EXPECT_THAT(found("\\itap2 a" + row + "\\pard\\intbl b"), IsEmpty());
     EXPECT_THAT(found("{\\footnote \\itap2 a\\nestcell}"), IsEmpty());
 }
 
-TEST(TextFindings, TellOfANestedTableWhoseRowsAreNotWhole) {
+TEST(TextDiagnostics, ReportANestedTableWhoseRowsAreNotWhole) {
     // A cell without its definition, a row that does not end, and one without cells.
     EXPECT_THAT(found("\\itap2 a\\nestcell b\\nestcell{\\*\\nesttableprops\\trowd\\cellx9\\nestrow}"
                       "\\itap1 c"),
@@ -89,30 +89,30 @@ TEST(TextFindings, TellOfANestedTableWhoseRowsAreNotWhole) {
                 ElementsAre(std::string("2 table-control") + brokenNestedTable));
 }
 
-TEST(TextFindings, TellOfANestedTableThatIsNotLeft) {
+TEST(TextDiagnostics, ReportANestedTableThatIsNotLeft) {
     EXPECT_THAT(found("\\itap2 a"),
                 ElementsAre(std::string("1 table-control") + brokenNestedTable));
 }
 
-TEST(TextFindings, TellOfTheBeginningOfADocument) {
+TEST(TextDiagnostics, ReportTheBeginningOfADocument) {
     EXPECT_THAT(found("{\\rtf1{\\fonttbl}{\\colortbl}{\\stylesheet}a}"),
                 ElementsAre("2 header-control", "8 header-control", "18 header-control",
                             "29 header-control"));
 }
 
-TEST(TextFindings, TellOfBracesWithoutTheirPartners) {
+TEST(TextDiagnostics, ReportUnmatchedBraces) {
     EXPECT_THAT(found("a}b{"), ElementsAre("2 unbalanced-brace: write \\} for a literal brace",
                                            "4 unbalanced-brace: write \\{ for a literal brace"));
 }
 
-TEST(TextFindings, SayNothingOfHyperlinksToPagesAndLetters) {
+TEST(TextDiagnostics, SayNothingOfHyperlinksToPagesAndLetters) {
     for (const char* target : {"\"https://a.example/x\"", "http://a.example b", "\"MAILTO:a@b.c\"",
                                "\\\\l \"mark\"", "", "\"\""}) {
         EXPECT_THAT(found(field("HYPERLINK " + std::string(target))), IsEmpty()) << target;
     }
 }
 
-TEST(TextFindings, TellOfHyperlinksToFiles) {
+TEST(TextDiagnostics, ReportHyperlinksToFiles) {
     for (const char* target : {"\"c:\\\\a.exe\"", "c:\\\\a.exe", "\"file://a", "  \"ftp://a\" b"}) {
         EXPECT_THAT(messages(field("HYPERLINK " + std::string(target))),
                     ElementsAre("\\fldinst puts a link to a file into the document."))
@@ -120,7 +120,7 @@ TEST(TextFindings, TellOfHyperlinksToFiles) {
     }
 }
 
-TEST(TextFindings, TakeTheCharactersOfAnInstructionAsReadersDo) {
+TEST(TextDiagnostics, TakeTheCharactersOfAnInstructionAsReadersDo) {
     const std::vector<std::string> dde{"\\fldinst puts a link to a program into the document."};
     EXPECT_EQ(messages(field("\\'44\\'44\\'45 a")), dde);
     EXPECT_EQ(messages(field("\\uc0\\u68\\u68\\u69  a")), dde);
@@ -129,20 +129,20 @@ TEST(TextFindings, TakeTheCharactersOfAnInstructionAsReadersDo) {
     EXPECT_THAT(messages(field("D{\\footnote x}DX a")), IsEmpty());
 }
 
-TEST(TextFindings, LookForWhatAnInstructionDoesAtItsBeginning) {
+TEST(TextDiagnostics, LookForWhatAnInstructionDoesAtItsBeginning) {
     const std::string blanks(2000, ' ');
     EXPECT_THAT(messages(field("INCLUDETEXT " + blanks + "a")),
                 ElementsAre("\\fldinst puts a link to a file into the document."));
     EXPECT_THAT(messages(field("PAGE " + blanks + "INCLUDETEXT a")), IsEmpty());
 }
 
-TEST(TextFindings, SayNothingOfNumbersInWhatIsNotTheTextsOwn) {
+TEST(TextDiagnostics, SayNothingOfNumbersInWhatIsNotTheTextsOwn) {
     EXPECT_THAT(found("{\\footnote \\cf58 a}{\\*\\xe \\f18 b}"), IsEmpty());
     EXPECT_THAT(found("{\\field\\cf58 a}{b\\*\\cf58 c}"),
                 ElementsAre("8 unknown-number", "20 unknown-number"));
 }
 
-TEST(TextFindings, TellWhatToWriteForACharacterThatIsMisread) {
+TEST(TextDiagnostics, SuggestWhatToWriteForACharacterThatIsMisread) {
     // A file in UTF-8, read in Windows-1252.
     const std::string misread = "\xC3\x83\xC2\xA9";
     EXPECT_THAT(found(misread), ElementsAre("1 utf-8-text: save the file in Windows-1252, or write "
@@ -153,7 +153,7 @@ TEST(TextFindings, TellWhatToWriteForACharacterThatIsMisread) {
                 ElementsAre("1 utf-8-text: save the file in Windows-1252"));
 }
 
-TEST(TextFindings, TellWhatToWriteForACharacterThatTheCodePageLacks) {
+TEST(TextDiagnostics, SuggestWhatToWriteForACharacterThatTheCodePageLacks) {
     EXPECT_THAT(found("\xE2\x86\x92"),
                 ElementsAre("1 unencodable-character: write {\\uc1\\u8594?}"));
     EXPECT_THAT(found("\xEF\xAC\x81"),
@@ -162,7 +162,7 @@ TEST(TextFindings, TellWhatToWriteForACharacterThatTheCodePageLacks) {
     EXPECT_THAT(found("\xE2\x86\x92", TextUse::FieldData), ElementsAre("1 unencodable-character"));
 }
 
-TEST(TextFindings, TellOfControlCharacters) {
+TEST(TextDiagnostics, ReportControlCharacters) {
     EXPECT_THAT(messages("a\x01\xC2\x81"),
                 ElementsAre("U+0001 is a control character and will not be printed.",
                             "U+0081 is a control character and will not be printed."));
@@ -170,14 +170,14 @@ TEST(TextFindings, TellOfControlCharacters) {
     EXPECT_THAT(found("\xC2\x81", TextUse::FieldData), IsEmpty());
 }
 
-TEST(TextFindings, TellOfTextInWhatIsWrittenOfAFormat) {
+TEST(TextDiagnostics, ReportTextInWhatIsWrittenOfAFormat) {
     EXPECT_THAT(found("^pb^f\\f3^v\\b^x some words", TextUse::Format),
                 ElementsAre("3 format-text: did you mean \\b?"));
     EXPECT_THAT(found("^", TextUse::Format), IsEmpty());
     EXPECT_THAT(found("^zb", TextUse::Format), IsEmpty());
 }
 
-TEST(TextFindings, TellTheFirstTenOfAKind) {
+TEST(TextDiagnostics, ReportTheFirstTenOfAKind) {
     EXPECT_EQ(found(std::string(12, '}')).size(), 10u);
 }
 

@@ -24,7 +24,7 @@ std::vector<std::string> parts(const std::string& text, const KnownStyles* style
     return list;
 }
 
-TEST(TextColors, BehindAFormatAreTheLastOfIt) {
+TEST(TextColors, AfterAFormatAreTheLastOfIt) {
     EXPECT_EQ(shown(colorsBehind("\\fs20\\cf5\\b\\cf6", {1, 2})), "6 on 2");
     EXPECT_EQ(shown(colorsBehind("\\fs20", {1, 2})), "1 on 2");
     EXPECT_EQ(shown(colorsBehind("", {1, 2})), "1 on 2");
@@ -36,7 +36,7 @@ TEST(TextColors, OfTheGroundHaveSeveralWords) {
     }
 }
 
-TEST(TextColors, OfTheGroundAreTheFirstAgainBehindANumberOf0) {
+TEST(TextColors, OfTheGroundAreTheFirstAgainAfterANumberOf0) {
     EXPECT_THAT(parts("\\highlight7 a\\highlight0 b\\cb8 c\\cb d"),
                 ElementsAre("a: 1 on 7", "b: 1 on 2", "c: 1 on 8", "d: 1 on 2"));
 }
@@ -90,7 +90,7 @@ TEST(TextColors, OfTheResultOfAFieldCount) {
     EXPECT_THAT(parts("{\\field{\\*\\fldinst PAGE}{\\fldrslt \\cf5 1}}"), ElementsAre("1: 5 on 2"));
 }
 
-TEST(TextColors, GoOnBehindAClosingBraceTooMany) {
+TEST(TextColors, GoOnAfterAClosingBraceTooMany) {
     EXPECT_THAT(parts("\\cf5 a}b"), ElementsAre("a}b: 5 on 2"));
 }
 

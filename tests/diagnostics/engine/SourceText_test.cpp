@@ -15,7 +15,7 @@ void expectPlace(const Place& place, std::int64_t line, std::int64_t column, std
     EXPECT_EQ(place.offset, offset);
 }
 
-TEST(SourceText, TellsLineAndColumnFromOneOn) {
+TEST(SourceText, CountsLinesAndColumnsFromOne) {
     const SourceText source("ab\ncd");
     expectPlace(source.place(0, 1), 1, 1, 1, 0);
     expectPlace(source.place(4, 5), 2, 2, 1, 4);

@@ -263,7 +263,7 @@ protected:
         refused += fixed.wasRefused ? 1 : 0;
     }
 
-    /// Walks backwards through a round: what is behind the last fix is the end of both texts.
+    /// Walks backwards through a round: what is after the last fix is the end of both texts.
     static void expectOnlyFixedRangesDiffer(const FixedText::Round& round, std::string after) {
         std::string before = round.bytes;
         for (auto found = round.fixed.rbegin(); found != round.fixed.rend(); ++found) {

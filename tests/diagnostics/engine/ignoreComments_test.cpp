@@ -77,7 +77,7 @@ TEST(IgnoreComments, InAStyleSheetAreAboutTheNextDefinition) {
                 IsEmpty());
 }
 
-TEST(IgnoreComments, WithinBracesAreNone) {
+TEST(IgnoreComments, DoNotCountWithinBraces) {
     EXPECT_THAT(leftOfSheet("{ name: a; style-def: s\n; quorvane: ignore bad-keyword\n}\n"),
                 ElementsAre("2 bad-keyword"));
 }

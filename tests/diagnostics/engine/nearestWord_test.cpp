@@ -21,20 +21,20 @@ TEST(NearestWord, TakesNoRegardOfCase) {
     EXPECT_EQ(nearestWord("Dark-Rod", colors), "dark-red");
 }
 
-TEST(NearestWord, IsNoneWhenAllAreFar) {
+TEST(NearestWord, IsEmptyWhenAllAreFar) {
     EXPECT_EQ(nearestWord("purple", colors), "");
     EXPECT_EQ(nearestWord("", colors), "");
     EXPECT_EQ(nearestWord(std::string(5000, 'r'), colors), "");
 }
 
-TEST(NearestWord, PassesOverWhatIsNoWord) {
+TEST(NearestWord, PassesOverWhatIsNotAWord) {
     const std::string endless(5000, 'r');
     const std::vector<std::string_view> names = {"", endless, "red"};
     EXPECT_EQ(nearestWord("rd", names), "red");
     EXPECT_EQ(nearestWord("r", {names.data(), 2}), "");
 }
 
-TEST(NearestWord, IsNoneAmongVeryMany) {
+TEST(NearestWord, IsEmptyAmongVeryMany) {
     const std::vector<std::string_view> many(mostCandidates + 1, "red");
     EXPECT_EQ(nearestWord("rad", many), "");
 }
@@ -52,7 +52,7 @@ TEST(CertainWord, IsOneChangeAwayOrTwoInALongWord) {
     EXPECT_EQ(certainWord("drak-graan", colors), "");
 }
 
-TEST(CertainWord, IsNoneOfTwoThatAreNearlyAsClose) {
+TEST(CertainWord, IsEmptyForTwoThatAreNearlyAsClose) {
     constexpr std::string_view borders[] = {"thin", "thick", "hair"};
     EXPECT_EQ(certainWord("thic", borders), "");
     EXPECT_EQ(certainWord("thck", borders), "thick");
@@ -63,7 +63,7 @@ TEST(CertainWord, IsNoneOfTwoThatAreNearlyAsClose) {
     EXPECT_EQ(certainWord("haeding-1", alike), "heading-1");
 }
 
-TEST(CertainWord, IsNoneForAShortWord) {
+TEST(CertainWord, IsEmptyForAShortWord) {
     EXPECT_EQ(certainWord("rde", colors), "");
     constexpr std::string_view keys[] = {"pt", "rtb"};
     EXPECT_EQ(certainWord("ptt", keys), "");

@@ -1,4 +1,4 @@
-// A document built by hand: cells with the styles of a sheet, one with a colour of its own.
+// A document built by hand: cells with the styles of a sheet, one with a color of its own.
 var styles = "{name:dark;style-def:cell;format:navy-blue}{name:slate;style-def:cell;format:Slate-Blue}" +
              "{name:sky;style-def:cell;format:sky-blue}{name:nil;style-def:cell;format:none}" +
              "{name:odd;style-def:cell;format:crimson}{name:brick;style-def:cell;format:^vred-^fbrick}";

@@ -1,5 +1,5 @@
 Option Explicit
-' A document built by hand: cells with the styles of a sheet, one with a colour of its own.
+' A document built by hand: cells with the styles of a sheet, one with a color of its own.
 Dim document, row, cell, name, paragraph, line, styles
 styles = "{name:dark;style-def:cell;format:navy-blue}{name:slate;style-def:cell;format:Slate-Blue}" & _
          "{name:sky;style-def:cell;format:sky-blue}{name:nil;style-def:cell;format:none}" & _

@@ -45,19 +45,19 @@ constexpr const char* plainSheet =
     "{ name: normal; style-def: s; format: \\fs20 }\n"
     "{ name: label; style-def: cs; format: \\b }\n";
 
-TEST(StyleFindings, SayOfWhichKindAStyleIs) {
+TEST(StyleDiagnostics, SayOfWhichKindAStyleIs) {
     EXPECT_THAT(found("(doc\n(r\n(c\n(p\n(pt=a)\n(ps=label)\np)\nc)\nr)\ndoc)\n", plainSheet),
                 ElementsAre("6 unknown-paragraph-style: label is a character style"));
 }
 
-TEST(StyleFindings, TakeNoLonelyAngleForAnInlineStyle) {
+TEST(StyleDiagnostics, TakeNoLonelyAngleForAnInlineStyle) {
     EXPECT_THAT(
         found("(doc\n(r\n(c\n(p\n(pt=a < b <> <1=c> <label=d>)\n(ps=normal)\np)\nc)\nr)\ndoc)\n",
               plainSheet),
         IsEmpty());
 }
 
-TEST(StyleFindings, WarnOfSharedNumbersInTheFirstAndTheLastParagraphOfACell) {
+TEST(StyleDiagnostics, WarnOfSharedNumbersInTheFirstAndTheLastParagraphOfACell) {
     constexpr const char* shared =
         "(doc\n(r\n(c\n"
         "(p\n(pt=a)\n(ps=reserved)\np)\n"
@@ -68,13 +68,13 @@ TEST(StyleFindings, WarnOfSharedNumbersInTheFirstAndTheLastParagraphOfACell) {
                 ElementsAre("6 shared-style-number", "14 shared-style-number"));
 }
 
-TEST(StyleFindings, WarnOfNoSharedNumberWhereNoTextIsWritten) {
+TEST(StyleDiagnostics, WarnOfNoSharedNumberWhereNoTextIsWritten) {
     EXPECT_THAT(found("(doc\n(r\n(c\n(p\n(ps=reserved)\np)\nc)\n(c\n(p\n(pt=a)\np)\nc)\nr)\ndoc)\n",
                       plainSheet),
                 Not(Contains(HasSubstr("shared-style-number"))));
 }
 
-TEST(StyleFindings, TakeTheColourOfATextFromItsStyle) {
+TEST(StyleDiagnostics, TakeTheColorOfATextFromItsStyle) {
     constexpr const char* dark = "{ name: normal; style-def: s; format: \\cf3\\fs20\\cf24 }\n";
     constexpr const char* light = "{ name: normal; style-def: s; format: \\cf3\\fs20\\cf21 }\n";
     constexpr const char* description =
@@ -89,7 +89,7 @@ std::string cellWith(const std::string& cellLines, const std::string& text) {
     return "(doc\n(r\n(c\n" + cellLines + "(p\n(pt=" + text + ")\np)\nc)\nr)\ndoc)\n";
 }
 
-TEST(StyleFindings, KnowThatTextBecomesWhiteInACellThatIsDarkByItsStyle) {
+TEST(StyleDiagnostics, KnowThatTextBecomesWhiteInACellThatIsDarkByItsStyle) {
     constexpr const char* sheet =
         "{ name: normal; style-def: s; format: \\cf3 }\n"
         "{ name: dark; style-def: cell; format: navy-blue }\n"
@@ -101,7 +101,7 @@ TEST(StyleFindings, KnowThatTextBecomesWhiteInACellThatIsDarkByItsStyle) {
                 ElementsAre("6 low-contrast"));
 }
 
-TEST(StyleFindings, TakeTheColorOfACellForThatOfItsStyleWhereBothAreGiven) {
+TEST(StyleDiagnostics, TakeTheColorOfACellForThatOfItsStyleWhereBothAreGiven) {
     constexpr const char* sheet =
         "{ name: normal; style-def: s; format: \\cf3 }\n"
         "{ name: dark; style-def: cell; format: navy-blue }\n";
@@ -109,7 +109,7 @@ TEST(StyleFindings, TakeTheColorOfACellForThatOfItsStyleWhereBothAreGiven) {
                 ElementsAre("7 low-contrast"));
 }
 
-TEST(StyleFindings, TellTenPairsOfColorsOfAParagraph) {
+TEST(StyleDiagnostics, ReportTenPairsOfColorsOfAParagraph) {
     std::string text;
     for (const int color : {2, 20, 21, 22, 27, 28, 33, 35, 36, 37, 6, 1}) {
         text += "{\\cf" + std::to_string(color) + " a}";
@@ -119,7 +119,7 @@ TEST(StyleFindings, TellTenPairsOfColorsOfAParagraph) {
                 testing::SizeIs(2));
 }
 
-TEST(StyleFindings, TellWhatBecomesOfAParagraphWithoutAnyParagraphStyle) {
+TEST(StyleDiagnostics, SayWhatBecomesOfAParagraphWithoutAnyParagraphStyle) {
     KnownStyles styles("{ name: label; style-def: cs; format: \\b }\n");
     const std::vector<Diagnostic> findings =
         checkDescription("(doc\n(r\n(c\n(p\n(pt=a)\n(ps=label)\np)\nc)\nr)\ndoc)\n", &styles);
@@ -129,7 +129,7 @@ TEST(StyleFindings, TellWhatBecomesOfAParagraphWithoutAnyParagraphStyle) {
     EXPECT_EQ(findings[0].hint, "label is a character style");
 }
 
-TEST(StyleFindings, NameNoStyleForOneThatIsMissingAmongTooMany) {
+TEST(StyleDiagnostics, NameNoStyleForOneThatIsMissingAmongTooMany) {
     std::string sheet;
     for (int i = 0; i < 2000; ++i) {
         sheet += "{ name: style" + std::to_string(i) + "; style-def: s; format: \\b }\n";
@@ -138,12 +138,12 @@ TEST(StyleFindings, NameNoStyleForOneThatIsMissingAmongTooMany) {
                 ElementsAre("6 unknown-paragraph-style"));
 }
 
-TEST(StyleFindings, TakeAnEmptyNameForNoStyle) {
+TEST(StyleDiagnostics, TakeAnEmptyNameForNoStyle) {
     EXPECT_THAT(found("(doc\n(r\n(c\n(cs=)\n(p\n(pt=a)\n(ps=)\np)\nc)\nr)\ndoc)\n", plainSheet),
                 IsEmpty());
 }
 
-TEST(StyleFindings, TakeAStyleForUsedThatFollowsAnother) {
+TEST(StyleDiagnostics, TakeAStyleForUsedThatFollowsAnother) {
     const KnownStyles styles(
         "{ name: normal; style-def: s; next: Body }\n"
         "{ name: body; style-def: s }\n"
@@ -153,7 +153,7 @@ TEST(StyleFindings, TakeAStyleForUsedThatFollowsAnother) {
     EXPECT_THAT(lines(findUnusedStyles(styles)), ElementsAre("3 unused-style", "4 unused-style"));
 }
 
-TEST(StyleFindings, TakeAStyleForUsedThatAnotherOneIsBasedOn) {
+TEST(StyleDiagnostics, TakeAStyleForUsedThatAnotherOneIsBasedOn) {
     const KnownStyles styles(
         "{ name: normal; style-def: s; format: \\fs20 }\n"
         "{ name: base; style-def: s; format: \\fs20 }\n"
@@ -163,7 +163,7 @@ TEST(StyleFindings, TakeAStyleForUsedThatAnotherOneIsBasedOn) {
     EXPECT_THAT(lines(findUnusedStyles(styles)), ElementsAre("3 unused-style", "4 unused-style"));
 }
 
-TEST(StyleFindings, KnowTheKindThatWasMeant) {
+TEST(StyleDiagnostics, KnowTheKindThatWasMeant) {
     EXPECT_THAT(lines(checkStyleSheet("{ name: a; style-def: character; format: \\b }\n")),
                 Contains(HasSubstr("write cs for a character style")));
     EXPECT_THAT(lines(checkStyleSheet("{ name: a; style-def: paragraph; format: \\b }\n")),
@@ -175,7 +175,7 @@ std::vector<std::string> foundInFormat(const std::string& format) {
     return lines(checkStyleSheet("{ name: a; style-def: s; format: " + format + " }\n"));
 }
 
-TEST(StyleFindings, WarnOfTextInAFormat) {
+TEST(StyleDiagnostics, WarnOfTextInAFormat) {
     EXPECT_THAT(foundInFormat("fs20 b"), ElementsAre("1 format-text: did you mean \\fs20\\b?"));
     EXPECT_THAT(foundInFormat("/fs20"), ElementsAre("1 format-text: did you mean \\fs20?"));
     EXPECT_THAT(foundInFormat("\\b FS20"), ElementsAre("1 format-text: did you mean \\fs20?"));
@@ -205,13 +205,13 @@ TEST(StyleFindings, WarnOfTextInAFormat) {
                             std::to_string(CRtfGrpColorTable::colorNumber("red")) + "?"));
 }
 
-TEST(StyleFindings, KnowTheNumberOfAColorOfTwoWords) {
+TEST(StyleDiagnostics, KnowTheNumberOfAColorOfTwoWords) {
     EXPECT_THAT(foundInFormat("\\highlight Dark Red"),
                 ElementsAre("1 format-text: did you mean \\highlight" +
                             std::to_string(CRtfGrpColorTable::colorNumber("dark-red")) + "?"));
 }
 
-TEST(StyleFindings, MarkTheTextInAFormat) {
+TEST(StyleDiagnostics, MarkTheTextInAFormat) {
     const std::vector<Diagnostic> findings =
         checkStyleSheet("{ name: a; style-def: s; format: \\fs20 Arial 10 \\b }\n");
     ASSERT_EQ(findings.size(), 1u);
@@ -221,7 +221,7 @@ TEST(StyleFindings, MarkTheTextInAFormat) {
     EXPECT_EQ(findings[0].place.length, 8);
 }
 
-TEST(StyleFindings, WarnOfNoTextInAFormatOfControlWords) {
+TEST(StyleDiagnostics, WarnOfNoTextInAFormatOfControlWords) {
     for (const char* format : {"\\fs20\\b", "\\fs20 \\b", "\\fs20", ""}) {
         EXPECT_THAT(foundInFormat(format), IsEmpty()) << format;
     }
@@ -229,7 +229,7 @@ TEST(StyleFindings, WarnOfNoTextInAFormatOfControlWords) {
                 IsEmpty());
 }
 
-TEST(StyleFindings, KnowItemsWithoutTheirSeparators) {
+TEST(StyleDiagnostics, KnowItemsWithoutTheirSeparators) {
     EXPECT_THAT(lines(checkStyleSheet("{ name: n, style-def: s, format: \\b }\n")),
                 Contains("1 no-style-kind: write a ; before "
                          "style-def"));
@@ -241,19 +241,19 @@ TEST(StyleFindings, KnowItemsWithoutTheirSeparators) {
                             "next"));
 }
 
-TEST(StyleFindings, KnowKeywordsWithoutTheirColon) {
+TEST(StyleDiagnostics, KnowKeywordsWithoutTheirColon) {
     EXPECT_THAT(
         lines(checkStyleSheet("{ name: n; style-def = s; format \\b }\n")),
         ElementsAre("1 no-style-kind", "1 bad-keyword: write a : after the keyword style-def",
                     "1 bad-keyword: write a : after the keyword format"));
 }
 
-TEST(StyleFindings, WarnOfTextInTheWrittenPartsOfARecordString) {
+TEST(StyleDiagnostics, WarnOfTextInTheWrittenPartsOfARecordString) {
     EXPECT_THAT(foundInFormat("^p\\fs20^f\\f3^v\\b^x some words"), IsEmpty());
     EXPECT_THAT(foundInFormat("^pfs20^f\\f3"), ElementsAre("1 format-text: did you mean \\fs20?"));
 }
 
-TEST(Findings, WeighAsErrorOrAsWarning) {
+TEST(Diagnostics, WeighAsErrorOrAsWarning) {
     EXPECT_EQ(severityName(Severity::Error), "error");
     EXPECT_EQ(severityName(Severity::Warning), "warning");
 }
