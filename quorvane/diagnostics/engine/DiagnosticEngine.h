@@ -10,13 +10,13 @@
 
 namespace quorvane {
 
-/// Makes findings from the table of diagnostics and hands them on.
+/// Makes diagnostics from their table and hands them on.
 class DiagnosticEngine {
 public:
     explicit DiagnosticEngine(DiagnosticReceiver receiver) : receiver_(std::move(receiver)) {}
 
-    /// Hands on a finding. The arguments take the places of "{0}", "{1}" and so on in the text that
-    /// the table has for it. A replacement of the hint is the fix for the place.
+    /// Hands on a diagnostic. The arguments take the places of "{0}", "{1}" and so on in the text
+    /// that the table has for it. A replacement of the hint is the fix for the place.
     void report(DiagnosticId id, const Place& place,
                 std::initializer_list<std::string_view> arguments = {}, Hint hint = {});
 
@@ -35,7 +35,7 @@ private:
 std::string withArguments(std::string_view pattern,
                           std::initializer_list<std::string_view> arguments);
 
-/// Puts the findings into the order of their places; those of one place stay as they were.
-void sortByPlace(std::vector<Diagnostic>& findings);
+/// Puts the diagnostics into the order of their places; those of one place stay as they were.
+void sortByPlace(std::vector<Diagnostic>& diagnostics);
 
 }  // namespace quorvane
