@@ -36,7 +36,7 @@ private:
     struct Wide;
 
     static constexpr unsigned bitsOfAWidth = 15;
-    // Four times -1, and the bit that tells packed widths from an address.
+    // Four times -1, and the bit that distinguishes packed widths from an address.
     static constexpr std::uint64_t noBorders = UINT64_C(0x1FFFFFFFFFFFFFFF);
 
     static bool fits(std::int32_t width) noexcept;

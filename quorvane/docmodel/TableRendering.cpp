@@ -20,7 +20,7 @@ constexpr SideWords sides[] = {
 }  // namespace
 
 std::string_view TableRendering::paragraphStyle(const SharedText& name) {
-    // Words are never empty: a document answers a blank where there are none.
+    // Words are never empty: a document returns a blank where there are none.
     if (styleWords_.empty() || !name.sharesWith(styleName_)) {
         styleWords_ = document.GetParagraphStyle(name.view());
         styleName_ = name;

@@ -34,7 +34,7 @@ public:
     /// none.
     std::string StrZ() const;
 
-    /// True when `Code` occurs in what `GetDelims` answers, without regard to case. False for an
+    /// True when `Code` occurs in what `GetDelims` returns, without regard to case. False for an
     /// empty code.
     bool hasSubfield(std::string_view Code) const;
 

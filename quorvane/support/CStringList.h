@@ -84,10 +84,10 @@ public:
     Strings NewEnum() const& { return Strings(entries_); }
     Strings NewEnum() const&& = delete;
 
-    /// Adds a string at the end. Answers as `add`.
+    /// Adds a string at the end. Returns what `add` returns.
     bool AddTail(std::string Item, const Value& Key = Missing{});
 
-    /// Adds a string at position 1. Answers as `add`.
+    /// Adds a string at position 1. Returns what `add` returns.
     bool AddHead(std::string Item, const Value& Key = Missing{});
 
     /// Removes the last element, if there is one.
@@ -133,7 +133,7 @@ public:
 private:
     /// The 0-based place of the element that the index names; nothing when it names none.
     std::optional<std::size_t> find(const Value& index) const;
-    /// The same, with the errors that `Remove` tells of.
+    /// The same, with the errors of `Remove`.
     std::size_t require(const Value& index) const;
     /// Where a new element goes; nothing when there is no such place.
     std::optional<std::size_t> placeFor(const Value& before, const Value& after) const;

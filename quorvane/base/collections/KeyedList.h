@@ -135,7 +135,7 @@ public:
         block()->openSlot(place.position - 1, element.detach());
     }
 
-    /// Removes the element at a 1-based position, which must be there, and answers it.
+    /// Removes the element at a 1-based position, which must be there, and returns it.
     Ref<Element> removeAt(std::size_t position) noexcept {
         if (!hasBlock()) {
             return Ref<Element>::adopt(std::exchange(only_, nullptr));

@@ -21,7 +21,7 @@ inline constexpr char32_t strayByte = 0x110000;
 /// character like any other; every byte that is part of nothing well-formed is one of its own.
 Utf8Character utf8CharacterAt(std::string_view text, std::size_t position);
 
-/// Appends a character, given by its code as `utf8CharacterAt` tells it.
+/// Appends a character, given by its code as `utf8CharacterAt` returns it.
 void appendUtf8(char32_t code, std::string& text);
 
 /// Number of characters, as `utf8CharacterAt` counts them.

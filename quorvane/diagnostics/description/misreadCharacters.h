@@ -8,7 +8,7 @@
 
 namespace quorvane {
 
-/// What is said of a character of a file in UTF-8, which reads as several in Windows-1252.
+/// The message about a character of a file in UTF-8, which reads as several in Windows-1252.
 std::string misreadText(std::string_view shown);
 
 /// Keeps the first diagnostic of each kind about a misread character, which says that there are
