@@ -8,7 +8,7 @@
 #include "quorvane/base/platform/Files.h"
 #include "quorvane/base/platform/UnfinishedFileWatch.h"
 
-/// What the command asks of the operating system beyond the library's platform. Errors have the
+/// What the command needs from the operating system beyond the library's platform. Errors have the
 /// numbers of the platform's; their cause is what the system said. Paths are UTF-8.
 namespace quorvane::cli {
 

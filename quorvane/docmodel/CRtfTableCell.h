@@ -40,12 +40,12 @@ public:
     void setBackColor(tColorIndex color);
 
     /// Returns the width of the cell: its right edge minus that of the cell before it. With
-    /// `eTwips` in twips, otherwise in per cent of the text area, rounded (halves to even). Errors:
-    /// 5 if the cell is no longer in its row, 6 for an overflow, 11 for per cent of a text area of
-    /// width 0, 91 if the row or the document no longer exists.
+    /// `eTwips` in twips, otherwise in percent of the text area, rounded (halves to even). Errors:
+    /// 5 if the cell is no longer in its row, 6 for an overflow, 11 for a percentage of a text area
+    /// of width 0, 91 if the row or the document no longer exists.
     std::int32_t Width(tWidthUnit Units) const;
     /// Gives the cell this width by moving one edge: the right edge or, for the last of several
-    /// cells, the left edge. With `ePercent` the width is in per cent of the text area, otherwise
+    /// cells, the left edge. With `ePercent` the width is in percent of the text area, otherwise
     /// in twips. The edge stops 200 twips before the next edge on either side; a single cell is at
     /// least 200 twips and at most the text area wide. No other edge moves. Marks the document
     /// changed. Errors as for `Width`.

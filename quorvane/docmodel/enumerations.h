@@ -77,8 +77,8 @@ enum tBorderWidth : std::int32_t {
     eThick = 30,
 };
 
-/// Units of a cell's width: per cent of the text area, or twips. Any other value counts as twips
-/// when a width is set, and as per cent when it is read.
+/// Units of a cell's width: percent of the text area, or twips. Any other value counts as twips
+/// when a width is set, and as percent when it is read.
 enum tWidthUnit : std::int32_t {
     ePercent = 0,
     eTwips = 1,

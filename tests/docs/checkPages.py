@@ -17,7 +17,8 @@ problems = []
 BRITISH = re.compile(
     r"\b(colours?|coloured|behaviours?|neighbours?|neighbouring|centred?|centres|catalogues?|"
     r"analys(?:e|ed|ing)|recognis\w+|organis\w+|initialis\w+|serialis\w+|normalis\w+|"
-    r"summaris\w+|optimis\w+|licences?|honours?|favours?|greys?|artefacts?|labelled|cancelled)\b",
+    r"summaris\w+|optimis\w+|licences?|honours?|favours?|greys?|artefacts?|labelled|cancelled|"
+    r"per cent)\b",
     re.IGNORECASE)
 
 

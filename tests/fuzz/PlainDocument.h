@@ -550,7 +550,7 @@ struct ParagraphsView {
     }
 };
 
-/// Width of a cell, in twips or, for any unit but 1, in per cent.
+/// Width of a cell, in twips or, for any unit but 1, in percent.
 inline std::int32_t widthOf(const Cell& cell, std::int32_t units) {
     const auto row = cell.owner.lock();
     if (!row) {

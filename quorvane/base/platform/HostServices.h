@@ -43,7 +43,7 @@ public:
     virtual void sendError(const ErrorReport& report) = 0;
 };
 
-/// What the library asks of the program and the desktop that it runs on. Texts are UTF-8.
+/// What the library needs from the program and the desktop that it runs on. Texts are UTF-8.
 class HostServices {
 public:
     virtual ~HostServices() = default;

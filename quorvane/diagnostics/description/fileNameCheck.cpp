@@ -32,7 +32,7 @@ Naming namingOf(CheckedLanguage language) {
     return {"an RTF file", ".rtf"};
 }
 
-/// What the loading says of the text; empty when it accepts it.
+/// The error of loading the text; empty if it loads.
 std::string loadingErrorOf(std::string_view text) {
     try {
         parseStyleSheet(text, [](const StyleDefinition&) {});

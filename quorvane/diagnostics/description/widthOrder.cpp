@@ -57,7 +57,7 @@ std::optional<std::size_t> firstOfOtherWidth(const CellPercents& percents, std::
 }
 
 /// Gives the cells without a width equal shares of what the others leave; false when they leave
-/// less than a per cent for each.
+/// less than one percent for each.
 bool fillIn(CellPercents& percents) {
     double sum = 0;
     int missing = 0;

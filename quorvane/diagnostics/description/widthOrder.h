@@ -9,10 +9,10 @@
 
 namespace quorvane {
 
-/// The widths of a row's cells in per cent; nothing for a cell without one.
+/// The widths of a row's cells in percent; nothing for a cell without one.
 using CellPercents = std::vector<std::optional<double>>;
 
-/// True when the cell at the index is clearly not as wide as its per cent of the room between the
+/// True when the cell at the index is clearly not as wide as its percentage of the room between the
 /// margins. The widths are those of all cells of the row, in twips.
 bool isOfOtherWidth(const std::vector<std::int32_t>& widths, std::size_t index, double percent,
                     std::int32_t room);

@@ -39,9 +39,9 @@ std::string withArguments(std::string_view pattern,
     return text;
 }
 
-void sortByPlace(std::vector<Diagnostic>& findings) {
+void sortByPlace(std::vector<Diagnostic>& diagnostics) {
     std::stable_sort(
-        findings.begin(), findings.end(),
+        diagnostics.begin(), diagnostics.end(),
         [](const Diagnostic& a, const Diagnostic& b) { return a.place.offset < b.place.offset; });
 }
 
