@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::size_t pieceLength = std::size_t{1024} * 1024;
 constexpr double megabyte = 1e6;
-constexpr std::size_t leastBytes = 400000000;
+constexpr std::size_t minBytes = 400000000;
 
 std::string fileOrDocument(int argc, char** argv) {
     if (argc > 1) {
@@ -29,7 +29,7 @@ std::string fileOrDocument(int argc, char** argv) {
 /// Megabytes a second of what is done to the bytes, piece by piece, as often as it takes to see.
 template <class Work>
 double speedOf(std::string_view bytes, Work work) {
-    const std::size_t times = leastBytes / std::max<std::size_t>(bytes.size(), 1) + 1;
+    const std::size_t times = minBytes / std::max<std::size_t>(bytes.size(), 1) + 1;
     const auto begin = std::chrono::steady_clock::now();
     for (std::size_t i = 0; i < times; ++i) {
         work(bytes);

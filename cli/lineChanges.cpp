@@ -94,7 +94,7 @@ public:
 
 private:
     // More changes than these within one box are not searched for the shortest path.
-    static constexpr Position mostChanges = 500;
+    static constexpr Position maxChanges = 500;
     static constexpr Position unreached = std::numeric_limits<Position>::min() / 2;
 
     bool isEqual(Position before, Position after) const {
@@ -196,7 +196,7 @@ private:
         backwardOn(lastDiagonal) = box.endBefore;
         Reach forward{firstDiagonal, firstDiagonal};
         Reach backward{lastDiagonal, lastDiagonal};
-        for (Position changes = 1; changes <= mostChanges; ++changes) {
+        for (Position changes = 1; changes <= maxChanges; ++changes) {
             const Reach forwardBefore = forward;
             forward = reachOf(box, firstDiagonal, changes);
             for (Position k = forward.first; k <= forward.last; k += 2) {

@@ -60,7 +60,7 @@ std::optional<CheckedLanguage> languageOfSourceFile(const std::string& path) {
         std::erase(bytes, '\0');
         bytes.erase(0, bytes.find_first_of("({;"));
     }
-    const std::string text = utf8FromCodePage1252(behindByteOrderMark(bytes));
+    const std::string text = utf8FromCodePage1252(afterByteOrderMark(bytes));
     // A stylesheet is recognized under any name; if the content is unclear, the name decides.
     const std::optional<CheckedLanguage> language = languageOfStreamToFormat(text);
     return language ? language : languageToFormat(text, path);

@@ -14,7 +14,7 @@ namespace quorvane::com {
 
 namespace {
 
-constexpr UINT mostNames = 8;
+constexpr UINT maxNames = 8;
 // Members of IUnknown and IDispatch have identifiers from here on.
 constexpr DISPID firstInherited = 0x60000000;
 
@@ -34,13 +34,13 @@ bool areEqual(std::wstring_view a, std::wstring_view b) {
 
 /// The names of a member and of its parameters.
 std::vector<std::wstring> namesOf(ITypeInfo& info, MEMBERID id) {
-    std::array<BSTR, mostNames> names{};
+    std::array<BSTR, maxNames> names{};
     UINT count = 0;
-    if (info.GetNames(id, names.data(), mostNames, &count) == E_OUTOFMEMORY) {
+    if (info.GetNames(id, names.data(), maxNames, &count) == E_OUTOFMEMORY) {
         throw std::bad_alloc();
     }
     const auto release = [](BSTR* all) {
-        std::for_each(all, all + mostNames, [](BSTR name) { SysFreeString(name); });
+        std::for_each(all, all + maxNames, [](BSTR name) { SysFreeString(name); });
     };
     const std::unique_ptr<BSTR, decltype(release)> freed(names.data(), release);
     std::vector<std::wstring> texts;

@@ -27,7 +27,7 @@ bool isUtf16(std::string_view text) {
     return isEvenZero != isOddZero;
 }
 
-std::string_view behindByteOrderMark(std::string_view text) {
+std::string_view afterByteOrderMark(std::string_view text) {
     for (const std::string_view mark : utf8Marks) {
         if (text.starts_with(mark)) {
             return text.substr(mark.size());

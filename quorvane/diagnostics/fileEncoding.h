@@ -12,6 +12,6 @@ bool isUtf16(std::string_view text);
 
 /// The text after the mark with which many programs begin a file in UTF-8: its bytes as they are
 /// or as they read in Windows-1252. The whole text when it has no mark.
-std::string_view behindByteOrderMark(std::string_view text);
+std::string_view afterByteOrderMark(std::string_view text);
 
 }  // namespace quorvane

@@ -70,7 +70,7 @@ CheckedLanguage languageOf(std::string_view beginning, std::string_view fileName
         std::erase_if(ascii, [](char byte) { return byte < ' ' && byte != '\r' && byte != '\n'; });
         return languageOf(ascii, fileName);
     }
-    const std::string_view text = behindByteOrderMark(beginning.substr(0, enough));
+    const std::string_view text = afterByteOrderMark(beginning.substr(0, enough));
     // Texts of a description may hold more braces than a stylesheet does, so that counting alone
     // would not do.
     const std::string_view first = firstLineOf(text);

@@ -50,7 +50,7 @@ void report(DiagnosticEngine& engine, std::string_view what, std::string_view hi
 
 /// True for a text in one of the languages, whatever bytes it holds.
 bool isOfALanguage(std::string_view bytes) {
-    const std::string_view text = trimWhitespace(behindByteOrderMark(bytes));
+    const std::string_view text = trimWhitespace(afterByteOrderMark(bytes));
     if (text.starts_with("{\\rtf") || !openingOfDescription(text).empty()) {
         return true;
     }

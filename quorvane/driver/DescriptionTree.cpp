@@ -15,12 +15,12 @@ namespace {
 constexpr std::size_t roomForALeaf = sizeof(Leaf) + sizeof(DescriptionNode) / 2;
 constexpr std::size_t roomForFew = 1024;
 // Beyond, blocks follow as they are needed: a text of many lines need not have many leaves.
-constexpr std::size_t mostLeavesAtOnce = 16384;
+constexpr std::size_t maxLeavesAtOnce = 16384;
 
 }  // namespace
 
 DescriptionTree::DescriptionTree(std::size_t leafCount)
-    : memory_(roomForFew + std::min(leafCount, mostLeavesAtOnce) * roomForALeaf) {}
+    : memory_(roomForFew + std::min(leafCount, maxLeavesAtOnce) * roomForALeaf) {}
 
 Leaf* DescriptionTree::addLeaf(DescriptionNode& node, const Leaf& leaf) {
     void* const memory = memory_.allocate(sizeof(Leaf), alignof(Leaf));

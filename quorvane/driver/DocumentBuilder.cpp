@@ -8,6 +8,9 @@
 
 #include "quorvane/base/text/rounding.h"
 #include "quorvane/base/values/RtfError.h"
+#include "quorvane/docmodel/InnerCells.h"
+#include "quorvane/docmodel/InnerParagraphs.h"
+#include "quorvane/docmodel/InnerRows.h"
 #include "quorvane/driver/DescriptionRules.h"
 #include "quorvane/driver/driverErrors.h"
 
@@ -177,11 +180,13 @@ void DocumentBuilder::refile(Collection& collection, Built& built, std::span<Bui
         built.element = collection.refile(built.element, key);
     } catch (const RtfError& error) {
         if (receiver_ && error.is(RunTimeError::DuplicateKey)) {
-            const auto holder = collection.Item(key);
-            const auto found =
-                std::find_if(siblings.begin(), siblings.end(),
-                             [&](const Built& sibling) { return sibling.element == holder; });
-            keyHolder_ = found == siblings.end() ? nullptr : found->node;
+            // An entry takes the position of the one that it replaces, so positions are those of
+            // the nodes, unless a host removed an element meanwhile.
+            const auto& list = inner(collection).list();
+            const std::size_t position = list.positionOfIndex(key);
+            const bool isSibling = position <= siblings.size() &&
+                                   siblings[position - 1].element.get() == &list.at(position);
+            keyHolder_ = isSibling ? siblings[position - 1].node : nullptr;
         }
         throw;
     }

@@ -102,7 +102,7 @@ private:
 
     // A power of two, several times as many as there are words.
     static constexpr std::size_t slotCount = 256;
-    static constexpr std::size_t mostNodeWords = 8;
+    static constexpr std::size_t maxNodeWords = 8;
 
     static std::vector<std::string_view> namesOf(std::span<const VocabularyWords::NamedValue> list);
     void add(std::string_view word, const LeafKey& key);
@@ -114,7 +114,7 @@ private:
     std::array<Slot, slotCount> slots_{};
     std::array<KeySet, 5> keySets_{};
     // The names of nodes, each as one number.
-    std::array<std::uint32_t, mostNodeWords> nodeNumbers_{};
+    std::array<std::uint32_t, maxNodeWords> nodeNumbers_{};
 };
 
 /// The words of the published language.

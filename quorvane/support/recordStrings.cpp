@@ -138,8 +138,8 @@ std::vector<SourceLine> PreProcessRawData(std::string_view text) {
     std::vector<SourceLine> lines;
     // As many as there may be in a small text; a large one makes room as it goes.
     constexpr std::size_t shortLine = 16;
-    constexpr std::size_t mostAtFirst = 1024;
-    lines.reserve(std::min(text.size() / shortLine + 1, mostAtFirst));
+    constexpr std::size_t maxAtFirst = 1024;
+    lines.reserve(std::min(text.size() / shortLine + 1, maxAtFirst));
     Next lineFeed(text, '\n');
     Next carriageReturn(text, '\r');
     std::size_t position = 0;

@@ -85,9 +85,9 @@ TEST(UnifiedDiff, IsTakenByPatch) {
 }
 
 /// A text of few different lines, or of many; the last one may lack its end.
-std::string randomText(std::mt19937& random, int mostLines, int words) {
+std::string randomText(std::mt19937& random, int maxLines, int words) {
     std::string text;
-    const int count = static_cast<int>(random() % static_cast<unsigned>(mostLines));
+    const int count = static_cast<int>(random() % static_cast<unsigned>(maxLines));
     for (int i = 0; i < count; ++i) {
         text += "line " + std::to_string(random() % static_cast<unsigned>(words)) + "\n";
     }

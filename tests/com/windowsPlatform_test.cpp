@@ -28,10 +28,10 @@ std::string programPath() {
 }
 
 /// Waits for a dialogue of that title, returns its text and its buttons, and closes it with OK.
-class DialogueWatcher {
+class DialogWatcher {
 public:
-    explicit DialogueWatcher(const wchar_t* title) : thread_([this, title] { watch(title); }) {}
-    ~DialogueWatcher() { finish(); }
+    explicit DialogWatcher(const wchar_t* title) : thread_([this, title] { watch(title); }) {}
+    ~DialogWatcher() { finish(); }
 
     void finish() {
         if (thread_.joinable()) {
@@ -78,7 +78,7 @@ private:
 const RtfError cannotCreate(RunTimeError::CannotCreateObject);
 
 TEST(ErrorsOfTheLibrary, ShowABoxWhenAnObjectCannotBeCreated) {
-    DialogueWatcher watcher(L"Quorvane");
+    DialogWatcher watcher(L"Quorvane");
     GError errors(systemPlatform());
 
     errors.handleError(cannotCreate, "CRtfDoc.cls", "Commit");
@@ -94,7 +94,7 @@ TEST(ErrorsOfTheLibrary, ShowABoxWhenAnObjectCannotBeCreated) {
 }
 
 TEST(ErrorsOfTheLibrary, ShowTheBoxAlsoWhenTheErrorCollectionIsNotThere) {
-    DialogueWatcher watcher(L"Quorvane");
+    DialogWatcher watcher(L"Quorvane");
     GError errors(systemPlatform());
     errors.setReporterSwitch(true);
 

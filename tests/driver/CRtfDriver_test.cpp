@@ -22,56 +22,56 @@ constexpr const char* goodSheet = "{name:normal;style-def:s;format:\\f9\\fs20}";
 constexpr const char* badKeyword = "{nam:normal;style-def:s}";
 constexpr const char* badBraces = "{name:normal;style-def:s}}";
 
-ToldError wrongFileType() {
+ErrorFacts wrongFileType() {
     return driverErrorOf(eWrongFileType, "The provided file isn't a correct rtfspec file.",
                          "CRtfDriver.AnalyseData");
 }
 
-ToldError missingElements() {
+ErrorFacts missingElements() {
     return driverErrorOf(eRequiredElementMissing,
                          "Missing some requiered elements:\r\n(doc\r\n(row\r\n(cell",
                          "CRtfDriver.AnalyseData");
 }
 
-ToldError wrongRoot(int line) {
+ErrorFacts wrongRoot(int line) {
     return driverErrorOf(eWrongRootNode, "(doc must be the first node.", "CRtfDriver.Analysedata",
                          line);
 }
 
-ToldError wrongPath(const std::string& description) {
+ErrorFacts wrongPath(const std::string& description) {
     return driverErrorOf(eWrongPath, description, "Error: eWrongPath\r\nCRtfDriver.ParseFile");
 }
 
-ToldError refusedStyleSheet(const std::string& name) {
+ErrorFacts refusedStyleSheet(const std::string& name) {
     return driverErrorOf(eWrongFileType, name + " isn't a valid stylesheet.",
                          "CRtfDriver.StyleSheetFile");
 }
 
-ToldError noKeyword(const std::string& key, const std::string& walker, int line) {
+ErrorFacts noKeyword(const std::string& key, const std::string& walker, int line) {
     return driverErrorOf(eWrongKeyword, key + " isn't a valid keyword.",
                          "CRtfDriver." + walker + "WalkerSyntax", line);
 }
 
-ToldError mustHave(const std::string& what, const std::string& walker, int line) {
+ErrorFacts mustHave(const std::string& what, const std::string& walker, int line) {
     return driverErrorOf(eWrongKeyword, "Must have at least one " + what + ".",
                          "CRtfDriver." + walker + "WalkerSyntax", line);
 }
 
-ToldError noNumber(const std::string& key, int line) {
+ErrorFacts noNumber(const std::string& key, int line) {
     return driverErrorOf(eWrongValue, "Value for " + key + " should be numeric.",
                          "CRtfDriver.treeWalkerSemantic", line);
 }
 
-ToldError wrongNodeType(const std::string& text, int line) {
+ErrorFacts wrongNodeType(const std::string& text, int line) {
     return driverErrorOf(eWrongNodeType, "Wrong node type in " + text, "CRtfDriver.treeWalkerBuild",
                          line);
 }
 
-std::vector<ToldError> errorsOf(const std::string& text, Checks checks = Checks::Off) {
+std::vector<ErrorFacts> errorsOf(const std::string& text, Checks checks = Checks::Off) {
     return ParsedDescription(lines(text), checks).errors;
 }
 
-std::vector<ToldError> checkedErrorsOf(const std::string& text) {
+std::vector<ErrorFacts> checkedErrorsOf(const std::string& text) {
     return errorsOf(text, Checks::On);
 }
 
@@ -174,9 +174,9 @@ TEST_F(CRtfDriverTest, ReadsAFileInItsCodePage) {
 }
 
 TEST_F(CRtfDriverTest, AnalyzesAFileAsItAnalyzesAText) {
-    std::vector<ToldError> errors;
+    std::vector<ErrorFacts> errors;
     driver->setNotifyErrorHandler(
-        [&](CRtfDriver&, const RtfError& error) { errors.push_back(told(error)); });
+        [&](CRtfDriver&, const RtfError& error) { errors.push_back(factsOf(error)); });
     platform.files["in"] = lines("(doc|(r|(c|(cb=crimson)|c)|r)|doc)");
     driver->ParseFile("in");
     EXPECT_EQ(errors, errorsOf("(doc|(r|(c|(cb=crimson)|c)|r)|doc)"));
@@ -185,14 +185,15 @@ TEST_F(CRtfDriverTest, AnalyzesAFileAsItAnalyzesAText) {
 
 TEST_F(CRtfDriverTest, RefusesAnEmptyPath) {
     EXPECT_EQ(errorOf([&] { driver->ParseFile(""); }), wrongPath("Path is empty!"));
-    EXPECT_EQ(told(*currentError()), wrongPath("Path is empty!"));
+    EXPECT_EQ(factsOf(*currentError()), wrongPath("Path is empty!"));
     EXPECT_THAT(platform.operations, IsEmpty());
 }
 
 TEST_F(CRtfDriverTest, RefusesAFileThatIsNotThere) {
     EXPECT_EQ(errorOf([&] { driver->ParseFile("no such.rtfspec"); }),
               wrongPath("no such.rtfspec doesn't exist or is unreacheable"));
-    EXPECT_EQ(told(*currentError()), wrongPath("no such.rtfspec doesn't exist or is unreacheable"));
+    EXPECT_EQ(factsOf(*currentError()),
+              wrongPath("no such.rtfspec doesn't exist or is unreacheable"));
 }
 
 TEST_F(CRtfDriverTest, RefusesAFileThatCannotBeReadWithTheCause) {
@@ -202,7 +203,7 @@ TEST_F(CRtfDriverTest, RefusesAFileThatCannotBeReadWithTheCause) {
         driver->ParseFile("in");
         FAIL() << "no error";
     } catch (const RtfError& error) {
-        EXPECT_EQ(told(error), wrongPath("in doesn't exist or is unreacheable"));
+        EXPECT_EQ(factsOf(error), wrongPath("in doesn't exist or is unreacheable"));
         ASSERT_NE(error.cause, nullptr);
         EXPECT_TRUE(error.cause->is(RunTimeError::PathFileAccessError));
     }
@@ -304,11 +305,11 @@ TEST_F(CRtfDriverTest, RefusesABadStyleSheetWithTheCause) {
         driver->setStyleSheetFile("a.rtfss");
         FAIL() << "no error";
     } catch (const RtfError& error) {
-        EXPECT_EQ(told(error), refusedStyleSheet("a.rtfss"));
+        EXPECT_EQ(factsOf(error), refusedStyleSheet("a.rtfss"));
         ASSERT_NE(error.cause, nullptr);
         EXPECT_EQ(error.cause->number, 445);
     }
-    EXPECT_EQ(told(*currentError()), refusedStyleSheet("a.rtfss"));
+    EXPECT_EQ(factsOf(*currentError()), refusedStyleSheet("a.rtfss"));
     EXPECT_EQ(driver->StyleSheetFile(), "");
     EXPECT_FALSE(driver->RtfObject()->StyleSheetOk());
 }
@@ -431,9 +432,9 @@ TEST_F(CRtfDriverTest, LeavesTheClipboardAloneOtherwise) {
 }
 
 TEST_F(CRtfDriverTest, ReportsThatTheClipboardFailedAndGoesOn) {
-    std::vector<ToldError> errors;
+    std::vector<ErrorFacts> errors;
     driver->setNotifyErrorHandler(
-        [&](CRtfDriver&, const RtfError& error) { errors.push_back(told(error)); });
+        [&](CRtfDriver&, const RtfError& error) { errors.push_back(factsOf(error)); });
     platform.fail("setClipboardText", RunTimeError::PermissionDenied);
     driver->ParseFromMemmory("x");
     ASSERT_EQ(errors.size(), 5u);
@@ -674,7 +675,7 @@ TEST(Analysis, ReportsTheLineOfEveryKindOfError) {
     const std::string before = "; first||(doc|";
     const std::string after = "|; last|doc)";
     const auto lineOf = [&](const std::string& text, Checks checks = Checks::Off) {
-        const std::vector<ToldError> errors = errorsOf(before + text + after, checks);
+        const std::vector<ErrorFacts> errors = errorsOf(before + text + after, checks);
         return errors.empty() ? -1 : errors.front().line;
     };
     EXPECT_EQ(lineOf("x|(r"), 4);
@@ -693,7 +694,7 @@ TEST(Analysis, ReportsTheLineOfEveryKindOfError) {
 }
 
 TEST(Analysis, ReportsTheLineOfANodeThatIsInTheWrongPlace) {
-    const std::vector<ToldError> errors =
+    const std::vector<ErrorFacts> errors =
         checkedErrorsOf("(doc|(r|(c|c)||(doc|(r|(c|c)|r)|doc)|r)|doc)");
     EXPECT_THAT(errors, testing::Contains(driverErrorOf(
                             eSyntaxError, "Invalid node declaration in this context\r\n",

@@ -9,7 +9,7 @@ namespace {
 
 using testing::ElementsAre;
 
-ToldError noValidKey(const std::string& number) {
+ErrorFacts noValidKey(const std::string& number) {
     return driverErrorOf(eWrongNodeType, number + " isn't a valid key value.",
                          "CRtfDriver.NodeType");
 }

@@ -17,23 +17,23 @@ using testing::IsEmpty;
 
 std::string treeOf(const std::string& text) {
     const ReadDescription read(lines(text));
-    EXPECT_EQ(read.error, ToldError());
+    EXPECT_EQ(read.error, ErrorFacts());
     return read.tree;
 }
 
-ToldError wrongSyntax(const std::string& line, int number) {
+ErrorFacts wrongSyntax(const std::string& line, int number) {
     return driverErrorOf(eSyntaxError, line + " has a wrong syntax",
                          "sLine is neither a recognized node nor a leaf\r\nsLeaf = " + line +
                              "\r\nCRtfDriver.treeWalkerBuild",
                          number);
 }
 
-ToldError wrongNodeType(const std::string& line, int number) {
+ErrorFacts wrongNodeType(const std::string& line, int number) {
     return driverErrorOf(eWrongNodeType, "Wrong node type in " + line, "CRtfDriver.treeWalkerBuild",
                          number);
 }
 
-ToldError tooManyNodes(const std::string& kind, int number) {
+ErrorFacts tooManyNodes(const std::string& kind, int number) {
     return driverErrorOf(eWrongNumberOfNodes, "Too many " + kind + " nodes.",
                          "CRtfDriver.treeWakerBuild", number);
 }
@@ -251,7 +251,7 @@ TEST(DescriptionParser, RefusesEveryCloserButTheOwnOne) {
             const ReadDescription read(lines(openers[open] + "|" + closers[close]));
             const int line = static_cast<int>(open) + 2;
             EXPECT_EQ(read.error,
-                      open == close ? ToldError() : wrongNodeType(closers[close], line));
+                      open == close ? ErrorFacts() : wrongNodeType(closers[close], line));
         }
     }
 }
@@ -302,7 +302,7 @@ TEST(DescriptionParser, TakesAKeyThatIsTheNumberOfAChild) {
 
 TEST(DescriptionParser, Takes999RowsAndNoMore) {
     const ReadDescription fits(lines("(doc|" + repeated("(r|r)|", 999) + "doc)"));
-    EXPECT_EQ(fits.error, ToldError());
+    EXPECT_EQ(fits.error, ErrorFacts());
     EXPECT_EQ(childNumbers(fits.root().child(1)).back(), 1999);
 
     const ReadDescription tooMany(lines("(doc|" + repeated("(r|r)|", 1000) + "doc)"));
@@ -312,7 +312,7 @@ TEST(DescriptionParser, Takes999RowsAndNoMore) {
 
 TEST(DescriptionParser, Takes999CellsAndNoMore) {
     const ReadDescription fits(lines("(doc|(r|" + repeated("(c|c)|", 999) + "r)|doc)"));
-    EXPECT_EQ(fits.error, ToldError());
+    EXPECT_EQ(fits.error, ErrorFacts());
     EXPECT_EQ(childNumbers(fits.root().child(1).child(1001)).back(), 2999);
 
     const ReadDescription tooMany(lines("(doc|(r|" + repeated("(c|c)|", 1000) + "r)|doc)"));
@@ -322,7 +322,7 @@ TEST(DescriptionParser, Takes999CellsAndNoMore) {
 
 TEST(DescriptionParser, Takes999ParagraphsAndNoMore) {
     const ReadDescription fits(lines("(doc|(r|(c|" + repeated("(p|p)|", 999) + "c)|r)|doc)"));
-    EXPECT_EQ(fits.error, ToldError());
+    EXPECT_EQ(fits.error, ErrorFacts());
     EXPECT_EQ(childNumbers(fits.root().child(1).child(1001).child(2001)).back(), 3999);
 
     const ReadDescription tooMany(lines("(doc|(r|(c|" + repeated("(p|p)|", 1000) + "c)|r)|doc)"));
@@ -332,7 +332,7 @@ TEST(DescriptionParser, Takes999ParagraphsAndNoMore) {
 
 TEST(DescriptionParser, Takes999DocsAndNoMore) {
     const ReadDescription fits(lines("(doc|" + repeated("(doc|doc)|", 998) + "doc)"));
-    EXPECT_EQ(fits.error, ToldError());
+    EXPECT_EQ(fits.error, ErrorFacts());
     EXPECT_EQ(childNumbers(fits.root().child(1)).back(), 999);
 
     const ReadDescription tooMany(lines("(doc|" + repeated("(doc|doc)|", 999) + "doc)"));
@@ -356,7 +356,7 @@ TEST(DescriptionParser, CountsTowardsTheLimitOnEveryLevelThatAnOpenerCloses) {
     const auto nextRowAfter = [](int rows) {
         return ReadDescription(lines("(doc|" + repeated("(r|r)|", rows) + "(r|(c|(r|r)|doc)"));
     };
-    EXPECT_EQ(nextRowAfter(995).error, ToldError());
+    EXPECT_EQ(nextRowAfter(995).error, ErrorFacts());
     EXPECT_EQ(nextRowAfter(996).error, tooManyNodes("row", 1 + 996 * 2 + 3));
     EXPECT_EQ(nextRowAfter(997).error, tooManyNodes("row", 1 + 997 * 2 + 3));
     EXPECT_EQ(nextRowAfter(998).error, tooManyNodes("row", 1 + 998 * 2 + 3));
@@ -374,7 +374,7 @@ TEST(DescriptionParser, HasNoLimitForLeaves) {
         text += "(key" + std::to_string(i) + "=" + std::to_string(i) + ")|";
     }
     const ReadDescription read(lines(text));
-    EXPECT_EQ(read.error, ToldError());
+    EXPECT_EQ(read.error, ErrorFacts());
     EXPECT_EQ(leafKeys(read.root().child(1)).size(), 5000u);
     EXPECT_EQ(leafOf(read.root().child(1), "key4999").value(), Value(4999));
 }

@@ -15,22 +15,22 @@ using testing::ElementsAre;
 
 /// What a walk raises for a description that is read without an error.
 template <class Walk>
-ToldError firstErrorOf(const std::string& text, Walk walk) {
+ErrorFacts firstErrorOf(const std::string& text, Walk walk) {
     ReadDescription read(lines(text));
-    EXPECT_EQ(read.error, ToldError()) << text;
+    EXPECT_EQ(read.error, ErrorFacts()) << text;
     const DescriptionRules rules(originalDialect(), raiseViolation);
     return errorOf([&] { walk(rules, read.root().child(1)); });
 }
 
 /// The first error of the syntax walk.
-ToldError syntaxOf(const std::string& text) {
+ErrorFacts syntaxOf(const std::string& text) {
     return firstErrorOf(text, [](const DescriptionRules& rules, DescriptionNode& doc) {
         rules.docWalkerSyntax(doc);
     });
 }
 
 /// The first error of the semantic walk.
-ToldError semanticsOf(const std::string& text) {
+ErrorFacts semanticsOf(const std::string& text) {
     return firstErrorOf(text, [](const DescriptionRules& rules, DescriptionNode& doc) {
         rules.treeWalkerSemantic(doc);
     });
@@ -59,29 +59,29 @@ constexpr const char* paraKeyWalker = "CrtfDriver.paraWalkerSyntax";
 constexpr const char* nameWalker = "CRtfDriver.treWalkerSemantic";
 constexpr const char* valueWalker = "CRtfDriver.treeWalkerSemantic";
 
-ToldError noKeyword(const std::string& key, const char* source, int line) {
+ErrorFacts noKeyword(const std::string& key, const char* source, int line) {
     return driverErrorOf(eWrongKeyword, key + " isn't a valid keyword.", source, line);
 }
 
-ToldError noColor(const std::string& value, int line) {
+ErrorFacts noColor(const std::string& value, int line) {
     return driverErrorOf(eWrongValue, value + " isn't a recognized color.", nameWalker, line);
 }
 
-ToldError noBorder(const std::string& value, int line) {
+ErrorFacts noBorder(const std::string& value, int line) {
     return driverErrorOf(eWrongValue, value + " isn't a recognized border.", nameWalker, line);
 }
 
-ToldError notNumeric(const std::string& key, int line) {
+ErrorFacts notNumeric(const std::string& key, int line) {
     return driverErrorOf(eWrongValue, "Value for " + key + " should be numeric.", valueWalker,
                          line);
 }
 
-ToldError wrongPlace(int line) {
+ErrorFacts wrongPlace(int line) {
     return driverErrorOf(eSyntaxError, "Invalid node declaration in this context\r\n",
                          "CRtDriver.treeWalkerSemantic", line);
 }
 
-ToldError noText(int line) {
+ErrorFacts noText(int line) {
     return driverErrorOf(eSyntaxError, "In a para group para-text is mandatory.", paraWalker, line);
 }
 
@@ -92,33 +92,33 @@ constexpr const char* exampleDescription =
     "doc)";
 
 TEST(DescriptionSyntax, HasNothingAgainstAGoodDescription) {
-    EXPECT_EQ(syntaxOf(exampleDescription), ToldError());
+    EXPECT_EQ(syntaxOf(exampleDescription), ErrorFacts());
 }
 
 TEST(DescriptionSyntax, TakesEveryKeyInItsNode) {
     EXPECT_EQ(syntaxOf(docWith("(paper-height=1)|(paper-width=1)|(page-number-start=1)|"
                                "(left-margin=1)|(right-margin=1)|(bottom-margin=1)|"
                                "(top-margin=1)")),
-              ToldError());
+              ErrorFacts());
     EXPECT_EQ(syntaxOf(rowWith("(row-backcolor=x)|(row-top-border=x)|(row-bottom-border=x)|"
                                "(row-left-border=x)|(row-right-border=x)|(row-key=x)")),
-              ToldError());
+              ErrorFacts());
     EXPECT_EQ(syntaxOf(cellWith("(cell-alignment=x)|(cell-backcolor=x)|(cell-top-border=x)|"
                                 "(cell-bottom-border=x)|(cell-left-border=x)|"
                                 "(cell-right-border=x)|(cell-key=x)|(cell-width=x)|"
                                 "(cell-style=x)|(cell-marked-field=x)")),
-              ToldError());
+              ErrorFacts());
     EXPECT_EQ(syntaxOf(paraWith("(para-text=x)|(para-style=x)|(para-key=x)|(para-alignment=x)|"
                                 "(para-marked-field=x)")),
-              ToldError());
+              ErrorFacts());
 }
 
 TEST(DescriptionSyntax, TakesEveryShortKeyInItsNode) {
-    EXPECT_EQ(syntaxOf(rowWith("(rb=x)|(rtb=x)|(rbb=x)|(rlb=x)|(rrb=x)")), ToldError());
+    EXPECT_EQ(syntaxOf(rowWith("(rb=x)|(rtb=x)|(rbb=x)|(rlb=x)|(rrb=x)")), ErrorFacts());
     EXPECT_EQ(syntaxOf(cellWith("(cb=x)|(ctb=x)|(cbb=x)|(clb=x)|(crb=x)|(cw=x)|(ca=x)|(cs=x)|"
                                 "(cmf=x)")),
-              ToldError());
-    EXPECT_EQ(syntaxOf(paraWith("(pt=x)|(ps=x)|(pa=x)|(pmf=x)")), ToldError());
+              ErrorFacts());
+    EXPECT_EQ(syntaxOf(paraWith("(pt=x)|(ps=x)|(pa=x)|(pmf=x)")), ErrorFacts());
 }
 
 TEST(DescriptionSyntax, RefusesAKeyThatTheDocDoesNotHave) {
@@ -167,7 +167,7 @@ TEST(DescriptionSyntax, WantsACellInEveryRow) {
 }
 
 TEST(DescriptionSyntax, WantsNoParagraphInACell) {
-    EXPECT_EQ(syntaxOf("(doc|(r|(c|c)|r)|doc)"), ToldError());
+    EXPECT_EQ(syntaxOf("(doc|(r|(c|c)|r)|doc)"), ErrorFacts());
 }
 
 TEST(DescriptionSyntax, WantsATextInEveryParagraph) {
@@ -176,7 +176,7 @@ TEST(DescriptionSyntax, WantsATextInEveryParagraph) {
 }
 
 TEST(DescriptionSyntax, TakesAnEmptyTextForAText) {
-    EXPECT_EQ(syntaxOf(paraWith("(pt=)")), ToldError());
+    EXPECT_EQ(syntaxOf(paraWith("(pt=)")), ErrorFacts());
 }
 
 TEST(DescriptionSyntax, WantsNoNodeInAParagraph) {
@@ -221,7 +221,7 @@ TEST(DescriptionSyntax, GoesThroughACellBeforeTheNext) {
 TEST(DescriptionSyntax, TakesANestedDocForTheNodeThatMayStandThere) {
     EXPECT_EQ(syntaxOf("(doc|(doc|(paper-width=5)|doc)|doc)"),
               noKeyword("paper-width", rowWalker, 3));
-    EXPECT_EQ(syntaxOf("(doc|(doc|(doc|(doc|(pt=x)|doc)|doc)|doc)|doc)"), ToldError());
+    EXPECT_EQ(syntaxOf("(doc|(doc|(doc|(doc|(pt=x)|doc)|doc)|doc)|doc)"), ErrorFacts());
 }
 
 TEST(DescriptionSyntax, GoesThroughNestedDocsFirstBecauseOfTheirNumbers) {
@@ -230,12 +230,12 @@ TEST(DescriptionSyntax, GoesThroughNestedDocsFirstBecauseOfTheirNumbers) {
 }
 
 TEST(DescriptionSemantics, HaveNothingAgainstAGoodDescription) {
-    EXPECT_EQ(semanticsOf(exampleDescription), ToldError());
+    EXPECT_EQ(semanticsOf(exampleDescription), ErrorFacts());
 }
 
 TEST(DescriptionSemantics, TakeTheNamesOfColorsInAnyCase) {
-    EXPECT_EQ(semanticsOf(rowWith("(rb=Light-Yellow)")), ToldError());
-    EXPECT_EQ(semanticsOf(cellWith("(cb=none)")), ToldError());
+    EXPECT_EQ(semanticsOf(rowWith("(rb=Light-Yellow)")), ErrorFacts());
+    EXPECT_EQ(semanticsOf(cellWith("(cb=none)")), ErrorFacts());
 }
 
 TEST(DescriptionSemantics, RefuseWhatIsNotAColor) {
@@ -246,13 +246,14 @@ TEST(DescriptionSemantics, RefuseWhatIsNotAColor) {
 }
 
 TEST(DescriptionSemantics, AdmitAnyNumberForAColor) {
-    EXPECT_EQ(semanticsOf(rowWith("(rb=32)")), ToldError());
-    EXPECT_EQ(semanticsOf(cellWith("(cb=1e9)")), ToldError());
+    EXPECT_EQ(semanticsOf(rowWith("(rb=32)")), ErrorFacts());
+    EXPECT_EQ(semanticsOf(cellWith("(cb=1e9)")), ErrorFacts());
 }
 
 TEST(DescriptionSemantics, TakeTheNamesOfBordersInAnyCaseOnEverySide) {
-    EXPECT_EQ(semanticsOf(rowWith("(rtb=normal)|(rbb=Hair)|(rlb=THIN)|(rrb=none)")), ToldError());
-    EXPECT_EQ(semanticsOf(cellWith("(ctb=normal)|(cbb=thick)|(clb=thin)|(crb=none)")), ToldError());
+    EXPECT_EQ(semanticsOf(rowWith("(rtb=normal)|(rbb=Hair)|(rlb=THIN)|(rrb=none)")), ErrorFacts());
+    EXPECT_EQ(semanticsOf(cellWith("(ctb=normal)|(cbb=thick)|(clb=thin)|(crb=none)")),
+              ErrorFacts());
 }
 
 TEST(DescriptionSemantics, RefuseWhatIsNotABorderOnEverySide) {
@@ -266,35 +267,35 @@ TEST(DescriptionSemantics, RefuseWhatIsNotABorderOnEverySide) {
 }
 
 TEST(DescriptionSemantics, AdmitAnyNumberForABorder) {
-    EXPECT_EQ(semanticsOf(rowWith("(rtb=10)")), ToldError());
-    EXPECT_EQ(semanticsOf(cellWith("(crb=-7.5)")), ToldError());
+    EXPECT_EQ(semanticsOf(rowWith("(rtb=10)")), ErrorFacts());
+    EXPECT_EQ(semanticsOf(cellWith("(crb=-7.5)")), ErrorFacts());
 }
 
 TEST(DescriptionSemantics, WantANumberForEveryMeasureAndKey) {
     for (const std::string key : {"paper-height", "paper-width", "page-number-start", "left-margin",
                                   "right-margin", "bottom-margin", "top-margin"}) {
         EXPECT_EQ(semanticsOf(docWith("(" + key + "=wide)")), notNumeric(key, 2));
-        EXPECT_EQ(semanticsOf(docWith("(" + key + "=5)")), ToldError());
+        EXPECT_EQ(semanticsOf(docWith("(" + key + "=5)")), ErrorFacts());
     }
     EXPECT_EQ(semanticsOf(rowWith("(row-key=a)")), notNumeric("row-key", 3));
-    EXPECT_EQ(semanticsOf(rowWith("(row-key=7)")), ToldError());
+    EXPECT_EQ(semanticsOf(rowWith("(row-key=7)")), ErrorFacts());
     EXPECT_EQ(semanticsOf(cellWith("(cell-key=a)")), notNumeric("cell-key", 4));
-    EXPECT_EQ(semanticsOf(cellWith("(cell-key=7)")), ToldError());
+    EXPECT_EQ(semanticsOf(cellWith("(cell-key=7)")), ErrorFacts());
     EXPECT_EQ(semanticsOf(cellWith("(cw=wide)")), notNumeric("cell-width", 4));
-    EXPECT_EQ(semanticsOf(cellWith("(cw=25.5)")), ToldError());
+    EXPECT_EQ(semanticsOf(cellWith("(cw=25.5)")), ErrorFacts());
     EXPECT_EQ(semanticsOf(paraWith("(para-key=a)")), notNumeric("para-key", 5));
-    EXPECT_EQ(semanticsOf(paraWith("(para-key=7)")), ToldError());
+    EXPECT_EQ(semanticsOf(paraWith("(para-key=7)")), ErrorFacts());
 }
 
 TEST(DescriptionSemantics, WantANumberThatADoubleCanHold) {
     EXPECT_EQ(semanticsOf(docWith("(paper-width=1e999)")), notNumeric("paper-width", 2));
-    EXPECT_EQ(semanticsOf(docWith("(paper-width=1e300)")), ToldError());
+    EXPECT_EQ(semanticsOf(docWith("(paper-width=1e300)")), ErrorFacts());
     EXPECT_EQ(semanticsOf(docWith("(paper-width=)")), notNumeric("paper-width", 2));
 }
 
 TEST(DescriptionSemantics, WantANumberForEveryUnknownKey) {
     EXPECT_EQ(semanticsOf(rowWith("(colour=red)")), notNumeric("colour", 3));
-    EXPECT_EQ(semanticsOf(rowWith("(colour=5)")), ToldError());
+    EXPECT_EQ(semanticsOf(rowWith("(colour=5)")), ErrorFacts());
     EXPECT_EQ(semanticsOf(paraWith("(PT=Total)")), notNumeric("PT", 5));
 }
 
@@ -302,13 +303,13 @@ TEST(DescriptionSemantics, TakeTextAndNumbersForTextsStylesAlignmentsAndMarkedFi
     for (const char* value : {"Heading", "5", ""}) {
         const std::string end = "=" + std::string(value) + ")";
         EXPECT_EQ(semanticsOf(paraWith("(pt" + end + "|(ps" + end + "|(pa" + end + "|(pmf" + end)),
-                  ToldError());
-        EXPECT_EQ(semanticsOf(cellWith("(ca" + end + "|(cs" + end + "|(cmf" + end)), ToldError());
+                  ErrorFacts());
+        EXPECT_EQ(semanticsOf(cellWith("(ca" + end + "|(cs" + end + "|(cmf" + end)), ErrorFacts());
     }
 }
 
 TEST(DescriptionSemantics, TakeAKeyInANodeThatDoesNotHaveIt) {
-    EXPECT_EQ(semanticsOf(docWith("(pt=x)|(cw=5)")), ToldError());
+    EXPECT_EQ(semanticsOf(docWith("(pt=x)|(cw=5)")), ErrorFacts());
     EXPECT_EQ(semanticsOf(docWith("(cb=crimson)")), noColor("crimson", 2));
 }
 
@@ -390,8 +391,8 @@ TEST(DescriptionRules, ReachNodesThatAreNestedAsDeepAsCanBe) {
 }
 
 TEST(DescriptionSemantics, MissNeitherRowsNorTexts) {
-    EXPECT_EQ(semanticsOf("(doc|doc)"), ToldError());
-    EXPECT_EQ(semanticsOf("(doc|(r|(c|(p|p)|c)|r)|(r|r)|doc)"), ToldError());
+    EXPECT_EQ(semanticsOf("(doc|doc)"), ErrorFacts());
+    EXPECT_EQ(semanticsOf("(doc|(r|(c|(p|p)|c)|r)|(r|r)|doc)"), ErrorFacts());
 }
 
 }  // namespace

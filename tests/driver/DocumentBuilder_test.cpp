@@ -23,11 +23,11 @@ public:
 };
 
 /// The errors of the build: a description that is read without one gives no others.
-std::vector<ToldError> errorsOf(const std::string& text) {
+std::vector<ErrorFacts> errorsOf(const std::string& text) {
     return ParsedDescription(lines(text)).errors;
 }
 
-ToldError wrongValue(const std::string& description, int line) {
+ErrorFacts wrongValue(const std::string& description, int line) {
     return driverErrorOf(eWrongValue, description, "CRtfDriver.treWalkerSemantic", line);
 }
 

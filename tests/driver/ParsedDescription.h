@@ -15,53 +15,53 @@
 namespace quorvane {
 
 /// What a test compares of an error.
-struct ToldError {
+struct ErrorFacts {
     std::int32_t number = 0;
     std::string description;
     std::string source;
     int line = 0;
 
-    bool operator==(const ToldError&) const = default;
+    bool operator==(const ErrorFacts&) const = default;
 };
 
-inline std::ostream& operator<<(std::ostream& out, const ToldError& error) {
+inline std::ostream& operator<<(std::ostream& out, const ErrorFacts& error) {
     return out << error.number << " \"" << error.description << "\" from \"" << error.source
                << "\" in line " << error.line;
 }
 
-inline ToldError told(const RtfError& error) {
+inline ErrorFacts factsOf(const RtfError& error) {
     return {error.number, error.description, error.source, error.line};
 }
 
 /// An error of the driver.
-inline ToldError driverErrorOf(tErrorLevel level, std::string description, std::string source = {},
-                               int line = 0) {
+inline ErrorFacts driverErrorOf(tErrorLevel level, std::string description, std::string source = {},
+                                int line = 0) {
     return {-2147221504 + level, std::move(description), std::move(source), line};
 }
 
-inline ToldError absentKey() {
+inline ErrorFacts absentKey() {
     return {5, "Invalid procedure call or argument", "", 0};
 }
 
-inline ToldError duplicateKey(int line) {
+inline ErrorFacts duplicateKey(int line) {
     return {457, "This key is already associated with an element of this collection", "", line};
 }
 
-inline ToldError typeMismatch(int line) {
+inline ErrorFacts typeMismatch(int line) {
     return {13, "Type mismatch", "", line};
 }
 
-inline ToldError overflow(int line) {
+inline ErrorFacts overflow(int line) {
     return {6, "Overflow", "", line};
 }
 
 /// The error that a call raises; an empty one when it raises none.
 template <class Call>
-ToldError errorOf(Call&& call) {
+ErrorFacts errorOf(Call&& call) {
     try {
         call();
     } catch (const RtfError& error) {
-        return told(error);
+        return factsOf(error);
     }
     return {};
 }
@@ -99,7 +99,7 @@ public:
     explicit ParsedDescription(std::string_view text, Checks checks = Checks::Off) {
         driver->setErroneousInput(checks == Checks::On);
         driver->setNotifyErrorHandler(
-            [this](CRtfDriver&, const RtfError& error) { errors.push_back(told(error)); });
+            [this](CRtfDriver&, const RtfError& error) { errors.push_back(factsOf(error)); });
         driver->ParseFromMemmory(text);
     }
     ParsedDescription(const ParsedDescription&) = delete;
@@ -118,7 +118,7 @@ public:
 
     FakePlatform platform;
     Ref<CRtfDriver> driver = CRtfDriver::create(platform);
-    std::vector<ToldError> errors;
+    std::vector<ErrorFacts> errors;
 };
 
 }  // namespace quorvane

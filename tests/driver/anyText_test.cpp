@@ -141,7 +141,7 @@ class AnyText : public testing::Test {
 protected:
     AnyText() {
         driver->setNotifyErrorHandler(
-            [this](CRtfDriver&, const RtfError& error) { errors.push_back(told(error)); });
+            [this](CRtfDriver&, const RtfError& error) { errors.push_back(factsOf(error)); });
     }
     ~AnyText() override { driver->setNotifyErrorHandler({}); }
 
@@ -160,7 +160,7 @@ protected:
 
     void expectSameAgain(const std::string& text, Checks checks) {
         analyse(text, checks);
-        const std::vector<ToldError> firstErrors = errors;
+        const std::vector<ErrorFacts> firstErrors = errors;
         const std::string first = renderedAnew();
         ASSERT_EQ(renderedAnew(), first) << text;
         analyse(text, checks);
@@ -193,7 +193,7 @@ protected:
             5,           6,           13,          457,         -2147221502, -2147221500,
             -2147221499, -2147221498, -2147221497, -2147221496, -2147221494, -2147221493};
         ASSERT_LE(errors.size(), 7u) << text;
-        for (const ToldError& error : errors) {
+        for (const ErrorFacts& error : errors) {
             ASSERT_TRUE(numbers.contains(error.number)) << error << "\n" << text;
             ASSERT_FALSE(error.description.starts_with("Syntax error in ")) << text;
             ASSERT_FALSE(error.description.starts_with("Can't add this type")) << text;
@@ -223,7 +223,7 @@ protected:
 
     FakePlatform platform;
     Ref<CRtfDriver> driver = CRtfDriver::create(platform);
-    std::vector<ToldError> errors;
+    std::vector<ErrorFacts> errors;
 };
 
 TEST_F(AnyText, OfTheWordsOfTheLanguageEndsWell) {
@@ -242,7 +242,7 @@ TEST_F(AnyText, OfLinesWithFewFaultsEndsWell) {
     int flawless = 0;
     for (int i = 0; i < 2000; ++i) {
         ASSERT_NO_FATAL_FAILURE(expectGoodEnd(random.description()));
-        for (const ToldError& error : errors) {
+        for (const ErrorFacts& error : errors) {
             numbers.insert(error.number);
         }
         flawless += errors.empty() ? 1 : 0;

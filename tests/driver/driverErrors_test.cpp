@@ -58,13 +58,13 @@ TEST(driverErrors, HaveNoLevelOutsideTheirRange) {
 }
 
 TEST(driverErrors, CarryDescriptionSourceAndLine) {
-    EXPECT_EQ(told(driverError(eWrongValue, "what", "where", 7)),
-              (ToldError{static_cast<std::int32_t>(0x80040008), "what", "where", 7}));
+    EXPECT_EQ(factsOf(driverError(eWrongValue, "what", "where", 7)),
+              (ErrorFacts{static_cast<std::int32_t>(0x80040008), "what", "where", 7}));
 }
 
 TEST(driverErrors, HaveNoSourceAndNoLineByDefault) {
-    EXPECT_EQ(told(driverError(eWrongPath, "what")),
-              (ToldError{static_cast<std::int32_t>(0x80040003), "what", "", 0}));
+    EXPECT_EQ(factsOf(driverError(eWrongPath, "what")),
+              (ErrorFacts{static_cast<std::int32_t>(0x80040003), "what", "", 0}));
 }
 
 TEST(driverErrors, GetTheLineOfTheBodyThatRaisesThem) {

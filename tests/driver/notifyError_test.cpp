@@ -21,8 +21,8 @@ const std::string good = paraWithText("good");
 const std::string badColor = rowWith("(rb=crimson)");
 const std::string threeErrors = lines("(doc|(r|(foo=bar)|(rb=crimson)|(c|c)|r)|doc)");
 
-const ToldError badColorError = driverErrorOf(eWrongValue, "crimson isn't a recognized color.",
-                                              "CRtfDriver.treWalkerSemantic", 3);
+const ErrorFacts badColorError = driverErrorOf(eWrongValue, "crimson isn't a recognized color.",
+                                               "CRtfDriver.treWalkerSemantic", 3);
 
 class NotifyError : public testing::Test {
 protected:
@@ -45,17 +45,17 @@ TEST_F(NotifyError, IsRaisedWithTheDriverAsSender) {
 }
 
 TEST_F(NotifyError, ShowsNumberDescriptionSourceAndLineAsTheCurrentError) {
-    std::vector<ToldError> errors;
+    std::vector<ErrorFacts> errors;
     driver->setErroneousInput(true);
     driver->setNotifyErrorHandler(
-        [&](CRtfDriver&, const RtfError& error) { errors.push_back(told(error)); });
+        [&](CRtfDriver&, const RtfError& error) { errors.push_back(factsOf(error)); });
     driver->ParseFromMemmory(threeErrors);
-    EXPECT_THAT(errors, ElementsAre(ToldError{-2147221498, "foo isn't a valid keyword.",
-                                              "CRtfDriver.rowWalkerSyntax", 3},
-                                    ToldError{-2147221496, "Value for foo should be numeric.",
-                                              "CRtfDriver.treeWalkerSemantic", 3},
-                                    ToldError{-2147221496, "crimson isn't a recognized color.",
-                                              "CRtfDriver.treWalkerSemantic", 4}));
+    EXPECT_THAT(errors, ElementsAre(ErrorFacts{-2147221498, "foo isn't a valid keyword.",
+                                               "CRtfDriver.rowWalkerSyntax", 3},
+                                    ErrorFacts{-2147221496, "Value for foo should be numeric.",
+                                               "CRtfDriver.treeWalkerSemantic", 3},
+                                    ErrorFacts{-2147221496, "crimson isn't a recognized color.",
+                                               "CRtfDriver.treWalkerSemantic", 4}));
 }
 
 class ThrowingClipboard : public FakePlatform {
@@ -130,9 +130,9 @@ TEST_F(NotifyError, LetsItsHandlerPutAnotherInItsPlace) {
 }
 
 TEST_F(NotifyError, LetsItsHandlerSwitchTheChecksOnForTheStepsToCome) {
-    std::vector<ToldError> errors;
+    std::vector<ErrorFacts> errors;
     driver->setNotifyErrorHandler([&](CRtfDriver& Sender, const RtfError& error) {
-        errors.push_back(told(error));
+        errors.push_back(factsOf(error));
         Sender.setErroneousInput(true);
     });
     driver->ParseFromMemmory(lines("(doc|(r|(title=5)|(c|c)|r)"));
@@ -170,9 +170,9 @@ TEST_F(NotifyError, LeavesADriverGoodAfterItsHandlerThrew) {
 }
 
 TEST_F(NotifyError, LetsItsHandlerAnalyzeAnotherText) {
-    std::vector<ToldError> errors;
+    std::vector<ErrorFacts> errors;
     driver->setNotifyErrorHandler([&](CRtfDriver& Sender, const RtfError& error) {
-        errors.push_back(told(error));
+        errors.push_back(factsOf(error));
         if (errors.size() == 1) {
             Sender.ParseFromMemmory(paraWithText("inner"));
         }
@@ -244,9 +244,9 @@ TEST_F(NotifyError, LetsItsHandlerAddToTheDocument) {
 }
 
 TEST_F(NotifyError, MeetsARowThatItsHandlerPutInTheWay) {
-    std::vector<ToldError> errors;
+    std::vector<ErrorFacts> errors;
     driver->setNotifyErrorHandler([&](CRtfDriver& Sender, const RtfError& error) {
-        errors.push_back(told(error));
+        errors.push_back(factsOf(error));
         if (errors.size() == 1) {
             Sender.RtfObject()->TableRows()->AddTail("1002");
         }
@@ -277,9 +277,9 @@ TEST_F(NotifyError, LetsItsHandlerReadTheDocument) {
 
 // A refused marked field is absorbed, and the observer can do what it likes.
 TEST_F(NotifyError, SurvivesAnObserverThatTakesTheDocumentApartDuringTheBuild) {
-    std::vector<ToldError> errors;
+    std::vector<ErrorFacts> errors;
     driver->setNotifyErrorHandler(
-        [&](CRtfDriver&, const RtfError& error) { errors.push_back(told(error)); });
+        [&](CRtfDriver&, const RtfError& error) { errors.push_back(factsOf(error)); });
     driver->setAbsorbedErrorObserver([&](const AbsorbedError&) {
         driver->RtfObject()->TableRows()->Item(1)->TableCells()->removeTail();
     });
@@ -301,7 +301,7 @@ TEST_F(NotifyError, LeavesTheErrorReadableUntilTheNextCall) {
     driver->setNotifyErrorHandler([&](CRtfDriver&, const RtfError&) { ++events; });
     driver->ParseFromMemmory(badColor);
     ASSERT_NE(currentError(), nullptr);
-    EXPECT_EQ(told(*currentError()), badColorError);
+    EXPECT_EQ(factsOf(*currentError()), badColorError);
 }
 
 using Call = std::function<void(CRtfDriver&)>;

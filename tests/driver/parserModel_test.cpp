@@ -122,7 +122,7 @@ struct Tally {
         const ReadDescription read(lines);
         ASSERT_EQ(read.error, model.error) << joined(lines);
         ASSERT_EQ(read.tree, model.root.text()) << joined(lines);
-        ++(model.error == ToldError() ? complete : errors[model.error.number]);
+        ++(model.error == ErrorFacts() ? complete : errors[model.error.number]);
         nodes += static_cast<std::size_t>(std::count(read.tree.begin(), read.tree.end(), '{'));
     }
 };

@@ -271,13 +271,13 @@ public:
     explicit Reader(std::vector<Line> lines) : lines_(std::move(lines)) {
         try {
             treeWalkerBuild(root, docKind);
-        } catch (const ToldError& told) {
+        } catch (const ErrorFacts& told) {
             error = told;
         }
     }
 
     Node root;
-    ToldError error;
+    ErrorFacts error;
 
 private:
     [[noreturn]] void fail(tErrorLevel level, const std::string& message,

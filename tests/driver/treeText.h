@@ -76,7 +76,7 @@ struct ReadDescription {
     std::string source;
     DescriptionTree nodes;
     std::string tree;
-    ToldError error;
+    ErrorFacts error;
 
 private:
     void read(const std::vector<SourceLine>& sourceLines) {

@@ -18,9 +18,9 @@ TEST(WorkingOnADescription, GoesThroughTheObjectModel) {
     EXPECT_TRUE(driver->notifyError());
     EXPECT_EQ(driver->StyleSheetFile(), "");
     EXPECT_EQ(driver->Contents(), "{}");
-    EXPECT_EQ(
-        errorOf([&] { driver->ParseFile(""); }),
-        (ToldError{-2147221501, "Path is empty!", "Error: eWrongPath\r\nCRtfDriver.ParseFile", 0}));
+    EXPECT_EQ(errorOf([&] { driver->ParseFile(""); }),
+              (ErrorFacts{-2147221501, "Path is empty!",
+                          "Error: eWrongPath\r\nCRtfDriver.ParseFile", 0}));
 
     driver->ParseFromMemmory(
         "(doc\n(r\n(c\n(cw=25)\n(p\n(pt=x)\np)\nc)\n(c\nc)\nr)\n(r\n(c\nc)\nr)\ndoc)");

@@ -13,7 +13,7 @@
 
 namespace quorvane {
 
-inline std::string errorText(const ToldError& error) {
+inline std::string errorText(const ErrorFacts& error) {
     return std::to_string(error.number) + " in line " + std::to_string(error.line) + ": " +
            error.description + " (" + error.source + ")\n";
 }
@@ -67,7 +67,7 @@ public:
     }
 
 private:
-    void note(const RtfError& error) { events_ += errorText(told(error)); }
+    void note(const RtfError& error) { events_ += errorText(factsOf(error)); }
 
     FakePlatform platform_;
     Ref<CRtfDriver> driver_ = CRtfDriver::create(platform_);
@@ -82,7 +82,7 @@ inline void requirePlainAnalysis(DescriptionRun& run, std::string_view text) {
     plain::Analysis analysis(std::string(text), run.driver().ErroneousInput(), *document,
                              run.styles());
     std::string errors;
-    for (const ToldError& error : analysis.errors) {
+    for (const ErrorFacts& error : analysis.errors) {
         errors += errorText(error);
     }
     requireEqual(run.events(), errors, "an analysis reports the expected errors");

@@ -128,7 +128,7 @@ int rendered(const cli::RenderOptions& options, const cli::ErrorSink& report) {
     std::string lines;
     const auto run = [&] {
         const auto note = [&](const cli::ReportedError& diagnostic) {
-            lines += plain::errorLine(diagnostic.file, told(diagnostic.error));
+            lines += plain::errorLine(diagnostic.file, factsOf(diagnostic.error));
             report(diagnostic);
         };
         const auto status = static_cast<int>(cli::RenderJob(options, {note}).run());

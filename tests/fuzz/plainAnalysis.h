@@ -230,7 +230,7 @@ private:
                 applyLeaf(key, leaf);
             } catch (const int number) {
                 const RtfError error{RunTimeError{number}};
-                throw ToldError{error.number, error.description, "", leaf.line};
+                throw ErrorFacts{error.number, error.description, "", leaf.line};
             }
         }
     }
@@ -401,7 +401,7 @@ public:
             lines = repaired(lines);
         }
         const Reader reader(lines);
-        if (reader.error != ToldError()) {
+        if (reader.error != ErrorFacts()) {
             errors.push_back(reader.error);
         }
         if (erroneousInput) {
@@ -411,7 +411,7 @@ public:
         step([&] { Builder(document, docNodeOf(reader.root)); });
     }
 
-    std::vector<ToldError> errors;
+    std::vector<ErrorFacts> errors;
     std::shared_ptr<Document> document = std::make_shared<Document>();
 
 private:
@@ -440,7 +440,7 @@ private:
     void step(Body&& body) {
         try {
             body();
-        } catch (const ToldError& error) {
+        } catch (const ErrorFacts& error) {
             errors.push_back(error);
         }
     }

@@ -33,7 +33,7 @@ using Files = std::map<std::string, std::string>;
 
 /// What is reported about an error: the file, the line and the number, and what went wrong where
 /// that is known beforehand.
-inline std::string errorLine(const std::string& file, const ToldError& error) {
+inline std::string errorLine(const std::string& file, const ErrorFacts& error) {
     return file + ":" + std::to_string(error.line) + ": " + std::to_string(error.number) + " " +
            error.description + "\n";
 }
@@ -119,7 +119,7 @@ private:
     }
 
     /// The first of several diagnostics, and how many there are.
-    static ToldError lineFor(const std::vector<Diagnostic>& reasons) {
+    static ErrorFacts lineFor(const std::vector<Diagnostic>& reasons) {
         const Diagnostic& first = reasons.front();
         std::string text = first.message;
         text += " [" + std::string(diagnosticRule(first.id).identifier) + "]";
@@ -151,7 +151,7 @@ private:
         return reported == before;
     }
 
-    void report(const std::string& file, const ToldError& error, int worth) {
+    void report(const std::string& file, const ErrorFacts& error, int worth) {
         reported += errorLine(file, error);
         status = std::max(status, worth);
     }
@@ -173,7 +173,7 @@ private:
         }
         Analysis analysis(utf8FromCodePage1252(inputs.at(description)), options_.check, *original,
                           styles);
-        for (const ToldError& error : analysis.errors) {
+        for (const ErrorFacts& error : analysis.errors) {
             report(description, error, 1);
             isWell = false;
         }

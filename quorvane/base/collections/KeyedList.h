@@ -242,7 +242,7 @@ private:
         }
 
         // Shares the free slots between both ends, the odd one for the end that needs it.
-        void centre(bool atFront) noexcept {
+        void center(bool atFront) noexcept {
             const std::uint32_t free = capacity - count;
             const std::uint32_t newFirst = atFront ? (free + 1) / 2 : free / 2;
             std::memmove(slots() + newFirst, slots() + first, count * sizeof(Element*));
@@ -343,7 +343,7 @@ private:
         const std::uint32_t capacity = block()->capacity;
         // Centring pays only when it makes enough room to be seldom.
         if (block()->count <= capacity - capacity / 4) {
-            block()->centre(atFront);
+            block()->center(atFront);
         } else {
             grow(atFront);
         }

@@ -15,12 +15,12 @@ bool matchesFileNamePattern(std::string_view pattern, std::string_view name) {
     std::size_t inPattern = 0;
     std::size_t inName = 0;
     // Where to go on when the rest does not match: after the last *, which then takes one more.
-    std::size_t behindStar = none;
+    std::size_t afterStar = none;
     std::size_t nameAtStar = 0;
     while (inName < name.size()) {
         const bool patternGoesOn = inPattern < pattern.size();
         if (patternGoesOn && pattern[inPattern] == '*') {
-            behindStar = ++inPattern;
+            afterStar = ++inPattern;
             nameAtStar = inName;
         } else if (patternGoesOn && pattern[inPattern] == '?') {
             ++inPattern;
@@ -28,8 +28,8 @@ bool matchesFileNamePattern(std::string_view pattern, std::string_view name) {
         } else if (patternGoesOn && pattern[inPattern] == name[inName]) {
             ++inPattern;
             ++inName;
-        } else if (behindStar != none) {
-            inPattern = behindStar;
+        } else if (afterStar != none) {
+            inPattern = afterStar;
             nameAtStar += utf8CharacterAt(name, nameAtStar).length;
             inName = nameAtStar;
         } else {

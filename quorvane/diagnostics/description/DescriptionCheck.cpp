@@ -8,7 +8,7 @@
 #include "quorvane/diagnostics/description/NullPlatform.h"
 #include "quorvane/diagnostics/description/ViolationReport.h"
 #include "quorvane/diagnostics/description/descriptionWarnings.h"
-#include "quorvane/diagnostics/description/misreadCharacters.h"
+#include "quorvane/diagnostics/description/mojibake.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
 #include "quorvane/diagnostics/engine/SourceText.h"
 #include "quorvane/diagnostics/engine/ignoreComments.h"
@@ -76,7 +76,7 @@ private:
         if (frame_.begins) {
             return "the last line must be doc)";
         }
-        return behindByteOrderMark(violation.part).size() < violation.part.size()
+        return afterByteOrderMark(violation.part).size() < violation.part.size()
                    ? "the file begins with a UTF-8 byte order mark; save it in Windows-1252"
                    : Hint();
     }
@@ -87,7 +87,7 @@ private:
             return;
         }
         std::string_view& first = lines.front().text;
-        first = trimWhitespace(behindByteOrderMark(first));
+        first = trimWhitespace(afterByteOrderMark(first));
         if (first.empty() || isComment(first, dialect_)) {
             lines.erase(lines.begin());
         }
@@ -140,7 +140,7 @@ std::vector<Diagnostic> checkDescription(std::string_view text, KnownStyles* sty
     DescriptionCheck(source, styles, engine).run();
     findWrongIgnoreComments(source, CheckedLanguage::Description, engine);
     sortByPlace(diagnostics);
-    keepFirstMisreadCharacters(diagnostics);
+    keepFirstMojibake(diagnostics);
     return diagnostics;
 }
 

@@ -161,8 +161,7 @@ private:
         }
         std::vector<std::string_view> names;
         const StyleList& list = styles_->styles(kind);
-        for (int i = 1; list.count() <= mostCandidates && i <= static_cast<int>(list.count());
-             ++i) {
+        for (int i = 1; list.count() <= maxCandidates && i <= static_cast<int>(list.count()); ++i) {
             names.push_back(list.at(i).name);
         }
         // The style whose name is misspelled counts as used.
@@ -474,7 +473,7 @@ private:
         if (!isSound(text) || text->text.empty()) {
             return;
         }
-        TextColors colors = colorsBehind(formatOf(paragraph), {0, background});
+        TextColors colors = colorsAfter(formatOf(paragraph), {0, background});
         colors.text = own == eNoColor ? colors.text : own;
         std::vector<TextColors> reported;
         for (const ColoredPart& part : coloredParts(text->text, colors, styles_)) {

@@ -17,7 +17,7 @@
 #include "quorvane/base/text/utf8.h"
 #include "quorvane/diagnostics/description/InlineTokens.h"
 #include "quorvane/diagnostics/description/documentNumbers.h"
-#include "quorvane/diagnostics/description/misreadCharacters.h"
+#include "quorvane/diagnostics/description/mojibake.h"
 #include "quorvane/diagnostics/engine/nearestWord.h"
 #include "quorvane/diagnostics/rtf/RtfCheck.h"
 #include "quorvane/rtf/RtfControl.h"
@@ -445,7 +445,7 @@ private:
 
     /// Adds a character to what the field is to do; `isWritten` is false for one that a \u names.
     void addToInstruction(char character, bool isWritten = true) {
-        const bool isSubstitute = isWritten && std::exchange(isBehindUnicode_, false);
+        const bool isSubstitute = isWritten && std::exchange(followsUnicode_, false);
         if (isWritten && substitutesLeft_ > 0) {
             --substitutesLeft_;
             return;
@@ -483,7 +483,7 @@ private:
         group.brace = at_++;
         groups_.push_back(group);
         substitutesLeft_ = 0;
-        isBehindUnicode_ = false;
+        followsUnicode_ = false;
     }
 
     void closeGroup() {
@@ -493,7 +493,7 @@ private:
             groups_.pop_back();
         }
         substitutesLeft_ = 0;
-        isBehindUnicode_ = false;
+        followsUnicode_ = false;
         ++at_;
     }
 
@@ -579,7 +579,7 @@ private:
         if (word.role == RtfRole::Unicode) {
             findShownSubstitute();
             substitutesLeft_ = groups_.back().substitutes;
-            isBehindUnicode_ = true;
+            followsUnicode_ = true;
         } else if (word.role == RtfRole::UnicodeLength) {
             groups_.back().substitutes = std::clamp(control.number.value_or(1), 0, 100);
         }
@@ -628,7 +628,7 @@ private:
             const std::string_view shown = text_.substr(at_, meant->length);
             if (codePage1252FromUtf8(meant->text) == "?") {
                 report(DiagnosticId::UnencodableCharacter, meant->length,
-                       {meant->text, misreadText(shown)}, unicodeHint(meant->code));
+                       {meant->text, mojibakeText(shown)}, unicodeHint(meant->code));
             } else {
                 report(DiagnosticId::Utf8Text, meant->length, {meant->text, shown},
                        "save the file in Windows-1252" +
@@ -726,7 +726,7 @@ private:
     // Where those \u end that were looked at for a "?" that nothing stands in for.
     std::size_t substitutesEnd_ = 0;
     // True where the next character stands in for the one that a \u names.
-    bool isBehindUnicode_ = false;
+    bool followsUnicode_ = false;
     std::array<int, 256> reported_{};
 };
 

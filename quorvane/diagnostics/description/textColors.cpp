@@ -93,7 +93,7 @@ private:
         const int position = styles_ ? styles_->find(StyleKind::Character, name) : -1;
         if (position > 0) {
             const std::string format = styles_->styles(StyleKind::Character).at(position).format();
-            group.colors = colorsBehind(format, group.colors);
+            group.colors = colorsAfter(format, group.colors);
         }
         at_ += name.size() + 2;
     }
@@ -146,7 +146,7 @@ private:
 
 }  // namespace
 
-TextColors colorsBehind(std::string_view format, TextColors before) {
+TextColors colorsAfter(std::string_view format, TextColors before) {
     TextColors colors = before;
     for (std::size_t at = format.find('\\'); at != std::string_view::npos;) {
         const RtfControl control = rtfControlAt(format, at);

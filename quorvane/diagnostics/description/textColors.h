@@ -23,7 +23,7 @@ struct ColoredPart {
 };
 
 /// The colors after the control words of a format, which begin with those before it.
-TextColors colorsBehind(std::string_view format, TextColors before);
+TextColors colorsAfter(std::string_view format, TextColors before);
 
 /// The parts of a paragraph's text, in which inline styles and control words change the colors that
 /// it begins with. Text that is not seen, such as the instruction of a field, is not among them.

@@ -36,6 +36,6 @@ std::string withArguments(std::string_view pattern,
                           std::initializer_list<std::string_view> arguments);
 
 /// Puts the diagnostics into the order of their places; those of one place stay as they were.
-void sortByPlace(std::vector<Diagnostic>& findings);
+void sortByPlace(std::vector<Diagnostic>& diagnostics);
 
 }  // namespace quorvane

@@ -4,7 +4,7 @@ namespace quorvane {
 
 namespace {
 
-constexpr std::size_t mostLines = 10;
+constexpr std::size_t maxLines = 10;
 
 std::string keyOf(const Diagnostic& diagnostic) {
     const char* const separator = "\n\n";
@@ -23,7 +23,7 @@ RepeatedDiagnostics::Filed RepeatedDiagnostics::add(const Diagnostic& diagnostic
     Cause& cause = causes_[known->second];
     ++cause.repetitions;
     const bool isOtherLine = cause.lines.empty() || cause.lines.back() != diagnostic.place.line;
-    if (isOtherLine && cause.lines.size() <= mostLines) {
+    if (isOtherLine && cause.lines.size() <= maxLines) {
         cause.lines.push_back(diagnostic.place.line);
     }
     return {known->second, false};
@@ -38,7 +38,7 @@ std::string RepeatedDiagnostics::repetitionText(std::size_t cause) const {
                        " more like this: " + (lines.size() == 1 ? "line " : "lines ") +
                        std::to_string(lines.front());
     for (std::size_t i = 1; i < lines.size(); ++i) {
-        if (i == mostLines) {
+        if (i == maxLines) {
             return text + ", \xE2\x80\xA6";
         }
         text += (i + 1 == lines.size() ? " and " : ", ") + std::to_string(lines[i]);

@@ -14,7 +14,7 @@ namespace {
 
 /// Few diagnostics appear only when another one is fixed, and of one kind only so many of a text
 /// are reported at once. Each round keeps the text before it.
-std::size_t mostRounds(std::size_t textLength) {
+std::size_t maxRounds(std::size_t textLength) {
     constexpr std::size_t memory = std::size_t{64} * 1024 * 1024;
     return std::clamp<std::size_t>(memory / std::max<std::size_t>(textLength, 1), 10, 1000);
 }
@@ -71,7 +71,7 @@ FixedText fixText(std::string_view bytes, const TextCheck& check) {
     result.remaining = check(bytes);
     // The texts before each round: fixes that undo each other would go on for ever.
     std::unordered_map<std::string, std::size_t> seen{{result.bytes, 0}};
-    while (result.rounds.size() < mostRounds(bytes.size())) {
+    while (result.rounds.size() < maxRounds(bytes.size())) {
         std::vector<Diagnostic> chosen = fixableTogether(result.remaining, result.bytes.size());
         std::string next = withFixes(result.bytes, chosen);
         const auto [known, isNew] = seen.emplace(next, result.rounds.size() + 1);

@@ -42,7 +42,7 @@ std::size_t distance(std::string_view a, std::string_view b) {
 
 std::string_view nearestWord(std::string_view word, std::span<const std::string_view> candidates) {
     std::string_view nearest;
-    if (word.empty() || word.size() > longestWord || candidates.size() > mostCandidates) {
+    if (word.empty() || word.size() > longestWord || candidates.size() > maxCandidates) {
         return nearest;
     }
     const std::string wanted = lowerCase(word);

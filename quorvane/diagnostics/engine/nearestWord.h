@@ -10,7 +10,7 @@
 namespace quorvane {
 
 /// So many candidates are compared with a word at most; of more none is nearest.
-inline constexpr std::size_t mostCandidates = 500;
+inline constexpr std::size_t maxCandidates = 500;
 
 /// The candidate that the word was most likely meant to be: the one that it becomes by the fewest
 /// changes (a character put in, left out, replaced, or exchanged with the next), at most one in

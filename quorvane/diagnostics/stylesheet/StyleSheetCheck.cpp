@@ -12,7 +12,7 @@
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/base/values/RtfError.h"
-#include "quorvane/diagnostics/description/misreadCharacters.h"
+#include "quorvane/diagnostics/description/mojibake.h"
 #include "quorvane/diagnostics/description/rtfText.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
 #include "quorvane/diagnostics/engine/SourceText.h"
@@ -113,7 +113,7 @@ private:
     /// Text outside braces has no meaning: a text without braces defines no styles.
     void findKeywordWithoutBraces() {
         const std::string_view text = source_.text();
-        if (trimWhitespace(behindByteOrderMark(text)).empty()) {
+        if (trimWhitespace(afterByteOrderMark(text)).empty()) {
             report(DiagnosticId::NoStyles, text.substr(0, 0), {},
                    "the file is empty; write definitions such as { name: ...; style-def: ... }");
             return;
@@ -281,7 +281,7 @@ private:
     Hint referenceHint(StyleKind kind, std::string_view name) const {
         std::vector<std::string_view> candidates;
         const auto& names = defined_[static_cast<std::size_t>(kind)];
-        if (names.size() <= mostCandidates) {
+        if (names.size() <= maxCandidates) {
             for (const auto& [lower, written] : names) {
                 candidates.push_back(written);
             }
@@ -345,7 +345,7 @@ std::vector<Diagnostic> checkStyleSheet(std::string_view text) {
     StyleSheetChecks(source, engine).run();
     findWrongIgnoreComments(source, CheckedLanguage::StyleSheet, engine);
     sortByPlace(diagnostics);
-    keepFirstMisreadCharacters(diagnostics);
+    keepFirstMojibake(diagnostics);
     return diagnostics;
 }
 

@@ -25,14 +25,14 @@ std::vector<std::string> parts(const std::string& text, const KnownStyles* style
 }
 
 TEST(TextColors, AfterAFormatAreTheLastOfIt) {
-    EXPECT_EQ(shown(colorsBehind("\\fs20\\cf5\\b\\cf6", {1, 2})), "6 on 2");
-    EXPECT_EQ(shown(colorsBehind("\\fs20", {1, 2})), "1 on 2");
-    EXPECT_EQ(shown(colorsBehind("", {1, 2})), "1 on 2");
+    EXPECT_EQ(shown(colorsAfter("\\fs20\\cf5\\b\\cf6", {1, 2})), "6 on 2");
+    EXPECT_EQ(shown(colorsAfter("\\fs20", {1, 2})), "1 on 2");
+    EXPECT_EQ(shown(colorsAfter("", {1, 2})), "1 on 2");
 }
 
 TEST(TextColors, OfTheGroundHaveSeveralWords) {
     for (const char* word : {"\\highlight", "\\cb", "\\chcbpat", "\\cbpat"}) {
-        EXPECT_EQ(shown(colorsBehind(word + std::string("7"), {1, 2})), "1 on 7") << word;
+        EXPECT_EQ(shown(colorsAfter(word + std::string("7"), {1, 2})), "1 on 7") << word;
     }
 }
 

@@ -35,7 +35,7 @@ TEST(NearestWord, PassesOverWhatIsNotAWord) {
 }
 
 TEST(NearestWord, IsEmptyAmongVeryMany) {
-    const std::vector<std::string_view> many(mostCandidates + 1, "red");
+    const std::vector<std::string_view> many(maxCandidates + 1, "red");
     EXPECT_EQ(nearestWord("rad", many), "");
 }
 

@@ -10,10 +10,10 @@ namespace quorvane {
 
 /// What a message says about a character of a file in UTF-8, which reads as several in
 /// Windows-1252.
-std::string misreadText(std::string_view shown);
+std::string mojibakeText(std::string_view shown);
 
-/// Keeps the first diagnostic of each kind about a misread character, which says that there are
+/// Keeps the first diagnostic of each kind about mojibake, which says that there are
 /// more: in a file in UTF-8 there is one in every other line.
-void keepFirstMisreadCharacters(std::vector<Diagnostic>& diagnostics);
+void keepFirstMojibake(std::vector<Diagnostic>& diagnostics);
 
 }  // namespace quorvane

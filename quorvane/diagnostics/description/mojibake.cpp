@@ -1,4 +1,4 @@
-#include "quorvane/diagnostics/description/misreadCharacters.h"
+#include "quorvane/diagnostics/description/mojibake.h"
 
 #include <cstddef>
 #include <map>
@@ -19,11 +19,11 @@ bool isAboutMisreadCharacter(const Diagnostic& diagnostic) {
 
 }  // namespace
 
-std::string misreadText(std::string_view shown) {
+std::string mojibakeText(std::string_view shown) {
     return std::string(shown) + std::string(inUtf8);
 }
 
-void keepFirstMisreadCharacters(std::vector<Diagnostic>& diagnostics) {
+void keepFirstMojibake(std::vector<Diagnostic>& diagnostics) {
     std::vector<Diagnostic> kept;
     std::map<DiagnosticId, std::size_t> firsts;
     for (Diagnostic& diagnostic : diagnostics) {
