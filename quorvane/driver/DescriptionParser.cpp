@@ -190,10 +190,15 @@ void DescriptionParser::readUnreadable(const SourceLine& line) {
         .fault = DriverFault::WrongSyntax,
         .error = driverError(DriverFault::WrongSyntax, line.text, line.number),
         .part = line.text};
-    if (!recovery_) {
+    if (recovery_) {
+        readAsMeant(line, recovery_->unreadable(violation, innermost()));
+    } else {
         raiseViolation(violation);
     }
-    const auto [meant, goesOn] = recovery_->unreadable(violation, innermost());
+}
+
+void DescriptionParser::readAsMeant(const SourceLine& line, const MeantLine& likely) {
+    const auto& [meant, goesOn] = likely;
     if (meant.type == LineType::Opener) {
         openMeant(line, meant.kind);
     } else if (meant.type == LineType::Closer && meant.kind == innermost().kind && depth() > 0) {
@@ -237,10 +242,11 @@ void DescriptionParser::leaveNode() {
 }
 
 void DescriptionParser::reject(const Violation& violation) const {
-    if (!recovery_) {
+    if (recovery_) {
+        recovery_->violation(violation);
+    } else {
         raiseViolation(violation);
     }
-    recovery_->violation(violation);
 }
 
 bool DescriptionParser::keepsRootOpen() const {

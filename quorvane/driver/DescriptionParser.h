@@ -47,6 +47,7 @@ private:
     void addNode(NodeKind kind, std::int32_t number, const SourceLine& line);
     void close(const SourceLine& line, const DescriptionLine& parts);
     void readUnreadable(const SourceLine& line);
+    void readAsMeant(const SourceLine& line, const MeantLine& likely);
     void openMeant(const SourceLine& line, NodeKind kind);
     void passOverRestOfValue();
     void leaveNode();
