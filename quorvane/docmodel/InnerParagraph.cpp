@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "quorvane/docmodel/inlineStyles.h"
+#include "quorvane/docmodel/inline/inlineStyles.h"
 #include "quorvane/rtfgroups/GTextMarkedFields.h"
 
 namespace quorvane {
