@@ -71,11 +71,27 @@ StyleKind likelyKind(const std::string& word) {
 
 StyleKind kindOf(const OutlinedDefinition& definition) {
     for (std::size_t i = 1; i < definition.items.size(); ++i) {
-        if (definition.items[i].keyword == "style-def") {
+        if (definition.items[i].is(kindKeyword)) {
             return likelyKind(lowerCase(definition.items[i].value));
         }
     }
     return StyleKind::Cell;
+}
+
+DiagnosticId diagnosticOf(StyleSheetFault fault) {
+    switch (fault) {
+        case StyleSheetFault::BracesUnderflow:
+            return DiagnosticId::BracesUnderflow;
+        case StyleSheetFault::BracesOverflow:
+            return DiagnosticId::BracesOverflow;
+        case StyleSheetFault::BadStyleKind:
+            return DiagnosticId::BadStyleKind;
+        case StyleSheetFault::BadAdditive:
+            return DiagnosticId::BadAdditive;
+        case StyleSheetFault::BadKeyword:
+            break;
+    }
+    return DiagnosticId::BadKeyword;
 }
 
 class StyleSheetChecks {
@@ -134,10 +150,8 @@ private:
     }
 
     void findBraces() {
-        const auto [opened, closed] = countBraces(source_.text());
-        if (opened != closed) {
-            report(opened < closed ? DiagnosticId::BracesUnderflow : DiagnosticId::BracesOverflow,
-                   outline_.loneBrace, {},
+        if (const auto fault = faultOf(countBraces(source_.text()))) {
+            report(diagnosticOf(*fault), outline_.loneBrace, {},
                    outline_.loneBrace == "{" ? "its } is missing" : "its { is missing");
         }
     }
@@ -153,8 +167,8 @@ private:
             return;
         }
         const StyleItem& first = definition.items.front();
-        if (faultOfFirst(first) != StyleItemFault::None) {
-            report(DiagnosticId::BadKeyword, first.writtenKeyword, {first.keyword},
+        if (const auto fault = faultOfFirst(first)) {
+            report(diagnosticOf(*fault), first.writtenKeyword, {first.keyword},
                    firstKeywordHint(first));
         }
         for (std::size_t i = 1; i < definition.items.size(); ++i) {
@@ -176,18 +190,12 @@ private:
 
     void findItemError(const StyleItem& item) {
         const std::string value = lowerCase(item.value);
-        switch (faultOf(item, value)) {
-            case StyleItemFault::Keyword:
-                report(DiagnosticId::BadKeyword, item.writtenKeyword, {item.keyword},
-                       keywordHint(item.keyword));
-                break;
-            case StyleItemFault::Value:
-                report(item.keyword == "style-def" ? DiagnosticId::BadStyleKind
-                                                   : DiagnosticId::BadAdditive,
-                       item.value, {value}, valueHint(item));
-                break;
-            case StyleItemFault::None:
-                break;
+        const auto fault = faultOf(item, value);
+        if (fault && !item.known) {
+            report(diagnosticOf(*fault), item.writtenKeyword, {item.keyword},
+                   keywordHint(item.keyword));
+        } else if (fault) {
+            report(diagnosticOf(*fault), item.value, {value}, valueHint(item));
         }
     }
 
@@ -195,8 +203,7 @@ private:
         if (std::string separator = separatorHint(item.value); !separator.empty()) {
             return separator;
         }
-        return item.keyword == "style-def" ? kindHint(lowerCase(item.value))
-                                           : Hint("write yes or no");
+        return item.is(kindKeyword) ? kindHint(lowerCase(item.value)) : Hint("write yes or no");
     }
 
     static Hint keywordHint(std::string_view keyword) {
@@ -223,22 +230,22 @@ private:
         if (value.starts_with("ch")) {
             return "write cs for a character style";
         }
-        return spellingHint(value, findStyleKeyword("style-def")->values);
+        return spellingHint(value, kindKeyword.values);
     }
 
     void findWarnings(const OutlinedDefinition& definition) {
         const StyleKind kind = kindOf(definition);
-        std::unordered_set<std::string> seen;
+        std::unordered_set<const StyleKeyword*> seen;
         for (std::size_t i = 1; i < definition.items.size(); ++i) {
             const StyleItem& item = definition.items[i];
-            if (item.known && !seen.insert(item.keyword).second) {
+            if (item.known && !seen.insert(item.known).second) {
                 report(DiagnosticId::RepeatedItem, item.writtenKeyword, {item.keyword});
-            } else if (item.keyword == "format") {
+            } else if (item.is(formatKeyword)) {
                 findFormatWarningsOf(item, kind);
             }
         }
         const std::vector<std::string_view> names = namesOf(definition);
-        if (!names.empty() && !seen.contains("style-def")) {
+        if (!names.empty() && !seen.contains(&kindKeyword)) {
             report(DiagnosticId::NoStyleKind, definition.items.front().whole, {},
                    separatorHint(definition.items.front().value));
         }
@@ -294,8 +301,8 @@ private:
         const StyleKind kind = kindOf(definition);
         for (std::size_t i = 1; i < definition.items.size(); ++i) {
             const StyleItem& item = definition.items[i];
-            const bool isWritten = (item.keyword == "based-on" && kind != StyleKind::Cell) ||
-                                   (item.keyword == "next" && kind == StyleKind::Paragraph);
+            const bool isWritten = (item.is(basedOnKeyword) && kind != StyleKind::Cell) ||
+                                   (item.is(nextKeyword) && kind == StyleKind::Paragraph);
             const auto& names = defined_[static_cast<std::size_t>(kind)];
             if (isWritten && !item.value.empty() && !names.contains(lowerCase(item.value))) {
                 report(DiagnosticId::UndefinedReference, item.value,
@@ -358,7 +365,7 @@ std::vector<Diagnostic> findUnusedStyles(const KnownStyles& styles) {
     std::unordered_set<std::string> referenced;
     for (const OutlinedDefinition& definition : outline.definitions) {
         for (const StyleItem& item : definition.items) {
-            if (item.keyword == "based-on" || item.keyword == "next") {
+            if (item.is(basedOnKeyword) || item.is(nextKeyword)) {
                 referenced.insert(lowerCase(item.value));
             }
         }

@@ -24,6 +24,7 @@
 #include "quorvane/rtf/RtfGroup.h"
 #include "quorvane/rtf/RtfWord.h"
 #include "quorvane/rtfgroups/CRtfGrpColorTable.h"
+#include "quorvane/stylesheet/stylesheetSyntax.h"
 
 namespace quorvane {
 
@@ -424,7 +425,7 @@ private:
         const bool isPrinted =
             partBegin_ == nowhere ||
             (at_ > partBegin_ + 1 &&
-             std::string_view("vfp").find(lowerCase(text_.substr(partBegin_ + 1, 1))) != nowhere);
+             formatSubFields.find(lowerCase(text_.substr(partBegin_ + 1, 1))) != nowhere);
         if (isPrinted && at_ >= swallowedEnd_ && !isWhitespace(character)) {
             formatTextBegin_ = std::min(formatTextBegin_, at_);
             formatTextEnd_ = at_ + 1;
