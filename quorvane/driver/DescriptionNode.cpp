@@ -44,8 +44,4 @@ NodeKind NodeType(std::int32_t number) {
     return kinds[number / 1000];
 }
 
-std::string valueText(const Value& value) {
-    return value.isNumber() ? numberText(value.number()) : value.text();
-}
-
 }  // namespace quorvane

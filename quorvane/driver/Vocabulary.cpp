@@ -164,13 +164,6 @@ std::optional<Enumeration> valueNamed(std::span<const VocabularyWords::NamedValu
 
 template <class Enumeration>
 std::optional<Enumeration> valueNamed(std::span<const VocabularyWords::NamedValue> list,
-                                      const Value& name) {
-    return name.isText() ? valueNamed<Enumeration>(list, std::string_view(name.text()))
-                         : std::nullopt;
-}
-
-template <class Enumeration>
-std::optional<Enumeration> valueNamed(std::span<const VocabularyWords::NamedValue> list,
                                       const Leaf& leaf) {
     return leaf.kind == LeafKind::Text ? valueNamed<Enumeration>(list, leaf.text) : std::nullopt;
 }
@@ -279,15 +272,15 @@ bool Vocabulary::isKeyOf(NodeKind kind, std::string_view key) const {
     return known && known->name == key && contains(keySetOf(kind), known->known);
 }
 
-std::optional<tColorIndex> Vocabulary::colorNamed(const Value& name) const {
+std::optional<tColorIndex> Vocabulary::colorNamed(std::string_view name) const {
     return valueNamed<tColorIndex>(words_.colors, name);
 }
 
-std::optional<tBorderWidth> Vocabulary::borderNamed(const Value& name) const {
+std::optional<tBorderWidth> Vocabulary::borderNamed(std::string_view name) const {
     return valueNamed<tBorderWidth>(words_.borders, name);
 }
 
-std::optional<tCellAlign> Vocabulary::alignmentNamed(const Value& name) const {
+std::optional<tCellAlign> Vocabulary::alignmentNamed(std::string_view name) const {
     return valueNamed<tCellAlign>(words_.alignments, name);
 }
 

@@ -9,7 +9,6 @@
 #include <string_view>
 #include <vector>
 
-#include "quorvane/base/values/Value.h"
 #include "quorvane/docmodel/enumerations.h"
 #include "quorvane/driver/DescriptionNode.h"
 
@@ -73,10 +72,10 @@ public:
     /// All keys that nodes of that kind have; `None` has no keys.
     KeySet keySetOf(NodeKind kind) const { return keySets_[indexOf(kind)]; }
 
-    /// The values that names stand for; nothing for a value that is not a name.
-    std::optional<tColorIndex> colorNamed(const Value& name) const;
-    std::optional<tBorderWidth> borderNamed(const Value& name) const;
-    std::optional<tCellAlign> alignmentNamed(const Value& name) const;
+    /// The values that names stand for; nothing for a text that is not a name.
+    std::optional<tColorIndex> colorNamed(std::string_view name) const;
+    std::optional<tBorderWidth> borderNamed(std::string_view name) const;
+    std::optional<tCellAlign> alignmentNamed(std::string_view name) const;
     /// The same for the value of a leaf.
     std::optional<tColorIndex> colorNamed(const Leaf& leaf) const;
     std::optional<tBorderWidth> borderNamed(const Leaf& leaf) const;
