@@ -16,6 +16,10 @@ namespace quorvane {
 
 /// What a vocabulary is made of. All texts must outlive it.
 struct VocabularyWords {
+    /// A name of a node is compared as one number.
+    using NodeNumber = std::uint32_t;
+    static constexpr std::size_t maxNodeName = sizeof(NodeNumber);
+
     struct NodeWord {
         std::string_view name;
         NodeKind kind;
@@ -33,9 +37,9 @@ struct VocabularyWords {
         std::int32_t value;
     };
 
-    /// Names of nodes, long and short, in lower case and of at most four letters.
+    /// Names of nodes, long and short, in lower case and of at most `maxNodeName` letters.
     std::span<const NodeWord> nodes;
-    /// Short forms of nodes and keys, of at most three letters.
+    /// Short forms of nodes and keys.
     std::span<const ShortForm> shortForms;
     /// The keys of each kind of node in their long forms, in the order of the kinds' codes.
     std::array<std::span<const Key>, 4> keys;
@@ -101,7 +105,6 @@ private:
 
     // A power of two, several times as many as there are words.
     static constexpr std::size_t slotCount = 256;
-    static constexpr std::size_t maxNodeWords = 8;
 
     static std::vector<std::string_view> namesOf(std::span<const VocabularyWords::NamedValue> list);
     void add(std::string_view word, const LeafKey& key);
@@ -113,7 +116,8 @@ private:
     std::array<Slot, slotCount> slots_{};
     std::array<KeySet, 5> keySets_{};
     // The names of nodes, each as one number.
-    std::array<std::uint32_t, maxNodeWords> nodeNumbers_{};
+    std::vector<VocabularyWords::NodeNumber> nodeNumbers_;
+    std::size_t longestShortForm_ = 0;
 };
 
 /// The words of the published language.
