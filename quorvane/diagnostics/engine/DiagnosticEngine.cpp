@@ -7,19 +7,40 @@
 
 namespace quorvane {
 
+namespace {
+
+Diagnostic diagnosticOf(DiagnosticId id, const Place& place, std::string message, Hint hint) {
+    std::optional<Fix> fix;
+    if (hint.replacement) {
+        fix = Fix{place, *std::move(hint.replacement)};
+    }
+    return {id,
+            diagnosticRule(id).severity,
+            place,
+            std::move(message),
+            std::move(hint.text),
+            std::move(fix)};
+}
+
+}  // namespace
+
 void DiagnosticEngine::report(DiagnosticId id, const Place& place,
                               std::initializer_list<std::string_view> arguments, Hint hint) {
     reportText(id, place, withArguments(diagnosticRule(id).message, arguments), std::move(hint));
 }
 
+void DiagnosticEngine::reportMojibake(DiagnosticId id, const Place& place,
+                                      std::initializer_list<std::string_view> arguments,
+                                      Hint hint) {
+    Diagnostic diagnostic = diagnosticOf(
+        id, place, withArguments(diagnosticRule(id).message, arguments), std::move(hint));
+    diagnostic.isMojibake = true;
+    receiver_(std::move(diagnostic));
+}
+
 void DiagnosticEngine::reportText(DiagnosticId id, const Place& place, std::string message,
                                   Hint hint) {
-    const Severity severity = diagnosticRule(id).severity;
-    std::optional<Fix> fix;
-    if (hint.replacement) {
-        fix = Fix{place, *std::move(hint.replacement)};
-    }
-    receiver_({id, severity, place, std::move(message), std::move(hint.text), std::move(fix)});
+    receiver_(diagnosticOf(id, place, std::move(message), std::move(hint)));
 }
 
 void sortByPlace(std::vector<Diagnostic>& diagnostics) {

@@ -20,6 +20,10 @@ public:
     void report(DiagnosticId id, const Place& place,
                 std::initializer_list<std::string_view> arguments = {}, Hint hint = {});
 
+    /// The same for a character of a file in UTF-8.
+    void reportMojibake(DiagnosticId id, const Place& place,
+                        std::initializer_list<std::string_view> arguments, Hint hint);
+
     /// Passes on a diagnostic whose text is known, such as that of an error of the library.
     void reportText(DiagnosticId id, const Place& place, std::string message, Hint hint = {});
 

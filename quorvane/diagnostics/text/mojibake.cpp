@@ -8,26 +8,15 @@ namespace quorvane {
 
 namespace {
 
-constexpr std::string_view inUtf8 = ", because the file is in UTF-8";
 constexpr std::string_view ofOthers = " Other characters are affected too.";
 
-bool isAboutMisreadCharacter(const Diagnostic& diagnostic) {
-    return (diagnostic.id == DiagnosticId::Utf8Text ||
-            diagnostic.id == DiagnosticId::UnencodableCharacter) &&
-           diagnostic.message.find(inUtf8) != std::string::npos;
-}
-
 }  // namespace
-
-std::string mojibakeText(std::string_view shown) {
-    return std::string(shown) + std::string(inUtf8);
-}
 
 void keepFirstMojibake(std::vector<Diagnostic>& diagnostics) {
     std::vector<Diagnostic> kept;
     std::map<DiagnosticId, std::size_t> firsts;
     for (Diagnostic& diagnostic : diagnostics) {
-        if (!isAboutMisreadCharacter(diagnostic)) {
+        if (!diagnostic.isMojibake) {
             kept.push_back(std::move(diagnostic));
             continue;
         }

@@ -19,7 +19,6 @@
 #include "quorvane/diagnostics/rtf/RtfCheck.h"
 #include "quorvane/diagnostics/text/InlineTokens.h"
 #include "quorvane/diagnostics/text/documentNumbers.h"
-#include "quorvane/diagnostics/text/mojibake.h"
 #include "quorvane/rtf/RtfControl.h"
 #include "quorvane/rtf/RtfGroup.h"
 #include "quorvane/rtf/RtfWord.h"
@@ -313,11 +312,23 @@ private:
 
     void report(DiagnosticId id, std::size_t length,
                 std::initializer_list<std::string_view> arguments, Hint hint) {
-        int& reported = reported_[static_cast<std::size_t>(id)];
-        if (++reported <= maxOfAKind) {
+        if (countsIn(id)) {
             engine_.report(id, source_.placeOf(text_.substr(at_, length)), arguments,
                            std::move(hint));
         }
+    }
+
+    void reportMojibake(DiagnosticId id, std::size_t length,
+                        std::initializer_list<std::string_view> arguments, Hint hint) {
+        if (countsIn(id)) {
+            engine_.reportMojibake(id, source_.placeOf(text_.substr(at_, length)), arguments,
+                                   std::move(hint));
+        }
+    }
+
+    /// Counts a diagnostic; true for the first ones of each kind, which are reported.
+    bool countsIn(DiagnosticId id) {
+        return ++reported_[static_cast<std::size_t>(id)] <= maxOfAKind;
     }
 
     void findBrokenNestedTables() {
@@ -628,12 +639,13 @@ private:
         if (const auto meant = utf8InCodePage()) {
             const std::string_view shown = text_.substr(at_, meant->length);
             if (codePage1252FromUtf8(meant->text) == "?") {
-                report(DiagnosticId::UnencodableCharacter, meant->length,
-                       {meant->text, mojibakeText(shown)}, unicodeHint(meant->code));
+                reportMojibake(DiagnosticId::UnencodableCharacter, meant->length,
+                               {meant->text, std::string(shown) + ", because the file is in UTF-8"},
+                               unicodeHint(meant->code));
             } else {
-                report(DiagnosticId::Utf8Text, meant->length, {meant->text, shown},
-                       "save the file in Windows-1252" +
-                           (canHoldControls() ? ", or write " + escape(meant->text) : ""));
+                reportMojibake(DiagnosticId::Utf8Text, meant->length, {meant->text, shown},
+                               "save the file in Windows-1252" +
+                                   (canHoldControls() ? ", or write " + escape(meant->text) : ""));
             }
             at_ += meant->length;
             return;
