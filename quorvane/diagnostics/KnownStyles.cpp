@@ -39,7 +39,7 @@ std::string_view likelyNamesOf(const OutlinedDefinition& definition) {
     return named == items.end() ? std::string_view() : named->value;
 }
 
-/// True when an item other than the first may be a misspelled "style-def".
+/// True when an item other than the first may be a misspelled kind.
 bool hasUnknownKeyword(const OutlinedDefinition& definition) {
     return std::any_of(definition.items.begin() + 1, definition.items.end(),
                        [](const StyleItem& item) { return !item.known; });
@@ -56,7 +56,7 @@ RepairedDefinition repairedDefinition(const OutlinedDefinition& definition) {
     for (const StyleItem& item : definition.items) {
         const std::string value = withoutBraces(item.value);
         const bool isValid = item.known && item.known->accepts(lowerCase(value));
-        if (item.keyword == "style-def") {
+        if (item.is(kindKeyword)) {
             hasKind = true;
             repaired.isKindSure = repaired.isKindSure && isValid;
         }

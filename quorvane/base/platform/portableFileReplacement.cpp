@@ -9,36 +9,32 @@
 #include "quorvane/base/platform/fileReplacement.h"
 #include "quorvane/base/platform/followLinks.h"
 #include "quorvane/base/platform/portableDescriptorFile.h"
+#include "quorvane/base/platform/portablePath.h"
 #include "quorvane/base/platform/portableSystemError.h"
 
 namespace quorvane {
 
 namespace {
 
-std::string folderOf(const std::string& path) {
-    const std::size_t slash = path.rfind('/');
-    return slash == std::string::npos ? "./" : path.substr(0, slash + 1);
-}
-
 /// A new file beside another.
 class UnfinishedFile {
 public:
-    UnfinishedFile(const std::string& target, UnfinishedFileWatch& watch) : watch_(watch) {
+    UnfinishedFile(const std::string& target, UnfinishedFileWatch& watch) : UnfinishedFile(watch) {
         const std::string prefix =
             folderOf(target) + ".quorvane-" + std::to_string(::getpid()) + "-";
-        int descriptor = -1;
         const EndHeld held(watch_);
-        for (int number = 1; descriptor == -1; ++number) {
-            path_ = prefix + std::to_string(number) + ".tmp";
-            descriptor = openDescriptor(path_, O_WRONLY | O_CREAT | O_EXCL);
-            if (descriptor == -1 && errno == ENOENT) {
+        for (int number = 1; !file_; ++number) {
+            std::string path = prefix + std::to_string(number) + ".tmp";
+            const int descriptor = openDescriptor(path, O_WRONLY | O_CREAT | O_EXCL);
+            if (descriptor != -1) {
+                file_.emplace(descriptor);
+                path_ = std::move(path);
+            } else if (errno == ENOENT) {
                 raiseSystemError(RunTimeError::PathNotFound, ENOENT);
-            }
-            if (descriptor == -1 && errno != EEXIST) {
+            } else if (errno != EEXIST) {
                 raiseSystemError(errno);
             }
         }
-        file_.emplace(descriptor);
         watch_.begin(path_);
     }
     UnfinishedFile(const UnfinishedFile&) = delete;
@@ -63,7 +59,11 @@ public:
     }
 
 private:
+    // The public constructor delegates to this one, so that the destructor runs if it throws.
+    explicit UnfinishedFile(UnfinishedFileWatch& watch) noexcept : watch_(watch) {}
+
     UnfinishedFileWatch& watch_;
+    // Of a file that was made and not moved.
     std::string path_;
     std::optional<DescriptorFile> file_;
 };
@@ -90,18 +90,6 @@ private:
     UnfinishedFile unfinished_;
 };
 
-/// What a path leads to, past all links; nothing when nothing is there.
-std::optional<struct stat> statusOf(const std::string& path) {
-    struct stat status {};
-    if (::stat(path.c_str(), &status) == 0) {
-        return status;
-    }
-    if (errno != ENOENT) {
-        raiseSystemError(errno);
-    }
-    return std::nullopt;
-}
-
 }  // namespace
 
 std::unique_ptr<OutputFile> openReplacement(const std::string& path, UnfinishedFileWatch& watch) {
@@ -110,6 +98,9 @@ std::unique_ptr<OutputFile> openReplacement(const std::string& path, UnfinishedF
         return std::make_unique<ReplacementFile>(path, std::nullopt, watch);
     }
     const std::optional<struct stat> status = statusOf(path);
+    if (!status && errno != ENOENT) {
+        raiseSystemError(errno);
+    }
     if (!status) {
         return std::make_unique<ReplacementFile>(followLinks(path).native(), std::nullopt, watch);
     }

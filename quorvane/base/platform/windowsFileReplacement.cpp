@@ -24,21 +24,22 @@ std::wstring folderOf(const std::wstring& path) {
 /// A new file beside another.
 class UnfinishedFile {
 public:
-    UnfinishedFile(const std::wstring& target, UnfinishedFileWatch& watch) : watch_(watch) {
+    UnfinishedFile(const std::wstring& target, UnfinishedFileWatch& watch) : UnfinishedFile(watch) {
         const std::wstring prefix =
             folderOf(target) + L".quorvane-" + std::to_wstring(GetCurrentProcessId()) + L"-";
         const EndHeld held(watch_);
-        HANDLE handle = INVALID_HANDLE_VALUE;
-        for (int number = 1; handle == INVALID_HANDLE_VALUE; ++number) {
-            path_ = prefix + std::to_wstring(number) + L".tmp";
-            handle = CreateFileW(path_.c_str(), GENERIC_WRITE, shareAll, nullptr, CREATE_NEW,
-                                 FILE_ATTRIBUTE_NORMAL, nullptr);
+        for (int number = 1; !file_; ++number) {
+            std::wstring path = prefix + std::to_wstring(number) + L".tmp";
+            HANDLE handle = CreateFileW(path.c_str(), GENERIC_WRITE, shareAll, nullptr, CREATE_NEW,
+                                        FILE_ATTRIBUTE_NORMAL, nullptr);
             const DWORD code = GetLastError();
-            if (handle == INVALID_HANDLE_VALUE && code != ERROR_FILE_EXISTS) {
+            if (handle != INVALID_HANDLE_VALUE) {
+                file_.emplace(handle);
+                path_ = std::move(path);
+            } else if (code != ERROR_FILE_EXISTS) {
                 raiseSystemError(code);
             }
         }
-        file_.emplace(handle);
         watch_.begin(path_);
     }
     UnfinishedFile(const UnfinishedFile&) = delete;
@@ -69,7 +70,11 @@ public:
     }
 
 private:
+    // The public constructor delegates to this one, so that the destructor runs if it throws.
+    explicit UnfinishedFile(UnfinishedFileWatch& watch) noexcept : watch_(watch) {}
+
     UnfinishedFileWatch& watch_;
+    // Of a file that was made and not moved.
     std::wstring path_;
     std::optional<HandleFile> file_;
 };
