@@ -29,8 +29,8 @@ public:
         int descriptor = -1;
         const EndHeld held(watch_);
         for (int number = 1; descriptor == -1; ++number) {
-            path_ = prefix + std::to_string(number) + ".tmp";
-            descriptor = openDescriptor(path_, O_WRONLY | O_CREAT | O_EXCL);
+            own_.path = prefix + std::to_string(number) + ".tmp";
+            descriptor = openDescriptor(own_.path.native(), O_WRONLY | O_CREAT | O_EXCL);
             if (descriptor == -1 && errno == ENOENT) {
                 raiseSystemError(RunTimeError::PathNotFound, ENOENT);
             }
@@ -39,15 +39,15 @@ public:
             }
         }
         file_.emplace(descriptor);
-        watch_.begin(path_);
+        watch_.begin(own_);
     }
     UnfinishedFile(const UnfinishedFile&) = delete;
     UnfinishedFile& operator=(const UnfinishedFile&) = delete;
     ~UnfinishedFile() {
-        if (!path_.empty()) {
+        if (isThere_) {
             const EndHeld held(watch_);
-            ::unlink(path_.c_str());
-            watch_.end();
+            ::unlink(own_.path.c_str());
+            watch_.end(own_);
         }
     }
 
@@ -55,16 +55,17 @@ public:
 
     void moveTo(const std::string& target) {
         const EndHeld held(watch_);
-        if (::rename(path_.c_str(), target.c_str()) == -1) {
+        if (::rename(own_.path.c_str(), target.c_str()) == -1) {
             raiseSystemError(errno);
         }
-        path_.clear();
-        watch_.end();
+        isThere_ = false;
+        watch_.end(own_);
     }
 
 private:
     UnfinishedFileWatch& watch_;
-    std::string path_;
+    UnfinishedPath own_;
+    bool isThere_ = true;
     std::optional<DescriptorFile> file_;
 };
 
