@@ -211,6 +211,13 @@ CLI::callback_t storeIn(std::vector<std::string>& target) {
     };
 }
 
+CLI::callback_t storeIn(std::size_t& target) {
+    return [&target](const CLI::results_t& results) {
+        target = std::stoul(results.front());
+        return true;
+    };
+}
+
 CLI::callback_t storeIn(ErrorForm& target) {
     return [&target](const CLI::results_t& results) {
         target = errorForms().at(results.front());
@@ -249,6 +256,16 @@ void refuseEmptyValues(CLI::App& app) {
                 ""));
         }
     }
+}
+
+/// What is wrong with a number of jobs; empty if it is one.
+std::string wrongJobs(const std::string& value) {
+    constexpr std::size_t mostJobs = 1024;
+    const bool isShort = value.size() <= std::to_string(mostJobs).size();
+    const bool isNumber = value.find_first_not_of("0123456789") == std::string::npos;
+    return isShort && isNumber && std::stoul(value) <= mostJobs
+               ? std::string()
+               : asGiven(value) + " is not a number from 0 to " + std::to_string(mostJobs);
 }
 
 void addStdinFilename(CLI::App& app, std::optional<std::string>& target) {
@@ -382,6 +399,11 @@ void addRenderCommand(CLI::App& app, RenderOptions& options) {
         ->excludes("--output");
     render->add_flag("--mkdir", options.makesOutputFolder, "Create the folder of --output-dir")
         ->needs("--output-dir");
+    render
+        ->add_option("-j,--jobs", storeIn(options.jobs),
+                     "Render N descriptions at a time; 0 uses all cores")
+        ->type_name("N")
+        ->check(CLI::Validator(wrongJobs, ""));
     render->add_flag("--check", options.check,
                      "Repair unclosed rows; check keys, values and texts");
     render
