@@ -29,8 +29,8 @@ std::optional<DescriptionLine> leafIn(std::string_view line, const Dialect& dial
         return std::nullopt;
     }
     return DescriptionLine{.type = LineType::Leaf,
-                           .key = TrimEx(line.substr(1, equals - 1)),
-                           .value = TrimEx(line.substr(equals + 1, end - equals - 1)),
+                           .key = trimBlanks(line.substr(1, equals - 1)),
+                           .value = trimBlanks(line.substr(equals + 1, end - equals - 1)),
                            .rest = rest};
 }
 

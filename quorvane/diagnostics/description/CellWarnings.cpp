@@ -7,6 +7,7 @@
 #include "quorvane/diagnostics/description/soundLeaf.h"
 #include "quorvane/diagnostics/text/colorContrast.h"
 #include "quorvane/diagnostics/text/textColors.h"
+#include "quorvane/stylesheet/StyleList.h"
 
 namespace quorvane {
 
@@ -47,7 +48,7 @@ void CellWarnings::findSharedNumber(const DescriptionNode& paragraph) {
         return;
     }
     const int position = styles_->find(StyleKind::Paragraph, leaf->valueText());
-    const StyleList& others = styles_->styles(StyleKind::Character);
+    const StyleList& others = stylesOf(*styles_, StyleKind::Character);
     if (position > 0 && static_cast<std::size_t>(position) <= others.count()) {
         engine_.report(
             DiagnosticId::SharedStyleNumber, source_.placeOf(leaf->text),
@@ -79,13 +80,13 @@ void CellWarnings::findContrast(const DescriptionNode& paragraph, std::int32_t o
 
 /// The format of the style that the paragraph is written in.
 std::string CellWarnings::formatOf(const DescriptionNode& paragraph) const {
-    if (!styles_ || styles_->styles(StyleKind::Paragraph).empty()) {
+    if (!styles_ || stylesOf(*styles_, StyleKind::Paragraph).empty()) {
         return {};
     }
     const Leaf* leaf = soundLeaf(paragraph, DescriptionKey::ParaStyle);
     const std::string name = leaf ? leaf->valueText() : std::string();
     const int position = styles_->find(StyleKind::Paragraph, name);
-    return styles_->styles(StyleKind::Paragraph).at(position > 0 ? position : 1).format();
+    return stylesOf(*styles_, StyleKind::Paragraph).at(position > 0 ? position : 1).format();
 }
 
 }  // namespace quorvane

@@ -8,6 +8,7 @@
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/diagnostics/engine/nearestWord.h"
 #include "quorvane/diagnostics/text/InlineTokens.h"
+#include "quorvane/stylesheet/StyleList.h"
 
 namespace quorvane {
 
@@ -30,7 +31,7 @@ void StyleUses::findParagraphStyle(const Leaf& leaf) {
     }
     styles_.markUsed(StyleKind::Paragraph, name);
     if (styles_.lacks(StyleKind::Paragraph, name)) {
-        const StyleList& list = styles_.styles(StyleKind::Paragraph);
+        const StyleList& list = stylesOf(styles_, StyleKind::Paragraph);
         engine_.report(DiagnosticId::UnknownParagraphStyle, source_.placeOf(leaf.text),
                        {name, list.empty() ? "the paragraph gets no format"
                                            : list.at(1).name + " is used instead"},
@@ -94,7 +95,7 @@ Hint StyleUses::styleHint(StyleKind kind, std::string_view name) {
         }
     }
     std::vector<std::string_view> names;
-    const StyleList& list = styles_.styles(kind);
+    const StyleList& list = stylesOf(styles_, kind);
     for (int i = 1; list.count() <= maxCandidates && i <= static_cast<int>(list.count()); ++i) {
         names.push_back(list.at(i).name);
     }

@@ -54,14 +54,14 @@ std::string nameFor(NodeKind kind, std::string_view written) {
 bool beginsLeaf(std::string_view rest, const Vocabulary& vocabulary) {
     const std::size_t equals = rest.find('=');
     return rest.starts_with('(') && equals != nowhere &&
-           vocabulary.isKey(TrimEx(rest.substr(1, equals - 1)));
+           vocabulary.isKey(trimBlanks(rest.substr(1, equals - 1)));
 }
 
 /// What to do about a text that goes on after its first ")". Where the line ends with one more and
 /// each has its "(", it is certain which of them are text.
 Hint parenthesisHint(std::string_view line, std::size_t equals, const Dialect& dialect) {
     const std::string words = "the value ends at the first ); write \\'29 for a literal )";
-    const std::string_view key = TrimEx(line.substr(1, equals - 1));
+    const std::string_view key = trimBlanks(line.substr(1, equals - 1));
     const std::string_view text = line.substr(equals + 1, line.size() - equals - 2);
     std::ptrdiff_t open = 0;
     std::string escaped;
@@ -82,10 +82,10 @@ Hint parenthesisHint(std::string_view line, std::size_t equals, const Dialect& d
 SyntaxGuess guessLeaf(std::string_view line, std::size_t equals, const Dialect& dialect) {
     SyntaxGuess guess;
     const bool isOpened = line.front() == '(';
-    guess.meant.line.key = TrimEx(line.substr(isOpened ? 1 : 0, equals - (isOpened ? 1 : 0)));
+    guess.meant.line.key = trimBlanks(line.substr(isOpened ? 1 : 0, equals - (isOpened ? 1 : 0)));
     const std::size_t close = line.find(')', equals);
     guess.meant.line.value =
-        TrimEx(line.substr(equals + 1, close == nowhere ? close : close - equals - 1));
+        trimBlanks(line.substr(equals + 1, close == nowhere ? close : close - equals - 1));
     guess.meant.line.type = LineType::Leaf;
     if (guess.meant.line.key.find('(') != nowhere) {
         guess.meant.line.type = LineType::Unreadable;
@@ -110,13 +110,13 @@ SyntaxGuess guessOpener(std::string_view line, const Dialect& dialect) {
     const std::string_view head = nameBefore(")=", line.substr(1), dialect);
     const std::string_view rest = trimWhitespace(line.substr(head.size() + 1));
     const std::size_t colon = std::min(line.find(':'), line.size());
-    if (const std::string_view key = TrimEx(line.substr(1, colon - 1));
+    if (const std::string_view key = trimBlanks(line.substr(1, colon - 1));
         colon < line.size() && dialect.vocabulary.isKey(key)) {
         SyntaxGuess guess;
         guess.meant.line.type = LineType::Leaf;
         guess.meant.line.key = key;
         const std::size_t end = std::min(line.find(')', colon), line.size());
-        guess.meant.line.value = TrimEx(line.substr(colon + 1, end - colon - 1));
+        guess.meant.line.value = trimBlanks(line.substr(colon + 1, end - colon - 1));
         guess.hint =
             "did you mean (" + std::string(key) + "=" + std::string(guess.meant.line.value) + ")?";
         return guess;
@@ -202,7 +202,7 @@ SyntaxGuess guessLine(std::string_view line, const Dialect& dialect) {
     const std::size_t equals = line.find('=');
     const std::size_t comment = line.find(dialect.marks.comment);
     if (equals != nowhere && (line.front() == '(' || equals < comment)) {
-        const std::string_view key = TrimEx(
+        const std::string_view key = trimBlanks(
             line.substr(line.front() == '(' ? 1 : 0, equals - (line.front() == '(' ? 1U : 0U)));
         if (line.front() == '(' || dialect.vocabulary.isKey(key)) {
             return guessLeaf(line, equals, dialect);

@@ -125,7 +125,7 @@ std::string ruleTitle(const DiagnosticRule& rule) {
     std::string title = withReplacements(rule.message, [](std::size_t) { return "\xE2\x80\xA6"; });
     std::erase(title, '\r');
     std::replace(title.begin(), title.end(), '\n', ' ');
-    return std::string(TrimEx(title));
+    return std::string(trimBlanks(title));
 }
 
 std::string_view severityName(Severity severity) {

@@ -7,11 +7,14 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/diagnostics/engine/nearestWord.h"
+#include "quorvane/diagnostics/engine/withoutIgnored.h"
 #include "quorvane/driver/DescriptionLine.h"
 #include "quorvane/stylesheet/stylesheetSyntax.h"
 

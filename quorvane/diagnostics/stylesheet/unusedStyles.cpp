@@ -8,6 +8,7 @@
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
 #include "quorvane/diagnostics/engine/SourceText.h"
 #include "quorvane/diagnostics/stylesheet/StyleSheetCheck.h"
+#include "quorvane/stylesheet/StyleList.h"
 
 namespace quorvane {
 
@@ -18,7 +19,7 @@ public:
     UnusedStyles(const KnownStyles& styles, const StyleSheetOutline& outline)
         : styles_(styles),
           // Paragraph styles that only keep the numbers of the character styles free need no user.
-          reserved_(std::max(1, static_cast<int>(styles.styles(StyleKind::Character).count()))) {
+          reserved_(std::max(1, static_cast<int>(stylesOf(styles, StyleKind::Character).count()))) {
         for (const OutlinedDefinition& definition : outline.definitions) {
             for (const StyleItem& item : definition.items) {
                 if (item.is(basedOnKeyword) || item.is(nextKeyword)) {
