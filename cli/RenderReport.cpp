@@ -8,7 +8,7 @@
 #include "quorvane/diagnostics/description/DescriptionCheck.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
-#include "quorvane/diagnostics/engine/ignoreComments.h"
+#include "quorvane/diagnostics/engine/withoutIgnored.h"
 #include "quorvane/diagnostics/fileNameCheck.h"
 #include "quorvane/diagnostics/languageOf.h"
 #include "quorvane/diagnostics/stylesheet/StyleSheetCheck.h"

@@ -16,6 +16,7 @@
 #include "cli/diagnosticText.h"
 #include "cli/errorJson.h"
 #include "cli/errorText.h"
+#include "cli/escapeCommand.h"
 #include "cli/fileFailure.h"
 #include "cli/oneLine.h"
 #include "cli/process.h"
@@ -102,6 +103,9 @@ ExitStatus run(const std::vector<std::string>& arguments, ErrorForm form) {
     }
     if (const auto* options = std::get_if<FormatOptions>(&request)) {
         return format(*options);
+    }
+    if (const auto* options = std::get_if<EscapeOptions>(&request)) {
+        return escape(*options);
     }
     return render(std::get<RenderOptions>(request));
 }

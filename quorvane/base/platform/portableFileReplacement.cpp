@@ -9,16 +9,12 @@
 #include "quorvane/base/platform/fileReplacement.h"
 #include "quorvane/base/platform/followLinks.h"
 #include "quorvane/base/platform/portableDescriptorFile.h"
+#include "quorvane/base/platform/portablePath.h"
 #include "quorvane/base/platform/portableSystemError.h"
 
 namespace quorvane {
 
 namespace {
-
-std::string folderOf(const std::string& path) {
-    const std::size_t slash = path.rfind('/');
-    return slash == std::string::npos ? "./" : path.substr(0, slash + 1);
-}
 
 /// A new file beside another.
 class UnfinishedFile {
@@ -91,18 +87,6 @@ private:
     UnfinishedFile unfinished_;
 };
 
-/// What a path leads to, past all links; nothing when nothing is there.
-std::optional<struct stat> statusOf(const std::string& path) {
-    struct stat status {};
-    if (::stat(path.c_str(), &status) == 0) {
-        return status;
-    }
-    if (errno != ENOENT) {
-        raiseSystemError(errno);
-    }
-    return std::nullopt;
-}
-
 }  // namespace
 
 std::unique_ptr<OutputFile> openReplacement(const std::string& path, UnfinishedFileWatch& watch) {
@@ -111,6 +95,9 @@ std::unique_ptr<OutputFile> openReplacement(const std::string& path, UnfinishedF
         return std::make_unique<ReplacementFile>(path, std::nullopt, watch);
     }
     const std::optional<struct stat> status = statusOf(path);
+    if (!status && errno != ENOENT) {
+        raiseSystemError(errno);
+    }
     if (!status) {
         return std::make_unique<ReplacementFile>(followLinks(path).native(), std::nullopt, watch);
     }
