@@ -43,8 +43,7 @@ public:
         : options_(options), receivers_(receivers) {}
 
     /// A report on other receivers that has taken the same stylesheet.
-    RenderReport(const RenderReport& other, const RenderReceivers& receivers)
-        : options_(other.options_), receivers_(receivers), styleSheet_(other.styleSheet_) {}
+    RenderReport(const RenderReport& other, const RenderReceivers& receivers);
 
     /// A file that cannot be read or written, or a document that cannot be made.
     void fail(const ReportedError& failure) { receivers_.report(failure); }
