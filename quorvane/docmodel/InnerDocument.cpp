@@ -4,6 +4,8 @@
 #include <optional>
 #include <utility>
 
+#include "quorvane/base/text/StringOutput.h"
+#include "quorvane/docmodel/TableRendering.h"
 #include "quorvane/docmodel/measures.h"
 #include "quorvane/support/GFileSystem.h"
 
@@ -66,16 +68,25 @@ void InnerDocument::render() {
         rtf = std::move(contents_);
         contents_ = "{}";
     }
-    rtf.assign(1, '{');
-    header_.render(rtf);
-    fontTable_.render(rtf);
-    colorTable_.render(rtf);
-    styleSheet_->render(rtf);
-    format_->render(rtf);
-    body_.render(rtf);
-    rtf += '}';
+    rtf.clear();
+    StringOutput out(rtf);
+    TableRendering rendering(*this, out);
+    render(rendering);
     contents_ = std::move(rtf);
     changed_ = false;
+}
+
+void InnerDocument::render(TableRendering& rendering) {
+    TextOutput& out = rendering.out;
+    out << "{";
+    header_.render(out);
+    fontTable_.render(out);
+    colorTable_.render(out);
+    styleSheet_->render(out);
+    format_->render(out);
+    body_.render(rendering);
+    out << "}";
+    out.flush();
 }
 
 // The fixed groups hold nothing that could change, and the stylesheet stays: only page and table

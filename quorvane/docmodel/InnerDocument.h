@@ -47,6 +47,7 @@ private:
     ~InnerDocument() override = default;
 
     void render();
+    void render(TableRendering& rendering);
     void releaseContents() noexcept override;
 
     Files& files_;

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "quorvane/docmodel/inlineStyles.h"
 #include "quorvane/rtfgroups/GTextMarkedFields.h"
 
 namespace quorvane {
@@ -115,7 +114,7 @@ void InnerParagraph::render(TableRendering& rendering, std::size_t position) con
         if (text.find('<') == std::string_view::npos) {
             out << text;
         } else {
-            out << withCharacterStyles(rendering.document, text);
+            out << rendering.inlineStyles.replace(text);
         }
     }
     if (markedField_) {

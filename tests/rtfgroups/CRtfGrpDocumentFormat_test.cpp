@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/appendRendered.h"
+
 namespace quorvane {
 namespace {
 
@@ -16,7 +18,7 @@ class DocumentFormat : public testing::Test {
 protected:
     std::string rendered() const {
         std::string rtf;
-        format.render(rtf);
+        appendRendered(format, rtf);
         return rtf;
     }
 
