@@ -19,8 +19,10 @@ void CRtfParagraph::setText(std::string_view text) {
     published([&] {
         if (!text.empty()) {
             InnerParagraph& self = inner(*this);
+            TableDocument* document = self.document();
+            beforeChange(document);
             self.text_.assign(text, self.pool());
-            markChanged(self.document());
+            markChanged(document);
         }
     });
 }
@@ -33,6 +35,7 @@ void CRtfParagraph::setStyle(std::string_view sName) {
     published([&] {
         InnerParagraph& self = inner(*this);
         TableDocument* document = self.document();
+        beforeChange(document);
         self.style_ = document ? document->sharedName(sName) : SharedText(sName);
         markChanged(document);
     });
@@ -45,8 +48,10 @@ tColorIndex CRtfParagraph::ForeColor() const {
 void CRtfParagraph::setForeColor(tColorIndex color) {
     published([&] {
         InnerParagraph& self = inner(*this);
+        TableDocument* document = self.document();
+        beforeChange(document);
         self.foreColor_ = color;
-        markChanged(self.document());
+        markChanged(document);
     });
 }
 
@@ -55,11 +60,13 @@ tCellAlign CRtfParagraph::Align() const {
 }
 
 void CRtfParagraph::setAlign(tCellAlign align) {
+    beforeChange(inner(*this).document());
     inner(*this).align_ = align;
 }
 
 void CRtfParagraph::asMarkedField(const Value& vFieldData) {
     published([&] {
+        beforeChange(inner(*this).document());
         std::unique_ptr<std::string>& field = inner(*this).markedField_;
         if (!field) {
             field = std::make_unique<std::string>();

@@ -68,7 +68,14 @@ tColorIndex CRtfTableCell::BackColor() const {
 }
 
 void CRtfTableCell::setBackColor(tColorIndex color) {
-    published([&] { inner(*this).applyBackColor(inner(*this).document(), color); });
+    published([&] {
+        InnerCell& self = inner(*this);
+        TableDocument* document = self.document();
+        if (self.backColor_ != color) {
+            beforeChange(document);
+        }
+        self.applyBackColor(document, color);
+    });
 }
 
 std::int32_t CRtfTableCell::Width(tWidthUnit Units) const {
@@ -88,6 +95,7 @@ tCellAlign CRtfTableCell::Align() const {
 }
 
 void CRtfTableCell::setAlign(tCellAlign align) {
+    beforeChange(inner(*this).document());
     inner(*this).align_ = align;
 }
 
@@ -98,6 +106,7 @@ std::string CRtfTableCell::Style() const {
 void CRtfTableCell::setStyle(std::string_view sName) {
     published([&] {
         TableDocument* document = inner(*this).document();
+        beforeChange(document);
         inner(*this).style_ = document ? document->sharedName(sName) : SharedText(sName);
         markChanged(document);
     });
@@ -105,6 +114,7 @@ void CRtfTableCell::setStyle(std::string_view sName) {
 
 void CRtfTableCell::asMarkedField(const Value& vFieldData) {
     published([&] {
+        beforeChange(inner(*this).document());
         try {
             inner(*this).markedField_ =
                 std::make_unique<std::string>(GTextMarkedFields::fieldData(vFieldData));

@@ -31,7 +31,7 @@ std::int32_t percentOf(const TableDocument& document, std::int32_t twips) {
 }  // namespace
 
 void InnerCells::spreadEvenly() {
-    TableDocument& owner = required(document());
+    TableDocument& owner = changing(document());
     spread(evenWidth(owner, list_.count()));
     owner.markChanged();
 }
@@ -140,6 +140,7 @@ void InnerCells::setWidthOf(const InnerCell& cell, tWidthUnit units, std::int32_
     } else if (edge < lower) {
         edge = lower;
     }
+    owner.beforeChange();
     setRightEdge(changed, edge);
     owner.markChanged();
 }

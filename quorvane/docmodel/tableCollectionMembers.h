@@ -17,7 +17,7 @@ namespace quorvane {
 
 template <class Inner>
 void insertInto(Inner& collection, const Value& key, const Value& before, const Value& after) {
-    TableDocument& document = required(collection.document());
+    TableDocument& document = changing(collection.document());
     collection.insertNew(collection.list().placeFor(key, before, after), document);
     document.markChanged();
 }
@@ -25,7 +25,7 @@ void insertInto(Inner& collection, const Value& key, const Value& before, const 
 /// Removes the element at an end of the list, if there is one.
 template <class Inner>
 void removeEnd(Inner& collection, std::size_t position) {
-    TableDocument& document = required(collection.document());
+    TableDocument& document = changing(collection.document());
     if (collection.list().count() > 0) {
         collection.removeAt(position);
     }
@@ -47,7 +47,7 @@ template <class Collection, class Element>
 void TableCollection<Collection, Element>::Remove(const Value& Index) {
     published([&] {
         auto& collection = inner(static_cast<Collection&>(*this));
-        TableDocument& document = required(collection.document());
+        TableDocument& document = changing(collection.document());
         collection.removeAt(collection.list().positionOfIndex(Index));
         document.markChanged();
     });

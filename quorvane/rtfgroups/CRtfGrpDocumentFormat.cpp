@@ -34,11 +34,13 @@ void CRtfGrpDocumentFormat::setPageNumberStart(std::int32_t number) {
 }
 
 void CRtfGrpDocumentFormat::setPaperWidth(std::int32_t twips) {
+    owner_.beforeChange();
     paperWidth_ = twips;
     owner_.markChanged();
 }
 
 void CRtfGrpDocumentFormat::setPaperHeight(std::int32_t twips) {
+    owner_.beforeChange();
     paperHeight_ = twips;
     owner_.markChanged();
 }
@@ -52,6 +54,7 @@ void CRtfGrpDocumentFormat::render(TextOutput& rtf) const {
 
 void CRtfGrpDocumentFormat::change(std::int32_t& setting, std::int32_t value) {
     if (setting != value) {
+        owner_.beforeChange();
         setting = value;
         owner_.markChanged();
     }

@@ -63,6 +63,7 @@ void appendEntries(const StyleList& styles, Entry entry, std::string& rtf) {
 }  // namespace
 
 void CRtfGrpStyleSheetTable::setStyleSheetFile(std::string sName) {
+    owner_.beforeChange();
     clear();
     if (GFileSystem::fileExists(files_, sName)) {
         load(GFileSystem::loadStringFromFile(files_, sName));
@@ -71,6 +72,7 @@ void CRtfGrpStyleSheetTable::setStyleSheetFile(std::string sName) {
 }
 
 void CRtfGrpStyleSheetTable::loadStyleSheetFromMemory(std::string_view text) {
+    owner_.beforeChange();
     clear();
     load(text);
 }

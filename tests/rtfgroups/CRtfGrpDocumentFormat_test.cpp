@@ -11,6 +11,7 @@ namespace {
 class Owner final : public GroupOwner {
 public:
     int changes = 0;
+    void beforeChange() override {}
     void markChanged() noexcept override { ++changes; }
 };
 

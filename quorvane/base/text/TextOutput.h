@@ -78,6 +78,8 @@ protected:
     /// between two pieces.
     virtual void take(std::string_view text) = 0;
 
+    void discardBuffered() noexcept { next_ = start_; }
+
     /// What was gathered and not taken yet.
     std::string_view buffered() const noexcept {
         return {start_, static_cast<std::size_t>(next_ - start_)};
