@@ -21,7 +21,7 @@ void CRtfParagraph::setText(std::string_view text) {
             InnerParagraph& self = inner(*this);
             TableDocument* document = self.document();
             beforeChange(document);
-            self.text_.assign(text, self.pool());
+            self.text_.assign(text, memoryOf(*self.cell_).pool);
             markChanged(document);
         }
     });
@@ -66,15 +66,16 @@ void CRtfParagraph::setAlign(tCellAlign align) {
 
 void CRtfParagraph::asMarkedField(const Value& vFieldData) {
     published([&] {
-        beforeChange(inner(*this).document());
-        std::unique_ptr<std::string>& field = inner(*this).markedField_;
-        if (!field) {
-            field = std::make_unique<std::string>();
-        }
+        InnerParagraph& self = inner(*this);
+        beforeChange(self.document());
         try {
-            *field = GTextMarkedFields::fieldData(vFieldData);
+            self.mark(GTextMarkedFields::fieldData(vFieldData));
         } catch (const RtfError&) {
-            // Refused are data of another type only: the paragraph keeps what it had.
+            // Data of a type that is refused marks a paragraph all the same; one that was marked
+            // keeps what it had.
+            if (!self.isMarked_) {
+                self.mark({});
+            }
         }
     });
 }

@@ -64,14 +64,14 @@ void CRtfTableCell::setRightBorder(tBorderWidth width) {
 }
 
 tColorIndex CRtfTableCell::BackColor() const {
-    return static_cast<tColorIndex>(inner(*this).backColor_);
+    return static_cast<tColorIndex>(inner(*this).backColor());
 }
 
 void CRtfTableCell::setBackColor(tColorIndex color) {
     published([&] {
         InnerCell& self = inner(*this);
         TableDocument* document = self.document();
-        if (self.backColor_ != color) {
+        if (self.backColor() != color) {
             beforeChange(document);
         }
         self.applyBackColor(document, color);
@@ -87,16 +87,18 @@ void CRtfTableCell::setWidth(tWidthUnit Units, std::int32_t width) {
 }
 
 Ref<CRtfParagraphs> CRtfTableCell::Paragraphs() {
-    return Ref<CRtfParagraphs>(&inner(*this).paragraphs_);
+    return Ref<CRtfParagraphs>(&inner(*this).paragraphs());
 }
 
 tCellAlign CRtfTableCell::Align() const {
-    return static_cast<tCellAlign>(inner(*this).align_);
+    return static_cast<tCellAlign>(inner(*this).align());
 }
 
 void CRtfTableCell::setAlign(tCellAlign align) {
-    beforeChange(inner(*this).document());
-    inner(*this).align_ = align;
+    published([&] {
+        beforeChange(inner(*this).document());
+        inner(*this).setAlign(align);
+    });
 }
 
 std::string CRtfTableCell::Style() const {
@@ -116,8 +118,7 @@ void CRtfTableCell::asMarkedField(const Value& vFieldData) {
     published([&] {
         beforeChange(inner(*this).document());
         try {
-            inner(*this).markedField_ =
-                std::make_unique<std::string>(GTextMarkedFields::fieldData(vFieldData));
+            inner(*this).mark(GTextMarkedFields::fieldData(vFieldData));
         } catch (const RtfError& error) {
             if (TableDocument* document = inner(*this).document()) {
                 document->errors().handleError(error, "CRtfTableCell.cls", "asMarkedField");

@@ -161,6 +161,10 @@ std::optional<RtfError> InnerDocument::stream(const std::string& path) {
     return GFileSystem::errorOfSaving(files_, errors_, path, contents_, false);
 }
 
+bool InnerDocument::holdsShortText() const noexcept {
+    return textState_ == TextState::Kept && contents_.size() <= StreamedText::longestWholeText;
+}
+
 void InnerDocument::keepText() {
     refuseWhileWriting();
     std::string rtf;

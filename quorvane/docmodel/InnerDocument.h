@@ -31,6 +31,8 @@ public:
     const std::string& contents();
     void refresh();
     void clearStructure();
+    // True when the document has a short text, and has it in memory.
+    bool holdsShortText() const noexcept;
 
     CRtfDoc* document() noexcept override { return this; }
     void markChanged() noexcept override { changed_ = true; }

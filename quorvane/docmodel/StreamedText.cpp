@@ -3,8 +3,8 @@
 namespace quorvane {
 
 StreamedText::StreamedText(Files& files, const std::string& path)
-    : saving_(files, path), buffer_(std::make_unique_for_overwrite<char[]>(bufferSize)) {
-    setBuffer(buffer_.get(), bufferSize);
+    : saving_(files, path), buffer_(std::make_unique_for_overwrite<char[]>(longestWholeText)) {
+    setBuffer(buffer_.get(), longestWholeText);
 }
 
 void StreamedText::begin() noexcept {

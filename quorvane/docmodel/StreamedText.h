@@ -20,6 +20,8 @@ namespace quorvane {
 /// rendering writes nothing then, and a second one is needed.
 class StreamedText final : public TextOutput {
 public:
+    static constexpr std::size_t longestWholeText = std::size_t{64} * 1024;
+
     /// The files and the path must outlive it.
     StreamedText(Files& files, const std::string& path);
 
@@ -41,8 +43,6 @@ private:
     enum class Stage { Gathering, Waiting, Writing };
 
     void take(std::string_view text) override;
-
-    static constexpr std::size_t bufferSize = std::size_t{64} * 1024;
 
     TextSaving saving_;
     Stage stage_ = Stage::Gathering;

@@ -5,8 +5,8 @@
 #include <string_view>
 
 #include "quorvane/base/memory/Counted.h"
-#include "quorvane/base/memory/MemoryPool.h"
 #include "quorvane/base/memory/SharedText.h"
+#include "quorvane/docmodel/DocumentMemory.h"
 #include "quorvane/docmodel/references.h"
 #include "quorvane/rtfgroups/GroupOwner.h"
 #include "quorvane/support/GError.h"
@@ -40,9 +40,7 @@ public:
             keepText();
         }
     }
-    /// Returns the memory pool for rows, cells, paragraphs and their texts. It exists as long as
-    /// one of them does: each refers weakly to its owner, so the memory of the document stays.
-    MemoryPool& pool() noexcept { return pool_; }
+    DocumentMemory& memory() noexcept { return memory_; }
 
 protected:
     enum class TextState : std::uint8_t {
@@ -71,7 +69,7 @@ private:
     virtual void releaseContents() noexcept = 0;
 
     CountedOwner counts_;
-    MemoryPool pool_;
+    DocumentMemory memory_;
 };
 
 void retainDocument(TableDocument& document) noexcept;

@@ -7,7 +7,7 @@
 #include "quorvane/base/text/TextOutput.h"
 #include "quorvane/docmodel/Borders.h"
 #include "quorvane/docmodel/TableDocument.h"
-#include "quorvane/docmodel/inlineStyles.h"
+#include "quorvane/docmodel/inline/inlineStyles.h"
 
 namespace quorvane {
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "quorvane/docmodel/inlineStyles.h"
+#include "quorvane/docmodel/inline/inlineStyles.h"
 
 namespace quorvane {
 

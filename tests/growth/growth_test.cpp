@@ -11,9 +11,9 @@
 #include <string_view>
 
 #include "quorvane/base/text/wildcards.h"
+#include "quorvane/diagnostics/KnownStyles.h"
 #include "quorvane/diagnostics/description/DescriptionCheck.h"
 #include "quorvane/diagnostics/rtf/RtfCheck.h"
-#include "quorvane/diagnostics/stylesheet/KnownStyles.h"
 #include "quorvane/diagnostics/stylesheet/StyleSheetCheck.h"
 #include "quorvane/docmodel/CRtfDoc.h"
 #include "quorvane/docmodel/InnerDocument.h"
