@@ -11,13 +11,13 @@
 #include "cli/fileFailure.h"
 #include "cli/styleSheetName.h"
 #include "cli/utf8Path.h"
+#include "quorvane/docmodel/InnerDocument.h"
 
 namespace quorvane::cli {
 
 namespace {
 
 constexpr std::int32_t outOfMemory = 7;
-constexpr std::size_t largestKeptDocument = std::size_t{1024} * 1024;
 
 }  // namespace
 
@@ -102,9 +102,10 @@ ExitStatus RenderJob::render(const Assignment& assignment) {
     try {
         const ExitStatus status =
             DescriptionRendering(assignment, manner_, platform_, driver_, report_).run();
-        // The next document uses the memory of a small one again; that of a large one is
-        // released. After an error the next description gets a new driver.
-        if (status != ExitStatus::Success || driver_->Contents().size() > largestKeptDocument) {
+        // The next document uses the memory of a short one again. The text of a long one was not
+        // kept and would have to be rendered once more. After an error the next description gets a
+        // new driver.
+        if (status != ExitStatus::Success || !inner(*driver_->RtfObject()).holdsShortText()) {
             driver_ = nullptr;
         }
         return status;
