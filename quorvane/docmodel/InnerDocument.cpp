@@ -150,15 +150,18 @@ std::optional<RtfError> InnerDocument::stream(const std::string& path) {
         contents_ = text.text();
         textState_ = TextState::Kept;
         changed_ = false;
-    } else if (text.waits()) {
+        return GFileSystem::errorOfSaving(files_, errors_, path, contents_, false);
+    }
+    if (text.waits()) {
         render();
+        text.begin();
+        text << contents_;
     } else {
         std::string().swap(contents_);
         textState_ = TextState::Written;
         changed_ = false;
-        return text.end(errors_);
     }
-    return GFileSystem::errorOfSaving(files_, errors_, path, contents_, false);
+    return text.end(errors_);
 }
 
 bool InnerDocument::holdsShortText() const noexcept {

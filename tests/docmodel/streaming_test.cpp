@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <functional>
 #include <memory>
 #include <random>
@@ -425,6 +426,189 @@ TEST_F(Streaming, TakesAFailureOfTheFilesAsAKeptTextDoes) {
                               failing.keeping.document->Contents());
                 }
             }
+        }
+    }
+}
+
+/// Files that use the document while it is written to them.
+class IntrudingFiles : public FakePlatform {
+public:
+    std::unique_ptr<OutputFile> createFile(const std::string& path) override {
+        outcome += std::to_string(errorNumberOf([this] { document->TableRows()->AddTail(); }));
+        outcome += std::to_string(errorNumberOf([this] { document->Contents(); }));
+        outcome += std::to_string(errorNumberOf([this] { document->Refresh(); }));
+        outcome += std::to_string(errorNumberOf([this] { document->Commit("b.rtf"); }));
+        outcome += std::to_string(document->TableRows()->Count());
+        return FakePlatform::createFile(path);
+    }
+
+    CRtfDoc* document = nullptr;
+    std::string outcome;
+};
+
+TEST(StreamedText, CannotBeChangedWhileItIsWritten) {
+    IntrudingFiles platform;
+    const Ref<CRtfDoc> document = CRtfDoc::create(platform);
+    platform.document = document.get();
+    document->TableRows()->AddTail();
+    document->TableRows()->PeekTail()->TableCells()->AddTail();
+    const Ref<CRtfParagraphs> paragraphs =
+        document->TableRows()->PeekTail()->TableCells()->PeekTail()->Paragraphs();
+    paragraphs->AddTail();
+    paragraphs->PeekTail()->setText(longText());
+
+    document->Commit("a.rtf");
+
+    EXPECT_EQ(platform.outcome, "55551");
+    EXPECT_EQ(platform.files.at("a.rtf"), document->Contents());
+    document->TableRows()->AddTail();
+    EXPECT_EQ(document->TableRows()->Count(), 2);
+}
+
+/// Random calls, the same on both of two documents.
+class RandomCalls {
+public:
+    explicit RandomCalls(unsigned seed) : random_(seed) {}
+
+    void run() {
+        twins_.both([](Subject& subject) { subject.fill(); });
+        for (int i = 0; i < 40; ++i) {
+            call();
+            ASSERT_EQ(observed(twins_.streaming), observed(twins_.keeping)) << "call " << i;
+            ASSERT_EQ(twins_.streaming.platform.files, twins_.keeping.platform.files);
+        }
+        // What is seen at the end, with the text as it was and with a new one.
+        ASSERT_EQ(twins_.streaming.document->Contents(), twins_.keeping.document->Contents());
+        twins_.both([](Subject& subject) { subject.document->setChanged(true); });
+        ASSERT_EQ(twins_.streaming.document->Contents(), twins_.keeping.document->Contents());
+    }
+
+private:
+    unsigned below(unsigned count) { return static_cast<unsigned>(random_() % count); }
+
+    /// Makes a call on both, and notes the error that it raises.
+    void both(const Change& change) {
+        twins_.both([&](Subject& subject) {
+            std::string raised;
+            try {
+                change(subject);
+            } catch (const RtfError& error) {
+                raised = std::to_string(error.number) + error.source + error.description;
+            }
+            (&subject == &twins_.streaming ? raisedStreaming_ : raisedKeeping_) += raised + ";";
+        });
+        EXPECT_EQ(raisedStreaming_, raisedKeeping_);
+    }
+
+    void call() {
+        switch (below(8)) {
+            case 0:
+            case 1:
+            case 2:
+                return commit();
+            case 3:
+            case 4:
+                return change();
+            case 5: {
+                const bool changed = below(2) != 0;
+                return both([=](Subject& s) { s.document->setChanged(changed); });
+            }
+            case 6:
+                return fill();
+            default:
+                // Asked for rarely: from then on both keep their text.
+                if (below(10) == 0) {
+                    both([](Subject& s) { texts(s) += s.document->Contents(); });
+                } else if (below(10) == 0) {
+                    both([](Subject& s) { s.document->Refresh(); });
+                }
+        }
+    }
+
+    void commit() {
+        static constexpr std::array<const char*, 5> operations{"fileExists", "deleteFile",
+                                                               "createFile", "write", "close"};
+        static constexpr std::array<RunTimeError, 3> errors{
+            RunTimeError::PathFileAccessError, RunTimeError::DeviceIoError, RunTimeError::DiskFull};
+        const std::string path = below(2) != 0 ? "a.rtf" : "b.rtf";
+        const char* operation = operations[below(operations.size())];
+        const RunTimeError error = errors[below(errors.size())];
+        const bool fails = below(3) == 0;
+        both([&](Subject& subject) {
+            if (fails) {
+                subject.platform.fail(operation, error);
+            }
+            subject.document->Commit(path);
+        });
+        twins_.both([&](Subject& subject) { subject.platform.repair(operation); });
+    }
+
+    void change() {
+        const NamedChange& named = changes()[below(static_cast<unsigned>(changes().size()))];
+        both(named.change);
+    }
+
+    /// Brings back what removals took away.
+    void fill() {
+        const bool isLong = below(2) != 0;
+        both([isLong](Subject& subject) {
+            while (subject.document->TableRows()->Count() < 2) {
+                subject.document->TableRows()->AddTail();
+            }
+            for (int row = 1; row <= 2; ++row) {
+                while (subject.cells(row)->Count() < 3) {
+                    subject.cells(row)->AddTail();
+                }
+                for (int cell = 1; cell <= 3; ++cell) {
+                    const Ref<CRtfParagraphs> paragraphs = subject.cell(row, cell)->Paragraphs();
+                    while (paragraphs->Count() < 1) {
+                        paragraphs->AddTail();
+                    }
+                }
+            }
+            if (isLong) {
+                subject.paragraph(2, 3)->setText(longText());
+            } else {
+                subject.paragraph(2, 2)->setText("<a=<bold=y> <bold=x>\xC3\xA9");
+            }
+        });
+    }
+
+    static std::string& texts(Subject& subject) { return subject.errors; }
+
+    static std::string observed(const Subject& subject) {
+        const CRtfDoc& document = *subject.document;
+        std::string all = subject.operations() + subject.errors;
+        all += document.Changed() ? "changed " : "unchanged ";
+        all += std::to_string(document.PageWidth()) + document.StyleSheetFile();
+        const Ref<CRtfTableRows> rows = document.TableRows();
+        for (int row = 1; row <= rows->Count(); ++row) {
+            const Ref<CRtfTableCells> cells = rows->Item(row)->TableCells();
+            for (int cell = 1; cell <= cells->Count(); ++cell) {
+                all += std::to_string(cells->Item(cell)->BackColor()) + " " +
+                       std::to_string(cells->Item(cell)->Width(eTwips)) + " ";
+                const Ref<CRtfParagraphs> paragraphs = cells->Item(cell)->Paragraphs();
+                for (int paragraph = 1; paragraph <= paragraphs->Count(); ++paragraph) {
+                    all += std::to_string(paragraphs->Item(paragraph)->Align()) + " " +
+                           std::to_string(paragraphs->Item(paragraph)->ForeColor()) + ",";
+                }
+            }
+        }
+        return all;
+    }
+
+    std::mt19937 random_;
+    Twins twins_;
+    std::string raisedStreaming_;
+    std::string raisedKeeping_;
+};
+
+TEST(StreamedText, IsNotSeenToBeOneWhateverIsCalled) {
+    for (unsigned seed = 1; seed <= 200; ++seed) {
+        SCOPED_TRACE("seed " + std::to_string(seed));
+        ASSERT_NO_FATAL_FAILURE(RandomCalls(seed).run());
+        if (HasFailure()) {
+            return;
         }
     }
 }
