@@ -83,7 +83,7 @@ public:
             name_ = name;
             const std::string_view words = document_.GetCharacterStyle(name);
             words_.all = words;
-            words_.trimmed = TrimEx(words);
+            words_.trimmed = trimBlanks(words);
             words_.areAscii = asciiRunEnd(words, 0) == words.size();
             words_.holdOpening = words.find('<') != nowhere;
             words_.holdBracket = std::any_of(words.begin(), words.end(), isBracket);
