@@ -14,10 +14,10 @@
 #include "cli/ExitStatus.h"
 #include "cli/ReportedError.h"
 #include "quorvane/base/platform/Platform.h"
+#include "quorvane/diagnostics/KnownStyles.h"
 #include "quorvane/diagnostics/engine/Diagnostic.h"
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
 #include "quorvane/diagnostics/engine/fixText.h"
-#include "quorvane/diagnostics/stylesheet/KnownStyles.h"
 
 namespace quorvane::cli {
 

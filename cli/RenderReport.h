@@ -11,8 +11,8 @@
 #include "cli/DiagnosticExcerpt.h"
 #include "cli/RenderOptions.h"
 #include "cli/ReportedError.h"
+#include "quorvane/diagnostics/KnownStyles.h"
 #include "quorvane/diagnostics/engine/Diagnostic.h"
-#include "quorvane/diagnostics/stylesheet/KnownStyles.h"
 
 namespace quorvane::cli {
 

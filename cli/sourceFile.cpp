@@ -33,15 +33,15 @@ std::string beginningOf(const std::string& path) {
         throwUnlessAbsent(lastFailure());
         return {};
     }
-    std::string bytes(enough, '\0');
-    file.read(bytes.data(), static_cast<std::streamsize>(rtfSignature.size()));
-    if (file.gcount() == static_cast<std::streamsize>(rtfSignature.size()) &&
-        !bytes.starts_with(rtfSignature)) {
-        file.read(bytes.data() + rtfSignature.size(),
-                  static_cast<std::streamsize>(enough - rtfSignature.size()));
-        bytes.resize(rtfSignature.size() + static_cast<std::size_t>(file.gcount()));
-    } else {
-        bytes.resize(static_cast<std::size_t>(file.gcount()));
+    std::string bytes;
+    const auto read = [&](std::size_t start, std::size_t length) {
+        bytes.resize(start + length);
+        file.read(bytes.data() + start, static_cast<std::streamsize>(length));
+        bytes.resize(start + static_cast<std::size_t>(file.gcount()));
+    };
+    read(0, rtfSignature.size());
+    if (bytes.size() == rtfSignature.size() && bytes != rtfSignature) {
+        read(rtfSignature.size(), enough - rtfSignature.size());
     }
     if (file.bad()) {
         RtfError error(RunTimeError::DeviceIoError);

@@ -7,10 +7,10 @@
 
 #include "quorvane/base/text/codePage1252.h"
 #include "quorvane/base/text/trimming.h"
+#include "quorvane/diagnostics/KnownStyles.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
 #include "quorvane/diagnostics/fileEncoding.h"
 #include "quorvane/diagnostics/languageOf.h"
-#include "quorvane/diagnostics/stylesheet/KnownStyles.h"
 
 namespace quorvane {
 

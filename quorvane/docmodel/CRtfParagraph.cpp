@@ -19,7 +19,7 @@ void CRtfParagraph::setText(std::string_view text) {
     published([&] {
         if (!text.empty()) {
             InnerParagraph& self = inner(*this);
-            self.text_.assign(text, self.pool());
+            self.text_.assign(text, memoryOf(*self.cell_).pool);
             markChanged(self.document());
         }
     });
@@ -60,14 +60,15 @@ void CRtfParagraph::setAlign(tCellAlign align) {
 
 void CRtfParagraph::asMarkedField(const Value& vFieldData) {
     published([&] {
-        std::unique_ptr<std::string>& field = inner(*this).markedField_;
-        if (!field) {
-            field = std::make_unique<std::string>();
-        }
+        InnerParagraph& self = inner(*this);
         try {
-            *field = GTextMarkedFields::fieldData(vFieldData);
+            self.mark(GTextMarkedFields::fieldData(vFieldData));
         } catch (const RtfError&) {
-            // Refused are data of another type only: the paragraph keeps what it had.
+            // Data of a type that is refused marks a paragraph all the same; one that was marked
+            // keeps what it had.
+            if (!self.isMarked_) {
+                self.mark({});
+            }
         }
     });
 }

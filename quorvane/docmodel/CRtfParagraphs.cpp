@@ -28,7 +28,7 @@ Ref<CRtfParagraph> CRtfParagraphs::refile(const Ref<CRtfParagraph>& old, std::st
         InnerParagraph& former = inner(*old);
         TableDocument& owner = required(self.document());
         const std::size_t position = self.list_.requiredPositionOf(former);
-        const Ref<InnerParagraph> fresh = InnerParagraph::create(self.cell_);
+        const Ref<InnerParagraph> fresh = InnerParagraph::create(self.cell());
         fresh->takeOver(former);
         self.list_.replaceAt(position, fresh, key);
         former.leaveList();

@@ -64,7 +64,7 @@ void CRtfTableCell::setRightBorder(tBorderWidth width) {
 }
 
 tColorIndex CRtfTableCell::BackColor() const {
-    return static_cast<tColorIndex>(inner(*this).backColor_);
+    return static_cast<tColorIndex>(inner(*this).backColor());
 }
 
 void CRtfTableCell::setBackColor(tColorIndex color) {
@@ -80,15 +80,15 @@ void CRtfTableCell::setWidth(tWidthUnit Units, std::int32_t width) {
 }
 
 Ref<CRtfParagraphs> CRtfTableCell::Paragraphs() {
-    return Ref<CRtfParagraphs>(&inner(*this).paragraphs_);
+    return Ref<CRtfParagraphs>(&inner(*this).paragraphs());
 }
 
 tCellAlign CRtfTableCell::Align() const {
-    return static_cast<tCellAlign>(inner(*this).align_);
+    return static_cast<tCellAlign>(inner(*this).align());
 }
 
 void CRtfTableCell::setAlign(tCellAlign align) {
-    inner(*this).align_ = align;
+    published([&] { inner(*this).setAlign(align); });
 }
 
 std::string CRtfTableCell::Style() const {
@@ -106,8 +106,7 @@ void CRtfTableCell::setStyle(std::string_view sName) {
 void CRtfTableCell::asMarkedField(const Value& vFieldData) {
     published([&] {
         try {
-            inner(*this).markedField_ =
-                std::make_unique<std::string>(GTextMarkedFields::fieldData(vFieldData));
+            inner(*this).mark(GTextMarkedFields::fieldData(vFieldData));
         } catch (const RtfError& error) {
             if (TableDocument* document = inner(*this).document()) {
                 document->errors().handleError(error, "CRtfTableCell.cls", "asMarkedField");

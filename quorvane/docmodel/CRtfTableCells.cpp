@@ -33,7 +33,8 @@ Ref<CRtfTableCell> CRtfTableCells::refile(const Ref<CRtfTableCell>& old, std::st
         InnerCells& self = inner(*this);
         TableDocument& owner = required(self.document());
         const std::size_t position = self.list_.requiredPositionOf(inner(*old));
-        const Ref<InnerCell> fresh = InnerCell::create(self.row_);
+        const Ref<InnerCell> fresh = InnerCell::create(self.row());
+        fresh->prepareBackColor(inner(*old).backColor());
         self.list_.replaceAt(position, fresh, key);
         fresh->takeOver(inner(*old));
         owner.markChanged();

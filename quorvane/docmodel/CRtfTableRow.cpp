@@ -12,7 +12,7 @@ Ref<CRtfDoc> CRtfTableRow::Parent() const {
 }
 
 Ref<CRtfTableCells> CRtfTableRow::TableCells() {
-    return Ref<CRtfTableCells>(&inner(*this).cells_);
+    return Ref<CRtfTableCells>(&inner(*this).cells());
 }
 
 tColorIndex CRtfTableRow::BackColor() const {
@@ -25,9 +25,12 @@ void CRtfTableRow::setBackColor(tColorIndex color) {
         if (self.backColor_ == color) {
             return;
         }
+        for (InnerCell* cell : self.cells().list()) {
+            cell->prepareBackColor(color);
+        }
         self.backColor_ = color;
         TableDocument& document = required(self.parent_.get());
-        for (InnerCell* cell : self.cells_.list()) {
+        for (InnerCell* cell : self.cells().list()) {
             cell->applyBackColor(&document, color);
         }
         document.markChanged();

@@ -1,16 +1,18 @@
 #include "quorvane/docmodel/InnerCell.h"
 
+#include <utility>
+
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/rtfgroups/GTextMarkedFields.h"
 
 namespace quorvane {
 
 void retain(InnerCell* cell) noexcept {
-    cell->counts_.retain();
+    ++cell->references_;
 }
 
 void release(InnerCell* cell) noexcept {
-    if (cell->counts_.release()) {
+    if (--cell->references_ == 0) {
         delete cell;
     }
 }
@@ -35,19 +37,23 @@ TableDocument* documentOf(const InnerCell& cell) noexcept {
     return cell.document();
 }
 
-MemoryPool& poolOf(const InnerCell& cell) noexcept {
-    return poolOf(*cell.parent_.memory());
+DocumentMemory& memoryOf(const InnerCell& cell) noexcept {
+    return memoryOf(*cell.parent_.memory());
 }
 
 Ref<InnerCell> InnerCell::create(InnerRow& row) {
-    void* memory = poolOf(row).allocate(sizeof(InnerCell));
+    void* memory = memoryOf(row).pool.allocate(sizeof(InnerCell));
     return Ref<InnerCell>(::new (memory) InnerCell(row));
 }
 
 void InnerCell::operator delete(InnerCell* cell, std::destroying_delete_t) noexcept {
     const WeakRef<InnerRow> row = cell->parent_;
+    DocumentMemory& memory = memoryOf(*row.memory());
+    if (cell->hasRareValues_) {
+        memory.rareValues.erase(cell);
+    }
     cell->~InnerCell();
-    poolOf(*row.memory()).deallocate(cell, sizeof(InnerCell));
+    memory.pool.deallocate(cell, sizeof(InnerCell));
 }
 
 TableDocument* InnerCell::document() const noexcept {
@@ -63,12 +69,60 @@ InnerRow& InnerCell::row() const {
     return *row;
 }
 
+void InnerCell::mark(std::string fieldData) {
+    rareValues().fieldData = std::move(fieldData);
+    isMarked_ = 1;
+}
+
+bool InnerCell::isUsual(std::int32_t value) noexcept {
+    return value > INT8_MIN && value <= INT8_MAX;
+}
+
+RareValues& InnerCell::rareValues() {
+    RareValues& values = memoryOf(*this).rareValues[this];
+    hasRareValues_ = 1;
+    return values;
+}
+
+std::int32_t InnerCell::backColor() const noexcept {
+    return backColor_ != unusual ? backColor_
+                                 : memoryOf(*this).rareValues.find(this)->second.backColor;
+}
+
+std::int32_t InnerCell::align() const noexcept {
+    return align_ != unusual ? align_ : memoryOf(*this).rareValues.find(this)->second.align;
+}
+
+void InnerCell::prepareBackColor(std::int32_t color) {
+    if (!isUsual(color)) {
+        rareValues();
+    }
+}
+
+void InnerCell::setBackColor(std::int32_t color) {
+    if (isUsual(color)) {
+        backColor_ = static_cast<std::int8_t>(color);
+    } else {
+        rareValues().backColor = color;
+        backColor_ = unusual;
+    }
+}
+
+void InnerCell::setAlign(std::int32_t align) {
+    if (isUsual(align)) {
+        align_ = static_cast<std::int8_t>(align);
+    } else {
+        rareValues().align = align;
+        align_ = unusual;
+    }
+}
+
 void InnerCell::takeOver(InnerCell& old) {
-    backColor_ = old.backColor_;
+    setBackColor(old.backColor());
     borders_ = old.borders_;
     rightEdge_ = old.rightEdge_;
     edgeSpread_ = old.edgeSpread_;
-    paragraphs_.takeFrom(old.paragraphs_);
+    paragraphs().takeFrom(old.paragraphs());
 }
 
 void InnerCell::setBorder(BorderSide side, tBorderWidth width) {
@@ -79,12 +133,12 @@ void InnerCell::setBorder(BorderSide side, tBorderWidth width) {
 }
 
 void InnerCell::applyBackColor(TableDocument* document, tColorIndex color) {
-    if (backColor_ == color) {
+    if (backColor() == color) {
         return;
     }
-    backColor_ = color;
+    setBackColor(color);
     if (isDarkColor(color)) {
-        paragraphs_.setForeColors(eWhite);
+        paragraphs().setForeColors(eWhite);
     }
     markChanged(document);
 }
@@ -92,27 +146,28 @@ void InnerCell::applyBackColor(TableDocument* document, tColorIndex color) {
 void InnerCell::renderDefinition(TableRendering& rendering, std::int32_t rightEdge) {
     TextOutput& out = rendering.out;
     out << rendering.borderText(borders_);
-    if (backColor_ != eNoColor || !style_.empty()) {
-        if (backColor_ == eNoColor) {
+    if (backColor() != eNoColor || !style_.empty()) {
+        if (backColor() == eNoColor) {
             applyBackColor(
                 &rendering.document,
                 static_cast<tColorIndex>(rendering.document.cellStyleColor(style_.view())));
         }
-        out << "\\clcbpat" << backColor_;
+        out << "\\clcbpat" << backColor();
     }
     out << "\\cellx" << rightEdge;
 }
 
 void InnerCell::renderContent(TableRendering& rendering) {
-    if (align_ != eNoDefault) {
-        paragraphs_.setAligns(static_cast<tCellAlign>(align_));
+    if (align() != eNoDefault) {
+        paragraphs().setAligns(static_cast<tCellAlign>(align()));
     }
-    if (markedField_) {
-        GTextMarkedFields::writeFieldStart(*markedField_, rendering.out);
+    if (isMarked_) {
+        GTextMarkedFields::writeFieldStart(memoryOf(*this).rareValues.find(this)->second.fieldData,
+                                           rendering.out);
     }
     rendering.out << "\r\n";
-    paragraphs_.render(rendering);
-    if (markedField_) {
+    paragraphs().render(rendering);
+    if (isMarked_) {
         GTextMarkedFields::writeFieldEnd(rendering.out);
     }
 }

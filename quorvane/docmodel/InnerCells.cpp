@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "quorvane/base/values/RtfError.h"
+#include "quorvane/docmodel/InnerRow.h"
 #include "quorvane/docmodel/measures.h"
 
 namespace quorvane {
@@ -30,6 +31,14 @@ std::int32_t percentOf(const TableDocument& document, std::int32_t twips) {
 
 }  // namespace
 
+InnerRow& InnerCells::row() const noexcept {
+    return static_cast<InnerRow&>(const_cast<InnerCells&>(*this));
+}
+
+TableDocument* InnerCells::document() const noexcept {
+    return isAlive(&row()) ? documentOf(row()) : nullptr;
+}
+
 void InnerCells::spreadEvenly() {
     TableDocument& owner = required(document());
     spread(evenWidth(owner, list_.count()));
@@ -46,7 +55,7 @@ std::int32_t InnerCells::indexOf(const CRtfTableCell* cell) const {
 
 void InnerCells::insertNew(const List::Place& place, TableDocument& document) {
     const std::int32_t uniformWidth = evenWidth(document, list_.count() + 1);
-    list_.insert(place, InnerCell::create(row_));
+    list_.insert(place, InnerCell::create(row()));
     spread(uniformWidth);
 }
 
@@ -70,21 +79,26 @@ void InnerCells::takeFrom(InnerCells& other) {
     list_ = std::move(other.list_);
     uniformWidth_ = other.uniformWidth_;
     removedHeads_ = other.removedHeads_;
-    spreads_ = other.spreads_;
+    spread_ = other.spread_;
     for (InnerCell* cell : list_) {
-        cell->setParent(row_);
+        cell->setParent(row());
     }
 }
 
 void InnerCells::spread(std::int32_t uniformWidth) noexcept {
     uniformWidth_ = uniformWidth;
     removedHeads_ = 0;
-    ++spreads_;
+    if (++spread_ == 0) {
+        spread_ = 1;
+        for (InnerCell* cell : list_) {
+            cell->edgeSpread_ = 0;
+        }
+    }
 }
 
 std::int32_t InnerCells::rightEdge(std::size_t position) const noexcept {
     const InnerCell& cell = list_.at(position);
-    if (cell.edgeSpread_ == spreads_) {
+    if (cell.edgeSpread_ == spread_) {
         return cell.rightEdge_;
     }
     return uniformWidth_ * (static_cast<std::int32_t>(position) + removedHeads_);
@@ -93,7 +107,7 @@ std::int32_t InnerCells::rightEdge(std::size_t position) const noexcept {
 void InnerCells::setRightEdge(std::size_t position, std::int32_t edge) noexcept {
     InnerCell& cell = list_.at(position);
     cell.rightEdge_ = edge;
-    cell.edgeSpread_ = spreads_;
+    cell.edgeSpread_ = spread_;
 }
 
 // For when positions are about to change that edges follow from.

@@ -9,16 +9,14 @@
 
 namespace quorvane {
 
-/// What the cells of a row are inside.
-class InnerCells final : public CRtfTableCells {
+/// What the cells of a row are inside: a part of the row (`InnerRow`).
+class InnerCells : public CRtfTableCells {
 public:
     using List = KeyedList<InnerCell>;
 
-    explicit InnerCells(InnerRow& row) : row_(row) {}
-
-    InnerRow& row() const noexcept { return row_; }
+    InnerRow& row() const noexcept;
     const List& list() const noexcept { return list_; }
-    TableDocument* document() const noexcept { return isAlive(&row_) ? documentOf(row_) : nullptr; }
+    TableDocument* document() const noexcept;
     void insertNew(const List::Place& place, TableDocument& document);
     void removeAt(std::size_t position) noexcept;
     void clear() noexcept { list_.clear(); }
@@ -28,6 +26,9 @@ public:
     void setWidthOf(const InnerCell& cell, tWidthUnit units, std::int32_t value);
     void spreadEvenly();
     void render(TableRendering& rendering);
+
+protected:
+    ~InnerCells() = default;
 
 private:
     friend class CRtfTableCells;
@@ -39,16 +40,15 @@ private:
     std::int32_t width(std::size_t position) const;
 
     List list_;
-    InnerRow& row_;
     // Once the cells are spread evenly, their edges follow from this width and their positions and
     // are not written into the cells, so that adding a cell does not touch the others. 0 when all
     // edges stand in the cells.
     std::int32_t uniformWidth_ = 0;
     // Cells removed at the head since the cells were spread: the edges of the others stay.
     std::int32_t removedHeads_ = 0;
-    // How often the cells were spread. An edge that stands in a cell bears the number of its
-    // spread.
-    std::uint32_t spreads_ = 0;
+    // Number of the last spread, from 1. An edge that stands in a cell bears the number of its
+    // spread. When the numbers start again, all cells lose theirs.
+    std::uint16_t spread_ = 1;
 };
 
 inline InnerCells& inner(CRtfTableCells& cells) noexcept {

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "quorvane/docmodel/inlineStyles.h"
+#include "quorvane/docmodel/inline/inlineStyles.h"
 #include "quorvane/rtfgroups/GTextMarkedFields.h"
 
 namespace quorvane {
@@ -49,15 +49,18 @@ void release(CRtfParagraph* paragraph) noexcept {
 }
 
 Ref<InnerParagraph> InnerParagraph::create(InnerCell& cell) {
-    void* memory = poolOf(cell).allocate(sizeof(InnerParagraph));
+    void* memory = memoryOf(cell).pool.allocate(sizeof(InnerParagraph));
     return Ref<InnerParagraph>(::new (memory) InnerParagraph(cell));
 }
 
 void InnerParagraph::operator delete(InnerParagraph* paragraph, std::destroying_delete_t) noexcept {
-    MemoryPool& pool = poolOf(*paragraph->cell_);
-    paragraph->text_.clear(pool);
+    DocumentMemory& memory = memoryOf(*paragraph->cell_);
+    if (paragraph->isMarked_) {
+        memory.rareValues.erase(paragraph);
+    }
+    paragraph->text_.clear(memory.pool);
     paragraph->~InnerParagraph();
-    pool.deallocate(paragraph, sizeof(InnerParagraph));
+    memory.pool.deallocate(paragraph, sizeof(InnerParagraph));
 }
 
 void InnerParagraph::enterList() noexcept {
@@ -82,8 +85,13 @@ void InnerParagraph::moveTo(InnerCell& cell) noexcept {
     }
 }
 
+void InnerParagraph::mark(std::string fieldData) {
+    memoryOf(*cell_).rareValues[this].fieldData = std::move(fieldData);
+    isMarked_ = 1;
+}
+
 void InnerParagraph::takeOver(const InnerParagraph& old) {
-    text_.assign(old.text_.view(), pool());
+    text_.assign(old.text_.view(), memoryOf(*cell_).pool);
     style_ = old.style_;
 }
 
@@ -91,14 +99,11 @@ TableDocument* InnerParagraph::document() const noexcept {
     return documentOf(*cell_);
 }
 
-MemoryPool& InnerParagraph::pool() const noexcept {
-    return poolOf(*cell_);
-}
-
 void InnerParagraph::render(TableRendering& rendering, std::size_t position) const {
     TextOutput& out = rendering.out;
-    if (markedField_) {
-        GTextMarkedFields::writeFieldStart(*markedField_, out);
+    if (isMarked_) {
+        GTextMarkedFields::writeFieldStart(memoryOf(*cell_).rareValues.find(this)->second.fieldData,
+                                           out);
     }
     if (!text_.empty()) {
         if (position >= 2) {
@@ -118,7 +123,7 @@ void InnerParagraph::render(TableRendering& rendering, std::size_t position) con
             out << withCharacterStyles(rendering.document, text);
         }
     }
-    if (markedField_) {
+    if (isMarked_) {
         GTextMarkedFields::writeFieldEnd(out);
     }
 }

@@ -2,12 +2,10 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <new>
 #include <string>
 
 #include "quorvane/base/collections/KeyedList.h"
-#include "quorvane/base/memory/MemoryPool.h"
 #include "quorvane/base/memory/PooledText.h"
 #include "quorvane/base/memory/Ref.h"
 #include "quorvane/base/memory/SharedText.h"
@@ -29,6 +27,7 @@ public:
     void leaveList() noexcept;
     void moveTo(InnerCell& cell) noexcept;
     void takeOver(const InnerParagraph& old);
+    void mark(std::string fieldData);
     void fillForeColor(tColorIndex color) noexcept { foreColor_ = color; }
     void fillAlign(tCellAlign align) noexcept { align_ = align; }
     void render(TableRendering& rendering, std::size_t position) const;
@@ -45,19 +44,18 @@ private:
 
     bool isHeldOutside() const noexcept { return references_ > isListed_; }
     TableDocument* document() const noexcept;
-    MemoryPool& pool() const noexcept;
 
     // All references to the paragraph, that of its cell's list among them. While there are others,
     // the paragraph holds one reference to the cell for all of them.
-    std::uint32_t references_ : 31 = 0;
+    std::uint32_t references_ : 30 = 0;
     std::uint32_t isListed_ : 1 = 0;
+    // A marked field, whose data is in `RareValues`.
+    std::uint32_t isMarked_ : 1 = 0;
     InnerCell* cell_;
     PooledText text_;
     SharedText style_;
     std::int32_t foreColor_ = eNoColor;
     std::int32_t align_ = eNoDefault;
-    // Hexadecimal data of a marked field; null when the paragraph is not one.
-    std::unique_ptr<std::string> markedField_;
 };
 
 inline InnerParagraph& inner(CRtfParagraph& paragraph) noexcept {
@@ -71,7 +69,7 @@ inline const InnerParagraph& inner(const CRtfParagraph& paragraph) noexcept {
 /// gone.
 TableDocument* documentOf(const InnerCell& cell) noexcept;
 
-/// The memory that a cell and its paragraphs are in.
-MemoryPool& poolOf(const InnerCell& cell) noexcept;
+/// What the elements of a cell's document keep outside of themselves.
+DocumentMemory& memoryOf(const InnerCell& cell) noexcept;
 
 }  // namespace quorvane

@@ -2,10 +2,16 @@
 
 #include <utility>
 
+#include "quorvane/docmodel/InnerCell.h"
+
 namespace quorvane {
 
+InnerCell& InnerParagraphs::cell() const noexcept {
+    return static_cast<InnerCell&>(const_cast<InnerParagraphs&>(*this));
+}
+
 void InnerParagraphs::insertNew(const List::Place& place, TableDocument&) {
-    const Ref<InnerParagraph> fresh = InnerParagraph::create(cell_);
+    const Ref<InnerParagraph> fresh = InnerParagraph::create(cell());
     list_.insert(place, fresh);
     fresh->enterList();
 }
@@ -18,7 +24,7 @@ void InnerParagraphs::removeAt(std::size_t position) noexcept {
 void InnerParagraphs::takeFrom(InnerParagraphs& other) {
     list_ = std::move(other.list_);
     for (InnerParagraph* paragraph : list_) {
-        paragraph->moveTo(cell_);
+        paragraph->moveTo(cell());
     }
 }
 

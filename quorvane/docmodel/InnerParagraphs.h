@@ -8,16 +8,14 @@
 
 namespace quorvane {
 
-/// What the paragraphs of a cell are inside.
-class InnerParagraphs final : public CRtfParagraphs {
+/// What the paragraphs of a cell are inside: a part of the cell (`InnerCell`).
+class InnerParagraphs : public CRtfParagraphs {
 public:
     using List = KeyedList<InnerParagraph>;
 
-    explicit InnerParagraphs(InnerCell& cell) : cell_(cell) {}
-
-    InnerCell& cell() const noexcept { return cell_; }
+    InnerCell& cell() const noexcept;
     const List& list() const noexcept { return list_; }
-    TableDocument* document() const noexcept { return documentOf(cell_); }
+    TableDocument* document() const noexcept { return documentOf(cell()); }
     void insertNew(const List::Place& place, TableDocument& document);
     void removeAt(std::size_t position) noexcept;
     void takeFrom(InnerParagraphs& other);
@@ -25,11 +23,13 @@ public:
     void setAligns(tCellAlign align) noexcept;
     void render(TableRendering& rendering) const;
 
+protected:
+    ~InnerParagraphs() = default;
+
 private:
     friend class CRtfParagraphs;
 
     List list_;
-    InnerCell& cell_;
 };
 
 inline InnerParagraphs& inner(CRtfParagraphs& paragraphs) noexcept {

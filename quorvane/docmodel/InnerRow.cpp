@@ -2,12 +2,20 @@
 
 namespace quorvane {
 
+void retain(InnerRow* row) noexcept {
+    row->counts_.retain();
+}
+
+void release(InnerRow* row) noexcept {
+    row->counts_.release(row);
+}
+
 void retain(CRtfTableRow* row) noexcept {
-    inner(*row).counts_.retain();
+    retain(&inner(*row));
 }
 
 void release(CRtfTableRow* row) noexcept {
-    inner(*row).counts_.release(&inner(*row));
+    release(&inner(*row));
 }
 
 void retainWeak(InnerRow* row) noexcept {
@@ -38,30 +46,30 @@ InnerCells& cellsOf(InnerRow& row) noexcept {
     return row.cells();
 }
 
-MemoryPool& poolOf(const InnerRow& row) noexcept {
-    return row.parent_.memory()->pool();
+DocumentMemory& memoryOf(const InnerRow& row) noexcept {
+    return row.parent_.memory()->memory();
 }
 
 Ref<InnerRow> InnerRow::create(const WeakRef<TableDocument>& document) {
-    void* memory = document.memory()->pool().allocate(sizeof(InnerRow));
+    void* memory = document.memory()->memory().pool.allocate(sizeof(InnerRow));
     return Ref<InnerRow>(::new (memory) InnerRow(document));
 }
 
 void InnerRow::operator delete(InnerRow* row, std::destroying_delete_t) noexcept {
     const WeakRef<TableDocument> document = row->parent_;
     row->~InnerRow();
-    document.memory()->pool().deallocate(row, sizeof(InnerRow));
+    document.memory()->memory().pool.deallocate(row, sizeof(InnerRow));
 }
 
 // The parent stays: by way of it cells that are still held find the memory they are in.
 void InnerRow::releaseContents() noexcept {
-    cells_.clear();
+    cells().clear();
 }
 
 void InnerRow::takeOver(InnerRow& old) {
     backColor_ = old.backColor_;
     borders_ = old.borders_;
-    cells_.takeFrom(old.cells_);
+    cells().takeFrom(old.cells());
 }
 
 void InnerRow::setBorder(BorderSide side, tBorderWidth width) {
@@ -70,7 +78,7 @@ void InnerRow::setBorder(BorderSide side, tBorderWidth width) {
     }
     borders_.set(side, width);
     TableDocument& document = required(parent_.get());
-    for (InnerCell* cell : cells_.list()) {
+    for (InnerCell* cell : cells().list()) {
         cell->takeBorders(borders_);
     }
     document.markChanged();
@@ -78,7 +86,7 @@ void InnerRow::setBorder(BorderSide side, tBorderWidth width) {
 
 void InnerRow::render(TableRendering& rendering) {
     rendering.out << "\r\n{\\intbl\\trowd\\trql\\trgaph70\\trleft0";
-    cells_.render(rendering);
+    cells().render(rendering);
     rendering.out << "\\row}";
 }
 

@@ -15,25 +15,25 @@
 
 namespace quorvane {
 
-/// What a row is inside.
-class InnerRow final : public CRtfTableRow, public KeyedListElement {
+/// What a row is inside. Its cells are a base, so that they know the row without a reference.
+class InnerRow final : public CRtfTableRow, public InnerCells, public KeyedListElement {
 public:
     static Ref<InnerRow> create(const WeakRef<TableDocument>& document);
 
-    InnerCells& cells() noexcept { return cells_; }
+    InnerCells& cells() noexcept { return *this; }
     void takeOver(InnerRow& old);
     void render(TableRendering& rendering);
 
 private:
     friend class CRtfTableRow;
     friend class CountedOwner;
-    friend void retain(CRtfTableRow* row) noexcept;
-    friend void release(CRtfTableRow* row) noexcept;
+    friend void retain(InnerRow* row) noexcept;
+    friend void release(InnerRow* row) noexcept;
     friend void retainWeak(InnerRow* row) noexcept;
     friend void releaseWeak(InnerRow* row) noexcept;
     friend bool isAlive(const InnerRow* row) noexcept;
     friend TableDocument* documentOf(const InnerRow& row) noexcept;
-    friend MemoryPool& poolOf(const InnerRow& row) noexcept;
+    friend DocumentMemory& memoryOf(const InnerRow& row) noexcept;
 
     explicit InnerRow(const WeakRef<TableDocument>& document) : parent_(document) {}
     ~InnerRow() = default;
@@ -44,10 +44,9 @@ private:
     void setBorder(BorderSide side, tBorderWidth width);
 
     CountedOwner counts_;
+    std::int32_t backColor_ = eNoColor;
     WeakRef<TableDocument> parent_;
     Borders borders_;
-    std::int32_t backColor_ = eNoColor;
-    InnerCells cells_{*this};
 };
 
 inline InnerRow& inner(CRtfTableRow& row) noexcept {

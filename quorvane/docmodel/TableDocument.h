@@ -5,8 +5,8 @@
 #include <string_view>
 
 #include "quorvane/base/memory/Counted.h"
-#include "quorvane/base/memory/MemoryPool.h"
 #include "quorvane/base/memory/SharedText.h"
+#include "quorvane/docmodel/DocumentMemory.h"
 #include "quorvane/docmodel/references.h"
 #include "quorvane/rtfgroups/GroupOwner.h"
 #include "quorvane/support/GError.h"
@@ -35,9 +35,7 @@ public:
     virtual SharedText sharedName(std::string_view sName) = 0;
     /// Returns the document's error module.
     virtual GError& errors() noexcept = 0;
-    /// Returns the memory pool for rows, cells, paragraphs and their texts. It exists as long as
-    /// one of them does: each refers weakly to its owner, so the memory of the document stays.
-    MemoryPool& pool() noexcept { return pool_; }
+    DocumentMemory& memory() noexcept { return memory_; }
 
 private:
     friend void retainWeak(TableDocument* document) noexcept;
@@ -51,7 +49,7 @@ private:
     virtual void releaseContents() noexcept = 0;
 
     CountedOwner counts_;
-    MemoryPool pool_;
+    DocumentMemory memory_;
 };
 
 void retainDocument(TableDocument& document) noexcept;

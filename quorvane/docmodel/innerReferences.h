@@ -16,6 +16,8 @@ class InnerParagraph;
 // the data, and so on for the others. How their references are counted: see `references.h`. The
 // functions here are for where the inner class is only declared.
 
+void retain(InnerRow* row) noexcept;
+void release(InnerRow* row) noexcept;
 void retainWeak(InnerRow* row) noexcept;
 void releaseWeak(InnerRow* row) noexcept;
 bool isAlive(const InnerRow* row) noexcept;

@@ -1,36 +1,14 @@
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 
-#include "quorvane/base/collections/KeyedList.h"
 #include "quorvane/docmodel/TableCollection.h"
-#include "quorvane/docmodel/TableDocument.h"
+#include "quorvane/docmodel/tableCollectionChanges.h"
 #include "quorvane/support/published.h"
 
-// The members of `TableCollection`, for the three files that make one. The inner class of a
-// collection, which `inner` returns, has its elements in `list()`; it provides `document()` (the
-// document, or null), `insertNew` at a place and `removeAt` a position, which do what a change
-// means to its kind of element.
+// The members of `TableCollection`, for the three files that make one.
 
 namespace quorvane {
-
-template <class Inner>
-void insertInto(Inner& collection, const Value& key, const Value& before, const Value& after) {
-    TableDocument& document = required(collection.document());
-    collection.insertNew(collection.list().placeFor(key, before, after), document);
-    document.markChanged();
-}
-
-/// Removes the element at an end of the list, if there is one.
-template <class Inner>
-void removeEnd(Inner& collection, std::size_t position) {
-    TableDocument& document = required(collection.document());
-    if (collection.list().count() > 0) {
-        collection.removeAt(position);
-    }
-    document.markChanged();
-}
 
 template <class Collection, class Element>
 std::int32_t TableCollection<Collection, Element>::Count() const {

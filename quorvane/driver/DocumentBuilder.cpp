@@ -4,13 +4,13 @@
 #include <array>
 #include <bit>
 #include <optional>
-#include <string>
 
 #include "quorvane/base/text/rounding.h"
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/docmodel/InnerCells.h"
 #include "quorvane/docmodel/InnerParagraphs.h"
 #include "quorvane/docmodel/InnerRows.h"
+#include "quorvane/docmodel/tableCollectionChanges.h"
 #include "quorvane/driver/DescriptionRules.h"
 #include "quorvane/driver/driverErrors.h"
 
@@ -29,9 +29,11 @@ void forEachChild(DescriptionNode& node, NodeKind kind, Visit visit) {
     }
 }
 
-// The key under which a node's entry is filed first.
-std::string keyOf(const DescriptionNode& node) {
-    return std::to_string(node.number);
+// The element that is added for a node, under the node's number as its key.
+template <class Collection>
+auto& added(Collection& collection, const DescriptionNode& node) {
+    return atLine(
+        node.line, [&]() -> auto& { return addNumbered(inner(collection), node.number); });
 }
 
 std::int32_t number(const Leaf& leaf) {
@@ -119,8 +121,8 @@ BuiltTable DocumentBuilder::build(DescriptionNode& doc) {
 void DocumentBuilder::addRows(DescriptionNode& doc) {
     const Ref<CRtfTableRows> rows = document_.TableRows();
     forEachChild(doc, NodeKind::Row, [&](DescriptionNode& node) {
-        atLine(node.line, [&] { rows->AddTail(keyOf(node)); });
-        table_.rows.push_back({&node, rows->PeekTail(), table_.cells.size(), 0});
+        CRtfTableRow& row = added(*rows, node);
+        table_.rows.push_back({&node, Ref<CRtfTableRow>(&row), table_.cells.size(), 0});
         addCells(table_.rows.back());
     });
 }
@@ -128,9 +130,9 @@ void DocumentBuilder::addRows(DescriptionNode& doc) {
 void DocumentBuilder::addCells(BuiltTable::Row& row) {
     const Ref<CRtfTableCells> cells = row.element->TableCells();
     forEachChild(*row.node, NodeKind::Cell, [&](DescriptionNode& node) {
-        atLine(node.line, [&] { cells->AddTail(keyOf(node)); });
+        CRtfTableCell& cell = added(*cells, node);
         ++row.cellCount;
-        table_.cells.push_back({&node, cells->PeekTail(), table_.paragraphs.size(), 0});
+        table_.cells.push_back({&node, Ref<CRtfTableCell>(&cell), table_.paragraphs.size(), 0});
         addParagraphs(table_.cells.back());
     });
 }
@@ -138,9 +140,9 @@ void DocumentBuilder::addCells(BuiltTable::Row& row) {
 void DocumentBuilder::addParagraphs(BuiltTable::Cell& cell) {
     const Ref<CRtfParagraphs> paragraphs = cell.element->Paragraphs();
     forEachChild(*cell.node, NodeKind::Para, [&](DescriptionNode& node) {
-        atLine(node.line, [&] { paragraphs->AddTail(keyOf(node)); });
+        CRtfParagraph& paragraph = added(*paragraphs, node);
         ++cell.paragraphCount;
-        table_.paragraphs.push_back({&node, paragraphs->PeekTail()});
+        table_.paragraphs.push_back({&node, Ref<CRtfParagraph>(&paragraph)});
     });
 }
 

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/docmodel/enumerations.h"
@@ -29,9 +30,9 @@ std::string_view errorLevelName(tErrorLevel level);
 
 /// Runs the body; an error that it raises and that has no line gets this one.
 template <class Body>
-void atLine(int line, Body&& body) {
+decltype(auto) atLine(int line, Body&& body) {
     try {
-        body();
+        return std::forward<Body>(body)();
     } catch (RtfError& error) {
         if (error.line == 0) {
             error.line = line;

@@ -4,8 +4,8 @@
 #include <string>
 
 #include "quorvane/base/text/textCase.h"
+#include "quorvane/diagnostics/StyleSheetOutline.h"
 #include "quorvane/diagnostics/languageOf.h"
-#include "quorvane/diagnostics/stylesheet/StyleSheetOutline.h"
 #include "quorvane/driver/DescriptionLine.h"
 
 namespace quorvane {

@@ -5,11 +5,11 @@
 #include <string>
 #include <vector>
 
-#include "quorvane/diagnostics/description/htmlTags.h"
+#include "quorvane/diagnostics/description/measureHints.h"
 #include "quorvane/diagnostics/description/numberHints.h"
+#include "quorvane/diagnostics/description/textFormatHints.h"
 #include "quorvane/diagnostics/description/valueHints.h"
-#include "quorvane/diagnostics/stylesheet/measureHints.h"
-#include "quorvane/diagnostics/stylesheet/textFormatHints.h"
+#include "quorvane/diagnostics/text/htmlTags.h"
 
 namespace quorvane {
 namespace {

@@ -136,6 +136,23 @@ TEST_F(TableCell, WritesAnyColorAsItsNumber) {
     }
 }
 
+TEST_F(TableCell, KeepsAnyColorAndAlignment) {
+    for (const std::int32_t number : {127, 128, -127, -128, -129, INT32_MAX, INT32_MIN, 0}) {
+        first()->setBackColor(color(number));
+        first()->setAlign(static_cast<tCellAlign>(-(number + 1)));
+        EXPECT_EQ(first()->BackColor(), number);
+        EXPECT_EQ(first()->Align(), -(number + 1));
+    }
+}
+
+TEST_F(TableCell, KeepsItsMarkedFieldAndUnusualValuesApart) {
+    first()->asMarkedField("A");
+    const std::string marked = cellsText();
+    first()->setBackColor(color(1000));
+    first()->setBackColor(eNoColor);
+    EXPECT_EQ(cellsText(), marked);
+}
+
 TEST_F(TableCell, IsChangedByAnotherColorOnly) {
     EXPECT_TRUE(marksChanged(*document, [&] { first()->setBackColor(eRed); }));
     EXPECT_FALSE(marksChanged(*document, [&] { first()->setBackColor(eRed); }));

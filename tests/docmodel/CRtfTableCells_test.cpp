@@ -57,6 +57,20 @@ TEST_F(TableCells, ShareTheUsableWidthEvenly) {
     }
 }
 
+TEST_F(TableCells, KeepNoWidthThatWasSetManySpreadsAgo) {
+    add(2);
+    // The numbers of the spreads start again after 65,535.
+    for (const int spreads : {65'534, 65'535, 65'536, 131'070}) {
+        cell(1)->setWidth(eTwips, 700);
+        for (int i = 0; i < spreads; ++i) {
+            cells->SetUniformWidths();
+        }
+        EXPECT_THAT(edges(), ElementsAre(4500, 9000)) << spreads;
+        cell(1)->setWidth(eTwips, 700);
+        EXPECT_THAT(edges(), ElementsAre(700, 9000)) << spreads;
+    }
+}
+
 TEST_F(TableCells, RoundTheirWidthHalvesToEven) {
     document->setPageWidth(3402 + 2001);
     add(2);

@@ -1,4 +1,4 @@
-#include "quorvane/docmodel/inlineStyles.h"
+#include "quorvane/docmodel/inline/inlineStyles.h"
 
 #include <gtest/gtest.h>
 

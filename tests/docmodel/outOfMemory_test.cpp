@@ -160,6 +160,36 @@ TEST(OutOfMemory, NoWideBorderIsReplaced) {
     }
 }
 
+// Colors of usual size need no memory.
+constexpr auto unusualColor = static_cast<tColorIndex>(1000);
+
+TEST(OutOfMemory, NoUnusualColorIsSet) {
+    expectUnchangedByFailures(
+        2, [](RowDocument& parts) { parts.cell(1)->setBackColor(unusualColor); }, 1);
+    expectUnchangedByFailures(
+        2, [](RowDocument& parts) { parts.row->setBackColor(unusualColor); }, 2);
+}
+
+TEST(OutOfMemory, NoCellOfAnUnusualColorIsRefiled) {
+    const auto prepare = [] {
+        auto subject = std::make_unique<Subject>(1);
+        subject->parts.cell(1)->setBackColor(unusualColor);
+        subject->parts.document->Refresh();
+        return subject;
+    };
+    const auto attempt = [](const std::unique_ptr<Subject>& subject) {
+        subject->parts.cells->refile(subject->parts.cell(1), newKey);
+    };
+    const std::string before = prepare()->state();
+    const auto check = [&](const std::unique_ptr<Subject>& subject) {
+        ASSERT_EQ(subject->state(), before);
+        ASSERT_NO_THROW(attempt(subject));
+        ASSERT_EQ(subject->parts.cell(1)->BackColor(), unusualColor);
+    };
+
+    EXPECT_GE(failEachAllocation(prepare, attempt, check), 4);
+}
+
 TEST(OutOfMemory, ElementsAreRemovedAllTheSame) {
     // Removing needs no memory: not one allocation may be made.
     const auto expectRemoved = [](const auto& remove) {

@@ -17,7 +17,7 @@
 #include "quorvane/base/values/Value.h"
 #include "quorvane/docmodel/CRtfDoc.h"
 #include "quorvane/docmodel/InnerDocument.h"
-#include "quorvane/docmodel/inlineStyles.h"
+#include "quorvane/docmodel/inline/inlineStyles.h"
 #include "tests/docmodel/fixedGroups.h"
 #include "tests/fuzz/plainStyleSheet.h"
 

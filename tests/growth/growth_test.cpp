@@ -11,13 +11,13 @@
 #include <string_view>
 
 #include "quorvane/base/text/wildcards.h"
+#include "quorvane/diagnostics/KnownStyles.h"
 #include "quorvane/diagnostics/description/DescriptionCheck.h"
 #include "quorvane/diagnostics/rtf/RtfCheck.h"
-#include "quorvane/diagnostics/stylesheet/KnownStyles.h"
 #include "quorvane/diagnostics/stylesheet/StyleSheetCheck.h"
 #include "quorvane/docmodel/CRtfDoc.h"
 #include "quorvane/docmodel/InnerDocument.h"
-#include "quorvane/docmodel/inlineStyles.h"
+#include "quorvane/docmodel/inline/inlineStyles.h"
 #include "quorvane/driver/CRtfDriver.h"
 #include "quorvane/support/recordStrings.h"
 #include "tests/support/FakePlatform.h"

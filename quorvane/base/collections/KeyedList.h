@@ -1,13 +1,16 @@
 #pragma once
 
 #include <algorithm>
+#include <charconv>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <memory>
 #include <new>
 #include <optional>
+#include <string>
 #include <string_view>
+#include <system_error>
 #include <utility>
 
 #include "quorvane/base/collections/KeyIndex.h"
@@ -68,7 +71,15 @@ public:
 
     /// The element filed under the key, or null.
     Element* find(std::string_view key) const {
-        return hasBlock() && block()->keys ? block()->keys->find(key) : nullptr;
+        if (!hasBlock()) {
+            return nullptr;
+        }
+        if (block()->isNumbered) {
+            if (Element* element = block()->findNumber(numberOfKey(key))) {
+                return element;
+            }
+        }
+        return block()->keys ? block()->keys->find(key) : nullptr;
     }
 
     /// 1-based position of the element; 0 when it is not in the list.
@@ -97,6 +108,8 @@ public:
     struct Place {
         std::size_t position;
         std::optional<std::string_view> key;
+        // A number whose decimal text is the key; 0 for none.
+        std::uint32_t number = 0;
     };
 
     /// Checks the arguments of an insertion: first the type of the key (error 13), then the
@@ -122,10 +135,30 @@ public:
         return place;
     }
 
-    /// Puts the element at a place that `placeFor` returned.
+    /// The place at the end for an element that has the decimal text of a number from 1 to
+    /// 999,999,999 as its key. Error 457 when the key is there already. In a short list whose
+    /// elements are all added with ascending numbers, a key costs next to nothing until somebody
+    /// asks for it.
+    Place placeForNumber(std::uint32_t number) const {
+        if (!canTakeNumber(number)) {
+            requireNewKey(std::to_string(number));
+        }
+        return {count() + 1, std::nullopt, number};
+    }
+
+    /// Puts the element at a place that `placeFor` or `placeForNumber` returned.
     void insert(const Place& place, Ref<Element> element) {
+        if (place.number != 0 && canTakeNumber(place.number)) {
+            insertNumbered(place.number, std::move(element));
+            return;
+        }
+        if (hasBlock() && block()->isNumbered && block()->count >= mostNumbered) {
+            fileNumbers();
+        }
         requireRoomFor(place);
-        if (place.key) {
+        if (place.number != 0) {
+            keyIndex().add(std::to_string(place.number), element.get());
+        } else if (place.key) {
             keyIndex().add(*place.key, element.get());
         }
         if (!hasBlock()) {
@@ -157,6 +190,9 @@ public:
         requireBlock();
         keyIndex().add(key, element.get());
         Element*& slot = block()->slots()[block()->first + position - 1];
+        if (block()->isNumbered) {
+            block()->numbers()[block()->first + position - 1] = 0;
+        }
         element->slot_ = slot->slot_;
         block()->keys->remove(slot);
         Ref<Element>::adopt(std::exchange(slot, element.detach()));
@@ -176,8 +212,14 @@ public:
     }
 
 private:
+    static constexpr std::size_t smallestBlock = 4;
+    // Numbers are searched one by one.
+    static constexpr std::uint32_t mostNumbered = 64;
+
     struct Block {
-        std::uint32_t capacity;
+        std::uint32_t capacity : 31;
+        // True when the elements may have numbers as keys, which follow the slots; 0 for none.
+        std::uint32_t isNumbered : 1;
         std::uint32_t first = 0;
         std::uint32_t count = 0;
         // An element's slot less this is where it stands here. Moving all elements together changes
@@ -186,16 +228,37 @@ private:
         std::uint32_t origin = 0;
         std::unique_ptr<KeyIndex<Element>> keys;
 
-        explicit Block(std::uint32_t slotCount) : capacity(slotCount) {}
+        Block(std::uint32_t slotCount, bool numbered)
+            : capacity(slotCount & INT32_MAX), isNumbered(numbered) {}
 
         Element** slots() noexcept { return reinterpret_cast<Element**>(this + 1); }
+        std::uint32_t* numbers() noexcept {
+            return reinterpret_cast<std::uint32_t*>(slots() + capacity);
+        }
+        std::uint32_t& lastNumber() noexcept { return numbers()[first + count - 1]; }
 
-        static Block* create(std::size_t slotCount) {
-            if (slotCount > UINT32_MAX / 2) {
+        static Block* create(std::size_t slotCount, bool numbered) {
+            if (slotCount > INT32_MAX) {
                 raise(RunTimeError::Overflow);
             }
-            void* memory = ::operator new(sizeof(Block) + slotCount * sizeof(Element*));
-            return new (memory) Block(static_cast<std::uint32_t>(slotCount));
+            const std::size_t slotSize = sizeof(Element*) + (numbered ? sizeof(std::uint32_t) : 0);
+            void* memory = ::operator new(sizeof(Block) + slotCount * slotSize);
+            return new (memory) Block(static_cast<std::uint32_t>(slotCount), numbered);
+        }
+
+        Element* findNumber(std::uint32_t number) noexcept {
+            const std::uint32_t* begin = numbers() + first;
+            const std::uint32_t* found =
+                number == 0 ? begin + count : std::find(begin, begin + count, number);
+            return found == begin + count ? nullptr : slots()[found - numbers()];
+        }
+
+        // Moves elements with their numbers, from one slot on to another.
+        void move(std::uint32_t from, std::uint32_t to, std::uint32_t length) noexcept {
+            std::memmove(slots() + to, slots() + from, length * sizeof(Element*));
+            if (isNumbered) {
+                std::memmove(numbers() + to, numbers() + from, length * sizeof(std::uint32_t));
+            }
         }
 
         static void destroy(Block* block) noexcept {
@@ -245,7 +308,7 @@ private:
         void center(bool atFront) noexcept {
             const std::uint32_t free = capacity - count;
             const std::uint32_t newFirst = atFront ? (free + 1) / 2 : free / 2;
-            std::memmove(slots() + newFirst, slots() + first, count * sizeof(Element*));
+            move(first, newFirst, count);
             origin += first - newFirst;
             first = newFirst;
         }
@@ -253,29 +316,28 @@ private:
         // There must be room on the side that opens.
         void openSlot(std::size_t index, Element* element) noexcept {
             const auto position = static_cast<std::uint32_t>(index);
-            Element** start = slots() + first;
             if (opensAtFront(index)) {
-                std::memmove(start - 1, start, position * sizeof(Element*));
+                move(first, first - 1, position);
                 --first;
             } else {
-                std::memmove(start + position + 1, start + position,
-                             (count - position) * sizeof(Element*));
+                move(first + position, first + position + 1, count - position);
             }
             ++count;
             slots()[first + position] = element;
+            if (isNumbered) {
+                numbers()[first + position] = 0;
+            }
             element->slot_ = origin + first + position;
         }
 
         Element* closeSlot(std::size_t index) noexcept {
             const auto position = static_cast<std::uint32_t>(index);
-            Element** start = slots() + first;
-            Element* element = start[position];
+            Element* element = slots()[first + position];
             if (position < count - position - 1) {
-                std::memmove(start + 1, start, position * sizeof(Element*));
+                move(first, first + 1, position);
                 ++first;
             } else {
-                std::memmove(start + position, start + position + 1,
-                             (count - position - 1) * sizeof(Element*));
+                move(first + position + 1, first + position, count - position - 1);
             }
             --count;
             return element;
@@ -305,6 +367,55 @@ private:
         return *block()->keys;
     }
 
+    // The number whose decimal text a key is; 0 for any other key.
+    static std::uint32_t numberOfKey(std::string_view key) noexcept {
+        std::uint32_t number = 0;
+        const auto [end, error] = std::from_chars(key.data(), key.data() + key.size(), number);
+        const bool isDecimal = error == std::errc() && end == key.data() + key.size();
+        return isDecimal && key.front() != '0' ? number : 0;
+    }
+
+    bool canTakeNumber(std::uint32_t number) const noexcept {
+        if (!hasBlock()) {
+            return !only_;
+        }
+        return block()->isNumbered && !block()->keys && block()->count < mostNumbered &&
+               block()->lastNumber() != 0 && block()->lastNumber() < number;
+    }
+
+    void insertNumbered(std::uint32_t number, Ref<Element> element) {
+        if (!hasBlock()) {
+            setBlock(Block::create(smallestBlock, true));
+        } else if (!block()->hasRoom(false)) {
+            grow(false);
+        }
+        block()->openSlot(block()->count, element.detach());
+        block()->lastNumber() = number;
+    }
+
+    // Files the numbers as all other keys are filed: a long list is not searched one by one. A
+    // failure changes nothing.
+    void fileNumbers() {
+        KeyIndex<Element>& keys = keyIndex();
+        const std::uint32_t first = block()->first;
+        std::uint32_t next = first;
+        try {
+            for (; next < first + block()->count; ++next) {
+                if (const std::uint32_t number = block()->numbers()[next]; number != 0) {
+                    keys.add(std::to_string(number), block()->slots()[next]);
+                }
+            }
+        } catch (...) {
+            while (next-- > first) {
+                if (block()->numbers()[next] != 0) {
+                    keys.remove(block()->slots()[next]);
+                }
+            }
+            throw;
+        }
+        block()->isNumbered = false;
+    }
+
     void requireNewKey(std::optional<std::string_view> key) const {
         if (key && find(*key)) {
             raise(RunTimeError::DuplicateKey);
@@ -332,7 +443,7 @@ private:
 
     // After this nothing that `insert` does can fail but filing the key.
     void requireRoomFor(const Place& place) {
-        if (!hasBlock() && !only_ && !place.key) {
+        if (!hasBlock() && !only_ && !place.key && place.number == 0) {
             return;
         }
         requireBlock();
@@ -350,9 +461,8 @@ private:
     }
 
     void requireBlock() {
-        constexpr std::size_t smallestBlock = 4;
         if (!hasBlock()) {
-            Block* fresh = Block::create(smallestBlock);
+            Block* fresh = Block::create(smallestBlock, false);
             if (only_) {
                 fresh->openSlot(0, only_);
             }
@@ -363,13 +473,18 @@ private:
     // All the new room goes to the end that is growing.
     void grow(bool atFront) {
         Block* old = block();
-        Block* fresh = Block::create(std::size_t{old->capacity} + old->capacity / 2);
+        Block* fresh =
+            Block::create(std::size_t{old->capacity} + old->capacity / 2, old->isNumbered);
         fresh->first = atFront ? fresh->capacity - old->count : 0;
         fresh->count = old->count;
         fresh->origin = old->origin + old->first - fresh->first;
         fresh->keys = std::move(old->keys);
         std::memcpy(fresh->slots() + fresh->first, old->slots() + old->first,
                     old->count * sizeof(Element*));
+        if (old->isNumbered) {
+            std::memcpy(fresh->numbers() + fresh->first, old->numbers() + old->first,
+                        old->count * sizeof(std::uint32_t));
+        }
         Block::destroy(old);
         setBlock(fresh);
     }

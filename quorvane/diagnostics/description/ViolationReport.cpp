@@ -9,9 +9,9 @@
 #include "quorvane/diagnostics/description/keyHints.h"
 #include "quorvane/diagnostics/description/nodeNouns.h"
 #include "quorvane/diagnostics/description/numberHints.h"
+#include "quorvane/diagnostics/description/textFormatHints.h"
 #include "quorvane/diagnostics/description/valueHints.h"
 #include "quorvane/diagnostics/engine/nearestWord.h"
-#include "quorvane/diagnostics/stylesheet/textFormatHints.h"
 
 namespace quorvane {
 

@@ -14,16 +14,16 @@
 #include "quorvane/base/text/numberText.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/base/values/RtfError.h"
-#include "quorvane/diagnostics/description/InlineTokens.h"
 #include "quorvane/diagnostics/description/NullPlatform.h"
-#include "quorvane/diagnostics/description/colorContrast.h"
-#include "quorvane/diagnostics/description/htmlTags.h"
+#include "quorvane/diagnostics/description/measureHints.h"
 #include "quorvane/diagnostics/description/nodeNouns.h"
-#include "quorvane/diagnostics/description/rtfText.h"
-#include "quorvane/diagnostics/description/textColors.h"
 #include "quorvane/diagnostics/description/widthOrder.h"
 #include "quorvane/diagnostics/engine/nearestWord.h"
-#include "quorvane/diagnostics/stylesheet/measureHints.h"
+#include "quorvane/diagnostics/text/InlineTokens.h"
+#include "quorvane/diagnostics/text/colorContrast.h"
+#include "quorvane/diagnostics/text/htmlTags.h"
+#include "quorvane/diagnostics/text/rtfText.h"
+#include "quorvane/diagnostics/text/textColors.h"
 
 namespace quorvane {
 

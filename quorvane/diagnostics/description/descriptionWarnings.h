@@ -1,8 +1,8 @@
 #pragma once
 
+#include "quorvane/diagnostics/KnownStyles.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
 #include "quorvane/diagnostics/engine/SourceText.h"
-#include "quorvane/diagnostics/stylesheet/KnownStyles.h"
 #include "quorvane/docmodel/CRtfDoc.h"
 #include "quorvane/driver/DescriptionNode.h"
 #include "quorvane/driver/DocumentBuilder.h"

@@ -11,7 +11,7 @@
 #include "quorvane/base/text/numberText.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/trimming.h"
-#include "quorvane/diagnostics/stylesheet/measureHints.h"
+#include "quorvane/diagnostics/description/measureHints.h"
 
 namespace quorvane {
 

@@ -9,7 +9,7 @@
 #include "quorvane/base/text/numberText.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/trimming.h"
-#include "quorvane/diagnostics/description/colorComponents.h"
+#include "quorvane/diagnostics/text/colorComponents.h"
 
 namespace quorvane {
 

@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 
 #include <cmath>
+#include <cstdint>
+#include <numeric>
 #include <optional>
 #include <random>
 #include <string>
@@ -42,6 +44,9 @@ void release(Entry* entry) noexcept {
 }
 
 using List = KeyedList<Entry>;
+
+// A key that needs memory of its own.
+constexpr const char* longKey = "a key of more letters than most have";
 
 Ref<Entry> entry(int number) {
     return Ref<Entry>(new Entry(number));
@@ -358,6 +363,108 @@ TEST(KeyedList, RemovesItsOnlyElement) {
     EXPECT_EQ(list.count(), 0U);
 }
 
+void addNumbered(List& list, std::uint32_t number, const Ref<Entry>& element) {
+    list.insert(list.placeForNumber(number), element);
+}
+
+// So many elements as those numbers, which are their keys too.
+List numberedList(const std::vector<std::uint32_t>& numbers) {
+    List list;
+    for (const std::uint32_t number : numbers) {
+        addNumbered(list, number, entry(static_cast<int>(number)));
+    }
+    return list;
+}
+
+TEST(NumberedKeyedList, FindsItsElementsByTheTextsOfTheirNumbers) {
+    const List list = numberedList({1001, 1002, 1005, 999'999'999});
+
+    EXPECT_THAT(numbers(list), ElementsAre(1001, 1002, 1005, 999'999'999));
+    EXPECT_EQ(list.find("1005")->number, 1005);
+    EXPECT_EQ(list.find("999999999")->number, 999'999'999);
+    for (const char* key : {"", "1003", "01005", "+1005", " 1005", "1005 ", "1005.0", "0"}) {
+        EXPECT_EQ(list.find(key), nullptr) << key;
+    }
+}
+
+TEST(NumberedKeyedList, RefusesANumberWhoseTextIsAKey) {
+    List list = numberedList({7});
+    add(list, 1, "9");
+
+    for (const std::uint32_t number : {7U, 9U}) {
+        EXPECT_EQ(errorNumberOf([&] { addNumbered(list, number, entry(2)); }), 457);
+    }
+    EXPECT_EQ(errorNumberOf([&] { list.placeFor("7", Missing{}, Missing{}); }), 457);
+    addNumbered(list, 8, entry(3));
+    EXPECT_THAT(numbers(list), ElementsAre(7, 1, 3));
+}
+
+TEST(NumberedKeyedList, TakesNumbersInAnyOrder) {
+    const List list = numberedList({5, 3, 4});
+
+    EXPECT_THAT(numbers(list), ElementsAre(5, 3, 4));
+    EXPECT_EQ(list.find("3")->number, 3);
+}
+
+TEST(NumberedKeyedList, FreesTheNumberOfARemovedElement) {
+    List list = numberedList({1, 2, 3, 4});
+
+    list.removeAt(2);
+
+    EXPECT_EQ(list.find("2"), nullptr);
+    EXPECT_EQ(list.find("3")->number, 3);
+    add(list, 9, "2", 1);
+    EXPECT_EQ(list.find("2")->number, 9);
+    EXPECT_THAT(numbers(list), ElementsAre(9, 1, 3, 4));
+}
+
+TEST(NumberedKeyedList, GivesAReplacedElementItsNewKeyAlone) {
+    List list = numberedList({1, 2, 3});
+
+    EXPECT_EQ(errorNumberOf([&] { list.replaceAt(2, entry(9), "2"); }), 457);
+    list.replaceAt(2, entry(9), "new");
+
+    EXPECT_EQ(list.find("2"), nullptr);
+    EXPECT_EQ(list.find("NEW")->number, 9);
+    EXPECT_EQ(list.find("3")->number, 3);
+}
+
+TEST(NumberedKeyedList, NeedsNoMemoryToRemoveAnElement) {
+    for (const std::size_t position : {1U, 2U, 4U}) {
+        List list = numberedList({1, 2, 3, 4});
+        failingAllocations::successesLeft = 0;
+        list.removeAt(position);
+        failingAllocations::successesLeft = -1;
+        EXPECT_EQ(list.count(), 3U);
+    }
+}
+
+TEST(NumberedKeyedList, StaysAsItWasWhenMemoryRunsOut) {
+    // One element more than are searched one by one, and one fewer.
+    for (const std::uint32_t count : {0U, 4U, 63U, 64U}) {
+        const auto prepare = [count] {
+            std::vector<std::uint32_t> list(count);
+            std::iota(list.begin(), list.end(), 1);
+            return std::pair(numberedList(list), entry(0));
+        };
+        const auto attempt = [count](auto& subject) {
+            addNumbered(subject.first, count + 1, subject.second);
+            add(subject.first, 1, longKey);
+        };
+        const auto check = [count](const auto& subject) {
+            const List& list = subject.first;
+            ASSERT_GE(list.count(), count);
+            ASSERT_EQ(list.find(longKey), nullptr);
+            for (std::uint32_t number = 1; number <= list.count(); ++number) {
+                ASSERT_EQ(list.find(std::to_string(number)), &list.at(number));
+            }
+        };
+
+        EXPECT_GE(failEachAllocation(prepare, attempt, check), 2);
+    }
+    EXPECT_EQ(Entry::living, 0);
+}
+
 TEST(KeyedList, HoldsItsElementsUntilTheyAreRemoved) {
     {
         List list = keyedList();
@@ -474,9 +581,6 @@ TEST(KeyedList, ReleasesItsElementsWhenAnotherIsMovedIntoIt) {
     EXPECT_EQ(Entry::living, 3);
     EXPECT_EQ(list.find("a")->number, 1);
 }
-
-// A key that needs memory of its own.
-constexpr const char* longKey = "a key of more letters than most have";
 
 TEST(KeyedList, StaysAsItWasWhenMemoryForAnElementRunsOut) {
     for (const int count : {0, 1, 3, 4, 6, 9}) {
@@ -700,7 +804,24 @@ TEST_P(KeyedListLikeAPlainOne, BehavesAlikeForAnyCalls) {
     RandomCalls calls(GetParam());
     List list;
     PlainList plain;
+    const auto addToBoth = [&](std::uint32_t number, int step) {
+        const std::string key = std::to_string(number);
+        ASSERT_EQ(errorNumberOf([&] { addNumbered(list, number, entry(step)); }),
+                  plain.add(step, key, Missing{}, Missing{}));
+    };
     for (int step = 1; step <= 6000; ++step) {
+        if (step % 1000 == 500) {
+            // Most lists whose elements have numbers get them all before anything else happens.
+            list.clear();
+            plain.items.clear();
+            for (std::uint32_t number = 1; number <= 150;
+                 number += 1 + static_cast<std::uint32_t>(calls.below(3))) {
+                addToBoth(number, step);
+            }
+        }
+        if (calls.below(16) == 0) {
+            addToBoth(1 + static_cast<std::uint32_t>(calls.below(200)), step);
+        }
         const std::size_t count = plain.items.size();
         const bool grows = step / 1000 % 2 == 0;
         const std::size_t kind = calls.below(12);

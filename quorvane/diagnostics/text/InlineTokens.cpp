@@ -1,6 +1,6 @@
-#include "quorvane/diagnostics/description/InlineTokens.h"
+#include "quorvane/diagnostics/text/InlineTokens.h"
 
-#include "quorvane/docmodel/inlineToken.h"
+#include "quorvane/docmodel/inline/inlineToken.h"
 
 namespace quorvane {
 

@@ -1,12 +1,12 @@
-#include "quorvane/docmodel/bracketWalk.h"
+#include "quorvane/docmodel/inline/bracketWalk.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <utility>
 
 #include "quorvane/base/values/RtfError.h"
-#include "quorvane/docmodel/BracketSegments.h"
-#include "quorvane/docmodel/TokenOccurrences.h"
+#include "quorvane/docmodel/inline/BracketSegments.h"
+#include "quorvane/docmodel/inline/TokenOccurrences.h"
 
 namespace quorvane {
 

@@ -1,4 +1,4 @@
-#include "quorvane/diagnostics/description/colorContrast.h"
+#include "quorvane/diagnostics/text/colorContrast.h"
 
 #include <algorithm>
 #include <cmath>

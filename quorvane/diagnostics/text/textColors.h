@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "quorvane/diagnostics/stylesheet/KnownStyles.h"
+#include "quorvane/diagnostics/KnownStyles.h"
 
 namespace quorvane {
 

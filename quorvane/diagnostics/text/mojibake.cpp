@@ -1,4 +1,4 @@
-#include "quorvane/diagnostics/description/mojibake.h"
+#include "quorvane/diagnostics/text/mojibake.h"
 
 #include <cstddef>
 #include <map>

@@ -1,11 +1,11 @@
-#include "quorvane/diagnostics/stylesheet/KnownStyles.h"
+#include "quorvane/diagnostics/KnownStyles.h"
 
 #include <algorithm>
 #include <vector>
 
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/values/RtfError.h"
-#include "quorvane/diagnostics/stylesheet/StyleSheetOutline.h"
+#include "quorvane/diagnostics/StyleSheetOutline.h"
 #include "quorvane/stylesheet/stylesheetParser.h"
 
 namespace quorvane {

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "quorvane/diagnostics/stylesheet/KnownStyles.h"
+#include "quorvane/diagnostics/KnownStyles.h"
 #include "quorvane/rtf/RtfControl.h"
 #include "quorvane/rtf/RtfWord.h"
 

@@ -1,4 +1,4 @@
-#include "quorvane/diagnostics/description/textColors.h"
+#include "quorvane/diagnostics/text/textColors.h"
 
 #include <gmock/gmock.h>
 

@@ -1,4 +1,4 @@
-#include "quorvane/diagnostics/description/htmlTags.h"
+#include "quorvane/diagnostics/text/htmlTags.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -11,7 +11,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "quorvane/docmodel/inlineToken.h"
+#include "quorvane/docmodel/inline/inlineToken.h"
 
 namespace quorvane {
 

@@ -1,4 +1,4 @@
-#include "quorvane/docmodel/inlineStyles.h"
+#include "quorvane/docmodel/inline/inlineStyles.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -13,8 +13,8 @@
 #include "quorvane/base/text/utf16Units.h"
 #include "quorvane/base/text/utf8.h"
 #include "quorvane/docmodel/TableDocument.h"
-#include "quorvane/docmodel/bracketWalk.h"
-#include "quorvane/docmodel/inlineToken.h"
+#include "quorvane/docmodel/inline/bracketWalk.h"
+#include "quorvane/docmodel/inline/inlineToken.h"
 
 namespace quorvane {
 

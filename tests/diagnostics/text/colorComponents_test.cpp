@@ -1,4 +1,4 @@
-#include "quorvane/diagnostics/description/colorComponents.h"
+#include "quorvane/diagnostics/text/colorComponents.h"
 
 #include <gtest/gtest.h>
 

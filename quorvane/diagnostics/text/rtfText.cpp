@@ -1,4 +1,4 @@
-#include "quorvane/diagnostics/description/rtfText.h"
+#include "quorvane/diagnostics/text/rtfText.h"
 
 #include <algorithm>
 #include <array>
@@ -15,11 +15,11 @@
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/base/text/utf8.h"
-#include "quorvane/diagnostics/description/InlineTokens.h"
-#include "quorvane/diagnostics/description/documentNumbers.h"
-#include "quorvane/diagnostics/description/mojibake.h"
 #include "quorvane/diagnostics/engine/nearestWord.h"
 #include "quorvane/diagnostics/rtf/RtfCheck.h"
+#include "quorvane/diagnostics/text/InlineTokens.h"
+#include "quorvane/diagnostics/text/documentNumbers.h"
+#include "quorvane/diagnostics/text/mojibake.h"
 #include "quorvane/rtf/RtfControl.h"
 #include "quorvane/rtf/RtfGroup.h"
 #include "quorvane/rtf/RtfWord.h"

@@ -1,4 +1,4 @@
-#include "quorvane/diagnostics/description/textColors.h"
+#include "quorvane/diagnostics/text/textColors.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-#include "quorvane/diagnostics/description/InlineTokens.h"
+#include "quorvane/diagnostics/text/InlineTokens.h"
 #include "quorvane/rtf/RtfControl.h"
 #include "quorvane/rtf/RtfGroup.h"
 

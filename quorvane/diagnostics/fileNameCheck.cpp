@@ -1,4 +1,4 @@
-#include "quorvane/diagnostics/description/fileNameCheck.h"
+#include "quorvane/diagnostics/fileNameCheck.h"
 
 #include <string>
 #include <utility>

@@ -1,4 +1,4 @@
-#include "quorvane/diagnostics/stylesheet/StyleSheetOutline.h"
+#include "quorvane/diagnostics/StyleSheetOutline.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,4 +1,4 @@
-#include "quorvane/diagnostics/stylesheet/measureHints.h"
+#include "quorvane/diagnostics/description/measureHints.h"
 
 #include <algorithm>
 #include <cmath>

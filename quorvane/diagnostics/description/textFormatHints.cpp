@@ -1,4 +1,4 @@
-#include "quorvane/diagnostics/stylesheet/textFormatHints.h"
+#include "quorvane/diagnostics/description/textFormatHints.h"
 
 #include <algorithm>
 #include <cmath>
@@ -11,7 +11,7 @@
 #include "quorvane/base/text/numberText.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/trimming.h"
-#include "quorvane/diagnostics/description/colorComponents.h"
+#include "quorvane/diagnostics/text/colorComponents.h"
 #include "quorvane/rtfgroups/CRtfGrpColorTable.h"
 #include "quorvane/rtfgroups/CRtfGrpFontTable.h"
 

@@ -4,8 +4,8 @@
 #include <string_view>
 #include <vector>
 
+#include "quorvane/diagnostics/KnownStyles.h"
 #include "quorvane/diagnostics/engine/Diagnostic.h"
-#include "quorvane/diagnostics/stylesheet/KnownStyles.h"
 
 namespace quorvane {
 

@@ -1,4 +1,4 @@
-#include "quorvane/diagnostics/description/documentNumbers.h"
+#include "quorvane/diagnostics/text/documentNumbers.h"
 
 #include "quorvane/rtfgroups/CRtfGrpColorTable.h"
 #include "quorvane/rtfgroups/CRtfGrpFontTable.h"

@@ -2,9 +2,9 @@
 
 #include <string_view>
 
+#include "quorvane/diagnostics/KnownStyles.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
 #include "quorvane/diagnostics/engine/SourceText.h"
-#include "quorvane/diagnostics/stylesheet/KnownStyles.h"
 
 namespace quorvane {
 

@@ -1,4 +1,4 @@
-#include "quorvane/diagnostics/description/rtfText.h"
+#include "quorvane/diagnostics/text/rtfText.h"
 
 #include <gmock/gmock.h>
 

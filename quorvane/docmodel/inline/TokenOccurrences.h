@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "quorvane/docmodel/BracketSegments.h"
+#include "quorvane/docmodel/inline/BracketSegments.h"
 
 namespace quorvane {
 
