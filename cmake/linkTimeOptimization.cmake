@@ -1,9 +1,13 @@
 # The code of the library is optimized once more as a whole when a program is linked with it, in
-# release builds. Its objects have machine code as well: other linkers use that.
-option(QUORVANE_LTO "Optimize the library when linking, in release builds with GCC" ON)
+# release builds. Its objects have machine code as well: other linkers use that. Clang before
+# version 17 cannot make such objects. The linker for Windows cannot join what is optimized then
+# with what the compiler has finished: it takes inline functions that both have for an error.
+option(QUORVANE_LTO "Optimize the library when linking, in release builds with GCC"
+    ${PROJECT_IS_TOP_LEVEL})
 
 set(QUORVANE_USES_LTO OFF)
-if(QUORVANE_LTO AND CMAKE_BUILD_TYPE STREQUAL "Release" AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+if(QUORVANE_LTO AND CMAKE_BUILD_TYPE STREQUAL "Release" AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU"
+   AND NOT WIN32)
     include(CheckIPOSupported)
     check_ipo_supported(RESULT QUORVANE_USES_LTO OUTPUT output LANGUAGES CXX)
 endif()
