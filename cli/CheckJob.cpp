@@ -21,7 +21,7 @@
 #include "quorvane/base/text/codePage1252.h"
 #include "quorvane/diagnostics/description/DescriptionCheck.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
-#include "quorvane/diagnostics/engine/ignoreComments.h"
+#include "quorvane/diagnostics/engine/withoutIgnored.h"
 #include "quorvane/diagnostics/fileNameCheck.h"
 #include "quorvane/diagnostics/languageOf.h"
 #include "quorvane/diagnostics/rtf/RtfCheck.h"

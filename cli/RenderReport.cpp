@@ -8,7 +8,7 @@
 #include "quorvane/diagnostics/description/DescriptionCheck.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
-#include "quorvane/diagnostics/engine/ignoreComments.h"
+#include "quorvane/diagnostics/engine/withoutIgnored.h"
 #include "quorvane/diagnostics/fileNameCheck.h"
 #include "quorvane/diagnostics/languageOf.h"
 #include "quorvane/diagnostics/stylesheet/StyleSheetCheck.h"
@@ -95,13 +95,17 @@ bool RenderReport::passBytes(const std::string& name, std::string_view bytes) {
 /// No part of such a file can be shown.
 void RenderReport::refuseBinary(const std::string& file, const Diagnostic& diagnostic) {
     if (receivers_.locate) {
-        receivers_.locate(file, diagnostic, windowOf({}));
+        receivers_.locate(file, diagnostic, {});
     } else {
         receivers_.report({ErrorKind::Check, file, refusal({diagnostic})});
     }
 }
 
 void RenderReport::refuseStyleSheet(const RtfError& error) {
+    if (receivers_.refuseStyleSheet) {
+        receivers_.refuseStyleSheet(error);
+        return;
+    }
     const bool isLocated = receivers_.locate && hasErrors(styleSheetDiagnostics());
     if (!isLocated) {
         receivers_.report({ErrorKind::Raised, styleSheet_->name, error});
@@ -183,7 +187,7 @@ void RenderReport::locate(const std::string& file, const std::string& bytes,
             diagnostic.severity = Severity::Error;
         }
         if (isShown) {
-            receivers_.locate(file, diagnostic, window);
+            receivers_.locate(file, diagnostic, excerptAt(diagnostic.place, window));
         }
     }
 }

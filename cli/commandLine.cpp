@@ -98,6 +98,31 @@ const std::map<std::string, NameForm>& nameForms() {
     return forms;
 }
 
+constexpr const char* escapeFooter =
+    R"(Each line is escaped as a text of its own: what it holds is shown in the document
+exactly, whatever characters it has. The result is ASCII, so that it suits files
+in any encoding. Files are read as UTF-8; without FILE, and for -, standard
+input is read.
+
+  for description   a value in a description, such as (pt=...)
+  for model         the text of a paragraph in the object model
+
+A control character other than a tab cannot be shown. It is an error, and so are
+bytes that are not UTF-8; then nothing is written to standard output.
+
+Exit status:
+  0  success
+  1  a line holds what cannot be shown
+  2  wrong usage, or a file that cannot be read or written)";
+
+const std::map<std::string, EscapeUse>& escapeUses() {
+    static const std::map<std::string, EscapeUse> uses = {
+        {"description", EscapeUse::Description},
+        {"model", EscapeUse::Model},
+    };
+    return uses;
+}
+
 const std::map<std::string, FailOn>& failingSeverities() {
     static const std::map<std::string, FailOn> severities = {
         {"error", FailOn::Error},
@@ -186,6 +211,13 @@ CLI::callback_t storeIn(std::vector<std::string>& target) {
     };
 }
 
+CLI::callback_t storeIn(std::size_t& target) {
+    return [&target](const CLI::results_t& results) {
+        target = std::stoul(results.front());
+        return true;
+    };
+}
+
 CLI::callback_t storeIn(ErrorForm& target) {
     return [&target](const CLI::results_t& results) {
         target = errorForms().at(results.front());
@@ -224,6 +256,16 @@ void refuseEmptyValues(CLI::App& app) {
                 ""));
         }
     }
+}
+
+/// What is wrong with a number of jobs; empty if it is one.
+std::string wrongJobs(const std::string& value) {
+    constexpr std::size_t mostJobs = 1024;
+    const bool isShort = value.size() <= std::to_string(mostJobs).size();
+    const bool isNumber = value.find_first_not_of("0123456789") == std::string::npos;
+    return isShort && isNumber && std::stoul(value) <= mostJobs
+               ? std::string()
+               : asGiven(value) + " is not a number from 0 to " + std::to_string(mostJobs);
 }
 
 void addStdinFilename(CLI::App& app, std::optional<std::string>& target) {
@@ -309,6 +351,26 @@ void addFormatOptions(CLI::App* format, FormatOptions& options) {
     refuseEmptyValues(*format);
 }
 
+CLI::callback_t storeIn(EscapeUse& target) {
+    return [&target](const CLI::results_t& results) {
+        target = escapeUses().at(results.front());
+        return true;
+    };
+}
+
+void addEscapeOptions(CLI::App* escape, EscapeOptions& options) {
+    escape->footer(escapeFooter);
+    addStandardFlags(*escape);
+    escape->add_option("FILE", storeIn(options.files), "Files whose lines are escaped")
+        ->type_name("")
+        ->expected(0, CLI::detail::expected_max_vector_size)
+        ->allow_extra_args();
+    escape->add_option("--for", storeIn(options.use), "Where the texts go; description by default")
+        ->type_name("description|model")
+        ->check(CLI::IsMember(escapeUses()).description(""));
+    refuseEmptyValues(*escape);
+}
+
 void addRenderOptions(CLI::App* render, RenderOptions& options) {
     render->footer(renderFooter);
     addStandardFlags(*render);
@@ -330,6 +392,11 @@ void addRenderOptions(CLI::App* render, RenderOptions& options) {
         ->excludes("--output");
     render->add_flag("--mkdir", options.makesOutputFolder, "Create the folder of --output-dir")
         ->needs("--output-dir");
+    render
+        ->add_option("-j,--jobs", storeIn(options.jobs),
+                     "Render N descriptions at a time; 0 uses all cores")
+        ->type_name("N")
+        ->check(CLI::Validator(wrongJobs, ""));
     render->add_flag("--check", options.check,
                      "Repair unclosed rows; check keys, values and texts");
     render
@@ -346,7 +413,7 @@ void addRenderOptions(CLI::App* render, RenderOptions& options) {
     refuseEmptyValues(*render);
 }
 
-constexpr std::string_view commands[] = {"render", "check", "format", "help"};
+constexpr std::string_view commands[] = {"render", "check", "format", "escape", "help"};
 
 bool isCommand(std::string_view name) {
     return std::find(std::begin(commands), std::end(commands), name) != std::end(commands);
@@ -355,7 +422,7 @@ bool isCommand(std::string_view name) {
 std::string unknownCommandText(const std::string& name) {
     const std::string guess = didYouMean(name, commands);
     return name + " is not a subcommand; " +
-           (guess.empty() ? "use render, check, format or help" : guess);
+           (guess.empty() ? "use render, check, format, escape or help" : guess);
 }
 
 std::string unknownOptionText(const CLI::App& app, const std::string& argument) {
@@ -386,7 +453,8 @@ std::vector<std::string> helpRequest(const std::vector<std::string>& commandsAsk
 
 void addHelpOptions(CLI::App* help, std::vector<std::string>& commandsAskedFor) {
     addStandardFlags(*help);
-    help->add_option("SUBCOMMAND", storeIn(commandsAskedFor), "render, check, format or help")
+    help->add_option("SUBCOMMAND", storeIn(commandsAskedFor),
+                     "render, check, format, escape or help")
         ->type_name("");
 }
 
@@ -395,6 +463,7 @@ struct Requests {
     RenderOptions render;
     CheckOptions check;
     FormatOptions format;
+    EscapeOptions escape;
     std::vector<std::string> help;
 };
 
@@ -410,6 +479,8 @@ void addCommands(CLI::App& app, const std::vector<std::string>& arguments, Reque
     add("render", "Render descriptions as RTF documents.", addRenderOptions, requests.render);
     add("check", "Check descriptions, stylesheets and RTF files.", addCheckOptions, requests.check);
     add("format", "Format descriptions and stylesheets.", addFormatOptions, requests.format);
+    add("escape", "Escape texts, so that they show as they are.", addEscapeOptions,
+        requests.escape);
     add("help", "Show the help of a subcommand.", addHelpOptions, requests.help);
     if (!isKnown) {
         addStandardFlags(app);
@@ -446,8 +517,8 @@ std::string usageErrorText(const CLI::App& app, const CLI::ParseError& error) {
 
 }  // namespace
 
-std::variant<RenderOptions, CheckOptions, FormatOptions, Information> parseCommandLine(
-    const std::vector<std::string>& arguments) {
+std::variant<RenderOptions, CheckOptions, FormatOptions, EscapeOptions, Information>
+parseCommandLine(const std::vector<std::string>& arguments) {
     CLI::App app("Render descriptions as documents in Rich Text Format (RTF).", "quorvane");
     app.require_subcommand(1);
     app.allow_windows_style_options(false);
@@ -465,6 +536,9 @@ std::variant<RenderOptions, CheckOptions, FormatOptions, Information> parseComma
         if (command == "format") {
             requireStandardInput(requests.format.stdinName, requests.format.files);
             return requests.format;
+        }
+        if (command == "escape") {
+            return requests.escape;
         }
         if (command == "help") {
             return parseCommandLine(helpRequest(requests.help));

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "cli/CheckOptions.h"
+#include "cli/EscapeOptions.h"
 #include "cli/FormatOptions.h"
 #include "cli/RenderOptions.h"
 
@@ -16,8 +17,8 @@ struct Information {
 };
 
 /// Returns what the arguments after the program's name ask for. Throws `UsageError`.
-std::variant<RenderOptions, CheckOptions, FormatOptions, Information> parseCommandLine(
-    const std::vector<std::string>& arguments);
+std::variant<RenderOptions, CheckOptions, FormatOptions, EscapeOptions, Information>
+parseCommandLine(const std::vector<std::string>& arguments);
 
 /// The form in which an error in the arguments is reported: the one that they ask for, even if
 /// they are wrong otherwise.

@@ -41,7 +41,7 @@ std::string diagnosticText(const std::string& file, const Diagnostic& diagnostic
                                    std::to_string(place.column) + ":",
                                colors) +
                        " " + colored(color, label + ":", colors) + " " +
-                       shortened(TrimEx(oneLine(diagnostic.message))) + " [" +
+                       shortened(trimBlanks(oneLine(diagnostic.message))) + " [" +
                        std::string(diagnosticRule(diagnostic.id).identifier) + "]\n";
     const std::string line = excerpt.before + excerpt.marked + excerpt.after;
     if (!trimWhitespace(line).empty()) {

@@ -37,7 +37,7 @@ std::string block(std::string_view title, std::string_view text) {
 
 /// A text of the table as it stands in a line of Markdown.
 std::string code(std::string_view text) {
-    return "`" + std::string(TrimEx(oneLine(text))) + "`";
+    return "`" + std::string(trimBlanks(oneLine(text))) + "`";
 }
 
 std::string section(const DiagnosticRule& rule) {

@@ -77,7 +77,7 @@ std::string exampleMessage(const DiagnosticRule& rule) {
     std::string message;
     checkExample(rule, [&](const std::string&, const Diagnostic& diagnostic, const FileWindow&) {
         if (diagnostic.id == rule.id && message.empty()) {
-            message = TrimEx(oneLine(diagnostic.message));
+            message = trimBlanks(oneLine(diagnostic.message));
         }
     });
     return message.empty() ? ruleTitle(rule) : message;

@@ -16,6 +16,7 @@
 #include "cli/diagnosticText.h"
 #include "cli/errorJson.h"
 #include "cli/errorText.h"
+#include "cli/escapeCommand.h"
 #include "cli/fileFailure.h"
 #include "cli/oneLine.h"
 #include "cli/process.h"
@@ -75,12 +76,11 @@ ExitStatus render(const RenderOptions& options) {
         writeToStandardError(lineOf(error, options.diagnostics));
     };
     if (options.diagnostics == ErrorForm::Text) {
-        receivers.locate = [&, colors = wantedColors(columns > 0)](const std::string& file,
-                                                                   const Diagnostic& diagnostic,
-                                                                   const FileWindow& window) {
+        receivers.locate = [&, colors = wantedColors(columns > 0)](
+                               const std::string& file, const Diagnostic& diagnostic,
+                               const DiagnosticExcerpt& excerpt) {
             eraseProgress();
-            writeToStandardError(
-                diagnosticText(file, diagnostic, excerptAt(diagnostic.place, window), colors));
+            writeToStandardError(diagnosticText(file, diagnostic, excerpt, colors));
         };
     }
     receivers.progress = [&](std::size_t number, std::size_t count, const std::string& name) {
@@ -103,6 +103,9 @@ ExitStatus run(const std::vector<std::string>& arguments, ErrorForm form) {
     }
     if (const auto* options = std::get_if<FormatOptions>(&request)) {
         return format(*options);
+    }
+    if (const auto* options = std::get_if<EscapeOptions>(&request)) {
+        return escape(*options);
     }
     return render(std::get<RenderOptions>(request));
 }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "quorvane/docmodel/CRtfDoc.h"
+#include "quorvane/rtf/escape.h"
 
 using namespace quorvane;
 
@@ -39,18 +40,6 @@ struct Cell {
     std::string style = "normal";
     tCellAlign align = eNoDefault;
 };
-
-// The text of a paragraph is RTF, so plain text must be escaped.
-std::string escaped(std::string_view text) {
-    std::string rtf;
-    for (const char c : text) {
-        if (c == '\\' || c == '{' || c == '}') {
-            rtf += '\\';
-        }
-        rtf += c;
-    }
-    return rtf;
-}
 
 std::string money(int pence) {
     char text[32];
@@ -91,11 +80,11 @@ void fill(CRtfDoc& document, const std::vector<Item>& items) {
     const auto parties = addRow(
         document, {{60, "<label=To>", "party"}, {40, "<label=Order No.> 2025-118", "party"}});
     const auto supplier = parties->TableCells()->Item(1);
-    addParagraph(*supplier, escaped("Northmoor Tea & Coffee Ltd"), "party");
+    addParagraph(*supplier, rtfText("Northmoor Tea & Coffee Ltd"), "party");
     addParagraph(*supplier, "14 Quay Street, Northmoor", "party");
     const auto facts = parties->TableCells()->Item(2);
     addParagraph(*facts, "<label=Date> 18 March 2025", "party");
-    addParagraph(*facts, escaped("Café Lindqvist, Market Square 2"), "party");
+    addParagraph(*facts, rtfText("Café Lindqvist, Market Square 2"), "party");
 
     addRow(document, {{100, "Please deliver to the address above by 24 March:", "note"}});
 
@@ -112,8 +101,8 @@ void fill(CRtfDoc& document, const std::vector<Item>& items) {
     for (const Item& item : items) {
         const int amount = item.quantity * item.pence;
         total += amount;
-        const auto row = addRow(document, {{12, escaped(item.number)},
-                                           {45, escaped(item.name)},
+        const auto row = addRow(document, {{12, rtfText(item.number)},
+                                           {45, rtfText(item.name)},
                                            {13, std::to_string(item.quantity), "normal", eRight},
                                            {14, money(item.pence), "normal", eRight},
                                            {16, money(amount), "normal", eRight}});

@@ -1,11 +1,15 @@
 #include "quorvane/diagnostics/KnownStyles.h"
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
+#include <unordered_set>
 #include <vector>
 
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/diagnostics/StyleSheetOutline.h"
+#include "quorvane/stylesheet/StyleList.h"
 #include "quorvane/stylesheet/stylesheetParser.h"
 
 namespace quorvane {
@@ -39,7 +43,7 @@ std::string_view likelyNamesOf(const OutlinedDefinition& definition) {
     return named == items.end() ? std::string_view() : named->value;
 }
 
-/// True when an item other than the first may be a misspelled "style-def".
+/// True when an item other than the first may be a misspelled kind.
 bool hasUnknownKeyword(const OutlinedDefinition& definition) {
     return std::any_of(definition.items.begin() + 1, definition.items.end(),
                        [](const StyleItem& item) { return !item.known; });
@@ -56,7 +60,7 @@ RepairedDefinition repairedDefinition(const OutlinedDefinition& definition) {
     for (const StyleItem& item : definition.items) {
         const std::string value = withoutBraces(item.value);
         const bool isValid = item.known && item.known->accepts(lowerCase(value));
-        if (item.keyword == "style-def") {
+        if (item.is(kindKeyword)) {
             hasKind = true;
             repaired.isKindSure = repaired.isKindSure && isValid;
         }
@@ -76,42 +80,78 @@ std::string_view styleKindName(StyleKind kind) {
     return names[static_cast<std::size_t>(kind)];
 }
 
-KnownStyles::KnownStyles(std::string_view styleSheet) : text_(styleSheet), soundText_(styleSheet) {
-    try {
-        load();
-    } catch (const RtfError&) {
-        repair();
-        load();
-    }
-}
+struct KnownStyles::Parts {
+    explicit Parts(std::string_view styleSheet) : text(styleSheet), soundText(styleSheet) {}
 
-void KnownStyles::load() {
-    for (StyleList& list : lists_) {
-        list.clear();
+    void load();
+    void repair();
+
+    StyleList& list(StyleKind kind) { return lists[static_cast<std::size_t>(kind)]; }
+    std::unordered_set<std::string>& used(StyleKind kind) {
+        return usedNames[static_cast<std::size_t>(kind)];
     }
-    parseStyleSheet(soundText_, [this](const StyleDefinition& definition) {
+
+    std::string text;
+    std::string soundText;
+    std::array<StyleList, 3> lists;
+    // In lower case, as the names of styles whose kind is uncertain.
+    std::array<std::unordered_set<std::string>, 3> usedNames;
+    std::unordered_set<std::string> ofAnyKind;
+};
+
+void KnownStyles::Parts::load() {
+    for (StyleList& styles : lists) {
+        styles.clear();
+    }
+    parseStyleSheet(soundText, [this](const StyleDefinition& definition) {
         for (const std::string& name : definition.names) {
             const StyleKind kind = styleKindNamed(Style{name, definition.record}.kind());
-            lists_[static_cast<std::size_t>(kind)].add(name, definition.record);
+            list(kind).add(name, definition.record);
         }
     });
 }
 
-void KnownStyles::repair() {
-    soundText_.clear();
-    for (const OutlinedDefinition& definition : readStyleSheetOutline(text_).definitions) {
+void KnownStyles::Parts::repair() {
+    soundText.clear();
+    for (const OutlinedDefinition& definition : readStyleSheetOutline(text).definitions) {
         const RepairedDefinition repaired = repairedDefinition(definition);
-        soundText_ += repaired.text;
+        soundText += repaired.text;
         if (!repaired.isKindSure) {
             for (const std::string_view name : styleNamesIn(repaired.names)) {
-                ofAnyKind_.insert(lowerCase(name));
+                ofAnyKind.insert(lowerCase(name));
             }
         }
     }
 }
 
+KnownStyles::KnownStyles(std::string_view styleSheet)
+    : parts_(std::make_unique<Parts>(styleSheet)) {
+    try {
+        parts_->load();
+    } catch (const RtfError&) {
+        parts_->repair();
+        parts_->load();
+    }
+}
+
+KnownStyles::KnownStyles(KnownStyles&& other) noexcept = default;
+KnownStyles& KnownStyles::operator=(KnownStyles&& other) noexcept = default;
+KnownStyles::~KnownStyles() = default;
+
+const std::string& KnownStyles::text() const {
+    return parts_->text;
+}
+
+const std::string& KnownStyles::soundText() const {
+    return parts_->soundText;
+}
+
+const StyleList& stylesOf(const KnownStyles& known, StyleKind kind) {
+    return known.parts_->list(kind);
+}
+
 int KnownStyles::find(StyleKind kind, std::string_view name) const {
-    return styles(kind).find(lowerCase(name));
+    return parts_->list(kind).find(lowerCase(name));
 }
 
 bool KnownStyles::lacks(StyleKind kind, std::string_view name) const {
@@ -119,15 +159,15 @@ bool KnownStyles::lacks(StyleKind kind, std::string_view name) const {
 }
 
 bool KnownStyles::isOfAnyKind(std::string_view name) const {
-    return ofAnyKind_.contains(lowerCase(name));
+    return parts_->ofAnyKind.contains(lowerCase(name));
 }
 
 void KnownStyles::markUsed(StyleKind kind, std::string_view name) {
-    used_[static_cast<std::size_t>(kind)].insert(lowerCase(name));
+    parts_->used(kind).insert(lowerCase(name));
 }
 
 bool KnownStyles::isUsed(StyleKind kind, std::string_view name) const {
-    return used_[static_cast<std::size_t>(kind)].contains(lowerCase(name));
+    return parts_->used(kind).contains(lowerCase(name));
 }
 
 }  // namespace quorvane

@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <cstddef>
 #include <optional>
+#include <string>
+
+#include "quorvane/base/text/textCase.h"
 
 namespace quorvane {
 
@@ -34,6 +37,13 @@ void readUnbalanced(std::string_view text, StyleSheetOutline& outline) {
     }
 }
 
+/// The kind that a word names or is most likely meant to name.
+StyleKind likelyKind(const std::string& word) {
+    return word.starts_with("p")    ? StyleKind::Paragraph
+           : word.starts_with("ch") ? StyleKind::Character
+                                    : styleKindNamed(word);
+}
+
 }  // namespace
 
 StyleSheetOutline readStyleSheetOutline(std::string_view text) {
@@ -52,6 +62,15 @@ std::vector<std::string_view> namesOf(const OutlinedDefinition& definition) {
     return !definition.items.empty() && definition.items.front().keyword == nameKeyword
                ? styleNamesIn(definition.items.front().value)
                : std::vector<std::string_view>();
+}
+
+StyleKind kindOf(const OutlinedDefinition& definition) {
+    for (std::size_t i = 1; i < definition.items.size(); ++i) {
+        if (definition.items[i].is(kindKeyword)) {
+            return likelyKind(lowerCase(definition.items[i].value));
+        }
+    }
+    return StyleKind::Cell;
 }
 
 }  // namespace quorvane

@@ -3,6 +3,7 @@
 #include <string_view>
 #include <vector>
 
+#include "quorvane/stylesheet/StyleList.h"
 #include "quorvane/stylesheet/stylesheetSyntax.h"
 
 namespace quorvane {
@@ -27,5 +28,8 @@ StyleSheetOutline readStyleSheetOutline(std::string_view text);
 
 /// The names of a definition; none when its first item is not "name".
 std::vector<std::string_view> namesOf(const OutlinedDefinition& definition);
+
+/// The kind that a definition has or is most likely meant to have.
+StyleKind kindOf(const OutlinedDefinition& definition);
 
 }  // namespace quorvane

@@ -57,7 +57,7 @@ std::string_view firstLineOf(std::string_view text) {
     for (const SourceText::Line& bounds : source.lines()) {
         const std::string_view line =
             trimWhitespace(text.substr(bounds.start, bounds.end - bounds.start));
-        if (!line.empty() && !line.starts_with(';')) {
+        if (!isEmptyOrComment(line, originalDialect())) {
             return line;
         }
     }

@@ -11,6 +11,7 @@
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
 #include "quorvane/diagnostics/fileEncoding.h"
 #include "quorvane/diagnostics/languageOf.h"
+#include "quorvane/stylesheet/StyleList.h"
 
 namespace quorvane {
 
@@ -57,7 +58,7 @@ bool isOfALanguage(std::string_view bytes) {
     const KnownStyles styles(utf8FromCodePage1252(text));
     const auto kinds = {StyleKind::Paragraph, StyleKind::Character, StyleKind::Cell};
     return std::any_of(kinds.begin(), kinds.end(),
-                       [&](StyleKind kind) { return !styles.styles(kind).empty(); });
+                       [&](StyleKind kind) { return !stylesOf(styles, kind).empty(); });
 }
 
 }  // namespace

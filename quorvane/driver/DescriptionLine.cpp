@@ -12,19 +12,8 @@ namespace {
 
 constexpr std::size_t nowhere = std::string_view::npos;
 
-bool isEmptyOrComment(std::string_view text, const LineMarks& marks) {
-    const std::string_view trimmed = trimWhitespace(text);
-    return trimmed.empty() || trimmed.front() == marks.comment;
-}
-
-std::string_view headOf(std::string_view line, const LineMarks& marks) {
-    const auto* end = std::find_if(line.begin(), line.end(), [&](char character) {
-        return isWhitespace(character) || character == marks.comment;
-    });
-    return line.substr(0, static_cast<std::size_t>(end - line.begin()));
-}
-
-std::optional<DescriptionLine> leafIn(std::string_view line, const LineMarks& marks) {
+std::optional<DescriptionLine> leafIn(std::string_view line, const Dialect& dialect) {
+    const LineMarks& marks = dialect.marks;
     if (!line.starts_with(marks.open)) {
         return std::nullopt;
     }
@@ -36,19 +25,19 @@ std::optional<DescriptionLine> leafIn(std::string_view line, const LineMarks& ma
     // A ")" in the key is the first one, and what follows must be a comment.
     const std::size_t inKey = line.substr(0, equals).find(marks.close);
     const std::string_view rest = line.substr((inKey == nowhere ? end : inKey) + 1);
-    if (!isEmptyOrComment(rest, marks)) {
+    if (!isEmptyOrComment(rest, dialect)) {
         return std::nullopt;
     }
     return DescriptionLine{.type = LineType::Leaf,
-                           .key = TrimEx(line.substr(1, equals - 1)),
-                           .value = TrimEx(line.substr(equals + 1, end - equals - 1)),
+                           .key = trimBlanks(line.substr(1, equals - 1)),
+                           .value = trimBlanks(line.substr(equals + 1, end - equals - 1)),
                            .rest = rest};
 }
 
 std::optional<DescriptionLine> openerOrCloserIn(std::string_view line, const Dialect& dialect) {
-    const std::string_view head = headOf(line, dialect.marks);
+    const std::string_view head = headOf(line, dialect);
     const std::string_view rest = line.substr(head.size());
-    if (head.empty() || !isEmptyOrComment(rest, dialect.marks)) {
+    if (head.empty() || !isEmptyOrComment(rest, dialect)) {
         return std::nullopt;
     }
     if (head.front() == dialect.marks.open) {
@@ -70,15 +59,22 @@ std::optional<DescriptionLine> openerOrCloserIn(std::string_view line, const Dia
 }  // namespace
 
 DescriptionLine descriptionLine(std::string_view line, const Dialect& dialect) {
-    if (const std::optional<DescriptionLine> leaf = leafIn(line, dialect.marks)) {
+    if (const std::optional<DescriptionLine> leaf = leafIn(line, dialect)) {
         return *leaf;
     }
     return openerOrCloserIn(line, dialect).value_or(DescriptionLine());
 }
 
-bool isComment(std::string_view text, const Dialect& dialect) {
+std::string_view headOf(std::string_view line, const Dialect& dialect) {
+    const auto* end = std::find_if(line.begin(), line.end(), [&](char character) {
+        return isWhitespace(character) || character == dialect.marks.comment;
+    });
+    return line.substr(0, static_cast<std::size_t>(end - line.begin()));
+}
+
+bool isEmptyOrComment(std::string_view text, const Dialect& dialect) {
     const std::string_view trimmed = trimWhitespace(text);
-    return !trimmed.empty() && trimmed.front() == dialect.marks.comment;
+    return trimmed.empty() || trimmed.front() == dialect.marks.comment;
 }
 
 }  // namespace quorvane

@@ -39,7 +39,10 @@ struct DescriptionLine {
 /// Takes a line apart. It is trimmed and holds more than a comment.
 DescriptionLine descriptionLine(std::string_view line, const Dialect& dialect);
 
-/// True when the text's first character that is not whitespace begins a comment.
-bool isComment(std::string_view text, const Dialect& dialect);
+/// The beginning of a line, up to its first blank or comment.
+std::string_view headOf(std::string_view line, const Dialect& dialect);
+
+/// True when a text has nothing but whitespace, or a comment after it.
+bool isEmptyOrComment(std::string_view text, const Dialect& dialect);
 
 }  // namespace quorvane

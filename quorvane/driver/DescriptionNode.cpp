@@ -4,6 +4,7 @@
 
 #include "quorvane/base/text/numberText.h"
 #include "quorvane/base/values/RtfError.h"
+#include "quorvane/driver/Dialect.h"
 #include "quorvane/driver/driverFaults.h"
 
 namespace quorvane {
@@ -37,15 +38,14 @@ const DescriptionNode& DescriptionNode::child(std::int32_t childNumber) const {
 }
 
 NodeKind NodeType(std::int32_t number) {
-    constexpr NodeKind kinds[] = {NodeKind::Doc, NodeKind::Row, NodeKind::Cell, NodeKind::Para};
-    if (number < 0 || number > 3999) {
-        raise(driverError(DriverFault::WrongNodeNumber, std::to_string(number)));
+    const Dialect& dialect = originalDialect();
+    for (const NodeKind kind : nodeKinds) {
+        const auto& [start, last] = dialect.numbers[indexOf(kind)];
+        if (number >= start && number <= last) {
+            return kind;
+        }
     }
-    return kinds[number / 1000];
-}
-
-std::string valueText(const Value& value) {
-    return value.isNumber() ? numberText(value.number()) : value.text();
+    raise(driverError(DriverFault::WrongNodeNumber, std::to_string(number)));
 }
 
 }  // namespace quorvane

@@ -149,7 +149,4 @@ void forEachNode(const DescriptionNode& node, Visit visit) {
 /// para. Error `eWrongNodeType` for any other number.
 NodeKind NodeType(std::int32_t number);
 
-/// A leaf's value as text: a number in its shortest form.
-std::string valueText(const Value& value);
-
 }  // namespace quorvane

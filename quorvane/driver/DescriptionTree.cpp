@@ -23,16 +23,16 @@ DescriptionTree::DescriptionTree(std::size_t leafCount)
     : memory_(roomForFew + std::min(leafCount, maxLeavesAtOnce) * roomForALeaf) {}
 
 Leaf* DescriptionTree::addLeaf(DescriptionNode& node, const Leaf& leaf) {
-    void* const memory = memory_.allocate(sizeof(Leaf), alignof(Leaf));
-    if (leaf.key.known == DescriptionKey::Unknown) {
-        if (!leaves_.emplace(KeyOfNode{&node, leaf.key.name}, static_cast<Leaf*>(memory)).second) {
-            return nullptr;
-        }
-    } else if (contains(node.keys, leaf.key.known)) {
+    const KeyOfNode key{&node, leaf.key.name};
+    const bool isKnown = leaf.key.known != DescriptionKey::Unknown;
+    if (isKnown ? contains(node.keys, leaf.key.known) : leaves_.contains(key)) {
         return nullptr;
     }
+    auto* const added = new (memory_.allocate(sizeof(Leaf), alignof(Leaf))) Leaf(leaf);
+    if (!isKnown) {
+        leaves_.emplace(key, added);
+    }
     node.keys |= setOf(leaf.key.known);
-    auto* const added = new (memory) Leaf(leaf);
     added->next = nullptr;
     (node.lastLeaf ? node.lastLeaf->next : node.firstLeaf) = added;
     node.lastLeaf = added;

@@ -129,11 +129,12 @@ constexpr VocabularyWords::Key paraKeys[] = {
     {"para-marked-field", ParaMarkedField},
 };
 
-/// Up to four characters as one number; letters count as small ones, which no other character
-/// becomes.
-std::uint32_t inOneNumber(std::string_view name) {
-    constexpr std::uint32_t smallLetter = 0x20;
-    std::uint32_t number = 0;
+using NodeNumber = VocabularyWords::NodeNumber;
+
+/// A short text as one number; letters count as small ones, which no other character becomes.
+NodeNumber inOneNumber(std::string_view name) {
+    constexpr NodeNumber smallLetter = 0x20;
+    NodeNumber number = 0;
     for (const char character : name) {
         number = number << 8 | static_cast<unsigned char>(character) | smallLetter;
     }
@@ -160,13 +161,6 @@ std::optional<Enumeration> valueNamed(std::span<const VocabularyWords::NamedValu
         }
     }
     return std::nullopt;
-}
-
-template <class Enumeration>
-std::optional<Enumeration> valueNamed(std::span<const VocabularyWords::NamedValue> list,
-                                      const Value& name) {
-    return name.isText() ? valueNamed<Enumeration>(list, std::string_view(name.text()))
-                         : std::nullopt;
 }
 
 template <class Enumeration>
@@ -204,8 +198,11 @@ std::optional<Enumeration> namedOrNumbered(std::optional<Enumeration> named, con
 }  // namespace
 
 Vocabulary::Vocabulary(const VocabularyWords& words) : words_(words) {
-    std::transform(words.nodes.begin(), words.nodes.end(), nodeNumbers_.begin(),
+    std::transform(words.nodes.begin(), words.nodes.end(), std::back_inserter(nodeNumbers_),
                    [](const auto& node) { return inOneNumber(node.name); });
+    for (const auto& [shortForm, longForm] : words.shortForms) {
+        longestShortForm_ = std::max(longestShortForm_, shortForm.size());
+    }
     for (const NodeKind kind : nodeKinds) {
         for (const auto& [name, key] : words.keys[indexOf(kind)]) {
             keySets_[indexOf(kind)] |= setOf(key);
@@ -234,8 +231,7 @@ const LeafKey* Vocabulary::find(std::string_view word) const {
 }
 
 std::string_view Vocabulary::longForm(std::string_view word) const {
-    constexpr std::size_t longestShortForm = 3;
-    if (word.size() <= longestShortForm) {
+    if (word.size() <= longestShortForm_) {
         for (const auto& [shortForm, longForm] : words_.shortForms) {
             if (word == shortForm) {
                 return longForm;
@@ -261,11 +257,10 @@ std::string_view Vocabulary::shorten(std::string_view word) const {
 }
 
 NodeKind Vocabulary::nodeKind(std::string_view name) const {
-    constexpr std::size_t longestName = 4;
-    if (name.empty() || name.size() > longestName) {
+    if (name.empty() || name.size() > VocabularyWords::maxNodeName) {
         return NodeKind::None;
     }
-    const std::uint32_t number = inOneNumber(name);
+    const NodeNumber number = inOneNumber(name);
     for (std::size_t i = 0; i < words_.nodes.size(); ++i) {
         if (nodeNumbers_[i] == number) {
             return words_.nodes[i].kind;
@@ -279,15 +274,15 @@ bool Vocabulary::isKeyOf(NodeKind kind, std::string_view key) const {
     return known && known->name == key && contains(keySetOf(kind), known->known);
 }
 
-std::optional<tColorIndex> Vocabulary::colorNamed(const Value& name) const {
+std::optional<tColorIndex> Vocabulary::colorNamed(std::string_view name) const {
     return valueNamed<tColorIndex>(words_.colors, name);
 }
 
-std::optional<tBorderWidth> Vocabulary::borderNamed(const Value& name) const {
+std::optional<tBorderWidth> Vocabulary::borderNamed(std::string_view name) const {
     return valueNamed<tBorderWidth>(words_.borders, name);
 }
 
-std::optional<tCellAlign> Vocabulary::alignmentNamed(const Value& name) const {
+std::optional<tCellAlign> Vocabulary::alignmentNamed(std::string_view name) const {
     return valueNamed<tCellAlign>(words_.alignments, name);
 }
 

@@ -9,7 +9,6 @@
 #include <string_view>
 #include <vector>
 
-#include "quorvane/base/values/Value.h"
 #include "quorvane/docmodel/enumerations.h"
 #include "quorvane/driver/DescriptionNode.h"
 
@@ -17,6 +16,10 @@ namespace quorvane {
 
 /// What a vocabulary is made of. All texts must outlive it.
 struct VocabularyWords {
+    /// A name of a node is compared as one number.
+    using NodeNumber = std::uint32_t;
+    static constexpr std::size_t maxNodeName = sizeof(NodeNumber);
+
     struct NodeWord {
         std::string_view name;
         NodeKind kind;
@@ -34,9 +37,9 @@ struct VocabularyWords {
         std::int32_t value;
     };
 
-    /// Names of nodes, long and short, in lower case and of at most four letters.
+    /// Names of nodes, long and short, in lower case and of at most `maxNodeName` letters.
     std::span<const NodeWord> nodes;
-    /// Short forms of nodes and keys, of at most three letters.
+    /// Short forms of nodes and keys.
     std::span<const ShortForm> shortForms;
     /// The keys of each kind of node in their long forms, in the order of the kinds' codes.
     std::array<std::span<const Key>, 4> keys;
@@ -73,10 +76,10 @@ public:
     /// All keys that nodes of that kind have; `None` has no keys.
     KeySet keySetOf(NodeKind kind) const { return keySets_[indexOf(kind)]; }
 
-    /// The values that names stand for; nothing for a value that is not a name.
-    std::optional<tColorIndex> colorNamed(const Value& name) const;
-    std::optional<tBorderWidth> borderNamed(const Value& name) const;
-    std::optional<tCellAlign> alignmentNamed(const Value& name) const;
+    /// The values that names stand for; nothing for a text that is not a name.
+    std::optional<tColorIndex> colorNamed(std::string_view name) const;
+    std::optional<tBorderWidth> borderNamed(std::string_view name) const;
+    std::optional<tCellAlign> alignmentNamed(std::string_view name) const;
     /// The same for the value of a leaf.
     std::optional<tColorIndex> colorNamed(const Leaf& leaf) const;
     std::optional<tBorderWidth> borderNamed(const Leaf& leaf) const;
@@ -102,7 +105,6 @@ private:
 
     // A power of two, several times as many as there are words.
     static constexpr std::size_t slotCount = 256;
-    static constexpr std::size_t maxNodeWords = 8;
 
     static std::vector<std::string_view> namesOf(std::span<const VocabularyWords::NamedValue> list);
     void add(std::string_view word, const LeafKey& key);
@@ -114,7 +116,8 @@ private:
     std::array<Slot, slotCount> slots_{};
     std::array<KeySet, 5> keySets_{};
     // The names of nodes, each as one number.
-    std::array<std::uint32_t, maxNodeWords> nodeNumbers_{};
+    std::vector<VocabularyWords::NodeNumber> nodeNumbers_;
+    std::size_t longestShortForm_ = 0;
 };
 
 /// The words of the published language.

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "quorvane/base/values/RtfError.h"
+#include "quorvane/base/values/runTimeErrorText.h"
 #include "quorvane/driver/driverErrors.h"
 #include "quorvane/driver/driverFaults.h"
 
@@ -14,7 +15,6 @@ namespace quorvane {
 struct DriverErrorRow {
     DriverFault fault;
     std::int32_t number;
-    /// Empty for the standard text of a run-time error.
     std::string_view text;
     std::string_view source;
 };
@@ -25,6 +25,10 @@ constexpr std::int32_t errorNumber(tErrorLevel level) {
 
 constexpr std::int32_t errorNumber(RunTimeError error) {
     return static_cast<std::int32_t>(error);
+}
+
+constexpr DriverErrorRow runTimeErrorRow(DriverFault fault, RunTimeError error) {
+    return {fault, errorNumber(error), runTimeErrorText(error), {}};
 }
 
 /// Texts and sources are published, odd spellings included. In the order of the enumerators.
@@ -41,8 +45,8 @@ inline constexpr DriverErrorRow driverErrorTable[] = {
      "CRtfDriver.treeWalkerBuild"},
     {DriverFault::WrongSyntax, errorNumber(eSyntaxError), "{0} has a wrong syntax",
      "sLine is neither a recognized node nor a leaf\r\nsLeaf = {0}\r\nCRtfDriver.treeWalkerBuild"},
-    {DriverFault::DuplicateLeaf, errorNumber(RunTimeError::DuplicateKey), "", ""},
-    {DriverFault::NoDocument, errorNumber(RunTimeError::InvalidProcedureCall), "", ""},
+    runTimeErrorRow(DriverFault::DuplicateLeaf, RunTimeError::DuplicateKey),
+    runTimeErrorRow(DriverFault::NoDocument, RunTimeError::InvalidProcedureCall),
     {DriverFault::UnknownDocKey, errorNumber(eWrongKeyword), "{0} isn't a valid keyword.",
      "CRtfDriver.docWalkerSyntax"},
     {DriverFault::UnknownRowKey, errorNumber(eWrongKeyword), "{0} isn't a valid keyword.",
@@ -71,9 +75,9 @@ inline constexpr DriverErrorRow driverErrorTable[] = {
      "Value for {0} should be numeric or string.", "CRtfDriver.treeWalkerSemantic"},
     {DriverFault::WrongContext, errorNumber(eSyntaxError),
      "Invalid node declaration in this context\r\n", "CRtDriver.treeWalkerSemantic"},
-    {DriverFault::Overflow, errorNumber(RunTimeError::Overflow), "", ""},
-    {DriverFault::TakenKey, errorNumber(RunTimeError::DuplicateKey), "", ""},
-    {DriverFault::Other, errorNumber(RunTimeError::InvalidProcedureCall), "", ""},
+    runTimeErrorRow(DriverFault::Overflow, RunTimeError::Overflow),
+    runTimeErrorRow(DriverFault::TakenKey, RunTimeError::DuplicateKey),
+    runTimeErrorRow(DriverFault::Other, RunTimeError::InvalidProcedureCall),
     {DriverFault::WrongNodeKind, errorNumber(eWrongNodeType), "Can't add this type of node: {0}",
      "CRtfDriver.AddNode"},
     {DriverFault::WrongNodeNumber, errorNumber(eWrongNodeType), "{0} isn't a valid key value.",

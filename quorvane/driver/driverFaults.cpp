@@ -10,10 +10,8 @@ namespace quorvane {
 
 RtfError driverError(DriverFault fault, std::string_view argument, int line) {
     const DriverErrorRow& row = driverErrorTable[static_cast<std::size_t>(fault)];
-    RtfError error = row.text.empty()
-                         ? RtfError(static_cast<RunTimeError>(row.number))
-                         : RtfError(row.number, ReplaceString(row.text, "{0}", argument),
-                                    ReplaceString(row.source, "{0}", argument));
+    RtfError error(row.number, ReplaceString(row.text, "{0}", argument),
+                   ReplaceString(row.source, "{0}", argument));
     error.line = line;
     return error;
 }

@@ -47,7 +47,7 @@ bool beginsAsStyleSheet(std::string_view text) {
 }
 
 bool isStyleKind(const StyleItem& item) {
-    return item.keyword == "style-def" && item.known->accepts(item.value);
+    return item.is(kindKeyword) && item.known->accepts(item.value);
 }
 
 /// Between other text, as in a program, braces with a name are not enough.

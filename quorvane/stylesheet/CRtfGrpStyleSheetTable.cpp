@@ -29,7 +29,7 @@ std::string paragraphEntry(const StyleList& styles, int position) {
     words += reference(" \\sbasedon", styles, style.basedOn());
     words += reference(" \\snext", styles, style.next());
     words += " " + style.name;
-    return "{" + std::string(TrimEx(words)) + ";}";
+    return "{" + std::string(trimBlanks(words)) + ";}";
 }
 
 std::string characterEntry(const StyleList& styles, int position) {

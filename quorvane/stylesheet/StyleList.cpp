@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "quorvane/stylesheet/stylesheetSyntax.h"
 #include "quorvane/support/recordStrings.h"
 
 namespace quorvane {
@@ -18,28 +19,33 @@ std::string searchText(const Style& style) {
 }  // namespace
 
 StyleKind styleKindNamed(std::string_view word) {
-    return word == "s" ? StyleKind::Paragraph
-                       : (word == "cs" ? StyleKind::Character : StyleKind::Cell);
+    for (const StyleKind kind : {StyleKind::Paragraph, StyleKind::Character}) {
+        if (word == styleKindWords[static_cast<std::size_t>(kind)]) {
+            return kind;
+        }
+    }
+    return StyleKind::Cell;
 }
 
 std::string Style::kind() const {
-    return GetSubField(record, "d");
+    return GetSubField(record, kindKeyword.subField);
 }
 
 std::string Style::format() const {
-    return GetSubField(record, "f");
+    return GetSubField(record, formatKeyword.subField);
 }
 
 std::string Style::basedOn() const {
-    return GetSubField(record, "b");
+    return GetSubField(record, basedOnKeyword.subField);
 }
 
 std::string Style::next() const {
-    return GetSubField(record, "n");
+    return GetSubField(record, nextKeyword.subField);
 }
 
 bool Style::isAdditive() const {
-    return record.find("^ayes") != std::string::npos;
+    const std::string additive = "^" + std::string(additiveKeyword.subField) + "yes";
+    return record.find(additive) != std::string::npos;
 }
 
 void StyleList::add(std::string name, std::string record) {

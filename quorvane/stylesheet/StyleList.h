@@ -6,9 +6,9 @@
 #include <unordered_map>
 #include <vector>
 
-namespace quorvane {
+#include "quorvane/stylesheet/StyleKind.h"
 
-enum class StyleKind { Paragraph, Character, Cell };
+namespace quorvane {
 
 /// The kind that a value of "style-def" names: "s" paragraph, "cs" character, any other cell.
 StyleKind styleKindNamed(std::string_view word);

@@ -1,11 +1,11 @@
 #include "quorvane/stylesheet/stylesheetParser.h"
 
-#include <cstdint>
 #include <optional>
 #include <utility>
 
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/values/RtfError.h"
+#include "quorvane/stylesheet/styleSheetErrorTable.h"
 #include "quorvane/stylesheet/stylesheetSyntax.h"
 #include "quorvane/support/recordStrings.h"
 
@@ -13,43 +13,14 @@ namespace quorvane {
 
 namespace {
 
-constexpr std::int32_t badItemError = 445;
-constexpr std::int32_t unbalancedBracesError = 31037;
-
-[[noreturn]] void raiseBadItem(const std::string& message) {
-    raise(RtfError(badItemError, "Error while processing stylesheet.\r\n" + message));
-}
-
-[[noreturn]] void raiseBadKeyword(const std::string& keyword) {
-    raiseBadItem(keyword + " is not a valid keyword.");
-}
-
-[[noreturn]] void raiseBadValue(const std::string& value, const std::string& keyword) {
-    const std::string message = value + " is not a valid value for " + keyword;
-    if (keyword == "style-def") {
-        // The message of this keyword alone has no heading.
-        raise(RtfError(badItemError, message));
-    }
-    raiseBadItem(message);
-}
-
-void requireBalancedBraces(std::string_view text) {
-    const auto [opened, closed] = countBraces(text);
-    if (opened < closed) {
-        raise(RtfError(unbalancedBracesError,
-                       "Error in stylesheet\r\n"
-                       "Braces stack underflow: there are more } than {."));
-    }
-    if (opened > closed) {
-        raise(RtfError(unbalancedBracesError,
-                       "Error in stylesheet\r\n"
-                       "Braces stack overflow: there are more { than }"));
-    }
+[[noreturn]] void raiseFault(StyleSheetFault fault, std::string_view argument = {}) {
+    const StyleSheetErrorRow& row = styleSheetErrorRow(fault);
+    raise(RtfError(row.number, ReplaceString(row.text, "{0}", argument)));
 }
 
 std::vector<std::string> parseNames(const StyleItem& item) {
-    if (faultOfFirst(item) != StyleItemFault::None) {
-        raiseBadKeyword(item.keyword);
+    if (const auto fault = faultOfFirst(item)) {
+        raiseFault(*fault, item.keyword);
     }
     std::vector<std::string> names;
     for (const std::string_view name : styleNamesIn(item.value)) {
@@ -59,29 +30,24 @@ std::vector<std::string> parseNames(const StyleItem& item) {
 }
 
 std::string parseFormat(const std::string& value) {
-    return IsIsisFormated(value) ? subFieldContents(value, "vfp") : value;
+    return IsIsisFormated(value) ? subFieldContents(value, formatSubFields) : value;
 }
 
 // The subfield for an item other than the first.
 std::string parseSubField(const StyleItem& item) {
     const std::string value = lowerCase(item.value);
-    switch (faultOf(item, value)) {
-        case StyleItemFault::Keyword:
-            raiseBadKeyword(item.keyword);
-        case StyleItemFault::Value:
-            raiseBadValue(value, item.keyword);
-        case StyleItemFault::None:
-            break;
+    if (const auto fault = faultOf(item, value)) {
+        raiseFault(*fault, item.known ? value : item.keyword);
     }
-    return std::string{'^', item.known->subField} +
-           (item.keyword == "format" ? parseFormat(value) : value);
+    return "^" + std::string(item.known->subField) +
+           (item.is(formatKeyword) ? parseFormat(value) : value);
 }
 
 StyleDefinition parseDefinition(std::string_view body) {
     StyleItems items(body);
     const StyleItem* const first = items.next();
     if (!first) {
-        raiseBadKeyword({});
+        raiseFault(StyleSheetFault::BadKeyword);
     }
     StyleDefinition definition{parseNames(*first), {}};
     while (const StyleItem* const item = items.next()) {
@@ -93,7 +59,9 @@ StyleDefinition parseDefinition(std::string_view body) {
 }  // namespace
 
 void parseStyleSheet(std::string_view text, const std::function<void(StyleDefinition)>& file) {
-    requireBalancedBraces(text);
+    if (const auto fault = faultOf(countBraces(text))) {
+        raiseFault(*fault);
+    }
     BracedTexts definitions(text);
     while (const std::optional<BracedText> definition = definitions.next()) {
         file(parseDefinition(definition->body));

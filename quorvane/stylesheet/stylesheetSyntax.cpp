@@ -13,19 +13,13 @@ namespace {
 
 constexpr std::size_t nowhere = std::string_view::npos;
 
-constexpr std::string_view styleKindWords[] = {"s", "cs", "cell"};
-constexpr std::string_view yesAndNo[] = {"yes", "no"};
-
-constexpr StyleKeyword keywords[] = {{"style-def", 'd', styleKindWords},
-                                     {"format", 'f', {}},
-                                     {"based-on", 'b', {}},
-                                     {"next", 'n', {}},
-                                     {"additive", 'a', yesAndNo}};
+constexpr const StyleKeyword* keywords[] = {&kindKeyword, &formatKeyword, &basedOnKeyword,
+                                            &nextKeyword, &additiveKeyword};
 
 constexpr auto keywordWords = [] {
     std::array<std::string_view, std::size(keywords)> words;
     std::transform(std::begin(keywords), std::end(keywords), words.begin(),
-                   [](const StyleKeyword& keyword) { return keyword.word; });
+                   [](const StyleKeyword* keyword) { return keyword->word; });
     return words;
 }();
 
@@ -47,8 +41,8 @@ std::span<const std::string_view> styleKeywordWords() {
 const StyleKeyword* findStyleKeyword(std::string_view word) {
     const auto* const found =
         std::find_if(std::begin(keywords), std::end(keywords),
-                     [&](const StyleKeyword& keyword) { return keyword.word == word; });
-    return found == std::end(keywords) ? nullptr : found;
+                     [&](const StyleKeyword* keyword) { return keyword->word == word; });
+    return found == std::end(keywords) ? nullptr : *found;
 }
 
 StyleItem readStyleItem(std::string_view text) {
@@ -63,15 +57,18 @@ StyleItem readStyleItem(std::string_view text) {
     return item;
 }
 
-StyleItemFault faultOfFirst(const StyleItem& item) {
-    return item.keyword == nameKeyword ? StyleItemFault::None : StyleItemFault::Keyword;
+std::optional<StyleSheetFault> faultOfFirst(const StyleItem& item) {
+    return item.keyword == nameKeyword ? std::nullopt : std::optional(StyleSheetFault::BadKeyword);
 }
 
-StyleItemFault faultOf(const StyleItem& item, std::string_view lowerValue) {
+std::optional<StyleSheetFault> faultOf(const StyleItem& item, std::string_view lowerValue) {
     if (!item.known) {
-        return StyleItemFault::Keyword;
+        return StyleSheetFault::BadKeyword;
     }
-    return item.known->accepts(lowerValue) ? StyleItemFault::None : StyleItemFault::Value;
+    if (item.known->accepts(lowerValue)) {
+        return std::nullopt;
+    }
+    return item.is(kindKeyword) ? StyleSheetFault::BadStyleKind : StyleSheetFault::BadAdditive;
 }
 
 const StyleItem* StyleItems::next() {
@@ -94,6 +91,14 @@ std::vector<std::string_view> styleNamesIn(std::string_view value) {
 
 BraceCount countBraces(std::string_view text) {
     return {std::count(text.begin(), text.end(), '{'), std::count(text.begin(), text.end(), '}')};
+}
+
+std::optional<StyleSheetFault> faultOf(const BraceCount& braces) {
+    if (braces.opened == braces.closed) {
+        return std::nullopt;
+    }
+    return braces.opened < braces.closed ? StyleSheetFault::BracesUnderflow
+                                         : StyleSheetFault::BracesOverflow;
 }
 
 std::string_view findLoneBrace(std::string_view text) {

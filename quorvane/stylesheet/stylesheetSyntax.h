@@ -17,13 +17,13 @@ namespace quorvane {
 // that reads stylesheets reads them through what is declared here. All views are into the text that
 // was given, and nothing fails.
 
-/// A keyword of a stylesheet.
+/// A keyword of an item other than the first.
 struct StyleKeyword {
     std::string_view word;
     /// The code of the subfield in which a parsed definition keeps the value.
-    char subField;
+    std::string_view subField;
     /// The values that the keyword accepts, in lower case; empty when it accepts any.
-    std::span<const std::string_view> values;
+    std::span<const std::string_view> values = {};
 
     bool accepts(std::string_view value) const;
 };
@@ -31,7 +31,23 @@ struct StyleKeyword {
 /// The keyword of the first item.
 inline constexpr std::string_view nameKeyword = "name";
 
-/// The keywords of the other items.
+/// The kinds of styles in the order of `StyleKind`.
+inline constexpr std::string_view styleKindWords[] = {"s", "cs", "cell"};
+
+/// The values of a keyword that is true or false.
+inline constexpr std::string_view styleTruthWords[] = {"yes", "no"};
+
+inline constexpr StyleKeyword kindKeyword{"style-def", "d", styleKindWords};
+inline constexpr StyleKeyword formatKeyword{"format", "f"};
+inline constexpr StyleKeyword basedOnKeyword{"based-on", "b"};
+inline constexpr StyleKeyword nextKeyword{"next", "n"};
+inline constexpr StyleKeyword additiveKeyword{"additive", "a", styleTruthWords};
+
+/// The codes of the subfields of a format that is written as a record string. They are joined in
+/// this order.
+inline constexpr std::string_view formatSubFields = "vfp";
+
+/// The words of these keywords.
 std::span<const std::string_view> styleKeywordWords();
 
 /// The keyword of an item other than the first; null for any other word. Case counts.
@@ -49,18 +65,25 @@ struct StyleItem {
     std::string_view value;
 
     bool hasColon() const { return whole.size() > writtenKeyword.size(); }
+    bool is(const StyleKeyword& keywordOfItem) const { return known == &keywordOfItem; }
 };
 
 StyleItem readStyleItem(std::string_view text);
 
-/// What makes an item invalid.
-enum class StyleItemFault { None, Keyword, Value };
+/// What makes a stylesheet invalid.
+enum class StyleSheetFault {
+    BracesUnderflow,
+    BracesOverflow,
+    BadKeyword,
+    BadStyleKind,
+    BadAdditive
+};
 
-/// The fault of the first item of a definition.
-StyleItemFault faultOfFirst(const StyleItem& item);
+/// The fault of the first item of a definition; nothing when it is valid.
+std::optional<StyleSheetFault> faultOfFirst(const StyleItem& item);
 
-/// The fault of any other item. The value is given in lower case.
-StyleItemFault faultOf(const StyleItem& item, std::string_view lowerValue);
+/// The fault of any other item; nothing when it is valid. The value is given in lower case.
+std::optional<StyleSheetFault> faultOf(const StyleItem& item, std::string_view lowerValue);
 
 /// The pieces of a text between separators. An empty text is one empty piece.
 class Pieces {
@@ -110,6 +133,9 @@ struct BraceCount {
 };
 
 BraceCount countBraces(std::string_view text);
+
+/// The fault of a stylesheet with these braces; nothing when there are as many "{" as "}".
+std::optional<StyleSheetFault> faultOf(const BraceCount& braces);
 
 /// The first brace that is not one of a pair: a "}" with no "{" open, or a "{" that another "{"
 /// follows before any "}". Empty when the braces alternate, each "{" followed by its "}".

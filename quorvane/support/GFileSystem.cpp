@@ -93,7 +93,7 @@ std::string loadStringFromFile(Files& files, const std::string& path) {
 }
 
 std::string getPathTail(std::string_view path, std::string_view separator, bool takeAfter) {
-    path = TrimEx(path);
+    path = trimBlanks(path);
     if (path.ends_with('\\')) {
         path.remove_suffix(1);
     }

@@ -4,6 +4,7 @@
 
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/textSearch.h"
+#include "quorvane/base/text/trimming.h"
 #include "quorvane/base/text/utf8.h"
 
 namespace quorvane {
@@ -93,10 +94,14 @@ bool AllSubFieldsEmpty(std::string_view text) {
         return false;
     }
     std::optional<SubFieldView> field = findSubField(text);
-    while (field && TrimEx(field->content).empty()) {
+    while (field && trimBlanks(field->content).empty()) {
         field = findSubField(text, field->position + 1);
     }
     return !field;
+}
+
+std::string_view TrimEx(std::string_view text) {
+    return trimBlanks(text);
 }
 
 std::string GetValue(std::string_view text, std::string_view separator) {
@@ -104,7 +109,7 @@ std::string GetValue(std::string_view text, std::string_view separator) {
     if (found == std::string_view::npos) {
         return {};
     }
-    return std::string(TrimEx(text.substr(found + separator.size())));
+    return std::string(trimBlanks(text.substr(found + separator.size())));
 }
 
 std::vector<std::string> Parse(std::string_view text, std::string_view delimiter) {

@@ -6,7 +6,6 @@
 #include <string_view>
 #include <vector>
 
-#include "quorvane/base/text/trimming.h"
 #include "quorvane/support/SourceLine.h"
 
 namespace quorvane {
@@ -45,6 +44,9 @@ std::string subFieldContents(std::string_view text, std::string_view codes);
 /// True when the text is empty, or is formatted and every content is empty but for blanks.
 bool AllSubFieldsEmpty(std::string_view text);
 
+/// The text without the blanks (0x20, nothing else) at its ends.
+std::string_view TrimEx(std::string_view text);
+
 /// What stands after the first separator, without blanks at its ends; empty when the text holds no
 /// separator or the separator is empty.
 std::string GetValue(std::string_view text, std::string_view separator);
@@ -58,7 +60,7 @@ std::vector<std::string> Parse(std::string_view text, std::string_view delimiter
 std::string ReplaceString(std::string_view text, std::string_view search,
                           std::string_view replacement);
 
-/// The lines that say something, as views of the text: without the blanks and tabs at their ends,
+/// The lines with content, as views of the text: without the blanks and tabs at their ends,
 /// without empty lines and without those whose first character is ";". Lines end with CR LF, LF or
 /// CR.
 std::vector<SourceLine> PreProcessRawData(std::string_view text);

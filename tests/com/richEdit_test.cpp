@@ -19,9 +19,18 @@
 
 #include "quorvane/base/text/codePage1252.h"
 #include "quorvane/base/text/utf16.h"
+#include "quorvane/base/text/utf8.h"
 #include "quorvane/diagnostics/engine/Diagnostic.h"
 #include "quorvane/diagnostics/rtf/RtfCheck.h"
+#include "quorvane/docmodel/CRtfDoc.h"
+#include "quorvane/docmodel/CRtfParagraph.h"
+#include "quorvane/docmodel/CRtfParagraphs.h"
+#include "quorvane/docmodel/CRtfTableCell.h"
+#include "quorvane/docmodel/CRtfTableCells.h"
+#include "quorvane/docmodel/CRtfTableRow.h"
+#include "quorvane/docmodel/CRtfTableRows.h"
 #include "quorvane/driver/CRtfDriver.h"
+#include "quorvane/rtf/escape.h"
 #include "tests/com/richEdit/RichEdit.h"
 
 namespace quorvane::host {
@@ -249,6 +258,48 @@ TEST(RichEditAsAWriter, MakesNoErrorThatTheCheckFinds) {
             EXPECT_NE(rtf.find(part), std::string::npos) << part << " is not in " << rtf;
         }
         EXPECT_EQ(errorsIn(rtf), "") << rtf;
+    }
+}
+
+/// A document with one cell that shows the text.
+std::string documentOf(const std::string& text) {
+    const Ref<CRtfDoc> document = CRtfDoc::create();
+    document->TableRows()->AddTail();
+    const Ref<CRtfTableCells> cells = document->TableRows()->PeekTail()->TableCells();
+    cells->AddTail();
+    const Ref<CRtfParagraphs> paragraphs = cells->PeekTail()->Paragraphs();
+    paragraphs->AddTail();
+    paragraphs->PeekTail()->setText(rtfText(text));
+    document->Refresh();
+    return codePage1252FromUtf8(document->Contents());
+}
+
+/// The characters of a block of 256 that a document can show.
+std::string charactersOf(char32_t first) {
+    std::string text;
+    for (char32_t code = first; code < first + 0x100; ++code) {
+        const bool isControl = code < 0x20 || (code >= 0x7F && code < 0xA0);
+        const bool isNoncharacter = (code & 0xFFFE) == 0xFFFE || (code >= 0xFDD0 && code < 0xFDF0);
+        if (!isControl && !isNoncharacter) {
+            appendUtf8(code, text);
+        }
+    }
+    return text;
+}
+
+TEST(RichEditAsAReader, ShowsEscapedTextsExactly) {
+    std::vector<std::string> texts{"C:\\{x} <strong=a> \\u1234 \\'41", "a  b   c", "1\t2\t\t3"};
+    for (char32_t first = 0; first < 0x10FF00; first += first < 0x10000 ? 0x100 : 0x3700) {
+        if (first < 0xD800 || first >= 0xE000) {
+            texts.push_back(charactersOf(first));
+        }
+    }
+    const RichEdit control;
+    for (const std::string& text : texts) {
+        ASSERT_EQ(control.read(documentOf(text)), 0u);
+        const std::wstring expected = utf16FromUtf8<wchar_t>(text);
+        EXPECT_NE(control.text().find(expected), std::wstring::npos)
+            << utf8FromUtf16<wchar_t>(control.text()).substr(0, 200);
     }
 }
 

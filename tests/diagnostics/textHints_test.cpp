@@ -16,7 +16,7 @@ namespace {
 
 TEST(BorderHints, NameTheBorderOfAWidth) {
     const auto meant = [](std::string_view value) {
-        const std::string hint = borderValueHint(value).text;
+        const std::string hint = borderValueHint(value, originalVocabulary()).text;
         const std::size_t at = hint.find("did you mean ");
         return at == std::string::npos ? hint : hint.substr(at + 13);
     };

@@ -35,8 +35,8 @@ std::string_view leafValue(std::string_view line) {
     return taken(line).value;
 }
 
-bool isComment(std::string_view text) {
-    return isComment(text, originalDialect());
+bool isEmptyOrComment(std::string_view text) {
+    return isEmptyOrComment(text, originalDialect());
 }
 
 void expectNothing(std::initializer_list<const char*> lines) {
@@ -48,17 +48,27 @@ void expectNothing(std::initializer_list<const char*> lines) {
 }
 
 TEST(DescriptionLine, KnowsACommentByItsFirstCharacter) {
-    EXPECT_TRUE(isComment(";"));
-    EXPECT_TRUE(isComment("; first row"));
-    EXPECT_TRUE(isComment("  ;"));
-    EXPECT_TRUE(isComment(" \t; (r"));
+    EXPECT_TRUE(isEmptyOrComment(";"));
+    EXPECT_TRUE(isEmptyOrComment("; first row"));
+    EXPECT_TRUE(isEmptyOrComment("  ;"));
+    EXPECT_TRUE(isEmptyOrComment(" \t; (r"));
+}
+
+TEST(DescriptionLine, IsEmptyWithNothingButBlanks) {
+    EXPECT_TRUE(isEmptyOrComment(""));
+    EXPECT_TRUE(isEmptyOrComment(" \t"));
+}
+
+TEST(DescriptionLine, HasAHeadUpToTheFirstBlankOrComment) {
+    EXPECT_EQ(headOf("(row ; first", originalDialect()), "(row");
+    EXPECT_EQ(headOf("row);first", originalDialect()), "row)");
+    EXPECT_EQ(headOf("(pt\t=x)", originalDialect()), "(pt");
+    EXPECT_EQ(headOf("", originalDialect()), "");
 }
 
 TEST(DescriptionLine, KnowsNoOtherComment) {
-    EXPECT_FALSE(isComment(""));
-    EXPECT_FALSE(isComment("  "));
-    EXPECT_FALSE(isComment("x ; y"));
-    EXPECT_FALSE(isComment("(r ; y"));
+    EXPECT_FALSE(isEmptyOrComment("x ; y"));
+    EXPECT_FALSE(isEmptyOrComment("(r ; y"));
 }
 
 TEST(DescriptionLine, KnowsTheOpenerOfEveryNode) {

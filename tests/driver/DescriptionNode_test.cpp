@@ -47,16 +47,20 @@ TEST(DescriptionNode, NestsRowInDocCellInRowAndParaInCellOnly) {
                                      std::pair(NodeKind::Doc, NodeKind::Row)));
 }
 
-TEST(DescriptionNode, WritesANumberInItsShortestForm) {
-    EXPECT_EQ(valueText(12.0), "12");
-    EXPECT_EQ(valueText(1.5), "1.5");
-    EXPECT_EQ(valueText(-0.0), "0");
-    EXPECT_EQ(valueText(1001), "1001");
+std::string textOfNumber(double number) {
+    return Leaf{.number = number, .kind = LeafKind::Number}.valueText();
 }
 
-TEST(DescriptionNode, WritesATextAsItIs) {
-    EXPECT_EQ(valueText("0012"), "0012");
-    EXPECT_EQ(valueText(""), "");
+TEST(Leaf, WritesANumberInItsShortestForm) {
+    EXPECT_EQ(textOfNumber(12.0), "12");
+    EXPECT_EQ(textOfNumber(1.5), "1.5");
+    EXPECT_EQ(textOfNumber(-0.0), "0");
+    EXPECT_EQ(textOfNumber(1001), "1001");
+}
+
+TEST(Leaf, WritesATextAsItIs) {
+    EXPECT_EQ(Leaf{.text = "0012"}.valueText(), "0012");
+    EXPECT_EQ(Leaf{}.valueText(), "");
 }
 
 }  // namespace

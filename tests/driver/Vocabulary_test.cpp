@@ -273,12 +273,20 @@ TEST(Vocabulary, HasNoNamesForTheColorsFrom38) {
     }
 }
 
+Leaf leafOf(std::string_view key, std::string_view text) {
+    return {.key = vocabulary.leafKey(key), .text = text};
+}
+
+Leaf numberLeafOf(std::string_view key, double number) {
+    return {.key = vocabulary.leafKey(key), .number = number, .kind = LeafKind::Number};
+}
+
 TEST(Vocabulary, RefusesOtherWordsAndNumbersForColors) {
-    for (const Value& value :
-         {Value("crimson"), Value(""), Value("light yellow"), Value("lightyellow"), Value(" red"),
-          Value("30"), Value(30), Value(30.0), Value(true), Value(Empty{})}) {
-        EXPECT_EQ(vocabulary.colorNamed(value), std::nullopt);
+    for (const char* word : {"crimson", "", "light yellow", "lightyellow", " red", "30"}) {
+        EXPECT_EQ(vocabulary.colorNamed(word), std::nullopt) << word;
+        EXPECT_EQ(vocabulary.colorNamed(leafOf("rb", word)), std::nullopt) << word;
     }
+    EXPECT_EQ(vocabulary.colorNamed(numberLeafOf("rb", 30)), std::nullopt);
 }
 
 TEST(Vocabulary, KnowsTheNamesOfTheBorders) {
@@ -297,9 +305,12 @@ TEST(Vocabulary, KnowsTheNamesOfBordersInAnyCase) {
 }
 
 TEST(Vocabulary, RefusesOtherWordsAndNumbersForBorders) {
-    for (const Value& value : {Value("medium"), Value(""), Value("10"), Value(10), Value(-1.0)}) {
-        EXPECT_EQ(vocabulary.borderNamed(value), std::nullopt);
+    for (const char* word : {"medium", "", "10"}) {
+        EXPECT_EQ(vocabulary.borderNamed(word), std::nullopt) << word;
+        EXPECT_EQ(vocabulary.borderNamed(leafOf("rtb", word)), std::nullopt) << word;
     }
+    EXPECT_EQ(vocabulary.borderNamed(numberLeafOf("rtb", 10)), std::nullopt);
+    EXPECT_EQ(vocabulary.borderNamed(numberLeafOf("rtb", -1)), std::nullopt);
 }
 
 TEST(Vocabulary, KnowsTheNamesOfTheAlignments) {
@@ -318,17 +329,12 @@ TEST(Vocabulary, KnowsTheNamesOfAlignmentsInAnyCase) {
 }
 
 TEST(Vocabulary, RefusesOtherWordsAndNumbersForAlignments) {
-    for (const Value& value : {Value("center"), Value(""), Value("3"), Value(3), Value(0.0)}) {
-        EXPECT_EQ(vocabulary.alignmentNamed(value), std::nullopt);
+    for (const char* word : {"center", "", "3"}) {
+        EXPECT_EQ(vocabulary.alignmentNamed(word), std::nullopt) << word;
+        EXPECT_EQ(vocabulary.alignmentNamed(leafOf("ca", word)), std::nullopt) << word;
     }
-}
-
-Leaf leafOf(std::string_view key, std::string_view text) {
-    return {.key = vocabulary.leafKey(key), .text = text};
-}
-
-Leaf numberLeafOf(std::string_view key, double number) {
-    return {.key = vocabulary.leafKey(key), .number = number, .kind = LeafKind::Number};
+    EXPECT_EQ(vocabulary.alignmentNamed(numberLeafOf("ca", 3)), std::nullopt);
+    EXPECT_EQ(vocabulary.alignmentNamed(numberLeafOf("ca", 0)), std::nullopt);
 }
 
 TEST(Vocabulary, HasTheValuesThatNamesAndNumbersOfLeavesSet) {

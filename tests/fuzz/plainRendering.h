@@ -15,7 +15,7 @@
 #include "quorvane/diagnostics/KnownStyles.h"
 #include "quorvane/diagnostics/description/DescriptionCheck.h"
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
-#include "quorvane/diagnostics/engine/ignoreComments.h"
+#include "quorvane/diagnostics/engine/withoutIgnored.h"
 #include "quorvane/diagnostics/languageOf.h"
 #include "quorvane/diagnostics/stylesheet/StyleSheetCheck.h"
 #include "quorvane/diagnostics/textFile.h"

@@ -69,28 +69,34 @@ TEST(StyleItems, LeaveOutAnEmptyLastItemOnly) {
     EXPECT_THAT(itemsOf(" \r\n"), IsEmpty());
 }
 
-TEST(StyleItemFaults, OfTheFirstItemAreKeywordsOtherThanName) {
-    EXPECT_EQ(faultOfFirst(readStyleItem("NAME")), StyleItemFault::None);
-    EXPECT_EQ(faultOfFirst(readStyleItem("format: \\b")), StyleItemFault::Keyword);
+TEST(StyleSheetFaults, OfTheFirstItemAreKeywordsOtherThanName) {
+    EXPECT_EQ(faultOfFirst(readStyleItem("NAME")), std::nullopt);
+    EXPECT_EQ(faultOfFirst(readStyleItem("format: \\b")), StyleSheetFault::BadKeyword);
 }
 
-StyleItemFault faultIn(std::string_view text) {
+std::optional<StyleSheetFault> faultIn(std::string_view text) {
     const StyleItem item = readStyleItem(text);
     return faultOf(item, item.value);
 }
 
-TEST(StyleItemFaults, AreUnknownKeywords) {
-    EXPECT_EQ(faultIn("name: a"), StyleItemFault::Keyword);
-    EXPECT_EQ(faultIn(""), StyleItemFault::Keyword);
-    EXPECT_EQ(faultIn("Based-On"), StyleItemFault::None);
+TEST(StyleSheetFaults, AreUnknownKeywords) {
+    EXPECT_EQ(faultIn("name: a"), StyleSheetFault::BadKeyword);
+    EXPECT_EQ(faultIn(""), StyleSheetFault::BadKeyword);
+    EXPECT_EQ(faultIn("Based-On"), std::nullopt);
 }
 
-TEST(StyleItemFaults, AreValuesThatAKeywordDoesNotAccept) {
-    EXPECT_EQ(faultIn("style-def: cs"), StyleItemFault::None);
-    EXPECT_EQ(faultIn("style-def: c"), StyleItemFault::Value);
-    EXPECT_EQ(faultIn("additive: yes"), StyleItemFault::None);
-    EXPECT_EQ(faultIn("additive"), StyleItemFault::Value);
-    EXPECT_EQ(faultIn("next: anything"), StyleItemFault::None);
+TEST(StyleSheetFaults, AreValuesThatAKeywordDoesNotAccept) {
+    EXPECT_EQ(faultIn("style-def: cs"), std::nullopt);
+    EXPECT_EQ(faultIn("style-def: c"), StyleSheetFault::BadStyleKind);
+    EXPECT_EQ(faultIn("additive: yes"), std::nullopt);
+    EXPECT_EQ(faultIn("additive"), StyleSheetFault::BadAdditive);
+    EXPECT_EQ(faultIn("next: anything"), std::nullopt);
+}
+
+TEST(StyleSheetFaults, AreMoreBracesOfOneDirection) {
+    EXPECT_EQ(faultOf(countBraces("}{")), std::nullopt);
+    EXPECT_EQ(faultOf(countBraces("{}}")), StyleSheetFault::BracesUnderflow);
+    EXPECT_EQ(faultOf(countBraces("{{}")), StyleSheetFault::BracesOverflow);
 }
 
 TEST(StyleNames, AreSeparatedByCommasAndKeepTheirCase) {

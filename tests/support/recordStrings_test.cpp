@@ -10,6 +10,12 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+TEST(TrimEx, TakesBlanksFromBothEnds) {
+    EXPECT_EQ(TrimEx("  a b "), "a b");
+    EXPECT_EQ(TrimEx(" \ta\r\n "), "\ta\r\n");
+    EXPECT_EQ(TrimEx("   "), "");
+}
+
 TEST(IsIsisFormated, HoldsForATextThatBeginsWithASubfield) {
     EXPECT_TRUE(IsIsisFormated("^aSmith^bJohn"));
     EXPECT_TRUE(IsIsisFormated("^a"));

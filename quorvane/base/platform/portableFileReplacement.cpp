@@ -9,16 +9,12 @@
 #include "quorvane/base/platform/fileReplacement.h"
 #include "quorvane/base/platform/followLinks.h"
 #include "quorvane/base/platform/portableDescriptorFile.h"
+#include "quorvane/base/platform/portablePath.h"
 #include "quorvane/base/platform/portableSystemError.h"
 
 namespace quorvane {
 
 namespace {
-
-std::string folderOf(const std::string& path) {
-    const std::size_t slash = path.rfind('/');
-    return slash == std::string::npos ? "./" : path.substr(0, slash + 1);
-}
 
 /// A new file beside another.
 class UnfinishedFile {
@@ -29,8 +25,8 @@ public:
         int descriptor = -1;
         const EndHeld held(watch_);
         for (int number = 1; descriptor == -1; ++number) {
-            path_ = prefix + std::to_string(number) + ".tmp";
-            descriptor = openDescriptor(path_, O_WRONLY | O_CREAT | O_EXCL);
+            own_.path = prefix + std::to_string(number) + ".tmp";
+            descriptor = openDescriptor(own_.path.native(), O_WRONLY | O_CREAT | O_EXCL);
             if (descriptor == -1 && errno == ENOENT) {
                 raiseSystemError(RunTimeError::PathNotFound, ENOENT);
             }
@@ -39,15 +35,15 @@ public:
             }
         }
         file_.emplace(descriptor);
-        watch_.begin(path_);
+        watch_.begin(own_);
     }
     UnfinishedFile(const UnfinishedFile&) = delete;
     UnfinishedFile& operator=(const UnfinishedFile&) = delete;
     ~UnfinishedFile() {
-        if (!path_.empty()) {
+        if (isThere_) {
             const EndHeld held(watch_);
-            ::unlink(path_.c_str());
-            watch_.end();
+            ::unlink(own_.path.c_str());
+            watch_.end(own_);
         }
     }
 
@@ -55,16 +51,17 @@ public:
 
     void moveTo(const std::string& target) {
         const EndHeld held(watch_);
-        if (::rename(path_.c_str(), target.c_str()) == -1) {
+        if (::rename(own_.path.c_str(), target.c_str()) == -1) {
             raiseSystemError(errno);
         }
-        path_.clear();
-        watch_.end();
+        isThere_ = false;
+        watch_.end(own_);
     }
 
 private:
     UnfinishedFileWatch& watch_;
-    std::string path_;
+    UnfinishedPath own_;
+    bool isThere_ = true;
     std::optional<DescriptorFile> file_;
 };
 
@@ -90,18 +87,6 @@ private:
     UnfinishedFile unfinished_;
 };
 
-/// What a path leads to, past all links; nothing when nothing is there.
-std::optional<struct stat> statusOf(const std::string& path) {
-    struct stat status {};
-    if (::stat(path.c_str(), &status) == 0) {
-        return status;
-    }
-    if (errno != ENOENT) {
-        raiseSystemError(errno);
-    }
-    return std::nullopt;
-}
-
 }  // namespace
 
 std::unique_ptr<OutputFile> openReplacement(const std::string& path, UnfinishedFileWatch& watch) {
@@ -110,6 +95,9 @@ std::unique_ptr<OutputFile> openReplacement(const std::string& path, UnfinishedF
         return std::make_unique<ReplacementFile>(path, std::nullopt, watch);
     }
     const std::optional<struct stat> status = statusOf(path);
+    if (!status && errno != ENOENT) {
+        raiseSystemError(errno);
+    }
     if (!status) {
         return std::make_unique<ReplacementFile>(followLinks(path).native(), std::nullopt, watch);
     }

@@ -16,6 +16,7 @@
 #include "quorvane/base/platform/errnoToRunTimeError.h"
 #include "quorvane/base/platform/fileReplacement.h"
 #include "quorvane/base/platform/portableDescriptorFile.h"
+#include "quorvane/base/platform/portablePath.h"
 #include "quorvane/base/platform/portableSystemError.h"
 #include "quorvane/base/text/fileNamePattern.h"
 
@@ -25,21 +26,6 @@ namespace {
 
 constexpr int productNameResource = 8700;
 constexpr std::size_t bufferForUnknownSize = std::size_t{64} * 1024;
-
-/// What a path leads to, past all links, if it leads anywhere.
-std::optional<struct stat> statusOf(const std::string& path) {
-    struct stat status {};
-    if (::stat(path.c_str(), &status) == -1) {
-        return std::nullopt;
-    }
-    return status;
-}
-
-/// The folder part of a path with its "/", or the current folder.
-std::string folderOf(const std::string& path) {
-    const std::size_t slash = path.rfind('/');
-    return slash == std::string::npos ? "./" : path.substr(0, slash + 1);
-}
 
 /// The system would read such a path only up to the NUL, and so find another file than the one that
 /// is asked for.
@@ -60,8 +46,8 @@ void throwUnlessUsable(std::string_view path) {
     raiseSystemError(code);
 }
 
-/// What the system says of a path that leads to no file. Of any other failure it is not known, and
-/// a file that may be there is not one to write over.
+/// True for the errors that mean that a path leads to no file. After any other one a file may be
+/// there, which must not be written over.
 bool meansAbsence(int code) {
     return code == ENOENT || code == ENOTDIR || code == EACCES || code == ENAMETOOLONG ||
            code == ELOOP;

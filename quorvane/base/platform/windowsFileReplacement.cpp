@@ -30,8 +30,8 @@ public:
         const EndHeld held(watch_);
         HANDLE handle = INVALID_HANDLE_VALUE;
         for (int number = 1; handle == INVALID_HANDLE_VALUE; ++number) {
-            path_ = prefix + std::to_wstring(number) + L".tmp";
-            handle = CreateFileW(path_.c_str(), GENERIC_WRITE, shareAll, nullptr, CREATE_NEW,
+            own_.path = prefix + std::to_wstring(number) + L".tmp";
+            handle = CreateFileW(own_.path.c_str(), GENERIC_WRITE, shareAll, nullptr, CREATE_NEW,
                                  FILE_ATTRIBUTE_NORMAL, nullptr);
             const DWORD code = GetLastError();
             if (handle == INVALID_HANDLE_VALUE && code != ERROR_FILE_EXISTS) {
@@ -39,16 +39,16 @@ public:
             }
         }
         file_.emplace(handle);
-        watch_.begin(path_);
+        watch_.begin(own_);
     }
     UnfinishedFile(const UnfinishedFile&) = delete;
     UnfinishedFile& operator=(const UnfinishedFile&) = delete;
     ~UnfinishedFile() {
-        if (!path_.empty()) {
+        if (isThere_) {
             file_.reset();
             const EndHeld held(watch_);
-            DeleteFileW(path_.c_str());
-            watch_.end();
+            DeleteFileW(own_.path.c_str());
+            watch_.end(own_);
         }
     }
 
@@ -57,20 +57,21 @@ public:
     void moveTo(const std::wstring& target) {
         const EndHeld held(watch_);
         // Replacing keeps the rights and the attributes of the file that is there.
-        const bool isMoved = ReplaceFileW(target.c_str(), path_.c_str(), nullptr,
+        const bool isMoved = ReplaceFileW(target.c_str(), own_.path.c_str(), nullptr,
                                           REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr) ||
                              (GetLastError() == ERROR_FILE_NOT_FOUND &&
-                              MoveFileExW(path_.c_str(), target.c_str(), 0));
+                              MoveFileExW(own_.path.c_str(), target.c_str(), 0));
         if (!isMoved) {
             raiseSystemError(GetLastError());
         }
-        path_.clear();
-        watch_.end();
+        isThere_ = false;
+        watch_.end(own_);
     }
 
 private:
     UnfinishedFileWatch& watch_;
-    std::wstring path_;
+    UnfinishedPath own_;
+    bool isThere_ = true;
     std::optional<HandleFile> file_;
 };
 

@@ -32,7 +32,7 @@ constexpr bool isWhitespace(char character) {
 }
 
 /// The text without the blanks (0x20, nothing else) at its ends.
-inline std::string_view TrimEx(std::string_view text) {
+inline std::string_view trimBlanks(std::string_view text) {
     return trimWhile(text, [](char character) { return character == ' '; });
 }
 

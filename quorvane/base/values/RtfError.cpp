@@ -1,54 +1,17 @@
 #include "quorvane/base/values/RtfError.h"
 
+#include <string>
 #include <utility>
 
+#include "quorvane/base/values/runTimeErrorText.h"
+
 namespace quorvane {
-
-namespace {
-
-const char* standardDescription(RunTimeError number) {
-    switch (number) {
-        case RunTimeError::InvalidProcedureCall:
-            return "Invalid procedure call or argument";
-        case RunTimeError::Overflow:
-            return "Overflow";
-        case RunTimeError::SubscriptOutOfRange:
-            return "Subscript out of range";
-        case RunTimeError::DivisionByZero:
-            return "Division by zero";
-        case RunTimeError::TypeMismatch:
-            return "Type mismatch";
-        case RunTimeError::FileNotFound:
-            return "File not found";
-        case RunTimeError::DeviceIoError:
-            return "Device I/O error";
-        case RunTimeError::DiskFull:
-            return "Disk full";
-        case RunTimeError::TooManyFiles:
-            return "Too many files";
-        case RunTimeError::PermissionDenied:
-            return "Permission denied";
-        case RunTimeError::PathFileAccessError:
-            return "Path/File access error";
-        case RunTimeError::PathNotFound:
-            return "Path not found";
-        case RunTimeError::ObjectNotSet:
-            return "Object variable or With block variable not set";
-        case RunTimeError::CannotCreateObject:
-            return "ActiveX component can't create object";
-        case RunTimeError::DuplicateKey:
-            return "This key is already associated with an element of this collection";
-    }
-    return "";
-}
-
-}  // namespace
 
 RtfError::RtfError(std::int32_t number_, std::string description_, std::string source_)
     : number(number_), description(std::move(description_)), source(std::move(source_)) {}
 
 RtfError::RtfError(RunTimeError number_)
-    : RtfError(static_cast<std::int32_t>(number_), standardDescription(number_)) {}
+    : RtfError(static_cast<std::int32_t>(number_), std::string(runTimeErrorText(number_))) {}
 
 void raise(RtfError error) {
     throw error;

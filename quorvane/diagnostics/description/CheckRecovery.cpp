@@ -13,11 +13,6 @@ namespace quorvane {
 
 namespace {
 
-/// An opener as it is written, without the comment after it.
-std::string_view openerIn(std::string_view line) {
-    return line.substr(0, line.find_first_of(" \t;"));
-}
-
 /// Names the openers that are missing before a line that opens a node in one that holds no such
 /// nodes; empty where it is the closers that are missing.
 std::string missingOpenerHint(NodeKind parent, NodeKind kind, std::string_view opener) {
@@ -35,17 +30,17 @@ std::string missingOpenerHint(NodeKind parent, NodeKind kind, std::string_view o
                : std::string();
 }
 
-bool isLoneParenthesis(std::string_view line) {
-    return trimWhitespace(line.substr(0, line.find(';'))) == ")";
+bool isLoneCloseMark(std::string_view line, const Dialect& dialect) {
+    return line.starts_with(dialect.marks.close) && isEmptyOrComment(line.substr(1), dialect);
 }
 
 /// A closer of which only the ")" is there.
-SyntaxGuess loneCloser(const DescriptionNode& open) {
+SyntaxGuess loneCloser(const DescriptionNode& open, const Dialect& dialect) {
     SyntaxGuess guess;
     if (!open.opener.empty()) {
         guess.meant.line.type = LineType::Closer;
         guess.meant.line.kind = open.kind;
-        guess.hint = "did you mean " + std::string(openerIn(open.opener).substr(1)) + ")?";
+        guess.hint = "did you mean " + std::string(headOf(open.opener, dialect).substr(1)) + ")?";
     }
     return guess;
 }
@@ -92,9 +87,9 @@ std::string CheckRecovery::tooManyHint(NodeKind kind) const {
 }
 
 MeantLine CheckRecovery::unreadable(const Violation& violation, const DescriptionNode& open) {
-    SyntaxGuess guess = isLoneParenthesis(violation.part)
-                            ? loneCloser(open)
-                            : guessLine(violation.part, dialect_.vocabulary);
+    SyntaxGuess guess = isLoneCloseMark(violation.part, dialect_)
+                            ? loneCloser(open, dialect_)
+                            : guessLine(violation.part, dialect_);
     engine_.reportText(DiagnosticId::WrongSyntax, source_.placeOf(violation.part),
                        violation.error.description, std::move(guess.hint));
     return guess.meant;
@@ -102,7 +97,7 @@ MeantLine CheckRecovery::unreadable(const Violation& violation, const Descriptio
 
 void CheckRecovery::closedByOpener(const SourceLine& line, NodeKind opened,
                                    const DescriptionNode& closed, bool isOpened) {
-    const std::string_view opener = openerIn(line.text);
+    const std::string_view opener = headOf(line.text, dialect_);
     missingOpener_ = missingOpenerHint(closed.kind, opened, opener);
     if (isOpened) {
         engine_.report(DiagnosticId::ClosedByOpener, source_.placeOf(line.text),

@@ -21,9 +21,6 @@ public:
     /// Sets the lines that the parser reads. They must outlive its reading.
     void setLines(const std::vector<SourceLine>& lines) { lines_ = &lines; }
 
-    /// True when the parser came across the document.
-    bool hasDocument() const { return hasDocument_; }
-
     void violation(const Violation& violation) override;
     MeantLine unreadable(const Violation& violation, const DescriptionNode& open) override;
     void closedByOpener(const SourceLine& line, NodeKind opened, const DescriptionNode& closed,
@@ -41,8 +38,8 @@ private:
     const Dialect& dialect_;
     DiagnosticEngine& engine_;
     const std::vector<SourceLine>* lines_ = nullptr;
-    // The hint for an opener that could not stand where it is, as the ones are missing in which it
-    // could.
+    // The hint for an opener in a node that cannot hold it, when the openers of the nodes between
+    // them are missing.
     std::string missingOpener_;
     bool hasDocument_ = false;
     bool isOutsideReported_ = false;

@@ -88,7 +88,7 @@ private:
         }
         std::string_view& first = lines.front().text;
         first = trimWhitespace(afterByteOrderMark(first));
-        if (first.empty() || isComment(first, dialect_)) {
+        if (isEmptyOrComment(first, dialect_)) {
             lines.erase(lines.begin());
         }
     }

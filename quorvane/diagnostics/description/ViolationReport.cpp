@@ -173,7 +173,7 @@ Hint ViolationReport::hintFor(const Violation& violation) const {
             return hintOr(colorValueHint(leaf.valueText(), vocabulary_),
                           nameHint(leaf.valueText(), vocabulary_.colorNames(), "color"));
         case DiagnosticId::WrongBorder:
-            return hintOr(borderValueHint(leaf.valueText()),
+            return hintOr(borderValueHint(leaf.valueText(), vocabulary_),
                           nameHint(leaf.valueText(), vocabulary_.borderNames(), "border"));
         case DiagnosticId::WrongAlignment:
             return nameHint(leaf.valueText(), vocabulary_.alignmentNames(), "alignment");

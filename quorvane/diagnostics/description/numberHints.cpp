@@ -1,6 +1,5 @@
 #include "quorvane/diagnostics/description/numberHints.h"
 
-#include <array>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
@@ -10,7 +9,7 @@
 
 #include "quorvane/base/text/numberText.h"
 #include "quorvane/base/text/textCase.h"
-#include "quorvane/base/text/trimming.h"
+#include "quorvane/base/values/units.h"
 #include "quorvane/diagnostics/description/measureHints.h"
 
 namespace quorvane {
@@ -19,34 +18,6 @@ namespace {
 
 constexpr std::size_t nowhere = std::string_view::npos;
 
-struct Unit {
-    std::string_view name;
-    double twips;
-};
-
-constexpr std::array<Unit, 11> units{{
-    {"mm", 1440 / 25.4},
-    {"cm", 1440 / 2.54},
-    {"in", 1440},
-    {"inch", 1440},
-    {"inches", 1440},
-    {"\"", 1440},
-    {"pt", 20},
-    {"pc", 240},
-    {"tw", 1},
-    {"twip", 1},
-    {"twips", 1},
-}};
-
-const Unit* unitNamed(std::string_view name) {
-    for (const Unit& unit : units) {
-        if (unit.name == name) {
-            return &unit;
-        }
-    }
-    return nullptr;
-}
-
 /// True for the measures of the page.
 bool isInTwips(std::string_view key) {
     return key.starts_with("paper-") || key.ends_with("-margin");
@@ -54,7 +25,8 @@ bool isInTwips(std::string_view key) {
 
 std::string acceptedNumber(std::string_view key) {
     if (isInTwips(key)) {
-        return "write a number of twips: an inch is 1440, a centimeter 567";
+        return "write a number of twips: an inch is " + numberText(inchUnit.twips) +
+               ", a centimeter " + numberText(std::round(centimeterUnit.twips));
     }
     return key == "cell-width" ? "write a percentage of the width between the margins, without a %"
                                : "write a number";
@@ -84,15 +56,17 @@ Hint withoutComma(std::string_view key, std::string_view value) {
                : Hint("write a point instead of the comma: " + withPoint, withPoint);
 }
 
-Hint lengthHint(std::string_view key, double number, const Unit& unit, std::string_view value) {
+Hint lengthHint(std::string_view key, double number, const LengthUnit& unit,
+                std::string_view value) {
     constexpr double max = std::numeric_limits<std::int32_t>::max();
-    const double twips = unit.twips == 1 ? number : std::round(number * unit.twips);
+    const bool isInTwipsAlready = &unit == &twipUnit;
+    const double twips = isInTwipsAlready ? number : std::round(number * unit.twips);
     if (!isInTwips(key) || std::abs(twips) > max) {
         return acceptedNumber(key);
     }
     const std::string text = numberText(twips);
-    return {unit.twips == 1 ? "write only the number: " + text
-                            : std::string(value) + " is " + text + " twips; write " + text,
+    return {isInTwipsAlready ? "write only the number: " + text
+                             : std::string(value) + " is " + text + " twips; write " + text,
             text};
 }
 
@@ -135,27 +109,25 @@ Hint numberHint(std::string_view key, std::string_view value) {
         const std::string bare(value.substr(1, value.size() - 2));
         return {"write the number without quotation marks: " + bare, bare};
     }
-    const std::size_t end = value.find_first_not_of("+-.0123456789");
-    const std::optional<double> number = readNumber(value.substr(0, end));
-    if (!number || end == nowhere) {
+    const std::optional<NumberWithUnit> parts = readNumberWithUnit(value);
+    if (!parts) {
         return acceptedNumber(key);
     }
-    const std::string rest = lowerCase(trimWhitespace(value.substr(end)));
     if (Hint written = withoutComma(key, value); !written.empty()) {
         return written;
     }
     if (Hint written = withPointAndUnit(key, value); !written.empty()) {
         return written;
     }
-    if (rest.starts_with(',')) {
+    if (parts->unit.starts_with(',')) {
         return "a number has no comma and at most one decimal point; " + acceptedNumber(key);
     }
-    if (rest == "%" && key == "cell-width") {
-        const std::string alone(value.substr(0, end));
+    if (parts->unit == "%" && key == "cell-width") {
+        const std::string alone(parts->writtenNumber);
         return {"write only the number: " + alone, alone};
     }
-    if (const Unit* unit = unitNamed(rest)) {
-        return lengthHint(key, *number, *unit, value);
+    if (const LengthUnit* unit = lengthUnitOf(parts->unit)) {
+        return lengthHint(key, parts->number, *unit, value);
     }
     return acceptedNumber(key);
 }

@@ -38,6 +38,12 @@ bool isCertainNode(std::string_view name, const Vocabulary& vocabulary) {
            vocabulary.nodeKind(name) != NodeKind::None || !certainWord(name, nodeNames).empty();
 }
 
+/// The name that a text begins with, up to one of the characters, a blank or a comment.
+std::string_view nameBefore(std::string_view ends, std::string_view text, const Dialect& dialect) {
+    const std::string_view head = headOf(text, dialect);
+    return head.substr(0, head.find_first_of(ends));
+}
+
 /// The node's name as it is written here: in its long form, unless the line has the short one.
 std::string nameFor(NodeKind kind, std::string_view written) {
     return written.size() == 1 && kind != NodeKind::Doc ? lowerCase(written)
@@ -48,14 +54,14 @@ std::string nameFor(NodeKind kind, std::string_view written) {
 bool beginsLeaf(std::string_view rest, const Vocabulary& vocabulary) {
     const std::size_t equals = rest.find('=');
     return rest.starts_with('(') && equals != nowhere &&
-           vocabulary.isKey(TrimEx(rest.substr(1, equals - 1)));
+           vocabulary.isKey(trimBlanks(rest.substr(1, equals - 1)));
 }
 
 /// What to do about a text that goes on after its first ")". Where the line ends with one more and
 /// each has its "(", it is certain which of them are text.
-Hint parenthesisHint(std::string_view line, std::size_t equals, const Vocabulary& vocabulary) {
+Hint parenthesisHint(std::string_view line, std::size_t equals, const Dialect& dialect) {
     const std::string words = "the value ends at the first ); write \\'29 for a literal )";
-    const std::string_view key = TrimEx(line.substr(1, equals - 1));
+    const std::string_view key = trimBlanks(line.substr(1, equals - 1));
     const std::string_view text = line.substr(equals + 1, line.size() - equals - 2);
     std::ptrdiff_t open = 0;
     std::string escaped;
@@ -66,20 +72,20 @@ Hint parenthesisHint(std::string_view line, std::size_t equals, const Vocabulary
             return words;
         }
     }
-    if (line.back() != ')' || open != 0 || text.find(';') != nowhere ||
-        vocabulary.expand(key) != "para-text") {
+    if (line.back() != ')' || open != 0 || text.find(dialect.marks.comment) != nowhere ||
+        dialect.vocabulary.expand(key) != "para-text") {
         return words;
     }
     return {words, "(" + std::string(key) + "=" + escaped + ")"};
 }
 
-SyntaxGuess guessLeaf(std::string_view line, std::size_t equals, const Vocabulary& vocabulary) {
+SyntaxGuess guessLeaf(std::string_view line, std::size_t equals, const Dialect& dialect) {
     SyntaxGuess guess;
     const bool isOpened = line.front() == '(';
-    guess.meant.line.key = TrimEx(line.substr(isOpened ? 1 : 0, equals - (isOpened ? 1 : 0)));
+    guess.meant.line.key = trimBlanks(line.substr(isOpened ? 1 : 0, equals - (isOpened ? 1 : 0)));
     const std::size_t close = line.find(')', equals);
     guess.meant.line.value =
-        TrimEx(line.substr(equals + 1, close == nowhere ? close : close - equals - 1));
+        trimBlanks(line.substr(equals + 1, close == nowhere ? close : close - equals - 1));
     guess.meant.line.type = LineType::Leaf;
     if (guess.meant.line.key.find('(') != nowhere) {
         guess.meant.line.type = LineType::Unreadable;
@@ -92,30 +98,30 @@ SyntaxGuess guessLeaf(std::string_view line, std::size_t equals, const Vocabular
             "the ) is missing; a value ends on its own line, so write \\line for a line break";
     } else if (line.find(')') < equals) {
         guess.hint = "the key contains a )";
-    } else if (beginsLeaf(trimWhitespace(line.substr(close + 1)), vocabulary)) {
+    } else if (beginsLeaf(trimWhitespace(line.substr(close + 1)), dialect.vocabulary)) {
         guess.hint = "write each node and each key on its own line";
     } else {
-        guess.hint = parenthesisHint(line, equals, vocabulary);
+        guess.hint = parenthesisHint(line, equals, dialect);
     }
     return guess;
 }
 
-SyntaxGuess guessOpener(std::string_view line, const Vocabulary& vocabulary) {
-    const std::string_view head = line.substr(1, line.find_first_of(" \t;)=", 1) - 1);
+SyntaxGuess guessOpener(std::string_view line, const Dialect& dialect) {
+    const std::string_view head = nameBefore(")=", line.substr(1), dialect);
     const std::string_view rest = trimWhitespace(line.substr(head.size() + 1));
     const std::size_t colon = std::min(line.find(':'), line.size());
-    if (const std::string_view key = TrimEx(line.substr(1, colon - 1));
-        colon < line.size() && vocabulary.isKey(key)) {
+    if (const std::string_view key = trimBlanks(line.substr(1, colon - 1));
+        colon < line.size() && dialect.vocabulary.isKey(key)) {
         SyntaxGuess guess;
         guess.meant.line.type = LineType::Leaf;
         guess.meant.line.key = key;
         const std::size_t end = std::min(line.find(')', colon), line.size());
-        guess.meant.line.value = TrimEx(line.substr(colon + 1, end - colon - 1));
+        guess.meant.line.value = trimBlanks(line.substr(colon + 1, end - colon - 1));
         guess.hint =
             "did you mean (" + std::string(key) + "=" + std::string(guess.meant.line.value) + ")?";
         return guess;
     }
-    if (vocabulary.isKey(head) && vocabulary.nodeKind(head) == NodeKind::None) {
+    if (dialect.vocabulary.isKey(head) && dialect.vocabulary.nodeKind(head) == NodeKind::None) {
         SyntaxGuess guess;
         guess.meant.line.type = LineType::Leaf;
         guess.meant.line.key = head;
@@ -125,7 +131,7 @@ SyntaxGuess guessOpener(std::string_view line, const Vocabulary& vocabulary) {
         return guess;
     }
     SyntaxGuess guess;
-    guess.meant.line.kind = nodeNearly(head, vocabulary);
+    guess.meant.line.kind = nodeNearly(head, dialect.vocabulary);
     if (guess.meant.line.kind == NodeKind::None) {
         return guess;
     }
@@ -133,11 +139,11 @@ SyntaxGuess guessOpener(std::string_view line, const Vocabulary& vocabulary) {
     guess.meant.line.type = LineType::Opener;
     if (rest == ")") {
         guess.hint = "(" + name + " opens the node and " + name + ") closes it";
-    } else if (!rest.empty() && rest.front() != ';') {
+    } else if (!isEmptyOrComment(rest, dialect)) {
         guess.hint = "only a comment, which begins with ;, can follow (" + name;
     } else {
         guess.hint = "did you mean (" + name + "?";
-        if (isCertainNode(head, vocabulary)) {
+        if (isCertainNode(head, dialect.vocabulary)) {
             guess.hint.replacement = "(" + name + std::string(line.substr(head.size() + 1));
         }
     }
@@ -145,12 +151,10 @@ SyntaxGuess guessOpener(std::string_view line, const Vocabulary& vocabulary) {
 }
 
 /// A closer as other languages write it: "(/row)" or "</row>".
-SyntaxGuess guessSlashedCloser(std::string_view line, std::size_t slash,
-                               const Vocabulary& vocabulary) {
+SyntaxGuess guessSlashedCloser(std::string_view line, std::size_t slash, const Dialect& dialect) {
     SyntaxGuess guess;
-    const std::string_view name =
-        line.substr(slash + 1, line.find_first_of(" \t;)>", slash) - slash - 1);
-    guess.meant.line.kind = nodeNearly(name, vocabulary);
+    const std::string_view name = nameBefore(")>", line.substr(slash + 1), dialect);
+    guess.meant.line.kind = nodeNearly(name, dialect.vocabulary);
     if (guess.meant.line.kind != NodeKind::None) {
         guess.meant.line.type = LineType::Closer;
         guess.hint = "did you mean " + nameFor(guess.meant.line.kind, name) + ")?";
@@ -158,10 +162,10 @@ SyntaxGuess guessSlashedCloser(std::string_view line, std::size_t slash,
     return guess;
 }
 
-SyntaxGuess guessCloser(std::string_view line, const Vocabulary& vocabulary) {
+SyntaxGuess guessCloser(std::string_view line, const Dialect& dialect) {
     SyntaxGuess guess;
-    const std::string_view head = line.substr(0, line.find_first_of(" \t;)"));
-    guess.meant.line.kind = nodeNearly(head, vocabulary);
+    const std::string_view head = nameBefore(")", line, dialect);
+    guess.meant.line.kind = nodeNearly(head, dialect.vocabulary);
     if (guess.meant.line.kind == NodeKind::None) {
         return guess;
     }
@@ -172,14 +176,14 @@ SyntaxGuess guessCloser(std::string_view line, const Vocabulary& vocabulary) {
         return guess;
     }
     guess.meant.line.type = LineType::Closer;
-    guess.hint = vocabulary.nodeKind(head) == NodeKind::None || line[head.size()] != ')'
+    guess.hint = dialect.vocabulary.nodeKind(head) == NodeKind::None || line[head.size()] != ')'
                      ? "did you mean " + name + ")?"
                      : "only a comment, which begins with ;, can follow " + name + ")";
     const std::string_view rest = trimWhitespace(line.substr(head.size()));
     const std::string_view after =
         trimWhitespace(rest.substr(std::min<std::size_t>(1, rest.size())));
-    if (rest.starts_with(')') && (after.empty() || after.front() == ';') &&
-        isCertainNode(head, vocabulary)) {
+    if (rest.starts_with(')') && isEmptyOrComment(after, dialect) &&
+        isCertainNode(head, dialect.vocabulary)) {
         guess.hint.replacement = name + std::string(rest);
     }
     return guess;
@@ -187,7 +191,7 @@ SyntaxGuess guessCloser(std::string_view line, const Vocabulary& vocabulary) {
 
 }  // namespace
 
-SyntaxGuess guessLine(std::string_view line, const Vocabulary& vocabulary) {
+SyntaxGuess guessLine(std::string_view line, const Dialect& dialect) {
     for (const std::string_view mark : {"#", "//", "/*", "--", "<!--"}) {
         if (line.starts_with(mark)) {
             SyntaxGuess guess;
@@ -196,18 +200,18 @@ SyntaxGuess guessLine(std::string_view line, const Vocabulary& vocabulary) {
         }
     }
     const std::size_t equals = line.find('=');
-    const std::size_t comment = line.find(';');
+    const std::size_t comment = line.find(dialect.marks.comment);
     if (equals != nowhere && (line.front() == '(' || equals < comment)) {
-        const std::string_view key = TrimEx(
+        const std::string_view key = trimBlanks(
             line.substr(line.front() == '(' ? 1 : 0, equals - (line.front() == '(' ? 1U : 0U)));
-        if (line.front() == '(' || vocabulary.isKey(key)) {
-            return guessLeaf(line, equals, vocabulary);
+        if (line.front() == '(' || dialect.vocabulary.isKey(key)) {
+            return guessLeaf(line, equals, dialect);
         }
     }
     if (line.size() > 1 && line[1] == '/' && (line.front() == '(' || line.front() == '<')) {
-        return guessSlashedCloser(line, 1, vocabulary);
+        return guessSlashedCloser(line, 1, dialect);
     }
-    return line.front() == '(' ? guessOpener(line, vocabulary) : guessCloser(line, vocabulary);
+    return line.front() == '(' ? guessOpener(line, dialect) : guessCloser(line, dialect);
 }
 
 }  // namespace quorvane

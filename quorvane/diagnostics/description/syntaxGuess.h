@@ -4,7 +4,7 @@
 
 #include "quorvane/diagnostics/engine/Diagnostic.h"
 #include "quorvane/driver/DescriptionRecovery.h"
-#include "quorvane/driver/Vocabulary.h"
+#include "quorvane/driver/Dialect.h"
 
 namespace quorvane {
 
@@ -16,6 +16,6 @@ struct SyntaxGuess {
 };
 
 /// Guesses at a line that is neither an opener nor a closer nor a leaf.
-SyntaxGuess guessLine(std::string_view line, const Vocabulary& vocabulary);
+SyntaxGuess guessLine(std::string_view line, const Dialect& dialect);
 
 }  // namespace quorvane

@@ -80,7 +80,7 @@ Example colorExample(const std::string& value, const Vocabulary& vocabulary) {
     const std::string name = components ? nearestColorName(*components, vocabulary) : value;
     std::int32_t number = CRtfGrpColorTable::colorNumber(name);
     if (components) {
-        number = vocabulary.colorNamed(Value(name)).value_or(eNoColor);
+        number = vocabulary.colorNamed(name).value_or(eNoColor);
     }
     return number == 0 ? Example{"red", "\\cf30"} : Example{name, "\\cf" + std::to_string(number)};
 }

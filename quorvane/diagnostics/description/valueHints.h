@@ -13,6 +13,6 @@ Hint colorValueHint(std::string_view value, const Vocabulary& vocabulary);
 
 /// What to write for a border that is given as a width, such as "1", "0.5pt" or "2px solid"; empty
 /// for any other value.
-Hint borderValueHint(std::string_view value);
+Hint borderValueHint(std::string_view value, const Vocabulary& vocabulary);
 
 }  // namespace quorvane

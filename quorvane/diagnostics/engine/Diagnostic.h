@@ -64,6 +64,8 @@ struct Diagnostic {
     std::optional<Fix> fix{};
     /// True when the fix was made: the place is that in the text before.
     bool isFixed = false;
+    /// True for a character of a file in UTF-8, which reads as several others in Windows-1252.
+    bool isMojibake = false;
 };
 
 /// Receives diagnostics one after the other.

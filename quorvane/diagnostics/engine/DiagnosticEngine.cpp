@@ -1,42 +1,46 @@
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
 
 #include <algorithm>
-#include <cstddef>
 
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
+#include "quorvane/diagnostics/engine/placeholders.h"
 
 namespace quorvane {
+
+namespace {
+
+Diagnostic diagnosticOf(DiagnosticId id, const Place& place, std::string message, Hint hint) {
+    std::optional<Fix> fix;
+    if (hint.replacement) {
+        fix = Fix{place, *std::move(hint.replacement)};
+    }
+    return {id,
+            diagnosticRule(id).severity,
+            place,
+            std::move(message),
+            std::move(hint.text),
+            std::move(fix)};
+}
+
+}  // namespace
 
 void DiagnosticEngine::report(DiagnosticId id, const Place& place,
                               std::initializer_list<std::string_view> arguments, Hint hint) {
     reportText(id, place, withArguments(diagnosticRule(id).message, arguments), std::move(hint));
 }
 
-void DiagnosticEngine::reportText(DiagnosticId id, const Place& place, std::string message,
-                                  Hint hint) {
-    const Severity severity = diagnosticRule(id).severity;
-    hasErrors_ = hasErrors_ || severity == Severity::Error;
-    std::optional<Fix> fix;
-    if (hint.replacement) {
-        fix = Fix{place, *std::move(hint.replacement)};
-    }
-    receiver_({id, severity, place, std::move(message), std::move(hint.text), std::move(fix)});
+void DiagnosticEngine::reportMojibake(DiagnosticId id, const Place& place,
+                                      std::initializer_list<std::string_view> arguments,
+                                      Hint hint) {
+    Diagnostic diagnostic = diagnosticOf(
+        id, place, withArguments(diagnosticRule(id).message, arguments), std::move(hint));
+    diagnostic.isMojibake = true;
+    receiver_(std::move(diagnostic));
 }
 
-std::string withArguments(std::string_view pattern,
-                          std::initializer_list<std::string_view> arguments) {
-    std::string text;
-    for (std::size_t i = 0; i < pattern.size(); ++i) {
-        const bool isPlace = pattern[i] == '{' && i + 2 < pattern.size() && pattern[i + 1] >= '0' &&
-                             pattern[i + 1] <= '9' && pattern[i + 2] == '}';
-        if (isPlace) {
-            text += arguments.begin()[pattern[i + 1] - '0'];
-            i += 2;
-        } else {
-            text += pattern[i];
-        }
-    }
-    return text;
+void DiagnosticEngine::reportText(DiagnosticId id, const Place& place, std::string message,
+                                  Hint hint) {
+    receiver_(diagnosticOf(id, place, std::move(message), std::move(hint)));
 }
 
 void sortByPlace(std::vector<Diagnostic>& diagnostics) {

@@ -20,20 +20,16 @@ public:
     void report(DiagnosticId id, const Place& place,
                 std::initializer_list<std::string_view> arguments = {}, Hint hint = {});
 
+    /// The same for a character of a file in UTF-8.
+    void reportMojibake(DiagnosticId id, const Place& place,
+                        std::initializer_list<std::string_view> arguments, Hint hint);
+
     /// Passes on a diagnostic whose text is known, such as that of an error of the library.
     void reportText(DiagnosticId id, const Place& place, std::string message, Hint hint = {});
 
-    /// True when an error was reported.
-    bool hasErrors() const { return hasErrors_; }
-
 private:
     DiagnosticReceiver receiver_;
-    bool hasErrors_ = false;
 };
-
-/// The text with the arguments in the places of "{0}", "{1}" and so on.
-std::string withArguments(std::string_view pattern,
-                          std::initializer_list<std::string_view> arguments);
 
 /// Puts the diagnostics into the order of their places; those of one place stay as they were.
 void sortByPlace(std::vector<Diagnostic>& diagnostics);

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "quorvane/base/text/trimming.h"
+#include "quorvane/diagnostics/engine/placeholders.h"
 #include "quorvane/diagnostics/table/descriptionErrors.h"
 #include "quorvane/diagnostics/table/fileDiagnostics.h"
 #include "quorvane/diagnostics/table/nodeWarnings.h"
@@ -121,19 +122,10 @@ std::string ruleTitle(const DiagnosticRule& rule) {
         const std::string explanation = explanationOf(rule);
         return explanation.substr(0, explanation.find(". ") + 1);
     }
-    std::string title;
-    for (std::size_t at = 0; at < rule.message.size(); ++at) {
-        const std::string_view rest = rule.message.substr(at);
-        const bool isPlace =
-            rest.size() > 2 && rest[0] == '{' && rest[1] >= '0' && rest[1] <= '9' && rest[2] == '}';
-        if (isPlace) {
-            title += "\xE2\x80\xA6";
-            at += 2;
-        } else if (rest[0] != '\r') {
-            title += rest[0] == '\n' ? ' ' : rest[0];
-        }
-    }
-    return std::string(TrimEx(title));
+    std::string title = withReplacements(rule.message, [](std::size_t) { return "\xE2\x80\xA6"; });
+    std::erase(title, '\r');
+    std::replace(title.begin(), title.end(), '\n', ' ');
+    return std::string(trimBlanks(title));
 }
 
 std::string_view severityName(Severity severity) {

@@ -7,11 +7,15 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/diagnostics/engine/nearestWord.h"
+#include "quorvane/diagnostics/engine/withoutIgnored.h"
+#include "quorvane/driver/DescriptionLine.h"
 #include "quorvane/stylesheet/stylesheetSyntax.h"
 
 namespace quorvane {
@@ -75,13 +79,15 @@ private:
         return source_.text().substr(line.start, line.end - line.start);
     }
 
-    /// The text after the ";" of a line that is a comment; empty for any other line.
+    /// The text of a line that is a comment; empty for any other line. In a stylesheet, comments
+    /// for the check begin as those of descriptions do.
     static std::string_view textOfComment(std::string_view line) {
+        const char commentMark = originalDialect().marks.comment;
         line = trimWhitespace(line);
-        if (!line.starts_with(';')) {
+        if (!line.starts_with(commentMark)) {
             return {};
         }
-        line.remove_prefix(std::min(line.find_first_not_of(';'), line.size()));
+        line.remove_prefix(std::min(line.find_first_not_of(commentMark), line.size()));
         return trimWhitespace(line);
     }
 
@@ -117,8 +123,7 @@ private:
     std::int64_t nextLine(std::size_t index) {
         // Comments that follow one another are about the same line: it is looked up once.
         for (next_ = std::max(next_, index + 1); next_ < source_.lines().size(); ++next_) {
-            const std::string_view line = trimWhitespace(lineAt(next_));
-            if (!line.empty() && line.front() != ';') {
+            if (!isEmptyOrComment(lineAt(next_), originalDialect())) {
                 break;
             }
         }

@@ -19,6 +19,7 @@
 #include "quorvane/diagnostics/engine/nearestWord.h"
 #include "quorvane/diagnostics/fileEncoding.h"
 #include "quorvane/diagnostics/languageOf.h"
+#include "quorvane/diagnostics/stylesheet/styleSheetHints.h"
 #include "quorvane/diagnostics/text/mojibake.h"
 #include "quorvane/diagnostics/text/rtfText.h"
 #include "quorvane/rtfgroups/CRtfGrpColorTable.h"
@@ -28,54 +29,20 @@ namespace quorvane {
 
 namespace {
 
-/// The hint for a value that another item follows without a ";", such as "n, style-def: s"; empty
-/// for any other value.
-std::string separatorHint(std::string_view value) {
-    // Longer than any keyword with blanks around it: the search costs no more in a long value.
-    constexpr std::size_t longestWord = 40;
-    for (std::size_t colon = value.find(':'); colon != std::string_view::npos;
-         colon = value.find(':', colon + 1)) {
-        const std::string_view before = trimWhitespace(
-            value.substr(colon - std::min(colon, longestWord), std::min(colon, longestWord)));
-        const std::size_t last = before.find_last_of(" \t\r\n,");
-        const std::string word =
-            lowerCase(before.substr(last == std::string_view::npos ? 0 : last + 1));
-        if (last != std::string_view::npos && findStyleKeyword(word)) {
-            return "write a ; before " + word;
-        }
+DiagnosticId diagnosticOf(StyleSheetFault fault) {
+    switch (fault) {
+        case StyleSheetFault::BracesUnderflow:
+            return DiagnosticId::BracesUnderflow;
+        case StyleSheetFault::BracesOverflow:
+            return DiagnosticId::BracesOverflow;
+        case StyleSheetFault::BadStyleKind:
+            return DiagnosticId::BadStyleKind;
+        case StyleSheetFault::BadAdditive:
+            return DiagnosticId::BadAdditive;
+        case StyleSheetFault::BadKeyword:
+            break;
     }
-    return {};
-}
-
-std::vector<std::string_view> viewsOf(const std::vector<std::string>& texts) {
-    return {texts.begin(), texts.end()};
-}
-
-const std::vector<std::string>& cellColorNames() {
-    static const std::vector<std::string> names = [] {
-        std::vector<std::string> list{"none"};
-        for (int number = 1; number <= CRtfGrpColorTable::colorCount; ++number) {
-            list.push_back(CRtfGrpColorTable::colorName(number));
-        }
-        return list;
-    }();
-    return names;
-}
-
-/// The kind that the word names or is most likely meant to name.
-StyleKind likelyKind(const std::string& word) {
-    return word.starts_with("p")    ? StyleKind::Paragraph
-           : word.starts_with("ch") ? StyleKind::Character
-                                    : styleKindNamed(word);
-}
-
-StyleKind kindOf(const OutlinedDefinition& definition) {
-    for (std::size_t i = 1; i < definition.items.size(); ++i) {
-        if (definition.items[i].keyword == "style-def") {
-            return likelyKind(lowerCase(definition.items[i].value));
-        }
-    }
-    return StyleKind::Cell;
+    return DiagnosticId::BadKeyword;
 }
 
 class StyleSheetChecks {
@@ -134,10 +101,8 @@ private:
     }
 
     void findBraces() {
-        const auto [opened, closed] = countBraces(source_.text());
-        if (opened != closed) {
-            report(opened < closed ? DiagnosticId::BracesUnderflow : DiagnosticId::BracesOverflow,
-                   outline_.loneBrace, {},
+        if (const auto fault = faultOf(countBraces(source_.text()))) {
+            report(diagnosticOf(*fault), outline_.loneBrace, {},
                    outline_.loneBrace == "{" ? "its } is missing" : "its { is missing");
         }
     }
@@ -153,94 +118,41 @@ private:
             return;
         }
         const StyleItem& first = definition.items.front();
-        if (faultOfFirst(first) != StyleItemFault::None) {
-            report(DiagnosticId::BadKeyword, first.writtenKeyword, {first.keyword},
-                   firstKeywordHint(first));
+        if (const auto fault = faultOfFirst(first)) {
+            report(diagnosticOf(*fault), first.writtenKeyword, {first.keyword},
+                   firstStyleKeywordHint(first));
         }
         for (std::size_t i = 1; i < definition.items.size(); ++i) {
             findItemError(definition.items[i]);
         }
     }
 
-    static Hint firstKeywordHint(const StyleItem& first) {
-        constexpr std::string_view name[] = {nameKeyword};
-        if (first.keyword.starts_with(nameKeyword) && first.value.empty()) {
-            return "write a : after the keyword name";
-        }
-        Hint hint("a definition begins with name:");
-        if (!certainWord(first.keyword, name).empty()) {
-            hint.replacement = "name";
-        }
-        return hint;
-    }
-
     void findItemError(const StyleItem& item) {
         const std::string value = lowerCase(item.value);
-        switch (faultOf(item, value)) {
-            case StyleItemFault::Keyword:
-                report(DiagnosticId::BadKeyword, item.writtenKeyword, {item.keyword},
-                       keywordHint(item.keyword));
-                break;
-            case StyleItemFault::Value:
-                report(item.keyword == "style-def" ? DiagnosticId::BadStyleKind
-                                                   : DiagnosticId::BadAdditive,
-                       item.value, {value}, valueHint(item));
-                break;
-            case StyleItemFault::None:
-                break;
+        const auto fault = faultOf(item, value);
+        if (fault && !item.known) {
+            report(diagnosticOf(*fault), item.writtenKeyword, {item.keyword},
+                   styleKeywordHint(item.keyword));
+        } else if (fault) {
+            report(diagnosticOf(*fault), item.value, {value}, styleValueHint(item));
         }
-    }
-
-    static Hint valueHint(const StyleItem& item) {
-        if (std::string separator = separatorHint(item.value); !separator.empty()) {
-            return separator;
-        }
-        return item.keyword == "style-def" ? kindHint(lowerCase(item.value))
-                                           : Hint("write yes or no");
-    }
-
-    static Hint keywordHint(std::string_view keyword) {
-        if (keyword.empty()) {
-            return "write only one ; between two items";
-        }
-        if (keyword == nameKeyword) {
-            return "name must be the first item of a definition";
-        }
-        const std::string_view word = keyword.substr(0, keyword.find_first_of(" \t\r\n="));
-        if (word.size() < keyword.size() && findStyleKeyword(word)) {
-            return "write a : after the keyword " + std::string(word);
-        }
-        return spellingHint(keyword, styleKeywordWords());
-    }
-
-    static Hint kindHint(const std::string& value) {
-        if (value.empty()) {
-            return "write s, cs or cell";
-        }
-        if (value.starts_with("p")) {
-            return "write s for a paragraph style";
-        }
-        if (value.starts_with("ch")) {
-            return "write cs for a character style";
-        }
-        return spellingHint(value, findStyleKeyword("style-def")->values);
     }
 
     void findWarnings(const OutlinedDefinition& definition) {
         const StyleKind kind = kindOf(definition);
-        std::unordered_set<std::string> seen;
+        std::unordered_set<const StyleKeyword*> seen;
         for (std::size_t i = 1; i < definition.items.size(); ++i) {
             const StyleItem& item = definition.items[i];
-            if (item.known && !seen.insert(item.keyword).second) {
+            if (item.known && !seen.insert(item.known).second) {
                 report(DiagnosticId::RepeatedItem, item.writtenKeyword, {item.keyword});
-            } else if (item.keyword == "format") {
+            } else if (item.is(formatKeyword)) {
                 findFormatWarningsOf(item, kind);
             }
         }
         const std::vector<std::string_view> names = namesOf(definition);
-        if (!names.empty() && !seen.contains("style-def")) {
+        if (!names.empty() && !seen.contains(&kindKeyword)) {
             report(DiagnosticId::NoStyleKind, definition.items.front().whole, {},
-                   separatorHint(definition.items.front().value));
+                   missingSeparatorHint(definition.items.front().value));
         }
         for (const std::string_view name : names) {
             findNameWarnings(name, kind);
@@ -257,8 +169,7 @@ private:
             CRtfGrpColorTable::colorNumber(color) == 0) {
             report(DiagnosticId::UnknownCellColor, item.value,
                    {color.empty() ? std::string_view("An empty format") : item.value},
-                   color.empty() ? Hint("write none for no color")
-                                 : spellingHint(color, viewsOf(cellColorNames())));
+                   cellColorHint(color));
         }
     }
 
@@ -294,8 +205,8 @@ private:
         const StyleKind kind = kindOf(definition);
         for (std::size_t i = 1; i < definition.items.size(); ++i) {
             const StyleItem& item = definition.items[i];
-            const bool isWritten = (item.keyword == "based-on" && kind != StyleKind::Cell) ||
-                                   (item.keyword == "next" && kind == StyleKind::Paragraph);
+            const bool isWritten = (item.is(basedOnKeyword) && kind != StyleKind::Cell) ||
+                                   (item.is(nextKeyword) && kind == StyleKind::Paragraph);
             const auto& names = defined_[static_cast<std::size_t>(kind)];
             if (isWritten && !item.value.empty() && !names.contains(lowerCase(item.value))) {
                 report(DiagnosticId::UndefinedReference, item.value,
@@ -346,44 +257,6 @@ std::vector<Diagnostic> checkStyleSheet(std::string_view text) {
     findWrongIgnoreComments(source, CheckedLanguage::StyleSheet, engine);
     sortByPlace(diagnostics);
     keepFirstMojibake(diagnostics);
-    return diagnostics;
-}
-
-std::vector<Diagnostic> findUnusedStyles(const KnownStyles& styles) {
-    std::vector<Diagnostic> diagnostics;
-    const SourceText source(styles.text());
-    DiagnosticEngine engine(
-        [&](Diagnostic diagnostic) { diagnostics.push_back(std::move(diagnostic)); });
-    const StyleSheetOutline outline = readStyleSheetOutline(styles.text());
-    std::unordered_set<std::string> referenced;
-    for (const OutlinedDefinition& definition : outline.definitions) {
-        for (const StyleItem& item : definition.items) {
-            if (item.keyword == "based-on" || item.keyword == "next") {
-                referenced.insert(lowerCase(item.value));
-            }
-        }
-    }
-    // Paragraph styles that only keep the numbers of the character styles free need no user.
-    const int reserved = std::max(1, static_cast<int>(styles.styles(StyleKind::Character).count()));
-    for (const OutlinedDefinition& definition : outline.definitions) {
-        const StyleKind kind = kindOf(definition);
-        const std::vector<std::string_view> names = namesOf(definition);
-        // A definition with several names is used when one of them is.
-        const bool isUsed = std::any_of(names.begin(), names.end(), [&](std::string_view name) {
-            const std::string lower = lowerCase(name);
-            const bool isParagraph = kind == StyleKind::Paragraph;
-            return styles.isUsed(kind, lower) ||
-                   (kind != StyleKind::Cell && referenced.contains(lower)) ||
-                   (isParagraph && (lower == "normal" || styles.find(kind, lower) <= reserved));
-        });
-        const bool isSure = std::none_of(names.begin(), names.end(), [&](std::string_view name) {
-            return styles.isOfAnyKind(name);
-        });
-        if (!isUsed && isSure && !names.empty()) {
-            engine.report(DiagnosticId::UnusedStyle, source.placeOf(names.front()),
-                          {names.front()});
-        }
-    }
     return diagnostics;
 }
 

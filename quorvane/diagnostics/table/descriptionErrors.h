@@ -194,7 +194,7 @@ doc)
      .identifier = "duplicate-leaf",
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
-     .message = "This key is already associated with an element of this collection",
+     .message = driverErrorText(DriverFault::DuplicateLeaf),
      .explanation = R"(
 A key can occur only once in a node. The long and the short form of a key are the same key.
 )",
@@ -226,7 +226,7 @@ doc)
      .identifier = "no-document",
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
-     .message = "Invalid procedure call or argument",
+     .message = driverErrorText(DriverFault::NoDocument),
      .explanation = R"(
 The first line begins with `(doc`, but does not open a `doc` node, so there is no document.
 )",
@@ -534,7 +534,7 @@ doc)
      .identifier = "overflow",
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
-     .message = "Overflow",
+     .message = driverErrorText(DriverFault::Overflow),
      .explanation = R"(
 A number is rounded to a whole number, which must fit into 32 bits. So must the measures that are
 computed from it.
@@ -562,7 +562,7 @@ doc)
      .identifier = "taken-key",
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
-     .message = "This key is already associated with an element of this collection",
+     .message = driverErrorText(DriverFault::TakenKey),
      .explanation = R"(
 Two rows of a document, two cells of a row, or two paragraphs of a cell cannot have the same key.
 The key of a node without one is its number: rows count from 1001, cells from 2001 and paragraphs

@@ -1,16 +1,18 @@
 #pragma once
 
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
+#include "quorvane/stylesheet/styleSheetErrorTable.h"
 
 namespace quorvane {
 
-/// What can be wrong with a stylesheet.
+/// What can be wrong with a stylesheet. The messages about what the library rejects are those of
+/// its errors.
 inline constexpr DiagnosticRule styleSheetDiagnostics[] = {
     {.id = DiagnosticId::BracesUnderflow,
      .identifier = "braces-underflow",
      .severity = Severity::Error,
      .language = CheckedLanguage::StyleSheet,
-     .message = "Error in stylesheet\r\nBraces stack underflow: there are more } than {.",
+     .message = styleSheetErrorText(StyleSheetFault::BracesUnderflow),
      .explanation = R"(
 Each definition is enclosed in one pair of braces. Braces inside a comment count too.
 )",
@@ -25,7 +27,7 @@ Each definition is enclosed in one pair of braces. Braces inside a comment count
      .identifier = "braces-overflow",
      .severity = Severity::Error,
      .language = CheckedLanguage::StyleSheet,
-     .message = "Error in stylesheet\r\nBraces stack overflow: there are more { than }",
+     .message = styleSheetErrorText(StyleSheetFault::BracesOverflow),
      .explanation = R"(
 Each definition is enclosed in one pair of braces. Braces inside a comment count too.
 )",
@@ -42,7 +44,7 @@ Each definition is enclosed in one pair of braces. Braces inside a comment count
      .identifier = "bad-keyword",
      .severity = Severity::Error,
      .language = CheckedLanguage::StyleSheet,
-     .message = "Error while processing stylesheet.\r\n{0} is not a valid keyword.",
+     .message = styleSheetErrorText(StyleSheetFault::BadKeyword),
      .explanation = R"(
 The first item of a definition is `name`. The others are `style-def`, `format`, `based-on`, `next`
 and `additive`. Each is followed by `:` and a value.
@@ -58,7 +60,7 @@ and `additive`. Each is followed by `:` and a value.
      .identifier = "bad-style-kind",
      .severity = Severity::Error,
      .language = CheckedLanguage::StyleSheet,
-     .message = "{0} is not a valid value for style-def",
+     .message = styleSheetErrorText(StyleSheetFault::BadStyleKind),
      .explanation = R"(
 A style is a paragraph style (`s`), a character style (`cs`) or a cell style (`cell`).
 )",
@@ -73,7 +75,7 @@ A style is a paragraph style (`s`), a character style (`cs`) or a cell style (`c
      .identifier = "bad-additive",
      .severity = Severity::Error,
      .language = CheckedLanguage::StyleSheet,
-     .message = "Error while processing stylesheet.\r\n{0} is not a valid value for additive",
+     .message = styleSheetErrorText(StyleSheetFault::BadAdditive),
      .explanation = R"(
 `additive` is `yes` or `no`.
 )",

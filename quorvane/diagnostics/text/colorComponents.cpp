@@ -85,7 +85,7 @@ std::string nearestColorName(const RgbColor& components, const Vocabulary& vocab
     int best = 0;
     for (const std::string_view name : vocabulary.colorNames()) {
         const std::optional<RgbColor> color =
-            CRtfGrpColorTable::color(vocabulary.colorNamed(Value(name)).value_or(eNoColor));
+            CRtfGrpColorTable::color(vocabulary.colorNamed(name).value_or(eNoColor));
         if (color && (nearest.empty() || distance(*color, components) < best)) {
             best = distance(*color, components);
             nearest = name;

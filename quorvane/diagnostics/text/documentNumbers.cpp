@@ -2,6 +2,7 @@
 
 #include "quorvane/rtfgroups/CRtfGrpColorTable.h"
 #include "quorvane/rtfgroups/CRtfGrpFontTable.h"
+#include "quorvane/stylesheet/StyleList.h"
 
 namespace quorvane {
 
@@ -13,7 +14,7 @@ bool isStyleMissing(int number, const KnownStyles* styles, StyleKind kind) {
     }
     const int first = styleNumber(1);
     return styles &&
-           (number < first || number >= first + static_cast<int>(styles->styles(kind).count()));
+           (number < first || number >= first + static_cast<int>(stylesOf(*styles, kind).count()));
 }
 
 }  // namespace

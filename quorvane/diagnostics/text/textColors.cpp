@@ -9,6 +9,7 @@
 #include "quorvane/diagnostics/text/InlineTokens.h"
 #include "quorvane/rtf/RtfControl.h"
 #include "quorvane/rtf/RtfGroup.h"
+#include "quorvane/stylesheet/StyleList.h"
 
 namespace quorvane {
 
@@ -92,7 +93,8 @@ private:
         group.isToken = true;
         const int position = styles_ ? styles_->find(StyleKind::Character, name) : -1;
         if (position > 0) {
-            const std::string format = styles_->styles(StyleKind::Character).at(position).format();
+            const std::string format =
+                stylesOf(*styles_, StyleKind::Character).at(position).format();
             group.colors = colorsAfter(format, group.colors);
         }
         at_ += name.size() + 2;

@@ -26,7 +26,7 @@ constexpr std::size_t nowhere = std::string_view::npos;
 void appendWords(const TableDocument& document, std::string_view name, bool hasValue,
                  std::string& rtf) {
     const std::string_view words = document.GetCharacterStyle(name);
-    rtf += hasValue ? words : TrimEx(words);
+    rtf += hasValue ? words : trimBlanks(words);
 }
 
 void appendWords(const TableDocument& document, std::u32string_view name, bool hasValue,

@@ -5,19 +5,19 @@
 namespace quorvane {
 namespace {
 
-TEST(TrimEx, TakesBlanksFromBothEnds) {
-    EXPECT_EQ(TrimEx("  a b "), "a b");
-    EXPECT_EQ(TrimEx("a"), "a");
+TEST(trimBlanks, TakesBlanksFromBothEnds) {
+    EXPECT_EQ(trimBlanks("  a b "), "a b");
+    EXPECT_EQ(trimBlanks("a"), "a");
 }
 
-TEST(TrimEx, LeavesEverythingButBlanks) {
-    EXPECT_EQ(TrimEx(" \ta\r\n "), "\ta\r\n");
-    EXPECT_EQ(TrimEx("\xC2\xA0"), "\xC2\xA0");
+TEST(trimBlanks, LeavesEverythingButBlanks) {
+    EXPECT_EQ(trimBlanks(" \ta\r\n "), "\ta\r\n");
+    EXPECT_EQ(trimBlanks("\xC2\xA0"), "\xC2\xA0");
 }
 
-TEST(TrimEx, LeavesNothingOfBlanks) {
-    EXPECT_EQ(TrimEx(""), "");
-    EXPECT_EQ(TrimEx("   "), "");
+TEST(trimBlanks, LeavesNothingOfBlanks) {
+    EXPECT_EQ(trimBlanks(""), "");
+    EXPECT_EQ(trimBlanks("   "), "");
 }
 
 TEST(TrimWhitespace, TakesBlanksTabsAndLineBreaksFromBothEnds) {

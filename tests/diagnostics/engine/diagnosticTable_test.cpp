@@ -82,22 +82,5 @@ TEST(DiagnosticTable, RepeatsLinesOfExamples) {
     EXPECT_EQ(expandedExample(""), "");
 }
 
-TEST(DiagnosticEngine, PutsArgumentsIntoTheirPlaces) {
-    EXPECT_EQ(withArguments("{1} on {0}, { }", {"red", "blue"}), "blue on red, { }");
-}
-
-TEST(DiagnosticEngine, KnowsWhetherThereWasAnError) {
-    std::vector<Diagnostic> findings;
-    DiagnosticEngine engine([&](Diagnostic finding) { findings.push_back(std::move(finding)); });
-    engine.report(DiagnosticId::EmptyText, {});
-    EXPECT_FALSE(engine.hasErrors());
-    engine.report(DiagnosticId::WrongColor, {3, 5, 7, 20}, {"crimson"}, "did you mean dark-red?");
-    EXPECT_TRUE(engine.hasErrors());
-    EXPECT_EQ(findings.at(1).message, "crimson isn't a recognized color.");
-    EXPECT_EQ(findings.at(1).severity, Severity::Error);
-    EXPECT_EQ(findings.at(1).hint, "did you mean dark-red?");
-    EXPECT_EQ(findings.at(1).place.line, 3);
-}
-
 }  // namespace
 }  // namespace quorvane

@@ -1,4 +1,4 @@
-#include "quorvane/diagnostics/engine/ignoreComments.h"
+#include "quorvane/diagnostics/engine/withoutIgnored.h"
 
 #include <gmock/gmock.h>
 

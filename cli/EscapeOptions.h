@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace quorvane::cli {
+
+/// What a text is escaped for.
+enum class EscapeUse { Description, Model };
+
+/// The options of `quorvane escape`. Paths are as given.
+struct EscapeOptions {
+    /// Standard input when there is none.
+    std::vector<std::string> files;
+    EscapeUse use = EscapeUse::Description;
+};
+
+}  // namespace quorvane::cli

@@ -1,0 +1,92 @@
+#include "quorvane/diagnostics/description/CellWarnings.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <vector>
+
+#include "quorvane/diagnostics/description/soundLeaf.h"
+#include "quorvane/diagnostics/text/colorContrast.h"
+#include "quorvane/diagnostics/text/textColors.h"
+#include "quorvane/stylesheet/StyleList.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr double minContrast = 3;
+// Pairs of colors that are reported for one paragraph.
+constexpr std::size_t maxColorsReported = 10;
+
+}  // namespace
+
+void CellWarnings::findInCell(const BuiltTable::Cell& cell,
+                              std::span<const BuiltTable::Paragraph> paragraphs,
+                              const CRtfDoc& document, bool isLastOfRow) {
+    if (styles_ && !isLastOfRow && !paragraphs.empty()) {
+        findSharedNumber(*paragraphs.front().node);
+        if (paragraphs.size() > 1) {
+            findSharedNumber(*paragraphs.back().node);
+        }
+    }
+    std::int32_t background = cell.element->BackColor();
+    bool isStyleColor = false;
+    if (background == eNoColor && !cell.element->Style().empty() && styles_) {
+        background = document.getCellStyleBackColor(cell.element->Style());
+        isStyleColor = background != eNoColor;
+    }
+    for (const BuiltTable::Paragraph& paragraph : paragraphs) {
+        const bool turnsWhite = isStyleColor && isDarkColor(static_cast<tColorIndex>(background));
+        const std::int32_t own = turnsWhite ? eWhite : paragraph.element->ForeColor();
+        findContrast(*paragraph.node, own, background);
+    }
+}
+
+void CellWarnings::findSharedNumber(const DescriptionNode& paragraph) {
+    const Leaf* leaf = soundLeaf(paragraph, DescriptionKey::ParaStyle);
+    const Leaf* text = paragraph.find(DescriptionKey::ParaText);
+    if (!leaf || !text || text->text.empty()) {
+        return;
+    }
+    const int position = styles_->find(StyleKind::Paragraph, leaf->valueText());
+    const StyleList& others = stylesOf(*styles_, StyleKind::Character);
+    if (position > 0 && static_cast<std::size_t>(position) <= others.count()) {
+        engine_.report(
+            DiagnosticId::SharedStyleNumber, source_.placeOf(leaf->text),
+            {leaf->valueText(), std::to_string(styleNumber(position)), others.at(position).name});
+    }
+}
+
+void CellWarnings::findContrast(const DescriptionNode& paragraph, std::int32_t own,
+                                std::int32_t background) {
+    const Leaf* text = soundLeaf(paragraph, DescriptionKey::ParaText);
+    if (!text || text->text.empty()) {
+        return;
+    }
+    TextColors colors = colorsAfter(formatOf(paragraph), {0, background});
+    colors.text = own == eNoColor ? colors.text : own;
+    std::vector<TextColors> reported;
+    for (const ColoredPart& part : coloredParts(text->text, colors, styles_)) {
+        const bool isNew =
+            std::find(reported.begin(), reported.end(), part.colors) == reported.end() &&
+            reported.size() < maxColorsReported;
+        if (isNew && contrastOf(part.colors.text, part.colors.ground) < minContrast) {
+            reported.push_back(part.colors);
+            engine_.report(DiagnosticId::LowContrast,
+                           source_.placeOf(part.colors == colors ? text->text : part.part),
+                           {textColorName(part.colors.text), backgroundName(part.colors.ground)});
+        }
+    }
+}
+
+/// The format of the style that the paragraph is written in.
+std::string CellWarnings::formatOf(const DescriptionNode& paragraph) const {
+    if (!styles_ || stylesOf(*styles_, StyleKind::Paragraph).empty()) {
+        return {};
+    }
+    const Leaf* leaf = soundLeaf(paragraph, DescriptionKey::ParaStyle);
+    const std::string name = leaf ? leaf->valueText() : std::string();
+    const int position = styles_->find(StyleKind::Paragraph, name);
+    return stylesOf(*styles_, StyleKind::Paragraph).at(position > 0 ? position : 1).format();
+}
+
+}  // namespace quorvane

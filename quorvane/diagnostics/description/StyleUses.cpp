@@ -1,0 +1,112 @@
+#include "quorvane/diagnostics/description/StyleUses.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+#include "quorvane/base/text/trimming.h"
+#include "quorvane/diagnostics/engine/nearestWord.h"
+#include "quorvane/diagnostics/text/InlineTokens.h"
+#include "quorvane/stylesheet/StyleList.h"
+
+namespace quorvane {
+
+void StyleUses::findCellStyle(const Leaf& leaf) {
+    const std::string name = leaf.valueText();
+    if (name.empty()) {
+        return;
+    }
+    styles_.markUsed(StyleKind::Cell, name);
+    if (styles_.lacks(StyleKind::Cell, name)) {
+        engine_.report(DiagnosticId::UnknownCellStyle, source_.placeOf(leaf.text), {name},
+                       styleHint(StyleKind::Cell, name));
+    }
+}
+
+void StyleUses::findParagraphStyle(const Leaf& leaf) {
+    const std::string name = leaf.valueText();
+    if (name.empty()) {
+        return;
+    }
+    styles_.markUsed(StyleKind::Paragraph, name);
+    if (styles_.lacks(StyleKind::Paragraph, name)) {
+        const StyleList& list = stylesOf(styles_, StyleKind::Paragraph);
+        engine_.report(DiagnosticId::UnknownParagraphStyle, source_.placeOf(leaf.text),
+                       {name, list.empty() ? "the paragraph gets no format"
+                                           : list.at(1).name + " is used instead"},
+                       styleHint(StyleKind::Paragraph, name));
+    }
+}
+
+void StyleUses::findInlineStyles(std::string_view text) {
+    findUnclosedInlineStyles(text);
+    const InlineTokens tokens(text);
+    for (std::size_t open = text.find('<'); open != std::string_view::npos;
+         open = text.find('<', open + 1)) {
+        const std::optional<std::string_view> token = tokens.nameAt(open);
+        if (!token) {
+            continue;
+        }
+        const std::string_view name = *token;
+        styles_.markUsed(StyleKind::Character, name);
+        if (styles_.lacks(StyleKind::Character, name)) {
+            engine_.report(DiagnosticId::UnknownCharacterStyle, source_.placeOf(name), {name},
+                           styleHint(StyleKind::Character, name));
+        }
+    }
+}
+
+/// Without a ">" that ends it, an inline style is plain text.
+void StyleUses::findUnclosedInlineStyles(std::string_view text) {
+    std::vector<std::string_view> open;
+    for (std::size_t at = text.find_first_of("<>"); at != std::string_view::npos;
+         at = text.find_first_of("<>", at + 1)) {
+        const std::size_t end = text.find_first_of("=<>", at + 1);
+        const std::string_view name = text.substr(at + 1, end - at - 1);
+        if (text[at] == '>' && !open.empty()) {
+            open.pop_back();
+        } else if (text[at] == '<' && end != std::string_view::npos && text[end] == '=' &&
+                   styles_.find(StyleKind::Character, name) > 0) {
+            open.push_back(name);
+        }
+    }
+    constexpr std::size_t maxReported = 10;
+    open.resize(std::min(open.size(), maxReported));
+    for (const std::string_view name : open) {
+        styles_.markUsed(StyleKind::Character, name);
+        engine_.report(DiagnosticId::UnclosedInlineStyle, source_.placeOf(name), {name},
+                       "write a > after the text: <" + std::string(name) + "=Total>");
+    }
+}
+
+Hint StyleUses::styleHint(StyleKind kind, std::string_view name) {
+    if (++hints_ > maxHints) {
+        return {};
+    }
+    const std::string trimmed(trimWhitespace(name));
+    if (trimmed != name && styles_.find(kind, trimmed) > 0) {
+        styles_.markUsed(kind, trimmed);
+        return {"remove the blank; the style is named " + trimmed, trimmed};
+    }
+    for (const StyleKind other : {StyleKind::Paragraph, StyleKind::Character, StyleKind::Cell}) {
+        if (other != kind && styles_.find(other, name) > 0) {
+            return std::string(name) + " is a " + std::string(styleKindName(other)) + " style";
+        }
+    }
+    std::vector<std::string_view> names;
+    const StyleList& list = stylesOf(styles_, kind);
+    for (int i = 1; list.count() <= maxCandidates && i <= static_cast<int>(list.count()); ++i) {
+        names.push_back(list.at(i).name);
+    }
+    // The style whose name is misspelled counts as used.
+    styles_.markUsed(kind, nearestWord(name, names));
+    Hint hint = spellingHint(name, names);
+    // Such a name cannot be written where it is meant.
+    if (hint.replacement && hint.replacement->find_first_of("()<>=\r\n") != std::string::npos) {
+        hint.replacement.reset();
+    }
+    return hint;
+}
+
+}  // namespace quorvane

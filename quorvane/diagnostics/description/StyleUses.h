@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "quorvane/diagnostics/KnownStyles.h"
+#include "quorvane/diagnostics/engine/DiagnosticEngine.h"
+#include "quorvane/diagnostics/engine/SourceText.h"
+#include "quorvane/driver/DescriptionNode.h"
+
+namespace quorvane {
+
+/// Looks up the styles that a description names, marks them as used and warns of those that the
+/// stylesheet lacks.
+class StyleUses {
+public:
+    StyleUses(KnownStyles& styles, const SourceText& source, DiagnosticEngine& engine)
+        : styles_(styles), source_(source), engine_(engine) {}
+
+    void findCellStyle(const Leaf& leaf);
+    void findParagraphStyle(const Leaf& leaf);
+    /// The inline styles in the text of a paragraph, a view into the source.
+    void findInlineStyles(std::string_view text);
+
+private:
+    void findUnclosedInlineStyles(std::string_view text);
+    Hint styleHint(StyleKind kind, std::string_view name);
+
+    // Looking for the style that was meant takes a while.
+    static constexpr int maxHints = 1000;
+
+    KnownStyles& styles_;
+    const SourceText& source_;
+    DiagnosticEngine& engine_;
+    int hints_ = 0;
+};
+
+}  // namespace quorvane

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "quorvane/driver/DescriptionNode.h"
+
+namespace quorvane {
+
+/// The leaf of a key in which no error was reported; null when there is none.
+inline const Leaf* soundLeaf(const DescriptionNode& node, DescriptionKey key) {
+    const Leaf* const leaf = node.find(key);
+    return leaf && !leaf->isFaulty ? leaf : nullptr;
+}
+
+}  // namespace quorvane

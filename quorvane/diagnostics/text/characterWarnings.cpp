@@ -1,0 +1,92 @@
+#include "quorvane/diagnostics/text/characterWarnings.h"
+
+#include <string>
+
+#include "quorvane/base/text/codePage1252.h"
+#include "quorvane/base/text/utf8.h"
+#include "quorvane/diagnostics/text/mojibake.h"
+
+namespace quorvane {
+
+namespace {
+
+std::string numberedCharacter(char32_t code) {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    std::string text = "U+";
+    for (int shift = code > 0xFFFF ? 20 : 12; shift >= 0; shift -= 4) {
+        text += digits[code >> shift & 15U];
+    }
+    return text;
+}
+
+/// True where a character can be written as a control word.
+bool canHoldControls(TextUse use) {
+    return use == TextUse::Text || use == TextUse::Format;
+}
+
+/// The escape of a character of Windows-1252.
+std::string escape(const std::string& character) {
+    constexpr std::string_view digits = "0123456789abcdef";
+    const auto byte = static_cast<unsigned char>(codePage1252FromUtf8(character)[0]);
+    return std::string("\\'") + digits[byte / 16] + digits[byte % 16];
+}
+
+// The document says that nothing stands in for such a character, but not all readers respect that.
+std::string unicodeHint(char32_t code, TextUse use) {
+    if (use != TextUse::Text || code > 0xFFFF) {
+        return {};
+    }
+    const long number = static_cast<long>(code) - (code > 0x7FFF ? 0x10000 : 0);
+    return "write {\\uc1\\u" + std::to_string(number) + "?}";
+}
+
+void reportMojibake(const MeantCharacter& meant, std::string_view shown, TextUse use,
+                    TextReporter& reporter) {
+    if (codePage1252FromUtf8(meant.text) == "?") {
+        reporter.reportMojibake(DiagnosticId::UnencodableCharacter, shown,
+                                {meant.text, std::string(shown) + ", because the file is in UTF-8"},
+                                unicodeHint(meant.code, use));
+    } else {
+        reporter.reportMojibake(
+            DiagnosticId::Utf8Text, shown, {meant.text, shown},
+            "save the file in Windows-1252" +
+                (canHoldControls(use) ? ", or write " + escape(meant.text) : ""));
+    }
+}
+
+void findInAscii(std::string_view character, TextUse use, TextReporter& reporter) {
+    const auto code = static_cast<unsigned char>(character.front());
+    if (use != TextUse::FieldData && (code < 0x20 || code == 0x7F)) {
+        reporter.report(DiagnosticId::ControlCharacter, character, {numberedCharacter(code)},
+                        code == '\t' ? "write \\tab for a tab" : "");
+    }
+}
+
+void findInOther(std::string_view character, char32_t code, TextUse use, TextReporter& reporter) {
+    const bool isControl = code < 0xA0 && code >= 0x80;
+    if (isControl && use != TextUse::FieldData) {
+        reporter.report(DiagnosticId::ControlCharacter, character, {numberedCharacter(code)});
+    } else if (codePage1252FromUtf8(character) == "?") {
+        reporter.report(DiagnosticId::UnencodableCharacter, character, {character, "?"},
+                        unicodeHint(code, use));
+    }
+}
+
+}  // namespace
+
+std::size_t findInCharacter(std::string_view text, std::size_t at, TextUse use,
+                            TextReporter& reporter) {
+    if (static_cast<unsigned char>(text[at]) < 0x80) {
+        findInAscii(text.substr(at, 1), use, reporter);
+        return 1;
+    }
+    if (const auto meant = meantCharacterAt(text, at)) {
+        reportMojibake(*meant, text.substr(at, meant->length), use, reporter);
+        return meant->length;
+    }
+    const Utf8Character character = utf8CharacterAt(text, at);
+    findInOther(text.substr(at, character.length), character.code, use, reporter);
+    return character.length;
+}
+
+}  // namespace quorvane
