@@ -8,6 +8,12 @@
 
 namespace quorvane::cli {
 
+namespace {
+
+constexpr std::size_t mostEventsOfShortReport = 100;
+
+}  // namespace
+
 SideBySideRendering::Thread::Thread(const Means& means)
     : receivers(receiversInto(events, static_cast<bool>(means.receivers.locate))),
       report(means.report, receivers),
@@ -21,7 +27,7 @@ ExitStatus SideBySideRendering::run(std::size_t threads) {
     results_.resize(tasksUnderWay(threads));
     announce(0);
     doInOrder({assignments_.size(), threads,
-               [&](std::size_t thread, std::size_t task) { render(all[thread], task); },
+               [&](std::size_t thread, std::size_t task) { return render(all[thread], task); },
                [&](std::size_t task) { deliver(task); }});
     return status_;
 }
@@ -33,10 +39,12 @@ void SideBySideRendering::announce(std::size_t task) const {
     }
 }
 
-void SideBySideRendering::render(Thread& thread, std::size_t task) {
+/// Returns true if the report is long.
+bool SideBySideRendering::render(Thread& thread, std::size_t task) {
     Result& result = resultOf(task);
     result.status = thread.worker.render(assignments_[task]);
     result.events = std::exchange(thread.events, {});
+    return result.events.size() > mostEventsOfShortReport;
 }
 
 void SideBySideRendering::deliver(std::size_t task) {

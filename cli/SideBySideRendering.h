@@ -14,7 +14,8 @@
 namespace quorvane::cli {
 
 /// Renders descriptions on several threads, and reports as if one were rendered after the other.
-/// Memory holds a document for each thread, and the events of a few descriptions more.
+/// Memory holds a document and a long report for each thread, and the short reports of a few
+/// descriptions more.
 class SideBySideRendering {
 public:
     /// What all threads share; it must outlive the rendering.
@@ -51,7 +52,7 @@ private:
 
     Result& resultOf(std::size_t task) { return results_[task % results_.size()]; }
     void announce(std::size_t task) const;
-    void render(Thread& thread, std::size_t task);
+    bool render(Thread& thread, std::size_t task);
     void deliver(std::size_t task);
 
     const std::vector<Assignment>& assignments_;

@@ -10,8 +10,6 @@ namespace quorvane::cli {
 /// nothing can fail between making a file and noting it.
 class UnfinishedFileList {
 public:
-    constexpr UnfinishedFileList() noexcept = default;
-
     void add(UnfinishedPath& file) noexcept {
         const std::lock_guard lock(mutex_);
         file.next = first_;

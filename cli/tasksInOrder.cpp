@@ -20,8 +20,11 @@ public:
     void work(std::size_t thread) noexcept {
         while (const std::optional<std::size_t> task = begin()) {
             try {
-                tasks_.work(thread, *task);
+                const bool isLarge = tasks_.work(thread, *task);
                 end(*task);
+                if (isLarge) {
+                    waitForDelivery(*task);
+                }
             } catch (...) {
                 fail(std::current_exception());
             }
@@ -38,7 +41,7 @@ private:
     /// The next task, as soon as it can be begun.
     std::optional<std::size_t> begin() {
         std::unique_lock lock(mutex_);
-        roomOrEnd_.wait(lock, [this] { return isOver() || begun_ < delivered_ + isDone_.size(); });
+        progress_.wait(lock, [this] { return isOver() || begun_ < delivered_ + isDone_.size(); });
         return isOver() ? std::nullopt : std::optional(begun_++);
     }
 
@@ -59,9 +62,14 @@ private:
             lock.lock();
             isDone_[delivered_ % isDone_.size()] = false;
             ++delivered_;
-            roomOrEnd_.notify_all();
+            progress_.notify_all();
         }
         isDelivering_ = false;
+    }
+
+    void waitForDelivery(std::size_t task) {
+        std::unique_lock lock(mutex_);
+        progress_.wait(lock, [this, task] { return failure_ || delivered_ > task; });
     }
 
     void fail(const std::exception_ptr& failure) {
@@ -69,12 +77,13 @@ private:
         if (!failure_) {
             failure_ = failure;
         }
-        roomOrEnd_.notify_all();
+        progress_.notify_all();
     }
 
     const OrderedTasks& tasks_;
     std::mutex mutex_;
-    std::condition_variable roomOrEnd_;
+    // Of the deliveries, or to a failure.
+    std::condition_variable progress_;
     std::size_t begun_ = 0;
     // All tasks before this one are delivered; only the thread that delivers changes it.
     std::size_t delivered_ = 0;

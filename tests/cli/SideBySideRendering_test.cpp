@@ -127,7 +127,7 @@ public:
 TEST_F(SideBySideJobs, DoesNotRunAheadOfADescriptionThatTakesLong) {
     RenderOptions options;
     options.jobs = 3;
-    for (int i = 0; i < 60; ++i) {
+    for (int i = 0; i < 100; ++i) {
         options.descriptions.push_back(
             folder.write("d" + std::to_string(i) + ".rtfspec", descriptionWithBadColor));
     }
@@ -147,7 +147,7 @@ TEST_F(SideBySideJobs, DoesNotRunAheadOfADescriptionThatTakesLong) {
 
     RenderJob(options, {[&](const ReportedError&) { ++reported; }}, platform).run();
 
-    EXPECT_EQ(reported, 60U);
+    EXPECT_EQ(reported, 100U);
     EXPECT_EQ(most, tasksUnderWay(options.jobs));
 }
 

@@ -97,16 +97,16 @@ void signalAfter(std::chrono::microseconds time, int number) {
 }
 
 TEST_F(SideBySideCommand, LeavesWholeDocumentsOnlyWhereverASignalEndsIt) {
-    const std::vector<std::string> names = writeDescriptions(100);
+    const std::vector<std::string> names = writeDescriptions(60);
     const auto before = std::chrono::steady_clock::now();
     ASSERT_EQ(run(with("-j4", names)).status, 0);
     const auto whole = filesBelow(folder.path());
     const auto time = std::chrono::duration_cast<std::chrono::microseconds>(
         std::chrono::steady_clock::now() - before);
-    constexpr int rounds = 30;
+    constexpr int rounds = 20;
     int interruptions = 0;
     for (int round = 0; round < rounds; ++round) {
-        for (int i = 0; i < 100; ++i) {
+        for (int i = 0; i < 60; ++i) {
             const std::string document = "d" + std::to_string(i) + ".rtf";
             if (i % 2 == 0) {
                 folder.write(document, "older");

@@ -42,6 +42,7 @@ TEST(TasksInOrder, AreAllDoneAndDeliveredInTheirOrder) {
             const auto work = [&](std::size_t, std::size_t task) {
                 takeTime(task);
                 ++done[task];
+                return task % 3 == 0;
             };
             const auto deliver = [&](std::size_t task) {
                 EXPECT_EQ(done[task], 1);
@@ -62,7 +63,7 @@ TEST(TasksInOrder, AreDeliveredOneAtATime) {
         takeTime(task);
         --delivering;
     };
-    doInOrder({100, 4, [](std::size_t, std::size_t) {}, deliver});
+    doInOrder({100, 4, [](std::size_t, std::size_t) { return false; }, deliver});
     EXPECT_EQ(delivering, 0);
 }
 
@@ -73,6 +74,7 @@ TEST(TasksInOrder, AreDoneOneAtATimeByEachThread) {
         EXPECT_EQ(++working.at(thread), 1);
         takeTime(task);
         --working[thread];
+        return false;
     };
     doInOrder({100, threads, work, [](std::size_t) {}});
     for (const std::atomic<int>& tasks : working) {
@@ -82,7 +84,7 @@ TEST(TasksInOrder, AreDoneOneAtATimeByEachThread) {
 
 TEST(TasksInOrder, DoNotRunAheadOfOneThatTakesLong) {
     constexpr std::size_t threads = 3;
-    constexpr std::size_t count = 200;
+    constexpr std::size_t count = 500;
     std::atomic<std::size_t> begun = 0;
     std::atomic<std::size_t> done = 0;
     std::atomic<std::size_t> delivered = 0;
@@ -92,18 +94,33 @@ TEST(TasksInOrder, DoNotRunAheadOfOneThatTakesLong) {
         std::size_t most = mostUnderWay;
         while (underWay > most && !mostUnderWay.compare_exchange_weak(most, underWay)) {
         }
-        // Every fiftieth goes on only when all are done that can be done before it is.
+        // Every hundredth goes on only when all are done that can be done before it is.
         const std::size_t withIt = std::min(count - task, tasksUnderWay(threads));
-        while (task % 50 == 0 && done < task + withIt - 1) {
+        while (task % 100 == 0 && done < task + withIt - 1) {
             std::this_thread::yield();
         }
         ++done;
+        return false;
     };
 
     doInOrder({count, threads, work, [&](std::size_t) { ++delivered; }});
 
     EXPECT_EQ(delivered, count);
     EXPECT_EQ(mostUnderWay, tasksUnderWay(threads));
+}
+
+TEST(TasksInOrder, WaitForTheDeliveryOfALargeResult) {
+    constexpr std::size_t threads = 3;
+    std::atomic<std::size_t> undelivered = 0;
+    std::atomic<bool> wereTooMany = false;
+    const auto work = [&](std::size_t, std::size_t task) {
+        takeTime(task);
+        wereTooMany = wereTooMany || ++undelivered > threads;
+        return true;
+    };
+    doInOrder({200, threads, work, [&](std::size_t) { --undelivered; }});
+    EXPECT_EQ(undelivered, 0U);
+    EXPECT_FALSE(wereTooMany);
 }
 
 TEST(TasksInOrder, EndWithTheExceptionOfOneAfterThoseBeforeItAreDelivered) {
@@ -116,6 +133,7 @@ TEST(TasksInOrder, EndWithTheExceptionOfOneAfterThoseBeforeItAreDelivered) {
                 throw std::runtime_error("the sixth");
             }
             takeTime(task);
+            return task == 3;
         };
         std::string message;
         try {
@@ -138,8 +156,9 @@ TEST(TasksInOrder, EndWithTheExceptionOfADelivery) {
             }
             delivered.push_back(task);
         };
-        EXPECT_THROW(doInOrder({100, threads, [](std::size_t, std::size_t) {}, deliver}),
-                     std::runtime_error);
+        EXPECT_THROW(
+            doInOrder({100, threads, [](std::size_t, std::size_t) { return true; }, deliver}),
+            std::runtime_error);
         EXPECT_THAT(delivered, ElementsAre(0, 1));
     }
 }
