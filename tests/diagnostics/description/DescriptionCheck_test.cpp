@@ -231,7 +231,7 @@ TEST(DescriptionCheck, TakesAnyCharacterInATextOfAFileInUtf8) {
 
 TEST(DescriptionCheck, ReportsCharactersThatAKeyOfAFileInUtf8CannotHold) {
     const std::vector<Diagnostic> findings = checkDescription(
-        "(doc\n(r\n(rk=P\u0159\u00EDbram)\n(c\n(p\n(pt=a)\n(pf=\u4E2D)\np)\nc)\nr)\ndoc)\n",
+        "(doc\n(r\n(row-key=P\u0159\u00EDbram)\n(c\n(p\n(pt=a)\n(pmf=\u4E2D)\np)\nc)\nr)\ndoc)\n",
         nullptr, TextEncoding::Utf8);
     ASSERT_EQ(findings.size(), 2u);
     EXPECT_EQ(findings[0].id, DiagnosticId::UnencodableValue);
