@@ -4,7 +4,7 @@
 #include <span>
 #include <string_view>
 
-#include "quorvane/base/text/FixedText.h"
+#include "quorvane/base/text/FixedString.h"
 
 namespace quorvane {
 
@@ -73,7 +73,7 @@ enum class RtfContent : std::uint8_t {
 };
 
 /// The letters of a control word. No word has more.
-using RtfLetters = FixedText<19>;
+using RtfLetters = FixedString<19>;
 
 /// A control word of RTF up to version 1.9.1, or of the marked fields.
 struct RtfWord {

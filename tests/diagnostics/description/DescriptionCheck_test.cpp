@@ -238,7 +238,7 @@ TEST(DescriptionCheck, ReportsCharactersThatAKeyOfAFileInUtf8CannotHold) {
     EXPECT_EQ(findings[0].message,
               "\u0159 isn't in Windows-1252; only the text of a paragraph can hold it.");
     EXPECT_EQ(findings[0].place.line, 3);
-    EXPECT_EQ(findings[0].place.column, 6);
+    EXPECT_EQ(findings[0].place.column, 11);
     EXPECT_EQ(findings[0].place.length, 1);
     EXPECT_EQ(findings[1].id, DiagnosticId::UnencodableValue);
     EXPECT_EQ(findings[1].place.line, 7);

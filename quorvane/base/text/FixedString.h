@@ -9,12 +9,12 @@ namespace quorvane {
 /// A short text within the object itself, for large tables of constants: a table of pointers to
 /// texts is written to when a program starts, page by page.
 template <std::size_t Capacity>
-class FixedText {
+class FixedString {
 public:
-    constexpr FixedText() = default;
+    constexpr FixedString() = default;
     /// A longer text does not compile.
     template <std::size_t Size>
-    requires(Size - 1 <= Capacity) consteval FixedText(const char (&letters)[Size])
+    requires(Size - 1 <= Capacity) consteval FixedString(const char (&letters)[Size])
         : length_(Size - 1) {
         std::copy_n(letters, Size - 1, letters_);
     }
