@@ -7,7 +7,6 @@
 #include <string>
 #include <vector>
 
-#include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/base/text/codePage1252.h"
 #include "quorvane/diagnostics/description/DescriptionCheck.h"
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
@@ -43,9 +42,8 @@ std::vector<std::string> findingsOf(std::string_view example, const DiagnosticRu
     switch (rule.language) {
         case CheckedLanguage::Description: {
             KnownStyles styles(utf8FromCodePage1252(companion));
-            return identifiers(checkDescription(decodedText(text, rule.encoding),
-                                                companion.empty() ? nullptr : &styles,
-                                                rule.encoding));
+            return identifiers(checkDescription(utf8FromCodePage1252(text),
+                                                companion.empty() ? nullptr : &styles));
         }
         case CheckedLanguage::StyleSheet: {
             KnownStyles styles(utf8FromCodePage1252(text));

@@ -30,7 +30,6 @@ enum class DiagnosticId {
     NotANumber,
     Overflow,
     TakenKey,
-    UnencodableValue,
     Rejected,
 
     // nodeWarnings.h

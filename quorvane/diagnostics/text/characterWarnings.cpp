@@ -68,14 +68,9 @@ void findInOther(std::string_view character, char32_t code, TextUse use, TextRep
     const bool isControl = code < 0xA0 && code >= 0x80;
     if (isControl && use != TextUse::FieldData) {
         reporter.report(DiagnosticId::ControlCharacter, character, {numberedCharacter(code)});
-    } else if (codePage1252FromUtf8(character) != "?") {
-        return;
-    } else if (reporter.encoding() == TextEncoding::Windows1252) {
+    } else if (codePage1252FromUtf8(character) == "?") {
         reporter.report(DiagnosticId::UnencodableCharacter, character, {character, "?"},
                         unicodeHint(code, use));
-    } else if (use == TextUse::Format || use == TextUse::StyleName) {
-        // Texts can hold any character, and errors of data are those of the build.
-        reporter.report(DiagnosticId::UnencodableValue, character, {character});
     }
 }
 
@@ -87,8 +82,7 @@ std::size_t findInCharacter(std::string_view text, std::size_t at, TextUse use,
         findInAscii(text.substr(at, 1), use, reporter);
         return 1;
     }
-    const bool isUtf8 = reporter.encoding() == TextEncoding::Utf8;
-    if (const auto meant = isUtf8 ? std::nullopt : meantCharacterAt(text, at)) {
+    if (const auto meant = meantCharacterAt(text, at)) {
         reportMojibake(*meant, text.substr(at, meant->length), use, reporter);
         return meant->length;
     }
