@@ -44,7 +44,11 @@ public:
 
     /// A report on other receivers that has taken the same stylesheet.
     RenderReport(const RenderReport& other, const RenderReceivers& receivers)
-        : options_(other.options_), receivers_(receivers), styleSheet_(other.styleSheet_) {}
+        : options_(other.options_), receivers_(receivers) {
+        if (other.styleSheet_) {
+            styleSheet_.emplace(StyleSheet{other.styleSheet_->name, other.styleSheet_->bytes});
+        }
+    }
 
     /// A file that cannot be read or written, or a document that cannot be made.
     void fail(const ReportedError& failure) { receivers_.report(failure); }

@@ -1,15 +1,15 @@
 #include "cli/RenderWorker.h"
 
-#include <cstddef>
 #include <cstdint>
 #include <new>
+
+#include "quorvane/docmodel/InnerDocument.h"
 
 namespace quorvane::cli {
 
 namespace {
 
 constexpr std::int32_t outOfMemory = 7;
-constexpr std::size_t largestKeptDocument = std::size_t{1024} * 1024;
 
 }  // namespace
 
@@ -17,9 +17,10 @@ ExitStatus RenderWorker::render(const Assignment& assignment) {
     try {
         const ExitStatus status =
             DescriptionRendering(assignment, manner_, platform_, driver_, report_).run();
-        // The next document uses the memory of a small one again; that of a large one is
-        // released. After an error the next description gets a new driver.
-        if (status != ExitStatus::Success || driver_->Contents().size() > largestKeptDocument) {
+        // The next document uses the memory of a short one again. The text of a long one was not
+        // kept and would have to be rendered once more. After an error the next description gets a
+        // new driver.
+        if (status != ExitStatus::Success || !inner(*driver_->RtfObject()).holdsShortText()) {
             driver_ = nullptr;
         }
         return status;

@@ -17,9 +17,9 @@
 #include "quorvane/diagnostics/stylesheet/StyleSheetCheck.h"
 #include "quorvane/docmodel/CRtfDoc.h"
 #include "quorvane/docmodel/InnerDocument.h"
-#include "quorvane/docmodel/inline/inlineStyles.h"
 #include "quorvane/driver/CRtfDriver.h"
 #include "quorvane/support/recordStrings.h"
+#include "tests/docmodel/withCharacterStyles.h"
 #include "tests/support/FakePlatform.h"
 
 namespace quorvane {

@@ -22,19 +22,39 @@ namespace {
 
 constexpr std::size_t nowhere = std::string_view::npos;
 
-/// Appends the words of a token's style.
-void appendWords(const TableDocument& document, std::string_view name, bool hasValue,
-                 std::string& rtf) {
-    const std::string_view words = document.GetCharacterStyle(name);
-    rtf += hasValue ? words : trimBlanks(words);
-}
+/// The words of the character styles of a document. Most tokens name the same style as the one
+/// before.
+class TokenWords {
+public:
+    explicit TokenWords(const TableDocument& document) noexcept : document_(document) {}
 
-void appendWords(const TableDocument& document, std::u32string_view name, bool hasValue,
-                 std::u32string& rtf) {
-    std::string words;
-    appendWords(document, textOfUtf16Units(name), hasValue, words);
-    rtf += utf16Units(words);
-}
+    /// Appends the words of a token's style.
+    void append(std::string_view name, bool hasValue, std::string& rtf) {
+        rtf += wordsOf(name, hasValue);
+    }
+    void append(std::u32string_view name, bool hasValue, std::u32string& rtf) {
+        nameOfUnits_.clear();
+        appendTextOfUtf16Units(name, nameOfUnits_);
+        appendUtf16Units(wordsOf(nameOfUnits_, hasValue), rtf);
+    }
+
+private:
+    std::string_view wordsOf(std::string_view name, bool hasValue) {
+        if (!isKnown_ || name != name_) {
+            isKnown_ = false;
+            name_ = name;
+            words_ = document_.GetCharacterStyle(name);
+            isKnown_ = true;
+        }
+        return hasValue ? words_ : trimBlanks(words_);
+    }
+
+    const TableDocument& document_;
+    std::string name_;
+    std::string_view words_;
+    bool isKnown_ = false;
+    std::string nameOfUnits_;
+};
 
 struct Span {
     std::size_t start;
@@ -53,6 +73,12 @@ public:
         }
         const std::size_t slot = slotOf(token, std::hash<View>{}(token));
         return slots_[slot] == 0 ? nullptr : &entries_[slots_[slot] - 1].group;
+    }
+
+    /// Forgets the tokens and keeps the memory.
+    void clear() noexcept {
+        entries_.clear();
+        slots_.clear();
     }
 
     /// Adds a token that `find` does not find.
@@ -99,27 +125,34 @@ private:
 
 /// The walk over a body whose characters are its places.
 template <class Character>
-class InlineStyles {
+class InlineStyleWalk {
 public:
     using Text = std::basic_string<Character>;
     using View = std::basic_string_view<Character>;
 
-    InlineStyles(const TableDocument& document, View body) : document_(document), body_(body) {}
+    explicit InlineStyleWalk(TokenWords& words) noexcept : words_(words) {}
 
-    /// No text when the words of a style have characters that are more than one place: a byte is
-    /// one place in ASCII only.
-    std::optional<Text> apply() {
+    /// The body with its tokens replaced, valid until the next call. Nothing when the words of a
+    /// style have characters that are more than one place: a byte is one place in ASCII only.
+    std::optional<View> apply(View body) {
+        body_ = body;
+        next_ = 0;
+        done_.clear();
+        replaced_.clear();
+        placesAreRight_ = true;
+        wordsHoldTokens_ = false;
         if (bracketsAlternate()) {
-            constexpr std::size_t roomForWords = 64;
-            done_.reserve(body_.size() + roomForWords);
             walkOnce();
         } else {
             done_ = body_;
             const std::size_t open = done_.find(opening);
             walkOver({open, open});
         }
-        return placesAreRight_ ? std::optional(std::move(done_)) : std::nullopt;
+        return placesAreRight_ ? std::optional(View(done_)) : std::nullopt;
     }
+
+    /// False when a walk took memory that is not there for the next one.
+    bool keepsItsMemory() const noexcept { return keepsItsMemory_; }
 
 private:
     static constexpr Character opening{'<'};
@@ -223,6 +256,7 @@ private:
         if (from.opening == nowhere || done_.find(closing, from.closing + 1) == nowhere) {
             return;
         }
+        keepsItsMemory_ = false;
         const WordsOfToken<Character> wordsOf = [this](View name, bool hasValue) {
             Text words;
             appendWords(name, hasValue, words);
@@ -245,14 +279,14 @@ private:
 
     void appendWords(View name, bool hasValue, Text& text) {
         const std::size_t start = text.size();
-        quorvane::appendWords(document_, name, hasValue, text);
+        words_.append(name, hasValue, text);
         wordsHoldTokens_ = wordsHoldTokens_ || text.find(opening, start) != nowhere;
         if constexpr (sizeof(Character) == 1) {
             placesAreRight_ = placesAreRight_ && asciiRunEnd(text, start) == text.size();
         }
     }
 
-    const TableDocument& document_;
+    TokenWords& words_;
     View body_;
     std::size_t next_ = 0;
     Text done_;
@@ -261,18 +295,53 @@ private:
     bool placesAreRight_ = true;
     // Words that were put in hold a "<". Otherwise each token that is replaced leaves one "<" less.
     bool wordsHoldTokens_ = false;
+    bool keepsItsMemory_ = true;
 };
 
 }  // namespace
 
-std::string withCharacterStyles(const TableDocument& document, std::string_view text) {
-    if (asciiRunEnd(text, 0) == text.size()) {
-        if (std::optional<std::string> styled = InlineStyles<char>(document, text).apply()) {
-            return *std::move(styled);
+class InlineStyles::Walks {
+public:
+    explicit Walks(const TableDocument& document) : words_(document) {}
+
+    std::string_view replace(std::string_view text) {
+        if (asciiRunEnd(text, 0) == text.size()) {
+            if (const std::optional<std::string_view> styled = overBytes_.apply(text)) {
+                return *styled;
+            }
         }
+        units_.clear();
+        appendUtf16Units(text, units_);
+        styled_.clear();
+        appendTextOfUtf16Units(*overUnits_.apply(units_), styled_);
+        return styled_;
     }
-    const std::u32string units = utf16Units(text);
-    return textOfUtf16Units(*InlineStyles<char32_t>(document, units).apply());
+
+    bool keepsItsMemory() const noexcept {
+        return overBytes_.keepsItsMemory() && overUnits_.keepsItsMemory();
+    }
+
+private:
+    TokenWords words_;
+    InlineStyleWalk<char> overBytes_{words_};
+    InlineStyleWalk<char32_t> overUnits_{words_};
+    std::u32string units_;
+    std::string styled_;
+};
+
+InlineStyles::InlineStyles(const TableDocument& document) noexcept : document_(document) {}
+
+InlineStyles::~InlineStyles() = default;
+
+std::string_view InlineStyles::replace(std::string_view text) {
+    if (!walks_) {
+        walks_ = std::make_unique<Walks>(document_);
+    }
+    return walks_->replace(text);
+}
+
+bool InlineStyles::keepsItsMemory() const noexcept {
+    return !walks_ || walks_->keepsItsMemory();
 }
 
 }  // namespace quorvane
