@@ -103,7 +103,7 @@ private:
                 folder.write(name + ".rtf", "older");
                 break;
             case 4:
-                write(rowsWithBadColor(below(300)));
+                write(rowsWithBadColor(below(200)));
                 break;
             case 5:
                 write(descriptionOf("{ <b=x> \\q"));
