@@ -62,6 +62,18 @@ RtfError refusal(const Diagnostics& reasons) {
 
 }  // namespace
 
+RenderReport::RenderReport(const RenderReport& other, const RenderReceivers& receivers)
+    : options_(other.options_), receivers_(receivers) {
+    if (other.styleSheet_) {
+        const StyleSheet& sheet = *other.styleSheet_;
+        // Its styles are looked up again: which of them are used is known for each report apart.
+        styleSheet_ = {.name = sheet.name,
+                       .bytes = sheet.bytes,
+                       .diagnostics = sheet.diagnostics,
+                       .isReported = sheet.isReported};
+    }
+}
+
 bool RenderReport::passStyleSheet(const std::string& name, const std::string& bytes) {
     styleSheet_.emplace(StyleSheet{name, bytes});
     if (const std::optional<Diagnostic> binary = findNotATextFile(bytes)) {

@@ -43,12 +43,7 @@ public:
         : options_(options), receivers_(receivers) {}
 
     /// A report on other receivers that has taken the same stylesheet.
-    RenderReport(const RenderReport& other, const RenderReceivers& receivers)
-        : options_(other.options_), receivers_(receivers) {
-        if (other.styleSheet_) {
-            styleSheet_.emplace(StyleSheet{other.styleSheet_->name, other.styleSheet_->bytes});
-        }
-    }
+    RenderReport(const RenderReport& other, const RenderReceivers& receivers);
 
     /// A file that cannot be read or written, or a document that cannot be made.
     void fail(const ReportedError& failure) { receivers_.report(failure); }

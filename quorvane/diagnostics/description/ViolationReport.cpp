@@ -126,6 +126,8 @@ DiagnosticId diagnosticOf(DriverFault fault) {
             return DiagnosticId::Overflow;
         case DriverFault::TakenKey:
             return DiagnosticId::TakenKey;
+        case DriverFault::Unencodable:
+            return DiagnosticId::UnencodableValue;
         default:
             return DiagnosticId::Rejected;
     }

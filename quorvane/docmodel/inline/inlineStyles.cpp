@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <functional>
 #include <optional>
 #include <string_view>
@@ -22,39 +23,95 @@ namespace {
 
 constexpr std::size_t nowhere = std::string_view::npos;
 
-/// The words of the character styles of a document. Most tokens name the same style as the one
-/// before.
+/// What decides how the inline styles of a text are replaced.
+struct TextForm {
+    bool isAscii = true;
+    /// Every "<" is followed by a ">" before the next "<".
+    bool bracketsAlternate = true;
+};
+
+// Texts are short, but there are many: eight characters at a time.
+TextForm formOf(std::string_view text) {
+    constexpr std::uint64_t ones = 0x0101010101010101U;
+    constexpr std::uint64_t highBits = 0x80 * ones;
+    TextForm form;
+    std::uint64_t all = 0;
+    bool isOpen = false;
+    const auto note = [&](char character) {
+        if (isBracket(character)) {
+            form.bracketsAlternate = form.bracketsAlternate && !(isOpen && character == '<');
+            isOpen = character == '<';
+        }
+    };
+    while (text.size() >= sizeof all) {
+        std::uint64_t block = 0;
+        std::memcpy(&block, text.data(), sizeof block);
+        all |= block;
+        // The brackets differ in one bit. A byte that is 0 here is one of them.
+        const std::uint64_t zeroForBracket = (block | '\x02' * ones) ^ '>' * ones;
+        if (((zeroForBracket - ones) & ~zeroForBracket & highBits) != 0) {
+            std::for_each_n(text.begin(), sizeof block, note);
+        }
+        text.remove_prefix(sizeof block);
+    }
+    for (const char character : text) {
+        all |= static_cast<unsigned char>(character);
+        note(character);
+    }
+    form.isAscii = (all & highBits) == 0;
+    return form;
+}
+
+/// The words of a character style.
+struct StyleWords {
+    std::string_view all;
+    /// For a token without a value.
+    std::string_view trimmed;
+    bool areAscii = true;
+    bool holdOpening = false;
+    bool holdBracket = false;
+};
+
+/// Looks the words of the tokens up. Most tokens name the same style as the one before.
 class TokenWords {
 public:
     explicit TokenWords(const TableDocument& document) noexcept : document_(document) {}
 
-    /// Appends the words of a token's style.
-    void append(std::string_view name, bool hasValue, std::string& rtf) {
-        rtf += wordsOf(name, hasValue);
-    }
-    void append(std::u32string_view name, bool hasValue, std::u32string& rtf) {
-        nameOfUnits_.clear();
-        appendTextOfUtf16Units(name, nameOfUnits_);
-        appendUtf16Units(wordsOf(nameOfUnits_, hasValue), rtf);
-    }
-
-private:
-    std::string_view wordsOf(std::string_view name, bool hasValue) {
+    const StyleWords& find(std::string_view name) {
         if (!isKnown_ || name != name_) {
             isKnown_ = false;
             name_ = name;
-            words_ = document_.GetCharacterStyle(name);
+            const std::string_view words = document_.GetCharacterStyle(name);
+            words_.all = words;
+            words_.trimmed = trimBlanks(words);
+            words_.areAscii = asciiRunEnd(words, 0) == words.size();
+            words_.holdOpening = words.find('<') != nowhere;
+            words_.holdBracket = std::any_of(words.begin(), words.end(), isBracket);
             isKnown_ = true;
         }
-        return hasValue ? words_ : trimBlanks(words_);
+        return words_;
+    }
+    const StyleWords& find(std::u32string_view name) {
+        nameOfUnits_.clear();
+        appendTextOfUtf16Units(name, nameOfUnits_);
+        return find(nameOfUnits_);
     }
 
+private:
     const TableDocument& document_;
-    std::string name_;
-    std::string_view words_;
     bool isKnown_ = false;
+    std::string name_;
     std::string nameOfUnits_;
+    StyleWords words_;
 };
+
+void append(std::string_view words, std::string& text) {
+    text += words;
+}
+
+void append(std::string_view words, std::u32string& text) {
+    appendUtf16Units(words, text);
+}
 
 struct Span {
     std::size_t start;
@@ -134,14 +191,14 @@ public:
 
     /// The body with its tokens replaced, valid until the next call. Nothing when the words of a
     /// style have characters that are more than one place: a byte is one place in ASCII only.
-    std::optional<View> apply(View body) {
+    std::optional<View> apply(View body, bool bracketsAlternate) {
         body_ = body;
         next_ = 0;
         done_.clear();
         replaced_.clear();
         placesAreRight_ = true;
         wordsHoldTokens_ = false;
-        if (bracketsAlternate()) {
+        if (bracketsAlternate) {
             walkOnce();
         } else {
             done_ = body_;
@@ -161,20 +218,6 @@ private:
     static bool isToken(View inner) {
         return !inner.empty() && beginsInlineToken(inner[0]) &&
                inner.find(Character{'='}) != nowhere;
-    }
-
-    /// True when every "<" is followed by a ">" before the next "<".
-    bool bracketsAlternate() const {
-        bool isOpen = false;
-        for (const Character character : body_) {
-            if (isBracket(character)) {
-                if (isOpen && character == opening) {
-                    return false;
-                }
-                isOpen = character == opening;
-            }
-        }
-        return true;
     }
 
     /// One pass for a body whose brackets alternate. What the walk has passed is in `done_`. The
@@ -199,8 +242,8 @@ private:
                     return;
                 }
             }
-            const auto group = done_.begin() + static_cast<std::ptrdiff_t>(open);
-            if (leavesStep || std::any_of(group, done_.end(), isBracket)) {
+            // The value has no bracket, or the brackets would not alternate.
+            if (leavesStep || (isReplaced && lastWordsHoldBracket_)) {
                 done_.resize(open);
                 appendRest();
                 walkOver({open, close.value_or(open)});
@@ -278,11 +321,12 @@ private:
     }
 
     void appendWords(View name, bool hasValue, Text& text) {
-        const std::size_t start = text.size();
-        words_.append(name, hasValue, text);
-        wordsHoldTokens_ = wordsHoldTokens_ || text.find(opening, start) != nowhere;
+        const StyleWords& words = words_.find(name);
+        append(hasValue ? words.all : words.trimmed, text);
+        wordsHoldTokens_ = wordsHoldTokens_ || words.holdOpening;
+        lastWordsHoldBracket_ = words.holdBracket;
         if constexpr (sizeof(Character) == 1) {
-            placesAreRight_ = placesAreRight_ && asciiRunEnd(text, start) == text.size();
+            placesAreRight_ = placesAreRight_ && words.areAscii;
         }
     }
 
@@ -295,6 +339,7 @@ private:
     bool placesAreRight_ = true;
     // Words that were put in hold a "<". Otherwise each token that is replaced leaves one "<" less.
     bool wordsHoldTokens_ = false;
+    bool lastWordsHoldBracket_ = false;
     bool keepsItsMemory_ = true;
 };
 
@@ -305,15 +350,16 @@ public:
     explicit Walks(const TableDocument& document) : words_(document) {}
 
     std::string_view replace(std::string_view text) {
-        if (asciiRunEnd(text, 0) == text.size()) {
-            if (const std::optional<std::string_view> styled = overBytes_.apply(text)) {
+        const TextForm form = formOf(text);
+        if (form.isAscii) {
+            if (const auto styled = overBytes_.apply(text, form.bracketsAlternate)) {
                 return *styled;
             }
         }
         units_.clear();
         appendUtf16Units(text, units_);
         styled_.clear();
-        appendTextOfUtf16Units(*overUnits_.apply(units_), styled_);
+        appendTextOfUtf16Units(*overUnits_.apply(units_, form.bracketsAlternate), styled_);
         return styled_;
     }
 
