@@ -84,7 +84,7 @@ protected:
 
 TEST_F(SideBySideJobs, ComesToTheSameAsOneAfterTheOther) {
     std::map<std::string, int> results;
-    for (unsigned seed = 0; seed < 40; ++seed) {
+    for (unsigned seed = 0; seed < 25; ++seed) {
         const Outcome inTurn = outcomeOf(seed, 1);
         ++results[inTurn.result];
         for (const std::size_t jobs : {2, 7}) {
@@ -94,8 +94,8 @@ TEST_F(SideBySideJobs, ComesToTheSameAsOneAfterTheOther) {
             EXPECT_EQ(sideBySide.files, inTurn.files) << "seed " << seed;
         }
     }
-    EXPECT_GT(results["status 1"], 5);
-    EXPECT_GT(results["status 2"], 5);
+    EXPECT_GE(results["status 1"], 3);
+    EXPECT_GE(results["status 2"], 3);
 }
 
 TEST_F(SideBySideJobs, ReportsAStyleSheetOnce) {

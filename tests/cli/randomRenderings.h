@@ -76,6 +76,14 @@ private:
         return options;
     }
 
+    static std::string rowsWithBadColor(unsigned count) {
+        std::string rows;
+        for (unsigned i = 0; i < count; ++i) {
+            rows += "(r\n(rb=crimson)\n(c\n(p\n(pt=Text)\np)\nc)\nr)\n";
+        }
+        return "(doc\n" + rows + "doc)\n";
+    }
+
     std::string description(const TemporaryFolder& folder, const std::string& name) {
         const std::string path = folder / (name + ".rtfspec");
         const auto write = [&](const std::string& bytes) {
@@ -95,7 +103,7 @@ private:
                 folder.write(name + ".rtf", "older");
                 break;
             case 4:
-                write(std::string(below(3000), '\n') + descriptionWithBadColor);
+                write(rowsWithBadColor(below(200)));
                 break;
             case 5:
                 write(descriptionOf("{ <b=x> \\q"));

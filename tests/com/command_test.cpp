@@ -129,6 +129,65 @@ TEST(Command, TakesNamesInAnyScript) {
     DeleteFileW(document.c_str());
 }
 
+/// Descriptions beside which their documents go; every third has an error.
+class ManyDescriptions {
+public:
+    ManyDescriptions() {
+        for (int i = 0; i < 12; ++i) {
+            const std::wstring name = temporaryFile(L"many" + std::to_wstring(i));
+            descriptions_.push_back(name + L".rtfspec");
+            documents_.push_back(name + L".rtf");
+            const std::string color = i % 3 == 0 ? "crimson" : "red";
+            writeFile(descriptions_.back(),
+                      "(doc\r\n(r\r\n(rb=" + color + ")\r\n(c\r\nc)\r\nr)\r\ndoc)");
+        }
+    }
+    ManyDescriptions(const ManyDescriptions&) = delete;
+    ManyDescriptions& operator=(const ManyDescriptions&) = delete;
+    ~ManyDescriptions() {
+        for (const std::wstring& description : descriptions_) {
+            DeleteFileW(description.c_str());
+        }
+    }
+
+    ProcessResult render(const std::wstring& option) const {
+        std::wstring arguments = L"render " + option;
+        for (const std::wstring& description : descriptions_) {
+            arguments += L" " + inQuotes(description);
+        }
+        return runCommand(arguments);
+    }
+
+    /// The bytes of the documents, which it removes.
+    std::vector<std::string> takeDocuments() const {
+        std::vector<std::string> bytes;
+        for (const std::wstring& document : documents_) {
+            bytes.push_back(bytesOfFile(document));
+            DeleteFileW(document.c_str());
+        }
+        return bytes;
+    }
+
+private:
+    std::vector<std::wstring> descriptions_;
+    std::vector<std::wstring> documents_;
+};
+
+TEST(Command, RendersSeveralDescriptionsAtATimeAsOneAfterTheOther) {
+    const ManyDescriptions many;
+    const ProcessResult inTurn = many.render(L"-j1");
+    const std::vector<std::string> documents = many.takeDocuments();
+    EXPECT_EQ(inTurn.status, 1U);
+    EXPECT_EQ(documents[0], "");
+    EXPECT_EQ(documents[1].substr(0, 6), "{\\rtf1");
+
+    const ProcessResult sideBySide = many.render(L"-j4");
+
+    EXPECT_EQ(sideBySide.status, 1U);
+    EXPECT_EQ(sideBySide.errors, inTurn.errors);
+    EXPECT_EQ(many.takeDocuments(), documents);
+}
+
 TEST(Command, FailsWhenAnotherProgramHoldsTheDocument) {
     const std::wstring description = temporaryFile(L"held.rtfspec");
     const std::wstring document = temporaryFile(L"held.rtf");
