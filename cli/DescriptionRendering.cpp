@@ -56,7 +56,7 @@ ExitStatus DescriptionRendering::run() {
         status_ = ExitStatus::ContentErrors;
     }
     if (std::optional<std::string> text = readDescription()) {
-        analyse(*text);
+        parse(*text);
         text.reset();
         if (mayWrite()) {
             leaveDocumentBefore();
@@ -115,7 +115,7 @@ std::optional<std::string> DescriptionRendering::readDescription() {
     }
 }
 
-void DescriptionRendering::analyse(const std::string& text) {
+void DescriptionRendering::parse(const std::string& text) {
     const std::string name = inputName(assignment_.description);
     driver_->setErroneousInput(manner_.check);
     driver_->setNotifyErrorHandler([&](CRtfDriver&, const RtfError& error) {

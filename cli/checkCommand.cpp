@@ -119,8 +119,8 @@ ExitStatus checkAndReport(const CheckOptions& options) {
     const Colors outputColors = wantedColors(standardOutputIsTerminal());
     const Colors colors = isForBytes ? wantedColors(standardErrorColumns() > 0) : outputColors;
     Gatherer report(!isForBytes);
-    if (const std::string answer = textWithoutCheck(options); !answer.empty()) {
-        report.add(answer);
+    if (const std::string text = textWithoutCheck(options); !text.empty()) {
+        report.add(text);
         report.end();
         return ExitStatus::Success;
     }

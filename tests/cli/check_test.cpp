@@ -570,7 +570,7 @@ TEST_F(CheckTest, FindsNothingInTheExamplesAndTheirDocuments) {
     EXPECT_GE(checked, 4);
 }
 
-/// Golden descriptions, with what the check says of them in a file beside each.
+/// Golden descriptions, each with the report of the check in a file beside it.
 class GoldenCheckTest : public testing::TestWithParam<std::string> {};
 
 TEST_P(GoldenCheckTest, GetsTheExpectedReport) {
