@@ -292,6 +292,9 @@ TEST_F(CheckTest, DoublesBracesInSarifWhereOneWouldBeAPlaceholder) {
         return rule.at("id") == "wrong-color";
     });
     EXPECT_EQ(wrongColor->at("shortDescription").at("text"), "… isn't a recognized color.");
+    const auto overflow = std::find_if(
+        rules.begin(), rules.end(), [](const json& rule) { return rule.at("id") == "overflow"; });
+    EXPECT_EQ(overflow->at("shortDescription").at("text"), "A number is too large.");
 }
 
 TEST_F(CheckTest, SaysInSarifHowTheFilesAreEncoded) {

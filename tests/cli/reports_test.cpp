@@ -566,7 +566,7 @@ a.rtfspec:18:2: error: width isn't a valid keyword. [wrong-keyword]
 a.rtfspec:19:5: error: Value for cell-width should be numeric. [not-a-number]
     (cw=5cm)
         ^~~
-    hint: write a percentage of the width between the margins, without a %
+    hint: a cell width is a percentage of the width between the margins, not a length; write it without a unit
     (and 1 more like this: line 29)
 a.rtfspec:20:2: error: align isn't a valid keyword. [wrong-keyword]
     (align=left)

@@ -126,7 +126,12 @@ Hint numberHint(std::string_view key, std::string_view value) {
         const std::string alone(parts->writtenNumber);
         return {"write only the number: " + alone, alone};
     }
-    if (const LengthUnit* unit = lengthUnitOf(parts->unit)) {
+    const LengthUnit* const unit = lengthUnitOf(parts->unit);
+    if (key == "cell-width" && (unit || lowerCase(parts->unit) == "px")) {
+        return "a cell width is a percentage of the width between the margins, not a length; write "
+               "it without a unit";
+    }
+    if (unit) {
         return lengthHint(key, parts->number, *unit, value);
     }
     return acceptedNumber(key);
