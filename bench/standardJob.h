@@ -32,7 +32,7 @@ Ref<CRtfDoc> standardDocument(std::int32_t rows);
 /// one buffer.
 std::string emitStandardJob(std::int32_t rows);
 
-/// The same through a buffer of 64 KB that is handed on whenever it is full.
+/// The same through a buffer of about 64 KB that is handed on whenever it is full.
 void streamStandardJob(std::int32_t rows, const std::function<void(std::string_view)>& write);
 
 }  // namespace quorvane::bench

@@ -1,7 +1,8 @@
 // The standard job once, as a whole process: table_bench R OUT builds R rows through the object
 // model, renders and commits them. With "emitter" as a third argument the hand-written emitter
-// writes the same bytes.
+// writes the same bytes from one buffer, with "streaming" through a buffer of 64 KB.
 
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -11,21 +12,41 @@
 
 #include "bench/standardJob.h"
 
+namespace {
+
+using namespace quorvane::bench;
+
+void writeFromOneBuffer(std::int32_t rows, std::ofstream& file) {
+    const std::string rtf = emitStandardJob(rows);
+    file.write(rtf.data(), static_cast<std::streamsize>(rtf.size()));
+}
+
+void writeStreaming(std::int32_t rows, std::ofstream& file) {
+    streamStandardJob(rows, [&file](std::string_view bytes) {
+        file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    });
+}
+
+void run(std::int32_t rows, const std::string& path, std::string_view how) {
+    if (how.empty()) {
+        standardDocument(rows)->Commit(path);
+        return;
+    }
+    std::ofstream file(path, std::ios::binary);
+    (how == "streaming" ? writeStreaming : writeFromOneBuffer)(rows, file);
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
     if (argc < 3) {
-        static_cast<void>(std::fprintf(stderr, "usage: %s ROWS FILE [emitter]\n", argv[0]));
+        static_cast<void>(
+            std::fprintf(stderr, "usage: %s ROWS FILE [emitter|streaming]\n", argv[0]));
         return 2;
     }
     const auto rows = static_cast<std::int32_t>(std::strtol(argv[1], nullptr, 10));
-    const std::string path = argv[2];
     try {
-        if (argc > 3 && std::string_view(argv[3]) == "emitter") {
-            const std::string rtf = quorvane::bench::emitStandardJob(rows);
-            std::ofstream(path, std::ios::binary)
-                .write(rtf.data(), static_cast<std::streamsize>(rtf.size()));
-        } else {
-            quorvane::bench::standardDocument(rows)->Commit(path);
-        }
+        run(rows, argv[2], argc > 3 ? argv[3] : "");
     } catch (const std::exception& error) {
         static_cast<void>(std::fprintf(stderr, "%s\n", error.what()));
         return 1;

@@ -39,6 +39,7 @@ std::unique_ptr<OutputFile> CommandPlatform::replaceFile(const std::string& path
 }
 
 void CommandPlatform::createMissingFolder() {
+    const std::lock_guard lock(missingFolderMutex_);
     if (!missingFolder_) {
         return;
     }

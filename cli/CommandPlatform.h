@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <string>
 
@@ -10,7 +11,8 @@ namespace quorvane::cli {
 
 /// The platform for the library when the command runs it: files are read from another platform, a
 /// document replaces its file as a whole or goes to standard output, and the clipboard and message
-/// boxes are not used. The cause of an error 75 of reading is the system's message.
+/// boxes are not used. The cause of an error 75 of reading is the system's message. Once the
+/// stylesheet is read, several threads may use it at a time.
 class CommandPlatform : public Platform {
 public:
     /// The other platform must outlive this one.
@@ -56,6 +58,7 @@ private:
 
     Platform& files_;
     std::optional<StyleSheet> styleSheet_;
+    std::mutex missingFolderMutex_;
     std::optional<std::string> missingFolder_;
 };
 

@@ -37,8 +37,9 @@ DescriptionRendering::DescriptionRendering(const Assignment& assignment,
       manner_(manner),
       platform_(platform),
       driver_(driver),
+      isDriverNew_(!driver),
       report_(report) {
-    if (!driver_) {
+    if (isDriverNew_) {
         driver_ = CRtfDriver::create(platform_);
     }
 }
@@ -70,7 +71,7 @@ ExitStatus DescriptionRendering::run() {
 /// the one before.
 void DescriptionRendering::leaveDocumentBefore() {
     const Ref<CRtfDoc> document = driver_->RtfObject();
-    if (document->Changed() || document->Contents() == "{}") {
+    if (isDriverNew_ || document->Changed() || document->Contents() == "{}") {
         return;
     }
     driver_ = CRtfDriver::create(platform_);

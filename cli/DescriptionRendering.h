@@ -51,6 +51,7 @@ private:
     const RenderingManner& manner_;
     CommandPlatform& platform_;
     Ref<CRtfDriver>& driver_;
+    bool isDriverNew_;
     RenderReport& report_;
     ExitStatus status_ = ExitStatus::Success;
 };

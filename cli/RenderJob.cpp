@@ -3,11 +3,12 @@
 #include <algorithm>
 #include <filesystem>
 #include <memory>
-#include <new>
 #include <system_error>
+#include <thread>
 #include <utility>
-#include <vector>
 
+#include "cli/RenderWorker.h"
+#include "cli/SideBySideRendering.h"
 #include "cli/fileFailure.h"
 #include "cli/styleSheetName.h"
 #include "cli/utf8Path.h"
@@ -16,8 +17,9 @@ namespace quorvane::cli {
 
 namespace {
 
-constexpr std::int32_t outOfMemory = 7;
-constexpr std::size_t largestKeptDocument = std::size_t{1024} * 1024;
+std::size_t coreCount() {
+    return std::max<std::size_t>(std::thread::hardware_concurrency(), 1);
+}
 
 }  // namespace
 
@@ -42,17 +44,14 @@ ExitStatus RenderJob::run() {
     if (!prepareOutputFolder()) {
         return ExitStatus::Failure;
     }
-    ExitStatus status = readStyleSheet();
+    const ExitStatus status = readStyleSheet();
     if (status != ExitStatus::Success && !options_.keepGoing) {
         return status;
     }
-    for (std::size_t i = 0; i < assignments.size(); ++i) {
-        if (receivers_.progress) {
-            receivers_.progress(i + 1, assignments.size(), assignments[i].description);
-        }
-        status = std::max(status, render(assignments[i]));
-    }
-    return status;
+    const std::size_t jobs = options_.jobs == 0 ? coreCount() : options_.jobs;
+    const std::size_t threads = std::min(jobs, assignments.size());
+    return std::max(
+        status, threads > 1 ? renderSideBySide(assignments, threads) : renderInTurn(assignments));
 }
 
 /// True if the folder of the documents exists or can be created with the first one; otherwise
@@ -98,22 +97,21 @@ ExitStatus RenderJob::readStyleSheet() {
     return ExitStatus::Success;
 }
 
-ExitStatus RenderJob::render(const Assignment& assignment) {
-    try {
-        const ExitStatus status =
-            DescriptionRendering(assignment, manner_, platform_, driver_, report_).run();
-        // The next document uses the memory of a small one again; that of a large one is
-        // released. After an error the next description gets a new driver.
-        if (status != ExitStatus::Success || driver_->Contents().size() > largestKeptDocument) {
-            driver_ = nullptr;
+ExitStatus RenderJob::renderInTurn(const std::vector<Assignment>& assignments) {
+    ExitStatus status = ExitStatus::Success;
+    RenderWorker worker(manner_, platform_, report_);
+    for (std::size_t i = 0; i < assignments.size(); ++i) {
+        if (receivers_.progress) {
+            receivers_.progress(i + 1, assignments.size(), assignments[i].description);
         }
-        return status;
-    } catch (const std::bad_alloc&) {
-        driver_ = nullptr;
-        report_.fail(
-            {ErrorKind::Raised, assignment.description, RtfError(outOfMemory, "Out of memory")});
-        return ExitStatus::Failure;
+        status = std::max(status, worker.render(assignments[i]));
     }
+    return status;
+}
+
+ExitStatus RenderJob::renderSideBySide(const std::vector<Assignment>& assignments,
+                                       std::size_t threads) {
+    return SideBySideRendering(assignments, {manner_, platform_, report_, receivers_}).run(threads);
 }
 
 }  // namespace quorvane::cli

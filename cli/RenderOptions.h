@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
@@ -28,6 +29,8 @@ struct RenderOptions {
     bool check = false;
     /// Write what could be built of a description that has errors.
     bool keepGoing = false;
+    /// How many descriptions are rendered at a time; 0 for as many as there are processor cores.
+    std::size_t jobs = 1;
     FailOn failOn = FailOn::Error;
     ErrorForm diagnostics = ErrorForm::Text;
 };

@@ -62,6 +62,18 @@ RtfError refusal(const Diagnostics& reasons) {
 
 }  // namespace
 
+RenderReport::RenderReport(const RenderReport& other, const RenderReceivers& receivers)
+    : options_(other.options_), receivers_(receivers) {
+    if (other.styleSheet_) {
+        const StyleSheet& sheet = *other.styleSheet_;
+        // Its styles are looked up again: which of them are used is known for each report apart.
+        styleSheet_ = {.name = sheet.name,
+                       .bytes = sheet.bytes,
+                       .diagnostics = sheet.diagnostics,
+                       .isReported = sheet.isReported};
+    }
+}
+
 bool RenderReport::passStyleSheet(const std::string& name, const std::string& bytes) {
     styleSheet_.emplace(StyleSheet{name, bytes});
     if (const std::optional<Diagnostic> binary = findNotATextFile(bytes)) {
@@ -95,13 +107,17 @@ bool RenderReport::passBytes(const std::string& name, std::string_view bytes) {
 /// No part of such a file can be shown.
 void RenderReport::refuseBinary(const std::string& file, const Diagnostic& diagnostic) {
     if (receivers_.locate) {
-        receivers_.locate(file, diagnostic, windowOf({}));
+        receivers_.locate(file, diagnostic, {});
     } else {
         receivers_.report({ErrorKind::Check, file, refusal({diagnostic})});
     }
 }
 
 void RenderReport::refuseStyleSheet(const RtfError& error) {
+    if (receivers_.refuseStyleSheet) {
+        receivers_.refuseStyleSheet(error);
+        return;
+    }
     const bool isLocated = receivers_.locate && hasErrors(styleSheetDiagnostics());
     if (!isLocated) {
         receivers_.report({ErrorKind::Raised, styleSheet_->name, error});
@@ -183,7 +199,7 @@ void RenderReport::locate(const std::string& file, const std::string& bytes,
             diagnostic.severity = Severity::Error;
         }
         if (isShown) {
-            receivers_.locate(file, diagnostic, window);
+            receivers_.locate(file, diagnostic, excerptAt(diagnostic.place, window));
         }
     }
 }

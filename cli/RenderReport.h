@@ -24,9 +24,13 @@ struct RenderReceivers {
     /// Receives errors as the library raises them. If `locate` is set, it receives those instead
     /// that the check of the file finds too.
     ErrorSink report;
-    /// Receives a diagnostic about a file, and the file's window.
-    std::function<void(const std::string& file, const Diagnostic&, const FileWindow&)> locate{};
+    /// Receives a diagnostic about a file, and the line around it.
+    std::function<void(const std::string& file, const Diagnostic&, const DiagnosticExcerpt&)>
+        locate{};
     ProgressSink progress{};
+    /// Receives the error with which the library refuses the stylesheet, instead of the reports
+    /// about it.
+    std::function<void(const RtfError&)> refuseStyleSheet{};
 };
 
 /// Reports the errors of a stylesheet and of one description after the other, and decides whether
@@ -37,6 +41,9 @@ public:
     /// Options and receivers must outlive the report.
     RenderReport(const RenderOptions& options, const RenderReceivers& receivers)
         : options_(options), receivers_(receivers) {}
+
+    /// A report on other receivers that has taken the same stylesheet.
+    RenderReport(const RenderReport& other, const RenderReceivers& receivers);
 
     /// A file that cannot be read or written, or a document that cannot be made.
     void fail(const ReportedError& failure) { receivers_.report(failure); }

@@ -211,6 +211,13 @@ CLI::callback_t storeIn(std::vector<std::string>& target) {
     };
 }
 
+CLI::callback_t storeIn(std::size_t& target) {
+    return [&target](const CLI::results_t& results) {
+        target = std::stoul(results.front());
+        return true;
+    };
+}
+
 CLI::callback_t storeIn(ErrorForm& target) {
     return [&target](const CLI::results_t& results) {
         target = errorForms().at(results.front());
@@ -251,6 +258,16 @@ void refuseEmptyValues(CLI::App& app) {
     }
 }
 
+/// What is wrong with a number of jobs; empty if it is one.
+std::string wrongJobs(const std::string& value) {
+    constexpr std::size_t mostJobs = 1024;
+    const bool isShort = value.size() <= std::to_string(mostJobs).size();
+    const bool isNumber = value.find_first_not_of("0123456789") == std::string::npos;
+    return isShort && isNumber && std::stoul(value) <= mostJobs
+               ? std::string()
+               : asGiven(value) + " is not a number from 0 to " + std::to_string(mostJobs);
+}
+
 void addStdinFilename(CLI::App& app, std::optional<std::string>& target) {
     app.add_option("--stdin-filename", storeIn(target),
                    "Treat standard input as a file of this name")
@@ -274,8 +291,7 @@ void addIdentifiersOption(CLI::App& app, const std::string& name,
         ->take_all();
 }
 
-CLI::App* addCheckCommand(CLI::App& app, CheckOptions& options) {
-    CLI::App* check = app.add_subcommand("check", "Check descriptions, stylesheets and RTF files.");
+void addCheckOptions(CLI::App* check, CheckOptions& options) {
     check->footer(checkFooter);
     addStandardFlags(*check);
     check->add_option("FILE", storeIn(options.files), "Files and folders to check")
@@ -309,7 +325,6 @@ CLI::App* addCheckCommand(CLI::App& app, CheckOptions& options) {
         ->type_name("ID");
     addStdinFilename(*check, options.stdinName);
     refuseEmptyValues(*check);
-    return check;
 }
 
 CLI::callback_t storeIn(NameForm& target) {
@@ -319,8 +334,7 @@ CLI::callback_t storeIn(NameForm& target) {
     };
 }
 
-CLI::App* addFormatCommand(CLI::App& app, FormatOptions& options) {
-    CLI::App* format = app.add_subcommand("format", "Format descriptions and stylesheets.");
+void addFormatOptions(CLI::App* format, FormatOptions& options) {
     format->footer(formatFooter);
     addStandardFlags(*format);
     format->add_option("FILE", storeIn(options.files), "Files and folders to format")
@@ -335,7 +349,6 @@ CLI::App* addFormatCommand(CLI::App& app, FormatOptions& options) {
     format->add_flag("--diff", options.diff, "Only show what would change");
     addStdinFilename(*format, options.stdinName);
     refuseEmptyValues(*format);
-    return format;
 }
 
 CLI::callback_t storeIn(EscapeUse& target) {
@@ -345,8 +358,7 @@ CLI::callback_t storeIn(EscapeUse& target) {
     };
 }
 
-CLI::App* addEscapeCommand(CLI::App& app, EscapeOptions& options) {
-    CLI::App* escape = app.add_subcommand("escape", "Escape texts, so that they show as they are.");
+void addEscapeOptions(CLI::App* escape, EscapeOptions& options) {
     escape->footer(escapeFooter);
     addStandardFlags(*escape);
     escape->add_option("FILE", storeIn(options.files), "Files whose lines are escaped")
@@ -357,11 +369,9 @@ CLI::App* addEscapeCommand(CLI::App& app, EscapeOptions& options) {
         ->type_name("description|model")
         ->check(CLI::IsMember(escapeUses()).description(""));
     refuseEmptyValues(*escape);
-    return escape;
 }
 
-void addRenderCommand(CLI::App& app, RenderOptions& options) {
-    CLI::App* render = app.add_subcommand("render", "Render descriptions as RTF documents.");
+void addRenderOptions(CLI::App* render, RenderOptions& options) {
     render->footer(renderFooter);
     addStandardFlags(*render);
     render->add_option("DESCRIPTION", storeIn(options.descriptions), "Files to render")
@@ -382,6 +392,11 @@ void addRenderCommand(CLI::App& app, RenderOptions& options) {
         ->excludes("--output");
     render->add_flag("--mkdir", options.makesOutputFolder, "Create the folder of --output-dir")
         ->needs("--output-dir");
+    render
+        ->add_option("-j,--jobs", storeIn(options.jobs),
+                     "Render N descriptions at a time; 0 uses all cores")
+        ->type_name("N")
+        ->check(CLI::Validator(wrongJobs, ""));
     render->add_flag("--check", options.check,
                      "Repair unclosed rows; check keys, values and texts");
     render
@@ -399,6 +414,10 @@ void addRenderCommand(CLI::App& app, RenderOptions& options) {
 }
 
 constexpr std::string_view commands[] = {"render", "check", "format", "escape", "help"};
+
+bool isCommand(std::string_view name) {
+    return std::find(std::begin(commands), std::end(commands), name) != std::end(commands);
+}
 
 std::string unknownCommandText(const std::string& name) {
     const std::string guess = didYouMean(name, commands);
@@ -426,19 +445,49 @@ std::vector<std::string> helpRequest(const std::vector<std::string>& commandsAsk
         return {"--help"};
     }
     const std::string& first = commandsAskedFor.front();
-    if (std::find(std::begin(commands), std::end(commands), first) == std::end(commands)) {
+    if (!isCommand(first)) {
         throw UsageError(unknownCommandText(first));
     }
     return {first, "--help"};
 }
 
-CLI::App* addHelpCommand(CLI::App& app, std::vector<std::string>& commandsAskedFor) {
-    CLI::App* help = app.add_subcommand("help", "Show the help of a subcommand.");
+void addHelpOptions(CLI::App* help, std::vector<std::string>& commandsAskedFor) {
     addStandardFlags(*help);
     help->add_option("SUBCOMMAND", storeIn(commandsAskedFor),
                      "render, check, format, escape or help")
         ->type_name("");
-    return help;
+}
+
+/// What the subcommands store their arguments in.
+struct Requests {
+    RenderOptions render;
+    CheckOptions check;
+    FormatOptions format;
+    EscapeOptions escape;
+    std::vector<std::string> help;
+};
+
+/// Adds the subcommands with their options. Making options takes longer than rendering a small
+/// document: where the first argument is a subcommand, it is the only one.
+void addCommands(CLI::App& app, const std::vector<std::string>& arguments, Requests& requests) {
+    const bool isKnown = !arguments.empty() && isCommand(arguments.front());
+    const auto add = [&](const char* name, const char* about, auto addOptions, auto& target) {
+        if (!isKnown || arguments.front() == name) {
+            addOptions(app.add_subcommand(name, about), target);
+        }
+    };
+    add("render", "Render descriptions as RTF documents.", addRenderOptions, requests.render);
+    add("check", "Check descriptions, stylesheets and RTF files.", addCheckOptions, requests.check);
+    add("format", "Format descriptions and stylesheets.", addFormatOptions, requests.format);
+    add("escape", "Escape texts, so that they show as they are.", addEscapeOptions,
+        requests.escape);
+    add("help", "Show the help of a subcommand.", addHelpOptions, requests.help);
+    if (!isKnown) {
+        addStandardFlags(app);
+        app.add_flag_callback(
+            "--licenses", [] { throw CLI::CallForVersion(licensesText(), 0); },
+            "Show all licenses and exit");
+    }
 }
 
 /// Throws a `UsageError` unless there are files to check, or something else to show.
@@ -470,42 +519,31 @@ std::string usageErrorText(const CLI::App& app, const CLI::ParseError& error) {
 
 std::variant<RenderOptions, CheckOptions, FormatOptions, EscapeOptions, Information>
 parseCommandLine(const std::vector<std::string>& arguments) {
-    RenderOptions options;
-    CheckOptions checkOptions;
-    FormatOptions formatOptions;
-    EscapeOptions escapeOptions;
     CLI::App app("Render descriptions as documents in Rich Text Format (RTF).", "quorvane");
     app.require_subcommand(1);
-    addStandardFlags(app);
-    app.add_flag_callback(
-        "--licenses", [] { throw CLI::CallForVersion(licensesText(), 0); },
-        "Show all licenses and exit");
     app.allow_windows_style_options(false);
-    addRenderCommand(app, options);
-    const CLI::App* check = addCheckCommand(app, checkOptions);
-    const CLI::App* format = addFormatCommand(app, formatOptions);
-    const CLI::App* escape = addEscapeCommand(app, escapeOptions);
-    std::vector<std::string> commandsAskedFor;
-    const CLI::App* help = addHelpCommand(app, commandsAskedFor);
+    Requests requests;
+    addCommands(app, arguments, requests);
 
     try {
         app.parse(prepared(arguments));
-        if (check->parsed()) {
-            requireOneTask(checkOptions);
-            requireStandardInput(checkOptions.stdinName, checkOptions.files);
-            return checkOptions;
+        const std::string command = app.get_subcommands().front()->get_name();
+        if (command == "check") {
+            requireOneTask(requests.check);
+            requireStandardInput(requests.check.stdinName, requests.check.files);
+            return requests.check;
         }
-        if (format->parsed()) {
-            requireStandardInput(formatOptions.stdinName, formatOptions.files);
-            return formatOptions;
+        if (command == "format") {
+            requireStandardInput(requests.format.stdinName, requests.format.files);
+            return requests.format;
         }
-        if (escape->parsed()) {
-            return escapeOptions;
+        if (command == "escape") {
+            return requests.escape;
         }
-        if (help->parsed()) {
-            return parseCommandLine(helpRequest(commandsAskedFor));
+        if (command == "help") {
+            return parseCommandLine(helpRequest(requests.help));
         }
-        return options;
+        return requests.render;
     } catch (const CLI::Success& request) {
         std::ostringstream text;
         app.exit(request, text);

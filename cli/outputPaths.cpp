@@ -46,23 +46,49 @@ fs::path canonicalPath(const fs::path& path) {
     return failure ? path : whole;
 }
 
+/// What a path leads to, past all links.
+struct Target {
+    fs::path path;
+    fs::file_status status;
+};
+
+Target targetOf(const std::string& name) {
+    const fs::path path = pathFromUtf8(name);
+    std::error_code failure;
+    const fs::file_status own = fs::symlink_status(path, failure);
+    throwUnlessAbsent(failure);
+    if (!fs::is_symlink(own)) {
+        return {path, own};
+    }
+    const fs::file_status status = fs::status(path, failure);
+    throwUnlessAbsent(failure);
+    return {followLinks(path), status};
+}
+
 /// One name for all ways in which a file can be named.
 class Identities {
 public:
-    std::string of(const std::string& name) {
-        if (name == standardStream) {
-            return name;
-        }
-        const fs::path target = followLinks(pathFromUtf8(name));
+    /// The file is no link.
+    std::string of(const fs::path& file) {
         std::error_code failure;
-        const fs::path whole = fs::absolute(target, failure);
+        const fs::path whole = fs::absolute(currentFolder() / file, failure);
         throwUnlessAbsent(failure);
-        const fs::path file = systemSpelling(failure ? target : withCanonicalFolder(whole));
-        const std::u8string identity = file.generic_u8string();
+        const fs::path spelled = systemSpelling(failure ? file : withCanonicalFolder(whole));
+        const std::u8string identity = spelled.generic_u8string();
         return {identity.begin(), identity.end()};
     }
 
 private:
+    // The system is asked once, not for each file.
+    const fs::path& currentFolder() {
+        if (!currentFolder_) {
+            std::error_code failure;
+            currentFolder_ = fs::current_path(failure);
+            throwUnlessAbsent(failure);
+        }
+        return *currentFolder_;
+    }
+
     // Many files are in few folders; each of these is looked up once.
     fs::path withCanonicalFolder(const fs::path& path) {
         const fs::path name = path.filename();
@@ -76,6 +102,7 @@ private:
         return folder->second / name;
     }
 
+    std::optional<fs::path> currentFolder_;
     std::map<fs::path, fs::path> folders_;
 };
 
@@ -84,21 +111,14 @@ std::map<std::string, std::string> inputsOf(const RenderOptions& options, Identi
     std::map<std::string, std::string> inputs;
     for (const std::string& description : options.descriptions) {
         if (description != standardStream) {
-            inputs.emplace(identities.of(description), description);
+            inputs.emplace(identities.of(followLinks(pathFromUtf8(description))), description);
         }
     }
     if (options.styleSheet) {
-        inputs.emplace(identities.of(*options.styleSheet), *options.styleSheet);
+        inputs.emplace(identities.of(followLinks(pathFromUtf8(*options.styleSheet))),
+                       *options.styleSheet);
     }
     return inputs;
-}
-
-/// Devices and pipes are written to, not replaced.
-bool wouldReplace(const std::string& name) {
-    std::error_code failure;
-    const bool isFile = fs::is_regular_file(pathFromUtf8(name), failure);
-    throwUnlessAbsent(failure);
-    return isFile;
 }
 
 /// The description or the stylesheet whose file has another name, which no path shows.
@@ -156,8 +176,11 @@ std::vector<Assignment> assignOutputs(const RenderOptions& options) {
     std::vector<Assignment> assignments;
     for (const std::string& description : options.descriptions) {
         const std::string output = outputOf(description, options);
-        const std::string file = identities.of(output);
-        if (output != standardStream && wouldReplace(output)) {
+        const bool isStream = output == standardStream;
+        const Target target = isStream ? Target() : targetOf(output);
+        const std::string file = isStream ? output : identities.of(target.path);
+        // Devices and pipes are written to, not replaced.
+        if (fs::is_regular_file(target.status)) {
             if (!inputs) {
                 inputs = inputsOf(options, identities);
             }

@@ -1,5 +1,4 @@
 #include <fcntl.h>
-#include <limits.h>
 #include <poll.h>
 #include <signal.h>
 #include <sys/ioctl.h>
@@ -8,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <cerrno>
 #include <cstddef>
 #include <cstdio>
@@ -16,6 +16,7 @@
 #include <utility>
 
 #include "cli/StandardOutputFile.h"
+#include "cli/UnfinishedFileList.h"
 #include "cli/process.h"
 #include "quorvane/base/platform/portableDescriptorFile.h"
 #include "quorvane/base/platform/portableSystemError.h"
@@ -26,39 +27,56 @@ namespace {
 
 constexpr std::array endingSignals = {SIGHUP, SIGINT, SIGQUIT, SIGTERM};
 
-// The file that a signal takes along. Set and read while the ending signals are held back, or by
-// their handler.
-std::array<char, PATH_MAX> unfinishedFile{};
+// The files that a signal takes along.
+constinit UnfinishedFileList unfinishedFiles;
 
-/// Holds the ending signals back while a file is made, moved or removed.
-class SignalWatch : public UnfinishedFileWatch {
-public:
-    void hold() noexcept override {
-        sigset_t held;
-        ::sigemptyset(&held);
-        for (const int number : endingSignals) {
-            ::sigaddset(&held, number);
-        }
-        ::pthread_sigmask(SIG_BLOCK, &held, &before_);
-    }
-    void resume() noexcept override { ::pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
+// How many threads hold the end off; a signal that ends the process adds `isEnding`.
+constinit std::atomic<unsigned> holders = 0;
+constexpr unsigned isEnding = 1U << 31U;
+constinit std::atomic<int> endingSignal = 0;
+static_assert(std::atomic<unsigned>::is_always_lock_free && std::atomic<int>::is_always_lock_free);
 
-    void begin(const std::filesystem::path& path) override {
-        path.native().copy(unfinishedFile.data(), unfinishedFile.size() - 1);
-    }
-    void end() noexcept override { unfinishedFile.fill('\0'); }
-
-private:
-    sigset_t before_{};
-};
-
-extern "C" void removeUnfinishedFileAndEnd(int number) {
-    if (unfinishedFile.front() != '\0') {
-        ::unlink(unfinishedFile.data());
-    }
+/// Called where nobody holds the end off; from then on nobody can.
+void removeUnfinishedFilesAndEnd() {
+    unfinishedFiles.forEach([](const std::filesystem::path& path) { ::unlink(path.c_str()); });
+    const int number = endingSignal;
     static_cast<void>(::signal(number, SIG_DFL));
     static_cast<void>(::raise(number));
 }
+
+/// Ends the process, or leaves this to the last thread that holds the end off, which may be the one
+/// that was interrupted.
+extern "C" void endOnSignal(int number) {
+    int none = 0;
+    if (endingSignal.compare_exchange_strong(none, number) && holders.fetch_or(isEnding) == 0) {
+        removeUnfinishedFilesAndEnd();
+    }
+}
+
+/// Holds the end of the process off while a file is made, moved or removed.
+class SignalWatch : public UnfinishedFileWatch {
+public:
+    void hold() noexcept override {
+        if ((holders.fetch_add(1) & isEnding) != 0) {
+            resume();
+            waitForTheEnd();
+        }
+    }
+    void resume() noexcept override {
+        if (holders.fetch_sub(1) == isEnding + 1) {
+            removeUnfinishedFilesAndEnd();
+        }
+    }
+    void begin(UnfinishedPath& file) noexcept override { unfinishedFiles.add(file); }
+    void end(UnfinishedPath& file) noexcept override { unfinishedFiles.remove(file); }
+
+private:
+    [[noreturn]] static void waitForTheEnd() noexcept {
+        while (true) {
+            ::pause();
+        }
+    }
+};
 
 void ignoreSignal(int number) {
     struct sigaction action {};
@@ -74,7 +92,9 @@ void handleEndingSignal(int number) {
         return;
     }
     action = {};
-    action.sa_handler = removeUnfinishedFileAndEnd;
+    action.sa_handler = endOnSignal;
+    // A thread that goes on for a moment does so as if nothing had happened.
+    action.sa_flags = SA_RESTART;
     ::sigaction(number, &action, nullptr);
 }
 

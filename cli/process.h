@@ -13,7 +13,7 @@
 namespace quorvane::cli {
 
 /// Readies the process: a pipe that nobody reads and a file that may not grow do not end it at
-/// once, a signal that ends it takes the unfinished file along, and no file that it opens can take
+/// once, a signal that ends it takes the unfinished files along, and no file that it opens can take
 /// the place of a standard stream that was closed.
 void prepareProcess();
 
@@ -37,7 +37,7 @@ class ClosedPipe {};
 /// nobody reads.
 std::unique_ptr<OutputFile> openStandardOutput();
 
-/// Lets the end of the process take an unfinished file along (see `openReplacement`).
+/// Lets the end of the process take unfinished files along (see `openReplacement`).
 UnfinishedFileWatch& unfinishedFileWatch();
 
 /// One spelling for all that the system accepts as the path of a file: in capitals where it ignores

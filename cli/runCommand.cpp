@@ -76,12 +76,11 @@ ExitStatus render(const RenderOptions& options) {
         writeToStandardError(lineOf(error, options.diagnostics));
     };
     if (options.diagnostics == ErrorForm::Text) {
-        receivers.locate = [&, colors = wantedColors(columns > 0)](const std::string& file,
-                                                                   const Diagnostic& diagnostic,
-                                                                   const FileWindow& window) {
+        receivers.locate = [&, colors = wantedColors(columns > 0)](
+                               const std::string& file, const Diagnostic& diagnostic,
+                               const DiagnosticExcerpt& excerpt) {
             eraseProgress();
-            writeToStandardError(
-                diagnosticText(file, diagnostic, excerptAt(diagnostic.place, window), colors));
+            writeToStandardError(diagnosticText(file, diagnostic, excerpt, colors));
         };
     }
     receivers.progress = [&](std::size_t number, std::size_t count, const std::string& name) {

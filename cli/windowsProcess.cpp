@@ -6,6 +6,7 @@
 #include <string>
 
 #include "cli/StandardOutputFile.h"
+#include "cli/UnfinishedFileList.h"
 #include "cli/process.h"
 #include "quorvane/base/platform/windowsHandleFile.h"
 #include "quorvane/base/platform/windowsSystemError.h"
@@ -21,25 +22,23 @@ std::wstring wide(std::string_view text) {
     return utf16FromUtf8<wchar_t>(text);
 }
 
-// The file that an end of the process takes along. Guarded by its lock, which the end keeps: what
-// is unfinished then stays so.
-std::wstring unfinishedFile;
-SRWLOCK unfinishedFileLock = SRWLOCK_INIT;
+// The files that an end of the process takes along. Every thread that makes, moves or removes one
+// shares the lock; the end takes it for itself and keeps it: what is unfinished then stays so.
+UnfinishedFileList unfinishedFiles;
+SRWLOCK endLock = SRWLOCK_INIT;
 
 /// Holds the end of the process off while a file is made, moved or removed.
 class EndWatch : public UnfinishedFileWatch {
 public:
-    void hold() noexcept override { AcquireSRWLockExclusive(&unfinishedFileLock); }
-    void resume() noexcept override { ReleaseSRWLockExclusive(&unfinishedFileLock); }
-    void begin(const std::filesystem::path& path) override { unfinishedFile = path.native(); }
-    void end() noexcept override { unfinishedFile.clear(); }
+    void hold() noexcept override { AcquireSRWLockShared(&endLock); }
+    void resume() noexcept override { ReleaseSRWLockShared(&endLock); }
+    void begin(UnfinishedPath& file) noexcept override { unfinishedFiles.add(file); }
+    void end(UnfinishedPath& file) noexcept override { unfinishedFiles.remove(file); }
 };
 
-BOOL WINAPI removeUnfinishedFile(DWORD) {
-    AcquireSRWLockExclusive(&unfinishedFileLock);
-    if (!unfinishedFile.empty()) {
-        DeleteFileW(unfinishedFile.c_str());
-    }
+BOOL WINAPI removeUnfinishedFiles(DWORD) {
+    AcquireSRWLockExclusive(&endLock);
+    unfinishedFiles.forEach([](const std::filesystem::path& path) { DeleteFileW(path.c_str()); });
     return FALSE;  // the process ends as it would have
 }
 
@@ -66,7 +65,7 @@ bool isConsole(HANDLE stream) {
 void prepareProcess() {
     // No dialogue when a drive is empty: it is an error like any other.
     SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
-    SetConsoleCtrlHandler(removeUnfinishedFile, TRUE);
+    SetConsoleCtrlHandler(removeUnfinishedFiles, TRUE);
 }
 
 int standardErrorColumns() {

@@ -12,8 +12,7 @@ Ref<CRtfDoc> CRtfDoc::create(Platform& platform) {
 }
 
 const std::string& CRtfDoc::Contents() {
-    published([&] { inner(*this).refresh("Contents"); });
-    return inner(*this).contents_;
+    return published([&]() -> const std::string& { return inner(*this).contents(); });
 }
 
 bool CRtfDoc::Changed() const {
@@ -105,10 +104,7 @@ void CRtfDoc::LoadStyleSheetFromMemmory(std::string_view sStyleSheet) {
 }
 
 void CRtfDoc::Refresh() {
-    published([&] {
-        inner(*this).changed_ = true;
-        inner(*this).refresh("Refresh");
-    });
+    published([&] { inner(*this).refresh(); });
 }
 
 tColorIndex CRtfDoc::getCellStyleBackColor(std::string_view sName) const {
@@ -116,7 +112,7 @@ tColorIndex CRtfDoc::getCellStyleBackColor(std::string_view sName) const {
 }
 
 void CRtfDoc::ClearStructure() {
-    published([&] { inner(*this).initAllGroups(); });
+    published([&] { inner(*this).clearStructure(); });
 }
 
 void CRtfDoc::setAbsorbedErrorObserver(GError::Observer observer) {

@@ -15,9 +15,10 @@ namespace quorvane {
 
 /// An RTF document made of one table: its page setup, its stylesheet and its rows.
 ///
-/// A document keeps its text and renders it again only when something has changed. Measures are in
-/// twips. `create` returns the first reference, and the document lives as long as one is held.
-/// Rows, cells and paragraphs do not keep it alive.
+/// A document keeps its text and renders it again only when something has changed. A long text that
+/// only `Commit` needed is not kept in memory, but for a host it is as if it were: see `Commit`.
+/// Measures are in twips. `create` returns the first reference, and the document lives as long as
+/// one is held. Rows, cells and paragraphs do not keep it alive.
 class CRtfDoc {
 public:
     /// Returns a new document with the default page, no stylesheet and no rows. The platform must
@@ -89,6 +90,14 @@ public:
     /// example because another program has it open. A failure to write the new file goes to the
     /// error module (see `setAbsorbedErrorObserver`) and leaves no partial file. If the text cannot
     /// be rendered (see `Refresh`), no file is deleted or written.
+    ///
+    /// As long as nobody has called `Contents` or `Refresh`, a text of more than 64 KB goes into
+    /// the file piece by piece and is not kept. It is rendered again for the next `Commit`, for
+    /// `Contents`, and before the first change of the document, its rows, cells and paragraphs or
+    /// its stylesheet; the last two keep it in memory from then on. If the memory for it is
+    /// missing, they throw `std::bad_alloc` and change nothing. A text is also kept if the format
+    /// of a character style contains a token, and if a file is replaced and the brackets of inline
+    /// styles are not in pairs.
     void Commit(const std::string& sPath);
 
     /// Loads a stylesheet from a text in place of the current styles. Marks the document changed

@@ -19,8 +19,10 @@ void CRtfParagraph::setText(std::string_view text) {
     published([&] {
         if (!text.empty()) {
             InnerParagraph& self = inner(*this);
+            TableDocument* document = self.document();
+            beforeChange(document);
             self.text_.assign(text, memoryOf(*self.cell_).pool);
-            markChanged(self.document());
+            markChanged(document);
         }
     });
 }
@@ -33,6 +35,7 @@ void CRtfParagraph::setStyle(std::string_view sName) {
     published([&] {
         InnerParagraph& self = inner(*this);
         TableDocument* document = self.document();
+        beforeChange(document);
         self.style_ = document ? document->sharedName(sName) : SharedText(sName);
         markChanged(document);
     });
@@ -45,8 +48,10 @@ tColorIndex CRtfParagraph::ForeColor() const {
 void CRtfParagraph::setForeColor(tColorIndex color) {
     published([&] {
         InnerParagraph& self = inner(*this);
+        TableDocument* document = self.document();
+        beforeChange(document);
         self.foreColor_ = color;
-        markChanged(self.document());
+        markChanged(document);
     });
 }
 
@@ -55,12 +60,14 @@ tCellAlign CRtfParagraph::Align() const {
 }
 
 void CRtfParagraph::setAlign(tCellAlign align) {
+    beforeChange(inner(*this).document());
     inner(*this).align_ = align;
 }
 
 void CRtfParagraph::asMarkedField(const Value& vFieldData) {
     published([&] {
         InnerParagraph& self = inner(*this);
+        beforeChange(self.document());
         try {
             self.mark(GTextMarkedFields::fieldData(vFieldData));
         } catch (const RtfError&) {

@@ -26,7 +26,7 @@ Ref<CRtfParagraph> CRtfParagraphs::refile(const Ref<CRtfParagraph>& old, std::st
     return published([&]() -> Ref<CRtfParagraph> {
         InnerParagraphs& self = inner(*this);
         InnerParagraph& former = inner(*old);
-        TableDocument& owner = required(self.document());
+        TableDocument& owner = changing(self.document());
         const std::size_t position = self.list_.requiredPositionOf(former);
         const Ref<InnerParagraph> fresh = InnerParagraph::create(self.cell());
         fresh->takeOver(former);

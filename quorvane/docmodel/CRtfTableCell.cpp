@@ -68,7 +68,14 @@ tColorIndex CRtfTableCell::BackColor() const {
 }
 
 void CRtfTableCell::setBackColor(tColorIndex color) {
-    published([&] { inner(*this).applyBackColor(inner(*this).document(), color); });
+    published([&] {
+        InnerCell& self = inner(*this);
+        TableDocument* document = self.document();
+        if (self.backColor() != color) {
+            beforeChange(document);
+        }
+        self.applyBackColor(document, color);
+    });
 }
 
 std::int32_t CRtfTableCell::Width(tWidthUnit Units) const {
@@ -88,7 +95,10 @@ tCellAlign CRtfTableCell::Align() const {
 }
 
 void CRtfTableCell::setAlign(tCellAlign align) {
-    published([&] { inner(*this).setAlign(align); });
+    published([&] {
+        beforeChange(inner(*this).document());
+        inner(*this).setAlign(align);
+    });
 }
 
 std::string CRtfTableCell::Style() const {
@@ -98,6 +108,7 @@ std::string CRtfTableCell::Style() const {
 void CRtfTableCell::setStyle(std::string_view sName) {
     published([&] {
         TableDocument* document = inner(*this).document();
+        beforeChange(document);
         inner(*this).style_ = document ? document->sharedName(sName) : SharedText(sName);
         markChanged(document);
     });
@@ -105,6 +116,7 @@ void CRtfTableCell::setStyle(std::string_view sName) {
 
 void CRtfTableCell::asMarkedField(const Value& vFieldData) {
     published([&] {
+        beforeChange(inner(*this).document());
         try {
             inner(*this).mark(GTextMarkedFields::fieldData(vFieldData));
         } catch (const RtfError& error) {

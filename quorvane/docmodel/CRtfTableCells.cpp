@@ -31,7 +31,7 @@ std::int32_t CRtfTableCells::indexOf(const CRtfTableCell* cell) const {
 Ref<CRtfTableCell> CRtfTableCells::refile(const Ref<CRtfTableCell>& old, std::string_view key) {
     return published([&]() -> Ref<CRtfTableCell> {
         InnerCells& self = inner(*this);
-        TableDocument& owner = required(self.document());
+        TableDocument& owner = changing(self.document());
         const std::size_t position = self.list_.requiredPositionOf(inner(*old));
         const Ref<InnerCell> fresh = InnerCell::create(self.row());
         fresh->prepareBackColor(inner(*old).backColor());

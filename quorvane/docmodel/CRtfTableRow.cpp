@@ -25,6 +25,7 @@ void CRtfTableRow::setBackColor(tColorIndex color) {
         if (self.backColor_ == color) {
             return;
         }
+        beforeChange(self.parent_.get());
         for (InnerCell* cell : self.cells().list()) {
             cell->prepareBackColor(color);
         }

@@ -16,7 +16,7 @@ Ref<CRtfDoc> CRtfTableRows::Parent() const {
 Ref<CRtfTableRow> CRtfTableRows::refile(const Ref<CRtfTableRow>& old, std::string_view key) {
     return published([&]() -> Ref<CRtfTableRow> {
         InnerRows& self = inner(*this);
-        TableDocument& owner = required(self.document());
+        TableDocument& owner = changing(self.document());
         const std::size_t position = self.list_.requiredPositionOf(inner(*old));
         const Ref<InnerRow> fresh = InnerRow::create(self.parent_);
         self.list_.replaceAt(position, fresh, key);

@@ -127,6 +127,7 @@ void InnerCell::takeOver(InnerCell& old) {
 
 void InnerCell::setBorder(BorderSide side, tBorderWidth width) {
     if (borders_[side] != width) {
+        beforeChange(document());
         borders_.set(side, width);
         markChanged(document());
     }

@@ -40,7 +40,7 @@ TableDocument* InnerCells::document() const noexcept {
 }
 
 void InnerCells::spreadEvenly() {
-    TableDocument& owner = required(document());
+    TableDocument& owner = changing(document());
     spread(evenWidth(owner, list_.count()));
     owner.markChanged();
 }
@@ -154,6 +154,7 @@ void InnerCells::setWidthOf(const InnerCell& cell, tWidthUnit units, std::int32_
     } else if (edge < lower) {
         edge = lower;
     }
+    owner.beforeChange();
     setRightEdge(changed, edge);
     owner.markChanged();
 }

@@ -1,9 +1,11 @@
 #include "quorvane/docmodel/InnerDocument.h"
 
 #include <functional>
-#include <optional>
 #include <utility>
 
+#include "quorvane/base/text/StringOutput.h"
+#include "quorvane/docmodel/StreamedText.h"
+#include "quorvane/docmodel/TableRendering.h"
 #include "quorvane/docmodel/measures.h"
 #include "quorvane/support/GFileSystem.h"
 
@@ -18,6 +20,21 @@ std::string lockedFileMessage(const std::string& path) {
            ". The file seems to be opened with exclusive rights by some other application (maybe "
            "MS Word) and Quorvane can't modify it.  Use a diferent file name or close it.";
 }
+
+/// Marks the text of a document as being written.
+template <class State>
+class BeingWritten {
+public:
+    explicit BeingWritten(State& state) noexcept
+        : state_(state), before_(std::exchange(state, State::BeingWritten)) {}
+    BeingWritten(const BeingWritten&) = delete;
+    BeingWritten& operator=(const BeingWritten&) = delete;
+    ~BeingWritten() { state_ = before_; }
+
+private:
+    State& state_;
+    State before_;
+};
 
 }  // namespace
 
@@ -37,11 +54,13 @@ InnerDocument::InnerDocument(Platform& platform)
 }
 
 void InnerDocument::commit(const std::string& path) {
-    if (!refresh("Commit")) {
-        return;
+    refuseWhileWriting();
+    std::optional<RtfError> failure;
+    if (streams()) {
+        failure = stream(path);
+    } else if (refreshIfChanged("Commit")) {
+        failure = GFileSystem::errorOfSaving(files_, errors_, path, contents_, false);
     }
-    const std::optional<RtfError> failure =
-        GFileSystem::errorOfSaving(files_, errors_, path, contents_, false);
     if (!failure) {
         return;
     }
@@ -53,29 +72,120 @@ void InnerDocument::commit(const std::string& path) {
     errors_.handleError(*failure, moduleName, "Commit");
 }
 
-bool InnerDocument::refresh(const char* procedure) {
+const std::string& InnerDocument::contents() {
+    refuseWhileWriting();
+    keepsText_ = true;
+    if (refreshIfChanged("Contents") && textState_ == TextState::Written) {
+        keepText();
+    }
+    return contents_;
+}
+
+void InnerDocument::refresh() {
+    refuseWhileWriting();
+    keepsText_ = true;
+    changed_ = true;
+    refreshIfChanged("Refresh");
+}
+
+// Renders a stale text into memory. A failure goes to the error module as one of this procedure;
+// false then.
+bool InnerDocument::refreshIfChanged(const char* procedure) {
     return !changed_ || !errors_.absorbing(moduleName, procedure, [this] { render(); });
 }
 
 void InnerDocument::render() {
     std::string rtf;
-    if (!styleSheet_->CharacterWordsHoldTokens()) {
+    if (!styleSheet_->CharacterWordsHoldTokens() && textState_ == TextState::Kept) {
         // Only words that hold tokens can make a text endless. Without them the stale text makes
         // room: its memory serves the new one. Should rendering fail for want of memory, the
         // document still counts as changed.
         rtf = std::move(contents_);
         contents_ = "{}";
     }
-    rtf.assign(1, '{');
-    header_.render(rtf);
-    fontTable_.render(rtf);
-    colorTable_.render(rtf);
-    styleSheet_->render(rtf);
-    format_->render(rtf);
-    body_.render(rtf);
-    rtf += '}';
+    rtf.clear();
+    renderInto(rtf);
     contents_ = std::move(rtf);
+    textState_ = TextState::Kept;
     changed_ = false;
+}
+
+void InnerDocument::renderInto(std::string& rtf) {
+    StringOutput out(rtf);
+    TableRendering rendering(*this, out);
+    render(rendering);
+    out.flush();
+}
+
+void InnerDocument::render(TableRendering& rendering) {
+    TextOutput& out = rendering.out;
+    out << "{";
+    header_.render(out);
+    fontTable_.render(out);
+    colorTable_.render(out);
+    styleSheet_->render(out);
+    format_->render(out);
+    body_.render(rendering);
+    out << "}";
+}
+
+// A text that nobody has asked for need not be in memory. An endless one must not begin a file.
+bool InnerDocument::streams() const noexcept {
+    return (changed_ || textState_ == TextState::Written) && !keepsText_ &&
+           !styleSheet_->CharacterWordsHoldTokens();
+}
+
+std::optional<RtfError> InnerDocument::stream(const std::string& path) {
+    StreamedText text(files_, path);
+    TableRendering rendering(*this, text);
+    {
+        const BeingWritten here(textState_);
+        render(rendering);
+        if (text.waits() && rendering.inlineStyles.keepsItsMemory() && styleSheet_->keepsNames()) {
+            text.begin();
+            render(rendering);
+        }
+    }
+    if (text.isWhole()) {
+        contents_ = text.text();
+        textState_ = TextState::Kept;
+        changed_ = false;
+        return GFileSystem::errorOfSaving(files_, errors_, path, contents_, false);
+    }
+    if (text.waits()) {
+        render();
+        text.begin();
+        text << contents_;
+    } else {
+        std::string().swap(contents_);
+        textState_ = TextState::Written;
+        changed_ = false;
+    }
+    return text.end(errors_);
+}
+
+bool InnerDocument::holdsShortText() const noexcept {
+    return textState_ == TextState::Kept && contents_.size() <= StreamedText::longestWholeText;
+}
+
+void InnerDocument::keepText() {
+    refuseWhileWriting();
+    std::string rtf;
+    renderInto(rtf);
+    contents_ = std::move(rtf);
+    textState_ = TextState::Kept;
+    keepsText_ = true;
+}
+
+void InnerDocument::refuseWhileWriting() const {
+    if (textState_ == TextState::BeingWritten) {
+        raise(RunTimeError::InvalidProcedureCall);
+    }
+}
+
+void InnerDocument::clearStructure() {
+    beforeChange();
+    initAllGroups();
 }
 
 // The fixed groups hold nothing that could change, and the stylesheet stays: only page and table
@@ -90,7 +200,7 @@ void InnerDocument::releaseContents() noexcept {
     body_.destroy();
     format_.reset();
     styleSheet_.reset();
-    contents_ = {};
+    std::string().swap(contents_);
     names_ = {};
     errors_.setObserver({});
 }

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -27,10 +28,11 @@ public:
     explicit InnerDocument(Platform& platform);
 
     void commit(const std::string& path);
-    void initAllGroups();
-    // Makes a stale text anew. A failure goes to the error module as one of this procedure; false
-    // then.
-    bool refresh(const char* procedure);
+    const std::string& contents();
+    void refresh();
+    void clearStructure();
+    // True when the document has a short text, and has it in memory.
+    bool holdsShortText() const noexcept;
 
     CRtfDoc* document() noexcept override { return this; }
     void markChanged() noexcept override { changed_ = true; }
@@ -46,13 +48,23 @@ private:
 
     ~InnerDocument() override = default;
 
+    void initAllGroups();
+    bool refreshIfChanged(const char* procedure);
     void render();
+    void renderInto(std::string& rtf);
+    void render(TableRendering& rendering);
+    bool streams() const noexcept;
+    std::optional<RtfError> stream(const std::string& path);
+    void keepText() override;
+    void refuseWhileWriting() const;
     void releaseContents() noexcept override;
 
     Files& files_;
     GError errors_;
     bool changed_ = false;
-    // The text with its outer braces.
+    // Somebody asked for the text, or a change needed it: it stays in memory from then on.
+    bool keepsText_ = false;
+    // The text with its outer braces; empty while it is in a file only.
     std::string contents_ = "{}";
     CRtfGrpHeader header_;
     CRtfGrpFontTable fontTable_;

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "quorvane/docmodel/inline/inlineStyles.h"
 #include "quorvane/rtfgroups/GTextMarkedFields.h"
 
 namespace quorvane {
@@ -120,7 +119,7 @@ void InnerParagraph::render(TableRendering& rendering, std::size_t position) con
         if (text.find('<') == std::string_view::npos) {
             out << text;
         } else {
-            out << withCharacterStyles(rendering.document, text);
+            out << rendering.inlineStyles.replace(text);
         }
     }
     if (isMarked_) {

@@ -76,6 +76,7 @@ void InnerRow::setBorder(BorderSide side, tBorderWidth width) {
     if (borders_[side] == width) {
         return;
     }
+    beforeChange(parent_.get());
     borders_.set(side, width);
     TableDocument& document = required(parent_.get());
     for (InnerCell* cell : cells().list()) {

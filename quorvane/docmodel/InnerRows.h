@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <string>
 
 #include "quorvane/base/collections/KeyedList.h"
 #include "quorvane/base/memory/Counted.h"
@@ -22,7 +21,7 @@ public:
     TableDocument* document() const noexcept { return parent_.get(); }
     void insertNew(const List::Place& place, TableDocument& document);
     void removeAt(std::size_t position) noexcept { list_.removeAt(position); }
-    void render(std::string& rtf) const;
+    void render(TableRendering& rendering) const;
     void destroy() noexcept { list_.clear(); }
 
 private:

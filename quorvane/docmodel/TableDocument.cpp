@@ -31,6 +31,18 @@ TableDocument& required(TableDocument* document) {
     return *document;
 }
 
+TableDocument& changing(TableDocument* document) {
+    TableDocument& changed = required(document);
+    changed.beforeChange();
+    return changed;
+}
+
+void beforeChange(TableDocument* document) {
+    if (document) {
+        document->beforeChange();
+    }
+}
+
 void markChanged(TableDocument* document) {
     required(document).markChanged();
 }

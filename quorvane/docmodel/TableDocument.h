@@ -35,7 +35,25 @@ public:
     virtual SharedText sharedName(std::string_view sName) = 0;
     /// Returns the document's error module.
     virtual GError& errors() noexcept = 0;
+    void beforeChange() final {
+        if (textState_ != TextState::Kept) {
+            keepText();
+        }
+    }
     DocumentMemory& memory() noexcept { return memory_; }
+
+protected:
+    enum class TextState : std::uint8_t {
+        /// The text as it was rendered last is in memory.
+        Kept,
+        /// It was written to a file only. Nothing that it is made of has changed since, so it can
+        /// be rendered once more.
+        Written,
+        /// It is on its way to a file.
+        BeingWritten
+    };
+
+    TextState textState_ = TextState::Kept;
 
 private:
     friend void retainWeak(TableDocument* document) noexcept;
@@ -45,6 +63,8 @@ private:
     friend void releaseDocument(TableDocument& document) noexcept;
     friend class CountedOwner;
 
+    // Renders a text that was written and keeps it from then on. Error 5 while it is written.
+    virtual void keepText() = 0;
     // Called when the last reference goes: the groups are destroyed.
     virtual void releaseContents() noexcept = 0;
 
@@ -60,6 +80,12 @@ bool isAlive(const TableDocument* document) noexcept;
 
 /// Returns the document; error 91 if it is null.
 TableDocument& required(TableDocument* document);
+
+/// Returns the document, which is about to change; error 91 if it is null.
+TableDocument& changing(TableDocument* document);
+
+/// Prepares the document, unless it is null, for a change; see `GroupOwner::beforeChange`.
+void beforeChange(TableDocument* document);
 
 /// Marks the document changed; error 91 if it is null.
 void markChanged(TableDocument* document);

@@ -1,5 +1,11 @@
 #include "quorvane/docmodel/TableRendering.h"
 
+#include <array>
+#include <charconv>
+#include <cstddef>
+#include <cstdint>
+#include <iterator>
+
 namespace quorvane {
 
 namespace {
@@ -17,31 +23,35 @@ constexpr SideWords sides[] = {
     {BorderSide::Top, R"(\clbrdrt\brdrs\brdrw)"},
 };
 
+constexpr std::size_t longestNumber = 11;
+constexpr std::size_t longestBorderText =
+    std::size(sides) * (sides[0].words.size() + longestNumber);
+
 }  // namespace
 
-std::string_view TableRendering::paragraphStyle(const SharedText& name) {
-    // Words are never empty: a document returns a blank where there are none.
-    if (styleWords_.empty() || !name.sharesWith(styleName_)) {
-        styleWords_ = document.GetParagraphStyle(name.view());
-        styleName_ = name;
-    }
-    return styleWords_;
+TableRendering::TableRendering(TableDocument& document_, TextOutput& out_)
+    : document(document_), out(out_), inlineStyles(document_) {
+    borderText_.reserve(longestBorderText);
 }
 
-std::string_view TableRendering::borderText(const Borders& borders) {
-    if (borders != borders_) {
-        borderText_.clear();
-        TextOutput text(borderText_);
-        for (const SideWords& side : sides) {
-            const tBorderWidth width = borders[side.side];
-            if (width != eNone) {
-                text << side.words << static_cast<std::int32_t>(width);
-            }
+void TableRendering::lookUpParagraphStyle(const SharedText& name) {
+    styleWords_ = document.GetParagraphStyle(name.view());
+    styleName_ = name;
+}
+
+void TableRendering::renderBorders(const Borders& borders) {
+    borderText_.clear();
+    for (const SideWords& side : sides) {
+        const tBorderWidth width = borders[side.side];
+        if (width != eNone) {
+            std::array<char, longestNumber> digits;
+            const auto end =
+                std::to_chars(digits.begin(), digits.end(), static_cast<std::int32_t>(width));
+            borderText_ += side.words;
+            borderText_.append(digits.data(), end.ptr);
         }
-        text.flush();
-        borders_ = borders;
     }
-    return borderText_;
+    borders_ = borders;
 }
 
 }  // namespace quorvane

@@ -7,26 +7,41 @@
 #include "quorvane/base/text/TextOutput.h"
 #include "quorvane/docmodel/Borders.h"
 #include "quorvane/docmodel/TableDocument.h"
+#include "quorvane/docmodel/inline/inlineStyles.h"
 
 namespace quorvane {
 
 /// One rendering of a document's table: the document, where the text goes, and what most cells have
-/// in common with the one before them.
+/// in common with the one before them. It can be repeated with the same object.
 class TableRendering {
 public:
-    /// Appends to `rtf`.
-    TableRendering(TableDocument& document_, std::string& rtf) : document(document_), out(rtf) {}
+    TableRendering(TableDocument& document_, TextOutput& out_);
 
     /// Control words of a paragraph style; see `TableDocument::GetParagraphStyle`.
-    std::string_view paragraphStyle(const SharedText& name);
+    std::string_view paragraphStyle(const SharedText& name) {
+        // Words are never empty: a document returns a blank where there are none.
+        if (styleWords_.empty() || !name.sharesWith(styleName_)) {
+            lookUpParagraphStyle(name);
+        }
+        return styleWords_;
+    }
 
     /// The text of a cell's borders.
-    std::string_view borderText(const Borders& borders);
+    std::string_view borderText(const Borders& borders) {
+        if (borders != borders_) {
+            renderBorders(borders);
+        }
+        return borderText_;
+    }
 
     TableDocument& document;
-    TextOutput out;
+    TextOutput& out;
+    InlineStyles inlineStyles;
 
 private:
+    void lookUpParagraphStyle(const SharedText& name);
+    void renderBorders(const Borders& borders);
+
     // A document that has rows has been asked for its first style only when this is not empty.
     std::string_view styleWords_;
     SharedText styleName_;

@@ -15,7 +15,7 @@ namespace quorvane {
 
 template <class Inner>
 void insertInto(Inner& collection, const Value& key, const Value& before, const Value& after) {
-    TableDocument& document = required(collection.document());
+    TableDocument& document = changing(collection.document());
     collection.insertNew(collection.list().placeFor(key, before, after), document);
     document.markChanged();
 }
@@ -23,7 +23,7 @@ void insertInto(Inner& collection, const Value& key, const Value& before, const 
 /// Removes the element at an end of the list, if there is one.
 template <class Inner>
 void removeEnd(Inner& collection, std::size_t position) {
-    TableDocument& document = required(collection.document());
+    TableDocument& document = changing(collection.document());
     if (collection.list().count() > 0) {
         collection.removeAt(position);
     }
@@ -35,7 +35,7 @@ void removeEnd(Inner& collection, std::size_t position) {
 template <class Inner>
 auto& addNumbered(Inner& collection, std::int32_t number) {
     published([&] {
-        TableDocument& document = required(collection.document());
+        TableDocument& document = changing(collection.document());
         const auto place = collection.list().placeForNumber(static_cast<std::uint32_t>(number));
         collection.insertNew(place, document);
         document.markChanged();

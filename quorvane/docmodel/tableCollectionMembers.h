@@ -25,7 +25,7 @@ template <class Collection, class Element>
 void TableCollection<Collection, Element>::Remove(const Value& Index) {
     published([&] {
         auto& collection = inner(static_cast<Collection&>(*this));
-        TableDocument& document = required(collection.document());
+        TableDocument& document = changing(collection.document());
         collection.removeAt(collection.list().positionOfIndex(Index));
         document.markChanged();
     });

@@ -91,7 +91,7 @@ void CRtfDriver::setAbsorbedErrorObserver(GError::Observer observer) {
 void CRtfDriver::AnalyseData(std::string_view text) {
     // A handler of the event may release the driver.
     const Ref<CRtfDriver> self(this);
-    const Dialect& dialect = originalDialect();
+    const Dialect& dialect = unicodeTexts_ ? unicodeDialect() : originalDialect();
     document_->ClearStructure();
     std::vector<SourceLine> lines = PreProcessRawData(text);
     const DescriptionFrame frame = frameOf(text, lines, dialect);

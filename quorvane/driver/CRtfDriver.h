@@ -54,6 +54,13 @@ public:
     bool ErroneousInput() const { return erroneousInput_; }
     void setErroneousInput(bool check) { erroneousInput_ = check; }
 
+    /// Whether an analysis takes descriptions with any characters. Then those that Windows-1252
+    /// lacks become control words in the texts of paragraphs (`{\uc1\u345?}` for ř); in keys, names
+    /// of styles and data of marked fields they are errors `eWrongValue`. Initially false: they are
+    /// kept, and written as "?".
+    bool UnicodeTexts() const { return unicodeTexts_; }
+    void setUnicodeTexts(bool accept) { unicodeTexts_ = accept; }
+
     /// Whether errors of an analysis are reported through the event. Initially true.
     bool notifyError() const { return notifyError_; }
     void setNotifyError(bool notify) { notifyError_ = notify; }
@@ -95,6 +102,7 @@ private:
     Ref<CRtfDoc> document_;
     NotifyErrorHandler handler_;
     bool erroneousInput_ = false;
+    bool unicodeTexts_ = false;
     bool notifyError_ = true;
 };
 

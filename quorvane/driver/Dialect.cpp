@@ -10,7 +10,17 @@ const Dialect& originalDialect() {
         .numbers = {{{1000, 1999}, {2000, 2999}, {3000, 3999}, {0, 999}}},
         .frame = {.opener = "(doc", .closer = "doc)", .elements = {"(r", "(c"}},
         .repair = {.rowOpener = "(r", .rowCloser = "r)", .cellCloser = "c)"},
+        .texts = {},
     };
+    return dialect;
+}
+
+const Dialect& unicodeDialect() {
+    static const Dialect dialect = [] {
+        Dialect unicode = originalDialect();
+        unicode.texts.writesUnicode = true;
+        return unicode;
+    }();
     return dialect;
 }
 

@@ -41,6 +41,13 @@ struct RepairWords {
     std::string_view cellCloser;
 };
 
+/// What the texts of a description may hold.
+struct TextRules {
+    /// Characters that Windows-1252 lacks become control words in the text of a paragraph and are
+    /// errors elsewhere. Otherwise they are left to the one who writes the document.
+    bool writesUnicode = false;
+};
+
 /// A form of the description language: the words, limits and rules of text by which the parser, the
 /// rules and the builder go.
 struct Dialect {
@@ -50,9 +57,13 @@ struct Dialect {
     std::array<NodeNumbers, 4> numbers;
     DescriptionFrameWords frame;
     RepairWords repair;
+    TextRules texts;
 };
 
 /// The published language.
 const Dialect& originalDialect();
+
+/// The published language for texts with any characters.
+const Dialect& unicodeDialect();
 
 }  // namespace quorvane

@@ -4,6 +4,7 @@
 #include <array>
 #include <bit>
 #include <optional>
+#include <string_view>
 
 #include "quorvane/base/text/rounding.h"
 #include "quorvane/base/values/RtfError.h"
@@ -13,6 +14,7 @@
 #include "quorvane/docmodel/tableCollectionChanges.h"
 #include "quorvane/driver/DescriptionRules.h"
 #include "quorvane/driver/driverErrors.h"
+#include "quorvane/rtf/unicodeWords.h"
 
 namespace quorvane {
 
@@ -75,7 +77,7 @@ Violation violationOf(const RtfError& error, Leaf& leaf, DescriptionNode* keyHol
 
 template <class Apply>
 void DocumentBuilder::forEachLeaf(DescriptionNode& node, NodeKind kind, Apply apply) const {
-    KeySet keys = node.keys & vocabulary_.keySetOf(kind);
+    KeySet keys = node.keys & dialect_.vocabulary.keySetOf(kind);
     if (keys == 0) {
         return;
     }
@@ -87,7 +89,7 @@ void DocumentBuilder::forEachLeaf(DescriptionNode& node, NodeKind kind, Apply ap
     }
     for (; keys != 0; keys &= keys - 1) {
         Leaf& leaf = *byKey[static_cast<std::size_t>(std::countr_zero(keys))];
-        if (!leaf.isFaulty) {
+        if (!leaf.isFaulty && isEncodable(leaf)) {
             applyTo(leaf, apply);
         }
     }
@@ -103,6 +105,23 @@ void DocumentBuilder::applyTo(Leaf& leaf, Apply apply) const {
         }
         receiver_(violationOf(error, leaf, keyHolder_));
     }
+}
+
+/// Reports a character where there can be none beyond Windows-1252.
+bool DocumentBuilder::isEncodable(Leaf& leaf) const {
+    if (!dialect_.texts.writesUnicode || leaf.key.known == DescriptionKey::ParaText) {
+        return true;
+    }
+    const std::optional<std::string_view> character = findBeyondCodePage1252(leaf.text);
+    if (!character) {
+        return true;
+    }
+    (receiver_ ? receiver_ : raiseViolation)(
+        {.fault = DriverFault::Unencodable,
+         .error = driverError(DriverFault::Unencodable, *character, leaf.line),
+         .part = *character,
+         .leaf = &leaf});
+    return false;
 }
 
 BuiltTable DocumentBuilder::build(DescriptionNode& doc) {
@@ -292,7 +311,7 @@ void DocumentBuilder::applyCellLeaf(CRtfTableCell& cell, const Leaf& leaf) {
 void DocumentBuilder::applyParaLeaf(CRtfParagraph& paragraph, const Leaf& leaf) {
     switch (leaf.key.known) {
         case DescriptionKey::ParaText:
-            paragraph.setText(leaf.text);
+            setText(paragraph, leaf);
             break;
         case DescriptionKey::ParaStyle:
             paragraph.setStyle(leaf.valueText());
@@ -308,16 +327,24 @@ void DocumentBuilder::applyParaLeaf(CRtfParagraph& paragraph, const Leaf& leaf) 
     }
 }
 
+void DocumentBuilder::setText(CRtfParagraph& paragraph, const Leaf& leaf) const {
+    if (dialect_.texts.writesUnicode) {
+        paragraph.setText(withUnicodeWords(leaf.text));
+    } else {
+        paragraph.setText(leaf.text);
+    }
+}
+
 tColorIndex DocumentBuilder::color(const Leaf& leaf) const {
-    return required(vocabulary_.colorOf(leaf), leaf);
+    return required(dialect_.vocabulary.colorOf(leaf), leaf);
 }
 
 tBorderWidth DocumentBuilder::border(const Leaf& leaf) const {
-    return required(vocabulary_.borderOf(leaf), leaf);
+    return required(dialect_.vocabulary.borderOf(leaf), leaf);
 }
 
 tCellAlign DocumentBuilder::alignment(const Leaf& leaf) const {
-    return required(vocabulary_.alignmentOf(leaf), leaf);
+    return required(dialect_.vocabulary.alignmentOf(leaf), leaf);
 }
 
 }  // namespace quorvane

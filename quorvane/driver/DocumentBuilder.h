@@ -53,8 +53,11 @@ struct BuiltTable {
 class DocumentBuilder {
 public:
     DocumentBuilder(CRtfDoc& document, const Dialect& dialect, ViolationReceiver receiver = {})
-        : document_(document), vocabulary_(dialect.vocabulary), receiver_(std::move(receiver)) {}
+        : document_(document), dialect_(dialect), receiver_(std::move(receiver)) {}
 
+    /// Where the dialect writes Unicode, a character that Windows-1252 lacks becomes a control word
+    /// in the text of a paragraph, and an error `eWrongValue` elsewhere.
+    ///
     /// First adds all rows, cells and paragraphs under their nodes' numbers as keys, then applies
     /// the leaves, in ascending order of their keys. Errors: `eWrongValue` a word or number that is
     /// not a color, border or alignment, 13 a value that is not a number where there must be one, 6
@@ -69,6 +72,8 @@ private:
     template <class Apply>
     void applyTo(Leaf& leaf, Apply apply) const;
 
+    bool isEncodable(Leaf& leaf) const;
+
     void addRows(DescriptionNode& doc);
     void addCells(BuiltTable::Row& row);
     void addParagraphs(BuiltTable::Cell& cell);
@@ -79,6 +84,7 @@ private:
                    std::span<BuiltTable::Cell> siblings);
     void applyCellLeaf(CRtfTableCell& cell, const Leaf& leaf);
     void applyParaLeaf(CRtfParagraph& paragraph, const Leaf& leaf);
+    void setText(CRtfParagraph& paragraph, const Leaf& leaf) const;
 
     // Files an element under the value of its key; on error 457 keeps the node that has that key.
     template <class Collection, class Built>
@@ -89,7 +95,7 @@ private:
     tCellAlign alignment(const Leaf& leaf) const;
 
     CRtfDoc& document_;
-    const Vocabulary& vocabulary_;
+    const Dialect& dialect_;
     ViolationReceiver receiver_;
     BuiltTable table_;
     // The node that has the key of the last error 457.

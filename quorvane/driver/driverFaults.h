@@ -40,6 +40,8 @@ enum class DriverFault : std::uint8_t {
     // The build.
     Overflow,
     TakenKey,
+    /// Only where the dialect writes Unicode.
+    Unencodable,
     /// Any other error of the object model.
     Other,
     // Not about a description.

@@ -107,7 +107,7 @@ constexpr RtfWord wordsWithMeaning[] = {
 };
 
 // Words that begin a group whose text is not the document's.
-constexpr std::string_view otherDestinations[] = {
+constexpr RtfLetters otherDestinations[] = {
     "aftncn", "aftnsep", "aftnsepc", "annotation", "atnauthor", "atndate", "atnicn", "atnid",
     "atnparent", "atnref", "atntime", "atrfend", "atrfstart", "author", "background", "bkmkend",
     "bkmkstart", "blipuid", "buptim", "category", "colorschememapping", "comment", "company",
@@ -145,7 +145,7 @@ constexpr std::string_view otherDestinations[] = {
     "xform", "xmlattrname", "xmlattrvalue", "xmlclose", "xmlname", "xmlns", "xmlnstbl", "xmlopen",
 };
 
-constexpr std::string_view otherWords[] = {
+constexpr RtfLetters otherWords[] = {
     "ApplyBrkRules", "ab", "absh", "abslock", "absnoovrlp", "absw", "acaps", "acccircle",
     "acccomma", "accdot", "accnone", "accunderdot", "additive", "adeff", "adeflang", "adjustright",
     "adn", "aenddoc", "aendnotes", "aexpnd", "afelev", "afs", "aftnbj", "aftnnalc", "aftnnar",
@@ -352,10 +352,10 @@ constexpr std::array<RtfWord, wordCount> words = [] {
     for (const RtfWord& word : wordsWithMeaning) {
         *next++ = word;
     }
-    for (const std::string_view word : otherDestinations) {
+    for (const RtfLetters word : otherDestinations) {
         *next++ = {.word = word, .destination = RtfDestination::Other};
     }
-    for (const std::string_view word : otherWords) {
+    for (const RtfLetters word : otherWords) {
         *next++ = {.word = word};
     }
     return all;
@@ -394,7 +394,7 @@ public:
         for (std::size_t slot = hashOf(word) % Slots; positions_[slot] != 0;
              slot = (slot + 1) % Slots) {
             const RtfWord& candidate = words[positions_[slot] - 1U];
-            if (candidate.word == word) {
+            if (std::string_view(candidate.word) == word) {
                 return &candidate;
             }
         }

@@ -4,6 +4,8 @@
 #include <span>
 #include <string_view>
 
+#include "quorvane/base/text/FixedString.h"
+
 namespace quorvane {
 
 /// What the text of a group is that begins with a control word.
@@ -70,10 +72,13 @@ enum class RtfContent : std::uint8_t {
     Macro,
 };
 
+/// The letters of a control word. No word has more.
+using RtfLetters = FixedString<19>;
+
 /// A control word of RTF up to version 1.9.1, or of the marked fields.
 struct RtfWord {
     /// Its letters, without the backslash and the number.
-    std::string_view word{};
+    RtfLetters word;
     RtfDestination destination = RtfDestination::None;
     RtfRole role = RtfRole::None;
     /// The character that it shows: a blank, '?' for one that ASCII does not have, NUL for none.

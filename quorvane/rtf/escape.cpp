@@ -6,6 +6,7 @@
 
 #include "quorvane/base/text/utf8.h"
 #include "quorvane/base/values/RtfError.h"
+#include "quorvane/rtf/unicodeWords.h"
 
 namespace quorvane {
 
@@ -148,16 +149,7 @@ private:
             rtf_ += "{\\uc1";
             inUnicode_ = true;
         }
-        if (code > 0xFFFF) {
-            addUnit(0xD800 + ((code - 0x10000) >> 10));
-            addUnit(0xDC00 + ((code - 0x10000) & 0x3FF));
-        } else {
-            addUnit(code);
-        }
-    }
-
-    void addUnit(std::uint32_t unit) {
-        rtf_ += "\\u" + std::to_string(static_cast<std::int16_t>(unit)) + "?";
+        appendUnicodeWords(code, rtf_);
     }
 
     void endUnicode() {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <string>
 #include <utility>
 
 #include "quorvane/base/memory/Ref.h"
@@ -19,8 +18,11 @@ public:
     /// The rows; the same object every time.
     const Ref<Rows>& TableRows() const noexcept { return rows_; }
 
-    /// Appends the rows' text.
-    void render(std::string& rtf) const { rows_->render(rtf); }
+    /// Writes the rows' text.
+    template <class Rendering>
+    void render(Rendering& rendering) const {
+        rows_->render(rendering);
+    }
 
     /// Tears the rows down, also when a host holds them. Without this call they stay as they are.
     void destroy() noexcept {

@@ -151,8 +151,8 @@ std::optional<RgbColor> CRtfGrpColorTable::color(std::int32_t number) {
     return colors[number - 1].color;
 }
 
-void CRtfGrpColorTable::render(std::string& rtf) const {
-    rtf.append(groupText.bytes.data(), groupText.size);
+void CRtfGrpColorTable::render(TextOutput& rtf) const {
+    rtf << std::string_view(groupText.bytes.data(), groupText.size);
 }
 
 }  // namespace quorvane

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "quorvane/base/text/TextOutput.h"
+
 namespace quorvane {
 
 /// A color by its parts of red, green and blue, each from 0 to 255.
@@ -34,8 +36,8 @@ public:
     /// empty for 0 and for a number that the table does not have.
     static std::string colorName(std::int32_t number);
 
-    /// Appends the group's text.
-    void render(std::string& rtf) const;
+    /// Writes the group's text.
+    void render(TextOutput& rtf) const;
 };
 
 }  // namespace quorvane

@@ -1,7 +1,5 @@
 #include "quorvane/rtfgroups/CRtfGrpDocumentFormat.h"
 
-#include <string_view>
-
 namespace quorvane {
 
 namespace {
@@ -11,11 +9,6 @@ std::int32_t fittingMargin(std::int32_t twips, std::int32_t paper, std::int32_t 
                            std::int32_t fallback) {
     const double limit = paper * 0.9 - oppositeMargin;
     return twips < limit && twips >= 1 ? twips : fallback;
-}
-
-void appendSetting(std::string_view word, std::int32_t value, std::string& rtf) {
-    rtf += word;
-    rtf += std::to_string(value);
 }
 
 }  // namespace
@@ -41,29 +34,27 @@ void CRtfGrpDocumentFormat::setPageNumberStart(std::int32_t number) {
 }
 
 void CRtfGrpDocumentFormat::setPaperWidth(std::int32_t twips) {
+    owner_.beforeChange();
     paperWidth_ = twips;
     owner_.markChanged();
 }
 
 void CRtfGrpDocumentFormat::setPaperHeight(std::int32_t twips) {
+    owner_.beforeChange();
     paperHeight_ = twips;
     owner_.markChanged();
 }
 
-void CRtfGrpDocumentFormat::render(std::string& rtf) const {
-    rtf += "\r\n\\deftab360\\defformat";
-    appendSetting("\\margb", bottomMargin_, rtf);
-    appendSetting("\\margl", leftMargin_, rtf);
-    appendSetting("\\margt", topMargin_, rtf);
-    appendSetting("\\margr", rightMargin_, rtf);
-    appendSetting("\\paperw", paperWidth_, rtf);
-    appendSetting("\\paperh", paperHeight_, rtf);
-    appendSetting("\\pgnstart", pageNumberStart_, rtf);
-    rtf += "\\widowctrl\r\n";
+void CRtfGrpDocumentFormat::render(TextOutput& rtf) const {
+    rtf << "\r\n\\deftab360\\defformat"
+        << "\\margb" << bottomMargin_ << "\\margl" << leftMargin_ << "\\margt" << topMargin_
+        << "\\margr" << rightMargin_ << "\\paperw" << paperWidth_ << "\\paperh" << paperHeight_
+        << "\\pgnstart" << pageNumberStart_ << "\\widowctrl\r\n";
 }
 
 void CRtfGrpDocumentFormat::change(std::int32_t& setting, std::int32_t value) {
     if (setting != value) {
+        owner_.beforeChange();
         setting = value;
         owner_.markChanged();
     }

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 
+#include "quorvane/base/text/TextOutput.h"
 #include "quorvane/rtfgroups/GroupOwner.h"
 
 namespace quorvane {
@@ -43,8 +43,8 @@ public:
     std::int32_t PaperHeight() const { return paperHeight_; }
     void setPaperHeight(std::int32_t twips);
 
-    /// Appends the group's text.
-    void render(std::string& rtf) const;
+    /// Writes the group's text.
+    void render(TextOutput& rtf) const;
 
 private:
     void change(std::int32_t& setting, std::int32_t value);

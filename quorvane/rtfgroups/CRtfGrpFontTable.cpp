@@ -65,14 +65,12 @@ std::string_view CRtfGrpFontTable::fontKey(std::int32_t number) {
     return isThere ? fonts[number].key : std::string_view();
 }
 
-void CRtfGrpFontTable::render(std::string& rtf) const {
-    rtf += "\r\n{";
-    rtf += opening;
+void CRtfGrpFontTable::render(TextOutput& rtf) const {
+    rtf << "\r\n{" << opening;
     for (const Font& font : fonts) {
-        rtf += "\r\n";
-        rtf += font.entry;
+        rtf << "\r\n" << font.entry;
     }
-    rtf += '}';
+    rtf << "}";
 }
 
 }  // namespace quorvane

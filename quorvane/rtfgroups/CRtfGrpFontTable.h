@@ -2,8 +2,9 @@
 
 #include <cstdint>
 #include <optional>
-#include <string>
 #include <string_view>
+
+#include "quorvane/base/text/TextOutput.h"
 
 namespace quorvane {
 
@@ -26,8 +27,8 @@ public:
     /// Key of the font of that number; empty for a number that the table does not have.
     static std::string_view fontKey(std::int32_t number);
 
-    /// Appends the group's text.
-    void render(std::string& rtf) const;
+    /// Writes the group's text.
+    void render(TextOutput& rtf) const;
 };
 
 }  // namespace quorvane

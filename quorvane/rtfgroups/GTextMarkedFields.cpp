@@ -1,5 +1,6 @@
 #include "quorvane/rtfgroups/GTextMarkedFields.h"
 
+#include "quorvane/base/text/StringOutput.h"
 #include "quorvane/base/text/codePage1252.h"
 #include "quorvane/base/values/RtfError.h"
 
@@ -47,7 +48,7 @@ void writeFieldEnd(TextOutput& rtf) {
 
 std::string wrapMarkedField(std::string_view rtf, std::string_view data) {
     std::string wrapped;
-    TextOutput output(wrapped);
+    StringOutput output(wrapped);
     writeFieldStart(data, output);
     output << rtf;
     writeFieldEnd(output);

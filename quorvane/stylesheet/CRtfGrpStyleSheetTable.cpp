@@ -4,7 +4,6 @@
 
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/trimming.h"
-#include "quorvane/rtfgroups/CRtfGrpColorTable.h"
 #include "quorvane/support/GFileSystem.h"
 
 namespace quorvane {
@@ -64,6 +63,7 @@ void appendEntries(const StyleList& styles, Entry entry, std::string& rtf) {
 }  // namespace
 
 void CRtfGrpStyleSheetTable::setStyleSheetFile(std::string sName) {
+    owner_.beforeChange();
     clear();
     if (GFileSystem::fileExists(files_, sName)) {
         load(GFileSystem::loadStringFromFile(files_, sName));
@@ -72,6 +72,7 @@ void CRtfGrpStyleSheetTable::setStyleSheetFile(std::string sName) {
 }
 
 void CRtfGrpStyleSheetTable::loadStyleSheetFromMemory(std::string_view text) {
+    owner_.beforeChange();
     clear();
     load(text);
 }
@@ -91,7 +92,7 @@ std::string_view CRtfGrpStyleSheetTable::GetCharacterStyle(std::string_view sNam
 }
 
 std::int32_t CRtfGrpStyleSheetTable::getCellStyleBackColor(std::string_view sName) const {
-    return CRtfGrpColorTable::colorNumber(GetMarkedFieldStyle(sName));
+    return loaded_ ? cellColors_.find(cellStyles_, sName) : 0;
 }
 
 std::string CRtfGrpStyleSheetTable::GetMarkedFieldStyle(std::string_view sName) const {
@@ -99,9 +100,9 @@ std::string CRtfGrpStyleSheetTable::GetMarkedFieldStyle(std::string_view sName) 
     return position < 0 ? std::string() : cellStyles_.at(position).format();
 }
 
-void CRtfGrpStyleSheetTable::render(std::string& rtf) const {
+void CRtfGrpStyleSheetTable::render(TextOutput& rtf) const {
     if (loaded_) {
-        rtf += group_;
+        rtf << group_;
     }
 }
 
@@ -124,6 +125,7 @@ void CRtfGrpStyleSheetTable::load(std::string_view text) {
         paragraphStyles_,
         paragraphStyles_.empty() ? std::string() : selectionWords(paragraphStyles_.at(1), 0));
     characterLookup_ = StyleLookup(characterStyles_, {});
+    cellColors_ = CellColorLookup(cellStyles_);
     group_ = "\r\n{\\stylesheet";
     appendEntries(paragraphStyles_, paragraphEntry, group_);
     appendEntries(characterStyles_, characterEntry, group_);

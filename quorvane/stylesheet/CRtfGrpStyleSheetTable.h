@@ -5,7 +5,9 @@
 #include <string_view>
 
 #include "quorvane/base/platform/Files.h"
+#include "quorvane/base/text/TextOutput.h"
 #include "quorvane/rtfgroups/GroupOwner.h"
+#include "quorvane/stylesheet/CellColorLookup.h"
 #include "quorvane/stylesheet/StyleList.h"
 #include "quorvane/stylesheet/StyleLookup.h"
 #include "quorvane/stylesheet/stylesheetParser.h"
@@ -59,8 +61,14 @@ public:
     /// The format words of the named cell style; empty for an unknown name.
     std::string GetMarkedFieldStyle(std::string_view sName) const;
 
-    /// Appends the group's text.
-    void render(std::string& rtf) const;
+    /// True when looking up a name again that was looked up before takes no memory.
+    bool keepsNames() const noexcept {
+        return paragraphLookup_.keepsNames() && characterLookup_.keepsNames() &&
+               cellColors_.keepsNames();
+    }
+
+    /// Writes the group's text.
+    void render(TextOutput& rtf) const;
 
 private:
     // Removes what was loaded before.
@@ -80,6 +88,7 @@ private:
     StyleList cellStyles_;
     StyleLookup paragraphLookup_;
     StyleLookup characterLookup_;
+    CellColorLookup cellColors_;
 };
 
 }  // namespace quorvane

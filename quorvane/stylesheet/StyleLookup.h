@@ -1,17 +1,16 @@
 #pragma once
 
-#include <cstddef>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "quorvane/stylesheet/StyleList.h"
+#include "quorvane/stylesheet/StylePositions.h"
 
 namespace quorvane {
 
-/// The control words that select the styles of a list, ready for rendering, which looks them up
-/// once for every paragraph and token.
+/// The control words that select the styles of a list, ready for rendering, which looks them up for
+/// paragraphs and tokens.
 class StyleLookup {
 public:
     StyleLookup() = default;
@@ -22,18 +21,12 @@ public:
     /// The words for a name in any case. Blanks around it count.
     std::string_view find(const StyleList& styles, std::string_view name) const;
 
-private:
-    struct TextHash {
-        using is_transparent = void;
-        std::size_t operator()(std::string_view text) const {
-            return std::hash<std::string_view>{}(text);
-        }
-    };
+    bool keepsNames() const noexcept { return positions_.areKept(); }
 
+private:
+    StylePositions positions_;
     std::vector<std::string> words_;
     std::string wordsForUnknown_;
-    // Positions of the names that were looked up, as they were written; -1 for unknown ones.
-    mutable std::unordered_map<std::string, int, TextHash, std::equal_to<>> lookedUp_;
 };
 
 /// The words that select a style by its number: `\s101` and the words of its format.

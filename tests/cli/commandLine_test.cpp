@@ -69,6 +69,29 @@ TEST(CommandLine, TakesTheOutputFolder) {
     EXPECT_EQ(optionsOf({"--output-dir", "out", "x", "y"}).outputFolder, "out");
 }
 
+TEST(CommandLine, TakesTheNumberOfJobsInItsShortAndLongForm) {
+    EXPECT_EQ(optionsOf({"x"}).jobs, 1U);
+    EXPECT_EQ(optionsOf({"-j4", "x"}).jobs, 4U);
+    EXPECT_EQ(optionsOf({"-j", "4", "x"}).jobs, 4U);
+    EXPECT_EQ(optionsOf({"x", "--jobs", "12"}).jobs, 12U);
+    EXPECT_EQ(optionsOf({"x", "--jobs=1024"}).jobs, 1024U);
+    EXPECT_EQ(optionsOf({"-j0", "x"}).jobs, 0U);
+}
+
+TEST(CommandLine, RefusesOtherNumbersOfJobs) {
+    const std::vector<std::string> wrongNumbers = {"-1",  "x",   "4x",   "+4",
+                                                   "0x4", "1.5", "1025", "99999999999999999999999"};
+    for (const std::string& value : wrongNumbers) {
+        EXPECT_EQ(usageErrorOf({"render", "-j", value, "x"}),
+                  "--jobs: " + value + " is not a number from 0 to 1024");
+        EXPECT_EQ(usageErrorOf({"render", "-j" + value, "x"}),
+                  "--jobs: " + value + " is not a number from 0 to 1024");
+    }
+    EXPECT_EQ(usageErrorOf({"render", "x", "-j"}), "--jobs: 1 required N missing");
+    EXPECT_EQ(usageErrorOf({"render", "x", "-j=4"}), "write -j 4 instead of -j=4");
+    EXPECT_EQ(usageErrorOf({"render", "x", "--jobs="}), "--jobs= needs a value");
+}
+
 TEST(CommandLine, TakesTheSwitches) {
     EXPECT_TRUE(optionsOf({"--check", "x"}).check);
     EXPECT_TRUE(optionsOf({"x", "--keep-going"}).keepGoing);

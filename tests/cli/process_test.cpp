@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
@@ -246,6 +247,56 @@ TEST(ReplacementDeathTest, IsTakenAlongByASignalThatEndsTheProcess) {
         EXPECT_THAT(folder.names(), ElementsAre("a.rtf"));
         EXPECT_EQ(folder.read("a.rtf"), "old");
     }
+}
+
+TEST(ReplacementDeathTest, IsTakenAlongWithThoseOfOtherThreads) {
+    const TemporaryFolder folder;
+    EXPECT_EXIT(
+        {
+            prepareProcess();
+            const auto first = openReplacement(folder / "a.rtf");
+            std::unique_ptr<OutputFile> second;
+            std::thread([&] { second = openReplacement(folder / "b.rtf"); }).join();
+            const auto third = openReplacement(folder / "c.rtf");
+            second->close();
+            std::raise(SIGTERM);
+        },
+        testing::KilledBySignal(SIGTERM), "");
+    EXPECT_THAT(folder.names(), ElementsAre("b.rtf"));
+}
+
+TEST(ReplacementDeathTest, IsMadeAndNotedBeforeASignalEndsTheProcess) {
+    const TemporaryFolder folder;
+    EXPECT_EXIT(
+        {
+            prepareProcess();
+            unfinishedFileWatch().hold();
+            std::raise(SIGTERM);
+            const std::string path = folder.write("unfinished", "");
+            UnfinishedPath unfinished{path};
+            unfinishedFileWatch().begin(unfinished);
+            folder.write("other", "");
+            unfinishedFileWatch().resume();
+            std::exit(5);
+        },
+        testing::KilledBySignal(SIGTERM), "");
+    EXPECT_THAT(folder.names(), ElementsAre("other"));
+}
+
+TEST(ReplacementDeathTest, IsNotBegunByAnotherThreadWhileTheProcessEnds) {
+    const TemporaryFolder folder;
+    EXPECT_EXIT(
+        {
+            prepareProcess();
+            unfinishedFileWatch().hold();
+            std::raise(SIGTERM);
+            std::thread([&] { replace(folder / "a.rtf", "new"); }).detach();
+            std::this_thread::sleep_for(std::chrono::milliseconds(50));
+            unfinishedFileWatch().resume();
+            std::exit(5);
+        },
+        testing::KilledBySignal(SIGTERM), "");
+    EXPECT_THAT(folder.names(), IsEmpty());
 }
 
 TEST(ReplacementDeathTest, StaysWhenASignalComesAfterIt) {

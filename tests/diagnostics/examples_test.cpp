@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/base/text/codePage1252.h"
 #include "quorvane/diagnostics/description/DescriptionCheck.h"
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
@@ -42,8 +43,9 @@ std::vector<std::string> diagnosticsOf(std::string_view example, const Diagnosti
     switch (rule.language) {
         case CheckedLanguage::Description: {
             KnownStyles styles(utf8FromCodePage1252(companion));
-            return identifiers(checkDescription(utf8FromCodePage1252(text),
-                                                companion.empty() ? nullptr : &styles));
+            return identifiers(checkDescription(decodedText(text, rule.encoding),
+                                                companion.empty() ? nullptr : &styles,
+                                                rule.encoding));
         }
         case CheckedLanguage::StyleSheet: {
             KnownStyles styles(utf8FromCodePage1252(text));

@@ -4,7 +4,10 @@
 
 #include <string>
 
+#include "quorvane/base/text/StringOutput.h"
+#include "quorvane/docmodel/InnerDocument.h"
 #include "quorvane/docmodel/InnerRows.h"
+#include "quorvane/docmodel/TableRendering.h"
 #include "tests/docmodel/documentParts.h"
 
 namespace quorvane {
@@ -26,13 +29,17 @@ TEST(CRtfGrpBody, WritesItsRowsAndNothingElse) {
     const Ref<CRtfDoc> document = CRtfDoc::create();
     const CRtfGrpBody<InnerRows> body(rowsOf(*document));
     std::string rtf;
-    body.render(rtf);
+    StringOutput output(rtf);
+    TableRendering rendering(inner(*document), output);
+    body.render(rendering);
+    output.flush();
     EXPECT_EQ(rtf, "");
 
     body.TableRows()->AddTail();
     body.TableRows()->AddTail();
 
-    body.render(rtf);
+    body.render(rendering);
+    output.flush();
     EXPECT_EQ(rtf,
               "\r\n{\\intbl\\trowd\\trql\\trgaph70\\trleft0\\row}"
               "\r\n{\\intbl\\trowd\\trql\\trgaph70\\trleft0\\row}");

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "quorvane/base/text/StringOutput.h"
 #include "quorvane/docmodel/InnerDocument.h"
 #include "tests/docmodel/documentParts.h"
 
@@ -24,7 +25,8 @@ protected:
 
     Ref<CRtfDoc> document = CRtfDoc::create();
     std::string rtf;
-    TableRendering rendering{inner(*document), rtf};
+    StringOutput output{rtf};
+    TableRendering rendering{inner(*document), output};
 };
 
 TEST_F(Rendering, KnowsTheWordsOfEveryStyle) {

@@ -13,6 +13,7 @@
 #include "quorvane/docmodel/CRtfTableCells.h"
 #include "quorvane/docmodel/CRtfTableRow.h"
 #include "quorvane/docmodel/InnerDocument.h"
+#include "tests/docmodel/withCharacterStyles.h"
 #include "tests/support/FakePlatform.h"
 #include "tests/support/errorNumberOf.h"
 

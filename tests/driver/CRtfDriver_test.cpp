@@ -103,6 +103,31 @@ TEST_F(CRtfDriverTest, KeepsItsSwitches) {
     EXPECT_TRUE(driver->notifyError());
 }
 
+TEST(DriverOfUnicodeTexts, WritesAnyCharacterOfAText) {
+    const Ref<CRtfDriver> driver = CRtfDriver::create();
+    const char* const description =
+        "(doc\n(r\n(c\n(p\n(pt=Dvo\u0159\u00E1k \U0001F600 \\b x)\np)\nc)\nr)\ndoc)";
+    EXPECT_FALSE(driver->UnicodeTexts());
+    driver->ParseFromMemmory(description);
+    EXPECT_THAT(driver->Contents(), HasSubstr("Dvo\u0159\u00E1k \U0001F600 \\b x\\cell"));
+    driver->setUnicodeTexts(true);
+    driver->ParseFromMemmory(description);
+    EXPECT_THAT(driver->Contents(), HasSubstr("Dvo{\\uc1\\u345?}\u00E1k "
+                                              "{\\uc1\\u-10179?\\u-8704?} \\b x\\cell"));
+}
+
+TEST(DriverOfUnicodeTexts, ReportsACharacterThatIsNotInAText) {
+    const Ref<CRtfDriver> driver = CRtfDriver::create();
+    driver->setUnicodeTexts(true);
+    std::vector<std::string> errors;
+    driver->setNotifyErrorHandler([&](CRtfDriver&, const RtfError& error) {
+        errors.push_back(std::to_string(error.line) + " " + error.description);
+    });
+    driver->ParseFromMemmory("(doc\n(r\n(c\n(p\n(ps=tu\u010Dn\u00E9)\n(pt=x)\np)\nc)\nr)\ndoc)");
+    EXPECT_THAT(errors, ElementsAre("5 \u010D isn't in Windows-1252; only the text of a paragraph "
+                                    "can hold it."));
+}
+
 TEST_F(CRtfDriverTest, HasTheSameDocumentAllItsLife) {
     const Ref<CRtfDoc> document = driver->RtfObject();
     driver->ParseFromMemmory(oneCell);

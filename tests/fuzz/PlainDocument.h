@@ -17,8 +17,8 @@
 #include "quorvane/base/values/Value.h"
 #include "quorvane/docmodel/CRtfDoc.h"
 #include "quorvane/docmodel/InnerDocument.h"
-#include "quorvane/docmodel/inline/inlineStyles.h"
 #include "tests/docmodel/fixedGroups.h"
+#include "tests/docmodel/withCharacterStyles.h"
 #include "tests/fuzz/plainStyleSheet.h"
 
 // A document as its rules state it, without regard to speed: what the fuzzers compare the library

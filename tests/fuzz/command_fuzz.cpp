@@ -202,11 +202,10 @@ void requireSameWhenLocated(const std::vector<std::string>& arguments, int expec
         reported += cli::errorText(diagnostic) + "\n";
     };
     receivers.locate = [&](const std::string& file, const Diagnostic& diagnostic,
-                           const cli::FileWindow& window) {
+                           const cli::DiagnosticExcerpt& excerpt) {
         require(diagnostic.severity == Severity::Error || options->failOn == cli::FailOn::Warning,
                 "what makes a rendering fail is an error");
-        reported += cli::diagnosticText(file, diagnostic, cli::excerptAt(diagnostic.place, window),
-                                        cli::Colors::Off);
+        reported += cli::diagnosticText(file, diagnostic, excerpt, cli::Colors::Off);
     };
     int status = -1;
     try {
@@ -238,13 +237,11 @@ std::string outcome(const std::vector<std::string>& arguments) {
         };
         if (const auto* check = std::get_if<cli::CheckOptions>(&request)) {
             const auto find = [&text](const std::string& file, const Diagnostic& diagnostic,
-                                      const cli::FileWindow& window) {
+                                      const cli::DiagnosticExcerpt& excerpt) {
                 const std::string line = cli::diagnosticJson(file, diagnostic);
                 require(line.find('\n') == std::string::npos, "a diagnostic in JSON is one line");
                 text +=
-                    line + "\n" +
-                    cli::diagnosticText(file, diagnostic, cli::excerptAt(diagnostic.place, window),
-                                        cli::Colors::Off);
+                    line + "\n" + cli::diagnosticText(file, diagnostic, excerpt, cli::Colors::Off);
             };
             status = checked(*check, find, report, text);
         } else if (const auto* format = std::get_if<cli::FormatOptions>(&request)) {

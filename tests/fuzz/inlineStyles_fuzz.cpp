@@ -11,7 +11,7 @@
 #include "quorvane/base/text/utf16.h"
 #include "quorvane/docmodel/CRtfDoc.h"
 #include "quorvane/docmodel/InnerDocument.h"
-#include "quorvane/docmodel/inline/inlineStyles.h"
+#include "tests/docmodel/withCharacterStyles.h"
 #include "tests/fuzz/FuzzInput.h"
 #include "tests/fuzz/documentChecks.h"
 

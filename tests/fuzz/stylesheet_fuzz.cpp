@@ -20,6 +20,7 @@ using namespace quorvane;
 
 class NoOwner final : public GroupOwner {
 public:
+    void beforeChange() override {}
     void markChanged() noexcept override {}
 };
 

@@ -18,12 +18,12 @@
 #include "quorvane/diagnostics/stylesheet/StyleSheetCheck.h"
 #include "quorvane/docmodel/CRtfDoc.h"
 #include "quorvane/docmodel/InnerDocument.h"
-#include "quorvane/docmodel/inline/inlineStyles.h"
 #include "quorvane/driver/CRtfDriver.h"
 #include "quorvane/driver/DescriptionTree.h"
 #include "quorvane/driver/Dialect.h"
 #include "quorvane/driver/DocumentBuilder.h"
 #include "quorvane/support/recordStrings.h"
+#include "tests/docmodel/withCharacterStyles.h"
 #include "tests/support/FakePlatform.h"
 
 namespace quorvane {

@@ -282,7 +282,7 @@ TEST(RtfWords, AreKnownInEverySectionOfTheFormat) {
     for (const std::string_view letters : words) {
         const RtfWord* const word = findRtfWord(letters);
         ASSERT_TRUE(word) << letters;
-        EXPECT_EQ(word->word, letters);
+        EXPECT_EQ(std::string_view(word->word), letters);
     }
 }
 
@@ -297,7 +297,7 @@ TEST(RtfWords, AreEachFoundByTheirLetters) {
     EXPECT_GT(rtfWords().size(), 1800u);
     for (const RtfWord& word : rtfWords()) {
         // A word that stands in the table twice is not found where it stands.
-        EXPECT_EQ(findRtfWord(word.word), &word) << word.word;
+        EXPECT_EQ(findRtfWord(word.word), &word) << std::string_view(word.word);
     }
 }
 

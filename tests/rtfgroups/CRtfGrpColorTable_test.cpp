@@ -4,13 +4,15 @@
 
 #include <string_view>
 
+#include "tests/support/appendRendered.h"
+
 namespace quorvane {
 namespace {
 
 TEST(CRtfGrpColorTable, Writes57Colors) {
     std::string rtf;
 
-    CRtfGrpColorTable().render(rtf);
+    appendRendered(CRtfGrpColorTable(), rtf);
 
     EXPECT_EQ(rtf,
               "\r\n{\\colortbl;"
@@ -77,7 +79,7 @@ TEST(CRtfGrpColorTable, Writes57Colors) {
 TEST(CRtfGrpColorTable, AppendsToWhatIsThere) {
     std::string rtf = "before";
 
-    CRtfGrpColorTable().render(rtf);
+    appendRendered(CRtfGrpColorTable(), rtf);
 
     EXPECT_EQ(rtf.substr(0, 19), "before\r\n{\\colortbl;");
 }
@@ -194,7 +196,7 @@ TEST(CRtfGrpColorTable, HasTheColorsThatItWrites) {
                     std::to_string(color.green) + "\\blue" + std::to_string(color.blue) + ";";
     }
     std::string written;
-    CRtfGrpColorTable().render(written);
+    appendRendered(CRtfGrpColorTable(), written);
     EXPECT_EQ(written, expected + "}");
 }
 

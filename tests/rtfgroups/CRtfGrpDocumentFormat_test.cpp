@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/appendRendered.h"
+
 namespace quorvane {
 namespace {
 
@@ -9,6 +11,7 @@ namespace {
 class Owner final : public GroupOwner {
 public:
     int changes = 0;
+    void beforeChange() override {}
     void markChanged() noexcept override { ++changes; }
 };
 
@@ -16,7 +19,7 @@ class DocumentFormat : public testing::Test {
 protected:
     std::string rendered() const {
         std::string rtf;
-        format.render(rtf);
+        appendRendered(format, rtf);
         return rtf;
     }
 

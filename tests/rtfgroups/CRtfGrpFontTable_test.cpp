@@ -2,13 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/appendRendered.h"
+
 namespace quorvane {
 namespace {
 
 TEST(CRtfGrpFontTable, WritesEighteenFonts) {
     std::string rtf;
 
-    CRtfGrpFontTable().render(rtf);
+    appendRendered(CRtfGrpFontTable(), rtf);
 
     EXPECT_EQ(rtf,
               "\r\n{\\fonttbl"
@@ -36,7 +38,7 @@ TEST(CRtfGrpFontTable, WritesEighteenFonts) {
 TEST(CRtfGrpFontTable, AppendsToWhatIsThere) {
     std::string rtf = "before";
 
-    CRtfGrpFontTable().render(rtf);
+    appendRendered(CRtfGrpFontTable(), rtf);
 
     EXPECT_EQ(rtf.substr(0, 18), "before\r\n{\\fonttbl\r");
 }

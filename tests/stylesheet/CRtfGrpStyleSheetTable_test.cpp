@@ -8,6 +8,7 @@
 #include "quorvane/base/values/RtfError.h"
 #include "tests/fuzz/plainStyleSheet.h"
 #include "tests/support/FakePlatform.h"
+#include "tests/support/appendRendered.h"
 #include "tests/support/errorNumberOf.h"
 
 namespace quorvane {
@@ -17,6 +18,7 @@ namespace {
 class Owner final : public GroupOwner {
 public:
     int changes = 0;
+    void beforeChange() override {}
     void markChanged() noexcept override { ++changes; }
 };
 
@@ -24,7 +26,7 @@ class StyleSheetTable : public testing::Test {
 protected:
     std::string rendered() const {
         std::string rtf;
-        table.render(rtf);
+        appendRendered(table, rtf);
         return rtf;
     }
 
@@ -85,7 +87,7 @@ TEST_F(StyleSheetTable, AppendsToWhatIsThere) {
     table.loadStyleSheetFromMemory("{name: b; style-def: s}");
     std::string rtf = "before";
 
-    table.render(rtf);
+    appendRendered(table, rtf);
 
     EXPECT_EQ(rtf, "before\r\n{\\stylesheet\r\n{\\s100  b;}}");
 }

@@ -1,20 +1,17 @@
 #pragma once
 
+#include <malloc.h>
+
+#include <algorithm>
 #include <cstdlib>
 #include <new>
+
+#include "tests/support/failEachAllocation.h"
 
 // Replaces the global operator new, so that tests can let memory run out. Include it in exactly one
 // source file of a test program.
 
-namespace quorvane {
-
-namespace failingAllocations {
-
-// Allocations that still succeed; negative while none is to fail.
-inline thread_local long successesLeft = -1;
-
-// Allocations of this thread that nobody gave back yet.
-inline thread_local long living = 0;
+namespace quorvane::failingAllocations {
 
 inline void* allocate(std::size_t size) {
     if (successesLeft == 0) {
@@ -24,41 +21,23 @@ inline void* allocate(std::size_t size) {
         --successesLeft;
     }
     void* memory = std::malloc(size > 0 ? size : 1);
-    living += memory ? 1 : 0;
+    if (memory) {
+        ++living;
+        livingBytes += static_cast<long>(::malloc_usable_size(memory));
+        mostBytes = std::max(mostBytes, livingBytes);
+    }
     return memory;
 }
 
 inline void giveBack(void* memory) {
-    living -= memory ? 1 : 0;
+    if (memory) {
+        --living;
+        livingBytes -= static_cast<long>(::malloc_usable_size(memory));
+    }
     std::free(memory);
 }
 
-}  // namespace failingAllocations
-
-/// Runs an attempt again and again. In the first run its first allocation fails, in the second run
-/// the second one, and so on until a run is not short of memory; so everything must be prepared
-/// anew in `prepare`, whose result `attempt` and then, after a failure, `check` are called with.
-/// Returns how many runs failed.
-template <class Prepare, class Attempt, class Check>
-int failEachAllocation(Prepare prepare, Attempt attempt, Check check) {
-    for (int failures = 0;; ++failures) {
-        auto subject = prepare();
-        bool failed = false;
-        failingAllocations::successesLeft = failures;
-        try {
-            attempt(subject);
-        } catch (const std::bad_alloc&) {
-            failed = true;
-        }
-        failingAllocations::successesLeft = -1;
-        if (!failed) {
-            return failures;
-        }
-        check(subject);
-    }
-}
-
-}  // namespace quorvane
+}  // namespace quorvane::failingAllocations
 
 void* operator new(std::size_t size) {
     if (void* memory = quorvane::failingAllocations::allocate(size)) {

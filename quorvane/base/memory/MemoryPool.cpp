@@ -18,6 +18,8 @@ constexpr std::size_t bytesWithoutSlabs = 1024;
 constexpr std::size_t smallestSlab = 1024;
 // A new slab is this part of all that there are, so that little of it can stay unused.
 constexpr std::size_t slabShare = 8;
+// So much stays reserved for what comes after all was given back.
+constexpr std::size_t mostKept = std::size_t{64} * 1024;
 // Large enough for large pages where addresses are not scarce; small where they are.
 constexpr std::size_t largestSlab = std::size_t{sizeof(void*) > 4 ? 4096 : 256} * 1024;
 
@@ -59,7 +61,7 @@ void MemoryPool::deallocate(void* memory, std::size_t size) noexcept {
         return;
     }
     if (--blocksInUse_ == 0) {
-        releaseSlabs();
+        beginAnew();
         return;
     }
     const std::size_t blockSize = roundedUp(size);
@@ -78,18 +80,41 @@ void* MemoryPool::takeRoom(std::size_t size) {
     return memory;
 }
 
-void MemoryPool::addSlab(std::size_t size) {
-    std::size_t slabSize = size;
-    if (slabBytes_ >= bytesWithoutSlabs) {
-        slabSize = std::clamp(roundedUp(slabBytes_ / slabShare), smallestSlab, largestSlab);
+std::size_t MemoryPool::slabSizeFor(std::size_t size) const noexcept {
+    if (!slabs_) {
+        return std::max(size, expectedBytes_);
     }
+    return slabBytes_ < bytesWithoutSlabs
+               ? size
+               : std::clamp(roundedUp(slabBytes_ / slabShare), smallestSlab, largestSlab);
+}
+
+void MemoryPool::addSlab(std::size_t size) {
+    const std::size_t slabSize = slabSizeFor(size);
     void* memory = ::operator new(sizeof(Slab) + slabSize);
     preferLargePages(memory, sizeof(Slab) + slabSize);
     slabs_ = new (memory) Slab{slabs_};
     slabBytes_ += slabSize;
+    roomEnd_ = reinterpret_cast<char*>(slabs_ + 1) + slabSize;
+    useSlab();
+}
+
+/// Takes room from the beginning of the newest slab, in which nothing is.
+void MemoryPool::useSlab() noexcept {
     room_ = reinterpret_cast<char*>(slabs_ + 1);
-    roomEnd_ = room_ + slabSize;
-    forbidUse(room_, slabSize);
+    forbidUse(room_, static_cast<std::size_t>(roomEnd_ - room_));
+}
+
+/// Nothing is in use any more.
+void MemoryPool::beginAnew() noexcept {
+    const std::size_t bytes = slabBytes_ <= mostKept ? slabBytes_ : 0;
+    if (bytes > 0 && !slabs_->next) {
+        free_ = {};
+        useSlab();
+        return;
+    }
+    releaseSlabs();
+    expectedBytes_ = bytes;
 }
 
 void MemoryPool::releaseSlabs() noexcept {

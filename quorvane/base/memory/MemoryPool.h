@@ -7,8 +7,9 @@ namespace quorvane {
 
 /// Memory for the many small objects of one document. They lie beside each other in slabs, without
 /// room lost between them and in the order in which they were made, which is that in which they are
-/// mostly visited. What is given back serves the next object of its size; the slabs go when nothing
-/// is left in them.
+/// mostly visited. What is given back serves the next object of its size. When everything is given
+/// back, the slabs go, but the next objects get room for as many in one slab, and a slab that was
+/// all the room there was stays for them, if that is little.
 ///
 /// Not for use by two threads at once.
 class MemoryPool {
@@ -40,6 +41,9 @@ private:
     }
     void* takeRoom(std::size_t size);
     void addSlab(std::size_t size);
+    std::size_t slabSizeFor(std::size_t size) const noexcept;
+    void useSlab() noexcept;
+    void beginAnew() noexcept;
     void releaseSlabs() noexcept;
 
     // Blocks that were given back, by their size.
@@ -48,6 +52,8 @@ private:
     char* roomEnd_ = nullptr;
     Slab* slabs_ = nullptr;
     std::size_t slabBytes_ = 0;
+    // The size of the first slab, after much the same was needed before; otherwise 0.
+    std::size_t expectedBytes_ = 0;
     std::size_t blocksInUse_ = 0;
 };
 

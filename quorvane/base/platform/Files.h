@@ -19,6 +19,9 @@ public:
 
 /// The files that the library reads and writes. Paths are UTF-8. What fails is an `RtfError` whose
 /// `cause`, where the system gave one, has the system's own number and text.
+///
+/// `CRtfDoc::Commit` calls them while it renders the document: a call that would change the
+/// document, render it or write it is then error 5.
 class Files {
 public:
     virtual ~Files() = default;

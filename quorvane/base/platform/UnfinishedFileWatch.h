@@ -4,20 +4,26 @@
 
 namespace quorvane {
 
-/// Knows the unfinished file of a replacement, so that a program that is ended meanwhile can remove
-/// it. The default knows nothing.
+/// The path of an unfinished file, as an entry of the list that a watch keeps.
+struct UnfinishedPath {
+    std::filesystem::path path{};
+    UnfinishedPath* next = nullptr;
+};
+
+/// Knows the unfinished files of replacements, so that a program that is ended meanwhile can remove
+/// them. Several threads may use one at a time. The default knows nothing.
 class UnfinishedFileWatch {
 public:
     virtual ~UnfinishedFileWatch() = default;
 
-    /// Between these two the program must not be ended: the file is being made, moved or removed.
+    /// Between these two the program must not be ended: a file is being made, moved or removed.
     virtual void hold() noexcept {}
     virtual void resume() noexcept {}
 
-    /// The file that is unfinished from now on; called while held.
-    virtual void begin(const std::filesystem::path&) {}
+    /// The file is unfinished from now on; called while held. The path must not change until `end`.
+    virtual void begin(UnfinishedPath&) noexcept {}
     /// It is whole or gone; called while held.
-    virtual void end() noexcept {}
+    virtual void end(UnfinishedPath&) noexcept {}
 };
 
 /// Holds the end of the program off while it lives.

@@ -19,31 +19,31 @@ namespace {
 /// A new file beside another.
 class UnfinishedFile {
 public:
-    UnfinishedFile(const std::string& target, UnfinishedFileWatch& watch) : UnfinishedFile(watch) {
+    UnfinishedFile(const std::string& target, UnfinishedFileWatch& watch) : watch_(watch) {
         const std::string prefix =
             folderOf(target) + ".quorvane-" + std::to_string(::getpid()) + "-";
+        int descriptor = -1;
         const EndHeld held(watch_);
-        for (int number = 1; !file_; ++number) {
-            std::string path = prefix + std::to_string(number) + ".tmp";
-            const int descriptor = openDescriptor(path, O_WRONLY | O_CREAT | O_EXCL);
-            if (descriptor != -1) {
-                file_.emplace(descriptor);
-                path_ = std::move(path);
-            } else if (errno == ENOENT) {
+        for (int number = 1; descriptor == -1; ++number) {
+            own_.path = prefix + std::to_string(number) + ".tmp";
+            descriptor = openDescriptor(own_.path.native(), O_WRONLY | O_CREAT | O_EXCL);
+            if (descriptor == -1 && errno == ENOENT) {
                 raiseSystemError(RunTimeError::PathNotFound, ENOENT);
-            } else if (errno != EEXIST) {
+            }
+            if (descriptor == -1 && errno != EEXIST) {
                 raiseSystemError(errno);
             }
         }
-        watch_.begin(path_);
+        file_.emplace(descriptor);
+        watch_.begin(own_);
     }
     UnfinishedFile(const UnfinishedFile&) = delete;
     UnfinishedFile& operator=(const UnfinishedFile&) = delete;
     ~UnfinishedFile() {
-        if (!path_.empty()) {
+        if (isThere_) {
             const EndHeld held(watch_);
-            ::unlink(path_.c_str());
-            watch_.end();
+            ::unlink(own_.path.c_str());
+            watch_.end(own_);
         }
     }
 
@@ -51,20 +51,17 @@ public:
 
     void moveTo(const std::string& target) {
         const EndHeld held(watch_);
-        if (::rename(path_.c_str(), target.c_str()) == -1) {
+        if (::rename(own_.path.c_str(), target.c_str()) == -1) {
             raiseSystemError(errno);
         }
-        path_.clear();
-        watch_.end();
+        isThere_ = false;
+        watch_.end(own_);
     }
 
 private:
-    // The public constructor delegates to this one, so that the destructor runs if it throws.
-    explicit UnfinishedFile(UnfinishedFileWatch& watch) noexcept : watch_(watch) {}
-
     UnfinishedFileWatch& watch_;
-    // Of a file that was made and not moved.
-    std::string path_;
+    UnfinishedPath own_;
+    bool isThere_ = true;
     std::optional<DescriptorFile> file_;
 };
 

@@ -24,32 +24,31 @@ std::wstring folderOf(const std::wstring& path) {
 /// A new file beside another.
 class UnfinishedFile {
 public:
-    UnfinishedFile(const std::wstring& target, UnfinishedFileWatch& watch) : UnfinishedFile(watch) {
+    UnfinishedFile(const std::wstring& target, UnfinishedFileWatch& watch) : watch_(watch) {
         const std::wstring prefix =
             folderOf(target) + L".quorvane-" + std::to_wstring(GetCurrentProcessId()) + L"-";
         const EndHeld held(watch_);
-        for (int number = 1; !file_; ++number) {
-            std::wstring path = prefix + std::to_wstring(number) + L".tmp";
-            HANDLE handle = CreateFileW(path.c_str(), GENERIC_WRITE, shareAll, nullptr, CREATE_NEW,
-                                        FILE_ATTRIBUTE_NORMAL, nullptr);
+        HANDLE handle = INVALID_HANDLE_VALUE;
+        for (int number = 1; handle == INVALID_HANDLE_VALUE; ++number) {
+            own_.path = prefix + std::to_wstring(number) + L".tmp";
+            handle = CreateFileW(own_.path.c_str(), GENERIC_WRITE, shareAll, nullptr, CREATE_NEW,
+                                 FILE_ATTRIBUTE_NORMAL, nullptr);
             const DWORD code = GetLastError();
-            if (handle != INVALID_HANDLE_VALUE) {
-                file_.emplace(handle);
-                path_ = std::move(path);
-            } else if (code != ERROR_FILE_EXISTS) {
+            if (handle == INVALID_HANDLE_VALUE && code != ERROR_FILE_EXISTS) {
                 raiseSystemError(code);
             }
         }
-        watch_.begin(path_);
+        file_.emplace(handle);
+        watch_.begin(own_);
     }
     UnfinishedFile(const UnfinishedFile&) = delete;
     UnfinishedFile& operator=(const UnfinishedFile&) = delete;
     ~UnfinishedFile() {
-        if (!path_.empty()) {
+        if (isThere_) {
             file_.reset();
             const EndHeld held(watch_);
-            DeleteFileW(path_.c_str());
-            watch_.end();
+            DeleteFileW(own_.path.c_str());
+            watch_.end(own_);
         }
     }
 
@@ -58,24 +57,21 @@ public:
     void moveTo(const std::wstring& target) {
         const EndHeld held(watch_);
         // Replacing keeps the rights and the attributes of the file that is there.
-        const bool isMoved = ReplaceFileW(target.c_str(), path_.c_str(), nullptr,
+        const bool isMoved = ReplaceFileW(target.c_str(), own_.path.c_str(), nullptr,
                                           REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr) ||
                              (GetLastError() == ERROR_FILE_NOT_FOUND &&
-                              MoveFileExW(path_.c_str(), target.c_str(), 0));
+                              MoveFileExW(own_.path.c_str(), target.c_str(), 0));
         if (!isMoved) {
             raiseSystemError(GetLastError());
         }
-        path_.clear();
-        watch_.end();
+        isThere_ = false;
+        watch_.end(own_);
     }
 
 private:
-    // The public constructor delegates to this one, so that the destructor runs if it throws.
-    explicit UnfinishedFile(UnfinishedFileWatch& watch) noexcept : watch_(watch) {}
-
     UnfinishedFileWatch& watch_;
-    // Of a file that was made and not moved.
-    std::wstring path_;
+    UnfinishedPath own_;
+    bool isThere_ = true;
     std::optional<HandleFile> file_;
 };
 

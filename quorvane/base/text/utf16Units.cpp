@@ -17,9 +17,7 @@ bool isSurrogate(char32_t unit, char32_t first) {
 
 }  // namespace
 
-std::u32string utf16Units(std::string_view text) {
-    std::u32string units;
-    units.reserve(text.size());
+void appendUtf16Units(std::string_view text, std::u32string& units) {
     for (std::size_t at = 0; at < text.size();) {
         const Utf8Character character = utf8CharacterAt(text, at);
         if (character.code >= firstSupplementary && character.code < strayByte) {
@@ -31,12 +29,9 @@ std::u32string utf16Units(std::string_view text) {
         }
         at += character.length;
     }
-    return units;
 }
 
-std::string textOfUtf16Units(std::u32string_view units) {
-    std::string text;
-    text.reserve(units.size());
+void appendTextOfUtf16Units(std::u32string_view units, std::string& text) {
     for (std::size_t i = 0; i < units.size(); ++i) {
         if (i + 1 < units.size() && isSurrogate(units[i], firstHighSurrogate) &&
             isSurrogate(units[i + 1], firstLowSurrogate)) {
@@ -48,7 +43,6 @@ std::string textOfUtf16Units(std::u32string_view units) {
             appendUtf8(units[i], text);
         }
     }
-    return text;
 }
 
 }  // namespace quorvane

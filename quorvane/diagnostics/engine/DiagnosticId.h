@@ -30,6 +30,7 @@ enum class DiagnosticId {
     NotANumber,
     Overflow,
     TakenKey,
+    UnencodableValue,
     Rejected,
 
     // nodeWarnings.h

@@ -12,7 +12,8 @@ constexpr std::size_t bytesPerMark = 256;
 
 }  // namespace
 
-SourceText::SourceText(std::string_view text) : text_(text) {
+SourceText::SourceText(std::string_view text, TextEncoding encoding)
+    : text_(text), encoding_(encoding) {
     std::size_t start = 0;
     for (std::size_t at = text.find_first_of("\r\n"); at != std::string_view::npos;
          at = text.find_first_of("\r\n", start)) {

@@ -244,7 +244,7 @@ void reportUtf16(std::string_view text, DiagnosticEngine& engine) {
 
 }  // namespace
 
-std::vector<Diagnostic> checkStyleSheet(std::string_view text) {
+std::vector<Diagnostic> checkStyleSheet(std::string_view text, TextEncoding encoding) {
     std::vector<Diagnostic> diagnostics;
     DiagnosticEngine engine(
         [&](Diagnostic diagnostic) { diagnostics.push_back(std::move(diagnostic)); });
@@ -252,7 +252,7 @@ std::vector<Diagnostic> checkStyleSheet(std::string_view text) {
         reportUtf16(text, engine);
         return diagnostics;
     }
-    const SourceText source(text);
+    const SourceText source(text, encoding);
     StyleSheetChecks(source, engine).run();
     findWrongIgnoreComments(source, CheckedLanguage::StyleSheet, engine);
     sortByPlace(diagnostics);

@@ -5,6 +5,7 @@
 #include "quorvane/base/text/codePage1252.h"
 #include "quorvane/base/text/utf8.h"
 #include "quorvane/diagnostics/text/mojibake.h"
+#include "quorvane/rtf/unicodeWords.h"
 
 namespace quorvane {
 
@@ -33,11 +34,12 @@ std::string escape(const std::string& character) {
 
 // The document says that nothing stands in for such a character, but not all readers respect that.
 std::string unicodeHint(char32_t code, TextUse use) {
-    if (use != TextUse::Text || code > 0xFFFF) {
+    if (use != TextUse::Text) {
         return {};
     }
-    const long number = static_cast<long>(code) - (code > 0x7FFF ? 0x10000 : 0);
-    return "write {\\uc1\\u" + std::to_string(number) + "?}";
+    std::string hint = "write {\\uc1";
+    appendUnicodeWords(code, hint);
+    return hint + "}";
 }
 
 void reportMojibake(const MeantCharacter& meant, std::string_view shown, TextUse use,
@@ -66,9 +68,14 @@ void findInOther(std::string_view character, char32_t code, TextUse use, TextRep
     const bool isControl = code < 0xA0 && code >= 0x80;
     if (isControl && use != TextUse::FieldData) {
         reporter.report(DiagnosticId::ControlCharacter, character, {numberedCharacter(code)});
-    } else if (codePage1252FromUtf8(character) == "?") {
+    } else if (codePage1252FromUtf8(character) != "?") {
+        return;
+    } else if (reporter.encoding() == TextEncoding::Windows1252) {
         reporter.report(DiagnosticId::UnencodableCharacter, character, {character, "?"},
                         unicodeHint(code, use));
+    } else if (use == TextUse::Format || use == TextUse::StyleName) {
+        // Texts can hold any character, and errors of data are those of the build.
+        reporter.report(DiagnosticId::UnencodableValue, character, {character});
     }
 }
 
@@ -80,7 +87,8 @@ std::size_t findInCharacter(std::string_view text, std::size_t at, TextUse use,
         findInAscii(text.substr(at, 1), use, reporter);
         return 1;
     }
-    if (const auto meant = meantCharacterAt(text, at)) {
+    const bool isUtf8 = reporter.encoding() == TextEncoding::Utf8;
+    if (const auto meant = isUtf8 ? std::nullopt : meantCharacterAt(text, at)) {
         reportMojibake(*meant, text.substr(at, meant->length), use, reporter);
         return meant->length;
     }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <functional>
 #include <optional>
 #include <string_view>
@@ -22,18 +23,94 @@ namespace {
 
 constexpr std::size_t nowhere = std::string_view::npos;
 
-/// Appends the words of a token's style.
-void appendWords(const TableDocument& document, std::string_view name, bool hasValue,
-                 std::string& rtf) {
-    const std::string_view words = document.GetCharacterStyle(name);
-    rtf += hasValue ? words : trimBlanks(words);
+/// What decides how the inline styles of a text are replaced.
+struct TextForm {
+    bool isAscii = true;
+    /// Every "<" is followed by a ">" before the next "<".
+    bool bracketsAlternate = true;
+};
+
+// Texts are short, but there are many: eight characters at a time.
+TextForm formOf(std::string_view text) {
+    constexpr std::uint64_t ones = 0x0101010101010101U;
+    constexpr std::uint64_t highBits = 0x80 * ones;
+    TextForm form;
+    std::uint64_t all = 0;
+    bool isOpen = false;
+    const auto note = [&](char character) {
+        if (isBracket(character)) {
+            form.bracketsAlternate = form.bracketsAlternate && !(isOpen && character == '<');
+            isOpen = character == '<';
+        }
+    };
+    while (text.size() >= sizeof all) {
+        std::uint64_t block = 0;
+        std::memcpy(&block, text.data(), sizeof block);
+        all |= block;
+        // The brackets differ in one bit. A byte that is 0 here is one of them.
+        const std::uint64_t zeroForBracket = (block | '\x02' * ones) ^ '>' * ones;
+        if (((zeroForBracket - ones) & ~zeroForBracket & highBits) != 0) {
+            std::for_each_n(text.begin(), sizeof block, note);
+        }
+        text.remove_prefix(sizeof block);
+    }
+    for (const char character : text) {
+        all |= static_cast<unsigned char>(character);
+        note(character);
+    }
+    form.isAscii = (all & highBits) == 0;
+    return form;
 }
 
-void appendWords(const TableDocument& document, std::u32string_view name, bool hasValue,
-                 std::u32string& rtf) {
-    std::string words;
-    appendWords(document, textOfUtf16Units(name), hasValue, words);
-    rtf += utf16Units(words);
+/// The words of a character style.
+struct StyleWords {
+    std::string_view all;
+    /// For a token without a value.
+    std::string_view trimmed;
+    bool areAscii = true;
+    bool holdOpening = false;
+    bool holdBracket = false;
+};
+
+/// Looks the words of the tokens up. Most tokens name the same style as the one before.
+class TokenWords {
+public:
+    explicit TokenWords(const TableDocument& document) noexcept : document_(document) {}
+
+    const StyleWords& find(std::string_view name) {
+        if (!isKnown_ || name != name_) {
+            isKnown_ = false;
+            name_ = name;
+            const std::string_view words = document_.GetCharacterStyle(name);
+            words_.all = words;
+            words_.trimmed = trimBlanks(words);
+            words_.areAscii = asciiRunEnd(words, 0) == words.size();
+            words_.holdOpening = words.find('<') != nowhere;
+            words_.holdBracket = std::any_of(words.begin(), words.end(), isBracket);
+            isKnown_ = true;
+        }
+        return words_;
+    }
+    const StyleWords& find(std::u32string_view name) {
+        nameOfUnits_.clear();
+        appendTextOfUtf16Units(name, nameOfUnits_);
+        return find(nameOfUnits_);
+    }
+
+private:
+    const TableDocument& document_;
+    bool isKnown_ = false;
+    std::string name_;
+    std::string nameOfUnits_;
+    StyleWords words_;
+};
+
+void append(std::string_view words, std::string& text) {
+    text += words;
+}
+
+void append(std::string_view words, std::u32string& text) {
+    appendUtf16Units(words, text);
 }
 
 struct Span {
@@ -53,6 +130,12 @@ public:
         }
         const std::size_t slot = slotOf(token, std::hash<View>{}(token));
         return slots_[slot] == 0 ? nullptr : &entries_[slots_[slot] - 1].group;
+    }
+
+    /// Forgets the tokens and keeps the memory.
+    void clear() noexcept {
+        entries_.clear();
+        slots_.clear();
     }
 
     /// Adds a token that `find` does not find.
@@ -99,27 +182,34 @@ private:
 
 /// The walk over a body whose characters are its places.
 template <class Character>
-class InlineStyles {
+class InlineStyleWalk {
 public:
     using Text = std::basic_string<Character>;
     using View = std::basic_string_view<Character>;
 
-    InlineStyles(const TableDocument& document, View body) : document_(document), body_(body) {}
+    explicit InlineStyleWalk(TokenWords& words) noexcept : words_(words) {}
 
-    /// No text when the words of a style have characters that are more than one place: a byte is
-    /// one place in ASCII only.
-    std::optional<Text> apply() {
-        if (bracketsAlternate()) {
-            constexpr std::size_t roomForWords = 64;
-            done_.reserve(body_.size() + roomForWords);
+    /// The body with its tokens replaced, valid until the next call. Nothing when the words of a
+    /// style have characters that are more than one place: a byte is one place in ASCII only.
+    std::optional<View> apply(View body, bool bracketsAlternate) {
+        body_ = body;
+        next_ = 0;
+        done_.clear();
+        replaced_.clear();
+        placesAreRight_ = true;
+        wordsHoldTokens_ = false;
+        if (bracketsAlternate) {
             walkOnce();
         } else {
             done_ = body_;
             const std::size_t open = done_.find(opening);
             walkOver({open, open});
         }
-        return placesAreRight_ ? std::optional(std::move(done_)) : std::nullopt;
+        return placesAreRight_ ? std::optional(View(done_)) : std::nullopt;
     }
+
+    /// False when a walk took memory that is not there for the next one.
+    bool keepsItsMemory() const noexcept { return keepsItsMemory_; }
 
 private:
     static constexpr Character opening{'<'};
@@ -128,20 +218,6 @@ private:
     static bool isToken(View inner) {
         return !inner.empty() && beginsInlineToken(inner[0]) &&
                inner.find(Character{'='}) != nowhere;
-    }
-
-    /// True when every "<" is followed by a ">" before the next "<".
-    bool bracketsAlternate() const {
-        bool isOpen = false;
-        for (const Character character : body_) {
-            if (isBracket(character)) {
-                if (isOpen && character == opening) {
-                    return false;
-                }
-                isOpen = character == opening;
-            }
-        }
-        return true;
     }
 
     /// One pass for a body whose brackets alternate. What the walk has passed is in `done_`. The
@@ -166,8 +242,8 @@ private:
                     return;
                 }
             }
-            const auto group = done_.begin() + static_cast<std::ptrdiff_t>(open);
-            if (leavesStep || std::any_of(group, done_.end(), isBracket)) {
+            // The value has no bracket, or the brackets would not alternate.
+            if (leavesStep || (isReplaced && lastWordsHoldBracket_)) {
                 done_.resize(open);
                 appendRest();
                 walkOver({open, close.value_or(open)});
@@ -223,6 +299,7 @@ private:
         if (from.opening == nowhere || done_.find(closing, from.closing + 1) == nowhere) {
             return;
         }
+        keepsItsMemory_ = false;
         const WordsOfToken<Character> wordsOf = [this](View name, bool hasValue) {
             Text words;
             appendWords(name, hasValue, words);
@@ -244,15 +321,16 @@ private:
     }
 
     void appendWords(View name, bool hasValue, Text& text) {
-        const std::size_t start = text.size();
-        quorvane::appendWords(document_, name, hasValue, text);
-        wordsHoldTokens_ = wordsHoldTokens_ || text.find(opening, start) != nowhere;
+        const StyleWords& words = words_.find(name);
+        append(hasValue ? words.all : words.trimmed, text);
+        wordsHoldTokens_ = wordsHoldTokens_ || words.holdOpening;
+        lastWordsHoldBracket_ = words.holdBracket;
         if constexpr (sizeof(Character) == 1) {
-            placesAreRight_ = placesAreRight_ && asciiRunEnd(text, start) == text.size();
+            placesAreRight_ = placesAreRight_ && words.areAscii;
         }
     }
 
-    const TableDocument& document_;
+    TokenWords& words_;
     View body_;
     std::size_t next_ = 0;
     Text done_;
@@ -261,18 +339,55 @@ private:
     bool placesAreRight_ = true;
     // Words that were put in hold a "<". Otherwise each token that is replaced leaves one "<" less.
     bool wordsHoldTokens_ = false;
+    bool lastWordsHoldBracket_ = false;
+    bool keepsItsMemory_ = true;
 };
 
 }  // namespace
 
-std::string withCharacterStyles(const TableDocument& document, std::string_view text) {
-    if (asciiRunEnd(text, 0) == text.size()) {
-        if (std::optional<std::string> styled = InlineStyles<char>(document, text).apply()) {
-            return *std::move(styled);
+class InlineStyles::Walks {
+public:
+    explicit Walks(const TableDocument& document) : words_(document) {}
+
+    std::string_view replace(std::string_view text) {
+        const TextForm form = formOf(text);
+        if (form.isAscii) {
+            if (const auto styled = overBytes_.apply(text, form.bracketsAlternate)) {
+                return *styled;
+            }
         }
+        units_.clear();
+        appendUtf16Units(text, units_);
+        styled_.clear();
+        appendTextOfUtf16Units(*overUnits_.apply(units_, form.bracketsAlternate), styled_);
+        return styled_;
     }
-    const std::u32string units = utf16Units(text);
-    return textOfUtf16Units(*InlineStyles<char32_t>(document, units).apply());
+
+    bool keepsItsMemory() const noexcept {
+        return overBytes_.keepsItsMemory() && overUnits_.keepsItsMemory();
+    }
+
+private:
+    TokenWords words_;
+    InlineStyleWalk<char> overBytes_{words_};
+    InlineStyleWalk<char32_t> overUnits_{words_};
+    std::u32string units_;
+    std::string styled_;
+};
+
+InlineStyles::InlineStyles(const TableDocument& document) noexcept : document_(document) {}
+
+InlineStyles::~InlineStyles() = default;
+
+std::string_view InlineStyles::replace(std::string_view text) {
+    if (!walks_) {
+        walks_ = std::make_unique<Walks>(document_);
+    }
+    return walks_->replace(text);
+}
+
+bool InlineStyles::keepsItsMemory() const noexcept {
+    return !walks_ || walks_->keepsItsMemory();
 }
 
 }  // namespace quorvane

@@ -96,6 +96,29 @@ TEST(MemoryPool, CanBeUsedAgainWhenAllWasReturned) {
     }
 }
 
+/// Where so many objects of 64 bytes are that are in the pool one after the other.
+std::vector<char*> placesOf(MemoryPool& pool, int count) {
+    std::vector<char*> places;
+    for (int i = 0; i < count; ++i) {
+        places.push_back(static_cast<char*>(pool.allocate(64)));
+    }
+    for (char* place : places) {
+        pool.deallocate(place, 64);
+    }
+    return places;
+}
+
+TEST(MemoryPool, GivesAsMuchAsItGaveBeforeFromOneSlabThatItKeeps) {
+    MemoryPool pool;
+    placesOf(pool, 500);
+    const std::vector<char*> places = placesOf(pool, 500);
+    for (std::size_t i = 1; i < places.size(); ++i) {
+        EXPECT_EQ(places[i - 1] + 64, places[i]);
+    }
+    EXPECT_EQ(placesOf(pool, 500), places);
+    EXPECT_EQ(placesOf(pool, 3), std::vector<char*>(places.begin(), places.begin() + 3));
+}
+
 TEST(MemoryPool, TakesMemoryBackInAnyOrder) {
     struct Block {
         unsigned char* memory;

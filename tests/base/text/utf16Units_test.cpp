@@ -9,6 +9,18 @@ namespace {
 
 using namespace std::string_view_literals;
 
+std::u32string utf16Units(std::string_view text) {
+    std::u32string units;
+    appendUtf16Units(text, units);
+    return units;
+}
+
+std::string textOfUtf16Units(std::u32string_view units) {
+    std::string text;
+    appendTextOfUtf16Units(units, text);
+    return text;
+}
+
 TEST(Utf16Units, AreOneForEachCharacterOfTheBasicPlane) {
     EXPECT_EQ(utf16Units("a\xC3\xA9\xE2\x82\xAC"), U"a\u00E9\u20AC");
 }

@@ -219,7 +219,29 @@ TEST(DescriptionCheck, FindsTheCharactersThatTheCodePageCannotHold) {
     EXPECT_EQ(diagnostics[0].id, DiagnosticId::UnencodableCharacter);
     EXPECT_EQ(diagnostics[0].hint, "write {\\uc1\\u8594?}");
     EXPECT_EQ(diagnostics[1].id, DiagnosticId::UnencodableCharacter);
-    EXPECT_EQ(diagnostics[1].hint, "");
+    EXPECT_EQ(diagnostics[1].hint, "write {\\uc1\\u-10179?\\u-8704?}");
+}
+
+TEST(DescriptionCheck, TakesAnyCharacterInATextOfAFileInUtf8) {
+    EXPECT_TRUE(checkDescription(
+                    "(doc\n(r\n(c\n(p\n(pt=\u0159 \u00C3\u00A9 \U0001F600)\np)\nc)\nr)\ndoc)\n",
+                    nullptr, TextEncoding::Utf8)
+                    .empty());
+}
+
+TEST(DescriptionCheck, ReportsCharactersThatAKeyOfAFileInUtf8CannotHold) {
+    const std::vector<Diagnostic> diagnostics = checkDescription(
+        "(doc\n(r\n(row-key=P\u0159\u00EDbram)\n(c\n(p\n(pt=a)\n(pmf=\u4E2D)\np)\nc)\nr)\ndoc)\n",
+        nullptr, TextEncoding::Utf8);
+    ASSERT_EQ(diagnostics.size(), 2u);
+    EXPECT_EQ(diagnostics[0].id, DiagnosticId::UnencodableValue);
+    EXPECT_EQ(diagnostics[0].message,
+              "\u0159 isn't in Windows-1252; only the text of a paragraph can hold it.");
+    EXPECT_EQ(diagnostics[0].place.line, 3);
+    EXPECT_EQ(diagnostics[0].place.column, 11);
+    EXPECT_EQ(diagnostics[0].place.length, 1);
+    EXPECT_EQ(diagnostics[1].id, DiagnosticId::UnencodableValue);
+    EXPECT_EQ(diagnostics[1].place.line, 7);
 }
 
 TEST(DescriptionCheck, KnowsWhatATextBringsAlong) {

@@ -1,4 +1,4 @@
-#include "quorvane/base/text/TextOutput.h"
+#include "quorvane/base/text/StringOutput.h"
 
 #include <gtest/gtest.h>
 
@@ -9,9 +9,9 @@
 namespace quorvane {
 namespace {
 
-TEST(TextOutput, AppendsPiecesInOrderAfterWhatIsThere) {
+TEST(StringOutput, AppendsPiecesInOrderAfterWhatIsThere) {
     std::string text = "before ";
-    TextOutput output(text);
+    StringOutput output(text);
 
     output << "a" << std::string_view("b") << std::string_view() << std::string("c");
     output.flush();
@@ -19,18 +19,18 @@ TEST(TextOutput, AppendsPiecesInOrderAfterWhatIsThere) {
     EXPECT_EQ(text, "before abc");
 }
 
-TEST(TextOutput, HandsNothingOnBeforeItIsFlushed) {
+TEST(StringOutput, HandsNothingOnBeforeItIsFlushed) {
     std::string text;
-    TextOutput output(text);
+    StringOutput output(text);
 
     output << "a";
 
     EXPECT_EQ(text, "");
 }
 
-TEST(TextOutput, HandsEveryPieceOnOnce) {
+TEST(StringOutput, HandsEveryPieceOnOnce) {
     std::string text;
-    TextOutput output(text);
+    StringOutput output(text);
 
     output << "a";
     output.flush();
@@ -39,9 +39,9 @@ TEST(TextOutput, HandsEveryPieceOnOnce) {
     EXPECT_EQ(text, "a");
 }
 
-TEST(TextOutput, WritesNumbersInDecimal) {
+TEST(StringOutput, WritesNumbersInDecimal) {
     std::string text;
-    TextOutput output(text);
+    StringOutput output(text);
 
     output << std::int32_t{0} << " " << std::int32_t{-1} << " "
            << std::numeric_limits<std::int32_t>::max() << " "
@@ -51,10 +51,10 @@ TEST(TextOutput, WritesNumbersInDecimal) {
     EXPECT_EQ(text, "0 -1 2147483647 -2147483648");
 }
 
-TEST(TextOutput, TakesPiecesOfAnyLength) {
+TEST(StringOutput, TakesPiecesOfAnyLength) {
     for (const std::size_t length : {1U, 8191U, 8192U, 8193U, 100000U}) {
         std::string text;
-        TextOutput output(text);
+        StringOutput output(text);
         const std::string piece(length, 'x');
 
         output << "(" << piece << ")" << piece;
@@ -64,9 +64,9 @@ TEST(TextOutput, TakesPiecesOfAnyLength) {
     }
 }
 
-TEST(TextOutput, KeepsTheOrderWhenPiecesFillTheBuffer) {
+TEST(StringOutput, KeepsTheOrderWhenPiecesFillTheBuffer) {
     std::string text;
-    TextOutput output(text);
+    StringOutput output(text);
     std::string expected;
 
     for (std::int32_t i = 0; i < 10000; ++i) {

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "cli/DiagnosticExcerpt.h"
+#include "cli/RenderReport.h"
+#include "cli/ReportedError.h"
+#include "quorvane/base/values/RtfError.h"
+#include "quorvane/diagnostics/engine/Diagnostic.h"
+
+namespace quorvane::cli {
+
+struct LocatedDiagnostic {
+    std::string file;
+    Diagnostic diagnostic;
+    DiagnosticExcerpt excerpt;
+};
+
+/// The library refuses the stylesheet with this error.
+struct StyleSheetRefusal {
+    RtfError error;
+};
+
+/// What a rendering reports, in its order.
+using RenderEvents = std::vector<std::variant<ReportedError, LocatedDiagnostic, StyleSheetRefusal>>;
+
+/// Receivers that keep what they receive. They locate diagnostics if those do for which they stand
+/// in. The events must outlive them.
+RenderReceivers receiversInto(RenderEvents& events, bool locate);
+
+/// Reports the events.
+void report(const RenderEvents& events, RenderReport& report, const RenderReceivers& receivers);
+
+}  // namespace quorvane::cli

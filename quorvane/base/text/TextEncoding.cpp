@@ -1,0 +1,45 @@
+#include "quorvane/base/text/TextEncoding.h"
+
+#include <utility>
+
+#include "quorvane/base/text/codePage1252.h"
+#include "quorvane/base/text/utf8.h"
+
+namespace quorvane {
+
+TextEncoding encodingOf(std::string_view bytes) {
+    const bool isUtf8 = bytes.starts_with(utf8Mark) ||
+                        (asciiRunEnd(bytes, 0) < bytes.size() && !findNotUtf8(bytes));
+    return isUtf8 ? TextEncoding::Utf8 : TextEncoding::Windows1252;
+}
+
+std::optional<std::size_t> findNotUtf8(std::string_view bytes) {
+    for (std::size_t at = asciiRunEnd(bytes, 0); at < bytes.size(); at = asciiRunEnd(bytes, at)) {
+        const Utf8Character character = utf8CharacterAt(bytes, at);
+        const bool isSurrogate = character.code >= 0xD800 && character.code < 0xE000;
+        if (character.code >= strayByte || isSurrogate) {
+            return at;
+        }
+        at += character.length;
+    }
+    return std::nullopt;
+}
+
+std::string decodedText(std::string bytes, TextEncoding encoding) {
+    if (asciiRunEnd(bytes, 0) == bytes.size()) {
+        return bytes;
+    }
+    if (encoding == TextEncoding::Windows1252) {
+        return utf8FromCodePage1252(bytes);
+    }
+    if (bytes.starts_with(utf8Mark)) {
+        bytes.erase(0, utf8Mark.size());
+    }
+    return bytes;
+}
+
+std::string encodedText(std::string text, TextEncoding encoding) {
+    return encoding == TextEncoding::Utf8 ? std::move(text) : codePage1252FromUtf8(text);
+}
+
+}  // namespace quorvane

@@ -1,0 +1,37 @@
+#include "quorvane/docmodel/StreamedText.h"
+
+namespace quorvane {
+
+StreamedText::StreamedText(Files& files, const std::string& path)
+    : saving_(files, path), buffer_(std::make_unique_for_overwrite<char[]>(longestWholeText)) {
+    setBuffer(buffer_.get(), longestWholeText);
+}
+
+void StreamedText::begin() noexcept {
+    discardBuffered();
+    saving_.begin();
+    stage_ = Stage::Writing;
+}
+
+std::optional<RtfError> StreamedText::end(GError& errors) {
+    flush();
+    return saving_.end(errors);
+}
+
+void StreamedText::take(std::string_view text) {
+    if (stage_ == Stage::Gathering) {
+        saving_.reserveMemory();
+        saving_.lookForFile();
+        if (saving_.replacesFile()) {
+            stage_ = Stage::Waiting;
+        } else {
+            saving_.begin();
+            stage_ = Stage::Writing;
+        }
+    }
+    if (stage_ == Stage::Writing) {
+        saving_.write(text);
+    }
+}
+
+}  // namespace quorvane

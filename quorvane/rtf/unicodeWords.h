@@ -1,0 +1,21 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace quorvane {
+
+/// Appends the control words of a character in a group with `\uc1`: `\uN?` for each of its UTF-16
+/// units, signed as readers expect them.
+void appendUnicodeWords(char32_t code, std::string& rtf);
+
+/// The text with each run of characters that Windows-1252 lacks as a group `{\uc1\uN?…}`; all
+/// others stay as they are.
+std::string withUnicodeWords(std::string_view text);
+
+/// The first character of a text that Windows-1252 lacks; nothing when it has all of them.
+std::optional<std::string_view> findBeyondCodePage1252(std::string_view text);
+
+}  // namespace quorvane
