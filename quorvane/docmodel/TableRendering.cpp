@@ -4,7 +4,6 @@
 #include <charconv>
 #include <cstddef>
 #include <cstdint>
-#include <iterator>
 
 namespace quorvane {
 
@@ -24,15 +23,11 @@ constexpr SideWords sides[] = {
 };
 
 constexpr std::size_t longestNumber = 11;
-constexpr std::size_t longestBorderText =
-    std::size(sides) * (sides[0].words.size() + longestNumber);
 
 }  // namespace
 
 TableRendering::TableRendering(TableDocument& document_, TextOutput& out_)
-    : document(document_), out(out_), inlineStyles(document_) {
-    borderText_.reserve(longestBorderText);
-}
+    : document(document_), out(out_), inlineStyles(document_) {}
 
 void TableRendering::lookUpParagraphStyle(const SharedText& name) {
     styleWords_ = document.GetParagraphStyle(name.view());
