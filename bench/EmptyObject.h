@@ -10,7 +10,7 @@ struct INumber : IDispatch {
 };
 
 /// The yardstick of calls: an object that does nothing. It knows every name; `PageWidth` is a
-/// number, whatever else is asked for is the object itself.
+/// number, and every other name returns the object itself.
 INumber& emptyObject();
 
 }  // namespace quorvane::bench

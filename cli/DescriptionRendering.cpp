@@ -57,7 +57,7 @@ ExitStatus DescriptionRendering::run() {
         status_ = ExitStatus::ContentErrors;
     }
     if (std::optional<std::string> text = readDescription()) {
-        analyse(*text);
+        parse(*text);
         text.reset();
         if (mayWrite()) {
             leaveDocumentBefore();
@@ -116,7 +116,7 @@ std::optional<std::string> DescriptionRendering::readDescription() {
     }
 }
 
-void DescriptionRendering::analyse(const std::string& text) {
+void DescriptionRendering::parse(const std::string& text) {
     const std::string name = inputName(assignment_.description);
     driver_->setErroneousInput(manner_.check);
     driver_->setNotifyErrorHandler([&](CRtfDriver&, const RtfError& error) {

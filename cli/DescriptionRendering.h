@@ -41,7 +41,7 @@ private:
     void setStyleSheet(const std::string& name);
     std::string readBytes(const std::string& path);
     std::optional<std::string> readDescription();
-    void analyse(const std::string& text);
+    void parse(const std::string& text);
     bool mayWrite();
     void leaveDocumentBefore();
     void write();

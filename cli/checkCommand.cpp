@@ -114,57 +114,86 @@ bool isOutputForBytes(const CheckOptions& options) {
     return options.showsDiff || (options.fixes && readsInput);
 }
 
-ExitStatus checkAndReport(const CheckOptions& options) {
-    const bool isForBytes = isOutputForBytes(options);
-    const Colors outputColors = wantedColors(standardOutputIsTerminal());
-    const Colors colors = isForBytes ? wantedColors(standardErrorColumns() > 0) : outputColors;
-    Gatherer report(!isForBytes);
-    if (const std::string answer = textWithoutCheck(options); !answer.empty()) {
-        report.add(answer);
-        report.end();
-        return ExitStatus::Success;
+/// What a check writes: its report, and the bytes of a fixed text or a diff.
+class CheckOutput {
+public:
+    explicit CheckOutput(const CheckOptions& options)
+        : options_(options),
+          outputColors_(wantedColors(standardOutputIsTerminal())),
+          report_(!isOutputForBytes(options)),
+          texts_(
+              isOutputForBytes(options) ? wantedColors(standardErrorColumns() > 0) : outputColors_,
+              [this](std::string_view part) { report_.add(part); }) {
+        if (isOutputForBytes(options)) {
+            bytes_.emplace(true);
+        }
     }
-    std::optional<Gatherer> bytes;
-    if (isForBytes) {
-        bytes.emplace(true);
-    }
-    SarifLog log;
-    DiagnosticReport texts(colors, [&](std::string_view part) { report.add(part); });
-    const auto find = [&](const std::string& file, const Diagnostic& diagnostic,
-                          const FileWindow& window) {
-        switch (options.form) {
+
+    CheckOutput(const CheckOutput&) = delete;
+    CheckOutput& operator=(const CheckOutput&) = delete;
+
+    void add(const std::string& file, const Diagnostic& diagnostic, const FileWindow& window) {
+        switch (options_.form) {
             case ReportForm::Text:
-                texts.add(shownName(file), diagnostic, window);
+                texts_.add(shownName(file), diagnostic, window);
                 break;
             case ReportForm::Json:
-                report.add(diagnosticJson(shownName(file), diagnostic) + "\n");
+                report_.add(diagnosticJson(shownName(file), diagnostic) + "\n");
                 break;
             case ReportForm::Sarif:
                 // A log says what is wrong with the files as they are now.
                 if (!diagnostic.isFixed) {
-                    log.add(file, diagnostic, window);
+                    log_.add(file, diagnostic, window);
                 }
                 break;
         }
-    };
-    const auto fail = [&](const ReportedError& failure) { reportFailure(failure, options.form); };
-    const auto write = [&](std::string_view part) {
-        bytes->add(options.showsDiff && standardOutputIsTerminal()
-                       ? diffForTerminal(part, outputColors)
-                       : part);
-    };
-    CheckJob job(options, find, fail, systemPlatform(), write);
+    }
+
+    void addBytes(std::string_view part) {
+        bytes_->add(options_.showsDiff && standardOutputIsTerminal()
+                        ? diffForTerminal(part, outputColors_)
+                        : part);
+    }
+
+    void end(const CheckJob& job) {
+        texts_.end();
+        if (options_.form == ReportForm::Sarif) {
+            report_.add(log_.text(!job.hasFailed()));
+        } else if (options_.form == ReportForm::Text && !options_.isQuiet) {
+            report_.add(checkSummary(job.counts()));
+        }
+        if (bytes_) {
+            bytes_->end();
+        }
+        report_.end();
+    }
+
+private:
+    const CheckOptions& options_;
+    Colors outputColors_;
+    Gatherer report_;
+    std::optional<Gatherer> bytes_;
+    SarifLog log_;
+    DiagnosticReport texts_;
+};
+
+ExitStatus checkAndReport(const CheckOptions& options) {
+    if (const std::string text = textWithoutCheck(options); !text.empty()) {
+        Gatherer output(!isOutputForBytes(options));
+        output.add(text);
+        output.end();
+        return ExitStatus::Success;
+    }
+    CheckOutput output(options);
+    CheckJob job(
+        options,
+        [&](const std::string& file, const Diagnostic& diagnostic, const FileWindow& window) {
+            output.add(file, diagnostic, window);
+        },
+        [&](const ReportedError& failure) { reportFailure(failure, options.form); },
+        systemPlatform(), [&](std::string_view part) { output.addBytes(part); });
     const ExitStatus status = job.run();
-    texts.end();
-    if (options.form == ReportForm::Sarif) {
-        report.add(log.text(!job.hasFailed()));
-    } else if (options.form == ReportForm::Text && !options.isQuiet) {
-        report.add(checkSummary(job.counts()));
-    }
-    if (bytes) {
-        bytes->end();
-    }
-    report.end();
+    output.end(job);
     return status;
 }
 

@@ -43,7 +43,7 @@ struct Point {
     Position after;
 };
 
-/// Numbers the lines by their texts. A line that only one side has is changed whatever else is, so
+/// Numbers the lines by their texts. A line that only one side has is changed in any case, so
 /// that only the others need to be compared: after a change of the indentation those are few.
 void distinguishLines(const std::vector<std::string_view>& before,
                       const std::vector<std::string_view>& after, Side& sideBefore,

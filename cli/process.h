@@ -29,8 +29,8 @@ void writeToStandardError(std::string_view text) noexcept;
 /// All bytes of standard input. Errors: 75 when it is a folder, 57 when it is closed or fails.
 std::string readStandardInput();
 
-/// Thrown when nobody reads standard output any more. It is not an error: whoever read what was
-/// written wanted no more.
+/// Thrown when nobody reads standard output any more. It is not an error: the reader has seen
+/// enough.
 class ClosedPipe {};
 
 /// Standard output, for bytes as they are. Its members throw `ClosedPipe` where it is a pipe that

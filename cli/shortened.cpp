@@ -9,7 +9,7 @@ namespace quorvane::cli {
 namespace {
 
 constexpr std::size_t longest = 200;
-// What a message says about the line that it repeats comes after the line.
+// A message that repeats a line ends with what is wrong with it.
 constexpr std::size_t keptEnd = 50;
 constexpr std::size_t keptBeginning = longest - keptEnd - 1;
 

@@ -58,7 +58,7 @@ class ConvertedParameter {
 public:
     static constexpr bool isInput = true;
     static constexpr bool isRequired = true;
-    static constexpr bool answersObject = false;
+    static constexpr bool returnsObject = false;
 
     ConvertedParameter() noexcept { VariantInit(&room_); }
     ConvertedParameter(const ConvertedParameter&) = delete;
@@ -102,7 +102,7 @@ class Parameter<VARIANT> {
 public:
     static constexpr bool isInput = true;
     static constexpr bool isRequired = true;
-    static constexpr bool answersObject = false;
+    static constexpr bool returnsObject = false;
 
     HRESULT read(const Arguments& arguments, UINT position) noexcept {
         value_ = arguments.find(position);
@@ -121,7 +121,7 @@ class Parameter<VARIANT*> {
 public:
     static constexpr bool isInput = true;
     static constexpr bool isRequired = false;
-    static constexpr bool answersObject = false;
+    static constexpr bool returnsObject = false;
 
     HRESULT read(const Arguments& arguments, UINT position) noexcept {
         value_ = arguments.find(position);
@@ -136,18 +136,18 @@ private:
 
 /// The result of a member.
 template <bool isObject = false>
-class AnswerParameter {
+class ResultParameter {
 public:
     static constexpr bool isInput = false;
     static constexpr bool isRequired = false;
-    static constexpr bool answersObject = isObject;
+    static constexpr bool returnsObject = isObject;
 
     HRESULT read(const Arguments&, UINT) noexcept { return S_OK; }
 };
 
 /// Returns a 32-bit number, or a value of an enumeration.
 template <class T>
-class Parameter<T*> : public AnswerParameter<> {
+class Parameter<T*> : public ResultParameter<> {
 public:
     T* pass() noexcept { return &value_; }
     void writeResult(VARIANT* result) const noexcept {
@@ -162,7 +162,7 @@ private:
 };
 
 template <>
-class Parameter<VARIANT_BOOL*> : public AnswerParameter<> {
+class Parameter<VARIANT_BOOL*> : public ResultParameter<> {
 public:
     VARIANT_BOOL* pass() noexcept { return &value_; }
     void writeResult(VARIANT* result) const noexcept {
@@ -177,7 +177,7 @@ private:
 };
 
 template <>
-class Parameter<BSTR*> : public AnswerParameter<> {
+class Parameter<BSTR*> : public ResultParameter<> {
 public:
     BSTR* pass() noexcept { return &text_; }
     void writeResult(VARIANT* result) const noexcept {
@@ -195,7 +195,7 @@ private:
 
 /// Returns an object, or null.
 template <class Interface>
-class Parameter<Interface**> : public AnswerParameter<std::is_base_of_v<IDispatch, Interface>> {
+class Parameter<Interface**> : public ResultParameter<std::is_base_of_v<IDispatch, Interface>> {
 public:
     Interface** pass() noexcept { return &object_; }
     void writeResult(VARIANT* result) const noexcept {
@@ -203,7 +203,7 @@ public:
             if (object_) {
                 object_->Release();
             }
-        } else if constexpr (Parameter::answersObject) {
+        } else if constexpr (Parameter::returnsObject) {
             V_VT(result) = VT_DISPATCH;
             V_DISPATCH(result) = object_;
         } else {

@@ -87,7 +87,7 @@ public:
         const LONG left = InterlockedDecrement(&references_);
         if (left == 0) {
             WrapperRegistry<Self>::forget(native_.get(), self());
-            // What the object lets go of may use it once more, which must not end it twice.
+            // What the object releases may use it once more, which must not end it twice.
             constexpr LONG ending = LONG{1} << 30;
             references_ = ending;
             delete self();

@@ -70,7 +70,7 @@ HRESULT invoke(std::span<const Member> members, IDispatch* object, const LateCal
     if (found == members.end()) {
         return DISP_E_MEMBERNOTFOUND;
     }
-    if (found->parameters == 0 && found->answersObject && call.arguments->cArgs > 0) {
+    if (found->parameters == 0 && found->returnsObject && call.arguments->cArgs > 0) {
         return invokeDefault(*found, object, call);
     }
     Arguments arguments(*call.arguments, call.locale, call.badArgument, found->parameters,

@@ -26,7 +26,7 @@ struct Member {
     /// Number of those that must be given.
     UINT required;
     /// True when it returns an object that may have a default member.
-    bool answersObject;
+    bool returnsObject;
     Call call;
 };
 
@@ -58,7 +58,7 @@ template <class Interface, class... Types>
 struct MethodTraits<HRESULT (STDMETHODCALLTYPE Interface::*)(Types...)> {
     static constexpr UINT parameters = (0U + ... + (Parameter<Types>::isInput ? 1U : 0U));
     static constexpr UINT required = (0U + ... + (Parameter<Types>::isRequired ? 1U : 0U));
-    static constexpr bool answersObject = (false || ... || Parameter<Types>::answersObject);
+    static constexpr bool returnsObject = (false || ... || Parameter<Types>::returnsObject);
     using Positions = std::index_sequence_for<Types...>;
 };
 
@@ -69,7 +69,7 @@ constexpr Member member(DISPID id, WORD kinds) {
             kinds,
             Traits::parameters,
             Traits::required,
-            Traits::answersObject,
+            Traits::returnsObject,
             [](IDispatch* object, Arguments& arguments, VARIANT* result) {
                 return callMethod(method, object, arguments, result, typename Traits::Positions());
             }};

@@ -79,7 +79,7 @@ std::vector<Entry> entriesOf(const CreatableClass& each, const std::wstring& pat
 constexpr bool is32Bit = sizeof(void*) == 4;
 constexpr REGSAM otherKind = is32Bit ? KEY_WOW64_64KEY : KEY_WOW64_32KEY;
 
-/// What the system says as the result of a registration: E_ACCESSDENIED for a lack of rights.
+/// The result of a registration for an error of the system: E_ACCESSDENIED for a lack of rights.
 HRESULT resultOf(LSTATUS status, HRESULT otherwise) noexcept {
     switch (status) {
         case ERROR_SUCCESS:
@@ -101,7 +101,7 @@ void note(HRESULT& first, HRESULT result) noexcept {
     }
 }
 
-/// True for the entry of a file that names this one. One that names no file serves nobody.
+/// True for the entry of a file that names this one. An entry that names no file is of no use.
 bool isOwn(const std::wstring& entry, const std::wstring& path) {
     const std::wstring file = withoutQuotes(entry);
     return file.empty() || areSamePath(file, path);

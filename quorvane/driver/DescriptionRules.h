@@ -43,7 +43,7 @@ public:
 private:
     struct Visit {
         DescriptionNode* node;
-        /// Whose rules it goes by.
+        /// The kind whose rules apply.
         NodeKind kind;
         /// Null for the document.
         const DescriptionNode* parent;

@@ -7,7 +7,7 @@
 
 namespace quorvane {
 
-/// Kinds of nodes, by the codes that the nesting and the numbers of nodes go by.
+/// Kinds of nodes. Their codes determine the nesting and the numbers of nodes.
 enum class NodeKind : std::int32_t { Row = 0, Cell = 1, Para = 2, Doc = 3, None = 4 };
 
 /// The kinds from the outermost to the innermost.

@@ -12,17 +12,17 @@ namespace quorvane {
 
 namespace {
 
-using Question = BOOLEAN(NTAPI*)();
+using IsEnding = BOOLEAN(NTAPI*)();
 
-Question findProcessIsEnding() noexcept {
+IsEnding findIsEnding() noexcept {
     const HMODULE system = GetModuleHandleW(L"ntdll.dll");
     const FARPROC function = system ? GetProcAddress(system, "RtlDllShutdownInProgress") : nullptr;
-    return reinterpret_cast<Question>(reinterpret_cast<void*>(function));
+    return reinterpret_cast<IsEnding>(reinterpret_cast<void*>(function));
 }
 
 // Found beforehand: the system holds a lock while it calls back, and the loader's lock must not be
 // taken after that one.
-constinit Question isEnding = nullptr;
+constinit IsEnding isEnding = nullptr;
 
 /// While the process ends, the other threads have been stopped wherever they were, and the heap
 /// must be left alone.
@@ -38,7 +38,7 @@ DWORD allocateSlot() noexcept {
     HMODULE module = nullptr;
     GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_PIN,
                        reinterpret_cast<const wchar_t*>(&deleteError), &module);
-    isEnding = findProcessIsEnding();
+    isEnding = findIsEnding();
     return FlsAlloc(deleteError);
 }
 

@@ -29,10 +29,10 @@ class RenderJobTest : public testing::Test {
 protected:
     ExitStatus run() { return run(systemPlatform()); }
     ExitStatus run(Platform& platform) {
-        const auto tell = [this](const ReportedError& diagnostic) {
+        const auto report = [this](const ReportedError& diagnostic) {
             reported.push_back(diagnostic);
         };
-        return RenderJob(options, {tell}, platform).run();
+        return RenderJob(options, {report}, platform).run();
     }
 
     std::string usageError() {

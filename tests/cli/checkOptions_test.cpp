@@ -255,7 +255,7 @@ TEST_F(CheckOptionsTest, ListNamesAllDiagnostics) {
     EXPECT_THAT(lines, testing::Contains("wrong-color                error    "
                                          "… isn't a recognized color."));
     EXPECT_THAT(lines, testing::Contains("missing-element            error    "
-                                         "Missing some requiered elements: (doc (row (cell"));
+                                         "The description has no row and no cell."));
     EXPECT_THAT(lines, testing::Contains("unused-style               warning  "
                                          "No description uses the style …. (off by default)"));
     EXPECT_EQ(result.status, 0);

@@ -292,6 +292,9 @@ TEST_F(CheckTest, DoublesBracesInSarifWhereOneWouldBeAPlaceholder) {
         return rule.at("id") == "wrong-color";
     });
     EXPECT_EQ(wrongColor->at("shortDescription").at("text"), "… isn't a recognized color.");
+    const auto overflow = std::find_if(
+        rules.begin(), rules.end(), [](const json& rule) { return rule.at("id") == "overflow"; });
+    EXPECT_EQ(overflow->at("shortDescription").at("text"), "A number is too large.");
 }
 
 TEST_F(CheckTest, SaysInSarifHowTheFilesAreEncoded) {
@@ -570,7 +573,7 @@ TEST_F(CheckTest, FindsNothingInTheExamplesAndTheirDocuments) {
     EXPECT_GE(checked, 4);
 }
 
-/// Golden descriptions, with what the check says of them in a file beside each.
+/// Golden descriptions, each with the report of the check in a file beside it.
 class GoldenCheckTest : public testing::TestWithParam<std::string> {};
 
 TEST_P(GoldenCheckTest, GetsTheExpectedReport) {

@@ -566,7 +566,7 @@ a.rtfspec:18:2: error: width isn't a valid keyword. [wrong-keyword]
 a.rtfspec:19:5: error: Value for cell-width should be numeric. [not-a-number]
     (cw=5cm)
         ^~~
-    hint: write a percentage of the width between the margins, without a %
+    hint: a cell width is a percentage of the width between the margins, not a length; write it without a unit
     (and 1 more like this: line 29)
 a.rtfspec:20:2: error: align isn't a valid keyword. [wrong-keyword]
     (align=left)
@@ -841,8 +841,8 @@ TEST(ReportsOfBinaryFiles, SayOnceWhatTheyAre) {
 }
 
 /// The report of diagnostics about a text.
-std::string reportOfFindings(const std::string& file, const std::string& text,
-                             const std::vector<Diagnostic>& diagnostics) {
+std::string reportOfDiagnostics(const std::string& file, const std::string& text,
+                                const std::vector<Diagnostic>& diagnostics) {
     std::string report;
     for (const Diagnostic& diagnostic : diagnostics) {
         report += diagnosticText(file, diagnostic, excerptAt(diagnostic.place, windowOf(text)),
@@ -870,19 +870,20 @@ std::vector<Diagnostic> diagnosticsOfOtherSheet(const SourceText& source) {
 }
 
 /// Reports of diagnostics that no text is known for, as the check has names for all errors that the
-/// library raises today. One more goes by the name of the file, which an example does not have.
+/// library raises today. One more depends on the name of the file, which an example does not have.
 const std::map<std::string, std::pair<std::string, std::string>>& reportsWithoutExample() {
     static const std::map<std::string, std::pair<std::string, std::string>> reports = [] {
         const std::string description = "(doc\n(cw=50)\ndoc)\n";
         const std::string sheet = "{ name: a }\n{ name: b }\n";
         std::map<std::string, std::pair<std::string, std::string>> list;
         list["rejected"] = {
-            reportOfFindings("a.rtfspec", description,
-                             diagnosticsOfOtherError(SourceText(description),
-                                                     std::string_view(description).substr(9, 2))),
+            reportOfDiagnostics(
+                "a.rtfspec", description,
+                diagnosticsOfOtherError(SourceText(description),
+                                        std::string_view(description).substr(9, 2))),
             "a.rtfspec:2:5: error: A new error [rejected]\n    (cw=50)\n        ^~\n"};
         list["stylesheet-rejected"] = {
-            reportOfFindings("a.rtfss", sheet, diagnosticsOfOtherSheet(SourceText(sheet))),
+            reportOfDiagnostics("a.rtfss", sheet, diagnosticsOfOtherSheet(SourceText(sheet))),
             "a.rtfss:1:1: error: A new error [stylesheet-rejected]\n    { name: a }\n"
             "    ^~~~~~~~~~~\n"};
         list["not-a-text-file"] = {

@@ -122,8 +122,9 @@ protected:
     void TearDown() override { expectAsBefore(); }
 
     /// What the registration of the file has added for the machine is what was agreed.
-    void expectAgreedEntries(const std::wstring& file) const {
-        const std::vector<std::string> entries = added(before().machine, classRegistry().machine);
+    static void expectAgreedEntries(const std::wstring& file,
+                                    const ClassRegistry& after = classRegistry()) {
+        const std::vector<std::string> entries = added(before().machine, after.machine);
         expectSame({entries.begin(), entries.end()}, agreedEntries(file));
     }
     static void expectSame(const std::set<std::string>& actual,
@@ -150,7 +151,7 @@ TEST_F(Registration, ForTheMachineWritesWhatWasAgreed) {
     EXPECT_EQ(component_.call("DllRegisterServer"), S_OK);
 
     const ClassRegistry after = classRegistry();
-    expectAgreedEntries(componentFile());
+    expectAgreedEntries(componentFile(), after);
     EXPECT_THAT(added(after.machine, before().machine), IsEmpty());
     EXPECT_TRUE(after.user == before().user);
 

@@ -26,17 +26,17 @@ namespace {
 using testing::Contains;
 using testing::IsEmpty;
 
-std::vector<std::string> identifiers(const std::vector<Diagnostic>& findings) {
+std::vector<std::string> identifiers(const std::vector<Diagnostic>& diagnostics) {
     std::vector<std::string> names;
-    for (const Diagnostic& finding : findings) {
-        names.emplace_back(diagnosticRule(finding.id).identifier);
+    for (const Diagnostic& diagnostic : diagnostics) {
+        names.emplace_back(diagnosticRule(diagnostic.id).identifier);
     }
     return names;
 }
 
 /// The diagnostics about an example, together with its companion. Examples are files: their bytes
 /// are read in Windows-1252.
-std::vector<std::string> findingsOf(std::string_view example, const DiagnosticRule& rule) {
+std::vector<std::string> diagnosticsOf(std::string_view example, const DiagnosticRule& rule) {
     const std::string text = expandedExample(example);
     const std::string companion(rule.companion);
     switch (rule.language) {
@@ -72,12 +72,12 @@ std::vector<DiagnosticRule> rulesWithExamples() {
 class Examples : public testing::TestWithParam<DiagnosticRule> {};
 
 TEST_P(Examples, ThatAreWrongHaveTheFinding) {
-    EXPECT_THAT(findingsOf(GetParam().wrong, GetParam()),
+    EXPECT_THAT(diagnosticsOf(GetParam().wrong, GetParam()),
                 Contains(std::string(GetParam().identifier)));
 }
 
 TEST_P(Examples, ThatAreRightHaveNoFinding) {
-    EXPECT_THAT(findingsOf(GetParam().right, GetParam()), IsEmpty());
+    EXPECT_THAT(diagnosticsOf(GetParam().right, GetParam()), IsEmpty());
 }
 
 TEST_P(Examples, AreTakenForWhatTheyAre) {

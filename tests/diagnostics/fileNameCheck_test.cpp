@@ -19,18 +19,18 @@ constexpr auto rtf = CheckedLanguage::Rtf;
 std::vector<std::string> found(const std::string& bytes, CheckedLanguage language,
                                const std::string& fileName) {
     std::vector<std::string> list;
-    for (const Diagnostic& finding : findNameMismatch(bytes, language, fileName)) {
-        list.push_back(std::to_string(finding.place.line) + ":" +
-                       std::to_string(finding.place.column) + " " +
-                       std::string(severityName(finding.severity)) + " " +
-                       std::string(diagnosticRule(finding.id).identifier) + " " + finding.message);
+    for (const Diagnostic& diagnostic : findNameMismatch(bytes, language, fileName)) {
+        list.push_back(
+            std::to_string(diagnostic.place.line) + ":" + std::to_string(diagnostic.place.column) +
+            " " + std::string(severityName(diagnostic.severity)) + " " +
+            std::string(diagnosticRule(diagnostic.id).identifier) + " " + diagnostic.message);
     }
     return list;
 }
 
 std::string hintOf(CheckedLanguage language, const std::string& fileName) {
-    const std::vector<Diagnostic> findings = findNameMismatch("x", language, fileName);
-    return findings.empty() ? "" : findings.front().hint;
+    const std::vector<Diagnostic> diagnostics = findNameMismatch("x", language, fileName);
+    return diagnostics.empty() ? "" : diagnostics.front().hint;
 }
 
 TEST(FileNameCheck, FindsNothingWhereNameAndContentAgree) {

@@ -19,16 +19,16 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
-std::string line(const Diagnostic& finding) {
-    return std::to_string(finding.place.line) + " " +
-           std::string(diagnosticRule(finding.id).identifier) +
-           (finding.hint.empty() ? "" : ": " + finding.hint);
+std::string line(const Diagnostic& diagnostic) {
+    return std::to_string(diagnostic.place.line) + " " +
+           std::string(diagnosticRule(diagnostic.id).identifier) +
+           (diagnostic.hint.empty() ? "" : ": " + diagnostic.hint);
 }
 
-std::vector<std::string> lines(const std::vector<Diagnostic>& findings) {
+std::vector<std::string> lines(const std::vector<Diagnostic>& diagnostics) {
     std::vector<std::string> list;
-    for (const Diagnostic& finding : findings) {
-        list.push_back(line(finding));
+    for (const Diagnostic& diagnostic : diagnostics) {
+        list.push_back(line(diagnostic));
     }
     return list;
 }
@@ -121,12 +121,12 @@ TEST(StyleDiagnostics, ReportTenPairsOfColorsOfAParagraph) {
 
 TEST(StyleDiagnostics, SayWhatBecomesOfAParagraphWithoutAnyParagraphStyle) {
     KnownStyles styles("{ name: label; style-def: cs; format: \\b }\n");
-    const std::vector<Diagnostic> findings =
+    const std::vector<Diagnostic> diagnostics =
         checkDescription("(doc\n(r\n(c\n(p\n(pt=a)\n(ps=label)\np)\nc)\nr)\ndoc)\n", &styles);
-    ASSERT_EQ(findings.size(), 1u);
-    EXPECT_EQ(findings[0].message,
+    ASSERT_EQ(diagnostics.size(), 1u);
+    EXPECT_EQ(diagnostics[0].message,
               "The stylesheet has no paragraph style label; the paragraph gets no format.");
-    EXPECT_EQ(findings[0].hint, "label is a character style");
+    EXPECT_EQ(diagnostics[0].hint, "label is a character style");
 }
 
 TEST(StyleDiagnostics, NameNoStyleForOneThatIsMissingAmongTooMany) {
@@ -212,13 +212,13 @@ TEST(StyleDiagnostics, KnowTheNumberOfAColorOfTwoWords) {
 }
 
 TEST(StyleDiagnostics, MarkTheTextInAFormat) {
-    const std::vector<Diagnostic> findings =
+    const std::vector<Diagnostic> diagnostics =
         checkStyleSheet("{ name: a; style-def: s; format: \\fs20 Arial 10 \\b }\n");
-    ASSERT_EQ(findings.size(), 1u);
-    EXPECT_EQ(findings[0].message,
+    ASSERT_EQ(diagnostics.size(), 1u);
+    EXPECT_EQ(diagnostics[0].message,
               "Arial 10 is not a control word; it will appear as text wherever the style is used.");
-    EXPECT_EQ(findings[0].place.column, 40);
-    EXPECT_EQ(findings[0].place.length, 8);
+    EXPECT_EQ(diagnostics[0].place.column, 40);
+    EXPECT_EQ(diagnostics[0].place.length, 8);
 }
 
 TEST(StyleDiagnostics, WarnOfNoTextInAFormatOfControlWords) {

@@ -150,7 +150,7 @@ protected:
         return driver->Contents();
     }
 
-    void analyse(const std::string& text, Checks checks) {
+    void parse(const std::string& text, Checks checks) {
         errors.clear();
         platform.operations.clear();
         platform.clipboardTexts.clear();
@@ -159,11 +159,11 @@ protected:
     }
 
     void expectSameAgain(const std::string& text, Checks checks) {
-        analyse(text, checks);
+        parse(text, checks);
         const std::vector<ErrorFacts> firstErrors = errors;
         const std::string first = renderedAnew();
         ASSERT_EQ(renderedAnew(), first) << text;
-        analyse(text, checks);
+        parse(text, checks);
         ASSERT_EQ(errors, firstErrors) << text;
         ASSERT_EQ(renderedAnew(), first) << text;
     }
@@ -292,7 +292,7 @@ TEST_F(AnyText, CutOffAnywhereEndsWell) {
 }
 
 TEST_F(AnyText, WithNulCharactersKeepsThem) {
-    analyse(paraWithText(std::string("a\0b", 3)), Checks::On);
+    parse(paraWithText(std::string("a\0b", 3)), Checks::On);
     EXPECT_THAT(errors, IsEmpty());
     EXPECT_EQ(textOfFirstParagraph(), std::string("a\0b", 3));
 }
@@ -301,7 +301,7 @@ constexpr std::size_t megabytes = 2000000;
 
 TEST_F(AnyText, MayBeOneEndlessText) {
     const std::string endless(megabytes, 'x');
-    analyse(paraWithText(endless), Checks::On);
+    parse(paraWithText(endless), Checks::On);
     EXPECT_THAT(errors, IsEmpty());
     EXPECT_EQ(textOfFirstParagraph(), endless);
     EXPECT_GT(driver->Contents().size(), megabytes);
@@ -312,7 +312,7 @@ TEST_F(AnyText, MayBeOneEndlessUnreadableLine) {
          {"x", "(", ")", "=", "=)", "(=", "()", "r)", "(r", "\xC3\xA9", "a b "}) {
         const std::string line =
             "." + repeated(part, megabytes / 2 / std::string_view(part).size()) + ".";
-        analyse("(doc\n(r\n" + line + "\ndoc)", Checks::Off);
+        parse("(doc\n(r\n" + line + "\ndoc)", Checks::Off);
         ASSERT_EQ(errors.size(), 1u);
         EXPECT_EQ(errors[0].description.size(), line.size() + 19);
         EXPECT_TRUE(errors[0].description == line + " has a wrong syntax");
@@ -324,7 +324,7 @@ TEST_F(AnyText, MayBeAnEndlessHead) {
     const std::string heads[] = {"(" + std::string(megabytes, 'r'),
                                  std::string(megabytes, 'R') + ")"};
     for (const std::string& line : heads) {
-        analyse("(doc\n(r\n" + line + "\ndoc)", Checks::Off);
+        parse("(doc\n(r\n" + line + "\ndoc)", Checks::Off);
         ASSERT_EQ(errors.size(), 1u);
         EXPECT_TRUE(errors[0].description == line + " has a wrong syntax");
     }
@@ -332,26 +332,26 @@ TEST_F(AnyText, MayBeAnEndlessHead) {
 
 TEST_F(AnyText, MayHaveAnEndlessKey) {
     const std::string key(megabytes, 'k');
-    analyse(rowWith("(" + key + "=1)"), Checks::On);
+    parse(rowWith("(" + key + "=1)"), Checks::On);
     ASSERT_EQ(errors.size(), 1u);
     EXPECT_TRUE(errors[0].description == key + " isn't a valid keyword.");
 }
 
 TEST_F(AnyText, MayHaveEndlessNumbers) {
-    analyse(docWith("(paper-width=" + std::string(megabytes, '9') + ")"), Checks::Off);
+    parse(docWith("(paper-width=" + std::string(megabytes, '9') + ")"), Checks::Off);
     EXPECT_THAT(errors, ElementsAre(typeMismatch(2)));
-    analyse(docWith("(paper-width=" + std::string(megabytes, '0') + "9)"), Checks::Off);
+    parse(docWith("(paper-width=" + std::string(megabytes, '0') + "9)"), Checks::Off);
     EXPECT_THAT(errors, IsEmpty());
     EXPECT_EQ(driver->RtfObject()->PageWidth(), 9);
-    analyse(docWith("(paper-width=7." + std::string(megabytes, '1') + ")"), Checks::Off);
+    parse(docWith("(paper-width=7." + std::string(megabytes, '1') + ")"), Checks::Off);
     EXPECT_EQ(driver->RtfObject()->PageWidth(), 7);
-    analyse(docWith("(paper-width=1e" + std::string(megabytes, '9') + ")"), Checks::Off);
+    parse(docWith("(paper-width=1e" + std::string(megabytes, '9') + ")"), Checks::Off);
     EXPECT_THAT(errors, ElementsAre(typeMismatch(2)));
 }
 
 TEST_F(AnyText, MayHaveAnEndlessComment) {
     const std::string comment = "; " + repeated("(r=x ", megabytes / 5);
-    analyse("(doc\n" + comment + "\n(r " + comment + "\n(c\nc)\nr)\ndoc)", Checks::On);
+    parse("(doc\n" + comment + "\n(r " + comment + "\n(c\nc)\nr)\ndoc)", Checks::On);
     EXPECT_THAT(errors, IsEmpty());
     EXPECT_EQ(driver->RtfObject()->TableRows()->Count(), 1);
 }
@@ -359,7 +359,7 @@ TEST_F(AnyText, MayHaveAnEndlessComment) {
 TEST_F(AnyText, MayHaveBlankLinesAndCommentsWithoutEnd) {
     for (const char* part : {"\n", "\r", "\r\n", " ", "\t\n", ";\n", "; comment\r\n"}) {
         const std::string nothing = repeated(part, megabytes / std::string_view(part).size());
-        analyse("(doc\n" + nothing + "\n(r\n(c\n(cw=wide)\nc)\nr)\ndoc)\n" + nothing, Checks::Off);
+        parse("(doc\n" + nothing + "\n(r\n(c\n(cw=wide)\nc)\nr)\ndoc)\n" + nothing, Checks::Off);
         ASSERT_EQ(errors.size(), 1u);
         EXPECT_EQ(errors[0].number, 13);
     }
@@ -367,12 +367,12 @@ TEST_F(AnyText, MayHaveBlankLinesAndCommentsWithoutEnd) {
 
 TEST_F(AnyText, MayHaveClosersWithoutEnd) {
     for (const Checks checks : {Checks::Off, Checks::On}) {
-        analyse(lines("(doc|(r|(c|c)|r)|doc)|") + repeated("doc)\n", megabytes / 5), checks);
+        parse(lines("(doc|(r|(c|c)|r)|doc)|") + repeated("doc)\n", megabytes / 5), checks);
         EXPECT_THAT(errors, IsEmpty());
-        analyse(lines("(doc|(r|(c|c)|") + repeated("r)\n", megabytes / 3) + "doc)", checks);
+        parse(lines("(doc|(r|(c|c)|") + repeated("r)\n", megabytes / 3) + "doc)", checks);
         EXPECT_THAT(errors, ElementsAre(driverErrorOf(eWrongNodeType, "Wrong node type in r)",
                                                       "CRtfDriver.treeWalkerBuild", 6)));
-        analyse("(doc\n" + repeated("c)\n(r\n", megabytes / 6) + "doc)", checks);
+        parse("(doc\n" + repeated("c)\n(r\n", megabytes / 6) + "doc)", checks);
         EXPECT_EQ(errors.front().description, "Wrong node type in c)");
     }
 }
@@ -382,33 +382,33 @@ TEST_F(AnyText, MayHaveLeavesWithoutEnd) {
     for (std::uint32_t i = 0; leaves.size() < megabytes; ++i) {
         leaves += "(k" + std::to_string(i * 7919 % 1000003) + "=v)\n";
     }
-    analyse("(doc\n" + leaves + "(r\n(c\nc)\nr)\ndoc)", Checks::Off);
+    parse("(doc\n" + leaves + "(r\n(c\nc)\nr)\ndoc)", Checks::Off);
     EXPECT_THAT(errors, IsEmpty());
     EXPECT_EQ(driver->RtfObject()->TableRows()->Count(), 1);
-    analyse("(doc\n" + leaves + "(r\n(c\nc)\nr)\ndoc)", Checks::On);
+    parse("(doc\n" + leaves + "(r\n(c\nc)\nr)\ndoc)", Checks::On);
     ASSERT_EQ(errors.size(), 2u);
     EXPECT_EQ(errors[0].description, "k0 isn't a valid keyword.");
     EXPECT_EQ(errors[1].description, "Value for k0 should be numeric.");
 }
 
 TEST_F(AnyText, MayRepeatALeafWithoutEnd) {
-    analyse("(doc\n(r\n" + repeated("(rb=red)\n", megabytes / 9) + "doc)", Checks::Off);
+    parse("(doc\n(r\n" + repeated("(rb=red)\n", megabytes / 9) + "doc)", Checks::Off);
     EXPECT_THAT(errors, ElementsAre(duplicateKey(4)));
 }
 
 TEST_F(AnyText, MayOpenRowsWithoutEnd) {
     const std::string rows = "(doc\n" + repeated("(r\n", megabytes / 3);
-    analyse(rows + "doc)", Checks::Off);
+    parse(rows + "doc)", Checks::Off);
     ASSERT_EQ(errors.size(), 1u);
     EXPECT_EQ(errors[0].description, "Too many row nodes.");
     EXPECT_EQ(driver->RtfObject()->TableRows()->Count(), 500);
-    analyse(rows + "(c\nc)\nr)\ndoc)", Checks::On);
+    parse(rows + "(c\nc)\nr)\ndoc)", Checks::On);
     EXPECT_THAT(errors, IsEmpty());
     EXPECT_EQ(driver->RtfObject()->TableRows()->Count(), 1);
 }
 
 TEST_F(AnyText, MayLeaveThousandsOfRowsOpen) {
-    analyse("(doc\n" + repeated("(r\n(c\n(p\n(pt=x)\n", 5000) + "doc)", Checks::Off);
+    parse("(doc\n" + repeated("(r\n(c\n(p\n(pt=x)\n", 5000) + "doc)", Checks::Off);
     ASSERT_EQ(errors.size(), 1u);
     EXPECT_EQ(errors[0].description, "Too many row nodes.");
     EXPECT_EQ(driver->RtfObject()->TableRows()->Count(), 250);
@@ -416,7 +416,7 @@ TEST_F(AnyText, MayLeaveThousandsOfRowsOpen) {
 }
 
 TEST_F(AnyText, MayNestDocsAsDeepAsTheyGo) {
-    analyse(repeated("(doc\n", 999) + "(r\n(c\nc)\nr)\n" + repeated("doc)\n", 999), Checks::On);
+    parse(repeated("(doc\n", 999) + "(r\n(c\nc)\nr)\n" + repeated("doc)\n", 999), Checks::On);
     EXPECT_THAT(
         errors,
         ElementsAre(driverErrorOf(eSyntaxError, "In a para group para-text is mandatory.",
@@ -425,7 +425,7 @@ TEST_F(AnyText, MayNestDocsAsDeepAsTheyGo) {
                                   "CRtDriver.treeWalkerSemantic", 2)));
     EXPECT_EQ(driver->RtfObject()->TableRows()->Count(), 0);
 
-    analyse(repeated("(doc\n", 1000) + "(r\n" + repeated("doc)\n", 1000), Checks::Off);
+    parse(repeated("(doc\n", 1000) + "(r\n" + repeated("doc)\n", 1000), Checks::Off);
     EXPECT_THAT(errors, ElementsAre(driverErrorOf(eWrongNumberOfNodes, "Too many doc nodes.",
                                                   "CRtfDriver.treeWakerBuild", 1000)));
 }
@@ -433,12 +433,12 @@ TEST_F(AnyText, MayNestDocsAsDeepAsTheyGo) {
 TEST_F(AnyText, MayNestNodesOfAllKindsAsDeepAsTheyGo) {
     const std::string openers = repeated("(doc\n(r\n(c\n(p\n(pt=x)\n", 999);
     const std::string closers = repeated("p)\nc)\nr)\ndoc)\n", 999);
-    analyse(openers + closers, Checks::Off);
+    parse(openers + closers, Checks::Off);
     EXPECT_THAT(errors, IsEmpty());
     EXPECT_EQ(driver->RtfObject()->TableRows()->Count(), 1);
     EXPECT_EQ(textOfFirstParagraph(), "x");
 
-    analyse(openers + "doc)", Checks::On);
+    parse(openers + "doc)", Checks::On);
     EXPECT_EQ(errors.size(), 3u);
     EXPECT_EQ(errors.front().description, "Wrong node type in doc)");
 }
@@ -448,16 +448,16 @@ TEST_F(AnyText, MayHaveAsManyNodesOfEveryKindAsThereCanBe) {
         "(row\n(rb=silver)\n(rtb=thin)\n(rbb=thin)\n(rlb=thin)\n(rrb=thin)\n(cell\n(cw=50)\n"
         "(ca=right)\n(cs=a)\n(cmf=b)\n(para\n(pt=c)\n(ps=d)\n(pa=left)\n(pmf=e)\npara)\ncell)\n"
         "row)\n";
-    analyse("(doc\n" + repeated(row, 999) + "doc)", Checks::On);
+    parse("(doc\n" + repeated(row, 999) + "doc)", Checks::On);
     EXPECT_THAT(errors, IsEmpty());
     EXPECT_EQ(driver->RtfObject()->TableRows()->Count(), 999);
     ASSERT_NO_FATAL_FAILURE(expectWellFormedRows("999 rows"));
 }
 
 TEST_F(AnyText, MayHaveAllCellsInOneRowAndAllParagraphsInOneCell) {
-    analyse("(doc\n(r\n" + repeated("(c\n(cw=1)\nc)\n", 998) + "(c\n" +
-                repeated("(p\n(pt=x)\np)\n", 999) + "c)\nr)\ndoc)",
-            Checks::On);
+    parse("(doc\n(r\n" + repeated("(c\n(cw=1)\nc)\n", 998) + "(c\n" +
+              repeated("(p\n(pt=x)\np)\n", 999) + "c)\nr)\ndoc)",
+          Checks::On);
     EXPECT_THAT(errors, IsEmpty());
     EXPECT_EQ(driver->RtfObject()->TableRows()->Item(1)->TableCells()->Count(), 999);
     ASSERT_NO_FATAL_FAILURE(expectWellFormedRows("999 cells"));

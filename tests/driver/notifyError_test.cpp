@@ -116,17 +116,17 @@ TEST_F(NotifyError, CanBeSwitchedOffByItsHandler) {
 }
 
 TEST_F(NotifyError, LetsItsHandlerPutAnotherInItsPlace) {
-    std::vector<std::string> told;
+    std::vector<std::string> reported;
     driver->setNotifyErrorHandler([&](CRtfDriver& Sender, const RtfError& error) {
         Sender.setNotifyErrorHandler([&](CRtfDriver&, const RtfError& later) {
-            told.push_back("second " + later.description);
+            reported.push_back("second " + later.description);
         });
-        told.push_back("first " + error.description);
+        reported.push_back("first " + error.description);
     });
     driver->ParseFromMemmory(lines("(row|row)"));
-    ASSERT_EQ(told.size(), 4u);
-    EXPECT_EQ(told[0], "first The provided file isn't a correct rtfspec file.");
-    EXPECT_EQ(told[3], "second Invalid procedure call or argument");
+    ASSERT_EQ(reported.size(), 4u);
+    EXPECT_EQ(reported[0], "first The provided file isn't a correct rtfspec file.");
+    EXPECT_EQ(reported[3], "second Invalid procedure call or argument");
 }
 
 TEST_F(NotifyError, LetsItsHandlerSwitchTheChecksOnForTheStepsToCome) {

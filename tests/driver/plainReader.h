@@ -271,8 +271,8 @@ public:
     explicit Reader(std::vector<Line> lines) : lines_(std::move(lines)) {
         try {
             treeWalkerBuild(root, docKind);
-        } catch (const ErrorFacts& told) {
-            error = told;
+        } catch (const ErrorFacts& raised) {
+            error = raised;
         }
     }
 

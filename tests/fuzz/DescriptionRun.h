@@ -37,14 +37,14 @@ public:
     const std::string& events() const { return events_; }
 
     /// What an analysis of the text comes to: its errors and the document's text.
-    std::string analysed(std::string_view text) {
+    std::string parsed(std::string_view text) {
         events_.clear();
         driver_->ParseFromMemmory(text);
         return events_ + renderedTwice(*document());
     }
 
     /// The same of a file with these bytes.
-    std::string analysedFile(std::string_view bytes) {
+    std::string parsedFile(std::string_view bytes) {
         events_.clear();
         platform_.files["description.rtfspec"] = bytes;
         driver_->ParseFile("description.rtfspec");
@@ -96,7 +96,7 @@ inline void requirePlainAnalysis(DescriptionRun& run, std::string_view text) {
 
 /// Everything that is to hold of the analysis of a description.
 inline void requireGoodAnalysis(DescriptionRun& run, std::string_view text, bool countsRows) {
-    const std::string first = run.analysed(text);
+    const std::string first = run.parsed(text);
     requirePlainAnalysis(run, text);
     if (run.document()->Changed()) {
         return;
@@ -105,7 +105,7 @@ inline void requireGoodAnalysis(DescriptionRun& run, std::string_view text, bool
         requireBalancedRows(*run.document(), run.driver().Contents());
     }
     requireSameWhenCommitted(*run.document(), run.platform());
-    requireEqual(run.analysed(text), first, "analysing twice gives the same errors and text");
+    requireEqual(run.parsed(text), first, "parsing twice gives the same errors and text");
 }
 
 }  // namespace quorvane

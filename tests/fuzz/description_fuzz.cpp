@@ -13,8 +13,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const bool erroneousInput : {false, true}) {
         DescriptionRun run(erroneousInput);
         requireGoodAnalysis(run, text, !holdsRowWords(text));
-        const std::string fromFile = run.analysedFile(text);
-        requireEqual(run.analysed(utf8FromCodePage1252(text)), fromFile,
+        const std::string fromFile = run.parsedFile(text);
+        requireEqual(run.parsed(utf8FromCodePage1252(text)), fromFile,
                      "a file is read as the text that its bytes stand for");
     }
     return 0;

@@ -41,9 +41,9 @@ protected:
     TemporaryFolder folder;
 };
 
-void expectErrors(const std::string& told, const std::vector<ExpectedError>& expected) {
-    const std::vector<std::string> lines = cli::linesOf(told);
-    ASSERT_EQ(lines.size(), expected.size()) << told;
+void expectErrors(const std::string& output, const std::vector<ExpectedError>& expected) {
+    const std::vector<std::string> lines = cli::linesOf(output);
+    ASSERT_EQ(lines.size(), expected.size()) << output;
     for (std::size_t i = 0; i < lines.size(); ++i) {
         const json error = json::parse(lines[i]);
         EXPECT_EQ(error.at("kind"), expected[i].kind);

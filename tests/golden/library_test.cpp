@@ -20,7 +20,7 @@ class GoldenLibrary : public testing::TestWithParam<Case> {
 protected:
     void SetUp() override {
         folderBefore_ = std::filesystem::current_path();
-        // The stylesheet's name is part of what is said of it.
+        // The stylesheet's name is part of its errors.
         std::filesystem::current_path(GetParam().folder);
     }
     void TearDown() override { std::filesystem::current_path(folderBefore_); }

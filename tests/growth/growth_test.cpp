@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <ctime>
 #include <functional>
 #include <string>
@@ -18,6 +19,9 @@
 #include "quorvane/docmodel/CRtfDoc.h"
 #include "quorvane/docmodel/InnerDocument.h"
 #include "quorvane/driver/CRtfDriver.h"
+#include "quorvane/driver/DescriptionTree.h"
+#include "quorvane/driver/Dialect.h"
+#include "quorvane/driver/DocumentBuilder.h"
 #include "quorvane/support/recordStrings.h"
 #include "tests/docmodel/withCharacterStyles.h"
 #include "tests/support/FakePlatform.h"
@@ -125,6 +129,45 @@ TEST(Growth, OfAnUnreadableLineIsProportional) {
     }
 }
 
+/// A cell whose paragraphs all ask for the key of the last one, which has its number as key.
+class ParagraphsWithATakenKey {
+public:
+    explicit ParagraphsWithATakenKey(std::size_t count) : tree_(count) {
+        constexpr int line = 1;
+        DescriptionNode& doc = tree_.AddNode(tree_.root(), NodeKind::Doc, documentNumber, line);
+        DescriptionNode& row = tree_.AddNode(doc, NodeKind::Row, 1001, line);
+        DescriptionNode& cell = tree_.AddNode(row, NodeKind::Cell, 2001, line);
+        const std::int32_t first = originalDialect().numbers[indexOf(NodeKind::Para)].start + 1;
+        const std::int32_t last = first + static_cast<std::int32_t>(count) - 1;
+        const Leaf key{.key = originalVocabulary().leafKey("para-key"),
+                       .number = static_cast<double>(last),
+                       .kind = LeafKind::Number};
+        for (std::int32_t number = first; number < last; ++number) {
+            tree_.addLeaf(tree_.AddNode(cell, NodeKind::Para, number, line), key);
+        }
+        tree_.AddNode(cell, NodeKind::Para, last, line);
+    }
+
+    /// Builds a document and returns how many keys were taken.
+    std::size_t build() {
+        FakePlatform platform;
+        const Ref<CRtfDoc> document = CRtfDoc::create(platform);
+        std::size_t taken = 0;
+        DocumentBuilder(*document, originalDialect(), [&](const Violation& violation) {
+            taken += violation.fault == DriverFault::TakenKey && violation.node ? 1 : 0;
+        }).build(tree_.root().child(documentNumber));
+        return taken;
+    }
+
+private:
+    DescriptionTree tree_;
+};
+
+TEST(Growth, OfTakenKeysIsProportional) {
+    expectProportional(
+        [](std::size_t size) { EXPECT_EQ(ParagraphsWithATakenKey(size).build(), size - 1); }, 1000);
+}
+
 TEST(Growth, OfAStylesheetIsProportional) {
     expectProportional(
         [](std::size_t size) {
@@ -191,6 +234,16 @@ TEST(Growth, OfCheckingIgnoreCommentsIsProportional) {
         500);
     expectProportional(
         [&](std::size_t size) { checkStyleSheet(repeated(comment, size) + "{ name: a\n"); }, 500);
+}
+
+TEST(Growth, OfCheckingCharactersWithSubstitutesIsProportional) {
+    for (const char* before : {"", "{\\fldinst "}) {
+        expectProportional(
+            [before](std::size_t size) {
+                checkDescription(paragraphWith(before + repeated("\\u8364?", size)));
+            },
+            2000);
+    }
 }
 
 TEST(Growth, OfCheckingFieldsAndColorsIsProportional) {

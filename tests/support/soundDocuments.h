@@ -15,8 +15,8 @@ inline void expectSoundDocuments(const FakePlatform& platform) {
         if (!std::string_view(bytes).starts_with("{\\rtf")) {
             continue;
         }
-        for (const Diagnostic& finding : checkRtf(bytes)) {
-            ADD_FAILURE() << path << ":" << finding.place.line << ": " << finding.message;
+        for (const Diagnostic& diagnostic : checkRtf(bytes)) {
+            ADD_FAILURE() << path << ":" << diagnostic.place.line << ": " << diagnostic.message;
         }
     }
 }

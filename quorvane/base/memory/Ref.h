@@ -7,9 +7,9 @@
 namespace quorvane {
 
 /// A counted reference to an object; it can be null. The object lives while a reference to it does.
-/// For the type, `retain(T*)` and `release(T*)` must be declared beside it, so that references to a
-/// type that is only declared can be held and handed on. Counts are not atomic: an
-/// object is used by one thread at a time.
+/// The namespace of the type must declare `retain(T*)` and `release(T*)`, so that references to a
+/// type that is only declared can be held and handed on. Counts are not atomic: an object is used
+/// by one thread at a time.
 template <class T>
 class Ref {
 public:

@@ -5,7 +5,8 @@
 namespace quorvane {
 
 /// A reference that does not keep its object alive: `get` returns null once the object's last `Ref`
-/// has gone. For the type, `retainWeak`, `releaseWeak` and `isAlive` must be declared beside it.
+/// has gone. The namespace of the type must declare `retainWeak`, `releaseWeak` and `isAlive` for
+/// it.
 template <class T>
 class WeakRef {
 public:

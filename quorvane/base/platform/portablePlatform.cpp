@@ -27,8 +27,8 @@ namespace {
 constexpr int productNameResource = 8700;
 constexpr std::size_t bufferForUnknownSize = std::size_t{64} * 1024;
 
-/// The system would read such a path only up to the NUL, and so find another file than the one that
-/// is asked for.
+/// The system would read such a path only up to the NUL, and so find another file than the one
+/// meant.
 bool holdsNul(std::string_view path) {
     return path.find('\0') != std::string_view::npos;
 }
@@ -142,7 +142,7 @@ std::string programPath() {
     return std::filesystem::read_symlink("/proc/self/exe", failure).native();
 }
 
-/// A system that offers files and a standard error stream, and nothing else that is asked for.
+/// A system with files and standard error only.
 class PortablePlatform : public Platform {
 public:
     bool fileExists(const std::string& path) override {

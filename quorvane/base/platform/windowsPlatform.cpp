@@ -37,8 +37,8 @@ std::string narrow(std::wstring_view text) {
     raiseSystemError(GetLastError());
 }
 
-/// The system would read such a path only up to the NUL, and so find another file than the one that
-/// is asked for.
+/// The system would read such a path only up to the NUL, and so find another file than the one
+/// meant.
 bool holdsNul(std::string_view path) {
     return path.find('\0') != std::string_view::npos;
 }

@@ -5,8 +5,8 @@
 
 namespace quorvane {
 
-// Case is known of the letters of ASCII and of code page 1252, whatever the locale; every other
-// character, and every byte that is not well-formed UTF-8, stands for itself.
+// The letters of ASCII and of code page 1252 have case, in every locale. Every other character, and
+// every byte that is not well-formed UTF-8, stays as it is.
 
 /// The character in lower case, as its code point.
 char32_t lowerCode(char32_t code) noexcept;

@@ -1,6 +1,7 @@
 #include "quorvane/diagnostics/description/ViolationReport.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string>
 #include <utility>
 #include <vector>
@@ -9,6 +10,7 @@
 #include "quorvane/diagnostics/description/keyHints.h"
 #include "quorvane/diagnostics/description/nodeNouns.h"
 #include "quorvane/diagnostics/description/numberHints.h"
+#include "quorvane/diagnostics/description/quotedValue.h"
 #include "quorvane/diagnostics/description/textFormatHints.h"
 #include "quorvane/diagnostics/description/valueHints.h"
 #include "quorvane/diagnostics/engine/nearestWord.h"
@@ -35,12 +37,32 @@ constexpr std::pair<std::string_view, std::string_view> otherWords[] = {
 constexpr std::string_view otherSpellings[] = {"grey",   "dark-grey", "center",
                                                "centre", "centred",   "justify"};
 
-/// The value within its quotation marks; the value where it has none.
-std::string_view withoutQuotes(std::string_view value) {
-    const bool isQuoted = value.size() > 2 && value.front() == value.back() &&
-                          (value.front() == '"' || value.front() == '\'');
-    return isQuoted ? value.substr(1, value.size() - 2) : value;
-}
+/// The diagnostics of what the driver rejects. `Rejected` stands for all others.
+constexpr std::pair<DriverFault, DiagnosticId> diagnosticsOfFaults[] = {
+    {DriverFault::NotADescription, DiagnosticId::WrongFileType},
+    {DriverFault::MissingElements, DiagnosticId::MissingElement},
+    {DriverFault::WrongRoot, DiagnosticId::WrongRoot},
+    {DriverFault::TooManyNodes, DiagnosticId::TooManyNodes},
+    {DriverFault::WrongCloser, DiagnosticId::WrongCloser},
+    {DriverFault::WrongSyntax, DiagnosticId::WrongSyntax},
+    {DriverFault::DuplicateLeaf, DiagnosticId::DuplicateLeaf},
+    {DriverFault::NoDocument, DiagnosticId::NoDocument},
+    {DriverFault::UnknownDocKey, DiagnosticId::WrongKeyword},
+    {DriverFault::UnknownRowKey, DiagnosticId::WrongKeyword},
+    {DriverFault::UnknownCellKey, DiagnosticId::WrongKeyword},
+    {DriverFault::UnknownParaKey, DiagnosticId::WrongKeyword},
+    {DriverFault::NoRow, DiagnosticId::NoRow},
+    {DriverFault::NoCell, DiagnosticId::NoCell},
+    {DriverFault::NoParaText, DiagnosticId::NoParaText},
+    {DriverFault::NodeInParagraph, DiagnosticId::NodeInParagraph},
+    {DriverFault::WrongContext, DiagnosticId::WrongContext},
+    {DriverFault::WrongColor, DiagnosticId::WrongColor},
+    {DriverFault::WrongBorder, DiagnosticId::WrongBorder},
+    {DriverFault::WrongAlignment, DiagnosticId::WrongAlignment},
+    {DriverFault::NotANumber, DiagnosticId::NotANumber},
+    {DriverFault::Overflow, DiagnosticId::Overflow},
+    {DriverFault::TakenKey, DiagnosticId::TakenKey},
+};
 
 /// `noun` says what the names are names of.
 Hint nameHint(const std::string& value, const std::vector<std::string_view>& names,
@@ -82,53 +104,10 @@ bool isMisplaced(DriverFault fault) {
 }  // namespace
 
 DiagnosticId diagnosticOf(DriverFault fault) {
-    switch (fault) {
-        case DriverFault::NotADescription:
-            return DiagnosticId::WrongFileType;
-        case DriverFault::MissingElements:
-            return DiagnosticId::MissingElement;
-        case DriverFault::WrongRoot:
-            return DiagnosticId::WrongRoot;
-        case DriverFault::TooManyNodes:
-            return DiagnosticId::TooManyNodes;
-        case DriverFault::WrongCloser:
-            return DiagnosticId::WrongCloser;
-        case DriverFault::WrongSyntax:
-            return DiagnosticId::WrongSyntax;
-        case DriverFault::DuplicateLeaf:
-            return DiagnosticId::DuplicateLeaf;
-        case DriverFault::NoDocument:
-            return DiagnosticId::NoDocument;
-        case DriverFault::UnknownDocKey:
-        case DriverFault::UnknownRowKey:
-        case DriverFault::UnknownCellKey:
-        case DriverFault::UnknownParaKey:
-            return DiagnosticId::WrongKeyword;
-        case DriverFault::NoRow:
-            return DiagnosticId::NoRow;
-        case DriverFault::NoCell:
-            return DiagnosticId::NoCell;
-        case DriverFault::NoParaText:
-            return DiagnosticId::NoParaText;
-        case DriverFault::NodeInParagraph:
-            return DiagnosticId::NodeInParagraph;
-        case DriverFault::WrongContext:
-            return DiagnosticId::WrongContext;
-        case DriverFault::WrongColor:
-            return DiagnosticId::WrongColor;
-        case DriverFault::WrongBorder:
-            return DiagnosticId::WrongBorder;
-        case DriverFault::WrongAlignment:
-            return DiagnosticId::WrongAlignment;
-        case DriverFault::NotANumber:
-            return DiagnosticId::NotANumber;
-        case DriverFault::Overflow:
-            return DiagnosticId::Overflow;
-        case DriverFault::TakenKey:
-            return DiagnosticId::TakenKey;
-        default:
-            return DiagnosticId::Rejected;
-    }
+    const auto* const found =
+        std::find_if(std::begin(diagnosticsOfFaults), std::end(diagnosticsOfFaults),
+                     [=](const auto& entry) { return entry.first == fault; });
+    return found == std::end(diagnosticsOfFaults) ? DiagnosticId::Rejected : found->second;
 }
 
 void ViolationReport::operator()(const Violation& violation) const {

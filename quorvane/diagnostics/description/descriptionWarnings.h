@@ -9,10 +9,10 @@
 
 namespace quorvane {
 
-/// Warns of what a description says that does not do what its author wants. Measures and colors are
-/// looked up in the document that was built of it, whose elements the table has with their nodes;
-/// styles are looked up and marked as used, when there are any. Leaves marked as faulty are left
-/// out.
+/// Warns of everything in a description that does not do what its author wants. Measures and colors
+/// are looked up in the document that was built from it, whose elements the table has with their
+/// nodes. Styles, if there are any, are looked up and marked as used. Leaves marked as faulty are
+/// left out.
 void findDescriptionWarnings(const DescriptionNode& doc, CRtfDoc& document, BuiltTable& table,
                              KnownStyles* styles, const SourceText& source,
                              DiagnosticEngine& engine);

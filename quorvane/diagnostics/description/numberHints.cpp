@@ -11,6 +11,7 @@
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/values/units.h"
 #include "quorvane/diagnostics/description/measureHints.h"
+#include "quorvane/diagnostics/description/quotedValue.h"
 
 namespace quorvane {
 
@@ -87,9 +88,9 @@ Hint withPointAndUnit(std::string_view key, std::string_view value) {
     return hint.replacement ? hint : Hint();
 }
 
-}  // namespace
-
-Hint numberHint(std::string_view key, std::string_view value) {
+/// What to write for a value that does not begin with a plain number, or has an exponent; empty for
+/// any other value.
+Hint wordHint(std::string_view key, std::string_view value) {
     if (value.empty()) {
         return "the value is missing; " + acceptedNumber(key);
     }
@@ -103,11 +104,35 @@ Hint numberHint(std::string_view key, std::string_view value) {
         value.find_first_of("0123456789") != nowhere && value.find_first_of("eE") != nowhere) {
         return "the number is too large or malformed; write its digits without an exponent";
     }
-    const bool isQuoted = value.size() > 2 && value.front() == value.back() &&
-                          (value.front() == '"' || value.front() == '\'');
-    if (isQuoted && readNumber(value.substr(1, value.size() - 2))) {
-        const std::string bare(value.substr(1, value.size() - 2));
+    if (const std::string bare(withoutQuotes(value));
+        bare.size() < value.size() && readNumber(bare)) {
         return {"write the number without quotation marks: " + bare, bare};
+    }
+    return {};
+}
+
+/// What to write for a number with something after it.
+Hint unitHint(std::string_view key, std::string_view value, const NumberWithUnit& parts) {
+    if (parts.unit.starts_with(',')) {
+        return "a number has no comma and at most one decimal point; " + acceptedNumber(key);
+    }
+    if (parts.unit == "%" && key == "cell-width") {
+        const std::string alone(parts.writtenNumber);
+        return {"write only the number: " + alone, alone};
+    }
+    const LengthUnit* const unit = lengthUnitOf(parts.unit);
+    if (key == "cell-width" && (unit || lowerCase(parts.unit) == "px")) {
+        return "a cell width is a percentage of the width between the margins, not a length; write "
+               "it without a unit";
+    }
+    return unit ? lengthHint(key, parts.number, *unit, value) : acceptedNumber(key);
+}
+
+}  // namespace
+
+Hint numberHint(std::string_view key, std::string_view value) {
+    if (Hint word = wordHint(key, value); !word.empty()) {
+        return word;
     }
     const std::optional<NumberWithUnit> parts = readNumberWithUnit(value);
     if (!parts) {
@@ -119,17 +144,7 @@ Hint numberHint(std::string_view key, std::string_view value) {
     if (Hint written = withPointAndUnit(key, value); !written.empty()) {
         return written;
     }
-    if (parts->unit.starts_with(',')) {
-        return "a number has no comma and at most one decimal point; " + acceptedNumber(key);
-    }
-    if (parts->unit == "%" && key == "cell-width") {
-        const std::string alone(parts->writtenNumber);
-        return {"write only the number: " + alone, alone};
-    }
-    if (const LengthUnit* unit = lengthUnitOf(parts->unit)) {
-        return lengthHint(key, parts->number, *unit, value);
-    }
-    return acceptedNumber(key);
+    return unitHint(key, value, *parts);
 }
 
 }  // namespace quorvane

@@ -118,6 +118,9 @@ std::string explanationOf(const DiagnosticRule& rule) {
 }
 
 std::string ruleTitle(const DiagnosticRule& rule) {
+    if (!rule.title.empty()) {
+        return std::string(rule.title);
+    }
     if (rule.message == "{0}") {
         const std::string explanation = explanationOf(rule);
         return explanation.substr(0, explanation.find(". ") + 1);

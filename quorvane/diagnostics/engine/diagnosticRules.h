@@ -20,6 +20,8 @@ struct DiagnosticRule {
     CheckedLanguage language{};
     /// What the report says, with "{0}", "{1}" where it names something.
     std::string_view message{};
+    /// What it is about in general; empty where the message says it.
+    std::string_view title{};
     /// Broken into lines in the tables; see `explanationOf`.
     std::string_view explanation{};
     /// A text with the problem, and the same text corrected; see `expandedExample`. Both are empty
@@ -51,8 +53,8 @@ bool isOffByDefault(DiagnosticId id);
 /// The explanation as one paragraph without line breaks.
 std::string explanationOf(const DiagnosticRule& rule);
 
-/// What the rule is about, on one line: its message with "…" for each word that a text puts in, or
-/// the first sentence of its explanation where the message is the library's own.
+/// What the rule is about, on one line: its title; without one, its message with "…" for each word
+/// that a text puts in, or the first sentence of its explanation where the message is nothing else.
 std::string ruleTitle(const DiagnosticRule& rule);
 
 /// "error" or "warning".

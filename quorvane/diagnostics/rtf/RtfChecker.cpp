@@ -108,6 +108,14 @@ void RtfChecker::takeAfterDocument(RtfLexer::Token token) {
     if (!std::exchange(hasMore_, true)) {
         moreBegin_ = at;
     }
+    followAfterDocument(token);
+    if (hasLostText_) {
+        engine_.report(DiagnosticId::TextAfterEnd, moreBegin_);
+    }
+}
+
+/// Follows the groups after the document to know which text would be shown.
+void RtfChecker::followAfterDocument(RtfLexer::Token token) {
     const bool isShown = rest_.destination == RtfDestination::Text;
     const RtfControl& control = lexer_.control();
     switch (token) {
@@ -132,9 +140,6 @@ void RtfChecker::takeAfterDocument(RtfLexer::Token token) {
             break;
         case RtfLexer::Token::None:
             break;
-    }
-    if (hasLostText_) {
-        engine_.report(DiagnosticId::TextAfterEnd, moreBegin_);
     }
 }
 

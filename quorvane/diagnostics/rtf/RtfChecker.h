@@ -48,6 +48,7 @@ private:
     void take(RtfLexer::Token token);
     void takeBeforeDocument(RtfLexer::Token token);
     void takeAfterDocument(RtfLexer::Token token);
+    void followAfterDocument(RtfLexer::Token token);
     void takeText(std::string_view text);
     void takeControl();
     void takeWord();

@@ -15,12 +15,12 @@ namespace quorvane {
 /// it defines, and ends; right edges rise; no section ends within a row.
 class RtfTableCheck {
 public:
-    /// What a group knows of the table that its paragraph is in. A group begins with what the group
-    /// around it knows.
+    /// What a group has read of the table that its paragraph is in. A group begins with what the
+    /// group around it has read.
     struct Paragraph {
         /// The level of the table, by its last \itap.
         std::int64_t level = 1;
-        /// Whether the paragraph is in a table within a cell, and where that is said.
+        /// Whether the paragraph is in a table within a cell, and which control says so.
         bool isNested = false;
         Place nestedPlace{};
     };

@@ -44,6 +44,7 @@ doc)
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
      .message = driverErrorText(DriverFault::MissingElements),
+     .title = "The description has no row and no cell.",
      .explanation = R"(
 A description has at least one row with a cell. One of `(row`, `(r`, `(cell` and `(c`, in lower
 case, must occur in it.
@@ -131,6 +132,7 @@ doc)
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
      .message = driverErrorText(DriverFault::WrongCloser),
+     .title = "A closer does not match the node that is open.",
      .explanation = R"(
 A closer closes the node that was opened last. If another node is still open, its closer is missing
 before this line.
@@ -162,6 +164,7 @@ doc)
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
      .message = driverErrorText(DriverFault::WrongSyntax),
+     .title = "A line is not an opener, a closer, a leaf or a comment.",
      .explanation = R"(
 A line is an opener such as `(row`, a closer such as `row)`, a leaf such as `(pt=Total)`, or a
 comment, which begins with `;`. A leaf begins and ends on one line, and its value ends at the first
@@ -195,6 +198,7 @@ doc)
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
      .message = driverErrorText(DriverFault::DuplicateLeaf),
+     .title = "A node has the same key twice.",
      .explanation = R"(
 A key can occur only once in a node. The long and the short form of a key are the same key.
 )",
@@ -227,6 +231,7 @@ doc)
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
      .message = driverErrorText(DriverFault::NoDocument),
+     .title = "The description has no doc node.",
      .explanation = R"(
 The first line begins with `(doc`, but does not open a `doc` node, so there is no document.
 )",
@@ -258,6 +263,7 @@ doc)
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
      .message = driverErrorText(DriverFault::UnknownDocKey),
+     .title = "A node does not have this key.",
      .explanation = R"(
 Each kind of node has its own keys. They are written in lower case, in the long or the short form.
 )",
@@ -287,6 +293,7 @@ doc)
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
      .message = driverErrorText(DriverFault::NoRow),
+     .title = "The document has no row.",
      .explanation = R"(
 A document has at least one row.
 )",
@@ -310,6 +317,7 @@ doc)
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
      .message = driverErrorText(DriverFault::NoCell),
+     .title = "A row has no cell.",
      .explanation = R"(
 A row has at least one cell. Word processors lose a table that has a row without cells.
 )",
@@ -333,6 +341,7 @@ doc)
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
      .message = driverErrorText(DriverFault::NoParaText),
+     .title = "A paragraph has no para-text.",
      .explanation = R"(
 A paragraph must have the key `para-text`, or `pt` for short. Its value may be empty.
 )",
@@ -365,6 +374,7 @@ doc)
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
      .message = driverErrorText(DriverFault::NodeInParagraph),
+     .title = "A paragraph contains a node.",
      .explanation = R"(
 A paragraph cannot contain other nodes.
 )",
@@ -398,6 +408,7 @@ doc)
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
      .message = driverErrorText(DriverFault::WrongContext),
+     .title = "A node is inside one that cannot contain it.",
      .explanation = R"(
 A document contains rows, a row contains cells, and a cell contains paragraphs. A `doc` node cannot
 be inside another node.
@@ -507,6 +518,7 @@ doc)
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
      .message = driverErrorText(DriverFault::NotANumber),
+     .title = "The value of … is not a number.",
      .explanation = R"(
 The keys of the document, `cell-width`, `row-key`, `cell-key` and `para-key` take a number without a
 unit: digits with at most one `.`, optionally with a sign before them and an exponent after them.
@@ -535,6 +547,7 @@ doc)
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
      .message = driverErrorText(DriverFault::Overflow),
+     .title = "A number is too large.",
      .explanation = R"(
 A number is rounded to a whole number, which must fit into 32 bits. So must the measures that are
 computed from it.
@@ -563,6 +576,7 @@ doc)
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
      .message = driverErrorText(DriverFault::TakenKey),
+     .title = "Two rows, cells or paragraphs have the same key.",
      .explanation = R"(
 Two rows of a document, two cells of a row, or two paragraphs of a cell cannot have the same key.
 The key of a node without one is its number: rows count from 1001, cells from 2001 and paragraphs

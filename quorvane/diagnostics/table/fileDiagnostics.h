@@ -11,6 +11,7 @@ inline constexpr DiagnosticRule fileDiagnostics[] = {
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
      .message = "This is {0}, not {1}.",
+     .title = "The file is not a text in Windows-1252.",
      .explanation = R"(
 Descriptions and stylesheets are text files in Windows-1252, with one byte for each character. A PDF
 file, a picture, an archive, a program, the document of an office program, or a text in UTF-16
@@ -22,6 +23,7 @@ cannot be read as one. Nothing else is reported about such a file.
      .severity = Severity::Warning,
      .language = CheckedLanguage::Rtf,
      .message = "This is {0}, but its extension is {1}.",
+     .title = "The extension of the file is not that of its content.",
      .explanation = R"(
 A file is checked as what it contains, but people and programs go by its extension: `.rtfspec` for
 descriptions, `.rtfss` for stylesheets, `.rtf` for documents. Rename the file.

@@ -11,6 +11,7 @@ inline constexpr DiagnosticRule nodeWarnings[] = {
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
      .message = "{0} closes the {1} that is still open.",
+     .title = "An opener closes a node that is still open.",
      .explanation = R"(
 An opener that does not belong in the open node closes nodes until it reaches one that it belongs
 in. This also closes nodes that were meant to stay open, and skips node numbers. Close each node
@@ -140,6 +141,7 @@ doc)
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
      .message = "The alignment is lost because {0} replaces the {1}.",
+     .title = "A key in the same node takes the alignment away.",
      .explanation = R"(
 A key makes a new cell or paragraph that replaces the one being built. The alignment has been
 applied to the old one by then. If a cell has `cell-key`, align its paragraphs; if a paragraph has

@@ -191,6 +191,7 @@ doc)
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
      .message = "Together the margins are {0} twips {1}, but the paper is only {2}.",
+     .title = "The margins leave no room on the paper.",
      .explanation = R"(
 A margin is compared with the paper as it is when the margin is applied. Keys are applied in
 alphabetical order: a margin that fits the default paper, which is 12242 by 15842 twips, can be too
@@ -223,6 +224,7 @@ doc)
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
      .message = "A {0} of {1} twips is only {2} millimeters.",
+     .title = "A measure of the page is too small to be meant in twips.",
      .explanation = R"(
 The measures of the page are in twips: an inch has 1440, a centimeter 567 and a millimeter 57. Paper
 smaller than an inch or a margin smaller than two millimeters was probably meant in another unit.

@@ -154,6 +154,7 @@ Total
      .severity = Severity::Error,
      .language = CheckedLanguage::Rtf,
      .message = "The row has {0} but {1}.",
+     .title = "A row has cells without a definition.",
      .explanation = R"(
 A row has as many cells, each ended by `\cell`, as definitions, each ended by `\cellx`. Readers drop
 a cell without a definition together with its text.
@@ -176,6 +177,7 @@ a cell without a definition together with its text.
      .severity = Severity::Warning,
      .language = CheckedLanguage::Rtf,
      .message = "The row has {0} but {1}.",
+     .title = "A row has fewer cells than definitions, or empty cells without one.",
      .explanation = R"(
 A row has as many cells, each ended by `\cell`, as definitions, each ended by `\cellx`. Readers add
 empty cells if some are missing, and drop empty cells without a definition.
@@ -219,6 +221,7 @@ has none.
      .severity = Severity::Warning,
      .language = CheckedLanguage::Rtf,
      .message = "The right edge {0} is not beyond the previous one, {1}.",
+     .title = "The right edge of a cell is not beyond that of the previous one.",
      .explanation = R"(
 The right edges of the cells of a row increase from left to right. If one does not, readers choose
 the width of the cell themselves.

@@ -13,6 +13,7 @@ inline constexpr DiagnosticRule styleSheetDiagnostics[] = {
      .severity = Severity::Error,
      .language = CheckedLanguage::StyleSheet,
      .message = styleSheetErrorText(StyleSheetFault::BracesUnderflow),
+     .title = "The stylesheet has more } than {.",
      .explanation = R"(
 Each definition is enclosed in one pair of braces. Braces inside a comment count too.
 )",
@@ -28,6 +29,7 @@ Each definition is enclosed in one pair of braces. Braces inside a comment count
      .severity = Severity::Error,
      .language = CheckedLanguage::StyleSheet,
      .message = styleSheetErrorText(StyleSheetFault::BracesOverflow),
+     .title = "The stylesheet has more { than }.",
      .explanation = R"(
 Each definition is enclosed in one pair of braces. Braces inside a comment count too.
 )",
@@ -45,6 +47,7 @@ Each definition is enclosed in one pair of braces. Braces inside a comment count
      .severity = Severity::Error,
      .language = CheckedLanguage::StyleSheet,
      .message = styleSheetErrorText(StyleSheetFault::BadKeyword),
+     .title = "… is not a keyword of a stylesheet.",
      .explanation = R"(
 The first item of a definition is `name`. The others are `style-def`, `format`, `based-on`, `next`
 and `additive`. Each is followed by `:` and a value.
@@ -61,6 +64,7 @@ and `additive`. Each is followed by `:` and a value.
      .severity = Severity::Error,
      .language = CheckedLanguage::StyleSheet,
      .message = styleSheetErrorText(StyleSheetFault::BadStyleKind),
+     .title = "… is not a kind of style.",
      .explanation = R"(
 A style is a paragraph style (`s`), a character style (`cs`) or a cell style (`cell`).
 )",
@@ -76,6 +80,7 @@ A style is a paragraph style (`s`), a character style (`cs`) or a cell style (`c
      .severity = Severity::Error,
      .language = CheckedLanguage::StyleSheet,
      .message = styleSheetErrorText(StyleSheetFault::BadAdditive),
+     .title = "The value of additive is neither yes nor no.",
      .explanation = R"(
 `additive` is `yes` or `no`.
 )",

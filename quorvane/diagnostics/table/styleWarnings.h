@@ -11,6 +11,7 @@ inline constexpr DiagnosticRule styleWarnings[] = {
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
      .message = "The stylesheet has no paragraph style {0}; {1}.",
+     .title = "The stylesheet has no paragraph style ….",
      .explanation = R"(
 A paragraph whose style is not in the stylesheet gets the format of the first paragraph style, with
 the style number 0.

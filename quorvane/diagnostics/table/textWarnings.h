@@ -148,6 +148,7 @@ doc)
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
      .message = "Unmatched {0}.",
+     .title = "A brace has no counterpart.",
      .explanation = R"(
 Texts and formats are copied to the document as they are. An unmatched opening brace makes readers
 refuse the file, and an unmatched closing brace cuts the document off. `render --check` therefore
@@ -303,6 +304,7 @@ doc)
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
      .message = "{0} puts {1} into the document.",
+     .title = "The text puts an object, a link or a program into the document.",
      .explanation = R"(
 Texts and formats can embed objects, pictures and other binary data, fields that run macros, and
 links to files. If the text comes from somebody else, this is seldom what the author of the document
@@ -408,6 +410,7 @@ doc)
      .severity = Severity::Warning,
      .language = CheckedLanguage::Description,
      .message = "{0} refers to a {1} that the document does not have.",
+     .title = "… refers to a font, color or style that the document does not have.",
      .explanation = R"(
 `\f` and similar control words refer to a font by its number, 0 to 17; `\cf`, `\highlight`, `\cb`
 and similar ones to a color, 0 to 57; `\s` and `\cs` to a style of the stylesheet, numbered from

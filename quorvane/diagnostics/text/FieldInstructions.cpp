@@ -24,7 +24,7 @@ std::size_t FieldInstructions::begin(std::string_view control) {
     return instructions_.size();
 }
 
-void FieldInstructions::add(char character, const TextGroup& group, bool isWritten) {
+void FieldInstructions::take(char character, const TextGroup& group, bool isWritten) {
     const bool isSubstitute = isWritten && std::exchange(followsUnicode_, false);
     if (isWritten && substitutesLeft_ > 0) {
         --substitutesLeft_;

@@ -19,7 +19,11 @@ public:
 
     /// Adds a character to the instruction of the group, if it has one. `isWritten` is false for a
     /// character that a \u names.
-    void add(char character, const TextGroup& group, bool isWritten = true);
+    void add(char character, const TextGroup& group, bool isWritten = true) {
+        if (group.instruction > 0 || substitutesLeft_ > 0 || followsUnicode_) {
+            take(character, group, isWritten);
+        }
+    }
 
     /// Passes over the characters that stand in for the one that a \u of the group names.
     void takeUnicode(const TextGroup& group);
@@ -31,6 +35,8 @@ public:
     void report(TextReporter& reporter) const;
 
 private:
+    void take(char character, const TextGroup& group, bool isWritten);
+
     struct Instruction {
         std::string_view control;
         std::string text;

@@ -131,7 +131,8 @@ private:
             formatText_.takeCharacter(at_);
         }
         groups_.back().isFresh = groups_.back().isFresh && (character == ' ' || character == '\t');
-        at_ += findInCharacter(text_, at_, use_, reporter_);
+        const bool isPrintable = character >= ' ' && character < 0x7F;
+        at_ += isPrintable ? 1 : findInCharacter(text_, at_, use_, reporter_);
     }
 
     void openGroup() {

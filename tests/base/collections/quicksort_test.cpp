@@ -102,10 +102,10 @@ TEST(Quicksort, DoesNotRecurseDeeplyWithTheWorstPivots) {
 }
 
 TEST(Quicksort, EndsWithAComparisonThatContradictsItself) {
-    for (const int answer : {-1, 0, 1}) {
+    for (const int result : {-1, 0, 1}) {
         std::vector<int> list{3, 1, 2, 5, 4};
         quicksort(
-            list.begin(), list.end(), [answer](int, int) { return answer; }, pickMiddle);
+            list.begin(), list.end(), [result](int, int) { return result; }, pickMiddle);
         std::sort(list.begin(), list.end());
         EXPECT_EQ(list, (std::vector<int>{1, 2, 3, 4, 5}));
     }

@@ -29,14 +29,14 @@ public:
         return objects_.at(static_cast<std::size_t>(object)).interfaceName;
     }
     int objectCount() const { return static_cast<int>(objects_.size()); }
-    /// Lets go of an object. It has another number when it is met again.
+    /// Releases an object. It gets another number when it is met again.
     void releaseObject(int object);
 
 protected:
     /// Performs an operation on an object that is held.
     virtual std::string resultOf(int object, const std::string& member,
                                  const Arguments& arguments) = 0;
-    /// Lets go of what is held under the number.
+    /// Releases what is held under the number.
     virtual void release(int object) = 0;
 
     /// The number of an object that was answered before, or a new one.

@@ -13,7 +13,7 @@ namespace quorvane::host {
 struct Failure {
     /// Whether all later ones fail, too, as when a disk goes.
     bool isForGood;
-    /// What the system says of it.
+    /// The system's error.
     DWORD error;
 };
 

@@ -33,7 +33,7 @@ public:
     T* operator->() const { return object_; }
     explicit operator bool() const { return object_ != nullptr; }
 
-    /// Where a callee puts a counted reference; what was held before is let go.
+    /// Where a callee puts a counted reference; what was held before is released.
     T** out() {
         reset();
         return &object_;

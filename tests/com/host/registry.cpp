@@ -27,50 +27,63 @@ std::string valueText(DWORD type, const std::vector<BYTE>& data) {
     return text;
 }
 
-void exportValues(HKEY key, const std::string& path, std::set<std::string>& texts) {
-    std::vector<wchar_t> name(longestName);
-    std::vector<BYTE> data(usualSize);
-    for (DWORD i = 0;; ++i) {
-        DWORD length = longestName;
-        DWORD type = 0;
-        DWORD size = static_cast<DWORD>(data.size());
-        const LSTATUS status =
-            RegEnumValueW(key, i, name.data(), &length, nullptr, &type, data.data(), &size);
-        if (status == ERROR_MORE_DATA) {
-            data.resize(size);
-            --i;
-            continue;
-        }
-        if (status != ERROR_SUCCESS) {
-            return;
-        }
-        texts.insert(path + "|" + utf8Text({name.data(), length}) + "=" +
-                     valueText(type, {data.begin(), data.begin() + size}));
-    }
-}
-
 // Upper and lower case make no difference, and Wine is not of one mind about this key.
 std::string keyName(std::wstring_view name) {
     return name == L"Typelib" ? "TypeLib" : utf8Text(name);
 }
 
-void exportKey(HKEY key, const std::string& path, std::set<std::string>& texts) {
-    texts.insert(path);
-    exportValues(key, path, texts);
-    wchar_t name[256];
-    for (DWORD i = 0;; ++i) {
+/// Exports keys. The registry has many, and each call takes a while: none is made for what a key
+/// does not have.
+class RegistryReader {
+public:
+    explicit RegistryReader(std::set<std::string>& texts) : texts_(texts) {}
+
+    void exportKey(HKEY key, const std::string& path) {
+        texts_.insert(path);
+        DWORD children = 0;
+        DWORD values = 0;
+        RegQueryInfoKeyW(key, nullptr, nullptr, nullptr, &children, nullptr, nullptr, &values,
+                         nullptr, nullptr, nullptr, nullptr);
+        for (DWORD i = 0; i < values; ++i) {
+            exportValue(key, i, path);
+        }
+        for (DWORD i = 0; i < children; ++i) {
+            exportChild(key, i, path);
+        }
+    }
+
+private:
+    void exportValue(HKEY key, DWORD index, const std::string& path) {
+        DWORD length = longestName;
+        DWORD type = 0;
+        DWORD size = static_cast<DWORD>(data_.size());
+        const LSTATUS status =
+            RegEnumValueW(key, index, name_.data(), &length, nullptr, &type, data_.data(), &size);
+        if (status == ERROR_MORE_DATA) {
+            data_.resize(size);
+            exportValue(key, index, path);
+        } else if (status == ERROR_SUCCESS) {
+            texts_.insert(path + "|" + utf8Text({name_.data(), length}) + "=" +
+                          valueText(type, {data_.begin(), data_.begin() + size}));
+        }
+    }
+
+    void exportChild(HKEY key, DWORD index, const std::string& path) {
+        wchar_t name[256];
         DWORD length = 256;
         HKEY child = nullptr;
-        if (RegEnumKeyExW(key, i, name, &length, nullptr, nullptr, nullptr, nullptr) !=
-            ERROR_SUCCESS) {
-            return;
-        }
-        if (RegOpenKeyExW(key, name, 0, KEY_READ, &child) == ERROR_SUCCESS) {
-            exportKey(child, path + "\\" + keyName({name, length}), texts);
+        if (RegEnumKeyExW(key, index, name, &length, nullptr, nullptr, nullptr, nullptr) ==
+                ERROR_SUCCESS &&
+            RegOpenKeyExW(key, name, 0, KEY_READ, &child) == ERROR_SUCCESS) {
+            exportKey(child, path + "\\" + keyName({name, length}));
             RegCloseKey(child);
         }
     }
-}
+
+    std::set<std::string>& texts_;
+    std::vector<wchar_t> name_ = std::vector<wchar_t>(longestName);
+    std::vector<BYTE> data_ = std::vector<BYTE>(usualSize);
+};
 
 }  // namespace
 
@@ -78,7 +91,7 @@ std::set<std::string> registryExport(HKEY root, const std::wstring& path) {
     std::set<std::string> texts;
     HKEY key = nullptr;
     if (RegOpenKeyExW(root, path.c_str(), 0, KEY_READ, &key) == ERROR_SUCCESS) {
-        exportKey(key, utf8Text(path), texts);
+        RegistryReader(texts).exportKey(key, utf8Text(path));
         RegCloseKey(key);
     }
     return texts;

@@ -17,10 +17,10 @@ using testing::StartsWith;
 /// The diagnostics, each as its line, its identifier and its hint.
 std::vector<std::string> found(const std::string& text) {
     std::vector<std::string> list;
-    for (const Diagnostic& finding : checkDescription(text)) {
-        list.push_back(std::to_string(finding.place.line) + " " +
-                       std::string(diagnosticRule(finding.id).identifier) +
-                       (finding.hint.empty() ? "" : ": " + finding.hint));
+    for (const Diagnostic& diagnostic : checkDescription(text)) {
+        list.push_back(std::to_string(diagnostic.place.line) + " " +
+                       std::string(diagnosticRule(diagnostic.id).identifier) +
+                       (diagnostic.hint.empty() ? "" : ": " + diagnostic.hint));
     }
     return list;
 }
@@ -41,23 +41,23 @@ TEST(DescriptionCheck, KnowsTheMarkOfUtf8) {
 
 TEST(DescriptionCheck, GoesOnAfterTheMarkOfUtf8) {
     for (const char* between : {"", "\n", "; mine\n", " "}) {
-        const std::vector<std::string> findings =
+        const std::vector<std::string> diagnostics =
             found("\xC3\xAF\xC2\xBB\xC2\xBF" + std::string(between) +
                   "(doc\n(r\n(c\n(p\n(pt=a)\n(pa=centre)\np)\nc)\nr)\ndoc)\n");
-        ASSERT_EQ(findings.size(), 2U) << between;
-        EXPECT_THAT(findings[0],
+        ASSERT_EQ(diagnostics.size(), 2U) << between;
+        EXPECT_THAT(diagnostics[0],
                     StartsWith("1 wrong-root: the file begins with a UTF-8 byte order mark"));
-        EXPECT_THAT(findings[1], EndsWith(" wrong-alignment: did you mean centered?"));
+        EXPECT_THAT(diagnostics[1], EndsWith(" wrong-alignment: did you mean centered?"));
     }
 }
 
 TEST(DescriptionCheck, ReportsEachCharacterThatBecomesAQuestionMark) {
     // A host's text, which is in UTF-8 and read as such.
-    const std::vector<Diagnostic> findings = checkDescription(
+    const std::vector<Diagnostic> diagnostics = checkDescription(
         "(doc\n(r\n(c\n(p\n(pt=\xE2\x86\x92\xE2\x86\x92)\np)\nc)\nr)\ndoc)\n", nullptr);
-    ASSERT_EQ(findings.size(), 2U);
-    for (const Diagnostic& finding : findings) {
-        EXPECT_EQ(finding.message, "\xE2\x86\x92 is not in Windows-1252; it will appear as ?.");
+    ASSERT_EQ(diagnostics.size(), 2U);
+    for (const Diagnostic& diagnostic : diagnostics) {
+        EXPECT_EQ(diagnostic.message, "\xE2\x86\x92 is not in Windows-1252; it will appear as ?.");
     }
 }
 
@@ -177,10 +177,10 @@ TEST(DescriptionCheck, ReportsEveryWidthThatTheTableCannotHold) {
     for (int i = 0; i < 25; ++i) {
         cells += "(c\n(cw=2000000000)\nc)\n";
     }
-    const std::vector<std::string> findings = found("(doc\n(r\n" + cells + "r)\ndoc)\n");
-    ASSERT_EQ(findings.size(), 25u);
-    EXPECT_EQ(findings.front(), "4 overflow");
-    EXPECT_EQ(findings.back(), "76 overflow");
+    const std::vector<std::string> diagnostics = found("(doc\n(r\n" + cells + "r)\ndoc)\n");
+    ASSERT_EQ(diagnostics.size(), 25u);
+    EXPECT_EQ(diagnostics.front(), "4 overflow");
+    EXPECT_EQ(diagnostics.back(), "76 overflow");
 }
 
 TEST(DescriptionCheck, KnowsTheLongNameOfADocument) {
@@ -203,30 +203,30 @@ TEST(DescriptionCheck, SaysToWhichNodeAKeyBelongs) {
 }
 
 TEST(DescriptionCheck, CountsColumnsInCharacters) {
-    const std::vector<Diagnostic> findings =
+    const std::vector<Diagnostic> diagnostics =
         checkDescription("(doc\n(r\n(c\n(p\n(pt=\xC3\xA9\xC3\xA9})\np)\nc)\nr)\ndoc)\n");
-    ASSERT_EQ(findings.size(), 1u);
-    EXPECT_EQ(findings[0].place.line, 5);
-    EXPECT_EQ(findings[0].place.column, 7);
-    EXPECT_EQ(findings[0].place.length, 1);
-    EXPECT_EQ(findings[0].place.offset, 20);
+    ASSERT_EQ(diagnostics.size(), 1u);
+    EXPECT_EQ(diagnostics[0].place.line, 5);
+    EXPECT_EQ(diagnostics[0].place.column, 7);
+    EXPECT_EQ(diagnostics[0].place.length, 1);
+    EXPECT_EQ(diagnostics[0].place.offset, 20);
 }
 
 TEST(DescriptionCheck, FindsTheCharactersThatTheCodePageCannotHold) {
-    const std::vector<Diagnostic> findings = checkDescription(
+    const std::vector<Diagnostic> diagnostics = checkDescription(
         "(doc\n(r\n(c\n(p\n(pt=\xE2\x86\x92 \xF0\x9F\x98\x80 \xE2\x82\xAC)\np)\nc)\nr)\ndoc)\n");
-    ASSERT_EQ(findings.size(), 2u);
-    EXPECT_EQ(findings[0].id, DiagnosticId::UnencodableCharacter);
-    EXPECT_EQ(findings[0].hint, "write {\\uc1\\u8594?}");
-    EXPECT_EQ(findings[1].id, DiagnosticId::UnencodableCharacter);
-    EXPECT_EQ(findings[1].hint, "write {\\uc1\\u-10179?\\u-8704?}");
+    ASSERT_EQ(diagnostics.size(), 2u);
+    EXPECT_EQ(diagnostics[0].id, DiagnosticId::UnencodableCharacter);
+    EXPECT_EQ(diagnostics[0].hint, "write {\\uc1\\u8594?}");
+    EXPECT_EQ(diagnostics[1].id, DiagnosticId::UnencodableCharacter);
+    EXPECT_EQ(diagnostics[1].hint, "write {\\uc1\\u-10179?\\u-8704?}");
 }
 
 TEST(DescriptionCheck, KnowsWhatATextBringsAlong) {
     const auto isEmbedding = [](const std::string& text) {
-        for (const Diagnostic& finding :
+        for (const Diagnostic& diagnostic :
              checkDescription("(doc\n(r\n(c\n(p\n(pt=" + text + ")\np)\nc)\nr)\ndoc)\n")) {
-            if (finding.id == DiagnosticId::EmbeddedContent) {
+            if (diagnostic.id == DiagnosticId::EmbeddedContent) {
                 return true;
             }
         }

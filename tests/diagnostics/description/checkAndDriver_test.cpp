@@ -64,9 +64,8 @@ protected:
         }
     }
 
-    /// A misspelled para-text is reported instead of the text that is missing then. A node that
-    /// stands where it may not goes by the rules of its own kind, in the driver by those of its
-    /// place.
+    /// A misspelled para-text is reported instead of the text that is missing then. The check
+    /// applies the rules of its kind to a misplaced node, the driver those of its place.
     static bool isReportedOtherwise(const RtfError& error,
                                     const std::vector<Diagnostic>& diagnostics) {
         const bool lacksText = error.description == driverErrorText(DriverFault::NoParaText);

@@ -46,7 +46,10 @@ TEST(NumberHints, TakeTwipsFromAfterTheirNumber) {
 }
 
 TEST(NumberHints, ReckonNoUnitForKeysThatTakeNoLength) {
-    EXPECT_EQ(said("cell-width", "5cm"), perCent);
+    EXPECT_EQ(
+        said("cell-width", "5cm"),
+        "a cell width is a percentage of the width between the margins, not a length; write it "
+        "without a unit");
     EXPECT_EQ(said("row-key", "5cm"), "write a number");
 }
 
@@ -57,7 +60,7 @@ TEST(NumberHints, TakeThePerCentSignFromAWidthAlone) {
 
 TEST(NumberHints, KnowNoOtherUnit) {
     EXPECT_EQ(said("paper-width", "12px"), twips);
-    EXPECT_EQ(said("cell-width", "12px"), perCent);
+    EXPECT_EQ(said("cell-width", "5 columns"), perCent);
 }
 
 TEST(NumberHints, KnowTheSizesOfPaper) {

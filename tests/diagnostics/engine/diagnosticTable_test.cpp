@@ -76,6 +76,25 @@ TEST(DiagnosticTable, NamesEachKindOnceAndInLowerCase) {
     EXPECT_EQ(findDiagnosticRule("no-such-thing"), nullptr);
 }
 
+TEST(DiagnosticTable, GivesEveryDiagnosticATitleOfItsOwn) {
+    std::set<std::string> titles;
+    for (const DiagnosticRule& rule : diagnosticRules()) {
+        // Both are about whatever else the library rejects.
+        const bool isAboutTheRest =
+            rule.id == DiagnosticId::Rejected || rule.id == DiagnosticId::StyleSheetRejected;
+        EXPECT_TRUE(isAboutTheRest || titles.insert(ruleTitle(rule)).second) << rule.identifier;
+    }
+}
+
+TEST(DiagnosticTable, TakesItsTitleOrItsMessageOrItsExplanation) {
+    EXPECT_EQ(ruleTitle(diagnosticRule(DiagnosticId::Overflow)), "A number is too large.");
+    EXPECT_EQ(ruleTitle(diagnosticRule(DiagnosticId::WrongColor)),
+              "\xE2\x80\xA6 isn't a recognized color.");
+    EXPECT_EQ(
+        ruleTitle(diagnosticRule(DiagnosticId::Rejected)),
+        "The library rejects the description with an error that has no diagnostic of its own.");
+}
+
 TEST(DiagnosticTable, RepeatsLinesOfExamples) {
     EXPECT_EQ(expandedExample("a\n; 3 times:\nb\nc\n; so far\nd\n"), "a\nb\nc\nb\nc\nb\nc\nd\n");
     EXPECT_EQ(expandedExample("; three times:\na\n"), "; three times:\na\n");

@@ -173,7 +173,7 @@ TEST(RtfCheck, WantsRisingEdgesAndAnEndOfEachRow) {
 }
 
 TEST(RtfCheck, MarksTheRowThatIsNotEnded) {
-    // The second row goes by the definition of the first.
+    // The second row has the definition of the first.
     EXPECT_THAT(found(documentOf("\\trowd\\cellx9 a\\cell\\row b\\cell")),
                 ElementsAre("2:27+5@94 unended-row"));
     // The first row ends where the definition of the second has a cell.

@@ -17,10 +17,10 @@ using testing::IsEmpty;
 std::vector<std::string> found(const std::string& text, TextUse use = TextUse::Text) {
     std::vector<std::string> list;
     const SourceText source(text);
-    DiagnosticEngine engine([&](const Diagnostic& finding) {
-        list.push_back(std::to_string(finding.place.column) + " " +
-                       std::string(diagnosticRule(finding.id).identifier) +
-                       (finding.hint.empty() ? "" : ": " + finding.hint));
+    DiagnosticEngine engine([&](const Diagnostic& diagnostic) {
+        list.push_back(std::to_string(diagnostic.place.column) + " " +
+                       std::string(diagnosticRule(diagnostic.id).identifier) +
+                       (diagnostic.hint.empty() ? "" : ": " + diagnostic.hint));
     });
     findTextWarnings(source.text(), use, nullptr, source, engine);
     return list;
@@ -30,7 +30,8 @@ std::vector<std::string> found(const std::string& text, TextUse use = TextUse::T
 std::vector<std::string> messages(const std::string& text) {
     std::vector<std::string> list;
     const SourceText source(text);
-    DiagnosticEngine engine([&](const Diagnostic& finding) { list.push_back(finding.message); });
+    DiagnosticEngine engine(
+        [&](const Diagnostic& diagnostic) { list.push_back(diagnostic.message); });
     findTextWarnings(source.text(), TextUse::Text, nullptr, source, engine);
     return list;
 }

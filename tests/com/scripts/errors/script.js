@@ -3,7 +3,7 @@ var document = new ActiveXObject("Quorvane.CRtfDoc");
 var driver = new ActiveXObject("Quorvane.CRtfDriver");
 var rows = document.TableRows;
 
-function tell(what, action) {
+function report(what, action) {
     var number = 0;
     var description = "";
     try {
@@ -16,17 +16,17 @@ function tell(what, action) {
     WScript.Echo(what + ": " + number + " " + description);
 }
 
-tell("no such row", function () { rows.Remove(1); });
+report("no such row", function () { rows.Remove(1); });
 rows.AddTail("key");
-tell("key twice", function () { rows.AddTail("KEY"); });
-tell("key of a wrong type", function () { rows.AddTail(7); });
-tell("no cells", function () { rows(1).TableCells.SetUniformWidths(); });
+report("key twice", function () { rows.AddTail("KEY"); });
+report("key of a wrong type", function () { rows.AddTail(7); });
+report("no cells", function () { rows(1).TableCells.SetUniformWidths(); });
 rows(1).TableCells.AddTail();
-tell("too wide", function () { rows(1).TableCells(1).Width(0) = 300000; });
-tell("braces", function () { document.LoadStyleSheetFromMemmory("{name: x"); });
-tell("no path", function () { driver.ParseFile(""); });
-tell("no file", function () { driver.ParseFile("Z:\\no such file"); });
-tell("braces again", function () { driver.LoadStyleSheetFromMemmory("{name: x"); });
+report("too wide", function () { rows(1).TableCells(1).Width(0) = 300000; });
+report("braces", function () { document.LoadStyleSheetFromMemmory("{name: x"); });
+report("no path", function () { driver.ParseFile(""); });
+report("no file", function () { driver.ParseFile("Z:\\no such file"); });
+report("braces again", function () { driver.LoadStyleSheetFromMemmory("{name: x"); });
 try {
     new Enumerator(rows);
     WScript.Echo("a row");
@@ -38,6 +38,6 @@ document.Changed = false;
 WScript.Echo("rows", document.TableRows.Count, "old rows", rows.Count);
 document = null;
 CollectGarbage();
-tell("no document", function () { rows.AddTail(); });
+report("no document", function () { rows.AddTail(); });
 document = new ActiveXObject("Quorvane.CRtfDoc");
-tell("committed", function () { document.Commit(WScript.Arguments(0)); });
+report("committed", function () { document.Commit(WScript.Arguments(0)); });

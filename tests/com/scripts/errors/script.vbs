@@ -5,7 +5,7 @@ Set document = CreateObject("Quorvane.CRtfDoc")
 Set driver = CreateObject("Quorvane.CRtfDriver")
 Set rows = document.TableRows
 
-Sub Tell(what)
+Sub Report(what)
   Dim number, description
   number = Err.Number
   description = Err.Description
@@ -16,25 +16,25 @@ End Sub
 
 On Error Resume Next
 rows.Remove 1
-Tell "no such row"
+Report "no such row"
 rows.AddTail "key"
 rows.AddTail "KEY"
-Tell "key twice"
+Report "key twice"
 rows.AddTail 7
-Tell "key of a wrong type"
+Report "key of a wrong type"
 rows(1).TableCells.SetUniformWidths
-Tell "no cells"
+Report "no cells"
 rows(1).TableCells.AddTail
 rows(1).TableCells(1).Width(0) = 300000
-Tell "too wide"
+Report "too wide"
 document.LoadStyleSheetFromMemmory "{name: x"
-Tell "braces"
+Report "braces"
 driver.ParseFile ""
-Tell "no path"
+Report "no path"
 driver.ParseFile "Z:\no such file"
-Tell "no file"
+Report "no file"
 driver.LoadStyleSheetFromMemmory "{name: x"
-Tell "braces again"
+Report "braces again"
 For Each row In rows
 Next
 If Err.Number <> 0 Then WScript.Echo "rows have no standard enumerator"
@@ -44,7 +44,7 @@ document.Changed = False
 WScript.Echo "rows", document.TableRows.Count, "old rows", rows.Count
 Set document = Nothing
 rows.AddTail
-Tell "no document"
+Report "no document"
 Set document = CreateObject("Quorvane.CRtfDoc")
 document.Commit WScript.Arguments(0)
-Tell "committed"
+Report "committed"

@@ -6,7 +6,7 @@ Set connector = CreateObject("QuorvaneTests.EventConnector")
 description = "(doc" & vbLf & "(r" & vbLf & "(c" & vbLf & "(cb=Crimson)" & vbLf & "(ctb=thin)" & vbLf & _
               "(p" & vbLf & "(pt=x)" & vbLf & "p)" & vbLf & "c)" & vbLf & "r)" & vbLf & "doc)"
 
-' Its default member, since Wine's engine does not tell the names of a class's members.
+' Its default member, since Wine's engine does not report the names of a class's members.
 Class Handler
   Public Default Sub notifyError(Sender)
     WScript.Echo "event", Sender Is driver, connector.HelpContext, connector.Description
