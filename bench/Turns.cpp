@@ -26,10 +26,9 @@ Median medianOf(std::vector<double> values) {
 }
 
 double medianOf(const std::vector<Run>& runs, double Run::*measure) {
-    std::vector<double> values;
-    for (const Run& run : runs) {
-        values.push_back(run.*measure);
-    }
+    std::vector<double> values(runs.size());
+    std::transform(runs.begin(), runs.end(), values.begin(),
+                   [measure](const Run& run) { return run.*measure; });
     return medianOf(std::move(values)).value;
 }
 

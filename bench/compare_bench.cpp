@@ -24,7 +24,7 @@ struct Job {
 };
 
 std::vector<Job> jobsFor(const BenchFiles& files) {
-    const auto quorvane = [](Command arguments) {
+    const auto quorvane = [](const Command& arguments) {
         return [arguments](const std::string& programs, const std::string& out) {
             Command command = {programs + "/quorvane"};
             for (const std::string& argument : arguments) {

@@ -97,7 +97,7 @@ public:
 
     void compareStandardJob(const char* where) {
         const std::string rows = std::to_string(standardRows);
-        const auto run = [&](Command how) {
+        const auto run = [&](const Command& how) {
             return [&, how](const std::string& out) {
                 Command command = {programs_("table_bench"), rows, out + "/standard.rtf"};
                 command.insert(command.end(), how.begin(), how.end());
