@@ -165,7 +165,7 @@ private:
 
 TEST(Growth, OfTakenKeysIsProportional) {
     expectProportional(
-        [](std::size_t size) { EXPECT_EQ(ParagraphsWithATakenKey(size).build(), size - 1); }, 1000);
+        [](std::size_t size) { EXPECT_EQ(ParagraphsWithATakenKey(size).build(), size - 1); }, 4000);
 }
 
 TEST(Growth, OfAStylesheetIsProportional) {
