@@ -10,7 +10,7 @@ namespace quorvane::cli {
 
 namespace {
 
-constexpr std::size_t mostEventsOfShortReport = 100;
+constexpr std::size_t maxEventsOfShortReport = 100;
 
 }  // namespace
 
@@ -44,7 +44,7 @@ bool SideBySideRendering::render(Thread& thread, std::size_t task) {
     Result& result = resultOf(task);
     result.status = thread.worker.render(assignments_[task]);
     result.events = std::exchange(thread.events, {});
-    return result.events.size() > mostEventsOfShortReport;
+    return result.events.size() > maxEventsOfShortReport;
 }
 
 void SideBySideRendering::deliver(std::size_t task) {

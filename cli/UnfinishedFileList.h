@@ -18,7 +18,7 @@ public:
 
     void remove(UnfinishedPath& file) noexcept {
         const std::lock_guard lock(mutex_);
-        // There are as many as threads that write.
+        // The list has one entry for each thread that is writing.
         UnfinishedPath** link = &first_;
         while (*link && *link != &file) {
             link = &(*link)->next;

@@ -172,6 +172,9 @@ void requireValueAfterSign(const std::string& argument) {
     }
     if (argument.starts_with('-') && argument[1] != '-' && sign == 2) {
         const std::string option = argument.substr(0, sign);
+        if (sign + 1 == argument.size()) {
+            throw UsageError(argument + " needs a value");
+        }
         throw UsageError("write " + option + " " + argument.substr(sign + 1) + " instead of " +
                          argument);
     }
@@ -260,12 +263,12 @@ void refuseEmptyValues(CLI::App& app) {
 
 /// What is wrong with a number of jobs; empty if it is one.
 std::string wrongJobs(const std::string& value) {
-    constexpr std::size_t mostJobs = 1024;
-    const bool isShort = value.size() <= std::to_string(mostJobs).size();
+    constexpr std::size_t maxJobs = 1024;
+    const bool isShort = value.size() <= std::to_string(maxJobs).size();
     const bool isNumber = value.find_first_not_of("0123456789") == std::string::npos;
-    return isShort && isNumber && std::stoul(value) <= mostJobs
+    return isShort && isNumber && std::stoul(value) <= maxJobs
                ? std::string()
-               : asGiven(value) + " is not a number from 0 to " + std::to_string(mostJobs);
+               : asGiven(value) + " is not a number from 0 to " + std::to_string(maxJobs);
 }
 
 void addStdinFilename(CLI::App& app, std::optional<std::string>& target) {

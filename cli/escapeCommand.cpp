@@ -32,6 +32,9 @@ public:
         if (text.starts_with(byteOrderMark)) {
             text.remove_prefix(byteOrderMark.size());
         }
+        if (!escaped_.empty() && escaped_.back() != '\n') {
+            escaped_ += '\n';
+        }
         for (int number = 1; !text.empty(); ++number) {
             const std::size_t end = std::min(text.find('\n'), text.size());
             const std::size_t length =

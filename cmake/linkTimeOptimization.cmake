@@ -7,7 +7,7 @@ option(QUORVANE_LTO "Optimize the library when linking, in release builds with G
 
 set(QUORVANE_USES_LTO OFF)
 if(QUORVANE_LTO AND CMAKE_BUILD_TYPE STREQUAL "Release" AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU"
-   AND NOT WIN32)
+   AND NOT WIN32 AND CMAKE_OBJCOPY)
     include(CheckIPOSupported)
     check_ipo_supported(RESULT QUORVANE_USES_LTO OUTPUT output LANGUAGES CXX)
 endif()
@@ -25,9 +25,13 @@ endfunction()
 # same version of GCC can read, and what they would use unasked.
 function(install_machine_code_only target)
     if(QUORVANE_USES_LTO)
+        set(folder "\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}")
+        if(IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}")
+            set(folder "${CMAKE_INSTALL_LIBDIR}")
+        endif()
         install(CODE "execute_process(COMMAND \"${CMAKE_OBJCOPY}\"
             --remove-section=.gnu.lto_* --remove-section=.gnu.debuglto_*
-            \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/$<TARGET_FILE_NAME:${target}>\"
+            \"\$ENV{DESTDIR}${folder}/$<TARGET_FILE_NAME:${target}>\"
             COMMAND_ERROR_IS_FATAL ANY)")
     endif()
 endfunction()

@@ -95,10 +95,8 @@ tCellAlign CRtfTableCell::Align() const {
 }
 
 void CRtfTableCell::setAlign(tCellAlign align) {
-    published([&] {
-        beforeChange(inner(*this).document());
-        inner(*this).setAlign(align);
-    });
+    beforeChange(inner(*this).document());
+    inner(*this).setAlign(align);
 }
 
 std::string CRtfTableCell::Style() const {

@@ -52,6 +52,8 @@ void InnerCell::operator delete(InnerCell* cell, std::destroying_delete_t) noexc
     if (cell->hasRareValues_) {
         memory.rareValues.erase(cell);
     }
+    // While the cell is whole: paragraphs find their memory through it.
+    cell->paragraphs().clear();
     cell->~InnerCell();
     memory.pool.deallocate(cell, sizeof(InnerCell));
 }

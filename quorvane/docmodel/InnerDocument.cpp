@@ -8,6 +8,7 @@
 #include "quorvane/docmodel/TableRendering.h"
 #include "quorvane/docmodel/measures.h"
 #include "quorvane/support/GFileSystem.h"
+#include "quorvane/support/published.h"
 
 namespace quorvane {
 
@@ -179,7 +180,8 @@ void InnerDocument::keepText() {
 
 void InnerDocument::refuseWhileWriting() const {
     if (textState_ == TextState::BeingWritten) {
-        raise(RunTimeError::InvalidProcedureCall);
+        // Some of the procedures that call this have no other error.
+        published([] { raise(RunTimeError::InvalidProcedureCall); });
     }
 }
 

@@ -18,6 +18,7 @@ public:
     TableDocument* document() const noexcept { return documentOf(cell()); }
     void insertNew(const List::Place& place, TableDocument& document);
     void removeAt(std::size_t position) noexcept;
+    void clear() noexcept { list_.clear(); }
     void takeFrom(InnerParagraphs& other);
     void setForeColors(tColorIndex color) noexcept;
     void setAligns(tCellAlign align) noexcept;

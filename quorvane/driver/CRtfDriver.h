@@ -57,7 +57,7 @@ public:
     /// Whether an analysis takes descriptions with any characters. Then those that Windows-1252
     /// lacks become control words in the texts of paragraphs (`{\uc1\u345?}` for ř); in keys, names
     /// of styles and data of marked fields they are errors `eWrongValue`. Initially false: they are
-    /// kept, and written as "?".
+    /// kept, and written as "?". Bytes that are not UTF-8 are written as "?" in any case.
     bool UnicodeTexts() const { return unicodeTexts_; }
     void setUnicodeTexts(bool accept) { unicodeTexts_ = accept; }
 

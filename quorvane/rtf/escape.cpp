@@ -12,10 +12,10 @@ namespace quorvane {
 
 namespace {
 
-std::string hexadecimal(std::uint32_t number, int fewestDigits) {
+std::string hexadecimal(std::uint32_t number, int minDigits) {
     constexpr std::string_view digits = "0123456789ABCDEF";
     std::string text;
-    for (; number > 0 || fewestDigits > 0; number /= 16, --fewestDigits) {
+    for (; number > 0 || minDigits > 0; number /= 16, --minDigits) {
         text.insert(text.begin(), digits[number % 16]);
     }
     return text;

@@ -3,28 +3,29 @@
 #include <cstdint>
 
 #include "quorvane/base/text/codePage1252.h"
+#include "quorvane/base/text/utf16Units.h"
 #include "quorvane/base/text/utf8.h"
 
 namespace quorvane {
 
 namespace {
 
-void appendUnit(std::uint32_t unit, std::string& rtf) {
-    rtf += "\\u" + std::to_string(static_cast<std::int16_t>(unit)) + "?";
-}
-
+/// False for bytes that are not UTF-8, which no control word can stand for.
 bool isBeyondCodePage1252(std::string_view character) {
-    return codePage1252FromUtf8(character) == "?" && character != "?";
+    const char32_t code = utf8CharacterAt(character, 0).code;
+    const bool isCharacter = code < strayByte && (code < 0xD800 || code >= 0xE000);
+    return isCharacter && character != "?" && codePage1252FromUtf8(character) == "?";
 }
 
 }  // namespace
 
 void appendUnicodeWords(char32_t code, std::string& rtf) {
-    if (code > 0xFFFF) {
-        appendUnit(0xD800 + ((code - 0x10000) >> 10U), rtf);
-        appendUnit(0xDC00 + ((code - 0x10000) & 0x3FFU), rtf);
-    } else {
-        appendUnit(code, rtf);
+    std::string character;
+    appendUtf8(code, character);
+    std::u32string units;
+    appendUtf16Units(character, units);
+    for (const char32_t unit : units) {
+        rtf += "\\u" + std::to_string(static_cast<std::int16_t>(unit)) + "?";
     }
 }
 

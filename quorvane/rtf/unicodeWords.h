@@ -11,11 +11,11 @@ namespace quorvane {
 /// units, signed as readers expect them.
 void appendUnicodeWords(char32_t code, std::string& rtf);
 
-/// The text with each run of characters that Windows-1252 lacks as a group `{\uc1\uN?…}`; all
-/// others stay as they are.
+/// Returns the text with each run of characters that Windows-1252 lacks as a group `{\uc1\uN?…}`.
+/// All others stay as they are, and so do bytes that are not UTF-8.
 std::string withUnicodeWords(std::string_view text);
 
-/// The first character of a text that Windows-1252 lacks; nothing when it has all of them.
+/// Returns the first character of a text that Windows-1252 lacks; nothing when it has all of them.
 std::optional<std::string_view> findBeyondCodePage1252(std::string_view text);
 
 }  // namespace quorvane

@@ -41,6 +41,8 @@ TEST_F(EscapeTest, ReadsFiles) {
     folder.write("a.txt", "{\n");
     start.input = "}\n";
     EXPECT_EQ(run({"a.txt", "-", "a.txt"}).output, "\\{\n\\}\n\\{\n");
+    folder.write("b.txt", "b");
+    EXPECT_EQ(run({"b.txt", "a.txt", "b.txt"}).output, "b\n\\{\nb");
 }
 
 TEST_F(EscapeTest, WritesNothingWhereALineCannotBeShown) {

@@ -88,11 +88,11 @@ TEST(TasksInOrder, DoNotRunAheadOfOneThatTakesLong) {
     std::atomic<std::size_t> begun = 0;
     std::atomic<std::size_t> done = 0;
     std::atomic<std::size_t> delivered = 0;
-    std::atomic<std::size_t> mostUnderWay = 0;
+    std::atomic<std::size_t> maxUnderWay = 0;
     const auto work = [&](std::size_t, std::size_t task) {
         const std::size_t underWay = ++begun - delivered;
-        std::size_t most = mostUnderWay;
-        while (underWay > most && !mostUnderWay.compare_exchange_weak(most, underWay)) {
+        std::size_t most = maxUnderWay;
+        while (underWay > most && !maxUnderWay.compare_exchange_weak(most, underWay)) {
         }
         // Every hundredth goes on only when all are done that can be done before it is.
         const std::size_t withIt = std::min(count - task, tasksUnderWay(threads));
@@ -106,7 +106,7 @@ TEST(TasksInOrder, DoNotRunAheadOfOneThatTakesLong) {
     doInOrder({count, threads, work, [&](std::size_t) { ++delivered; }});
 
     EXPECT_EQ(delivered, count);
-    EXPECT_EQ(mostUnderWay, tasksUnderWay(threads));
+    EXPECT_EQ(maxUnderWay, tasksUnderWay(threads));
 }
 
 TEST(TasksInOrder, WaitForTheDeliveryOfALargeResult) {

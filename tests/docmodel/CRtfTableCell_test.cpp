@@ -145,6 +145,16 @@ TEST_F(TableCell, KeepsAnyColorAndAlignment) {
     }
 }
 
+TEST_F(TableCell, LeavesTheCurrentErrorWhenItsAlignmentIsSet) {
+    const Ref<CRtfTableCell> cell(first());
+    setCurrentError(RtfError(RunTimeError::Overflow));
+    cell->setAlign(eRight);
+    cell->setAlign(static_cast<tCellAlign>(1000));
+    ASSERT_NE(currentError(), nullptr);
+    EXPECT_TRUE(currentError()->is(RunTimeError::Overflow));
+    clearCurrentError();
+}
+
 TEST_F(TableCell, KeepsItsMarkedFieldAndUnusualValuesApart) {
     first()->asMarkedField("A");
     const std::string marked = cellsText();

@@ -16,6 +16,7 @@ TEST(UnicodeWords, StandForRunsOfCharactersThatWindows1252Lacks) {
 TEST(UnicodeWords, LeaveOtherTextsAsTheyAre) {
     EXPECT_EQ(withUnicodeWords(""), "");
     EXPECT_EQ(withUnicodeWords("what? \u00E9\u2026"), "what? \u00E9\u2026");
+    EXPECT_EQ(withUnicodeWords("a\xFF\xED\xA0\x80z"), "a\xFF\xED\xA0\x80z");
 }
 
 TEST(UnicodeWords, AreForTheCharactersThatWindows1252Lacks) {

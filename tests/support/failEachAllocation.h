@@ -18,7 +18,7 @@ inline thread_local long living = 0;
 
 // The memory in these, and the most that there was at once.
 inline thread_local long livingBytes = 0;
-inline thread_local long mostBytes = 0;
+inline thread_local long maxBytes = 0;
 
 }  // namespace failingAllocations
 
@@ -61,9 +61,9 @@ private:
 template <class Call>
 long mostMemoryOf(Call&& call) {
     const long before = failingAllocations::livingBytes;
-    failingAllocations::mostBytes = before;
+    failingAllocations::maxBytes = before;
     call();
-    return failingAllocations::mostBytes - before;
+    return failingAllocations::maxBytes - before;
 }
 
 }  // namespace quorvane

@@ -24,7 +24,7 @@ inline void* allocate(std::size_t size) {
     if (memory) {
         ++living;
         livingBytes += static_cast<long>(::malloc_usable_size(memory));
-        mostBytes = std::max(mostBytes, livingBytes);
+        maxBytes = std::max(maxBytes, livingBytes);
     }
     return memory;
 }

@@ -152,7 +152,7 @@ public:
             insertNumbered(place.number, std::move(element));
             return;
         }
-        if (hasBlock() && block()->isNumbered && block()->count >= mostNumbered) {
+        if (hasBlock() && block()->isNumbered && block()->count >= maxNumbered) {
             fileNumbers();
         }
         requireRoomFor(place);
@@ -214,7 +214,7 @@ public:
 private:
     static constexpr std::size_t smallestBlock = 4;
     // Numbers are searched one by one.
-    static constexpr std::uint32_t mostNumbered = 64;
+    static constexpr std::uint32_t maxNumbered = 64;
 
     struct Block {
         std::uint32_t capacity : 31;
@@ -379,7 +379,7 @@ private:
         if (!hasBlock()) {
             return !only_;
         }
-        return block()->isNumbered && !block()->keys && block()->count < mostNumbered &&
+        return block()->isNumbered && !block()->keys && block()->count < maxNumbered &&
                block()->lastNumber() != 0 && block()->lastNumber() < number;
     }
 

@@ -19,7 +19,7 @@ constexpr std::size_t smallestSlab = 1024;
 // A new slab is this part of all that there are, so that little of it can stay unused.
 constexpr std::size_t slabShare = 8;
 // So much stays reserved for what comes after all was given back.
-constexpr std::size_t mostKept = std::size_t{64} * 1024;
+constexpr std::size_t maxKept = std::size_t{64} * 1024;
 // Large enough for large pages where addresses are not scarce; small where they are.
 constexpr std::size_t largestSlab = std::size_t{sizeof(void*) > 4 ? 4096 : 256} * 1024;
 
@@ -99,7 +99,7 @@ void MemoryPool::addSlab(std::size_t size) {
     useSlab();
 }
 
-/// Takes room from the beginning of the newest slab, in which nothing is.
+/// Takes room from the beginning of the newest slab, which is empty.
 void MemoryPool::useSlab() noexcept {
     room_ = reinterpret_cast<char*>(slabs_ + 1);
     forbidUse(room_, static_cast<std::size_t>(roomEnd_ - room_));
@@ -107,7 +107,7 @@ void MemoryPool::useSlab() noexcept {
 
 /// Nothing is in use any more.
 void MemoryPool::beginAnew() noexcept {
-    const std::size_t bytes = slabBytes_ <= mostKept ? slabBytes_ : 0;
+    const std::size_t bytes = slabBytes_ <= maxKept ? slabBytes_ : 0;
     if (bytes > 0 && !slabs_->next) {
         free_ = {};
         useSlab();

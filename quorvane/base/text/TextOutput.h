@@ -1,9 +1,9 @@
 #pragma once
 
+#include <algorithm>
 #include <charconv>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <string_view>
 
 namespace quorvane {
@@ -92,8 +92,7 @@ private:
     std::size_t room() const noexcept { return static_cast<std::size_t>(end_ - next_); }
 
     void append(const char* piece, std::size_t size) noexcept {
-        std::memcpy(next_, piece, size);
-        next_ += size;
+        next_ = std::copy_n(piece, size, next_);
     }
 
     void writeBeyondRoom(std::string_view piece) {
