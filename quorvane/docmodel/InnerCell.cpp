@@ -12,7 +12,8 @@ void retain(InnerCell* cell) noexcept {
 }
 
 void release(InnerCell* cell) noexcept {
-    if (--cell->references_ == 0) {
+    --cell->references_;
+    if (cell->references_ == 0) {
         delete cell;
     }
 }

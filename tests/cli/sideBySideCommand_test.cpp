@@ -69,6 +69,8 @@ TEST_F(SideBySideCommand, WritesAndReportsWhatOneAfterTheOtherDoes) {
     }
 }
 
+// The address sanitizer needs more addresses than are left here.
+#if !defined(__SANITIZE_ADDRESS__)
 TEST_F(SideBySideCommand, DoesAllOnOneThreadWhereTheSystemAllowsNoMore) {
     const std::vector<std::string> names = writeDescriptions(50);
     start.prepare = [] {
@@ -85,6 +87,7 @@ TEST_F(SideBySideCommand, DoesAllOnOneThreadWhereTheSystemAllowsNoMore) {
     EXPECT_TRUE(folder.has("d0.rtf"));
     EXPECT_TRUE(folder.has("d49.rtf"));
 }
+#endif
 
 /// Lets another process send the signal to this one after a time.
 void signalAfter(std::chrono::microseconds time, int number) {

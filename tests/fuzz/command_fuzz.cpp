@@ -228,6 +228,9 @@ std::string outcome(const std::vector<std::string>& arguments) {
             require(!information->text.empty(), "there is something to know");
             return information->text;
         }
+        if (std::holds_alternative<cli::EscapeOptions>(request)) {
+            return "escape, which writes to standard output alone";
+        }
         const auto report = [&](const cli::ReportedError& diagnostic) {
             const std::string line = cli::errorText(diagnostic);
             const std::string json = cli::errorJson(diagnostic);
@@ -237,11 +240,13 @@ std::string outcome(const std::vector<std::string>& arguments) {
         };
         if (const auto* check = std::get_if<cli::CheckOptions>(&request)) {
             const auto find = [&text](const std::string& file, const Diagnostic& diagnostic,
-                                      const cli::DiagnosticExcerpt& excerpt) {
+                                      const cli::FileWindow& window) {
                 const std::string line = cli::diagnosticJson(file, diagnostic);
                 require(line.find('\n') == std::string::npos, "a diagnostic in JSON is one line");
                 text +=
-                    line + "\n" + cli::diagnosticText(file, diagnostic, excerpt, cli::Colors::Off);
+                    line + "\n" +
+                    cli::diagnosticText(file, diagnostic, cli::excerptAt(diagnostic.place, window),
+                                        cli::Colors::Off);
             };
             status = checked(*check, find, report, text);
         } else if (const auto* format = std::get_if<cli::FormatOptions>(&request)) {

@@ -12,13 +12,13 @@ std::string Face::perform(int object, const std::string& member, const Arguments
 
 void Face::releaseObject(int object) {
     Object& entry = objects_.at(static_cast<std::size_t>(object));
-    numbers_.erase(entry.identity);
+    numbers_.erase({entry.identity, entry.interfaceName});
     entry.interfaceName.clear();
     release(object);
 }
 
 Face::Numbered Face::number(const void* identity, const std::string& interfaceName) {
-    const auto [place, isNew] = numbers_.try_emplace(identity, objectCount());
+    const auto [place, isNew] = numbers_.try_emplace({identity, interfaceName}, objectCount());
     if (isNew) {
         objects_.push_back({identity, interfaceName});
     }

@@ -3,6 +3,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "quorvane/base/values/Value.h"
@@ -56,7 +57,8 @@ private:
     };
 
     std::vector<Object> objects_;
-    std::map<const void*, int> numbers_;
+    // By address and interface: a row and its cells may stand at one address in the library.
+    std::map<std::pair<const void*, std::string>, int> numbers_;
     std::string events_;
 };
 
