@@ -15,6 +15,7 @@
 #include "quorvane/driver/Dialect.h"
 #include "quorvane/driver/DocumentBuilder.h"
 #include "quorvane/driver/driverErrors.h"
+#include "quorvane/driver/picturesBeside.h"
 #include "quorvane/support/GFileSystem.h"
 #include "quorvane/support/published.h"
 #include "quorvane/support/recordStrings.h"
@@ -46,18 +47,18 @@ void CRtfDriver::ParseFile(const std::string& sPath) {
         std::string text;
         try {
             text = platform_.readFile(sPath);
-            if (asciiRunEnd(text, 0) < text.size()) {
+            if (asciiRunEnd(text, 0) < text.size() && !(readsExtended_ && isExtended(text))) {
                 text = utf8FromCodePage1252(text);
             }
         } catch (const RtfError& error) {
             raise(unreadableDescription(sPath, error));
         }
-        AnalyseData(text);
+        AnalyseData(text, pictures_ ? pictures_ : picturesBeside(sPath, platform_));
     });
 }
 
 void CRtfDriver::ParseFromMemmory(std::string_view sBuffer) {
-    published([&] { AnalyseData(sBuffer); });
+    published([&] { AnalyseData(sBuffer, pictures_); });
 }
 
 void CRtfDriver::LoadStyleSheetFromMemmory(std::string_view sBuffer) {
@@ -84,15 +85,23 @@ void CRtfDriver::setStyleSheetFile(const std::string& sName) {
     });
 }
 
+void CRtfDriver::setPictureSource(PictureSource source) {
+    pictures_ = std::move(source);
+}
+
 void CRtfDriver::setAbsorbedErrorObserver(GError::Observer observer) {
     document_->setAbsorbedErrorObserver(std::move(observer));
 }
 
-void CRtfDriver::AnalyseData(std::string_view text) {
+void CRtfDriver::AnalyseData(std::string_view text, const PictureSource& pictures) {
     // A handler of the event may release the driver.
     const Ref<CRtfDriver> self(this);
-    const Dialect& dialect = unicodeTexts_ ? unicodeDialect() : originalDialect();
     document_->ClearStructure();
+    if (readsExtended_ && isExtended(text)) {
+        analyzeExtended(text, pictures);
+        return;
+    }
+    const Dialect& dialect = unicodeTexts_ ? unicodeDialect() : originalDialect();
     std::vector<SourceLine> lines = PreProcessRawData(text);
     const DescriptionFrame frame = frameOf(text, lines, dialect);
     for (const Violation& violation : frameViolations(frame, text, lines)) {
@@ -117,12 +126,36 @@ void CRtfDriver::AnalyseData(std::string_view text) {
     step([&] { DocumentBuilder(*document_, dialect).build(tree.root().child(documentNumber)); });
 }
 
+/// The first error ends the analysis: nothing is built from a description that is wrong.
+void CRtfDriver::analyzeExtended(std::string_view text, const PictureSource& pictures) {
+    const Dialect& dialect = extendedDialect();
+    const std::vector<SourceLine> lines =
+        PreProcessRawData(withoutByteOrderMark(text), dialect.marks.block);
+    const bool isSound = step([&] {
+        const DescriptionFrame frame = frameOf(text, lines, dialect);
+        for (const Violation& violation : frameViolations(frame, text, lines)) {
+            raiseViolation(violation);
+        }
+        DescriptionTree tree(lines.size() / 2);
+        DescriptionParser(dialect).treeWalkerBuild(tree, lines);
+        DescriptionNode& doc = tree.root().child(documentNumber);
+        DescriptionRules(dialect, raiseViolation).docWalkerSyntax(doc);
+        DocumentBuilder(*document_, dialect, {}, pictures).build(doc);
+    });
+    if (!isSound) {
+        document_->ClearStructure();
+    }
+}
+
+/// Returns false when the body ends with an error.
 template <class Body>
-void CRtfDriver::step(Body&& body) {
+bool CRtfDriver::step(Body&& body) {
     try {
         body();
+        return true;
     } catch (const RtfError& error) {
         report(error);
+        return false;
     }
 }
 

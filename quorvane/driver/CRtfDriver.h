@@ -9,6 +9,7 @@
 #include "quorvane/base/platform/Platform.h"
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/docmodel/CRtfDoc.h"
+#include "quorvane/driver/PictureSource.h"
 #include "quorvane/support/GError.h"
 
 namespace quorvane {
@@ -61,6 +62,18 @@ public:
     bool UnicodeTexts() const { return unicodeTexts_; }
     void setUnicodeTexts(bool accept) { unicodeTexts_ = accept; }
 
+    /// Whether descriptions whose first line is `; quorvane 2` are read in the extended language:
+    /// see docs/extended-language.md. They are UTF-8, in files as well, and always checked. After an
+    /// error the document has no rows. Initially false: that line is a comment as any other.
+    bool ReadsExtended() const { return readsExtended_; }
+    void setReadsExtended(bool accept) { readsExtended_ = accept; }
+
+    /// Sets where the pictures of extended descriptions come from. The source is called with the
+    /// name as it is written. Without one, `ParseFile` reads them from the folder of the
+    /// description and those in it, and for `ParseFromMemmory` a picture is an error. An empty
+    /// function goes back to that.
+    void setPictureSource(PictureSource source);
+
     /// Whether errors of an analysis are reported through the event. Initially true.
     bool notifyError() const { return notifyError_; }
     void setNotifyError(bool notify) { notifyError_ = notify; }
@@ -92,9 +105,10 @@ private:
     explicit CRtfDriver(Platform& platform);
     ~CRtfDriver() = default;
 
-    void AnalyseData(std::string_view text);
+    void AnalyseData(std::string_view text, const PictureSource& pictures);
+    void analyzeExtended(std::string_view text, const PictureSource& pictures);
     template <class Body>
-    void step(Body&& body);
+    bool step(Body&& body);
     void report(const RtfError& error);
 
     std::uint32_t references_ = 0;
@@ -103,6 +117,8 @@ private:
     NotifyErrorHandler handler_;
     bool erroneousInput_ = false;
     bool unicodeTexts_ = false;
+    bool readsExtended_ = false;
+    PictureSource pictures_;
     bool notifyError_ = true;
 };
 

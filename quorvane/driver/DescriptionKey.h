@@ -19,7 +19,13 @@ enum class DescriptionKey : std::uint8_t {
     CellStyle,
     CellTopBorder,
     CellWidth,
+    Columns,
+    Fonts,
+    Footer,
+    Header,
+    Heading,
     LeftMargin,
+    Page,
     PageNumberStart,
     PaperHeight,
     PaperWidth,
@@ -28,14 +34,24 @@ enum class DescriptionKey : std::uint8_t {
     ParaMarkedField,
     ParaStyle,
     ParaText,
+    Picture,
+    PictureHeight,
+    PictureWidth,
     RightMargin,
     RowBackColor,
     RowBottomBorder,
+    RowHeading,
+    RowKeep,
+    RowKeepWithNext,
     RowKey,
     RowLeftBorder,
+    RowPageBreak,
     RowRightBorder,
     RowTopBorder,
+    Rtf,
+    Span,
     TopMargin,
+    Vspan,
     /// Any other key.
     Unknown,
 };
@@ -43,7 +59,7 @@ enum class DescriptionKey : std::uint8_t {
 constexpr std::size_t knownKeyCount = static_cast<std::size_t>(DescriptionKey::Unknown);
 
 /// A set of known keys, one bit for each.
-using KeySet = std::uint32_t;
+using KeySet = std::uint64_t;
 
 /// The set of that key alone; the empty set for an unknown one.
 constexpr KeySet setOf(DescriptionKey key) {

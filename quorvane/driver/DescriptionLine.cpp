@@ -12,13 +12,20 @@ namespace {
 
 constexpr std::size_t nowhere = std::string_view::npos;
 
+std::size_t endOfValue(std::string_view line, std::size_t equals, const LineMarks& marks) {
+    if (marks.commentsFollow) {
+        return line.find(marks.close, equals);
+    }
+    return line.back() == marks.close ? line.size() - 1 : nowhere;
+}
+
 std::optional<DescriptionLine> leafIn(std::string_view line, const Dialect& dialect) {
     const LineMarks& marks = dialect.marks;
     if (!line.starts_with(marks.open)) {
         return std::nullopt;
     }
     const std::size_t equals = line.find(marks.equals);
-    const std::size_t end = equals == nowhere ? nowhere : line.find(marks.close, equals);
+    const std::size_t end = equals == nowhere ? nowhere : endOfValue(line, equals, marks);
     if (end == nowhere) {
         return std::nullopt;
     }
@@ -74,7 +81,8 @@ std::string_view headOf(std::string_view line, const Dialect& dialect) {
 
 bool isEmptyOrComment(std::string_view text, const Dialect& dialect) {
     const std::string_view trimmed = trimWhitespace(text);
-    return trimmed.empty() || trimmed.front() == dialect.marks.comment;
+    return trimmed.empty() ||
+           (dialect.marks.commentsFollow && trimmed.front() == dialect.marks.comment);
 }
 
 }  // namespace quorvane

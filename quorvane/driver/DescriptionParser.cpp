@@ -4,6 +4,8 @@
 #include <string>
 
 #include "quorvane/base/text/numberText.h"
+#include "quorvane/base/text/trimming.h"
+#include "quorvane/driver/misplacedNode.h"
 
 namespace quorvane {
 
@@ -60,7 +62,7 @@ void DescriptionParser::readLine(const SourceLine& line) {
     switch (parts.type) {
         case LineType::Leaf:
             ++next_;
-            addLeaf(line, parts, false);
+            readLeaf(line, parts);
             break;
         case LineType::Opener:
             open(line, parts);
@@ -77,6 +79,18 @@ void DescriptionParser::readLine(const SourceLine& line) {
     if (recovery_ && !nodes_.empty()) {
         recovery_->lineRead(line, parts, depth());
     }
+}
+
+void DescriptionParser::readLeaf(const SourceLine& line, const DescriptionLine& parts) {
+    const bool isMisplaced = depth() == 0 && rejectsMisplaced();
+    if (isMisplaced) {
+        rejectPlace(line, NodeKind::None, NodeKind::None);
+    }
+    const bool isUnclosed = beginsBlock(parts.value) && !endsBlock(parts.value);
+    if (isUnclosed) {
+        rejectUnclosed(line, parts.value);
+    }
+    addLeaf(line, parts, isMisplaced || isUnclosed);
 }
 
 void DescriptionParser::addLeaf(const SourceLine& line, const DescriptionLine& parts,
@@ -106,8 +120,13 @@ void DescriptionParser::addLeaf(const SourceLine& line, const DescriptionLine& p
 void DescriptionParser::open(const SourceLine& line, const DescriptionLine& parts) {
     DescriptionNode& closed = innermost();
     const std::size_t depthBefore = nodes_.size();
+    const bool isMisplaced = rejectsMisplaced() && !canStandHere(parts.kind);
+    if (isMisplaced) {
+        const bool isInDocument = depth() > 0;
+        rejectPlace(line, parts.kind, isInDocument ? innermost().kind : NodeKind::None);
+    }
     const bool hasRoom = makeRoomFor(line, parts.kind);
-    if (recovery_ && nodes_.size() < depthBefore) {
+    if (recovery_ && nodes_.size() < depthBefore && !isMisplaced) {
         recovery_->closedByOpener(line, parts.kind, closed, hasRoom);
     }
     if (!hasRoom) {
@@ -186,6 +205,14 @@ void DescriptionParser::close(const SourceLine& line, const DescriptionLine& par
 }
 
 void DescriptionParser::readUnreadable(const SourceLine& line) {
+    const std::size_t equals = line.text.find(dialect_.marks.equals);
+    if (line.text.front() == dialect_.marks.open && equals != std::string_view::npos) {
+        const std::string_view value = trimBlanks(line.text.substr(equals + 1));
+        if (beginsBlock(value)) {
+            rejectUnclosed(line, value);
+            return;
+        }
+    }
     const Violation violation{
         .fault = DriverFault::WrongSyntax,
         .error = driverError(DriverFault::WrongSyntax, line.text, line.number),
@@ -247,6 +274,37 @@ void DescriptionParser::reject(const Violation& violation) const {
     } else {
         raiseViolation(violation);
     }
+}
+
+bool DescriptionParser::rejectsMisplaced() const {
+    return dialect_.misplacedOpeners == MisplacedOpeners::AreErrors;
+}
+
+/// True where the innermost open node can hold one of that kind; of documents there is one.
+bool DescriptionParser::canStandHere(NodeKind kind) const {
+    return depth() == 0 ? kind == NodeKind::Doc && !hasDocument_ : nests(innermost().kind, kind);
+}
+
+void DescriptionParser::rejectPlace(const SourceLine& line, NodeKind kind, NodeKind parent) {
+    reject({.fault = DriverFault::WrongPlace,
+            .error = driverError(DriverFault::WrongPlace, misplacedNode(kind, parent), line.number),
+            .part = line.text,
+            .kind = kind});
+}
+
+void DescriptionParser::rejectUnclosed(const SourceLine& line, std::string_view value) {
+    const std::string_view firstLine = value.substr(0, value.find_first_of("\r\n"));
+    reject({.fault = DriverFault::UnclosedValue,
+            .error = driverError(DriverFault::UnclosedValue, {}, line.number),
+            .part = firstLine});
+}
+
+bool DescriptionParser::beginsBlock(std::string_view value) const {
+    return !dialect_.marks.block.empty() && value.starts_with(dialect_.marks.block);
+}
+
+bool DescriptionParser::endsBlock(std::string_view value) const {
+    return value.size() >= 2 * dialect_.marks.block.size() && value.ends_with(dialect_.marks.block);
 }
 
 bool DescriptionParser::keepsRootOpen() const {

@@ -34,12 +34,15 @@ public:
     /// what was read before. Errors: `eWrongNumberOfNodes` too many nodes of a kind,
     /// `eWrongNodeType` a closer of another node than the one that is open, `eSyntaxError` a line
     /// that is neither an opener nor a closer nor a leaf, 457 a key that stands twice in a node.
+    /// Where the dialect says so, an opener that cannot stand where it is, and a leaf outside the
+    /// document, are errors `eSyntaxError`, and so is a value of several lines that does not end.
     void treeWalkerBuild(DescriptionTree& tree, const std::vector<SourceLine>& lines);
 
 private:
     using Lines = std::vector<SourceLine>::const_iterator;
 
     void readLine(const SourceLine& line);
+    void readLeaf(const SourceLine& line, const DescriptionLine& parts);
     void addLeaf(const SourceLine& line, const DescriptionLine& parts, bool isFaulty);
     void open(const SourceLine& line, const DescriptionLine& parts);
     bool makeRoomFor(const SourceLine& line, NodeKind kind);
@@ -52,6 +55,12 @@ private:
     void passOverRestOfValue();
     void leaveNode();
     void reject(const Violation& violation) const;
+    void rejectPlace(const SourceLine& line, NodeKind kind, NodeKind parent);
+    void rejectUnclosed(const SourceLine& line, std::string_view value);
+    bool rejectsMisplaced() const;
+    bool canStandHere(NodeKind kind) const;
+    bool beginsBlock(std::string_view value) const;
+    bool endsBlock(std::string_view value) const;
 
     DescriptionNode& innermost() const { return *nodes_.back(); }
     std::size_t depth() const { return nodes_.size() - 1; }

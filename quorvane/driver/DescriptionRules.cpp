@@ -65,7 +65,8 @@ NodeKind DescriptionRules::rulesFor(const DescriptionNode& child, NodeKind paren
 
 void DescriptionRules::docWalkerSyntax(DescriptionNode& doc) const {
     walk(doc, true, [this](const Visit& visit) {
-        if (visit.kind == NodeKind::Para && !contains(visit.node->keys, DescriptionKey::ParaText)) {
+        if (visit.kind == NodeKind::Para &&
+            (visit.node->keys & dialect_.values.paragraphContent) == 0) {
             report(DriverFault::NoParaText, *visit.node, visit.kind);
         }
         checkKeys(visit);

@@ -1,5 +1,9 @@
 #include "quorvane/driver/Dialect.h"
 
+#include <limits>
+
+#include "quorvane/base/text/trimming.h"
+
 namespace quorvane {
 
 const Dialect& originalDialect() {
@@ -10,7 +14,9 @@ const Dialect& originalDialect() {
         .numbers = {{{1000, 1999}, {2000, 2999}, {3000, 3999}, {0, 999}}},
         .frame = {.opener = "(doc", .closer = "doc)", .elements = {"(r", "(c"}},
         .repair = {.rowOpener = "(r", .rowCloser = "r)", .cellCloser = "c)"},
+        .misplacedOpeners = MisplacedOpeners::CloseNodes,
         .texts = {},
+        .values = {},
     };
     return dialect;
 }
@@ -22,6 +28,37 @@ const Dialect& unicodeDialect() {
         return unicode;
     }();
     return dialect;
+}
+
+const Dialect& extendedDialect() {
+    // Numbers are keys only: no kind has its own range, and only memory limits them.
+    static constexpr NodeNumbers unlimited{0, std::numeric_limits<std::int32_t>::max()};
+    static const Dialect dialect{
+        .vocabulary = extendedVocabulary(),
+        .marks = {.commentsFollow = false, .block = "\"\"\""},
+        .numbers = {{unlimited, unlimited, unlimited, unlimited}},
+        .frame = originalDialect().frame,
+        .repair = originalDialect().repair,
+        .misplacedOpeners = MisplacedOpeners::AreErrors,
+        .texts = {.writesUnicode = true, .isLiteral = true},
+        .values = {.areExtended = true,
+                   .pageComesFirst = true,
+                   .paragraphContent = setOf(
+                       {DescriptionKey::ParaText, DescriptionKey::Rtf, DescriptionKey::Picture})},
+        .page = PageDefaults{.width = 11906, .height = 16838, .firstNumber = 1},
+    };
+    return dialect;
+}
+
+bool isExtended(std::string_view text) {
+    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+    constexpr std::string_view words = "quorvane 2";
+    if (text.starts_with(byteOrderMark)) {
+        text.remove_prefix(byteOrderMark.size());
+    }
+    const std::string_view line = trimWhitespace(text.substr(0, text.find_first_of("\r\n")));
+    return line.starts_with(originalDialect().marks.comment) &&
+           trimWhitespace(line.substr(1)) == words;
 }
 
 }  // namespace quorvane

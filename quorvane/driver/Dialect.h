@@ -2,8 +2,10 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
+#include "quorvane/driver/DescriptionKey.h"
 #include "quorvane/driver/NodeKind.h"
 #include "quorvane/driver/Vocabulary.h"
 
@@ -15,6 +17,11 @@ struct LineMarks {
     char close = ')';
     char equals = '=';
     char comment = ';';
+    /// A comment can follow what a line holds, and the value of a leaf ends at the first `close`.
+    /// Otherwise comments stand on lines of their own, and the value ends at the last `close`.
+    bool commentsFollow = true;
+    /// Stands before and after a value that goes on over several lines; empty where none does.
+    std::string_view block = {};
 };
 
 /// The numbers that nodes of one kind get, in the order of the description.
@@ -41,11 +48,40 @@ struct RepairWords {
     std::string_view cellCloser;
 };
 
+/// What happens to an opener of a node that the innermost open node cannot hold.
+enum class MisplacedOpeners : std::uint8_t {
+    /// It closes the nodes that are open until one can hold it.
+    CloseNodes,
+    /// It is an error.
+    AreErrors,
+};
+
 /// What the texts of a description may hold.
 struct TextRules {
     /// Characters that Windows-1252 lacks become control words in the text of a paragraph and are
     /// errors elsewhere. Otherwise they are left to the one who writes the document.
     bool writesUnicode = false;
+    /// The text of a paragraph shows what is written, with inline styles. Otherwise it is RTF.
+    bool isLiteral = false;
+};
+
+/// What the values of a description mean.
+struct ValueRules {
+    /// Lengths can have units, colors can be given by their components, and every value that does
+    /// not mean anything is an error. Otherwise values are numbers and names.
+    bool areExtended = false;
+    /// The page is set up before the cells, whose widths are exact shares of its text area.
+    /// Otherwise cells get their widths first, from the page of a new document.
+    bool pageComesFirst = false;
+    /// The keys of which a paragraph has one at least.
+    KeySet paragraphContent = setOf(DescriptionKey::ParaText);
+};
+
+/// A page. Lengths are in twips.
+struct PageDefaults {
+    std::int32_t width;
+    std::int32_t height;
+    std::int32_t firstNumber;
 };
 
 /// A form of the description language: the words, limits and rules of text by which the parser, the
@@ -57,7 +93,11 @@ struct Dialect {
     std::array<NodeNumbers, 4> numbers;
     DescriptionFrameWords frame;
     RepairWords repair;
+    MisplacedOpeners misplacedOpeners;
     TextRules texts;
+    ValueRules values;
+    /// What the page is where the description does not say it; nothing for that of a new document.
+    std::optional<PageDefaults> page = {};
 };
 
 /// The published language.
@@ -65,5 +105,12 @@ const Dialect& originalDialect();
 
 /// The published language for texts with any characters.
 const Dialect& unicodeDialect();
+
+/// The extended language.
+const Dialect& extendedDialect();
+
+/// True for a description or a stylesheet of the extended language: its first line is a comment
+/// with the words "quorvane 2" and nothing else. A byte order mark may stand before it.
+bool isExtended(std::string_view text);
 
 }  // namespace quorvane

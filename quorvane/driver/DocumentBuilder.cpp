@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <limits>
 #include <optional>
 #include <string_view>
 
@@ -13,7 +14,12 @@
 #include "quorvane/docmodel/InnerRows.h"
 #include "quorvane/docmodel/tableCollectionChanges.h"
 #include "quorvane/driver/DescriptionRules.h"
+#include "quorvane/driver/LeafError.h"
+#include "quorvane/driver/columnLayout.h"
 #include "quorvane/driver/driverErrors.h"
+#include "quorvane/driver/extendedValues.h"
+#include "quorvane/driver/literalText.h"
+#include "quorvane/rtf/escape.h"
 #include "quorvane/rtf/unicodeWords.h"
 
 namespace quorvane {
@@ -48,9 +54,32 @@ std::int32_t number(const Leaf& leaf) {
 template <class Enumeration>
 Enumeration required(std::optional<Enumeration> value, const Leaf& leaf) {
     if (!value) {
-        raise(driverError(wrongNameFault(leaf.key.known), leaf.valueText()));
+        throw LeafError(wrongNameFault(leaf.key.known), leaf.valueText());
     }
     return *value;
+}
+
+/// The leaf of a known key that can be applied; null when there is none.
+Leaf* soundLeafOf(DescriptionNode& node, DescriptionKey key) {
+    if (!contains(node.keys, key)) {
+        return nullptr;
+    }
+    const auto leaves = node.leaves();
+    const auto found = std::find_if(leaves.begin(), leaves.end(), [&](const Leaf& leaf) {
+        return leaf.key.known == key && !leaf.isFaulty;
+    });
+    return found == leaves.end() ? nullptr : &*found;
+}
+
+constexpr std::int32_t maxSpan = 63;
+
+HeadingForm headingForm(std::string_view text) {
+    if (text != "header" && text != "trhdr") {
+        throw LeafError(
+            DriverFault::WrongValue,
+            "\"" + std::string(text) + "\" is not a form of heading; write header or trhdr");
+    }
+    return text == "trhdr" ? HeadingForm::RowProperty : HeadingForm::PageHeader;
 }
 
 /// A host that is shown an absorbed error may remove elements that are not finished.
@@ -61,16 +90,11 @@ void requirePosition(const Collection& collection, std::int32_t position) {
     }
 }
 
-/// What the build reports an error of a leaf as.
-Violation violationOf(const RtfError& error, Leaf& leaf, DescriptionNode* keyHolder) {
-    const bool isTaken = error.is(RunTimeError::DuplicateKey);
-    return {.fault = isTaken                            ? DriverFault::TakenKey
-                     : error.is(RunTimeError::Overflow) ? DriverFault::Overflow
-                                                        : DriverFault::Other,
-            .error = error,
-            .part = leaf.text,
-            .node = isTaken ? keyHolder : nullptr,
-            .leaf = &leaf};
+/// What an error of a leaf is reported as, unless it knows it.
+DriverFault faultOf(const RtfError& error) {
+    return error.is(RunTimeError::DuplicateKey) ? DriverFault::TakenKey
+           : error.is(RunTimeError::Overflow)   ? DriverFault::Overflow
+                                                : DriverFault::Other;
 }
 
 }  // namespace
@@ -99,17 +123,26 @@ template <class Apply>
 void DocumentBuilder::applyTo(Leaf& leaf, Apply apply) const {
     try {
         atLine(leaf.line, [&] { apply(leaf); });
+    } catch (const LeafError& error) {
+        reportLeaf(error.fault, error, leaf);
     } catch (const RtfError& error) {
-        if (!receiver_) {
-            throw;
-        }
-        receiver_(violationOf(error, leaf, keyHolder_));
+        reportLeaf(faultOf(error), error, leaf);
     }
+}
+
+void DocumentBuilder::reportLeaf(DriverFault fault, const RtfError& error, Leaf& leaf) const {
+    (receiver_ ? receiver_
+               : raiseViolation)({.fault = fault,
+                                  .error = error,
+                                  .part = leaf.text.substr(0, leaf.text.find_first_of("\r\n")),
+                                  .node = fault == DriverFault::TakenKey ? keyHolder_ : nullptr,
+                                  .leaf = &leaf});
 }
 
 /// Reports a character where there can be none beyond Windows-1252.
 bool DocumentBuilder::isEncodable(Leaf& leaf) const {
-    if (!dialect_.texts.writesUnicode || leaf.key.known == DescriptionKey::ParaText) {
+    if (!dialect_.texts.writesUnicode || dialect_.texts.isLiteral ||
+        leaf.key.known == DescriptionKey::ParaText) {
         return true;
     }
     const std::optional<std::string_view> character = findBeyondCodePage1252(leaf.text);
@@ -125,16 +158,54 @@ bool DocumentBuilder::isEncodable(Leaf& leaf) const {
 }
 
 BuiltTable DocumentBuilder::build(DescriptionNode& doc) {
+    if (dialect_.values.pageComesFirst) {
+        applyDocument(doc);
+    }
     const Ref<CRtfTableRows> rows = document_.TableRows();
     // The handler of an error may have added rows.
     std::int32_t position = rows->Count();
     addRows(doc);
-    forEachLeaf(doc, NodeKind::Doc, [this](const Leaf& leaf) { applyDocLeaf(leaf); });
+    if (!dialect_.values.pageComesFirst) {
+        applyDocument(doc);
+    }
     for (BuiltTable::Row& row : table_.rows) {
         requirePosition(*rows, ++position);
         applyRow(row);
     }
     return std::move(table_);
+}
+
+void DocumentBuilder::applyDocument(DescriptionNode& doc) {
+    if (dialect_.page) {
+        document_.setPageWidth(dialect_.page->width);
+        document_.setPageHeight(dialect_.page->height);
+        document_.setPageNumberStart(dialect_.page->firstNumber);
+    }
+    if (dialect_.values.areExtended) {
+        clearMargins(doc);
+    }
+    forEachLeaf(doc, NodeKind::Doc, [this](const Leaf& leaf) { applyDocLeaf(leaf); });
+    if (Leaf* const columns = soundLeafOf(doc, DescriptionKey::Columns)) {
+        applyTo(*columns, [this](const Leaf& leaf) { document_.setColumnWidths(columnsOf(leaf)); });
+    }
+}
+
+/// A margin is checked against the opposite one, which may not be the final one yet.
+void DocumentBuilder::clearMargins(const DescriptionNode& doc) {
+    const auto clear = [&](DescriptionKey key, void (CRtfDoc::*set)(std::int32_t)) {
+        if (contains(doc.keys, key)) {
+            (document_.*set)(1);
+        }
+    };
+    clear(DescriptionKey::LeftMargin, &CRtfDoc::setLeftMargin);
+    clear(DescriptionKey::RightMargin, &CRtfDoc::setRightMargin);
+    clear(DescriptionKey::TopMargin, &CRtfDoc::setTopMargin);
+    clear(DescriptionKey::BottomMargin, &CRtfDoc::setBottomMargin);
+}
+
+std::vector<std::int32_t> DocumentBuilder::columnsOf(const Leaf& leaf) const {
+    const std::vector<ColumnWidth> widths = columnWidths(leaf.text);
+    return columnLayout({widths.begin(), widths.end()}, document_.TextAreaWidth());
 }
 
 void DocumentBuilder::addRows(DescriptionNode& doc) {
@@ -168,29 +239,84 @@ void DocumentBuilder::addParagraphs(BuiltTable::Cell& cell) {
 void DocumentBuilder::applyDocLeaf(const Leaf& leaf) {
     switch (leaf.key.known) {
         case DescriptionKey::PaperHeight:
-            document_.setPageHeight(number(leaf));
+            document_.setPageHeight(length(leaf));
             break;
         case DescriptionKey::PaperWidth:
-            document_.setPageWidth(number(leaf));
+            document_.setPageWidth(length(leaf));
             break;
         case DescriptionKey::PageNumberStart:
-            document_.setPageNumberStart(number(leaf));
+            document_.setPageNumberStart(pageNumber(leaf));
             break;
         case DescriptionKey::LeftMargin:
-            document_.setLeftMargin(number(leaf));
+            setMargin(leaf, &CRtfDoc::setLeftMargin, &CRtfDoc::LeftMargin);
             break;
         case DescriptionKey::RightMargin:
-            document_.setRightMargin(number(leaf));
+            setMargin(leaf, &CRtfDoc::setRightMargin, &CRtfDoc::RightMargin);
             break;
         case DescriptionKey::TopMargin:
-            document_.setTopMargin(number(leaf));
+            setMargin(leaf, &CRtfDoc::setTopMargin, &CRtfDoc::TopMargin);
             break;
         case DescriptionKey::BottomMargin:
-            document_.setBottomMargin(number(leaf));
+            setMargin(leaf, &CRtfDoc::setBottomMargin, &CRtfDoc::BottomMargin);
+            break;
+        default:
+            applyPageLeaf(leaf);
+            break;
+    }
+}
+
+/// The keys of the document that only the extended language has.
+void DocumentBuilder::applyPageLeaf(const Leaf& leaf) {
+    switch (leaf.key.known) {
+        case DescriptionKey::Page: {
+            const PageSize size = pageSizeNamed(leaf.text);
+            document_.setPageWidth(size.width);
+            document_.setPageHeight(size.height);
+            break;
+        }
+        case DescriptionKey::Header: {
+            const auto [left, center, right] = pageLineParts(leaf.text);
+            document_.setPageHeader(left, center, right);
+            break;
+        }
+        case DescriptionKey::Footer: {
+            const auto [left, center, right] = pageLineParts(leaf.text);
+            document_.setPageFooter(left, center, right);
+            break;
+        }
+        case DescriptionKey::Heading:
+            document_.setHeadingForm(headingForm(leaf.text));
+            break;
+        case DescriptionKey::Fonts:
+            for (const std::string_view name : listedNames(leaf.text)) {
+                document_.addFont(name);
+            }
             break;
         default:
             break;
     }
+}
+
+/// What a margin becomes that does not fit the page is another one, which would surprise.
+void DocumentBuilder::setMargin(const Leaf& leaf, void (CRtfDoc::*set)(std::int32_t),
+                                std::int32_t (CRtfDoc::*get)() const) {
+    const std::int32_t twips =
+        dialect_.values.areExtended ? std::max(1, lengthFrom(0, leaf.text)) : number(leaf);
+    (document_.*set)(twips);
+    if (dialect_.values.areExtended && (document_.*get)() != twips) {
+        throw LeafError(
+            DriverFault::WrongValue,
+            "\"" + std::string(leaf.text) + "\" leaves no room between the margins; write less");
+    }
+}
+
+std::int32_t DocumentBuilder::length(const Leaf& leaf) const {
+    return dialect_.values.areExtended ? lengthFrom(1, leaf.text) : number(leaf);
+}
+
+std::int32_t DocumentBuilder::pageNumber(const Leaf& leaf) const {
+    constexpr std::int32_t last = 32767;
+    return dialect_.values.areExtended ? wholeNumber(leaf.text, 1, last) : number(leaf);
 }
 
 template <class Collection, class Built>
@@ -215,6 +341,9 @@ void DocumentBuilder::refile(Collection& collection, Built& built, std::span<Bui
 
 void DocumentBuilder::applyRow(BuiltTable::Row& row) {
     forEachLeaf(*row.node, NodeKind::Row, [&](const Leaf& leaf) { applyRowLeaf(row, leaf); });
+    if (dialect_.values.areExtended) {
+        applyWidths(row);
+    }
     const Ref<CRtfTableCells> cells = row.element->TableCells();
     const std::span<BuiltTable::Cell> built = table_.cellsOf(row);
     std::int32_t position = 0;
@@ -245,9 +374,56 @@ void DocumentBuilder::applyRowLeaf(BuiltTable::Row& row, const Leaf& leaf) {
         case DescriptionKey::RowRightBorder:
             element.setRightBorder(border(leaf));
             break;
+        case DescriptionKey::RowHeading:
+            element.setRepeatsAsHeading(yesOrNo(leaf.text));
+            break;
+        case DescriptionKey::RowKeep:
+            element.setKeepTogether(yesOrNo(leaf.text));
+            break;
+        case DescriptionKey::RowKeepWithNext:
+            element.setKeepWithNext(yesOrNo(leaf.text));
+            break;
+        case DescriptionKey::RowPageBreak:
+            element.setStartsPage(yesOrNo(leaf.text));
+            break;
+        case DescriptionKey::Columns:
+            element.setColumnWidths(columnsOf(leaf));
+            break;
         default:
             break;
     }
+}
+
+/// Where cells have widths of their own, they are the columns of their row.
+void DocumentBuilder::applyWidths(BuiltTable::Row& row) {
+    std::vector<std::optional<ColumnWidth>> widths;
+    Leaf* first = nullptr;
+    for (const BuiltTable::Cell& cell : table_.cellsOf(row)) {
+        std::optional<ColumnWidth>& width = widths.emplace_back();
+        if (Leaf* const leaf = soundLeafOf(*cell.node, DescriptionKey::CellWidth)) {
+            first = first ? first : leaf;
+            applyTo(*leaf, [&](const Leaf&) { width = widthOf(row, cell, *leaf); });
+        }
+    }
+    if (first) {
+        applyTo(*first, [&](const Leaf&) {
+            row.element->setColumnWidths(columnLayout(widths, document_.TextAreaWidth()));
+        });
+    }
+}
+
+ColumnWidth DocumentBuilder::widthOf(const BuiltTable::Row& row, const BuiltTable::Cell& cell,
+                                     const Leaf& leaf) const {
+    constexpr KeySet spans = setOf({DescriptionKey::Span, DescriptionKey::Vspan});
+    if (!document_.ColumnWidths().empty() || contains(row.node->keys, DescriptionKey::Columns)) {
+        throw LeafError(DriverFault::WrongValue,
+                        "The columns give the cell its width; remove cell-width, or columns");
+    }
+    if ((cell.node->keys & spans) != 0) {
+        throw LeafError(DriverFault::WrongValue,
+                        "A cell that spans others has their width; give the widths with columns");
+    }
+    return columnWidth(leaf.text);
 }
 
 void DocumentBuilder::applyCell(CRtfTableCells& cells, BuiltTable::Cell& cell,
@@ -271,6 +447,9 @@ void DocumentBuilder::applyCell(CRtfTableCells& cells, BuiltTable::Cell& cell,
                 applyParaLeaf(*paragraph.element, leaf);
             }
         });
+        if (dialect_.texts.isLiteral) {
+            setLiteralText(*paragraph.element, *paragraph.node);
+        }
     }
 }
 
@@ -280,7 +459,9 @@ void DocumentBuilder::applyCellLeaf(CRtfTableCell& cell, const Leaf& leaf) {
             cell.setBackColor(color(leaf));
             break;
         case DescriptionKey::CellWidth:
-            cell.setWidth(ePercent, number(leaf));
+            if (!dialect_.values.areExtended) {
+                cell.setWidth(ePercent, number(leaf));
+            }
             break;
         case DescriptionKey::CellTopBorder:
             cell.setTopBorder(border(leaf));
@@ -301,7 +482,13 @@ void DocumentBuilder::applyCellLeaf(CRtfTableCell& cell, const Leaf& leaf) {
             cell.setStyle(leaf.valueText());
             break;
         case DescriptionKey::CellMarkedField:
-            cell.asMarkedField(leaf.value());
+            cell.asMarkedField(markedField(leaf));
+            break;
+        case DescriptionKey::Span:
+            cell.setColumnSpan(wholeNumber(leaf.text, 1, maxSpan));
+            break;
+        case DescriptionKey::Vspan:
+            cell.setRowSpan(wholeNumber(leaf.text, 1, std::numeric_limits<std::int32_t>::max()));
             break;
         default:
             break;
@@ -320,7 +507,7 @@ void DocumentBuilder::applyParaLeaf(CRtfParagraph& paragraph, const Leaf& leaf) 
             paragraph.setAlign(alignment(leaf));
             break;
         case DescriptionKey::ParaMarkedField:
-            paragraph.asMarkedField(leaf.value());
+            paragraph.asMarkedField(markedField(leaf));
             break;
         default:
             break;
@@ -328,6 +515,9 @@ void DocumentBuilder::applyParaLeaf(CRtfParagraph& paragraph, const Leaf& leaf) 
 }
 
 void DocumentBuilder::setText(CRtfParagraph& paragraph, const Leaf& leaf) const {
+    if (dialect_.texts.isLiteral) {
+        return;
+    }
     if (dialect_.texts.writesUnicode) {
         paragraph.setText(withUnicodeWords(leaf.text));
     } else {
@@ -335,7 +525,46 @@ void DocumentBuilder::setText(CRtfParagraph& paragraph, const Leaf& leaf) const 
     }
 }
 
-tColorIndex DocumentBuilder::color(const Leaf& leaf) const {
+/// Raw control words come before the text, so that they can format it.
+void DocumentBuilder::setLiteralText(CRtfParagraph& paragraph, DescriptionNode& node) const {
+    std::string rtf;
+    const auto append = [&](DescriptionKey key, auto text) {
+        if (Leaf* const leaf = soundLeafOf(node, key)) {
+            applyTo(*leaf, [&](const Leaf&) { rtf += text(*leaf); });
+        }
+    };
+    append(DescriptionKey::Rtf, [](const Leaf& leaf) {
+        // The blank ends a control word and is not shown.
+        return withUnicodeWords(rawRtf(leaf.text)) + (endsInControlWord(leaf.text) ? " " : "");
+    });
+    append(DescriptionKey::ParaText, [this](const Leaf& leaf) {
+        return literalText(shownText(leaf), [this](std::string_view name) {
+            return document_.GetCharacterStyle(name);
+        });
+    });
+    if (!rtf.empty()) {
+        paragraph.setText(rtf);
+    }
+}
+
+/// The text of a leaf, whose value may go on over several lines.
+std::string DocumentBuilder::shownText(const Leaf& leaf) const {
+    const std::string_view mark = dialect_.marks.block;
+    return leaf.text.starts_with(mark) ? blockText(leaf.text, mark) : std::string(leaf.text);
+}
+
+/// The value of a marked field, whose contents become text.
+Value DocumentBuilder::markedField(const Leaf& leaf) const {
+    return dialect_.texts.isLiteral ? Value(rtfText(leaf.text)) : leaf.value();
+}
+
+tColorIndex DocumentBuilder::color(const Leaf& leaf) {
+    if (dialect_.values.areExtended) {
+        if (const auto components = colorComponents(leaf.text)) {
+            const auto [red, green, blue] = *components;
+            return document_.addColor(red, green, blue);
+        }
+    }
     return required(dialect_.vocabulary.colorOf(leaf), leaf);
 }
 

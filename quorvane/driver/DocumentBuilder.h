@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -10,7 +11,9 @@
 #include "quorvane/docmodel/CRtfDoc.h"
 #include "quorvane/driver/DescriptionNode.h"
 #include "quorvane/driver/Dialect.h"
+#include "quorvane/driver/PictureSource.h"
 #include "quorvane/driver/driverFaults.h"
+#include "quorvane/driver/extendedValues.h"
 
 namespace quorvane {
 
@@ -52,8 +55,14 @@ struct BuiltTable {
 /// it and the build goes on with the next leaf.
 class DocumentBuilder {
 public:
-    DocumentBuilder(CRtfDoc& document, const Dialect& dialect, ViolationReceiver receiver = {})
-        : document_(document), dialect_(dialect), receiver_(std::move(receiver)) {}
+    /// All that is given must outlive the builder. Without a source of pictures, a picture is an
+    /// error.
+    DocumentBuilder(CRtfDoc& document, const Dialect& dialect, ViolationReceiver receiver = {},
+                    PictureSource pictures = {})
+        : document_(document),
+          dialect_(dialect),
+          receiver_(std::move(receiver)),
+          pictures_(std::move(pictures)) {}
 
     /// Where the dialect writes Unicode, a character that Windows-1252 lacks becomes a control word
     /// in the text of a paragraph, and an error `eWrongValue` elsewhere.
@@ -62,6 +71,10 @@ public:
     /// the leaves, in ascending order of their keys. Errors: `eWrongValue` a word or number that is
     /// not a color, border or alignment, 13 a value that is not a number where there must be one, 6
     /// a number beyond 32 bits, 457 a key that is there already.
+    ///
+    /// Where the dialect has extended values, every value that means nothing is an error
+    /// `eWrongValue`. Where it has the page first, the leaves of the document are applied before
+    /// rows are added.
     BuiltTable build(DescriptionNode& doc);
 
 private:
@@ -71,32 +84,48 @@ private:
     void forEachLeaf(DescriptionNode& node, NodeKind kind, Apply apply) const;
     template <class Apply>
     void applyTo(Leaf& leaf, Apply apply) const;
+    void reportLeaf(DriverFault fault, const RtfError& error, Leaf& leaf) const;
 
     bool isEncodable(Leaf& leaf) const;
 
+    void applyDocument(DescriptionNode& doc);
+    void clearMargins(const DescriptionNode& doc);
     void addRows(DescriptionNode& doc);
     void addCells(BuiltTable::Row& row);
     void addParagraphs(BuiltTable::Cell& cell);
     void applyDocLeaf(const Leaf& leaf);
+    void applyPageLeaf(const Leaf& leaf);
     void applyRow(BuiltTable::Row& row);
+    void applyWidths(BuiltTable::Row& row);
     void applyRowLeaf(BuiltTable::Row& row, const Leaf& leaf);
     void applyCell(CRtfTableCells& cells, BuiltTable::Cell& cell,
                    std::span<BuiltTable::Cell> siblings);
     void applyCellLeaf(CRtfTableCell& cell, const Leaf& leaf);
     void applyParaLeaf(CRtfParagraph& paragraph, const Leaf& leaf);
     void setText(CRtfParagraph& paragraph, const Leaf& leaf) const;
+    void setLiteralText(CRtfParagraph& paragraph, DescriptionNode& node) const;
+    void setMargin(const Leaf& leaf, void (CRtfDoc::*set)(std::int32_t),
+                   std::int32_t (CRtfDoc::*get)() const);
 
     // Files an element under the value of its key; on error 457 keeps the node that has that key.
     template <class Collection, class Built>
     void refile(Collection& collection, Built& built, std::span<Built> siblings, const Leaf& leaf);
 
-    tColorIndex color(const Leaf& leaf) const;
+    ColumnWidth widthOf(const BuiltTable::Row& row, const BuiltTable::Cell& cell,
+                        const Leaf& leaf) const;
+    std::vector<std::int32_t> columnsOf(const Leaf& leaf) const;
+    std::int32_t length(const Leaf& leaf) const;
+    std::int32_t pageNumber(const Leaf& leaf) const;
+    std::string shownText(const Leaf& leaf) const;
+    Value markedField(const Leaf& leaf) const;
+    tColorIndex color(const Leaf& leaf);
     tBorderWidth border(const Leaf& leaf) const;
     tCellAlign alignment(const Leaf& leaf) const;
 
     CRtfDoc& document_;
     const Dialect& dialect_;
     ViolationReceiver receiver_;
+    PictureSource pictures_;
     BuiltTable table_;
     // The node that has the key of the last error 457.
     DescriptionNode* keyHolder_ = nullptr;

@@ -129,6 +129,47 @@ constexpr VocabularyWords::Key paraKeys[] = {
     {"para-marked-field", ParaMarkedField},
 };
 
+// What the extended language adds.
+
+constexpr VocabularyWords::Key extendedDocKeys[] = {
+    {"page", Page},     {"columns", Columns}, {"header", Header},
+    {"footer", Footer}, {"heading", Heading}, {"fonts", Fonts},
+};
+
+constexpr VocabularyWords::Key extendedRowKeys[] = {
+    {"columns", Columns},
+    {"row-heading", RowHeading},
+    {"row-keep", RowKeep},
+    {"row-keep-with-next", RowKeepWithNext},
+    {"row-page-break", RowPageBreak},
+};
+
+constexpr VocabularyWords::Key extendedCellKeys[] = {
+    {"span", Span},
+    {"vspan", Vspan},
+};
+
+constexpr VocabularyWords::Key extendedParaKeys[] = {
+    {"rtf", Rtf},
+    {"picture", Picture},
+    {"picture-width", PictureWidth},
+    {"picture-height", PictureHeight},
+};
+
+/// The keys of both lists.
+template <std::size_t first, std::size_t second>
+constexpr auto joined(const VocabularyWords::Key (&a)[first],
+                      const VocabularyWords::Key (&b)[second]) {
+    std::array<VocabularyWords::Key, first + second> all{};
+    std::copy(std::begin(b), std::end(b), std::copy(std::begin(a), std::end(a), all.begin()));
+    return all;
+}
+
+constexpr auto allDocKeys = joined(docKeys, extendedDocKeys);
+constexpr auto allRowKeys = joined(rowKeys, extendedRowKeys);
+constexpr auto allCellKeys = joined(cellKeys, extendedCellKeys);
+constexpr auto allParaKeys = joined(paraKeys, extendedParaKeys);
+
 using NodeNumber = VocabularyWords::NodeNumber;
 
 /// A short text as one number; letters count as small ones, which no other character becomes.
@@ -332,6 +373,16 @@ const Vocabulary& originalVocabulary() {
     static const Vocabulary vocabulary({.nodes = nodes,
                                         .shortForms = shortForms,
                                         .keys = {rowKeys, cellKeys, paraKeys, docKeys},
+                                        .colors = colors,
+                                        .borders = borders,
+                                        .alignments = alignments});
+    return vocabulary;
+}
+
+const Vocabulary& extendedVocabulary() {
+    static const Vocabulary vocabulary({.nodes = nodes,
+                                        .shortForms = shortForms,
+                                        .keys = {allRowKeys, allCellKeys, allParaKeys, allDocKeys},
                                         .colors = colors,
                                         .borders = borders,
                                         .alignments = alignments});

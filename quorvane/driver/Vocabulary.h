@@ -123,4 +123,7 @@ private:
 /// The words of the published language.
 const Vocabulary& originalVocabulary();
 
+/// The words of the extended language: those of the published one and its own keys.
+const Vocabulary& extendedVocabulary();
+
 }  // namespace quorvane

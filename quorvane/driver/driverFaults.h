@@ -42,6 +42,14 @@ enum class DriverFault : std::uint8_t {
     TakenKey,
     /// Only where the dialect writes Unicode.
     Unencodable,
+    // Only in the extended language.
+    /// The argument is a sentence about the value.
+    WrongValue,
+    /// The argument is a sentence about the node.
+    WrongPlace,
+    UnclosedValue,
+    /// The argument is a sentence about the picture.
+    WrongPicture,
     /// Any other error of the object model.
     Other,
     // Not about a description.

@@ -39,6 +39,63 @@ private:
     std::size_t position_;
 };
 
+/// The values that go on over several lines.
+class Blocks {
+public:
+    Blocks(std::string_view text, std::string_view mark)
+        : text_(text), mark_(mark), closer_(std::string(mark) + ')') {}
+
+    /// The end of a line that begins and ends there: that of its last line where its value goes on.
+    std::size_t endFrom(std::size_t begin, std::size_t end) {
+        if (mark_.empty() || isNoneLeft_) {
+            return end;
+        }
+        const std::size_t value = valueAfter(text_.substr(begin, end - begin));
+        if (value == nowhere) {
+            return end;
+        }
+        std::size_t at = begin + value + mark_.size();
+        while ((at = text_.find(closer_, at)) != nowhere) {
+            const std::size_t after = text_.find_first_not_of(" \t", at + closer_.size());
+            if (after == nowhere || text_[after] == '\n' || text_[after] == '\r') {
+                return std::max(end, std::min(after, text_.size()));
+            }
+            ++at;
+        }
+        // The rest is not searched again.
+        isNoneLeft_ = true;
+        return end;
+    }
+
+private:
+    static constexpr std::size_t nowhere = std::string_view::npos;
+
+    /// Where the mark stands in a line of the form `(key=MARK`.
+    std::size_t valueAfter(std::string_view line) const {
+        const std::size_t equals = line.find('=');
+        if (!line.starts_with('(') || equals == nowhere) {
+            return nowhere;
+        }
+        const std::size_t value = line.find_first_not_of(' ', equals + 1);
+        return value != nowhere && line.substr(value).starts_with(mark_) ? value : nowhere;
+    }
+
+    std::string_view text_;
+    std::string_view mark_;
+    std::string closer_;
+    bool isNoneLeft_ = false;
+};
+
+/// How many lines begin in a text.
+int lineBreaks(std::string_view text) {
+    int count = 0;
+    for (std::size_t at = text.find_first_of("\r\n"); at != std::string_view::npos;
+         at = text.find_first_of("\r\n", at + 1)) {
+        count += text.substr(at).starts_with("\r\n") ? 0 : 1;
+    }
+    return count;
+}
+
 }  // namespace
 
 std::optional<SubFieldView> findSubField(std::string_view text, std::size_t position) {
@@ -139,7 +196,7 @@ std::string ReplaceString(std::string_view text, std::string_view search,
     return replaced;
 }
 
-std::vector<SourceLine> PreProcessRawData(std::string_view text) {
+std::vector<SourceLine> PreProcessRawData(std::string_view text, std::string_view blockMark) {
     std::vector<SourceLine> lines;
     // As many as there may be in a small text; a large one makes room as it goes.
     constexpr std::size_t shortLine = 16;
@@ -147,19 +204,25 @@ std::vector<SourceLine> PreProcessRawData(std::string_view text) {
     lines.reserve(std::min(text.size() / shortLine + 1, maxAtFirst));
     Next lineFeed(text, '\n');
     Next carriageReturn(text, '\r');
+    Blocks blocks(text, blockMark);
     std::size_t position = 0;
     for (int number = 1; position < text.size(); ++number) {
         while (position < text.size() && isBlank(text[position])) {
             ++position;
         }
-        const std::size_t end =
+        std::size_t end =
             std::min({lineFeed.from(position), carriageReturn.from(position), text.size()});
+        const int firstNumber = number;
+        if (const std::size_t blockEnd = blocks.endFrom(position, end); blockEnd != end) {
+            number += lineBreaks(text.substr(end, blockEnd - end));
+            end = blockEnd;
+        }
         if (position < end && text[position] != commentMark) {
             std::size_t lineEnd = end;
             while (isBlank(text[lineEnd - 1])) {
                 --lineEnd;
             }
-            lines.push_back({text.substr(position, lineEnd - position), number});
+            lines.push_back({text.substr(position, lineEnd - position), firstNumber});
         }
         const bool endsInBoth = end + 1 < text.size() && text[end] == '\r' && text[end + 1] == '\n';
         position = end + (endsInBoth ? 2 : 1);

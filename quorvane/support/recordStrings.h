@@ -63,6 +63,9 @@ std::string ReplaceString(std::string_view text, std::string_view search,
 /// The lines with content, as views of the text: without the blanks and tabs at their ends,
 /// without empty lines and without those whose first character is ";". Lines end with CR LF, LF or
 /// CR.
-std::vector<SourceLine> PreProcessRawData(std::string_view text);
+///
+/// With a mark, a line of the form `(key=MARK` goes on up to the next line that ends in `MARK)`,
+/// and is one line with all that is between them. Without such a line it ends as any other.
+std::vector<SourceLine> PreProcessRawData(std::string_view text, std::string_view blockMark = {});
 
 }  // namespace quorvane

@@ -1,0 +1,227 @@
+#include "quorvane/driver/extendedValues.h"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "quorvane/base/text/numberText.h"
+#include "quorvane/base/text/rounding.h"
+#include "quorvane/base/text/textCase.h"
+#include "quorvane/base/text/trimming.h"
+#include "quorvane/base/values/units.h"
+#include "quorvane/driver/LeafError.h"
+#include "quorvane/rtf/RtfLexer.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr std::size_t nowhere = std::string_view::npos;
+constexpr std::int32_t longestPage = 22 * 1440;
+
+[[noreturn]] void refuse(std::string_view text, const std::string& why) {
+    throw LeafError(DriverFault::WrongValue,
+                    (text.empty() ? "The value is missing" : '"' + std::string(text) + '"') + why);
+}
+
+std::string unlessEmpty(std::string_view text, std::string_view words) {
+    return text.empty() ? std::string() : std::string(words);
+}
+
+[[noreturn]] void refuseLength(std::string_view text) {
+    refuse(text, unlessEmpty(text, " is not a length") +
+                     "; write a number with mm, cm, in or pt, or one of twips");
+}
+
+struct NamedPage {
+    std::string_view name;
+    PageSize size;
+};
+
+constexpr NamedPage namedPages[] = {
+    {"a3", {16838, 23811}},    {"a4", {11906, 16838}},      {"a5", {8391, 11906}},
+    {"a6", {5953, 8391}},      {"b5", {9978, 14173}},       {"letter", {12240, 15840}},
+    {"legal", {12240, 20160}}, {"tabloid", {15840, 24480}}, {"executive", {10440, 15120}},
+};
+
+/// Calls `visit` with each part between the separators, without blanks at its ends.
+template <class Visit>
+void forEachPart(std::string_view text, std::string_view separators, Visit visit) {
+    for (;;) {
+        const std::size_t end = std::min(text.find_first_of(separators), text.size());
+        visit(trimWhitespace(text.substr(0, end)));
+        if (end == text.size()) {
+            return;
+        }
+        text.remove_prefix(end + 1);
+    }
+}
+
+/// True for a text that ends after a backslash or within `\'hh`.
+bool endsInSymbol(std::string_view text) {
+    for (std::size_t at = text.find('\\'); at != nowhere; at = text.find('\\', at + 2)) {
+        constexpr std::size_t hexadecimal = 4;
+        const std::string_view rest = text.substr(at);
+        if (rest.size() == 1 || (rest[1] == '\'' && rest.size() < hexadecimal)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+int hexDigit(char character) {
+    constexpr std::string_view digits = "0123456789abcdef";
+    const std::size_t found = digits.find(lowerCase(std::string_view(&character, 1)));
+    return found == nowhere ? -1 : static_cast<int>(found);
+}
+
+}  // namespace
+
+std::int32_t lengthOf(std::string_view text) {
+    const std::optional<NumberWithUnit> length = readNumberWithUnit(text);
+    const LengthUnit* const unit = !length                ? nullptr
+                                   : length->unit.empty() ? &twipUnit
+                                                          : lengthUnitOf(length->unit);
+    if (!unit || !fitsInLong(length->number * unit->twips)) {
+        refuseLength(text);
+    }
+    return roundToLong(length->number * unit->twips);
+}
+
+std::int32_t lengthFrom(std::int32_t min, std::string_view text) {
+    const std::int32_t twips = lengthOf(text);
+    if (twips < min || twips > longestPage) {
+        refuse(text, twips < min
+                         ? " is too little; write at least " + std::to_string(min) + " twips"
+                         : " is too much; a page has at most 22 inches (558.8 mm)");
+    }
+    return twips;
+}
+
+std::int32_t wholeNumber(std::string_view text, std::int32_t min, std::int32_t max) {
+    const std::optional<double> number = readNumber(text);
+    if (!number || *number < min || *number > max ||
+        *number != static_cast<std::int32_t>(*number)) {
+        refuse(text, unlessEmpty(text, " is not a whole number that can stand here") +
+                         "; write one from " + std::to_string(min) + " to " + std::to_string(max));
+    }
+    return static_cast<std::int32_t>(*number);
+}
+
+bool yesOrNo(std::string_view text) {
+    const std::string word = lowerCase(text);
+    if (word != "yes" && word != "no") {
+        refuse(text, "; write yes or no");
+    }
+    return word == "yes";
+}
+
+PageSize pageSizeNamed(std::string_view text) {
+    constexpr std::string_view landscape = "-landscape";
+    const std::string word = lowerCase(text);
+    const bool isTurned = word.ends_with(landscape);
+    const std::string_view name =
+        std::string_view(word).substr(0, word.size() - (isTurned ? landscape.size() : 0));
+    for (const auto& [pageName, size] : namedPages) {
+        if (name == pageName) {
+            return isTurned ? PageSize{size.height, size.width} : size;
+        }
+    }
+    std::string names;
+    for (const NamedPage& page : namedPages) {
+        names += (names.empty() ? "" : ", ") + std::string(page.name);
+    }
+    refuse(text, unlessEmpty(text, " is not a page") + "; write one of " + names +
+                     ", each also with -landscape, or use paper-width and paper-height");
+}
+
+ColumnWidth columnWidth(std::string_view text) {
+    const std::optional<NumberWithUnit> width = readNumberWithUnit(text);
+    if (!width || width->number <= 0 ||
+        !(width->unit.empty() || width->unit == "%" || lengthUnitOf(width->unit))) {
+        refuse(text, unlessEmpty(text, " is not the width of a column") +
+                         "; write a number of per cent, or one with mm, cm, in or pt");
+    }
+    if (width->unit.empty() || width->unit == "%") {
+        return {width->number, true};
+    }
+    return {static_cast<double>(lengthFrom(1, text)), false};
+}
+
+std::vector<ColumnWidth> columnWidths(std::string_view text) {
+    std::vector<ColumnWidth> widths;
+    forEachPart(text, " ,\t", [&](std::string_view part) {
+        if (!part.empty()) {
+            widths.push_back(columnWidth(part));
+        }
+    });
+    if (widths.empty()) {
+        static_cast<void>(columnWidth({}));
+    }
+    return widths;
+}
+
+std::optional<std::array<std::uint8_t, 3>> colorComponents(std::string_view text) {
+    if (!text.starts_with('#')) {
+        return std::nullopt;
+    }
+    std::array<std::uint8_t, 3> components{};
+    constexpr std::size_t length = 7;
+    bool isColor = text.size() == length;
+    for (std::size_t i = 0; isColor && i < components.size(); ++i) {
+        const int high = hexDigit(text[1 + 2 * i]);
+        const int low = hexDigit(text[2 + 2 * i]);
+        isColor = high >= 0 && low >= 0;
+        components[i] = static_cast<std::uint8_t>(high * 16 + low);
+    }
+    if (!isColor) {
+        refuse(text, " is not a color; write # and six hexadecimal digits, such as #1f4e79");
+    }
+    return components;
+}
+
+std::array<std::string, 3> pageLineParts(std::string_view text) {
+    std::array<std::string, 3> parts;
+    std::size_t count = 0;
+    forEachPart(text, "|", [&](std::string_view part) {
+        if (count == parts.size()) {
+            refuse(text, " has more than three parts; write left|center|right");
+        }
+        parts[count++] = part;
+    });
+    return parts;
+}
+
+std::vector<std::string_view> listedNames(std::string_view text) {
+    std::vector<std::string_view> names;
+    forEachPart(text, ",", [&](std::string_view part) {
+        if (part.empty()) {
+            refuse(text, "; write names with commas between them");
+        }
+        names.push_back(part);
+    });
+    return names;
+}
+
+std::string_view rawRtf(std::string_view text) {
+    RtfLexer lexer;
+    lexer.feed(text);
+    std::int64_t depth = 0;
+    RtfLexer::Token token = lexer.next();
+    for (; token != RtfLexer::Token::None && depth >= 0; token = lexer.next()) {
+        depth += token == RtfLexer::Token::Open ? 1 : token == RtfLexer::Token::Close ? -1 : 0;
+    }
+    if (depth != 0 || lexer.isInBinary() || endsInSymbol(text)) {
+        refuse(text, depth > 0   ? " opens a group and does not close it; write }"
+                     : depth < 0 ? " closes a group that it does not open; remove }"
+                                 : " ends within a control word; complete it");
+    }
+    return text;
+}
+
+bool endsInControlWord(std::string_view rtf) {
+    const std::size_t word = rtf.find_last_not_of(
+        "-0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz");
+    return word != nowhere && word + 1 < rtf.size() && rtf[word] == '\\';
+}
+
+}  // namespace quorvane

@@ -1,0 +1,138 @@
+#include "quorvane/driver/literalText.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <vector>
+
+#include "quorvane/docmodel/inline/inlineToken.h"
+#include "quorvane/rtf/escape.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr std::size_t nowhere = std::string_view::npos;
+
+/// An inline style: where it is in the text, and the words that it stands for.
+struct StyledPart {
+    std::size_t opening;
+    std::size_t textBegin;
+    std::string_view words;
+    /// Where its ">" stands; nowhere while it is open.
+    std::size_t closing = nowhere;
+};
+
+/// The name of the style that a "<" opens; empty when it opens none. Names are short, which keeps
+/// the time for a text with many "<" linear.
+std::string_view nameAfter(std::string_view text, std::size_t opening) {
+    constexpr std::size_t maxName = 255;
+    const std::string_view rest = text.substr(opening + 1, maxName + 1);
+    const std::size_t end = rest.find_first_of("=<>\r\n");
+    const bool isName =
+        end != nowhere && end > 0 && rest[end] == '=' && beginsInlineToken(rest.front());
+    return isName ? rest.substr(0, end) : std::string_view();
+}
+
+/// The inline styles of a text that end, in the order of their openings.
+std::vector<StyledPart> styledParts(std::string_view text, const CharacterStyleWords& wordsOf) {
+    std::vector<StyledPart> parts;
+    std::vector<std::size_t> open;
+    for (std::size_t at = text.find_first_of("<>"); at != nowhere;
+         at = text.find_first_of("<>", at + 1)) {
+        if (text[at] == '>') {
+            if (!open.empty()) {
+                parts[open.back()].closing = at;
+                open.pop_back();
+            }
+            continue;
+        }
+        const std::string_view name = nameAfter(text, at);
+        const std::string_view words = name.empty() ? std::string_view() : wordsOf(name);
+        if (!words.empty()) {
+            open.push_back(parts.size());
+            parts.push_back({at, at + 1 + name.size() + 1, words});
+        }
+    }
+    std::erase_if(parts, [](const StyledPart& part) { return part.closing == nowhere; });
+    return parts;
+}
+
+void appendWords(std::string_view words, std::string& rtf) {
+    rtf += '{';
+    rtf += words;
+    if (rtf.back() != ' ' && rtf.back() != '{') {
+        rtf += ' ';
+    }
+}
+
+bool isBlank(std::string_view text) {
+    return text.find_first_not_of(" \t") == nowhere;
+}
+
+/// How long the line break is that stands there.
+std::size_t lineBreakAt(std::string_view text, std::size_t at) {
+    return text.substr(at).starts_with("\r\n") ? 2 : 1;
+}
+
+/// The text without as many blanks at its beginning as there are in `indent`, at most.
+std::string_view withoutIndent(std::string_view line, std::size_t indent) {
+    const std::size_t own = std::min(line.find_first_not_of(" \t"), line.size());
+    return line.substr(std::min(own, indent));
+}
+
+}  // namespace
+
+std::string literalText(std::string_view text, const CharacterStyleWords& wordsOf) {
+    const std::vector<StyledPart> parts = styledParts(text, wordsOf);
+    if (parts.empty()) {
+        return rtfText(text);
+    }
+    std::string rtf;
+    std::vector<std::size_t> closings;
+    std::size_t at = 0;
+    const auto closeUpTo = [&](std::size_t end) {
+        while (!closings.empty() && closings.back() < end) {
+            rtf += rtfText(text.substr(at, closings.back() - at)) + '}';
+            at = closings.back() + 1;
+            closings.pop_back();
+        }
+    };
+    for (const StyledPart& part : parts) {
+        closeUpTo(part.opening);
+        rtf += rtfText(text.substr(at, part.opening - at));
+        appendWords(part.words, rtf);
+        at = part.textBegin;
+        closings.push_back(part.closing);
+    }
+    closeUpTo(nowhere);
+    return rtf + rtfText(text.substr(at));
+}
+
+std::string blockText(std::string_view block, std::string_view mark) {
+    std::string_view text = block.substr(mark.size(), block.size() - 2 * mark.size());
+    const std::size_t firstLineEnd = text.find_first_of("\r\n");
+    if (firstLineEnd != nowhere && isBlank(text.substr(0, firstLineEnd))) {
+        text.remove_prefix(firstLineEnd + lineBreakAt(text, firstLineEnd));
+    }
+    // A mark on a line of its own says how far the lines are indented.
+    std::size_t indent = 0;
+    const std::size_t lastBreak = text.find_last_of("\r\n");
+    const std::size_t lastLine = lastBreak == nowhere ? 0 : lastBreak + 1;
+    if (firstLineEnd != nowhere && isBlank(text.substr(lastLine))) {
+        indent = text.size() - lastLine;
+        text = text.substr(0, lastLine);
+        text.remove_suffix(text.ends_with("\r\n") ? 2 : text.empty() ? 0 : 1);
+    }
+    std::string joined;
+    for (;;) {
+        const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
+        joined += withoutIndent(text.substr(0, end), indent);
+        if (end == text.size()) {
+            return joined;
+        }
+        joined += '\n';
+        text.remove_prefix(end + lineBreakAt(text, end));
+    }
+}
+
+}  // namespace quorvane

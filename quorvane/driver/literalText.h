@@ -1,0 +1,23 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace quorvane {
+
+/// The words of a character style; empty for a name that is not the name of one.
+using CharacterStyleWords = std::function<std::string_view(std::string_view name)>;
+
+/// The RTF of a literal text: it shows what is written, and inline styles such as `<strong=Total>`
+/// become groups with the words of their styles. An inline style ends at the first ">" after it
+/// that does not end one within it. A "<" that opens no style, and a style that does not end, are
+/// text. Error 5 for a character that no document can show; see `findUnshowable`.
+std::string literalText(std::string_view text, const CharacterStyleWords& wordsOf);
+
+/// The text of a value between its marks: of lines between them, without the line breaks beside the
+/// marks and without the blanks that the line of the last mark begins with, and LF between the
+/// lines. `block` begins and ends with the mark.
+std::string blockText(std::string_view block, std::string_view mark);
+
+}  // namespace quorvane
