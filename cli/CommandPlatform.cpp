@@ -57,6 +57,13 @@ const std::string& CommandPlatform::styleSheetBytes() const {
     return styleSheet_->bytes;
 }
 
+void CommandPlatform::recodeStyleSheet(TextEncoding encoding) {
+    if (isUtf8(encoding)) {
+        styleSheet_->bytes = encodedText(decodedText(std::move(styleSheet_->bytes), encoding),
+                                         TextEncoding::Windows1252);
+    }
+}
+
 std::string CommandPlatform::readOtherFile(const std::string& path) {
     try {
         return files_.readFile(path);

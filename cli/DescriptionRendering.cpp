@@ -6,8 +6,6 @@
 #include "cli/RenderOptions.h"
 #include "cli/fileFailure.h"
 #include "cli/process.h"
-#include "quorvane/base/text/codePage1252.h"
-#include "quorvane/base/text/utf8.h"
 #include "quorvane/docmodel/CRtfTableRows.h"
 #include "quorvane/driver/driverErrors.h"
 
@@ -21,11 +19,6 @@ std::string inputName(const std::string& description) {
 
 std::string outputName(const std::string& output) {
     return output == standardStream ? "<stdout>" : output;
-}
-
-/// The text of a file. Most are ASCII, which stays as it is.
-std::string textOf(std::string bytes) {
-    return asciiRunEnd(bytes, 0) == bytes.size() ? std::move(bytes) : utf8FromCodePage1252(bytes);
 }
 
 }  // namespace
@@ -105,11 +98,12 @@ std::optional<std::string> DescriptionRendering::readDescription() {
     const std::string& path = assignment_.description;
     try {
         std::string bytes = readBytes(path);
-        if (!report_.passBytes(inputName(path), bytes)) {
+        encoding_ = encodingOf(bytes, manner_.encoding);
+        if (!report_.passBytes(inputName(path), bytes, encoding_)) {
             status_ = std::max(status_, ExitStatus::ContentErrors);
             return std::nullopt;
         }
-        return textOf(std::move(bytes));
+        return decodedText(std::move(bytes), encoding_);
     } catch (const RtfError& error) {
         fail(unreadableFile(inputName(path), path, error));
         return std::nullopt;
@@ -119,12 +113,13 @@ std::optional<std::string> DescriptionRendering::readDescription() {
 void DescriptionRendering::parse(const std::string& text) {
     const std::string name = inputName(assignment_.description);
     driver_->setErroneousInput(manner_.check);
+    driver_->setUnicodeTexts(isUtf8(encoding_));
     driver_->setNotifyErrorHandler([&](CRtfDriver&, const RtfError& error) {
         status_ = std::max(status_, ExitStatus::ContentErrors);
         report_.event(name, error);
     });
     driver_->ParseFromMemmory(text);
-    if (!report_.passDescription(name, assignment_.description, text)) {
+    if (!report_.passDescription(name, assignment_.description, text, encoding_)) {
         status_ = std::max(status_, ExitStatus::ContentErrors);
     }
 }

@@ -35,6 +35,7 @@ void checkExample(const DiagnosticRule& rule, const DiagnosticSink& find) {
     }
     ExampleFiles files;
     CheckOptions options;
+    options.encoding = isUtf8(rule.encoding) ? EncodingChoice::Utf8 : EncodingChoice::Windows1252;
     if (isOffByDefault(rule.id)) {
         options.enabled = {std::string(rule.identifier)};
     }

@@ -62,6 +62,7 @@ constexpr std::pair<DriverFault, DiagnosticId> diagnosticsOfFaults[] = {
     {DriverFault::NotANumber, DiagnosticId::NotANumber},
     {DriverFault::Overflow, DiagnosticId::Overflow},
     {DriverFault::TakenKey, DiagnosticId::TakenKey},
+    {DriverFault::Unencodable, DiagnosticId::UnencodableValue},
 };
 
 /// `noun` says what the names are names of.

@@ -168,7 +168,7 @@ void RtfChecker::finish() {
     }
     if (groups_.empty()) {
         const RtfLexer::Position end = lexer_.here();
-        reportNotRtf({end.line, end.offset - end.lineBegin + 1, 0, end.offset});
+        reportNotRtf(placeInBytes(end.line, {end.offset - end.lineBegin + 1, 0, end.offset}));
     } else {
         engine_.report(DiagnosticId::UnclosedGroup, groups_.back().begin, {},
                        groups_.size() > 1 ? std::string() : tables_.unclosedGroupHint());
@@ -178,7 +178,7 @@ void RtfChecker::finish() {
 
 Place RtfChecker::place(std::int64_t length) const {
     const RtfLexer::Position& begin = lexer_.begin();
-    return {begin.line, begin.offset - begin.lineBegin + 1, length, begin.offset};
+    return placeInBytes(begin.line, {begin.offset - begin.lineBegin + 1, length, begin.offset});
 }
 
 Place RtfChecker::controlPlace() const {
