@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/base/text/codePage1252.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/utf8.h"
@@ -129,8 +130,8 @@ void CRtfDriver::AnalyseData(std::string_view text, const PictureSource& picture
 /// The first error ends the analysis: nothing is built from a description that is wrong.
 void CRtfDriver::analyzeExtended(std::string_view text, const PictureSource& pictures) {
     const Dialect& dialect = extendedDialect();
-    const std::vector<SourceLine> lines =
-        PreProcessRawData(withoutByteOrderMark(text), dialect.marks.block);
+    const std::vector<SourceLine> lines = PreProcessRawData(
+        text.substr(bytesBeforeText(encodingOf(text, EncodingChoice::Utf8))), dialect.marks.block);
     const bool isSound = step([&] {
         const DescriptionFrame frame = frameOf(text, lines, dialect);
         for (const Violation& violation : frameViolations(frame, text, lines)) {

@@ -1,6 +1,7 @@
 #include "quorvane/driver/DescriptionParser.h"
 
 #include <algorithm>
+#include <optional>
 #include <string>
 
 #include "quorvane/base/text/numberText.h"
@@ -100,7 +101,9 @@ void DescriptionParser::addLeaf(const SourceLine& line, const DescriptionLine& p
               .text = parts.value,
               .isFaulty = isFaulty,
               .line = line.number};
-    if (const auto number = readNumber(parts.value)) {
+    // A value of the extended language means what its key makes of it.
+    const auto number = dialect_.values.areExtended ? std::nullopt : readNumber(parts.value);
+    if (number) {
         leaf.kind = LeafKind::Number;
         leaf.number = *number;
     }

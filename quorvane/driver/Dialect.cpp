@@ -2,6 +2,7 @@
 
 #include <limits>
 
+#include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/base/text/trimming.h"
 
 namespace quorvane {
@@ -51,10 +52,9 @@ const Dialect& extendedDialect() {
 }
 
 bool isExtended(std::string_view text) {
-    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
     constexpr std::string_view words = "quorvane 2";
-    if (text.starts_with(byteOrderMark)) {
-        text.remove_prefix(byteOrderMark.size());
+    if (text.starts_with(utf8Mark)) {
+        text.remove_prefix(utf8Mark.size());
     }
     const std::string_view line = trimWhitespace(text.substr(0, text.find_first_of("\r\n")));
     return line.starts_with(originalDialect().marks.comment) &&

@@ -90,9 +90,9 @@ std::int32_t lengthOf(std::string_view text) {
 std::int32_t lengthFrom(std::int32_t min, std::string_view text) {
     const std::int32_t twips = lengthOf(text);
     if (twips < min || twips > longestPage) {
-        refuse(text, twips < min
-                         ? " is too little; write at least " + std::to_string(min) + " twips"
-                         : " is too much; a page has at most 22 inches (558.8 mm)");
+        refuse(text, twips < min ? std::string(" is too little; write ") +
+                                       (min > 0 ? "more than 0" : "0 or more")
+                                 : " is too much; a page has at most 22 inches (558.8 mm)");
     }
     return twips;
 }
@@ -219,8 +219,8 @@ std::string_view rawRtf(std::string_view text) {
 }
 
 bool endsInControlWord(std::string_view rtf) {
-    const std::size_t word = rtf.find_last_not_of(
-        "-0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz");
+    const std::size_t word =
+        rtf.find_last_not_of("-0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz");
     return word != nowhere && word + 1 < rtf.size() && rtf[word] == '\\';
 }
 

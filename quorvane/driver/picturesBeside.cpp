@@ -39,9 +39,9 @@ bool staysWithinFolder(const std::string& name) {
 PictureSource picturesBeside(const std::string& path, Platform& platform) {
     return [folder = folderOf(path), &platform](const std::string& name) {
         if (!staysWithinFolder(name)) {
-            raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
-                           "\"" + name +
-                               "\" is not in the folder of the description; move it there"));
+            raise(RtfError(
+                static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
+                "\"" + name + "\" is not in the folder of the description; move it there"));
         }
         return platform.readFile(folder + name);
     };

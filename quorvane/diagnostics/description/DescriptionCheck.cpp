@@ -23,13 +23,21 @@ namespace quorvane {
 
 namespace {
 
+const Dialect& dialectOf(const SourceText& source) {
+    if (isExtended(source.text())) {
+        return extendedDialect();
+    }
+    return isUtf8(source.encoding()) ? unicodeDialect() : originalDialect();
+}
+
 class DescriptionCheck {
 public:
-    DescriptionCheck(const SourceText& source, KnownStyles* styles, DiagnosticEngine& engine)
-        : source_(source), styles_(styles), engine_(engine) {}
+    DescriptionCheck(const SourceText& source, KnownStyles* styles, const PictureSource& pictures,
+                     DiagnosticEngine& engine)
+        : source_(source), styles_(styles), engine_(engine), pictures_(pictures) {}
 
     void run() {
-        std::vector<SourceLine> lines = PreProcessRawData(source_.text());
+        std::vector<SourceLine> lines = PreProcessRawData(source_.text(), dialect_.marks.block);
         frame_ = frameOf(source_.text(), lines, dialect_);
         const std::string_view firstLine =
             lines.empty() ? source_.text().substr(0, 0) : lines.front().text;
@@ -39,7 +47,9 @@ public:
             // Prose or the like: an error for each of its lines would not help.
             return;
         }
-        lines = repairLines(lines, dialect_, &recovery_);
+        if (!dialect_.values.areExtended) {
+            lines = repairLines(lines, dialect_, &recovery_);
+        }
         recovery_.setLines(lines);
         DescriptionTree tree(lines.size() / 2);
         DescriptionParser(dialect_, &recovery_).treeWalkerBuild(tree, lines);
@@ -111,21 +121,28 @@ private:
         const ViolationReport report(source_, dialect_.vocabulary, engine_);
         const DescriptionRules rules(dialect_, report, MisplacedNodes::ByKind);
         rules.docWalkerSyntax(doc);
-        rules.treeWalkerSemantic(doc);
-        rules.checkBuiltValues(doc);
+        if (!dialect_.values.areExtended) {
+            rules.treeWalkerSemantic(doc);
+            rules.checkBuiltValues(doc);
+        }
         NullPlatform platform;
         const Ref<CRtfDoc> document = CRtfDoc::create(platform);
         if (styles_) {
             document->LoadStyleSheetFromMemmory(styles_->soundText());
         }
-        BuiltTable table = DocumentBuilder(*document, dialect_, report).build(doc);
-        findDescriptionWarnings(doc, *document, table, styles_, source_, engine_);
+        BuiltTable table = DocumentBuilder(*document, dialect_, report, pictures_).build(doc);
+        if (dialect_.texts.isLiteral) {
+            findLiteralTextWarnings(doc, styles_, source_, engine_);
+        } else {
+            findDescriptionWarnings(doc, *document, table, styles_, source_, engine_);
+        }
     }
 
     const SourceText& source_;
     KnownStyles* styles_;
     DiagnosticEngine& engine_;
-    const Dialect& dialect_ = isUtf8(source_.encoding()) ? unicodeDialect() : originalDialect();
+    const PictureSource& pictures_;
+    const Dialect& dialect_ = dialectOf(source_);
     DescriptionFrame frame_;
     CheckRecovery recovery_{source_, dialect_, engine_};
 };
@@ -133,12 +150,12 @@ private:
 }  // namespace
 
 std::vector<Diagnostic> checkDescription(std::string_view text, KnownStyles* styles,
-                                         TextEncoding encoding) {
+                                         TextEncoding encoding, const PictureSource& pictures) {
     std::vector<Diagnostic> diagnostics;
     const SourceText source(text, encoding);
     DiagnosticEngine engine(
         [&](Diagnostic diagnostic) { diagnostics.push_back(std::move(diagnostic)); });
-    DescriptionCheck(source, styles, engine).run();
+    DescriptionCheck(source, styles, pictures, engine).run();
     findWrongIgnoreComments(source, CheckedLanguage::Description, engine);
     sortByPlace(diagnostics);
     keepFirstMojibake(diagnostics);

@@ -6,6 +6,7 @@
 #include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/diagnostics/KnownStyles.h"
 #include "quorvane/diagnostics/engine/Diagnostic.h"
+#include "quorvane/driver/PictureSource.h"
 
 namespace quorvane {
 
@@ -15,7 +16,11 @@ namespace quorvane {
 ///
 /// Pass the encoding of the file that the text was read from: the description of a file in UTF-8 is
 /// for a driver with `UnicodeTexts`, and its bytes are not those of one in Windows-1252.
+///
+/// A description whose first line is `; quorvane 2` is checked in the extended language. Its
+/// pictures come from the source; without one they are not looked at.
 std::vector<Diagnostic> checkDescription(std::string_view text, KnownStyles* styles = nullptr,
-                                         TextEncoding encoding = TextEncoding::Windows1252);
+                                         TextEncoding encoding = TextEncoding::Windows1252,
+                                         const PictureSource& pictures = {});
 
 }  // namespace quorvane

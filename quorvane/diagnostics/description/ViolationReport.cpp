@@ -62,6 +62,10 @@ constexpr std::pair<DriverFault, DiagnosticId> diagnosticsOfFaults[] = {
     {DriverFault::NotANumber, DiagnosticId::NotANumber},
     {DriverFault::Overflow, DiagnosticId::Overflow},
     {DriverFault::TakenKey, DiagnosticId::TakenKey},
+    {DriverFault::WrongValue, DiagnosticId::WrongValue},
+    {DriverFault::WrongPlace, DiagnosticId::WrongPlace},
+    {DriverFault::UnclosedValue, DiagnosticId::UnclosedValue},
+    {DriverFault::WrongPicture, DiagnosticId::WrongPicture},
     {DriverFault::Unencodable, DiagnosticId::UnencodableValue},
 };
 

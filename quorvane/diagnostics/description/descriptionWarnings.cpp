@@ -7,7 +7,9 @@
 #include "quorvane/diagnostics/description/CellWarnings.h"
 #include "quorvane/diagnostics/description/LeafWarnings.h"
 #include "quorvane/diagnostics/description/PageWarnings.h"
+#include "quorvane/diagnostics/description/StyleUses.h"
 #include "quorvane/diagnostics/description/WidthWarnings.h"
+#include "quorvane/diagnostics/description/soundLeaf.h"
 
 namespace quorvane {
 
@@ -47,6 +49,25 @@ void findDescriptionWarnings(const DescriptionNode& doc, CRtfDoc& document, Buil
     } catch (const RtfError&) {
         // A page of extreme measures has no widths to compare with.
     }
+}
+
+void findLiteralTextWarnings(const DescriptionNode& doc, KnownStyles* styles,
+                             const SourceText& source, DiagnosticEngine& engine) {
+    if (!styles) {
+        return;
+    }
+    StyleUses uses(*styles, source, engine);
+    forEachNode(doc, [&](const DescriptionNode& node) {
+        if (const Leaf* const style = soundLeaf(node, DescriptionKey::CellStyle)) {
+            uses.findCellStyle(*style);
+        }
+        if (const Leaf* const style = soundLeaf(node, DescriptionKey::ParaStyle)) {
+            uses.findParagraphStyle(*style);
+        }
+        if (const Leaf* const text = soundLeaf(node, DescriptionKey::ParaText)) {
+            uses.findInlineStyles(text->text);
+        }
+    });
 }
 
 }  // namespace quorvane

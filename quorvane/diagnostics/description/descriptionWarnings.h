@@ -17,4 +17,9 @@ void findDescriptionWarnings(const DescriptionNode& doc, CRtfDoc& document, Buil
                              KnownStyles* styles, const SourceText& source,
                              DiagnosticEngine& engine);
 
+/// Warns of names of styles in a description with literal texts, whose values have no other
+/// meaning than the one that is checked.
+void findLiteralTextWarnings(const DescriptionNode& doc, KnownStyles* styles,
+                             const SourceText& source, DiagnosticEngine& engine);
+
 }  // namespace quorvane

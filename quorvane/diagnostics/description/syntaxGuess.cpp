@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 #include "quorvane/base/text/textCase.h"
@@ -140,7 +141,9 @@ SyntaxGuess guessOpener(std::string_view line, const Dialect& dialect) {
     if (rest == ")") {
         guess.hint = "(" + name + " opens the node and " + name + ") closes it";
     } else if (!isEmptyOrComment(rest, dialect)) {
-        guess.hint = "only a comment, which begins with ;, can follow (" + name;
+        guess.hint = dialect.marks.commentsFollow
+                         ? "only a comment, which begins with ;, can follow (" + name
+                         : "nothing can follow (" + name;
     } else {
         guess.hint = "did you mean (" + name + "?";
         if (isCertainNode(head, dialect.vocabulary)) {
@@ -178,7 +181,9 @@ SyntaxGuess guessCloser(std::string_view line, const Dialect& dialect) {
     guess.meant.line.type = LineType::Closer;
     guess.hint = dialect.vocabulary.nodeKind(head) == NodeKind::None || line[head.size()] != ')'
                      ? "did you mean " + name + ")?"
-                     : "only a comment, which begins with ;, can follow " + name + ")";
+                 : dialect.marks.commentsFollow
+                     ? "only a comment, which begins with ;, can follow " + name + ")"
+                     : "nothing can follow " + name + ")";
     const std::string_view rest = trimWhitespace(line.substr(head.size()));
     const std::string_view after =
         trimWhitespace(rest.substr(std::min<std::size_t>(1, rest.size())));
@@ -189,9 +194,51 @@ SyntaxGuess guessCloser(std::string_view line, const Dialect& dialect) {
     return guess;
 }
 
+constexpr std::string_view ownLineHint = "a comment stands on a line of its own";
+
+/// A line with a comment after it, in a language in which comments stand on lines of their own.
+std::optional<SyntaxGuess> guessBeforeComment(std::string_view line, const Dialect& dialect) {
+    for (std::size_t at = line.find(dialect.marks.comment); at != nowhere;
+         at = line.find(dialect.marks.comment, at + 1)) {
+        const std::string_view before = trimWhitespace(line.substr(0, at));
+        if (before.empty()) {
+            return std::nullopt;
+        }
+        if (const DescriptionLine parts = descriptionLine(before, dialect); parts.isReadable()) {
+            SyntaxGuess guess;
+            guess.meant.line = parts;
+            guess.hint = ownLineHint;
+            return guess;
+        }
+    }
+    return std::nullopt;
+}
+
+/// A leaf whose value ends at the last ")" of its line.
+SyntaxGuess guessLiteralLeaf(std::string_view line, std::size_t equals, const Dialect& dialect) {
+    SyntaxGuess guess = guessLeaf(line, equals, dialect);
+    if (line.starts_with(dialect.marks.open)) {
+        const std::size_t close = line.rfind(dialect.marks.close);
+        const bool isClosed = close != nowhere && close > equals;
+        guess.meant.goesOn = false;
+        guess.meant.line.value =
+            trimBlanks(line.substr(equals + 1, isClosed ? close - equals - 1 : nowhere));
+        guess.hint = isClosed ? "nothing can follow the ) that ends the value"
+                              : "the ) is missing at the end of the line; put a value of several "
+                                "lines between \"\"\" and \"\"\"";
+    }
+    return guess;
+}
+
 }  // namespace
 
 SyntaxGuess guessLine(std::string_view line, const Dialect& dialect) {
+    const bool commentsFollow = dialect.marks.commentsFollow;
+    if (!commentsFollow) {
+        if (const std::optional<SyntaxGuess> guess = guessBeforeComment(line, dialect)) {
+            return *guess;
+        }
+    }
     for (const std::string_view mark : {"#", "//", "/*", "--", "<!--"}) {
         if (line.starts_with(mark)) {
             SyntaxGuess guess;
@@ -205,7 +252,8 @@ SyntaxGuess guessLine(std::string_view line, const Dialect& dialect) {
         const std::string_view key = trimBlanks(
             line.substr(line.front() == '(' ? 1 : 0, equals - (line.front() == '(' ? 1U : 0U)));
         if (line.front() == '(' || dialect.vocabulary.isKey(key)) {
-            return guessLeaf(line, equals, dialect);
+            return commentsFollow ? guessLeaf(line, equals, dialect)
+                                  : guessLiteralLeaf(line, equals, dialect);
         }
     }
     if (line.size() > 1 && line[1] == '/' && (line.front() == '(' || line.front() == '<')) {

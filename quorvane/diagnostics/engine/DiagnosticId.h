@@ -34,6 +34,12 @@ enum class DiagnosticId {
     UnencodableValue,
     Rejected,
 
+    // extendedErrors.h
+    WrongValue,
+    WrongPlace,
+    UnclosedValue,
+    WrongPicture,
+
     // nodeWarnings.h
     ClosedByOpener,
     RepeatedOpener,
