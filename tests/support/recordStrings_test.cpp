@@ -228,5 +228,39 @@ TEST(PreProcessRawData, KeepsEveryOtherCharacter) {
     EXPECT_THAT(numberedLines("caf\xC3\xA9\v\n\f"), ElementsAre("1:caf\xC3\xA9\v", "2:\f"));
 }
 
+std::vector<std::string> linesWithBlocks(std::string_view text) {
+    std::vector<std::string> lines;
+    for (const SourceLine& line : PreProcessRawData(text, "\"\"\"")) {
+        lines.push_back(std::to_string(line.number) + ":" + std::string(line.text));
+    }
+    return lines;
+}
+
+TEST(PreProcessRawDataWithBlocks, KeepsAValueOfSeveralLinesAsOneLine) {
+    EXPECT_THAT(linesWithBlocks("(p\n(pt=\"\"\"\n ; a\n\n b\n\"\"\")\np)\n"),
+                ElementsAre("1:(p", "2:(pt=\"\"\"\n ; a\n\n b\n\"\"\")", "7:p)"));
+    EXPECT_THAT(linesWithBlocks("(pt= \"\"\"a\r\nb\"\"\") \t\r\np)"),
+                ElementsAre("1:(pt= \"\"\"a\r\nb\"\"\")", "3:p)"));
+}
+
+TEST(PreProcessRawDataWithBlocks, TakesAValueThatEndsOnItsLineAsAnyOther) {
+    EXPECT_THAT(linesWithBlocks("(pt=\"\"\"a\"\"\")\np)"),
+                ElementsAre("1:(pt=\"\"\"a\"\"\")", "2:p)"));
+}
+
+TEST(PreProcessRawDataWithBlocks, EndsAValueAtAMarkAtTheEndOfALineOnly) {
+    EXPECT_THAT(linesWithBlocks("(pt=\"\"\"\na \"\"\") b\n\"\"\")\np)"),
+                ElementsAre("1:(pt=\"\"\"\na \"\"\") b\n\"\"\")", "4:p)"));
+}
+
+TEST(PreProcessRawDataWithBlocks, LeavesAValueThatDoesNotEndAlone) {
+    EXPECT_THAT(linesWithBlocks("(pt=\"\"\"\na\np)"), ElementsAre("1:(pt=\"\"\"", "2:a", "3:p)"));
+    EXPECT_THAT(linesWithBlocks("pt=\"\"\"\n\"\"\")"), ElementsAre("1:pt=\"\"\"", "2:\"\"\")"));
+}
+
+TEST(PreProcessRawDataWithBlocks, KnowsNoneWithoutAMark) {
+    EXPECT_EQ(PreProcessRawData("(pt=\"\"\"\n\"\"\")").size(), 2U);
+}
+
 }  // namespace
 }  // namespace quorvane

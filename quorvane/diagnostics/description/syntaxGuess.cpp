@@ -194,12 +194,14 @@ SyntaxGuess guessCloser(std::string_view line, const Dialect& dialect) {
     return guess;
 }
 
-constexpr std::string_view ownLineHint = "a comment stands on a line of its own";
+// A line of many ";" is not taken apart at each.
+constexpr int maxComments = 64;
 
 /// A line with a comment after it, in a language in which comments stand on lines of their own.
 std::optional<SyntaxGuess> guessBeforeComment(std::string_view line, const Dialect& dialect) {
-    for (std::size_t at = line.find(dialect.marks.comment); at != nowhere;
-         at = line.find(dialect.marks.comment, at + 1)) {
+    std::size_t at = line.find(dialect.marks.comment);
+    for (int i = 0; i < maxComments && at != nowhere;
+         ++i, at = line.find(dialect.marks.comment, at + 1)) {
         const std::string_view before = trimWhitespace(line.substr(0, at));
         if (before.empty()) {
             return std::nullopt;
@@ -207,7 +209,7 @@ std::optional<SyntaxGuess> guessBeforeComment(std::string_view line, const Diale
         if (const DescriptionLine parts = descriptionLine(before, dialect); parts.isReadable()) {
             SyntaxGuess guess;
             guess.meant.line = parts;
-            guess.hint = ownLineHint;
+            guess.hint = "a comment stands on a line of its own";
             return guess;
         }
     }
