@@ -18,6 +18,7 @@
 #include "cli/unifiedDiff.h"
 #include "cli/utf8Path.h"
 #include "quorvane/base/platform/fileReplacement.h"
+#include "quorvane/base/text/sourceEncoding.h"
 #include "quorvane/diagnostics/description/DescriptionCheck.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
 #include "quorvane/diagnostics/engine/withoutIgnored.h"
@@ -26,6 +27,7 @@
 #include "quorvane/diagnostics/rtf/RtfCheck.h"
 #include "quorvane/diagnostics/stylesheet/StyleSheetCheck.h"
 #include "quorvane/diagnostics/textFile.h"
+#include "quorvane/driver/picturesBeside.h"
 
 namespace quorvane::cli {
 
@@ -104,7 +106,7 @@ ExitStatus CheckJob::run() {
 void CheckJob::checkStyles(const std::string& file) {
     try {
         const std::string given = platform_.readFile(file);
-        const TextEncoding encoding = encodingOf(given, options_.encoding);
+        const TextEncoding encoding = sourceEncodingOf(given, options_.encoding);
         const auto check = [&](std::string_view bytes) {
             if (std::optional<Diagnostic> unreadable = findUnreadableText(bytes, encoding)) {
                 return std::vector{*std::move(unreadable)};
@@ -179,7 +181,7 @@ void CheckJob::checkText(const std::string& file, std::string_view bytes, bool i
     const CheckedLanguage language = languageOf(bytes, file);
     const TextEncoding encoding = language == CheckedLanguage::Rtf
                                       ? TextEncoding::Windows1252
-                                      : encodingOf(bytes, options_.encoding);
+                                      : sourceEncodingOf(bytes, options_.encoding);
     reportText(file, bytes, encoding, isStream, [&](std::string_view text) {
         return diagnosticsOf(file, text, language, encoding);
     });
@@ -204,7 +206,8 @@ std::vector<Diagnostic> CheckJob::diagnosticsOf(const std::string& file, std::st
         case CheckedLanguage::Description:
             checkedDescriptions_ = true;
             text = decodedText(std::string(bytes), encoding);
-            diagnostics = checkDescription(text, styles_ ? &*styles_ : nullptr, encoding);
+            diagnostics = checkDescription(text, styles_ ? &*styles_ : nullptr, encoding,
+                                           picturesBeside(file, systemPlatform()));
             break;
     }
     std::move(diagnostics.begin(), diagnostics.end(), std::back_inserter(all));

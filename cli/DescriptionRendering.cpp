@@ -6,8 +6,10 @@
 #include "cli/RenderOptions.h"
 #include "cli/fileFailure.h"
 #include "cli/process.h"
+#include "quorvane/base/text/sourceEncoding.h"
 #include "quorvane/docmodel/CRtfTableRows.h"
 #include "quorvane/driver/driverErrors.h"
+#include "quorvane/driver/picturesBeside.h"
 
 namespace quorvane::cli {
 
@@ -98,7 +100,7 @@ std::optional<std::string> DescriptionRendering::readDescription() {
     const std::string& path = assignment_.description;
     try {
         std::string bytes = readBytes(path);
-        encoding_ = encodingOf(bytes, manner_.encoding);
+        encoding_ = sourceEncodingOf(bytes, manner_.encoding);
         if (!report_.passBytes(inputName(path), bytes, encoding_)) {
             status_ = std::max(status_, ExitStatus::ContentErrors);
             return std::nullopt;
@@ -114,12 +116,15 @@ void DescriptionRendering::parse(const std::string& text) {
     const std::string name = inputName(assignment_.description);
     driver_->setErroneousInput(manner_.check);
     driver_->setUnicodeTexts(isUtf8(encoding_));
+    driver_->setReadsExtended(true);
+    const PictureSource pictures = picturesBeside(assignment_.description, platform_);
+    driver_->setPictureSource(pictures);
     driver_->setNotifyErrorHandler([&](CRtfDriver&, const RtfError& error) {
         status_ = std::max(status_, ExitStatus::ContentErrors);
         report_.event(name, error);
     });
     driver_->ParseFromMemmory(text);
-    if (!report_.passDescription(name, assignment_.description, text, encoding_)) {
+    if (!report_.passDescription(name, assignment_.description, text, encoding_, pictures)) {
         status_ = std::max(status_, ExitStatus::ContentErrors);
     }
 }

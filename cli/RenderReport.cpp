@@ -158,14 +158,16 @@ void RenderReport::event(const std::string& file, const RtfError& error) {
 }
 
 bool RenderReport::passDescription(const std::string& name, const std::string& path,
-                                   const std::string& text, TextEncoding encoding) {
+                                   const std::string& text, TextEncoding encoding,
+                                   const PictureSource& pictures) {
     const std::vector<RtfError> errors = std::exchange(errors_, {});
     if (!isChecked() && (errors.empty() || !receivers_.locate)) {
         return true;
     }
     const std::string bytes = encodedText(text, encoding);
-    Diagnostics diagnostics = withoutIgnored(checkDescription(text, knownStyles(), encoding), text,
-                                             CheckedLanguage::Description);
+    Diagnostics diagnostics =
+        withoutIgnored(checkDescription(text, knownStyles(), encoding, pictures), text,
+                       CheckedLanguage::Description);
     if (options_.failOn == FailOn::Warning) {
         const Diagnostics named =
             findNameMismatch(bytes, CheckedLanguage::Description, path, encoding);

@@ -14,6 +14,7 @@
 #include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/diagnostics/KnownStyles.h"
 #include "quorvane/diagnostics/engine/Diagnostic.h"
+#include "quorvane/driver/PictureSource.h"
 
 namespace quorvane::cli {
 
@@ -65,9 +66,9 @@ public:
 
     /// Ends with a description (UTF-8), which is named so, from a file in that encoding. Returns
     /// false when the check refuses it; the errors that were reported before are for the caller to
-    /// count.
+    /// count. The pictures are those of the description.
     bool passDescription(const std::string& name, const std::string& path, const std::string& text,
-                         TextEncoding encoding);
+                         TextEncoding encoding, const PictureSource& pictures);
 
 private:
     struct StyleSheet {

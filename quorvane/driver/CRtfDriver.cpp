@@ -6,6 +6,7 @@
 
 #include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/base/text/codePage1252.h"
+#include "quorvane/base/text/extendedMark.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/utf8.h"
 #include "quorvane/base/values/RtfError.h"
@@ -48,7 +49,7 @@ void CRtfDriver::ParseFile(const std::string& sPath) {
         std::string text;
         try {
             text = platform_.readFile(sPath);
-            if (asciiRunEnd(text, 0) < text.size() && !(readsExtended_ && isExtended(text))) {
+            if (asciiRunEnd(text, 0) < text.size() && !(readsExtended_ && isMarkedExtended(text))) {
                 text = utf8FromCodePage1252(text);
             }
         } catch (const RtfError& error) {
@@ -98,7 +99,7 @@ void CRtfDriver::AnalyseData(std::string_view text, const PictureSource& picture
     // A handler of the event may release the driver.
     const Ref<CRtfDriver> self(this);
     document_->ClearStructure();
-    if (readsExtended_ && isExtended(text)) {
+    if (readsExtended_ && isMarkedExtended(text)) {
         analyzeExtended(text, pictures);
         return;
     }

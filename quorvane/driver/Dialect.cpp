@@ -2,9 +2,6 @@
 
 #include <limits>
 
-#include "quorvane/base/text/TextEncoding.h"
-#include "quorvane/base/text/trimming.h"
-
 namespace quorvane {
 
 const Dialect& originalDialect() {
@@ -49,16 +46,6 @@ const Dialect& extendedDialect() {
         .page = PageDefaults{.width = 11906, .height = 16838, .firstNumber = 1},
     };
     return dialect;
-}
-
-bool isExtended(std::string_view text) {
-    constexpr std::string_view words = "quorvane 2";
-    if (text.starts_with(utf8Mark)) {
-        text.remove_prefix(utf8Mark.size());
-    }
-    const std::string_view line = trimWhitespace(text.substr(0, text.find_first_of("\r\n")));
-    return line.starts_with(originalDialect().marks.comment) &&
-           trimWhitespace(line.substr(1)) == words;
 }
 
 }  // namespace quorvane

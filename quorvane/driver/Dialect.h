@@ -109,8 +109,4 @@ const Dialect& unicodeDialect();
 /// The extended language.
 const Dialect& extendedDialect();
 
-/// True for a description or a stylesheet of the extended language: its first line is a comment
-/// with the words "quorvane 2" and nothing else. A byte order mark may stand before it.
-bool isExtended(std::string_view text);
-
 }  // namespace quorvane

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "quorvane/base/text/extendedMark.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/diagnostics/description/CheckRecovery.h"
 #include "quorvane/diagnostics/description/NullPlatform.h"
@@ -24,7 +25,7 @@ namespace quorvane {
 namespace {
 
 const Dialect& dialectOf(const SourceText& source) {
-    if (isExtended(source.text())) {
+    if (isMarkedExtended(source.text())) {
         return extendedDialect();
     }
     return isUtf8(source.encoding()) ? unicodeDialect() : originalDialect();
