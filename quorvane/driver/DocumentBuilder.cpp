@@ -19,6 +19,7 @@
 #include "quorvane/driver/driverErrors.h"
 #include "quorvane/driver/extendedValues.h"
 #include "quorvane/driver/literalText.h"
+#include "quorvane/driver/unencodableCharacter.h"
 #include "quorvane/rtf/escape.h"
 #include "quorvane/rtf/unicodeWords.h"
 
@@ -141,11 +142,10 @@ void DocumentBuilder::reportLeaf(DriverFault fault, const RtfError& error, Leaf&
 
 /// Reports a character where there can be none beyond Windows-1252.
 bool DocumentBuilder::isEncodable(Leaf& leaf) const {
-    if (!dialect_.texts.writesUnicode || dialect_.texts.isLiteral ||
-        leaf.key.known == DescriptionKey::ParaText) {
+    if (!dialect_.texts.writesUnicode || dialect_.texts.isLiteral) {
         return true;
     }
-    const std::optional<std::string_view> character = findBeyondCodePage1252(leaf.text);
+    const std::optional<std::string_view> character = findUnencodableCharacter(leaf);
     if (!character) {
         return true;
     }

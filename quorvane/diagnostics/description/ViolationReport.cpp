@@ -165,6 +165,10 @@ Hint ViolationReport::hintFor(const Violation& violation) const {
             return numberHint(leaf.key.name, leaf.text);
         case DiagnosticId::TakenKey:
             return takenKeyHint(violation);
+        case DiagnosticId::UnencodableValue:
+            return leaf.key.known == DescriptionKey::ParaText
+                       ? "this is the name of an inline style; write \\'3c for a literal <"
+                       : "";
         default:
             return {};
     }

@@ -14,7 +14,7 @@
 #include "quorvane/base/text/utf8.h"
 #include "quorvane/diagnostics/text/FieldInstructions.h"
 #include "quorvane/diagnostics/text/FormatText.h"
-#include "quorvane/diagnostics/text/InlineTokens.h"
+#include "quorvane/docmodel/inline/InlineTokens.h"
 #include "quorvane/diagnostics/text/NestedTables.h"
 #include "quorvane/diagnostics/text/TextGroup.h"
 #include "quorvane/diagnostics/text/TextReporter.h"
