@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "quorvane/base/text/byteOrderMark.h"
 #include "quorvane/base/text/extendedMark.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/diagnostics/description/CheckRecovery.h"
