@@ -63,8 +63,8 @@ public:
     void setUnicodeTexts(bool accept) { unicodeTexts_ = accept; }
 
     /// Whether descriptions whose first line is `; quorvane 2` are read in the extended language:
-    /// see docs/extended-language.md. They are UTF-8, in files as well, and always checked. After an
-    /// error the document has no rows. Initially false: that line is a comment as any other.
+    /// see docs/extended-language.md. They are UTF-8, in files as well, and always checked. After
+    /// an error the document has no rows. Initially false: that line is a comment as any other.
     bool ReadsExtended() const { return readsExtended_; }
     void setReadsExtended(bool accept) { readsExtended_ = accept; }
 

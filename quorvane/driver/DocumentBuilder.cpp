@@ -205,7 +205,11 @@ void DocumentBuilder::clearMargins(const DescriptionNode& doc) {
 
 std::vector<std::int32_t> DocumentBuilder::columnsOf(const Leaf& leaf) const {
     const std::vector<ColumnWidth> widths = columnWidths(leaf.text);
-    return columnLayout({widths.begin(), widths.end()}, document_.TextAreaWidth());
+    return columnLayout({widths.begin(), widths.end()}, columnSpace());
+}
+
+ColumnSpace DocumentBuilder::columnSpace() const {
+    return {document_.TextAreaWidth(), document_.PageWidth() - document_.LeftMargin()};
 }
 
 void DocumentBuilder::addRows(DescriptionNode& doc) {
@@ -407,7 +411,7 @@ void DocumentBuilder::applyWidths(BuiltTable::Row& row) {
     }
     if (first) {
         applyTo(*first, [&](const Leaf&) {
-            row.element->setColumnWidths(columnLayout(widths, document_.TextAreaWidth()));
+            row.element->setColumnWidths(columnLayout(widths, columnSpace()));
         });
     }
 }

@@ -12,6 +12,7 @@
 #include "quorvane/driver/DescriptionNode.h"
 #include "quorvane/driver/Dialect.h"
 #include "quorvane/driver/PictureSource.h"
+#include "quorvane/driver/columnLayout.h"
 #include "quorvane/driver/driverFaults.h"
 #include "quorvane/driver/extendedValues.h"
 
@@ -114,6 +115,7 @@ private:
     ColumnWidth widthOf(const BuiltTable::Row& row, const BuiltTable::Cell& cell,
                         const Leaf& leaf) const;
     std::vector<std::int32_t> columnsOf(const Leaf& leaf) const;
+    ColumnSpace columnSpace() const;
     std::int32_t length(const Leaf& leaf) const;
     std::int32_t pageNumber(const Leaf& leaf) const;
     std::string shownText(const Leaf& leaf) const;

@@ -12,41 +12,59 @@ namespace quorvane {
 
 namespace {
 
-double twipsOf(const ColumnWidth& width, std::int32_t textArea) {
-    constexpr double all = 100;
-    return width.isShare ? width.amount * textArea / all : width.amount;
+constexpr double allShares = 100;
+// Widths such as three times 33.34 % may exceed the whole by less than a twip.
+constexpr double tolerance = 0.05;
+
+[[noreturn]] void refuse(const std::string& why) {
+    throw LeafError(DriverFault::WrongValue, why);
 }
 
-/// Widths such as three times 33.3333 % may exceed the text area by less than a twip.
-constexpr double tolerance = 1;
-
-std::string perCentText(double share) {
+std::string shareText(double share) {
     constexpr double tenths = 10;
-    return numberText(std::round(share * 100 * tenths) / tenths) + " %";
+    return numberText(std::round(share * tenths) / tenths) + " %";
+}
+
+double twipsOf(const ColumnWidth& width, const ColumnSpace& space) {
+    return width.isShare ? width.amount * space.textArea / allShares : width.amount;
+}
+
+/// What the columns with a width take.
+double takenBy(const std::vector<std::optional<ColumnWidth>>& columns, const ColumnSpace& space) {
+    double shares = 0;
+    double taken = 0;
+    for (const auto& column : columns) {
+        shares += column && column->isShare ? column->amount : 0;
+        taken += column ? twipsOf(*column, space) : 0;
+    }
+    if (shares > allShares + tolerance) {
+        refuse("The columns take " + shareText(shares) +
+               " of the text area; make them narrower, so that they take 100 % at most");
+    }
+    if (taken > space.paper) {
+        refuse("The columns are " + numberText(std::round(taken)) +
+               " twips wide, but the paper ends " + std::to_string(space.paper) +
+               " twips after the left margin; make them narrower");
+    }
+    return taken;
 }
 
 }  // namespace
 
 std::vector<std::int32_t> columnLayout(const std::vector<std::optional<ColumnWidth>>& columns,
-                                       std::int32_t textArea) {
-    double given = 0;
-    for (const auto& column : columns) {
-        given += column ? twipsOf(*column, textArea) : 0;
-    }
+                                       const ColumnSpace& space) {
+    const double rest = space.textArea - takenBy(columns, space);
     const auto open = std::count(columns.begin(), columns.end(), std::nullopt);
-    const double rest = textArea - given;
-    if (rest < -tolerance || (open > 0 && rest < static_cast<double>(open))) {
-        throw LeafError(DriverFault::WrongValue,
-                        "The columns take " + perCentText(given / textArea) +
-                            " of the text area, which is " + std::to_string(textArea) +
-                            " twips wide" + (open > 0 ? ", and leave no room for the others" : "") +
-                            "; make them narrower, or the margins");
+    if (open > 0 && rest < static_cast<double>(open)) {
+        refuse(
+            "The columns leave nothing of the text area to those without a width; make them "
+            "narrower");
     }
     std::vector<std::int32_t> widths;
     double edge = 0;
     std::int32_t before = 0;
     for (const auto& column : columns) {
-        edge += column ? twipsOf(*column, textArea) : rest / static_cast<double>(open);
+        edge += column ? twipsOf(*column, space) : rest / static_cast<double>(open);
         const std::int32_t rounded = std::max(roundToLong(edge), before + 1);
         widths.push_back(rounded - before);
         before = rounded;

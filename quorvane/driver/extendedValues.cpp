@@ -139,7 +139,7 @@ ColumnWidth columnWidth(std::string_view text) {
     if (!width || width->number <= 0 ||
         !(width->unit.empty() || width->unit == "%" || lengthUnitOf(width->unit))) {
         refuse(text, unlessEmpty(text, " is not the width of a column") +
-                         "; write a number of per cent, or one with mm, cm, in or pt");
+                         "; write a number of percent, or one with mm, cm, in or pt");
     }
     if (width->unit.empty() || width->unit == "%") {
         return {width->number, true};

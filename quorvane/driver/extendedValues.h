@@ -35,11 +35,11 @@ PageSize pageSizeNamed(std::string_view text);
 /// The width of a column: a share of the text area or a length.
 struct ColumnWidth {
     double amount = 0;
-    /// The amount is per cent of the text area, otherwise twips.
+    /// The amount is percent of the text area, otherwise twips.
     bool isShare = false;
 };
 
-/// A width: per cent ("20" or "20%") or a length with a unit ("3cm"), above 0.
+/// A width: percent ("20" or "20%") or a length with a unit ("3cm"), above 0.
 ColumnWidth columnWidth(std::string_view text);
 
 /// The widths of all columns, with blanks or commas between them.

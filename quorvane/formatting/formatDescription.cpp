@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "quorvane/base/text/extendedMark.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/driver/DescriptionFrame.h"
@@ -35,7 +36,7 @@ public:
     };
 
     LineDepths(std::string_view text, const Dialect& dialect) {
-        const std::vector<SourceLine> lines = PreProcessRawData(text);
+        const std::vector<SourceLine> lines = PreProcessRawData(text, dialect.marks.block);
         entries_.reserve(lines.size());
         DescriptionTree tree(lines.size() / 2);
         DescriptionParser(dialect, this).treeWalkerBuild(tree, lines);
@@ -68,9 +69,13 @@ public:
         // Where comments stand.
         std::size_t depth = 0;
         int number = 0;
+        int lastOfValue = 0;
         bool isBlankPending = false;
         for (const std::string_view raw : linesOf(text)) {
-            ++number;
+            if (++number <= lastOfValue) {
+                // A line of the value that is written already.
+                continue;
+            }
             const std::string_view line = trimWhitespace(raw);
             if (line.empty()) {
                 isBlankPending = !formatted.empty();
@@ -80,7 +85,8 @@ public:
                 formatted += lineEnd;
             }
             if (entry != depths.entries().end() && entry->number == number) {
-                append(formatted, entry->depth, formattedLine(line, entry->line));
+                append(formatted, entry->depth, formattedLine(line, entry->line, lineEnd));
+                lastOfValue = number + lineBreaksIn(entry->line.value);
                 depth = entry->depth + (entry->line.type == LineType::Opener ? 1 : 0);
                 ++entry;
             } else {
@@ -97,7 +103,8 @@ private:
         formatted += line;
     }
 
-    std::string formattedLine(std::string_view written, const DescriptionLine& line) const {
+    std::string formattedLine(std::string_view written, const DescriptionLine& line,
+                              std::string_view lineEnd) const {
         const std::string_view comment = trimWhitespace(line.rest);
         switch (line.type) {
             case LineType::Opener:
@@ -106,13 +113,34 @@ private:
                 return withComment(formattedName(line.name) + ")", comment);
             case LineType::Leaf:
                 return isPlainLeaf(line) ? withComment("(" + inForm(line.key) + "=" +
-                                                           std::string(line.value) + ")",
+                                                           joinedLines(line.value, lineEnd) + ")",
                                                        comment)
                                          : std::string(written);
             case LineType::Unreadable:
                 break;
         }
         return std::string(written);
+    }
+
+    int lineBreaksIn(std::string_view value) const {
+        return mayHaveLines(value) ? static_cast<int>(linesOf(value).size()) - 1 : 0;
+    }
+
+    bool mayHaveLines(std::string_view value) const {
+        return !dialect_.marks.block.empty() && value.starts_with(dialect_.marks.block);
+    }
+
+    /// A value as it is; the breaks between its lines become those of the text.
+    std::string joinedLines(std::string_view value, std::string_view lineEnd) const {
+        if (!mayHaveLines(value)) {
+            return std::string(value);
+        }
+        std::string joined;
+        for (const std::string_view line : linesOf(value)) {
+            joined += (line.data() == value.data() ? std::string_view() : lineEnd);
+            joined += line;
+        }
+        return joined;
     }
 
     static std::string withComment(std::string text, std::string_view comment) {
@@ -166,8 +194,8 @@ bool areLinesAlike(const std::vector<SourceLine>& a, const std::vector<SourceLin
 }
 
 bool meanTheSame(std::string_view a, std::string_view b, const Dialect& dialect) {
-    const std::vector<SourceLine> linesOfA = PreProcessRawData(a);
-    const std::vector<SourceLine> linesOfB = PreProcessRawData(b);
+    const std::vector<SourceLine> linesOfA = PreProcessRawData(a, dialect.marks.block);
+    const std::vector<SourceLine> linesOfB = PreProcessRawData(b, dialect.marks.block);
     return linesOfA.empty() == linesOfB.empty() &&
            frameOf(a, linesOfA, dialect) == frameOf(b, linesOfB, dialect) &&
            areLinesAlike(linesOfA, linesOfB, dialect) &&
@@ -177,7 +205,7 @@ bool meanTheSame(std::string_view a, std::string_view b, const Dialect& dialect)
 }  // namespace
 
 std::string formattedDescription(std::string_view text, NameForm names) {
-    const Dialect& dialect = originalDialect();
+    const Dialect& dialect = isMarkedExtended(text) ? extendedDialect() : originalDialect();
     std::string formatted = DescriptionFormatter(dialect, names, true).format(text);
     return meanTheSame(text, formatted, dialect)
                ? formatted

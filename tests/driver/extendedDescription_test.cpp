@@ -173,8 +173,8 @@ TEST(ExtendedDescription, GivesTheColumnsTheirWidths) {
                 ElementsAre(5000, 6000, 10000));
     EXPECT_THAT(
         Extended(docOf(evenPage, "(columns=20% 1000 30%)|" + std::string(threeCells))).errors,
-        ElementsAre("7: The columns take 1050 % of the text area, which is 10000 twips "
-                    "wide; make them narrower, or the margins."));
+        ElementsAre("7: The columns take 1050 % of the text area; make them narrower, so that "
+                    "they take 100 % at most."));
 }
 
 TEST(ExtendedDescription, TakesTheWidthsOfCellsAsShares) {

@@ -90,7 +90,7 @@ TEST(ExtendedValues, ReadWidthsOfColumns) {
     EXPECT_EQ(widths[1].amount, 10);
     EXPECT_EQ(widths[2].amount, 1701);
     EXPECT_EQ(wrong([] { columnWidths("50 x"); }),
-              "\"x\" is not the width of a column; write a number of per cent, or one with mm, cm, "
+              "\"x\" is not the width of a column; write a number of percent, or one with mm, cm, "
               "in or pt.");
     EXPECT_NE(wrong([] { columnWidths("50 -10"); }), "");
     EXPECT_NE(wrong([] { columnWidths(""); }), "");
@@ -138,7 +138,7 @@ TEST(ExtendedValues, KnowWhereAControlWordGoesOn) {
 
 std::vector<std::int32_t> layout(const std::vector<std::optional<ColumnWidth>>& columns,
                                  std::int32_t textArea) {
-    return columnLayout(columns, textArea);
+    return columnLayout(columns, {textArea, textArea + 500});
 }
 
 constexpr ColumnWidth share(double amount) {
@@ -161,17 +161,26 @@ TEST(ColumnLayout, GivesWhatIsLeftToColumnsWithoutAWidth) {
     EXPECT_THAT(layout({ColumnWidth{1701}, open}, 9000), ElementsAre(1701, 7299));
 }
 
+TEST(ColumnLayout, CanReachIntoTheMargin) {
+    EXPECT_THAT(layout({ColumnWidth{5000}, ColumnWidth{4400}}, 9000), ElementsAre(5000, 4400));
+}
+
 TEST(ColumnLayout, RefusesWhatDoesNotFit) {
     EXPECT_EQ(wrong([] {
                   layout({share(60), share(52)}, 9000);
               }),
-              "The columns take 112 % of the text area, which is 9000 twips wide; make them "
-              "narrower, or the margins.");
+              "The columns take 112 % of the text area; make them narrower, so that they take 100 "
+              "% at most.");
+    EXPECT_EQ(wrong([] {
+                  layout({ColumnWidth{5000}, ColumnWidth{4501}}, 9000);
+              }),
+              "The columns are 9501 twips wide, but the paper ends 9500 twips after the left "
+              "margin; make them narrower.");
     EXPECT_EQ(wrong([] {
                   layout({share(100), open}, 9000);
               }),
-              "The columns take 100 % of the text area, which is 9000 twips wide, and leave no "
-              "room for the others; make them narrower, or the margins.");
+              "The columns leave nothing of the text area to those without a width; make them "
+              "narrower.");
 }
 
 TEST(MisplacedNode, NamesTheLinesThatAreMissing) {

@@ -34,6 +34,23 @@ TEST(FormatDescription, KeepsCommentsAndOneBlankLine) {
               ";first\n\n(doc ;x\n  ; in\n  (r ;  y\n  r) ; z\n\n  ; out\ndoc)\n");
 }
 
+TEST(FormatDescription, KeepsValuesOfSeveralLinesInTheExtendedLanguage) {
+    const std::string formatted =
+        "; quorvane 2\n(doc\n  (r\n    (c\n      (p\n        (pt=\"\"\"\n ; a  \n\n b)\n "
+        "\"\"\")\n      p)\n    c)\n  r)\ndoc)\n";
+    EXPECT_EQ(formattedDescription("; quorvane 2\n(doc\n(r\n(c\n(p\n(pt= \"\"\"\n ; a  \n\n b)\n "
+                                   "\"\"\" )\np)\nc)\nr)\ndoc)"),
+              formatted);
+    EXPECT_EQ(formattedDescription(formatted), formatted);
+}
+
+TEST(FormatDescription, LeavesTextWithASemicolonAloneInTheExtendedLanguage) {
+    EXPECT_EQ(formattedDescription("; quorvane 2\n(doc\n(r\n(c\n(p\n( pt = a;  (b) )\np)\nc)\nr)"
+                                   "\ndoc)"),
+              "; quorvane 2\n(doc\n  (r\n    (c\n      (p\n        (pt=a;  (b))\n      p)\n    "
+              "c)\n  r)\ndoc)\n");
+}
+
 TEST(FormatDescription, TakesBlanksFromKeysAndValues) {
     EXPECT_EQ(formattedDescription("(doc\n(  paper-width =  9000 )  ; wide\ndoc)"),
               "(doc\n  (paper-width=9000) ; wide\ndoc)\n");
