@@ -65,5 +65,23 @@ TEST(TextFile, IsAnyOther) {
     }
 }
 
+TEST(TextFile, HasBytesOfItsEncodingOnly) {
+    const std::string bytes =
+        "\xEF\xBB\xBF"
+        "a\n\u0159\xE9(";
+    const std::optional<Diagnostic> found = findUnreadableText(bytes, TextEncoding::Utf8WithMark);
+    ASSERT_TRUE(found);
+    EXPECT_EQ(found->id, DiagnosticId::NotUtf8);
+    EXPECT_EQ(found->message, "The byte E9 in column 2 is not UTF-8.");
+    EXPECT_EQ(found->place.line, 2);
+    EXPECT_EQ(found->place.column, 2);
+    EXPECT_EQ(found->place.bytes.offset, 7);
+    EXPECT_EQ(found->place.bytes.length, 1);
+    EXPECT_FALSE(findUnreadableText(bytes, TextEncoding::Windows1252));
+    EXPECT_FALSE(findUnreadableText("\u0159", TextEncoding::Utf8));
+    EXPECT_EQ(findUnreadableText("%PDF-1.7\n\xE9", TextEncoding::Utf8)->id,
+              DiagnosticId::NotATextFile);
+}
+
 }  // namespace
 }  // namespace quorvane
