@@ -2,11 +2,13 @@
 
 #include <algorithm>
 
+#include "quorvane/base/text/TextEncoding.h"
+
 namespace quorvane {
 
 namespace {
 
-constexpr std::string_view utf8Marks[] = {"\xEF\xBB\xBF", "\xC3\xAF\xC2\xBB\xC2\xBF"};
+constexpr std::string_view utf8Marks[] = {utf8Mark, "\xC3\xAF\xC2\xBB\xC2\xBF"};
 constexpr std::string_view utf16Marks[] = {"\xFF\xFE", "\xFE\xFF", "\xC3\xBF\xC3\xBE",
                                            "\xC3\xBE\xC3\xBF"};
 
