@@ -40,13 +40,6 @@ std::string code(std::string_view text) {
     return "`" + std::string(trimBlanks(oneLine(text))) + "`";
 }
 
-/// An example that is not ASCII would be read in UTF-8, as it stands on the page.
-std::string_view reportTitle(const DiagnosticRule& rule) {
-    const bool isOtherwiseRead = rule.language != CheckedLanguage::Rtf && !isUtf8(rule.encoding) &&
-                                 isUtf8(encodingOf(rule.wrong));
-    return isOtherwiseRead ? "Report with `--encoding windows-1252`:" : "Report:";
-}
-
 std::string section(const DiagnosticRule& rule) {
     std::string text = "### " + std::string(rule.identifier) + "\n\n" +
                        (rule.severity == Severity::Error ? "Error: " : "Warning: ") +
@@ -58,7 +51,7 @@ std::string section(const DiagnosticRule& rule) {
     }
     if (!rule.wrong.empty()) {
         text += block("Wrong:", rule.wrong);
-        text += block(reportTitle(rule), exampleReport(rule));
+        text += block(exampleReportTitle(rule), exampleReport(rule));
         text += block("Right:", rule.right);
     }
     return text;

@@ -235,6 +235,16 @@ TEST_F(Encodings, RefuseAStyleThatWindows1252CannotName) {
     EXPECT_EQ(run({"render", "--check", "-s", "a.rtfss", "b.rtfspec"}).errors, report);
 }
 
+TEST_F(Encodings, RefuseSuchAStyleEvenIfACommentIgnoresIt) {
+    folder.write("a.rtfss",
+                 "; quorvane: ignore unencodable-style\n{ name: \u010D; style-def: cs }\n");
+    folder.write("b.rtfspec", descriptionOf("a"));
+    const ProgramResult result = run({"render", "-s", "a.rtfss", "b.rtfspec"});
+    EXPECT_THAT(result.errors, HasSubstr("a.rtfss:2:9: error: "));
+    EXPECT_EQ(result.status, 1);
+    EXPECT_FALSE(folder.has("b.rtf"));
+}
+
 TEST_F(Encodings, LetAStylesheetHaveAnyCharacterBetweenItsDefinitions) {
     folder.write("a.rtfss", "; tu\u010Dn\u00E9\n{ name: bold; style-def: cs; format: \\b }\n");
     folder.write("b.rtfspec", descriptionOf("<bold=a>"));

@@ -468,8 +468,8 @@ TEST(ReportsOfStyleSheets, ReportKeywordsWithoutBraces) {
 TEST(ReportsOfStyleSheets, NameUtf16) {
     const std::string sheet("\xFF\xFE{\0n\0}\0", 8);
     EXPECT_EQ(reportOfFile("a.rtfss", sheet),
-              "a.rtfss:1:1: error: This is text in UTF-16, not in Windows-1252. "
-              "[not-a-text-file]\n    hint: save it in Windows-1252\n");
+              "a.rtfss:1:1: error: This is text in UTF-16, not in UTF-8 or Windows-1252. "
+              "[not-a-text-file]\n    hint: save it in UTF-8\n");
 }
 
 TEST(ReportsOfKeys, SayWhatWasMeantByOtherWordsAndWhatANumberWithAUnitIs) {

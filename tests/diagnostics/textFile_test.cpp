@@ -44,7 +44,7 @@ TEST(TextFile, IsNoneWithZerosBeforeAnyLanguage) {
 TEST(TextFile, IsToBeSavedAnewInUtf16) {
     const std::string doc("(\0d\0o\0c\0\n\0", 10);
     const std::string message =
-        "This is text in UTF-16, not in Windows-1252. save it in Windows-1252";
+        "This is text in UTF-16, not in UTF-8 or Windows-1252. save it in UTF-8";
     EXPECT_EQ(foundIn(doc), message);
     EXPECT_EQ(foundIn("\xFF\xFE" + doc), message);
     EXPECT_EQ(foundIn("\xFE\xFF" + std::string("\0(\0d\0o\0c", 8)), message);
