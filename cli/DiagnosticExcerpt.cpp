@@ -65,37 +65,48 @@ std::size_t beginOfLast(std::string_view bytes, std::int64_t count, TextEncoding
     return at;
 }
 
+/// A part of a line: what is before the place, what is marked, and what is after it.
+struct LineParts {
+    std::string_view before;
+    std::string_view marked;
+    std::string_view after;
+};
+
+/// The parts of a line, of which the bytes begin so many before the place.
+LineParts partsOf(std::string_view bytes, std::int64_t before, std::int64_t marked,
+                  TextEncoding encoding) {
+    const auto cut = static_cast<std::size_t>(before);
+    // The line may end within the mark where the file has changed in the meantime.
+    const std::size_t lineEnd = std::min(bytes.find_first_of("\r\n", cut), bytes.size());
+    const std::string_view rest = bytes.substr(cut, lineEnd - cut);
+    const std::size_t markEnd =
+        endOfFirst(rest.substr(0, static_cast<std::size_t>(marked)), longestMark, encoding);
+    return {bytes.substr(0, cut), rest.substr(0, markEnd), rest.substr(markEnd)};
+}
+
 }  // namespace
 
 DiagnosticExcerpt excerptAt(const Place& place, const FileWindow& window) {
     const TextEncoding encoding = window.encoding;
+    const std::int64_t unit = longestCharacter(encoding);
     const std::int64_t inLine = place.bytes.column - 1;
-    const std::int64_t before = std::min(inLine, shownBefore * longestCharacter(encoding));
-    const std::int64_t marked =
-        std::min(place.bytes.length, longestMark * longestCharacter(encoding));
+    const std::int64_t before = std::min(inLine, shownBefore * unit);
+    const std::int64_t marked = std::min(place.bytes.length, longestMark * unit);
     const std::string bytes =
-        window.read(place.bytes.offset - before,
-                    before + marked + (shownAfter + 1) * longestCharacter(encoding));
-    const auto cut = static_cast<std::size_t>(before);
-    if (bytes.size() < cut) {
+        window.read(place.bytes.offset - before, before + marked + (shownAfter + 1) * unit);
+    if (std::ssize(bytes) < before) {
         return {};
     }
-    // The line may end within the mark where the file has changed in the meantime.
-    const std::size_t lineEnd = std::min(bytes.find_first_of("\r\n", cut), bytes.size());
-    const std::string_view line = std::string_view(bytes).substr(0, lineEnd);
-    const std::string_view beforeMark = line.substr(0, cut);
-    const std::size_t begin = beginOfLast(beforeMark, shownBefore, encoding);
-    const std::string_view mark = line.substr(cut, static_cast<std::size_t>(marked));
-    const std::size_t markEnd = cut + endOfFirst(mark, longestMark, encoding);
-    const std::string_view afterMark = line.substr(markEnd);
-    const std::size_t end = endOfFirst(afterMark, shownAfter, encoding);
-    DiagnosticExcerpt excerpt{shown(beforeMark.substr(begin), encoding),
-                              shown(line.substr(cut, markEnd - cut), encoding),
-                              shown(afterMark.substr(0, end), encoding)};
+    const LineParts parts = partsOf(bytes, before, marked, encoding);
+    const std::size_t begin = beginOfLast(parts.before, shownBefore, encoding);
+    const std::size_t end = endOfFirst(parts.after, shownAfter, encoding);
+    DiagnosticExcerpt excerpt{shown(parts.before.substr(begin), encoding),
+                              shown(parts.marked, encoding),
+                              shown(parts.after.substr(0, end), encoding)};
     if (begin > 0 || before < inLine) {
         excerpt.before.insert(0, ellipsis);
     }
-    if (end < afterMark.size()) {
+    if (end < parts.after.size()) {
         excerpt.after += ellipsis;
     }
     return excerpt;

@@ -37,7 +37,8 @@ struct StandardOutputFailure {
 [[noreturn]] void refuse(const Diagnostic& diagnostic) {
     if (diagnostic.id == DiagnosticId::NotUtf8) {
         // The column is in the message.
-        refuse(diagnostic.message + " (" + diagnostic.hint + ")", diagnostic.place.line);
+        const std::string message = diagnostic.message.substr(0, diagnostic.message.size() - 1);
+        refuse(message + "; " + diagnostic.hint, diagnostic.place.line);
     }
     refuse(diagnostic.message);
 }

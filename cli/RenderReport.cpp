@@ -194,8 +194,15 @@ const Diagnostics& RenderReport::styleSheetDiagnostics() {
     if (!styleSheet_->diagnostics) {
         const TextEncoding encoding = styleSheet_->encoding;
         const std::string text = decodedText(styleSheet_->bytes, encoding);
-        styleSheet_->diagnostics =
-            withoutIgnored(checkStyleSheet(text, encoding), text, CheckedLanguage::StyleSheet);
+        const Diagnostics all = checkStyleSheet(text, encoding);
+        Diagnostics diagnostics = withoutIgnored(all, text, CheckedLanguage::StyleSheet);
+        if (unencodableStyles(diagnostics).empty()) {
+            // What a document would lose cannot be ignored.
+            const Diagnostics unencodable = unencodableStyles(all);
+            diagnostics.insert(diagnostics.end(), unencodable.begin(), unencodable.end());
+            sortByPlace(diagnostics);
+        }
+        styleSheet_->diagnostics = std::move(diagnostics);
     }
     return *styleSheet_->diagnostics;
 }

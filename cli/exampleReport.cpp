@@ -74,6 +74,12 @@ std::string exampleReport(const DiagnosticRule& rule) {
     return report;
 }
 
+std::string_view exampleReportTitle(const DiagnosticRule& rule) {
+    const bool isOtherwiseRead = rule.language != CheckedLanguage::Rtf && !isUtf8(rule.encoding) &&
+                                 isUtf8(encodingOf(rule.wrong));
+    return isOtherwiseRead ? "Report with `--encoding windows-1252`:" : "Report:";
+}
+
 std::string exampleMessage(const DiagnosticRule& rule) {
     std::string message;
     checkExample(rule, [&](const std::string&, const Diagnostic& diagnostic, const FileWindow&) {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "quorvane/base/text/TextEncoding.h"
+
 namespace quorvane {
 
 namespace {

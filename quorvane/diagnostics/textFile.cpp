@@ -76,8 +76,8 @@ std::optional<Diagnostic> findNotATextFile(std::string_view bytes) {
     std::optional<Diagnostic> found;
     DiagnosticEngine engine([&](Diagnostic diagnostic) { found = std::move(diagnostic); });
     if (isUtf16(beginning)) {
-        engine.report(DiagnosticId::NotATextFile, {}, {"text in UTF-16", "in Windows-1252"},
-                      "save it in Windows-1252");
+        engine.report(DiagnosticId::NotATextFile, {},
+                      {"text in UTF-16", "in UTF-8 or Windows-1252"}, "save it in UTF-8");
         return found;
     }
     for (const Signature& signature : signatures) {
