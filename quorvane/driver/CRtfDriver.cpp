@@ -60,7 +60,7 @@ void CRtfDriver::ParseFile(const std::string& sPath) {
 }
 
 void CRtfDriver::ParseFromMemmory(std::string_view sBuffer) {
-    published([&] { AnalyseData(sBuffer, pictures_); });
+    published([&] { AnalyseData(sBuffer, pictures_ ? pictures_ : PictureSource(noPictures)); });
 }
 
 void CRtfDriver::LoadStyleSheetFromMemmory(std::string_view sBuffer) {

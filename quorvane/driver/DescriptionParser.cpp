@@ -185,6 +185,10 @@ void DescriptionParser::addNode(NodeKind kind, std::int32_t number, const Source
 }
 
 void DescriptionParser::close(const SourceLine& line, const DescriptionLine& parts) {
+    if (depth() == 0 && rejectsMisplaced()) {
+        rejectPlace(line, parts.kind, NodeKind::None);
+        return;
+    }
     if (parts.kind == innermost().kind && !keepsRootOpen()) {
         leaveNode();
         return;

@@ -453,6 +453,7 @@ void DocumentBuilder::applyCell(CRtfTableCells& cells, BuiltTable::Cell& cell,
         });
         if (dialect_.texts.isLiteral) {
             setLiteralText(*paragraph.element, *paragraph.node);
+            setPicture(*paragraph.element, *paragraph.node);
         }
     }
 }
@@ -548,6 +549,46 @@ void DocumentBuilder::setLiteralText(CRtfParagraph& paragraph, DescriptionNode& 
     });
     if (!rtf.empty()) {
         paragraph.setText(rtf);
+    }
+}
+
+void DocumentBuilder::setPicture(CRtfParagraph& paragraph, DescriptionNode& node) {
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+    const auto read = [&](DescriptionKey key, std::int32_t& size) {
+        if (Leaf* const leaf = soundLeafOf(node, key)) {
+            applyTo(*leaf, [&](const Leaf&) {
+                if (!contains(node.keys, DescriptionKey::Picture)) {
+                    throw LeafError(DriverFault::WrongValue, "There is no picture for this size");
+                }
+                size = lengthFrom(1, leaf->text);
+            });
+        }
+    };
+    read(DescriptionKey::PictureWidth, width);
+    read(DescriptionKey::PictureHeight, height);
+    Leaf* const leaf = soundLeafOf(node, DescriptionKey::Picture);
+    if (leaf && pictures_) {
+        applyTo(*leaf, [&](const Leaf&) {
+            paragraph.setPicture(pictureNamed(std::string(leaf->text), width, height));
+        });
+    }
+}
+
+RtfPicture DocumentBuilder::pictureNamed(const std::string& name, std::int32_t width,
+                                         std::int32_t height) {
+    const std::tuple key(name, width, height);
+    if (const auto read = picturesRead_.find(key); read != picturesRead_.end()) {
+        return read->second;
+    }
+    try {
+        return picturesRead_.try_emplace(key, pictures_(name), width, height).first->second;
+    } catch (const RtfError& error) {
+        std::string reason = error.description;
+        if (reason.ends_with('.')) {
+            reason.pop_back();
+        }
+        throw LeafError(DriverFault::WrongPicture, name + ": " + reason);
     }
 }
 

@@ -2,8 +2,10 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <map>
 #include <span>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -56,8 +58,7 @@ struct BuiltTable {
 /// it and the build goes on with the next leaf.
 class DocumentBuilder {
 public:
-    /// All that is given must outlive the builder. Without a source of pictures, a picture is an
-    /// error.
+    /// All that is given must outlive the builder. Without a source, pictures are left out.
     DocumentBuilder(CRtfDoc& document, const Dialect& dialect, ViolationReceiver receiver = {},
                     PictureSource pictures = {})
         : document_(document),
@@ -105,6 +106,8 @@ private:
     void applyParaLeaf(CRtfParagraph& paragraph, const Leaf& leaf);
     void setText(CRtfParagraph& paragraph, const Leaf& leaf) const;
     void setLiteralText(CRtfParagraph& paragraph, DescriptionNode& node) const;
+    void setPicture(CRtfParagraph& paragraph, DescriptionNode& node);
+    RtfPicture pictureNamed(const std::string& name, std::int32_t width, std::int32_t height);
     void setMargin(const Leaf& leaf, void (CRtfDoc::*set)(std::int32_t),
                    std::int32_t (CRtfDoc::*get)() const);
 
@@ -128,6 +131,8 @@ private:
     const Dialect& dialect_;
     ViolationReceiver receiver_;
     PictureSource pictures_;
+    // Those that were read, by their names and sizes: a logo can stand in every row.
+    std::map<std::tuple<std::string, std::int32_t, std::int32_t>, RtfPicture> picturesRead_;
     BuiltTable table_;
     // The node that has the key of the last error 457.
     DescriptionNode* keyHolder_ = nullptr;

@@ -36,6 +36,12 @@ bool staysWithinFolder(const std::string& name) {
     }
 }
 
+std::string noPictures(const std::string&) {
+    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
+                   "a text that is not read from a file has no pictures beside it; set a source of "
+                   "pictures"));
+}
+
 PictureSource picturesBeside(const std::string& path, Platform& platform) {
     return [folder = folderOf(path), &platform](const std::string& name) {
         if (!staysWithinFolder(name)) {

@@ -900,6 +900,12 @@ const std::map<std::string, std::pair<std::string, std::string>>& reportsWithout
             "       ^\n"
             "    hint: save the file in UTF-8, or use --encoding windows-1252 if it is in "
             "Windows-1252\n"};
+        list["wrong-picture"] = {
+            reportOfFile("a.rtfspec",
+                         "; quorvane 2\n(doc\n(r\n(c\n(p\n(picture=no.png)\np)\nc)\nr)\ndoc)\n"),
+            "a.rtfspec:6:10: error: no.png: File not found. [wrong-picture]\n"
+            "    (picture=no.png)\n"
+            "             ^~~~~~\n"};
         list["wrong-extension"] = {
             reportOfFile("a.rtf", "(doc\n(r\n(c\nc)\nr)\ndoc)\n"),
             "a.rtf:1:1: warning: This is a description, but its extension is .rtf. "

@@ -39,7 +39,7 @@ TEST(FormatDescription, KeepsValuesOfSeveralLinesInTheExtendedLanguage) {
         "; quorvane 2\n(doc\n  (r\n    (c\n      (p\n        (pt=\"\"\"\n ; a  \n\n b)\n "
         "\"\"\")\n      p)\n    c)\n  r)\ndoc)\n";
     EXPECT_EQ(formattedDescription("; quorvane 2\n(doc\n(r\n(c\n(p\n(pt= \"\"\"\n ; a  \n\n b)\n "
-                                   "\"\"\" )\np)\nc)\nr)\ndoc)"),
+                                   "\"\"\")  \np)\nc)\nr)\ndoc)"),
               formatted);
     EXPECT_EQ(formattedDescription(formatted), formatted);
 }

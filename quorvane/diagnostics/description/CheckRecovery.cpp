@@ -118,9 +118,11 @@ void CheckRecovery::ended(const SourceLine& line) {
     }
 }
 
-/// Reports once that something stands where nothing is read, after the document.
+/// Reports once that something stands where nothing is read, after the document, unless the parser
+/// does.
 void CheckRecovery::reportOutside(const SourceLine& line) {
-    if (!std::exchange(isOutsideReported_, true)) {
+    if (dialect_.misplacedOpeners == MisplacedOpeners::CloseNodes &&
+        !std::exchange(isOutsideReported_, true)) {
         engine_.report(DiagnosticId::OutsideDocument, source_.placeOf(line.text), {},
                        missingOpener_);
     }
