@@ -150,7 +150,6 @@ void InnerDocument::renderLayout(TableRendering& rendering) {
     laidOut.renderBody(rendering);
 }
 
-// Finds what rendering could not write, before it begins.
 void InnerDocument::checkLayout() {
     if (changed_ && hasLayout()) {
         LaidOutRows(inner(*body_.TableRows()), *this).check();

@@ -35,6 +35,8 @@ public:
     const PageAdditions& page() const noexcept;
     template <class Setting>
     void set(Setting PageAdditions::*setting, Setting value);
+    // Finds what rendering could not write, before it begins: a `LayoutError`.
+    void checkLayout();
     tColorIndex addColor(RgbColor color);
     std::int32_t addFont(std::string_view name);
     // True when the document has a short text, and has it in memory.
@@ -56,7 +58,6 @@ private:
 
     void initAllGroups();
     bool hasLayout() const;
-    void checkLayout();
     bool refreshIfChanged(const char* procedure);
     void render();
     void renderInto(std::string& rtf);

@@ -10,8 +10,10 @@
 #include "quorvane/base/text/rounding.h"
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/docmodel/InnerCells.h"
+#include "quorvane/docmodel/InnerDocument.h"
 #include "quorvane/docmodel/InnerParagraphs.h"
 #include "quorvane/docmodel/InnerRows.h"
+#include "quorvane/docmodel/layout/LayoutError.h"
 #include "quorvane/docmodel/tableCollectionChanges.h"
 #include "quorvane/driver/DescriptionRules.h"
 #include "quorvane/driver/LeafError.h"
@@ -83,6 +85,10 @@ HeadingForm headingForm(std::string_view text) {
     return text == "trhdr" ? HeadingForm::RowProperty : HeadingForm::PageHeader;
 }
 
+std::string_view withoutFullStop(std::string_view sentence) {
+    return sentence.substr(0, sentence.size() - (sentence.ends_with('.') ? 1 : 0));
+}
+
 /// A host that is shown an absorbed error may remove elements that are not finished.
 template <class Collection>
 void requirePosition(const Collection& collection, std::int32_t position) {
@@ -101,7 +107,7 @@ DriverFault faultOf(const RtfError& error) {
 }  // namespace
 
 template <class Apply>
-void DocumentBuilder::forEachLeaf(DescriptionNode& node, NodeKind kind, Apply apply) const {
+void DocumentBuilder::forEachLeaf(DescriptionNode& node, NodeKind kind, Apply apply) {
     KeySet keys = node.keys & dialect_.vocabulary.keySetOf(kind);
     if (keys == 0) {
         return;
@@ -121,7 +127,7 @@ void DocumentBuilder::forEachLeaf(DescriptionNode& node, NodeKind kind, Apply ap
 }
 
 template <class Apply>
-void DocumentBuilder::applyTo(Leaf& leaf, Apply apply) const {
+void DocumentBuilder::applyTo(Leaf& leaf, Apply apply) {
     try {
         atLine(leaf.line, [&] { apply(leaf); });
     } catch (const LeafError& error) {
@@ -131,7 +137,8 @@ void DocumentBuilder::applyTo(Leaf& leaf, Apply apply) const {
     }
 }
 
-void DocumentBuilder::reportLeaf(DriverFault fault, const RtfError& error, Leaf& leaf) const {
+void DocumentBuilder::reportLeaf(DriverFault fault, const RtfError& error, Leaf& leaf) {
+    hasFaults_ = true;
     (receiver_ ? receiver_
                : raiseViolation)({.fault = fault,
                                   .error = error,
@@ -172,7 +179,30 @@ BuiltTable DocumentBuilder::build(DescriptionNode& doc) {
         requirePosition(*rows, ++position);
         applyRow(row);
     }
+    if (dialect_.values.areExtended && !hasFaults_) {
+        checkLayout();
+    }
     return std::move(table_);
+}
+
+/// Reports where spans, columns and headings do not fit together.
+void DocumentBuilder::checkLayout() {
+    try {
+        inner(document_).checkLayout();
+    } catch (const LayoutError& error) {
+        const std::size_t index = std::min(error.row, table_.rows.size());
+        if (index == 0) {
+            throw;
+        }
+        DescriptionNode& node = *table_.rows[index - 1].node;
+        (receiver_ ? receiver_ : raiseViolation)(
+            {.fault = DriverFault::WrongPlace,
+             .error = driverError(DriverFault::WrongPlace, withoutFullStop(error.description),
+                                  node.line),
+             .part = node.opener,
+             .node = &node,
+             .kind = NodeKind::Row});
+    }
 }
 
 void DocumentBuilder::applyDocument(DescriptionNode& doc) {
@@ -531,7 +561,7 @@ void DocumentBuilder::setText(CRtfParagraph& paragraph, const Leaf& leaf) const 
 }
 
 /// Raw control words come before the text, so that they can format it.
-void DocumentBuilder::setLiteralText(CRtfParagraph& paragraph, DescriptionNode& node) const {
+void DocumentBuilder::setLiteralText(CRtfParagraph& paragraph, DescriptionNode& node) {
     std::string rtf;
     const auto append = [&](DescriptionKey key, auto text) {
         if (Leaf* const leaf = soundLeafOf(node, key)) {
@@ -584,11 +614,8 @@ RtfPicture DocumentBuilder::pictureNamed(const std::string& name, std::int32_t w
     try {
         return picturesRead_.try_emplace(key, pictures_(name), width, height).first->second;
     } catch (const RtfError& error) {
-        std::string reason = error.description;
-        if (reason.ends_with('.')) {
-            reason.pop_back();
-        }
-        throw LeafError(DriverFault::WrongPicture, name + ": " + reason);
+        throw LeafError(DriverFault::WrongPicture,
+                        name + ": " + std::string(withoutFullStop(error.description)));
     }
 }
 

@@ -83,13 +83,14 @@ private:
     // Calls `apply` for each leaf whose key nodes of that kind have, in ascending order of the
     // keys.
     template <class Apply>
-    void forEachLeaf(DescriptionNode& node, NodeKind kind, Apply apply) const;
+    void forEachLeaf(DescriptionNode& node, NodeKind kind, Apply apply);
     template <class Apply>
-    void applyTo(Leaf& leaf, Apply apply) const;
-    void reportLeaf(DriverFault fault, const RtfError& error, Leaf& leaf) const;
+    void applyTo(Leaf& leaf, Apply apply);
+    void reportLeaf(DriverFault fault, const RtfError& error, Leaf& leaf);
 
     bool isEncodable(Leaf& leaf) const;
 
+    void checkLayout();
     void applyDocument(DescriptionNode& doc);
     void clearMargins(const DescriptionNode& doc);
     void addRows(DescriptionNode& doc);
@@ -105,7 +106,7 @@ private:
     void applyCellLeaf(CRtfTableCell& cell, const Leaf& leaf);
     void applyParaLeaf(CRtfParagraph& paragraph, const Leaf& leaf);
     void setText(CRtfParagraph& paragraph, const Leaf& leaf) const;
-    void setLiteralText(CRtfParagraph& paragraph, DescriptionNode& node) const;
+    void setLiteralText(CRtfParagraph& paragraph, DescriptionNode& node);
     void setPicture(CRtfParagraph& paragraph, DescriptionNode& node);
     RtfPicture pictureNamed(const std::string& name, std::int32_t width, std::int32_t height);
     void setMargin(const Leaf& leaf, void (CRtfDoc::*set)(std::int32_t),
@@ -134,6 +135,8 @@ private:
     // Those that were read, by their names and sizes: a logo can stand in every row.
     std::map<std::tuple<std::string, std::int32_t, std::int32_t>, RtfPicture> picturesRead_;
     BuiltTable table_;
+    // An error of a leaf was reported.
+    bool hasFaults_ = false;
     // The node that has the key of the last error 457.
     DescriptionNode* keyHolder_ = nullptr;
 };

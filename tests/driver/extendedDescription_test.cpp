@@ -271,6 +271,9 @@ TEST(ExtendedDescription, ReportsItsFirstErrorAndBuildsNothing) {
         {"(doc|(r|(c|(p|(rtf=})|p)|c)|r)|doc)",
          "6: \"}\" closes a group that it does not open; remove }."},
         {"(doc|(header={seite})|(r|(c|(p|(pt=x)|p)|c)|r)|doc)", "3: "},
+        {"(doc|(columns=50 50)|(r|(c|(span=3)|(p|(pt=x)|p)|c)|r)|doc)", "4: Cell 1 of row 1 "},
+        {"(doc|(r|(c|(p|(pt=x)|p)|c)|r)|(r|(row-heading=yes)|(c|(p|(pt=x)|p)|c)|r)|doc)",
+         "10: Row 2 cannot repeat as a heading, because row 1 does not."},
         {"(doc|(columns=50 50)|(r|(c|(cw=20)|(p|(pt=x)|p)|c)|r)|doc)",
          "6: The columns give the cell its width; remove cell-width, or columns."},
     };

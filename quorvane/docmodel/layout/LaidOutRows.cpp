@@ -1,8 +1,10 @@
 #include "quorvane/docmodel/layout/LaidOutRows.h"
 
 #include <string>
+#include <utility>
 
 #include "quorvane/base/values/RtfError.h"
+#include "quorvane/docmodel/layout/LayoutError.h"
 #include "quorvane/docmodel/layout/TableLayout.h"
 
 namespace quorvane {
@@ -20,8 +22,16 @@ LaidOutRows::LaidOutRows(const InnerRows& rows, TableDocument& document)
 }
 
 void LaidOutRows::check() const {
-    TableLayout layout(document_);
     std::size_t position = 0;
+    try {
+        checkRows(position);
+    } catch (RtfError& error) {
+        throw LayoutError(std::move(error), position);
+    }
+}
+
+void LaidOutRows::checkRows(std::size_t& position) const {
+    TableLayout layout(document_);
     for (const InnerRow* row : rows_) {
         ++position;
         if (position > headings_ && row->settings().repeatsAsHeading) {

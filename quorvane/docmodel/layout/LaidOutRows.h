@@ -15,7 +15,7 @@ class LaidOutRows {
 public:
     LaidOutRows(const InnerRows& rows, TableDocument& document);
 
-    /// Error 5 for what cannot be written. Otherwise the rows can be rendered.
+    /// A `LayoutError` 5 for what cannot be written. Otherwise the rows can be rendered.
     void check() const;
 
     /// True if the first rows go into the page header.
@@ -27,6 +27,7 @@ public:
     void renderBody(TableRendering& rendering) const;
 
 private:
+    void checkRows(std::size_t& position) const;
     bool startsPage(const InnerRow& row, std::size_t position) const;
     std::string_view endsBefore(const InnerRow& row, std::size_t position) const;
 
