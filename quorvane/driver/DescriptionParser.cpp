@@ -81,26 +81,26 @@ void DescriptionParser::readLine(const SourceLine& line) {
 
 void DescriptionParser::addLeaf(const SourceLine& line, const DescriptionLine& parts,
                                 bool isFaulty) {
-    Leaf leaf{.key = dialect_.vocabulary.leafKey(parts.key),
-              .writtenKey = parts.key,
-              .text = parts.value,
-              .isFaulty = isFaulty,
-              .line = line.number};
-    if (const auto number = readNumber(parts.value)) {
-        leaf.kind = LeafKind::Number;
-        leaf.number = *number;
-    }
-    if (tree_->addLeaf(innermost(), leaf)) {
-        if (recovery_) {
-            recovery_->added(line, innermost());
-        }
+    const LeafKey key = dialect_.vocabulary.leafKey(parts.key);
+    Leaf* const leaf = tree_->addLeaf(innermost(), key);
+    if (!leaf) {
+        reject({.fault = DriverFault::DuplicateLeaf,
+                .error = driverError(DriverFault::DuplicateLeaf, {}, line.number),
+                .part = line.text,
+                .node = &innermost(),
+                .leaf = &tree_->leafOf(innermost(), key)});
         return;
     }
-    reject({.fault = DriverFault::DuplicateLeaf,
-            .error = driverError(DriverFault::DuplicateLeaf, {}, line.number),
-            .part = line.text,
-            .node = &innermost(),
-            .leaf = &tree_->leafOf(innermost(), leaf.key)});
+    leaf->writtenKey = parts.key;
+    leaf->text = parts.value;
+    if (readNumber(parts.value, leaf->number)) {
+        leaf->kind = LeafKind::Number;
+    }
+    leaf->isFaulty = isFaulty;
+    leaf->line = line.number;
+    if (recovery_) {
+        recovery_->added(line, innermost());
+    }
 }
 
 void DescriptionParser::open(const SourceLine& line, const DescriptionLine& parts) {
