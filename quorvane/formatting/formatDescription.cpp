@@ -5,11 +5,12 @@
 #include <utility>
 #include <vector>
 
+#include "quorvane/base/text/LineReader.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/driver/DescriptionFrame.h"
 #include "quorvane/driver/DescriptionParser.h"
-#include "quorvane/formatting/sourceLines.h"
+#include "quorvane/formatting/lineEndOf.h"
 #include "quorvane/support/recordStrings.h"
 
 namespace quorvane {
@@ -69,7 +70,8 @@ public:
         std::size_t depth = 0;
         int number = 0;
         bool isBlankPending = false;
-        for (const std::string_view raw : linesOf(text)) {
+        for (LineReader lines(text); !lines.atEnd();) {
+            const std::string_view raw = lines.next();
             ++number;
             const std::string_view line = trimWhitespace(raw);
             if (line.empty()) {

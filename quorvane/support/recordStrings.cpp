@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "quorvane/base/text/LineReader.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/textSearch.h"
 #include "quorvane/base/text/trimming.h"
@@ -17,31 +18,6 @@ constexpr char commentMark = ';';
 bool isBlank(char character) {
     return character == ' ' || character == '\t';
 }
-
-/// The next of one character. It is looked for once, however many lines end before it.
-class Next {
-public:
-    Next(std::string_view text, char character)
-        : text_(text), character_(character), position_(positionFrom(0)) {}
-
-    /// Its first position from there on; the end of the text when there is none. Never asked for an
-    /// earlier one than before.
-    std::size_t from(std::size_t start) {
-        if (position_ < start) {
-            position_ = positionFrom(start);
-        }
-        return position_;
-    }
-
-private:
-    std::size_t positionFrom(std::size_t start) const {
-        return std::min(text_.find(character_, start), text_.size());
-    }
-
-    std::string_view text_;
-    char character_;
-    std::size_t position_;
-};
 
 }  // namespace
 
@@ -149,17 +125,12 @@ std::vector<SourceLine> PreProcessRawData(std::string_view text) {
     constexpr std::size_t shortLine = 16;
     constexpr std::size_t maxAtFirst = 1024;
     lines.reserve(std::min(text.size() / shortLine + 1, maxAtFirst));
-    Next lineFeed(text, '\n');
-    Next carriageReturn(text, '\r');
-    std::size_t position = 0;
-    for (int number = 1; position < text.size(); ++number) {
-        const std::size_t end = std::min(lineFeed.from(position), carriageReturn.from(position));
-        const std::string_view line = trimWhile({text.data() + position, end - position}, isBlank);
+    LineReader reader(text);
+    for (int number = 1; !reader.atEnd(); ++number) {
+        const std::string_view line = trimWhile(reader.next(), isBlank);
         if (!line.empty() && line.front() != commentMark) {
             lines.push_back({line, number});
         }
-        const bool endsInBoth = end + 1 < text.size() && text[end] == '\r' && text[end + 1] == '\n';
-        position = end + (endsInBoth ? 2 : 1);
     }
     return lines;
 }
