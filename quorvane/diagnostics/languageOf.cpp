@@ -1,14 +1,13 @@
 #include "quorvane/diagnostics/languageOf.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <optional>
 #include <string>
 
+#include "quorvane/base/text/LineReader.h"
 #include "quorvane/base/text/byteOrderMark.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/trimming.h"
-#include "quorvane/diagnostics/engine/SourceText.h"
 #include "quorvane/diagnostics/fileEncoding.h"
 #include "quorvane/driver/DescriptionLine.h"
 #include "quorvane/stylesheet/stylesheetSyntax.h"
@@ -42,22 +41,21 @@ std::optional<CheckedLanguage> languageOfName(std::string_view fileName) {
 }
 
 std::ptrdiff_t countDescriptionLines(std::string_view text) {
-    const SourceText source(text);
-    return std::count_if(
-        source.lines().begin(), source.lines().end(), [&](const SourceText::Line& bounds) {
-            const std::string_view line =
-                trimWhitespace(text.substr(bounds.start, bounds.end - bounds.start));
-            return !line.empty() && descriptionLine(line, originalDialect()).isReadable();
-        });
+    std::ptrdiff_t count = 0;
+    for (LineReader reader(text); !reader.atEnd();) {
+        const std::string_view line = trimWhitespace(reader.next());
+        if (!line.empty() && descriptionLine(line, originalDialect()).isReadable()) {
+            ++count;
+        }
+    }
+    return count;
 }
 
 }  // namespace
 
 std::string_view firstLineOf(std::string_view text) {
-    const SourceText source(text);
-    for (const SourceText::Line& bounds : source.lines()) {
-        const std::string_view line =
-            trimWhitespace(text.substr(bounds.start, bounds.end - bounds.start));
+    for (LineReader reader(text); !reader.atEnd();) {
+        const std::string_view line = trimWhitespace(reader.next());
         if (!isEmptyOrComment(line, originalDialect())) {
             return line;
         }

@@ -29,17 +29,22 @@ Borders& Borders::operator=(const Borders& other) noexcept {
 }
 
 tBorderWidth Borders::operator[](BorderSide side) const noexcept {
-    return static_cast<tBorderWidth>(widths()[static_cast<std::size_t>(side)]);
+    const auto index = static_cast<std::size_t>(side);
+    return static_cast<tBorderWidth>(isPacked() ? unpacked(index, bits()) : wide()->widths[index]);
 }
 
 void Borders::set(BorderSide side, tBorderWidth width) {
+    const auto index = static_cast<std::size_t>(side);
+    if (isPacked() && fits(width)) {
+        setBits((bits() & ~packed(index, -1)) | packed(index, width));
+        return;
+    }
     Widths changed = widths();
-    changed[static_cast<std::size_t>(side)] = width;
+    changed[index] = width;
     std::uint64_t fresh = 1;
     if (std::all_of(changed.begin(), changed.end(), fits)) {
-        constexpr std::uint64_t mask = (1U << bitsOfAWidth) - 1;
         for (std::size_t i = 0; i < changed.size(); ++i) {
-            fresh |= (static_cast<std::uint64_t>(changed[i]) & mask) << shiftOf(i);
+            fresh |= packed(i, changed[i]);
         }
     } else {
         fresh = reinterpret_cast<std::uintptr_t>(new Wide{1, changed});
@@ -60,6 +65,17 @@ bool Borders::fits(std::int32_t width) noexcept {
     return width >= -limit && width < limit;
 }
 
+std::uint64_t Borders::packed(std::size_t side, std::int32_t width) noexcept {
+    constexpr std::uint64_t mask = (1U << bitsOfAWidth) - 1;
+    return (static_cast<std::uint64_t>(width) & mask) << shiftOf(side);
+}
+
+std::int32_t Borders::unpacked(std::size_t side, std::uint64_t bits) noexcept {
+    // The width's highest bit becomes the sign.
+    const auto raised = static_cast<std::uint32_t>(bits >> shiftOf(side)) << (32 - bitsOfAWidth);
+    return static_cast<std::int32_t>(raised) >> (32 - bitsOfAWidth);
+}
+
 void Borders::setBits(std::uint64_t bits) noexcept {
     low_ = static_cast<std::uint32_t>(bits);
     high_ = static_cast<std::uint32_t>(bits >> 32);
@@ -77,9 +93,7 @@ Borders::Widths Borders::widths() const noexcept {
     }
     Widths widths{};
     for (std::size_t i = 0; i < widths.size(); ++i) {
-        // The width's highest bit becomes the sign.
-        const auto raised = static_cast<std::uint32_t>(bits() >> shiftOf(i)) << (32 - bitsOfAWidth);
-        widths[i] = static_cast<std::int32_t>(raised) >> (32 - bitsOfAWidth);
+        widths[i] = unpacked(i, bits());
     }
     return widths;
 }

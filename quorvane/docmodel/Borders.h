@@ -40,6 +40,8 @@ private:
     static constexpr std::uint64_t noBorders = UINT64_C(0x1FFFFFFFFFFFFFFF);
 
     static bool fits(std::int32_t width) noexcept;
+    static std::uint64_t packed(std::size_t side, std::int32_t width) noexcept;
+    static std::int32_t unpacked(std::size_t side, std::uint64_t bits) noexcept;
     static unsigned shiftOf(std::size_t side) noexcept {
         return 1 + bitsOfAWidth * static_cast<unsigned>(side);
     }

@@ -72,6 +72,7 @@ void InnerCells::takeFrom(InnerCells& other) {
     uniformWidth_ = other.uniformWidth_;
     removedHeads_ = other.removedHeads_;
     spread_ = other.spread_;
+    cellsHaveEdges_ = other.cellsHaveEdges_;
     for (InnerCell* cell : list_) {
         cell->setParent(row());
     }
@@ -80,7 +81,7 @@ void InnerCells::takeFrom(InnerCells& other) {
 void InnerCells::spread(std::int32_t uniformWidth) noexcept {
     uniformWidth_ = uniformWidth;
     removedHeads_ = 0;
-    if (++spread_ == 0) {
+    if (std::exchange(cellsHaveEdges_, false) && ++spread_ == 0) {
         spread_ = 1;
         for (InnerCell* cell : list_) {
             cell->edgeSpread_ = 0;
@@ -100,6 +101,7 @@ void InnerCells::setRightEdge(std::size_t position, std::int32_t edge) noexcept 
     InnerCell& cell = list_.at(position);
     cell.rightEdge_ = edge;
     cell.edgeSpread_ = spread_;
+    cellsHaveEdges_ = true;
 }
 
 // For when positions are about to change that edges follow from.

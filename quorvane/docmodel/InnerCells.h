@@ -53,6 +53,8 @@ private:
     // Number of the last spread, from 1. An edge that stands in a cell bears the number of its
     // spread. When the numbers start again, all cells lose theirs.
     std::uint16_t spread_ = 1;
+    // True when a cell may bear that number: only then does the next spread need another one.
+    bool cellsHaveEdges_ = false;
 };
 
 inline InnerCells& inner(CRtfTableCells& cells) noexcept {

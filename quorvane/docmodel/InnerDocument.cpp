@@ -1,10 +1,10 @@
 #include "quorvane/docmodel/InnerDocument.h"
 
-#include <functional>
 #include <span>
 #include <utility>
 
 #include "quorvane/base/text/StringOutput.h"
+#include "quorvane/base/text/quickHash.h"
 #include "quorvane/docmodel/StreamedText.h"
 #include "quorvane/docmodel/TableRendering.h"
 #include "quorvane/docmodel/layout/LaidOutRows.h"
@@ -289,8 +289,8 @@ std::int32_t InnerDocument::cellStyleColor(std::string_view sName) const {
     return styleSheet_->getCellStyleBackColor(sName);
 }
 
-SharedText InnerDocument::sharedName(std::string_view sName) {
-    SharedText& kept = names_[std::hash<std::string_view>{}(sName) % names_.size()];
+const SharedText& InnerDocument::sharedName(std::string_view sName) {
+    SharedText& kept = names_[quickHash(sName) % names_.size()];
     if (kept.view() != sName) {
         kept = SharedText(sName);
     }

@@ -48,7 +48,7 @@ public:
     std::string_view GetParagraphStyle(std::string_view sName) const override;
     std::string_view GetCharacterStyle(std::string_view sName) const override;
     std::int32_t cellStyleColor(std::string_view sName) const override;
-    SharedText sharedName(std::string_view sName) override;
+    const SharedText& sharedName(std::string_view sName) override;
     GError& errors() noexcept override { return errors_; }
 
 private:

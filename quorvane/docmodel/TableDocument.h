@@ -32,7 +32,7 @@ public:
     virtual std::int32_t cellStyleColor(std::string_view sName) const = 0;
     /// Returns a text for the name of a style; equal names that were set lately share their
     /// characters.
-    virtual SharedText sharedName(std::string_view sName) = 0;
+    virtual const SharedText& sharedName(std::string_view sName) = 0;
     /// Returns the document's error module.
     virtual GError& errors() noexcept = 0;
     void beforeChange() final {

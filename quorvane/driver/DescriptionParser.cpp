@@ -96,28 +96,27 @@ void DescriptionParser::readLeaf(const SourceLine& line, const DescriptionLine& 
 
 void DescriptionParser::addLeaf(const SourceLine& line, const DescriptionLine& parts,
                                 bool isFaulty) {
-    Leaf leaf{.key = dialect_.vocabulary.leafKey(parts.key),
-              .writtenKey = parts.key,
-              .text = parts.value,
-              .isFaulty = isFaulty,
-              .line = line.number};
-    // A value of the extended language means what its key makes of it.
-    const auto number = dialect_.values.areExtended ? std::nullopt : readNumber(parts.value);
-    if (number) {
-        leaf.kind = LeafKind::Number;
-        leaf.number = *number;
-    }
-    if (tree_->addLeaf(innermost(), leaf)) {
-        if (recovery_) {
-            recovery_->added(line, innermost());
-        }
+    const LeafKey key = dialect_.vocabulary.leafKey(parts.key);
+    Leaf* const leaf = tree_->addLeaf(innermost(), key);
+    if (!leaf) {
+        reject({.fault = DriverFault::DuplicateLeaf,
+                .error = driverError(DriverFault::DuplicateLeaf, {}, line.number),
+                .part = line.text,
+                .node = &innermost(),
+                .leaf = &tree_->leafOf(innermost(), key)});
         return;
     }
-    reject({.fault = DriverFault::DuplicateLeaf,
-            .error = driverError(DriverFault::DuplicateLeaf, {}, line.number),
-            .part = line.text,
-            .node = &innermost(),
-            .leaf = &tree_->leafOf(innermost(), leaf.key)});
+    leaf->writtenKey = parts.key;
+    leaf->text = parts.value;
+    // A value of the extended language means what its key makes of it.
+    if (!dialect_.values.areExtended && readNumber(parts.value, leaf->number)) {
+        leaf->kind = LeafKind::Number;
+    }
+    leaf->isFaulty = isFaulty;
+    leaf->line = line.number;
+    if (recovery_) {
+        recovery_->added(line, innermost());
+    }
 }
 
 void DescriptionParser::open(const SourceLine& line, const DescriptionLine& parts) {

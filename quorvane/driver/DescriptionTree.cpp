@@ -22,18 +22,17 @@ constexpr std::size_t maxLeavesAtOnce = 16384;
 DescriptionTree::DescriptionTree(std::size_t leafCount)
     : memory_(roomForFew + std::min(leafCount, maxLeavesAtOnce) * roomForALeaf) {}
 
-Leaf* DescriptionTree::addLeaf(DescriptionNode& node, const Leaf& leaf) {
-    const KeyOfNode key{&node, leaf.key.name};
-    const bool isKnown = leaf.key.known != DescriptionKey::Unknown;
-    if (isKnown ? contains(node.keys, leaf.key.known) : leaves_.contains(key)) {
+Leaf* DescriptionTree::addLeaf(DescriptionNode& node, const LeafKey& key) {
+    const KeyOfNode keyOfNode{&node, key.name};
+    const bool isKnown = key.known != DescriptionKey::Unknown;
+    if (isKnown ? contains(node.keys, key.known) : leaves_.contains(keyOfNode)) {
         return nullptr;
     }
-    auto* const added = new (memory_.allocate(sizeof(Leaf), alignof(Leaf))) Leaf(leaf);
+    auto* const added = new (memory_.allocate(sizeof(Leaf), alignof(Leaf))) Leaf{.key = key};
     if (!isKnown) {
-        leaves_.emplace(key, added);
+        leaves_.emplace(keyOfNode, added);
     }
-    node.keys |= setOf(leaf.key.known);
-    added->next = nullptr;
+    node.keys |= setOf(key.known);
     (node.lastLeaf ? node.lastLeaf->next : node.firstLeaf) = added;
     node.lastLeaf = added;
     return added;

@@ -27,9 +27,9 @@ public:
     DescriptionNode& root() { return root_; }
     const DescriptionNode& root() const { return root_; }
 
-    /// Adds a leaf to a node of this tree and returns it. What it views must outlive the tree. Null
-    /// when the node has such a key already.
-    Leaf* addLeaf(DescriptionNode& node, const Leaf& leaf);
+    /// Adds a leaf to a node of this tree and returns it, for the caller to fill in. What it views
+    /// must outlive the tree. Null when the node has such a key already.
+    Leaf* addLeaf(DescriptionNode& node, const LeafKey& key);
 
     /// The leaf that has the key, which is one of the node's.
     Leaf& leafOf(const DescriptionNode& node, const LeafKey& key);

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <iterator>
 
+#include "quorvane/base/text/quickHash.h"
 #include "quorvane/base/text/textCase.h"
 
 namespace quorvane {
@@ -182,16 +183,6 @@ NodeNumber inOneNumber(std::string_view name) {
     return number;
 }
 
-std::size_t hashOf(std::string_view word) {
-    if (word.empty()) {
-        return 0;
-    }
-    const auto code = [word](std::size_t position) {
-        return static_cast<std::size_t>(static_cast<unsigned char>(word[position]));
-    };
-    return code(0) * 7 + code(word.size() / 2) * 31 + code(word.size() - 1) * 3 + word.size() * 17;
-}
-
 template <class Enumeration>
 std::optional<Enumeration> valueNamed(std::span<const VocabularyWords::NamedValue> list,
                                       std::string_view name) {
@@ -258,7 +249,7 @@ Vocabulary::Vocabulary(const VocabularyWords& words) : words_(words) {
 }
 
 void Vocabulary::add(std::string_view word, const LeafKey& key) {
-    std::size_t slot = hashOf(word) % slotCount;
+    std::size_t slot = quickHash(word) % slotCount;
     while (!slots_[slot].word.empty()) {
         slot = (slot + 1) % slotCount;
     }
@@ -266,7 +257,7 @@ void Vocabulary::add(std::string_view word, const LeafKey& key) {
 }
 
 const LeafKey* Vocabulary::find(std::string_view word) const {
-    std::size_t slot = hashOf(word) % slotCount;
+    std::size_t slot = quickHash(word) % slotCount;
     while (!slots_[slot].word.empty() && slots_[slot].word != word) {
         slot = (slot + 1) % slotCount;
     }

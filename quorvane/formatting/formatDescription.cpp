@@ -5,12 +5,13 @@
 #include <utility>
 #include <vector>
 
+#include "quorvane/base/text/LineReader.h"
 #include "quorvane/base/text/extendedMark.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/driver/DescriptionFrame.h"
 #include "quorvane/driver/DescriptionParser.h"
-#include "quorvane/formatting/sourceLines.h"
+#include "quorvane/formatting/lineEndOf.h"
 #include "quorvane/support/recordStrings.h"
 
 namespace quorvane {
@@ -71,7 +72,8 @@ public:
         int number = 0;
         int lastOfValue = 0;
         bool isBlankPending = false;
-        for (const std::string_view raw : linesOf(text)) {
+        for (LineReader lines(text); !lines.atEnd();) {
+            const std::string_view raw = lines.next();
             if (++number <= lastOfValue) {
                 // A line of the value that is written already.
                 continue;
@@ -123,7 +125,13 @@ private:
     }
 
     int lineBreaksIn(std::string_view value) const {
-        return mayHaveLines(value) ? static_cast<int>(linesOf(value).size()) - 1 : 0;
+        int count = 0;
+        if (mayHaveLines(value)) {
+            for (LineReader lines(value); !lines.atEnd(); lines.next()) {
+                ++count;
+            }
+        }
+        return std::max(count - 1, 0);
     }
 
     bool mayHaveLines(std::string_view value) const {
@@ -136,9 +144,9 @@ private:
             return std::string(value);
         }
         std::string joined;
-        for (const std::string_view line : linesOf(value)) {
-            joined += (line.data() == value.data() ? std::string_view() : lineEnd);
-            joined += line;
+        for (LineReader lines(value); !lines.atEnd();) {
+            joined += lines.position() == 0 ? std::string_view() : lineEnd;
+            joined += lines.next();
         }
         return joined;
     }

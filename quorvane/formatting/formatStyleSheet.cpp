@@ -5,9 +5,10 @@
 #include <optional>
 #include <vector>
 
+#include "quorvane/base/text/LineReader.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/base/values/RtfError.h"
-#include "quorvane/formatting/sourceLines.h"
+#include "quorvane/formatting/lineEndOf.h"
 #include "quorvane/stylesheet/stylesheetParser.h"
 #include "quorvane/stylesheet/stylesheetSyntax.h"
 
@@ -62,7 +63,8 @@ public:
 
     /// The text between two definitions.
     void addText(std::string_view text) {
-        for (const std::string_view raw : linesOf(text)) {
+        for (LineReader lines(text); !lines.atEnd();) {
+            const std::string_view raw = lines.next();
             const std::string_view line = trimCharacters(raw, " \t");
             if (line.empty()) {
                 // The rest of the line on which a definition ends does not count as a blank line.

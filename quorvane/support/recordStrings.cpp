@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "quorvane/base/text/LineReader.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/textSearch.h"
 #include "quorvane/base/text/trimming.h"
@@ -17,31 +18,6 @@ constexpr char commentMark = ';';
 bool isBlank(char character) {
     return character == ' ' || character == '\t';
 }
-
-/// The next of one character. It is looked for once, however many lines end before it.
-class Next {
-public:
-    Next(std::string_view text, char character)
-        : text_(text), character_(character), position_(positionFrom(0)) {}
-
-    /// Its first position from there on; the end of the text when there is none. Never asked for an
-    /// earlier one than before.
-    std::size_t from(std::size_t start) {
-        if (position_ < start) {
-            position_ = positionFrom(start);
-        }
-        return position_;
-    }
-
-private:
-    std::size_t positionFrom(std::size_t start) const {
-        return std::min(text_.find(character_, start), text_.size());
-    }
-
-    std::string_view text_;
-    char character_;
-    std::size_t position_;
-};
 
 /// The values that go on over several lines.
 class Blocks {
@@ -92,16 +68,6 @@ private:
     std::string closer_;
     bool isNoneLeft_ = false;
 };
-
-/// How many lines begin in a text.
-int lineBreaks(std::string_view text) {
-    int count = 0;
-    for (std::size_t at = text.find_first_of("\r\n"); at != std::string_view::npos;
-         at = text.find_first_of("\r\n", at + 1)) {
-        count += text.substr(at).starts_with("\r\n") ? 0 : 1;
-    }
-    return count;
-}
 
 }  // namespace
 
@@ -209,23 +175,20 @@ std::vector<SourceLine> PreProcessRawData(std::string_view text, std::string_vie
     constexpr std::size_t shortLine = 16;
     constexpr std::size_t maxAtFirst = 1024;
     lines.reserve(std::min(text.size() / shortLine + 1, maxAtFirst));
-    Next lineFeed(text, '\n');
-    Next carriageReturn(text, '\r');
+    LineReader reader(text);
     Blocks blocks(text, blockMark);
-    std::size_t position = 0;
-    for (int number = 1; position < text.size(); ++number) {
-        const std::size_t lineEnd =
-            std::min(lineFeed.from(position), carriageReturn.from(position));
-        const std::size_t end = blocks.endFrom(position, lineEnd);
-        const std::string_view line = trimWhile({text.data() + position, end - position}, isBlank);
+    for (int number = 1; !reader.atEnd(); ++number) {
+        const std::size_t begin = reader.position();
+        const std::string_view written = reader.next();
+        const std::size_t lineEnd = begin + written.size();
+        const std::size_t end = blocks.endFrom(begin, lineEnd);
+        const std::string_view line = trimWhile({text.data() + begin, end - begin}, isBlank);
         if (!line.empty() && line.front() != commentMark) {
             lines.push_back({line, number});
         }
-        if (end > lineEnd) {
-            number += lineBreaks(text.substr(lineEnd, end - lineEnd));
+        for (; end > lineEnd && reader.position() <= end && !reader.atEnd(); ++number) {
+            reader.next();
         }
-        const bool endsInBoth = end + 1 < text.size() && text[end] == '\r' && text[end + 1] == '\n';
-        position = end + (endsInBoth ? 2 : 1);
     }
     return lines;
 }

@@ -58,16 +58,19 @@ TEST_F(TableCells, ShareTheUsableWidthEvenly) {
 }
 
 TEST_F(TableCells, KeepNoWidthThatWasSetManySpreadsAgo) {
-    add(2);
-    // The numbers of the spreads start again after 65,535.
+    add(3);
+    const Ref<CRtfTableCell> other = cell(2);
+    // The numbers of the spreads start again after 65,535. Only one that a width was set for uses
+    // a number up.
     for (const int spreads : {65'534, 65'535, 65'536, 131'070}) {
         cell(1)->setWidth(eTwips, 700);
         for (int i = 0; i < spreads; ++i) {
+            other->setWidth(eTwips, 500);
             cells->SetUniformWidths();
         }
-        EXPECT_THAT(edges(), ElementsAre(4500, 9000)) << spreads;
+        EXPECT_THAT(edges(), ElementsAre(3000, 6000, 9000)) << spreads;
         cell(1)->setWidth(eTwips, 700);
-        EXPECT_THAT(edges(), ElementsAre(700, 9000)) << spreads;
+        EXPECT_THAT(edges(), ElementsAre(700, 6000, 9000)) << spreads;
     }
 }
 

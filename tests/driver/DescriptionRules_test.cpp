@@ -317,9 +317,9 @@ TEST(DescriptionSemantics, RefuseAValueThatIsNeitherTextNorNumber) {
     for (const char* key : {"para-text", "para-style", "para-alignment", "cell-alignment",
                             "cell-style", "para-marked-field", "cell-marked-field"}) {
         DescriptionTree tree;
-        tree.addLeaf(
-            tree.root(),
-            {.key = originalVocabulary().leafKey(key), .kind = LeafKind::Neither, .line = 7});
+        Leaf& leaf = *tree.addLeaf(tree.root(), originalVocabulary().leafKey(key));
+        leaf.kind = LeafKind::Neither;
+        leaf.line = 7;
         const DescriptionRules rules(originalDialect(), raiseViolation);
         EXPECT_EQ(errorOf([&] { rules.treeWalkerSemantic(tree.root()); }),
                   driverErrorOf(eWrongValue,

@@ -22,6 +22,15 @@ Leaf numberLeaf(std::string_view key, double number, std::string_view text, int 
             .line = line};
 }
 
+/// The leaf as it is in the tree; null when its key is there already.
+Leaf* add(DescriptionTree& tree, DescriptionNode& node, const Leaf& leaf) {
+    Leaf* const added = tree.addLeaf(node, leaf.key);
+    if (added) {
+        *added = leaf;
+    }
+    return added;
+}
+
 TEST(DescriptionTree, AddsAChildUnderItsNumber) {
     DescriptionTree tree;
     const DescriptionNode& row = tree.AddNode(tree.root(), NodeKind::Row, 1001, 5);
@@ -63,9 +72,9 @@ TEST(DescriptionTree, KeepsTheKindAndTheOpenerOfANode) {
 TEST(DescriptionTree, KeepsLeavesAndChildrenApartInTheOrderOfTheDescription) {
     DescriptionTree tree;
     DescriptionNode& row = tree.root();
-    tree.addLeaf(row, numberLeaf("row-key", 7, "7", 3));
+    add(tree, row, numberLeaf("row-key", 7, "7", 3));
     tree.AddNode(row, NodeKind::Cell, 2001, 4);
-    tree.addLeaf(row, leaf("row-backcolor", "red", 5));
+    add(tree, row, leaf("row-backcolor", "red", 5));
     tree.AddNode(row, NodeKind::Cell, 2002, 6);
 
     EXPECT_THAT(leafKeys(row), ElementsAre("row-key", "row-backcolor"));
@@ -74,7 +83,7 @@ TEST(DescriptionTree, KeepsLeavesAndChildrenApartInTheOrderOfTheDescription) {
 
 TEST(DescriptionTree, TakesAKeyOfDigitsForNoNumber) {
     DescriptionTree tree;
-    tree.addLeaf(tree.root(), leaf("2001", "x", 3));
+    add(tree, tree.root(), leaf("2001", "x", 3));
     tree.AddNode(tree.root(), NodeKind::Cell, 2001, 4);
     EXPECT_THAT(leafKeys(tree.root()), ElementsAre("2001"));
     EXPECT_THAT(childNumbers(tree.root()), ElementsAre(2001));
@@ -88,7 +97,7 @@ TEST(DescriptionTree, HasNeitherLeavesNorChildrenAtFirst) {
 
 TEST(DescriptionTree, KeepsALeafWithItsValueTextAndLine) {
     DescriptionTree tree;
-    tree.addLeaf(tree.root(), numberLeaf("para-text", 12, "0012", 3));
+    add(tree, tree.root(), numberLeaf("para-text", 12, "0012", 3));
     const Leaf kept = leafOf(tree.root(), "para-text");
     EXPECT_EQ(kept.value(), Value(12));
     EXPECT_EQ(kept.valueText(), "12");
@@ -99,9 +108,9 @@ TEST(DescriptionTree, KeepsALeafWithItsValueTextAndLine) {
 TEST(DescriptionTree, RefusesAKeyThatIsThereAndHasItsLeaf) {
     for (const char* key : {"para-text", "any-other"}) {
         DescriptionTree tree;
-        const Leaf* first = tree.addLeaf(tree.root(), leaf(key, "a", 3));
+        const Leaf* first = add(tree, tree.root(), leaf(key, "a", 3));
         const Leaf second = leaf(key, "b", 9);
-        EXPECT_EQ(tree.addLeaf(tree.root(), second), nullptr);
+        EXPECT_EQ(add(tree, tree.root(), second), nullptr);
         EXPECT_EQ(&tree.leafOf(tree.root(), second.key), first);
         EXPECT_EQ(leafOf(tree.root(), key).text, "a");
         EXPECT_THAT(leafKeys(tree.root()), ElementsAre(key));
@@ -112,8 +121,8 @@ TEST(DescriptionTree, TakesTheSameKeyInDifferentNodes) {
     DescriptionTree tree;
     DescriptionNode& row = tree.AddNode(tree.root(), NodeKind::Row, 1001, 1);
     for (const char* key : {"para-text", "any-other"}) {
-        tree.addLeaf(tree.root(), leaf(key, "a", 3));
-        tree.addLeaf(row, leaf(key, "b", 4));
+        add(tree, tree.root(), leaf(key, "a", 3));
+        add(tree, row, leaf(key, "b", 4));
         EXPECT_EQ(leafOf(tree.root(), key).text, "a");
         EXPECT_EQ(leafOf(row, key).text, "b");
     }
@@ -121,8 +130,8 @@ TEST(DescriptionTree, TakesTheSameKeyInDifferentNodes) {
 
 TEST(DescriptionTree, DistinguishesKeysToTheLetter) {
     DescriptionTree tree;
-    tree.addLeaf(tree.root(), leaf("para-text", "a", 3));
-    tree.addLeaf(tree.root(), leaf("Para-Text", "b", 4));
+    add(tree, tree.root(), leaf("para-text", "a", 3));
+    add(tree, tree.root(), leaf("Para-Text", "b", 4));
     EXPECT_THAT(leafKeys(tree.root()), ElementsAre("para-text", "Para-Text"));
 }
 

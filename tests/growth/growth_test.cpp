@@ -139,11 +139,11 @@ public:
         DescriptionNode& cell = tree_.AddNode(row, NodeKind::Cell, 2001, line);
         const std::int32_t first = originalDialect().numbers[indexOf(NodeKind::Para)].start + 1;
         const std::int32_t last = first + static_cast<std::int32_t>(count) - 1;
-        const Leaf key{.key = originalVocabulary().leafKey("para-key"),
-                       .number = static_cast<double>(last),
-                       .kind = LeafKind::Number};
         for (std::int32_t number = first; number < last; ++number) {
-            tree_.addLeaf(tree_.AddNode(cell, NodeKind::Para, number, line), key);
+            Leaf& key = *tree_.addLeaf(tree_.AddNode(cell, NodeKind::Para, number, line),
+                                       originalVocabulary().leafKey("para-key"));
+            key.number = last;
+            key.kind = LeafKind::Number;
         }
         tree_.AddNode(cell, NodeKind::Para, last, line);
     }

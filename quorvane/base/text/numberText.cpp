@@ -22,6 +22,12 @@ std::size_t countDigits(std::string_view text) {
     return count;
 }
 
+// A double holds every whole number of so many digits.
+bool isShortWhole(std::string_view text) {
+    constexpr std::size_t exactDigits = 15;
+    return !text.empty() && text.size() <= exactDigits && countDigits(text) == text.size();
+}
+
 bool isSign(char character) {
     return character == '+' || character == '-';
 }
@@ -97,28 +103,28 @@ bool isTooSmall(const NumberParts& parts) {
 
 }  // namespace
 
-std::optional<double> readNumber(std::string_view text) {
+bool readNumber(std::string_view text, double& number) {
+    if (isShortWhole(text)) {
+        std::int64_t whole = 0;
+        std::from_chars(text.data(), text.data() + text.size(), whole);
+        number = static_cast<double>(whole);
+        return true;
+    }
     const std::optional<NumberParts> parts = splitNumber(text);
     if (!parts) {
-        return std::nullopt;
+        return false;
     }
-    // A double holds every whole number of so many digits.
-    constexpr std::size_t exactDigits = 15;
-    const char* first = parts->mantissa.data();
-    double number = 0;
-    if (text.size() <= exactDigits && countDigits(text) == text.size()) {
-        std::int64_t whole = 0;
-        std::from_chars(first, text.data() + text.size(), whole);
-        return static_cast<double>(whole);
-    }
-    const auto [end, problem] = std::from_chars(first, text.data() + text.size(), number);
+    double magnitude = 0;
+    const auto [end, problem] =
+        std::from_chars(parts->mantissa.data(), text.data() + text.size(), magnitude);
     if (problem == std::errc::result_out_of_range) {
         if (!isTooSmall(*parts)) {
-            return std::nullopt;
+            return false;
         }
-        number = 0;
+        magnitude = 0;
     }
-    return parts->isNegative ? -number : number;
+    number = parts->isNegative ? -magnitude : magnitude;
+    return true;
 }
 
 std::string numberText(double number) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "quorvane/base/text/LineReader.h"
 #include "quorvane/base/text/utf8.h"
 
 namespace quorvane {
@@ -20,13 +21,11 @@ Place::Bytes extentOf(std::size_t lineStart, std::size_t start, std::size_t end)
 
 SourceText::SourceText(std::string_view text, TextEncoding encoding)
     : text_(text), encoding_(encoding) {
-    std::size_t start = 0;
-    for (std::size_t at = text.find_first_of("\r\n"); at != std::string_view::npos;
-         at = text.find_first_of("\r\n", start)) {
-        lines_.push_back({start, at});
-        start = at + (text.substr(at, 2) == "\r\n" ? 2 : 1);
-    }
-    lines_.push_back({start, text.size()});
+    LineReader reader(text);
+    do {
+        const std::size_t start = reader.position();
+        lines_.push_back({start, start + reader.next().size()});
+    } while (reader.endedLine());
     if (asciiRunEnd(text, 0) < text.size()) {
         std::size_t characters = 0;
         for (std::size_t at = 0; at < text.size(); ++characters) {

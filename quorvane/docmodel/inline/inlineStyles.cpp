@@ -119,7 +119,8 @@ struct Span {
 };
 
 /// The tokens that were replaced, each with the place of its group. A text can have tens of
-/// thousands: the slots of the hash table are small, so that they stay in the processor's cache.
+/// thousands, most of which are looked up once, in vain: a slot has part of the token's hash, so
+/// that only the slots need to be in the processor's cache.
 template <class View>
 class ReplacedTokens {
 public:
@@ -128,8 +129,12 @@ public:
         if (slots_.empty()) {
             return nullptr;
         }
-        const std::size_t slot = slotOf(token, std::hash<View>{}(token));
-        return slots_[slot] == 0 ? nullptr : &entries_[slots_[slot] - 1].group;
+        const std::uint32_t hash = hashOf(token);
+        std::size_t slot = hash & (slots_.size() - 1);
+        while (slots_[slot].number != 0 && !isAt(slots_[slot], token, hash)) {
+            slot = (slot + 1) & (slots_.size() - 1);
+        }
+        return slots_[slot].number == 0 ? nullptr : &entries_[slots_[slot].number - 1].group;
     }
 
     /// Forgets the tokens and keeps the memory.
@@ -142,42 +147,45 @@ public:
     void add(View token, Span group) {
         constexpr std::size_t smallestTable = 16;
         if (4 * (entries_.size() + 1) > 3 * slots_.size()) {
-            slots_.assign(std::max(2 * slots_.size(), smallestTable), 0);
-            for (std::size_t i = 0; i < entries_.size(); ++i) {
-                put(entries_[i], i);
-            }
+            std::vector<Slot> old(std::max(2 * slots_.size(), smallestTable));
+            old.swap(slots_);
+            std::for_each(old.begin(), old.end(), [this](const Slot& slot) { put(slot); });
         }
-        entries_.push_back({token, std::hash<View>{}(token), group});
-        put(entries_.back(), entries_.size() - 1);
+        entries_.push_back({token, group});
+        put({hashOf(token), static_cast<std::uint32_t>(entries_.size())});
     }
 
 private:
     struct Entry {
         View token;
-        std::size_t hash;
         Span group;
     };
+    struct Slot {
+        std::uint32_t hash = 0;
+        // Of the entry, from 1; 0 for none.
+        std::uint32_t number = 0;
+    };
 
-    void put(const Entry& entry, std::size_t index) {
-        slots_[slotOf(entry.token, entry.hash)] = static_cast<std::uint32_t>(index + 1);
+    static std::uint32_t hashOf(View token) {
+        return static_cast<std::uint32_t>(std::hash<View>{}(token));
     }
 
-    // The token's slot or the empty one where it belongs.
-    std::size_t slotOf(View token, std::size_t hash) const {
-        std::size_t slot = hash & (slots_.size() - 1);
-        while (slots_[slot] != 0 && !isAt(slots_[slot] - 1, token, hash)) {
-            slot = (slot + 1) & (slots_.size() - 1);
+    void put(const Slot& added) {
+        if (added.number != 0) {
+            std::size_t slot = added.hash & (slots_.size() - 1);
+            while (slots_[slot].number != 0) {
+                slot = (slot + 1) & (slots_.size() - 1);
+            }
+            slots_[slot] = added;
         }
-        return slot;
     }
 
-    bool isAt(std::size_t index, View token, std::size_t hash) const {
-        return entries_[index].hash == hash && entries_[index].token == token;
+    bool isAt(const Slot& slot, View token, std::uint32_t hash) const {
+        return slot.hash == hash && entries_[slot.number - 1].token == token;
     }
 
     std::vector<Entry> entries_;
-    // 0, or one more than the index of an entry.
-    std::vector<std::uint32_t> slots_;
+    std::vector<Slot> slots_;
 };
 
 /// The walk over a body whose characters are its places.
