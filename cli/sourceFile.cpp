@@ -11,6 +11,7 @@
 
 #include "cli/utf8Path.h"
 #include "quorvane/base/platform/throwUnlessAbsent.h"
+#include "quorvane/base/text/byteOrderMark.h"
 #include "quorvane/base/text/codePage1252.h"
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/diagnostics/fileEncoding.h"

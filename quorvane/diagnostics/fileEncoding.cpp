@@ -6,7 +6,6 @@ namespace quorvane {
 
 namespace {
 
-constexpr std::string_view utf8Marks[] = {"\xEF\xBB\xBF", "\xC3\xAF\xC2\xBB\xC2\xBF"};
 constexpr std::string_view utf16Marks[] = {"\xFF\xFE", "\xFE\xFF", "\xC3\xBF\xC3\xBE",
                                            "\xC3\xBE\xC3\xBF"};
 
@@ -25,15 +24,6 @@ bool isUtf16(std::string_view text) {
     const bool isEvenZero = text[0] == '\0' && text[2] == '\0';
     const bool isOddZero = text[1] == '\0' && text[3] == '\0';
     return isEvenZero != isOddZero;
-}
-
-std::string_view afterByteOrderMark(std::string_view text) {
-    for (const std::string_view mark : utf8Marks) {
-        if (text.starts_with(mark)) {
-            return text.substr(mark.size());
-        }
-    }
-    return text;
 }
 
 }  // namespace quorvane

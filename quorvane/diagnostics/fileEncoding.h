@@ -10,8 +10,4 @@ inline constexpr std::string_view utf16Hint = "the file is in UTF-16; save it in
 /// True for the bytes of a file in UTF-16, as they are or as they read in Windows-1252.
 bool isUtf16(std::string_view text);
 
-/// The text after the mark with which many programs begin a file in UTF-8: its bytes as they are
-/// or as they read in Windows-1252. The whole text when it has no mark.
-std::string_view afterByteOrderMark(std::string_view text);
-
 }  // namespace quorvane

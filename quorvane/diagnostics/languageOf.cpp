@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "quorvane/base/text/byteOrderMark.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/diagnostics/engine/SourceText.h"

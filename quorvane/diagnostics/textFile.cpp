@@ -5,6 +5,7 @@
 #include <initializer_list>
 #include <utility>
 
+#include "quorvane/base/text/byteOrderMark.h"
 #include "quorvane/base/text/codePage1252.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/diagnostics/KnownStyles.h"

@@ -122,8 +122,8 @@ void InnerDocument::render(TableRendering& rendering) {
     TextOutput& out = rendering.out;
     out << "{";
     header_.render(out);
-    fontTable_.render(out);
-    colorTable_.render(out);
+    fontTable_.render(out, tables_.fonts());
+    colorTable_.render(out, tables_.colors());
     styleSheet_->render(out);
     format_->render(out);
     body_.render(rendering);
@@ -188,6 +188,10 @@ void InnerDocument::refuseWhileWriting() const {
 void InnerDocument::clearStructure() {
     beforeChange();
     initAllGroups();
+}
+
+void InnerDocument::setExtendedStyleSheets(bool accept) {
+    styleSheet_->setExtendedTables(accept ? &tables_ : nullptr);
 }
 
 // The fixed groups hold nothing that could change, and the stylesheet stays: only page and table

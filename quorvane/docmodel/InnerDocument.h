@@ -17,6 +17,7 @@
 #include "quorvane/rtfgroups/CRtfGrpDocumentFormat.h"
 #include "quorvane/rtfgroups/CRtfGrpFontTable.h"
 #include "quorvane/rtfgroups/CRtfGrpHeader.h"
+#include "quorvane/rtfgroups/NumberedTables.h"
 #include "quorvane/stylesheet/CRtfGrpStyleSheetTable.h"
 #include "quorvane/support/GError.h"
 
@@ -31,6 +32,7 @@ public:
     const std::string& contents();
     void refresh();
     void clearStructure();
+    void setExtendedStyleSheets(bool accept);
     // True when the document has a short text, and has it in memory.
     bool holdsShortText() const noexcept;
 
@@ -69,6 +71,8 @@ private:
     CRtfGrpHeader header_;
     CRtfGrpFontTable fontTable_;
     CRtfGrpColorTable colorTable_;
+    // The colors and fonts that not every document has.
+    NumberedTables tables_;
     std::unique_ptr<CRtfGrpStyleSheetTable> styleSheet_;
     std::unique_ptr<CRtfGrpDocumentFormat> format_;
     CRtfGrpBody<InnerRows> body_;

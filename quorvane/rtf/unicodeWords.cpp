@@ -52,6 +52,17 @@ std::string withUnicodeWords(std::string_view text) {
     return rtf;
 }
 
+std::string nameWithUnicodeWords(std::string_view name) {
+    std::string rtf;
+    while (const std::optional<std::string_view> found = findBeyondCodePage1252(name)) {
+        const auto plain = static_cast<std::size_t>(found->data() - name.data());
+        rtf += name.substr(0, plain);
+        appendUnicodeWords(utf8CharacterAt(*found, 0).code, rtf);
+        name.remove_prefix(plain + found->size());
+    }
+    return rtf + std::string(name);
+}
+
 std::optional<std::string_view> findBeyondCodePage1252(std::string_view text) {
     for (std::size_t at = asciiRunEnd(text, 0); at < text.size(); at = asciiRunEnd(text, at)) {
         const std::string_view character = text.substr(at, utf8CharacterAt(text, at).length);

@@ -106,7 +106,6 @@ constexpr GroupText groupText = [] {
         text.add("\\blue", color.blue);
         text.add(";");
     }
-    text.add("}");
     return text;
 }();
 
@@ -151,8 +150,13 @@ std::optional<RgbColor> CRtfGrpColorTable::color(std::int32_t number) {
     return colors[number - 1].color;
 }
 
-void CRtfGrpColorTable::render(TextOutput& rtf) const {
+void CRtfGrpColorTable::render(TextOutput& rtf, std::span<const RgbColor> others) const {
     rtf << std::string_view(groupText.bytes.data(), groupText.size);
+    for (const RgbColor& color : others) {
+        rtf << "\r\n\\red" << color.red << "\\green" << color.green << "\\blue" << color.blue
+            << ";";
+    }
+    rtf << "}";
 }
 
 }  // namespace quorvane

@@ -6,6 +6,7 @@
 
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/wildcards.h"
+#include "quorvane/rtf/unicodeWords.h"
 
 namespace quorvane {
 
@@ -42,6 +43,12 @@ constexpr Font fonts[] = {
 
 static_assert(std::size(fonts) == CRtfGrpFontTable::fontCount);
 
+/// What stands between the control words of an entry and its end.
+std::string_view nameIn(std::string_view entry) {
+    const std::size_t begin = entry.find(' ') + 1;
+    return entry.substr(begin, entry.find(';') - begin);
+}
+
 }  // namespace
 
 std::int32_t CRtfGrpFontTable::GetFontIndex(std::string_view sName) const {
@@ -60,15 +67,26 @@ std::optional<std::int32_t> CRtfGrpFontTable::fontNumber(std::string_view key) {
                                     : std::optional(static_cast<std::int32_t>(found - fonts));
 }
 
+std::optional<std::int32_t> CRtfGrpFontTable::fontNumberOfName(std::string_view name) {
+    const auto* const found = std::ranges::find_if(
+        fonts, [&](const Font& font) { return equalIgnoringCase(nameIn(font.entry), name); });
+    return found == std::end(fonts) ? std::nullopt
+                                    : std::optional(static_cast<std::int32_t>(found - fonts));
+}
+
 std::string_view CRtfGrpFontTable::fontKey(std::int32_t number) {
     const bool isThere = number >= 0 && static_cast<std::size_t>(number) < std::size(fonts);
     return isThere ? fonts[number].key : std::string_view();
 }
 
-void CRtfGrpFontTable::render(TextOutput& rtf) const {
+void CRtfGrpFontTable::render(TextOutput& rtf, std::span<const std::string> others) const {
     rtf << "\r\n{" << opening;
     for (const Font& font : fonts) {
         rtf << "\r\n" << font.entry;
+    }
+    std::int32_t number = fontCount;
+    for (const std::string& name : others) {
+        rtf << "\r\n{\\f" << number++ << "\\fnil\\fcharset0 " << nameWithUnicodeWords(name) << ";}";
     }
     rtf << "}";
 }

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
+#include <string>
 #include <string_view>
 
 #include "quorvane/base/text/TextOutput.h"
@@ -24,11 +26,14 @@ public:
     /// in the font's entry, except for font 10: its key is "Trebuchet", its name "Trebuchet MS".
     static std::optional<std::int32_t> fontNumber(std::string_view key);
 
+    /// Number of the font of that name, in any case; nothing when no font has it.
+    static std::optional<std::int32_t> fontNumberOfName(std::string_view name);
+
     /// Key of the font of that number; empty for a number that the table does not have.
     static std::string_view fontKey(std::int32_t number);
 
-    /// Writes the group's text.
-    void render(TextOutput& rtf) const;
+    /// Writes the group's text, with the fonts of other names after those of the table.
+    void render(TextOutput& rtf, std::span<const std::string> others = {}) const;
 };
 
 }  // namespace quorvane

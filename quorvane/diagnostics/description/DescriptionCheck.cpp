@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "quorvane/base/text/byteOrderMark.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/diagnostics/description/CheckRecovery.h"
 #include "quorvane/diagnostics/description/NullPlatform.h"
@@ -116,6 +117,7 @@ private:
         NullPlatform platform;
         const Ref<CRtfDoc> document = CRtfDoc::create(platform);
         if (styles_) {
+            document->setExtendedStyleSheets(true);
             document->LoadStyleSheetFromMemmory(styles_->soundText());
         }
         BuiltTable table = DocumentBuilder(*document, dialect_, report).build(doc);

@@ -6,8 +6,8 @@
 #include <cstddef>
 #include <vector>
 
+#include "quorvane/base/text/placeholders.h"
 #include "quorvane/base/text/trimming.h"
-#include "quorvane/diagnostics/engine/placeholders.h"
 #include "quorvane/diagnostics/table/descriptionErrors.h"
 #include "quorvane/diagnostics/table/fileDiagnostics.h"
 #include "quorvane/diagnostics/table/nodeWarnings.h"

@@ -9,6 +9,7 @@
 #include <unordered_set>
 #include <utility>
 
+#include "quorvane/base/text/byteOrderMark.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/base/values/RtfError.h"
