@@ -104,7 +104,7 @@ TEST(ExamplesOfTheTable, AreThereForAllButWhatFewLinesCannotShow) {
         }
     }
     EXPECT_THAT(without, testing::ElementsAre("not-a-text-file", "wrong-extension", "rejected",
-                                              "stylesheet-rejected"));
+                                              "stylesheet-rejected", "bad-character"));
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include "quorvane/base/text/placeholders.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/diagnostics/table/descriptionErrors.h"
+#include "quorvane/diagnostics/table/extendedStyleSheetDiagnostics.h"
 #include "quorvane/diagnostics/table/fileDiagnostics.h"
 #include "quorvane/diagnostics/table/nodeWarnings.h"
 #include "quorvane/diagnostics/table/pageWarnings.h"
@@ -43,8 +44,9 @@ constexpr auto joined(const DiagnosticRule (&... tables)[sizes]) {
     return all;
 }
 
-constexpr auto table = joined(fileDiagnostics, descriptionErrors, nodeWarnings, styleWarnings,
-                              textWarnings, pageWarnings, styleSheetDiagnostics, rtfDiagnostics);
+constexpr auto table =
+    joined(fileDiagnostics, descriptionErrors, nodeWarnings, styleWarnings, textWarnings,
+           pageWarnings, styleSheetDiagnostics, extendedStyleSheetDiagnostics, rtfDiagnostics);
 
 constexpr bool isInOrderOfIds() {
     for (std::size_t i = 0; i < table.size(); ++i) {

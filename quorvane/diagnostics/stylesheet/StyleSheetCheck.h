@@ -9,7 +9,8 @@
 namespace quorvane {
 
 /// Returns all diagnostics about a stylesheet (UTF-8), in the order of their places. One of them is
-/// an error if and only if loading the stylesheet raises one.
+/// an error if and only if loading the stylesheet raises one, in a document that accepts the
+/// extended dialect (see `CRtfDoc::setExtendedStyleSheets`).
 std::vector<Diagnostic> checkStyleSheet(std::string_view text);
 
 /// Returns a diagnostic for each style that was not marked as used, with its place in the text of
