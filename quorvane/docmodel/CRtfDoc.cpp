@@ -3,9 +3,21 @@
 #include <utility>
 
 #include "quorvane/docmodel/InnerDocument.h"
+#include "quorvane/docmodel/layout/pageTextRtf.h"
 #include "quorvane/support/published.h"
 
 namespace quorvane {
+
+namespace {
+
+PageText pageText(std::string_view left, std::string_view center, std::string_view right) {
+    for (const std::string_view part : {left, center, right}) {
+        pageTextRtf(part);
+    }
+    return {std::string(left), std::string(center), std::string(right)};
+}
+
+}  // namespace
 
 Ref<CRtfDoc> CRtfDoc::create(Platform& platform) {
     return Ref<CRtfDoc>(new InnerDocument(platform));
@@ -97,6 +109,43 @@ std::int32_t CRtfDoc::PageWidth() const {
 
 void CRtfDoc::setPageWidth(std::int32_t twips) {
     inner(*this).format_->setPaperWidth(twips);
+}
+
+const std::vector<std::int32_t>& CRtfDoc::ColumnWidths() const {
+    return inner(*this).page().columnWidths;
+}
+
+void CRtfDoc::setColumnWidths(std::vector<std::int32_t> twips) {
+    published([&] {
+        requireWidths(twips);
+        inner(*this).set(&PageAdditions::columnWidths, std::move(twips));
+    });
+}
+
+HeadingForm CRtfDoc::HeadingForm() const {
+    return inner(*this).page().headingForm;
+}
+
+void CRtfDoc::setHeadingForm(quorvane::HeadingForm form) {
+    published([&] { inner(*this).set(&PageAdditions::headingForm, form); });
+}
+
+const PageText& CRtfDoc::PageHeader() const {
+    return inner(*this).page().header;
+}
+
+void CRtfDoc::setPageHeader(std::string_view left, std::string_view center,
+                            std::string_view right) {
+    published([&] { inner(*this).set(&PageAdditions::header, pageText(left, center, right)); });
+}
+
+const PageText& CRtfDoc::PageFooter() const {
+    return inner(*this).page().footer;
+}
+
+void CRtfDoc::setPageFooter(std::string_view left, std::string_view center,
+                            std::string_view right) {
+    published([&] { inner(*this).set(&PageAdditions::footer, pageText(left, center, right)); });
 }
 
 Ref<CRtfTableRows> CRtfDoc::TableRows() const {

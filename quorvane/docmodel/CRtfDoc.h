@@ -3,10 +3,13 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "quorvane/base/memory/Ref.h"
 #include "quorvane/base/platform/Platform.h"
 #include "quorvane/docmodel/CRtfTableRows.h"
+#include "quorvane/docmodel/HeadingForm.h"
+#include "quorvane/docmodel/PageText.h"
 #include "quorvane/docmodel/enumerations.h"
 #include "quorvane/docmodel/references.h"
 #include "quorvane/support/GError.h"
@@ -91,6 +94,46 @@ public:
     std::int32_t PageWidth() const;
     void setPageWidth(std::int32_t twips);
 
+    /// Widths of the columns in twips, in their order; empty by default.
+    const std::vector<std::int32_t>& ColumnWidths() const;
+    /// Sets the columns of all rows that have none of their own (`CRtfTableRow::setColumnWidths`).
+    /// The right edges of their cells are then exactly theirs, whatever `CRtfTableCell::Width`
+    /// returns. With an empty list, cells have the widths that they were given. Setting other
+    /// widths marks the document changed. Errors: 5 for a width below 1, 6 if their sum does not
+    /// fit 32 bits. More cells than columns are an error when the document is rendered; see
+    /// `Refresh`. A row with fewer cells ends early.
+    void setColumnWidths(std::vector<std::int32_t> twips);
+
+    /// How the heading is written, the first rows for which `CRtfTableRow::RepeatsAsHeading` is
+    /// true. Default `HeadingForm::PageHeader`: they are a table in the page header, under its text
+    /// if there is one, and not in the body. Word processors and LibreOffice show it on every page,
+    /// directly above the first row there. It begins at the top margin; below the text of a header
+    /// at about the top margin.
+    ///
+    /// With `HeadingForm::RowProperty` the rows stay in the table, with the control word `\trhdr`.
+    /// Some word processors repeat them on every page, LibreOffice does not. They are written once
+    /// more before each row that starts a page.
+    quorvane::HeadingForm HeadingForm() const;
+    /// Setting another value marks the document changed.
+    void setHeadingForm(quorvane::HeadingForm form);
+
+    /// Returns the texts of the page header; empty by default, which writes no header.
+    const PageText& PageHeader() const;
+    /// Sets the page header: texts at the left, in the center and at the right of the text area, at
+    /// half the top margin but not more than 720 twips below the edge of the paper. `{page}` is the
+    /// number of the page, `{pages}` the number of pages; they are fields, which word processors
+    /// keep up to date. `{{` and `}}` are braces. All other characters are shown as they are; write
+    /// no RTF. The paragraph style "header" gives the format; without such a style, the first one.
+    /// Setting other texts marks the document changed. Error 5 for other braces, and for characters
+    /// that no document can show (see `findUnshowable`).
+    void setPageHeader(std::string_view left, std::string_view center, std::string_view right);
+
+    /// Returns the texts of the page footer; empty by default, which writes no footer.
+    const PageText& PageFooter() const;
+    /// Sets the page footer as `setPageHeader` sets the header, at half the bottom margin but not
+    /// more than 720 twips above the edge of the paper, with the paragraph style "footer".
+    void setPageFooter(std::string_view left, std::string_view center, std::string_view right);
+
     /// Returns the rows of the table: the same object every time, until `ClearStructure`.
     Ref<CRtfTableRows> TableRows() const;
 
@@ -106,7 +149,8 @@ public:
     /// its stylesheet; the last two keep it in memory from then on. If the memory for it is
     /// missing, they throw `std::bad_alloc` and change nothing. A text is also kept if the format
     /// of a character style contains a token, and if a file is replaced and the brackets of inline
-    /// styles are not in pairs.
+    /// styles are not in pairs or the document has columns, spans, settings of rows, a page header
+    /// or a page footer.
     void Commit(const std::string& sPath);
 
     /// Loads a stylesheet from a text in place of the current styles. Marks the document changed
@@ -117,13 +161,17 @@ public:
     /// and paragraphs the alignment of their cells, for good. A character style whose format
     /// contains tokens of itself would make the text endless: then error 6 goes to the error module
     /// (see `setAbsorbedErrorObserver`), the previous text stays, and the document stays changed.
+    ///
+    /// Error 5 for columns, spans and headings that do not fit the rows; the description names the
+    /// row. `Contents` and `Commit` raise it too if the text is out of date.
     void Refresh();
 
     /// Returns the background color of the named cell style; `eNoColor` if there is no such style.
     tColorIndex getCellStyleBackColor(std::string_view sName) const;
 
-    /// Removes the rows and resets the page to its defaults. The stylesheet stays, and `Changed`
-    /// keeps its value. A host that holds the old rows can go on using them, but they are no longer
+    /// Removes the rows and resets the page to its defaults, and with it the columns, the form of
+    /// the heading, the page header and the page footer. The stylesheet stays, and `Changed` keeps
+    /// its value. A host that holds the old rows can go on using them, but they are no longer
     /// part of the document.
     void ClearStructure();
 

@@ -112,6 +112,22 @@ void CRtfTableCell::setStyle(std::string_view sName) {
     });
 }
 
+std::int32_t CRtfTableCell::ColumnSpan() const {
+    return inner(*this).span().columns;
+}
+
+void CRtfTableCell::setColumnSpan(std::int32_t count) {
+    published([&] { inner(*this).setSpan(&CellSpan::columns, count); });
+}
+
+std::int32_t CRtfTableCell::RowSpan() const {
+    return inner(*this).span().rows;
+}
+
+void CRtfTableCell::setRowSpan(std::int32_t count) {
+    published([&] { inner(*this).setSpan(&CellSpan::rows, count); });
+}
+
 void CRtfTableCell::asMarkedField(const Value& vFieldData) {
     published([&] {
         beforeChange(inner(*this).document());

@@ -66,6 +66,26 @@ public:
     /// Always marks the document changed, even with the same name.
     void setStyle(std::string_view sName);
 
+    /// Number of columns that the cell takes, 1 by default. The columns of a row are those of
+    /// `CRtfTableRow::setColumnWidths` or `CRtfDoc::setColumnWidths`. Where there are none, a row
+    /// in which a cell spans columns or rows has as many columns of the same width as its cells
+    /// take, and `setWidth` has no effect there.
+    std::int32_t ColumnSpan() const;
+    /// Setting another value marks the document changed. Error 5 for a value below 1. A cell that
+    /// reaches beyond the last column is an error when the document is rendered; see
+    /// `CRtfDoc::Refresh`.
+    void setColumnSpan(std::int32_t count);
+
+    /// Number of rows that the cell takes, 1 by default. The rows below do not have cells for the
+    /// columns that it covers: rendering inserts them, with the borders and the background of this
+    /// cell. Their other cells stand in the columns that are free.
+    std::int32_t RowSpan() const;
+    /// Setting another value marks the document changed. Error 5 for a value below 1. When the
+    /// document is rendered, it is an error if the cell reaches beyond the last row, out of the
+    /// heading or into a row that starts a page, or if a row below does not have a cell for each
+    /// column before it, or has columns of other widths.
+    void setRowSpan(std::int32_t count);
+
     /// Makes the cell a marked field with this data: a text or a 16-bit or 32-bit integer. Data of
     /// another type leaves the cell as it was, and the error goes to the error module (see
     /// `CRtfDoc::setAbsorbedErrorObserver`). Does not mark the document changed.

@@ -1,5 +1,7 @@
 #include "quorvane/docmodel/CRtfTableRow.h"
 
+#include <utility>
+
 #include "quorvane/docmodel/CRtfDoc.h"
 #include "quorvane/docmodel/InnerRow.h"
 #include "quorvane/support/published.h"
@@ -68,6 +70,49 @@ void CRtfTableRow::setLeftBorder(tBorderWidth width) {
 
 void CRtfTableRow::setRightBorder(tBorderWidth width) {
     published([&] { inner(*this).setBorder(BorderSide::Right, width); });
+}
+
+const std::vector<std::int32_t>& CRtfTableRow::ColumnWidths() const {
+    return inner(*this).settings().columnWidths;
+}
+
+void CRtfTableRow::setColumnWidths(std::vector<std::int32_t> twips) {
+    published([&] {
+        requireWidths(twips);
+        inner(*this).set(&RowSettings::columnWidths, std::move(twips));
+    });
+}
+
+bool CRtfTableRow::RepeatsAsHeading() const {
+    return inner(*this).settings().repeatsAsHeading;
+}
+
+void CRtfTableRow::setRepeatsAsHeading(bool repeats) {
+    published([&] { inner(*this).set(&RowSettings::repeatsAsHeading, repeats); });
+}
+
+bool CRtfTableRow::KeepTogether() const {
+    return inner(*this).settings().keepsTogether;
+}
+
+void CRtfTableRow::setKeepTogether(bool keep) {
+    published([&] { inner(*this).set(&RowSettings::keepsTogether, keep); });
+}
+
+bool CRtfTableRow::KeepWithNext() const {
+    return inner(*this).settings().keepsWithNext;
+}
+
+void CRtfTableRow::setKeepWithNext(bool keep) {
+    published([&] { inner(*this).set(&RowSettings::keepsWithNext, keep); });
+}
+
+bool CRtfTableRow::StartsPage() const {
+    return inner(*this).settings().startsPage;
+}
+
+void CRtfTableRow::setStartsPage(bool starts) {
+    published([&] { inner(*this).set(&RowSettings::startsPage, starts); });
 }
 
 }  // namespace quorvane

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstdint>
+#include <vector>
+
 #include "quorvane/base/memory/Ref.h"
 #include "quorvane/docmodel/CRtfTableCells.h"
 #include "quorvane/docmodel/enumerations.h"
@@ -36,6 +39,40 @@ public:
     void setTopBorder(tBorderWidth width);
     void setLeftBorder(tBorderWidth width);
     void setRightBorder(tBorderWidth width);
+
+    /// Widths of the row's columns in twips, in their order; empty by default, which leaves them to
+    /// the document (`CRtfDoc::setColumnWidths`).
+    const std::vector<std::int32_t>& ColumnWidths() const;
+    /// Sets the columns of this row. The right edges of its cells are then exactly theirs, whatever
+    /// `CRtfTableCell::Width` returns. An empty list goes back to those of the document. Setting
+    /// other widths marks the document changed. Errors: 5 for a width below 1, 6 if their sum does
+    /// not fit 32 bits. More cells than columns are an error when the document is rendered; see
+    /// `CRtfDoc::Refresh`. A row with fewer cells ends early.
+    void setColumnWidths(std::vector<std::int32_t> twips);
+
+    /// Whether the row is a part of the heading, which is on every page. Initially false. The
+    /// heading is made of the first rows of the table: a row with true below one with false is an
+    /// error when the document is rendered. How it is written: see `CRtfDoc::setHeadingForm`.
+    bool RepeatsAsHeading() const;
+    /// Setting another value marks the document changed.
+    void setRepeatsAsHeading(bool repeats);
+
+    /// Whether the row stays on one page. Initially false: a page can end within the row.
+    bool KeepTogether() const;
+    /// Setting another value marks the document changed.
+    void setKeepTogether(bool keep);
+
+    /// Whether the row stays on the page of the row below it. Initially false.
+    bool KeepWithNext() const;
+    /// Setting another value marks the document changed.
+    void setKeepWithNext(bool keep);
+
+    /// Whether a page starts with the row. Initially false. The table then ends with the row above,
+    /// and one of the same columns follows. Without effect in the heading and in the first row
+    /// after it.
+    bool StartsPage() const;
+    /// Setting another value marks the document changed.
+    void setStartsPage(bool starts);
 
     CRtfTableRow(const CRtfTableRow&) = delete;
     CRtfTableRow& operator=(const CRtfTableRow&) = delete;

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <memory>
+
 #include "quorvane/base/memory/MemoryPool.h"
+#include "quorvane/docmodel/DocumentAdditions.h"
 #include "quorvane/docmodel/RareValues.h"
 
 namespace quorvane {
@@ -11,6 +14,15 @@ struct DocumentMemory {
     /// Holds the elements and their texts.
     MemoryPool pool;
     RareValuesByElement rareValues;
+    /// Null until something is added.
+    std::unique_ptr<DocumentAdditions> additions;
+
+    DocumentAdditions& makeAdditions() {
+        if (!additions) {
+            additions = std::make_unique<DocumentAdditions>();
+        }
+        return *additions;
+    }
 };
 
 }  // namespace quorvane

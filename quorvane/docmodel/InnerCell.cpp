@@ -1,5 +1,6 @@
 #include "quorvane/docmodel/InnerCell.h"
 
+#include <string>
 #include <utility>
 
 #include "quorvane/base/values/RtfError.h"
@@ -52,6 +53,9 @@ void InnerCell::operator delete(InnerCell* cell, std::destroying_delete_t) noexc
     DocumentMemory& memory = memoryOf(*row.memory());
     if (cell->hasRareValues_) {
         memory.rareValues.erase(cell);
+        if (memory.additions) {
+            memory.additions->spans.erase(cell);
+        }
     }
     // While the cell is whole: paragraphs find their memory through it.
     cell->paragraphs().clear();
@@ -126,6 +130,10 @@ void InnerCell::takeOver(InnerCell& old) {
     rightEdge_ = old.rightEdge_;
     edgeSpread_ = old.edgeSpread_;
     paragraphs().takeFrom(old.paragraphs());
+    if (DocumentMemory& memory = memoryOf(*this);
+        memory.additions && memory.additions->spans.move(&old, this)) {
+        hasRareValues_ = 1;
+    }
 }
 
 void InnerCell::setBorder(BorderSide side, tBorderWidth width) {
@@ -134,6 +142,27 @@ void InnerCell::setBorder(BorderSide side, tBorderWidth width) {
         borders_.set(side, width);
         markChanged(document());
     }
+}
+
+CellSpan InnerCell::span() const {
+    const auto& additions = memoryOf(*this).additions;
+    const CellSpan* own = hasRareValues_ && additions ? additions->spans.find(this) : nullptr;
+    return own ? *own : CellSpan();
+}
+
+void InnerCell::setSpan(std::int32_t CellSpan::*direction, std::int32_t count) {
+    if (count < 1) {
+        raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
+                       "A cell cannot span " + std::to_string(count) +
+                           (direction == &CellSpan::rows ? " rows." : " columns.")));
+    }
+    if (span().*direction == count) {
+        return;
+    }
+    beforeChange(document());
+    memoryOf(*this).makeAdditions().spans[this].*direction = count;
+    hasRareValues_ = 1;
+    markChanged(document());
 }
 
 void InnerCell::applyBackColor(TableDocument* document, tColorIndex color) {

@@ -34,6 +34,8 @@ public:
     void prepareBackColor(std::int32_t color);
     void applyBackColor(TableDocument* document, tColorIndex color);
     void setAlign(std::int32_t align);
+    bool hasSpan() const noexcept { return span().columns > 1 || span().rows > 1; }
+    CellSpan span() const;
     void renderDefinition(TableRendering& rendering, std::int32_t rightEdge);
     void renderContent(TableRendering& rendering);
 
@@ -54,6 +56,7 @@ private:
     RareValues& rareValues();
     void setBackColor(std::int32_t color);
     void setBorder(BorderSide side, tBorderWidth width);
+    void setSpan(std::int32_t CellSpan::*direction, std::int32_t count);
 
     static constexpr std::int8_t unusual = INT8_MIN;
 

@@ -5,21 +5,12 @@
 
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/docmodel/InnerRow.h"
+#include "quorvane/docmodel/layout/evenWidth.h"
 #include "quorvane/docmodel/measures.h"
 
 namespace quorvane {
 
 namespace {
-
-constexpr std::int32_t smallestWidth = 200;
-
-// Width of each of so many cells that share the page evenly; their edges must fit in 32 bits.
-std::int32_t evenWidth(const TableDocument& document, std::size_t count) {
-    const auto cells = static_cast<std::int32_t>(count);
-    const std::int32_t width = std::max(quotient(document.TextAreaWidth(), cells), smallestWidth);
-    product(width, cells);
-    return width;
-}
 
 std::int32_t twipsOf(const TableDocument& document, std::int32_t percent) {
     return quotient(product(document.TextAreaWidth(), percent), 100);
@@ -41,7 +32,7 @@ TableDocument* InnerCells::document() const noexcept {
 
 void InnerCells::spreadEvenly() {
     TableDocument& owner = changing(document());
-    spread(evenWidth(owner, list_.count()));
+    spread(evenWidth(owner, static_cast<std::int64_t>(list_.count())));
     owner.markChanged();
 }
 
@@ -54,7 +45,8 @@ std::int32_t InnerCells::indexOf(const CRtfTableCell* cell) const {
 }
 
 void InnerCells::insertNew(const List::Place& place, TableDocument& document) {
-    const std::int32_t uniformWidth = evenWidth(document, list_.count() + 1);
+    const std::int32_t uniformWidth =
+        evenWidth(document, static_cast<std::int64_t>(list_.count()) + 1);
     list_.insert(place, InnerCell::create(row()));
     spread(uniformWidth);
 }
@@ -169,6 +161,27 @@ void InnerCells::render(TableRendering& rendering) {
         rendering.out << " ";
         cell->renderContent(rendering);
         rendering.out << "\\cell";
+    }
+}
+
+void InnerCells::render(TableRendering& rendering, std::span<const PlacedCell> places) {
+    TextOutput& out = rendering.out;
+    for (const PlacedCell& place : places) {
+        out << " " << place.word();
+        place.cell->renderDefinition(rendering, place.rightEdge);
+    }
+    if (rendering.keepsWithNext) {
+        // For the cells without text, which have no paragraph to say so.
+        out << " \\pard\\plain\\intbl\\keepn";
+    }
+    for (const PlacedCell& place : places) {
+        out << " ";
+        if (place.part == PlacedCell::Part::Covered) {
+            out << "\\pard\\plain\\intbl" << (rendering.keepsWithNext ? "\\keepn" : "");
+        } else {
+            place.cell->renderContent(rendering);
+        }
+        out << "\\cell";
     }
 }
 

@@ -2,10 +2,12 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 
 #include "quorvane/base/collections/KeyedList.h"
 #include "quorvane/docmodel/CRtfTableCells.h"
 #include "quorvane/docmodel/InnerCell.h"
+#include "quorvane/docmodel/layout/PlacedCell.h"
 
 namespace quorvane {
 
@@ -25,7 +27,10 @@ public:
     std::int32_t widthOf(const InnerCell& cell, tWidthUnit units) const;
     void setWidthOf(const InnerCell& cell, tWidthUnit units, std::int32_t value);
     void spreadEvenly();
+    std::int32_t rightEdge(std::size_t position) const noexcept;
     void render(TableRendering& rendering);
+    /// Writes the cells at these places, and the parts of cells of the rows above.
+    void render(TableRendering& rendering, std::span<const PlacedCell> places);
 
 protected:
     ~InnerCells() = default;
@@ -34,7 +39,6 @@ private:
     friend class CRtfTableCells;
 
     void spread(std::int32_t uniformWidth) noexcept;
-    std::int32_t rightEdge(std::size_t position) const noexcept;
     void setRightEdge(std::size_t position, std::int32_t edge) noexcept;
     void writeEdges() noexcept;
     std::int32_t width(std::size_t position) const;

@@ -6,6 +6,8 @@
 #include "quorvane/base/text/StringOutput.h"
 #include "quorvane/docmodel/StreamedText.h"
 #include "quorvane/docmodel/TableRendering.h"
+#include "quorvane/docmodel/layout/LaidOutRows.h"
+#include "quorvane/docmodel/layout/PageLines.h"
 #include "quorvane/docmodel/measures.h"
 #include "quorvane/support/GFileSystem.h"
 #include "quorvane/support/published.h"
@@ -56,6 +58,7 @@ InnerDocument::InnerDocument(Platform& platform)
 
 void InnerDocument::commit(const std::string& path) {
     refuseWhileWriting();
+    checkAdditions();
     std::optional<RtfError> failure;
     if (streams()) {
         failure = stream(path);
@@ -76,6 +79,7 @@ void InnerDocument::commit(const std::string& path) {
 const std::string& InnerDocument::contents() {
     refuseWhileWriting();
     keepsText_ = true;
+    checkAdditions();
     if (refreshIfChanged("Contents") && textState_ == TextState::Written) {
         keepText();
     }
@@ -86,6 +90,7 @@ void InnerDocument::refresh() {
     refuseWhileWriting();
     keepsText_ = true;
     changed_ = true;
+    checkAdditions();
     refreshIfChanged("Refresh");
 }
 
@@ -126,8 +131,34 @@ void InnerDocument::render(TableRendering& rendering) {
     colorTable_.render(out, tables_.colors());
     styleSheet_->render(out);
     format_->render(out);
-    body_.render(rendering);
+    if (memory().additions) {
+        renderWithAdditions(rendering);
+    } else {
+        body_.render(rendering);
+    }
     out << "}";
+}
+
+void InnerDocument::renderWithAdditions(TableRendering& rendering) {
+    const InnerRows& rows = inner(*body_.TableRows());
+    const LaidOutRows laidOut(rows, *this);
+    PageLines lines(rendering, *format_);
+    lines.renderHeader(page().header, laidOut.hasPageHeading() ? &laidOut : nullptr);
+    lines.renderFooter(page().footer);
+    laidOut.renderBody(rendering);
+}
+
+// Finds what rendering could not write, before it begins.
+void InnerDocument::checkAdditions() {
+    if (changed_ && memory().additions) {
+        LaidOutRows(inner(*body_.TableRows()), *this).check();
+        TextAreaWidth();
+    }
+}
+
+const PageAdditions& InnerDocument::page() const noexcept {
+    static const PageAdditions none;
+    return memory().additions ? memory().additions->page : none;
 }
 
 // A text that nobody has asked for need not be in memory. An endless one must not begin a file.
@@ -142,7 +173,8 @@ std::optional<RtfError> InnerDocument::stream(const std::string& path) {
     {
         const BeingWritten here(textState_);
         render(rendering);
-        if (text.waits() && rendering.inlineStyles.keepsItsMemory() && styleSheet_->keepsNames()) {
+        if (text.waits() && rendering.inlineStyles.keepsItsMemory() && styleSheet_->keepsNames() &&
+            !memory().additions) {
             text.begin();
             render(rendering);
         }
@@ -200,6 +232,9 @@ void InnerDocument::initAllGroups() {
     auto format = std::make_unique<CRtfGrpDocumentFormat>(*this);
     body_ = CRtfGrpBody<InnerRows>(Ref<InnerRows>(new InnerRows(*this)));
     format_ = std::move(format);
+    if (memory().additions) {
+        memory().additions->page = {};
+    }
 }
 
 void InnerDocument::releaseContents() noexcept {

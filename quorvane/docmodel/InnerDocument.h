@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "quorvane/base/memory/SharedText.h"
 #include "quorvane/base/platform/Platform.h"
@@ -33,6 +34,9 @@ public:
     void refresh();
     void clearStructure();
     void setExtendedStyleSheets(bool accept);
+    const PageAdditions& page() const noexcept;
+    template <class Setting>
+    void set(Setting PageAdditions::*setting, Setting value);
     // True when the document has a short text, and has it in memory.
     bool holdsShortText() const noexcept;
 
@@ -51,10 +55,12 @@ private:
     ~InnerDocument() override = default;
 
     void initAllGroups();
+    void checkAdditions();
     bool refreshIfChanged(const char* procedure);
     void render();
     void renderInto(std::string& rtf);
     void render(TableRendering& rendering);
+    void renderWithAdditions(TableRendering& rendering);
     bool streams() const noexcept;
     std::optional<RtfError> stream(const std::string& path);
     void keepText() override;
@@ -79,6 +85,16 @@ private:
     // Names of styles set lately, at the place of their hash: equal ones share their characters.
     std::array<SharedText, 16> names_;
 };
+
+template <class Setting>
+void InnerDocument::set(Setting PageAdditions::*setting, Setting value) {
+    if (page().*setting == value) {
+        return;
+    }
+    beforeChange();
+    memory().makeAdditions().page.*setting = std::move(value);
+    markChanged();
+}
 
 inline InnerDocument& inner(CRtfDoc& document) noexcept {
     return static_cast<InnerDocument&>(document);

@@ -110,6 +110,9 @@ void InnerParagraph::render(TableRendering& rendering, std::size_t position) con
         } else {
             out << "\r\n\\pard\\plain\\intbl";
         }
+        if (rendering.keepsWithNext) {
+            out << "\\keepn";
+        }
         out << rendering.paragraphStyle(style_);
         if (foreColor_ != eNoColor) {
             out << "\\cf" << foreColor_ << " ";

@@ -1,6 +1,15 @@
 #include "quorvane/docmodel/InnerRow.h"
 
+#include <string_view>
+
 namespace quorvane {
+
+namespace {
+
+constexpr std::string_view rowBegin = "\r\n{\\intbl\\trowd\\trql\\trgaph70\\trleft0";
+constexpr std::string_view rowEnd = "\\row}";
+
+}  // namespace
 
 void retain(InnerRow* row) noexcept {
     row->counts_.retain();
@@ -57,8 +66,12 @@ Ref<InnerRow> InnerRow::create(const WeakRef<TableDocument>& document) {
 
 void InnerRow::operator delete(InnerRow* row, std::destroying_delete_t) noexcept {
     const WeakRef<TableDocument> document = row->parent_;
+    DocumentMemory& memory = document.memory()->memory();
+    if (memory.additions) {
+        memory.additions->rows.erase(row);
+    }
     row->~InnerRow();
-    document.memory()->memory().pool.deallocate(row, sizeof(InnerRow));
+    memory.pool.deallocate(row, sizeof(InnerRow));
 }
 
 // The parent stays: by way of it cells that are still held find the memory they are in.
@@ -69,6 +82,9 @@ void InnerRow::releaseContents() noexcept {
 void InnerRow::takeOver(InnerRow& old) {
     backColor_ = old.backColor_;
     borders_ = old.borders_;
+    if (DocumentMemory& memory = memoryOf(*this); memory.additions) {
+        memory.additions->rows.move(&old, this);
+    }
     cells().takeFrom(old.cells());
 }
 
@@ -85,10 +101,37 @@ void InnerRow::setBorder(BorderSide side, tBorderWidth width) {
     document.markChanged();
 }
 
+const RowSettings& InnerRow::settings() const noexcept {
+    static const RowSettings none;
+    const auto& additions = memoryOf(*this).additions;
+    const RowSettings* own = additions ? additions->rows.find(this) : nullptr;
+    return own ? *own : none;
+}
+
 void InnerRow::render(TableRendering& rendering) {
-    rendering.out << "\r\n{\\intbl\\trowd\\trql\\trgaph70\\trleft0";
+    rendering.out << rowBegin;
     cells().render(rendering);
-    rendering.out << "\\row}";
+    rendering.out << rowEnd;
+}
+
+void InnerRow::render(TableRendering& rendering, std::span<const PlacedCell> places,
+                      HeadingForm form) {
+    const RowSettings& own = settings();
+    TextOutput& out = rendering.out;
+    out << rowBegin;
+    if (own.repeatsAsHeading && form == HeadingForm::RowProperty) {
+        out << "\\trhdr";
+    }
+    if (own.keepsTogether) {
+        out << "\\trkeep";
+    }
+    if (own.keepsWithNext) {
+        out << "\\trkeepfollow";
+    }
+    rendering.keepsWithNext = own.keepsWithNext;
+    cells().render(rendering, places);
+    rendering.keepsWithNext = false;
+    out << rowEnd;
 }
 
 }  // namespace quorvane

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 #include <new>
+#include <span>
+#include <utility>
 
 #include "quorvane/base/collections/KeyedList.h"
 #include "quorvane/base/memory/Counted.h"
@@ -22,7 +24,10 @@ public:
 
     InnerCells& cells() noexcept { return *this; }
     void takeOver(InnerRow& old);
+    const RowSettings& settings() const noexcept;
     void render(TableRendering& rendering);
+    /// Writes the row with its settings, and its cells at these places.
+    void render(TableRendering& rendering, std::span<const PlacedCell> places, HeadingForm form);
 
 private:
     friend class CRtfTableRow;
@@ -42,12 +47,24 @@ private:
 
     void releaseContents() noexcept;
     void setBorder(BorderSide side, tBorderWidth width);
+    template <class Setting>
+    void set(Setting RowSettings::*setting, Setting value);
 
     CountedOwner counts_;
     std::int32_t backColor_ = eNoColor;
     WeakRef<TableDocument> parent_;
     Borders borders_;
 };
+
+template <class Setting>
+void InnerRow::set(Setting RowSettings::*setting, Setting value) {
+    if (settings().*setting == value) {
+        return;
+    }
+    beforeChange(parent_.get());
+    memoryOf(*this).makeAdditions().rows[this].*setting = std::move(value);
+    markChanged(parent_.get());
+}
 
 inline InnerRow& inner(CRtfTableRow& row) noexcept {
     return static_cast<InnerRow&>(row);

@@ -41,6 +41,7 @@ public:
         }
     }
     DocumentMemory& memory() noexcept { return memory_; }
+    const DocumentMemory& memory() const noexcept { return memory_; }
 
 protected:
     enum class TextState : std::uint8_t {

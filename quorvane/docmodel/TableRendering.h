@@ -37,6 +37,8 @@ public:
     TableDocument& document;
     TextOutput& out;
     InlineStyles inlineStyles;
+    /// True while the row at hand is to stay on the page of the next one.
+    bool keepsWithNext = false;
 
 private:
     void lookUpParagraphStyle(const SharedText& name);

@@ -1,8 +1,7 @@
 #include "quorvane/driver/DescriptionLine.h"
 
-#include <algorithm>
 #include <cstddef>
-#include <optional>
+#include <string>
 
 #include "quorvane/base/text/trimming.h"
 
@@ -12,69 +11,82 @@ namespace {
 
 constexpr std::size_t nowhere = std::string_view::npos;
 
-std::optional<DescriptionLine> leafIn(std::string_view line, const Dialect& dialect) {
-    const LineMarks& marks = dialect.marks;
-    if (!line.starts_with(marks.open)) {
-        return std::nullopt;
-    }
-    const std::size_t equals = line.find(marks.equals);
-    const std::size_t end = equals == nowhere ? nowhere : line.find(marks.close, equals);
-    if (end == nowhere) {
-        return std::nullopt;
-    }
-    // A ")" in the key is the first one, and what follows must be a comment.
-    const std::size_t inKey = line.substr(0, equals).find(marks.close);
-    const std::string_view rest = line.substr((inKey == nowhere ? end : inKey) + 1);
-    if (!isEmptyOrComment(rest, dialect)) {
-        return std::nullopt;
-    }
-    return DescriptionLine{.type = LineType::Leaf,
-                           .key = trimBlanks(line.substr(1, equals - 1)),
-                           .value = trimBlanks(line.substr(equals + 1, end - equals - 1)),
-                           .rest = rest};
+/// `find`, compiled into its callers: lines are short.
+std::size_t positionIn(std::string_view text, char character, std::size_t start = 0) {
+    const char* const found =
+        std::char_traits<char>::find(text.data() + start, text.size() - start, character);
+    return found ? static_cast<std::size_t>(found - text.data()) : nowhere;
 }
 
-std::optional<DescriptionLine> openerOrCloserIn(std::string_view line, const Dialect& dialect) {
-    const std::string_view head = headOf(line, dialect);
-    const std::string_view rest = line.substr(head.size());
-    if (head.empty() || !isEmptyOrComment(rest, dialect)) {
-        return std::nullopt;
+/// Unreadable for any other line.
+DescriptionLine leafIn(std::string_view line, const Dialect& dialect) {
+    const LineMarks& marks = dialect.marks;
+    if (!line.starts_with(marks.open)) {
+        return {};
     }
-    if (head.front() == dialect.marks.open) {
-        const std::string_view name = head.substr(1);
-        if (const NodeKind kind = dialect.vocabulary.nodeKind(name); kind != NodeKind::None) {
-            return DescriptionLine{
-                .type = LineType::Opener, .kind = kind, .name = name, .rest = rest};
-        }
-    } else if (head.back() == dialect.marks.close) {
-        const std::string_view name = head.substr(0, head.size() - 1);
-        if (const NodeKind kind = dialect.vocabulary.nodeKind(name); kind != NodeKind::None) {
-            return DescriptionLine{
-                .type = LineType::Closer, .kind = kind, .name = name, .rest = rest};
-        }
+    const std::size_t equals = positionIn(line, marks.equals);
+    const std::size_t close = equals == nowhere ? nowhere : positionIn(line, marks.close);
+    if (close == nowhere) {
+        return {};
     }
-    return std::nullopt;
+    // A ")" in the key is the first one, and what follows must be a comment.
+    const std::size_t end = close > equals ? close : positionIn(line, marks.close, equals);
+    const std::string_view rest(line.data() + close + 1, line.size() - close - 1);
+    if (end == nowhere || !isEmptyOrComment(rest, dialect)) {
+        return {};
+    }
+    return {.type = LineType::Leaf,
+            .key = trimBlanks({line.data() + 1, equals - 1}),
+            .value = trimBlanks({line.data() + equals + 1, end - equals - 1}),
+            .rest = rest};
+}
+
+/// Unreadable for any other line.
+DescriptionLine openerOrCloserIn(std::string_view line, const Dialect& dialect) {
+    std::string_view name = headOf(line, dialect);
+    const std::string_view rest(line.data() + name.size(), line.size() - name.size());
+    LineType type = LineType::Unreadable;
+    if (name.starts_with(dialect.marks.open)) {
+        type = LineType::Opener;
+        name.remove_prefix(1);
+    } else if (name.ends_with(dialect.marks.close)) {
+        type = LineType::Closer;
+        name.remove_suffix(1);
+    } else {
+        return {};
+    }
+    const NodeKind kind = dialect.vocabulary.nodeKind(name);
+    if (kind == NodeKind::None || !isEmptyOrComment(rest, dialect)) {
+        return {};
+    }
+    return {.type = type, .kind = kind, .name = name, .rest = rest};
 }
 
 }  // namespace
 
 DescriptionLine descriptionLine(std::string_view line, const Dialect& dialect) {
-    if (const std::optional<DescriptionLine> leaf = leafIn(line, dialect)) {
-        return *leaf;
+    DescriptionLine parts = leafIn(line, dialect);
+    if (!parts.isReadable()) {
+        parts = openerOrCloserIn(line, dialect);
     }
-    return openerOrCloserIn(line, dialect).value_or(DescriptionLine());
+    return parts;
 }
 
 std::string_view headOf(std::string_view line, const Dialect& dialect) {
-    const auto* end = std::find_if(line.begin(), line.end(), [&](char character) {
-        return isWhitespace(character) || character == dialect.marks.comment;
-    });
-    return line.substr(0, static_cast<std::size_t>(end - line.begin()));
+    const char comment = dialect.marks.comment;
+    std::size_t end = 0;
+    while (end < line.size() && !isWhitespace(line[end]) && line[end] != comment) {
+        ++end;
+    }
+    return {line.data(), end};
 }
 
 bool isEmptyOrComment(std::string_view text, const Dialect& dialect) {
-    const std::string_view trimmed = trimWhitespace(text);
-    return trimmed.empty() || trimmed.front() == dialect.marks.comment;
+    std::size_t first = 0;
+    while (first < text.size() && isWhitespace(text[first])) {
+        ++first;
+    }
+    return first == text.size() || text[first] == dialect.marks.comment;
 }
 
 }  // namespace quorvane

@@ -198,8 +198,10 @@ std::optional<Enumeration> namedOrNumbered(std::optional<Enumeration> named, con
 }  // namespace
 
 Vocabulary::Vocabulary(const VocabularyWords& words) : words_(words) {
-    std::transform(words.nodes.begin(), words.nodes.end(), std::back_inserter(nodeNumbers_),
-                   [](const auto& node) { return inOneNumber(node.name); });
+    std::transform(words.nodes.begin(), words.nodes.end(), std::back_inserter(numberedNodes_),
+                   [](const auto& node) {
+                       return NumberedNode{inOneNumber(node.name), node.kind};
+                   });
     for (const auto& [shortForm, longForm] : words.shortForms) {
         longestShortForm_ = std::max(longestShortForm_, shortForm.size());
     }
@@ -261,9 +263,9 @@ NodeKind Vocabulary::nodeKind(std::string_view name) const {
         return NodeKind::None;
     }
     const NodeNumber number = inOneNumber(name);
-    for (std::size_t i = 0; i < words_.nodes.size(); ++i) {
-        if (nodeNumbers_[i] == number) {
-            return words_.nodes[i].kind;
+    for (const auto& [known, kind] : numberedNodes_) {
+        if (known == number) {
+            return kind;
         }
     }
     return NodeKind::None;

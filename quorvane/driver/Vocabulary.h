@@ -103,6 +103,12 @@ private:
         LeafKey key;
     };
 
+    struct NumberedNode {
+        /// The name as one number.
+        VocabularyWords::NodeNumber number;
+        NodeKind kind;
+    };
+
     // A power of two, several times as many as there are words.
     static constexpr std::size_t slotCount = 256;
 
@@ -115,8 +121,8 @@ private:
     // A hash table of all keys, in their long and their short forms.
     std::array<Slot, slotCount> slots_{};
     std::array<KeySet, 5> keySets_{};
-    // The names of nodes, each as one number.
-    std::vector<VocabularyWords::NodeNumber> nodeNumbers_;
+    // The names of nodes.
+    std::vector<NumberedNode> numberedNodes_;
     std::size_t longestShortForm_ = 0;
 };
 

@@ -22,18 +22,22 @@ bool isBlank(char character) {
 class Next {
 public:
     Next(std::string_view text, char character)
-        : text_(text), character_(character), position_(text.find(character)) {}
+        : text_(text), character_(character), position_(positionFrom(0)) {}
 
-    /// Its first position from there on; `npos` when there is none. Never asked for an earlier one
-    /// than before.
+    /// Its first position from there on; the end of the text when there is none. Never asked for an
+    /// earlier one than before.
     std::size_t from(std::size_t start) {
         if (position_ < start) {
-            position_ = text_.find(character_, start);
+            position_ = positionFrom(start);
         }
         return position_;
     }
 
 private:
+    std::size_t positionFrom(std::size_t start) const {
+        return std::min(text_.find(character_, start), text_.size());
+    }
+
     std::string_view text_;
     char character_;
     std::size_t position_;
@@ -149,17 +153,10 @@ std::vector<SourceLine> PreProcessRawData(std::string_view text) {
     Next carriageReturn(text, '\r');
     std::size_t position = 0;
     for (int number = 1; position < text.size(); ++number) {
-        while (position < text.size() && isBlank(text[position])) {
-            ++position;
-        }
-        const std::size_t end =
-            std::min({lineFeed.from(position), carriageReturn.from(position), text.size()});
-        if (position < end && text[position] != commentMark) {
-            std::size_t lineEnd = end;
-            while (isBlank(text[lineEnd - 1])) {
-                --lineEnd;
-            }
-            lines.push_back({text.substr(position, lineEnd - position), number});
+        const std::size_t end = std::min(lineFeed.from(position), carriageReturn.from(position));
+        const std::string_view line = trimWhile({text.data() + position, end - position}, isBlank);
+        if (!line.empty() && line.front() != commentMark) {
+            lines.push_back({line, number});
         }
         const bool endsInBoth = end + 1 < text.size() && text[end] == '\r' && text[end + 1] == '\n';
         position = end + (endsInBoth ? 2 : 1);

@@ -37,7 +37,7 @@ TEST_F(EndingThreads, MayBeKilled) {
 }
 
 TEST_F(EndingThreads, MayBeStoppedInACallByTheEndOfTheProcess) {
-    for (int i = 0; i < 5; ++i) {
+    for (int i = 0; i < 10; ++i) {
         expectToEndWell(L"workToTheEnd");
     }
 }

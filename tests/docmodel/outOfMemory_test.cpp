@@ -229,6 +229,36 @@ TEST(OutOfMemory, NoCellBecomesAMarkedField) {
         1, [](RowDocument& parts) { parts.cell(1)->asMarkedField("data that is not short"); }, 2);
 }
 
+TEST(OutOfMemory, NoColumnsAreSet) {
+    const std::vector<std::int32_t> widths{1000, 2000};
+    expectUnchangedByFailures(
+        2, [&](RowDocument& parts) { parts.document->setColumnWidths(widths); }, 2);
+    expectUnchangedByFailures(
+        2, [&](RowDocument& parts) { parts.row->setColumnWidths(widths); }, 3);
+}
+
+TEST(OutOfMemory, NoRowSettingIsSet) {
+    expectUnchangedByFailures(
+        2, [](RowDocument& parts) { parts.row->setRepeatsAsHeading(true); }, 2);
+    expectUnchangedByFailures(
+        2, [](RowDocument& parts) { parts.row->setKeepTogether(true); }, 2);
+    expectUnchangedByFailures(
+        2, [](RowDocument& parts) { parts.row->setKeepWithNext(true); }, 2);
+}
+
+TEST(OutOfMemory, NoSpanIsSet) {
+    expectUnchangedByFailures(
+        2, [](RowDocument& parts) { parts.cell(1)->setColumnSpan(2); }, 2);
+}
+
+TEST(OutOfMemory, NoPageHeaderIsSet) {
+    constexpr const char* text = "a text that is not short";
+    expectUnchangedByFailures(
+        1, [=](RowDocument& parts) { parts.document->setPageHeader(text, "{page}", text); }, 4);
+    expectUnchangedByFailures(
+        1, [=](RowDocument& parts) { parts.document->setPageFooter("", "", text); }, 3);
+}
+
 TEST(OutOfMemory, TheStructureIsNotCleared) {
     expectUnchangedByFailures(
         2, [](RowDocument& parts) { parts.document->ClearStructure(); }, 2);

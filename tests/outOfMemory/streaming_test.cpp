@@ -75,6 +75,17 @@ struct LongDocument {
         }
     }
 
+    /// Whatever else rendering takes memory for.
+    void addToLayout() const {
+        document->setColumnWidths({1000, 200, 3000});
+        document->setPageHeader("a text that is not short", "{page} of {pages}", "");
+        const Ref<CRtfTableRows> rows = document->TableRows();
+        rows->Item(1)->setRepeatsAsHeading(true);
+        rows->Item(3)->TableCells()->AddTail();
+        rows->Item(2)->TableCells()->PeekTail()->setRowSpan(2);
+        rows->Item(3)->setKeepWithNext(true);
+    }
+
     void addParagraph(CRtfParagraphs& paragraphs, const std::string& text) const {
         paragraphs.AddTail();
         paragraphs.PeekTail()->setText(text);
@@ -111,6 +122,48 @@ TEST(StreamingOutOfMemory, KeepsAnOlderFile) {
     };
 
     EXPECT_GE(failEachAllocation(prepare, attempt, check), 20);
+}
+
+TEST(StreamingOutOfMemory, KeepsAnOlderFileWhenTheLayoutNeedsMemory) {
+    const auto prepare = [] {
+        auto subject = std::make_unique<LongDocument>();
+        subject->addToLayout();
+        subject->platform.files["a.rtf"] = "older";
+        return subject;
+    };
+    const Subject undisturbed = prepare();
+    const std::string expected = codePage1252FromUtf8(undisturbed->document->Contents());
+    ASSERT_NE(expected, fileOfLongDocument());
+    const auto attempt = [](const Subject& subject) { subject->document->Commit("a.rtf"); };
+    const auto check = [&](const Subject& subject) {
+        ASSERT_EQ(subject->platform.files["a.rtf"], "older");
+        ASSERT_EQ(subject->platform.count("deleteFile"), 0U);
+        ASSERT_TRUE(subject->document->Changed());
+        subject->document->Commit("a.rtf");
+        ASSERT_EQ(subject->platform.files["a.rtf"], expected);
+    };
+
+    EXPECT_GE(failEachAllocation(prepare, attempt, check), 30);
+}
+
+TEST(StreamingOutOfMemory, EndsANewFileWhenTheLayoutNeedsMemory) {
+    const auto prepare = [] {
+        auto subject = std::make_unique<LongDocument>();
+        subject->addToLayout();
+        return subject;
+    };
+    const auto attempt = [](const Subject& subject) { subject->document->Commit("a.rtf"); };
+    const auto check = [](const Subject& subject) {
+        ASSERT_EQ(subject->platform.openFiles, 0);
+        ASSERT_EQ(subject->platform.count("close"), 0U);
+        ASSERT_TRUE(subject->document->Changed());
+        subject->platform.files.clear();
+        subject->document->Commit("a.rtf");
+        ASSERT_EQ(subject->platform.files["a.rtf"],
+                  codePage1252FromUtf8(subject->document->Contents()));
+    };
+
+    EXPECT_GE(failEachAllocation(prepare, attempt, check), 30);
 }
 
 TEST(StreamingOutOfMemory, EndsANewFileAndCanBeRepeated) {

@@ -16,7 +16,7 @@ std::string_view trimWhile(std::string_view text, IsTrimmed isTrimmed) {
     while (end > first && isTrimmed(text[end - 1])) {
         --end;
     }
-    return text.substr(first, end - first);
+    return {text.data() + first, end - first};
 }
 
 /// The text without any of the given one-byte characters at its ends.
@@ -28,7 +28,9 @@ inline std::string_view trimCharacters(std::string_view text, std::string_view c
 
 /// True for a blank, a tab, a carriage return and a line feed.
 constexpr bool isWhitespace(char character) {
-    return character == ' ' || character == '\t' || character == '\r' || character == '\n';
+    // Most characters are greater than the blank.
+    return character <= ' ' &&
+           (character == ' ' || character == '\t' || character == '\r' || character == '\n');
 }
 
 /// The text without the blanks (0x20, nothing else) at its ends.

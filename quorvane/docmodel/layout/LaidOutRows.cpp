@@ -1,0 +1,85 @@
+#include "quorvane/docmodel/layout/LaidOutRows.h"
+
+#include <string>
+
+#include "quorvane/base/values/RtfError.h"
+#include "quorvane/docmodel/layout/TableLayout.h"
+
+namespace quorvane {
+
+LaidOutRows::LaidOutRows(const InnerRows& rows, TableDocument& document)
+    : rows_(rows.list()),
+      document_(document),
+      form_(document.memory().additions->page.headingForm) {
+    for (const InnerRow* row : rows_) {
+        if (!row->settings().repeatsAsHeading) {
+            break;
+        }
+        ++headings_;
+    }
+}
+
+void LaidOutRows::check() const {
+    TableLayout layout(document_);
+    std::size_t position = 0;
+    for (const InnerRow* row : rows_) {
+        ++position;
+        if (position > headings_ && row->settings().repeatsAsHeading) {
+            raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
+                           "Row " + std::to_string(position) +
+                               " cannot repeat as a heading, because row " +
+                               std::to_string(position - 1) + " does not."));
+        }
+        if (const std::string_view end = endsBefore(*row, position); !end.empty()) {
+            layout.endPart(end);
+        }
+        layout.place(*row);
+    }
+    layout.endPart("the table");
+}
+
+// What ends with the row before this one; empty if nothing does.
+std::string_view LaidOutRows::endsBefore(const InnerRow& row, std::size_t position) const {
+    if (headings_ > 0 && position == headings_ + 1) {
+        return "the heading";
+    }
+    return startsPage(row, position) ? "a page" : "";
+}
+
+bool LaidOutRows::startsPage(const InnerRow& row, std::size_t position) const {
+    return position > headings_ + 1 && row.settings().startsPage;
+}
+
+void LaidOutRows::renderHeading(TableRendering& rendering) const {
+    TableLayout layout(document_);
+    std::size_t position = 0;
+    for (InnerRow* row : rows_) {
+        if (++position > headings_) {
+            return;
+        }
+        row->render(rendering, layout.place(*row), form_);
+    }
+}
+
+void LaidOutRows::renderBody(TableRendering& rendering) const {
+    TableLayout layout(document_);
+    std::size_t position = 0;
+    for (InnerRow* row : rows_) {
+        ++position;
+        if (position <= headings_ && form_ == HeadingForm::PageHeader) {
+            continue;
+        }
+        if (startsPage(*row, position)) {
+            // LibreOffice starts a page before a paragraph, not within a table. So the table ends,
+            // and one of the same columns follows.
+            rendering.out << "\r\n\\pard\\plain\\pagebb\\fs2\\par";
+            if (form_ == HeadingForm::RowProperty) {
+                renderHeading(rendering);
+            }
+        }
+        row->render(rendering, layout.place(*row), form_);
+        rendering.out.setProgress(position, rows_.count());
+    }
+}
+
+}  // namespace quorvane

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+#include "quorvane/docmodel/HeadingForm.h"
+#include "quorvane/docmodel/InnerRows.h"
+#include "quorvane/docmodel/TableRendering.h"
+
+namespace quorvane {
+
+/// The rows of a document that has additions to the layout of its table: columns, spans, headings,
+/// rows that start a page.
+class LaidOutRows {
+public:
+    LaidOutRows(const InnerRows& rows, TableDocument& document);
+
+    /// Error 5 for what cannot be written. Otherwise the rows can be rendered.
+    void check() const;
+
+    /// True if the first rows go into the page header.
+    bool hasPageHeading() const noexcept {
+        return headings_ > 0 && form_ == HeadingForm::PageHeader;
+    }
+    void renderHeading(TableRendering& rendering) const;
+    /// Writes all rows that are not in the page header.
+    void renderBody(TableRendering& rendering) const;
+
+private:
+    bool startsPage(const InnerRow& row, std::size_t position) const;
+    std::string_view endsBefore(const InnerRow& row, std::size_t position) const;
+
+    const InnerRows::List& rows_;
+    TableDocument& document_;
+    HeadingForm form_;
+    // How many of the first rows repeat.
+    std::size_t headings_ = 0;
+};
+
+}  // namespace quorvane
