@@ -18,7 +18,6 @@
 #include "cli/unifiedDiff.h"
 #include "cli/utf8Path.h"
 #include "quorvane/base/platform/fileReplacement.h"
-#include "quorvane/base/text/codePage1252.h"
 #include "quorvane/diagnostics/description/DescriptionCheck.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
 #include "quorvane/diagnostics/engine/withoutIgnored.h"
@@ -47,14 +46,14 @@ std::string readPiece(std::istream& stream) {
 /// The window of a file on the disk, which is opened once more for it.
 FileWindow windowOfFile(const std::string& file) {
     const auto stream = std::make_shared<std::ifstream>(pathFromUtf8(file), std::ios::binary);
-    return [stream](std::int64_t offset, std::int64_t length) {
+    return {[stream](std::int64_t offset, std::int64_t length) {
         std::string bytes(static_cast<std::size_t>(length), '\0');
         stream->clear();
         stream->seekg(offset);
         stream->read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
         bytes.resize(static_cast<std::size_t>(stream->gcount()));
         return bytes;
-    };
+    }};
 }
 
 std::set<DiagnosticId> idsOf(std::string_view option, const std::vector<std::string>& identifiers) {
@@ -104,18 +103,20 @@ ExitStatus CheckJob::run() {
 
 void CheckJob::checkStyles(const std::string& file) {
     try {
+        const std::string given = platform_.readFile(file);
+        const TextEncoding encoding = encodingOf(given, options_.encoding);
         const auto check = [&](std::string_view bytes) {
-            if (std::optional<Diagnostic> binary = findNotATextFile(bytes)) {
-                return std::vector{*std::move(binary)};
+            if (std::optional<Diagnostic> unreadable = findUnreadableText(bytes, encoding)) {
+                return std::vector{*std::move(unreadable)};
             }
-            const std::string text = utf8FromCodePage1252(bytes);
-            return reported(checkStyleSheet(text), text, CheckedLanguage::StyleSheet);
+            const std::string text = decodedText(std::string(bytes), encoding);
+            return reported(checkStyleSheet(text, encoding), text, CheckedLanguage::StyleSheet);
         };
-        const auto bytes = reportText(file, platform_.readFile(file), false, check);
+        std::optional<std::string> bytes = reportText(file, given, encoding, false, check);
         if (!bytes) {
             return;
         }
-        styles_.emplace(utf8FromCodePage1252(*bytes));
+        styles_.emplace(decodedText(*std::move(bytes), encoding), encoding);
         if (!openingOfDescription(styles_->text()).empty()) {
             styles_.reset();
         }
@@ -128,9 +129,10 @@ void CheckJob::findUnused() {
     if (!styles_ || !checkedDescriptions_ || !isReported(DiagnosticId::UnusedStyle)) {
         return;
     }
+    const std::string bytes = encodedText(styles_->text(), styles_->encoding());
     reportAll(*options_.styleSheet,
               reported(findUnusedStyles(*styles_), styles_->text(), CheckedLanguage::StyleSheet),
-              codePage1252FromUtf8(styles_->text()));
+              windowOf(bytes, styles_->encoding()));
 }
 
 void CheckJob::checkFolder(const std::string& folder) {
@@ -175,16 +177,20 @@ void CheckJob::checkFile(const std::string& file) {
 
 void CheckJob::checkText(const std::string& file, std::string_view bytes, bool isStream) {
     const CheckedLanguage language = languageOf(bytes, file);
-    reportText(file, bytes, isStream,
-               [&](std::string_view text) { return diagnosticsOf(file, text, language); });
+    const TextEncoding encoding = language == CheckedLanguage::Rtf
+                                      ? TextEncoding::Windows1252
+                                      : encodingOf(bytes, options_.encoding);
+    reportText(file, bytes, encoding, isStream, [&](std::string_view text) {
+        return diagnosticsOf(file, text, language, encoding);
+    });
 }
 
 std::vector<Diagnostic> CheckJob::diagnosticsOf(const std::string& file, std::string_view bytes,
-                                                CheckedLanguage language) {
-    if (std::optional<Diagnostic> binary = findNotATextFile(bytes)) {
-        return {*std::move(binary)};
+                                                CheckedLanguage language, TextEncoding encoding) {
+    if (std::optional<Diagnostic> unreadable = findUnreadableText(bytes, encoding)) {
+        return {*std::move(unreadable)};
     }
-    std::vector<Diagnostic> all = findNameMismatch(bytes, language, file);
+    std::vector<Diagnostic> all = findNameMismatch(bytes, language, file, encoding);
     std::vector<Diagnostic> diagnostics;
     std::string text;
     switch (language) {
@@ -192,13 +198,13 @@ std::vector<Diagnostic> CheckJob::diagnosticsOf(const std::string& file, std::st
             diagnostics = checkRtf(bytes);
             break;
         case CheckedLanguage::StyleSheet:
-            text = utf8FromCodePage1252(bytes);
-            diagnostics = checkStyleSheet(text);
+            text = decodedText(std::string(bytes), encoding);
+            diagnostics = checkStyleSheet(text, encoding);
             break;
         case CheckedLanguage::Description:
             checkedDescriptions_ = true;
-            text = utf8FromCodePage1252(bytes);
-            diagnostics = checkDescription(text, styles_ ? &*styles_ : nullptr);
+            text = decodedText(std::string(bytes), encoding);
+            diagnostics = checkDescription(text, styles_ ? &*styles_ : nullptr, encoding);
             break;
     }
     std::move(diagnostics.begin(), diagnostics.end(), std::back_inserter(all));
@@ -222,39 +228,43 @@ std::vector<Diagnostic> CheckJob::reported(std::vector<Diagnostic> diagnostics,
 /// Reports what the check finds in a text, and fixes the file if --fix is given. Returns the bytes
 /// of the text after its fixes, or no value for a file that is not a text.
 std::optional<std::string> CheckJob::reportText(const std::string& file, std::string_view bytes,
-                                                bool isStream, const TextCheck& check) {
+                                                TextEncoding encoding, bool isStream,
+                                                const TextCheck& check) {
     ++counts_.files;
-    if (const std::optional<Diagnostic> binary = findNotATextFile(bytes)) {
-        if (isReported(binary->id)) {
-            report(file, *binary, windowOf({}));
+    const FileWindow window = windowOf(bytes, encoding);
+    if (const std::optional<Diagnostic> unreadable = findUnreadableText(bytes, encoding)) {
+        if (isReported(unreadable->id)) {
+            // No part of what is not a text can be shown.
+            report(file, *unreadable,
+                   unreadable->id == DiagnosticId::NotATextFile ? windowOf({}) : window);
         }
         if (isStream && options_.fixes && !options_.showsDiff) {
-            write_(bytes);
+            write_(bytes, encoding);
         }
         return std::nullopt;
     }
     if (!options_.fixes && !options_.showsDiff) {
-        reportAll(file, check(bytes), bytes);
+        reportAll(file, check(bytes), window);
         return std::string(bytes);
     }
-    FixedText fixed = fixText(bytes, check);
+    FixedText fixed = fixText(bytes, check, encoding);
     if (fixed.wasRefused) {
         fail_(refusal(shownName(file), "Not fixed: the fixes would cause more errors"));
     }
     if (options_.showsDiff) {
-        reportAll(file, fixed.rounds.empty() ? fixed.remaining : check(bytes), bytes);
-        write_(unifiedDiff(file == standardStream ? "stdin" : file, bytes, fixed.bytes));
+        reportAll(file, fixed.rounds.empty() ? fixed.remaining : check(bytes), window);
+        write_(unifiedDiff(file == standardStream ? "stdin" : file, bytes, fixed.bytes), encoding);
     } else if (isStream || writeFixed(file, bytes, fixed)) {
         for (const FixedText::Round& round : fixed.rounds) {
-            reportAll(file, round.fixed, round.bytes);
+            reportAll(file, round.fixed, windowOf(round.bytes, encoding));
         }
-        reportAll(file, fixed.remaining, fixed.bytes);
+        reportAll(file, fixed.remaining, windowOf(fixed.bytes, encoding));
     } else {
-        reportAll(file, check(bytes), bytes);
+        reportAll(file, check(bytes), window);
         fixed.bytes = bytes;
     }
     if (isStream && !options_.showsDiff) {
-        write_(fixed.bytes);
+        write_(fixed.bytes, encoding);
     }
     return fixed.bytes;
 }
@@ -304,7 +314,7 @@ void CheckJob::checkRtfFile(const std::string& file, std::istream& stream,
     reportAll(
         file,
         reported(findNameMismatch(beginning, CheckedLanguage::Rtf, file), {}, CheckedLanguage::Rtf),
-        beginning);
+        windowOf(beginning));
     check.feed(beginning);
     for (std::string piece = readPiece(stream); !piece.empty(); piece = readPiece(stream)) {
         check.feed(piece);
@@ -334,8 +344,7 @@ void CheckJob::report(const std::string& file, const Diagnostic& diagnostic,
 }
 
 void CheckJob::reportAll(const std::string& file, const std::vector<Diagnostic>& diagnostics,
-                         std::string_view bytes) {
-    const FileWindow window = windowOf(bytes);
+                         const FileWindow& window) {
     for (const Diagnostic& diagnostic : diagnostics) {
         report(file, diagnostic, window);
     }

@@ -14,6 +14,7 @@
 #include "cli/ExitStatus.h"
 #include "cli/ReportedError.h"
 #include "quorvane/base/platform/Platform.h"
+#include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/diagnostics/KnownStyles.h"
 #include "quorvane/diagnostics/engine/Diagnostic.h"
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
@@ -41,7 +42,8 @@ struct CheckCounts {
 class CheckJob {
 public:
     /// Takes bytes for standard output: the text of standard input with its fixes, or a diff.
-    using BytesSink = std::function<void(std::string_view)>;
+    /// In the encoding of the file.
+    using BytesSink = std::function<void(std::string_view, TextEncoding)>;
 
     /// The platform must outlive the job. The last sink is needed only for fixes.
     CheckJob(CheckOptions options, DiagnosticSink find, ErrorSink fail,
@@ -66,17 +68,18 @@ private:
 
     bool isReported(DiagnosticId id) const;
     std::vector<Diagnostic> diagnosticsOf(const std::string& file, std::string_view bytes,
-                                          CheckedLanguage language);
+                                          CheckedLanguage language, TextEncoding encoding);
     std::vector<Diagnostic> reported(std::vector<Diagnostic> diagnostics, std::string_view text,
                                      CheckedLanguage language);
     std::optional<std::string> reportText(const std::string& file, std::string_view bytes,
-                                          bool isStream, const TextCheck& check);
+                                          TextEncoding encoding, bool isStream,
+                                          const TextCheck& check);
     bool writeFixed(const std::string& file, std::string_view before, const FixedText& fixed);
     std::string shownName(const std::string& file) const;
     void fail(const ReportedError& failure);
     void report(const std::string& file, const Diagnostic& diagnostic, const FileWindow& window);
     void reportAll(const std::string& file, const std::vector<Diagnostic>& diagnostics,
-                   std::string_view bytes);
+                   const FileWindow& window);
 
     CheckOptions options_;
     std::set<DiagnosticId> ignored_;

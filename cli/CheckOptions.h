@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "cli/FailOn.h"
+#include "quorvane/base/text/TextEncoding.h"
 
 namespace quorvane::cli {
 
@@ -16,6 +17,8 @@ enum class ReportForm { Text, Json, Sarif };
 struct CheckOptions {
     std::vector<std::string> files;
     std::optional<std::string> styleSheet;
+    /// The encoding of descriptions and stylesheets.
+    EncodingChoice encoding = EncodingChoice::Auto;
     ReportForm form = ReportForm::Text;
     /// Identifiers of diagnostics to leave out, and of those to report that are off by default.
     std::vector<std::string> ignored;

@@ -5,6 +5,8 @@
 #include <system_error>
 #include <utility>
 
+#include "quorvane/base/text/extendedMark.h"
+
 #include "cli/RenderOptions.h"
 #include "cli/fileFailure.h"
 #include "cli/process.h"
@@ -55,6 +57,13 @@ void CommandPlatform::createMissingFolder() {
 
 const std::string& CommandPlatform::styleSheetBytes() const {
     return styleSheet_->bytes;
+}
+
+void CommandPlatform::recodeStyleSheet(TextEncoding encoding) {
+    if (isUtf8(encoding) && !isMarkedExtended(styleSheet_->bytes)) {
+        styleSheet_->bytes = encodedText(decodedText(std::move(styleSheet_->bytes), encoding),
+                                         TextEncoding::Windows1252);
+    }
 }
 
 std::string CommandPlatform::readOtherFile(const std::string& path) {

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "quorvane/base/platform/Platform.h"
+#include "quorvane/base/text/TextEncoding.h"
 
 namespace quorvane::cli {
 
@@ -27,6 +28,10 @@ public:
 
     /// The bytes of the stylesheet, which was read.
     const std::string& styleSheetBytes() const;
+
+    /// From now on, the library reads the stylesheet, which is in that encoding, in Windows-1252;
+    /// in the extended dialect it reads it in UTF-8 all the same.
+    void recodeStyleSheet(TextEncoding encoding);
 
     /// True for the stylesheet only: the library shall not delete the file that it writes to.
     bool fileExists(const std::string& path) override;

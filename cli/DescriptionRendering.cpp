@@ -6,8 +6,6 @@
 #include "cli/RenderOptions.h"
 #include "cli/fileFailure.h"
 #include "cli/process.h"
-#include "quorvane/base/text/codePage1252.h"
-#include "quorvane/base/text/utf8.h"
 #include "quorvane/docmodel/CRtfTableRows.h"
 #include "quorvane/driver/driverErrors.h"
 
@@ -23,11 +21,6 @@ std::string outputName(const std::string& output) {
     return output == standardStream ? "<stdout>" : output;
 }
 
-/// The text of a file. Most are ASCII, which stays as it is.
-std::string textOf(std::string bytes) {
-    return asciiRunEnd(bytes, 0) == bytes.size() ? std::move(bytes) : utf8FromCodePage1252(bytes);
-}
-
 }  // namespace
 
 DescriptionRendering::DescriptionRendering(const Assignment& assignment,
@@ -40,7 +33,7 @@ DescriptionRendering::DescriptionRendering(const Assignment& assignment,
       isDriverNew_(!driver),
       report_(report) {
     if (isDriverNew_) {
-        driver_ = CRtfDriver::create(platform_);
+        makeDriver();
     }
 }
 
@@ -74,10 +67,15 @@ void DescriptionRendering::leaveDocumentBefore() {
     if (isDriverNew_ || document->Changed() || document->Contents() == "{}") {
         return;
     }
-    driver_ = CRtfDriver::create(platform_);
+    makeDriver();
     if (manner_.styleSheet) {
         setStyleSheet(*manner_.styleSheet);
     }
+}
+
+void DescriptionRendering::makeDriver() {
+    driver_ = CRtfDriver::create(platform_);
+    driver_->RtfObject()->setExtendedStyleSheets(true);
 }
 
 void DescriptionRendering::setStyleSheet(const std::string& name) {
@@ -105,11 +103,12 @@ std::optional<std::string> DescriptionRendering::readDescription() {
     const std::string& path = assignment_.description;
     try {
         std::string bytes = readBytes(path);
-        if (!report_.passBytes(inputName(path), bytes)) {
+        encoding_ = encodingOf(bytes, manner_.encoding);
+        if (!report_.passBytes(inputName(path), bytes, encoding_)) {
             status_ = std::max(status_, ExitStatus::ContentErrors);
             return std::nullopt;
         }
-        return textOf(std::move(bytes));
+        return decodedText(std::move(bytes), encoding_);
     } catch (const RtfError& error) {
         fail(unreadableFile(inputName(path), path, error));
         return std::nullopt;
@@ -119,12 +118,13 @@ std::optional<std::string> DescriptionRendering::readDescription() {
 void DescriptionRendering::parse(const std::string& text) {
     const std::string name = inputName(assignment_.description);
     driver_->setErroneousInput(manner_.check);
+    driver_->setUnicodeTexts(isUtf8(encoding_));
     driver_->setNotifyErrorHandler([&](CRtfDriver&, const RtfError& error) {
         status_ = std::max(status_, ExitStatus::ContentErrors);
         report_.event(name, error);
     });
     driver_->ParseFromMemmory(text);
-    if (!report_.passDescription(name, assignment_.description, text)) {
+    if (!report_.passDescription(name, assignment_.description, text, encoding_)) {
         status_ = std::max(status_, ExitStatus::ContentErrors);
     }
 }

@@ -7,6 +7,7 @@
 #include "cli/ExitStatus.h"
 #include "cli/RenderReport.h"
 #include "cli/outputPaths.h"
+#include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/driver/CRtfDriver.h"
 
 namespace quorvane::cli {
@@ -19,6 +20,8 @@ struct RenderingManner {
     bool isStyleSheetRefused = false;
     bool check = false;
     bool keepGoing = false;
+    /// The encoding of the descriptions.
+    EncodingChoice encoding = EncodingChoice::Auto;
 };
 
 /// The rendering of one description. Several can go through the same driver, one after the other,
@@ -38,6 +41,7 @@ public:
     ExitStatus run();
 
 private:
+    void makeDriver();
     void setStyleSheet(const std::string& name);
     std::string readBytes(const std::string& path);
     std::optional<std::string> readDescription();
@@ -52,6 +56,7 @@ private:
     CommandPlatform& platform_;
     Ref<CRtfDriver>& driver_;
     bool isDriverNew_;
+    TextEncoding encoding_ = TextEncoding::Windows1252;
     RenderReport& report_;
     ExitStatus status_ = ExitStatus::Success;
 };

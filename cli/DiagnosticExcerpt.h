@@ -5,12 +5,18 @@
 #include <string>
 #include <string_view>
 
+#include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/diagnostics/engine/Diagnostic.h"
 
 namespace quorvane::cli {
 
-/// Returns the bytes of a file (Windows-1252 or RTF) from an offset, at most the given number.
-using FileWindow = std::function<std::string(std::int64_t offset, std::int64_t length)>;
+/// Shows parts of a file.
+struct FileWindow {
+    /// Returns the bytes of the file from an offset, at most the given number.
+    std::function<std::string(std::int64_t offset, std::int64_t length)> read;
+    /// That of an RTF file is Windows-1252.
+    TextEncoding encoding = TextEncoding::Windows1252;
+};
 
 /// The part of a line around a place, in UTF-8 and with blanks for control characters.
 struct DiagnosticExcerpt {
@@ -23,6 +29,6 @@ struct DiagnosticExcerpt {
 DiagnosticExcerpt excerptAt(const Place& place, const FileWindow& window);
 
 /// The window of a file that is held as a whole; the bytes must outlive it.
-FileWindow windowOf(std::string_view bytes);
+FileWindow windowOf(std::string_view bytes, TextEncoding encoding = TextEncoding::Windows1252);
 
 }  // namespace quorvane::cli

@@ -13,7 +13,6 @@
 #include "cli/process.h"
 #include "cli/unifiedDiff.h"
 #include "quorvane/base/platform/fileReplacement.h"
-#include "quorvane/base/text/codePage1252.h"
 #include "quorvane/diagnostics/languageOf.h"
 #include "quorvane/diagnostics/textFile.h"
 #include "quorvane/formatting/formatStyleSheet.h"
@@ -28,8 +27,19 @@ struct StandardOutputFailure {
     RtfError error;
 };
 
-[[noreturn]] void refuse(std::string why) {
-    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), std::move(why)));
+[[noreturn]] void refuse(std::string why, std::int64_t line = 0) {
+    RtfError error(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), std::move(why));
+    error.line = static_cast<int>(line);
+    raise(std::move(error));
+}
+
+[[noreturn]] void refuse(const Diagnostic& diagnostic) {
+    if (diagnostic.id == DiagnosticId::NotUtf8) {
+        // The column is in the message.
+        const std::string message = diagnostic.message.substr(0, diagnostic.message.size() - 1);
+        refuse(message + "; " + diagnostic.hint, diagnostic.place.line);
+    }
+    refuse(diagnostic.message);
 }
 
 }  // namespace
@@ -74,17 +84,19 @@ ExitStatus FormatJob::formatFile(const std::string& file) {
 ExitStatus FormatJob::format(const std::string& file) {
     const bool isStream = file == standardStream;
     const std::string bytes = isStream ? readStandardInput() : platform_.readFile(file);
-    const std::string canonical = formatted(file, bytes);
+    const TextEncoding encoding = encodingOf(bytes, options_.encoding);
+    const std::string canonical = formatted(file, bytes, encoding);
     if (options_.check || options_.diff) {
         if (canonical == bytes) {
             return ExitStatus::Success;
         }
-        write_(options_.diff ? unifiedDiff(shownName(file), bytes, canonical)
-                             : shownName(file) + "\n");
+        write_(
+            options_.diff ? unifiedDiff(shownName(file), bytes, canonical) : shownName(file) + "\n",
+            encoding);
         return ExitStatus::ContentErrors;
     }
     if (isStream) {
-        write_(canonical);
+        write_(canonical, encoding);
     } else if (canonical != bytes) {
         const std::unique_ptr<OutputFile> output = openReplacement(file, unfinishedFileWatch());
         output->write(canonical);
@@ -98,19 +110,20 @@ std::string FormatJob::shownName(const std::string& file) const {
 }
 
 /// The bytes in their canonical form.
-std::string FormatJob::formatted(const std::string& file, std::string_view bytes) const {
-    if (const std::optional<Diagnostic> binary = findNotATextFile(bytes)) {
-        refuse(binary->message);
+std::string FormatJob::formatted(const std::string& file, const std::string& bytes,
+                                 TextEncoding encoding) const {
+    if (const std::optional<Diagnostic> unreadable = findUnreadableText(bytes, encoding)) {
+        refuse(*unreadable);
     }
-    const std::string text = utf8FromCodePage1252(bytes);
+    const std::string text = decodedText(bytes, encoding);
     const bool hasName = file != standardStream || options_.stdinName;
     const std::optional<CheckedLanguage> language =
         hasName ? languageToFormat(text, shownName(file)) : languageOfStreamToFormat(text);
     if (language == CheckedLanguage::Description) {
-        return codePage1252FromUtf8(formattedDescription(text, options_.names));
+        return encodedText(formattedDescription(text, options_.names), encoding);
     }
     if (language == CheckedLanguage::StyleSheet) {
-        return codePage1252FromUtf8(formattedStyleSheet(text));
+        return encodedText(formattedStyleSheet(text), encoding);
     }
     refuse(languageOf(bytes, shownName(file)) == CheckedLanguage::Rtf
                ? "An RTF file has no canonical form"
@@ -124,9 +137,10 @@ ExitStatus format(const FormatOptions& options) {
     const bool showsOnTerminal = options.diff && standardOutputIsTerminal();
     try {
         const std::unique_ptr<OutputFile> output = openStandardOutput();
-        const auto write = [&](const std::string& text) {
+        const auto write = [&](const std::string& text, TextEncoding encoding) {
             try {
-                output->write(showsOnTerminal ? diffForTerminal(text, wantedColors(true)) : text);
+                output->write(showsOnTerminal ? diffForTerminal(text, encoding, wantedColors(true))
+                                              : text);
             } catch (const RtfError& error) {
                 throw StandardOutputFailure{error};
             }

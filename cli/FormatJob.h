@@ -8,11 +8,13 @@
 #include "cli/FormatOptions.h"
 #include "cli/ReportedError.h"
 #include "quorvane/base/platform/Platform.h"
+#include "quorvane/base/text/TextEncoding.h"
 
 namespace quorvane::cli {
 
-/// Receives a text for standard output: the name of a file, a diff, or a file's canonical form.
-using TextSink = std::function<void(const std::string&)>;
+/// Receives a text for standard output: the name of a file, a diff, or a file's canonical form; the
+/// last two in the encoding of the file.
+using TextSink = std::function<void(const std::string&, TextEncoding)>;
 
 /// Implements `quorvane format`: replaces descriptions and stylesheets with their canonical form,
 /// and writes that of standard input to standard output.
@@ -30,7 +32,8 @@ private:
     ExitStatus formatFile(const std::string& file);
     ExitStatus format(const std::string& file);
     std::string shownName(const std::string& file) const;
-    std::string formatted(const std::string& file, std::string_view bytes) const;
+    std::string formatted(const std::string& file, const std::string& bytes,
+                          TextEncoding encoding) const;
 
     FormatOptions options_;
     TextSink write_;

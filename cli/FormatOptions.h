@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/formatting/formatDescription.h"
 
 namespace quorvane::cli {
@@ -12,6 +13,7 @@ namespace quorvane::cli {
 /// and a folder stands for the files in it.
 struct FormatOptions {
     std::vector<std::string> files;
+    EncodingChoice encoding = EncodingChoice::Auto;
     NameForm names = NameForm::Kept;
     /// Only name the files that are not in their canonical form.
     bool check = false;

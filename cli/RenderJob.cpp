@@ -25,7 +25,7 @@ std::size_t coreCount() {
 
 RenderJob::RenderJob(RenderOptions options, RenderReceivers receivers, Platform& platform)
     : options_(std::move(options)),
-      manner_{{}, false, options_.check, options_.keepGoing},
+      manner_{{}, false, options_.check, options_.keepGoing, options_.encoding},
       receivers_(std::move(receivers)),
       report_(options_, receivers_),
       platform_(platform) {}
@@ -94,6 +94,7 @@ ExitStatus RenderJob::readStyleSheet() {
     manner_.styleSheet = options_.styleSheet;
     manner_.isStyleSheetRefused =
         !report_.passStyleSheet(*options_.styleSheet, platform_.styleSheetBytes());
+    platform_.recodeStyleSheet(encodingOf(platform_.styleSheetBytes(), options_.encoding));
     return ExitStatus::Success;
 }
 

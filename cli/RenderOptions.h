@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "cli/FailOn.h"
+#include "quorvane/base/text/TextEncoding.h"
 
 namespace quorvane::cli {
 
@@ -19,6 +20,8 @@ inline constexpr const char* standardStream = "-";
 struct RenderOptions {
     std::vector<std::string> descriptions;
     std::optional<std::string> styleSheet;
+    /// The encoding of the descriptions and the stylesheet.
+    EncodingChoice encoding = EncodingChoice::Auto;
     /// The file that the one description goes to.
     std::optional<std::string> output;
     /// The folder that the documents go to, instead of beside their descriptions.

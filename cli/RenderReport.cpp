@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "cli/locatedErrors.h"
-#include "quorvane/base/text/codePage1252.h"
 #include "quorvane/diagnostics/description/DescriptionCheck.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
@@ -13,6 +12,7 @@
 #include "quorvane/diagnostics/languageOf.h"
 #include "quorvane/diagnostics/stylesheet/StyleSheetCheck.h"
 #include "quorvane/diagnostics/textFile.h"
+#include "quorvane/rtf/unicodeWords.h"
 
 namespace quorvane::cli {
 
@@ -36,6 +36,16 @@ std::set<DiagnosticId> kindsOfErrors(const Diagnostics& diagnostics) {
         }
     }
     return kinds;
+}
+
+/// The errors that the library would not report: it would read and write other characters.
+Diagnostics unencodableStyles(const Diagnostics& diagnostics) {
+    Diagnostics unencodable;
+    std::copy_if(diagnostics.begin(), diagnostics.end(), std::back_inserter(unencodable),
+                 [](const Diagnostic& diagnostic) {
+                     return diagnostic.id == DiagnosticId::UnencodableStyle;
+                 });
+    return unencodable;
 }
 
 RtfError refusalFor(std::string text) {
@@ -69,45 +79,58 @@ RenderReport::RenderReport(const RenderReport& other, const RenderReceivers& rec
         // Its styles are looked up again: which of them are used is known for each report apart.
         styleSheet_ = {.name = sheet.name,
                        .bytes = sheet.bytes,
+                       .encoding = sheet.encoding,
                        .diagnostics = sheet.diagnostics,
                        .isReported = sheet.isReported};
     }
 }
 
 bool RenderReport::passStyleSheet(const std::string& name, const std::string& bytes) {
-    styleSheet_.emplace(StyleSheet{name, bytes});
-    if (const std::optional<Diagnostic> binary = findNotATextFile(bytes)) {
-        styleSheet_->diagnostics = Diagnostics{*binary};
+    const TextEncoding encoding = encodingOf(bytes, options_.encoding);
+    styleSheet_.emplace(StyleSheet{name, bytes, encoding});
+    const FileWindow window = windowOf(bytes, encoding);
+    if (const std::optional<Diagnostic> unreadable = findUnreadableText(bytes, encoding)) {
+        styleSheet_->diagnostics = Diagnostics{*unreadable};
         styleSheet_->isReported = true;
-        refuseBinary(name, *binary);
+        refuseUnreadable(name, *unreadable, window);
         return false;
     }
-    if (!isChecked()) {
+    const bool mayBeUnencodable = isUtf8(encoding) && findBeyondCodePage1252(bytes);
+    if (!isChecked() && !mayBeUnencodable) {
         return true;
     }
     const Diagnostics& diagnostics = styleSheetDiagnostics();
+    const Diagnostics unencodable = unencodableStyles(diagnostics);
     const bool isWrong = hasErrors(diagnostics);
     if (receivers_.locate) {
-        styleSheet_->isReported = isWrong;
-        locate(name, bytes, diagnostics, {});
+        styleSheet_->isReported = isWrong && (isChecked() || !unencodable.empty());
+        locate(name, window, diagnostics,
+               unencodable.empty() ? std::set<DiagnosticId>() : kindsOfErrors(diagnostics));
+    } else if (!unencodable.empty()) {
+        receivers_.report({ErrorKind::Check, name, refusal(unencodable)});
     }
-    return pass(name, diagnostics, isWrong);
+    return pass(name, diagnostics, isWrong) && unencodable.empty();
 }
 
-bool RenderReport::passBytes(const std::string& name, std::string_view bytes) {
-    // For programs, the events say what the library makes of it.
-    const std::optional<Diagnostic> binary =
-        receivers_.locate ? findNotATextFile(bytes) : std::nullopt;
-    if (binary) {
-        refuseBinary(name, *binary);
+bool RenderReport::passBytes(const std::string& name, std::string_view bytes,
+                             TextEncoding encoding) {
+    const std::optional<Diagnostic> unreadable = findUnreadableText(bytes, encoding);
+    // For programs, the events say what the library makes of what is not a text.
+    if (!unreadable || (!receivers_.locate && unreadable->id == DiagnosticId::NotATextFile)) {
+        return true;
     }
-    return !binary;
+    refuseUnreadable(name, *unreadable, windowOf(bytes, encoding));
+    return false;
 }
 
-/// No part of such a file can be shown.
-void RenderReport::refuseBinary(const std::string& file, const Diagnostic& diagnostic) {
+void RenderReport::refuseUnreadable(const std::string& file, const Diagnostic& diagnostic,
+                                    const FileWindow& window) {
     if (receivers_.locate) {
-        receivers_.locate(file, diagnostic, {});
+        // No part of what is not a text can be shown.
+        receivers_.locate(file, diagnostic,
+                          diagnostic.id == DiagnosticId::NotATextFile
+                              ? DiagnosticExcerpt()
+                              : excerptAt(diagnostic.place, window));
     } else {
         receivers_.report({ErrorKind::Check, file, refusal({diagnostic})});
     }
@@ -122,8 +145,8 @@ void RenderReport::refuseStyleSheet(const RtfError& error) {
     if (!isLocated) {
         receivers_.report({ErrorKind::Raised, styleSheet_->name, error});
     } else if (!std::exchange(styleSheet_->isReported, true)) {
-        locate(styleSheet_->name, styleSheet_->bytes, styleSheetDiagnostics(),
-               kindsOfErrors(styleSheetDiagnostics()));
+        locate(styleSheet_->name, windowOf(styleSheet_->bytes, styleSheet_->encoding),
+               styleSheetDiagnostics(), kindsOfErrors(styleSheetDiagnostics()));
     }
 }
 
@@ -135,16 +158,17 @@ void RenderReport::event(const std::string& file, const RtfError& error) {
 }
 
 bool RenderReport::passDescription(const std::string& name, const std::string& path,
-                                   const std::string& text) {
+                                   const std::string& text, TextEncoding encoding) {
     const std::vector<RtfError> errors = std::exchange(errors_, {});
     if (!isChecked() && (errors.empty() || !receivers_.locate)) {
         return true;
     }
-    const std::string bytes = codePage1252FromUtf8(text);
-    Diagnostics diagnostics =
-        withoutIgnored(checkDescription(text, knownStyles()), text, CheckedLanguage::Description);
+    const std::string bytes = encodedText(text, encoding);
+    Diagnostics diagnostics = withoutIgnored(checkDescription(text, knownStyles(), encoding), text,
+                                             CheckedLanguage::Description);
     if (options_.failOn == FailOn::Warning) {
-        const Diagnostics named = findNameMismatch(bytes, CheckedLanguage::Description, path);
+        const Diagnostics named =
+            findNameMismatch(bytes, CheckedLanguage::Description, path, encoding);
         diagnostics.insert(diagnostics.begin(), named.begin(), named.end());
     }
     if (receivers_.locate) {
@@ -155,7 +179,7 @@ bool RenderReport::passDescription(const std::string& name, const std::string& p
                 receivers_.report({ErrorKind::Event, name, error});
             }
         }
-        locate(name, bytes, diagnostics, mistakes.kinds);
+        locate(name, windowOf(bytes, encoding), diagnostics, mistakes.kinds);
     }
     return pass(name, diagnostics, !errors.empty());
 }
@@ -166,9 +190,17 @@ bool RenderReport::corrupts(const Diagnostic& diagnostic) const {
 
 const Diagnostics& RenderReport::styleSheetDiagnostics() {
     if (!styleSheet_->diagnostics) {
-        const std::string text = utf8FromCodePage1252(styleSheet_->bytes);
-        styleSheet_->diagnostics =
-            withoutIgnored(checkStyleSheet(text), text, CheckedLanguage::StyleSheet);
+        const TextEncoding encoding = styleSheet_->encoding;
+        const std::string text = decodedText(styleSheet_->bytes, encoding);
+        const Diagnostics all = checkStyleSheet(text, encoding);
+        Diagnostics diagnostics = withoutIgnored(all, text, CheckedLanguage::StyleSheet);
+        if (unencodableStyles(diagnostics).empty()) {
+            // What a document would lose cannot be ignored.
+            const Diagnostics unencodable = unencodableStyles(all);
+            diagnostics.insert(diagnostics.end(), unencodable.begin(), unencodable.end());
+            sortByPlace(diagnostics);
+        }
+        styleSheet_->diagnostics = std::move(diagnostics);
     }
     return *styleSheet_->diagnostics;
 }
@@ -179,7 +211,8 @@ KnownStyles* RenderReport::knownStyles() {
         return nullptr;
     }
     if (!styleSheet_->styles) {
-        styleSheet_->styles.emplace(utf8FromCodePage1252(styleSheet_->bytes));
+        const TextEncoding encoding = styleSheet_->encoding;
+        styleSheet_->styles.emplace(decodedText(styleSheet_->bytes, encoding), encoding);
     }
     // What is given as the stylesheet may be a description, which would lack every style.
     return openingOfDescription(styleSheet_->styles->text()).empty() ? &*styleSheet_->styles
@@ -188,9 +221,8 @@ KnownStyles* RenderReport::knownStyles() {
 
 /// Hands on the diagnostics for which a file is refused: errors of these kinds, or all where the
 /// check decides, and the warnings that refuse it.
-void RenderReport::locate(const std::string& file, const std::string& bytes,
+void RenderReport::locate(const std::string& file, const FileWindow& window,
                           const Diagnostics& diagnostics, const std::set<DiagnosticId>& kinds) {
-    const FileWindow window = windowOf(bytes);
     for (Diagnostic diagnostic : diagnostics) {
         const bool isShown = isError(diagnostic)
                                  ? isChecked() || kinds.contains(diagnostic.id)

@@ -11,6 +11,7 @@
 #include "cli/DiagnosticExcerpt.h"
 #include "cli/RenderOptions.h"
 #include "cli/ReportedError.h"
+#include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/diagnostics/KnownStyles.h"
 #include "quorvane/diagnostics/engine/Diagnostic.h"
 
@@ -51,9 +52,10 @@ public:
     /// Takes the bytes of the stylesheet. Returns false when the check refuses it.
     bool passStyleSheet(const std::string& name, const std::string& bytes);
 
-    /// Takes the bytes of a description. Returns false when they are not text, which is reported as
-    /// text only: a program gets the events of the analysis.
-    bool passBytes(const std::string& name, std::string_view bytes);
+    /// Takes the bytes of a description. Returns false when they are not text in that encoding.
+    /// That they are no text at all is reported as text only: a program gets the events of the
+    /// analysis.
+    bool passBytes(const std::string& name, std::string_view bytes, TextEncoding encoding);
 
     /// The library refuses the stylesheet.
     void refuseStyleSheet(const RtfError& error);
@@ -61,14 +63,17 @@ public:
     /// An error that the analysis of a description reports, before `passDescription`.
     void event(const std::string& file, const RtfError& error);
 
-    /// Ends with a description (UTF-8), which is named so. Returns false when the check refuses it;
-    /// the errors that were reported before are for the caller to count.
-    bool passDescription(const std::string& name, const std::string& path, const std::string& text);
+    /// Ends with a description (UTF-8), which is named so, from a file in that encoding. Returns
+    /// false when the check refuses it; the errors that were reported before are for the caller to
+    /// count.
+    bool passDescription(const std::string& name, const std::string& path, const std::string& text,
+                         TextEncoding encoding);
 
 private:
     struct StyleSheet {
         std::string name;
         std::string bytes;
+        TextEncoding encoding = TextEncoding::Windows1252;
         std::optional<std::vector<Diagnostic>> diagnostics{};
         std::optional<KnownStyles> styles{};
         bool isReported = false;
@@ -77,10 +82,11 @@ private:
     /// The check decides, whether there are errors or not.
     bool isChecked() const { return options_.check || options_.failOn == FailOn::Warning; }
     bool corrupts(const Diagnostic& diagnostic) const;
-    void refuseBinary(const std::string& file, const Diagnostic& diagnostic);
+    void refuseUnreadable(const std::string& file, const Diagnostic& diagnostic,
+                          const FileWindow& window);
     const std::vector<Diagnostic>& styleSheetDiagnostics();
     KnownStyles* knownStyles();
-    void locate(const std::string& file, const std::string& bytes,
+    void locate(const std::string& file, const FileWindow& window,
                 const std::vector<Diagnostic>& diagnostics, const std::set<DiagnosticId>& kinds);
     bool pass(const std::string& file, const std::vector<Diagnostic>& diagnostics, bool hasOthers);
 

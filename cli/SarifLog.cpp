@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <nlohmann/json.hpp>
+#include <set>
 #include <string_view>
 #include <system_error>
 
@@ -98,7 +99,7 @@ std::string hashOf(std::string_view text) {
 /// very long one it is the beginning.
 std::string lineContent(const Place& place, const FileWindow& window) {
     constexpr std::int64_t longest = 4096;
-    std::string line = window(place.offset - (place.column - 1), longest);
+    std::string line = window.read(place.bytes.offset - (place.bytes.column - 1), longest);
     line.resize(std::min(line.find_first_of("\r\n"), line.size()));
     std::erase_if(line, [](char character) { return character == ' ' || character == '\t'; });
     return line;
@@ -176,7 +177,21 @@ void SarifLog::add(const std::string& file, Diagnostic diagnostic, const FileWin
     const std::string hash = hashOf(std::string(diagnosticRule(diagnostic.id).identifier) + "\n" +
                                     lineContent(diagnostic.place, window));
     const int occurrence = ++occurrences_[{file, hash}];
-    results_.push_back({file, std::move(diagnostic), hash + ":" + std::to_string(occurrence)});
+    results_.push_back(
+        {file, std::move(diagnostic), hash + ":" + std::to_string(occurrence), window.encoding});
+}
+
+/// The files whose encoding is not the default.
+nlohmann::ordered_json SarifLog::artifactsInUtf8() const {
+    Json artifacts = Json::array();
+    std::set<std::string_view> files;
+    for (const Result& result : results_) {
+        if (isUtf8(result.encoding) && files.insert(result.file).second) {
+            artifacts.push_back(
+                {{"location", artifactLocation(result.file)}, {"encoding", "utf-8"}});
+        }
+    }
+    return artifacts;
 }
 
 std::string SarifLog::text(bool isComplete) const {
@@ -195,6 +210,9 @@ std::string SarifLog::text(bool isComplete) const {
     run["invocations"] = Json::array({std::move(invocation)});
     run["columnKind"] = "unicodeCodePoints";
     run["defaultEncoding"] = "windows-1252";
+    if (Json artifacts = artifactsInUtf8(); !artifacts.empty()) {
+        run["artifacts"] = std::move(artifacts);
+    }
     run["results"] = std::move(results);
     const Json log = {{"$schema", "https://json.schemastore.org/sarif-2.1.0.json"},
                       {"version", "2.1.0"},

@@ -2,11 +2,13 @@
 
 #include <cstddef>
 #include <map>
+#include <nlohmann/json_fwd.hpp>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "cli/DiagnosticExcerpt.h"
+#include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/diagnostics/engine/Diagnostic.h"
 
 namespace quorvane::cli {
@@ -27,7 +29,10 @@ private:
         Diagnostic diagnostic;
         // Stays the same when the line moves.
         std::string fingerprint;
+        TextEncoding encoding = TextEncoding::Windows1252;
     };
+
+    nlohmann::ordered_json artifactsInUtf8() const;
 
     std::vector<Result> results_;
     // How often a line's content has had the same diagnostic, by file and hash.

@@ -149,9 +149,9 @@ public:
         }
     }
 
-    void addBytes(std::string_view part) {
+    void addBytes(std::string_view part, TextEncoding encoding) {
         bytes_->add(options_.showsDiff && standardOutputIsTerminal()
-                        ? diffForTerminal(part, outputColors_)
+                        ? diffForTerminal(part, encoding, outputColors_)
                         : part);
     }
 
@@ -191,7 +191,8 @@ ExitStatus checkAndReport(const CheckOptions& options) {
             output.add(file, diagnostic, window);
         },
         [&](const ReportedError& failure) { reportFailure(failure, options.form); },
-        systemPlatform(), [&](std::string_view part) { output.addBytes(part); });
+        systemPlatform(),
+        [&](std::string_view part, TextEncoding encoding) { output.addBytes(part, encoding); });
     const ExitStatus status = job.run();
     output.end(job);
     return status;

@@ -16,7 +16,10 @@ namespace {
 constexpr const char* versionText = "quorvane " QUORVANE_VERSION;
 
 constexpr const char* renderFooter =
-    R"(A description (.rtfspec) is a text file in Windows-1252; - is standard input.
+    R"(A description (.rtfspec) is a text file in UTF-8 or Windows-1252; - is standard
+input. Unless --encoding says which, a file that begins with a byte order mark
+of UTF-8, or that is UTF-8 and not plain ASCII, is in UTF-8. So it is for the
+stylesheet.
 
 Unless --output or --output-dir is given, a document is written next to its
 description, with the extension rtf. The document of standard input goes to
@@ -51,6 +54,10 @@ comment leaves a diagnostic out of the report for the next line:
 
   ; quorvane: ignore wrong-color
 
+Unless --encoding says which, a description or a stylesheet that begins with a
+byte order mark of UTF-8, or that is UTF-8 and not plain ASCII, is in UTF-8; any
+other is in Windows-1252. Columns count characters.
+
 With --diff, the diff goes to standard output and the report to standard error.
 So do the fixed text of standard input and its report with --fix. On a terminal
 the report is colored unless the environment variable NO_COLOR is set.
@@ -79,6 +86,10 @@ input, whose canonical form goes to standard output. A folder stands for all
 .rtfspec and .rtfss files in it and its subfolders. A file that is already in
 canonical form is not touched.
 
+Each file stays in its encoding. Unless --encoding says which that is, a file
+that begins with a byte order mark of UTF-8, or that is UTF-8 and not plain
+ASCII, is in UTF-8; any other is in Windows-1252.
+
 The canonical form renders to the same document. The messages of errors may
 differ, because they repeat lines of the description.
 
@@ -88,6 +99,15 @@ Exit status:
   0  success
   1  with --check or --diff: a file is not in canonical form
   2  wrong usage, or a file that cannot be read, formatted or written)";
+
+const std::map<std::string, EncodingChoice>& encodingChoices() {
+    static const std::map<std::string, EncodingChoice> choices = {
+        {"auto", EncodingChoice::Auto},
+        {"utf-8", EncodingChoice::Utf8},
+        {"windows-1252", EncodingChoice::Windows1252},
+    };
+    return choices;
+}
 
 const std::map<std::string, NameForm>& nameForms() {
     static const std::map<std::string, NameForm> forms = {
@@ -235,6 +255,13 @@ CLI::callback_t storeIn(FailOn& target) {
     };
 }
 
+CLI::callback_t storeIn(EncodingChoice& target) {
+    return [&target](const CLI::results_t& results) {
+        target = encodingChoices().at(results.front());
+        return true;
+    };
+}
+
 CLI::callback_t storeIn(ReportForm& target) {
     return [&target](const CLI::results_t& results) {
         target = reportForms().at(results.front());
@@ -269,6 +296,12 @@ std::string wrongJobs(const std::string& value) {
     return isShort && isNumber && std::stoul(value) <= maxJobs
                ? std::string()
                : asGiven(value) + " is not a number from 0 to " + std::to_string(maxJobs);
+}
+
+void addEncoding(CLI::App& app, EncodingChoice& target) {
+    app.add_option("--encoding", storeIn(target), "The encoding of the files; auto by default")
+        ->type_name("auto|utf-8|windows-1252")
+        ->check(CLI::IsMember(encodingChoices()).description(""));
 }
 
 void addStdinFilename(CLI::App& app, std::optional<std::string>& target) {
@@ -310,6 +343,7 @@ void addCheckOptions(CLI::App* check, CheckOptions& options) {
                      "Report as text, as JSON objects or as a SARIF log")
         ->type_name("text|json|sarif")
         ->check(CLI::IsMember(reportForms()).description(""));
+    addEncoding(*check, options.encoding);
     check->add_flag("--fix", options.fixes, "Apply the fixes that are certain");
     check->add_flag("--diff", options.showsDiff, "Only show what --fix would change");
     addIdentifiersOption(*check, "--ignore", options.ignored, "Do not report these diagnostics");
@@ -348,6 +382,7 @@ void addFormatOptions(CLI::App* format, FormatOptions& options) {
     format->add_option("--names", storeIn(options.names), "Write long or short names, or keep them")
         ->type_name("long|short|keep")
         ->check(CLI::IsMember(nameForms()).description(""));
+    addEncoding(*format, options.encoding);
     format->add_flag("--check", options.check, "Only list the files that would change");
     format->add_flag("--diff", options.diff, "Only show what would change");
     addStdinFilename(*format, options.stdinName);
@@ -386,6 +421,7 @@ void addRenderOptions(CLI::App* render, RenderOptions& options) {
         ->add_option("-s,--stylesheet", storeIn(options.styleSheet),
                      "Take the styles from this .rtfss file")
         ->type_name("FILE");
+    addEncoding(*render, options.encoding);
     render->add_option("-o,--output", storeIn(options.output), "Write the document to this file")
         ->type_name("FILE");
     render

@@ -11,8 +11,8 @@ std::string diagnosticJson(const std::string& file, const Diagnostic& diagnostic
     object["file"] = file;
     object["line"] = diagnostic.place.line;
     object["column"] = diagnostic.place.column;
-    object["length"] = diagnostic.place.length;
-    object["offset"] = diagnostic.place.offset;
+    object["length"] = diagnostic.place.bytes.length;
+    object["offset"] = diagnostic.place.bytes.offset;
     object["severity"] = severityName(diagnostic.severity);
     object["identifier"] = diagnosticRule(diagnostic.id).identifier;
     object["message"] = diagnostic.message;
@@ -20,8 +20,8 @@ std::string diagnosticJson(const std::string& file, const Diagnostic& diagnostic
         object["hint"] = diagnostic.hint;
     }
     if (diagnostic.fix) {
-        object["fix"] = {{"offset", diagnostic.fix->place.offset},
-                         {"length", diagnostic.fix->place.length},
+        object["fix"] = {{"offset", diagnostic.fix->place.bytes.offset},
+                         {"length", diagnostic.fix->place.bytes.length},
                          {"replacement", diagnostic.fix->replacement}};
     }
     if (diagnostic.isFixed) {

@@ -2,8 +2,8 @@
 
 #include "cli/oneLine.h"
 #include "cli/shortened.h"
+#include "cli/terminalColumns.h"
 #include "quorvane/base/text/trimming.h"
-#include "quorvane/base/text/utf8.h"
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
 
 namespace quorvane::cli {
@@ -21,9 +21,9 @@ std::string colored(std::string_view color, const std::string& text, Colors colo
 }
 
 std::string caretLine(const DiagnosticExcerpt& excerpt, Colors colors) {
-    const std::size_t marked = characterCount(excerpt.marked);
+    const std::size_t marked = terminalColumns(excerpt.marked);
     const std::string carets = "^" + std::string(marked > 1 ? marked - 1 : 0, '~');
-    return std::string(characterCount(excerpt.before), ' ') + colored(green, carets, colors);
+    return std::string(terminalColumns(excerpt.before), ' ') + colored(green, carets, colors);
 }
 
 }  // namespace

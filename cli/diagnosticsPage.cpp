@@ -51,7 +51,7 @@ std::string section(const DiagnosticRule& rule) {
     }
     if (!rule.wrong.empty()) {
         text += block("Wrong:", rule.wrong);
-        text += block("Report:", exampleReport(rule));
+        text += block(exampleReportTitle(rule), exampleReport(rule));
         text += block("Right:", rule.right);
     }
     return text;

@@ -10,14 +10,13 @@
 #include "cli/fileFailure.h"
 #include "cli/process.h"
 #include "quorvane/base/platform/Platform.h"
+#include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/base/text/utf8.h"
 #include "quorvane/rtf/escape.h"
 
 namespace quorvane::cli {
 
 namespace {
-
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
 void report(const ReportedError& failure) {
     writeToStandardError(errorText(failure) + "\n");
@@ -29,8 +28,8 @@ public:
     explicit Escape(EscapeUse use) : use_(use) {}
 
     void addFile(const std::string& name, std::string_view text) {
-        if (text.starts_with(byteOrderMark)) {
-            text.remove_prefix(byteOrderMark.size());
+        if (text.starts_with(utf8Mark)) {
+            text.remove_prefix(utf8Mark.size());
         }
         if (!escaped_.empty() && escaped_.back() != '\n') {
             escaped_ += '\n';

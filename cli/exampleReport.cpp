@@ -35,6 +35,7 @@ void checkExample(const DiagnosticRule& rule, const DiagnosticSink& find) {
     }
     ExampleFiles files;
     CheckOptions options;
+    options.encoding = isUtf8(rule.encoding) ? EncodingChoice::Utf8 : EncodingChoice::Windows1252;
     if (isOffByDefault(rule.id)) {
         options.enabled = {std::string(rule.identifier)};
     }
@@ -71,6 +72,12 @@ std::string exampleReport(const DiagnosticRule& rule) {
                            const FileWindow& window) { text.add(file, diagnostic, window); });
     text.end();
     return report;
+}
+
+std::string_view exampleReportTitle(const DiagnosticRule& rule) {
+    const bool isOtherwiseRead = rule.language != CheckedLanguage::Rtf && !isUtf8(rule.encoding) &&
+                                 isUtf8(encodingOf(rule.wrong));
+    return isOtherwiseRead ? "Report with `--encoding windows-1252`:" : "Report:";
 }
 
 std::string exampleMessage(const DiagnosticRule& rule) {

@@ -63,7 +63,7 @@ std::string explanation(const DiagnosticRule& rule) {
            (isOffByDefault(rule.id) ? ", off by default" : "") + "\n    " + exampleMessage(rule) +
            "\n\n" + wrapped(rule.explanation) +
            example(isSheet ? "With this description:" : "With this stylesheet:", rule.companion) +
-           example("Wrong:", rule.wrong) + example("Report:", exampleReport(rule)) +
+           example("Wrong:", rule.wrong) + example(exampleReportTitle(rule), exampleReport(rule)) +
            example("Right:", rule.right);
 }
 

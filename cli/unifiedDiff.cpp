@@ -145,7 +145,7 @@ std::string unifiedDiff(const std::string& name, std::string_view before, std::s
                : "--- " + nameInHead('a', name) + "\n+++ " + nameInHead('b', name) + "\n" + hunks;
 }
 
-std::string diffForTerminal(std::string_view diff, Colors colors) {
+std::string diffForTerminal(std::string_view diff, TextEncoding encoding, Colors colors) {
     std::string text;
     std::size_t number = 0;
     for (std::string_view line : linesWithEnds(diff)) {
@@ -153,7 +153,7 @@ std::string diffForTerminal(std::string_view diff, Colors colors) {
         const bool isInHead = number < 2;
         // The head has a name in UTF-8; what follows has the file's own bytes.
         const std::string shown =
-            oneLine(isInHead ? std::string(line) : utf8FromCodePage1252(line));
+            oneLine(isInHead || isUtf8(encoding) ? std::string(line) : utf8FromCodePage1252(line));
         const std::string_view color =
             colors == Colors::On ? colorOf(line, isInHead) : std::string_view();
         text += color;

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "cli/colors.h"
+#include "quorvane/base/text/TextEncoding.h"
 
 namespace quorvane::cli {
 
@@ -12,8 +13,8 @@ namespace quorvane::cli {
 /// Empty when nothing changes.
 std::string unifiedDiff(const std::string& name, std::string_view before, std::string_view after);
 
-/// Such a diff of texts in Windows-1252 as a terminal shows it: in UTF-8, without control
+/// Such a diff of texts in an encoding as a terminal shows it: in UTF-8, without control
 /// characters, and colored when it is to be.
-std::string diffForTerminal(std::string_view diff, Colors colors);
+std::string diffForTerminal(std::string_view diff, TextEncoding encoding, Colors colors);
 
 }  // namespace quorvane::cli

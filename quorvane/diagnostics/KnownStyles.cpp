@@ -105,7 +105,8 @@ std::string_view styleKindName(StyleKind kind) {
 }
 
 struct KnownStyles::Parts {
-    explicit Parts(std::string_view styleSheet) : text(styleSheet), soundText(styleSheet) {}
+    Parts(std::string_view styleSheet, TextEncoding encodingOfFile)
+        : text(styleSheet), soundText(styleSheet), encoding(encodingOfFile) {}
 
     void load();
     void file(const StyleDefinition& definition);
@@ -120,6 +121,7 @@ struct KnownStyles::Parts {
 
     std::string text;
     std::string soundText;
+    TextEncoding encoding;
     std::array<StyleList, 3> lists;
     SheetForm form;
     // In lower case, as the names of styles whose kind is uncertain.
@@ -185,8 +187,8 @@ void KnownStyles::Parts::repairOriginal() {
     }
 }
 
-KnownStyles::KnownStyles(std::string_view styleSheet)
-    : parts_(std::make_unique<Parts>(styleSheet)) {
+KnownStyles::KnownStyles(std::string_view styleSheet, TextEncoding encoding)
+    : parts_(std::make_unique<Parts>(styleSheet, encoding)) {
     try {
         parts_->load();
     } catch (const RtfError&) {
@@ -201,6 +203,10 @@ KnownStyles::~KnownStyles() = default;
 
 const std::string& KnownStyles::text() const {
     return parts_->text;
+}
+
+TextEncoding KnownStyles::encoding() const {
+    return parts_->encoding;
 }
 
 const std::string& KnownStyles::soundText() const {

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/stylesheet/StyleKind.h"
 
 namespace quorvane {
@@ -21,14 +22,18 @@ std::string_view styleKindName(StyleKind kind);
 class KnownStyles {
 public:
     /// Reads a stylesheet. If it has errors, the styles are those that it was most likely meant to
-    /// have.
-    explicit KnownStyles(std::string_view styleSheet);
+    /// have. `encoding` is that of the stylesheet's file.
+    explicit KnownStyles(std::string_view styleSheet,
+                         TextEncoding encoding = TextEncoding::Windows1252);
     KnownStyles(KnownStyles&& other) noexcept;
     KnownStyles& operator=(KnownStyles&& other) noexcept;
     ~KnownStyles();
 
     /// Returns the text of the stylesheet, as it was given.
     const std::string& text() const;
+
+    /// Returns the encoding of the stylesheet's file, as it was given.
+    TextEncoding encoding() const;
 
     /// Returns the text of a stylesheet without errors that has the same styles: `text` if that has
     /// none.

@@ -3,7 +3,6 @@
 #include <string>
 #include <utility>
 
-#include "quorvane/base/text/codePage1252.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
@@ -45,7 +44,7 @@ std::string loadingErrorOf(std::string_view text) {
 }  // namespace
 
 std::vector<Diagnostic> findNameMismatch(std::string_view bytes, CheckedLanguage language,
-                                         std::string_view fileName) {
+                                         std::string_view fileName, TextEncoding encoding) {
     const std::string name = lowerCase(fileName);
     const Naming naming = namingOf(language);
     const bool isNamedDescription = name.ends_with(".rtfspec");
@@ -57,8 +56,8 @@ std::vector<Diagnostic> findNameMismatch(std::string_view bytes, CheckedLanguage
     std::vector<Diagnostic> diagnostics;
     DiagnosticEngine engine(
         [&](Diagnostic diagnostic) { diagnostics.push_back(std::move(diagnostic)); });
-    const std::string text = utf8FromCodePage1252(bytes);
-    const SourceText source(text);
+    const std::string text = decodedText(std::string(bytes), encoding);
+    const SourceText source(text, encoding);
     const std::string_view first = firstLineOf(text);
     const Place place = first.empty() ? Place{} : source.placeOf(first);
     std::string hint = "the file looks like " + std::string(naming.noun) +

@@ -10,6 +10,7 @@
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/diagnostics/KnownStyles.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
+#include "quorvane/diagnostics/engine/SourceText.h"
 #include "quorvane/diagnostics/fileEncoding.h"
 #include "quorvane/diagnostics/languageOf.h"
 #include "quorvane/stylesheet/StyleList.h"
@@ -50,6 +51,12 @@ void report(DiagnosticEngine& engine, std::string_view what, std::string_view hi
     engine.report(DiagnosticId::NotATextFile, {}, {what, "a text file"}, std::string(hint));
 }
 
+std::string inHexadecimal(char character) {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    const auto byte = static_cast<unsigned char>(character);
+    return {digits[byte / 16], digits[byte % 16]};
+}
+
 /// True for a text in one of the languages, whatever bytes it holds.
 bool isOfALanguage(std::string_view bytes) {
     const std::string_view text = trimWhitespace(afterByteOrderMark(bytes));
@@ -69,8 +76,8 @@ std::optional<Diagnostic> findNotATextFile(std::string_view bytes) {
     std::optional<Diagnostic> found;
     DiagnosticEngine engine([&](Diagnostic diagnostic) { found = std::move(diagnostic); });
     if (isUtf16(beginning)) {
-        engine.report(DiagnosticId::NotATextFile, {}, {"text in UTF-16", "in Windows-1252"},
-                      "save it in Windows-1252");
+        engine.report(DiagnosticId::NotATextFile, {},
+                      {"text in UTF-16", "in UTF-8 or Windows-1252"}, "save it in UTF-8");
         return found;
     }
     for (const Signature& signature : signatures) {
@@ -82,6 +89,23 @@ std::optional<Diagnostic> findNotATextFile(std::string_view bytes) {
     const bool hasNul = beginning.find('\0') != std::string_view::npos;
     if (hasNul && !isOfALanguage(beginning)) {
         report(engine, beginning.starts_with("MZ") ? "a program" : "binary data", {});
+    }
+    return found;
+}
+
+std::optional<Diagnostic> findUnreadableText(std::string_view bytes, TextEncoding encoding) {
+    std::optional<Diagnostic> found = findNotATextFile(bytes);
+    const std::optional<std::size_t> wrong =
+        found || !isUtf8(encoding) ? std::nullopt : findNotUtf8(bytes);
+    if (wrong) {
+        const std::size_t start = bytesBeforeText(encoding);
+        const SourceText source(bytes.substr(start), encoding);
+        const Place place = source.place(*wrong - start, *wrong - start + 1);
+        DiagnosticEngine engine([&](Diagnostic diagnostic) { found = std::move(diagnostic); });
+        engine.report(
+            DiagnosticId::NotUtf8, place,
+            {inHexadecimal(bytes[*wrong]), std::to_string(place.column)},
+            "save the file in UTF-8, or use --encoding windows-1252 if it is in Windows-1252");
     }
     return found;
 }

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/diagnostics/engine/Diagnostic.h"
 
 namespace quorvane {
@@ -13,5 +14,9 @@ namespace quorvane {
 /// text, and for RTF, which may hold binary data. Judged by the file's bytes, some thousand from
 /// its beginning are enough.
 std::optional<Diagnostic> findNotATextFile(std::string_view bytes);
+
+/// The diagnostic about a file that cannot be read as a text in its encoding: one that is not a
+/// text, or the first byte of a file in UTF-8 that is not UTF-8. Takes all bytes of the file.
+std::optional<Diagnostic> findUnreadableText(std::string_view bytes, TextEncoding encoding);
 
 }  // namespace quorvane

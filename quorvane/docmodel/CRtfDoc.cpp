@@ -176,6 +176,10 @@ void CRtfDoc::setAbsorbedErrorObserver(GError::Observer observer) {
     inner(*this).errors_.setObserver(std::move(observer));
 }
 
+void CRtfDoc::setLostCharacterObserver(LostCharacterObserver observer) {
+    inner(*this).errors_.setLostCharacterObserver(std::move(observer));
+}
+
 std::int32_t CRtfDoc::TextAreaWidth() const {
     return published([&] { return inner(*this).TextAreaWidth(); });
 }

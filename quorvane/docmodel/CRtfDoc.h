@@ -180,6 +180,11 @@ public:
     /// document that a driver is building. An empty function removes it.
     void setAbsorbedErrorObserver(GError::Observer observer);
 
+    /// Sets a function that is called with every character that becomes "?" because Windows-1252
+    /// lacks it: while `Commit` writes its file, and while marked fields get their data. It must
+    /// not use the document. What it throws is swallowed. An empty function removes it.
+    void setLostCharacterObserver(LostCharacterObserver observer);
+
     /// Returns the usable width of the page in twips: page width minus left and right margin. Error
     /// 6 if it does not fit into 32 bits.
     std::int32_t TextAreaWidth() const;

@@ -2,7 +2,7 @@
 
 #include "quorvane/docmodel/InnerCell.h"
 #include "quorvane/docmodel/InnerParagraph.h"
-#include "quorvane/rtfgroups/GTextMarkedFields.h"
+#include "quorvane/docmodel/markedFieldData.h"
 #include "quorvane/support/published.h"
 
 namespace quorvane {
@@ -69,7 +69,7 @@ void CRtfParagraph::asMarkedField(const Value& vFieldData) {
         InnerParagraph& self = inner(*this);
         beforeChange(self.document());
         try {
-            self.mark(GTextMarkedFields::fieldData(vFieldData));
+            self.mark(markedFieldData(vFieldData, self.document()));
         } catch (const RtfError&) {
             // Data of a type that is refused marks a paragraph all the same; one that was marked
             // keeps what it had.

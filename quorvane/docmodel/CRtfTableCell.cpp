@@ -2,7 +2,7 @@
 
 #include "quorvane/docmodel/InnerCell.h"
 #include "quorvane/docmodel/InnerRow.h"
-#include "quorvane/rtfgroups/GTextMarkedFields.h"
+#include "quorvane/docmodel/markedFieldData.h"
 #include "quorvane/support/published.h"
 
 namespace quorvane {
@@ -132,7 +132,7 @@ void CRtfTableCell::asMarkedField(const Value& vFieldData) {
     published([&] {
         beforeChange(inner(*this).document());
         try {
-            inner(*this).mark(GTextMarkedFields::fieldData(vFieldData));
+            inner(*this).mark(markedFieldData(vFieldData, inner(*this).document()));
         } catch (const RtfError& error) {
             if (TableDocument* document = inner(*this).document()) {
                 document->errors().handleError(error, "CRtfTableCell.cls", "asMarkedField");

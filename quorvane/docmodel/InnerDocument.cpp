@@ -168,7 +168,7 @@ bool InnerDocument::streams() const noexcept {
 }
 
 std::optional<RtfError> InnerDocument::stream(const std::string& path) {
-    StreamedText text(files_, path);
+    StreamedText text(files_, errors_, path);
     TableRendering rendering(*this, text);
     {
         const BeingWritten here(textState_);
@@ -194,7 +194,7 @@ std::optional<RtfError> InnerDocument::stream(const std::string& path) {
         textState_ = TextState::Written;
         changed_ = false;
     }
-    return text.end(errors_);
+    return text.end();
 }
 
 bool InnerDocument::holdsShortText() const noexcept {
@@ -244,6 +244,7 @@ void InnerDocument::releaseContents() noexcept {
     std::string().swap(contents_);
     names_ = {};
     errors_.setObserver({});
+    errors_.setLostCharacterObserver({});
 }
 
 std::int32_t InnerDocument::TextAreaWidth() const {

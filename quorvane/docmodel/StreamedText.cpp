@@ -2,8 +2,9 @@
 
 namespace quorvane {
 
-StreamedText::StreamedText(Files& files, const std::string& path)
-    : saving_(files, path), buffer_(std::make_unique_for_overwrite<char[]>(longestWholeText)) {
+StreamedText::StreamedText(Files& files, GError& errors, const std::string& path)
+    : saving_(files, errors, path),
+      buffer_(std::make_unique_for_overwrite<char[]>(longestWholeText)) {
     setBuffer(buffer_.get(), longestWholeText);
 }
 
@@ -13,9 +14,9 @@ void StreamedText::begin() noexcept {
     stage_ = Stage::Writing;
 }
 
-std::optional<RtfError> StreamedText::end(GError& errors) {
+std::optional<RtfError> StreamedText::end() {
     flush();
-    return saving_.end(errors);
+    return saving_.end();
 }
 
 void StreamedText::take(std::string_view text) {

@@ -22,8 +22,8 @@ class StreamedText final : public TextOutput {
 public:
     static constexpr std::size_t longestWholeText = std::size_t{64} * 1024;
 
-    /// The files and the path must outlive it.
-    StreamedText(Files& files, const std::string& path);
+    /// All that is given must outlive it.
+    StreamedText(Files& files, GError& errors, const std::string& path);
 
     /// True while the buffer holds all that was rendered, and the files were not asked for
     /// anything.
@@ -37,7 +37,7 @@ public:
     void begin() noexcept;
 
     /// Ends the file; see `TextSaving::end`.
-    std::optional<RtfError> end(GError& errors);
+    std::optional<RtfError> end();
 
 private:
     enum class Stage { Gathering, Waiting, Writing };

@@ -14,6 +14,7 @@
 #include "quorvane/docmodel/tableCollectionChanges.h"
 #include "quorvane/driver/DescriptionRules.h"
 #include "quorvane/driver/driverErrors.h"
+#include "quorvane/driver/unencodableCharacter.h"
 #include "quorvane/rtf/unicodeWords.h"
 
 namespace quorvane {
@@ -109,10 +110,10 @@ void DocumentBuilder::applyTo(Leaf& leaf, Apply apply) const {
 
 /// Reports a character where there can be none beyond Windows-1252.
 bool DocumentBuilder::isEncodable(Leaf& leaf) const {
-    if (!dialect_.texts.writesUnicode || leaf.key.known == DescriptionKey::ParaText) {
+    if (!dialect_.texts.writesUnicode) {
         return true;
     }
-    const std::optional<std::string_view> character = findBeyondCodePage1252(leaf.text);
+    const std::optional<std::string_view> character = findUnencodableCharacter(leaf);
     if (!character) {
         return true;
     }

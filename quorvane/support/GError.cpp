@@ -2,6 +2,8 @@
 
 #include <memory>
 
+#include "quorvane/base/text/codePage1252.h"
+#include "quorvane/base/text/utf8.h"
 #include "quorvane/support/currentError.h"
 
 namespace quorvane {
@@ -23,6 +25,26 @@ std::string joined(const ProgramVersion& version, const char* separator) {
 std::string sourceOfCurrentError() {
     const RtfError* error = currentError();
     return error ? error->source : std::string();
+}
+
+/// Calls the function with each character that becomes "?" in Windows-1252, and how many bytes come
+/// before that.
+template <class Function>
+void forEachLostCharacter(std::string_view text, Function&& function) {
+    std::size_t index = 0;
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t end = asciiRunEnd(text, at);
+        index += end - at;
+        at = end;
+        if (at < text.size()) {
+            const std::string_view character = text.substr(at, utf8CharacterAt(text, at).length);
+            if (codePage1252FromUtf8(character) == "?") {
+                function(character, index);
+            }
+            at += character.size();
+            ++index;
+        }
+    }
 }
 
 enum class Outcome { Success, CannotCreateObject, Failure };
@@ -77,6 +99,25 @@ void GError::handleError(const RtfError& error, const std::string& moduleName,
         }
     } catch (...) {
         // Not even memory for a copy of the error: nothing is left that could report it.
+    }
+}
+
+void GError::reportLostCharacters(std::string_view text,
+                                  std::optional<std::int64_t> offset) const noexcept {
+    if (!lostCharacterObserver_) {
+        return;
+    }
+    try {
+        const LostCharacterObserver observer = lostCharacterObserver_;
+        forEachLostCharacter(text, [&](std::string_view character, std::size_t index) {
+            LostCharacter lost{std::string(character), offset};
+            if (offset) {
+                *lost.offset += static_cast<std::int64_t>(index);
+            }
+            observer(lost);
+        });
+    } catch (...) {
+        // The loss is as it would be without an observer.
     }
 }
 

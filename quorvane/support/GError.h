@@ -4,10 +4,12 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "quorvane/base/platform/HostServices.h"
 #include "quorvane/base/values/RtfError.h"
+#include "quorvane/support/LostCharacter.h"
 
 namespace quorvane {
 
@@ -67,6 +69,18 @@ public:
     /// Sets the observer; an empty function removes it.
     void setObserver(Observer observer) { observer_ = std::move(observer); }
 
+    /// Passes each character of a UTF-8 text that becomes "?" in Windows-1252 to the observer of
+    /// lost characters. The text begins at that byte offset of a file; none for a text that does
+    /// not go into a file by itself. Never raises, whatever the observer does.
+    void reportLostCharacters(std::string_view text,
+                              std::optional<std::int64_t> offset) const noexcept;
+
+    /// Sets the observer of lost characters; an empty function removes it. What it throws is
+    /// swallowed.
+    void setLostCharacterObserver(LostCharacterObserver observer) {
+        lostCharacterObserver_ = std::move(observer);
+    }
+
     /// Runs the body. An `RtfError` that it raises goes to `handleError` with the two names, and is
     /// returned. Any other exception, such as `std::bad_alloc`, passes.
     template <class Body>
@@ -84,6 +98,7 @@ public:
 private:
     HostServices& host_;
     Observer observer_;
+    LostCharacterObserver lostCharacterObserver_;
     bool reporterSwitch_ = false;
 };
 

@@ -16,21 +16,21 @@ bool saveStringToFile(Files& files, GError& errors, const std::string& path, std
 
 std::optional<RtfError> errorOfSaving(Files& files, GError& errors, const std::string& path,
                                       std::string_view text, bool keepExisting) {
-    TextSaving saving(files, path);
+    TextSaving saving(files, errors, path);
     saving.lookForFile();
     if (saving.replacesFile() && keepExisting) {
         return std::nullopt;
     }
     saving.begin();
     saving.write(text);
-    return saving.end(errors);
+    return saving.end();
 }
 
 void saveString(Files& files, GError& errors, const std::string& path, std::string_view text) {
-    TextSaving saving(files, path);
+    TextSaving saving(files, errors, path);
     saving.begin();
     saving.write(text);
-    saving.endWriting(errors);
+    saving.endWriting();
 }
 
 bool fileExists(Files& files, const std::string& path) {

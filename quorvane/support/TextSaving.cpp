@@ -37,20 +37,6 @@ std::size_t lengthOfFirstBlock(std::string_view text) {
     return blockSize;  // not UTF-8, so there is no character to cut
 }
 
-void writeEncoded(OutputFile& file, std::string_view text, std::string& bytes) {
-    while (!text.empty()) {
-        const std::string_view block = text.substr(0, lengthOfFirstBlock(text));
-        if (asciiRunEnd(block, 0) == block.size()) {
-            file.write(block);
-        } else {
-            bytes.clear();
-            appendCodePage1252(block, bytes);
-            file.write(bytes);
-        }
-        text.remove_prefix(block.size());
-    }
-}
-
 void raiseIfFailed(const std::exception_ptr& failure) {
     if (failure) {
         std::rethrow_exception(failure);
@@ -79,19 +65,35 @@ void TextSaving::begin() noexcept {
 
 void TextSaving::write(std::string_view piece) noexcept {
     if (file_) {
-        attempt(failureToWrite_, [&] { writeEncoded(*file_, piece, bytes_); });
+        attempt(failureToWrite_, [&] { writeEncoded(piece); });
     }
 }
 
-std::optional<RtfError> TextSaving::end(GError& errors) {
-    return errors.absorbing(moduleName, "saveStringToFile", [&] {
+void TextSaving::writeEncoded(std::string_view text) {
+    while (!text.empty()) {
+        const std::string_view block = text.substr(0, lengthOfFirstBlock(text));
+        std::string_view encoded = block;
+        if (asciiRunEnd(block, 0) < block.size()) {
+            bytes_.clear();
+            appendCodePage1252(block, bytes_);
+            encoded = bytes_;
+            errors_.reportLostCharacters(block, offset_);
+        }
+        file_->write(encoded);
+        offset_ += static_cast<std::int64_t>(encoded.size());
+        text.remove_prefix(block.size());
+    }
+}
+
+std::optional<RtfError> TextSaving::end() {
+    return errors_.absorbing(moduleName, "saveStringToFile", [&] {
         raiseIfFailed(failureToReplace_);
-        endWriting(errors);
+        endWriting();
     });
 }
 
-void TextSaving::endWriting(GError& errors) {
-    errors.absorbing(moduleName, "saveString", [this] {
+void TextSaving::endWriting() {
+    errors_.absorbing(moduleName, "saveString", [this] {
         raiseIfFailed(failureToWrite_);
         const std::unique_ptr<OutputFile> file = std::move(file_);
         file->close();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <exception>
 #include <memory>
 #include <optional>
@@ -16,8 +17,9 @@ namespace quorvane {
 /// makes the text does not notice it.
 class TextSaving {
 public:
-    /// The files and the path must outlive the saving.
-    TextSaving(Files& files, const std::string& path) noexcept : files_(files), path_(path) {}
+    /// All that is given must outlive the saving.
+    TextSaving(Files& files, GError& errors, const std::string& path) noexcept
+        : files_(files), errors_(errors), path_(path) {}
 
     /// Takes all the memory that encoding pieces of any length needs.
     void reserveMemory();
@@ -29,26 +31,31 @@ public:
     /// Deletes the file that was found and creates the new one.
     void begin() noexcept;
 
-    /// Writes the next piece of the text. No character is split between two pieces.
+    /// Writes the next piece of the text, and reports the characters that are lost. No character
+    /// is split between two pieces.
     void write(std::string_view piece) noexcept;
 
     /// Ends the saving as `GFileSystem::errorOfSaving` does: passes a failure to the error module,
     /// and returns it if it is one to look for the file or to delete it. What is not an `RtfError`
     /// is thrown.
-    std::optional<RtfError> end(GError& errors);
+    std::optional<RtfError> end();
 
     /// Ends the writing alone, as `GFileSystem::saveString` does.
-    void endWriting(GError& errors);
+    void endWriting();
 
 private:
+    void writeEncoded(std::string_view text);
     template <class Step>
     void attempt(std::exception_ptr& failure, Step&& step) noexcept;
 
     Files& files_;
+    GError& errors_;
     const std::string& path_;
     bool replacesFile_ = false;
     std::unique_ptr<OutputFile> file_;
     std::string bytes_;
+    // How many bytes were written.
+    std::int64_t offset_ = 0;
     std::exception_ptr failureToReplace_;
     std::exception_ptr failureToWrite_;
 };

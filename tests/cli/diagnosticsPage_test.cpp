@@ -58,6 +58,7 @@ struct Section {
     bool isSheet = false;
     std::string wrong;
     std::string report;
+    std::string encoding = "auto";
     std::string right;
 };
 
@@ -91,6 +92,10 @@ std::vector<Section> sectionsWithExamples() {
         }
         section.wrong = fenced(text, "Wrong:");
         section.report = fenced(text, "Report:");
+        if (section.report.empty()) {
+            section.report = fenced(text, "Report with `--encoding windows-1252`:");
+            section.encoding = "windows-1252";
+        }
         section.right = fenced(text, "Right:");
         if (!section.wrong.empty()) {
             sections.push_back(section);
@@ -108,7 +113,7 @@ protected:
         const std::string file = section.report.substr(0, section.report.find(':'));
         ProgramStart start;
         start.folder = folder.path();
-        start.arguments = {"check", "--quiet"};
+        start.arguments = {"check", "--quiet", "--encoding", section.encoding};
         if (isOffByDefault(findDiagnosticRule(section.identifier)->id)) {
             start.arguments.push_back("--enable=" + section.identifier);
         }

@@ -139,7 +139,7 @@ TEST_F(FormatTest, RefusesWhatIsNeitherADescriptionNorAStyleSheet) {
         folder.write(name, bytes);
         names.push_back(name);
         const bool isUtf16 = bytes.find('\0') != std::string::npos;
-        expected += name + (isUtf16 ? ": This is text in UTF-16, not in Windows-1252.\n"
+        expected += name + (isUtf16 ? ": This is text in UTF-16, not in UTF-8 or Windows-1252.\n"
                                     : ": The file is neither a description nor a stylesheet\n");
     }
     const ProgramResult result = run(names);

@@ -31,11 +31,13 @@ inline std::string reportOf(CheckedFiles platform, const CheckOptions& options) 
 
 /// The whole report about a description "a.rtfspec", with a stylesheet "a.rtfss" where it is not
 /// empty.
-inline std::string reportOf(const std::string& description, const std::string& styleSheet = {}) {
+inline std::string reportOf(const std::string& description, const std::string& styleSheet = {},
+                            EncodingChoice encoding = EncodingChoice::Auto) {
     CheckedFiles platform;
     platform.files = {{"a.rtfspec", description}, {"a.rtfss", styleSheet}};
     CheckOptions options;
     options.files = {"a.rtfspec"};
+    options.encoding = encoding;
     if (!styleSheet.empty()) {
         options.styleSheet = "a.rtfss";
     }
@@ -43,11 +45,13 @@ inline std::string reportOf(const std::string& description, const std::string& s
 }
 
 /// The whole report about one file.
-inline std::string reportOfFile(const std::string& name, const std::string& bytes) {
+inline std::string reportOfFile(const std::string& name, const std::string& bytes,
+                                EncodingChoice encoding = EncodingChoice::Auto) {
     CheckedFiles platform;
     platform.files = {{name, bytes}};
     CheckOptions options;
     options.files = {name};
+    options.encoding = encoding;
     return reportOf(platform, options);
 }
 

@@ -356,21 +356,23 @@ TEST(ReportsOfWidths, ReportAPageWithoutRoom) {
 TEST(ReportsOfCharacters, FindThemInEverythingThatReachesTheDocument) {
     // A file in UTF-8 with an arrow, which the code page does not have, and with an e acute.
     EXPECT_EQ(
-        reportOf(paragraphWith("a", "(pmf=\xE2\x86\x92)\n")),
+        reportOf(paragraphWith("a", "(pmf=\xE2\x86\x92)\n"), {}, EncodingChoice::Windows1252),
         "a.rtfspec:6:6: warning: \xE2\x86\x92 is not in Windows-1252; it will appear as "
         "\xC3\xA2\xE2\x80\xA0\xE2\x80\x99, because the file is in UTF-8. [unencodable-character]\n"
         "    (pmf=\xC3\xA2\xE2\x80\xA0\xE2\x80\x99)\n"
         "         ^~~\n");
-    EXPECT_EQ(reportOf("(doc\n(r\n(c\n(cmf=\xC3\xA9)\nc)\nr)\ndoc)\n"),
-              "a.rtfspec:4:6: warning: \xC3\xA9 will appear as \xC3\x83\xC2\xA9, because the file "
-              "is in UTF-8. "
-              "[utf-8-text]\n"
-              "    (cmf=\xC3\x83\xC2\xA9)\n"
-              "         ^~\n"
-              "    hint: save the file in Windows-1252\n");
+    EXPECT_EQ(
+        reportOf("(doc\n(r\n(c\n(cmf=\xC3\xA9)\nc)\nr)\ndoc)\n", {}, EncodingChoice::Windows1252),
+        "a.rtfspec:4:6: warning: \xC3\xA9 will appear as \xC3\x83\xC2\xA9, because the file "
+        "is in UTF-8. "
+        "[utf-8-text]\n"
+        "    (cmf=\xC3\x83\xC2\xA9)\n"
+        "         ^~\n"
+        "    hint: save the file in Windows-1252\n");
     EXPECT_EQ(reportOfFile("a.rtfss",
                            "{ name: normal; style-def: s }\n{ name: \xC3\xA9; style-def: cell; "
-                           "format: none }\n{ name: normal, \xC3\xA9; style-def: cs }\n"),
+                           "format: none }\n{ name: normal, \xC3\xA9; style-def: cs }\n",
+                           EncodingChoice::Windows1252),
               "a.rtfss:3:17: warning: \xC3\xA9 will appear as \xC3\x83\xC2\xA9, because the file "
               "is in UTF-8. "
               "[utf-8-text]\n"
@@ -386,7 +388,7 @@ TEST(ReportsOfCharacters, ReportTheFirstThatIsMisread) {
     const std::string shown =
         "    (pt=caf\xC3\x83\xC2\xA9 \xC3\xA2\xE2\x80\xA0\xE2\x80\x99 ol\xC3\x83\xC2\xA9 "
         "\xC3\xA2\xE2\x80\xA0\xE2\x80\x99)\n";
-    EXPECT_EQ(reportOf("(doc\n(r\n" + cell + cell + "r)\ndoc)\n"),
+    EXPECT_EQ(reportOf("(doc\n(r\n" + cell + cell + "r)\ndoc)\n", {}, EncodingChoice::Windows1252),
               "a.rtfspec:5:8: warning: \xC3\xA9 will appear as \xC3\x83\xC2\xA9, because the file "
               "is in UTF-8. "
               "Other characters are affected too. [utf-8-text]\n" +
@@ -401,14 +403,16 @@ TEST(ReportsOfCharacters, ReportTheFirstThatIsMisread) {
                   "              ^~~\n"
                   "    hint: write {\\uc1\\u8594?}\n");
     const std::string names = "\xC3\xA9, caf\xC3\xA9";
-    EXPECT_EQ(reportOfFile("a.rtfss", "{ name: normal; style-def: s }\n{ name: " + names +
-                                          "; style-def: cs }\n"),
-              "a.rtfss:2:9: warning: \xC3\xA9 will appear as \xC3\x83\xC2\xA9, because the file is "
-              "in UTF-8. "
-              "Other characters are affected too. [utf-8-text]\n"
-              "    { name: \xC3\x83\xC2\xA9, caf\xC3\x83\xC2\xA9; style-def: cs }\n"
-              "            ^~\n"
-              "    hint: save the file in Windows-1252\n");
+    EXPECT_EQ(
+        reportOfFile("a.rtfss",
+                     "{ name: normal; style-def: s }\n{ name: " + names + "; style-def: cs }\n",
+                     EncodingChoice::Windows1252),
+        "a.rtfss:2:9: warning: \xC3\xA9 will appear as \xC3\x83\xC2\xA9, because the file is "
+        "in UTF-8. "
+        "Other characters are affected too. [utf-8-text]\n"
+        "    { name: \xC3\x83\xC2\xA9, caf\xC3\x83\xC2\xA9; style-def: cs }\n"
+        "            ^~\n"
+        "    hint: save the file in Windows-1252\n");
 }
 
 TEST(ReportsOfNames, ReportADescriptionThatIsNotOne) {
@@ -464,8 +468,8 @@ TEST(ReportsOfStyleSheets, ReportKeywordsWithoutBraces) {
 TEST(ReportsOfStyleSheets, NameUtf16) {
     const std::string sheet("\xFF\xFE{\0n\0}\0", 8);
     EXPECT_EQ(reportOfFile("a.rtfss", sheet),
-              "a.rtfss:1:1: error: This is text in UTF-16, not in Windows-1252. "
-              "[not-a-text-file]\n    hint: save it in Windows-1252\n");
+              "a.rtfss:1:1: error: This is text in UTF-16, not in UTF-8 or Windows-1252. "
+              "[not-a-text-file]\n    hint: save it in UTF-8\n");
 }
 
 TEST(ReportsOfKeys, SayWhatWasMeantByOtherWordsAndWhatANumberWithAUnitIs) {
@@ -889,6 +893,13 @@ const std::map<std::string, std::pair<std::string, std::string>>& reportsWithout
         list["not-a-text-file"] = {
             reportOfFile("a.rtfspec", "%PDF-1.7\n%\xE2\xE3\n1 0 obj\n"),
             "a.rtfspec:1:1: error: This is a PDF file, not a text file. [not-a-text-file]\n"};
+        list["not-utf-8"] = {
+            reportOfFile("a.rtfspec", "(doc\n; \u0159\xE9\ndoc)\n", EncodingChoice::Utf8),
+            "a.rtfspec:2:4: error: The byte E9 in column 4 is not UTF-8. [not-utf-8]\n"
+            "    ; \u0159\uFFFD\n"
+            "       ^\n"
+            "    hint: save the file in UTF-8, or use --encoding windows-1252 if it is in "
+            "Windows-1252\n"};
         list["wrong-extension"] = {
             reportOfFile("a.rtf", "(doc\n(r\n(c\nc)\nr)\ndoc)\n"),
             "a.rtf:1:1: warning: This is a description, but its extension is .rtf. "

@@ -182,12 +182,18 @@ TEST(LineChanges, OfLongListsThatDifferEverywhereLeadFromOneToTheOther) {
 TEST(DiffForTerminal, IsInUtf8AndInColors) {
     const std::string diff = unifiedDiff("caf\xC3\xA9", "x\n\xE9\x1b\n", "x\n\x80\n");
     EXPECT_EQ(
-        diffForTerminal(diff, Colors::Off),
+        diffForTerminal(diff, TextEncoding::Windows1252, Colors::Off),
         "--- a/caf\xC3\xA9\n+++ b/caf\xC3\xA9\n@@ -1,2 +1,2 @@\n x\n-\xC3\xA9 \n+\xE2\x82\xAC\n");
-    EXPECT_EQ(diffForTerminal(diff, Colors::On),
+    EXPECT_EQ(diffForTerminal(diff, TextEncoding::Windows1252, Colors::On),
               "\x1b[1m--- a/caf\xC3\xA9\x1b[0m\n\x1b[1m+++ b/caf\xC3\xA9\x1b[0m\n"
               "\x1b[36m@@ -1,2 +1,2 @@\x1b[0m\n x\n\x1b[31m-\xC3\xA9 \x1b[0m\n"
               "\x1b[32m+\xE2\x82\xAC\x1b[0m\n");
+}
+
+TEST(DiffForTerminal, ShowsTextsInUtf8AsTheyAre) {
+    const std::string diff = unifiedDiff("a", "x\n\u0159\n", "x\n\U0001F600\n");
+    EXPECT_EQ(diffForTerminal(diff, TextEncoding::Utf8, Colors::Off),
+              "--- a/a\n+++ b/a\n@@ -1,2 +1,2 @@\n x\n-\u0159\n+\U0001F600\n");
 }
 
 }  // namespace

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "quorvane/base/text/codePage1252.h"
+#include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/diagnostics/description/DescriptionCheck.h"
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
 #include "quorvane/diagnostics/languageOf.h"
@@ -35,22 +35,23 @@ std::vector<std::string> identifiers(const std::vector<Diagnostic>& diagnostics)
 }
 
 /// The diagnostics about an example, together with its companion. Examples are files: their bytes
-/// are read in Windows-1252.
+/// are read in the encoding of the rule.
 std::vector<std::string> diagnosticsOf(std::string_view example, const DiagnosticRule& rule) {
     const std::string text = expandedExample(example);
     const std::string companion(rule.companion);
     switch (rule.language) {
         case CheckedLanguage::Description: {
-            KnownStyles styles(utf8FromCodePage1252(companion));
-            return identifiers(checkDescription(utf8FromCodePage1252(text),
-                                                companion.empty() ? nullptr : &styles));
+            KnownStyles styles(decodedText(companion, rule.encoding), rule.encoding);
+            return identifiers(checkDescription(decodedText(text, rule.encoding),
+                                                companion.empty() ? nullptr : &styles,
+                                                rule.encoding));
         }
         case CheckedLanguage::StyleSheet: {
-            KnownStyles styles(utf8FromCodePage1252(text));
+            KnownStyles styles(decodedText(text, rule.encoding), rule.encoding);
             std::vector<std::string> names =
-                identifiers(checkStyleSheet(utf8FromCodePage1252(text)));
+                identifiers(checkStyleSheet(decodedText(text, rule.encoding), rule.encoding));
             if (!companion.empty()) {
-                checkDescription(utf8FromCodePage1252(companion), &styles);
+                checkDescription(decodedText(companion, rule.encoding), &styles, rule.encoding);
                 const std::vector<std::string> unused = identifiers(findUnusedStyles(styles));
                 names.insert(names.end(), unused.begin(), unused.end());
             }
@@ -103,8 +104,8 @@ TEST(ExamplesOfTheTable, AreThereForAllButWhatFewLinesCannotShow) {
             without.emplace_back(rule.identifier);
         }
     }
-    EXPECT_THAT(without, testing::ElementsAre("not-a-text-file", "wrong-extension", "rejected",
-                                              "stylesheet-rejected", "bad-character"));
+    EXPECT_THAT(without, testing::ElementsAre("not-a-text-file", "not-utf-8", "wrong-extension",
+                                              "rejected", "stylesheet-rejected", "bad-character"));
 }
 
 }  // namespace

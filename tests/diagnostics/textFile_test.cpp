@@ -44,7 +44,7 @@ TEST(TextFile, IsNoneWithZerosBeforeAnyLanguage) {
 TEST(TextFile, IsToBeSavedAnewInUtf16) {
     const std::string doc("(\0d\0o\0c\0\n\0", 10);
     const std::string message =
-        "This is text in UTF-16, not in Windows-1252. save it in Windows-1252";
+        "This is text in UTF-16, not in UTF-8 or Windows-1252. save it in UTF-8";
     EXPECT_EQ(foundIn(doc), message);
     EXPECT_EQ(foundIn("\xFF\xFE" + doc), message);
     EXPECT_EQ(foundIn("\xFE\xFF" + std::string("\0(\0d\0o\0c", 8)), message);
@@ -63,6 +63,24 @@ TEST(TextFile, IsAnyOther) {
          {"", "Dear Sir,\n", "MZ is no program", "PK", "%PDF", "caf\xE9", "\xEF\xBB\xBF(doc\n"}) {
         EXPECT_EQ(foundIn(text), "") << text;
     }
+}
+
+TEST(TextFile, HasBytesOfItsEncodingOnly) {
+    const std::string bytes =
+        "\xEF\xBB\xBF"
+        "a\n\u0159\xE9(";
+    const std::optional<Diagnostic> found = findUnreadableText(bytes, TextEncoding::Utf8WithMark);
+    ASSERT_TRUE(found);
+    EXPECT_EQ(found->id, DiagnosticId::NotUtf8);
+    EXPECT_EQ(found->message, "The byte E9 in column 2 is not UTF-8.");
+    EXPECT_EQ(found->place.line, 2);
+    EXPECT_EQ(found->place.column, 2);
+    EXPECT_EQ(found->place.bytes.offset, 7);
+    EXPECT_EQ(found->place.bytes.length, 1);
+    EXPECT_FALSE(findUnreadableText(bytes, TextEncoding::Windows1252));
+    EXPECT_FALSE(findUnreadableText("\u0159", TextEncoding::Utf8));
+    EXPECT_EQ(findUnreadableText("%PDF-1.7\n\xE9", TextEncoding::Utf8)->id,
+              DiagnosticId::NotATextFile);
 }
 
 }  // namespace

@@ -136,7 +136,7 @@ int rendered(const cli::RenderOptions& options, const cli::ErrorSink& report) {
         require((status == 0) == lines.empty(), "a run fails when it reports something");
         return status;
     };
-    if (!plain::Rendering::covers(options)) {
+    if (!plain::Rendering::covers(options, inputs)) {
         return run();
     }
     const plain::Rendering expected(options, inputs);
@@ -162,7 +162,7 @@ int rendered(const cli::RenderOptions& options, const cli::ErrorSink& report) {
 int checked(const cli::CheckOptions& options, const cli::DiagnosticSink& find,
             const cli::ErrorSink& report, std::string& text) {
     const plain::Files before = filesThere();
-    const auto write = [&text](std::string_view bytes) { text += bytes; };
+    const auto write = [&text](std::string_view bytes, TextEncoding) { text += bytes; };
     const auto status =
         static_cast<int>(cli::CheckJob(options, find, report, systemPlatform(), write).run());
     const plain::Files after = filesThere();
@@ -250,7 +250,7 @@ std::string outcome(const std::vector<std::string>& arguments) {
             };
             status = checked(*check, find, report, text);
         } else if (const auto* format = std::get_if<cli::FormatOptions>(&request)) {
-            const auto write = [&text](const std::string& output) { text += output; };
+            const auto write = [&text](const std::string& output, TextEncoding) { text += output; };
             status = static_cast<int>(cli::FormatJob(*format, write, report).run());
         } else {
             status = rendered(std::get<cli::RenderOptions>(request), report);

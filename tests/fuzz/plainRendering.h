@@ -10,6 +10,7 @@
 
 #include "cli/RenderOptions.h"
 #include "cli/sourceFile.h"
+#include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/base/text/codePage1252.h"
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/diagnostics/KnownStyles.h"
@@ -20,6 +21,7 @@
 #include "quorvane/diagnostics/stylesheet/StyleSheetCheck.h"
 #include "quorvane/diagnostics/textFile.h"
 #include "quorvane/docmodel/CRtfDoc.h"
+#include "quorvane/rtf/unicodeWords.h"
 #include "tests/fuzz/documentChecks.h"
 #include "tests/fuzz/plainAnalysis.h"
 
@@ -54,8 +56,9 @@ public:
         }
     }
 
-    /// Whether a run is one of those that are modeled here.
-    static bool covers(const cli::RenderOptions& options) {
+    /// Whether a run is one of those that are modeled here. In files in UTF-8 they have the
+    /// characters of Windows-1252 only.
+    static bool covers(const cli::RenderOptions& options, const Files& inputs) {
         static const std::set<std::string> descriptions = {"a.rtfspec", "b.rtfspec"};
         static const std::set<std::string> outputs = {"a.rtf",     "b.rtf",      "c.rtf",
                                                       "out/c.rtf", "a.rtfspec",  "b.rtfspec",
@@ -64,7 +67,12 @@ public:
                            [](const auto& name) { return descriptions.contains(name); }) &&
                options.styleSheet.value_or("style.rtfss") == "style.rtfss" &&
                (!options.output || outputs.contains(*options.output)) &&
-               options.outputFolder.value_or("out") == "out";
+               options.outputFolder.value_or("out") == "out" &&
+               std::all_of(inputs.begin(), inputs.end(), [&](const auto& input) {
+                   const TextEncoding encoding = encodingOf(input.second, options.encoding);
+                   return !isUtf8(encoding) ||
+                          !findBeyondCodePage1252(decodedText(input.second, encoding));
+               });
     }
 
     /// The command does not begin: nothing is reported about any file, and none is changed.
@@ -129,6 +137,16 @@ private:
         return {5, text, "", static_cast<int>(first.place.line)};
     }
 
+    TextEncoding encodingOfFile(const std::string& name, const Files& inputs) const {
+        return encodingOf(inputs.at(name), options_.encoding);
+    }
+
+    /// The text of a file as the library gets it: a stylesheet in UTF-8 by way of Windows-1252.
+    std::string textOf(const std::string& name, const Files& inputs) const {
+        return utf8FromCodePage1252(
+            codePage1252FromUtf8(decodedText(inputs.at(name), encodingOfFile(name, inputs))));
+    }
+
     bool isChecked() const { return options_.check || options_.failOn == cli::FailOn::Warning; }
 
     /// Whether the check lets the stylesheet pass, which it is asked once.
@@ -136,17 +154,18 @@ private:
         if (!options_.styleSheet) {
             return true;
         }
-        if (const auto binary = findNotATextFile(inputs.at("style.rtfss"))) {
-            report("style.rtfss", lineFor({*binary}), 1);
+        const TextEncoding encoding = encodingOfFile("style.rtfss", inputs);
+        if (const auto unreadable = findUnreadableText(inputs.at("style.rtfss"), encoding)) {
+            report("style.rtfss", lineFor({*unreadable}), 1);
             return false;
         }
         if (!isChecked()) {
             return true;
         }
-        const std::string sheet = utf8FromCodePage1252(inputs.at("style.rtfss"));
+        const std::string sheet = textOf("style.rtfss", inputs);
         const std::string before = reported;
         refuse("style.rtfss",
-               withoutIgnored(checkStyleSheet(sheet), sheet, CheckedLanguage::StyleSheet),
+               withoutIgnored(checkStyleSheet(sheet, encoding), sheet, CheckedLanguage::StyleSheet),
                !StyleSheet(sheet).isLoaded());
         return reported == before;
     }
@@ -161,7 +180,7 @@ private:
         StyleSheet styles;
         bool isWell = passesStyleSheet_;
         if (options_.styleSheet) {
-            const std::string sheet = utf8FromCodePage1252(inputs.at("style.rtfss"));
+            const std::string sheet = textOf("style.rtfss", inputs);
             styles = StyleSheet(sheet);
             errorOfCall([&] { original->LoadStyleSheetFromMemmory(sheet); });
             if (!styles.isLoaded()) {
@@ -171,8 +190,13 @@ private:
                 isWell = false;
             }
         }
-        Analysis analysis(utf8FromCodePage1252(inputs.at(description)), options_.check, *original,
-                          styles);
+        const TextEncoding encoding = encodingOfFile(description, inputs);
+        const auto unreadable = findUnreadableText(inputs.at(description), encoding);
+        if (unreadable && unreadable->id == DiagnosticId::NotUtf8) {
+            report(description, lineFor({*unreadable}), 1);
+            return;
+        }
+        Analysis analysis(textOf(description, inputs), options_.check, *original, styles);
         for (const ErrorFacts& error : analysis.errors) {
             report(description, error, 1);
             isWell = false;
@@ -197,15 +221,16 @@ private:
     void check(const std::string& description, const Files& inputs, bool hasErrors) {
         std::optional<KnownStyles> known;
         if (options_.styleSheet) {
-            known.emplace(utf8FromCodePage1252(inputs.at("style.rtfss")));
+            known.emplace(textOf("style.rtfss", inputs));
             if (!openingOfDescription(known->text()).empty()) {
                 known.reset();
             }
         }
-        const std::string text = utf8FromCodePage1252(inputs.at(description));
+        const std::string text = textOf(description, inputs);
         refuse(description,
-               withoutIgnored(checkDescription(text, known ? &*known : nullptr), text,
-                              CheckedLanguage::Description),
+               withoutIgnored(checkDescription(text, known ? &*known : nullptr,
+                                               encodingOfFile(description, inputs)),
+                              text, CheckedLanguage::Description),
                hasErrors);
     }
 

@@ -127,16 +127,17 @@ private:
     const SourceText& source_;
     KnownStyles* styles_;
     DiagnosticEngine& engine_;
-    const Dialect& dialect_ = originalDialect();
+    const Dialect& dialect_ = isUtf8(source_.encoding()) ? unicodeDialect() : originalDialect();
     DescriptionFrame frame_;
     CheckRecovery recovery_{source_, dialect_, engine_};
 };
 
 }  // namespace
 
-std::vector<Diagnostic> checkDescription(std::string_view text, KnownStyles* styles) {
+std::vector<Diagnostic> checkDescription(std::string_view text, KnownStyles* styles,
+                                         TextEncoding encoding) {
     std::vector<Diagnostic> diagnostics;
-    const SourceText source(text);
+    const SourceText source(text, encoding);
     DiagnosticEngine engine(
         [&](Diagnostic diagnostic) { diagnostics.push_back(std::move(diagnostic)); });
     DescriptionCheck(source, styles, engine).run();

@@ -7,7 +7,7 @@
 
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/diagnostics/engine/nearestWord.h"
-#include "quorvane/diagnostics/text/InlineTokens.h"
+#include "quorvane/docmodel/inline/InlineTokens.h"
 #include "quorvane/stylesheet/StyleList.h"
 
 namespace quorvane {

@@ -62,6 +62,7 @@ constexpr std::pair<DriverFault, DiagnosticId> diagnosticsOfFaults[] = {
     {DriverFault::NotANumber, DiagnosticId::NotANumber},
     {DriverFault::Overflow, DiagnosticId::Overflow},
     {DriverFault::TakenKey, DiagnosticId::TakenKey},
+    {DriverFault::Unencodable, DiagnosticId::UnencodableValue},
 };
 
 /// `noun` says what the names are names of.
@@ -160,6 +161,10 @@ Hint ViolationReport::hintFor(const Violation& violation) const {
             return numberHint(leaf.key.name, leaf.text);
         case DiagnosticId::TakenKey:
             return takenKeyHint(violation);
+        case DiagnosticId::UnencodableValue:
+            return leaf.key.known == DescriptionKey::ParaText
+                       ? "this is the name of an inline style; write \\'3c for a literal <"
+                       : "";
         default:
             return {};
     }

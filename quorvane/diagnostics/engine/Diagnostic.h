@@ -14,21 +14,35 @@ namespace quorvane {
 /// of; a warning is what is accepted but does not do what its author wants.
 enum class Severity { Error, Warning };
 
-/// Where something stands in a text. Lines and columns begin with 1 and count characters; in a file
-/// in Windows-1252 or RTF a character is a byte, and the offset is the byte offset.
+/// Where something stands in a text. Lines and columns begin with 1 and count characters.
 struct Place {
+    /// Column, length and offset in bytes of the file. In a file in Windows-1252 or RTF a character
+    /// is a byte, so that they are the same. The byte order mark of a file in UTF-8 belongs to the
+    /// offset only.
+    struct Bytes {
+        std::int64_t column = 1;
+        std::int64_t length = 0;
+        std::int64_t offset = 0;
+    };
+
     std::int64_t line = 1;
     std::int64_t column = 1;
     /// Characters from the column on, on the same line; 0 for a place between two.
     std::int64_t length = 0;
     /// Characters before it, from the beginning of the text.
     std::int64_t offset = 0;
+    Bytes bytes{};
 };
+
+/// The place in a file where each character is a byte.
+inline Place placeInBytes(std::int64_t line, const Place::Bytes& bytes) {
+    return {line, bytes.column, bytes.length, bytes.offset, bytes};
+}
 
 /// A replacement that certainly does what the author meant: a word spelled right, a brace escaped,
 /// a unit converted.
 struct Fix {
-    /// What is replaced. In a file in Windows-1252 its offset and length are bytes of the file.
+    /// What is replaced.
     Place place;
     /// UTF-8, without line breaks; it is written in the encoding of the file.
     std::string replacement;

@@ -7,6 +7,7 @@ namespace quorvane {
 enum class DiagnosticId {
     // fileDiagnostics.h
     NotATextFile,
+    NotUtf8,
     WrongExtension,
 
     // descriptionErrors.h
@@ -30,6 +31,7 @@ enum class DiagnosticId {
     NotANumber,
     Overflow,
     TakenKey,
+    UnencodableValue,
     Rejected,
 
     // nodeWarnings.h
@@ -84,6 +86,7 @@ enum class DiagnosticId {
     BadKeyword,
     BadStyleKind,
     BadAdditive,
+    UnencodableStyle,
     StyleSheetRejected,
     DescriptionAsStyleSheet,
     NoStyles,

@@ -10,9 +10,16 @@ namespace {
 
 constexpr std::size_t bytesPerMark = 256;
 
+/// The extent of a part of a line, in the unit in which the positions are given.
+Place::Bytes extentOf(std::size_t lineStart, std::size_t start, std::size_t end) {
+    return {static_cast<std::int64_t>(start - lineStart) + 1,
+            static_cast<std::int64_t>(end - start), static_cast<std::int64_t>(start)};
+}
+
 }  // namespace
 
-SourceText::SourceText(std::string_view text) : text_(text) {
+SourceText::SourceText(std::string_view text, TextEncoding encoding)
+    : text_(text), encoding_(encoding) {
     std::size_t start = 0;
     for (std::size_t at = text.find_first_of("\r\n"); at != std::string_view::npos;
          at = text.find_first_of("\r\n", start)) {
@@ -49,10 +56,15 @@ Place SourceText::place(std::size_t from, std::size_t to) const {
     const Line& line = *(after - 1);
     const std::size_t start = std::min(from, line.end);
     const std::size_t end = std::clamp(to, start, line.end);
-    const auto offset = static_cast<std::int64_t>(charactersBefore(start));
-    return {after - lines_.begin(),
-            offset - static_cast<std::int64_t>(charactersBefore(line.start)) + 1,
-            static_cast<std::int64_t>(charactersBefore(end)) - offset, offset};
+    const std::int64_t number = after - lines_.begin();
+    const Place::Bytes characters =
+        extentOf(charactersBefore(line.start), charactersBefore(start), charactersBefore(end));
+    Place place = placeInBytes(number, characters);
+    if (isUtf8(encoding_)) {
+        place.bytes = extentOf(line.start, start, end);
+        place.bytes.offset += static_cast<std::int64_t>(bytesBeforeText(encoding_));
+    }
+    return place;
 }
 
 }  // namespace quorvane

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/diagnostics/engine/Diagnostic.h"
 
 namespace quorvane {
@@ -18,9 +19,11 @@ public:
         std::size_t end;
     };
 
-    explicit SourceText(std::string_view text);
+    /// `encoding` is that of the file that the text was read from.
+    explicit SourceText(std::string_view text, TextEncoding encoding = TextEncoding::Windows1252);
 
     std::string_view text() const { return text_; }
+    TextEncoding encoding() const { return encoding_; }
     const std::vector<Line>& lines() const { return lines_; }
 
     /// The place of the bytes from `from` to before `to`, as far as they stand on the line of
@@ -43,6 +46,7 @@ private:
     std::size_t charactersBefore(std::size_t position) const;
 
     std::string_view text_;
+    TextEncoding encoding_;
     std::vector<Line> lines_;
     // One every so many bytes; none where all characters are one byte.
     std::vector<Mark> marks_;

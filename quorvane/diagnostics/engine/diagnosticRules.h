@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/diagnostics/engine/Diagnostic.h"
 
 namespace quorvane {
@@ -31,6 +32,8 @@ struct DiagnosticRule {
     /// What the examples are checked together with: a stylesheet for a description, a description
     /// for a stylesheet; empty for none.
     std::string_view companion{};
+    /// The encoding of the examples, as files.
+    TextEncoding encoding = TextEncoding::Windows1252;
     /// The text breaks the document that it is written into: readers refuse it or lose a part.
     bool corruptsDocument = false;
 };

@@ -32,13 +32,13 @@ std::vector<Diagnostic> fixableTogether(const std::vector<Diagnostic>& diagnosti
     std::copy_if(diagnostics.begin(), diagnostics.end(), std::back_inserter(fixable),
                  [](const Diagnostic& diagnostic) { return diagnostic.fix.has_value(); });
     std::stable_sort(fixable.begin(), fixable.end(), [](const Diagnostic& a, const Diagnostic& b) {
-        return a.fix->place.offset < b.fix->place.offset;
+        return a.fix->place.bytes.offset < b.fix->place.bytes.offset;
     });
     std::vector<Diagnostic> chosen;
     std::int64_t start = -1;
     std::int64_t end = 0;
     for (Diagnostic& diagnostic : fixable) {
-        const Place& place = diagnostic.fix->place;
+        const Place::Bytes& place = diagnostic.fix->place.bytes;
         const std::int64_t placeEnd = place.offset + place.length;
         if (place.offset >= end && place.offset > start &&
             placeEnd <= static_cast<std::int64_t>(textLength)) {
@@ -51,21 +51,27 @@ std::vector<Diagnostic> fixableTogether(const std::vector<Diagnostic>& diagnosti
     return chosen;
 }
 
-std::string withFixes(std::string_view bytes, const std::vector<Diagnostic>& diagnostics) {
+std::string withFixes(std::string_view bytes, TextEncoding encoding,
+                      const std::vector<Diagnostic>& diagnostics) {
     std::string fixed;
     std::size_t at = 0;
     for (const Diagnostic& diagnostic : diagnostics) {
-        const auto offset = static_cast<std::size_t>(diagnostic.fix->place.offset);
+        const Place::Bytes& place = diagnostic.fix->place.bytes;
+        const auto offset = static_cast<std::size_t>(place.offset);
         fixed += bytes.substr(at, offset - at);
-        appendCodePage1252(diagnostic.fix->replacement, fixed);
-        at = offset + static_cast<std::size_t>(diagnostic.fix->place.length);
+        if (isUtf8(encoding)) {
+            fixed += diagnostic.fix->replacement;
+        } else {
+            appendCodePage1252(diagnostic.fix->replacement, fixed);
+        }
+        at = offset + static_cast<std::size_t>(place.length);
     }
     return fixed.append(bytes.substr(at));
 }
 
 }  // namespace
 
-FixedText fixText(std::string_view bytes, const TextCheck& check) {
+FixedText fixText(std::string_view bytes, const TextCheck& check, TextEncoding encoding) {
     FixedText result;
     result.bytes = bytes;
     result.remaining = check(bytes);
@@ -73,7 +79,7 @@ FixedText fixText(std::string_view bytes, const TextCheck& check) {
     std::unordered_map<std::string, std::size_t> seen{{result.bytes, 0}};
     while (result.rounds.size() < maxRounds(bytes.size())) {
         std::vector<Diagnostic> chosen = fixableTogether(result.remaining, result.bytes.size());
-        std::string next = withFixes(result.bytes, chosen);
+        std::string next = withFixes(result.bytes, encoding, chosen);
         const auto [known, isNew] = seen.emplace(next, result.rounds.size() + 1);
         if (!isNew) {
             if (next != result.bytes) {

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/diagnostics/engine/Diagnostic.h"
 
 namespace quorvane {
@@ -31,9 +32,10 @@ struct FixedText {
     bool wasRefused = false;
 };
 
-/// Makes the fixes of a file in Windows-1252 and checks it again, round after round, until nothing
+/// Makes the fixes of a file in its encoding and checks it again, round after round, until nothing
 /// more can be fixed. Bytes that no fix replaces stay as they are. A round that would bring more
 /// errors than it removes is not made, and neither are fixes that undo each other.
-FixedText fixText(std::string_view bytes, const TextCheck& check);
+FixedText fixText(std::string_view bytes, const TextCheck& check,
+                  TextEncoding encoding = TextEncoding::Windows1252);
 
 }  // namespace quorvane

@@ -79,14 +79,10 @@ void RtfChecker::takeBeforeDocument(RtfLexer::Token token) {
         std::all_of(lexer_.text().begin(), lexer_.text().end(), isBlank)) {
         return;
     }
-    Place at = place(1);
-    if (token == RtfLexer::Token::Text) {
-        const auto blanks = std::find_if_not(lexer_.text().begin(), lexer_.text().end(), isBlank) -
-                            lexer_.text().begin();
-        at.column += blanks;
-        at.offset += blanks;
-    }
-    reportNotRtf(at);
+    const std::string_view text =
+        token == RtfLexer::Token::Text ? lexer_.text() : std::string_view();
+    const auto blanks = std::find_if_not(text.begin(), text.end(), isBlank) - text.begin();
+    reportNotRtf(place(1, blanks));
 }
 
 /// Looks for text after the document, which readers do not show.
@@ -96,17 +92,12 @@ void RtfChecker::takeAfterDocument(RtfLexer::Token token) {
     }
     const std::string_view text =
         token == RtfLexer::Token::Text ? lexer_.text() : std::string_view();
-    Place at = place(1);
-    if (!text.empty()) {
-        const auto padding = std::find_if_not(text.begin(), text.end(), isPadding) - text.begin();
-        if (padding == std::ssize(text)) {
-            return;
-        }
-        at.column += padding;
-        at.offset += padding;
+    const auto padding = std::find_if_not(text.begin(), text.end(), isPadding) - text.begin();
+    if (!text.empty() && padding == std::ssize(text)) {
+        return;
     }
     if (!std::exchange(hasMore_, true)) {
-        moreBegin_ = at;
+        moreBegin_ = place(1, padding);
     }
     followAfterDocument(token);
     if (hasLostText_) {
@@ -168,7 +159,7 @@ void RtfChecker::finish() {
     }
     if (groups_.empty()) {
         const RtfLexer::Position end = lexer_.here();
-        reportNotRtf({end.line, end.offset - end.lineBegin + 1, 0, end.offset});
+        reportNotRtf(placeInBytes(end.line, {end.offset - end.lineBegin + 1, 0, end.offset}));
     } else {
         engine_.report(DiagnosticId::UnclosedGroup, groups_.back().begin, {},
                        groups_.size() > 1 ? std::string() : tables_.unclosedGroupHint());
@@ -176,9 +167,10 @@ void RtfChecker::finish() {
     }
 }
 
-Place RtfChecker::place(std::int64_t length) const {
+Place RtfChecker::place(std::int64_t length, std::int64_t skipped) const {
     const RtfLexer::Position& begin = lexer_.begin();
-    return {begin.line, begin.offset - begin.lineBegin + 1, length, begin.offset};
+    const std::int64_t offset = begin.offset + skipped;
+    return placeInBytes(begin.line, {offset - begin.lineBegin + 1, length, offset});
 }
 
 Place RtfChecker::controlPlace() const {

@@ -56,7 +56,8 @@ private:
     void openGroup();
     void closeGroup();
     void reportNotRtf(const Place& place);
-    Place place(std::int64_t length) const;
+    /// The place so many bytes after the beginning of the token.
+    Place place(std::int64_t length, std::int64_t skipped = 0) const;
     Place controlPlace() const;
     void takeRole(const RtfWord& word);
     bool isNewWord(std::string_view word);

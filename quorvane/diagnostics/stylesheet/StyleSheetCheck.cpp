@@ -25,6 +25,7 @@
 #include "quorvane/diagnostics/stylesheet/styleSheetHints.h"
 #include "quorvane/diagnostics/text/mojibake.h"
 #include "quorvane/diagnostics/text/rtfText.h"
+#include "quorvane/rtf/unicodeWords.h"
 #include "quorvane/rtfgroups/CRtfGrpColorTable.h"
 #include "quorvane/stylesheet/stylesheetParser.h"
 
@@ -67,6 +68,7 @@ public:
         findBraces();
         for (const OutlinedDefinition& definition : outline_.definitions) {
             findErrors(definition);
+            findUnencodable(definition);
             findWarnings(definition);
         }
         for (const OutlinedDefinition& definition : outline_.definitions) {
@@ -138,6 +140,18 @@ private:
                    styleKeywordHint(item.keyword));
         } else if (fault) {
             report(diagnosticOf(*fault), item.value, {value}, styleValueHint(item));
+        }
+    }
+
+    /// In a file in Windows-1252 there is no such character.
+    void findUnencodable(const OutlinedDefinition& definition) {
+        if (!isUtf8(source_.encoding())) {
+            return;
+        }
+        for (const StyleItem& item : definition.items) {
+            if (const auto character = findBeyondCodePage1252(item.whole)) {
+                report(DiagnosticId::UnencodableStyle, *character, {*character});
+            }
         }
     }
 
@@ -247,7 +261,7 @@ void reportUtf16(std::string_view text, DiagnosticEngine& engine) {
 
 }  // namespace
 
-std::vector<Diagnostic> checkStyleSheet(std::string_view text) {
+std::vector<Diagnostic> checkStyleSheet(std::string_view text, TextEncoding encoding) {
     std::vector<Diagnostic> diagnostics;
     DiagnosticEngine engine(
         [&](Diagnostic diagnostic) { diagnostics.push_back(std::move(diagnostic)); });
@@ -255,7 +269,7 @@ std::vector<Diagnostic> checkStyleSheet(std::string_view text) {
         reportUtf16(text, engine);
         return diagnostics;
     }
-    const SourceText source(text);
+    const SourceText source(text, encoding);
     if (isMarkedExtended(text)) {
         checkExtendedStyleSheet(source, engine);
     } else {

@@ -61,7 +61,7 @@ std::vector<Diagnostic> findUnusedStyles(const KnownStyles& styles) {
     std::vector<Diagnostic> diagnostics;
     DiagnosticEngine engine(
         [&](Diagnostic diagnostic) { diagnostics.push_back(std::move(diagnostic)); });
-    const SourceText source(styles.text());
+    const SourceText source(styles.text(), styles.encoding());
     const StyleSheetOutline outline = readStyleSheetOutline(styles.text());
     const UnusedStyles unused(styles, outline);
     for (const OutlinedDefinition& definition : outline.definitions) {

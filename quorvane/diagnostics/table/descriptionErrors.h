@@ -607,6 +607,42 @@ r)
 doc)
 )"},
 
+    {.id = DiagnosticId::UnencodableValue,
+     .identifier = "unencodable-value",
+     .severity = Severity::Error,
+     .language = CheckedLanguage::Description,
+     .message = driverErrorText(DriverFault::Unencodable),
+     .explanation = R"(
+Documents are written in Windows-1252. In a file in UTF-8, the text of a paragraph may have any
+characters, because RTF has control words for them. Names of styles, the data of marked fields and
+all other values may have those of Windows-1252 only.
+)",
+     .wrong = R"(
+(doc
+(r
+(c
+(p
+(pt=Dvořák)
+(para-style=tučné)
+p)
+c)
+r)
+doc)
+)",
+     .right = R"(
+(doc
+(r
+(c
+(p
+(pt=Dvořák)
+(para-style=normal)
+p)
+c)
+r)
+doc)
+)",
+     .encoding = TextEncoding::Utf8},
+
     {.id = DiagnosticId::Rejected,
      .identifier = "rejected",
      .severity = Severity::Error,

@@ -91,6 +91,25 @@ A style is a paragraph style (`s`), a character style (`cs`) or a cell style (`c
 { name: normal; style-def: s; additive: yes }
 )"},
 
+    {.id = DiagnosticId::UnencodableStyle,
+     .identifier = "unencodable-style",
+     .severity = Severity::Error,
+     .language = CheckedLanguage::StyleSheet,
+     .message = "{0} isn't in Windows-1252; the definition of a style can't hold it.",
+     .explanation = R"(
+Documents are written in Windows-1252. A stylesheet may be in UTF-8, but the names and formats of
+its styles may have the characters of Windows-1252 only. Outside the braces, where text has no
+meaning, any character may stand.
+)",
+     .wrong = R"(
+{ name: tučné; style-def: cs; format: \b }
+)",
+     .right = R"(
+Style pro tučné písmo:
+{ name: bold; style-def: cs; format: \b }
+)",
+     .encoding = TextEncoding::Utf8},
+
     {.id = DiagnosticId::StyleSheetRejected,
      .identifier = "stylesheet-rejected",
      .severity = Severity::Error,

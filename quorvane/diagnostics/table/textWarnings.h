@@ -478,10 +478,11 @@ doc)
      .language = CheckedLanguage::Description,
      .message = "{0} is not in Windows-1252; it will appear as {1}.",
      .explanation = R"(
-Documents are written in Windows-1252. A character outside of it becomes a question mark or, if the
-file is in UTF-8, two or more other characters; only the first of these is reported. In a text,
-write such a character as RTF does: `{\uc1\u8594?}` is an arrow, with a question mark for readers
-that do not know it. The data of a marked field and the names of styles cannot hold such characters.
+Documents are written in Windows-1252. If a file in UTF-8 is read in Windows-1252, a character
+outside of it becomes two or more others; only the first of these is reported. Read the file in
+UTF-8, as the command does unless it is told otherwise, or write such a character in a text as RTF
+does: `{\uc1\u8594?}` is an arrow, with a question mark for readers that do not know it. The data of
+a marked field and the names of styles cannot hold such characters.
 )",
      .wrong = R"(
 (doc
@@ -512,9 +513,10 @@ doc)
      .language = CheckedLanguage::Description,
      .message = "{0} will appear as {1}, because the file is in UTF-8.",
      .explanation = R"(
-Files are read in Windows-1252, one byte for each character. In a file in UTF-8, every character
-outside ASCII therefore becomes two or more; only the first is reported. Save the file in
-Windows-1252, or write characters as `\'e9`.
+The file is read in Windows-1252, one byte for each character, because of
+`--encoding windows-1252`, or because not all of it is in UTF-8. Every character outside ASCII that
+is in UTF-8 therefore becomes two or more; only the first is reported. Save the whole file in one
+encoding, or write characters as `\'e9`.
 )",
      .wrong = R"(
 (doc

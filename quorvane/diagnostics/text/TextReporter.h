@@ -16,6 +16,9 @@ public:
     TextReporter(const SourceText& source, DiagnosticEngine& engine)
         : source_(source), engine_(engine) {}
 
+    /// The encoding of the file that the text stands in.
+    TextEncoding encoding() const { return source_.encoding(); }
+
     void report(DiagnosticId id, std::string_view part,
                 std::initializer_list<std::string_view> arguments = {}, Hint hint = {});
 

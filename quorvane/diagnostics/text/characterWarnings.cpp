@@ -68,7 +68,7 @@ void findInOther(std::string_view character, char32_t code, TextUse use, TextRep
     const bool isControl = code < 0xA0 && code >= 0x80;
     if (isControl && use != TextUse::FieldData) {
         reporter.report(DiagnosticId::ControlCharacter, character, {numberedCharacter(code)});
-    } else if (codePage1252FromUtf8(character) == "?") {
+    } else if (!isUtf8(reporter.encoding()) && codePage1252FromUtf8(character) == "?") {
         reporter.report(DiagnosticId::UnencodableCharacter, character, {character, "?"},
                         unicodeHint(code, use));
     }
@@ -82,7 +82,9 @@ std::size_t findInCharacter(std::string_view text, std::size_t at, TextUse use,
         findInAscii(text.substr(at, 1), use, reporter);
         return 1;
     }
-    if (const auto meant = meantCharacterAt(text, at)) {
+    // In a file in UTF-8, characters are meant as they are.
+    const bool isMeant = isUtf8(reporter.encoding());
+    if (const auto meant = isMeant ? std::nullopt : meantCharacterAt(text, at)) {
         reportMojibake(*meant, text.substr(at, meant->length), use, reporter);
         return meant->length;
     }

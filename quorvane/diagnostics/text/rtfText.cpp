@@ -14,7 +14,6 @@
 #include "quorvane/base/text/utf8.h"
 #include "quorvane/diagnostics/text/FieldInstructions.h"
 #include "quorvane/diagnostics/text/FormatText.h"
-#include "quorvane/diagnostics/text/InlineTokens.h"
 #include "quorvane/diagnostics/text/NestedTables.h"
 #include "quorvane/diagnostics/text/TextGroup.h"
 #include "quorvane/diagnostics/text/TextReporter.h"
@@ -22,6 +21,7 @@
 #include "quorvane/diagnostics/text/controlWordHints.h"
 #include "quorvane/diagnostics/text/documentNumbers.h"
 #include "quorvane/diagnostics/text/embeddedContent.h"
+#include "quorvane/docmodel/inline/InlineTokens.h"
 #include "quorvane/rtf/RtfControl.h"
 #include "quorvane/rtf/RtfWord.h"
 

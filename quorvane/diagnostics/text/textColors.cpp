@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-#include "quorvane/diagnostics/text/InlineTokens.h"
+#include "quorvane/docmodel/inline/InlineTokens.h"
 #include "quorvane/rtf/RtfControl.h"
 #include "quorvane/rtf/RtfGroup.h"
 #include "quorvane/stylesheet/StyleList.h"

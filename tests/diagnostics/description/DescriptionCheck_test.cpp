@@ -222,6 +222,41 @@ TEST(DescriptionCheck, FindsTheCharactersThatTheCodePageCannotHold) {
     EXPECT_EQ(diagnostics[1].hint, "write {\\uc1\\u-10179?\\u-8704?}");
 }
 
+TEST(DescriptionCheck, TakesAnyCharacterInATextOfAFileInUtf8) {
+    EXPECT_TRUE(checkDescription(
+                    "(doc\n(r\n(c\n(p\n(pt=\u0159 \u00C3\u00A9 \U0001F600)\np)\nc)\nr)\ndoc)\n",
+                    nullptr, TextEncoding::Utf8)
+                    .empty());
+}
+
+TEST(DescriptionCheck, ReportsCharactersThatAValueOfAFileInUtf8CannotHold) {
+    const std::vector<Diagnostic> diagnostics = checkDescription(
+        "(doc\n(r\n(c\n(cmf=a\u00E9\u4E2D)\n(p\n(pt=a)\n(ps=\U0001F600)\np)\nc)\nr)\ndoc)\n",
+        nullptr, TextEncoding::Utf8);
+    ASSERT_EQ(diagnostics.size(), 2u);
+    EXPECT_EQ(diagnostics[0].id, DiagnosticId::UnencodableValue);
+    EXPECT_EQ(diagnostics[0].message,
+              "\u4E2D isn't in Windows-1252; only the text of a paragraph can hold it.");
+    EXPECT_EQ(diagnostics[0].place.line, 4);
+    EXPECT_EQ(diagnostics[0].place.column, 8);
+    EXPECT_EQ(diagnostics[0].place.length, 1);
+    EXPECT_EQ(diagnostics[0].place.bytes.column, 9);
+    EXPECT_EQ(diagnostics[0].place.bytes.length, 3);
+    EXPECT_EQ(diagnostics[1].id, DiagnosticId::UnencodableValue);
+    EXPECT_EQ(diagnostics[1].place.line, 7);
+}
+
+TEST(DescriptionCheck, ReportsCharactersThatTheNameOfAnInlineStyleCannotHold) {
+    const std::vector<Diagnostic> diagnostics = checkDescription(
+        "(doc\n(r\n(c\n(p\n(pt=\u0159 < \u4E2D = <a\u4E2D\u4E2D=\u0159>)\np)\nc)\nr)\ndoc)\n",
+        nullptr, TextEncoding::Utf8);
+    ASSERT_EQ(diagnostics.size(), 1u);
+    EXPECT_EQ(diagnostics[0].id, DiagnosticId::UnencodableValue);
+    EXPECT_EQ(diagnostics[0].place.column, 15);
+    EXPECT_EQ(diagnostics[0].hint,
+              "this is the name of an inline style; write \\'3c for a literal <");
+}
+
 TEST(DescriptionCheck, KnowsWhatATextBringsAlong) {
     const auto isEmbedding = [](const std::string& text) {
         for (const Diagnostic& diagnostic :

@@ -44,6 +44,31 @@ TEST(SourceText, CountsCharactersFarIntoALine) {
     expectPlace(source.place(1501, 1503), 1, 1002, 1, 1001);
 }
 
+void expectBytes(const Place& place, std::int64_t column, std::int64_t length,
+                 std::int64_t offset) {
+    EXPECT_EQ(place.bytes.column, column);
+    EXPECT_EQ(place.bytes.length, length);
+    EXPECT_EQ(place.bytes.offset, offset);
+}
+
+TEST(SourceText, KnowsTheBytesOfAFileInWindows1252) {
+    const SourceText source("\u00E9\n\u20ACab");
+    expectBytes(source.place(6, 7), 2, 1, 3);
+}
+
+TEST(SourceText, KnowsTheBytesOfAFileInUtf8) {
+    const SourceText source("\u00E9\n\u20AC\U0001F600b", TextEncoding::Utf8);
+    expectPlace(source.place(6, 10), 2, 2, 1, 3);
+    expectBytes(source.place(6, 10), 4, 4, 6);
+    expectBytes(source.place(10, 11), 8, 1, 10);
+}
+
+TEST(SourceText, CountsTheByteOrderMarkInOffsetsOnly) {
+    const SourceText source("\u00E9b", TextEncoding::Utf8WithMark);
+    expectPlace(source.place(2, 3), 1, 2, 1, 1);
+    expectBytes(source.place(2, 3), 3, 1, 5);
+}
+
 TEST(SourceText, KeepsAPlaceOnItsLine) {
     expectPlace(SourceText("ab\ncd").place(1, 5), 1, 2, 1, 1);
 }

@@ -12,6 +12,7 @@
 #include "quorvane/base/text/codePage1252.h"
 #include "quorvane/diagnostics/description/DescriptionCheck.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
+#include "quorvane/diagnostics/engine/SourceText.h"
 #include "quorvane/diagnostics/stylesheet/StyleSheetCheck.h"
 #include "tests/diagnostics/randomDescriptions.h"
 
@@ -125,7 +126,7 @@ Diagnostic fixable(std::int64_t offset, std::int64_t length, std::string replace
     Diagnostic diagnostic;
     diagnostic.id = DiagnosticId::EmptyText;
     diagnostic.severity = severity;
-    diagnostic.place = {1, offset + 1, length, offset};
+    diagnostic.place = placeInBytes(1, {offset + 1, length, offset});
     diagnostic.fix = Fix{diagnostic.place, std::move(replacement)};
     return diagnostic;
 }
@@ -155,6 +156,21 @@ TEST(FixText, WritesTheReplacementInTheEncodingOfTheFile) {
                             : std::vector<Diagnostic>();
     });
     EXPECT_EQ(fixed.bytes, "\xE9\x80");
+}
+
+TEST(FixText, ReplacesBytesOfAFileInUtf8) {
+    const std::string text = "\u0159\U0001F600(doc\n";
+    const auto check = [](std::string_view bytes) {
+        const std::size_t at = bytes.find("\U0001F600");
+        if (at == std::string_view::npos) {
+            return std::vector<Diagnostic>();
+        }
+        Diagnostic diagnostic = fixable(0, 0, "\u4E2D");
+        const SourceText source(bytes, TextEncoding::Utf8);
+        diagnostic.fix->place = source.placeOf(bytes.substr(at, 4));
+        return std::vector<Diagnostic>{diagnostic};
+    };
+    EXPECT_EQ(fixText(text, check, TextEncoding::Utf8).bytes, "\u0159\u4E2D(doc\n");
 }
 
 TEST(FixText, LeavesATextThatWouldHaveMoreErrors) {
@@ -267,13 +283,13 @@ protected:
     static void expectOnlyFixedRangesDiffer(const FixedText::Round& round, std::string after) {
         std::string before = round.bytes;
         for (auto found = round.fixed.rbegin(); found != round.fixed.rend(); ++found) {
-            const auto end =
-                static_cast<std::size_t>(found->fix->place.offset + found->fix->place.length);
+            const auto end = static_cast<std::size_t>(found->fix->place.bytes.offset +
+                                                      found->fix->place.bytes.length);
             const std::string tail =
                 codePage1252FromUtf8(found->fix->replacement) + before.substr(end);
             ASSERT_TRUE(after.ends_with(tail)) << round.bytes;
             after.resize(after.size() - tail.size());
-            before.resize(static_cast<std::size_t>(found->fix->place.offset));
+            before.resize(static_cast<std::size_t>(found->fix->place.bytes.offset));
         }
         ASSERT_EQ(before, after);
     }

@@ -51,6 +51,16 @@ TEST(RtfCheck, ReportsLineColumnAndByteOffset) {
     EXPECT_THAT(found(documentOf("a\r\nb\n\\cf7 x")), ElementsAre("4:1+4@73 unknown-color"));
 }
 
+TEST(RtfCheck, CountsBytesAsCharacters) {
+    const std::vector<Diagnostic> diagnostics = checkRtf("{\\rtf1 \xC3\xA9}\r\n \xC3 x");
+    ASSERT_EQ(diagnostics.size(), 1u);
+    const Place& place = diagnostics[0].place;
+    EXPECT_EQ(place.offset, 13);
+    EXPECT_EQ(place.bytes.offset, place.offset);
+    EXPECT_EQ(place.bytes.column, place.column);
+    EXPECT_EQ(place.bytes.length, place.length);
+}
+
 TEST(RtfCheck, FindsTheSameInPieces) {
     const std::string rtf =
         documentOf(

@@ -1,4 +1,4 @@
-#include "quorvane/diagnostics/text/InlineTokens.h"
+#include "quorvane/docmodel/inline/InlineTokens.h"
 
 #include "quorvane/docmodel/inline/inlineToken.h"
 
