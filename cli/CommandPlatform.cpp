@@ -5,13 +5,12 @@
 #include <system_error>
 #include <utility>
 
-#include "quorvane/base/text/extendedMark.h"
-
 #include "cli/RenderOptions.h"
 #include "cli/fileFailure.h"
 #include "cli/process.h"
 #include "cli/utf8Path.h"
 #include "quorvane/base/platform/fileReplacement.h"
+#include "quorvane/base/text/extendedMark.h"
 #include "quorvane/base/values/RtfError.h"
 
 namespace quorvane::cli {
