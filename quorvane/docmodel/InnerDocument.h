@@ -18,14 +18,14 @@
 #include "quorvane/rtfgroups/CRtfGrpDocumentFormat.h"
 #include "quorvane/rtfgroups/CRtfGrpFontTable.h"
 #include "quorvane/rtfgroups/CRtfGrpHeader.h"
-#include "quorvane/rtfgroups/NumberedTables.h"
+#include "quorvane/rtfgroups/DocumentTables.h"
 #include "quorvane/stylesheet/CRtfGrpStyleSheetTable.h"
 #include "quorvane/support/GError.h"
 
 namespace quorvane {
 
 /// What a document is inside.
-class InnerDocument final : public CRtfDoc, public TableDocument {
+class InnerDocument final : public CRtfDoc, public TableDocument, public DocumentTables {
 public:
     explicit InnerDocument(Platform& platform);
 
@@ -37,6 +37,8 @@ public:
     const PageAdditions& page() const noexcept;
     template <class Setting>
     void set(Setting PageAdditions::*setting, Setting value);
+    tColorIndex addColor(RgbColor color);
+    std::int32_t addFont(std::string_view name);
     // True when the document has a short text, and has it in memory.
     bool holdsShortText() const noexcept;
 
@@ -48,6 +50,8 @@ public:
     std::int32_t cellStyleColor(std::string_view sName) const override;
     SharedText sharedName(std::string_view sName) override;
     GError& errors() noexcept override { return errors_; }
+    std::int32_t colorNumber(const RgbColor& color) override { return addColor(color); }
+    std::int32_t fontNumber(const std::string& name) override { return addFont(name); }
 
 private:
     friend class CRtfDoc;
@@ -55,12 +59,13 @@ private:
     ~InnerDocument() override = default;
 
     void initAllGroups();
-    void checkAdditions();
+    bool hasLayout() const;
+    void checkLayout();
     bool refreshIfChanged(const char* procedure);
     void render();
     void renderInto(std::string& rtf);
     void render(TableRendering& rendering);
-    void renderWithAdditions(TableRendering& rendering);
+    void renderLayout(TableRendering& rendering);
     bool streams() const noexcept;
     std::optional<RtfError> stream(const std::string& path);
     void keepText() override;
@@ -77,8 +82,6 @@ private:
     CRtfGrpHeader header_;
     CRtfGrpFontTable fontTable_;
     CRtfGrpColorTable colorTable_;
-    // The colors and fonts that not every document has.
-    NumberedTables tables_;
     std::unique_ptr<CRtfGrpStyleSheetTable> styleSheet_;
     std::unique_ptr<CRtfGrpDocumentFormat> format_;
     CRtfGrpBody<InnerRows> body_;

@@ -163,7 +163,7 @@ std::string meaningOfExtended(std::string_view text) {
     for (const ExtendedStyle& style : readExtendedStyleSheet(text, report)) {
         meaning += definitionOf(style, tables).record + "\n";
     }
-    for (const std::string& font : tables.fonts()) {
+    for (const std::string& font : tables.fonts().entries()) {
         meaning += font + "\n";
     }
     return meaning;

@@ -6,7 +6,6 @@
 
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/wildcards.h"
-#include "quorvane/rtf/unicodeWords.h"
 
 namespace quorvane {
 
@@ -79,14 +78,13 @@ std::string_view CRtfGrpFontTable::fontKey(std::int32_t number) {
     return isThere ? fonts[number].key : std::string_view();
 }
 
-void CRtfGrpFontTable::render(TextOutput& rtf, std::span<const std::string> others) const {
+void CRtfGrpFontTable::render(TextOutput& rtf, std::span<const std::string> added) const {
     rtf << "\r\n{" << opening;
     for (const Font& font : fonts) {
         rtf << "\r\n" << font.entry;
     }
-    std::int32_t number = fontCount;
-    for (const std::string& name : others) {
-        rtf << "\r\n{\\f" << number++ << "\\fnil\\fcharset0 " << nameWithUnicodeWords(name) << ";}";
+    for (const std::string& entry : added) {
+        rtf << "\r\n" << entry;
     }
     rtf << "}";
 }

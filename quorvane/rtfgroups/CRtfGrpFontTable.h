@@ -32,8 +32,8 @@ public:
     /// Key of the font of that number; empty for a number that the table does not have.
     static std::string_view fontKey(std::int32_t number);
 
-    /// Writes the group's text, with the fonts of other names after those of the table.
-    void render(TextOutput& rtf, std::span<const std::string> others = {}) const;
+    /// Writes the group's text, with these entries after those of the table.
+    void render(TextOutput& rtf, std::span<const std::string> added = {}) const;
 };
 
 }  // namespace quorvane

@@ -109,8 +109,8 @@ TEST_F(ExtendedStyleSheet, AddsColorsAndFontsThatNotEveryDocumentHas) {
               "\\s100\\f18\\cf58\\cbpat58 ");
     EXPECT_EQ(paragraphWords("font: noto sans; color: #000000"), "\\s100\\f18\\cf3 ");
     EXPECT_EQ(paragraphWords("font: Trebuchet MS; color: #010203"), "\\s100\\f10\\cf59 ");
-    EXPECT_THAT(tables.fonts(), ElementsAre("Noto Sans"));
-    EXPECT_THAT(tables.colors(), ElementsAre(RgbColor{0x1F, 0x4E, 0x79}, RgbColor{1, 2, 3}));
+    EXPECT_THAT(tables.fonts().entries(), ElementsAre("{\\f18\\fnil\\fcharset0 Noto Sans;}"));
+    EXPECT_THAT(tables.colors().list(), ElementsAre(RgbColor{0x1F, 0x4E, 0x79}, RgbColor{1, 2, 3}));
 }
 
 TEST_F(ExtendedStyleSheet, InheritsFormatsFromStylesBeforeAndAfter) {
@@ -382,8 +382,8 @@ TEST_F(ExtendedStyleSheet, RaisesTheFirstViolationWithItsLine) {
 TEST_F(ExtendedStyleSheet, AddsNoColorOrFontOfASheetWithAViolation) {
     EXPECT_THROW(load("{ name: a; style-def: s; color: #123456; font: Noto; bald }"), RtfError);
 
-    EXPECT_THAT(tables.colors(), IsEmpty());
-    EXPECT_THAT(tables.fonts(), IsEmpty());
+    EXPECT_THAT(tables.colors().list(), IsEmpty());
+    EXPECT_THAT(tables.fonts().entries(), IsEmpty());
 }
 
 TEST_F(ExtendedStyleSheet, InheritsOverManySteps) {
