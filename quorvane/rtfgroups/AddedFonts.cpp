@@ -1,6 +1,7 @@
 #include "quorvane/rtfgroups/AddedFonts.h"
 
 #include <cstddef>
+#include <utility>
 
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/utf8.h"
@@ -18,7 +19,7 @@ namespace {
 }
 
 /// The name as the font table holds it: each character is escaped by itself, and none is in a group
-/// of its own.
+/// of its own. `\uc1` holds as far as the group of the font.
 std::string nameInTable(std::string_view name) {
     if (name.empty()) {
         refuse("A font has a name.");
@@ -28,11 +29,13 @@ std::string nameInTable(std::string_view name) {
     }
     rtfText(name);
     std::string rtf;
+    std::string_view uc = "\\uc1";
     for (std::size_t at = 0; at < name.size();) {
         const Utf8Character character = utf8CharacterAt(name, at);
         if (character.code < 0x100) {
             rtf += rtfText(name.substr(at, character.length));
         } else {
+            rtf += std::exchange(uc, {});
             appendUnicodeWords(character.code, rtf);
         }
         at += character.length;

@@ -21,7 +21,7 @@ public:
         if (isExtended_ || style.name != normalStyle) {
             words = "\\" + style.kind() + std::to_string(numbers_.at(position));
         }
-        words += " " + style.format();
+        words += formatOf(style);
         if (style.isAdditive()) {
             words += " \\additive";
         }
@@ -38,10 +38,16 @@ public:
             words += " \\additive";
         }
         words += reference(" \\sbasedon", style.basedOn());
-        return "{" + words + " " + style.format() + " " + shownName(style) + ";}";
+        return "{" + words + formatOf(style) + " " + shownName(style) + ";}";
     }
 
 private:
+    /// A second blank would be the first character of the name. The original language has it.
+    std::string formatOf(const Style& style) const {
+        const std::string format = style.format();
+        return isExtended_ && format.empty() ? std::string() : " " + format;
+    }
+
     std::string reference(std::string_view word, const std::string& name) const {
         const int position = name.empty() ? -1 : styles_.find(name);
         return position < 0 ? std::string()

@@ -102,8 +102,8 @@ TEST_F(Added, FontsMayHaveAnyCharactersInTheirNames) {
     document->addFont("P\u0159\u00EDsmo");
     document->addFont("\U0001F600");
 
-    EXPECT_EQ(groups(), with("\r\n{\\f18\\fnil\\fcharset0 P\\u345?\\'EDsmo;}"
-                             "\r\n{\\f19\\fnil\\fcharset0 \\u-10179?\\u-8704?;}",
+    EXPECT_EQ(groups(), with("\r\n{\\f18\\fnil\\fcharset0 P\\uc1\\u345?\\'EDsmo;}"
+                             "\r\n{\\f19\\fnil\\fcharset0 \\uc1\\u-10179?\\u-8704?;}",
                              lastFont));
 }
 

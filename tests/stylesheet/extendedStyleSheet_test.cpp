@@ -159,7 +159,7 @@ TEST_F(ExtendedStyleSheet, ListsTheStylesWithTheirNumbersAndReferences) {
               "\r\n{\\stylesheet"
               "\r\n{\\s0 \\fs20 normal;}"
               "\r\n{\\s101 \\fs20\\b \\sbasedon0 \\snext0 Title;}"
-              "\r\n{\\s102  \\snext101 N\u00E1zev \\u345?;}"
+              "\r\n{\\s102 \\snext101 N\u00E1zev \\uc1\\u345?;}"
               "\r\n{\\*\\cs103 \\additive \\b Strong;}"
               "\r\n{\\*\\cs104 \\additive \\sbasedon103 \\b\\i em;}}");
 }

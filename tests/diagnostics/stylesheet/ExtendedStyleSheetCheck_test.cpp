@@ -9,6 +9,7 @@
 #include "quorvane/diagnostics/KnownStyles.h"
 #include "quorvane/diagnostics/description/DescriptionCheck.h"
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
+#include "quorvane/diagnostics/engine/withoutIgnored.h"
 #include "quorvane/diagnostics/stylesheet/StyleSheetCheck.h"
 
 namespace quorvane {
@@ -94,6 +95,17 @@ TEST(CheckOfAnExtendedSheet, ReportsASheetWithoutStyles) {
 TEST(CheckOfAnExtendedSheet, FollowsIgnoreComments) {
     EXPECT_THAT(diagnosticsOf("; quorvane: ingore lone-brace\n{ name: a; style-def: s }"),
                 ElementsAre("2:13 ignore-comment: did you mean ignore? => ignore"));
+}
+
+TEST(CheckOfAnExtendedSheet, IgnoresWhatACommentSaysOfTheNextStyle) {
+    const std::string text =
+        "; quorvane 2\n; {\n; quorvane: ignore unused-style\n; { } another comment\n"
+        "{ name: a; style-def: paragraph;\n  bold }\n{ name: b; style-def: paragraph }\n";
+    const KnownStyles styles(text);
+
+    EXPECT_THAT(
+        described(withoutIgnored(findUnusedStyles(styles), text, CheckedLanguage::StyleSheet)),
+        ElementsAre("7:9 unused-style: "));
 }
 
 constexpr const char* description =
