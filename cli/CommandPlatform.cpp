@@ -10,6 +10,7 @@
 #include "cli/process.h"
 #include "cli/utf8Path.h"
 #include "quorvane/base/platform/fileReplacement.h"
+#include "quorvane/base/text/extendedMark.h"
 #include "quorvane/base/values/RtfError.h"
 
 namespace quorvane::cli {
@@ -58,7 +59,7 @@ const std::string& CommandPlatform::styleSheetBytes() const {
 }
 
 void CommandPlatform::recodeStyleSheet(TextEncoding encoding) {
-    if (isUtf8(encoding)) {
+    if (isUtf8(encoding) && !isMarkedExtended(styleSheet_->bytes)) {
         styleSheet_->bytes = encodedText(decodedText(std::move(styleSheet_->bytes), encoding),
                                          TextEncoding::Windows1252);
     }

@@ -35,7 +35,7 @@ DescriptionRendering::DescriptionRendering(const Assignment& assignment,
       isDriverNew_(!driver),
       report_(report) {
     if (isDriverNew_) {
-        driver_ = CRtfDriver::create(platform_);
+        makeDriver();
     }
 }
 
@@ -69,10 +69,15 @@ void DescriptionRendering::leaveDocumentBefore() {
     if (isDriverNew_ || document->Changed() || document->Contents() == "{}") {
         return;
     }
-    driver_ = CRtfDriver::create(platform_);
+    makeDriver();
     if (manner_.styleSheet) {
         setStyleSheet(*manner_.styleSheet);
     }
+}
+
+void DescriptionRendering::makeDriver() {
+    driver_ = CRtfDriver::create(platform_);
+    driver_->RtfObject()->setExtendedStyleSheets(true);
 }
 
 void DescriptionRendering::setStyleSheet(const std::string& name) {

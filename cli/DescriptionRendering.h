@@ -41,6 +41,7 @@ public:
     ExitStatus run();
 
 private:
+    void makeDriver();
     void setStyleSheet(const std::string& name);
     std::string readBytes(const std::string& path);
     std::optional<std::string> readDescription();

@@ -6,10 +6,14 @@
 #include <unordered_set>
 #include <vector>
 
+#include "quorvane/base/text/extendedMark.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/diagnostics/StyleSheetOutline.h"
+#include "quorvane/rtfgroups/NumberedTables.h"
+#include "quorvane/stylesheet/ExtendedDefinition.h"
 #include "quorvane/stylesheet/StyleList.h"
+#include "quorvane/stylesheet/extendedStyleSheet.h"
 #include "quorvane/stylesheet/stylesheetParser.h"
 
 namespace quorvane {
@@ -73,6 +77,26 @@ RepairedDefinition repairedDefinition(const OutlinedDefinition& definition) {
     return repaired;
 }
 
+/// A style with its format alone, as far as every document has its fonts and colors.
+std::string repairedStyle(const ExtendedStyle& style, DocumentTables& tables) {
+    std::string items = "{name:" + std::string(style.name) + ";" + std::string(kindKeyword.word) +
+                        ":" + std::string(extendedKindWord(style.kind));
+    if (style.kind == StyleKind::Cell) {
+        items += style.format.empty() ? "" : ";background:" + style.format.front().text;
+    } else {
+        const std::string words = controlWordsOf(style.format, style.kind, tables);
+        const StyleProperty& raw = *findStyleProperty("rtf");
+        items += readStyleValue(raw, words) ? ";rtf:" + words : "";
+    }
+    return items + "}\n";
+}
+
+bool hasExtendedKind(const OutlinedDefinition& definition) {
+    return std::any_of(definition.items.begin(), definition.items.end(), [](const StyleItem& item) {
+        return item.is(kindKeyword) && extendedKindNamed(item.value);
+    });
+}
+
 }  // namespace
 
 std::string_view styleKindName(StyleKind kind) {
@@ -85,7 +109,10 @@ struct KnownStyles::Parts {
         : text(styleSheet), soundText(styleSheet), encoding(encodingOfFile) {}
 
     void load();
+    void file(const StyleDefinition& definition);
     void repair();
+    void repairOriginal();
+    void repairExtended();
 
     StyleList& list(StyleKind kind) { return lists[static_cast<std::size_t>(kind)]; }
     std::unordered_set<std::string>& used(StyleKind kind) {
@@ -96,6 +123,7 @@ struct KnownStyles::Parts {
     std::string soundText;
     TextEncoding encoding;
     std::array<StyleList, 3> lists;
+    SheetForm form;
     // In lower case, as the names of styles whose kind is uncertain.
     std::array<std::unordered_set<std::string>, 3> usedNames;
     std::unordered_set<std::string> ofAnyKind;
@@ -105,16 +133,49 @@ void KnownStyles::Parts::load() {
     for (StyleList& styles : lists) {
         styles.clear();
     }
-    parseStyleSheet(soundText, [this](const StyleDefinition& definition) {
-        for (const std::string& name : definition.names) {
-            const StyleKind kind = styleKindNamed(Style{name, definition.record}.kind());
-            list(kind).add(name, definition.record);
-        }
-    });
+    const auto add = [this](const StyleDefinition& definition) { file(definition); };
+    if (isMarkedExtended(text)) {
+        NumberedTables tables;
+        parseExtendedStyleSheet(soundText, tables, add);
+        form = extendedForm(list(StyleKind::Paragraph));
+    } else {
+        parseStyleSheet(soundText, add);
+        form = originalForm(list(StyleKind::Paragraph));
+    }
+}
+
+void KnownStyles::Parts::file(const StyleDefinition& definition) {
+    for (const std::string& name : definition.names) {
+        const StyleKind kind = styleKindNamed(Style{name, definition.record}.kind());
+        list(kind).add(name, definition.record);
+    }
 }
 
 void KnownStyles::Parts::repair() {
     soundText.clear();
+    if (isMarkedExtended(text)) {
+        repairExtended();
+    } else {
+        repairOriginal();
+    }
+}
+
+void KnownStyles::Parts::repairExtended() {
+    NumberedTables tables;
+    soundText = std::string(extendedMark) + "\n";
+    for (const ExtendedStyle& style : readExtendedStyleSheet(text, [](const auto&) {})) {
+        soundText += repairedStyle(style, tables);
+    }
+    for (const OutlinedDefinition& definition : readStyleSheetOutline(text).definitions) {
+        if (!hasExtendedKind(definition)) {
+            for (const std::string_view name : namesOf(definition)) {
+                ofAnyKind.insert(lowerCase(name));
+            }
+        }
+    }
+}
+
+void KnownStyles::Parts::repairOriginal() {
     for (const OutlinedDefinition& definition : readStyleSheetOutline(text).definitions) {
         const RepairedDefinition repaired = repairedDefinition(definition);
         soundText += repaired.text;
@@ -154,6 +215,10 @@ const std::string& KnownStyles::soundText() const {
 
 const StyleList& stylesOf(const KnownStyles& known, StyleKind kind) {
     return known.parts_->list(kind);
+}
+
+const SheetForm& formOf(const KnownStyles& known) {
+    return known.parts_->form;
 }
 
 int KnownStyles::find(StyleKind kind, std::string_view name) const {

@@ -10,6 +10,7 @@
 namespace quorvane {
 
 class StyleList;
+struct SheetForm;
 
 /// "paragraph", "character" or "cell".
 std::string_view styleKindName(StyleKind kind);
@@ -57,8 +58,9 @@ public:
 private:
     struct Parts;
 
-    // For the library: the styles of a kind.
+    // For the library: the styles of a kind, and their numbers.
     friend const StyleList& stylesOf(const KnownStyles& known, StyleKind kind);
+    friend const SheetForm& formOf(const KnownStyles& known);
 
     std::unique_ptr<Parts> parts_;
 };

@@ -5,7 +5,9 @@
 #include <optional>
 #include <string>
 
+#include "quorvane/base/text/extendedMark.h"
 #include "quorvane/base/text/textCase.h"
+#include "quorvane/stylesheet/ExtendedSheetParts.h"
 
 namespace quorvane {
 
@@ -37,6 +39,15 @@ void readUnbalanced(std::string_view text, StyleSheetOutline& outline) {
     }
 }
 
+void readExtended(std::string_view text, StyleSheetOutline& outline) {
+    ExtendedSheetParts parts(text);
+    while (const std::optional<ExtendedSheetPart> part = parts.next()) {
+        if (part->whole.starts_with('{')) {
+            outline.definitions.push_back(outlinedDefinition(part->whole.substr(0, 1), part->body));
+        }
+    }
+}
+
 /// The kind that a word names or is most likely meant to name.
 StyleKind likelyKind(const std::string& word) {
     return word.starts_with("p")    ? StyleKind::Paragraph
@@ -48,6 +59,10 @@ StyleKind likelyKind(const std::string& word) {
 
 StyleSheetOutline readStyleSheetOutline(std::string_view text) {
     StyleSheetOutline outline;
+    if (isMarkedExtended(text)) {
+        readExtended(text, outline);
+        return outline;
+    }
     const auto [opened, closed] = countBraces(text);
     if (opened == closed) {
         readBalanced(text, outline);

@@ -18,7 +18,8 @@ struct OutlinedDefinition {
 /// The definitions of a stylesheet, valid or not.
 struct StyleSheetOutline {
     std::vector<OutlinedDefinition> definitions;
-    /// The first unmatched brace; empty when there are as many "{" as "}".
+    /// The first unmatched brace; empty when there are as many "{" as "}", and in the extended
+    /// dialect.
     std::string_view loneBrace;
 };
 

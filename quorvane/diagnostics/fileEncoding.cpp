@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "quorvane/base/text/TextEncoding.h"
 
 namespace quorvane {
 

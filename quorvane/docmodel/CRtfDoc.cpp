@@ -52,6 +52,14 @@ void CRtfDoc::setStyleSheetFile(const std::string& sName) {
     published([&] { inner(*this).styleSheet_->setStyleSheetFile(sName); });
 }
 
+bool CRtfDoc::ExtendedStyleSheets() const {
+    return inner(*this).styleSheet_->acceptsExtended();
+}
+
+void CRtfDoc::setExtendedStyleSheets(bool accept) {
+    inner(*this).setExtendedStyleSheets(accept);
+}
+
 bool CRtfDoc::StyleSheetOk() const {
     return inner(*this).styleSheet_->StyleSheetOk();
 }

@@ -47,6 +47,15 @@ public:
     /// without styles: 445 (keyword or value), 31037 (braces).
     void setStyleSheetFile(const std::string& sName);
 
+    /// Returns whether stylesheets may be written in the extended dialect. Default false.
+    bool ExtendedStyleSheets() const;
+    /// From the next load on, a stylesheet whose first line is `; quorvane 2` is read in the
+    /// extended dialect, which docs/extended-stylesheet.md describes. A file in it is UTF-8. Errors
+    /// in it have the numbers 445 and 31037 too, and `RtfError::line` is the line in the
+    /// stylesheet. Colors and fonts that not every document has are added to those of the document.
+    /// With false, and without that line, every stylesheet is in the original language.
+    void setExtendedStyleSheets(bool accept);
+
     /// Returns whether a stylesheet was loaded without errors.
     bool StyleSheetOk() const;
 
@@ -135,8 +144,8 @@ public:
     /// Returns the number of the font of this name, in any case, for the control word `\f` in
     /// stylesheets and texts. A font that the document does not have is added to its font table,
     /// after the 18 of every document, and marks the document changed. Added fonts stay, even after
-    /// `ClearStructure`. Error 5 for an empty name, one with a semicolon, a tab, a line break or a
-    /// character beyond U+00FF, and for more than 32768 fonts.
+    /// `ClearStructure`. Error 5 for an empty name, one with a semicolon, a tab, a line break or
+    /// another control character, and for more than 32768 fonts.
     std::int32_t addFont(std::string_view name);
 
     /// Returns the rows of the table: the same object every time, until `ClearStructure`.

@@ -250,6 +250,10 @@ void InnerDocument::clearStructure() {
     initAllGroups();
 }
 
+void InnerDocument::setExtendedStyleSheets(bool accept) {
+    styleSheet_->setExtendedTables(accept ? this : nullptr);
+}
+
 // The fixed groups hold nothing that could change, and the stylesheet stays: only page and table
 // begin anew.
 void InnerDocument::initAllGroups() {

@@ -18,13 +18,14 @@
 #include "quorvane/rtfgroups/CRtfGrpDocumentFormat.h"
 #include "quorvane/rtfgroups/CRtfGrpFontTable.h"
 #include "quorvane/rtfgroups/CRtfGrpHeader.h"
+#include "quorvane/rtfgroups/DocumentTables.h"
 #include "quorvane/stylesheet/CRtfGrpStyleSheetTable.h"
 #include "quorvane/support/GError.h"
 
 namespace quorvane {
 
 /// What a document is inside.
-class InnerDocument final : public CRtfDoc, public TableDocument {
+class InnerDocument final : public CRtfDoc, public TableDocument, public DocumentTables {
 public:
     explicit InnerDocument(Platform& platform);
 
@@ -32,6 +33,7 @@ public:
     const std::string& contents();
     void refresh();
     void clearStructure();
+    void setExtendedStyleSheets(bool accept);
     const PageAdditions& page() const noexcept;
     template <class Setting>
     void set(Setting PageAdditions::*setting, Setting value);
@@ -50,6 +52,8 @@ public:
     std::int32_t cellStyleColor(std::string_view sName) const override;
     const SharedText& sharedName(std::string_view sName) override;
     GError& errors() noexcept override { return errors_; }
+    std::int32_t colorNumber(const RgbColor& color) override { return addColor(color); }
+    std::int32_t fontNumber(const std::string& name) override { return addFont(name); }
 
 private:
     friend class CRtfDoc;

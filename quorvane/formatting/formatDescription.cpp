@@ -125,13 +125,7 @@ private:
     }
 
     int lineBreaksIn(std::string_view value) const {
-        int count = 0;
-        if (mayHaveLines(value)) {
-            for (LineReader lines(value); !lines.atEnd(); lines.next()) {
-                ++count;
-            }
-        }
-        return std::max(count - 1, 0);
+        return mayHaveLines(value) ? static_cast<int>(lineCount(value)) - 1 : 0;
     }
 
     bool mayHaveLines(std::string_view value) const {

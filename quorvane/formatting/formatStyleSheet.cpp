@@ -6,9 +6,16 @@
 #include <vector>
 
 #include "quorvane/base/text/LineReader.h"
+#include "quorvane/base/text/byteOrderMark.h"
+#include "quorvane/base/text/extendedMark.h"
+#include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/formatting/lineEndOf.h"
+#include "quorvane/rtfgroups/NumberedTables.h"
+#include "quorvane/stylesheet/ExtendedDefinition.h"
+#include "quorvane/stylesheet/ExtendedSheetParts.h"
+#include "quorvane/stylesheet/extendedStyleSheet.h"
 #include "quorvane/stylesheet/stylesheetParser.h"
 #include "quorvane/stylesheet/stylesheetSyntax.h"
 
@@ -34,18 +41,13 @@ std::string formattedItem(const StyleItem& item, bool isFirst) {
     return item.keyword + ":" + (value.empty() ? "" : " ") + value;
 }
 
-std::string formattedDefinition(std::string_view body, std::string_view lineEnd) {
-    std::vector<std::string> items;
-    std::size_t length = 4;
-    StyleItems read(body);
-    while (const StyleItem* const item = read.next()) {
-        if (!item->whole.empty()) {
-            items.push_back(formattedItem(*item, items.empty()));
-            length += items.back().size() + 2;
-        }
-    }
+std::string formattedDefinition(const std::vector<std::string>& items, std::string_view lineEnd) {
     if (items.empty()) {
         return "{ }";
+    }
+    std::size_t length = 4;
+    for (const std::string& item : items) {
+        length += item.size() + 2;
     }
     const bool isLong = length > longestLine + 2;
     std::string definition = "{";
@@ -55,6 +57,19 @@ std::string formattedDefinition(std::string_view body, std::string_view lineEnd)
         definition += item;
     }
     return definition + (isLong ? std::string(lineEnd) : " ") + "}";
+}
+
+using ItemFormatter = std::string (*)(const StyleItem& item, bool isFirst);
+
+std::vector<std::string> formattedItems(std::string_view body, ItemFormatter format) {
+    std::vector<std::string> items;
+    StyleItems read(body);
+    while (const StyleItem* const item = read.next()) {
+        if (!item->whole.empty()) {
+            items.push_back(format(*item, items.empty()));
+        }
+    }
+    return items;
 }
 
 class StyleSheetFormatter {
@@ -101,6 +116,93 @@ private:
     bool isBlankPending_ = false;
 };
 
+/// A text with single blanks in place of blanks, tabs and line breaks in a row.
+std::string withSingleBlanks(std::string_view text) {
+    std::string single;
+    for (const char character : text) {
+        if (!isWhitespace(character)) {
+            single += character;
+        } else if (!single.ends_with(' ')) {
+            single += ' ';
+        }
+    }
+    return single;
+}
+
+/// The words of a list of them, in the case and the form of the reference.
+std::string formattedExtendedValue(const StyleItem& item) {
+    if (item.is(kindKeyword)) {
+        const std::optional<StyleKind> kind = extendedKindNamed(item.value);
+        return std::string(kind ? extendedKindWord(*kind) : item.value);
+    }
+    const StyleProperty* const property = findStyleProperty(item.keyword);
+    const bool isChoice = property && !property->choices.empty();
+    return isChoice ? lowerCase(item.value) : withSingleBlanks(item.value);
+}
+
+std::string formattedExtendedItem(const StyleItem& item, bool isFirst) {
+    if (isFirst && item.keyword == nameKeyword) {
+        return formattedItem(item, isFirst);
+    }
+    const StyleProperty* const property = findStyleProperty(item.keyword);
+    const std::string value = formattedExtendedValue(item);
+    // What means yes by itself needs no value.
+    const bool isYes = property && value == "yes" && styleValueOfWordAlone(*property);
+    if (!item.hasColon() || isYes) {
+        return item.keyword;
+    }
+    return item.keyword + ":" + (value.empty() ? "" : " ") + value;
+}
+
+/// The styles of an extended stylesheet as one text, with the violations.
+std::string meaningOfExtended(std::string_view text) {
+    std::string meaning;
+    const auto report = [&](const ExtendedViolation& violation) {
+        // The part of another one shows its message, which may name a line.
+        meaning += extendedFaultText(violation.fault);
+    };
+    NumberedTables tables;
+    for (const ExtendedStyle& style : readExtendedStyleSheet(text, report)) {
+        meaning += definitionOf(style, tables).record + "\n";
+    }
+    for (const std::string& font : tables.fonts().entries()) {
+        meaning += font + "\n";
+    }
+    return meaning;
+}
+
+bool hasBlankLine(std::string_view gap) {
+    return lineCount(gap) > (gap.ends_with('\n') || gap.ends_with('\r') ? 1 : 2);
+}
+
+/// Text outside the braces and lone braces leave open what is meant.
+std::string formattedExtendedSheet(std::string_view text) {
+    using Kind = ExtendedSheetPart::Kind;
+    const std::string_view lineEnd = lineEndOf(text);
+    const std::string_view content = afterByteOrderMark(text);
+    std::string formatted(text.substr(0, text.size() - content.size()));
+    std::size_t end = 0;
+    ExtendedSheetParts parts(text);
+    while (const std::optional<ExtendedSheetPart> part = parts.next()) {
+        if (part->kind != Kind::Comment && part->kind != Kind::Definition) {
+            return std::string(text);
+        }
+        const auto begin = static_cast<std::size_t>(part->whole.data() - content.data());
+        const bool isFirst = end == 0;
+        if (!isFirst && hasBlankLine(content.substr(end, begin - end))) {
+            formatted += lineEnd;
+        }
+        end = begin + part->whole.size();
+        formatted +=
+            isFirst ? std::string(extendedMark)
+            : part->kind == Kind::Comment
+                ? std::string(part->whole)
+                : formattedDefinition(formattedItems(part->body, formattedExtendedItem), lineEnd);
+        formatted += lineEnd;
+    }
+    return meaningOfExtended(formatted) == meaningOfExtended(text) ? formatted : std::string(text);
+}
+
 /// The definitions as one text, or the error that reading them raises.
 std::string meaningOf(std::string_view text) {
     std::string meaning;
@@ -120,6 +222,9 @@ std::string meaningOf(std::string_view text) {
 }  // namespace
 
 std::string formattedStyleSheet(std::string_view text) {
+    if (isMarkedExtended(text)) {
+        return formattedExtendedSheet(text);
+    }
     if (!findLoneBrace(text).empty()) {
         return std::string(text);
     }
@@ -128,7 +233,8 @@ std::string formattedStyleSheet(std::string_view text) {
     std::size_t start = 0;
     while (const std::optional<BracedText> definition = bracedTextFrom(text, start)) {
         formatter.addText(text.substr(start, definition->open - start));
-        formatter.addLine(formattedDefinition(definition->body, lineEnd));
+        formatter.addLine(
+            formattedDefinition(formattedItems(definition->body, formattedItem), lineEnd));
         start = definition->close + 1;
     }
     formatter.addText(text.substr(start));

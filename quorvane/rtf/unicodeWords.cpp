@@ -1,6 +1,7 @@
 #include "quorvane/rtf/unicodeWords.h"
 
 #include <cstdint>
+#include <utility>
 
 #include "quorvane/base/text/codePage1252.h"
 #include "quorvane/base/text/utf16Units.h"
@@ -50,6 +51,19 @@ std::string withUnicodeWords(std::string_view text) {
         }
     }
     return rtf;
+}
+
+std::string nameWithUnicodeWords(std::string_view name) {
+    std::string rtf;
+    std::string_view uc = "\\uc1";
+    while (const std::optional<std::string_view> found = findBeyondCodePage1252(name)) {
+        const auto plain = static_cast<std::size_t>(found->data() - name.data());
+        rtf += name.substr(0, plain);
+        rtf += std::exchange(uc, {});
+        appendUnicodeWords(utf8CharacterAt(*found, 0).code, rtf);
+        name.remove_prefix(plain + found->size());
+    }
+    return rtf + std::string(name);
 }
 
 std::optional<std::string_view> findBeyondCodePage1252(std::string_view text) {

@@ -15,6 +15,10 @@ void appendUnicodeWords(char32_t code, std::string& rtf);
 /// All others stay as they are, and so do bytes that are not UTF-8.
 std::string withUnicodeWords(std::string_view text);
 
+/// The same without groups, for a name at the end of an entry of a document's tables, where `\uc1`
+/// holds as far as the group of the entry.
+std::string nameWithUnicodeWords(std::string_view name);
+
 /// Returns the first character of a text that Windows-1252 lacks; nothing when it has all of them.
 std::optional<std::string_view> findBeyondCodePage1252(std::string_view text);
 

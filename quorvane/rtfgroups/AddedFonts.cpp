@@ -1,8 +1,13 @@
 #include "quorvane/rtfgroups/AddedFonts.h"
 
+#include <cstddef>
+#include <utility>
+
 #include "quorvane/base/text/textCase.h"
+#include "quorvane/base/text/utf8.h"
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/rtf/escape.h"
+#include "quorvane/rtf/unicodeWords.h"
 #include "quorvane/rtfgroups/CRtfGrpFontTable.h"
 
 namespace quorvane {
@@ -13,18 +18,27 @@ namespace {
     raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), message));
 }
 
-/// The name as the font table holds it. It stands in no group of its own there, which characters
-/// beyond Latin-1 would need.
+/// The name as the font table holds it: each character is escaped by itself, and none is in a group
+/// of its own. `\uc1` holds as far as the group of the font.
 std::string nameInTable(std::string_view name) {
     if (name.empty()) {
         refuse("A font has a name.");
     }
-    std::string rtf = rtfText(name);
-    if (name.find_first_of(";\t\r\n") != std::string_view::npos ||
-        rtf.find("\\u") != std::string::npos) {
-        refuse(
-            "The name of a font has only characters up to U+00FF, and no semicolon, tab or line "
-            "break.");
+    if (name.find_first_of(";\t\r\n") != std::string_view::npos) {
+        refuse("The name of a font has no semicolon, tab or line break.");
+    }
+    rtfText(name);
+    std::string rtf;
+    std::string_view uc = "\\uc1";
+    for (std::size_t at = 0; at < name.size();) {
+        const Utf8Character character = utf8CharacterAt(name, at);
+        if (character.code < 0x100) {
+            rtf += rtfText(name.substr(at, character.length));
+        } else {
+            rtf += std::exchange(uc, {});
+            appendUnicodeWords(character.code, rtf);
+        }
+        at += character.length;
     }
     return rtf;
 }
@@ -33,6 +47,9 @@ std::string nameInTable(std::string_view name) {
 
 std::optional<std::int32_t> AddedFonts::number(std::string_view name) const {
     if (const auto known = CRtfGrpFontTable::fontNumber(name)) {
+        return known;
+    }
+    if (const auto known = CRtfGrpFontTable::fontNumberOfName(name)) {
         return known;
     }
     const auto found = numbers_.find(lowerCase(name));

@@ -42,6 +42,12 @@ constexpr Font fonts[] = {
 
 static_assert(std::size(fonts) == CRtfGrpFontTable::fontCount);
 
+/// What stands between the control words of an entry and its end.
+std::string_view nameIn(std::string_view entry) {
+    const std::size_t begin = entry.find(' ') + 1;
+    return entry.substr(begin, entry.find(';') - begin);
+}
+
 }  // namespace
 
 std::int32_t CRtfGrpFontTable::GetFontIndex(std::string_view sName) const {
@@ -56,6 +62,13 @@ std::int32_t CRtfGrpFontTable::GetFontIndex(std::string_view sName) const {
 std::optional<std::int32_t> CRtfGrpFontTable::fontNumber(std::string_view key) {
     const auto* const found = std::ranges::find_if(
         fonts, [&](const Font& font) { return lowerCase(font.key) == lowerCase(key); });
+    return found == std::end(fonts) ? std::nullopt
+                                    : std::optional(static_cast<std::int32_t>(found - fonts));
+}
+
+std::optional<std::int32_t> CRtfGrpFontTable::fontNumberOfName(std::string_view name) {
+    const auto* const found = std::ranges::find_if(
+        fonts, [&](const Font& font) { return equalIgnoringCase(nameIn(font.entry), name); });
     return found == std::end(fonts) ? std::nullopt
                                     : std::optional(static_cast<std::int32_t>(found - fonts));
 }

@@ -26,6 +26,9 @@ public:
     /// in the font's entry, except for font 10: its key is "Trebuchet", its name "Trebuchet MS".
     static std::optional<std::int32_t> fontNumber(std::string_view key);
 
+    /// Number of the font of that name, in any case; nothing when no font has it.
+    static std::optional<std::int32_t> fontNumberOfName(std::string_view name);
+
     /// Key of the font of that number; empty for a number that the table does not have.
     static std::string_view fontKey(std::int32_t number);
 

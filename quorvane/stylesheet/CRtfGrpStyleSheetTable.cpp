@@ -1,45 +1,18 @@
 #include "quorvane/stylesheet/CRtfGrpStyleSheetTable.h"
 
+#include <optional>
 #include <utility>
 
+#include "quorvane/base/text/codePage1252.h"
+#include "quorvane/base/text/extendedMark.h"
 #include "quorvane/base/text/textCase.h"
-#include "quorvane/base/text/trimming.h"
+#include "quorvane/rtfgroups/CRtfGrpColorTable.h"
+#include "quorvane/stylesheet/styleSheetGroup.h"
 #include "quorvane/support/GFileSystem.h"
 
 namespace quorvane {
 
 namespace {
-
-std::string reference(std::string_view word, const StyleList& styles, const std::string& name) {
-    const int position = name.empty() ? -1 : styles.find(name);
-    return position < 0 ? std::string() : std::string(word) + std::to_string(styleNumber(position));
-}
-
-std::string paragraphEntry(const StyleList& styles, int position) {
-    const Style& style = styles.at(position);
-    std::string words;
-    if (style.name != "normal") {
-        words = "\\" + style.kind() + std::to_string(styleNumber(position));
-    }
-    words += " " + style.format();
-    if (style.isAdditive()) {
-        words += " \\additive";
-    }
-    words += reference(" \\sbasedon", styles, style.basedOn());
-    words += reference(" \\snext", styles, style.next());
-    words += " " + style.name;
-    return "{" + std::string(trimBlanks(words)) + ";}";
-}
-
-std::string characterEntry(const StyleList& styles, int position) {
-    const Style& style = styles.at(position);
-    std::string words = "\\*\\" + style.kind() + std::to_string(styleNumber(position));
-    if (style.isAdditive()) {
-        words += " \\additive";
-    }
-    words += reference(" \\sbasedon", styles, style.basedOn());
-    return "{" + words + " " + style.format() + " " + style.name + ";}";
-}
 
 bool holdTokens(const StyleList& styles) {
     const int count = static_cast<int>(styles.count());
@@ -51,22 +24,15 @@ bool holdTokens(const StyleList& styles) {
     return false;
 }
 
-template <class Entry>
-void appendEntries(const StyleList& styles, Entry entry, std::string& rtf) {
-    const int count = static_cast<int>(styles.count());
-    for (int position = 1; position <= count; ++position) {
-        rtf += "\r\n";
-        rtf += entry(styles, position);
-    }
-}
-
 }  // namespace
 
 void CRtfGrpStyleSheetTable::setStyleSheetFile(std::string sName) {
     owner_.beforeChange();
     clear();
     if (GFileSystem::fileExists(files_, sName)) {
-        load(GFileSystem::loadStringFromFile(files_, sName));
+        const std::string text = GFileSystem::loadStringFromFile(files_, sName);
+        // An extended stylesheet is UTF-8: its bytes are those that the code page gives back.
+        load(isExtended(text) ? codePage1252FromUtf8(text) : text);
     }
     fileName_ = std::move(sName);
 }
@@ -119,20 +85,42 @@ void CRtfGrpStyleSheetTable::clear() noexcept {
 }
 
 void CRtfGrpStyleSheetTable::load(std::string_view text) {
-    parseStyleSheet(text, [this](const StyleDefinition& definition) { file(definition); });
-    // A paragraph of an unknown style gets the first one, under a number that no style has.
-    paragraphLookup_ = StyleLookup(
-        paragraphStyles_,
-        paragraphStyles_.empty() ? std::string() : selectionWords(paragraphStyles_.at(1), 0));
-    characterLookup_ = StyleLookup(characterStyles_, {});
-    cellColors_ = CellColorLookup(cellStyles_);
-    group_ = "\r\n{\\stylesheet";
-    appendEntries(paragraphStyles_, paragraphEntry, group_);
-    appendEntries(characterStyles_, characterEntry, group_);
-    group_ += '}';
+    if (isExtended(text)) {
+        loadExtended(text);
+    } else {
+        loadOriginal(text);
+    }
     characterWordsHoldTokens_ = holdTokens(characterStyles_);
     loaded_ = true;
     owner_.markChanged();
+}
+
+void CRtfGrpStyleSheetTable::loadOriginal(std::string_view text) {
+    parseStyleSheet(text, [this](const StyleDefinition& definition) { file(definition); });
+    cellColors_ = CellColorLookup(cellStyles_, CRtfGrpColorTable::colorNumber);
+    prepare(originalForm(paragraphStyles_));
+}
+
+void CRtfGrpStyleSheetTable::loadExtended(std::string_view text) {
+    parseExtendedStyleSheet(text, *tables_,
+                            [this](const StyleDefinition& definition) { file(definition); });
+    cellColors_ = CellColorLookup(cellStyles_, [this](const std::string& name) {
+        const std::optional<RgbColor> color = readColor(name);
+        return color ? tables_->colorNumber(*color) : 0;
+    });
+    prepare(extendedForm(paragraphStyles_));
+}
+
+void CRtfGrpStyleSheetTable::prepare(const SheetForm& form) {
+    paragraphLookup_ = StyleLookup(
+        paragraphStyles_, form.paragraph,
+        form.unknown > 0 ? selectionWords(paragraphStyles_.at(form.unknown), 0) : std::string());
+    characterLookup_ = StyleLookup(characterStyles_, form.character, {});
+    group_ = styleSheetGroup(paragraphStyles_, characterStyles_, form);
+}
+
+bool CRtfGrpStyleSheetTable::isExtended(std::string_view text) const {
+    return tables_ && isMarkedExtended(text);
 }
 
 void CRtfGrpStyleSheetTable::file(const StyleDefinition& definition) {

@@ -22,6 +22,12 @@ class CRtfGrpStyleSheetTable {
 public:
     CRtfGrpStyleSheetTable(GroupOwner& owner, Files& files) : owner_(owner), files_(files) {}
 
+    /// From then on stylesheets that are marked as extended are read as such. Colors and fonts that
+    /// are not in the tables of the document go into `tables`; null, as it is at first, for
+    /// stylesheets in the original language alone.
+    void setExtendedTables(DocumentTables* tables) noexcept { tables_ = tables; }
+    bool acceptsExtended() const noexcept { return tables_; }
+
     /// Name of the file of the stylesheet; empty when the styles come from a text.
     const std::string& StyleSheetFile() const { return fileName_; }
     /// Forgets all styles and reads those of a file (Windows-1252), whatever its extension. The
@@ -74,10 +80,15 @@ private:
     // Removes what was loaded before.
     void clear() noexcept;
     void load(std::string_view text);
+    void loadOriginal(std::string_view text);
+    void loadExtended(std::string_view text);
+    void prepare(const SheetForm& form);
+    bool isExtended(std::string_view text) const;
     void file(const StyleDefinition& definition);
 
     GroupOwner& owner_;
     Files& files_;
+    DocumentTables* tables_ = nullptr;
     std::string fileName_;
     bool loaded_ = false;
     bool characterWordsHoldTokens_ = false;

@@ -2,15 +2,14 @@
 
 #include <cstddef>
 
-#include "quorvane/rtfgroups/CRtfGrpColorTable.h"
-
 namespace quorvane {
 
-CellColorLookup::CellColorLookup(const StyleList& styles) {
+CellColorLookup::CellColorLookup(const StyleList& styles,
+                                 const std::function<std::int32_t(const std::string&)>& numberOf) {
     const int count = static_cast<int>(styles.count());
     colors_.reserve(styles.count());
     for (int position = 1; position <= count; ++position) {
-        colors_.push_back(CRtfGrpColorTable::colorNumber(styles.at(position).format()));
+        colors_.push_back(numberOf(styles.at(position).format()));
     }
 }
 

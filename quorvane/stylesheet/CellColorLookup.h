@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -13,7 +15,9 @@ namespace quorvane {
 class CellColorLookup {
 public:
     CellColorLookup() = default;
-    explicit CellColorLookup(const StyleList& styles);
+    /// `numberOf` gives the number of the color that a format names.
+    CellColorLookup(const StyleList& styles,
+                    const std::function<std::int32_t(const std::string&)>& numberOf);
 
     /// Number in the color table of the color that the style has as its format; 0 for a name that
     /// the list does not have and for a format that does not name a color.

@@ -1,5 +1,6 @@
 #include "quorvane/stylesheet/StyleList.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "quorvane/stylesheet/stylesheetSyntax.h"
@@ -48,6 +49,10 @@ bool Style::isAdditive() const {
     return record.find(additive) != std::string::npos;
 }
 
+std::string Style::writtenName() const {
+    return GetSubField(record, writtenNameSubField);
+}
+
 void StyleList::add(std::string name, std::string record) {
     styles_.push_back({std::move(name), std::move(record)});
     const int position = static_cast<int>(styles_.size());
@@ -79,6 +84,21 @@ int StyleList::find(std::string_view name) const {
         }
     }
     return -1;
+}
+
+SheetForm originalForm(const StyleList& paragraphStyles) {
+    SheetForm form;
+    form.unknown = paragraphStyles.empty() ? 0 : 1;
+    return form;
+}
+
+SheetForm extendedForm(const StyleList& paragraphStyles) {
+    SheetForm form;
+    form.isExtended = true;
+    form.unknown = std::max(paragraphStyles.find(normalStyle), 0);
+    form.paragraph.zero = form.unknown;
+    form.character.first += static_cast<int>(paragraphStyles.count());
+    return form;
 }
 
 }  // namespace quorvane

@@ -25,6 +25,8 @@ struct Style {
     std::string basedOn() const;
     std::string next() const;
     bool isAdditive() const;
+    /// The name in the case in which an extended stylesheet has it.
+    std::string writtenName() const;
 };
 
 /// Styles of one kind, in the order of the stylesheet.
@@ -48,9 +50,32 @@ private:
     std::unordered_map<std::string, int> positions_;
 };
 
-/// Number of the style at a position of its list, as it is written in the document.
-constexpr int styleNumber(int position) {
-    return position + 99;
-}
+/// The paragraph style that is the default of a document.
+inline constexpr std::string_view normalStyle = "normal";
+
+/// The numbers of the styles of a list, as they are written in the document.
+struct StyleNumbers {
+    /// The number of the style at position 1.
+    int first = 100;
+    /// The position of the style that has the number 0 instead; 0 for none.
+    int zero = 0;
+
+    constexpr int at(int position) const { return position == zero ? 0 : first + position - 1; }
+};
+
+/// What the language of a stylesheet makes of its styles.
+struct SheetForm {
+    /// In the original language both kinds begin with 100. In the extended dialect character styles
+    /// come after paragraph styles, and the paragraph style "normal" has the number 0.
+    StyleNumbers paragraph;
+    StyleNumbers character;
+    bool isExtended = false;
+    /// The position of the style for paragraphs whose style is unknown: in the original language
+    /// the first one, in the extended dialect "normal"; 0 for none.
+    int unknown = 0;
+};
+
+SheetForm originalForm(const StyleList& paragraphStyles);
+SheetForm extendedForm(const StyleList& paragraphStyles);
 
 }  // namespace quorvane

@@ -9,12 +9,13 @@ std::string selectionWords(const Style& style, int number) {
     return "\\" + style.kind() + std::to_string(number) + style.format() + " ";
 }
 
-StyleLookup::StyleLookup(const StyleList& styles, std::string wordsForUnknown)
+StyleLookup::StyleLookup(const StyleList& styles, const StyleNumbers& numbers,
+                         std::string wordsForUnknown)
     : wordsForUnknown_(std::move(wordsForUnknown)) {
     const int count = static_cast<int>(styles.count());
     words_.reserve(styles.count());
     for (int position = 1; position <= count; ++position) {
-        words_.push_back(selectionWords(styles.at(position), styleNumber(position)));
+        words_.push_back(selectionWords(styles.at(position), numbers.at(position)));
     }
 }
 

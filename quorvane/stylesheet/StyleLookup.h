@@ -16,7 +16,7 @@ public:
     StyleLookup() = default;
     /// Prepares the words for the styles of a list. Names that it does not have get
     /// `wordsForUnknown`.
-    StyleLookup(const StyleList& styles, std::string wordsForUnknown);
+    StyleLookup(const StyleList& styles, const StyleNumbers& numbers, std::string wordsForUnknown);
 
     /// The words for a name in any case. Blanks around it count.
     std::string_view find(const StyleList& styles, std::string_view name) const;

@@ -57,6 +57,23 @@ StyleItem readStyleItem(std::string_view text) {
     return item;
 }
 
+std::string_view keywordWithin(std::string_view value,
+                               const std::function<bool(std::string_view)>& isKeyword) {
+    // Longer than any keyword with blanks around it: the search costs no more in a long value.
+    constexpr std::size_t longestWord = 40;
+    for (std::size_t colon = value.find(':'); colon != nowhere;
+         colon = value.find(':', colon + 1)) {
+        const std::string_view before = trimWhitespace(
+            value.substr(colon - std::min(colon, longestWord), std::min(colon, longestWord)));
+        const std::size_t last = before.find_last_of(" \t\r\n,");
+        const std::string_view word = before.substr(last == nowhere ? 0 : last + 1);
+        if (last != nowhere && isKeyword(lowerCase(word))) {
+            return word;
+        }
+    }
+    return value.substr(value.size());
+}
+
 std::optional<StyleSheetFault> faultOfFirst(const StyleItem& item) {
     return item.keyword == nameKeyword ? std::nullopt : std::optional(StyleSheetFault::BadKeyword);
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -47,6 +48,9 @@ inline constexpr StyleKeyword additiveKeyword{"additive", "a", styleTruthWords};
 /// this order.
 inline constexpr std::string_view formatSubFields = "vfp";
 
+/// The code of the subfield with the name of a style as it is written.
+inline constexpr std::string_view writtenNameSubField = "w";
+
 /// The words of these keywords.
 std::span<const std::string_view> styleKeywordWords();
 
@@ -69,6 +73,11 @@ struct StyleItem {
 };
 
 StyleItem readStyleItem(std::string_view text);
+
+/// The first word in a value that a ":" follows and that `isKeyword` is true for, in lower case: a
+/// ";" is missing before it. It is not the first word of the value. Empty when there is none.
+std::string_view keywordWithin(std::string_view value,
+                               const std::function<bool(std::string_view)>& isKeyword);
 
 /// What makes a stylesheet invalid.
 enum class StyleSheetFault {

@@ -105,7 +105,8 @@ TEST(ExamplesOfTheTable, AreThereForAllButWhatFewLinesCannotShow) {
         }
     }
     EXPECT_THAT(without, testing::ElementsAre("not-a-text-file", "not-utf-8", "wrong-extension",
-                                              "rejected", "wrong-picture", "stylesheet-rejected"));
+                                              "rejected", "wrong-picture", "stylesheet-rejected",
+                                              "bad-character"));
 }
 
 }  // namespace

@@ -123,8 +123,8 @@ TEST(StyleList, IsEmptyAfterItWasCleared) {
 }
 
 TEST(StyleNumber, Is99MoreThanThePosition) {
-    EXPECT_EQ(styleNumber(1), 100);
-    EXPECT_EQ(styleNumber(25), 124);
+    EXPECT_EQ(StyleNumbers().at(1), 100);
+    EXPECT_EQ(StyleNumbers().at(25), 124);
 }
 
 // The search as it is defined: the first entry that holds "^t", the name and "^".

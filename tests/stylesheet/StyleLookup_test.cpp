@@ -10,7 +10,7 @@ protected:
     StyleLookupTest() {
         styles.add("normal", "^ds^f\\f9");
         styles.add("title", "^ds^f\\b");
-        lookup = StyleLookup(styles, "unknown");
+        lookup = StyleLookup(styles, {}, "unknown");
     }
 
     std::string wordsFor(std::string_view name) const {
@@ -77,7 +77,7 @@ TEST_F(StyleLookupTest, KeepsWordsInPlaceWhileOthersAreLookedUp) {
 
 TEST(StyleLookup, FindsNoNameInAnEmptyList) {
     const StyleList styles;
-    const StyleLookup lookup(styles, "unknown");
+    const StyleLookup lookup(styles, {}, "unknown");
 
     EXPECT_EQ(lookup.find(styles, "normal"), "unknown");
 }

@@ -66,4 +66,13 @@ private:
     bool endedLine_ = false;
 };
 
+/// How many lines a text has.
+inline std::size_t lineCount(std::string_view text) {
+    std::size_t count = 0;
+    for (LineReader lines(text); !lines.atEnd(); lines.next()) {
+        ++count;
+    }
+    return count;
+}
+
 }  // namespace quorvane

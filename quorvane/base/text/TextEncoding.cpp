@@ -1,11 +1,15 @@
 #include "quorvane/base/text/TextEncoding.h"
 
 #include "quorvane/base/text/codePage1252.h"
+#include "quorvane/base/text/extendedMark.h"
 #include "quorvane/base/text/utf8.h"
 
 namespace quorvane {
 
 TextEncoding encodingOf(std::string_view bytes, EncodingChoice choice) {
+    if (isMarkedExtended(bytes)) {
+        choice = EncodingChoice::Utf8;
+    }
     if (choice == EncodingChoice::Windows1252) {
         return TextEncoding::Windows1252;
     }

@@ -19,7 +19,7 @@ inline constexpr std::string_view utf8Mark = "\xEF\xBB\xBF";
 
 /// Returns the encoding of a text file. Judged by its bytes, a file is in UTF-8 when it begins with
 /// the mark, or when it is UTF-8 with at least one character beyond ASCII; otherwise it is in
-/// Windows-1252.
+/// Windows-1252. A file that is marked as extended is in UTF-8, whatever the choice.
 TextEncoding encodingOf(std::string_view bytes, EncodingChoice choice = EncodingChoice::Auto);
 
 /// Returns whether this is UTF-8, with the mark or without it.

@@ -1,10 +1,12 @@
 #include "quorvane/base/text/byteOrderMark.h"
 
+#include "quorvane/base/text/TextEncoding.h"
+
 namespace quorvane {
 
 namespace {
 
-constexpr std::string_view utf8Marks[] = {"\xEF\xBB\xBF", "\xC3\xAF\xC2\xBB\xC2\xBF"};
+constexpr std::string_view utf8Marks[] = {utf8Mark, "\xC3\xAF\xC2\xBB\xC2\xBF"};
 
 }  // namespace
 

@@ -7,6 +7,7 @@
 #include "quorvane/diagnostics/description/soundLeaf.h"
 #include "quorvane/diagnostics/text/colorContrast.h"
 #include "quorvane/diagnostics/text/textColors.h"
+#include "quorvane/rtfgroups/CRtfGrpColorTable.h"
 #include "quorvane/stylesheet/StyleList.h"
 
 namespace quorvane {
@@ -16,6 +17,11 @@ namespace {
 constexpr double minContrast = 3;
 // Pairs of colors that are reported for one paragraph.
 constexpr std::size_t maxColorsReported = 10;
+
+/// Only the colors that every document has are known here.
+bool isInTable(std::int32_t color) {
+    return color <= CRtfGrpColorTable::colorCount;
+}
 
 }  // namespace
 
@@ -49,10 +55,11 @@ void CellWarnings::findSharedNumber(const DescriptionNode& paragraph) {
     }
     const int position = styles_->find(StyleKind::Paragraph, leaf->valueText());
     const StyleList& others = stylesOf(*styles_, StyleKind::Character);
-    if (position > 0 && static_cast<std::size_t>(position) <= others.count()) {
-        engine_.report(
-            DiagnosticId::SharedStyleNumber, source_.placeOf(leaf->text),
-            {leaf->valueText(), std::to_string(styleNumber(position)), others.at(position).name});
+    const SheetForm& form = formOf(*styles_);
+    if (position > 0 && !form.isExtended && static_cast<std::size_t>(position) <= others.count()) {
+        engine_.report(DiagnosticId::SharedStyleNumber, source_.placeOf(leaf->text),
+                       {leaf->valueText(), std::to_string(form.paragraph.at(position)),
+                        others.at(position).name});
     }
 }
 
@@ -69,7 +76,8 @@ void CellWarnings::findContrast(const DescriptionNode& paragraph, std::int32_t o
         const bool isNew =
             std::find(reported.begin(), reported.end(), part.colors) == reported.end() &&
             reported.size() < maxColorsReported;
-        if (isNew && contrastOf(part.colors.text, part.colors.ground) < minContrast) {
+        if (isNew && isInTable(part.colors.text) && isInTable(part.colors.ground) &&
+            contrastOf(part.colors.text, part.colors.ground) < minContrast) {
             reported.push_back(part.colors);
             engine_.report(DiagnosticId::LowContrast,
                            source_.placeOf(part.colors == colors ? text->text : part.part),
@@ -80,13 +88,14 @@ void CellWarnings::findContrast(const DescriptionNode& paragraph, std::int32_t o
 
 /// The format of the style that the paragraph is written in.
 std::string CellWarnings::formatOf(const DescriptionNode& paragraph) const {
-    if (!styles_ || stylesOf(*styles_, StyleKind::Paragraph).empty()) {
+    if (!styles_) {
         return {};
     }
     const Leaf* leaf = soundLeaf(paragraph, DescriptionKey::ParaStyle);
     const std::string name = leaf ? leaf->valueText() : std::string();
     const int position = styles_->find(StyleKind::Paragraph, name);
-    return stylesOf(*styles_, StyleKind::Paragraph).at(position > 0 ? position : 1).format();
+    const int used = position > 0 ? position : formOf(*styles_).unknown;
+    return used > 0 ? stylesOf(*styles_, StyleKind::Paragraph).at(used).format() : std::string();
 }
 
 }  // namespace quorvane

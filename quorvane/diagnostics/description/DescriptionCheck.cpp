@@ -130,6 +130,7 @@ private:
         NullPlatform platform;
         const Ref<CRtfDoc> document = CRtfDoc::create(platform);
         if (styles_) {
+            document->setExtendedStyleSheets(true);
             document->LoadStyleSheetFromMemmory(styles_->soundText());
         }
         BuiltTable table = DocumentBuilder(*document, dialect_, report, pictures_).build(doc);

@@ -32,9 +32,10 @@ void StyleUses::findParagraphStyle(const Leaf& leaf) {
     styles_.markUsed(StyleKind::Paragraph, name);
     if (styles_.lacks(StyleKind::Paragraph, name)) {
         const StyleList& list = stylesOf(styles_, StyleKind::Paragraph);
+        const int used = formOf(styles_).unknown;
         engine_.report(DiagnosticId::UnknownParagraphStyle, source_.placeOf(leaf.text),
-                       {name, list.empty() ? "the paragraph gets no format"
-                                           : list.at(1).name + " is used instead"},
+                       {name, used == 0 ? "the paragraph gets no format"
+                                        : list.at(used).name + " is used instead"},
                        styleHint(StyleKind::Paragraph, name));
     }
 }

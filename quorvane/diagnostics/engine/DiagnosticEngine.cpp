@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "quorvane/base/text/placeholders.h"
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
-#include "quorvane/diagnostics/engine/placeholders.h"
 
 namespace quorvane {
 

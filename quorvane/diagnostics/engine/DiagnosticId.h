@@ -105,6 +105,24 @@ enum class DiagnosticId {
     UnknownCellColor,
     FormatText,
 
+    // extendedStyleSheetDiagnostics.h
+    BadCharacter,
+    LoneBrace,
+    StrayText,
+    NamelessStyle,
+    BadStyleName,
+    StyleTwice,
+    MissingKind,
+    BadKind,
+    UnknownItem,
+    MissingSemicolon,
+    ItemTwice,
+    MisplacedItem,
+    MissingValue,
+    BadItemValue,
+    MissingStyle,
+    StyleCircle,
+
     // rtfDiagnostics.h
     NotRtf,
     UnclosedGroup,

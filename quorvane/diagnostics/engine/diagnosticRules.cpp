@@ -6,10 +6,11 @@
 #include <cstddef>
 #include <vector>
 
+#include "quorvane/base/text/placeholders.h"
 #include "quorvane/base/text/trimming.h"
-#include "quorvane/diagnostics/engine/placeholders.h"
 #include "quorvane/diagnostics/table/descriptionErrors.h"
 #include "quorvane/diagnostics/table/extendedErrors.h"
+#include "quorvane/diagnostics/table/extendedStyleSheetDiagnostics.h"
 #include "quorvane/diagnostics/table/fileDiagnostics.h"
 #include "quorvane/diagnostics/table/nodeWarnings.h"
 #include "quorvane/diagnostics/table/pageWarnings.h"
@@ -46,7 +47,8 @@ constexpr auto joined(const DiagnosticRule (&... tables)[sizes]) {
 
 constexpr auto table =
     joined(fileDiagnostics, descriptionErrors, extendedErrors, nodeWarnings, styleWarnings,
-           textWarnings, pageWarnings, styleSheetDiagnostics, rtfDiagnostics);
+           textWarnings, pageWarnings, styleSheetDiagnostics, extendedStyleSheetDiagnostics,
+           rtfDiagnostics);
 
 constexpr bool isInOrderOfIds() {
     for (std::size_t i = 0; i < table.size(); ++i) {

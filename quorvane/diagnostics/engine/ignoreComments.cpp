@@ -11,11 +11,13 @@
 #include <utility>
 #include <vector>
 
+#include "quorvane/base/text/extendedMark.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/diagnostics/engine/nearestWord.h"
 #include "quorvane/diagnostics/engine/withoutIgnored.h"
 #include "quorvane/driver/DescriptionLine.h"
+#include "quorvane/stylesheet/ExtendedSheetParts.h"
 #include "quorvane/stylesheet/stylesheetSyntax.h"
 
 namespace quorvane {
@@ -48,10 +50,23 @@ std::vector<std::string_view> wordsIn(std::string_view text) {
     return words;
 }
 
+std::optional<BracedText> extendedBracedTextFrom(std::string_view text, std::size_t from) {
+    ExtendedSheetParts parts(text.substr(from));
+    while (const std::optional<ExtendedSheetPart> part = parts.next()) {
+        if (part->whole.starts_with('{')) {
+            const auto open = static_cast<std::size_t>(part->whole.data() - text.data());
+            return BracedText{open, open + part->whole.size() - 1, part->body};
+        }
+    }
+    return std::nullopt;
+}
+
 class CommentReader {
 public:
     CommentReader(const SourceText& source, CheckedLanguage language)
-        : source_(source), isStyleSheet_(language == CheckedLanguage::StyleSheet) {}
+        : source_(source),
+          isStyleSheet_(language == CheckedLanguage::StyleSheet),
+          isExtended_(isStyleSheet_ && isMarkedExtended(source.text())) {}
 
     std::vector<CheckComment> read() {
         std::vector<CheckComment> comments;
@@ -65,7 +80,7 @@ public:
                 lowerCase(text.substr(0, mark.size())) == mark) {
                 comments.push_back(commentAt(i, text.substr(mark.size())));
             }
-            if (isStyleSheet_) {
+            if (isStyleSheet_ && !(isExtended_ && depth_ <= 0 && isComment(line))) {
                 const auto [opened, closed] = countBraces(line);
                 depth_ += opened - closed;
             }
@@ -74,19 +89,28 @@ public:
     }
 
 private:
+    struct Definition {
+        std::size_t open;
+        std::int64_t lastLine;
+    };
+
     std::string_view lineAt(std::size_t index) const {
         const SourceText::Line& line = source_.lines()[index];
         return source_.text().substr(line.start, line.end - line.start);
     }
 
+    static bool isComment(std::string_view line) {
+        return trimWhitespace(line).starts_with(originalDialect().marks.comment);
+    }
+
     /// The text of a line that is a comment; empty for any other line. In a stylesheet, comments
     /// for the check begin as those of descriptions do.
     static std::string_view textOfComment(std::string_view line) {
-        const char commentMark = originalDialect().marks.comment;
-        line = trimWhitespace(line);
-        if (!line.starts_with(commentMark)) {
+        if (!isComment(line)) {
             return {};
         }
+        const char commentMark = originalDialect().marks.comment;
+        line = trimWhitespace(line);
         line.remove_prefix(std::min(line.find_first_not_of(commentMark), line.size()));
         return trimWhitespace(line);
     }
@@ -112,11 +136,17 @@ private:
     std::int64_t lastLineOfDefinition(std::size_t from) {
         // Comments that follow one another are about the same definition: it is looked up once.
         if (!definition_ || definition_->open < from) {
-            const std::optional<BracedText> next = bracedTextFrom(source_.text(), from);
-            const std::size_t end = next ? next->close : source_.text().size();
-            definition_ = Definition{next ? next->open : nowhere, source_.place(end, end).line};
+            definition_ = definitionFrom(from);
         }
         return definition_->lastLine;
+    }
+
+    Definition definitionFrom(std::size_t from) const {
+        const std::optional<BracedText> next = isExtended_
+                                                   ? extendedBracedTextFrom(source_.text(), from)
+                                                   : bracedTextFrom(source_.text(), from);
+        const std::size_t end = next ? next->close : source_.text().size();
+        return Definition{next ? next->open : nowhere, source_.place(end, end).line};
     }
 
     /// The number of the next line that is neither blank nor a comment.
@@ -130,13 +160,10 @@ private:
         return static_cast<std::int64_t>(next_) + 1;
     }
 
-    struct Definition {
-        std::size_t open;
-        std::int64_t lastLine;
-    };
-
     const SourceText& source_;
     bool isStyleSheet_;
+    // Comments do not hold braces then.
+    bool isExtended_;
     std::ptrdiff_t depth_ = 0;
     std::optional<Definition> definition_;
     std::size_t next_ = 0;

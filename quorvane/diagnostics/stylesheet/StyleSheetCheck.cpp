@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "quorvane/base/text/byteOrderMark.h"
+#include "quorvane/base/text/extendedMark.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/base/values/RtfError.h"
@@ -20,6 +21,7 @@
 #include "quorvane/diagnostics/engine/nearestWord.h"
 #include "quorvane/diagnostics/fileEncoding.h"
 #include "quorvane/diagnostics/languageOf.h"
+#include "quorvane/diagnostics/stylesheet/ExtendedStyleSheetCheck.h"
 #include "quorvane/diagnostics/stylesheet/styleSheetHints.h"
 #include "quorvane/diagnostics/text/mojibake.h"
 #include "quorvane/diagnostics/text/rtfText.h"
@@ -268,7 +270,11 @@ std::vector<Diagnostic> checkStyleSheet(std::string_view text, TextEncoding enco
         return diagnostics;
     }
     const SourceText source(text, encoding);
-    StyleSheetChecks(source, engine).run();
+    if (isMarkedExtended(text)) {
+        checkExtendedStyleSheet(source, engine);
+    } else {
+        StyleSheetChecks(source, engine).run();
+    }
     findWrongIgnoreComments(source, CheckedLanguage::StyleSheet, engine);
     sortByPlace(diagnostics);
     keepFirstMojibake(diagnostics);

@@ -1,11 +1,8 @@
 #include "quorvane/diagnostics/stylesheet/styleSheetHints.h"
 
-#include <algorithm>
-#include <cstddef>
 #include <vector>
 
 #include "quorvane/base/text/textCase.h"
-#include "quorvane/base/text/trimming.h"
 #include "quorvane/diagnostics/engine/nearestWord.h"
 #include "quorvane/rtfgroups/CRtfGrpColorTable.h"
 
@@ -82,20 +79,9 @@ Hint cellColorHint(std::string_view color) {
 }
 
 std::string missingSeparatorHint(std::string_view value) {
-    // Longer than any keyword with blanks around it: the search costs no more in a long value.
-    constexpr std::size_t longestWord = 40;
-    for (std::size_t colon = value.find(':'); colon != std::string_view::npos;
-         colon = value.find(':', colon + 1)) {
-        const std::string_view before = trimWhitespace(
-            value.substr(colon - std::min(colon, longestWord), std::min(colon, longestWord)));
-        const std::size_t last = before.find_last_of(" \t\r\n,");
-        const std::string word =
-            lowerCase(before.substr(last == std::string_view::npos ? 0 : last + 1));
-        if (last != std::string_view::npos && findStyleKeyword(word)) {
-            return "write a ; before " + word;
-        }
-    }
-    return {};
+    const std::string_view keyword =
+        keywordWithin(value, [](std::string_view word) { return findStyleKeyword(word); });
+    return keyword.empty() ? std::string() : "write a ; before " + lowerCase(keyword);
 }
 
 }  // namespace quorvane

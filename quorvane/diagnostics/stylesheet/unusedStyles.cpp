@@ -19,7 +19,10 @@ public:
     UnusedStyles(const KnownStyles& styles, const StyleSheetOutline& outline)
         : styles_(styles),
           // Paragraph styles that only keep the numbers of the character styles free need no user.
-          reserved_(std::max(1, static_cast<int>(stylesOf(styles, StyleKind::Character).count()))) {
+          reserved_(
+              formOf(styles).isExtended
+                  ? 0
+                  : std::max(1, static_cast<int>(stylesOf(styles, StyleKind::Character).count()))) {
         for (const OutlinedDefinition& definition : outline.definitions) {
             for (const StyleItem& item : definition.items) {
                 if (item.is(basedOnKeyword) || item.is(nextKeyword)) {

@@ -12,9 +12,12 @@ bool isStyleMissing(int number, const KnownStyles* styles, StyleKind kind) {
     if (number == 0 && kind == StyleKind::Paragraph) {
         return false;
     }
-    const int first = styleNumber(1);
-    return styles &&
-           (number < first || number >= first + static_cast<int>(stylesOf(*styles, kind).count()));
+    if (!styles) {
+        return false;
+    }
+    const SheetForm& form = formOf(*styles);
+    const int first = (kind == StyleKind::Paragraph ? form.paragraph : form.character).first;
+    return number < first || number >= first + static_cast<int>(stylesOf(*styles, kind).count());
 }
 
 }  // namespace

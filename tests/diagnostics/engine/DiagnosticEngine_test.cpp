@@ -4,7 +4,7 @@
 
 #include <utility>
 
-#include "quorvane/diagnostics/engine/placeholders.h"
+#include "quorvane/base/text/placeholders.h"
 
 namespace quorvane {
 namespace {

@@ -1,4 +1,4 @@
-#include "quorvane/diagnostics/engine/placeholders.h"
+#include "quorvane/base/text/placeholders.h"
 
 #include "quorvane/base/text/asciiCharacters.h"
 
