@@ -137,15 +137,15 @@ public:
     /// Returns the number of the color of these parts, each from 0 to 255, for `setBackColor` and
     /// `setForeColor`. A color that the document does not have is added to its color table, after
     /// the 57 of every document, and marks the document changed; the text on it does not become
-    /// white. Added colors stay, even after `ClearStructure`. Error 5 for another part, and for
-    /// more than 32767 colors.
+    /// white. `ClearStructure` removes added colors; those of a stylesheet stay. Error 5 for
+    /// another part, and for more than 32767 colors.
     tColorIndex addColor(std::int32_t red, std::int32_t green, std::int32_t blue);
 
     /// Returns the number of the font of this name, in any case, for the control word `\f` in
     /// stylesheets and texts. A font that the document does not have is added to its font table,
-    /// after the 18 of every document, and marks the document changed. Added fonts stay, even after
-    /// `ClearStructure`. Error 5 for an empty name, one with a semicolon, a tab, a line break or
-    /// another control character, and for more than 32768 fonts.
+    /// after the 18 of every document, and marks the document changed. `ClearStructure` removes
+    /// added fonts; those of a stylesheet stay. Error 5 for an empty name, one with a semicolon, a
+    /// tab, a line break or another control character, and for more than 32768 fonts.
     std::int32_t addFont(std::string_view name);
 
     /// Returns the rows of the table: the same object every time, until `ClearStructure`.

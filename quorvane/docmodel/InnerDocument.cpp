@@ -184,6 +184,19 @@ std::int32_t InnerDocument::addFont(std::string_view name) {
     return *number;
 }
 
+// Those of the stylesheet stay as long as it does.
+std::int32_t InnerDocument::colorNumber(const RgbColor& color) {
+    const std::int32_t number = addColor(color);
+    memory().makeAdditions().colors.keep(number);
+    return number;
+}
+
+std::int32_t InnerDocument::fontNumber(const std::string& name) {
+    const std::int32_t number = addFont(name);
+    memory().makeAdditions().fonts.keep(number);
+    return number;
+}
+
 const PageAdditions& InnerDocument::page() const noexcept {
     static const PageAdditions none;
     return memory().additions ? memory().additions->page : none;
@@ -262,6 +275,8 @@ void InnerDocument::initAllGroups() {
     format_ = std::move(format);
     if (memory().additions) {
         memory().additions->page = {};
+        memory().additions->colors.clear();
+        memory().additions->fonts.clear();
     }
 }
 

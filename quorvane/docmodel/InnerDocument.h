@@ -52,8 +52,8 @@ public:
     std::int32_t cellStyleColor(std::string_view sName) const override;
     const SharedText& sharedName(std::string_view sName) override;
     GError& errors() noexcept override { return errors_; }
-    std::int32_t colorNumber(const RgbColor& color) override { return addColor(color); }
-    std::int32_t fontNumber(const std::string& name) override { return addFont(name); }
+    std::int32_t colorNumber(const RgbColor& color) override;
+    std::int32_t fontNumber(const std::string& name) override;
 
 private:
     friend class CRtfDoc;

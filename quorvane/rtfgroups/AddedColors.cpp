@@ -1,5 +1,6 @@
 #include "quorvane/rtfgroups/AddedColors.h"
 
+#include <algorithm>
 #include <string>
 
 #include "quorvane/base/values/RtfError.h"
@@ -40,6 +41,18 @@ std::int32_t AddedColors::add(RgbColor color) {
         throw;
     }
     return number;
+}
+
+void AddedColors::keep(std::int32_t number) noexcept {
+    const std::int32_t count = std::max(number - CRtfGrpColorTable::colorCount, 0);
+    kept_ = std::max(kept_, static_cast<std::size_t>(count));
+}
+
+void AddedColors::clear() noexcept {
+    colors_.resize(std::min(kept_, colors_.size()));
+    std::erase_if(numbers_, [this](const auto& entry) {
+        return static_cast<std::size_t>(entry.second - CRtfGrpColorTable::colorCount) > kept_;
+    });
 }
 
 }  // namespace quorvane

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -22,10 +23,16 @@ public:
     /// too many.
     std::int32_t add(RgbColor color);
 
+    /// Lets `clear` keep the color of a number, and those before it.
+    void keep(std::int32_t number) noexcept;
+    /// Removes the colors after those that are kept.
+    void clear() noexcept;
+
     std::span<const RgbColor> list() const noexcept { return colors_; }
 
 private:
     std::vector<RgbColor> colors_;
+    std::size_t kept_ = 0;
     // By their parts.
     std::unordered_map<std::uint32_t, std::int32_t> numbers_;
 };

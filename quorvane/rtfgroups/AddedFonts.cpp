@@ -1,5 +1,6 @@
 #include "quorvane/rtfgroups/AddedFonts.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <utility>
 
@@ -71,6 +72,18 @@ std::int32_t AddedFonts::add(std::string_view name) {
         throw;
     }
     return number;
+}
+
+void AddedFonts::keep(std::int32_t number) noexcept {
+    const std::int32_t count = std::max(number - CRtfGrpFontTable::fontCount + 1, 0);
+    kept_ = std::max(kept_, static_cast<std::size_t>(count));
+}
+
+void AddedFonts::clear() noexcept {
+    entries_.resize(std::min(kept_, entries_.size()));
+    std::erase_if(numbers_, [this](const auto& entry) {
+        return static_cast<std::size_t>(entry.second - CRtfGrpFontTable::fontCount) >= kept_;
+    });
 }
 
 }  // namespace quorvane

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -22,11 +23,17 @@ public:
     /// a font table cannot hold, and if there are too many.
     std::int32_t add(std::string_view name);
 
+    /// Lets `clear` keep the font of a number, and those before it.
+    void keep(std::int32_t number) noexcept;
+    /// Removes the fonts after those that are kept.
+    void clear() noexcept;
+
     /// The entries of the font table.
     std::span<const std::string> entries() const noexcept { return entries_; }
 
 private:
     std::vector<std::string> entries_;
+    std::size_t kept_ = 0;
     // By their names in lower case.
     std::unordered_map<std::string, std::int32_t> numbers_;
 };

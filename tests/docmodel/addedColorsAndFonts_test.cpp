@@ -138,14 +138,15 @@ TEST_F(Added, ColorsAndFontsMarkTheDocumentChangedWhenTheyAreNew) {
     EXPECT_FALSE(marksChanged(*document, [&] { document->addFont("name"); }));
 }
 
-TEST_F(Added, ColorsAndFontsStayWithTheStylesheet) {
+TEST_F(Added, ColorsAndFontsGoWithTheStructure) {
     document->addColor(1, 2, 3);
     document->addFont("Name");
 
     document->ClearStructure();
 
-    EXPECT_EQ(document->addColor(4, 5, 6), 59);
-    EXPECT_EQ(document->addFont("Other"), 19);
+    EXPECT_EQ(groups(), fixedGroups);
+    EXPECT_EQ(document->addColor(4, 5, 6), 58);
+    EXPECT_EQ(document->addFont("Other"), 18);
 }
 
 }  // namespace

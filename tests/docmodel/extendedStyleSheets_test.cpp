@@ -65,6 +65,19 @@ TEST(ExtendedStyleSheets, KeepTheirNumbersWhenTheStructureIsCleared) {
     EXPECT_NE(parts.document->Contents().find("\\red31\\green78\\blue121;"), std::string::npos);
 }
 
+TEST(ExtendedStyleSheets, KeepTheirColorsWhenThoseOfTheDocumentAreRemoved) {
+    const CellDocument parts({"text"});
+    parts.document->setExtendedStyleSheets(true);
+    parts.document->LoadStyleSheetFromMemmory(sheet);
+    EXPECT_EQ(parts.document->addColor(1, 2, 3), 59);
+    EXPECT_EQ(parts.document->addFont("Other"), 19);
+    parts.document->ClearStructure();
+
+    EXPECT_EQ(parts.document->addColor(0x1F, 0x4E, 0x79), 58);
+    EXPECT_EQ(parts.document->addColor(4, 5, 6), 59);
+    EXPECT_EQ(parts.document->addFont("Third"), 19);
+}
+
 TEST(ExtendedStyleSheets, LeaveDocumentsInTheOriginalLanguageAsTheyAre) {
     const std::string original = "{ name: a; style-def: s; format: \\b }";
     const CellDocument accepting({"text"});
