@@ -30,7 +30,7 @@ public:
     const std::string& styleSheetBytes() const;
 
     /// From now on, the library reads the stylesheet, which is in that encoding, in Windows-1252;
-    /// in the extended dialect it reads it in UTF-8 all the same.
+    /// in the extended language it reads it in UTF-8 all the same.
     void recodeStyleSheet(TextEncoding encoding);
 
     /// True for the stylesheet only: the library shall not delete the file that it writes to.

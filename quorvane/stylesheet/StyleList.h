@@ -65,13 +65,13 @@ struct StyleNumbers {
 
 /// What the language of a stylesheet makes of its styles.
 struct SheetForm {
-    /// In the original language both kinds begin with 100. In the extended dialect character styles
+    /// In the original language both kinds begin with 100. In the extended language character styles
     /// come after paragraph styles, and the paragraph style "normal" has the number 0.
     StyleNumbers paragraph;
     StyleNumbers character;
     bool isExtended = false;
     /// The position of the style for paragraphs whose style is unknown: in the original language
-    /// the first one, in the extended dialect "normal"; 0 for none.
+    /// the first one, in the extended language "normal"; 0 for none.
     int unknown = 0;
 };
 

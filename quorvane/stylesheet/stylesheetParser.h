@@ -23,7 +23,7 @@ struct StyleDefinition {
 /// bad keyword or value.
 void parseStyleSheet(std::string_view text, const std::function<void(StyleDefinition)>& file);
 
-/// Reads a stylesheet in the extended dialect. All of its styles are passed to `file`, one by one,
+/// Reads a stylesheet in the extended language. All of its styles are passed to `file`, one by one,
 /// or none: the errors have the same numbers, and each has a line. Formats hold what the styles
 /// inherit; that of a cell style is the color of its background. `tables` gives colors and fonts
 /// their numbers, once the whole stylesheet has proved valid.

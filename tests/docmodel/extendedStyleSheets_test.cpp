@@ -1,4 +1,4 @@
-// Documents that accept stylesheets in the extended dialect.
+// Documents that accept stylesheets in the extended language.
 
 #include <gtest/gtest.h>
 

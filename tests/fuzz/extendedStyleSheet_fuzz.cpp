@@ -1,4 +1,4 @@
-// Any text as a stylesheet in the extended dialect, after its first line: loading it raises an
+// Any text as a stylesheet in the extended language, after its first line: loading it raises an
 // error exactly where check reports one; its styles have numbers of their own; the document that
 // uses them is sound RTF; and its canonical form means the same.
 

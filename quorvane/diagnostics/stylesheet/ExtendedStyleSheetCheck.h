@@ -5,7 +5,7 @@
 
 namespace quorvane {
 
-/// Reports what is wrong with a stylesheet in the extended dialect.
+/// Reports what is wrong with a stylesheet in the extended language.
 void checkExtendedStyleSheet(const SourceText& source, DiagnosticEngine& engine);
 
 }  // namespace quorvane

@@ -11,7 +11,7 @@ namespace quorvane {
 
 /// Returns all diagnostics about a stylesheet (UTF-8), in the order of their places. One of them is
 /// an error if and only if loading the stylesheet raises one, in a document that accepts the
-/// extended dialect (see `CRtfDoc::setExtendedStyleSheets`), or if the text is in the original
+/// extended language (see `CRtfDoc::setExtendedStyleSheets`), or if the text is in the original
 /// language, from a file in UTF-8, and a definition has a character that documents cannot hold
 /// there.
 std::vector<Diagnostic> checkStyleSheet(std::string_view text,

@@ -5,7 +5,7 @@
 
 namespace quorvane {
 
-/// What can be wrong with a stylesheet in the extended dialect. The messages are those of the
+/// What can be wrong with a stylesheet in the extended language. The messages are those of the
 /// errors of loading it.
 inline constexpr DiagnosticRule extendedStyleSheetDiagnostics[] = {
     {.id = DiagnosticId::BadCharacter,
@@ -15,7 +15,7 @@ inline constexpr DiagnosticRule extendedStyleSheetDiagnostics[] = {
      .message = extendedFaultText(ExtendedFault::BadCharacter),
      .title = "The stylesheet holds bytes that are not UTF-8, or control characters.",
      .explanation = R"(
-A stylesheet in the extended dialect is in UTF-8, and so is the description that it belongs to. It
+A stylesheet in the extended language is in UTF-8, and so is the description that it belongs to. It
 holds no control characters but tabs and line breaks. Save the file in UTF-8.
 )"},
 
@@ -26,7 +26,7 @@ holds no control characters but tabs and line breaks. Save the file in UTF-8.
      .message = extendedFaultText(ExtendedFault::LoneBrace),
      .title = "A { or } is not one of a pair.",
      .explanation = R"(
-A style in the extended dialect is enclosed in one pair of braces, and braces do not nest. Braces in
+A style in the extended language is enclosed in one pair of braces, and braces do not nest. Braces in
 comments do not count.
 )",
      .wrong = R"(
@@ -46,7 +46,7 @@ comments do not count.
      .language = CheckedLanguage::StyleSheet,
      .message = extendedFaultText(ExtendedFault::StrayText),
      .explanation = R"(
-In the extended dialect, comments are lines that begin with `;`. Any other text outside the braces is
+In the extended language, comments are lines that begin with `;`. Any other text outside the braces is
 an error, since it may be a style that has lost its braces.
 )",
      .wrong = R"(
@@ -68,7 +68,7 @@ Amounts
      .language = CheckedLanguage::StyleSheet,
      .message = extendedFaultText(ExtendedFault::NamelessStyle),
      .explanation = R"(
-The first item of a style in the extended dialect is `name` with one or more names.
+The first item of a style in the extended language is `name` with one or more names.
 )",
      .wrong = R"(
 ; quorvane 2
@@ -85,7 +85,7 @@ The first item of a style in the extended dialect is `name` with one or more nam
      .language = CheckedLanguage::StyleSheet,
      .message = extendedFaultText(ExtendedFault::BadStyleName),
      .explanation = R"(
-In the extended dialect the name of a style begins with a letter. Letters, digits, blanks, and the
+In the extended language the name of a style begins with a letter. Letters, digits, blanks, and the
 characters `-`, `_` and `.` follow. Any character beyond ASCII counts as a letter.
 )",
      .wrong = R"(
@@ -103,7 +103,7 @@ characters `-`, `_` and `.` follow. Any character beyond ASCII counts as a lette
      .language = CheckedLanguage::StyleSheet,
      .message = extendedFaultText(ExtendedFault::StyleTwice),
      .explanation = R"(
-In the extended dialect no two styles of one kind have the same name. Case does not count.
+In the extended language no two styles of one kind have the same name. Case does not count.
 )",
      .wrong = R"(
 ; quorvane 2
@@ -122,7 +122,7 @@ In the extended dialect no two styles of one kind have the same name. Case does 
      .language = CheckedLanguage::StyleSheet,
      .message = extendedFaultText(ExtendedFault::MissingKind),
      .explanation = R"(
-A style in the extended dialect says what it is for with `style-def: paragraph`,
+A style in the extended language says what it is for with `style-def: paragraph`,
 `style-def: character` or `style-def: cell`.
 )",
      .wrong = R"(
@@ -139,9 +139,9 @@ A style in the extended dialect says what it is for with `style-def: paragraph`,
      .severity = Severity::Error,
      .language = CheckedLanguage::StyleSheet,
      .message = extendedFaultText(ExtendedFault::BadKind),
-     .title = "… is not a kind of style in the extended dialect.",
+     .title = "… is not a kind of style in the extended language.",
      .explanation = R"(
-A style in the extended dialect is for a `paragraph`, for the `character`s of a part of its text, or
+A style in the extended language is for a `paragraph`, for the `character`s of a part of its text, or
 for a `cell`. The words `s` and `cs` of the original language stand for the first two.
 )",
      .wrong = R"(
@@ -159,7 +159,7 @@ for a `cell`. The words `s` and `cs` of the original language stand for the firs
      .language = CheckedLanguage::StyleSheet,
      .message = extendedFaultText(ExtendedFault::UnknownItem),
      .explanation = R"(
-The keyword of an item of a style in the extended dialect is `name`, `style-def`, `based-on`, `next`,
+The keyword of an item of a style in the extended language is `name`, `style-def`, `based-on`, `next`,
 or one of the formats such as `font` and `size`. Control words follow `rtf:`.
 )",
      .wrong = R"(
@@ -177,7 +177,7 @@ or one of the formats such as `font` and `size`. Control words follow `rtf:`.
      .language = CheckedLanguage::StyleSheet,
      .message = extendedFaultText(ExtendedFault::MissingSemicolon),
      .explanation = R"(
-A `;` separates the items of a style in the extended dialect, also at the end of a line. Put the name
+A `;` separates the items of a style in the extended language, also at the end of a line. Put the name
 of a font into quotes if it ends with a keyword: `font: "Arial Bold"`.
 )",
      .wrong = R"(
@@ -195,7 +195,7 @@ of a font into quotes if it ends with a keyword: `font: "Arial Bold"`.
      .language = CheckedLanguage::StyleSheet,
      .message = extendedFaultText(ExtendedFault::ItemTwice),
      .explanation = R"(
-In the extended dialect an item does not stand twice in a style. `superscript` and `subscript`
+In the extended language an item does not stand twice in a style. `superscript` and `subscript`
 exclude each other.
 )",
      .wrong = R"(
@@ -213,7 +213,7 @@ exclude each other.
      .language = CheckedLanguage::StyleSheet,
      .message = extendedFaultText(ExtendedFault::MisplacedItem),
      .explanation = R"(
-In the extended dialect a character style has no items that need a whole paragraph, such as `align`
+In the extended language a character style has no items that need a whole paragraph, such as `align`
 and `space-before`. A cell style has only a `background`. Only a paragraph style has a `next` one.
 )",
      .wrong = R"(
@@ -231,7 +231,7 @@ and `space-before`. A cell style has only a `background`. Only a paragraph style
      .language = CheckedLanguage::StyleSheet,
      .message = extendedFaultText(ExtendedFault::MissingValue),
      .explanation = R"(
-In the extended dialect only items such as `bold`, which mean `yes` then, need no value.
+In the extended language only items such as `bold`, which mean `yes` then, need no value.
 )",
      .wrong = R"(
 ; quorvane 2
@@ -248,7 +248,7 @@ In the extended dialect only items such as `bold`, which mean `yes` then, need n
      .language = CheckedLanguage::StyleSheet,
      .message = extendedFaultText(ExtendedFault::BadValue),
      .explanation = R"(
-The reference of the extended dialect says which values each item takes: a length with its unit, such
+The reference of the extended language says which values each item takes: a length with its unit, such
 as `11pt` or `5mm`; a color by its name or as `#1f4e79`; one of a few words.
 )",
      .wrong = R"(
@@ -266,7 +266,7 @@ as `11pt` or `5mm`; a color by its name or as `#1f4e79`; one of a few words.
      .language = CheckedLanguage::StyleSheet,
      .message = extendedFaultText(ExtendedFault::MissingStyle),
      .explanation = R"(
-In the extended dialect the style after `based-on` or `next` is a style of the same kind in the same
+In the extended language the style after `based-on` or `next` is a style of the same kind in the same
 stylesheet.
 )",
      .wrong = R"(
@@ -286,7 +286,7 @@ stylesheet.
      .language = CheckedLanguage::StyleSheet,
      .message = extendedFaultText(ExtendedFault::StyleCircle),
      .explanation = R"(
-In the extended dialect a style has the formats of the one that it is based on. It cannot be based on
+In the extended language a style has the formats of the one that it is based on. It cannot be based on
 itself, not even through other styles.
 )",
      .wrong = R"(

@@ -1,4 +1,4 @@
-// What check reports about stylesheets in the extended dialect: identifiers, places and hints.
+// What check reports about stylesheets in the extended language: identifiers, places and hints.
 
 #include <gmock/gmock.h>
 
