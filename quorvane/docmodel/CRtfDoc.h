@@ -50,8 +50,8 @@ public:
     /// Returns whether stylesheets may be written in the extended language. Default false.
     bool ExtendedStyleSheets() const;
     /// From the next load on, a stylesheet whose first line is `; quorvane 2` is read in the
-    /// extended language, which docs/extended-stylesheet.md describes. A file in it is UTF-8. Errors
-    /// in it have the numbers 445 and 31037 too, and `RtfError::line` is the line in the
+    /// extended language, which docs/extended-stylesheet.md describes. A file in it is UTF-8.
+    /// Errors in it have the numbers 445 and 31037 too, and `RtfError::line` is the line in the
     /// stylesheet. Colors and fonts that not every document has are added to those of the document.
     /// With false, and without that line, every stylesheet is in the original language.
     void setExtendedStyleSheets(bool accept);

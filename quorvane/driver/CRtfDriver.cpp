@@ -1,6 +1,8 @@
 #include "quorvane/driver/CRtfDriver.h"
 
+#include <cstdint>
 #include <memory>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -23,6 +25,16 @@
 #include "quorvane/support/recordStrings.h"
 
 namespace quorvane {
+
+namespace {
+
+std::string noPictures(const std::string&) {
+    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
+                   "a text that is not read from a file has no pictures beside it; set a source of "
+                   "pictures"));
+}
+
+}  // namespace
 
 void retain(CRtfDriver* driver) noexcept {
     ++driver->references_;

@@ -16,8 +16,7 @@ std::string folderOf(const std::string& path) {
     return separator == std::string::npos ? std::string() : path.substr(0, separator + 1);
 }
 
-}  // namespace
-
+/// True for a name that stays within the folder that it is looked up in.
 bool staysWithinFolder(const std::string& name) {
     std::string_view rest = name;
     if (rest.empty() || separators.find(rest.front()) != std::string_view::npos ||
@@ -36,11 +35,7 @@ bool staysWithinFolder(const std::string& name) {
     }
 }
 
-std::string noPictures(const std::string&) {
-    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
-                   "a text that is not read from a file has no pictures beside it; set a source of "
-                   "pictures"));
-}
+}  // namespace
 
 PictureSource picturesBeside(const std::string& path, Platform& platform) {
     return [folder = folderOf(path), &platform](const std::string& name) {

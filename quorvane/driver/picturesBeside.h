@@ -7,11 +7,9 @@
 
 namespace quorvane {
 
-/// Reads pictures from the folder of a file and the folders in it. A name with "..", a drive or a
-/// root leads outside, which is error 5. The platform must outlive the source.
-PictureSource picturesBeside(const std::string& path, Platform& platform);
-
-/// True for a name that stays within the folder that it is looked up in.
-bool staysWithinFolder(const std::string& name);
+/// Returns a source that reads pictures from the folder of a file and the folders in it. The path
+/// need not exist. A name with "..", a drive or a root leads outside, which is error 5. The
+/// platform must outlive the source.
+PictureSource picturesBeside(const std::string& path, Platform& platform = systemPlatform());
 
 }  // namespace quorvane

@@ -65,8 +65,8 @@ struct StyleNumbers {
 
 /// What the language of a stylesheet makes of its styles.
 struct SheetForm {
-    /// In the original language both kinds begin with 100. In the extended language character styles
-    /// come after paragraph styles, and the paragraph style "normal" has the number 0.
+    /// In the original language both kinds begin with 100. In the extended language character
+    /// styles come after paragraph styles, and the paragraph style "normal" has the number 0.
     StyleNumbers paragraph;
     StyleNumbers character;
     bool isExtended = false;

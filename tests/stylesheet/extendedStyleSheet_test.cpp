@@ -1,4 +1,5 @@
-// Stylesheets in the extended language: the words and numbers of their styles, and their violations.
+// Stylesheets in the extended language: the words and numbers of their styles, and their
+// violations.
 
 #include "quorvane/stylesheet/extendedStyleSheet.h"
 

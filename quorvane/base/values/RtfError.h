@@ -51,8 +51,8 @@ public:
     std::string description;
     /// The procedure that failed; often empty.
     std::string source;
-    /// The line of the description, or of the stylesheet in the extended language, that the error is
-    /// about, from 1; 0 if it is not about a line.
+    /// The line of the description, or of the stylesheet in the extended language, that the error
+    /// is about, from 1; 0 if it is not about a line.
     int line = 0;
     /// The error that caused this one, or null.
     std::shared_ptr<const RtfError> cause;
