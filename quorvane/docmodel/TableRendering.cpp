@@ -29,12 +29,19 @@ constexpr std::size_t longestNumber = 11;
 TableRendering::TableRendering(TableDocument& document_, TextOutput& out_)
     : document(document_), out(out_), inlineStyles(document_) {}
 
-void TableRendering::lookUpParagraphStyle(const SharedText& name) {
-    styleWords_ = document.GetParagraphStyle(name.view());
-    styleName_ = name;
+std::string_view TableRendering::paragraphStyle(const SharedText& name) {
+    // Words are never empty: a document returns a blank where there are none.
+    if (styleWords_.empty() || !name.sharesWith(styleName_)) {
+        styleWords_ = document.GetParagraphStyle(name.view());
+        styleName_ = name;
+    }
+    return styleWords_;
 }
 
-void TableRendering::renderBorders(const Borders& borders) {
+std::string_view TableRendering::borderText(const Borders& borders) {
+    if (borders == borders_) {
+        return borderText_;
+    }
     borderText_.clear();
     for (const SideWords& side : sides) {
         const tBorderWidth width = borders[side.side];
@@ -47,6 +54,7 @@ void TableRendering::renderBorders(const Borders& borders) {
         }
     }
     borders_ = borders;
+    return borderText_;
 }
 
 }  // namespace quorvane

@@ -18,21 +18,10 @@ public:
     TableRendering(TableDocument& document_, TextOutput& out_);
 
     /// Control words of a paragraph style; see `TableDocument::GetParagraphStyle`.
-    std::string_view paragraphStyle(const SharedText& name) {
-        // Words are never empty: a document returns a blank where there are none.
-        if (styleWords_.empty() || !name.sharesWith(styleName_)) {
-            lookUpParagraphStyle(name);
-        }
-        return styleWords_;
-    }
+    std::string_view paragraphStyle(const SharedText& name);
 
     /// The text of a cell's borders.
-    std::string_view borderText(const Borders& borders) {
-        if (borders != borders_) {
-            renderBorders(borders);
-        }
-        return borderText_;
-    }
+    std::string_view borderText(const Borders& borders);
 
     TableDocument& document;
     TextOutput& out;
@@ -41,9 +30,6 @@ public:
     bool keepsWithNext = false;
 
 private:
-    void lookUpParagraphStyle(const SharedText& name);
-    void renderBorders(const Borders& borders);
-
     // A document that has rows has been asked for its first style only when this is not empty.
     std::string_view styleWords_;
     SharedText styleName_;

@@ -1,8 +1,6 @@
 #include "quorvane/base/text/utf8.h"
 
-#include <array>
-#include <cstdint>
-#include <cstring>
+#include <cstddef>
 
 namespace quorvane {
 
@@ -14,6 +12,17 @@ unsigned byteAt(std::string_view text, std::size_t position) {
 
 bool isAscii(unsigned byte) {
     return byte < 0x80;
+}
+
+constexpr std::size_t blockSize = 64;
+
+// No branch in the loop, so that the compiler takes many bytes at a time.
+bool isBlockAscii(const char* block) {
+    unsigned char all = 0;
+    for (std::size_t i = 0; i < blockSize; ++i) {
+        all |= static_cast<unsigned char>(block[i]);
+    }
+    return isAscii(all);
 }
 
 // Bytes that a lead byte announces; 0 when it is not a lead byte.
@@ -98,25 +107,8 @@ std::size_t characterCount(std::string_view text) {
 
 std::size_t asciiRunEnd(std::string_view text, std::size_t position) {
     // Many bytes at a time: most texts are nothing but ASCII, and some are very long.
-    std::array<std::uint64_t, 8> blocks{};
-    while (text.size() - position >= sizeof blocks) {
-        std::memcpy(blocks.data(), text.data() + position, sizeof blocks);
-        std::uint64_t all = 0;
-        for (const std::uint64_t block : blocks) {
-            all |= block;
-        }
-        if ((all & 0x8080808080808080u) != 0) {
-            break;
-        }
-        position += sizeof blocks;
-    }
-    std::uint64_t block = 0;
-    while (text.size() - position >= sizeof block) {
-        std::memcpy(&block, text.data() + position, sizeof block);
-        if ((block & 0x8080808080808080u) != 0) {
-            break;
-        }
-        position += sizeof block;
+    while (text.size() - position >= blockSize && isBlockAscii(text.data() + position)) {
+        position += blockSize;
     }
     while (position < text.size() && isAscii(byteAt(text, position))) {
         ++position;

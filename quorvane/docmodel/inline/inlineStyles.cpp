@@ -147,18 +147,21 @@ public:
     void add(View token, Span group) {
         constexpr std::size_t smallestTable = 16;
         if (4 * (entries_.size() + 1) > 3 * slots_.size()) {
-            std::vector<Slot> old(std::max(2 * slots_.size(), smallestTable));
-            old.swap(slots_);
-            std::for_each(old.begin(), old.end(), [this](const Slot& slot) { put(slot); });
+            // In the memory of the slots before, when there was as much room already.
+            slots_.assign(std::max(2 * slots_.size(), smallestTable), Slot());
+            for (std::size_t i = 0; i < entries_.size(); ++i) {
+                put(entries_[i].hash, i);
+            }
         }
-        entries_.push_back({token, group});
-        put({hashOf(token), static_cast<std::uint32_t>(entries_.size())});
+        entries_.push_back({token, group, hashOf(token)});
+        put(entries_.back().hash, entries_.size() - 1);
     }
 
 private:
     struct Entry {
         View token;
         Span group;
+        std::uint32_t hash;
     };
     struct Slot {
         std::uint32_t hash = 0;
@@ -170,14 +173,12 @@ private:
         return static_cast<std::uint32_t>(std::hash<View>{}(token));
     }
 
-    void put(const Slot& added) {
-        if (added.number != 0) {
-            std::size_t slot = added.hash & (slots_.size() - 1);
-            while (slots_[slot].number != 0) {
-                slot = (slot + 1) & (slots_.size() - 1);
-            }
-            slots_[slot] = added;
+    void put(std::uint32_t hash, std::size_t index) {
+        std::size_t slot = hash & (slots_.size() - 1);
+        while (slots_[slot].number != 0) {
+            slot = (slot + 1) & (slots_.size() - 1);
         }
+        slots_[slot] = {hash, static_cast<std::uint32_t>(index + 1)};
     }
 
     bool isAt(const Slot& slot, View token, std::uint32_t hash) const {
