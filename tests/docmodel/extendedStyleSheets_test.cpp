@@ -33,7 +33,7 @@ TEST(ExtendedStyleSheets, GiveTextsAndCellsTheirFormats) {
 
     EXPECT_EQ(parts.cellsText(),
               " \\clcbpat59\\cellx8840 \r\n\r\n\r\n"
-              "\\pard\\plain\\intbl\\s101\\f18\\fs18\\cf58\\b a {\\cs102\\i b}\r\n\r\n\r\n"
+              "\\pard\\plain\\intbl\\s101\\f18\\fs18\\cf58\\b a {\\cs102\\i b}\r\n"
               "\r\n\\par\\pard\\plain\\intbl\\s0\\f18\\fs18\\cf58 c\\cell");
 }
 

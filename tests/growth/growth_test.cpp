@@ -22,6 +22,7 @@
 #include "quorvane/driver/DescriptionTree.h"
 #include "quorvane/driver/Dialect.h"
 #include "quorvane/driver/DocumentBuilder.h"
+#include "quorvane/formatting/formatStyleSheet.h"
 #include "quorvane/support/recordStrings.h"
 #include "tests/docmodel/withCharacterStyles.h"
 #include "tests/support/FakePlatform.h"
@@ -180,6 +181,26 @@ TEST(Growth, OfAStylesheetIsProportional) {
             document->Contents();
         },
         500);
+}
+
+TEST(Growth, OfAnExtendedStylesheetIsProportional) {
+    expectProportional(
+        [](std::size_t size) {
+            const Ref<CRtfDoc> document = CRtfDoc::create();
+            document->setExtendedStyleSheets(true);
+            std::string text = "; quorvane 2\n{name: s; style-def: s; bold}";
+            for (std::size_t i = 0; i < size; ++i) {
+                const std::string number = std::to_string(100'000 + i);
+                text += "{name: s" + number + "; style-def: s; based-on: " +
+                        (i == 0 ? "s" : "s" + std::to_string(99'999 + i)) + "; next: s; color: #" +
+                        number + "; font: f" + number + "}\n";
+            }
+            document->LoadStyleSheetFromMemmory(text);
+            document->Contents();
+            checkStyleSheet(text + text);
+            formattedStyleSheet(text);
+        },
+        200);
 }
 
 TEST(Growth, OfARecordStringIsProportional) {

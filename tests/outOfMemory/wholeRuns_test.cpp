@@ -252,6 +252,31 @@ TEST(WholeRunsOutOfMemory, LoadTheStylesheetWhenTheyAreCalledAgain) {
         20);
 }
 
+TEST(WholeRunsOutOfMemory, LoadAnExtendedStylesheetWhenTheyAreCalledAgain) {
+    constexpr const char* extended =
+        "; quorvane 2\n"
+        "{ name: normal; style-def: paragraph; font: A font with a long name; color: #010203 }\n"
+        "{ name: a style with a long name; style-def: paragraph; based-on: normal; bold }\n"
+        "{ name: shaded; style-def: cell; background: #040506 }\n";
+    const auto load = [](Subject& subject) {
+        subject.driver->RtfObject()->setExtendedStyleSheets(true);
+        subject.driver->LoadStyleSheetFromMemmory(extended);
+    };
+    Subject whole;
+    load(whole);
+    const std::string expected = whole.contentsOf(description);
+
+    expectNothingLost(
+        load,
+        [&](Subject& subject) {
+            ASSERT_FALSE(subject.driver->RtfObject()->StyleSheetOk());
+            load(subject);
+            ASSERT_TRUE(subject.driver->RtfObject()->StyleSheetOk());
+            ASSERT_EQ(subject.contentsOf(description), expected);
+        },
+        20);
+}
+
 TEST(WholeRunsOutOfMemory, LoadTheStylesheetsFileWhenTheyAreCalledAgain) {
     const std::string expected = Subject().contentsOf(description);
 
