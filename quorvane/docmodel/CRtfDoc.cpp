@@ -10,6 +10,15 @@ namespace quorvane {
 
 namespace {
 
+std::uint8_t colorPart(std::int32_t part) {
+    if (part < 0 || part > UINT8_MAX) {
+        raise(RtfError(
+            static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
+            "A part of a color is a number from 0 to 255, not " + std::to_string(part) + "."));
+    }
+    return static_cast<std::uint8_t>(part);
+}
+
 PageText pageText(std::string_view left, std::string_view center, std::string_view right) {
     for (const std::string_view part : {left, center, right}) {
         pageTextRtf(part);
@@ -138,6 +147,16 @@ const PageText& CRtfDoc::PageFooter() const {
 void CRtfDoc::setPageFooter(std::string_view left, std::string_view center,
                             std::string_view right) {
     published([&] { inner(*this).set(&PageAdditions::footer, pageText(left, center, right)); });
+}
+
+tColorIndex CRtfDoc::addColor(std::int32_t red, std::int32_t green, std::int32_t blue) {
+    return published([&] {
+        return inner(*this).addColor({colorPart(red), colorPart(green), colorPart(blue)});
+    });
+}
+
+std::int32_t CRtfDoc::addFont(std::string_view name) {
+    return published([&] { return inner(*this).addFont(name); });
 }
 
 Ref<CRtfTableRows> CRtfDoc::TableRows() const {

@@ -125,6 +125,20 @@ public:
     /// more than 720 twips above the edge of the paper, with the paragraph style "footer".
     void setPageFooter(std::string_view left, std::string_view center, std::string_view right);
 
+    /// Returns the number of the color of these parts, each from 0 to 255, for `setBackColor` and
+    /// `setForeColor`. A color that the document does not have is added to its color table, after
+    /// the 57 of every document, and marks the document changed; the text on it does not become
+    /// white. Added colors stay, even after `ClearStructure`. Error 5 for another part, and for
+    /// more than 32767 colors.
+    tColorIndex addColor(std::int32_t red, std::int32_t green, std::int32_t blue);
+
+    /// Returns the number of the font of this name, in any case, for the control word `\f` in
+    /// stylesheets and texts. A font that the document does not have is added to its font table,
+    /// after the 18 of every document, and marks the document changed. Added fonts stay, even after
+    /// `ClearStructure`. Error 5 for an empty name, one with a semicolon, a tab, a line break or a
+    /// character beyond U+00FF, and for more than 32768 fonts.
+    std::int32_t addFont(std::string_view name);
+
     /// Returns the rows of the table: the same object every time, until `ClearStructure`.
     Ref<CRtfTableRows> TableRows() const;
 
@@ -161,7 +175,8 @@ public:
     tColorIndex getCellStyleBackColor(std::string_view sName) const;
 
     /// Removes the rows and resets the page to its defaults, and with it the columns, the form of
-    /// the heading, the page header and the page footer. The stylesheet stays, and `Changed` keeps
+    /// the heading, the page header and the page footer. The stylesheet stays, as do added colors
+    /// and fonts, which its formats may use; and `Changed` keeps
     /// its value. A host that holds the old rows can go on using them, but they are no longer
     /// part of the document.
     void ClearStructure();

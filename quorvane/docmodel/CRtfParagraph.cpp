@@ -1,5 +1,7 @@
 #include "quorvane/docmodel/CRtfParagraph.h"
 
+#include <utility>
+
 #include "quorvane/docmodel/InnerCell.h"
 #include "quorvane/docmodel/InnerParagraph.h"
 #include "quorvane/rtfgroups/GTextMarkedFields.h"
@@ -62,6 +64,20 @@ tCellAlign CRtfParagraph::Align() const {
 void CRtfParagraph::setAlign(tCellAlign align) {
     beforeChange(inner(*this).document());
     inner(*this).align_ = align;
+}
+
+const RtfPicture* CRtfParagraph::Picture() const {
+    return inner(*this).picture();
+}
+
+void CRtfParagraph::setPicture(std::optional<RtfPicture> picture) {
+    published([&] {
+        InnerParagraph& self = inner(*this);
+        TableDocument* document = self.document();
+        beforeChange(document);
+        self.setPicture(std::move(picture));
+        markChanged(document);
+    });
 }
 
 void CRtfParagraph::asMarkedField(const Value& vFieldData) {

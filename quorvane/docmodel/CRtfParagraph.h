@@ -1,10 +1,12 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "quorvane/base/memory/Ref.h"
 #include "quorvane/base/values/Value.h"
+#include "quorvane/docmodel/RtfPicture.h"
 #include "quorvane/docmodel/enumerations.h"
 #include "quorvane/docmodel/references.h"
 
@@ -20,7 +22,8 @@ public:
     Ref<CRtfTableCell> Parent() const;
 
     /// Text, empty by default. It goes into the document as it is: RTF control words and inline
-    /// styles such as `<bold-red=Total>` take effect. A paragraph without text writes nothing.
+    /// styles such as `<bold-red=Total>` take effect. A paragraph
+    /// without text and picture writes nothing.
     std::string Text() const;
     /// Ignores an empty text; any other text marks the document changed.
     void setText(std::string_view text);
@@ -41,6 +44,12 @@ public:
     tCellAlign Align() const;
     /// Does not mark the document changed.
     void setAlign(tCellAlign align);
+
+    /// Returns the picture; null by default, and valid until it is set again.
+    const RtfPicture* Picture() const;
+    /// Sets the picture, which stands before the text; `std::nullopt` removes it. Always marks the
+    /// document changed. A paragraph with a picture is written even if it has no text.
+    void setPicture(std::optional<RtfPicture> picture);
 
     /// Makes the paragraph a marked field with this data: a text or a 16-bit or 32-bit integer.
     /// With data of another type the paragraph is still marked, with the data that it had, and no

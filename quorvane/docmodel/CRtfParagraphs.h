@@ -18,9 +18,9 @@ public:
     /// Nothing" for null, 5 if it is not in the list.
     std::int32_t indexOf(const CRtfParagraph* paragraph) const;
 
-    /// Replaces a paragraph with a new one that has this key and the old one's text and style, and
-    /// returns the new one. Errors: 5 if the old paragraph is not in the list, 457 if the key is
-    /// already in the list, even as the old paragraph's own key.
+    /// Replaces a paragraph with a new one that has this key and the old one's text, style and
+    /// picture, and returns the new one. Errors: 5 if the old paragraph is not in the list, 457 if
+    /// the key is already in the list, even as the old paragraph's own key.
     Ref<CRtfParagraph> refile(const Ref<CRtfParagraph>& old, std::string_view key);
 
 protected:

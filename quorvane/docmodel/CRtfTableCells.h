@@ -36,8 +36,8 @@ public:
     std::int32_t indexOf(const CRtfTableCell* cell) const;
 
     /// Replaces a cell with a new one that has this key and the old one's background, borders,
-    /// width and paragraphs, and returns the new one. Errors: 5 if the old cell is not in the list,
-    /// 457 if the key is already in the list, even as the old cell's own key.
+    /// width, spans and paragraphs, and returns the new one. Errors: 5 if the old cell is not in
+    /// the list, 457 if the key is already in the list, even as the old cell's own key.
     Ref<CRtfTableCell> refile(const Ref<CRtfTableCell>& old, std::string_view key);
 
 protected:

@@ -16,9 +16,9 @@ public:
     /// it no longer exists.
     Ref<CRtfDoc> Parent() const;
 
-    /// Replaces a row with a new one that has this key and the old one's background, borders and
-    /// cells, and returns the new one. Errors: 5 if the old row is not in the list, 457 if the key
-    /// is already in the list, even as the old row's own key.
+    /// Replaces a row with a new one that has this key and the old one's background, borders,
+    /// settings and cells, and returns the new one. Errors: 5 if the old row is not in the list,
+    /// 457 if the key is already in the list, even as the old row's own key.
     Ref<CRtfTableRow> refile(const Ref<CRtfTableRow>& old, std::string_view key);
 
 protected:

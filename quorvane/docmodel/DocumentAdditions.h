@@ -6,8 +6,11 @@
 #include "quorvane/docmodel/ElementMap.h"
 #include "quorvane/docmodel/HeadingForm.h"
 #include "quorvane/docmodel/PageText.h"
+#include "quorvane/docmodel/RtfPicture.h"
 #include "quorvane/docmodel/layout/CellSpan.h"
 #include "quorvane/docmodel/layout/RowSettings.h"
+#include "quorvane/rtfgroups/AddedColors.h"
+#include "quorvane/rtfgroups/AddedFonts.h"
 
 namespace quorvane {
 
@@ -17,6 +20,8 @@ struct PageAdditions {
     HeadingForm headingForm = HeadingForm::PageHeader;
     PageText header;
     PageText footer;
+
+    bool operator==(const PageAdditions&) const = default;
 };
 
 /// What most documents have nothing of: it exists once something of it is set.
@@ -24,6 +29,13 @@ struct DocumentAdditions {
     PageAdditions page;
     ElementMap<RowSettings> rows;
     ElementMap<CellSpan> spans;
+    ElementMap<RtfPicture> pictures;
+    AddedColors colors;
+    AddedFonts fonts;
+
+    /// True when there are more words around the rows, or the cells can have other places, than in
+    /// a document without additions.
+    bool hasLayout() const { return page != PageAdditions() || !rows.empty() || !spans.empty(); }
 };
 
 }  // namespace quorvane

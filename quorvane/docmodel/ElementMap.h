@@ -20,6 +20,10 @@ public:
     /// The element's value, made if it has none.
     Value& operator[](const void* element) { return values_[element]; }
 
+    void set(const void* element, Value value) {
+        values_.insert_or_assign(element, std::move(value));
+    }
+
     void erase(const void* element) noexcept { values_.erase(element); }
 
     /// Gives the value of one element, if it has one, to another that has none.

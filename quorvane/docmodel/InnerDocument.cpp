@@ -1,5 +1,6 @@
 #include "quorvane/docmodel/InnerDocument.h"
 
+#include <span>
 #include <utility>
 
 #include "quorvane/base/text/StringOutput.h"
@@ -58,7 +59,7 @@ InnerDocument::InnerDocument(Platform& platform)
 
 void InnerDocument::commit(const std::string& path) {
     refuseWhileWriting();
-    checkAdditions();
+    checkLayout();
     std::optional<RtfError> failure;
     if (streams()) {
         failure = stream(path);
@@ -79,7 +80,7 @@ void InnerDocument::commit(const std::string& path) {
 const std::string& InnerDocument::contents() {
     refuseWhileWriting();
     keepsText_ = true;
-    checkAdditions();
+    checkLayout();
     if (refreshIfChanged("Contents") && textState_ == TextState::Written) {
         keepText();
     }
@@ -90,7 +91,7 @@ void InnerDocument::refresh() {
     refuseWhileWriting();
     keepsText_ = true;
     changed_ = true;
-    checkAdditions();
+    checkLayout();
     refreshIfChanged("Refresh");
 }
 
@@ -127,19 +128,20 @@ void InnerDocument::render(TableRendering& rendering) {
     TextOutput& out = rendering.out;
     out << "{";
     header_.render(out);
-    fontTable_.render(out);
-    colorTable_.render(out);
+    const DocumentAdditions* additions = memory().additions.get();
+    fontTable_.render(out, additions ? additions->fonts.entries() : std::span<const std::string>());
+    colorTable_.render(out, additions ? additions->colors.list() : std::span<const RgbColor>());
     styleSheet_->render(out);
     format_->render(out);
-    if (memory().additions) {
-        renderWithAdditions(rendering);
+    if (hasLayout()) {
+        renderLayout(rendering);
     } else {
         body_.render(rendering);
     }
     out << "}";
 }
 
-void InnerDocument::renderWithAdditions(TableRendering& rendering) {
+void InnerDocument::renderLayout(TableRendering& rendering) {
     const InnerRows& rows = inner(*body_.TableRows());
     const LaidOutRows laidOut(rows, *this);
     PageLines lines(rendering, *format_);
@@ -149,11 +151,38 @@ void InnerDocument::renderWithAdditions(TableRendering& rendering) {
 }
 
 // Finds what rendering could not write, before it begins.
-void InnerDocument::checkAdditions() {
-    if (changed_ && memory().additions) {
+void InnerDocument::checkLayout() {
+    if (changed_ && hasLayout()) {
         LaidOutRows(inner(*body_.TableRows()), *this).check();
         TextAreaWidth();
     }
+}
+
+bool InnerDocument::hasLayout() const {
+    return memory().additions && memory().additions->hasLayout();
+}
+
+tColorIndex InnerDocument::addColor(RgbColor color) {
+    // Made before the change, of which it is no part.
+    AddedColors& colors = memory().makeAdditions().colors;
+    std::optional<std::int32_t> number = colors.number(color);
+    if (!number) {
+        beforeChange();
+        number = colors.add(color);
+        markChanged();
+    }
+    return static_cast<tColorIndex>(*number);
+}
+
+std::int32_t InnerDocument::addFont(std::string_view name) {
+    AddedFonts& fonts = memory().makeAdditions().fonts;
+    std::optional<std::int32_t> number = fonts.number(name);
+    if (!number) {
+        beforeChange();
+        number = fonts.add(name);
+        markChanged();
+    }
+    return *number;
 }
 
 const PageAdditions& InnerDocument::page() const noexcept {
@@ -174,7 +203,7 @@ std::optional<RtfError> InnerDocument::stream(const std::string& path) {
         const BeingWritten here(textState_);
         render(rendering);
         if (text.waits() && rendering.inlineStyles.keepsItsMemory() && styleSheet_->keepsNames() &&
-            !memory().additions) {
+            !hasLayout()) {
             text.begin();
             render(rendering);
         }

@@ -35,6 +35,8 @@ public:
     const PageAdditions& page() const noexcept;
     template <class Setting>
     void set(Setting PageAdditions::*setting, Setting value);
+    tColorIndex addColor(RgbColor color);
+    std::int32_t addFont(std::string_view name);
     // True when the document has a short text, and has it in memory.
     bool holdsShortText() const noexcept;
 
@@ -53,12 +55,13 @@ private:
     ~InnerDocument() override = default;
 
     void initAllGroups();
-    void checkAdditions();
+    bool hasLayout() const;
+    void checkLayout();
     bool refreshIfChanged(const char* procedure);
     void render();
     void renderInto(std::string& rtf);
     void render(TableRendering& rendering);
-    void renderWithAdditions(TableRendering& rendering);
+    void renderLayout(TableRendering& rendering);
     bool streams() const noexcept;
     std::optional<RtfError> stream(const std::string& path);
     void keepText() override;

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "quorvane/docmodel/picture/renderPicture.h"
 #include "quorvane/rtfgroups/GTextMarkedFields.h"
 
 namespace quorvane {
@@ -57,6 +58,9 @@ void InnerParagraph::operator delete(InnerParagraph* paragraph, std::destroying_
     if (paragraph->isMarked_) {
         memory.rareValues.erase(paragraph);
     }
+    if (paragraph->hasPicture_) {
+        memory.additions->pictures.erase(paragraph);
+    }
     paragraph->text_.clear(memory.pool);
     paragraph->~InnerParagraph();
     memory.pool.deallocate(paragraph, sizeof(InnerParagraph));
@@ -92,6 +96,23 @@ void InnerParagraph::mark(std::string fieldData) {
 void InnerParagraph::takeOver(const InnerParagraph& old) {
     text_.assign(old.text_.view(), memoryOf(*cell_).pool);
     style_ = old.style_;
+    if (old.hasPicture_) {
+        setPicture(*old.picture());
+    }
+}
+
+const RtfPicture* InnerParagraph::picture() const noexcept {
+    return hasPicture_ ? memoryOf(*cell_).additions->pictures.find(this) : nullptr;
+}
+
+void InnerParagraph::setPicture(std::optional<RtfPicture> picture) {
+    DocumentMemory& memory = memoryOf(*cell_);
+    if (picture) {
+        memory.makeAdditions().pictures.set(this, std::move(*picture));
+    } else if (hasPicture_) {
+        memory.additions->pictures.erase(this);
+    }
+    hasPicture_ = picture ? 1 : 0;
 }
 
 TableDocument* InnerParagraph::document() const noexcept {
@@ -104,7 +125,7 @@ void InnerParagraph::render(TableRendering& rendering, std::size_t position) con
         GTextMarkedFields::writeFieldStart(memoryOf(*cell_).rareValues.find(this)->second.fieldData,
                                            out);
     }
-    if (!text_.empty()) {
+    if (!text_.empty() || hasPicture_) {
         if (position >= 2) {
             out << "\r\n\\par\\pard\\plain\\intbl";
         } else {
@@ -118,6 +139,9 @@ void InnerParagraph::render(TableRendering& rendering, std::size_t position) con
             out << "\\cf" << foreColor_ << " ";
         }
         out << alignmentWord(align_);
+        if (hasPicture_) {
+            renderPicture(*picture(), out);
+        }
         const std::string_view text = text_.view();
         if (text.find('<') == std::string_view::npos) {
             out << text;

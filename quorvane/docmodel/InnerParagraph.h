@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <new>
+#include <optional>
 #include <string>
 
 #include "quorvane/base/collections/KeyedList.h"
@@ -28,6 +29,8 @@ public:
     void moveTo(InnerCell& cell) noexcept;
     void takeOver(const InnerParagraph& old);
     void mark(std::string fieldData);
+    const RtfPicture* picture() const noexcept;
+    void setPicture(std::optional<RtfPicture> picture);
     void fillForeColor(tColorIndex color) noexcept { foreColor_ = color; }
     void fillAlign(tCellAlign align) noexcept { align_ = align; }
     void render(TableRendering& rendering, std::size_t position) const;
@@ -47,10 +50,12 @@ private:
 
     // All references to the paragraph, that of its cell's list among them. While there are others,
     // the paragraph holds one reference to the cell for all of them.
-    std::uint32_t references_ : 30 = 0;
+    std::uint32_t references_ : 29 = 0;
     std::uint32_t isListed_ : 1 = 0;
     // A marked field, whose data is in `RareValues`.
     std::uint32_t isMarked_ : 1 = 0;
+    // A picture, which is in `DocumentAdditions`.
+    std::uint32_t hasPicture_ : 1 = 0;
     InnerCell* cell_;
     PooledText text_;
     SharedText style_;

@@ -97,6 +97,7 @@ struct GroupText {
     }
 };
 
+// Without the brace that closes it.
 constexpr GroupText groupText = [] {
     GroupText text;
     text.add("\r\n{\\colortbl;");
@@ -106,7 +107,6 @@ constexpr GroupText groupText = [] {
         text.add("\\blue", color.blue);
         text.add(";");
     }
-    text.add("}");
     return text;
 }();
 
@@ -151,8 +151,13 @@ std::optional<RgbColor> CRtfGrpColorTable::color(std::int32_t number) {
     return colors[number - 1].color;
 }
 
-void CRtfGrpColorTable::render(TextOutput& rtf) const {
+void CRtfGrpColorTable::render(TextOutput& rtf, std::span<const RgbColor> added) const {
     rtf << std::string_view(groupText.bytes.data(), groupText.size);
+    for (const RgbColor& color : added) {
+        rtf << "\r\n\\red" << std::int32_t{color.red} << "\\green" << std::int32_t{color.green}
+            << "\\blue" << std::int32_t{color.blue} << ";";
+    }
+    rtf << "}";
 }
 
 }  // namespace quorvane

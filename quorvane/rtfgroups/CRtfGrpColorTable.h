@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -36,8 +37,8 @@ public:
     /// empty for 0 and for a number that the table does not have.
     static std::string colorName(std::int32_t number);
 
-    /// Writes the group's text.
-    void render(TextOutput& rtf) const;
+    /// Writes the group's text, with these colors after those of the table.
+    void render(TextOutput& rtf, std::span<const RgbColor> added = {}) const;
 };
 
 }  // namespace quorvane

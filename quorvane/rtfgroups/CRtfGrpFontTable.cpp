@@ -65,10 +65,13 @@ std::string_view CRtfGrpFontTable::fontKey(std::int32_t number) {
     return isThere ? fonts[number].key : std::string_view();
 }
 
-void CRtfGrpFontTable::render(TextOutput& rtf) const {
+void CRtfGrpFontTable::render(TextOutput& rtf, std::span<const std::string> added) const {
     rtf << "\r\n{" << opening;
     for (const Font& font : fonts) {
         rtf << "\r\n" << font.entry;
+    }
+    for (const std::string& entry : added) {
+        rtf << "\r\n" << entry;
     }
     rtf << "}";
 }

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
+#include <string>
 #include <string_view>
 
 #include "quorvane/base/text/TextOutput.h"
@@ -27,8 +29,8 @@ public:
     /// Key of the font of that number; empty for a number that the table does not have.
     static std::string_view fontKey(std::int32_t number);
 
-    /// Writes the group's text.
-    void render(TextOutput& rtf) const;
+    /// Writes the group's text, with these entries after those of the table.
+    void render(TextOutput& rtf, std::span<const std::string> added = {}) const;
 };
 
 }  // namespace quorvane

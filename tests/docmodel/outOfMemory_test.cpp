@@ -4,6 +4,7 @@
 #include <string>
 
 #include "tests/docmodel/documentParts.h"
+#include "tests/docmodel/picture/pictureFiles.h"
 #include "tests/support/failingAllocations.h"
 
 namespace quorvane {
@@ -257,6 +258,40 @@ TEST(OutOfMemory, NoPageHeaderIsSet) {
         1, [=](RowDocument& parts) { parts.document->setPageHeader(text, "{page}", text); }, 4);
     expectUnchangedByFailures(
         1, [=](RowDocument& parts) { parts.document->setPageFooter("", "", text); }, 3);
+}
+
+TEST(OutOfMemory, NoPictureIsSet) {
+    expectUnchangedByFailures(
+        1,
+        [](RowDocument& parts) {
+            parts.cell(1)->Paragraphs()->Item(1)->setPicture(RtfPicture(twoPixels));
+        },
+        4);
+}
+
+TEST(OutOfMemory, NoColorAndNoFontIsAdded) {
+    const auto expectSameNumber = [](const auto& add) {
+        const auto prepare = [] { return std::make_unique<Subject>(1); };
+        const auto attempt = [&](const std::unique_ptr<Subject>& subject) {
+            add(*subject->parts.document);
+        };
+        const std::string before = prepare()->parts.document->Contents();
+        const auto check = [&](const std::unique_ptr<Subject>& subject) {
+            CRtfDoc& document = *subject->parts.document;
+            ASSERT_FALSE(document.Changed());
+            document.Refresh();
+            ASSERT_EQ(document.Contents(), before);
+            const auto number = add(document);
+            ASSERT_EQ(add(document), number);
+            ASSERT_NE(document.Contents(), before);
+        };
+
+        EXPECT_GE(failEachAllocation(prepare, attempt, check), 3);
+    };
+
+    expectSameNumber([](CRtfDoc& document) { return document.addColor(1, 2, 3); });
+    expectSameNumber(
+        [](CRtfDoc& document) { return document.addFont("a name that is not short"); });
 }
 
 TEST(OutOfMemory, TheStructureIsNotCleared) {

@@ -13,6 +13,7 @@
 #include "quorvane/base/text/codePage1252.h"
 #include "quorvane/docmodel/CRtfDoc.h"
 #include "tests/docmodel/documentParts.h"
+#include "tests/docmodel/picture/pictureFiles.h"
 #include "tests/support/FakePlatform.h"
 #include "tests/support/errorNumberOf.h"
 
@@ -305,6 +306,8 @@ const std::vector<NamedChange>& changes() {
          false},
         {"PageHeader", [](Subject& s) { s.document->setPageHeader("a", "b", "c"); }},
         {"PageFooter", [](Subject& s) { s.document->setPageFooter("a", "{page}", "c"); }},
+        {"addColor", [](Subject& s) { s.document->addColor(1, 2, 3); }},
+        {"addFont", [](Subject& s) { s.document->addFont("Name"); }},
         {"ClearStructure", [](Subject& s) { s.document->ClearStructure(); }},
         {"rows add", [](Subject& s) { s.document->TableRows()->add("key", 1); }},
         {"rows AddHead", [](Subject& s) { s.document->TableRows()->AddHead(); }},
@@ -358,6 +361,8 @@ const std::vector<NamedChange>& changes() {
         {"paragraph Style", [](Subject& s) { s.paragraph(1, 1)->setStyle("normal"); }},
         {"paragraph ForeColor", [](Subject& s) { s.paragraph(1, 1)->setForeColor(eRed); }},
         {"paragraph Align", [](Subject& s) { s.paragraph(1, 1)->setAlign(eRight); }},
+        {"paragraph Picture",
+         [](Subject& s) { s.paragraph(1, 1)->setPicture(RtfPicture(twoPixels)); }},
         {"paragraph asMarkedField", [](Subject& s) { s.paragraph(1, 1)->asMarkedField("data"); }},
     };
     return all;

@@ -8,6 +8,7 @@
 
 #include "quorvane/base/text/codePage1252.h"
 #include "quorvane/docmodel/CRtfDoc.h"
+#include "tests/docmodel/picture/pictureFiles.h"
 #include "tests/support/FakePlatform.h"
 #include "tests/support/failEachAllocation.h"
 
@@ -73,6 +74,15 @@ struct LongDocument {
             addParagraph(*paragraphs, "\xC3\xA9 <foreign=\xE2\x82\xAC " + number +
                                           "> <another style with a long name=\xC3\xA9>");
         }
+    }
+
+    /// What is written piece by piece without more memory.
+    void addColorsAndPictures() const {
+        document->TableRows()->Item(1)->TableCells()->Item(1)->setBackColor(
+            document->addColor(1, 2, 3));
+        document->addFont("a name that is not short");
+        document->TableRows()->Item(2)->TableCells()->Item(1)->Paragraphs()->Item(1)->setPicture(
+            RtfPicture(twoPixels));
     }
 
     /// Whatever else rendering takes memory for.
@@ -144,6 +154,28 @@ TEST(StreamingOutOfMemory, KeepsAnOlderFileWhenTheLayoutNeedsMemory) {
     };
 
     EXPECT_GE(failEachAllocation(prepare, attempt, check), 30);
+}
+
+TEST(StreamingOutOfMemory, KeepsAnOlderFileForPictures) {
+    const auto prepare = [] {
+        auto subject = std::make_unique<LongDocument>();
+        subject->addColorsAndPictures();
+        subject->platform.files["a.rtf"] = "older";
+        return subject;
+    };
+    const Subject undisturbed = prepare();
+    const std::string expected = codePage1252FromUtf8(undisturbed->document->Contents());
+    ASSERT_NE(expected.find("\\pngblip"), std::string::npos);
+    const auto attempt = [](const Subject& subject) { subject->document->Commit("a.rtf"); };
+    const auto check = [&](const Subject& subject) {
+        ASSERT_EQ(subject->platform.files["a.rtf"], "older");
+        ASSERT_EQ(subject->platform.count("deleteFile"), 0U);
+        subject->document->Commit("a.rtf");
+        ASSERT_EQ(subject->platform.files["a.rtf"], expected);
+        ASSERT_GE(subject->platform.count("write"), 2U);
+    };
+
+    EXPECT_GE(failEachAllocation(prepare, attempt, check), 20);
 }
 
 TEST(StreamingOutOfMemory, EndsANewFileWhenTheLayoutNeedsMemory) {

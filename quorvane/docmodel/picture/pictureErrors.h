@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+#include "quorvane/base/values/RtfError.h"
+
+namespace quorvane {
+
+/// Error 5 with this description.
+[[noreturn]] inline void refusePicture(const std::string& description) {
+    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), description));
+}
+
+}  // namespace quorvane

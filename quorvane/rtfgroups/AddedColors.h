@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <unordered_map>
+#include <vector>
+
+#include "quorvane/rtfgroups/CRtfGrpColorTable.h"
+
+namespace quorvane {
+
+/// The colors that a document has after those of every color table.
+class AddedColors {
+public:
+    /// Control words have 16-bit numbers in most readers.
+    static constexpr std::int32_t largestNumber = 32767;
+
+    /// The number of a color that a document has; nothing if it has to be added.
+    std::optional<std::int32_t> number(RgbColor color) const;
+    /// Adds a color that has no number, and returns the number that it gets. Error 5 if there are
+    /// too many.
+    std::int32_t add(RgbColor color);
+
+    std::span<const RgbColor> list() const noexcept { return colors_; }
+
+private:
+    std::vector<RgbColor> colors_;
+    // By their parts.
+    std::unordered_map<std::uint32_t, std::int32_t> numbers_;
+};
+
+}  // namespace quorvane
