@@ -38,7 +38,8 @@ comments do not count.
 ; quorvane 2
 { name: total; style-def: paragraph; bold }
 { name: amount; style-def: paragraph; align: right }
-)"},
+)",
+     .encoding = TextEncoding::Utf8},
 
     {.id = DiagnosticId::StrayText,
      .identifier = "stray-text",
@@ -60,7 +61,8 @@ Amounts
 { name: total; style-def: paragraph; bold }
 ; Amounts
 { name: amount; style-def: paragraph; align: right }
-)"},
+)",
+     .encoding = TextEncoding::Utf8},
 
     {.id = DiagnosticId::NamelessStyle,
      .identifier = "nameless-style",
@@ -77,7 +79,8 @@ The first item of a style in the extended language is `name` with one or more na
      .right = R"(
 ; quorvane 2
 { name: total; style-def: paragraph; bold }
-)"},
+)",
+     .encoding = TextEncoding::Utf8},
 
     {.id = DiagnosticId::BadStyleName,
      .identifier = "bad-style-name",
@@ -95,7 +98,8 @@ characters `-`, `_` and `.` follow. Any character beyond ASCII counts as a lette
      .right = R"(
 ; quorvane 2
 { name: total-bold; style-def: paragraph; bold }
-)"},
+)",
+     .encoding = TextEncoding::Utf8},
 
     {.id = DiagnosticId::StyleTwice,
      .identifier = "style-twice",
@@ -114,7 +118,8 @@ In the extended language no two styles of one kind have the same name. Case does
 ; quorvane 2
 { name: total; style-def: paragraph; bold }
 { name: subtotal; style-def: paragraph; italic }
-)"},
+)",
+     .encoding = TextEncoding::Utf8},
 
     {.id = DiagnosticId::MissingKind,
      .identifier = "missing-kind",
@@ -132,7 +137,8 @@ A style in the extended language says what it is for with `style-def: paragraph`
      .right = R"(
 ; quorvane 2
 { name: total; style-def: paragraph; bold }
-)"},
+)",
+     .encoding = TextEncoding::Utf8},
 
     {.id = DiagnosticId::BadKind,
      .identifier = "bad-kind",
@@ -151,7 +157,8 @@ for a `cell`. The words `s` and `cs` of the original language stand for the firs
      .right = R"(
 ; quorvane 2
 { name: total; style-def: character; bold }
-)"},
+)",
+     .encoding = TextEncoding::Utf8},
 
     {.id = DiagnosticId::UnknownItem,
      .identifier = "unknown-item",
@@ -169,7 +176,8 @@ or one of the formats such as `font` and `size`. Control words follow `rtf:`.
      .right = R"(
 ; quorvane 2
 { name: total; style-def: paragraph; size: 11pt }
-)"},
+)",
+     .encoding = TextEncoding::Utf8},
 
     {.id = DiagnosticId::MissingSemicolon,
      .identifier = "missing-semicolon",
@@ -187,7 +195,8 @@ of a font into quotes if it ends with a keyword: `font: "Arial Bold"`.
      .right = R"(
 ; quorvane 2
 { name: total; style-def: paragraph; font: Arial; size: 11pt }
-)"},
+)",
+     .encoding = TextEncoding::Utf8},
 
     {.id = DiagnosticId::ItemTwice,
      .identifier = "item-twice",
@@ -205,7 +214,8 @@ exclude each other.
      .right = R"(
 ; quorvane 2
 { name: total; style-def: paragraph; size: 12pt; bold }
-)"},
+)",
+     .encoding = TextEncoding::Utf8},
 
     {.id = DiagnosticId::MisplacedItem,
      .identifier = "misplaced-item",
@@ -223,7 +233,8 @@ and `space-before`. A cell style has only a `background`. Only a paragraph style
      .right = R"(
 ; quorvane 2
 { name: strong; style-def: character; bold }
-)"},
+)",
+     .encoding = TextEncoding::Utf8},
 
     {.id = DiagnosticId::MissingValue,
      .identifier = "missing-value",
@@ -240,7 +251,8 @@ In the extended language only items such as `bold`, which mean `yes` then, need 
      .right = R"(
 ; quorvane 2
 { name: total; style-def: paragraph; font: Arial }
-)"},
+)",
+     .encoding = TextEncoding::Utf8},
 
     {.id = DiagnosticId::BadItemValue,
      .identifier = "bad-item-value",
@@ -258,7 +270,8 @@ as `11pt` or `5mm`; a color by its name or as `#1f4e79`; one of a few words.
      .right = R"(
 ; quorvane 2
 { name: total; style-def: paragraph; size: 11pt }
-)"},
+)",
+     .encoding = TextEncoding::Utf8},
 
     {.id = DiagnosticId::MissingStyle,
      .identifier = "missing-style",
@@ -278,7 +291,8 @@ stylesheet.
 ; quorvane 2
 { name: total; style-def: paragraph; based-on: amount; bold }
 { name: amount; style-def: paragraph; align: right }
-)"},
+)",
+     .encoding = TextEncoding::Utf8},
 
     {.id = DiagnosticId::StyleCircle,
      .identifier = "style-circle",
@@ -298,7 +312,8 @@ itself, not even through other styles.
 ; quorvane 2
 { name: total; style-def: paragraph; based-on: amount; bold }
 { name: amount; style-def: paragraph; align: right }
-)"},
+)",
+     .encoding = TextEncoding::Utf8},
 };
 
 }  // namespace quorvane
