@@ -15,9 +15,10 @@ inline constexpr DiagnosticRule extendedStyleSheetDiagnostics[] = {
      .message = extendedFaultText(ExtendedFault::BadCharacter),
      .title = "The stylesheet holds bytes that are not UTF-8, or control characters.",
      .explanation = R"(
-A stylesheet in the extended language is in UTF-8, and so is the description that it belongs to. It
-holds no control characters but tabs and line breaks. Save the file in UTF-8.
-)"},
+A stylesheet in the extended language is in UTF-8, whatever `--encoding` says. It holds no control
+characters but tabs and line breaks. Save the file in UTF-8.
+)",
+     .encoding = TextEncoding::Utf8},
 
     {.id = DiagnosticId::LoneBrace,
      .identifier = "lone-brace",
