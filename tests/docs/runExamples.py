@@ -64,10 +64,7 @@ def main():
                         sys.stdout.writelines(f"  {line.rstrip()}\n" for line in difflib.ndiff(
                             expected.splitlines(), output.splitlines()))
             elif file and "/" not in file:
-                is_original = (language in ("rtfspec", "rtfss")
-                               and not content.startswith("; quorvane 2\n"))
-                encoding = "cp1252" if is_original else "utf-8"
-                (folder / file).write_text(content, encoding)
+                (folder / file).write_text(content, "utf-8")
     if runs == 0:
         sys.exit(f"{page.name} has no examples to run.")
     if failures:
