@@ -180,7 +180,9 @@ Hint placeHint(const ExtendedViolation& violation) {
 Hint extendedHint(const ExtendedViolation& violation, std::span<const std::string_view> names) {
     switch (violation.fault) {
         case ExtendedFault::BadCharacter:
-            return "save the file in UTF-8";
+            return static_cast<unsigned char>(violation.part.front()) < 0x80
+                       ? "leave it out"
+                       : "save the file in UTF-8";
         case ExtendedFault::LoneBrace:
             return violation.part == "{" ? "its } is missing" : "its { is missing";
         case ExtendedFault::StrayText:

@@ -86,6 +86,13 @@ TEST(CheckOfAnExtendedSheet, NamesTheStyleThatWasMeant) {
                 ElementsAre("4:40 missing-style: did you mean amount? => amount"));
 }
 
+TEST(CheckOfAnExtendedSheet, SaysWhatToDoAboutCharactersThatCannotBeThere) {
+    EXPECT_THAT(diagnosticsOf("{ name: a; style-def: s }\n; \x07"),
+                ElementsAre("3:3 bad-character: leave it out"));
+    EXPECT_THAT(diagnosticsOf("{ name: a; style-def: s }\n; \xE9"),
+                ElementsAre("3:3 bad-character: save the file in UTF-8"));
+}
+
 TEST(CheckOfAnExtendedSheet, ReportsASheetWithoutStyles) {
     EXPECT_THAT(diagnosticsOf("; nothing yet\n"),
                 ElementsAre("1:1 no-styles: write styles such as { name: ...; style-def: "
