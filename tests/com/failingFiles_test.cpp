@@ -211,7 +211,7 @@ protected:
         cli::FormatOptions formatted;
         formatted.files = {pathOf("a.rtfspec")};
         status = cli::FormatJob(
-                     formatted, [](const std::string&) {}, teller())
+                     formatted, [](const std::string&, TextEncoding) {}, teller())
                      .run();
     }
 

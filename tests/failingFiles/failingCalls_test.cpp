@@ -225,7 +225,7 @@ protected:
         cli::FormatOptions formatted;
         formatted.files = {folder / "a.rtfspec"};
         status = cli::FormatJob(
-                     formatted, [](const std::string&) {}, teller())
+                     formatted, [](const std::string&, TextEncoding) {}, teller())
                      .run();
     }
 
