@@ -19,7 +19,8 @@ constexpr const char* renderFooter =
     R"(A description (.rtfspec) is a text file in UTF-8 or Windows-1252; - is standard
 input. Unless --encoding says which, a file that begins with a byte order mark
 of UTF-8, or that is UTF-8 and not plain ASCII, is in UTF-8. So it is for the
-stylesheet.
+stylesheet. If the first line is "; quorvane 2", the file is in the extended
+language, and in UTF-8.
 
 Unless --output or --output-dir is given, a document is written next to its
 description, with the extension rtf. The document of standard input goes to
