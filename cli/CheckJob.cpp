@@ -18,7 +18,6 @@
 #include "cli/unifiedDiff.h"
 #include "cli/utf8Path.h"
 #include "quorvane/base/platform/fileReplacement.h"
-#include "quorvane/base/text/sourceEncoding.h"
 #include "quorvane/diagnostics/description/DescriptionCheck.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
 #include "quorvane/diagnostics/engine/withoutIgnored.h"
@@ -106,7 +105,7 @@ ExitStatus CheckJob::run() {
 void CheckJob::checkStyles(const std::string& file) {
     try {
         const std::string given = platform_.readFile(file);
-        const TextEncoding encoding = sourceEncodingOf(given, options_.encoding);
+        const TextEncoding encoding = encodingOf(given, options_.encoding);
         const auto check = [&](std::string_view bytes) {
             if (std::optional<Diagnostic> unreadable = findUnreadableText(bytes, encoding)) {
                 return std::vector{*std::move(unreadable)};
@@ -181,7 +180,7 @@ void CheckJob::checkText(const std::string& file, std::string_view bytes, bool i
     const CheckedLanguage language = languageOf(bytes, file);
     const TextEncoding encoding = language == CheckedLanguage::Rtf
                                       ? TextEncoding::Windows1252
-                                      : sourceEncodingOf(bytes, options_.encoding);
+                                      : encodingOf(bytes, options_.encoding);
     reportText(file, bytes, encoding, isStream, [&](std::string_view text) {
         return diagnosticsOf(file, text, language, encoding);
     });

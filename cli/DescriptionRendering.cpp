@@ -6,7 +6,6 @@
 #include "cli/RenderOptions.h"
 #include "cli/fileFailure.h"
 #include "cli/process.h"
-#include "quorvane/base/text/sourceEncoding.h"
 #include "quorvane/docmodel/CRtfTableRows.h"
 #include "quorvane/driver/driverErrors.h"
 #include "quorvane/driver/picturesBeside.h"
@@ -105,7 +104,7 @@ std::optional<std::string> DescriptionRendering::readDescription() {
     const std::string& path = assignment_.description;
     try {
         std::string bytes = readBytes(path);
-        encoding_ = sourceEncodingOf(bytes, manner_.encoding);
+        encoding_ = encodingOf(bytes, manner_.encoding);
         if (!report_.passBytes(inputName(path), bytes, encoding_)) {
             status_ = std::max(status_, ExitStatus::ContentErrors);
             return std::nullopt;

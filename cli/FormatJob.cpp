@@ -13,7 +13,6 @@
 #include "cli/process.h"
 #include "cli/unifiedDiff.h"
 #include "quorvane/base/platform/fileReplacement.h"
-#include "quorvane/base/text/sourceEncoding.h"
 #include "quorvane/diagnostics/languageOf.h"
 #include "quorvane/diagnostics/textFile.h"
 #include "quorvane/formatting/formatStyleSheet.h"
@@ -85,7 +84,7 @@ ExitStatus FormatJob::formatFile(const std::string& file) {
 ExitStatus FormatJob::format(const std::string& file) {
     const bool isStream = file == standardStream;
     const std::string bytes = isStream ? readStandardInput() : platform_.readFile(file);
-    const TextEncoding encoding = sourceEncodingOf(bytes, options_.encoding);
+    const TextEncoding encoding = encodingOf(bytes, options_.encoding);
     const std::string canonical = formatted(file, bytes, encoding);
     if (options_.check || options_.diff) {
         if (canonical == bytes) {

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "cli/locatedErrors.h"
-#include "quorvane/base/text/sourceEncoding.h"
 #include "quorvane/diagnostics/description/DescriptionCheck.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
@@ -87,7 +86,7 @@ RenderReport::RenderReport(const RenderReport& other, const RenderReceivers& rec
 }
 
 bool RenderReport::passStyleSheet(const std::string& name, const std::string& bytes) {
-    const TextEncoding encoding = sourceEncodingOf(bytes, options_.encoding);
+    const TextEncoding encoding = encodingOf(bytes, options_.encoding);
     styleSheet_.emplace(StyleSheet{name, bytes, encoding});
     const FileWindow window = windowOf(bytes, encoding);
     if (const std::optional<Diagnostic> unreadable = findUnreadableText(bytes, encoding)) {

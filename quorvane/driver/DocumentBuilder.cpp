@@ -632,9 +632,8 @@ Value DocumentBuilder::markedField(const Leaf& leaf) const {
 
 tColorIndex DocumentBuilder::color(const Leaf& leaf) {
     if (dialect_.values.areExtended) {
-        if (const auto components = colorComponents(leaf.text)) {
-            const auto [red, green, blue] = *components;
-            return document_.addColor(red, green, blue);
+        if (const std::optional<RgbColor> color = colorComponents(leaf.text)) {
+            return document_.addColor(color->red, color->green, color->blue);
         }
     }
     return required(dialect_.vocabulary.colorOf(leaf), leaf);

@@ -10,6 +10,7 @@
 #include "quorvane/base/values/units.h"
 #include "quorvane/driver/LeafError.h"
 #include "quorvane/rtf/RtfLexer.h"
+#include "quorvane/stylesheet/StyleValue.h"
 
 namespace quorvane {
 
@@ -68,23 +69,14 @@ bool endsInSymbol(std::string_view text) {
     return false;
 }
 
-int hexDigit(char character) {
-    constexpr std::string_view digits = "0123456789abcdef";
-    const std::size_t found = digits.find(lowerCase(std::string_view(&character, 1)));
-    return found == nowhere ? -1 : static_cast<int>(found);
-}
-
 }  // namespace
 
 std::int32_t lengthOf(std::string_view text) {
-    const std::optional<NumberWithUnit> length = readNumberWithUnit(text);
-    const LengthUnit* const unit = !length                ? nullptr
-                                   : length->unit.empty() ? &twipUnit
-                                                          : lengthUnitOf(length->unit);
-    if (!unit || !fitsInLong(length->number * unit->twips)) {
+    const std::optional<double> twips = lengthInTwips(text);
+    if (!twips || !fitsInLong(*twips)) {
         refuseLength(text);
     }
-    return roundToLong(length->number * unit->twips);
+    return roundToLong(*twips);
 }
 
 std::int32_t lengthFrom(std::int32_t min, std::string_view text) {
@@ -160,23 +152,15 @@ std::vector<ColumnWidth> columnWidths(std::string_view text) {
     return widths;
 }
 
-std::optional<std::array<std::uint8_t, 3>> colorComponents(std::string_view text) {
+std::optional<RgbColor> colorComponents(std::string_view text) {
     if (!text.starts_with('#')) {
         return std::nullopt;
     }
-    std::array<std::uint8_t, 3> components{};
-    constexpr std::size_t length = 7;
-    bool isColor = text.size() == length;
-    for (std::size_t i = 0; isColor && i < components.size(); ++i) {
-        const int high = hexDigit(text[1 + 2 * i]);
-        const int low = hexDigit(text[2 + 2 * i]);
-        isColor = high >= 0 && low >= 0;
-        components[i] = static_cast<std::uint8_t>(high * 16 + low);
-    }
-    if (!isColor) {
+    const std::optional<RgbColor> color = readColor(text);
+    if (!color) {
         refuse(text, " is not a color; write # and six hexadecimal digits, such as #1f4e79");
     }
-    return components;
+    return color;
 }
 
 std::array<std::string, 3> pageLineParts(std::string_view text) {

@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "quorvane/rtfgroups/CRtfGrpColorTable.h"
+
 namespace quorvane {
 
 // The values of the extended language. Each function throws a `LeafError` of the fault `WrongValue`
@@ -47,7 +49,7 @@ std::vector<ColumnWidth> columnWidths(std::string_view text);
 
 /// The red, green and blue of a color such as "#1f4e79"; nothing for a text that does not begin
 /// with "#".
-std::optional<std::array<std::uint8_t, 3>> colorComponents(std::string_view text);
+std::optional<RgbColor> colorComponents(std::string_view text);
 
 /// What stands at the left, in the center and at the right of the head or foot of a page: the parts
 /// of "left|center|right". Parts at the end can be missing.

@@ -32,14 +32,8 @@ constexpr double partsOfLine = 240;
 
 std::optional<std::string> lengthWords(std::string_view text, double shortest,
                                        std::string_view word) {
-    const std::optional<NumberWithUnit> length = readNumberWithUnit(text);
-    const LengthUnit* const unit = !length                ? nullptr
-                                   : length->unit.empty() ? &twipUnit
-                                                          : lengthUnitOf(length->unit);
-    if (!unit) {
-        return std::nullopt;
-    }
-    const double twips = std::round(length->number * unit->twips);
+    const std::optional<double> length = lengthInTwips(text);
+    const double twips = std::round(length.value_or(shortest - 1));
     if (!(twips >= shortest && twips <= longestStyleLength)) {
         return std::nullopt;
     }

@@ -97,8 +97,8 @@ TEST(ExtendedValues, ReadWidthsOfColumns) {
 }
 
 TEST(ExtendedValues, ReadColorsByTheirComponents) {
-    EXPECT_THAT(*colorComponents("#1f4e79"), ElementsAre(0x1F, 0x4E, 0x79));
-    EXPECT_THAT(*colorComponents("#ABCDEF"), ElementsAre(0xAB, 0xCD, 0xEF));
+    EXPECT_EQ(colorComponents("#1f4e79"), (RgbColor{0x1F, 0x4E, 0x79}));
+    EXPECT_EQ(colorComponents("#ABCDEF"), (RgbColor{0xAB, 0xCD, 0xEF}));
     EXPECT_FALSE(colorComponents("red"));
     EXPECT_EQ(wrong([] { colorComponents("#12345"); }),
               "\"#12345\" is not a color; write # and six hexadecimal digits, such as #1f4e79.");

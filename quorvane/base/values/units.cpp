@@ -41,4 +41,12 @@ std::optional<NumberWithUnit> readNumberWithUnit(std::string_view text) {
     return NumberWithUnit{*number, text.substr(0, end), trimWhitespace(text.substr(end))};
 }
 
+std::optional<double> lengthInTwips(std::string_view text) {
+    const std::optional<NumberWithUnit> length = readNumberWithUnit(text);
+    const LengthUnit* const unit = !length                ? nullptr
+                                   : length->unit.empty() ? &twipUnit
+                                                          : lengthUnitOf(length->unit);
+    return unit ? std::optional(length->number * unit->twips) : std::nullopt;
+}
+
 }  // namespace quorvane

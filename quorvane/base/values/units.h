@@ -36,4 +36,8 @@ struct NumberWithUnit {
 /// not begin with a number; an exponent counts as a part of the unit.
 std::optional<NumberWithUnit> readNumberWithUnit(std::string_view text);
 
+/// The twips of a length such as "12.5mm"; a number without a unit is one of twips. Nothing for any
+/// other text.
+std::optional<double> lengthInTwips(std::string_view text);
+
 }  // namespace quorvane
