@@ -145,8 +145,11 @@ void InnerCell::setBorder(BorderSide side, tBorderWidth width) {
 }
 
 CellSpan InnerCell::span() const {
+    if (!hasRareValues_) {
+        return {};
+    }
     const auto& additions = memoryOf(*this).additions;
-    const CellSpan* own = hasRareValues_ && additions ? additions->spans.find(this) : nullptr;
+    const CellSpan* own = additions ? additions->spans.find(this) : nullptr;
     return own ? *own : CellSpan();
 }
 

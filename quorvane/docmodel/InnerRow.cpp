@@ -114,9 +114,8 @@ void InnerRow::render(TableRendering& rendering) {
     rendering.out << rowEnd;
 }
 
-void InnerRow::render(TableRendering& rendering, std::span<const PlacedCell> places,
-                      HeadingForm form) {
-    const RowSettings& own = settings();
+void InnerRow::render(TableRendering& rendering, const RowSettings& own,
+                      std::span<const PlacedCell> places, HeadingForm form) {
     TextOutput& out = rendering.out;
     out << rowBegin;
     if (own.repeatsAsHeading && form == HeadingForm::RowProperty) {

@@ -26,8 +26,10 @@ public:
     void takeOver(InnerRow& old);
     const RowSettings& settings() const noexcept;
     void render(TableRendering& rendering);
-    /// Writes the row with its settings, and its cells at these places.
-    void render(TableRendering& rendering, std::span<const PlacedCell> places, HeadingForm form);
+    /// Writes the row with its settings, which the caller has looked up, and its cells at these
+    /// places.
+    void render(TableRendering& rendering, const RowSettings& own,
+                std::span<const PlacedCell> places, HeadingForm form);
 
 private:
     friend class CRtfTableRow;

@@ -24,30 +24,31 @@ void LaidOutRows::check() const {
     std::size_t position = 0;
     for (const InnerRow* row : rows_) {
         ++position;
-        if (position > headings_ && row->settings().repeatsAsHeading) {
+        const RowSettings& settings = row->settings();
+        if (position > headings_ && settings.repeatsAsHeading) {
             raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
                            "Row " + std::to_string(position) +
                                " cannot repeat as a heading, because row " +
                                std::to_string(position - 1) + " does not."));
         }
-        if (const std::string_view end = endsBefore(*row, position); !end.empty()) {
+        if (const std::string_view end = endsBefore(settings, position); !end.empty()) {
             layout.endPart(end);
         }
-        layout.place(*row);
+        layout.place(*row, settings);
     }
     layout.endPart("the table");
 }
 
 // What ends with the row before this one; empty if nothing does.
-std::string_view LaidOutRows::endsBefore(const InnerRow& row, std::size_t position) const {
+std::string_view LaidOutRows::endsBefore(const RowSettings& settings, std::size_t position) const {
     if (headings_ > 0 && position == headings_ + 1) {
         return "the heading";
     }
-    return startsPage(row, position) ? "a page" : "";
+    return startsPage(settings, position) ? "a page" : "";
 }
 
-bool LaidOutRows::startsPage(const InnerRow& row, std::size_t position) const {
-    return position > headings_ + 1 && row.settings().startsPage;
+bool LaidOutRows::startsPage(const RowSettings& settings, std::size_t position) const {
+    return position > headings_ + 1 && settings.startsPage;
 }
 
 void LaidOutRows::renderHeading(TableRendering& rendering) const {
@@ -57,7 +58,8 @@ void LaidOutRows::renderHeading(TableRendering& rendering) const {
         if (++position > headings_) {
             return;
         }
-        row->render(rendering, layout.place(*row), form_);
+        const RowSettings& settings = row->settings();
+        row->render(rendering, settings, layout.place(*row, settings), form_);
     }
 }
 
@@ -69,7 +71,8 @@ void LaidOutRows::renderBody(TableRendering& rendering) const {
         if (position <= headings_ && form_ == HeadingForm::PageHeader) {
             continue;
         }
-        if (startsPage(*row, position)) {
+        const RowSettings& settings = row->settings();
+        if (startsPage(settings, position)) {
             // LibreOffice starts a page before a paragraph, not within a table. So the table ends,
             // and one of the same columns follows.
             rendering.out << "\r\n\\pard\\plain\\pagebb\\fs2\\par";
@@ -77,7 +80,7 @@ void LaidOutRows::renderBody(TableRendering& rendering) const {
                 renderHeading(rendering);
             }
         }
-        row->render(rendering, layout.place(*row), form_);
+        row->render(rendering, settings, layout.place(*row, settings), form_);
         rendering.out.setProgress(position, rows_.count());
     }
 }

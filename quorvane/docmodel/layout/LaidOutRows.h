@@ -27,8 +27,8 @@ public:
     void renderBody(TableRendering& rendering) const;
 
 private:
-    bool startsPage(const InnerRow& row, std::size_t position) const;
-    std::string_view endsBefore(const InnerRow& row, std::size_t position) const;
+    bool startsPage(const RowSettings& settings, std::size_t position) const;
+    std::string_view endsBefore(const RowSettings& settings, std::size_t position) const;
 
     const InnerRows::List& rows_;
     TableDocument& document_;

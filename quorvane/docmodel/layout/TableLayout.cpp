@@ -18,7 +18,7 @@ std::string columnNames(std::int64_t first, std::int64_t last) {
 
 }  // namespace
 
-std::span<const PlacedCell> TableLayout::place(const InnerRow& row) {
+std::span<const PlacedCell> TableLayout::place(const InnerRow& row, const RowSettings& settings) {
     ++row_;
     cell_ = 0;
     taken_ = 0;
@@ -26,7 +26,7 @@ std::span<const PlacedCell> TableLayout::place(const InnerRow& row) {
     std::swap(above_, open_);
     open_.clear();
     placedFromAbove_ = 0;
-    if (useColumns(row)) {
+    if (useColumns(row, settings)) {
         placeInColumns(row);
     } else {
         placeWithoutColumns(row);
@@ -44,12 +44,8 @@ void TableLayout::endPart(std::string_view whatEnds) const {
     }
 }
 
-CellSpan TableLayout::spanOf(const InnerCell& cell) const {
-    return cell.span();
-}
-
-bool TableLayout::useColumns(const InnerRow& row) {
-    const std::vector<std::int32_t>& own = row.settings().columnWidths;
+bool TableLayout::useColumns(const InnerRow& row, const RowSettings& settings) {
+    const std::vector<std::int32_t>& own = settings.columnWidths;
     const std::vector<std::int32_t>& widths =
         own.empty() ? document_.memory().additions->page.columnWidths : own;
     if (!widths.empty()) {
@@ -72,7 +68,7 @@ std::int64_t TableLayout::columnsTaken(const InnerRow& row) const {
         count += span.columns;
     }
     for (const InnerCell* cell : row.list()) {
-        count += spanOf(*cell).columns;
+        count += cell->span().columns;
     }
     return count;
 }
@@ -99,7 +95,7 @@ void TableLayout::placeInColumns(const InnerRow& row) {
 }
 
 void TableLayout::placeCell(InnerCell& cell) {
-    const CellSpan span = spanOf(cell);
+    const CellSpan span = cell.span();
     const std::int64_t last = taken_ + span.columns;
     if (last > columns_.count()) {
         fail(cellName() + " would stand in " + columnNames(taken_ + 1, last) +

@@ -22,8 +22,9 @@ class TableLayout {
 public:
     explicit TableLayout(TableDocument& document) : document_(document) {}
 
-    /// Places the cells of the next row. The result is valid until the next call.
-    std::span<const PlacedCell> place(const InnerRow& row);
+    /// Places the cells of the next row, which has these settings. The result is valid until the
+    /// next call.
+    std::span<const PlacedCell> place(const InnerRow& row, const RowSettings& settings);
 
     /// Ends a part of the table that a cell cannot leave. What ends there is a part of the message.
     void endPart(std::string_view whatEnds) const;
@@ -40,8 +41,7 @@ private:
         std::int64_t row;
     };
 
-    CellSpan spanOf(const InnerCell& cell) const;
-    bool useColumns(const InnerRow& row);
+    bool useColumns(const InnerRow& row, const RowSettings& settings);
     std::int64_t columnsTaken(const InnerRow& row) const;
     void placeWithoutColumns(const InnerRow& row);
     void placeInColumns(const InnerRow& row);
