@@ -69,12 +69,12 @@ TEST(ExtendedStyleSheets, KeepTheirColorsWhenThoseOfTheDocumentAreRemoved) {
     const CellDocument parts({"text"});
     parts.document->setExtendedStyleSheets(true);
     parts.document->LoadStyleSheetFromMemmory(sheet);
-    EXPECT_EQ(parts.document->addColor(1, 2, 3), 59);
+    EXPECT_EQ(parts.document->addColor(1, 2, 3), 60);
     EXPECT_EQ(parts.document->addFont("Other"), 19);
     parts.document->ClearStructure();
 
     EXPECT_EQ(parts.document->addColor(0x1F, 0x4E, 0x79), 58);
-    EXPECT_EQ(parts.document->addColor(4, 5, 6), 59);
+    EXPECT_EQ(parts.document->addColor(4, 5, 6), 60);
     EXPECT_EQ(parts.document->addFont("Third"), 19);
 }
 
