@@ -10,6 +10,14 @@
 
 namespace quorvane {
 
+namespace {
+
+std::string_view firstLineOf(std::string_view value) {
+    return value.substr(0, value.find_first_of("\r\n"));
+}
+
+}  // namespace
+
 std::vector<SourceLine> repairLines(const std::vector<SourceLine>& lines, const Dialect& dialect,
                                     DescriptionRecovery* recovery) {
     const RepairWords& words = dialect.repair;
@@ -87,11 +95,7 @@ void DescriptionParser::readLeaf(const SourceLine& line, const DescriptionLine& 
     if (isMisplaced) {
         rejectPlace(line, NodeKind::None, NodeKind::None);
     }
-    const bool isUnclosed = beginsBlock(parts.value) && !endsBlock(parts.value);
-    if (isUnclosed) {
-        rejectUnclosed(line, parts.value);
-    }
-    addLeaf(line, parts, isMisplaced || isUnclosed);
+    addLeaf(line, parts, !isSoundBlock(line, parts) || isMisplaced);
 }
 
 void DescriptionParser::addLeaf(const SourceLine& line, const DescriptionLine& parts,
@@ -299,10 +303,30 @@ void DescriptionParser::rejectPlace(const SourceLine& line, NodeKind kind, NodeK
 }
 
 void DescriptionParser::rejectUnclosed(const SourceLine& line, std::string_view value) {
-    const std::string_view firstLine = value.substr(0, value.find_first_of("\r\n"));
     reject({.fault = DriverFault::UnclosedValue,
             .error = driverError(DriverFault::UnclosedValue, {}, line.number),
-            .part = firstLine});
+            .part = firstLineOf(value)});
+}
+
+/// False for a value of several lines that does not end, or that its key cannot have.
+bool DescriptionParser::isSoundBlock(const SourceLine& line, const DescriptionLine& parts) {
+    if (!beginsBlock(parts.value)) {
+        return true;
+    }
+    if (!endsBlock(parts.value)) {
+        rejectUnclosed(line, parts.value);
+        return false;
+    }
+    if (dialect_.vocabulary.leafKey(parts.key).known != DescriptionKey::ParaText) {
+        const std::string reason = "Only the text of a paragraph can stand between " +
+                                   std::string(dialect_.marks.block) +
+                                   "; write the value without them, on one line";
+        reject({.fault = DriverFault::WrongValue,
+                .error = driverError(DriverFault::WrongValue, reason, line.number),
+                .part = firstLineOf(parts.value)});
+        return false;
+    }
+    return true;
 }
 
 bool DescriptionParser::beginsBlock(std::string_view value) const {

@@ -59,6 +59,7 @@ private:
     void rejectUnclosed(const SourceLine& line, std::string_view value);
     bool rejectsMisplaced() const;
     bool canStandHere(NodeKind kind) const;
+    bool isSoundBlock(const SourceLine& line, const DescriptionLine& parts);
     bool beginsBlock(std::string_view value) const;
     bool endsBlock(std::string_view value) const;
 

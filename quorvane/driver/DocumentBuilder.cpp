@@ -17,11 +17,12 @@
 #include "quorvane/docmodel/tableCollectionChanges.h"
 #include "quorvane/driver/DescriptionRules.h"
 #include "quorvane/driver/LeafError.h"
-#include "quorvane/driver/columnLayout.h"
 #include "quorvane/driver/driverErrors.h"
+#include "quorvane/driver/extendedPage.h"
 #include "quorvane/driver/extendedValues.h"
-#include "quorvane/driver/literalText.h"
+#include "quorvane/driver/soundLeaf.h"
 #include "quorvane/driver/unencodableCharacter.h"
+#include "quorvane/driver/withoutFullStop.h"
 #include "quorvane/rtf/escape.h"
 #include "quorvane/rtf/unicodeWords.h"
 
@@ -62,32 +63,7 @@ Enumeration required(std::optional<Enumeration> value, const Leaf& leaf) {
     return *value;
 }
 
-/// The leaf of a known key that can be applied; null when there is none.
-Leaf* soundLeafOf(DescriptionNode& node, DescriptionKey key) {
-    if (!contains(node.keys, key)) {
-        return nullptr;
-    }
-    const auto leaves = node.leaves();
-    const auto found = std::find_if(leaves.begin(), leaves.end(), [&](const Leaf& leaf) {
-        return leaf.key.known == key && !leaf.isFaulty;
-    });
-    return found == leaves.end() ? nullptr : &*found;
-}
-
 constexpr std::int32_t maxSpan = 63;
-
-HeadingForm headingForm(std::string_view text) {
-    if (text != "header" && text != "trhdr") {
-        throw LeafError(
-            DriverFault::WrongValue,
-            "\"" + std::string(text) + "\" is not a form of heading; write header or trhdr");
-    }
-    return text == "trhdr" ? HeadingForm::RowProperty : HeadingForm::PageHeader;
-}
-
-std::string_view withoutFullStop(std::string_view sentence) {
-    return sentence.substr(0, sentence.size() - (sentence.ends_with('.') ? 1 : 0));
-}
 
 /// A host that is shown an absorbed error may remove elements that are not finished.
 template <class Collection>
@@ -95,13 +71,6 @@ void requirePosition(const Collection& collection, std::int32_t position) {
     if (position > collection.Count()) {
         raise(RunTimeError::InvalidProcedureCall);
     }
-}
-
-/// What an error of a leaf is reported as, unless it knows it.
-DriverFault faultOf(const RtfError& error) {
-    return error.is(RunTimeError::DuplicateKey) ? DriverFault::TakenKey
-           : error.is(RunTimeError::Overflow)   ? DriverFault::Overflow
-                                                : DriverFault::Other;
 }
 
 }  // namespace
@@ -121,34 +90,13 @@ void DocumentBuilder::forEachLeaf(DescriptionNode& node, NodeKind kind, Apply ap
     for (; keys != 0; keys &= keys - 1) {
         Leaf& leaf = *byKey[static_cast<std::size_t>(std::countr_zero(keys))];
         if (!leaf.isFaulty && isEncodable(leaf)) {
-            applyTo(leaf, apply);
+            apply_(leaf, apply);
         }
     }
 }
 
-template <class Apply>
-void DocumentBuilder::applyTo(Leaf& leaf, Apply apply) {
-    try {
-        atLine(leaf.line, [&] { apply(leaf); });
-    } catch (const LeafError& error) {
-        reportLeaf(error.fault, error, leaf);
-    } catch (const RtfError& error) {
-        reportLeaf(faultOf(error), error, leaf);
-    }
-}
-
-void DocumentBuilder::reportLeaf(DriverFault fault, const RtfError& error, Leaf& leaf) {
-    hasFaults_ = true;
-    (receiver_ ? receiver_
-               : raiseViolation)({.fault = fault,
-                                  .error = error,
-                                  .part = leaf.text.substr(0, leaf.text.find_first_of("\r\n")),
-                                  .node = fault == DriverFault::TakenKey ? keyHolder_ : nullptr,
-                                  .leaf = &leaf});
-}
-
 /// Reports a character where there can be none beyond Windows-1252.
-bool DocumentBuilder::isEncodable(Leaf& leaf) const {
+bool DocumentBuilder::isEncodable(Leaf& leaf) {
     if (!dialect_.texts.writesUnicode || dialect_.texts.isLiteral) {
         return true;
     }
@@ -156,11 +104,10 @@ bool DocumentBuilder::isEncodable(Leaf& leaf) const {
     if (!character) {
         return true;
     }
-    (receiver_ ? receiver_ : raiseViolation)(
-        {.fault = DriverFault::Unencodable,
-         .error = driverError(DriverFault::Unencodable, *character, leaf.line),
-         .part = *character,
-         .leaf = &leaf});
+    apply_.report({.fault = DriverFault::Unencodable,
+                   .error = driverError(DriverFault::Unencodable, *character, leaf.line),
+                   .part = *character,
+                   .leaf = &leaf});
     return false;
 }
 
@@ -179,7 +126,7 @@ BuiltTable DocumentBuilder::build(DescriptionNode& doc) {
         requirePosition(*rows, ++position);
         applyRow(row);
     }
-    if (dialect_.values.areExtended && !hasFaults_) {
+    if (dialect_.values.areExtended && !apply_.hasFaults()) {
         checkLayout();
     }
     return std::move(table_);
@@ -195,13 +142,12 @@ void DocumentBuilder::checkLayout() {
             throw;
         }
         DescriptionNode& node = *table_.rows[index - 1].node;
-        (receiver_ ? receiver_ : raiseViolation)(
-            {.fault = DriverFault::WrongPlace,
-             .error = driverError(DriverFault::WrongPlace, withoutFullStop(error.description),
-                                  node.line),
-             .part = node.opener,
-             .node = &node,
-             .kind = NodeKind::Row});
+        apply_.report({.fault = DriverFault::WrongPlace,
+                       .error = driverError(DriverFault::WrongPlace,
+                                            withoutFullStop(error.description), node.line),
+                       .part = node.opener,
+                       .node = &node,
+                       .kind = NodeKind::Row});
     }
 }
 
@@ -212,34 +158,13 @@ void DocumentBuilder::applyDocument(DescriptionNode& doc) {
         document_.setPageNumberStart(dialect_.page->firstNumber);
     }
     if (dialect_.values.areExtended) {
-        clearMargins(doc);
+        clearMargins(document_, doc);
     }
     forEachLeaf(doc, NodeKind::Doc, [this](const Leaf& leaf) { applyDocLeaf(leaf); });
-    if (Leaf* const columns = soundLeafOf(doc, DescriptionKey::Columns)) {
-        applyTo(*columns, [this](const Leaf& leaf) { document_.setColumnWidths(columnsOf(leaf)); });
+    if (Leaf* const columns = soundLeaf(doc, DescriptionKey::Columns)) {
+        apply_(*columns,
+               [this](const Leaf& leaf) { document_.setColumnWidths(columns_.columnsOf(leaf)); });
     }
-}
-
-/// A margin is checked against the opposite one, which may not be the final one yet.
-void DocumentBuilder::clearMargins(const DescriptionNode& doc) {
-    const auto clear = [&](DescriptionKey key, void (CRtfDoc::*set)(std::int32_t)) {
-        if (contains(doc.keys, key)) {
-            (document_.*set)(1);
-        }
-    };
-    clear(DescriptionKey::LeftMargin, &CRtfDoc::setLeftMargin);
-    clear(DescriptionKey::RightMargin, &CRtfDoc::setRightMargin);
-    clear(DescriptionKey::TopMargin, &CRtfDoc::setTopMargin);
-    clear(DescriptionKey::BottomMargin, &CRtfDoc::setBottomMargin);
-}
-
-std::vector<std::int32_t> DocumentBuilder::columnsOf(const Leaf& leaf) const {
-    const std::vector<ColumnWidth> widths = columnWidths(leaf.text);
-    return columnLayout({widths.begin(), widths.end()}, columnSpace());
-}
-
-ColumnSpace DocumentBuilder::columnSpace() const {
-    return {document_.TextAreaWidth(), document_.PageWidth() - document_.LeftMargin()};
 }
 
 void DocumentBuilder::addRows(DescriptionNode& doc) {
@@ -294,39 +219,7 @@ void DocumentBuilder::applyDocLeaf(const Leaf& leaf) {
             setMargin(leaf, &CRtfDoc::setBottomMargin, &CRtfDoc::BottomMargin);
             break;
         default:
-            applyPageLeaf(leaf);
-            break;
-    }
-}
-
-/// The keys of the document that only the extended language has.
-void DocumentBuilder::applyPageLeaf(const Leaf& leaf) {
-    switch (leaf.key.known) {
-        case DescriptionKey::Page: {
-            const PageSize size = pageSizeNamed(leaf.text);
-            document_.setPageWidth(size.width);
-            document_.setPageHeight(size.height);
-            break;
-        }
-        case DescriptionKey::Header: {
-            const auto [left, center, right] = pageLineParts(leaf.text);
-            document_.setPageHeader(left, center, right);
-            break;
-        }
-        case DescriptionKey::Footer: {
-            const auto [left, center, right] = pageLineParts(leaf.text);
-            document_.setPageFooter(left, center, right);
-            break;
-        }
-        case DescriptionKey::Heading:
-            document_.setHeadingForm(headingForm(leaf.text));
-            break;
-        case DescriptionKey::Fonts:
-            for (const std::string_view name : listedNames(leaf.text)) {
-                document_.addFont(name);
-            }
-            break;
-        default:
+            applyPageLeaf(document_, leaf);
             break;
     }
 }
@@ -360,14 +253,14 @@ void DocumentBuilder::refile(Collection& collection, Built& built, std::span<Bui
     try {
         built.element = collection.refile(built.element, key);
     } catch (const RtfError& error) {
-        if (receiver_ && error.is(RunTimeError::DuplicateKey)) {
+        if (apply_.goesOn() && error.is(RunTimeError::DuplicateKey)) {
             // An entry takes the position of the one that it replaces, so positions are those of
             // the nodes, unless a host removed an element meanwhile.
             const auto& list = inner(collection).list();
             const std::size_t position = list.positionOfIndex(key);
             const bool isSibling = position <= siblings.size() &&
                                    siblings[position - 1].element.get() == &list.at(position);
-            keyHolder_ = isSibling ? siblings[position - 1].node : nullptr;
+            apply_.setKeyHolder(isSibling ? siblings[position - 1].node : nullptr);
         }
         throw;
     }
@@ -376,7 +269,7 @@ void DocumentBuilder::refile(Collection& collection, Built& built, std::span<Bui
 void DocumentBuilder::applyRow(BuiltTable::Row& row) {
     forEachLeaf(*row.node, NodeKind::Row, [&](const Leaf& leaf) { applyRowLeaf(row, leaf); });
     if (dialect_.values.areExtended) {
-        applyWidths(row);
+        columns_.applyWidths(row, table_.cellsOf(row));
     }
     const Ref<CRtfTableCells> cells = row.element->TableCells();
     const std::span<BuiltTable::Cell> built = table_.cellsOf(row);
@@ -421,43 +314,11 @@ void DocumentBuilder::applyRowLeaf(BuiltTable::Row& row, const Leaf& leaf) {
             element.setStartsPage(yesOrNo(leaf.text));
             break;
         case DescriptionKey::Columns:
-            element.setColumnWidths(columnsOf(leaf));
+            element.setColumnWidths(columns_.columnsOf(leaf));
             break;
         default:
             break;
     }
-}
-
-/// Where cells have widths of their own, they are the columns of their row.
-void DocumentBuilder::applyWidths(BuiltTable::Row& row) {
-    std::vector<std::optional<ColumnWidth>> widths;
-    Leaf* first = nullptr;
-    for (const BuiltTable::Cell& cell : table_.cellsOf(row)) {
-        std::optional<ColumnWidth>& width = widths.emplace_back();
-        if (Leaf* const leaf = soundLeafOf(*cell.node, DescriptionKey::CellWidth)) {
-            first = first ? first : leaf;
-            applyTo(*leaf, [&](const Leaf&) { width = widthOf(row, cell, *leaf); });
-        }
-    }
-    if (first) {
-        applyTo(*first, [&](const Leaf&) {
-            row.element->setColumnWidths(columnLayout(widths, columnSpace()));
-        });
-    }
-}
-
-ColumnWidth DocumentBuilder::widthOf(const BuiltTable::Row& row, const BuiltTable::Cell& cell,
-                                     const Leaf& leaf) const {
-    constexpr KeySet spans = setOf({DescriptionKey::Span, DescriptionKey::Vspan});
-    if (!document_.ColumnWidths().empty() || contains(row.node->keys, DescriptionKey::Columns)) {
-        throw LeafError(DriverFault::WrongValue,
-                        "The columns give the cell its width; remove cell-width, or columns");
-    }
-    if ((cell.node->keys & spans) != 0) {
-        throw LeafError(DriverFault::WrongValue,
-                        "A cell that spans others has their width; give the widths with columns");
-    }
-    return columnWidth(leaf.text);
 }
 
 void DocumentBuilder::applyCell(CRtfTableCells& cells, BuiltTable::Cell& cell,
@@ -482,8 +343,7 @@ void DocumentBuilder::applyCell(CRtfTableCells& cells, BuiltTable::Cell& cell,
             }
         });
         if (dialect_.texts.isLiteral) {
-            setLiteralText(*paragraph.element, *paragraph.node);
-            setPicture(*paragraph.element, *paragraph.node);
+            literals_.fill(*paragraph.element, *paragraph.node);
         }
     }
 }
@@ -558,71 +418,6 @@ void DocumentBuilder::setText(CRtfParagraph& paragraph, const Leaf& leaf) const 
     } else {
         paragraph.setText(leaf.text);
     }
-}
-
-/// Raw control words come before the text, so that they can format it.
-void DocumentBuilder::setLiteralText(CRtfParagraph& paragraph, DescriptionNode& node) {
-    std::string rtf;
-    const auto append = [&](DescriptionKey key, auto text) {
-        if (Leaf* const leaf = soundLeafOf(node, key)) {
-            applyTo(*leaf, [&](const Leaf&) { rtf += text(*leaf); });
-        }
-    };
-    append(DescriptionKey::Rtf, [](const Leaf& leaf) {
-        // The blank ends a control word and is not shown.
-        return withUnicodeWords(rawRtf(leaf.text)) + (endsInControlWord(leaf.text) ? " " : "");
-    });
-    append(DescriptionKey::ParaText, [this](const Leaf& leaf) {
-        return literalText(shownText(leaf), [this](std::string_view name) {
-            return document_.GetCharacterStyle(name);
-        });
-    });
-    if (!rtf.empty()) {
-        paragraph.setText(rtf);
-    }
-}
-
-void DocumentBuilder::setPicture(CRtfParagraph& paragraph, DescriptionNode& node) {
-    std::int32_t width = 0;
-    std::int32_t height = 0;
-    const auto read = [&](DescriptionKey key, std::int32_t& size) {
-        if (Leaf* const leaf = soundLeafOf(node, key)) {
-            applyTo(*leaf, [&](const Leaf&) {
-                if (!contains(node.keys, DescriptionKey::Picture)) {
-                    throw LeafError(DriverFault::WrongValue, "There is no picture for this size");
-                }
-                size = lengthFrom(1, leaf->text);
-            });
-        }
-    };
-    read(DescriptionKey::PictureWidth, width);
-    read(DescriptionKey::PictureHeight, height);
-    Leaf* const leaf = soundLeafOf(node, DescriptionKey::Picture);
-    if (leaf && pictures_) {
-        applyTo(*leaf, [&](const Leaf&) {
-            paragraph.setPicture(pictureNamed(std::string(leaf->text), width, height));
-        });
-    }
-}
-
-RtfPicture DocumentBuilder::pictureNamed(const std::string& name, std::int32_t width,
-                                         std::int32_t height) {
-    const std::tuple key(name, width, height);
-    if (const auto read = picturesRead_.find(key); read != picturesRead_.end()) {
-        return read->second;
-    }
-    try {
-        return picturesRead_.try_emplace(key, pictures_(name), width, height).first->second;
-    } catch (const RtfError& error) {
-        throw LeafError(DriverFault::WrongPicture,
-                        name + ": " + std::string(withoutFullStop(error.description)));
-    }
-}
-
-/// The text of a leaf, whose value may go on over several lines.
-std::string DocumentBuilder::shownText(const Leaf& leaf) const {
-    const std::string_view mark = dialect_.marks.block;
-    return leaf.text.starts_with(mark) ? blockText(leaf.text, mark) : std::string(leaf.text);
 }
 
 /// The value of a marked field, whose contents become text.

@@ -253,6 +253,9 @@ TEST(ExtendedDescription, ReportsItsFirstErrorAndBuildsNothing) {
          "11: Nothing can stand outside doc; write it before the line doc)."},
         {"(doc|(r|(c|(p|(pt=\"\"\"|x)|p)|c)|r)|doc)",
          "6: The value that begins here does not end."},
+        {"(doc|(header=\"\"\"|a|\"\"\")|(r|(c|(p|(pt=x)|p)|c)|r)|doc)",
+         "3: Only the text of a paragraph can stand between \"\"\"; write the value without them, "
+         "on one line."},
         {"(doc|(r|(c|(p|(pt=x) ; comment|p)|c)|r)|doc)", "6: (pt=x) ; comment has a wrong syntax"},
         {"(doc|(r ; comment|(c|(p|(pt=x)|p)|c)|r)|doc)", "3: (r ; comment has a wrong syntax"},
         {"(doc|(page=a44)|(r|(c|(p|(pt=x)|p)|c)|r)|doc)",

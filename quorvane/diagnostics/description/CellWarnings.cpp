@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "quorvane/diagnostics/description/soundLeaf.h"
+#include "quorvane/driver/soundLeaf.h"
 #include "quorvane/diagnostics/text/colorContrast.h"
 #include "quorvane/diagnostics/text/textColors.h"
 #include "quorvane/rtfgroups/CRtfGrpColorTable.h"

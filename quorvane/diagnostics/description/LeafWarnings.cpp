@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "quorvane/diagnostics/description/nodeNouns.h"
-#include "quorvane/diagnostics/description/soundLeaf.h"
+#include "quorvane/driver/soundLeaf.h"
 #include "quorvane/diagnostics/text/htmlTags.h"
 #include "quorvane/diagnostics/text/rtfText.h"
 

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "quorvane/diagnostics/description/measureHints.h"
-#include "quorvane/diagnostics/description/soundLeaf.h"
+#include "quorvane/driver/soundLeaf.h"
 
 namespace quorvane {
 

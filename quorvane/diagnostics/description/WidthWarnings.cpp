@@ -12,7 +12,7 @@
 #include "quorvane/base/text/numberText.h"
 #include "quorvane/diagnostics/description/NullPlatform.h"
 #include "quorvane/diagnostics/description/measureHints.h"
-#include "quorvane/diagnostics/description/soundLeaf.h"
+#include "quorvane/driver/soundLeaf.h"
 
 namespace quorvane {
 

@@ -9,7 +9,7 @@
 #include "quorvane/diagnostics/description/PageWarnings.h"
 #include "quorvane/diagnostics/description/StyleUses.h"
 #include "quorvane/diagnostics/description/WidthWarnings.h"
-#include "quorvane/diagnostics/description/soundLeaf.h"
+#include "quorvane/driver/soundLeaf.h"
 
 namespace quorvane {
 

@@ -10,4 +10,8 @@ inline const Leaf* soundLeaf(const DescriptionNode& node, DescriptionKey key) {
     return leaf && !leaf->isFaulty ? leaf : nullptr;
 }
 
+inline Leaf* soundLeaf(DescriptionNode& node, DescriptionKey key) {
+    return const_cast<Leaf*>(soundLeaf(static_cast<const DescriptionNode&>(node), key));
+}
+
 }  // namespace quorvane
