@@ -7,6 +7,7 @@
 
 #include "quorvane/base/text/byteOrderMark.h"
 #include "quorvane/base/text/codePage1252.h"
+#include "quorvane/base/text/extendedMark.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/diagnostics/KnownStyles.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
@@ -102,10 +103,12 @@ std::optional<Diagnostic> findUnreadableText(std::string_view bytes, TextEncodin
         const SourceText source(bytes.substr(start), encoding);
         const Place place = source.place(*wrong - start, *wrong - start + 1);
         DiagnosticEngine engine([&](Diagnostic diagnostic) { found = std::move(diagnostic); });
-        engine.report(
-            DiagnosticId::NotUtf8, place,
-            {inHexadecimal(bytes[*wrong]), std::to_string(place.column)},
-            "save the file in UTF-8, or use --encoding windows-1252 if it is in Windows-1252");
+        engine.report(DiagnosticId::NotUtf8, place,
+                      {inHexadecimal(bytes[*wrong]), std::to_string(place.column)},
+                      isMarkedExtended(bytes)
+                          ? "save the file in UTF-8"
+                          : "save the file in UTF-8, or use --encoding windows-1252 if it is in "
+                            "Windows-1252");
     }
     return found;
 }

@@ -184,10 +184,10 @@ public:
     tColorIndex getCellStyleBackColor(std::string_view sName) const;
 
     /// Removes the rows and resets the page to its defaults, and with it the columns, the form of
-    /// the heading, the page header and the page footer. The stylesheet stays, as do added colors
-    /// and fonts, which its formats may use; and `Changed` keeps
-    /// its value. A host that holds the old rows can go on using them, but they are no longer
-    /// part of the document.
+    /// the heading, the page header and the page footer. Colors and fonts that `addColor` and
+    /// `addFont` added are removed. The stylesheet stays with its own, and `Changed` keeps its
+    /// value. A host that holds the old rows can go on using them, but they are no longer part of
+    /// the document.
     void ClearStructure();
 
     /// Sets a function that is called with every error that ends a procedure without being raised,

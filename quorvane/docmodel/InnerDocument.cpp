@@ -162,39 +162,42 @@ bool InnerDocument::hasLayout() const {
 }
 
 tColorIndex InnerDocument::addColor(RgbColor color) {
-    // Made before the change, of which it is no part.
-    AddedColors& colors = memory().makeAdditions().colors;
-    std::optional<std::int32_t> number = colors.number(color);
-    if (!number) {
-        beforeChange();
-        number = colors.add(color);
-        markChanged();
-    }
-    return static_cast<tColorIndex>(*number);
+    return static_cast<tColorIndex>(
+        numberIn(&DocumentAdditions::colors, color, TableUser::Document));
 }
 
 std::int32_t InnerDocument::addFont(std::string_view name) {
-    AddedFonts& fonts = memory().makeAdditions().fonts;
-    std::optional<std::int32_t> number = fonts.number(name);
-    if (!number) {
-        beforeChange();
-        number = fonts.add(name);
-        markChanged();
-    }
-    return *number;
+    return numberIn(&DocumentAdditions::fonts, name, TableUser::Document);
 }
 
-// Those of the stylesheet stay as long as it does.
 std::int32_t InnerDocument::colorNumber(const RgbColor& color) {
-    const std::int32_t number = addColor(color);
-    memory().makeAdditions().colors.keep(number);
-    return number;
+    return numberIn(&DocumentAdditions::colors, color, TableUser::StyleSheet);
 }
 
 std::int32_t InnerDocument::fontNumber(const std::string& name) {
-    const std::int32_t number = addFont(name);
-    memory().makeAdditions().fonts.keep(number);
-    return number;
+    return numberIn(&DocumentAdditions::fonts, name, TableUser::StyleSheet);
+}
+
+void InnerDocument::releaseNumbers() noexcept {
+    if (memory().additions) {
+        memory().additions->colors.release(TableUser::StyleSheet);
+        memory().additions->fonts.release(TableUser::StyleSheet);
+    }
+}
+
+template <class Table, class Entry>
+std::int32_t InnerDocument::numberIn(Table DocumentAdditions::*table, const Entry& entry,
+                                     TableUser user) {
+    // Made before the change, of which it is no part.
+    Table& entries = memory().makeAdditions().*table;
+    std::optional<std::int32_t> number = entries.number(entry);
+    if (!number) {
+        beforeChange();
+        number = entries.add(entry);
+        markChanged();
+    }
+    entries.use(user, *number);
+    return *number;
 }
 
 const PageAdditions& InnerDocument::page() const noexcept {
@@ -275,8 +278,8 @@ void InnerDocument::initAllGroups() {
     format_ = std::move(format);
     if (memory().additions) {
         memory().additions->page = {};
-        memory().additions->colors.clear();
-        memory().additions->fonts.clear();
+        memory().additions->colors.release(TableUser::Document);
+        memory().additions->fonts.release(TableUser::Document);
     }
 }
 

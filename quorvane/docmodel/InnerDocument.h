@@ -54,6 +54,7 @@ public:
     GError& errors() noexcept override { return errors_; }
     std::int32_t colorNumber(const RgbColor& color) override;
     std::int32_t fontNumber(const std::string& name) override;
+    void releaseNumbers() noexcept override;
 
 private:
     friend class CRtfDoc;
@@ -61,6 +62,8 @@ private:
     ~InnerDocument() override = default;
 
     void initAllGroups();
+    template <class Table, class Entry>
+    std::int32_t numberIn(Table DocumentAdditions::*table, const Entry& entry, TableUser user);
     bool hasLayout() const;
     bool refreshIfChanged(const char* procedure);
     void render();

@@ -37,7 +37,20 @@ RtfPicture::RtfPicture(std::string bytes, std::int32_t width, std::int32_t heigh
         refusePicture("The picture has " + std::to_string(bytes.size()) + " bytes. At most " +
                       std::to_string(largestFile) + " are possible.");
     }
-    const PictureHeader header = readPictureHeader(bytes);
+    bytes_ = std::make_shared<const std::string>(std::move(bytes));
+    setSize(width, height);
+}
+
+RtfPicture RtfPicture::resized(std::int32_t width, std::int32_t height) const {
+    refuseNegative(width, "wide");
+    refuseNegative(height, "high");
+    RtfPicture picture = *this;
+    picture.setSize(width, height);
+    return picture;
+}
+
+void RtfPicture::setSize(std::int32_t width, std::int32_t height) {
+    const PictureHeader header = readPictureHeader(*bytes_);
     const double naturalWidth = header.width * twipsPerInch / header.horizontalResolution;
     const double naturalHeight = header.height * twipsPerInch / header.verticalResolution;
     const double scale = width > 0 ? width / naturalWidth : height > 0 ? height / naturalHeight : 1;
@@ -46,7 +59,6 @@ RtfPicture::RtfPicture(std::string bytes, std::int32_t width, std::int32_t heigh
     isJpeg_ = header.format == PictureFormat::Jpeg;
     pixelWidth_ = header.width;
     pixelHeight_ = header.height;
-    bytes_ = std::make_shared<const std::string>(std::move(bytes));
 }
 
 }  // namespace quorvane

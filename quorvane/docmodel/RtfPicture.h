@@ -24,6 +24,10 @@ public:
     /// `largestFile` bytes, and a size below 0 or above `largestSize`. The description says which.
     explicit RtfPicture(std::string bytes, std::int32_t width = 0, std::int32_t height = 0);
 
+    /// Returns the same picture with another size, given as for the constructor. Error 5 for a
+    /// size below 0 or above `largestSize`.
+    RtfPicture resized(std::int32_t width, std::int32_t height) const;
+
     /// Returns the width and the height in twips, at least 1.
     std::int32_t Width() const noexcept { return width_; }
     std::int32_t Height() const noexcept { return height_; }
@@ -39,6 +43,8 @@ public:
     const std::string& Bytes() const noexcept { return *bytes_; }
 
 private:
+    void setSize(std::int32_t width, std::int32_t height);
+
     std::shared_ptr<const std::string> bytes_;
     bool isJpeg_ = false;
     std::int32_t pixelWidth_ = 0;

@@ -1,12 +1,17 @@
 #include "quorvane/driver/CRtfDriver.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "quorvane/base/text/LineReader.h"
 #include "quorvane/base/text/TextEncoding.h"
+#include "quorvane/base/text/byteOrderMark.h"
 #include "quorvane/base/text/codePage1252.h"
 #include "quorvane/base/text/extendedMark.h"
 #include "quorvane/base/text/textCase.h"
@@ -142,34 +147,42 @@ void CRtfDriver::AnalyseData(std::string_view text, const PictureSource& picture
 
 /// The first error ends the analysis: nothing is built from a description that is wrong.
 void CRtfDriver::analyzeExtended(std::string_view text, const PictureSource& pictures) {
-    const Dialect& dialect = extendedDialect();
-    const std::vector<SourceLine> lines = PreProcessRawData(
-        text.substr(bytesBeforeText(encodingOf(text, EncodingChoice::Utf8))), dialect.marks.block);
-    const bool isSound = step([&] {
-        const DescriptionFrame frame = frameOf(text, lines, dialect);
-        for (const Violation& violation : frameViolations(frame, text, lines)) {
-            raiseViolation(violation);
+    step([&] {
+        try {
+            buildExtended(afterByteOrderMark(text), pictures);
+        } catch (const RtfError&) {
+            // Before the handler of the event, which may run another analysis.
+            document_->ClearStructure();
+            throw;
         }
-        DescriptionTree tree(lines.size() / 2);
-        DescriptionParser(dialect).treeWalkerBuild(tree, lines);
-        DescriptionNode& doc = tree.root().child(documentNumber);
-        DescriptionRules(dialect, raiseViolation).docWalkerSyntax(doc);
-        DocumentBuilder(*document_, dialect, {}, pictures).build(doc);
     });
-    if (!isSound) {
-        document_->ClearStructure();
-    }
 }
 
-/// Returns false when the body ends with an error.
+void CRtfDriver::buildExtended(std::string_view text, const PictureSource& pictures) {
+    if (const std::optional<std::size_t> stray = findNotUtf8(text)) {
+        const std::string_view before = text.substr(0, *stray);
+        raise(driverError(DriverFault::WrongValue, "A byte of this line is not UTF-8",
+                          static_cast<int>(std::max<std::size_t>(lineCount(before), 1))));
+    }
+    const Dialect& dialect = extendedDialect();
+    const std::vector<SourceLine> lines = PreProcessRawData(text, dialect.marks.block);
+    const DescriptionFrame frame = frameOf(text, lines, dialect);
+    for (const Violation& violation : frameViolations(frame, text, lines)) {
+        raiseViolation(violation);
+    }
+    DescriptionTree tree(lines.size() / 2);
+    DescriptionParser(dialect).treeWalkerBuild(tree, lines);
+    DescriptionNode& doc = tree.root().child(documentNumber);
+    DescriptionRules(dialect, raiseViolation).docWalkerSyntax(doc);
+    DocumentBuilder(*document_, dialect, {}, pictures).build(doc);
+}
+
 template <class Body>
-bool CRtfDriver::step(Body&& body) {
+void CRtfDriver::step(Body&& body) {
     try {
         body();
-        return true;
     } catch (const RtfError& error) {
         report(error);
-        return false;
     }
 }
 

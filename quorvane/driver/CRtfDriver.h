@@ -107,8 +107,9 @@ private:
 
     void AnalyseData(std::string_view text, const PictureSource& pictures);
     void analyzeExtended(std::string_view text, const PictureSource& pictures);
+    void buildExtended(std::string_view text, const PictureSource& pictures);
     template <class Body>
-    bool step(Body&& body);
+    void step(Body&& body);
     void report(const RtfError& error);
 
     std::uint32_t references_ = 0;

@@ -29,12 +29,15 @@ const Dialect& unicodeDialect() {
 }
 
 const Dialect& extendedDialect() {
-    // Numbers are keys only: no kind has its own range, and only memory limits them.
-    static constexpr NodeNumbers unlimited{0, std::numeric_limits<std::int32_t>::max()};
+    // Numbers are keys only: no kind has its own range, and only memory limits them. Keys that
+    // people write are not so large.
+    static constexpr std::int32_t last = std::numeric_limits<std::int32_t>::max();
+    static constexpr NodeNumbers documents{0, last};
+    static constexpr NodeNumbers others{10'000'000, last};
     static const Dialect dialect{
         .vocabulary = extendedVocabulary(),
         .marks = {.commentsFollow = false, .block = "\"\"\""},
-        .numbers = {{unlimited, unlimited, unlimited, unlimited}},
+        .numbers = {{others, others, others, documents}},
         .frame = originalDialect().frame,
         .repair = originalDialect().repair,
         .misplacedOpeners = MisplacedOpeners::AreErrors,

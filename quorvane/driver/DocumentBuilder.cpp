@@ -158,9 +158,36 @@ void DocumentBuilder::applyDocument(DescriptionNode& doc) {
         document_.setPageNumberStart(dialect_.page->firstNumber);
     }
     if (dialect_.values.areExtended) {
-        clearMargins(document_, doc);
+        applyExtendedPage(doc);
+        return;
     }
     forEachLeaf(doc, NodeKind::Doc, [this](const Leaf& leaf) { applyDocLeaf(leaf); });
+}
+
+/// The size of the page first, on which the margins depend, then the columns of the text area.
+void DocumentBuilder::applyExtendedPage(DescriptionNode& doc) {
+    using enum DescriptionKey;
+    constexpr KeySet size = setOf({Page, PaperHeight, PaperWidth});
+    clearMargins(document_, doc);
+    forEachLeaf(doc, NodeKind::Doc, [&](const Leaf& leaf) {
+        if (contains(size, leaf.key.known)) {
+            applyDocLeaf(leaf);
+        }
+    });
+    forEachLeaf(doc, NodeKind::Doc, [&](const Leaf& leaf) {
+        if (!contains(size, leaf.key.known)) {
+            applyDocLeaf(leaf);
+        }
+    });
+    if (!hasTextArea(document_)) {
+        apply_.report({.fault = DriverFault::WrongValue,
+                       .error = driverError(
+                           DriverFault::WrongValue,
+                           "The margins leave no room on the page; make them smaller", doc.line),
+                       .part = doc.opener,
+                       .node = &doc});
+        return;
+    }
     if (Leaf* const columns = soundLeaf(doc, DescriptionKey::Columns)) {
         apply_(*columns,
                [this](const Leaf& leaf) { document_.setColumnWidths(columns_.columnsOf(leaf)); });

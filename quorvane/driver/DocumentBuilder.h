@@ -56,6 +56,7 @@ private:
 
     void checkLayout();
     void applyDocument(DescriptionNode& doc);
+    void applyExtendedPage(DescriptionNode& doc);
     void addRows(DescriptionNode& doc);
     void addCells(BuiltTable::Row& row);
     void addParagraphs(BuiltTable::Cell& cell);

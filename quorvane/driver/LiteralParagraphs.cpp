@@ -4,9 +4,9 @@
 
 #include "quorvane/driver/extendedValues.h"
 #include "quorvane/driver/literalText.h"
+#include "quorvane/driver/rawRtf.h"
 #include "quorvane/driver/soundLeaf.h"
 #include "quorvane/driver/withoutFullStop.h"
-#include "quorvane/rtf/unicodeWords.h"
 
 namespace quorvane {
 
@@ -23,10 +23,7 @@ void LiteralParagraphs::setText(CRtfParagraph& paragraph, DescriptionNode& node)
             apply_(*leaf, [&](const Leaf&) { rtf += text(*leaf); });
         }
     };
-    append(DescriptionKey::Rtf, [](const Leaf& leaf) {
-        // The blank ends a control word and is not shown.
-        return withUnicodeWords(rawRtf(leaf.text)) + (endsInControlWord(leaf.text) ? " " : "");
-    });
+    append(DescriptionKey::Rtf, [](const Leaf& leaf) { return rawRtf(leaf.text); });
     append(DescriptionKey::ParaText, [this](const Leaf& leaf) {
         return literalText(shownText(leaf), [this](std::string_view name) {
             return document_.GetCharacterStyle(name);
@@ -62,12 +59,11 @@ void LiteralParagraphs::setPicture(CRtfParagraph& paragraph, DescriptionNode& no
 
 RtfPicture LiteralParagraphs::pictureNamed(const std::string& name, std::int32_t width,
                                            std::int32_t height) {
-    const std::tuple key(name, width, height);
-    if (const auto read = picturesRead_.find(key); read != picturesRead_.end()) {
-        return read->second;
-    }
     try {
-        return picturesRead_.try_emplace(key, pictures_(name), width, height).first->second;
+        if (const auto read = picturesRead_.find(name); read != picturesRead_.end()) {
+            return read->second.resized(width, height);
+        }
+        return picturesRead_.try_emplace(name, pictures_(name), width, height).first->second;
     } catch (const RtfError& error) {
         throw LeafError(DriverFault::WrongPicture,
                         name + ": " + std::string(withoutFullStop(error.description)));

@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <map>
 #include <string>
-#include <tuple>
 #include <utility>
 
 #include "quorvane/docmodel/CRtfDoc.h"
@@ -35,8 +34,8 @@ private:
     const Dialect& dialect_;
     PictureSource pictures_;
     LeafApplication& apply_;
-    // Those that were read, by their names and sizes: a logo can stand in every row.
-    std::map<std::tuple<std::string, std::int32_t, std::int32_t>, RtfPicture> picturesRead_;
+    // Those that were read, by their names: a logo can stand in every row.
+    std::map<std::string, RtfPicture> picturesRead_;
 };
 
 }  // namespace quorvane

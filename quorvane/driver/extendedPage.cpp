@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "quorvane/base/text/textCase.h"
 #include "quorvane/driver/LeafError.h"
 #include "quorvane/driver/extendedValues.h"
 
@@ -12,12 +13,13 @@ namespace quorvane {
 namespace {
 
 HeadingForm headingForm(std::string_view text) {
-    if (text != "header" && text != "trhdr") {
+    const std::string word = lowerCase(text);
+    if (word != "header" && word != "trhdr") {
         throw LeafError(
             DriverFault::WrongValue,
             "\"" + std::string(text) + "\" is not a form of heading; write header or trhdr");
     }
-    return text == "trhdr" ? HeadingForm::RowProperty : HeadingForm::PageHeader;
+    return word == "trhdr" ? HeadingForm::RowProperty : HeadingForm::PageHeader;
 }
 
 }  // namespace
@@ -63,6 +65,11 @@ void clearMargins(CRtfDoc& document, const DescriptionNode& doc) {
     clear(DescriptionKey::RightMargin, &CRtfDoc::setRightMargin);
     clear(DescriptionKey::TopMargin, &CRtfDoc::setTopMargin);
     clear(DescriptionKey::BottomMargin, &CRtfDoc::setBottomMargin);
+}
+
+bool hasTextArea(const CRtfDoc& document) {
+    return document.PageWidth() > document.LeftMargin() + document.RightMargin() &&
+           document.PageHeight() > document.TopMargin() + document.BottomMargin();
 }
 
 }  // namespace quorvane

@@ -12,4 +12,7 @@ void applyPageLeaf(CRtfDoc& document, const Leaf& leaf);
 /// opposite one, which may not be the final one yet.
 void clearMargins(CRtfDoc& document, const DescriptionNode& doc);
 
+/// True when the margins of a document leave some of its page.
+bool hasTextArea(const CRtfDoc& document);
+
 }  // namespace quorvane

@@ -9,7 +9,6 @@
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/base/values/units.h"
 #include "quorvane/driver/LeafError.h"
-#include "quorvane/rtf/RtfLexer.h"
 #include "quorvane/stylesheet/StyleValue.h"
 
 namespace quorvane {
@@ -55,18 +54,6 @@ void forEachPart(std::string_view text, std::string_view separators, Visit visit
         }
         text.remove_prefix(end + 1);
     }
-}
-
-/// True for a text that ends after a backslash or within `\'hh`.
-bool endsInSymbol(std::string_view text) {
-    for (std::size_t at = text.find('\\'); at != nowhere; at = text.find('\\', at + 2)) {
-        constexpr std::size_t hexadecimal = 4;
-        const std::string_view rest = text.substr(at);
-        if (rest.size() == 1 || (rest[1] == '\'' && rest.size() < hexadecimal)) {
-            return true;
-        }
-    }
-    return false;
 }
 
 }  // namespace
@@ -184,28 +171,6 @@ std::vector<std::string_view> listedNames(std::string_view text) {
         names.push_back(part);
     });
     return names;
-}
-
-std::string_view rawRtf(std::string_view text) {
-    RtfLexer lexer;
-    lexer.feed(text);
-    std::int64_t depth = 0;
-    RtfLexer::Token token = lexer.next();
-    for (; token != RtfLexer::Token::None && depth >= 0; token = lexer.next()) {
-        depth += token == RtfLexer::Token::Open ? 1 : token == RtfLexer::Token::Close ? -1 : 0;
-    }
-    if (depth != 0 || lexer.isInBinary() || endsInSymbol(text)) {
-        refuse(text, depth > 0   ? " opens a group and does not close it; write }"
-                     : depth < 0 ? " closes a group that it does not open; remove }"
-                                 : " ends within a control word; complete it");
-    }
-    return text;
-}
-
-bool endsInControlWord(std::string_view rtf) {
-    const std::size_t word =
-        rtf.find_last_not_of("-0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz");
-    return word != nowhere && word + 1 < rtf.size() && rtf[word] == '\\';
 }
 
 }  // namespace quorvane

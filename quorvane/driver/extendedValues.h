@@ -58,10 +58,4 @@ std::array<std::string, 3> pageLineParts(std::string_view text);
 /// The names between commas.
 std::vector<std::string_view> listedNames(std::string_view text);
 
-/// Control words as they are. They must not open or close groups that are not their own.
-std::string_view rawRtf(std::string_view text);
-
-/// True where a letter or a digit after the control words would go on with the last one.
-bool endsInControlWord(std::string_view rtf);
-
 }  // namespace quorvane

@@ -108,6 +108,16 @@ std::string literalText(std::string_view text, const CharacterStyleWords& wordsO
     return rtf + rtfText(text.substr(at));
 }
 
+std::vector<std::string_view> inlineStyleNames(std::string_view text) {
+    std::vector<std::string_view> names;
+    for (std::size_t at = text.find('<'); at != nowhere; at = text.find('<', at + 1)) {
+        if (const std::string_view name = nameAfter(text, at); !name.empty()) {
+            names.push_back(name);
+        }
+    }
+    return names;
+}
+
 std::string blockText(std::string_view block, std::string_view mark) {
     std::string_view text = block.substr(mark.size(), block.size() - 2 * mark.size());
     const std::size_t firstLineEnd = text.find_first_of("\r\n");

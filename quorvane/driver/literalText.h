@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace quorvane {
 
@@ -14,6 +15,9 @@ using CharacterStyleWords = std::function<std::string_view(std::string_view name
 /// that does not end one within it. A "<" that opens no style, and a style that does not end, are
 /// text. Error 5 for a character that no document can show; see `findUnshowable`.
 std::string literalText(std::string_view text, const CharacterStyleWords& wordsOf);
+
+/// The names after each "<" of a literal text that can open a style.
+std::vector<std::string_view> inlineStyleNames(std::string_view text);
 
 /// The text of a value between its marks: of lines between them, without the line breaks beside the
 /// marks and without the blanks that the line of the last mark begins with, and LF between the

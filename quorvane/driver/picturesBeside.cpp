@@ -1,6 +1,8 @@
 #include "quorvane/driver/picturesBeside.h"
 
 #include <cstddef>
+#include <filesystem>
+#include <string>
 #include <string_view>
 
 #include "quorvane/base/values/RtfError.h"
@@ -11,9 +13,13 @@ namespace {
 
 constexpr std::string_view separators = "/\\";
 
-std::string folderOf(const std::string& path) {
-    const std::size_t separator = path.find_last_of(separators);
-    return separator == std::string::npos ? std::string() : path.substr(0, separator + 1);
+std::filesystem::path pathOf(const std::string& utf8) {
+    return {std::u8string(utf8.begin(), utf8.end())};
+}
+
+std::string utf8Text(const std::filesystem::path& path) {
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
 }
 
 /// True for a name that stays within the folder that it is looked up in.
@@ -38,13 +44,13 @@ bool staysWithinFolder(const std::string& name) {
 }  // namespace
 
 PictureSource picturesBeside(const std::string& path, Platform& platform) {
-    return [folder = folderOf(path), &platform](const std::string& name) {
+    return [folder = pathOf(path).parent_path(), &platform](const std::string& name) {
         if (!staysWithinFolder(name)) {
             raise(RtfError(
                 static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
                 "\"" + name + "\" is not in the folder of the description; move it there"));
         }
-        return platform.readFile(folder + name);
+        return platform.readFile(utf8Text(folder / pathOf(name)));
     };
 }
 

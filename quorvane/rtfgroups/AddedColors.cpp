@@ -43,15 +43,16 @@ std::int32_t AddedColors::add(RgbColor color) {
     return number;
 }
 
-void AddedColors::keep(std::int32_t number) noexcept {
-    const std::int32_t count = std::max(number - CRtfGrpColorTable::colorCount, 0);
-    kept_ = std::max(kept_, static_cast<std::size_t>(count));
+void AddedColors::use(TableUser user, std::int32_t number) noexcept {
+    users_.needs(user,
+                 static_cast<std::size_t>(std::max(number - CRtfGrpColorTable::colorCount, 0)));
 }
 
-void AddedColors::clear() noexcept {
-    colors_.resize(std::min(kept_, colors_.size()));
-    std::erase_if(numbers_, [this](const auto& entry) {
-        return static_cast<std::size_t>(entry.second - CRtfGrpColorTable::colorCount) > kept_;
+void AddedColors::release(TableUser user) noexcept {
+    const std::size_t needed = users_.release(user);
+    colors_.resize(std::min(needed, colors_.size()));
+    std::erase_if(numbers_, [needed](const auto& entry) {
+        return static_cast<std::size_t>(entry.second - CRtfGrpColorTable::colorCount) > needed;
     });
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -8,6 +7,7 @@
 #include <vector>
 
 #include "quorvane/rtfgroups/CRtfGrpColorTable.h"
+#include "quorvane/rtfgroups/TableUsers.h"
 
 namespace quorvane {
 
@@ -23,16 +23,16 @@ public:
     /// too many.
     std::int32_t add(RgbColor color);
 
-    /// Lets `clear` keep the color of a number, and those before it.
-    void keep(std::int32_t number) noexcept;
-    /// Removes the colors after those that are kept.
-    void clear() noexcept;
+    /// Notes that a user has the number of a color.
+    void use(TableUser user, std::int32_t number) noexcept;
+    /// Removes the colors that nobody but this user had, from the end on: numbers stay as they are.
+    void release(TableUser user) noexcept;
 
     std::span<const RgbColor> list() const noexcept { return colors_; }
 
 private:
     std::vector<RgbColor> colors_;
-    std::size_t kept_ = 0;
+    TableUsers users_;
     // By their parts.
     std::unordered_map<std::uint32_t, std::int32_t> numbers_;
 };

@@ -74,15 +74,16 @@ std::int32_t AddedFonts::add(std::string_view name) {
     return number;
 }
 
-void AddedFonts::keep(std::int32_t number) noexcept {
-    const std::int32_t count = std::max(number - CRtfGrpFontTable::fontCount + 1, 0);
-    kept_ = std::max(kept_, static_cast<std::size_t>(count));
+void AddedFonts::use(TableUser user, std::int32_t number) noexcept {
+    users_.needs(user,
+                 static_cast<std::size_t>(std::max(number - CRtfGrpFontTable::fontCount + 1, 0)));
 }
 
-void AddedFonts::clear() noexcept {
-    entries_.resize(std::min(kept_, entries_.size()));
-    std::erase_if(numbers_, [this](const auto& entry) {
-        return static_cast<std::size_t>(entry.second - CRtfGrpFontTable::fontCount) >= kept_;
+void AddedFonts::release(TableUser user) noexcept {
+    const std::size_t needed = users_.release(user);
+    entries_.resize(std::min(needed, entries_.size()));
+    std::erase_if(numbers_, [needed](const auto& entry) {
+        return static_cast<std::size_t>(entry.second - CRtfGrpFontTable::fontCount) >= needed;
     });
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -8,6 +7,8 @@
 #include <string_view>
 #include <unordered_map>
 #include <vector>
+
+#include "quorvane/rtfgroups/TableUsers.h"
 
 namespace quorvane {
 
@@ -23,17 +24,17 @@ public:
     /// a font table cannot hold, and if there are too many.
     std::int32_t add(std::string_view name);
 
-    /// Lets `clear` keep the font of a number, and those before it.
-    void keep(std::int32_t number) noexcept;
-    /// Removes the fonts after those that are kept.
-    void clear() noexcept;
+    /// Notes that a user has the number of a font.
+    void use(TableUser user, std::int32_t number) noexcept;
+    /// Removes the fonts that nobody but this user had, from the end on: numbers stay as they are.
+    void release(TableUser user) noexcept;
 
     /// The entries of the font table.
     std::span<const std::string> entries() const noexcept { return entries_; }
 
 private:
     std::vector<std::string> entries_;
-    std::size_t kept_ = 0;
+    TableUsers users_;
     // By their names in lower case.
     std::unordered_map<std::string, std::int32_t> numbers_;
 };

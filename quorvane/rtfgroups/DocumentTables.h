@@ -16,6 +16,8 @@ public:
     /// Number of a font by its name (UTF-8), which is added when the document does not have it. The
     /// name must not hold a backslash, a brace or a ";".
     virtual std::int32_t fontNumber(const std::string& name) = 0;
+    /// The numbers that were returned are not used any more.
+    virtual void releaseNumbers() noexcept = 0;
 };
 
 }  // namespace quorvane

@@ -21,6 +21,8 @@ public:
         return known ? *known : fonts_.add(name);
     }
 
+    void releaseNumbers() noexcept override {}
+
     const AddedColors& colors() const noexcept { return colors_; }
     const AddedFonts& fonts() const noexcept { return fonts_; }
 

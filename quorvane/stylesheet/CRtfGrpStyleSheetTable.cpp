@@ -76,6 +76,9 @@ void CRtfGrpStyleSheetTable::clear() noexcept {
     if (loaded_) {
         owner_.markChanged();
     }
+    if (tables_) {
+        tables_->releaseNumbers();
+    }
     fileName_.clear();
     loaded_ = false;
     characterWordsHoldTokens_ = false;

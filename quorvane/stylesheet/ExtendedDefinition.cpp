@@ -1,4 +1,5 @@
 #include "quorvane/stylesheet/ExtendedDefinition.h"
+#include "quorvane/rtf/escape.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -27,7 +28,7 @@ bool isBeyondAscii(char byte) {
 /// without control characters.
 bool isStyleName(std::string_view name) {
     const auto isLetter = [](char byte) { return isAsciiLetter(byte) || isBeyondAscii(byte); };
-    return !name.empty() && isLetter(name.front()) &&
+    return !name.empty() && isLetter(name.front()) && !findUnshowable(name) &&
            std::all_of(name.begin(), name.end(), [&](char byte) {
                return isLetter(byte) || isAsciiDigit(byte) || byte == ' ' || byte == '-' ||
                       byte == '_' || byte == '.';

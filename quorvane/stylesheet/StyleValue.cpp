@@ -13,6 +13,8 @@
 #include "quorvane/base/values/units.h"
 #include "quorvane/rtf/RtfControl.h"
 #include "quorvane/rtf/RtfWord.h"
+#include "quorvane/rtf/escape.h"
+#include "quorvane/rtf/formattingWords.h"
 #include "quorvane/rtfgroups/CRtfGrpFontTable.h"
 #include "quorvane/stylesheet/stylesheetSyntax.h"
 
@@ -131,13 +133,11 @@ bool isInEveryDocument(RtfRole role, std::int32_t number) {
 /// True for a control word that formats text and does nothing else.
 bool isFormat(const RtfControl& control) {
     const RtfWord* const word = findRtfWord(control.word);
-    if (!word || word->destination != RtfDestination::None || word->shown != '\0' ||
-        word->brings != RtfContent::None) {
+    if (!word || !isFormattingWord(control.word)) {
         return false;
     }
-    return word->role == RtfRole::None ||
-           ((word->role == RtfRole::Font || namesColor(word->role)) &&
-            isInEveryDocument(word->role, control.number.value_or(0)));
+    const bool isNumbered = word->role == RtfRole::Font || namesColor(word->role);
+    return !isNumbered || isInEveryDocument(word->role, control.number.value_or(0));
 }
 
 /// The control words without the blanks between them, which could become text.
@@ -182,8 +182,8 @@ std::optional<std::string> fontName(std::string_view text) {
         return static_cast<unsigned char>(character) < ' ' ||
                std::string_view("\\\",:").find(character) != std::string_view::npos;
     });
-    return isPlain && !name.empty() && characterCount(name) <= longestFontName &&
-                   (quoted || !endsWithKeyword(name))
+    return isPlain && !name.empty() && !findUnshowable(name) &&
+                   characterCount(name) <= longestFontName && (quoted || !endsWithKeyword(name))
                ? std::optional(std::string(name))
                : std::nullopt;
 }

@@ -27,7 +27,7 @@ public:
 
     /// The end of a line that begins and ends there: that of its last line where its value goes on.
     std::size_t endFrom(std::size_t begin, std::size_t end) {
-        if (mark_.empty() || isNoneLeft_) {
+        if (mark_.empty()) {
             return end;
         }
         while (begin < end && isBlank(text_[begin])) {
@@ -37,16 +37,18 @@ public:
         if (value == nowhere) {
             return end;
         }
-        std::size_t at = begin + value + mark_.size();
-        while ((at = text_.find(closer_, at)) != nowhere) {
-            const std::size_t after = text_.find_first_not_of(" \t", at + closer_.size());
-            if (after == nowhere || text_[after] == '\n' || text_[after] == '\r') {
-                return std::max(end, std::min(after, text_.size()));
+        for (std::size_t at = begin + value + mark_.size(); at < text_.size();) {
+            const std::size_t lineEnd = std::min(text_.find_first_of("\r\n", at), text_.size());
+            const std::string_view line = trimWhile(text_.substr(at, lineEnd - at), isBlank);
+            // Where another value begins, the end of this one is missing.
+            if (at >= end && valueAfter(line) != nowhere) {
+                return end;
             }
-            ++at;
+            if (line.ends_with(closer_)) {
+                return static_cast<std::size_t>(line.data() - text_.data()) + line.size();
+            }
+            at = lineEnd + 1;
         }
-        // The rest is not searched again.
-        isNoneLeft_ = true;
         return end;
     }
 
@@ -66,7 +68,6 @@ private:
     std::string_view text_;
     std::string_view mark_;
     std::string closer_;
-    bool isNoneLeft_ = false;
 };
 
 }  // namespace

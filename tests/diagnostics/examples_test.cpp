@@ -104,9 +104,9 @@ TEST(ExamplesOfTheTable, AreThereForAllButWhatFewLinesCannotShow) {
             without.emplace_back(rule.identifier);
         }
     }
-    EXPECT_THAT(without, testing::ElementsAre("not-a-text-file", "not-utf-8", "wrong-extension",
-                                              "rejected", "wrong-picture", "stylesheet-rejected",
-                                              "bad-character"));
+    EXPECT_THAT(without,
+                testing::ElementsAre("not-a-text-file", "not-utf-8", "wrong-extension", "rejected",
+                                     "wrong-picture", "stylesheet-rejected", "bad-character"));
 }
 
 }  // namespace

@@ -224,6 +224,29 @@ TEST(ExtendedDescription, TakesColorsByTheirComponents) {
     EXPECT_THAT(extended.document()->Contents(), HasSubstr("\\red18\\green52\\blue86;"));
 }
 
+TEST(ExtendedDescription, TakesMarginsOfTheNamedPage) {
+    const Extended extended(docOf("(left-margin=25cm)|(page=a3-landscape)"));
+    EXPECT_THAT(extended.errors, IsEmpty());
+    EXPECT_EQ(extended.document()->LeftMargin(), 14173);
+}
+
+TEST(ExtendedDescription, LetsSmallNumbersBeKeys) {
+    const Extended extended(
+        "(doc|(r|(row-key=2)|(c|(p|(para-key=1)|(pt=x)|p)|c)|r)|(r|(c|(p|(pt=y)|p)|c)|r)|doc)");
+    EXPECT_THAT(extended.errors, IsEmpty());
+}
+
+TEST(ExtendedDescription, IsClearedBeforeTheHandlerOfItsError) {
+    const Ref<CRtfDriver> driver = CRtfDriver::create();
+    driver->setReadsExtended(true);
+    driver->setNotifyErrorHandler([](CRtfDriver& sender, const RtfError&) {
+        sender.ParseFromMemmory(lines("; quorvane 2|" + paraOf("(pt=instead)")));
+    });
+    driver->ParseFromMemmory(lines("; quorvane 2|" + docOf("(page=x)")));
+    EXPECT_EQ(driver->RtfObject()->TableRows()->Count(), 1);
+    driver->setNotifyErrorHandler({});
+}
+
 TEST(ExtendedDescription, HasNoLimitOfRows) {
     std::string text = "(doc|";
     for (int i = 0; i < 1500; ++i) {
@@ -271,6 +294,15 @@ TEST(ExtendedDescription, ReportsItsFirstErrorAndBuildsNothing) {
          "4: \"maybe\"; write yes or no."},
         {"(doc|(r|(c|(p|(pt=a\x01)|p)|c)|r)|doc)",
          "6: No document can show the control character U+0001 (byte 2)"},
+        {"(doc|(r|(c|(p|(rtf=\\cell)|p)|c)|r)|doc)",
+         "6: \"\\cell\" cannot stand here; write words that format text."},
+        {"(doc|(page=a6)|(left-margin=10cm)|(r|(c|(p|(pt=x)|p)|c)|r)|doc)",
+         "4: \"10cm\" leaves no room between the margins; write less."},
+        {"(doc|(paper-width=1cm)|(r|(c|(p|(pt=x)|p)|c)|r)|doc)",
+         "2: The margins leave no room on the page; make them smaller."},
+        {"(doc|(r|(c|(p|(pt=\xFF)|p)|c)|r)|doc)", "6: A byte of this line is not UTF-8."},
+        {"(doc|(r|(c|(p|(pt=\"\"\"a)|p)|(p|(pt=\"\"\"|b|\"\"\")|p)|c)|r)|doc)",
+         "6: The value that begins here does not end."},
         {"(doc|(r|(c|(p|(rtf=})|p)|c)|r)|doc)",
          "6: \"}\" closes a group that it does not open; remove }."},
         {"(doc|(header={seite})|(r|(c|(p|(pt=x)|p)|c)|r)|doc)", "3: "},

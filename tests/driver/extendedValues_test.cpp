@@ -113,29 +113,6 @@ TEST(ExtendedValues, ReadThePartsOfAPageLine) {
               "\"a|b|c|d\" has more than three parts; write left|center|right.");
 }
 
-TEST(ExtendedValues, TakeControlWordsWithTheirOwnGroupsOnly) {
-    EXPECT_EQ(rawRtf("\\b\\fs28"), "\\b\\fs28");
-    EXPECT_EQ(rawRtf("{\\b x}"), "{\\b x}");
-    EXPECT_EQ(wrong([] { rawRtf("{\\b"); }),
-              "\"{\\b\" opens a group and does not close it; write }.");
-    EXPECT_EQ(wrong([] { rawRtf("a}{"); }),
-              "\"a}{\" closes a group that it does not open; remove }.");
-    EXPECT_NE(wrong([] { rawRtf("\\b\\"); }), "");
-    EXPECT_NE(wrong([] { rawRtf("\\'e"); }), "");
-    EXPECT_NE(wrong([] { rawRtf("\\bin5 ab"); }), "");
-    EXPECT_EQ(rawRtf("\\\\'e"), "\\\\'e");
-}
-
-TEST(ExtendedValues, KnowWhereAControlWordGoesOn) {
-    EXPECT_TRUE(endsInControlWord("\\b"));
-    EXPECT_TRUE(endsInControlWord("\\b\\fs28"));
-    EXPECT_TRUE(endsInControlWord("\\li-20"));
-    EXPECT_FALSE(endsInControlWord("\\'e4"));
-    EXPECT_FALSE(endsInControlWord("{\\b x}"));
-    EXPECT_FALSE(endsInControlWord("\\b "));
-    EXPECT_FALSE(endsInControlWord("x"));
-}
-
 std::vector<std::int32_t> layout(const std::vector<std::optional<ColumnWidth>>& columns,
                                  std::int32_t textArea) {
     return columnLayout(columns, {textArea, textArea + 500});

@@ -258,6 +258,11 @@ TEST(PreProcessRawDataWithBlocks, LeavesAValueThatDoesNotEndAlone) {
     EXPECT_THAT(linesWithBlocks("pt=\"\"\"\n\"\"\")"), ElementsAre("1:pt=\"\"\"", "2:\"\"\")"));
 }
 
+TEST(PreProcessRawDataWithBlocks, LeavesAValueAloneThatAnotherOneFollows) {
+    EXPECT_THAT(linesWithBlocks("(pt=\"\"\"a\nb\n (pt=\"\"\"\nc\n\"\"\")"),
+                ElementsAre("1:(pt=\"\"\"a", "2:b", "3:(pt=\"\"\"\nc\n\"\"\")"));
+}
+
 TEST(PreProcessRawDataWithBlocks, KnowsNoneWithoutAMark) {
     EXPECT_EQ(PreProcessRawData("(pt=\"\"\"\n\"\"\")").size(), 2U);
 }

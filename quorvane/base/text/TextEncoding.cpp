@@ -35,7 +35,10 @@ std::optional<std::size_t> findNotUtf8(std::string_view bytes) {
 
 std::string decodedText(std::string bytes, TextEncoding encoding) {
     if (encoding == TextEncoding::Windows1252) {
-        return asciiRunEnd(bytes, 0) == bytes.size() ? bytes : utf8FromCodePage1252(bytes);
+        if (asciiRunEnd(bytes, 0) < bytes.size()) {
+            bytes = utf8FromCodePage1252(bytes);
+        }
+        return bytes;
     }
     bytes.erase(0, bytesBeforeText(encoding));
     return bytes;

@@ -4,9 +4,9 @@
 #include <cstddef>
 #include <vector>
 
-#include "quorvane/driver/soundLeaf.h"
 #include "quorvane/diagnostics/text/colorContrast.h"
 #include "quorvane/diagnostics/text/textColors.h"
+#include "quorvane/driver/soundLeaf.h"
 #include "quorvane/rtfgroups/CRtfGrpColorTable.h"
 #include "quorvane/stylesheet/StyleList.h"
 

@@ -100,7 +100,7 @@ private:
         }
         std::string_view& first = lines.front().text;
         first = trimWhitespace(afterByteOrderMark(first));
-        if (isEmptyOrComment(first, dialect_)) {
+        if (first.empty() || first.front() == dialect_.marks.comment) {
             lines.erase(lines.begin());
         }
     }

@@ -5,9 +5,9 @@
 #include <utility>
 
 #include "quorvane/diagnostics/description/nodeNouns.h"
-#include "quorvane/driver/soundLeaf.h"
 #include "quorvane/diagnostics/text/htmlTags.h"
 #include "quorvane/diagnostics/text/rtfText.h"
+#include "quorvane/driver/soundLeaf.h"
 
 namespace quorvane {
 

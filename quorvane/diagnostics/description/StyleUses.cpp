@@ -8,6 +8,7 @@
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/diagnostics/engine/nearestWord.h"
 #include "quorvane/docmodel/inline/InlineTokens.h"
+#include "quorvane/driver/literalText.h"
 #include "quorvane/stylesheet/StyleList.h"
 
 namespace quorvane {
@@ -37,6 +38,12 @@ void StyleUses::findParagraphStyle(const Leaf& leaf) {
                        {name, used == 0 ? "the paragraph gets no format"
                                         : list.at(used).name + " is used instead"},
                        styleHint(StyleKind::Paragraph, name));
+    }
+}
+
+void StyleUses::markInlineStyles(std::string_view text) {
+    for (const std::string_view name : inlineStyleNames(text)) {
+        styles_.markUsed(StyleKind::Character, name);
     }
 }
 

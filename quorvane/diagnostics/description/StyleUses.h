@@ -19,6 +19,8 @@ public:
 
     void findCellStyle(const Leaf& leaf);
     void findParagraphStyle(const Leaf& leaf);
+    /// Marks the inline styles in a literal text, in which what opens no style is text.
+    void markInlineStyles(std::string_view text);
     /// The inline styles in the text of a paragraph, a view into the source.
     void findInlineStyles(std::string_view text);
 

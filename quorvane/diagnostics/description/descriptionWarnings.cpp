@@ -65,7 +65,7 @@ void findLiteralTextWarnings(const DescriptionNode& doc, KnownStyles* styles,
             uses.findParagraphStyle(*style);
         }
         if (const Leaf* const text = soundLeaf(node, DescriptionKey::ParaText)) {
-            uses.findInlineStyles(text->text);
+            uses.markInlineStyles(text->text);
         }
     });
 }

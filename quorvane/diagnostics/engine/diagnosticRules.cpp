@@ -45,10 +45,9 @@ constexpr auto joined(const DiagnosticRule (&... tables)[sizes]) {
     return all;
 }
 
-constexpr auto table =
-    joined(fileDiagnostics, descriptionErrors, extendedErrors, nodeWarnings, styleWarnings,
-           textWarnings, pageWarnings, styleSheetDiagnostics, extendedStyleSheetDiagnostics,
-           rtfDiagnostics);
+constexpr auto table = joined(fileDiagnostics, descriptionErrors, extendedErrors, nodeWarnings,
+                              styleWarnings, textWarnings, pageWarnings, styleSheetDiagnostics,
+                              extendedStyleSheetDiagnostics, rtfDiagnostics);
 
 constexpr bool isInOrderOfIds() {
     for (std::size_t i = 0; i < table.size(); ++i) {

@@ -11,14 +11,17 @@
 #include <utility>
 #include <vector>
 
+#include "quorvane/base/text/LineReader.h"
 #include "quorvane/base/text/extendedMark.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/diagnostics/engine/nearestWord.h"
 #include "quorvane/diagnostics/engine/withoutIgnored.h"
 #include "quorvane/driver/DescriptionLine.h"
+#include "quorvane/driver/Dialect.h"
 #include "quorvane/stylesheet/ExtendedSheetParts.h"
 #include "quorvane/stylesheet/stylesheetSyntax.h"
+#include "quorvane/support/recordStrings.h"
 
 namespace quorvane {
 
@@ -73,9 +76,11 @@ public:
         if (source_.text().find(':') == nowhere) {
             return comments;
         }
+        const std::vector<bool> areInValues = linesInValues();
         for (std::size_t i = 0; i < source_.lines().size(); ++i) {
             const std::string_view line = lineAt(i);
-            const std::string_view text = textOfComment(line);
+            const std::string_view text =
+                i < areInValues.size() && areInValues[i] ? std::string_view() : textOfComment(line);
             if (text.size() >= mark.size() && depth_ <= 0 &&
                 lowerCase(text.substr(0, mark.size())) == mark) {
                 comments.push_back(commentAt(i, text.substr(mark.size())));
@@ -97,6 +102,23 @@ private:
     std::string_view lineAt(std::size_t index) const {
         const SourceText::Line& line = source_.lines()[index];
         return source_.text().substr(line.start, line.end - line.start);
+    }
+
+    /// Which lines belong to values of several lines, in which nothing is a comment; empty in the
+    /// original language, which has no such values.
+    std::vector<bool> linesInValues() const {
+        std::vector<bool> lines;
+        if (isStyleSheet_ || !isMarkedExtended(source_.text())) {
+            return lines;
+        }
+        lines.resize(source_.lines().size());
+        for (const SourceLine& line :
+             PreProcessRawData(source_.text(), extendedDialect().marks.block)) {
+            const auto first = static_cast<std::size_t>(line.number);
+            std::fill_n(lines.begin() + static_cast<std::ptrdiff_t>(first) - 1,
+                        lineCount(line.text), lineCount(line.text) > 1);
+        }
+        return lines;
     }
 
     static bool isComment(std::string_view line) {

@@ -80,6 +80,11 @@ TEST(ExtendedCheck, CountsTheLinesOfValues) {
                 ElementsAre("12:7 wrong-value"));
 }
 
+TEST(ExtendedCheck, FindsNoCommentsInValues) {
+    EXPECT_THAT(checked("(doc|(r|(c|(p|(pt=\"\"\"|; quorvane: ignore nosuch|\"\"\")|p)|c)|r)|doc)"),
+                IsEmpty());
+}
+
 TEST(ExtendedCheck, LimitsNoNumberOfNodes) {
     std::string text = "(doc|";
     for (int i = 0; i < 1200; ++i) {
