@@ -15,7 +15,6 @@ namespace quorvane {
 
 namespace {
 
-constexpr std::size_t nowhere = std::string_view::npos;
 constexpr std::int32_t longestPage = 22 * 1440;
 
 [[noreturn]] void refuse(std::string_view text, const std::string& why) {
