@@ -220,6 +220,12 @@ void DescriptionParser::readUnreadable(const SourceLine& line) {
         const std::string_view value = trimBlanks(line.text.substr(equals + 1));
         if (beginsBlock(value)) {
             rejectUnclosed(line, value);
+            addLeaf(line,
+                    {.type = LineType::Leaf,
+                     .key = trimBlanks(line.text.substr(1, equals - 1)),
+                     .value = value},
+                    true);
+            passOverUnreadableLines();
             return;
         }
     }
@@ -270,6 +276,13 @@ void DescriptionParser::passOverRestOfValue() {
             return;
         }
         isEnded = text.find(dialect_.marks.close) != std::string_view::npos;
+    }
+}
+
+/// Passes over the lines of a value of several lines that does not end.
+void DescriptionParser::passOverUnreadableLines() {
+    while (next_ != end_ && !descriptionLine(next_->text, dialect_).isReadable()) {
+        ++next_;
     }
 }
 

@@ -53,6 +53,7 @@ private:
     void readAsMeant(const SourceLine& line, const MeantLine& likely);
     void openMeant(const SourceLine& line, NodeKind kind);
     void passOverRestOfValue();
+    void passOverUnreadableLines();
     void leaveNode();
     void reject(const Violation& violation) const;
     void rejectPlace(const SourceLine& line, NodeKind kind, NodeKind parent);

@@ -28,7 +28,9 @@ Leaf* DescriptionTree::addLeaf(DescriptionNode& node, const LeafKey& key) {
     if (isKnown ? contains(node.keys, key.known) : leaves_.contains(keyOfNode)) {
         return nullptr;
     }
-    auto* const added = new (memory_.allocate(sizeof(Leaf), alignof(Leaf))) Leaf{.key = key};
+    void* const place = memory_.allocate(sizeof(Leaf), alignof(Leaf));
+    Leaf* const added = new (place) Leaf();
+    added->key = key;
     if (!isKnown) {
         leaves_.emplace(keyOfNode, added);
     }

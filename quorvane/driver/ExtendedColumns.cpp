@@ -1,5 +1,6 @@
 #include "quorvane/driver/ExtendedColumns.h"
 
+#include <cstddef>
 #include <optional>
 
 #include "quorvane/driver/soundLeaf.h"
@@ -16,13 +17,12 @@ ColumnSpace ExtendedColumns::space() const {
 }
 
 void ExtendedColumns::applyWidths(BuiltTable::Row& row, std::span<const BuiltTable::Cell> cells) {
-    std::vector<std::optional<ColumnWidth>> widths;
+    std::vector<std::optional<ColumnWidth>> widths(cells.size());
     Leaf* first = nullptr;
-    for (const BuiltTable::Cell& cell : cells) {
-        std::optional<ColumnWidth>& width = widths.emplace_back();
-        if (Leaf* const leaf = soundLeaf(*cell.node, DescriptionKey::CellWidth)) {
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        if (Leaf* const leaf = soundLeaf(*cells[i].node, DescriptionKey::CellWidth)) {
             first = first ? first : leaf;
-            apply_(*leaf, [&](const Leaf&) { width = widthOf(row, cell, *leaf); });
+            apply_(*leaf, [&](const Leaf&) { widths[i] = widthOf(row, cells[i], *leaf); });
         }
     }
     if (first) {

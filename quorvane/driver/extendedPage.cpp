@@ -7,6 +7,7 @@
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/driver/LeafError.h"
 #include "quorvane/driver/extendedValues.h"
+#include "quorvane/driver/withoutFullStop.h"
 
 namespace quorvane {
 
@@ -22,6 +23,17 @@ HeadingForm headingForm(std::string_view text) {
     return word == "trhdr" ? HeadingForm::RowProperty : HeadingForm::PageHeader;
 }
 
+using PageLineSetter = void (CRtfDoc::*)(std::string_view, std::string_view, std::string_view);
+
+void setPageLine(CRtfDoc& document, std::string_view text, PageLineSetter set) {
+    const auto [left, center, right] = pageLineParts(text);
+    try {
+        (document.*set)(left, center, right);
+    } catch (const RtfError& error) {
+        throw LeafError(DriverFault::WrongValue, withoutFullStop(error.description));
+    }
+}
+
 }  // namespace
 
 void applyPageLeaf(CRtfDoc& document, const Leaf& leaf) {
@@ -32,16 +44,12 @@ void applyPageLeaf(CRtfDoc& document, const Leaf& leaf) {
             document.setPageHeight(size.height);
             break;
         }
-        case DescriptionKey::Header: {
-            const auto [left, center, right] = pageLineParts(leaf.text);
-            document.setPageHeader(left, center, right);
+        case DescriptionKey::Header:
+            setPageLine(document, leaf.text, &CRtfDoc::setPageHeader);
             break;
-        }
-        case DescriptionKey::Footer: {
-            const auto [left, center, right] = pageLineParts(leaf.text);
-            document.setPageFooter(left, center, right);
+        case DescriptionKey::Footer:
+            setPageLine(document, leaf.text, &CRtfDoc::setPageFooter);
             break;
-        }
         case DescriptionKey::Heading:
             document.setHeadingForm(headingForm(leaf.text));
             break;

@@ -11,6 +11,7 @@
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/driver/DescriptionFrame.h"
 #include "quorvane/driver/DescriptionParser.h"
+#include "quorvane/driver/literalText.h"
 #include "quorvane/formatting/lineEndOf.h"
 #include "quorvane/support/recordStrings.h"
 
@@ -174,6 +175,15 @@ private:
     bool lowersNames_;
 };
 
+/// True for values that are the same but for the breaks between their lines.
+bool isValueAlike(std::string_view a, std::string_view b, const Dialect& dialect) {
+    const std::string_view mark = dialect.marks.block;
+    const auto isBlock = [mark](std::string_view value) {
+        return !mark.empty() && value.size() >= 2 * mark.size() && value.starts_with(mark);
+    };
+    return a == b || (isBlock(a) && isBlock(b) && blockText(a, mark) == blockText(b, mark));
+}
+
 /// True when the parser takes both lines for the same.
 bool isLineAlike(const SourceLine& a, const SourceLine& b, const Dialect& dialect) {
     if (a.text == b.text) {
@@ -184,7 +194,7 @@ bool isLineAlike(const SourceLine& a, const SourceLine& b, const Dialect& dialec
     return left.type == right.type && left.kind == right.kind && left.isReadable() &&
            dialect.vocabulary.leafKey(left.key).name ==
                dialect.vocabulary.leafKey(right.key).name &&
-           left.value == right.value;
+           isValueAlike(left.value, right.value, dialect);
 }
 
 bool areLinesAlike(const std::vector<SourceLine>& a, const std::vector<SourceLine>& b,

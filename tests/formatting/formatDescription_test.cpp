@@ -44,6 +44,14 @@ TEST(FormatDescription, KeepsValuesOfSeveralLinesInTheExtendedLanguage) {
     EXPECT_EQ(formattedDescription(formatted), formatted);
 }
 
+TEST(FormatDescription, EndsTheLinesOfAValueAsAllOthers) {
+    EXPECT_EQ(
+        formattedDescription("; quorvane 2\r\n(doc\r\n(r\r\n(C\r\n(pt=\"\"\"a\nb\"\"\")\r\nC)\r\n"
+                             "r)\r\ndoc)"),
+        "; quorvane 2\r\n(doc\r\n  (r\r\n    (c\r\n      (pt=\"\"\"a\r\nb\"\"\")\r\n    c)\r\n"
+        "  r)\r\ndoc)\r\n");
+}
+
 TEST(FormatDescription, LeavesTextWithASemicolonAloneInTheExtendedLanguage) {
     EXPECT_EQ(formattedDescription("; quorvane 2\n(doc\n(r\n(c\n(p\n( pt = a;  (b) )\np)\nc)\nr)"
                                    "\ndoc)"),

@@ -64,6 +64,8 @@ Hint CheckRecovery::hintFor(const Violation& violation) const {
                        ? "the " + std::string(nodeNoun(violation.node->kind)) + " on line " +
                              std::to_string(violation.node->line) + " is not closed"
                        : "no " + std::string(nodeNoun(violation.kind)) + " is open";
+        case DriverFault::UnclosedValue:
+            return "write " + std::string(dialect_.marks.block) + ") at the end of its last line";
         default:
             return {};
     }

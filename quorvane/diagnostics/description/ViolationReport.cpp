@@ -181,6 +181,10 @@ Hint ViolationReport::keyHint(const Violation& violation) const {
     if (lower != written && vocabulary_.isKeyOf(kind, vocabulary_.expand(lower))) {
         return {"write keys in lower case: " + lower, lower};
     }
+    const Vocabulary& extended = extendedVocabulary();
+    if (extended.isKeyOf(kind, extended.expand(written))) {
+        return "this is a key of the extended language; begin the file with the line ; quorvane 2";
+    }
     if (Hint hint = textFormatHint(kind, written, violation.leaf->text); !hint.empty()) {
         return hint;
     }

@@ -17,17 +17,19 @@ constexpr std::size_t typeSize = 4;
 constexpr std::size_t checksumSize = 4;
 constexpr double metersPerInch = 0.0254;
 
-constexpr std::array<std::uint32_t, 256> checksumTable = [] {
+constexpr auto makeChecksumTable() {
     std::array<std::uint32_t, 256> table{};
     for (std::uint32_t byte = 0; byte < table.size(); ++byte) {
         std::uint32_t value = byte;
         for (int bit = 0; bit < 8; ++bit) {
-            value = (value & 1U) != 0 ? 0xEDB88320U ^ value >> 1U : value >> 1U;
+            value = (value >> 1U) ^ ((value & 1U) != 0 ? 0xEDB88320U : 0U);
         }
         table[byte] = value;
     }
     return table;
-}();
+}
+
+constexpr std::array<std::uint32_t, 256> checksumTable = makeChecksumTable();
 
 std::uint32_t checksumOf(std::string_view bytes) {
     std::uint32_t value = 0xFFFFFFFFU;

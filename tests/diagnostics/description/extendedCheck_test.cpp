@@ -49,6 +49,19 @@ TEST(ExtendedCheck, ReportsEveryErrorAtItsPlace) {
         ElementsAre("3:7 wrong-value", "4:14 wrong-value", "6:11 wrong-value", "8:7 wrong-value"));
 }
 
+TEST(ExtendedCheck, ReportsAWrongPlaceholderOfAPageLineAsAValue) {
+    EXPECT_THAT(checked("(doc|(header={pgae})|(r|(c|(p|(pt=a)|p)|c)|r)|doc)"),
+                ElementsAre("3:9 wrong-value"));
+}
+
+TEST(ExtendedCheck, SaysThatAKeyBelongsToTheExtendedLanguage) {
+    const std::vector<Diagnostic> found =
+        checkDescription("(doc\n(page=a4)\n(r\n(c\n(p\n(pt=a)\np)\nc)\nr)\ndoc)");
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_EQ(found.front().hint,
+              "this is a key of the extended language; begin the file with the line ; quorvane 2");
+}
+
 TEST(ExtendedCheck, SaysWhereALineStandsThatCannotStandThere) {
     EXPECT_THAT(checked("(doc|(r|(c|(p|(pt=a)|(p|(pt=b)|p)|c)|r)|doc)"),
                 ElementsAre("7:1 wrong-place"));
@@ -72,7 +85,9 @@ TEST(ExtendedCheck, SaysWhatToDoAboutAValueThatDoesNotEnd) {
     EXPECT_THAT(checked("(doc|(r|(c|(p|(pt=a) b|p)|c)|r)|doc)"),
                 ElementsAre("6:1 wrong-syntax: nothing can follow the ) that ends the value"));
     EXPECT_THAT(checked("(doc|(r|(c|(p|(pt=\"\"\"a)|p)|c)|r)|doc)"),
-                ElementsAre("6:5 unclosed-value"));
+                ElementsAre("6:5 unclosed-value: write \"\"\") at the end of its last line"));
+    EXPECT_THAT(checked("(doc|(r|(c|(p|(pt=\"\"\"|a|b; c|\"\")|p)|c)|r)|doc)"),
+                ElementsAre("6:5 unclosed-value: write \"\"\") at the end of its last line"));
 }
 
 TEST(ExtendedCheck, CountsTheLinesOfValues) {
