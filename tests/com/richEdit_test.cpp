@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <filesystem>
+#include <fstream>
 #include <map>
 #include <optional>
 #include <regex>
@@ -18,6 +19,7 @@
 #include <vector>
 
 #include "quorvane/base/text/codePage1252.h"
+#include "quorvane/base/text/extendedMark.h"
 #include "quorvane/base/text/utf16.h"
 #include "quorvane/base/text/utf8.h"
 #include "quorvane/diagnostics/engine/Diagnostic.h"
@@ -303,11 +305,20 @@ TEST(RichEditAsAReader, ShowsEscapedTextsExactly) {
     }
 }
 
+/// Those in the extended language have a heading and a logo in the page header, which the control
+/// does not show.
+bool isInOriginalLanguage(const std::filesystem::path& description) {
+    std::ifstream file(description);
+    std::string line;
+    std::getline(file, line);
+    return !isMarkedExtended(line);
+}
+
 std::vector<std::string> descriptions() {
     std::vector<std::string> files;
     for (const char* folder : {QUORVANE_EXAMPLES, QUORVANE_READERS_DOCUMENTS}) {
         for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-            if (entry.path().extension() == ".rtfspec") {
+            if (entry.path().extension() == ".rtfspec" && isInOriginalLanguage(entry.path())) {
                 files.push_back(entry.path().string());
             }
         }
