@@ -12,7 +12,7 @@
 namespace quorvane {
 
 // The values of the extended language. Each function throws a `LeafError` of the fault `WrongValue`
-// for a text that is none; its description says what to write instead.
+// for any other text; its description says what to write instead.
 
 /// A length in twips: a number of twips, or one with "mm", "cm", "in" or "pt" ("12.5mm").
 std::int32_t lengthOf(std::string_view text);
