@@ -23,7 +23,6 @@
 #include "quorvane/driver/soundLeaf.h"
 #include "quorvane/driver/unencodableCharacter.h"
 #include "quorvane/driver/withoutFullStop.h"
-#include "quorvane/rtf/escape.h"
 #include "quorvane/rtf/unicodeWords.h"
 
 namespace quorvane {
@@ -97,7 +96,11 @@ void DocumentBuilder::forEachLeaf(DescriptionNode& node, NodeKind kind, Apply ap
 
 /// Reports a character where there can be none beyond Windows-1252.
 bool DocumentBuilder::isEncodable(Leaf& leaf) {
-    if (!dialect_.texts.writesUnicode || dialect_.texts.isLiteral) {
+    constexpr KeySet data =
+        setOf({DescriptionKey::CellMarkedField, DescriptionKey::ParaMarkedField});
+    // A literal text can hold any character, and a name is only looked up.
+    const bool isFree = dialect_.texts.isLiteral && !contains(data, leaf.key.known);
+    if (!dialect_.texts.writesUnicode || isFree) {
         return true;
     }
     const std::optional<std::string_view> character = findUnencodableCharacter(leaf);
@@ -404,7 +407,7 @@ void DocumentBuilder::applyCellLeaf(CRtfTableCell& cell, const Leaf& leaf) {
             cell.setStyle(leaf.valueText());
             break;
         case DescriptionKey::CellMarkedField:
-            cell.asMarkedField(markedField(leaf));
+            cell.asMarkedField(leaf.value());
             break;
         case DescriptionKey::Span:
             cell.setColumnSpan(wholeNumber(leaf.text, 1, maxSpan));
@@ -429,7 +432,7 @@ void DocumentBuilder::applyParaLeaf(CRtfParagraph& paragraph, const Leaf& leaf) 
             paragraph.setAlign(alignment(leaf));
             break;
         case DescriptionKey::ParaMarkedField:
-            paragraph.asMarkedField(markedField(leaf));
+            paragraph.asMarkedField(leaf.value());
             break;
         default:
             break;
@@ -445,11 +448,6 @@ void DocumentBuilder::setText(CRtfParagraph& paragraph, const Leaf& leaf) const 
     } else {
         paragraph.setText(leaf.text);
     }
-}
-
-/// The value of a marked field, whose contents become text.
-Value DocumentBuilder::markedField(const Leaf& leaf) const {
-    return dialect_.texts.isLiteral ? Value(rtfText(leaf.text)) : leaf.value();
 }
 
 tColorIndex DocumentBuilder::color(const Leaf& leaf) {

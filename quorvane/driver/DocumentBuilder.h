@@ -77,7 +77,6 @@ private:
 
     std::int32_t length(const Leaf& leaf) const;
     std::int32_t pageNumber(const Leaf& leaf) const;
-    Value markedField(const Leaf& leaf) const;
     tColorIndex color(const Leaf& leaf);
     tBorderWidth border(const Leaf& leaf) const;
     tCellAlign alignment(const Leaf& leaf) const;

@@ -305,8 +305,7 @@ TEST(RichEditAsAReader, ShowsEscapedTextsExactly) {
     }
 }
 
-/// Those in the extended language have a heading and a logo in the page header, which the control
-/// does not show.
+/// The driver of these tests reads no others.
 bool isInOriginalLanguage(const std::filesystem::path& description) {
     std::ifstream file(description);
     std::string line;

@@ -218,6 +218,14 @@ TEST(ExtendedDescription, SetsTheHeaderAndTheFooter) {
     EXPECT_EQ(extended.document()->PageFooter().right, "b");
 }
 
+TEST(ExtendedDescription, KeepsTheDataOfMarkedFieldsAsItIsWritten) {
+    const Extended extended(paraOf("(para-marked-field={\xC3\xA9})|(pt=x)"));
+    EXPECT_THAT(extended.errors, IsEmpty());
+    EXPECT_THAT(extended.document()->Contents(), HasSubstr("7BE97D"));
+    EXPECT_THAT(Extended(paraOf("(para-marked-field=\xC5\x99)|(pt=x)")).errors,
+                ElementsAre(testing::StartsWith("6: ")));
+}
+
 TEST(ExtendedDescription, TakesColorsByTheirComponents) {
     const Extended extended(docOf("", "(c|(cb=#123456)|(p|(pt=x)|p)|c)"));
     EXPECT_THAT(extended.errors, IsEmpty());
