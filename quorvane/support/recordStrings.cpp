@@ -57,8 +57,11 @@ private:
 
     /// Where the mark stands in a line of the form `(key=MARK`.
     std::size_t valueAfter(std::string_view line) const {
+        if (!line.starts_with('(')) {
+            return nowhere;
+        }
         const std::size_t equals = line.find('=');
-        if (!line.starts_with('(') || equals == nowhere) {
+        if (equals == nowhere) {
             return nowhere;
         }
         const std::size_t value = line.find_first_not_of(' ', equals + 1);
