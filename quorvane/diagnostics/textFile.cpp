@@ -94,14 +94,12 @@ std::optional<Diagnostic> findNotATextFile(std::string_view bytes) {
     return found;
 }
 
-std::optional<Diagnostic> findUnreadableText(std::string_view bytes, TextEncoding encoding) {
-    std::optional<Diagnostic> found = findNotATextFile(bytes);
-    const std::optional<std::size_t> wrong =
-        found || !isUtf8(encoding) ? std::nullopt : findNotUtf8(bytes);
+std::optional<Diagnostic> findByteNotOfUtf8(const SourceText& source) {
+    const std::string_view bytes = source.text();
+    const std::optional<std::size_t> wrong = findNotUtf8(bytes);
+    std::optional<Diagnostic> found;
     if (wrong) {
-        const std::size_t start = bytesBeforeText(encoding);
-        const SourceText source(bytes.substr(start), encoding);
-        const Place place = source.place(*wrong - start, *wrong - start + 1);
+        const Place place = source.place(*wrong, *wrong + 1);
         DiagnosticEngine engine([&](Diagnostic diagnostic) { found = std::move(diagnostic); });
         engine.report(DiagnosticId::NotUtf8, place,
                       {inHexadecimal(bytes[*wrong]), std::to_string(place.column)},
@@ -109,6 +107,14 @@ std::optional<Diagnostic> findUnreadableText(std::string_view bytes, TextEncodin
                           ? "save the file in UTF-8"
                           : "save the file in UTF-8, or use --encoding windows-1252 if it is in "
                             "Windows-1252");
+    }
+    return found;
+}
+
+std::optional<Diagnostic> findUnreadableText(std::string_view bytes, TextEncoding encoding) {
+    std::optional<Diagnostic> found = findNotATextFile(bytes);
+    if (!found && isUtf8(encoding)) {
+        found = findByteNotOfUtf8(SourceText(bytes.substr(bytesBeforeText(encoding)), encoding));
     }
     return found;
 }

@@ -1,6 +1,7 @@
 #include "quorvane/diagnostics/description/DescriptionCheck.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 #include "quorvane/base/text/byteOrderMark.h"
@@ -15,6 +16,7 @@
 #include "quorvane/diagnostics/engine/ignoreComments.h"
 #include "quorvane/diagnostics/fileEncoding.h"
 #include "quorvane/diagnostics/text/mojibake.h"
+#include "quorvane/diagnostics/textFile.h"
 #include "quorvane/driver/DescriptionFrame.h"
 #include "quorvane/driver/DescriptionParser.h"
 #include "quorvane/driver/DescriptionRules.h"
@@ -156,6 +158,12 @@ std::vector<Diagnostic> checkDescription(std::string_view text, KnownStyles* sty
                                          TextEncoding encoding, const PictureSource& pictures) {
     std::vector<Diagnostic> diagnostics;
     const SourceText source(text, encoding);
+    if (isMarkedExtended(text)) {
+        if (std::optional<Diagnostic> stray = findByteNotOfUtf8(source)) {
+            diagnostics.push_back(std::move(*stray));
+            return diagnostics;
+        }
+    }
     DiagnosticEngine engine(
         [&](Diagnostic diagnostic) { diagnostics.push_back(std::move(diagnostic)); });
     DescriptionCheck(source, styles, pictures, engine).run();

@@ -49,6 +49,11 @@ TEST(ExtendedCheck, ReportsEveryErrorAtItsPlace) {
         ElementsAre("3:7 wrong-value", "4:14 wrong-value", "6:11 wrong-value", "8:7 wrong-value"));
 }
 
+TEST(ExtendedCheck, ReportsTheFirstByteThatIsNotUtf8AsTheOnlyError) {
+    EXPECT_THAT(checked("(doc|(pn=0)|(r|(c|(cmf=12)|(p|(pt=\xC3\xA9)|(pmf=\x80\xE9)|p)|c)|r)|doc)"),
+                ElementsAre("9:6 not-utf-8: save the file in UTF-8"));
+}
+
 TEST(ExtendedCheck, ReportsAWrongPlaceholderOfAPageLineAsAValue) {
     EXPECT_THAT(checked("(doc|(header={pgae})|(r|(c|(p|(pt=a)|p)|c)|r)|doc)"),
                 ElementsAre("3:9 wrong-value"));
