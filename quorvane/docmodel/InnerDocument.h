@@ -41,6 +41,8 @@ public:
     void checkLayout();
     tColorIndex addColor(RgbColor color);
     std::int32_t addFont(std::string_view name);
+    // Writes all that comes before the rows of the table that are not in the page header.
+    void renderBeginning(TableRendering& rendering);
     // True when the document has a short text, and has it in memory.
     bool holdsShortText() const noexcept;
 
@@ -69,7 +71,7 @@ private:
     void render();
     void renderInto(std::string& rtf);
     void render(TableRendering& rendering);
-    void renderLayout(TableRendering& rendering);
+    void renderPageLines(TableRendering& rendering);
     bool streams() const noexcept;
     std::optional<RtfError> stream(const std::string& path);
     void keepText() override;
