@@ -86,6 +86,7 @@ std::size_t fieldNamed(std::string_view name, const std::vector<std::string>& na
 
 TableColumns::TableColumns(const TableOptions& options, const std::vector<std::string>& names)
     : columns_(requestsOf(options, names)),
+      hasLocale_(options.locale.has_value()),
       locale_(localeOf(options.locale)),
       areNamed_(options.columns.has_value()),
       filtered_(columns_.size()),
@@ -148,6 +149,13 @@ std::vector<data::ColumnMeasure> TableColumns::measured(const std::vector<TableR
         }
     }
     return measures;
+}
+
+std::optional<data::DecimalSign> TableColumns::decimalSign() const {
+    if (!hasLocale_) {
+        return std::nullopt;
+    }
+    return locale_.decimal == "," ? data::DecimalSign::Comma : data::DecimalSign::Point;
 }
 
 std::size_t TableColumns::columnOf(std::string_view name) const {

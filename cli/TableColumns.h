@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -9,6 +10,7 @@
 
 #include "cli/TableOptions.h"
 #include "data/columnsMeasure.h"
+#include "data/columnsNumber.h"
 #include "data/columnsRequest.h"
 #include "data/locale.h"
 #include "quorvane/compose/TableSetup.h"
@@ -46,6 +48,8 @@ public:
     std::span<const std::string_view> cells(std::span<const std::string_view> fields);
     /// The text of a column's cell for this value.
     std::string shown(std::size_t column, std::string_view value) const;
+    /// The sign before decimals, if the options name a locale.
+    std::optional<data::DecimalSign> decimalSign() const;
     /// True if the column shows values in another way.
     bool hasFilters(std::size_t column) const { return !columns_[column].filters.empty(); }
 
@@ -53,6 +57,7 @@ private:
     std::vector<data::ColumnMeasure> measured(const std::vector<TableRecord>& records);
 
     std::vector<data::ColumnRequest> columns_;
+    bool hasLocale_;
     data::Locale locale_;
     bool areNamed_;
     // The fields that the columns show, by position.

@@ -134,7 +134,8 @@ void TableJob::findFields(const std::vector<std::string>& names) {
         if (column == columns_->count()) {
             throw UsageError("the table has no column \"" + name + "\" for a total");
         }
-        totals_.push_back({column, fieldNamed(name, names)});
+        totals_.push_back(
+            {column, fieldNamed(name, names), data::ColumnTotal(columns_->decimalSign())});
     }
 }
 

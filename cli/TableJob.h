@@ -35,7 +35,7 @@ private:
     struct Total {
         std::size_t column;
         std::size_t field;
-        data::ColumnTotal sum{};
+        data::ColumnTotal sum;
     };
 
     ExitStatus write();

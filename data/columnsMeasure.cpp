@@ -53,6 +53,51 @@ double widthOf(std::string_view text) {
     return widest * fontSize + padding;
 }
 
+/// The widths of columns for which there is more room than they ask for.
+std::vector<double> stretched(const std::vector<FlexibleColumn>& columns, double room) {
+    double all = 0;
+    double stretching = 0;
+    for (const FlexibleColumn& column : columns) {
+        all += column.width;
+        stretching += column.stretches ? column.width : 0;
+    }
+    std::vector<double> widths;
+    for (const FlexibleColumn& column : columns) {
+        const bool takesPart = stretching <= 0 || column.stretches;
+        const double share = column.width / (stretching > 0 ? stretching : all);
+        widths.push_back(column.width + (takesPart ? room * share : 0));
+    }
+    return widths;
+}
+
+/// The widths of columns for which there is less room. Those that take no more than others keep
+/// theirs. The others share by the roots of what they ask for: a column with long texts gets more,
+/// but not all.
+std::vector<double> squeezed(const std::vector<FlexibleColumn>& columns, double area) {
+    std::vector<double> widths(columns.size());
+    std::vector<bool> isKept(columns.size(), false);
+    for (bool changes = true; changes;) {
+        changes = false;
+        double left = area;
+        double roots = 0;
+        double count = 0;
+        for (std::size_t i = 0; i < columns.size(); ++i) {
+            left -= isKept[i] ? columns[i].width : 0;
+            roots += isKept[i] ? 0 : std::sqrt(columns[i].width);
+            count += isKept[i] ? 0 : 1;
+        }
+        for (std::size_t i = 0; i < columns.size(); ++i) {
+            const double asked = columns[i].width;
+            const double share = left * std::sqrt(asked) / roots;
+            if (!isKept[i] && asked <= std::max(share, left / count)) {
+                isKept[i] = changes = true;
+            }
+            widths[i] = isKept[i] ? asked : share;
+        }
+    }
+    return widths;
+}
+
 }  // namespace
 
 void ColumnMeasure::addHeading(std::string_view text) {
@@ -70,45 +115,10 @@ void ColumnMeasure::addCell(std::string_view text) {
 }
 
 std::vector<double> fittedWidths(const std::vector<FlexibleColumn>& columns, double area) {
-    std::vector<double> widths;
-    double total = 0;
-    double stretching = 0;
-    for (const FlexibleColumn& column : columns) {
-        widths.push_back(column.width);
-        total += column.width;
-        stretching += column.stretches ? column.width : 0;
-    }
-    if (total <= area) {
-        const double base = stretching > 0 ? stretching : total;
-        for (std::size_t i = 0; i < columns.size(); ++i) {
-            if (stretching <= 0 || columns[i].stretches) {
-                widths[i] += (area - total) * columns[i].width / base;
-            }
-        }
-        return widths;
-    }
-    // The roots of the widths: a column with long texts gets more than others, but not all.
-    std::vector<bool> isKept(columns.size(), false);
-    for (bool changes = true; changes;) {
-        changes = false;
-        double left = area;
-        double roots = 0;
-        for (std::size_t i = 0; i < columns.size(); ++i) {
-            left -= isKept[i] ? columns[i].width : 0;
-            roots += isKept[i] ? 0 : std::sqrt(columns[i].width);
-        }
-        for (std::size_t i = 0; i < columns.size(); ++i) {
-            if (!isKept[i]) {
-                widths[i] = left * std::sqrt(columns[i].width) / roots;
-                if (widths[i] >= columns[i].width) {
-                    widths[i] = columns[i].width;
-                    isKept[i] = true;
-                    changes = true;
-                }
-            }
-        }
-    }
-    return widths;
+    const double asked = std::accumulate(
+        columns.begin(), columns.end(), 0.0,
+        [](double sum, const FlexibleColumn& column) { return sum + column.width; });
+    return asked <= area ? stretched(columns, area - asked) : squeezed(columns, area);
 }
 
 }  // namespace quorvane::data

@@ -115,7 +115,7 @@ std::optional<std::string> plainNumber(const WrittenNumber& number, DecimalSign 
     while (!groupSign.empty() && rest.starts_with(groupSign)) {
         rest.remove_prefix(groupSign.size());
         const std::string_view group = takeDigits(rest);
-        if (first.size() > groupSize || group.size() != groupSize) {
+        if (first.size() > groupSize || first.starts_with('0') || group.size() != groupSize) {
             return std::nullopt;
         }
         plain += group;

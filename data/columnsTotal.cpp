@@ -107,6 +107,12 @@ std::string DecimalSum::text() const {
     return (isNegative ? "-" : "") + whole + (decimals.empty() ? "" : "." + decimals);
 }
 
+ColumnTotal::ColumnTotal(std::optional<DecimalSign> sign) {
+    for (std::size_t i = 0; i < readings_.size(); ++i) {
+        readings_[i].isPossible = !sign || *sign == static_cast<DecimalSign>(i);
+    }
+}
+
 /// The number in each of the readings that are possible; none for an empty text.
 ColumnTotal::PlainNumbers ColumnTotal::plainNumbers(std::string_view text) const {
     PlainNumbers plain;
@@ -159,7 +165,7 @@ std::size_t ColumnTotal::reading() const {
     if (point.isPossible && comma.isPossible && point.sum.text() != comma.sum.text()) {
         refuse("The numbers can be read with a decimal point, with the total " + point.sum.text() +
                ", or with a decimal comma, with the total " + comma.sum.text() +
-               ". Write one of them with a sign between groups and one before the decimals.");
+               ". Choose one with a locale, such as en-US or de-DE.");
     }
     return point.isPossible ? 0 : 1;
 }

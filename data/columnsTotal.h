@@ -34,6 +34,9 @@ private:
 /// The sum of the numbers of a column, in exact decimals.
 class ColumnTotal {
 public:
+    /// Without a decimal sign, it is the one that the numbers show.
+    explicit ColumnTotal(std::optional<DecimalSign> sign = std::nullopt);
+
     /// Error 5 for a cell that cannot be added: it is neither a number nor empty, or it is a number
     /// of another unit or with another decimal sign than those before.
     void require(std::string_view text) const { plainNumbers(text); }

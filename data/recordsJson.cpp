@@ -182,7 +182,9 @@ bool JsonRecords::takeSeparator() {
 void JsonRecords::endArray() {
     ++at_;
     form_ = Form::Ended;
-    if (skipBlanks()) {
+    const bool goesOn = skipBlanks();
+    line_ = nextLine_;
+    if (goesOn) {
         refuse("The list of records ends, but the file does not.");
     }
 }

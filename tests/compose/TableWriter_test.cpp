@@ -84,7 +84,7 @@ std::string errorOf(Action action) {
     return "no error";
 }
 
-TEST(TableDescription, refuses_a_text_that_no_value_can_hold) {
+TEST(TableDescription, RefusesATextThatNoValueCanHold) {
     const TableDescription description(prices());
     EXPECT_EQ(errorOf([&] { description.row(TableRowKind::Plain, Row{"\"\"\" quoted"}); }),
               "A description cannot hold this text, because it has \"\"\" in it.");
@@ -94,7 +94,7 @@ TEST(TableDescription, refuses_a_text_that_no_value_can_hold) {
               "Cell 2: No document can show the control character U+0001");
 }
 
-TEST(TableWriter, writes_what_the_description_of_the_same_table_is_rendered_as) {
+TEST(TableWriter, WritesWhatTheDescriptionOfTheSameTableIsRenderedAs) {
     TableSetup setup = prices();
     setup.title = "Prices {spring}";
     setup.page = "letter-landscape";
@@ -113,7 +113,7 @@ TEST(TableWriter, writes_what_the_description_of_the_same_table_is_rendered_as) 
     EXPECT_EQ(written(setup, rows), described(setup, rows));
 }
 
-TEST(TableWriter, writes_the_same_with_borders_and_a_stylesheet_without_stripes_and_heading) {
+TEST(TableWriter, WritesTheSameWithBordersAndAStylesheetWithoutStripesAndHeading) {
     TableSetup setup = prices();
     setup.border = "hair";
     setup.stripe = "none";
@@ -124,7 +124,7 @@ TEST(TableWriter, writes_the_same_with_borders_and_a_stylesheet_without_stripes_
     EXPECT_EQ(written(setup, rows), described(setup, rows));
 }
 
-TEST(TableWriter, writes_a_row_as_the_object_model_does) {
+TEST(TableWriter, WritesARowAsTheObjectModelDoes) {
     const std::string document = written(prices(), {{.cells = {"Vase", "12"}}});
     EXPECT_THAT(document,
                 testing::EndsWith("\r\n{\\intbl\\trowd\\trql\\trgaph70\\trleft0\\trkeep"
@@ -135,7 +135,7 @@ TEST(TableWriter, writes_a_row_as_the_object_model_does) {
                                   "\\cell\\row}}"));
 }
 
-TEST(TableWriter, repeats_title_and_heading_in_the_page_header) {
+TEST(TableWriter, RepeatsTitleAndHeadingInThePageHeader) {
     TableSetup setup = prices();
     setup.title = "Spring";
     const std::string document = written(setup, {});
@@ -146,7 +146,7 @@ TEST(TableWriter, repeats_title_and_heading_in_the_page_header) {
     EXPECT_EQ(document.find("Article"), document.rfind("Article"));
 }
 
-TEST(TableWriter, gives_every_second_row_a_stripe_and_begins_again_after_a_group) {
+TEST(TableWriter, GivesEverySecondRowAStripeAndBeginsAgainAfterAGroup) {
     TableSetup setup = prices();
     setup.stripe = "light-yellow";
     setup.hasHeading = false;
@@ -166,7 +166,7 @@ TEST(TableWriter, gives_every_second_row_a_stripe_and_begins_again_after_a_group
     EXPECT_EQ(stripes, "-#---#");
 }
 
-TEST(TableWriter, leaves_a_wrong_row_out_and_goes_on) {
+TEST(TableWriter, LeavesAWrongRowOutAndGoesOn) {
     std::string document;
     TableWriter writer(prices(), [&](std::string_view bytes) { document += bytes; });
     writer.addRow(Row{"a", "1"});
@@ -185,7 +185,7 @@ TEST(TableWriter, leaves_a_wrong_row_out_and_goes_on) {
     EXPECT_EQ(document, written(prices(), {{.cells = {"a", "1"}}, {.cells = {"b", "2"}}}));
 }
 
-TEST(TableWriter, refuses_a_setup_that_does_not_fit_together) {
+TEST(TableWriter, RefusesASetupThatDoesNotFitTogether) {
     const auto sink = [](std::string_view) {};
     const auto errorOfSetup = [&](auto change) {
         TableSetup setup = prices();
@@ -208,12 +208,12 @@ TEST(TableWriter, refuses_a_setup_that_does_not_fit_together) {
     EXPECT_NE(errorOfSetup([](TableSetup& setup) { setup.margin = "20cm"; }), "no error");
 }
 
-TEST(TableWriter, writes_a_table_without_widths_in_equal_columns) {
+TEST(TableWriter, WritesATableWithoutWidthsInEqualColumns) {
     const TableSetup setup{.columns = {{"a"}, {"b"}}};
     EXPECT_THAT(written(setup, {{.cells = {"1", "2"}}}), HasSubstr("\\cellx4819 \\cellx9638"));
 }
 
-TEST(TableWriter, writes_into_a_stream_and_reports_its_failure) {
+TEST(TableWriter, WritesIntoAStreamAndReportsItsFailure) {
     std::ostringstream stream;
     TableWriter writer(prices(), stream);
     writer.addRow(Row{"a", "1"});
@@ -239,7 +239,7 @@ private:
     std::string& log_;
 };
 
-TEST(TableWriter, closes_its_file_only_when_the_document_is_whole) {
+TEST(TableWriter, ClosesItsFileOnlyWhenTheDocumentIsWhole) {
     std::string log;
     {
         TableWriter writer(prices(), std::make_unique<MemoryFile>(log));
