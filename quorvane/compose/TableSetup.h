@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "quorvane/docmodel/PageText.h"
@@ -46,6 +47,6 @@ struct TableSetup {
 };
 
 /// Returns the stylesheet of tables that have none of their own, in the extended language.
-const std::string& standardTableStyles();
+std::string_view standardTableStyles();
 
 }  // namespace quorvane

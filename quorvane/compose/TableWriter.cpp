@@ -8,10 +8,9 @@
 #include <utility>
 #include <vector>
 
-#include "quorvane/base/text/TextOutput.h"
-#include "quorvane/base/text/codePage1252.h"
-#include "quorvane/base/text/utf8.h"
 #include "quorvane/base/values/RtfError.h"
+#include "quorvane/compose/RowForm.h"
+#include "quorvane/compose/SinkOutput.h"
 #include "quorvane/compose/TableDescription.h"
 #include "quorvane/docmodel/InnerDocument.h"
 #include "quorvane/docmodel/TableRendering.h"
@@ -22,32 +21,6 @@
 namespace quorvane {
 
 namespace {
-
-/// Passes the text on in Windows-1252.
-class SinkOutput final : public TextOutput {
-public:
-    explicit SinkOutput(TableWriter::Sink sink)
-        : sink_(std::move(sink)), buffer_(std::make_unique_for_overwrite<char[]>(bufferSize)) {
-        setBuffer(buffer_.get(), bufferSize);
-    }
-
-private:
-    static constexpr std::size_t bufferSize = std::size_t{64} * 1024;
-
-    void take(std::string_view text) override {
-        if (asciiRunEnd(text, 0) == text.size()) {
-            sink_(text);
-            return;
-        }
-        bytes_.clear();
-        appendCodePage1252(text, bytes_);
-        sink_(bytes_);
-    }
-
-    TableWriter::Sink sink_;
-    std::unique_ptr<char[]> buffer_;
-    std::string bytes_;
-};
 
 TableWriter::Sink intoStream(std::ostream& stream) {
     return [&stream](std::string_view bytes) {
@@ -61,28 +34,9 @@ TableWriter::Sink intoFile(OutputFile& file) {
     return [&file](std::string_view bytes) { file.write(bytes); };
 }
 
-/// A row that all rows of its kind are rendered as, with the texts of each.
-class RowForm {
-public:
-    explicit RowForm(Ref<CRtfTableRow> row) : row_(std::move(row)) {
-        for (InnerCell* cell : inner(*row_).cells().list()) {
-            texts_.push_back(&cell->paragraphs().list().at(1));
-        }
-    }
-
-    std::size_t size() const noexcept { return texts_.size(); }
-    void setText(std::size_t index, std::string_view rtf) { texts_[index]->setText(rtf); }
-
-    void render(TableRendering& rendering, TableLayout& layout) {
-        InnerRow& row = inner(*row_);
-        const RowSettings& settings = row.settings();
-        row.render(rendering, settings, layout.place(row, settings), HeadingForm::PageHeader);
-    }
-
-private:
-    Ref<CRtfTableRow> row_;
-    std::vector<InnerParagraph*> texts_;
-};
+std::string_view styleSheetOf(const TableSetup& setup) {
+    return setup.styleSheet.empty() ? standardTableStyles() : std::string_view(setup.styleSheet);
+}
 
 /// The document of a setup, with one row of each kind at its end.
 Ref<CRtfDoc> documentOf(const TableDescription& description) {
@@ -90,8 +44,7 @@ Ref<CRtfDoc> documentOf(const TableDescription& description) {
     const TableSetup& setup = description.setup();
     const Ref<CRtfDoc> document = driver->RtfObject();
     document->setExtendedStyleSheets(true);
-    driver->LoadStyleSheetFromMemmory(setup.styleSheet.empty() ? standardTableStyles()
-                                                               : setup.styleSheet);
+    driver->LoadStyleSheetFromMemmory(styleSheetOf(setup));
     std::string text = description.beginning();
     const std::vector<std::string_view> noTexts;
     for (std::size_t kind = 0; kind < tableRowKinds; ++kind) {

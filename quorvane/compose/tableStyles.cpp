@@ -2,8 +2,8 @@
 
 namespace quorvane {
 
-const std::string& standardTableStyles() {
-    static const std::string styles = R"(; quorvane 2
+std::string_view standardTableStyles() {
+    return R"(; quorvane 2
 ; The styles of a table.
 
 {
@@ -22,7 +22,6 @@ const std::string& standardTableStyles() {
 { name: header; style-def: paragraph; based-on: table-cell; size: 8pt; color: #5a5a5a }
 { name: footer; style-def: paragraph; based-on: header }
 )";
-    return styles;
 }
 
 }  // namespace quorvane

@@ -60,8 +60,8 @@ std::string described(const TableSetup& setup, const std::vector<WrittenRow>& ro
     text += TableDescription::end();
     const Ref<CRtfDriver> driver = CRtfDriver::create();
     driver->RtfObject()->setExtendedStyleSheets(true);
-    driver->LoadStyleSheetFromMemmory(setup.styleSheet.empty() ? standardTableStyles()
-                                                               : setup.styleSheet);
+    driver->LoadStyleSheetFromMemmory(
+        setup.styleSheet.empty() ? standardTableStyles() : std::string_view(setup.styleSheet));
     driver->setReadsExtended(true);
     driver->setNotifyErrorHandler(
         [](CRtfDriver&, const RtfError& error) { ADD_FAILURE() << error.description; });
