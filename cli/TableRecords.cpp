@@ -1,5 +1,6 @@
 #include "cli/TableRecords.h"
 
+#include <algorithm>
 #include <fstream>
 #include <span>
 #include <utility>
@@ -82,9 +83,10 @@ TableRecords::TableRecords(const TableOptions& options, Report report)
 void TableRecords::readFirst() {
     constexpr std::size_t enoughRecords = 1000;
     constexpr std::size_t enoughBytes = std::size_t{1024} * 1024;
+    const std::size_t most = std::min(enoughRecords, options_.limit.value_or(enoughRecords));
     std::size_t bytes = 0;
     std::vector<std::string_view> fields;
-    while (first_.size() < enoughRecords && bytes < enoughBytes && read(fields)) {
+    while (first_.size() < most && bytes < enoughBytes && read(fields)) {
         first_.push_back({{fields.begin(), fields.end()}, source_->line()});
         for (const std::string_view field : fields) {
             bytes += field.size();
