@@ -138,6 +138,9 @@ void InnerDocument::render(TableRendering& rendering) {
     } else {
         body_.render(rendering);
     }
+    if (page().endsInSmallParagraph) {
+        out << R"(\pard\plain\sl-20\slmult0\fs2\par)";
+    }
     out << "}";
 }
 

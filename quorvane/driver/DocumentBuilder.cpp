@@ -171,6 +171,7 @@ void DocumentBuilder::applyDocument(DescriptionNode& doc) {
 void DocumentBuilder::applyExtendedPage(DescriptionNode& doc) {
     using enum DescriptionKey;
     constexpr KeySet size = setOf({Page, PaperHeight, PaperWidth});
+    document_.setEndsInSmallParagraph(true);
     clearMargins(document_, doc);
     forEachLeaf(doc, NodeKind::Doc, [&](const Leaf& leaf) {
         if (contains(size, leaf.key.known)) {

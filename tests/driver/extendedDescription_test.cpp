@@ -99,6 +99,10 @@ TEST(ExtendedDescription, IsReadWhenTheDriverIsToldSo) {
               "\\{a\\}");
 }
 
+TEST(ExtendedDescription, EndsInASmallParagraph) {
+    EXPECT_TRUE(Extended("(doc|(r|(c|(p|(pt=a)|p)|c)|r)|doc)").document()->EndsInSmallParagraph());
+}
+
 TEST(ExtendedDescription, IsNotReadWithoutItsFirstLine) {
     const Ref<CRtfDriver> driver = CRtfDriver::create();
     driver->setReadsExtended(true);

@@ -138,8 +138,9 @@ doc)
      .message = driverErrorText(DriverFault::WrongPicture),
      .title = "A picture cannot be taken into the document.",
      .explanation = R"(
-A picture is a PNG or JPEG file in the folder of the description or in a folder within it. The
-message says why it cannot be taken: the file is missing, damaged, too large, or of another kind.
+A picture is a PNG or JPEG file in the folder of the description or in a folder within it;
+"--allow-pictures DIR" allows another folder. The message says why it cannot be taken: the file is
+missing, damaged, too large, of another kind, or elsewhere.
 )"},
 };
 
