@@ -314,6 +314,10 @@ std::int32_t InnerDocument::cellStyleColor(std::string_view sName) const {
     return styleSheet_->getCellStyleBackColor(sName);
 }
 
+bool InnerDocument::lacksStyle(StyleKind kind, std::string_view name) const {
+    return styleSheet_->lacks(kind, name);
+}
+
 const SharedText& InnerDocument::sharedName(std::string_view sName) {
     SharedText& kept = names_[quickHash(sName) % names_.size()];
     if (kept.view() != sName) {

@@ -145,6 +145,18 @@ TEST(ExtendedDescription, KnowsTheInlineStylesOfTheStyleSheet) {
     EXPECT_THAT(extended.text(), HasSubstr("a} \\'3Cweak=b\\'3E"));
 }
 
+TEST(ExtendedDescription, ReportsAStyleThatTheStyleSheetLacks) {
+    const std::string sheet = "{name: normal; style-def: s; format: \\b}";
+    for (const auto& [leaf, error] :
+         {std::pair("(cs=normal)|(p|(pt=a)|p)", "5: The stylesheet has no cell style normal."),
+          std::pair("(p|(pt=a)|(ps=normel)|p)",
+                    "7: The stylesheet has no paragraph style normel.")}) {
+        const std::string text = "(doc|(r|(c|" + std::string(leaf) + "|c)|r)|doc)";
+        EXPECT_THAT(Extended(text, sheet).errors, ElementsAre(error));
+        EXPECT_THAT(Extended(text).errors, IsEmpty());
+    }
+}
+
 TEST(ExtendedDescription, SetsThePageBeforeTheCells) {
     const Extended extended(docOf("(left-margin=2cm)|(right-margin=2cm)|(page=a4-landscape)"));
     EXPECT_THAT(extended.errors, IsEmpty());

@@ -51,12 +51,7 @@ void findDescriptionWarnings(const DescriptionNode& doc, CRtfDoc& document, Buil
     }
 }
 
-void findLiteralTextWarnings(const DescriptionNode& doc, KnownStyles* styles,
-                             const SourceText& source, DiagnosticEngine& engine) {
-    if (!styles) {
-        return;
-    }
-    StyleUses uses(*styles, source, engine);
+void findLiteralTextWarnings(const DescriptionNode& doc, StyleUses& uses) {
     forEachNode(doc, [&](const DescriptionNode& node) {
         if (const Leaf* const style = soundLeaf(node, DescriptionKey::CellStyle)) {
             uses.findCellStyle(*style);
@@ -65,7 +60,7 @@ void findLiteralTextWarnings(const DescriptionNode& doc, KnownStyles* styles,
             uses.findParagraphStyle(*style);
         }
         if (const Leaf* const text = soundLeaf(node, DescriptionKey::ParaText)) {
-            uses.markInlineStyles(text->text);
+            uses.findLiteralInlineStyles(text->text);
         }
     });
 }
