@@ -335,7 +335,7 @@ protected:
 TEST_F(RichEditAsAReaderOfAdditions, FindsTheRowsOfTheBody) {
     // The page header, the heading in it and the page footer are not shown.
     EXPECT_EQ(utf8FromUtf16<wchar_t>(control.text()),
-              "\r\nwide\tx \xE2\x82\xAC\t\r\n\r\na\tb\tc\t\r\n");
+              "\r\nwide\tx \xE2\x82\xAC\t\r\n\r\r\na\tb\tc\t\r\n");
 }
 
 TEST_F(RichEditAsAReaderOfAdditions, FindsAddedColorsAndTheStylesOfTheStyleSheet) {
