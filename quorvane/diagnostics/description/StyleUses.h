@@ -26,6 +26,7 @@ public:
     void findInlineStyles(std::string_view text);
 
     bool lacks(StyleKind kind, std::string_view name) const { return styles_.lacks(kind, name); }
+    void markUsed(StyleKind kind, std::string_view name) { styles_.markUsed(kind, name); }
     /// What was most likely meant by a name that the stylesheet lacks.
     Hint hintFor(StyleKind kind, std::string_view name);
 

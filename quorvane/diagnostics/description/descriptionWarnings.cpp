@@ -2,6 +2,7 @@
 
 #include <span>
 #include <string>
+#include <utility>
 
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/diagnostics/description/CellWarnings.h"
@@ -9,6 +10,7 @@
 #include "quorvane/diagnostics/description/PageWarnings.h"
 #include "quorvane/diagnostics/description/StyleUses.h"
 #include "quorvane/diagnostics/description/WidthWarnings.h"
+#include "quorvane/docmodel/layout/PageLines.h"
 #include "quorvane/driver/soundLeaf.h"
 
 namespace quorvane {
@@ -52,6 +54,12 @@ void findDescriptionWarnings(const DescriptionNode& doc, CRtfDoc& document, Buil
 }
 
 void findLiteralTextWarnings(const DescriptionNode& doc, StyleUses& uses) {
+    for (const auto& [key, style] : {std::pair(DescriptionKey::Header, headerStyle),
+                                     std::pair(DescriptionKey::Footer, footerStyle)}) {
+        if (contains(doc.keys, key)) {
+            uses.markUsed(StyleKind::Paragraph, style);
+        }
+    }
     forEachNode(doc, [&](const DescriptionNode& node) {
         if (const Leaf* const style = soundLeaf(node, DescriptionKey::CellStyle)) {
             uses.findCellStyle(*style);

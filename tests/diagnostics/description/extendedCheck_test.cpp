@@ -70,6 +70,18 @@ TEST(ExtendedCheck, ReportsStylesThatTheStyleSheetLacks) {
     EXPECT_TRUE(styles.isUsed(StyleKind::Paragraph, "normal"));
 }
 
+TEST(ExtendedCheck, CountsTheStylesOfTheHeaderAndTheFooterAsUsed) {
+    for (const bool isUsed : {false, true}) {
+        KnownStyles styles(
+            "; quorvane 2\n{name: header; style-def: s; bold}{name: footer; style-def: s; bold}");
+        checked(std::string("(doc|") + (isUsed ? "(header=a)|(footer=a)|" : "") +
+                    "(r|(c|(p|(pt=a)|p)|c)|r)|doc)",
+                &styles);
+        EXPECT_EQ(styles.isUsed(StyleKind::Paragraph, "header"), isUsed);
+        EXPECT_EQ(styles.isUsed(StyleKind::Paragraph, "footer"), isUsed);
+    }
+}
+
 TEST(ExtendedCheck, LooksUpNoStyleWithoutAStyleSheet) {
     EXPECT_THAT(checked("(doc|(r|(c|(cs=a)|(p|(ps=b)|(pt=<c=d>)|p)|c)|r)|doc)"), IsEmpty());
 }
