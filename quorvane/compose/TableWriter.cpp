@@ -113,7 +113,7 @@ public:
     void finish() {
         requireOpen();
         isOpen_ = false;
-        output_ << "}";
+        inner(*document_).renderEnd(output_);
         output_.flush();
         if (file_) {
             file_->close();

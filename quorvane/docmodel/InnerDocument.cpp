@@ -131,7 +131,7 @@ void InnerDocument::render(TableRendering& rendering) {
     } else {
         body_.render(rendering);
     }
-    rendering.out << "}";
+    renderEnd(rendering.out);
 }
 
 void InnerDocument::renderBeginning(TableRendering& rendering) {
@@ -146,6 +146,13 @@ void InnerDocument::renderBeginning(TableRendering& rendering) {
     if (hasLayout()) {
         renderPageLines(rendering);
     }
+}
+
+void InnerDocument::renderEnd(TextOutput& out) const {
+    if (page().endsInSmallParagraph) {
+        out << R"(\pard\plain\sl-20\slmult0\fs2\par)";
+    }
+    out << "}";
 }
 
 void InnerDocument::renderPageLines(TableRendering& rendering) {
@@ -314,6 +321,10 @@ std::string_view InnerDocument::GetCharacterStyle(std::string_view sName) const 
 
 std::int32_t InnerDocument::cellStyleColor(std::string_view sName) const {
     return styleSheet_->getCellStyleBackColor(sName);
+}
+
+bool InnerDocument::lacksStyle(StyleKind kind, std::string_view name) const {
+    return styleSheet_->lacks(kind, name);
 }
 
 const SharedText& InnerDocument::sharedName(std::string_view sName) {

@@ -43,6 +43,10 @@ public:
     std::int32_t addFont(std::string_view name);
     // Writes all that comes before the rows of the table that are not in the page header.
     void renderBeginning(TableRendering& rendering);
+    // Writes all that comes after them.
+    void renderEnd(TextOutput& out) const;
+    // True when the document has a stylesheet, but that no style of the kind and name.
+    bool lacksStyle(StyleKind kind, std::string_view name) const;
     // True when the document has a short text, and has it in memory.
     bool holdsShortText() const noexcept;
 

@@ -119,7 +119,8 @@ TEST(TableWriter, WritesTheSameWithBordersAndAStylesheetWithoutStripesAndHeading
     setup.stripe = "none";
     setup.hasHeading = false;
     setup.footer = {};
-    setup.styleSheet = "{name: table-cell; style-def: s; format: \\fs16}";
+    setup.styleSheet =
+        "{name: table-cell, table-heading, table-group, table-total; style-def: s; format: \\fs16}";
     const std::vector<WrittenRow> rows = {{.cells = {"a", "1"}}, {.cells = {"b", "2"}}};
     EXPECT_EQ(written(setup, rows), described(setup, rows));
 }
@@ -132,7 +133,7 @@ TEST(TableWriter, WritesARowAsTheObjectModelDoes) {
                                   "\\pard\\plain\\intbl\\s100\\f0\\fs18\\sb40\\sa40 Vase\\cell "
                                   "\r\n\r\n\r\n"
                                   "\\pard\\plain\\intbl\\s100\\f0\\fs18\\sb40\\sa40 \\qr 12"
-                                  "\\cell\\row}}"));
+                                  "\\cell\\row}\\pard\\plain\\sl-20\\slmult0\\fs2\\par}"));
 }
 
 TEST(TableWriter, RepeatsTitleAndHeadingInThePageHeader) {
@@ -206,6 +207,13 @@ TEST(TableWriter, RefusesASetupThatDoesNotFitTogether) {
                 HasSubstr("101 %"));
     EXPECT_NE(errorOfSetup([](TableSetup& setup) { setup.columns[0].width = "3 4"; }), "no error");
     EXPECT_NE(errorOfSetup([](TableSetup& setup) { setup.margin = "20cm"; }), "no error");
+}
+
+TEST(TableWriter, RefusesAStylesheetWithoutTheStylesOfTables) {
+    TableSetup setup = prices();
+    setup.styleSheet = "; quorvane 2\n{ name: table-cell; style-def: paragraph; size: 9pt }";
+    EXPECT_THAT(errorOf([&] { TableWriter(setup, [](std::string_view) {}); }),
+                HasSubstr("table-heading"));
 }
 
 TEST(TableWriter, WritesATableWithoutWidthsInEqualColumns) {
