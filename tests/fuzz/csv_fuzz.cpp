@@ -17,6 +17,7 @@
 #include "quorvane/compose/TableWriter.h"
 #include "quorvane/diagnostics/rtf/RtfCheck.h"
 #include "quorvane/driver/CRtfDriver.h"
+#include "quorvane/rtf/escape.h"
 #include "tests/data/textReader.h"
 #include "tests/fuzz/FuzzInput.h"
 #include "tests/fuzz/require.h"
