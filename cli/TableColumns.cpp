@@ -33,7 +33,7 @@ std::vector<data::ColumnRequest> requestsOf(const TableOptions& options,
 
 data::Locale localeOf(const std::optional<std::string>& name) {
     std::string error;
-    const data::Locale locale = name ? data::localeNamed(*name, error) : data::Locale();
+    data::Locale locale = name ? data::localeNamed(*name, error) : data::Locale();
     if (!error.empty()) {
         refuse(error + ".");
     }

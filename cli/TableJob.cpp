@@ -155,7 +155,7 @@ TableSetup TableJob::setupOf(const TableRecords& records) {
 
 std::unique_ptr<TableTarget> TableJob::targetOf(const TableSetup& setup) {
     // What is wrong with the setup shows before there is a file.
-    TableWriter(setup, [](std::string_view) {});
+    const TableWriter trial(setup, [](std::string_view) {});
     std::unique_ptr<OutputFile> file = platform_.createFile(output_);
     if (options_.form == TableForm::Description) {
         return std::make_unique<TableDescriptionTarget>(setup, std::move(file));
@@ -176,11 +176,10 @@ void TableJob::addRecords(TableRecords& records, TableTarget& target) {
             if (!error.is(RunTimeError::InvalidProcedureCall)) {
                 throw;
             }
-            const data::RecordError failure(records.line(), error.description, true);
             if (!options_.keepGoing) {
-                throw failure;
+                throw data::RecordError(records.line(), error.description, true);
             }
-            leaveOut(failure);
+            leaveOut(data::RecordError(records.line(), error.description, true));
         }
     }
 }
@@ -188,7 +187,7 @@ void TableJob::addRecords(TableRecords& records, TableTarget& target) {
 /// Fields that no column shows must not be lost without notice.
 void TableJob::requireKnown(const std::vector<std::string>& names) {
     if (names.size() > fieldCount_ && !columns_->areNamed()) {
-        const std::string name = names[fieldCount_];
+        const std::string& name = names[fieldCount_];
         fieldCount_ = names.size();
         raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
                        "The first records do not have the field \"" + name +

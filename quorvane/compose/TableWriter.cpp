@@ -42,7 +42,7 @@ std::string_view styleSheetOf(const TableSetup& setup) {
 Ref<CRtfDoc> documentOf(const TableDescription& description) {
     const Ref<CRtfDriver> driver = CRtfDriver::create();
     const TableSetup& setup = description.setup();
-    const Ref<CRtfDoc> document = driver->RtfObject();
+    Ref<CRtfDoc> document = driver->RtfObject();
     document->setExtendedStyleSheets(true);
     driver->LoadStyleSheetFromMemmory(styleSheetOf(setup));
     std::string text = description.beginning();
