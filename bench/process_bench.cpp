@@ -1,10 +1,14 @@
 // Costs of whole processes beside plain programs: process_bench PROGRAMS EXAMPLES, the folders of
 // the built programs and of the examples. Every pair is run by turns, several times.
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <exception>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
 #include <string>
 #include <utility>
 
@@ -26,7 +30,8 @@ std::string sizeOf(const fs::path& path) {
 class Programs {
 public:
     Programs(const fs::path& built, const fs::path& folder) : folder_(folder) {
-        for (const char* name : {"quorvane", "print_line", "copy_files", "table_bench"}) {
+        for (const char* name :
+             {"quorvane", "print_line", "copy_files", "csv_rows", "table_bench"}) {
             fs::copy_file(built / name, folder_ / name);
         }
     }
@@ -113,12 +118,78 @@ public:
                     toOneBuffer.ours(&Run::peakMegabytes), toOneBuffer.theirs(&Run::peakMegabytes));
     }
 
+    void compareTable() {
+        const std::string pattern = makeTable("pattern", 0);
+        const std::string large = makeTable("large", manyRows);
+        const std::string small = makeTable("small", fewRows);
+        timedRun(tableOf(pattern, folder_.string()));
+        requireSameTables(small);
+        const auto ofLarge = [&](const std::string& out) { return tableOf(large, out); };
+        const Turns toPlain = compare(
+            "quorvane table of 1,000,000 rows and 5 columns, to a program that splits the lines of "
+            "the file at commas and writes the same bytes",
+            5, ofLarge, [&](const std::string& out) { return plainTableOf(large, out); });
+        std::printf("- Its peak memory: %.1f MB\n", toPlain.ours(&Run::peakMegabytes));
+        const Turns toSmall = compare("The same, to 10,000 rows", 5, ofLarge,
+                                      [&](const std::string& out) { return tableOf(small, out); });
+        std::printf("- For each row: %.2f in processor time\n",
+                    toSmall.ratio(&Run::work).value * fewRows / manyRows);
+    }
+
     bool rendersSideBySide() const {
         return succeeds({programs_("quorvane"), "render", "-j2", files_.minimal, "-o", "-"});
     }
 
 private:
     static constexpr std::int32_t standardRows = 100000;
+    static constexpr std::int32_t manyRows = 1000000;
+    static constexpr std::int32_t fewRows = 10000;
+
+    /// A file of so many rows; with none, one of two rows with "@" in each field.
+    std::string makeTable(const std::string& name, std::int32_t rows) const {
+        const std::string path = (folder_ / (name + ".csv")).string();
+        std::ofstream file(path, std::ios::binary);
+        file << "no,article,description,price,stock\n";
+        if (rows == 0) {
+            file << "@,@,@,@,@\n@,@,@,@,@\n";
+        }
+        for (std::int32_t row = 0; row < rows; ++row) {
+            file << row << ",Article " << row % 977 << ",With a short description " << row % 131
+                 << ',' << row % 1000 << '.' << 10 + row % 90 << ',' << row % 500 << '\n';
+        }
+        return path;
+    }
+
+    /// With columns that do not depend on the contents.
+    Command tableOf(const std::string& csv, const std::string& out) const {
+        return {programs_("quorvane"),
+                "table",
+                csv,
+                "-o",
+                (fs::path(out) / fs::path(csv).stem()).string() + ".rtf",
+                "--columns",
+                "no:10%:right,article:20%,description:40%,price:15%:right,stock:15%:right"};
+    }
+
+    Command plainTableOf(const std::string& csv, const std::string& out) const {
+        return {programs_("csv_rows"), csv, (folder_ / "pattern.rtf").string(), out + "/plain.rtf"};
+    }
+
+    void requireSameTables(const std::string& csv) const {
+        timedRun(tableOf(csv, folder_.string()));
+        timedRun(plainTableOf(csv, folder_.string()));
+        if (!areEqual(folder_ / "small.rtf", folder_ / "plain.rtf")) {
+            throw std::runtime_error("The programs do not write the same table");
+        }
+    }
+
+    /// Without the files in memory, which would count as memory of the programs.
+    static bool areEqual(const fs::path& first, const fs::path& second) {
+        std::ifstream ours(first, std::ios::binary);
+        std::ifstream theirs(second, std::ios::binary);
+        return std::equal(std::istreambuf_iterator<char>(ours), {},
+                          std::istreambuf_iterator<char>(theirs), {});
+    }
 
     Command renderInvoices(const Command& options, const std::string& out) const {
         Command command = {programs_("quorvane"), "render",       "-s",
@@ -159,6 +230,7 @@ void compareAll(const fs::path& programs, const fs::path& examples) {
         memory.compareManyOnTwoCores();
     }
     memory.compareStandardJob(" that writes into memory");
+    memory.compareTable();
 }
 
 }  // namespace

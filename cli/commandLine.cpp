@@ -144,6 +144,31 @@ const std::map<std::string, EscapeUse>& escapeUses() {
     return uses;
 }
 
+constexpr const char* tableFooter =
+    R"(FILE is a file with delimiters (CSV), whose first row holds the names of the
+columns, or a JSON array of objects, or JSON Lines; - is standard input. The
+delimiter is a comma, a semicolon, a tab or a |, whichever the first rows show.
+The file is in UTF-8, UTF-16 with a byte order mark, or Windows-1252. Unless
+--output is given, the document is written next to it, with the extension rtf.
+
+Columns are as wide as their contents ask for, numbers stand at the right, and
+the heading is on every page. For other columns, name them in their order:
+
+  --columns 'sku:12%,name:Article:auto,price:20%:right:money:2'
+
+After the name of a field come its heading, its width (in percent of the text
+area, as a length such as 3cm, or auto), its alignment (left, right, center or
+justified), and filters: number:2, money:2, date:dd.MM.yyyy, upper, lower,
+default:text. Quotation marks around a name or a heading let it hold : and , too.
+
+A row that cannot be read is an error, and nothing is written. With --keep-going
+such rows are reported and left out.
+
+Exit status:
+  0  success
+  1  the data or the stylesheet has errors
+  2  wrong usage, or a file that cannot be read or written)";
+
 const std::map<std::string, FailOn>& failingSeverities() {
     static const std::map<std::string, FailOn> severities = {
         {"error", FailOn::Error},
@@ -221,6 +246,13 @@ std::vector<std::string> prepared(const std::vector<std::string>& arguments) {
 }
 
 CLI::callback_t storeIn(std::optional<std::string>& target) {
+    return [&target](const CLI::results_t& results) {
+        target = asGiven(results.front());
+        return true;
+    };
+}
+
+CLI::callback_t storeIn(std::string& target) {
     return [&target](const CLI::results_t& results) {
         target = asGiven(results.front());
         return true;
@@ -463,7 +495,82 @@ void addRenderOptions(CLI::App* render, RenderOptions& options) {
     refuseEmptyValues(*render);
 }
 
-constexpr std::string_view commands[] = {"render", "check", "format", "escape", "help"};
+/// What is wrong with a delimiter; empty if it is one.
+std::string wrongDelimiter(const std::string& value) {
+    const std::string text = asGiven(value);
+    const bool isOne = text == "tab" || (text.size() == 1 && text[0] != '"' && text[0] != '\n' &&
+                                         text[0] != '\r' && (text[0] & 0x80) == 0);
+    return isOne ? std::string() : text + " is not a delimiter; write one character, or tab";
+}
+
+/// What is wrong with a number of rows; empty if it is one.
+std::string wrongCount(const std::string& value) {
+    constexpr std::size_t mostDigits = 18;
+    const bool isNumber =
+        value.size() <= mostDigits && value.find_first_not_of("0123456789") == std::string::npos;
+    return isNumber ? std::string() : asGiven(value) + " is not a number of rows";
+}
+
+CLI::callback_t storeIn(std::optional<std::size_t>& target) {
+    return [&target](const CLI::results_t& results) {
+        target = std::stoull(results.front());
+        return true;
+    };
+}
+
+void addTableForms(CLI::App* table, TableOptions& options) {
+    table->add_flag_callback(
+        "--as-description", [&options] { options.form = TableForm::Description; },
+        "Write the description of the table instead, in the extended language");
+    table
+        ->add_flag_callback(
+            "--as-stylesheet", [&options] { options.form = TableForm::StyleSheet; },
+            "Write the stylesheet that tables have without --stylesheet")
+        ->excludes("--as-description")
+        ->excludes("FILE");
+}
+
+void addTableOptions(CLI::App* table, TableOptions& options) {
+    table->footer(tableFooter);
+    addStandardFlags(*table);
+    const auto add = [&](const char* name, auto& target, const char* type, const char* help) {
+        return table->add_option(name, storeIn(target), help)->type_name(type);
+    };
+    add("FILE", options.input, "", "The data");
+    add("-o,--output", options.output, "FILE", "Write the document to this file");
+    add("-s,--stylesheet", options.styleSheet, "FILE", "Take the styles from this .rtfss file");
+    addEncoding(*table, options.encoding);
+    add("--delimiter", options.delimiter, "CHARACTER",
+        "What stands between the fields; tab for a tab")
+        ->check(CLI::Validator(wrongDelimiter, ""));
+    add("--columns", options.columns, "COLUMNS", "The columns in their order");
+    add("--locale", options.locale, "NAME", "How filters write numbers, such as de-DE");
+    add("--title", options.title, "TEXT", "A title above the heading");
+    add("--page", options.page, "NAME", "The page, such as letter or a4-landscape; a4 by default");
+    add("--stripe", options.stripe, "COLOR", "The color of every second row, or none");
+    add("--border", options.border, "BORDER",
+        "The border of all cells: hair, thin, normal or thick");
+    add("--group-by", options.groupBy, "FIELD", "A heading above the rows that share this field");
+    table
+        ->add_option("--total", storeIn(options.totals),
+                     "A row at the end with the sum of this column")
+        ->type_name("FIELD")
+        ->expected(1)
+        ->take_all();
+    add("--limit", options.limit, "N", "Stop after so many rows")
+        ->check(CLI::Validator(wrongCount, ""));
+    table->add_flag("--keep-going", options.keepGoing, "Leave out rows that have errors");
+    addTableForms(table, options);
+    refuseEmptyValues(*table);
+}
+
+void requireInput(const TableOptions& options) {
+    if (options.input.empty() && options.form != TableForm::StyleSheet) {
+        throw UsageError("FILE is required");
+    }
+}
+
+constexpr std::string_view commands[] = {"render", "check", "format", "escape", "table", "help"};
 
 bool isCommand(std::string_view name) {
     return std::find(std::begin(commands), std::end(commands), name) != std::end(commands);
@@ -472,7 +579,7 @@ bool isCommand(std::string_view name) {
 std::string unknownCommandText(const std::string& name) {
     const std::string guess = didYouMean(name, commands);
     return name + " is not a subcommand; " +
-           (guess.empty() ? "use render, check, format, escape or help" : guess);
+           (guess.empty() ? "use render, check, format, escape, table or help" : guess);
 }
 
 std::string unknownOptionText(const CLI::App& app, const std::string& argument) {
@@ -504,7 +611,7 @@ std::vector<std::string> helpRequest(const std::vector<std::string>& commandsAsk
 void addHelpOptions(CLI::App* help, std::vector<std::string>& commandsAskedFor) {
     addStandardFlags(*help);
     help->add_option("SUBCOMMAND", storeIn(commandsAskedFor),
-                     "render, check, format, escape or help")
+                     "render, check, format, escape, table or help")
         ->type_name("");
 }
 
@@ -514,6 +621,7 @@ struct Requests {
     CheckOptions check;
     FormatOptions format;
     EscapeOptions escape;
+    TableOptions table;
     std::vector<std::string> help;
 };
 
@@ -531,6 +639,7 @@ void addCommands(CLI::App& app, const std::vector<std::string>& arguments, Reque
     add("format", "Format descriptions and stylesheets.", addFormatOptions, requests.format);
     add("escape", "Escape texts, so that they show as they are.", addEscapeOptions,
         requests.escape);
+    add("table", "Make a table of a CSV or JSON file.", addTableOptions, requests.table);
     add("help", "Show the help of a subcommand.", addHelpOptions, requests.help);
     if (!isKnown) {
         addStandardFlags(app);
@@ -567,7 +676,7 @@ std::string usageErrorText(const CLI::App& app, const CLI::ParseError& error) {
 
 }  // namespace
 
-std::variant<RenderOptions, CheckOptions, FormatOptions, EscapeOptions, Information>
+std::variant<RenderOptions, CheckOptions, FormatOptions, EscapeOptions, TableOptions, Information>
 parseCommandLine(const std::vector<std::string>& arguments) {
     CLI::App app("Render descriptions as documents in Rich Text Format (RTF).", "quorvane");
     app.require_subcommand(1);
@@ -589,6 +698,10 @@ parseCommandLine(const std::vector<std::string>& arguments) {
         }
         if (command == "escape") {
             return requests.escape;
+        }
+        if (command == "table") {
+            requireInput(requests.table);
+            return requests.table;
         }
         if (command == "help") {
             return parseCommandLine(helpRequest(requests.help));

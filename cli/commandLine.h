@@ -8,6 +8,7 @@
 #include "cli/EscapeOptions.h"
 #include "cli/FormatOptions.h"
 #include "cli/RenderOptions.h"
+#include "cli/TableOptions.h"
 
 namespace quorvane::cli {
 
@@ -17,7 +18,7 @@ struct Information {
 };
 
 /// Returns what the arguments after the program's name ask for. Throws `UsageError`.
-std::variant<RenderOptions, CheckOptions, FormatOptions, EscapeOptions, Information>
+std::variant<RenderOptions, CheckOptions, FormatOptions, EscapeOptions, TableOptions, Information>
 parseCommandLine(const std::vector<std::string>& arguments);
 
 /// The form in which an error in the arguments is reported: the one that they ask for, even if

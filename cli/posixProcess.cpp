@@ -145,21 +145,13 @@ void writeToStandardError(std::string_view text) noexcept {
     }
 }
 
-std::string readStandardInput() {
-    std::string bytes;
-    std::array<char, std::size_t{64} * 1024> block;
-    while (true) {
-        const ssize_t count = whenReady(STDIN_FILENO, POLLIN, [&block] {
-            return ::read(STDIN_FILENO, block.data(), block.size());
-        });
-        if (count == -1) {
-            raiseSystemError(errno);
-        }
-        if (count == 0) {
-            return bytes;
-        }
-        bytes.append(block.data(), static_cast<std::size_t>(count));
+std::size_t readStandardInput(std::span<char> block) {
+    const ssize_t count = whenReady(
+        STDIN_FILENO, POLLIN, [block] { return ::read(STDIN_FILENO, block.data(), block.size()); });
+    if (count == -1) {
+        raiseSystemError(errno);
     }
+    return static_cast<std::size_t>(count);
 }
 
 std::unique_ptr<OutputFile> openStandardOutput() {

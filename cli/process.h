@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -26,7 +28,11 @@ bool standardOutputIsTerminal();
 /// Writes to standard error, without a buffer. What cannot be written is lost.
 void writeToStandardError(std::string_view text) noexcept;
 
-/// All bytes of standard input. Errors: 75 when it is a folder, 57 when it is closed or fails.
+/// Reads as many bytes of standard input as are there, and at most those that the block has room
+/// for; 0 at its end. Errors: 75 when it is a folder, 57 when it is closed or fails.
+std::size_t readStandardInput(std::span<char> block);
+
+/// All bytes of standard input. Errors as above.
 std::string readStandardInput();
 
 /// Thrown when nobody reads standard output any more. It is not an error: the reader has seen

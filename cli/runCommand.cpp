@@ -9,6 +9,7 @@
 #include "cli/FormatJob.h"
 #include "cli/RenderJob.h"
 #include "cli/ReportedError.h"
+#include "cli/TableJob.h"
 #include "cli/UsageError.h"
 #include "cli/checkCommand.h"
 #include "cli/colors.h"
@@ -106,6 +107,13 @@ ExitStatus run(const std::vector<std::string>& arguments, ErrorForm form) {
     }
     if (const auto* options = std::get_if<EscapeOptions>(&request)) {
         return escape(*options);
+    }
+    if (const auto* options = std::get_if<TableOptions>(&request)) {
+        return TableJob(*options,
+                        [form](const ReportedError& error) {
+                            writeToStandardError(lineOf(error, form));
+                        })
+            .run();
     }
     return render(std::get<RenderOptions>(request));
 }

@@ -1,6 +1,5 @@
 #include <windows.h>
 
-#include <array>
 #include <cstddef>
 #include <new>
 #include <string>
@@ -105,24 +104,17 @@ void writeToStandardError(std::string_view text) noexcept {
     }
 }
 
-std::string readStandardInput() {
+std::size_t readStandardInput(std::span<char> block) {
     HANDLE stream = standardStream(STD_INPUT_HANDLE);
-    std::string bytes;
-    std::array<char, 64 * 1024> block;
-    while (true) {
-        DWORD count = 0;
-        if (!ReadFile(stream, block.data(), static_cast<DWORD>(block.size()), &count, nullptr)) {
-            const DWORD code = GetLastError();
-            if (code != ERROR_BROKEN_PIPE) {
-                raiseSystemError(code);
-            }
-            count = 0;
+    DWORD count = 0;
+    if (!ReadFile(stream, block.data(), static_cast<DWORD>(block.size()), &count, nullptr)) {
+        const DWORD code = GetLastError();
+        if (code != ERROR_BROKEN_PIPE) {
+            raiseSystemError(code);
         }
-        if (count == 0) {
-            return bytes;
-        }
-        bytes.append(block.data(), count);
+        count = 0;
     }
+    return count;
 }
 
 std::unique_ptr<OutputFile> openStandardOutput() {

@@ -23,7 +23,7 @@ void CRtfParagraph::setText(std::string_view text) {
             InnerParagraph& self = inner(*this);
             TableDocument* document = self.document();
             beforeChange(document);
-            self.text_.assign(text, memoryOf(*self.cell_).pool);
+            self.setText(text);
             markChanged(document);
         }
     });

@@ -125,6 +125,16 @@ void InnerDocument::renderInto(std::string& rtf) {
 }
 
 void InnerDocument::render(TableRendering& rendering) {
+    renderBeginning(rendering);
+    if (hasLayout()) {
+        LaidOutRows(inner(*body_.TableRows()), *this).renderBody(rendering);
+    } else {
+        body_.render(rendering);
+    }
+    renderEnd(rendering.out);
+}
+
+void InnerDocument::renderBeginning(TableRendering& rendering) {
     TextOutput& out = rendering.out;
     out << "{";
     header_.render(out);
@@ -134,23 +144,22 @@ void InnerDocument::render(TableRendering& rendering) {
     styleSheet_->render(out);
     format_->render(out);
     if (hasLayout()) {
-        renderLayout(rendering);
-    } else {
-        body_.render(rendering);
+        renderPageLines(rendering);
     }
+}
+
+void InnerDocument::renderEnd(TextOutput& out) const {
     if (page().endsInSmallParagraph) {
         out << R"(\pard\plain\sl-20\slmult0\fs2\par)";
     }
     out << "}";
 }
 
-void InnerDocument::renderLayout(TableRendering& rendering) {
-    const InnerRows& rows = inner(*body_.TableRows());
-    const LaidOutRows laidOut(rows, *this);
+void InnerDocument::renderPageLines(TableRendering& rendering) {
+    const LaidOutRows laidOut(inner(*body_.TableRows()), *this);
     PageLines lines(rendering, *format_);
     lines.renderHeader(page().header, laidOut.hasPageHeading() ? &laidOut : nullptr);
     lines.renderFooter(page().footer);
-    laidOut.renderBody(rendering);
 }
 
 void InnerDocument::checkLayout() {

@@ -41,6 +41,10 @@ public:
     void checkLayout();
     tColorIndex addColor(RgbColor color);
     std::int32_t addFont(std::string_view name);
+    // Writes all that comes before the rows of the table that are not in the page header.
+    void renderBeginning(TableRendering& rendering);
+    // Writes all that comes after them.
+    void renderEnd(TextOutput& out) const;
     // True when the document has a stylesheet, but that no style of the kind and name.
     bool lacksStyle(StyleKind kind, std::string_view name) const;
     // True when the document has a short text, and has it in memory.
@@ -71,7 +75,7 @@ private:
     void render();
     void renderInto(std::string& rtf);
     void render(TableRendering& rendering);
-    void renderLayout(TableRendering& rendering);
+    void renderPageLines(TableRendering& rendering);
     bool streams() const noexcept;
     std::optional<RtfError> stream(const std::string& path);
     void keepText() override;

@@ -101,6 +101,10 @@ void InnerParagraph::takeOver(const InnerParagraph& old) {
     }
 }
 
+void InnerParagraph::setText(std::string_view text) {
+    text_.assign(text, memoryOf(*cell_).pool);
+}
+
 const RtfPicture* InnerParagraph::picture() const noexcept {
     return hasPicture_ ? memoryOf(*cell_).additions->pictures.find(this) : nullptr;
 }

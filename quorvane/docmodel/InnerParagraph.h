@@ -5,6 +5,7 @@
 #include <new>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "quorvane/base/collections/KeyedList.h"
 #include "quorvane/base/memory/PooledText.h"
@@ -31,6 +32,7 @@ public:
     void mark(std::string fieldData);
     const RtfPicture* picture() const noexcept;
     void setPicture(std::optional<RtfPicture> picture);
+    void setText(std::string_view text);
     void fillForeColor(tColorIndex color) noexcept { foreColor_ = color; }
     void fillAlign(tCellAlign align) noexcept { align_ = align; }
     void render(TableRendering& rendering, std::size_t position) const;

@@ -151,9 +151,9 @@ TEST(CommandLine, ShowsTheVersionWithAndWithoutASubcommand) {
 TEST(CommandLine, NeedsASubcommand) {
     EXPECT_EQ(usageErrorOf({}), "A subcommand is required");
     EXPECT_EQ(usageErrorOf({"draw", "a.rtfspec"}),
-              "draw is not a subcommand; use render, check, format, escape or help");
+              "draw is not a subcommand; use render, check, format, escape, table or help");
     EXPECT_EQ(usageErrorOf({"[a].rtfspec"}),
-              "[a].rtfspec is not a subcommand; use render, check, format, escape or help");
+              "[a].rtfspec is not a subcommand; use render, check, format, escape, table or help");
     EXPECT_EQ(usageErrorOf({"chekc", "x"}), "chekc is not a subcommand; did you mean check?");
     EXPECT_EQ(usageErrorOf({"Format", "x"}), "Format is not a subcommand; did you mean format?");
 }
@@ -251,7 +251,7 @@ TEST(CommandLine, ShowsTheHelpOfASubcommandByItsName) {
     EXPECT_EQ(informationOf({"help"}), informationOf({"--help"}));
     EXPECT_EQ(usageErrorOf({"help", "rendre"}), "rendre is not a subcommand; did you mean render?");
     EXPECT_EQ(usageErrorOf({"help", "draw"}),
-              "draw is not a subcommand; use render, check, format, escape or help");
+              "draw is not a subcommand; use render, check, format, escape, table or help");
 }
 
 TEST(CommandLine, RefusesAnOptionThatIsGivenTwice) {

@@ -6,7 +6,8 @@ import subprocess
 import sys
 
 command, page = sys.argv[1], pathlib.Path(sys.argv[2]).read_text(encoding="utf-8")
-SECTIONS = {"render": "Options", "check": "Checking", "format": "Formatting"}
+SECTIONS = {"render": "Options", "check": "Checking", "format": "Formatting",
+            "table": "Tables"}
 EVERYWHERE = {"-h", "--help", "-V", "--version"}
 OPTION = re.compile(r"(?<![\w-])--?[a-zA-Z][\w-]*")
 

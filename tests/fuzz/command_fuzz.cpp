@@ -22,6 +22,7 @@
 #include "cli/FormatJob.h"
 #include "cli/RenderJob.h"
 #include "cli/ReportedError.h"
+#include "cli/TableJob.h"
 #include "cli/UsageError.h"
 #include "cli/commandLine.h"
 #include "cli/diagnosticJson.h"
@@ -252,6 +253,8 @@ std::string outcome(const std::vector<std::string>& arguments) {
         } else if (const auto* format = std::get_if<cli::FormatOptions>(&request)) {
             const auto write = [&text](const std::string& output, TextEncoding) { text += output; };
             status = static_cast<int>(cli::FormatJob(*format, write, report).run());
+        } else if (const auto* table = std::get_if<cli::TableOptions>(&request)) {
+            status = static_cast<int>(cli::TableJob(*table, report).run());
         } else {
             status = rendered(std::get<cli::RenderOptions>(request), report);
         }

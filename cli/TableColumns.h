@@ -1,0 +1,69 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "cli/TableOptions.h"
+#include "data/columnsMeasure.h"
+#include "data/columnsNumber.h"
+#include "data/columnsRequest.h"
+#include "data/locale.h"
+#include "quorvane/compose/TableSetup.h"
+
+namespace quorvane::cli {
+
+/// A record that is kept.
+struct TableRecord {
+    std::vector<std::string> fields;
+    /// Where it begins.
+    std::int64_t line;
+};
+
+/// The position of the field of that name. Error 5 if there is none, or more than one.
+std::size_t fieldNamed(std::string_view name, const std::vector<std::string>& names);
+
+/// Which fields of the records a table shows, and how.
+class TableColumns {
+public:
+    /// Takes the columns of the options, or all fields but that of the groups. Error 5 for columns
+    /// that are wrong or name no field.
+    TableColumns(const TableOptions& options, const std::vector<std::string>& names);
+
+    /// Adds the columns with widths and alignments that suit the first records. If it may choose
+    /// the page, it turns it for wide tables.
+    void fit(TableSetup& setup, const std::vector<TableRecord>& records, bool choosesPage);
+
+    std::size_t count() const noexcept { return columns_.size(); }
+    /// The number of the column that shows this field; `count` for none.
+    std::size_t columnOf(std::string_view name) const;
+    /// True if the columns are named, so that other fields are left out on purpose.
+    bool areNamed() const noexcept { return areNamed_; }
+
+    /// The texts of the cells, good until the next call. Error 5 for a value that a filter refuses.
+    std::span<const std::string_view> cells(std::span<const std::string_view> fields);
+    /// The text of a column's cell for this value.
+    std::string shown(std::size_t column, std::string_view value) const;
+    /// The sign before decimals, if the options name a locale.
+    std::optional<data::DecimalSign> decimalSign() const;
+    /// True if the column shows values in another way.
+    bool hasFilters(std::size_t column) const { return !columns_[column].filters.empty(); }
+
+private:
+    std::vector<data::ColumnMeasure> measured(const std::vector<TableRecord>& records);
+
+    std::vector<data::ColumnRequest> columns_;
+    bool hasLocale_;
+    data::Locale locale_;
+    bool areNamed_;
+    // The fields that the columns show, by position.
+    std::vector<std::size_t> fields_;
+    std::vector<std::string> filtered_;
+    std::vector<std::string_view> cells_;
+};
+
+}  // namespace quorvane::cli

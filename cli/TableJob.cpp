@@ -1,0 +1,253 @@
+#include "cli/TableJob.h"
+
+#include <utility>
+
+#include "cli/RenderOptions.h"
+#include "cli/UsageError.h"
+#include "cli/fileFailure.h"
+#include "cli/outputPaths.h"
+#include "cli/styleSheetName.h"
+#include "quorvane/base/text/TextEncoding.h"
+#include "quorvane/base/values/RtfError.h"
+#include "quorvane/docmodel/CRtfDoc.h"
+
+namespace quorvane::cli {
+
+namespace {
+
+/// Where the output goes. No input takes its name.
+Assignment assignmentOf(const TableOptions& options) {
+    const bool isDocument = options.form == TableForm::Document;
+    RenderOptions render;
+    render.descriptions = {options.input.empty() ? standardStream : options.input};
+    render.styleSheet = options.styleSheet;
+    render.output = options.output;
+    if (!render.output && !isDocument) {
+        render.output = standardStream;
+    }
+    return assignOutputs(render).front();
+}
+
+/// Raises what is wrong with a stylesheet.
+void requireStyleSheet(const std::string& text) {
+    const Ref<CRtfDoc> document = CRtfDoc::create();
+    document->setExtendedStyleSheets(true);
+    document->LoadStyleSheetFromMemmory(text);
+}
+
+/// Runs an action whose errors are those of the options.
+template <class Action>
+auto asUsage(Action action) {
+    try {
+        return action();
+    } catch (const RtfError& error) {
+        if (!error.is(RunTimeError::InvalidProcedureCall)) {
+            throw;
+        }
+        throw UsageError(error.description);
+    }
+}
+
+}  // namespace
+
+TableJob::TableJob(const TableOptions& options, ErrorSink report)
+    : options_(options), report_(std::move(report)), platform_(systemPlatform()) {}
+
+ExitStatus TableJob::run() {
+    if (options_.styleSheet) {
+        requireStyleSheetExtension(*options_.styleSheet, {options_.input});
+    }
+    try {
+        output_ = assignmentOf(options_).output;
+    } catch (const RtfError& error) {
+        return fail(fileFailure(inputName(), error));
+    }
+    try {
+        return write();
+    } catch (const UnreadableInput& error) {
+        return fail(unreadableFile(inputName(), options_.input, error));
+    } catch (const data::RecordError& error) {
+        report_({ErrorKind::Raised, inputName(), error});
+        return ExitStatus::ContentErrors;
+    } catch (const RtfError& error) {
+        return fail(fileFailure(outputName(), error));
+    }
+}
+
+ExitStatus TableJob::write() {
+    if (options_.form == TableForm::StyleSheet) {
+        writeStyleSheet();
+        return ExitStatus::Success;
+    }
+    if (options_.styleSheet) {
+        try {
+            const std::string bytes = systemPlatform().readFile(*options_.styleSheet);
+            styleSheet_ = decodedText(bytes, encodingOf(bytes, options_.encoding));
+        } catch (const RtfError& error) {
+            return fail(unreadableFile(*options_.styleSheet, *options_.styleSheet, error));
+        }
+        try {
+            requireStyleSheet(styleSheet_);
+        } catch (const RtfError& error) {
+            report_({ErrorKind::Raised, *options_.styleSheet, error});
+            return ExitStatus::ContentErrors;
+        }
+    }
+    writeTable();
+    return leftOut_ == 0 ? ExitStatus::Success : ExitStatus::ContentErrors;
+}
+
+void TableJob::writeStyleSheet() {
+    const std::unique_ptr<OutputFile> file = platform_.createFile(output_);
+    file->write(standardTableStyles());
+    file->close();
+}
+
+void TableJob::writeTable() {
+    TableRecords records(options_, [this](const RtfError& error) { leaveOut(error); });
+    if (records.names().empty()) {
+        throw data::RecordError(0, "There is no data. A table needs a row of names or a record.",
+                                false);
+    }
+    const std::unique_ptr<TableTarget> target = asUsage([&] {
+        findFields(records.names());
+        return targetOf(setupOf(records));
+    });
+    addRecords(records, *target);
+    addTotals(*target);
+    target->finish();
+    if (leftOut_ > 0) {
+        report_(refusal(
+            inputName(),
+            std::to_string(leftOut_) + (leftOut_ == 1 ? " row was" : " rows were") + " left out"));
+    }
+}
+
+void TableJob::findFields(const std::vector<std::string>& names) {
+    columns_.emplace(options_, names);
+    fieldCount_ = names.size();
+    if (options_.groupBy) {
+        groupField_ = fieldNamed(*options_.groupBy, names);
+    }
+    for (const std::string& name : options_.totals) {
+        const std::size_t column = columns_->columnOf(name);
+        if (column == columns_->count()) {
+            throw UsageError("the table has no column \"" + name + "\" for a total");
+        }
+        totals_.push_back(
+            {column, fieldNamed(name, names), data::ColumnTotal(columns_->decimalSign())});
+    }
+}
+
+TableSetup TableJob::setupOf(const TableRecords& records) {
+    TableSetup setup;
+    const auto take = [](std::string& setting, const std::optional<std::string>& option) {
+        setting = option.value_or(setting);
+    };
+    take(setup.title, options_.title);
+    take(setup.page, options_.page);
+    take(setup.stripe, options_.stripe);
+    take(setup.border, options_.border);
+    setup.styleSheet = styleSheet_;
+    columns_->fit(setup, records.first(), !options_.page);
+    return setup;
+}
+
+std::unique_ptr<TableTarget> TableJob::targetOf(const TableSetup& setup) {
+    // What is wrong with the setup shows before there is a file.
+    const TableWriter trial(setup, [](std::string_view) {});
+    std::unique_ptr<OutputFile> file = platform_.createFile(output_);
+    if (options_.form == TableForm::Description) {
+        return std::make_unique<TableDescriptionTarget>(setup, std::move(file));
+    }
+    return std::make_unique<TableDocumentTarget>(setup, std::move(file));
+}
+
+void TableJob::addRecords(TableRecords& records, TableTarget& target) {
+    std::vector<std::string_view> fields;
+    for (std::size_t count = 0; !options_.limit || count < *options_.limit; ++count) {
+        if (!records.next(fields)) {
+            return;
+        }
+        try {
+            requireKnown(records.names());
+            addRecord(fields, target);
+        } catch (const RtfError& error) {
+            if (!error.is(RunTimeError::InvalidProcedureCall)) {
+                throw;
+            }
+            if (!options_.keepGoing) {
+                throw data::RecordError(records.line(), error.description, true);
+            }
+            leaveOut(data::RecordError(records.line(), error.description, true));
+        }
+    }
+}
+
+/// Fields that no column shows must not be lost without notice.
+void TableJob::requireKnown(const std::vector<std::string>& names) {
+    if (names.size() > fieldCount_ && !columns_->areNamed()) {
+        const std::string& name = names[fieldCount_];
+        fieldCount_ = names.size();
+        raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
+                       "The first records do not have the field \"" + name +
+                           "\", so that the table has no column for it. Name the columns with "
+                           "--columns."));
+    }
+}
+
+void TableJob::addRecord(std::span<const std::string_view> fields, TableTarget& target) {
+    const auto field = [&](std::size_t position) {
+        return position < fields.size() ? fields[position] : std::string_view();
+    };
+    for (const Total& total : totals_) {
+        total.sum.require(field(total.field));
+    }
+    const std::span<const std::string_view> cells = columns_->cells(fields);
+    if (groupField_ && group_ != field(*groupField_)) {
+        target.addGroup(field(*groupField_));
+        group_ = field(*groupField_);
+    }
+    target.addRow(cells);
+    for (Total& total : totals_) {
+        total.sum.add(field(total.field));
+    }
+}
+
+void TableJob::addTotals(TableTarget& target) {
+    if (totals_.empty()) {
+        return;
+    }
+    std::vector<std::string> texts(columns_->count());
+    texts.front() = "Total";
+    for (const Total& total : totals_) {
+        try {
+            texts[total.column] = columns_->hasFilters(total.column)
+                                      ? columns_->shown(total.column, total.sum.plainText())
+                                      : total.sum.text();
+        } catch (const RtfError& error) {
+            throw data::RecordError(0, error.description, false);
+        }
+    }
+    target.addTotal(std::vector<std::string_view>(texts.begin(), texts.end()));
+}
+
+void TableJob::leaveOut(const RtfError& error) {
+    ++leftOut_;
+    report_({ErrorKind::Raised, inputName(), error});
+}
+
+ExitStatus TableJob::fail(const ReportedError& failure) {
+    report_(failure);
+    return ExitStatus::Failure;
+}
+
+std::string TableJob::inputName() const {
+    return options_.input == standardStream ? "<stdin>" : options_.input;
+}
+
+std::string TableJob::outputName() const {
+    return output_ == standardStream ? "<stdout>" : output_;
+}
+
+}  // namespace quorvane::cli

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quorvane::data {
+
+/// How numbers are written. All texts are UTF-8.
+struct Locale {
+    /// Between the whole part and the decimals.
+    std::string decimal = ".";
+    /// Between groups of digits of the whole part; empty for none.
+    std::string group = ",";
+    /// Only the last group has three digits and the others have two, as in India.
+    bool isIndian = false;
+    /// A number of four digits has no group sign, as in Spain and Poland.
+    bool leavesFourDigits = false;
+
+    bool operator==(const Locale&) const = default;
+};
+
+/// The locale of a name such as "de-DE", in any case and also with "_", or of the language alone
+/// ("de"); or the one that a sample shows: "1.234,56", "1 234,56", "1234.56". `error` is what is
+/// wrong with any other name, and empty for a locale.
+Locale localeNamed(std::string_view name, std::string& error);
+
+/// The names of the locales, in ascending order.
+std::vector<std::string_view> localeNames();
+
+}  // namespace quorvane::data

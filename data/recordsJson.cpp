@@ -1,0 +1,266 @@
+#include "data/recordsJson.h"
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+
+namespace quorvane::data {
+
+namespace {
+
+using nlohmann::json;
+
+// The names of fields grow with it.
+constexpr std::size_t deepest = 32;
+
+bool isBlank(char character) {
+    return character == ' ' || character == '\t' || character == '\n' || character == '\r';
+}
+
+std::int64_t linesIn(std::string_view text) {
+    return std::count(text.begin(), text.end(), '\n');
+}
+
+/// What the parser says, without where it says it from.
+std::string reasonOf(const json::exception& error) {
+    const std::string_view text = error.what();
+    const std::size_t colon = text.find(": ");
+    return std::string(colon == std::string_view::npos ? text : text.substr(colon + 2));
+}
+
+}  // namespace
+
+/// Takes what the parser finds in one object.
+class JsonFields {
+public:
+    explicit JsonFields(JsonRecords& records) : records_(records) {}
+
+    bool null() { return put({}); }
+    bool boolean(bool value) { return put(value ? "true" : "false"); }
+    bool number_integer(json::number_integer_t value) { return put(std::to_string(value)); }
+    bool number_unsigned(json::number_unsigned_t value) { return put(std::to_string(value)); }
+    bool number_float(json::number_float_t, const std::string& written) { return put(written); }
+    bool string(std::string& value) { return put(std::move(value)); }
+    bool binary(json::binary_t&) { return false; }
+
+    bool start_object(std::size_t) {
+        if (inList_) {
+            return refuse();
+        }
+        if (prefixLengths_.size() > deepest) {
+            error_ =
+                "The record has more than " + std::to_string(deepest) + " objects in each other.";
+            return false;
+        }
+        prefixLengths_.push_back(prefix_.size());
+        if (prefixLengths_.size() > 1) {
+            prefix_ = name_ + ".";
+        }
+        return true;
+    }
+    bool key(const std::string& key) {
+        name_ = prefix_ + key;
+        return true;
+    }
+    bool end_object() {
+        prefix_.resize(prefixLengths_.back());
+        prefixLengths_.pop_back();
+        return true;
+    }
+    bool start_array(std::size_t) {
+        if (inList_) {
+            return refuse();
+        }
+        inList_ = true;
+        list_.clear();
+        isFirst_ = true;
+        return true;
+    }
+    bool end_array() {
+        inList_ = false;
+        return put(std::move(list_));
+    }
+
+    bool parse_error(std::size_t position, const std::string&, const json::exception& error) {
+        errorPosition_ = position;
+        error_ = "This is not JSON: " + reasonOf(error);
+        return false;
+    }
+
+    const std::string& error() const noexcept { return error_; }
+    std::size_t errorPosition() const noexcept { return errorPosition_; }
+
+private:
+    bool put(std::string value) {
+        if (!inList_) {
+            return records_.put(name_, std::move(value), error_);
+        }
+        list_ += (isFirst_ ? "" : ", ") + value;
+        isFirst_ = false;
+        return true;
+    }
+
+    bool refuse() {
+        error_ = "\"" + name_ + "\" is a list of lists or objects, which a cell cannot show.";
+        return false;
+    }
+
+    JsonRecords& records_;
+    std::string name_;
+    std::string prefix_;
+    std::vector<std::size_t> prefixLengths_;
+    bool inList_ = false;
+    bool isFirst_ = true;
+    std::string list_;
+    std::string error_;
+    std::size_t errorPosition_ = 0;
+};
+
+bool JsonRecords::next(std::vector<std::string_view>& fields) {
+    fields.clear();
+    if (form_ == Form::Unknown) {
+        takeBeginning();
+    }
+    if (form_ == Form::Ended || !takeSeparator()) {
+        return false;
+    }
+    line_ = nextLine_;
+    parse(takeObject());
+    fields.assign(values_.begin(), values_.end());
+    return true;
+}
+
+bool JsonRecords::isAtEnd() {
+    while (at_ >= text_.size()) {
+        if (!text_.readMore()) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// False at the end of the text.
+bool JsonRecords::skipBlanks() {
+    while (!isAtEnd() && isBlank(text_.data()[at_])) {
+        nextLine_ += text_.data()[at_] == '\n' ? 1 : 0;
+        ++at_;
+        text_.discardBefore(at_);
+    }
+    return !isAtEnd();
+}
+
+void JsonRecords::takeBeginning() {
+    form_ = Form::Objects;
+    if (skipBlanks() && text_.data()[at_] == '[') {
+        form_ = Form::Array;
+        ++at_;
+    }
+}
+
+/// Takes what stands before a record; false if there is none.
+bool JsonRecords::takeSeparator() {
+    const bool isThere = skipBlanks();
+    line_ = nextLine_;
+    if (form_ == Form::Objects) {
+        return isThere;
+    }
+    if (isThere && text_.data()[at_] == ']') {
+        endArray();
+        return false;
+    }
+    if (isThere && hasRecords_) {
+        if (text_.data()[at_] != ',') {
+            refuse("A comma is missing between two records.");
+        }
+        ++at_;
+    }
+    if (!isThere || !skipBlanks()) {
+        refuse("The list of records does not end; ] is missing.");
+    }
+    return true;
+}
+
+void JsonRecords::endArray() {
+    ++at_;
+    form_ = Form::Ended;
+    const bool goesOn = skipBlanks();
+    line_ = nextLine_;
+    if (goesOn) {
+        refuse("The list of records ends, but the file does not.");
+    }
+}
+
+/// Finds where an object ends, and takes it.
+std::string_view JsonRecords::takeObject() {
+    if (text_.data()[at_] != '{') {
+        refuse("A record must be an object, which begins with {.");
+    }
+    const std::size_t begin = at_;
+    std::size_t depth = 0;
+    bool isString = false;
+    do {
+        if (isAtEnd()) {
+            refuse("The record does not end; } is missing.");
+        }
+        const char character = text_.data()[at_++];
+        if (character == '"') {
+            isString = !isString;
+        } else if (isString) {
+            // What follows a backslash does not end the text.
+            at_ += character == '\\' ? 1 : 0;
+        } else if (character == '{') {
+            ++depth;
+        } else if (character == '}') {
+            --depth;
+        }
+        if (at_ - begin > longestRecord) {
+            refuse("The record has more than 4 MB.");
+        }
+    } while (depth > 0);
+    hasRecords_ = true;
+    const std::string_view object = text_.view().substr(begin, at_ - begin);
+    nextLine_ += linesIn(object);
+    return object;
+}
+
+void JsonRecords::parse(std::string_view object) {
+    values_.assign(names_.size(), {});
+    isThere_.assign(names_.size(), false);
+    expected_ = 0;
+    JsonFields fields(*this);
+    if (!json::sax_parse(object, &fields)) {
+        const std::string_view before = object.substr(0, fields.errorPosition());
+        throw RecordError(line_ + linesIn(before), fields.error(), true);
+    }
+}
+
+bool JsonRecords::put(const std::string& name, std::string value, std::string& error) {
+    if (expected_ >= names_.size() || names_[expected_] != name) {
+        expected_ = indexOf(name);
+    }
+    if (isThere_[expected_]) {
+        error = "The record has \"" + name + "\" twice.";
+        return false;
+    }
+    isThere_[expected_] = true;
+    values_[expected_] = std::move(value);
+    ++expected_;
+    return true;
+}
+
+/// The position of a name, which is added if it is new.
+std::size_t JsonRecords::indexOf(const std::string& name) {
+    const auto [found, isNew] = indexes_.try_emplace(name, names_.size());
+    if (isNew) {
+        names_.push_back(name);
+        values_.emplace_back();
+        isThere_.push_back(false);
+    }
+    return found->second;
+}
+
+void JsonRecords::refuse(const std::string& why) {
+    form_ = Form::Ended;
+    throw RecordError(line_, why, false);
+}
+
+}  // namespace quorvane::data

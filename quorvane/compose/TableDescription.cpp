@@ -1,0 +1,194 @@
+#include "quorvane/compose/TableDescription.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include "quorvane/base/text/trimming.h"
+#include "quorvane/base/values/RtfError.h"
+#include "quorvane/driver/extendedValues.h"
+#include "quorvane/rtf/escape.h"
+
+namespace quorvane {
+
+namespace {
+
+// Word processors have no more.
+constexpr std::size_t mostColumns = 63;
+constexpr std::string_view blockMark = R"(""")";
+constexpr std::string_view headingColor = "#dce6f1";
+constexpr std::string_view line = "thin";
+
+[[noreturn]] void refuse(const std::string& why) {
+    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), why));
+}
+
+std::string leaf(std::string_view key, std::string_view value) {
+    return "(" + std::string(key) + "=" + std::string(value) + ")\n";
+}
+
+/// The leaf, unless the value is `none`.
+std::string leafUnlessNone(std::string_view key, std::string_view value) {
+    return value.empty() || value == "none" ? std::string() : leaf(key, value);
+}
+
+/// A text as the value of a leaf: between marks if it would not be kept otherwise.
+std::string textLeaf(std::string_view text) {
+    const bool hasLines = text.find_first_of("\r\n") != std::string_view::npos;
+    if (!hasLines && trimWhitespace(text) == text && !text.starts_with(blockMark)) {
+        return leaf("para-text", text);
+    }
+    if (text.find(blockMark) != std::string_view::npos) {
+        refuse("A description cannot hold this text, because it has \"\"\" in it.");
+    }
+    const std::string_view lineEnd = hasLines ? "\n" : "";
+    return "(para-text=" + std::string(blockMark) + std::string(lineEnd) + std::string(text) +
+           std::string(lineEnd) + std::string(blockMark) + ")\n";
+}
+
+std::string_view alignmentName(tCellAlign align) {
+    switch (align) {
+        case eLeft:
+            return "left";
+        case eRight:
+            return "right";
+        case eCentered:
+            return "centered";
+        case eJustified:
+            return "justified";
+        default:
+            return "none";
+    }
+}
+
+std::string cell(std::string_view style, std::string_view text, tCellAlign align,
+                 std::size_t columns = 1) {
+    return "(cell\n" + (columns > 1 ? leaf("span", std::to_string(columns)) : "") + "(para\n" +
+           leaf("para-style", style) + leafUnlessNone("para-alignment", alignmentName(align)) +
+           (text.empty() ? leaf("rtf", emptyText) : textLeaf(text)) + "para)\ncell)\n";
+}
+
+void requireWidth(std::string_view width) {
+    try {
+        columnWidth(width);
+    } catch (const RtfError& error) {
+        refuse(error.description);
+    }
+}
+
+std::string borders(std::string_view border) {
+    return leafUnlessNone("row-top-border", border) + leafUnlessNone("row-bottom-border", border) +
+           leafUnlessNone("row-left-border", border) + leafUnlessNone("row-right-border", border);
+}
+
+std::string pageLine(std::string_view key, const PageText& text) {
+    return text == PageText() ? std::string()
+                              : leaf(key, text.left + "|" + text.center + "|" + text.right);
+}
+
+std::string_view styleOf(TableRowKind kind) {
+    switch (kind) {
+        case TableRowKind::Group:
+            return "table-group";
+        case TableRowKind::Total:
+            return "table-total";
+        default:
+            return "table-cell";
+    }
+}
+
+void requireShowable(std::string_view text, std::size_t number) {
+    if (const std::optional<Unshowable> found = findUnshowable(text)) {
+        refuse("Cell " + std::to_string(number) + ": " + found->message);
+    }
+}
+
+}  // namespace
+
+void requireCells(const TableSetup& setup, TableRowKind kind, std::size_t count) {
+    const std::size_t most = kind == TableRowKind::Group ? 1 : setup.columns.size();
+    if (count > most) {
+        refuse("The row has " + std::to_string(count) + " cells; the table has " +
+               std::to_string(most) + (most == 1 ? " column." : " columns."));
+    }
+}
+
+TableDescription::TableDescription(TableSetup setup) : setup_(std::move(setup)) {
+    if (setup_.columns.empty() || setup_.columns.size() > mostColumns) {
+        refuse("A table has 1 to " + std::to_string(mostColumns) + " columns, not " +
+               std::to_string(setup_.columns.size()) + ".");
+    }
+    const auto hasWidth = [](const TableColumn& column) { return !column.width.empty(); };
+    const auto widths = std::ranges::count_if(setup_.columns, hasWidth);
+    if (widths == 0) {
+        return;
+    }
+    for (const TableColumn& column : setup_.columns) {
+        if (!hasWidth(column)) {
+            refuse("Give all columns a width, or none of them.");
+        }
+        requireWidth(column.width);
+    }
+}
+
+std::string TableDescription::beginning() const {
+    std::string text = "; quorvane 2\n(doc\n";
+    text += leaf("page", setup_.page);
+    for (const char* side : {"left", "right", "top", "bottom"}) {
+        text += leaf(std::string(side) + "-margin", setup_.margin);
+    }
+    text += leafUnlessNone("columns", widths());
+    text += pageLine("header", setup_.header) + pageLine("footer", setup_.footer);
+    return text + titleRow() + headingRow();
+}
+
+std::string TableDescription::row(TableRowKind kind, TableCells cells) const {
+    requireCells(setup_, kind, cells.size());
+    const bool isGroup = kind == TableRowKind::Group;
+    std::string text = "(row\n(row-keep=yes)\n";
+    text += isGroup ? "(row-keep-with-next=yes)\n" : "";
+    text += leafUnlessNone("row-backcolor", kind == TableRowKind::Striped ? setup_.stripe : "none");
+    text += setup_.border == "none" && kind == TableRowKind::Total ? leaf("row-top-border", line)
+                                                                   : borders(setup_.border);
+    const std::size_t count = isGroup ? 1 : setup_.columns.size();
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::string_view content = i < cells.size() ? cells[i] : std::string_view();
+        requireShowable(content, i + 1);
+        text += cell(styleOf(kind), content, isGroup ? eNoDefault : setup_.columns[i].align,
+                     isGroup ? setup_.columns.size() : 1);
+    }
+    return text + "row)\n";
+}
+
+std::string TableDescription::titleRow() const {
+    return setup_.title.empty()
+               ? std::string()
+               : "(row\n(row-heading=yes)\n" +
+                     cell("table-title", setup_.title, eNoDefault, setup_.columns.size()) +
+                     "row)\n";
+}
+
+std::string TableDescription::headingRow() const {
+    if (!setup_.hasHeading) {
+        return {};
+    }
+    std::string text = "(row\n(row-heading=yes)\n" + leaf("row-backcolor", headingColor);
+    text += setup_.border == "none" ? leaf("row-bottom-border", line) : borders(setup_.border);
+    for (const TableColumn& column : setup_.columns) {
+        text += cell("table-heading", column.heading, column.align);
+    }
+    return text + "row)\n";
+}
+
+std::string TableDescription::widths() const {
+    if (setup_.columns.front().width.empty()) {
+        return {};
+    }
+    std::string text;
+    for (const TableColumn& column : setup_.columns) {
+        text += (text.empty() ? "" : " ") + column.width;
+    }
+    return text;
+}
+
+}  // namespace quorvane

@@ -1,0 +1,291 @@
+// The built program's "table".
+
+#include <gmock/gmock.h>
+
+#include <string>
+
+#include "quorvane/compose/TableSetup.h"
+#include "quorvane/diagnostics/rtf/RtfCheck.h"
+#include "tests/cli/ProgramTest.h"
+#include "tests/cli/runProgram.h"
+
+namespace quorvane::cli {
+namespace {
+
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+class TableTest : public ProgramTest {
+protected:
+    TableTest() : ProgramTest({"table"}) {}
+
+    /// The description of the table, with the columns and rows alone.
+    std::string described(std::vector<std::string> arguments) {
+        arguments.insert(arguments.begin(), "--as-description");
+        const ProgramResult result = run(arguments);
+        EXPECT_EQ(result.errors, "");
+        return result.output;
+    }
+
+    /// The texts of a description, with blanks between those of a row.
+    static std::string textsOf(const std::string& description) {
+        std::string texts;
+        for (std::size_t at = 0; at < description.size();) {
+            const std::size_t end = description.find('\n', at);
+            const std::string line = description.substr(at, end - at);
+            if (line.starts_with("(para-text=")) {
+                texts += line.substr(11, line.size() - 12) + " ";
+            } else if (line == "(rtf={})") {
+                texts += "- ";
+            } else if (line == "row)") {
+                texts.back() = '/';
+            }
+            at = end + 1;
+        }
+        return texts;
+    }
+};
+
+constexpr const char* prices =
+    "No.;Article;Price\r\n0017;Vase;1 250,00\r\n0018;Bowl;79,90\r\n0023;\"Candle; red\";9,50\r\n";
+
+TEST_F(TableTest, WritesADocumentBesideTheData) {
+    folder.write("prices.csv", prices);
+    const ProgramResult result = run({"prices.csv"});
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(result.output, "");
+    EXPECT_EQ(result.status, 0);
+    const std::string document = folder.read("prices.rtf");
+    EXPECT_THAT(document, AllOf(StartsWith("{\\rtf1"), HasSubstr("Candle; red\\cell")));
+    EXPECT_THAT(checkRtf(document), IsEmpty());
+}
+
+TEST_F(TableTest, WritesTheDocumentOfStandardInputToStandardOutput) {
+    start.input = prices;
+    const ProgramResult result = run({"-"});
+    EXPECT_EQ(result.errors, "");
+    folder.write("prices.csv", prices);
+    run({"prices.csv"});
+    EXPECT_EQ(result.output, folder.read("prices.rtf"));
+}
+
+TEST_F(TableTest, WritesWhatItsDescriptionIsRenderedAs) {
+    folder.write("prices.csv", std::string(prices) +
+                                   "5;\"two\nlines\";\r\n6;  <b=1> {x} \\ \U0001F600;-3,00\r\n");
+    const std::vector<std::string> options = {
+        "prices.csv", "--title", "Prices (spring)", "--border", "hair",   "--stripe", "silver",
+        "--group-by", "No.",     "--total",         "Price",    "--page", "a5"};
+    const auto with = [&](std::vector<std::string> more) {
+        more.insert(more.begin(), options.begin(), options.end());
+        return run(more);
+    };
+    EXPECT_EQ(with({"-o", "direct.rtf"}).errors, "");
+    EXPECT_EQ(with({"--as-description", "-o", "prices.rtfspec"}).errors, "");
+    EXPECT_EQ(run({"--as-stylesheet", "-o", "table.rtfss"}).errors, "");
+    start.arguments = {"render", "-s", "table.rtfss", "prices.rtfspec", "-o", "rendered.rtf"};
+    EXPECT_EQ(runProgram(start).errors, "");
+    EXPECT_EQ(folder.read("rendered.rtf"), folder.read("direct.rtf"));
+}
+
+TEST_F(TableTest, AlignsNumbersAndLeavesNamesAlone) {
+    folder.write("a.csv", "No.,Name,Price\n0017,x,1.5\n0018,y,20\n");
+    EXPECT_THAT(described({"a.csv"}),
+                AllOf(HasSubstr("(para-style=table-cell)\n(para-text=0017)"),
+                      HasSubstr("(para-style=table-cell)\n(para-alignment=right)\n"
+                                "(para-text=1.5)"),
+                      HasSubstr("(para-style=table-heading)\n(para-alignment=right)\n"
+                                "(para-text=Price)")));
+}
+
+TEST_F(TableTest, TurnsThePageForAWideTable) {
+    const std::string text(30, 'x');
+    std::string wide;
+    for (int row = 0; row < 2; ++row) {
+        for (int i = 0; i < 9; ++i) {
+            wide += text + std::to_string(i) + (i < 8 ? "," : "\n");
+        }
+    }
+    folder.write("wide.csv", wide);
+    EXPECT_THAT(described({"wide.csv"}), HasSubstr("(page=a4-landscape)\n"));
+    EXPECT_THAT(described({"wide.csv", "--page", "a3"}), HasSubstr("(page=a3)\n"));
+    folder.write("narrow.csv", "a,b\n1,2\n");
+    EXPECT_THAT(described({"narrow.csv"}), HasSubstr("(page=a4)\n"));
+}
+
+TEST_F(TableTest, ShowsTheColumnsThatItIsAskedFor) {
+    folder.write("a.csv", "sku,name,price,day\n17,vase,1250,2027-01-31\n18,,79.9,\n");
+    const std::string description =
+        described({"a.csv", "--locale", "de-DE", "--columns",
+                   "price:Preis:20%:money:2,name:\"Artikel, alle\":auto:center:upper|default:?,"
+                   "day:3cm:date:d.M.yy"});
+    EXPECT_EQ(textsOf(description), "Preis Artikel, alle day/1.250,00 VASE 31.1.27/79,90 ? -/");
+    EXPECT_THAT(description, HasSubstr("(para-alignment=centered)\n(para-text=VASE)"));
+    EXPECT_THAT(description, HasSubstr("(columns=20% 62.35% 3cm)\n"));
+}
+
+TEST_F(TableTest, GroupsRowsAndAddsATotal) {
+    folder.write("a.csv", "kind,name,price\nglass,vase,0.10\nglass,bowl,0.20\nwood,box,5\n");
+    EXPECT_EQ(textsOf(described({"a.csv", "--group-by", "kind", "--total", "price"})),
+              "name price/glass/vase 0.10/bowl 0.20/wood/box 5/Total 5.30/");
+    EXPECT_EQ(textsOf(described({"a.csv", "--columns", "kind,price:money", "--total=price"})),
+              "kind price/glass 0.10/glass 0.20/wood 5.00/Total 5.30/");
+}
+
+TEST_F(TableTest, StopsAfterTheRowsThatItIsLimitedTo) {
+    folder.write("a.csv", "a,b\n1,2\n3,4\n\"broken");
+    EXPECT_EQ(textsOf(described({"a.csv", "--limit", "2"})), "a b/1 2/3 4/");
+    EXPECT_EQ(textsOf(described({"a.csv", "--limit", "0"})), "a b/");
+}
+
+TEST_F(TableTest, ReadsJsonListsAndJsonLines) {
+    folder.write("a.json", R"([{"name":"Vase","size":{"cm":24}},{"name":"Bowl","tags":["a",1]}])");
+    EXPECT_EQ(textsOf(described({"a.json"})), "name size.cm tags/Vase 24 -/Bowl - a, 1/");
+    start.input = "{\"a\":1}\n{\"a\":null}\n";
+    EXPECT_EQ(textsOf(described({"-"})), "a/1/-/");
+}
+
+TEST_F(TableTest, ReportsAFieldThatComesTooLateForAColumn) {
+    std::string json;
+    for (int i = 0; i < 1000; ++i) {
+        json += "{\"a\":1}\n";
+    }
+    folder.write("a.jsonl", json + "{\"b\":1}\n");
+    const ProgramResult result = run({"a.jsonl"});
+    EXPECT_EQ(result.errors,
+              "a.jsonl:1001: error: The first records do not have the field \"b\", so that the "
+              "table has no column for it. Name the columns with --columns.\n");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(run({"a.jsonl", "--columns", "a"}).errors, "");
+}
+
+TEST_F(TableTest, ReadsWhatOfficesExport) {
+    folder.write("excel.csv", "\xEF\xBB\xBFName;Preis\r\nM\u00FCller;1,5\r\n");
+    EXPECT_EQ(textsOf(described({"excel.csv"})), "Name Preis/M\u00FCller 1,5/");
+    folder.write("windows.csv", "sep=;\r\nName;Preis\r\nM\xFCller;1,5 \x80\r\n");
+    EXPECT_EQ(textsOf(described({"windows.csv"})), "Name Preis/M\u00FCller 1,5 \u20AC/");
+    folder.write("unicode.txt", std::string("\xFF\xFE"
+                                            "a\0\t\0b\0\r\0\n\0Y\x01\t\0"
+                                            "1\0",
+                                            18));
+    EXPECT_EQ(textsOf(described({"unicode.txt"})), "a b/\u0159 1/");
+    folder.write("comma.csv", "a;b,c\n1;2,3\n");
+    EXPECT_EQ(textsOf(described({"comma.csv", "--delimiter", ","})), "a;b c/1;2 3/");
+    folder.write("tab.csv", "a,b\tc\n1,2\t3\n");
+    EXPECT_EQ(textsOf(described({"tab.csv", "--delimiter=tab"})), "a,b c/1,2 3/");
+}
+
+TEST_F(TableTest, WritesNothingForARowThatIsWrong) {
+    folder.write("a.csv", "a,b\n1,2\n3\n5,6\n");
+    folder.write("a.rtf", "before");
+    const ProgramResult result = run({"a.csv"});
+    EXPECT_EQ(result.errors, "a.csv:3: error: The row has 1 field, and the heading has 2.\n");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(folder.read("a.rtf"), "before");
+    folder.write("b.csv", "a,b\n1,2\n3,\"4\n5,6\n");
+    EXPECT_EQ(run({"b.csv"}).errors,
+              "b.csv:3: error: A quotation mark opens a field, and none closes it.\n");
+    folder.write("c.csv", "a,b\n1,\x07\n");
+    EXPECT_EQ(run({"c.csv"}).errors,
+              "c.csv:2: error: Cell 2: No document can show the control character U+0007 (byte "
+              "1)\n");
+    folder.write("d.csv", "a,b\n1,\xFF\n");
+    EXPECT_EQ(run({"d.csv", "--encoding=utf-8"}).errors,
+              "d.csv:2: error: Cell 2: Byte FF is not UTF-8 (byte 1)\n");
+    EXPECT_FALSE(folder.has("b.rtf"));
+}
+
+TEST_F(TableTest, LeavesWrongRowsOutOnRequest) {
+    folder.write("a.csv", "a,b\n1,2\n3\nx,\x07\n5,6\ny,\"z\"0\n");
+    const ProgramResult result = run({"a.csv", "--keep-going", "--total", "b", "-o", "a.rtf"});
+    EXPECT_THAT(result.errors,
+                AllOf(HasSubstr("a.csv:3: error: "), HasSubstr("a.csv:4: error: "),
+                      HasSubstr("a.csv:6: error: "), HasSubstr("a.csv: 3 rows were left out\n")));
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(folder.read("a.rtf"), AllOf(HasSubstr("6\\cell"), HasSubstr(" 8\\cell\\row}")));
+}
+
+TEST_F(TableTest, SaysWhatIsMissingInAFileWithoutData) {
+    folder.write("empty.csv", "");
+    EXPECT_EQ(run({"empty.csv"}).errors,
+              "empty.csv: error: There is no data. A table needs a row of names or a record.\n");
+    folder.write("empty.json", "[]");
+    EXPECT_EQ(run({"empty.json"}).status, 1);
+    folder.write("heading.csv", "a,b\n");
+    EXPECT_EQ(textsOf(described({"heading.csv"})), "a b/");
+    EXPECT_EQ(run({"missing.csv"}).errors, "missing.csv: No such file or directory\n");
+    EXPECT_EQ(run({"."}).errors, ".: Is a directory\n");
+    EXPECT_EQ(run({"missing.csv"}).status, 2);
+}
+
+TEST_F(TableTest, RefusesOptionsThatDoNotSuitTheData) {
+    folder.write("a.csv", "name,price,price\nx,1,2\n");
+    const auto errorOf = [&](std::vector<std::string> options) {
+        options.insert(options.begin(), "a.csv");
+        const ProgramResult result = run(options);
+        EXPECT_EQ(result.status, 2);
+        EXPECT_FALSE(folder.has("a.rtf"));
+        return result.errors.substr(0, result.errors.find('\n'));
+    };
+    EXPECT_EQ(errorOf({"--columns", "nmae"}),
+              "quorvane: The data has no field \"nmae\"; did you mean name?");
+    EXPECT_EQ(errorOf({"--columns", "price"}), "quorvane: The data has several fields \"price\".");
+    EXPECT_EQ(errorOf({"--group-by", "kind"}), "quorvane: The data has no field \"kind\".");
+    EXPECT_EQ(errorOf({"--total", "sum"}), "quorvane: the table has no column \"sum\" for a total");
+    EXPECT_THAT(errorOf({"--page", "a44"}), HasSubstr("\"a44\" is not a page"));
+    EXPECT_THAT(errorOf({"--stripe", "crimsno"}), HasSubstr("crimsno"));
+    EXPECT_THAT(errorOf({"--border", "fat"}), HasSubstr("fat"));
+    EXPECT_THAT(errorOf({"--locale", "xx"}), HasSubstr("xx"));
+    EXPECT_THAT(errorOf({"--columns", "name:80%,name:40%"}), HasSubstr("120 %"));
+    EXPECT_THAT(errorOf({"--delimiter", "ab"}), HasSubstr("ab is not a delimiter"));
+    EXPECT_THAT(errorOf({"--limit", "x"}), HasSubstr("x is not a number of rows"));
+    EXPECT_THAT(errorOf({"-o", "a.csv"}), HasSubstr("would replace a.csv"));
+}
+
+TEST_F(TableTest, RefusesATotalThatDoesNotExist) {
+    folder.write("a.csv", "n\n\"1,500\"\n\"2,500\"\n");
+    EXPECT_EQ(run({"a.csv", "--total", "n"}).errors,
+              "a.csv: error: The numbers can be read with a decimal point, with the total 4000, or "
+              "with a decimal comma, with the total 4.000. Choose one with a locale, such as en-US "
+              "or de-DE.\n");
+    EXPECT_EQ(textsOf(described({"a.csv", "--total", "n", "--locale", "en-US"})),
+              "n/1,500/2,500/4,000/");
+    folder.write("b.csv", "n,m\na,1\nb,x\n");
+    EXPECT_EQ(run({"b.csv", "--total", "m"}).errors,
+              "b.csv:3: error: \"x\" is not a number, so that there is no total.\n");
+}
+
+TEST_F(TableTest, TakesItsStylesFromAStylesheet) {
+    folder.write("a.csv", "a\n1\n");
+    folder.write("own.rtfss",
+                 "; quorvane 2\n{ name: table-cell, table-heading, table-group, table-total; "
+                 "style-def: paragraph; size: 31pt }\n");
+    EXPECT_EQ(run({"a.csv", "-s", "own.rtfss"}).errors, "");
+    EXPECT_THAT(folder.read("a.rtf"), HasSubstr("\\fs62"));
+    folder.write("wrong.rtfss", "; quorvane 2\n\n{ name: x; style-def: paragraph; sise: 1pt }\n");
+    const ProgramResult result = run({"a.csv", "-s", "wrong.rtfss"});
+    EXPECT_THAT(result.errors, StartsWith("wrong.rtfss:3: error: "));
+    EXPECT_EQ(result.status, 1);
+    folder.write("lacking.rtfss", "; quorvane 2\n{ name: x; style-def: paragraph }\n");
+    EXPECT_THAT(run({"a.csv", "-s", "lacking.rtfss"}).errors, HasSubstr("table-heading"));
+    EXPECT_EQ(run({"a.csv", "-s", "missing.rtfss"}).errors,
+              "missing.rtfss: No such file or directory\n");
+}
+
+TEST_F(TableTest, LeavesTheDocumentThatWasThereOnAFullDisk) {
+    folder.write("a.csv", "a\n1\n");
+    const ProgramResult result = run({"a.csv", "-o", "/dev/full"});
+    EXPECT_EQ(result.errors, "/dev/full: No space left on device\n");
+    EXPECT_EQ(result.status, 2);
+}
+
+TEST_F(TableTest, PrintsItsStylesheet) {
+    EXPECT_EQ(run({"--as-stylesheet"}).output, standardTableStyles());
+    EXPECT_EQ(run({"--as-stylesheet", "--as-description"}).status, 2);
+    EXPECT_EQ(run({"--as-stylesheet", "a.csv"}).status, 2);
+    EXPECT_EQ(run({}).status, 2);
+}
+
+}  // namespace
+}  // namespace quorvane::cli
