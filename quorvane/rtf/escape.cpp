@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <utility>
 
+#include "quorvane/base/text/hexadecimal.h"
 #include "quorvane/base/text/utf8.h"
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/rtf/unicodeWords.h"
@@ -13,16 +14,6 @@
 namespace quorvane {
 
 namespace {
-
-constexpr std::string_view hexadecimalDigits = "0123456789ABCDEF";
-
-std::string hexadecimal(std::uint32_t number, int minDigits) {
-    std::string text;
-    for (; number > 0 || minDigits > 0; number /= 16, --minDigits) {
-        text.insert(text.begin(), hexadecimalDigits[number % 16]);
-    }
-    return text;
-}
 
 bool isSurrogate(char32_t code) {
     return code >= 0xD800 && code < 0xE000;
@@ -167,8 +158,8 @@ private:
     }
 
     void takeCode(unsigned code) {
-        const std::array<char, 4> word = {'\\', '\'', hexadecimalDigits[code / 16],
-                                          hexadecimalDigits[code % 16]};
+        const std::array<char, 4> word = {'\\', '\'', upperHexadecimalDigits[code / 16],
+                                          upperHexadecimalDigits[code % 16]};
         rtf_.append(word.data(), word.size());
     }
 
