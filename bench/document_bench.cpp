@@ -14,9 +14,11 @@
 #include <iostream>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "bench/SizeTable.h"
 #include "bench/benchFiles.h"
+#include "bench/bothLanguages.h"
 #include "bench/standardJob.h"
 #include "quorvane/driver/CRtfDriver.h"
 
@@ -342,6 +344,63 @@ void loadStyleSheet(benchmark::State& state) {
     setElements(state, state.range(0));
 }
 
+void renderDescriptions(benchmark::State& state, Language language,
+                        const std::vector<std::string>& descriptions, std::int64_t elements) {
+    const Ref<CRtfDriver> driver = CRtfDriver::create();
+    driver->LoadStyleSheetFromMemmory(standardStyleSheet());
+    driver->setReadsExtended(language == Language::Extended);
+    for (auto _ : state) {
+        for (const std::string& description : descriptions) {
+            driver->ParseFromMemmory(description);
+            benchmark::DoNotOptimize(driver->Contents().data());
+        }
+    }
+    if (driver->RtfObject()->TableRows()->Count() == 0) {
+        state.SkipWithError("the description was not built");
+    }
+    setElements(state, elements);
+}
+
+/// As many cells as the original language takes.
+constexpr std::int64_t cellsInBothLanguages = 999;
+constexpr std::int64_t manyInvoices = 100;
+
+template <Language language, Widths widths, Letters letters = Letters::Ascii>
+void tableOf(benchmark::State& state) {
+    const auto rows = static_cast<std::int32_t>(state.range(0) / columnsOfTable);
+    renderDescriptions(state, language, {tableDescription(language, widths, letters, rows)},
+                       state.range(0));
+}
+
+template <Language language>
+void invoices(benchmark::State& state) {
+    std::vector<std::string> descriptions;
+    for (std::int32_t number = 0; number < state.range(0); ++number) {
+        descriptions.push_back(invoiceDescription(language, number));
+    }
+    renderDescriptions(state, language, descriptions, state.range(0) * linesOfInvoice());
+}
+
+void registerLanguages() {
+    using enum Widths;
+    constexpr Language original = Language::Original;
+    constexpr Language extended = Language::Extended;
+    const auto add = [](const char* name, void (*run)(benchmark::State&), std::int64_t size) {
+        benchmark::RegisterBenchmark(name, run)->Arg(size)->Unit(benchmark::kMillisecond);
+    };
+    add("evenTableOriginal", tableOf<original, Even>, cellsInBothLanguages);
+    add("evenTableExtended", tableOf<extended, Even>, cellsInBothLanguages);
+    add("widthsTableOriginal", tableOf<original, OfCells>, cellsInBothLanguages);
+    add("widthsTableExtended", tableOf<extended, OfCells>, cellsInBothLanguages);
+    add("columnsTableExtended", tableOf<extended, OfColumns>, cellsInBothLanguages);
+    add("accentsTableOriginal", tableOf<original, OfCells, Letters::Accented>,
+        cellsInBothLanguages);
+    add("accentsTableExtended", tableOf<extended, OfCells, Letters::Accented>,
+        cellsInBothLanguages);
+    add("invoicesOriginal", invoices<original>, manyInvoices);
+    add("invoicesExtended", invoices<extended>, manyInvoices);
+}
+
 void cellSizes(benchmark::internal::Benchmark* benchmark) {
     benchmark->RangeMultiplier(10)->Range(1000, 1000000)->Unit(benchmark::kMillisecond);
 }
@@ -367,6 +426,12 @@ BENCHMARK(inlineTokensInOneText)->Arg(500)->Arg(5000)->Arg(50000)->Unit(benchmar
 BENCHMARK(parseDescription)->Arg(999)->Unit(benchmark::kMillisecond);
 BENCHMARK(parseAndCheckDescription)->Arg(999)->Unit(benchmark::kMillisecond);
 BENCHMARK(descriptionToDocument)->Arg(linesOfFullDescription())->Unit(benchmark::kMillisecond);
+BENCHMARK_TEMPLATE(tableOf, Language::Extended, Widths::OfColumns)
+    ->Name("extendedToDocument")
+    ->Apply(cellSizes);
+BENCHMARK_TEMPLATE(tableOf, Language::Extended, Widths::OfCells)
+    ->Name("extendedWidthsToDocument")
+    ->Apply(cellSizes);
 BENCHMARK(findLineEnds)->Arg(linesOfFullDescription())->Unit(benchmark::kMillisecond);
 BENCHMARK(loadStyleSheet)->Arg(50)->Arg(500)->Unit(benchmark::kMillisecond);
 
@@ -384,6 +449,23 @@ void printRatio(const char* what, double value, double yardstick) {
     }
 }
 
+/// What the extended language costs, to the original one without checks.
+void printLanguageRatios(const SizeTable& table) {
+    const auto print = [&](const char* what, const char* extended, const char* original,
+                           std::int64_t size = cellsInBothLanguages) {
+        printRatio(what, table.nanoseconds(extended, size), table.nanoseconds(original, size));
+    };
+    print("A table of 999 cells in the extended language, to the original language",
+          "evenTableExtended", "evenTableOriginal");
+    print("The same with a width in each cell", "widthsTableExtended", "widthsTableOriginal");
+    print("The same with columns, to a width in each cell", "columnsTableExtended",
+          "widthsTableOriginal");
+    print("The same with a width in each cell and text beyond ASCII", "accentsTableExtended",
+          "accentsTableOriginal");
+    print("100 invoices in the extended language, to the original language", "invoicesExtended",
+          "invoicesOriginal", manyInvoices);
+}
+
 }  // namespace
 
 int run(int argc, char** argv) {
@@ -395,6 +477,7 @@ int run(int argc, char** argv) {
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
         return 2;
     }
+    registerLanguages();
     SizeTable table;
     benchmark::RunSpecifiedBenchmarks(&table);
     constexpr std::int64_t million = 1000000;
@@ -417,6 +500,7 @@ int run(int argc, char** argv) {
     printRatio("Description to document text through the driver, per line, to finding line ends",
                table.nanoseconds("descriptionToDocument", linesOfFullDescription()),
                table.nanoseconds("findLineEnds", linesOfFullDescription()));
+    printLanguageRatios(table);
     return 0;
 }
 

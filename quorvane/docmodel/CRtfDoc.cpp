@@ -37,11 +37,11 @@ const std::string& CRtfDoc::Contents() {
 }
 
 bool CRtfDoc::Changed() const {
-    return inner(*this).changed_;
+    return inner(*this).changed();
 }
 
 void CRtfDoc::setChanged(bool changed) {
-    inner(*this).changed_ = changed;
+    inner(*this).setChanged(changed);
 }
 
 const std::string& CRtfDoc::StyleSheetFile() const {

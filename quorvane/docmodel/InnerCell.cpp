@@ -144,10 +144,7 @@ void InnerCell::setBorder(BorderSide side, tBorderWidth width) {
     }
 }
 
-CellSpan InnerCell::span() const {
-    if (!hasRareValues_) {
-        return {};
-    }
+CellSpan InnerCell::rareSpan() const {
     const auto& additions = memoryOf(*this).additions;
     const CellSpan* own = additions ? additions->spans.find(this) : nullptr;
     return own ? *own : CellSpan();

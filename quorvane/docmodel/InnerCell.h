@@ -34,8 +34,8 @@ public:
     void prepareBackColor(std::int32_t color);
     void applyBackColor(TableDocument* document, tColorIndex color);
     void setAlign(std::int32_t align);
-    bool hasSpan() const noexcept { return span().columns > 1 || span().rows > 1; }
-    CellSpan span() const;
+    bool hasSpan() const { return span().columns > 1 || span().rows > 1; }
+    CellSpan span() const { return hasRareValues_ ? rareSpan() : CellSpan(); }
     void renderDefinition(TableRendering& rendering, std::int32_t rightEdge);
     void renderContent(TableRendering& rendering);
 
@@ -54,6 +54,7 @@ private:
     InnerRow& row() const;
     static bool isUsual(std::int32_t value) noexcept;
     RareValues& rareValues();
+    CellSpan rareSpan() const;
     void setBackColor(std::int32_t color);
     void setBorder(BorderSide side, tBorderWidth width);
     void setSpan(std::int32_t CellSpan::*direction, std::int32_t count);

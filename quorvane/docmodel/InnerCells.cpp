@@ -153,6 +153,17 @@ void InnerCells::setWidthOf(const InnerCell& cell, tWidthUnit units, std::int32_
     owner.markChanged();
 }
 
+void InnerCells::setWidths(std::span<const std::int32_t> twips) {
+    TableDocument& owner = changing(document());
+    const std::size_t count = std::min(twips.size(), list_.count());
+    std::int32_t edge = 0;
+    for (std::size_t i = 0; i < count; ++i) {
+        edge += twips[i];
+        setRightEdge(i + 1, edge);
+    }
+    owner.markChanged();
+}
+
 void InnerCells::render(TableRendering& rendering) {
     std::size_t position = 0;
     for (InnerCell* cell : list_) {

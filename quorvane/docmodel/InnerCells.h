@@ -27,6 +27,8 @@ public:
     std::int32_t widthOf(const InnerCell& cell, tWidthUnit units) const;
     void setWidthOf(const InnerCell& cell, tWidthUnit units, std::int32_t value);
     void spreadEvenly();
+    // Gives the cells these widths in twips, in their order.
+    void setWidths(std::span<const std::int32_t> twips);
     std::int32_t rightEdge(std::size_t position) const noexcept;
     void render(TableRendering& rendering);
     /// Writes the cells at these places, and the parts of cells of the rows above.

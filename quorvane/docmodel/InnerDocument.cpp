@@ -90,7 +90,7 @@ const std::string& InnerDocument::contents() {
 void InnerDocument::refresh() {
     refuseWhileWriting();
     keepsText_ = true;
-    changed_ = true;
+    setChanged(true);
     checkLayout();
     refreshIfChanged("Refresh");
 }
@@ -98,7 +98,7 @@ void InnerDocument::refresh() {
 // Renders a stale text into memory. A failure goes to the error module as one of this procedure;
 // false then.
 bool InnerDocument::refreshIfChanged(const char* procedure) {
-    return !changed_ || !errors_.absorbing(moduleName, procedure, [this] { render(); });
+    return !changed() || !errors_.absorbing(moduleName, procedure, [this] { render(); });
 }
 
 void InnerDocument::render() {
@@ -114,7 +114,7 @@ void InnerDocument::render() {
     renderInto(rtf);
     contents_ = std::move(rtf);
     textState_ = TextState::Kept;
-    changed_ = false;
+    setChanged(false);
 }
 
 void InnerDocument::renderInto(std::string& rtf) {
@@ -162,10 +162,15 @@ void InnerDocument::renderPageLines(TableRendering& rendering) {
     lines.renderFooter(page().footer);
 }
 
+void InnerDocument::setChanged(bool changed) noexcept {
+    staleness_ = changed ? Staleness::Changed : Staleness::None;
+}
+
 void InnerDocument::checkLayout() {
-    if (changed_ && hasLayout()) {
+    if (staleness_ == Staleness::Changed && hasLayout()) {
         LaidOutRows(inner(*body_.TableRows()), *this).check();
         TextAreaWidth();
+        staleness_ = Staleness::Checked;
     }
 }
 
@@ -219,7 +224,7 @@ const PageAdditions& InnerDocument::page() const noexcept {
 
 // A text that nobody has asked for need not be in memory. An endless one must not begin a file.
 bool InnerDocument::streams() const noexcept {
-    return (changed_ || textState_ == TextState::Written) && !keepsText_ &&
+    return (changed() || textState_ == TextState::Written) && !keepsText_ &&
            !styleSheet_->CharacterWordsHoldTokens();
 }
 
@@ -238,7 +243,7 @@ std::optional<RtfError> InnerDocument::stream(const std::string& path) {
     if (text.isWhole()) {
         contents_ = text.text();
         textState_ = TextState::Kept;
-        changed_ = false;
+        setChanged(false);
         return GFileSystem::errorOfSaving(files_, errors_, path, contents_, false);
     }
     if (text.waits()) {
@@ -248,7 +253,7 @@ std::optional<RtfError> InnerDocument::stream(const std::string& path) {
     } else {
         std::string().swap(contents_);
         textState_ = TextState::Written;
-        changed_ = false;
+        setChanged(false);
     }
     return text.end();
 }

@@ -35,6 +35,8 @@ public:
     void clearStructure();
     void setExtendedStyleSheets(bool accept);
     const PageAdditions& page() const noexcept;
+    bool changed() const noexcept { return staleness_ != Staleness::None; }
+    void setChanged(bool changed) noexcept;
     template <class Setting>
     void set(Setting PageAdditions::*setting, Setting value);
     // Finds what rendering could not write, before it begins: a `LayoutError`.
@@ -49,9 +51,13 @@ public:
     bool lacksStyle(StyleKind kind, std::string_view name) const;
     // True when the document has a short text, and has it in memory.
     bool holdsShortText() const noexcept;
+    // True when a cell spans others.
+    bool hasSpans() const noexcept {
+        return memory().additions && !memory().additions->spans.empty();
+    }
 
     CRtfDoc* document() noexcept override { return this; }
-    void markChanged() noexcept override { changed_ = true; }
+    void markChanged() noexcept override { staleness_ = Staleness::Changed; }
     std::int32_t TextAreaWidth() const override;
     std::string_view GetParagraphStyle(std::string_view sName) const override;
     std::string_view GetCharacterStyle(std::string_view sName) const override;
@@ -66,6 +72,14 @@ private:
     friend class CRtfDoc;
 
     ~InnerDocument() override = default;
+
+    enum class Staleness : std::uint8_t {
+        /// The text shows the document.
+        None,
+        Changed,
+        /// Changed, and nothing since the layout was found to be sound.
+        Checked
+    };
 
     void initAllGroups();
     template <class Table, class Entry>
@@ -84,7 +98,7 @@ private:
 
     Files& files_;
     GError errors_;
-    bool changed_ = false;
+    Staleness staleness_ = Staleness::None;
     // Somebody asked for the text, or a change needed it: it stays in memory from then on.
     bool keepsText_ = false;
     // The text with its outer braces; empty while it is in a file only.

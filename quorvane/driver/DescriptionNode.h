@@ -104,6 +104,9 @@ struct DescriptionNode {
     bool isFaulty = false;
     /// True for what the document does not hold: it is neither checked nor built.
     bool isOutside = false;
+    /// True when each child has a greater number than the one before it, as children of one kind
+    /// do.
+    bool childrenAscend = true;
     Leaf* firstLeaf = nullptr;
     Leaf* lastLeaf = nullptr;
     DescriptionNode* firstChild = nullptr;

@@ -218,7 +218,7 @@ void DescriptionParser::readUnreadable(const SourceLine& line) {
     const std::size_t equals = line.text.find(dialect_.marks.equals);
     if (line.text.front() == dialect_.marks.open && equals != std::string_view::npos) {
         const std::string_view value = trimBlanks(line.text.substr(equals + 1));
-        if (beginsBlock(value)) {
+        if (dialect_.marks.beginsBlock(value)) {
             rejectUnclosed(line, value);
             addLeaf(line,
                     {.type = LineType::Leaf,
@@ -323,7 +323,7 @@ void DescriptionParser::rejectUnclosed(const SourceLine& line, std::string_view 
 
 /// False for a value of several lines that does not end, or that its key cannot have.
 bool DescriptionParser::isSoundBlock(const SourceLine& line, const DescriptionLine& parts) {
-    if (!beginsBlock(parts.value)) {
+    if (!dialect_.marks.beginsBlock(parts.value)) {
         return true;
     }
     if (!endsBlock(parts.value)) {
@@ -340,10 +340,6 @@ bool DescriptionParser::isSoundBlock(const SourceLine& line, const DescriptionLi
         return false;
     }
     return true;
-}
-
-bool DescriptionParser::beginsBlock(std::string_view value) const {
-    return !dialect_.marks.block.empty() && value.starts_with(dialect_.marks.block);
 }
 
 bool DescriptionParser::endsBlock(std::string_view value) const {

@@ -42,21 +42,45 @@ DriverFault wrongNameFault(DescriptionKey key) {
 /// Visits each node before those in it. Nodes may be nested as deep as the text is long.
 template <class Check>
 void DescriptionRules::walk(DescriptionNode& doc, bool sortsChildren, Check check) const {
-    std::vector<Visit> pending{{&doc, NodeKind::Doc, nullptr}};
+    std::vector<Visit> pending{{&doc, NodeKind::Doc}};
     while (!pending.empty()) {
         const Visit visit = pending.back();
-        pending.pop_back();
         check(visit);
-        const auto firstChild = static_cast<std::ptrdiff_t>(pending.size());
-        for (DescriptionNode& child : visit.node->children()) {
-            pending.push_back({&child, rulesFor(child, visit.kind), visit.node});
+        goOn(pending);
+        if (visit.node->firstChild) {
+            enter(visit, sortsChildren, pending);
         }
-        if (sortsChildren) {
-            std::sort(pending.begin() + firstChild, pending.end(),
-                      [](const auto& a, const auto& b) { return a.node->number < b.node->number; });
-        }
-        std::reverse(pending.begin() + firstChild, pending.end());
     }
+}
+
+/// Puts the next child of the same parent in the place of the last visit, if that goes on.
+void DescriptionRules::goOn(std::vector<Visit>& pending) const {
+    Visit& last = pending.back();
+    if (last.goesOn && last.node->next) {
+        last.node = last.node->next;
+        last.kind = rulesFor(*last.node, last.parentKind);
+    } else {
+        pending.pop_back();
+    }
+}
+
+void DescriptionRules::enter(const Visit& visit, bool sortsChildren,
+                             std::vector<Visit>& pending) const {
+    DescriptionNode& node = *visit.node;
+    const auto visitOf = [&](DescriptionNode& child, bool goesOn) {
+        return Visit{&child, rulesFor(child, visit.kind), &node, visit.kind, goesOn};
+    };
+    if (!sortsChildren || node.childrenAscend) {
+        pending.push_back(visitOf(*node.firstChild, true));
+        return;
+    }
+    const auto firstChild = static_cast<std::ptrdiff_t>(pending.size());
+    for (DescriptionNode& child : node.children()) {
+        pending.push_back(visitOf(child, false));
+    }
+    std::sort(pending.begin() + firstChild, pending.end(),
+              [](const Visit& a, const Visit& b) { return a.node->number < b.node->number; });
+    std::reverse(pending.begin() + firstChild, pending.end());
 }
 
 NodeKind DescriptionRules::rulesFor(const DescriptionNode& child, NodeKind parent) const {
@@ -90,9 +114,13 @@ void DescriptionRules::checkChildren(const Visit& visit) const {
 /// Reports unknown keys in ascending order.
 void DescriptionRules::checkKeys(const Visit& visit) const {
     const KeySet known = dialect_.vocabulary.keySetOf(visit.kind);
+    const auto isKnown = [known](const Leaf& leaf) { return contains(known, leaf.key.known); };
+    if (std::ranges::all_of(visit.node->leaves(), isKnown)) {
+        return;
+    }
     std::vector<Leaf*> unknown;
     for (Leaf& leaf : visit.node->leaves()) {
-        if (!contains(known, leaf.key.known)) {
+        if (!isKnown(leaf)) {
             unknown.push_back(&leaf);
         }
     }

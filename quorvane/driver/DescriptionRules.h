@@ -2,6 +2,7 @@
 
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "quorvane/driver/DescriptionNode.h"
 #include "quorvane/driver/Dialect.h"
@@ -46,11 +47,17 @@ private:
         /// The kind whose rules apply.
         NodeKind kind;
         /// Null for the document.
-        const DescriptionNode* parent;
+        const DescriptionNode* parent = nullptr;
+        /// The kind whose rules apply to the parent.
+        NodeKind parentKind = NodeKind::Doc;
+        /// The next child of the parent is visited after the node.
+        bool goesOn = false;
     };
 
     template <class Check>
     void walk(DescriptionNode& doc, bool sortsChildren, Check check) const;
+    void goOn(std::vector<Visit>& pending) const;
+    void enter(const Visit& visit, bool sortsChildren, std::vector<Visit>& pending) const;
     NodeKind rulesFor(const DescriptionNode& child, NodeKind parent) const;
     void checkKeys(const Visit& visit) const;
     void checkChildren(const Visit& visit) const;

@@ -61,6 +61,8 @@ DescriptionNode& DescriptionTree::AddNode(DescriptionNode& parent, NodeKind kind
     child->kind = kind;
     child->line = line;
     child->opener = opener;
+    parent.childrenAscend =
+        parent.childrenAscend && (!parent.lastChild || parent.lastChild->number < number);
     (parent.lastChild ? parent.lastChild->next : parent.firstChild) = child;
     parent.lastChild = child;
     return *child;

@@ -22,6 +22,11 @@ struct LineMarks {
     bool commentsFollow = true;
     /// Stands before and after a value that goes on over several lines; empty where none does.
     std::string_view block = {};
+
+    /// True for a value that begins as one that goes on over several lines.
+    bool beginsBlock(std::string_view value) const {
+        return !block.empty() && value.starts_with(block.front()) && value.starts_with(block);
+    }
 };
 
 /// The numbers that nodes of one kind get, in the order of the description.

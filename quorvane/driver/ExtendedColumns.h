@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -22,16 +23,23 @@ public:
     /// The widths in twips that the value of `columns` gives.
     std::vector<std::int32_t> columnsOf(const Leaf& leaf) const;
 
-    /// Where cells of a row have widths of their own, they are the columns of the row.
+    /// Where cells of a row have widths of their own, the others share what is left of the text
+    /// area. Rows below one another are given to it from top to bottom.
     void applyWidths(BuiltTable::Row& row, std::span<const BuiltTable::Cell> cells);
 
 private:
     ColumnWidth widthOf(const BuiltTable::Row& row, const BuiltTable::Cell& cell,
                         const Leaf& leaf) const;
     ColumnSpace space() const;
+    void setWidths(BuiltTable::Row& row, std::span<const BuiltTable::Cell> cells);
 
     CRtfDoc& document_;
     LeafApplication& apply_;
+    // The widths that the cells of a row have.
+    std::vector<std::optional<ColumnWidth>> widths_;
+    // Those of a row before it, and what they are in twips: most rows of a table are alike.
+    std::vector<std::optional<ColumnWidth>> knownWidths_;
+    std::vector<std::int32_t> knownTwips_;
 };
 
 }  // namespace quorvane

@@ -18,16 +18,18 @@ public:
         : raises_(!receiver),
           receiver_(receiver ? std::move(receiver) : ViolationReceiver(raiseViolation)) {}
 
-    /// Calls `apply` with the leaf. An error that it raises is reported.
+    /// Calls `apply` with the leaf. An error that it raises is reported; false then.
     template <class Apply>
-    void operator()(Leaf& leaf, Apply apply) {
+    bool operator()(Leaf& leaf, Apply apply) {
         try {
             atLine(leaf.line, [&] { apply(leaf); });
+            return true;
         } catch (const LeafError& error) {
             report(error.fault, error, leaf);
         } catch (const RtfError& error) {
             report(faultOf(error), error, leaf);
         }
+        return false;
     }
 
     void report(const Violation& violation) {

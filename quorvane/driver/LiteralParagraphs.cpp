@@ -1,9 +1,8 @@
 #include "quorvane/driver/LiteralParagraphs.h"
 
-#include <string_view>
+#include <cstddef>
 
 #include "quorvane/driver/extendedValues.h"
-#include "quorvane/driver/literalText.h"
 #include "quorvane/driver/rawRtf.h"
 #include "quorvane/driver/soundLeaf.h"
 #include "quorvane/driver/withoutFullStop.h"
@@ -17,24 +16,34 @@ void LiteralParagraphs::fill(CRtfParagraph& paragraph, DescriptionNode& node) {
 
 /// Raw control words come before the text, so that they can format it.
 void LiteralParagraphs::setText(CRtfParagraph& paragraph, DescriptionNode& node) {
-    std::string rtf;
-    const auto append = [&](DescriptionKey key, auto text) {
-        if (Leaf* const leaf = soundLeaf(node, key)) {
-            apply_(*leaf, [&](const Leaf&) { rtf += text(*leaf); });
-        }
-    };
-    append(DescriptionKey::Rtf, [](const Leaf& leaf) { return rawRtf(leaf.text); });
-    append(DescriptionKey::ParaText, [this](const Leaf& leaf) {
-        return literalText(shownText(leaf), [this](std::string_view name) {
-            return document_.GetCharacterStyle(name);
-        });
-    });
-    if (!rtf.empty()) {
-        paragraph.setText(rtf);
+    rtf_.clear();
+    if (Leaf* const raw = soundLeaf(node, DescriptionKey::Rtf)) {
+        apply_(*raw, [this](const Leaf& leaf) { rtf_ += rawRtf(leaf.text); });
+    }
+    const std::size_t rawEnd = rtf_.size();
+    Leaf* const text = soundLeaf(node, DescriptionKey::ParaText);
+    if (text && !apply_(*text, [this](const Leaf& leaf) { appendText(leaf); })) {
+        rtf_.resize(rawEnd);
+    }
+    if (!rtf_.empty()) {
+        paragraph.setText(rtf_);
+    }
+}
+
+void LiteralParagraphs::appendText(const Leaf& leaf) {
+    if (dialect_.marks.beginsBlock(leaf.text)) {
+        appendLiteralText(blockText(leaf.text, dialect_.marks.block), wordsOf_, rtf_);
+    } else {
+        appendLiteralText(leaf.text, wordsOf_, rtf_);
     }
 }
 
 void LiteralParagraphs::setPicture(CRtfParagraph& paragraph, DescriptionNode& node) {
+    constexpr KeySet keys = setOf(
+        {DescriptionKey::Picture, DescriptionKey::PictureWidth, DescriptionKey::PictureHeight});
+    if ((node.keys & keys) == 0) {
+        return;
+    }
     std::int32_t width = 0;
     std::int32_t height = 0;
     const auto read = [&](DescriptionKey key, std::int32_t& size) {
@@ -68,12 +77,6 @@ RtfPicture LiteralParagraphs::pictureNamed(const std::string& name, std::int32_t
         throw LeafError(DriverFault::WrongPicture,
                         name + ": " + std::string(withoutFullStop(error.description)));
     }
-}
-
-/// The text of a leaf, whose value may go on over several lines.
-std::string LiteralParagraphs::shownText(const Leaf& leaf) const {
-    const std::string_view mark = dialect_.marks.block;
-    return leaf.text.starts_with(mark) ? blockText(leaf.text, mark) : std::string(leaf.text);
 }
 
 }  // namespace quorvane

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <map>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "quorvane/docmodel/CRtfDoc.h"
@@ -10,6 +11,7 @@
 #include "quorvane/driver/Dialect.h"
 #include "quorvane/driver/LeafApplication.h"
 #include "quorvane/driver/PictureSource.h"
+#include "quorvane/driver/literalText.h"
 
 namespace quorvane {
 
@@ -20,7 +22,13 @@ public:
     /// All that is given must outlive the object. Without a source, pictures are left out.
     LiteralParagraphs(const CRtfDoc& document, const Dialect& dialect, PictureSource pictures,
                       LeafApplication& apply)
-        : document_(document), dialect_(dialect), pictures_(std::move(pictures)), apply_(apply) {}
+        : dialect_(dialect),
+          pictures_(std::move(pictures)),
+          apply_(apply),
+          wordsOf_(
+              [&document](std::string_view name) { return document.GetCharacterStyle(name); }) {}
+    LiteralParagraphs(const LiteralParagraphs&) = delete;
+    LiteralParagraphs& operator=(const LiteralParagraphs&) = delete;
 
     void fill(CRtfParagraph& paragraph, DescriptionNode& node);
 
@@ -28,12 +36,14 @@ private:
     void setText(CRtfParagraph& paragraph, DescriptionNode& node);
     void setPicture(CRtfParagraph& paragraph, DescriptionNode& node);
     RtfPicture pictureNamed(const std::string& name, std::int32_t width, std::int32_t height);
-    std::string shownText(const Leaf& leaf) const;
+    void appendText(const Leaf& leaf);
 
-    const CRtfDoc& document_;
     const Dialect& dialect_;
     PictureSource pictures_;
     LeafApplication& apply_;
+    CharacterStyleWords wordsOf_;
+    // The text of one paragraph. It keeps its memory for the next one.
+    std::string rtf_;
     // Those that were read, by their names: a logo can stand in every row.
     std::map<std::string, RtfPicture> picturesRead_;
 };

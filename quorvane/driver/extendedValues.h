@@ -39,6 +39,8 @@ struct ColumnWidth {
     double amount = 0;
     /// The amount is percent of the text area, otherwise twips.
     bool isShare = false;
+
+    bool operator==(const ColumnWidth&) const = default;
 };
 
 /// A width: percent ("20" or "20%") or a length with a unit ("3cm"), above 0.

@@ -22,14 +22,22 @@ struct StyledPart {
     std::size_t closing = nowhere;
 };
 
+bool endsName(char character) {
+    return character == '=' || character == '<' || character == '>' || character == '\r' ||
+           character == '\n';
+}
+
 /// The name of the style that a "<" opens; empty when it opens none. Names are short, which keeps
 /// the time for a text with many "<" linear.
 std::string_view nameAfter(std::string_view text, std::size_t opening) {
     constexpr std::size_t maxName = 255;
     const std::string_view rest = text.substr(opening + 1, maxName + 1);
-    const std::size_t end = rest.find_first_of("=<>\r\n");
+    std::size_t end = 0;
+    while (end < rest.size() && !endsName(rest[end])) {
+        ++end;
+    }
     const bool isName =
-        end != nowhere && end > 0 && rest[end] == '=' && beginsInlineToken(rest.front());
+        end > 0 && end < rest.size() && rest[end] == '=' && beginsInlineToken(rest.front());
     return isName ? rest.substr(0, end) : std::string_view();
 }
 
@@ -37,13 +45,12 @@ std::string_view nameAfter(std::string_view text, std::size_t opening) {
 std::vector<StyledPart> styledParts(std::string_view text, const CharacterStyleWords& wordsOf) {
     std::vector<StyledPart> parts;
     std::vector<std::size_t> open;
-    for (std::size_t at = text.find_first_of("<>"); at != nowhere;
-         at = text.find_first_of("<>", at + 1)) {
-        if (text[at] == '>') {
-            if (!open.empty()) {
-                parts[open.back()].closing = at;
-                open.pop_back();
-            }
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (text[at] == '>' && !open.empty()) {
+            parts[open.back()].closing = at;
+            open.pop_back();
+        }
+        if (text[at] != '<') {
             continue;
         }
         const std::string_view name = nameAfter(text, at);
@@ -82,30 +89,32 @@ std::string_view withoutIndent(std::string_view line, std::size_t indent) {
 
 }  // namespace
 
-std::string literalText(std::string_view text, const CharacterStyleWords& wordsOf) {
-    const std::vector<StyledPart> parts = styledParts(text, wordsOf);
-    if (parts.empty()) {
-        return rtfText(text);
+void appendLiteralText(std::string_view text, const CharacterStyleWords& wordsOf,
+                       std::string& rtf) {
+    if (text.find('<') == nowhere) {
+        appendRtfText(text, rtf);
+        return;
     }
-    std::string rtf;
+    const std::vector<StyledPart> parts = styledParts(text, wordsOf);
     std::vector<std::size_t> closings;
     std::size_t at = 0;
     const auto closeUpTo = [&](std::size_t end) {
         while (!closings.empty() && closings.back() < end) {
-            rtf += rtfText(text.substr(at, closings.back() - at)) + '}';
+            appendRtfText(text.substr(at, closings.back() - at), rtf);
+            rtf += '}';
             at = closings.back() + 1;
             closings.pop_back();
         }
     };
     for (const StyledPart& part : parts) {
         closeUpTo(part.opening);
-        rtf += rtfText(text.substr(at, part.opening - at));
+        appendRtfText(text.substr(at, part.opening - at), rtf);
         appendWords(part.words, rtf);
         at = part.textBegin;
         closings.push_back(part.closing);
     }
     closeUpTo(nowhere);
-    return rtf + rtfText(text.substr(at));
+    appendRtfText(text.substr(at), rtf);
 }
 
 std::vector<std::string_view> inlineStyleNames(std::string_view text) {

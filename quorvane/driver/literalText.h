@@ -10,11 +10,11 @@ namespace quorvane {
 /// The words of a character style; empty for a name that is not the name of one.
 using CharacterStyleWords = std::function<std::string_view(std::string_view name)>;
 
-/// The RTF of a literal text: it shows what is written, and inline styles such as `<strong=Total>`
-/// become groups with the words of their styles. An inline style ends at the first ">" after it
-/// that does not end one within it. A "<" that opens no style, and a style that does not end, are
-/// text. Error 5 for a character that no document can show; see `findUnshowable`.
-std::string literalText(std::string_view text, const CharacterStyleWords& wordsOf);
+/// Appends the RTF of a literal text: it shows what is written, and inline styles such as
+/// `<strong=Total>` become groups with the words of their styles. An inline style ends at the first
+/// ">" after it that does not end one within it. A "<" that opens no style, and a style that does
+/// not end, are text. Error 5 for a character that no document can show; see `findUnshowable`.
+void appendLiteralText(std::string_view text, const CharacterStyleWords& wordsOf, std::string& rtf);
 
 /// The names after each "<" of a literal text that can open a style.
 std::vector<std::string_view> inlineStyleNames(std::string_view text);

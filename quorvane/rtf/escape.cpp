@@ -1,5 +1,7 @@
 #include "quorvane/rtf/escape.h"
 
+#include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <utility>
@@ -40,15 +42,30 @@ std::string messageAgainst(char32_t code) {
     return {};
 }
 
-/// Writes the characters of one text.
+using ByteSet = std::array<bool, 256>;
+
+/// The bytes that are written as they are, wherever they stand. A blank depends on its neighbors.
+constexpr ByteSet plainBytes(std::string_view special) {
+    ByteSet plain{};
+    for (std::size_t byte = 0x21; byte < 0x7F; ++byte) {
+        plain[byte] = special.find(static_cast<char>(byte)) == std::string_view::npos;
+    }
+    return plain;
+}
+
+constexpr ByteSet plainForModel = plainBytes("\\{}<>");
+constexpr ByteSet plainForDescription = plainBytes("\\{}<>)");
+
+/// Appends the characters of one text to another.
 class Escaping {
 public:
-    Escaping(std::string_view utf8, bool isForDescription)
-        : utf8_(utf8), isForDescription_(isForDescription) {
-        rtf_.reserve(utf8.size() + utf8.size() / 8);
-    }
+    Escaping(std::string_view utf8, bool isForDescription, std::string& rtf)
+        : utf8_(utf8),
+          isForDescription_(isForDescription),
+          plain_(isForDescription ? plainForDescription : plainForModel),
+          rtf_(rtf) {}
 
-    std::string run() && {
+    void run() {
         while (at_ < utf8_.size()) {
             const std::size_t plainEnd = endOfPlain();
             if (plainEnd > at_) {
@@ -60,20 +77,22 @@ public:
             }
         }
         endUnicode();
-        return std::move(rtf_);
     }
 
 private:
     /// The end of the characters from here on that stay as they are.
     std::size_t endOfPlain() const {
-        const std::string_view special = isForDescription_ ? "\\{}<>)\x7F" : "\\{}<>\x7F";
-        std::size_t end = at_;
-        while (end < utf8_.size() && static_cast<unsigned char>(utf8_[end]) >= 0x20 &&
-               static_cast<unsigned char>(utf8_[end]) < 0x80 &&
-               special.find(utf8_[end]) == std::string_view::npos && !isLostBlank(end)) {
-            ++end;
+        const auto isPlain = [&plain = plain_](char byte) {
+            return plain[static_cast<unsigned char>(byte)];
+        };
+        const char* const last = utf8_.data() + utf8_.size();
+        for (const char* at = utf8_.data() + at_;; ++at) {
+            at = std::find_if_not(at, last, isPlain);
+            const auto end = static_cast<std::size_t>(at - utf8_.data());
+            if (at == last || *at != ' ' || isLostBlank(end)) {
+                return end;
+            }
         }
-        return end;
     }
 
     bool isFirstOrLast(std::size_t at) const { return at == 0 || at + 1 == utf8_.size(); }
@@ -81,8 +100,10 @@ private:
     /// A blank that not all readers would show: LibreOffice makes other characters of two blanks in
     /// a row, and a description leaves those at its ends out.
     bool isLostBlank(std::size_t at) const {
-        return utf8_[at] == ' ' &&
-               ((at > 0 && utf8_[at - 1] == ' ') || (isForDescription_ && isFirstOrLast(at)));
+        if (at > 0 && utf8_[at - 1] == ' ') {
+            return true;
+        }
+        return isForDescription_ && isFirstOrLast(at);
     }
 
     /// An empty group keeps a blank apart from another one and from the end of a value.
@@ -132,13 +153,19 @@ private:
                 }
                 break;
             default:
-                rtf_ += "\\'" + hexadecimal(static_cast<unsigned char>(character), 2);
+                takeCode(static_cast<unsigned char>(character));
         }
+    }
+
+    void takeCode(unsigned code) {
+        const std::array<char, 4> word = {'\\', '\'', upperHexadecimalDigits[code / 16],
+                                          upperHexadecimalDigits[code % 16]};
+        rtf_.append(word.data(), word.size());
     }
 
     void addUnicode(char32_t code) {
         if (!inUnicode_) {
-            rtf_ += "{\\uc1";
+            rtf_ += std::string_view("{\\uc1");
             inUnicode_ = true;
         }
         appendUnicodeWords(code, rtf_);
@@ -153,20 +180,29 @@ private:
 
     std::string_view utf8_;
     bool isForDescription_;
+    const ByteSet& plain_;
     std::size_t at_ = 0;
     // True within a group of characters that Windows-1252 lacks.
     bool inUnicode_ = false;
-    std::string rtf_;
+    std::string& rtf_;
 };
 
 }  // namespace
 
 std::string rtfText(std::string_view utf8) {
-    return Escaping(utf8, false).run();
+    std::string rtf;
+    appendRtfText(utf8, rtf);
+    return rtf;
+}
+
+void appendRtfText(std::string_view utf8, std::string& rtf) {
+    Escaping(utf8, false, rtf).run();
 }
 
 std::string descriptionText(std::string_view utf8) {
-    return Escaping(utf8, true).run();
+    std::string rtf;
+    Escaping(utf8, true, rtf).run();
+    return rtf;
 }
 
 std::optional<Unshowable> findUnshowable(std::string_view utf8) {

@@ -21,6 +21,9 @@ namespace quorvane {
 /// Error 5 where `findUnshowable` finds something; its description says what and at which byte.
 std::string rtfText(std::string_view utf8);
 
+/// Appends `rtfText(utf8)` to a text. After an error, a part of it is appended.
+void appendRtfText(std::string_view utf8, std::string& rtf);
+
 /// Does the same for a text in a description: `"(pt=" + descriptionText(name) + ")"`. It also
 /// writes `)`, which would end the value, as `\'29`, and empty groups beside blanks at the ends,
 /// which a description leaves out.

@@ -21,12 +21,12 @@ bool isBeyondCodePage1252(std::string_view character) {
 }  // namespace
 
 void appendUnicodeWords(char32_t code, std::string& rtf) {
-    std::string character;
-    appendUtf8(code, character);
     std::u32string units;
-    appendUtf16Units(character, units);
+    appendUtf16Units(code, units);
     for (const char32_t unit : units) {
-        rtf += "\\u" + std::to_string(static_cast<std::int16_t>(unit)) + "?";
+        rtf += std::string_view("\\u");
+        rtf += std::to_string(static_cast<std::int16_t>(unit));
+        rtf += '?';
     }
 }
 

@@ -23,11 +23,21 @@ bool isBlank(char character) {
 class Blocks {
 public:
     Blocks(std::string_view text, std::string_view mark)
-        : text_(text), mark_(mark), closer_(std::string(mark) + ')') {}
+        : text_(text),
+          mark_(mark),
+          closer_(std::string(mark) + ')'),
+          nextMark_(mark.empty() ? nowhere : text.find(mark)) {}
+
+    /// False when no value can begin in a line that ends there: most lines need not be looked into.
+    bool mayBeginBefore(std::size_t end) const { return nextMark_ < end; }
 
     /// The end of a line that begins and ends there: that of its last line where its value goes on.
+    /// Never asked for an earlier line than before.
     std::size_t endFrom(std::size_t begin, std::size_t end) {
-        if (mark_.empty()) {
+        if (nextMark_ < begin) {
+            nextMark_ = text_.find(mark_, begin);
+        }
+        if (nextMark_ >= end) {
             return end;
         }
         while (begin < end && isBlank(text_[begin])) {
@@ -71,6 +81,8 @@ private:
     std::string_view text_;
     std::string_view mark_;
     std::string closer_;
+    // Where the first mark from the line on stands.
+    std::size_t nextMark_;
 };
 
 }  // namespace
@@ -185,7 +197,8 @@ std::vector<SourceLine> PreProcessRawData(std::string_view text, std::string_vie
         const std::size_t begin = reader.position();
         const std::string_view written = reader.next();
         const std::size_t lineEnd = begin + written.size();
-        const std::size_t end = blocks.endFrom(begin, lineEnd);
+        const std::size_t end =
+            blocks.mayBeginBefore(lineEnd) ? blocks.endFrom(begin, lineEnd) : lineEnd;
         const std::string_view line = trimWhile({text.data() + begin, end - begin}, isBlank);
         if (!line.empty() && line.front() != commentMark) {
             lines.push_back({line, number});

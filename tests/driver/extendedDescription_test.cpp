@@ -202,6 +202,24 @@ TEST(ExtendedDescription, TakesTheWidthsOfCellsAsShares) {
     EXPECT_THAT(extended.edges(), ElementsAre(2000, 7120, 10000));
 }
 
+TEST(ExtendedDescription, GivesCellsTheirWidths) {
+    const Extended extended(
+        docOf(evenPage, "(c|(cell-width=20)|(p|(pt=x)|p)|c)|(c|(p|(pt=x)|p)|c)"));
+    EXPECT_EQ(extended.cell(1)->Width(eTwips), 2000);
+    EXPECT_EQ(extended.cell(2)->Width(eTwips), 8000);
+}
+
+TEST(ExtendedDescription, FitsEachRowIntoItsOwnWidths) {
+    const auto row = [](const std::string& first, const std::string& second) {
+        return "(r|(c|(cw=" + first + ")|(p|(pt=x)|p)|c)|(c|(cw=" + second +
+               ")|(p|(pt=x)|p)|c)|r)|";
+    };
+    const Extended extended("(doc|" + evenPage + "|" + row("20", "30") + row("20", "30") +
+                            row("30", "20") + row("20", "30") + "doc)");
+    EXPECT_THAT(extended.errors, IsEmpty());
+    EXPECT_THAT(extended.edges(), ElementsAre(2000, 5000, 2000, 5000, 3000, 5000, 2000, 5000));
+}
+
 TEST(ExtendedDescription, LetsCellsSpanColumns) {
     const Extended extended(
         docOf(evenPage + "|(columns=50 10 40)", "(c|(p|(pt=x)|p)|c)|(c|(span=2)|(p|(pt=x)|p)|c)"));
@@ -335,6 +353,11 @@ TEST(ExtendedDescription, ReportsItsFirstErrorAndBuildsNothing) {
          "10: Row 2 cannot repeat as a heading, because row 1 does not."},
         {"(doc|(columns=50 50)|(r|(c|(cw=20)|(p|(pt=x)|p)|c)|r)|doc)",
          "6: The columns give the cell its width; remove cell-width, or columns."},
+        {"(doc|(r|(c|(cw=20)|(p|(pt=x)|p)|c)|(c|(span=2)|(p|(pt=x)|p)|c)|r)|doc)",
+         "3: Cell 2 of row 1 would stand in columns 2 to 3, but the row has only 2 columns."},
+        {"(doc|(r|(c|(vspan=2)|(p|(pt=x)|p)|c)|(c|(p|(pt=x)|p)|c)|r)|"
+         "(r|(c|(cw=50)|(p|(pt=x)|p)|c)|r)|doc)",
+         "16: Cell 1 of row 2 would stand in column 2, but the row has only 1 column."},
     };
     for (const Wrong& wrong : all) {
         const Extended extended(wrong.text);

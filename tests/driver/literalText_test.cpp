@@ -15,7 +15,9 @@ std::string_view wordsOf(std::string_view name) {
 }
 
 std::string literal(std::string_view text) {
-    return literalText(text, wordsOf);
+    std::string rtf;
+    appendLiteralText(text, wordsOf, rtf);
+    return rtf;
 }
 
 TEST(LiteralText, ShowsWhatIsWritten) {

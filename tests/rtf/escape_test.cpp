@@ -41,6 +41,12 @@ TEST(EscapedText, LeavesPlainTextAlone) {
     EXPECT_EQ(rtfText(" a "), " a ");
 }
 
+TEST(EscapedText, FollowsTheTextItIsAppendedTo) {
+    std::string rtf = "\\b ";
+    appendRtfText(" {a}", rtf);
+    EXPECT_EQ(rtf, "\\b  \\{a\\}");
+}
+
 TEST(EscapedText, KeepsBlanksInARowApart) {
     EXPECT_EQ(rtfText("a  b   "), "a {} b {} {} ");
 }

@@ -110,6 +110,8 @@ public:
         std::optional<std::string_view> key;
         // A number whose decimal text is the key; 0 for none.
         std::uint32_t number = 0;
+        // True when all elements have numbers, and smaller ones.
+        bool isNext = false;
     };
 
     /// Checks the arguments of an insertion: first the type of the key (error 13), then the
@@ -136,23 +138,23 @@ public:
     }
 
     /// The place at the end for an element that has the decimal text of a number from 1 to
-    /// 999,999,999 as its key. Error 457 when the key is there already. In a short list whose
-    /// elements are all added with ascending numbers, a key costs next to nothing until somebody
-    /// asks for it.
+    /// 999,999,999 as its key. Error 457 when the key is there already. In a list whose elements
+    /// are all added with ascending numbers, a key costs next to nothing.
     Place placeForNumber(std::uint32_t number) const {
-        if (!canTakeNumber(number)) {
+        const bool isNext = canTakeNumber(number);
+        if (!isNext) {
             requireNewKey(std::to_string(number));
         }
-        return {count() + 1, std::nullopt, number};
+        return {count() + 1, std::nullopt, number, isNext};
     }
 
     /// Puts the element at a place that `placeFor` or `placeForNumber` returned.
     void insert(const Place& place, Ref<Element> element) {
-        if (place.number != 0 && canTakeNumber(place.number)) {
+        if (place.isNext) {
             insertNumbered(place.number, std::move(element));
             return;
         }
-        if (hasBlock() && block()->isNumbered && block()->count >= maxNumbered) {
+        if (isLongNumbered()) {
             fileNumbers();
         }
         requireRoomFor(place);
@@ -188,6 +190,9 @@ public:
     void replaceAt(std::size_t position, Ref<Element> element, std::string_view key) {
         requireNewKey(key);
         requireBlock();
+        if (isLongNumbered()) {
+            fileNumbers();
+        }
         keyIndex().add(key, element.get());
         Element*& slot = block()->slots()[block()->first + position - 1];
         if (block()->isNumbered) {
@@ -213,8 +218,9 @@ public:
 
 private:
     static constexpr std::size_t smallestBlock = 4;
-    // Numbers are searched one by one.
-    static constexpr std::uint32_t maxNumbered = 64;
+    // So many numbers are searched one by one. In a longer list they are all there, in ascending
+    // order.
+    static constexpr std::uint32_t fewNumbers = 64;
 
     struct Block {
         std::uint32_t capacity : 31;
@@ -248,9 +254,17 @@ private:
 
         Element* findNumber(std::uint32_t number) noexcept {
             const std::uint32_t* begin = numbers() + first;
-            const std::uint32_t* found =
-                number == 0 ? begin + count : std::find(begin, begin + count, number);
-            return found == begin + count ? nullptr : slots()[found - numbers()];
+            const std::uint32_t* end = begin + count;
+            const std::uint32_t* found = count > fewNumbers ? std::lower_bound(begin, end, number)
+                                                            : std::find(begin, end, number);
+            return number == 0 || found == end || *found != number ? nullptr
+                                                                   : slots()[found - numbers()];
+        }
+
+        // True when no element has another key or none.
+        bool allAreNumbered() noexcept {
+            const std::uint32_t* begin = numbers() + first;
+            return std::find(begin, begin + count, 0U) == begin + count;
         }
 
         // Moves elements with their numbers, from one slot on to another.
@@ -379,8 +393,14 @@ private:
         if (!hasBlock()) {
             return !only_;
         }
-        return block()->isNumbered && !block()->keys && block()->count < maxNumbered &&
-               block()->lastNumber() != 0 && block()->lastNumber() < number;
+        return block()->isNumbered && !block()->keys && block()->lastNumber() != 0 &&
+               block()->lastNumber() < number &&
+               (block()->count != fewNumbers || block()->allAreNumbered());
+    }
+
+    // True when an element without a number cannot be added.
+    bool isLongNumbered() const noexcept {
+        return hasBlock() && block()->isNumbered && block()->count >= fewNumbers;
     }
 
     void insertNumbered(std::uint32_t number, Ref<Element> element) {
@@ -393,8 +413,7 @@ private:
         block()->lastNumber() = number;
     }
 
-    // Files the numbers as all other keys are filed: a long list is not searched one by one. A
-    // failure changes nothing.
+    // Files the numbers as all other keys are filed. A failure changes nothing.
     void fileNumbers() {
         KeyIndex<Element>& keys = keyIndex();
         const std::uint32_t first = block()->first;

@@ -20,14 +20,18 @@ bool isSurrogate(char32_t unit, char32_t first) {
 void appendUtf16Units(std::string_view text, std::u32string& units) {
     for (std::size_t at = 0; at < text.size();) {
         const Utf8Character character = utf8CharacterAt(text, at);
-        if (character.code >= firstSupplementary && character.code < strayByte) {
-            const char32_t offset = character.code - firstSupplementary;
-            units.push_back(firstHighSurrogate + offset / surrogateCount);
-            units.push_back(firstLowSurrogate + offset % surrogateCount);
-        } else {
-            units += character.code;
-        }
+        appendUtf16Units(character.code, units);
         at += character.length;
+    }
+}
+
+void appendUtf16Units(char32_t code, std::u32string& units) {
+    if (code >= firstSupplementary && code < strayByte) {
+        const char32_t offset = code - firstSupplementary;
+        units.push_back(firstHighSurrogate + offset / surrogateCount);
+        units.push_back(firstLowSurrogate + offset % surrogateCount);
+    } else {
+        units += code;
     }
 }
 

@@ -9,6 +9,9 @@ namespace quorvane {
 /// that is part of no well-formed character is an element of its own.
 void appendUtf16Units(std::string_view text, std::u32string& units);
 
+/// The same for one character, given by its code as `utf8CharacterAt` returns it.
+void appendUtf16Units(char32_t code, std::u32string& units);
+
 /// Appends the text that the units stand for; a pair of surrogates is one character again.
 void appendTextOfUtf16Units(std::u32string_view units, std::string& text);
 

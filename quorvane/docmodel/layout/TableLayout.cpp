@@ -82,7 +82,9 @@ void TableLayout::placeWithoutColumns(const InnerRow& row) {
 
 void TableLayout::placeInColumns(const InnerRow& row) {
     for (InnerCell* cell : row.list()) {
-        placeSpansFromAbove();
+        if (!above_.empty()) {
+            placeSpansFromAbove();
+        }
         ++cell_;
         placeCell(*cell);
     }

@@ -387,6 +387,24 @@ TEST(NumberedKeyedList, FindsItsElementsByTheTextsOfTheirNumbers) {
     }
 }
 
+TEST(NumberedKeyedList, CanBeLong) {
+    std::vector<std::uint32_t> ascending(1000);
+    std::iota(ascending.begin(), ascending.end(), 10'000'001);
+    List list = numberedList(ascending);
+    EXPECT_EQ(list.find("10000001")->number, 10'000'001);
+    EXPECT_EQ(list.find("10001000")->number, 10'001'000);
+    EXPECT_EQ(list.find("10001001"), nullptr);
+
+    add(list, 1, "x", 2);
+    list.replaceAt(4, entry(2), "y");
+
+    EXPECT_EQ(list.find("x"), &list.at(2));
+    EXPECT_EQ(list.find("y"), &list.at(4));
+    EXPECT_EQ(list.find("10000003"), nullptr);
+    EXPECT_EQ(list.find("10001000"), &list.at(1001));
+    EXPECT_EQ(errorNumberOf([&] { addNumbered(list, 10'000'500, entry(3)); }), 457);
+}
+
 TEST(NumberedKeyedList, RefusesANumberWhoseTextIsAKey) {
     List list = numberedList({7});
     add(list, 1, "9");

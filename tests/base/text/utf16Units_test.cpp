@@ -25,6 +25,13 @@ TEST(Utf16Units, AreOneForEachCharacterOfTheBasicPlane) {
     EXPECT_EQ(utf16Units("a\xC3\xA9\xE2\x82\xAC"), U"a\u00E9\u20AC");
 }
 
+TEST(Utf16Units, OfACharacterAreThoseOfItsText) {
+    std::u32string units;
+    appendUtf16Units(U'\u20AC', units);
+    appendUtf16Units(U'\U0001F600', units);
+    EXPECT_EQ(units, utf16Units("\xE2\x82\xAC\xF0\x9F\x98\x80"));
+}
+
 TEST(Utf16Units, AreEmptyForAnEmptyText) {
     EXPECT_EQ(utf16Units(""), U"");
     EXPECT_EQ(textOfUtf16Units(U""), "");

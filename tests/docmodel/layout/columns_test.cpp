@@ -137,6 +137,16 @@ TEST_F(Columns, ThatDoNotFitAreAnErrorOfEachCallThatRenders) {
     EXPECT_EQ(document->Contents(), before);
 }
 
+TEST_F(Columns, ThatFitAreLookedAtAgainAfterAChange) {
+    addRow({"a", "b"});
+    document->setColumnWidths({100, 200});
+    document->Contents();
+
+    row(1)->TableCells()->AddTail();
+
+    EXPECT_EQ(errorNumberOf([&] { document->Contents(); }), 5);
+}
+
 TEST_F(Columns, OfARowGoWithItsContentsWhenItIsRefiled) {
     addRow({"a"});
     row(1)->setColumnWidths({300});
