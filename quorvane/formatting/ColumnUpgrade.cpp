@@ -71,7 +71,7 @@ std::optional<std::string> sharesOf(const Widths& widths, std::int32_t textArea,
 }
 
 std::string textOf(const Widths& widths, std::int32_t textArea) {
-    for (const double parts : {1.0, 10.0, 100.0}) {
+    for (const double parts : {1.0, 10.0}) {
         const auto shares =
             textArea > 0 ? sharesOf(widths, textArea, parts) : std::optional<std::string>();
         if (shares) {

@@ -30,6 +30,9 @@ UpgradedText TextUpgrade::upgraded(std::string_view text, std::size_t indent) {
         return *literal;
     }
     UpgradedText raw{.rtf = std::string(trimBlanks(plainRawRtf(styled)))};
+    if (raw.rtf->empty()) {
+        raw.rtf = "{}";
+    }
     try {
         if (!shown_.areAlike(styled, rawRtf(*raw.rtf))) {
             return {.error = cannotExpress("no text would show the same")};
@@ -49,7 +52,9 @@ std::optional<UpgradedText> TextUpgrade::literalForm(std::string_view text, std:
     const std::size_t formatEnd = endOfLeadingFormat(text);
     const std::optional<std::string> literal = literalFromRtf(
         text.substr(formatEnd), [&](std::string_view name) { return !wordsOf(name).empty(); });
-    if (!literal || isInvisibleText(*literal) || findUnshowable(*literal)) {
+    // A paragraph with a text that shows nothing is an empty one, but one without a text is none.
+    const bool isNone = literal && literal->empty() && formatEnd == 0 && !text.empty();
+    if (!literal || isNone || isInvisibleText(*literal) || findUnshowable(*literal)) {
         return std::nullopt;
     }
     UpgradedText upgraded{.text = literalValue(*literal, indent)};

@@ -246,7 +246,11 @@ void setItem(UpgradedItems& items, const UpgradedItem& item) {
 }
 
 InheritedItems inheritItems(const UpgradedItems& base, const UpgradedItems& own) {
-    InheritedItems inherited{own, {}, {}, true};
+    // Raw words could set what is inherited, or unset.
+    const bool isRaw = std::any_of(own.begin(), own.end(), [](const UpgradedItem& item) {
+        return item.property->type == StyleValueType::ControlWords;
+    });
+    InheritedItems inherited{own, {}, {}, !isRaw};
     for (const UpgradedItem& item : base) {
         const bool isSet = std::any_of(own.begin(), own.end(), [&](const UpgradedItem& other) {
             return other.property->sharesGroupWith(*item.property);

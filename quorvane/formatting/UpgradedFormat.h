@@ -44,9 +44,10 @@ struct InheritedItems {
     UpgradedItems all;
     /// The items that are not those of the base.
     UpgradedItems written;
-    /// The words of the items that only the base had. The style sets them to have none.
+    /// The words of the items that only the base had.
     std::vector<std::string_view> unset;
-    /// False if one of those cannot be unset: the style cannot be based on the other one.
+    /// False if one of those cannot be unset, and for raw words: the style cannot be based on the
+    /// other one.
     bool canInherit = true;
 };
 

@@ -25,8 +25,6 @@ std::string linesBetweenMarks(std::string_view text, std::size_t indent) {
         end = std::min(text.find('\n', begin), text.size());
         value += "\n" + (end > begin ? blanks : "") + std::string(text.substr(begin, end - begin));
     }
-    // A line break at the end begins a line of its own.
-    value += text.ends_with('\n') ? "\n" : "";
     return value + "\n" + blanks + std::string(blockMark());
 }
 

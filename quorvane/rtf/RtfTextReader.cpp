@@ -86,11 +86,14 @@ RtfTextPart RtfTextReader::plainCharacter() {
 RtfTextPart RtfTextReader::partOfControl(std::size_t begin) const {
     RtfTextPart part{RtfTextPart::Kind::Control, 0, begin, begin + lexer_.control().length};
     readRtfControl(rtf_, begin, part.control);
+    std::optional<char32_t> code = codeOf(part.control, rtf_, begin);
     if (isUnicode(part)) {
-        // Readers take the number's lowest 16 bits.
-        part.kind = RtfTextPart::Kind::Character;
-        part.code = static_cast<char32_t>(*part.control.number) & 0xFFFFU;
-    } else if (const auto code = codeOf(part.control, rtf_, begin)) {
+        // Readers take the lowest 16 bits of the number.
+        code = static_cast<char32_t>(*part.control.number) & 0xFFFFU;
+    }
+    // Readers differ in what they make of control characters that are written by their numbers.
+    const bool isCharacter = code && (*code >= 0x20 || part.control.word.size() > 1);
+    if (isCharacter) {
         part.kind = RtfTextPart::Kind::Character;
         part.code = *code;
     }

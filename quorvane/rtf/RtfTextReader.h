@@ -34,8 +34,9 @@ struct RtfTextPart {
     bool isPlain() const { return kind == Kind::Character && control.length == 0; }
 };
 
-/// Reads the RTF of a text, such as that of a paragraph, with its characters as Unicode. Bytes that
-/// are not UTF-8 are characters as `utf8CharacterAt` has them.
+/// Reads the RTF of a text, such as that of a paragraph, with its characters as Unicode. The text
+/// begins as in the library's documents, where nothing stands after a `\u` for other readers. Bytes
+/// that are not UTF-8 are characters as `utf8CharacterAt` has them.
 class RtfTextReader {
 public:
     /// The text must outlive the reader and its parts.
@@ -58,7 +59,7 @@ private:
     std::size_t plainAt_ = 0;
     std::size_t plainEnd_ = 0;
     // How many characters follow a \u for other readers, in the group and those around it.
-    std::vector<std::int64_t> lengths_{1};
+    std::vector<std::int64_t> lengths_{0};
     std::int64_t toPassOver_ = 0;
     // The first half of a pair of \u, and the part after one that stands alone.
     std::optional<RtfTextPart> high_;
