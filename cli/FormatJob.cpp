@@ -166,7 +166,8 @@ ExitStatus FormatJob::upgrade(const std::string& file, const std::string& bytes,
     const TextEncoding utf8 = isUtf8(encoding) ? encoding : TextEncoding::Utf8;
     const ExitStatus status =
         deliver(file, bytes, encodedText(formatted(upgrade.text, language), utf8), utf8);
-    if (next_ && !next_->description.empty() && !isMarkedExtended(text)) {
+    const bool isWritten = !options_.check && !options_.diff && !isMarkedExtended(text);
+    if (isWritten && next_ && !next_->description.empty()) {
         remark(file, {{0, "The stylesheet is upgraded with " + next_->description}});
     }
     remark(shownName(file), upgrade.notes);

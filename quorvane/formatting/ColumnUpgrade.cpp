@@ -50,7 +50,7 @@ bool areNear(const Widths& a, const Widths& b, std::int32_t twips) {
 }
 
 /// The widths as shares with decimals down to one part of so many; nothing if those are other
-/// widths. Shares without decimals may be a twip away, which nobody sees.
+/// widths. Where whole shares put an edge a twip away, which nobody sees, they are meant.
 std::optional<std::string> sharesOf(const Widths& widths, std::int32_t textArea, double parts) {
     std::vector<std::optional<ColumnWidth>> columns;
     std::vector<std::string> texts;
