@@ -1,6 +1,8 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,8 +18,11 @@ public:
     void add(std::string_view text, int origin);
 
     const std::string& text() const { return text_; }
-    /// The line of which that line was made; both are 1-based.
-    int originOf(std::int64_t line) const { return origins_[static_cast<std::size_t>(line) - 1]; }
+    /// The line of which that line was made; both are 1-based. A line after the last one counts as
+    /// the last one.
+    int originOf(std::int64_t line) const {
+        return origins_[std::min(static_cast<std::size_t>(line), origins_.size()) - 1];
+    }
 
 private:
     std::string_view lineEnd_;

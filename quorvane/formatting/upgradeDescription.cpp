@@ -253,7 +253,8 @@ Upgrade upgradedDescription(std::string_view text, const std::optional<std::stri
     try {
         return DescriptionUpgrade(text, styleSheet).run(names);
     } catch (const RtfError& error) {
-        return {.errors = {{error.line, std::string(withoutFullStop(error.description))}}};
+        return {
+            .errors = {{std::max(error.line, 1), std::string(withoutFullStop(error.description))}}};
     }
 }
 
