@@ -205,8 +205,9 @@ std::vector<Diagnostic> CheckJob::diagnosticsOf(const std::string& file, std::st
         case CheckedLanguage::Description:
             checkedDescriptions_ = true;
             text = decodedText(std::string(bytes), encoding);
-            diagnostics = checkDescription(text, styles_ ? &*styles_ : nullptr, encoding,
-                                           picturesBeside(file, systemPlatform()));
+            diagnostics =
+                checkDescription(text, styles_ ? &*styles_ : nullptr, encoding,
+                                 picturesBeside(file, systemPlatform(), options_.pictureFolders));
             break;
     }
     std::move(diagnostics.begin(), diagnostics.end(), std::back_inserter(all));

@@ -19,6 +19,8 @@ struct CheckOptions {
     std::optional<std::string> styleSheet;
     /// The encoding of descriptions and stylesheets.
     EncodingChoice encoding = EncodingChoice::Auto;
+    /// Folders whose pictures descriptions may name, besides their own.
+    std::vector<std::string> pictureFolders;
     ReportForm form = ReportForm::Text;
     /// Identifiers of diagnostics to leave out, and of those to report that are off by default.
     std::vector<std::string> ignored;

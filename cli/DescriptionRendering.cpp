@@ -121,7 +121,8 @@ void DescriptionRendering::parse(const std::string& text) {
     driver_->setErroneousInput(manner_.check);
     driver_->setUnicodeTexts(isUtf8(encoding_));
     driver_->setReadsExtended(true);
-    const PictureSource pictures = picturesBeside(assignment_.description, platform_);
+    const PictureSource pictures =
+        picturesBeside(assignment_.description, platform_, manner_.pictureFolders);
     driver_->setPictureSource(pictures);
     driver_->setNotifyErrorHandler([&](CRtfDriver&, const RtfError& error) {
         status_ = std::max(status_, ExitStatus::ContentErrors);

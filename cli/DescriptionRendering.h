@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "cli/CommandPlatform.h"
 #include "cli/ExitStatus.h"
@@ -22,6 +23,8 @@ struct RenderingManner {
     bool keepGoing = false;
     /// The encoding of the descriptions.
     EncodingChoice encoding = EncodingChoice::Auto;
+    /// Folders whose pictures the description may name, besides its own.
+    std::vector<std::string> pictureFolders;
 };
 
 /// The rendering of one description. Several can go through the same driver, one after the other,

@@ -25,7 +25,12 @@ std::size_t coreCount() {
 
 RenderJob::RenderJob(RenderOptions options, RenderReceivers receivers, Platform& platform)
     : options_(std::move(options)),
-      manner_{{}, false, options_.check, options_.keepGoing, options_.encoding},
+      manner_{{},
+              false,
+              options_.check,
+              options_.keepGoing,
+              options_.encoding,
+              options_.pictureFolders},
       receivers_(std::move(receivers)),
       report_(options_, receivers_),
       platform_(platform) {}

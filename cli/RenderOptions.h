@@ -22,6 +22,8 @@ struct RenderOptions {
     std::optional<std::string> styleSheet;
     /// The encoding of the descriptions and the stylesheet.
     EncodingChoice encoding = EncodingChoice::Auto;
+    /// Folders whose pictures descriptions may name, besides their own.
+    std::vector<std::string> pictureFolders;
     /// The file that the one description goes to.
     std::optional<std::string> output;
     /// The folder that the documents go to, instead of beside their descriptions.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -168,6 +169,11 @@ std::string meaningOfExtended(std::string_view text) {
     for (const std::string& font : tables.fonts().entries()) {
         meaning += font + "\n";
     }
+    for (const RgbColor& color : tables.colors().list()) {
+        for (const std::uint8_t part : {color.red, color.green, color.blue}) {
+            meaning += std::to_string(part) + "\n";
+        }
+    }
     return meaning;
 }
 
@@ -239,7 +245,9 @@ std::string formattedStyleSheet(std::string_view text) {
     }
     formatter.addText(text.substr(start));
     std::string formatted = formatter.text();
-    return meaningOf(formatted) == meaningOf(text) ? formatted : std::string(text);
+    // The comment before a definition can become the mark of the other language.
+    const bool isSame = meaningOf(formatted) == meaningOf(text) && !isMarkedExtended(formatted);
+    return isSame ? formatted : std::string(text);
 }
 
 }  // namespace quorvane

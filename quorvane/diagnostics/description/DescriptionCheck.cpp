@@ -9,6 +9,7 @@
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/diagnostics/description/CheckRecovery.h"
 #include "quorvane/diagnostics/description/NullPlatform.h"
+#include "quorvane/diagnostics/description/StyleUses.h"
 #include "quorvane/diagnostics/description/ViolationReport.h"
 #include "quorvane/diagnostics/description/descriptionWarnings.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
@@ -122,7 +123,12 @@ private:
     }
 
     void checkDocument(DescriptionNode& doc) {
-        const ViolationReport report(source_, dialect_.vocabulary, engine_);
+        std::optional<StyleUses> uses;
+        if (styles_) {
+            uses.emplace(*styles_, source_, engine_);
+        }
+        const ViolationReport report(source_, dialect_.vocabulary, uses ? &*uses : nullptr,
+                                     engine_);
         const DescriptionRules rules(dialect_, report, MisplacedNodes::ByKind);
         rules.docWalkerSyntax(doc);
         if (!dialect_.values.areExtended) {
@@ -136,10 +142,10 @@ private:
             document->LoadStyleSheetFromMemmory(styles_->soundText());
         }
         BuiltTable table = DocumentBuilder(*document, dialect_, report, pictures_).build(doc);
-        if (dialect_.texts.isLiteral) {
-            findLiteralTextWarnings(doc, styles_, source_, engine_);
-        } else {
+        if (!dialect_.texts.isLiteral) {
             findDescriptionWarnings(doc, *document, table, styles_, source_, engine_);
+        } else if (uses) {
+            findLiteralTextWarnings(doc, *uses);
         }
     }
 

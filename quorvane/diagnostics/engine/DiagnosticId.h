@@ -39,6 +39,7 @@ enum class DiagnosticId {
     WrongPlace,
     UnclosedValue,
     WrongPicture,
+    UndefinedStyle,
 
     // nodeWarnings.h
     ClosedByOpener,
@@ -54,6 +55,7 @@ enum class DiagnosticId {
     UnknownParagraphStyle,
     UnknownCharacterStyle,
     UnknownCellStyle,
+    InlineStyleAsText,
     SharedStyleNumber,
     LowContrast,
 
