@@ -16,7 +16,7 @@
 #include "quorvane/formatting/ColumnUpgrade.h"
 #include "quorvane/formatting/LineDepths.h"
 #include "quorvane/formatting/PageUpgrade.h"
-#include "quorvane/formatting/ParagraphStyleUpgrade.h"
+#include "quorvane/formatting/StyleNameUpgrade.h"
 #include "quorvane/formatting/TextUpgrade.h"
 #include "quorvane/formatting/UpgradedLines.h"
 #include "quorvane/formatting/lineEndOf.h"
@@ -140,7 +140,8 @@ private:
             addColumns(columns_.ofRow(*entry.node), entry.number);
         } else if (entry.line.kind == NodeKind::Para &&
                    !contains(entry.node->keys, DescriptionKey::ParaStyle)) {
-            addStyle(entry.line.name.size() > 1 ? "para-style" : "ps", *entry.node, entry.number);
+            addStyle(entry.line.name.size() > 1 ? "para-style" : "ps", styles_.inPlaceOfNone(),
+                     entry.number);
         }
     }
 
@@ -162,13 +163,10 @@ private:
         }
     }
 
-    /// Adds the style of a paragraph that has none of its own.
-    bool addStyle(std::string_view key, const DescriptionNode& paragraph, int number) {
-        const std::string style = styles_.styleFor(paragraph);
-        if (!style.empty()) {
-            addLeaf(key, style, number);
+    void addStyle(std::string_view key, const std::string& name, int number) {
+        if (!name.empty()) {
+            addLeaf(key, name, number);
         }
-        return !style.empty();
     }
 
     void addLeaf(const Entry& entry) {
@@ -180,9 +178,10 @@ private:
             }
         } else if (known == DescriptionKey::ParaText) {
             addText(leaf, entry.depth);
-        } else if (known == DescriptionKey::ParaStyle &&
-                   addStyle(entry.line.key, *entry.node, entry.number)) {
-            return;
+        } else if (known == DescriptionKey::ParaStyle) {
+            addStyle(leaf.writtenKey, styles_.nameFor(leaf, StyleKind::Paragraph), entry.number);
+        } else if (known == DescriptionKey::CellStyle) {
+            addStyle(leaf.writtenKey, styles_.nameFor(leaf, StyleKind::Cell), entry.number);
         } else if (known != DescriptionKey::CellWidth && !isWithoutEffect(leaf)) {
             addLeaf(entry.line.key, upgradedValue(leaf), entry.number);
         }
@@ -230,7 +229,7 @@ private:
     Ref<CRtfDoc> document_;
     PageUpgrade page_;
     ColumnUpgrade columns_;
-    ParagraphStyleUpgrade styles_;
+    StyleNameUpgrade styles_;
     TextUpgrade texts_;
     UpgradedLines upgraded_;
     // The names with which the nodes were opened that are open.
