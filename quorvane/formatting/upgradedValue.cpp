@@ -1,12 +1,12 @@
 #include "quorvane/formatting/upgradedValue.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdio>
+#include <cstdint>
 #include <optional>
 #include <string_view>
 #include <vector>
 
+#include "quorvane/base/text/hexadecimal.h"
 #include "quorvane/driver/Vocabulary.h"
 #include "quorvane/rtfgroups/CRtfGrpColorTable.h"
 
@@ -24,17 +24,19 @@ std::string nameOf(Value value, const std::vector<std::string_view>& names,
     return found == names.end() ? std::string() : std::string(*found);
 }
 
-std::string hexadecimal(const RgbColor& color) {
-    std::array<char, sizeof "#000000"> text{};
-    std::snprintf(text.data(), text.size(), "#%02x%02x%02x", color.red, color.green, color.blue);
-    return text.data();
+std::string componentsOf(const RgbColor& color) {
+    std::string text = "#";
+    for (const std::uint8_t component : {color.red, color.green, color.blue}) {
+        text += hexadecimal(component, 2, lowerHexadecimalDigits);
+    }
+    return text;
 }
 
 std::string colorName(tColorIndex color) {
     const Vocabulary& words = originalVocabulary();
     const std::string name = nameOf(color, words.colorNames(), &Vocabulary::colorNamed);
     const std::optional<RgbColor> components = CRtfGrpColorTable::color(color);
-    return name.empty() && components ? hexadecimal(*components) : name;
+    return name.empty() && components ? componentsOf(*components) : name;
 }
 
 }  // namespace

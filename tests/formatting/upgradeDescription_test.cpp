@@ -14,6 +14,7 @@
 #include "quorvane/formatting/ShownTexts.h"
 #include "quorvane/formatting/upgradeStyleSheet.h"
 #include "tests/diagnostics/randomDescriptions.h"
+#include "tests/formatting/messagesOf.h"
 #include "tests/support/FakePlatform.h"
 
 namespace quorvane {
@@ -36,14 +37,6 @@ std::string withText(const std::string& text) {
     return "(doc\n(paper-width=11906)\n(paper-height=16838)\n(left-margin=1533)\n"
            "(right-margin=1533)\n(page-number-start=1)\n(r\n(c\n(p\n(pt=" +
            text + ")\np)\nc)\nr)\ndoc)\n";
-}
-
-std::vector<std::string> messagesOf(const std::vector<UpgradeRemark>& remarks) {
-    std::vector<std::string> messages;
-    for (const UpgradeRemark& remark : remarks) {
-        messages.push_back(std::to_string(remark.line) + ": " + remark.message);
-    }
-    return messages;
 }
 
 std::string upgraded(const std::string& text) {

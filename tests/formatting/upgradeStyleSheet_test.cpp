@@ -13,6 +13,7 @@
 #include "quorvane/docmodel/InnerDocument.h"
 #include "quorvane/rtf/RtfControl.h"
 #include "tests/diagnostics/randomDescriptions.h"
+#include "tests/formatting/messagesOf.h"
 #include "tests/support/FakePlatform.h"
 
 namespace quorvane {
@@ -22,14 +23,6 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
-
-std::vector<std::string> messagesOf(const std::vector<UpgradeRemark>& remarks) {
-    std::vector<std::string> messages;
-    for (const UpgradeRemark& remark : remarks) {
-        messages.push_back(std::to_string(remark.line) + ": " + remark.message);
-    }
-    return messages;
-}
 
 std::string upgraded(const std::string& text) {
     const Upgrade upgrade = upgradedStyleSheet(text);
