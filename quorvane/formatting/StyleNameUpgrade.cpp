@@ -13,7 +13,7 @@ StyleNameUpgrade::StyleNameUpgrade(const std::optional<std::string>& styleSheet)
 }
 
 std::string StyleNameUpgrade::nameFor(const Leaf& leaf, StyleKind kind) const {
-    const std::string name = leaf.valueText();
+    std::string name = leaf.valueText();
     if (!styles_ || styles_->find(kind, name) > 0) {
         return name;
     }
