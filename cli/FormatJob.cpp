@@ -13,10 +13,13 @@
 #include "cli/process.h"
 #include "cli/unifiedDiff.h"
 #include "quorvane/base/platform/fileReplacement.h"
+#include "quorvane/base/text/extendedMark.h"
 #include "quorvane/diagnostics/languageOf.h"
 #include "quorvane/diagnostics/textFile.h"
 #include "quorvane/formatting/formatStyleSheet.h"
 #include "quorvane/formatting/languageToFormat.h"
+#include "quorvane/formatting/upgradeDescription.h"
+#include "quorvane/formatting/upgradeStyleSheet.h"
 
 namespace quorvane::cli {
 
@@ -55,7 +58,7 @@ ExitStatus FormatJob::run() {
     for (const std::string& file : options_.files) {
         status = std::max(status, isFolder(file) ? formatFolder(file) : formatFile(file));
     }
-    return status;
+    return std::max(status, upgradeStyleSheets());
 }
 
 ExitStatus FormatJob::formatFolder(const std::string& folder) {
@@ -82,10 +85,18 @@ ExitStatus FormatJob::formatFile(const std::string& file) {
 }
 
 ExitStatus FormatJob::format(const std::string& file) {
-    const bool isStream = file == standardStream;
-    const std::string bytes = isStream ? readStandardInput() : platform_.readFile(file);
+    const std::string bytes = read(file);
     const TextEncoding encoding = encodingOf(bytes, options_.encoding);
-    const std::string canonical = formatted(file, bytes, encoding);
+    const std::string text = textOf(bytes, encoding);
+    const CheckedLanguage language = languageOfText(file, text);
+    return options_.upgrade
+               ? upgrade(file, bytes, encoding, language)
+               : deliver(file, bytes, encodedText(formatted(text, language), encoding), encoding);
+}
+
+/// Shows or writes what a file is to hold.
+ExitStatus FormatJob::deliver(const std::string& file, const std::string& bytes,
+                              const std::string& canonical, TextEncoding encoding) {
     if (options_.check || options_.diff) {
         if (canonical == bytes) {
             return ExitStatus::Success;
@@ -95,7 +106,7 @@ ExitStatus FormatJob::format(const std::string& file) {
             encoding);
         return ExitStatus::ContentErrors;
     }
-    if (isStream) {
+    if (file == standardStream) {
         write_(canonical, encoding);
     } else if (canonical != bytes) {
         const std::unique_ptr<OutputFile> output = openReplacement(file, unfinishedFileWatch());
@@ -109,25 +120,109 @@ std::string FormatJob::shownName(const std::string& file) const {
     return file == standardStream ? options_.stdinName.value_or("<stdin>") : file;
 }
 
-/// The bytes in their canonical form.
-std::string FormatJob::formatted(const std::string& file, const std::string& bytes,
-                                 TextEncoding encoding) const {
+std::string FormatJob::read(const std::string& file) const {
+    return file == standardStream ? readStandardInput() : platform_.readFile(file);
+}
+
+std::string FormatJob::textOf(const std::string& bytes, TextEncoding encoding) const {
     if (const std::optional<Diagnostic> unreadable = findUnreadableText(bytes, encoding)) {
         refuse(*unreadable);
     }
-    const std::string text = decodedText(bytes, encoding);
+    return decodedText(bytes, encoding);
+}
+
+CheckedLanguage FormatJob::languageOfText(const std::string& file, const std::string& text) const {
     const bool hasName = file != standardStream || options_.stdinName;
     const std::optional<CheckedLanguage> language =
         hasName ? languageToFormat(text, shownName(file)) : languageOfStreamToFormat(text);
-    if (language == CheckedLanguage::Description) {
-        return encodedText(formattedDescription(text, options_.names), encoding);
+    if (!language || *language == CheckedLanguage::Rtf) {
+        refuse(languageOf(text, shownName(file)) == CheckedLanguage::Rtf
+                   ? "An RTF file has no canonical form"
+                   : "The file is neither a description nor a stylesheet");
     }
-    if (language == CheckedLanguage::StyleSheet) {
-        return encodedText(formattedStyleSheet(text), encoding);
+    return *language;
+}
+
+std::string FormatJob::formatted(const std::string& text, CheckedLanguage language) const {
+    return language == CheckedLanguage::Description ? formattedDescription(text, options_.names)
+                                                    : formattedStyleSheet(text);
+}
+
+/// A stylesheet waits for the descriptions.
+ExitStatus FormatJob::upgrade(const std::string& file, const std::string& bytes,
+                              TextEncoding encoding, CheckedLanguage language) {
+    const bool isStyleSheet = language == CheckedLanguage::StyleSheet;
+    if (isStyleSheet && file != standardStream && !next_) {
+        styleSheets_.add(file);
+        return ExitStatus::Success;
     }
-    refuse(languageOf(bytes, shownName(file)) == CheckedLanguage::Rtf
-               ? "An RTF file has no canonical form"
-               : "The file is neither a description nor a stylesheet");
+    const std::string text = textOf(bytes, encoding);
+    const Upgrade upgrade =
+        isStyleSheet ? upgradedStyleSheet(text) : upgradedDescriptionIn(file, text);
+    remark(shownName(file), upgrade.errors);
+    if (!upgrade.errors.empty()) {
+        return ExitStatus::Failure;
+    }
+    const TextEncoding utf8 = isUtf8(encoding) ? encoding : TextEncoding::Utf8;
+    const ExitStatus status =
+        deliver(file, bytes, encodedText(formatted(upgrade.text, language), utf8), utf8);
+    const bool isWritten = !options_.check && !options_.diff && !isMarkedExtended(text);
+    if (isWritten && next_ && !next_->description.empty()) {
+        remark(file, {{0, "The stylesheet is upgraded with " + next_->description}});
+    }
+    remark(shownName(file), upgrade.notes);
+    return status;
+}
+
+Upgrade FormatJob::upgradedDescriptionIn(const std::string& file, const std::string& text) {
+    const std::optional<std::string> styleSheet = styleSheets_.addFor(file, shownName(file));
+    if (styleSheet && !styleSheets_.canUpgrade(*styleSheet, [this](const std::string& name) {
+            return rehearse(name);
+        })) {
+        refuse("Its stylesheet " + *styleSheet + " cannot be upgraded");
+    }
+    std::optional<std::string> styles;
+    if (styleSheet) {
+        const std::string bytes = platform_.readFile(*styleSheet);
+        styles = decodedText(bytes, encodingOf(bytes, options_.encoding));
+    }
+    Upgrade upgrade = upgradedDescription(text, styles, options_.names);
+    if (styleSheet && !upgrade.errors.empty()) {
+        styleSheets_.holdBack(*styleSheet);
+    }
+    return upgrade;
+}
+
+/// True if the stylesheet can be upgraded. Reports why not.
+bool FormatJob::rehearse(const std::string& styleSheet) {
+    try {
+        const std::string bytes = platform_.readFile(styleSheet);
+        const Upgrade upgrade =
+            upgradedStyleSheet(textOf(bytes, encodingOf(bytes, options_.encoding)));
+        remark(styleSheet, upgrade.errors);
+        return upgrade.errors.empty();
+    } catch (const RtfError& error) {
+        fail_(unreadableFile(styleSheet, styleSheet, error));
+        return false;
+    }
+}
+
+ExitStatus FormatJob::upgradeStyleSheets() {
+    ExitStatus status = ExitStatus::Success;
+    for (const StyleSheetUpgrades::Wanted& wanted : styleSheets_.toUpgrade()) {
+        next_ = &wanted;
+        status = std::max(status, formatFile(wanted.file));
+    }
+    next_ = nullptr;
+    return status;
+}
+
+void FormatJob::remark(const std::string& file, const std::vector<UpgradeRemark>& remarks) {
+    for (const UpgradeRemark& remark : remarks) {
+        ReportedError reported = refusal(file, remark.message);
+        reported.error.line = remark.line;
+        fail_(reported);
+    }
 }
 
 ExitStatus format(const FormatOptions& options) {

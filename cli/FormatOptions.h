@@ -15,6 +15,10 @@ struct FormatOptions {
     std::vector<std::string> files;
     EncodingChoice encoding = EncodingChoice::Auto;
     NameForm names = NameForm::Kept;
+    /// Write the extended language.
+    bool upgrade = false;
+    /// The stylesheet of the descriptions that are upgraded, and is upgraded with them.
+    std::optional<std::string> styleSheet = {};
     /// Only name the files that are not in their canonical form.
     bool check = false;
     /// Only show what would change.

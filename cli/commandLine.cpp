@@ -7,6 +7,7 @@
 
 #include "cli/UsageError.h"
 #include "cli/licenses.h"
+#include "cli/styleSheetName.h"
 #include "quorvane/diagnostics/engine/nearestWord.h"
 
 namespace quorvane::cli {
@@ -93,6 +94,12 @@ ASCII, is in UTF-8; any other is in Windows-1252.
 
 The canonical form renders to the same document. The messages of errors may
 differ, because they repeat lines of the description.
+
+With --upgrade, the canonical form is in the extended language and in UTF-8, and
+looks the same. The stylesheet of a description is upgraded with it: that of
+--stylesheet, or else the one of the same name beside it. A file that cannot be
+upgraded stays as it is, and so does the other file of the pair; the reason is
+reported.
 
 --diff writes a unified diff for "patch -p1" or "git apply".
 
@@ -424,6 +431,13 @@ void addFormatOptions(CLI::App* format, FormatOptions& options) {
     format->add_option("--names", storeIn(options.names), "Write long or short names, or keep them")
         ->type_name("long|short|keep")
         ->check(CLI::IsMember(nameForms()).description(""));
+    CLI::Option* const upgrade =
+        format->add_flag("--upgrade", options.upgrade, "Write the extended language");
+    format
+        ->add_option("-s,--stylesheet", storeIn(options.styleSheet),
+                     "With --upgrade, the stylesheet of the files")
+        ->type_name("FILE")
+        ->needs(upgrade);
     addEncoding(*format, options.encoding);
     format->add_flag("--check", options.check, "Only list the files that would change");
     format->add_flag("--diff", options.diff, "Only show what would change");
@@ -694,6 +708,9 @@ parseCommandLine(const std::vector<std::string>& arguments) {
         }
         if (command == "format") {
             requireStandardInput(requests.format.stdinName, requests.format.files);
+            if (requests.format.styleSheet) {
+                requireStyleSheetExtension(*requests.format.styleSheet, requests.format.files);
+            }
             return requests.format;
         }
         if (command == "escape") {

@@ -36,6 +36,8 @@ struct NamedPage {
     PageSize size;
 };
 
+constexpr std::string_view landscape = "-landscape";
+
 constexpr NamedPage namedPages[] = {
     {"a3", {16838, 23811}},    {"a4", {11906, 16838}},      {"a5", {8391, 11906}},
     {"a6", {5953, 8391}},      {"b5", {9978, 14173}},       {"letter", {12240, 15840}},
@@ -94,7 +96,6 @@ bool yesOrNo(std::string_view text) {
 }
 
 PageSize pageSizeNamed(std::string_view text) {
-    constexpr std::string_view landscape = "-landscape";
     const std::string word = lowerCase(text);
     const bool isTurned = word.ends_with(landscape);
     const std::string_view name =
@@ -110,6 +111,18 @@ PageSize pageSizeNamed(std::string_view text) {
     }
     refuse(text, unlessEmpty(text, " is not a page") + "; write one of " + names +
                      ", each also with -landscape, or use paper-width and paper-height");
+}
+
+std::string pageName(const PageSize& size) {
+    for (const auto& [name, upright] : namedPages) {
+        if (upright.width == size.width && upright.height == size.height) {
+            return std::string(name);
+        }
+        if (upright.width == size.height && upright.height == size.width) {
+            return std::string(name) + std::string(landscape);
+        }
+    }
+    return {};
 }
 
 ColumnWidth columnWidth(std::string_view text) {

@@ -34,6 +34,9 @@ struct PageSize {
 };
 PageSize pageSizeNamed(std::string_view text);
 
+/// The name of a page of that size; empty if none has it.
+std::string pageName(const PageSize& size);
+
 /// The width of a column: a share of the text area or a length.
 struct ColumnWidth {
     double amount = 0;

@@ -12,6 +12,7 @@
 #include "quorvane/driver/DescriptionFrame.h"
 #include "quorvane/driver/DescriptionParser.h"
 #include "quorvane/driver/literalText.h"
+#include "quorvane/formatting/LineDepths.h"
 #include "quorvane/formatting/lineEndOf.h"
 #include "quorvane/support/recordStrings.h"
 
@@ -28,43 +29,15 @@ bool isPlainLeaf(const DescriptionLine& leaf) {
     return leaf.key.find(')') == std::string_view::npos;
 }
 
-/// In how many nodes the lines of a description stand, and what they are.
-class LineDepths : public DescriptionRecovery {
-public:
-    struct Entry {
-        int number;
-        DescriptionLine line;
-        std::size_t depth;
-    };
-
-    LineDepths(std::string_view text, const Dialect& dialect) {
-        const std::vector<SourceLine> lines = PreProcessRawData(text, dialect.marks.block);
-        entries_.reserve(lines.size());
-        DescriptionTree tree(lines.size() / 2);
-        DescriptionParser(dialect, this).treeWalkerBuild(tree, lines);
-    }
-
-    const std::vector<Entry>& entries() const { return entries_; }
-
-private:
-    void violation(const Violation&) override {}
-    MeantLine unreadable(const Violation&, const DescriptionNode&) override { return {}; }
-    bool readsAllLines() const override { return true; }
-    void lineRead(const SourceLine& line, const DescriptionLine& parts,
-                  std::size_t depth) override {
-        entries_.push_back({line.number, parts, depth});
-    }
-
-    std::vector<Entry> entries_;
-};
-
 class DescriptionFormatter {
 public:
     DescriptionFormatter(const Dialect& dialect, NameForm form, bool lowersNames)
         : dialect_(dialect), form_(form), lowersNames_(lowersNames) {}
 
     std::string format(std::string_view text) const {
-        const LineDepths depths(text, dialect_);
+        const std::vector<SourceLine> source = PreProcessRawData(text, dialect_.marks.block);
+        DescriptionTree tree(source.size() / 2);
+        const LineDepths depths(source, dialect_, LineDepths::Extent::WholeText, tree);
         auto entry = depths.entries().begin();
         const std::string_view lineEnd = lineEndOf(text);
         std::string formatted;

@@ -1,7 +1,10 @@
 #include "quorvane/rtf/RtfControl.h"
 
 #include <algorithm>
+#include <string>
 
+#include "quorvane/base/text/codePage1252.h"
+#include "quorvane/base/text/utf8.h"
 #include "quorvane/rtf/RtfWord.h"
 
 namespace quorvane {
@@ -14,6 +17,11 @@ std::optional<int> hexDigit(char character) {
     }
     const char lower = static_cast<char>(character | 0x20);
     return lower >= 'a' && lower <= 'f' ? std::optional<int>(lower - 'a' + 10) : std::nullopt;
+}
+
+/// The code of the character that a byte of Windows-1252 stands for.
+char32_t codeOfByte(int byte) {
+    return utf8CharacterAt(utf8FromCodePage1252(std::string(1, static_cast<char>(byte))), 0).code;
 }
 
 }  // namespace
@@ -57,6 +65,31 @@ void readRtfSymbol(std::string_view text, std::size_t backslash, RtfControl& con
     }
 }
 
+std::optional<char32_t> codeOf(const RtfControl& control, std::string_view text,
+                               std::size_t backslash) {
+    switch (control.symbol) {
+        case '\'':
+            return control.isBadEscape()
+                       ? std::nullopt
+                       : std::optional(codeOfByte(*hexDigit(text[backslash + 2]) * 16 +
+                                                  *hexDigit(text[backslash + 3])));
+        case '\\':
+        case '{':
+        case '}':
+            return control.symbol;
+        case '~':
+            return 0xA0;
+        case '-':
+            return 0xAD;
+        case '_':
+            return 0x2011;
+        default:
+            break;
+    }
+    const RtfWord* const word = findRtfWord(control.word);
+    return word && word->code != 0 ? std::optional(word->code) : std::nullopt;
+}
+
 std::optional<char> characterOf(const RtfControl& control, std::string_view text,
                                 std::size_t backslash) {
     const auto ascii = [](char32_t code) -> std::optional<char> {
@@ -68,22 +101,12 @@ std::optional<char> characterOf(const RtfControl& control, std::string_view text
         }
         return code < 0x7F ? static_cast<char>(code) : '?';
     };
-    switch (control.symbol) {
-        case '\'':
-            return control.isBadEscape()
-                       ? '?'
-                       : ascii(static_cast<char32_t>(*hexDigit(text[backslash + 2]) * 16 +
-                                                     *hexDigit(text[backslash + 3])));
-        case '\\':
-        case '{':
-        case '}':
-            return control.symbol;
-        case '~':
-            return ' ';
-        case '_':
-            return '-';
-        default:
-            break;
+    if (control.symbol == '_') {
+        return '-';
+    }
+    if (control.symbol != '\0') {
+        const std::optional<char32_t> code = codeOf(control, text, backslash);
+        return code ? ascii(*code) : control.isBadEscape() ? std::optional('?') : std::nullopt;
     }
     const RtfWord* const word = findRtfWord(control.word);
     if (word && word->role == RtfRole::Unicode && control.number) {

@@ -98,6 +98,12 @@ bool isRtfSymbol(char symbol);
 /// width, and those that set the direction of writing.
 bool isInvisible(char32_t code);
 
+/// The code of the character that a control means, where it is the same in every document; nothing
+/// for `\u`, for controls that are not characters, and for fields such as the number of the page.
+/// `\tab` is U+0009 and `\line` is U+000A.
+std::optional<char32_t> codeOf(const RtfControl& control, std::string_view text,
+                               std::size_t backslash);
+
 /// The character that a control means, if it is in ASCII; '?' for any other character; nothing when
 /// the control is not a character or its character is invisible.
 std::optional<char> characterOf(const RtfControl& control, std::string_view text,

@@ -84,6 +84,8 @@ struct RtfWord {
     /// The character that it shows: a blank, '?' for one that ASCII does not have, NUL for none.
     char shown = '\0';
     RtfContent brings = RtfContent::None;
+    /// The code of the one character that it always shows; NUL for any other word.
+    char32_t code = U'\0';
 };
 
 /// The control word of these letters; null for a word that RTF does not have. Case counts.

@@ -48,6 +48,10 @@ std::string_view nameIn(std::string_view entry) {
     return entry.substr(begin, entry.find(';') - begin);
 }
 
+bool isThere(std::int32_t number) {
+    return number >= 0 && static_cast<std::size_t>(number) < std::size(fonts);
+}
+
 }  // namespace
 
 std::int32_t CRtfGrpFontTable::GetFontIndex(std::string_view sName) const {
@@ -73,9 +77,12 @@ std::optional<std::int32_t> CRtfGrpFontTable::fontNumberOfName(std::string_view 
                                     : std::optional(static_cast<std::int32_t>(found - fonts));
 }
 
+std::string_view CRtfGrpFontTable::fontName(std::int32_t number) {
+    return isThere(number) ? nameIn(fonts[number].entry) : std::string_view();
+}
+
 std::string_view CRtfGrpFontTable::fontKey(std::int32_t number) {
-    const bool isThere = number >= 0 && static_cast<std::size_t>(number) < std::size(fonts);
-    return isThere ? fonts[number].key : std::string_view();
+    return isThere(number) ? fonts[number].key : std::string_view();
 }
 
 void CRtfGrpFontTable::render(TextOutput& rtf, std::span<const std::string> added) const {

@@ -29,6 +29,9 @@ public:
     /// Number of the font of that name, in any case; nothing when no font has it.
     static std::optional<std::int32_t> fontNumberOfName(std::string_view name);
 
+    /// Name of the font of that number; empty for a number that the table does not have.
+    static std::string_view fontName(std::int32_t number);
+
     /// Key of the font of that number; empty for a number that the table does not have.
     static std::string_view fontKey(std::int32_t number);
 

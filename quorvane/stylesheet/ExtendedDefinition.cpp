@@ -27,11 +27,12 @@ bool isBeyondAscii(char byte) {
 /// Letters, digits and what descriptions and RTF take for a part of a name. The text is sound UTF-8
 /// without control characters.
 bool isStyleName(std::string_view name) {
-    const auto isLetter = [](char byte) { return isAsciiLetter(byte) || isBeyondAscii(byte); };
-    return !name.empty() && isLetter(name.front()) && !findUnshowable(name) &&
+    const auto isWord = [](char byte) {
+        return isAsciiLetter(byte) || isAsciiDigit(byte) || isBeyondAscii(byte);
+    };
+    return !name.empty() && isWord(name.front()) && !findUnshowable(name) &&
            std::all_of(name.begin(), name.end(), [&](char byte) {
-               return isLetter(byte) || isAsciiDigit(byte) || byte == ' ' || byte == '-' ||
-                      byte == '_' || byte == '.';
+               return isWord(byte) || byte == ' ' || byte == '-' || byte == '_' || byte == '.';
            });
 }
 

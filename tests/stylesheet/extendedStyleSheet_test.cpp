@@ -264,10 +264,14 @@ TEST(ExtendedViolations, AreNamesThatAreMissingOrNotNames) {
                 ElementsAre("style-def: s|A style begins with its name.",
                             "name|name is not a keyword of a style."));
     EXPECT_THAT(violationsOf("{ }"), ElementsAre("{|A style begins with its name."));
-    EXPECT_THAT(violationsOf("{ name: 1st, a<b, ; style-def: s }"),
-                ElementsAre("1st|1st cannot be the name of a style.",
+    EXPECT_THAT(violationsOf("{ name: -st, a<b, ; style-def: s }"),
+                ElementsAre("-st|-st cannot be the name of a style.",
                             "a<b|a<b cannot be the name of a style.",
                             "name|An empty text cannot be the name of a style."));
+}
+
+TEST(ExtendedViolations, AreNoneInANameThatBeginsWithADigit) {
+    EXPECT_THAT(violationsOf("{ name: 12, 1.5, 1st; style-def: s }"), ElementsAre());
 }
 
 TEST(ExtendedViolations, AreKindsThatAreMissingOrNotKinds) {

@@ -190,7 +190,7 @@ Hint extendedHint(const ExtendedViolation& violation, std::span<const std::strin
         case ExtendedFault::NamelessStyle:
             return "begin with name:";
         case ExtendedFault::BadStyleName:
-            return "begin with a letter; use letters, digits, blanks, - _ and . alone";
+            return "begin with a letter or a digit; use these, blanks, - _ and . alone";
         case ExtendedFault::MissingKind:
             return "write style-def: paragraph, style-def: character or style-def: cell";
         case ExtendedFault::BadKind:

@@ -89,7 +89,7 @@ The first item of a style in the extended language is `name` with one or more na
      .language = CheckedLanguage::StyleSheet,
      .message = extendedFaultText(ExtendedFault::BadStyleName),
      .explanation = R"(
-In the extended language the name of a style begins with a letter. Letters, digits, blanks, and the
+In the extended language the name of a style begins with a letter or a digit. These, blanks, and the
 characters `-`, `_` and `.` follow. Any character beyond ASCII counts as a letter.
 )",
      .wrong = R"(
