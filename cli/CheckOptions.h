@@ -19,6 +19,10 @@ struct CheckOptions {
     std::optional<std::string> styleSheet;
     /// The encoding of descriptions and stylesheets.
     EncodingChoice encoding = EncodingChoice::Auto;
+    /// The JSON file that the descriptions, which are templates, are filled with.
+    std::optional<std::string> data;
+    /// The locale in which filters write numbers.
+    std::optional<std::string> locale;
     ReportForm form = ReportForm::Text;
     /// Identifiers of diagnostics to leave out, and of those to report that are off by default.
     std::vector<std::string> ignored;

@@ -46,6 +46,9 @@ public:
     /// rows are added.
     BuiltTable build(DescriptionNode& doc);
 
+    /// Leaves out whether spans, columns and headings fit together: not all cells are known.
+    void leaveLayoutUnchecked() { checksLayout_ = false; }
+
 private:
     // Calls `apply` for each leaf whose key nodes of that kind have, in ascending order of the
     // keys.
@@ -87,6 +90,7 @@ private:
     ExtendedColumns columns_;
     LiteralParagraphs literals_;
     BuiltTable table_;
+    bool checksLayout_ = true;
 };
 
 }  // namespace quorvane

@@ -25,9 +25,10 @@ void LiteralParagraphs::setText(CRtfParagraph& paragraph, DescriptionNode& node)
     };
     append(DescriptionKey::Rtf, [](const Leaf& leaf) { return rawRtf(leaf.text); });
     append(DescriptionKey::ParaText, [this](const Leaf& leaf) {
-        return literalText(shownText(leaf), [this](std::string_view name) {
-            return document_.GetCharacterStyle(name);
-        });
+        return literalText(
+            shownText(leaf),
+            [this](std::string_view name) { return document_.GetCharacterStyle(name); },
+            leaf.data());
     });
     if (!rtf.empty()) {
         paragraph.setText(rtf);
@@ -73,7 +74,8 @@ RtfPicture LiteralParagraphs::pictureNamed(const std::string& name, std::int32_t
 /// The text of a leaf, whose value may go on over several lines.
 std::string LiteralParagraphs::shownText(const Leaf& leaf) const {
     const std::string_view mark = dialect_.marks.block;
-    return leaf.text.starts_with(mark) ? blockText(leaf.text, mark) : std::string(leaf.text);
+    return !leaf.filled && leaf.text.starts_with(mark) ? blockText(leaf.text, mark)
+                                                       : std::string(leaf.text);
 }
 
 }  // namespace quorvane

@@ -8,6 +8,7 @@
 #include "quorvane/base/text/extendedMark.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/diagnostics/description/CheckRecovery.h"
+#include "quorvane/diagnostics/description/FilledDescriptionCheck.h"
 #include "quorvane/diagnostics/description/NullPlatform.h"
 #include "quorvane/diagnostics/description/ViolationReport.h"
 #include "quorvane/diagnostics/description/descriptionWarnings.h"
@@ -43,6 +44,18 @@ public:
     void run() {
         std::vector<SourceLine> lines = PreProcessRawData(source_.text(), dialect_.marks.block);
         frame_ = frameOf(source_.text(), lines, dialect_);
+        run(std::move(lines));
+    }
+
+    void runOnFilled(const FilledLines& filled) {
+        const std::vector<SourceLine>& lines = filled.lines;
+        isComplete_ = filled.areComplete;
+        frame_ = frameOf(lines, dialect_);
+        run(lines);
+    }
+
+private:
+    void run(std::vector<SourceLine> lines) {
         const std::string_view firstLine =
             lines.empty() ? source_.text().substr(0, 0) : lines.front().text;
         checkFrame(lines);
@@ -67,7 +80,6 @@ public:
         }
     }
 
-private:
     void checkFrame(const std::vector<SourceLine>& lines) {
         for (const Violation& violation : frameViolations(frame_, source_.text(), lines)) {
             engine_.reportText(diagnosticOf(violation.fault), source_.placeOf(violation.part),
@@ -135,7 +147,11 @@ private:
             document->setExtendedStyleSheets(true);
             document->LoadStyleSheetFromMemmory(styles_->soundText());
         }
-        BuiltTable table = DocumentBuilder(*document, dialect_, report, pictures_).build(doc);
+        DocumentBuilder builder(*document, dialect_, report, pictures_);
+        if (!isComplete_) {
+            builder.leaveLayoutUnchecked();
+        }
+        BuiltTable table = builder.build(doc);
         if (dialect_.texts.isLiteral) {
             findLiteralTextWarnings(doc, styles_, source_, engine_);
         } else {
@@ -149,6 +165,7 @@ private:
     const PictureSource& pictures_;
     const Dialect& dialect_ = dialectOf(source_);
     DescriptionFrame frame_;
+    bool isComplete_ = true;
     CheckRecovery recovery_{source_, dialect_, engine_};
 };
 
@@ -170,6 +187,17 @@ std::vector<Diagnostic> checkDescription(std::string_view text, KnownStyles* sty
     findWrongIgnoreComments(source, CheckedLanguage::Description, engine);
     sortByPlace(diagnostics);
     keepFirstMojibake(diagnostics);
+    return diagnostics;
+}
+
+std::vector<Diagnostic> checkFilledDescription(const SourceText& source, const FilledLines& filled,
+                                               KnownStyles* styles, const PictureSource& pictures) {
+    std::vector<Diagnostic> diagnostics;
+    DiagnosticEngine engine(
+        [&](Diagnostic diagnostic) { diagnostics.push_back(std::move(diagnostic)); });
+    DescriptionCheck(source, styles, pictures, engine).runOnFilled(filled);
+    findWrongIgnoreComments(source, CheckedLanguage::Description, engine);
+    sortByPlace(diagnostics);
     return diagnostics;
 }
 

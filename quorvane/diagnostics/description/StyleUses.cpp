@@ -20,8 +20,8 @@ void StyleUses::findCellStyle(const Leaf& leaf) {
     }
     styles_.markUsed(StyleKind::Cell, name);
     if (styles_.lacks(StyleKind::Cell, name)) {
-        engine_.report(DiagnosticId::UnknownCellStyle, source_.placeOf(leaf.text), {name},
-                       styleHint(StyleKind::Cell, name));
+        engine_.report(DiagnosticId::UnknownCellStyle, source_.placeOf(leaf.written(leaf.text)),
+                       {name}, styleHint(StyleKind::Cell, name));
     }
 }
 
@@ -34,7 +34,8 @@ void StyleUses::findParagraphStyle(const Leaf& leaf) {
     if (styles_.lacks(StyleKind::Paragraph, name)) {
         const StyleList& list = stylesOf(styles_, StyleKind::Paragraph);
         const int used = formOf(styles_).unknown;
-        engine_.report(DiagnosticId::UnknownParagraphStyle, source_.placeOf(leaf.text),
+        engine_.report(DiagnosticId::UnknownParagraphStyle,
+                       source_.placeOf(leaf.written(leaf.text)),
                        {name, used == 0 ? "the paragraph gets no format"
                                         : list.at(used).name + " is used instead"},
                        styleHint(StyleKind::Paragraph, name));

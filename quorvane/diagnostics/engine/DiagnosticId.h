@@ -40,6 +40,13 @@ enum class DiagnosticId {
     UnclosedValue,
     WrongPicture,
 
+    // templateErrors.h
+    WrongTag,
+    WrongPartial,
+    MissingName,
+    WrongData,
+    WrongJson,
+
     // nodeWarnings.h
     ClosedByOpener,
     RepeatedOpener,
