@@ -211,6 +211,10 @@ void CheckJob::checkText(const std::string& file, std::string_view bytes, bool i
     reportPartials();
 }
 
+PictureSource CheckJob::picturesOf(const std::string& file) const {
+    return picturesBeside(file, systemPlatform(), options_.pictureFolders);
+}
+
 void CheckJob::reportPartials() {
     for (const PartialDiagnostic& each : std::exchange(partialDiagnostics_, {})) {
         if (isReported(each.diagnostic.id)) {
@@ -223,17 +227,18 @@ void CheckJob::reportPartials() {
 std::vector<Diagnostic> CheckJob::templateDiagnosticsOf(const std::string& file,
                                                         const std::string& text,
                                                         TextEncoding encoding) {
-    const PictureSource files = picturesBeside(file, platform_);
+    const PictureSource pictures = picturesOf(file);
     std::vector<data::TemplateError> errors;
-    const data::Template source = data::compileTemplate(text, encoding, files, errors);
+    const data::Template source =
+        data::compileTemplate(text, encoding, picturesBeside(file, platform_), errors);
     KnownStyles* const styles = styles_ ? &*styles_ : nullptr;
     std::vector<Diagnostic> diagnostics;
     if (errors.empty() && data_) {
         data::TemplateFilling filling(source, data_->data->locale);
         const std::vector<SourceLine>& lines = filling.fill(data_->data->record, errors);
-        diagnostics = data::checkFilled(source, {lines, errors.empty()}, styles, files);
+        diagnostics = data::checkFilled(source, {lines, errors.empty()}, styles, pictures);
     } else if (errors.empty()) {
-        diagnostics = data::checkUnfilled(source, styles, files);
+        diagnostics = data::checkUnfilled(source, styles, pictures);
     }
     partialDiagnostics_.clear();
     for (auto& [index, diagnostic] : data::templateDiagnostics(source, errors)) {
@@ -273,7 +278,7 @@ std::vector<Diagnostic> CheckJob::diagnosticsOf(const std::string& file, std::st
             diagnostics = data_ || data::looksLikeTemplate(text)
                               ? templateDiagnosticsOf(file, text, encoding)
                               : checkDescription(text, styles_ ? &*styles_ : nullptr, encoding,
-                                                 picturesBeside(file, systemPlatform()));
+                                                 picturesOf(file));
             break;
     }
     std::move(diagnostics.begin(), diagnostics.end(), std::back_inserter(all));

@@ -20,6 +20,7 @@
 #include "quorvane/diagnostics/engine/Diagnostic.h"
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
 #include "quorvane/diagnostics/engine/fixText.h"
+#include "quorvane/driver/PictureSource.h"
 
 namespace quorvane::cli {
 
@@ -69,6 +70,7 @@ private:
     bool readData();
     std::vector<Diagnostic> templateDiagnosticsOf(const std::string& file, const std::string& text,
                                                   TextEncoding encoding);
+    PictureSource picturesOf(const std::string& file) const;
     void reportPartials();
 
     bool isReported(DiagnosticId id) const;

@@ -23,6 +23,8 @@ struct CheckOptions {
     std::optional<std::string> data;
     /// The locale in which filters write numbers.
     std::optional<std::string> locale;
+    /// Folders whose pictures descriptions may name, besides their own.
+    std::vector<std::string> pictureFolders;
     ReportForm form = ReportForm::Text;
     /// Identifiers of diagnostics to leave out, and of those to report that are off by default.
     std::vector<std::string> ignored;

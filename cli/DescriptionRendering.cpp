@@ -162,7 +162,8 @@ PictureSource DescriptionRendering::prepareDriver() {
     driver_->setErroneousInput(manner_.check);
     driver_->setUnicodeTexts(isUtf8(encoding_));
     driver_->setReadsExtended(true);
-    PictureSource pictures = picturesBeside(assignment_.description, platform_);
+    PictureSource pictures =
+        picturesBeside(assignment_.description, platform_, manner_.pictureFolders);
     driver_->setPictureSource(pictures);
     driver_->setNotifyErrorHandler([&](CRtfDriver&, const RtfError& error) {
         status_ = std::max(status_, ExitStatus::ContentErrors);

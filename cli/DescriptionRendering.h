@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "cli/CommandPlatform.h"
 #include "cli/ExitStatus.h"
@@ -26,6 +27,8 @@ struct RenderingManner {
     EncodingChoice encoding = EncodingChoice::Auto;
     /// The descriptions are templates, and filled with it; null for what they are without.
     const TemplateData* data = nullptr;
+    /// Folders whose pictures the description may name, besides its own.
+    std::vector<std::string> pictureFolders = {};
 };
 
 /// The rendering of one description. Several can go through the same driver, one after the other,

@@ -25,8 +25,10 @@ std::size_t coreCount() {
 
 RenderJob::RenderJob(RenderOptions options, RenderReceivers receivers, Platform& platform)
     : options_(std::move(options)),
-      manner_{
-          .check = options_.check, .keepGoing = options_.keepGoing, .encoding = options_.encoding},
+      manner_{.check = options_.check,
+              .keepGoing = options_.keepGoing,
+              .encoding = options_.encoding,
+              .pictureFolders = options_.pictureFolders},
       receivers_(std::move(receivers)),
       report_(options_, receivers_),
       platform_(platform) {}

@@ -26,6 +26,8 @@ struct RenderOptions {
     std::optional<std::string> data;
     /// The locale in which filters write numbers.
     std::optional<std::string> locale;
+    /// Folders whose pictures descriptions may name, besides their own.
+    std::vector<std::string> pictureFolders;
     /// The file that the one description goes to.
     std::optional<std::string> output;
     /// The folder that the documents go to, instead of beside their descriptions.

@@ -320,6 +320,14 @@ void addData(CLI::App& app, std::optional<std::string>& data, std::optional<std:
         ->needs("--data");
 }
 
+void addAllowPictures(CLI::App& app, std::vector<std::string>& folders) {
+    app.add_option("--allow-pictures", storeIn(folders),
+                   "Let descriptions name pictures in this folder too")
+        ->type_name("DIR")
+        ->expected(1)
+        ->take_all();
+}
+
 void addStdinFilename(CLI::App& app, std::optional<std::string>& target) {
     app.add_option("--stdin-filename", storeIn(target),
                    "Treat standard input as a file of this name")
@@ -360,6 +368,7 @@ void addCheckOptions(CLI::App* check, CheckOptions& options) {
         ->type_name("text|json|sarif")
         ->check(CLI::IsMember(reportForms()).description(""));
     addEncoding(*check, options.encoding);
+    addAllowPictures(*check, options.pictureFolders);
     addData(*check, options.data, options.locale);
     check->add_flag("--fix", options.fixes, "Apply the fixes that are certain")->excludes("--data");
     check->add_flag("--diff", options.showsDiff, "Only show what --fix would change")
@@ -440,6 +449,7 @@ void addRenderOptions(CLI::App* render, RenderOptions& options) {
                      "Take the styles from this .rtfss file")
         ->type_name("FILE");
     addEncoding(*render, options.encoding);
+    addAllowPictures(*render, options.pictureFolders);
     addData(*render, options.data, options.locale);
     render->add_option("-o,--output", storeIn(options.output), "Write the document to this file")
         ->type_name("FILE");

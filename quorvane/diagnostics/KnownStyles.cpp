@@ -99,11 +99,6 @@ bool hasExtendedKind(const OutlinedDefinition& definition) {
 
 }  // namespace
 
-std::string_view styleKindName(StyleKind kind) {
-    constexpr std::string_view names[] = {"paragraph", "character", "cell"};
-    return names[static_cast<std::size_t>(kind)];
-}
-
 struct KnownStyles::Parts {
     Parts(std::string_view styleSheet, TextEncoding encodingOfFile)
         : text(styleSheet), soundText(styleSheet), encoding(encodingOfFile) {}

@@ -12,9 +12,6 @@ namespace quorvane {
 class StyleList;
 struct SheetForm;
 
-/// "paragraph", "character" or "cell".
-std::string_view styleKindName(StyleKind kind);
-
 /// The styles of a stylesheet, and which of them descriptions use.
 ///
 /// `checkDescription` looks up the styles of a description in it and marks them as used;

@@ -139,6 +139,14 @@ void CRtfDoc::setHeadingForm(quorvane::HeadingForm form) {
     published([&] { inner(*this).set(&PageAdditions::headingForm, form); });
 }
 
+bool CRtfDoc::EndsInSmallParagraph() const {
+    return inner(*this).page().endsInSmallParagraph;
+}
+
+void CRtfDoc::setEndsInSmallParagraph(bool ends) {
+    published([&] { inner(*this).set(&PageAdditions::endsInSmallParagraph, ends); });
+}
+
 const PageText& CRtfDoc::PageHeader() const {
     return inner(*this).page().header;
 }

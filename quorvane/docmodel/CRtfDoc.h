@@ -117,6 +117,13 @@ public:
     /// Setting another value marks the document changed.
     void setHeadingForm(quorvane::HeadingForm form);
 
+    /// True if an empty paragraph, one point high, is written after the table. Readers need a
+    /// paragraph there and put in one of their own otherwise, as high as a line of text: after a
+    /// table that fills its last page, it stands on a page of its own. Default false.
+    bool EndsInSmallParagraph() const;
+    /// Setting the other value marks the document changed.
+    void setEndsInSmallParagraph(bool ends);
+
     /// Returns the texts of the page header; empty by default, which writes no header.
     const PageText& PageHeader() const;
     /// Sets the page header: texts at the left, in the center and at the right of the text area, at

@@ -20,6 +20,11 @@ struct PageAdditions {
     HeadingForm headingForm = HeadingForm::PageHeader;
     PageText header;
     PageText footer;
+    bool endsInSmallParagraph = false;
+
+    bool hasLayout() const {
+        return !columnWidths.empty() || header != PageText() || footer != PageText();
+    }
 
     bool operator==(const PageAdditions&) const = default;
 };
@@ -35,7 +40,7 @@ struct DocumentAdditions {
 
     /// True when there are more words around the rows, or the cells can have other places, than in
     /// a document without additions.
-    bool hasLayout() const { return page != PageAdditions() || !rows.empty() || !spans.empty(); }
+    bool hasLayout() const { return page.hasLayout() || !rows.empty() || !spans.empty(); }
 };
 
 }  // namespace quorvane

@@ -138,6 +138,9 @@ void InnerDocument::render(TableRendering& rendering) {
     } else {
         body_.render(rendering);
     }
+    if (page().endsInSmallParagraph) {
+        out << R"(\pard\plain\sl-20\slmult0\fs2\par)";
+    }
     out << "}";
 }
 
@@ -309,6 +312,10 @@ std::string_view InnerDocument::GetCharacterStyle(std::string_view sName) const 
 
 std::int32_t InnerDocument::cellStyleColor(std::string_view sName) const {
     return styleSheet_->getCellStyleBackColor(sName);
+}
+
+bool InnerDocument::lacksStyle(StyleKind kind, std::string_view name) const {
+    return styleSheet_->lacks(kind, name);
 }
 
 const SharedText& InnerDocument::sharedName(std::string_view sName) {

@@ -41,6 +41,8 @@ public:
     void checkLayout();
     tColorIndex addColor(RgbColor color);
     std::int32_t addFont(std::string_view name);
+    // True when the document has a stylesheet, but that no style of the kind and name.
+    bool lacksStyle(StyleKind kind, std::string_view name) const;
     // True when the document has a short text, and has it in memory.
     bool holdsShortText() const noexcept;
 

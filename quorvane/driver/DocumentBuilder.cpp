@@ -171,6 +171,7 @@ void DocumentBuilder::applyDocument(DescriptionNode& doc) {
 void DocumentBuilder::applyExtendedPage(DescriptionNode& doc) {
     using enum DescriptionKey;
     constexpr KeySet size = setOf({Page, PaperHeight, PaperWidth});
+    document_.setEndsInSmallParagraph(true);
     clearMargins(document_, doc);
     forEachLeaf(doc, NodeKind::Doc, [&](const Leaf& leaf) {
         if (contains(size, leaf.key.known)) {
@@ -404,7 +405,7 @@ void DocumentBuilder::applyCellLeaf(CRtfTableCell& cell, const Leaf& leaf) {
             cell.setAlign(alignment(leaf));
             break;
         case DescriptionKey::CellStyle:
-            cell.setStyle(leaf.valueText());
+            cell.setStyle(styleName(leaf, StyleKind::Cell));
             break;
         case DescriptionKey::CellMarkedField:
             cell.asMarkedField(leaf.value());
@@ -426,7 +427,7 @@ void DocumentBuilder::applyParaLeaf(CRtfParagraph& paragraph, const Leaf& leaf) 
             setText(paragraph, leaf);
             break;
         case DescriptionKey::ParaStyle:
-            paragraph.setStyle(leaf.valueText());
+            paragraph.setStyle(styleName(leaf, StyleKind::Paragraph));
             break;
         case DescriptionKey::ParaAlignment:
             paragraph.setAlign(alignment(leaf));
@@ -448,6 +449,20 @@ void DocumentBuilder::setText(CRtfParagraph& paragraph, const Leaf& leaf) const 
     } else {
         paragraph.setText(leaf.text);
     }
+}
+
+/// The name of a style, which must be in the stylesheet where the dialect says so.
+std::string DocumentBuilder::styleName(const Leaf& leaf, StyleKind kind) {
+    std::string name = leaf.valueText();
+    std::string& known = kind == StyleKind::Cell ? knownCellStyle_ : knownParagraphStyle_;
+    if (dialect_.values.areExtended && name != known && !name.empty()) {
+        if (inner(document_).lacksStyle(kind, name)) {
+            throw LeafError(DriverFault::UndefinedStyle,
+                            std::string(styleKindName(kind)) + " style " + name);
+        }
+        known = name;
+    }
+    return name;
 }
 
 tColorIndex DocumentBuilder::color(const Leaf& leaf) {

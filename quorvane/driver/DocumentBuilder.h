@@ -13,6 +13,7 @@
 #include "quorvane/driver/LiteralParagraphs.h"
 #include "quorvane/driver/PictureSource.h"
 #include "quorvane/driver/driverFaults.h"
+#include "quorvane/stylesheet/StyleKind.h"
 
 namespace quorvane {
 
@@ -80,6 +81,7 @@ private:
 
     std::int32_t length(const Leaf& leaf) const;
     std::int32_t pageNumber(const Leaf& leaf) const;
+    std::string styleName(const Leaf& leaf, StyleKind kind);
     tColorIndex color(const Leaf& leaf);
     tBorderWidth border(const Leaf& leaf) const;
     tCellAlign alignment(const Leaf& leaf) const;
@@ -91,6 +93,9 @@ private:
     LiteralParagraphs literals_;
     BuiltTable table_;
     bool checksLayout_ = true;
+    // The names looked up last, which are in the stylesheet.
+    std::string knownParagraphStyle_;
+    std::string knownCellStyle_;
 };
 
 }  // namespace quorvane

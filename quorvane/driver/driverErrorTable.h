@@ -85,6 +85,8 @@ inline constexpr DriverErrorRow driverErrorTable[] = {
     {DriverFault::UnclosedValue, errorNumber(eSyntaxError),
      "The value that begins here does not end.", "CRtfDriver.treeWalkerBuild"},
     {DriverFault::WrongPicture, errorNumber(eWrongValue), "{0}.", "CRtfDriver.AnalyseData"},
+    {DriverFault::UndefinedStyle, errorNumber(eWrongValue), "The stylesheet has no {0}.",
+     "CRtfDriver.AnalyseData"},
     runTimeErrorRow(DriverFault::Other, RunTimeError::InvalidProcedureCall),
     {DriverFault::WrongNodeKind, errorNumber(eWrongNodeType), "Can't add this type of node: {0}",
      "CRtfDriver.AddNode"},

@@ -50,6 +50,8 @@ enum class DriverFault : std::uint8_t {
     UnclosedValue,
     /// The argument is a sentence about the picture.
     WrongPicture,
+    /// The argument is the kind and the name of the style.
+    UndefinedStyle,
     /// Any other error of the object model.
     Other,
     // Not about a description.

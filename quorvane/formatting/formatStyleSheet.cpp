@@ -239,7 +239,9 @@ std::string formattedStyleSheet(std::string_view text) {
     }
     formatter.addText(text.substr(start));
     std::string formatted = formatter.text();
-    return meaningOf(formatted) == meaningOf(text) ? formatted : std::string(text);
+    // The comment before a definition can become the mark of the other language.
+    const bool isSame = meaningOf(formatted) == meaningOf(text) && !isMarkedExtended(formatted);
+    return isSame ? formatted : std::string(text);
 }
 
 }  // namespace quorvane

@@ -61,6 +61,13 @@ std::int32_t CRtfGrpStyleSheetTable::getCellStyleBackColor(std::string_view sNam
     return loaded_ ? cellColors_.find(cellStyles_, sName) : 0;
 }
 
+bool CRtfGrpStyleSheetTable::lacks(StyleKind kind, std::string_view sName) const {
+    const StyleList& styles = kind == StyleKind::Paragraph   ? paragraphStyles_
+                              : kind == StyleKind::Character ? characterStyles_
+                                                             : cellStyles_;
+    return loaded_ && styles.find(lowerCase(sName)) < 0;
+}
+
 std::string CRtfGrpStyleSheetTable::GetMarkedFieldStyle(std::string_view sName) const {
     const int position = loaded_ ? cellStyles_.find(lowerCase(sName)) : -1;
     return position < 0 ? std::string() : cellStyles_.at(position).format();

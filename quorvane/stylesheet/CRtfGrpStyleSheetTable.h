@@ -8,6 +8,7 @@
 #include "quorvane/base/text/TextOutput.h"
 #include "quorvane/rtfgroups/GroupOwner.h"
 #include "quorvane/stylesheet/CellColorLookup.h"
+#include "quorvane/stylesheet/StyleKind.h"
 #include "quorvane/stylesheet/StyleList.h"
 #include "quorvane/stylesheet/StyleLookup.h"
 #include "quorvane/stylesheet/stylesheetParser.h"
@@ -43,6 +44,9 @@ public:
 
     /// True when a stylesheet was read without an error.
     bool StyleSheetOk() const noexcept { return loaded_; }
+
+    /// True when there are styles, but none of this kind and name.
+    bool lacks(StyleKind kind, std::string_view sName) const;
 
     /// True when the words of a character style hold a "<": only then can inline styles make a text
     /// endless.

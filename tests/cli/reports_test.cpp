@@ -860,7 +860,7 @@ std::vector<Diagnostic> diagnosticsOfOtherError(const SourceText& source, std::s
     std::vector<Diagnostic> diagnostics;
     DiagnosticEngine engine([&](Diagnostic each) { diagnostics.push_back(std::move(each)); });
     Leaf leaf{.text = value};
-    ViolationReport(source, originalVocabulary(),
+    ViolationReport(source, originalVocabulary(), nullptr,
                     engine)({.error = RtfError(4711, "A new error"), .part = value, .leaf = &leaf});
     return diagnostics;
 }

@@ -305,6 +305,48 @@ TEST(RichEditAsAReader, ShowsEscapedTextsExactly) {
     }
 }
 
+/// What the control makes of a description in the extended language.
+class RichEditAsAReaderOfAdditions : public testing::Test {
+protected:
+    RichEditAsAReaderOfAdditions() {
+        driver->setReadsExtended(true);
+        driver->RtfObject()->setExtendedStyleSheets(true);
+        driver->setNotifyErrorHandler(
+            [](CRtfDriver&, const RtfError& error) { ADD_FAILURE() << error.description; });
+        driver->LoadStyleSheetFromMemmory(
+            "; quorvane 2\n{name: normal; style-def: s; font: Noto Sans; size: 9pt; color: #1f4e79}"
+            "{name: strong; style-def: cs; bold}");
+        driver->ParseFromMemmory(
+            "; quorvane 2\n(doc\n(page=a4)\n(columns=50 25 25)\n(header=Left|Center|{page})\n"
+            "(footer=Foot)\n"
+            "(r\n(row-heading=yes)\n(c\n(span=3)\n(p\n(ps=normal)\n(pt=Heading)\np)\nc)\nr)\n"
+            "(r\n(c\n(span=2)\n(cb=#ffeedd)\n(p\n(ps=normal)\n(pt=wide)\np)\nc)\n"
+            "(c\n(p\n(ps=normal)\n(pt=<strong=x> \xE2\x82\xAC)\np)\nc)\nr)\n"
+            "(r\n(row-page-break=yes)\n(c\n(p\n(ps=normal)\n(pt=a)\np)\nc)\n"
+            "(c\n(p\n(ps=normal)\n(pt=b)\np)\nc)\n(c\n(p\n(ps=normal)\n(pt=c)\np)\nc)\nr)\ndoc)");
+        EXPECT_EQ(control.read(codePage1252FromUtf8(driver->Contents())), 0u);
+    }
+    ~RichEditAsAReaderOfAdditions() override { driver->setNotifyErrorHandler({}); }
+
+    Ref<CRtfDriver> driver = CRtfDriver::create();
+    RichEdit control;
+};
+
+TEST_F(RichEditAsAReaderOfAdditions, FindsTheRowsOfTheBody) {
+    // The page header, the heading in it and the page footer are not shown.
+    EXPECT_EQ(utf8FromUtf16<wchar_t>(control.text()),
+              "\r\nwide\tx \xE2\x82\xAC\t\r\n\r\r\na\tb\tc\t\r\n");
+}
+
+TEST_F(RichEditAsAReaderOfAdditions, FindsAddedColorsAndTheStylesOfTheStyleSheet) {
+    const CHARFORMAT2W format = control.characterFormatAt(control.text().find(L"wide"));
+    EXPECT_EQ(format.crTextColor, static_cast<COLORREF>(RGB(0x1f, 0x4e, 0x79)));
+    EXPECT_EQ(format.yHeight, 9 * 20);
+    EXPECT_EQ(std::wstring(format.szFaceName), L"Noto Sans");
+    EXPECT_EQ(format.dwEffects & CFE_BOLD, 0u);
+    EXPECT_NE(control.characterFormatAt(control.text().find(L'x')).dwEffects & CFE_BOLD, 0u);
+}
+
 /// The driver of these tests reads no others.
 bool isInOriginalLanguage(const std::filesystem::path& description) {
     std::ifstream file(description);

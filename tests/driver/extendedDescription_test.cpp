@@ -99,6 +99,10 @@ TEST(ExtendedDescription, IsReadWhenTheDriverIsToldSo) {
               "\\{a\\}");
 }
 
+TEST(ExtendedDescription, EndsInASmallParagraph) {
+    EXPECT_TRUE(Extended("(doc|(r|(c|(p|(pt=a)|p)|c)|r)|doc)").document()->EndsInSmallParagraph());
+}
+
 TEST(ExtendedDescription, IsNotReadWithoutItsFirstLine) {
     const Ref<CRtfDriver> driver = CRtfDriver::create();
     driver->setReadsExtended(true);
@@ -139,6 +143,18 @@ TEST(ExtendedDescription, KnowsTheInlineStylesOfTheStyleSheet) {
     EXPECT_THAT(extended.errors, IsEmpty());
     EXPECT_THAT(extended.text(), HasSubstr("\\b"));
     EXPECT_THAT(extended.text(), HasSubstr("a} \\'3Cweak=b\\'3E"));
+}
+
+TEST(ExtendedDescription, ReportsAStyleThatTheStyleSheetLacks) {
+    const std::string sheet = "{name: normal; style-def: s; format: \\b}";
+    for (const auto& [leaf, error] :
+         {std::pair("(cs=normal)|(p|(pt=a)|p)", "5: The stylesheet has no cell style normal."),
+          std::pair("(p|(pt=a)|(ps=normel)|p)",
+                    "7: The stylesheet has no paragraph style normel.")}) {
+        const std::string text = "(doc|(r|(c|" + std::string(leaf) + "|c)|r)|doc)";
+        EXPECT_THAT(Extended(text, sheet).errors, ElementsAre(error));
+        EXPECT_THAT(Extended(text).errors, IsEmpty());
+    }
 }
 
 TEST(ExtendedDescription, SetsThePageBeforeTheCells) {

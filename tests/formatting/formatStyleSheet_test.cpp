@@ -64,6 +64,11 @@ TEST(FormatExtendedStyleSheet, KeepsCommentsAndOneBlankLineOfSeveral) {
               "{ name: b; style-def: cell }\n\n; end\n");
 }
 
+TEST(FormatStyleSheet, LeavesASheetAloneWhoseFirstLineWouldBecomeTheMark) {
+    const std::string sheet = "; quorvane 2{name:a;style-def:s;format:\\b}";
+    EXPECT_EQ(formattedStyleSheet(sheet), sheet);
+}
+
 TEST(FormatExtendedStyleSheet, WritesALongStyleOnSeveralLines) {
     EXPECT_EQ(formattedStyleSheet("; quorvane 2\r\n{name:a;style-def:s;tab-stops:1cm,2cm right,"
                                   "3cm decimal;space-before:3pt;space-after:3pt;keep-together}"),

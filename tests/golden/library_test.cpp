@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "quorvane/base/text/codePage1252.h"
+#include "quorvane/base/text/extendedMark.h"
 #include "quorvane/driver/CRtfDriver.h"
 #include "tests/golden/goldenCases.h"
 
@@ -37,6 +38,9 @@ TEST_P(GoldenLibrary, GivesTheExpectedBytesAndErrors) {
         seen.push_back({"event", error});
     });
     driver->setErroneousInput(expected.checked);
+    // Each description says in its first line which language it is in.
+    driver->setReadsExtended(isMarkedExtended(readBytes(expected.folder / "description.rtfspec")));
+    driver->RtfObject()->setExtendedStyleSheets(true);
 
     if (expected.hasStyleSheet) {
         try {

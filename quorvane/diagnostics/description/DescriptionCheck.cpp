@@ -10,6 +10,7 @@
 #include "quorvane/diagnostics/description/CheckRecovery.h"
 #include "quorvane/diagnostics/description/FilledDescriptionCheck.h"
 #include "quorvane/diagnostics/description/NullPlatform.h"
+#include "quorvane/diagnostics/description/StyleUses.h"
 #include "quorvane/diagnostics/description/ViolationReport.h"
 #include "quorvane/diagnostics/description/descriptionWarnings.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
@@ -134,7 +135,12 @@ private:
     }
 
     void checkDocument(DescriptionNode& doc) {
-        const ViolationReport report(source_, dialect_.vocabulary, engine_);
+        std::optional<StyleUses> uses;
+        if (styles_) {
+            uses.emplace(*styles_, source_, engine_);
+        }
+        const ViolationReport report(source_, dialect_.vocabulary, uses ? &*uses : nullptr,
+                                     engine_);
         const DescriptionRules rules(dialect_, report, MisplacedNodes::ByKind);
         rules.docWalkerSyntax(doc);
         if (!dialect_.values.areExtended) {
@@ -152,10 +158,10 @@ private:
             builder.leaveLayoutUnchecked();
         }
         BuiltTable table = builder.build(doc);
-        if (dialect_.texts.isLiteral) {
-            findLiteralTextWarnings(doc, styles_, source_, engine_);
-        } else {
+        if (!dialect_.texts.isLiteral) {
             findDescriptionWarnings(doc, *document, table, styles_, source_, engine_);
+        } else if (uses) {
+            findLiteralTextWarnings(doc, *uses);
         }
     }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "quorvane/base/text/trimming.h"
@@ -20,8 +21,8 @@ void StyleUses::findCellStyle(const Leaf& leaf) {
     }
     styles_.markUsed(StyleKind::Cell, name);
     if (styles_.lacks(StyleKind::Cell, name)) {
-        engine_.report(DiagnosticId::UnknownCellStyle, source_.placeOf(leaf.written(leaf.text)),
-                       {name}, styleHint(StyleKind::Cell, name));
+        engine_.report(DiagnosticId::UnknownCellStyle, source_.placeOf(leaf.text), {name},
+                       hintFor(StyleKind::Cell, name));
     }
 }
 
@@ -34,17 +35,24 @@ void StyleUses::findParagraphStyle(const Leaf& leaf) {
     if (styles_.lacks(StyleKind::Paragraph, name)) {
         const StyleList& list = stylesOf(styles_, StyleKind::Paragraph);
         const int used = formOf(styles_).unknown;
-        engine_.report(DiagnosticId::UnknownParagraphStyle,
-                       source_.placeOf(leaf.written(leaf.text)),
+        engine_.report(DiagnosticId::UnknownParagraphStyle, source_.placeOf(leaf.text),
                        {name, used == 0 ? "the paragraph gets no format"
                                         : list.at(used).name + " is used instead"},
-                       styleHint(StyleKind::Paragraph, name));
+                       hintFor(StyleKind::Paragraph, name));
     }
 }
 
-void StyleUses::markInlineStyles(std::string_view text) {
+void StyleUses::findLiteralInlineStyles(std::string_view text) {
+    findUnclosedInlineStyles(text);
     for (const std::string_view name : inlineStyleNames(text)) {
         styles_.markUsed(StyleKind::Character, name);
+        if (!styles_.lacks(StyleKind::Character, name)) {
+            continue;
+        }
+        if (Hint hint = hintFor(StyleKind::Character, name); !hint.empty()) {
+            engine_.report(DiagnosticId::InlineStyleAsText, source_.placeOf(name), {name},
+                           std::move(hint));
+        }
     }
 }
 
@@ -61,7 +69,7 @@ void StyleUses::findInlineStyles(std::string_view text) {
         styles_.markUsed(StyleKind::Character, name);
         if (styles_.lacks(StyleKind::Character, name)) {
             engine_.report(DiagnosticId::UnknownCharacterStyle, source_.placeOf(name), {name},
-                           styleHint(StyleKind::Character, name));
+                           hintFor(StyleKind::Character, name));
         }
     }
 }
@@ -89,7 +97,7 @@ void StyleUses::findUnclosedInlineStyles(std::string_view text) {
     }
 }
 
-Hint StyleUses::styleHint(StyleKind kind, std::string_view name) {
+Hint StyleUses::hintFor(StyleKind kind, std::string_view name) {
     if (++hints_ > maxHints) {
         return {};
     }

@@ -19,14 +19,19 @@ public:
 
     void findCellStyle(const Leaf& leaf);
     void findParagraphStyle(const Leaf& leaf);
-    /// Marks the inline styles in a literal text, in which what opens no style is text.
-    void markInlineStyles(std::string_view text);
+    /// The inline styles in a literal text, a view into the source. What opens no style is text
+    /// there; one that was most likely meant to open a style is reported.
+    void findLiteralInlineStyles(std::string_view text);
     /// The inline styles in the text of a paragraph, a view into the source.
     void findInlineStyles(std::string_view text);
 
+    bool lacks(StyleKind kind, std::string_view name) const { return styles_.lacks(kind, name); }
+    void markUsed(StyleKind kind, std::string_view name) { styles_.markUsed(kind, name); }
+    /// What was most likely meant by a name that the stylesheet lacks.
+    Hint hintFor(StyleKind kind, std::string_view name);
+
 private:
     void findUnclosedInlineStyles(std::string_view text);
-    Hint styleHint(StyleKind kind, std::string_view name);
 
     // Looking for the style that was meant takes a while.
     static constexpr int maxHints = 1000;

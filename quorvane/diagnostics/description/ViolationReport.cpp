@@ -14,6 +14,7 @@
 #include "quorvane/diagnostics/description/textFormatHints.h"
 #include "quorvane/diagnostics/description/valueHints.h"
 #include "quorvane/diagnostics/engine/nearestWord.h"
+#include "quorvane/driver/extendedValues.h"
 
 namespace quorvane {
 
@@ -66,6 +67,7 @@ constexpr std::pair<DriverFault, DiagnosticId> diagnosticsOfFaults[] = {
     {DriverFault::WrongPlace, DiagnosticId::WrongPlace},
     {DriverFault::UnclosedValue, DiagnosticId::UnclosedValue},
     {DriverFault::WrongPicture, DiagnosticId::WrongPicture},
+    {DriverFault::UndefinedStyle, DiagnosticId::UndefinedStyle},
     {DriverFault::Unencodable, DiagnosticId::UnencodableValue},
 };
 
@@ -106,6 +108,26 @@ bool isMisplaced(DriverFault fault) {
     return fault == DriverFault::NodeInParagraph || fault == DriverFault::WrongContext;
 }
 
+/// For a length such as "3,5cm".
+Hint decimalCommaHint(std::string_view text) {
+    std::string length(text);
+    const std::size_t comma = length.find(',');
+    if (comma == std::string::npos) {
+        return {};
+    }
+    length[comma] = '.';
+    try {
+        lengthOf(length);
+    } catch (const RtfError&) {
+        return {};
+    }
+    return {"write the decimal sign as a point: " + length, length};
+}
+
+StyleKind styleKindOf(const Leaf& leaf) {
+    return leaf.key.known == DescriptionKey::CellStyle ? StyleKind::Cell : StyleKind::Paragraph;
+}
+
 }  // namespace
 
 DiagnosticId diagnosticOf(DriverFault fault) {
@@ -118,6 +140,11 @@ DiagnosticId diagnosticOf(DriverFault fault) {
 void ViolationReport::operator()(const Violation& violation) const {
     if (!violation.leaf) {
         reportNode(violation);
+        return;
+    }
+    if (violation.fault == DriverFault::UndefinedStyle &&
+        !styles_->lacks(styleKindOf(*violation.leaf), violation.leaf->valueText())) {
+        // The error is in the stylesheet.
         return;
     }
     if (!std::exchange(violation.leaf->isFaulty, true)) {
@@ -171,6 +198,10 @@ Hint ViolationReport::hintFor(const Violation& violation) const {
             return numberHint(leaf.key.name, leaf.text);
         case DiagnosticId::TakenKey:
             return takenKeyHint(violation);
+        case DiagnosticId::WrongValue:
+            return decimalCommaHint(leaf.text);
+        case DiagnosticId::UndefinedStyle:
+            return styles_->hintFor(styleKindOf(leaf), leaf.valueText());
         case DiagnosticId::UnencodableValue:
             return leaf.key.known == DescriptionKey::ParaText
                        ? "this is the name of an inline style; write \\'3c for a literal <"

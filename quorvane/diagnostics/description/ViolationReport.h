@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quorvane/diagnostics/description/StyleUses.h"
 #include "quorvane/diagnostics/engine/Diagnostic.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
 #include "quorvane/diagnostics/engine/SourceText.h"
@@ -15,9 +16,10 @@ DiagnosticId diagnosticOf(DriverFault fault);
 /// they concern as faulty. Of one leaf only the first is reported.
 class ViolationReport {
 public:
-    ViolationReport(const SourceText& source, const Vocabulary& vocabulary,
+    /// `styles` are null for a description that is checked without a stylesheet.
+    ViolationReport(const SourceText& source, const Vocabulary& vocabulary, StyleUses* styles,
                     DiagnosticEngine& engine)
-        : source_(source), vocabulary_(vocabulary), engine_(engine) {}
+        : source_(source), vocabulary_(vocabulary), styles_(styles), engine_(engine) {}
 
     void operator()(const Violation& violation) const;
 
@@ -30,6 +32,7 @@ private:
 
     const SourceText& source_;
     const Vocabulary& vocabulary_;
+    StyleUses* styles_;
     DiagnosticEngine& engine_;
 };
 

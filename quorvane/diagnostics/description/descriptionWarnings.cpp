@@ -2,6 +2,7 @@
 
 #include <span>
 #include <string>
+#include <utility>
 
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/diagnostics/description/CellWarnings.h"
@@ -9,6 +10,7 @@
 #include "quorvane/diagnostics/description/PageWarnings.h"
 #include "quorvane/diagnostics/description/StyleUses.h"
 #include "quorvane/diagnostics/description/WidthWarnings.h"
+#include "quorvane/docmodel/layout/PageLines.h"
 #include "quorvane/driver/soundLeaf.h"
 
 namespace quorvane {
@@ -51,12 +53,13 @@ void findDescriptionWarnings(const DescriptionNode& doc, CRtfDoc& document, Buil
     }
 }
 
-void findLiteralTextWarnings(const DescriptionNode& doc, KnownStyles* styles,
-                             const SourceText& source, DiagnosticEngine& engine) {
-    if (!styles) {
-        return;
+void findLiteralTextWarnings(const DescriptionNode& doc, StyleUses& uses) {
+    for (const auto& [key, style] : {std::pair(DescriptionKey::Header, headerStyle),
+                                     std::pair(DescriptionKey::Footer, footerStyle)}) {
+        if (contains(doc.keys, key)) {
+            uses.markUsed(StyleKind::Paragraph, style);
+        }
     }
-    StyleUses uses(*styles, source, engine);
     forEachNode(doc, [&](const DescriptionNode& node) {
         if (const Leaf* const style = soundLeaf(node, DescriptionKey::CellStyle)) {
             uses.findCellStyle(*style);
@@ -65,7 +68,7 @@ void findLiteralTextWarnings(const DescriptionNode& doc, KnownStyles* styles,
             uses.findParagraphStyle(*style);
         }
         if (const Leaf* const text = soundLeaf(node, DescriptionKey::ParaText)) {
-            uses.markInlineStyles(text->text);
+            uses.findLiteralInlineStyles(text->text);
         }
     });
 }

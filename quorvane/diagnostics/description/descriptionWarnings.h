@@ -1,6 +1,7 @@
 #pragma once
 
 #include "quorvane/diagnostics/KnownStyles.h"
+#include "quorvane/diagnostics/description/StyleUses.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
 #include "quorvane/diagnostics/engine/SourceText.h"
 #include "quorvane/docmodel/CRtfDoc.h"
@@ -17,9 +18,8 @@ void findDescriptionWarnings(const DescriptionNode& doc, CRtfDoc& document, Buil
                              KnownStyles* styles, const SourceText& source,
                              DiagnosticEngine& engine);
 
-/// Warns of names of styles in a description with literal texts, whose values have no other
-/// meaning than the one that is checked.
-void findLiteralTextWarnings(const DescriptionNode& doc, KnownStyles* styles,
-                             const SourceText& source, DiagnosticEngine& engine);
+/// Looks up the styles of a description with literal texts, whose values have no other meaning than
+/// the one that is checked.
+void findLiteralTextWarnings(const DescriptionNode& doc, StyleUses& uses);
 
 }  // namespace quorvane

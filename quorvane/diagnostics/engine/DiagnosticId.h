@@ -39,6 +39,7 @@ enum class DiagnosticId {
     WrongPlace,
     UnclosedValue,
     WrongPicture,
+    UndefinedStyle,
 
     // templateErrors.h
     WrongTag,
@@ -61,6 +62,7 @@ enum class DiagnosticId {
     UnknownParagraphStyle,
     UnknownCharacterStyle,
     UnknownCellStyle,
+    InlineStyleAsText,
     SharedStyleNumber,
     LowContrast,
 

@@ -138,8 +138,51 @@ doc)
      .message = driverErrorText(DriverFault::WrongPicture),
      .title = "A picture cannot be taken into the document.",
      .explanation = R"(
-A picture is a PNG or JPEG file in the folder of the description or in a folder within it. The
-message says why it cannot be taken: the file is missing, damaged, too large, or of another kind.
+A picture is a PNG or JPEG file in the folder of the description or in a folder within it;
+"--allow-pictures DIR" allows another folder. The message says why it cannot be taken: the file is
+missing, damaged, too large, of another kind, or elsewhere.
+)"},
+
+    {.id = DiagnosticId::UndefinedStyle,
+     .identifier = "undefined-style",
+     .severity = Severity::Error,
+     .language = CheckedLanguage::Description,
+     .message = driverErrorText(DriverFault::UndefinedStyle),
+     .title = "The stylesheet lacks a style that a description of the extended language names.",
+     .explanation = R"(
+In the extended language a paragraph style and a cell style must be in the stylesheet. Without a
+stylesheet no style is looked up.
+)",
+     .wrong = R"(
+; quorvane 2
+(doc
+(r
+(c
+(p
+(ps=hedding)
+(pt=Total)
+p)
+c)
+r)
+doc)
+)",
+     .right = R"(
+; quorvane 2
+(doc
+(r
+(c
+(p
+(ps=heading)
+(pt=Total)
+p)
+c)
+r)
+doc)
+)",
+     .companion = R"(
+; quorvane 2
+{name: normal; style-def: s; font: Arial}
+{name: heading; style-def: s; bold}
 )"},
 };
 

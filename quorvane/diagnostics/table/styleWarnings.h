@@ -111,6 +111,45 @@ doc)
 { name: shaded; style-def: cell; format: silver }
 )"},
 
+    {.id = DiagnosticId::InlineStyleAsText,
+     .identifier = "inline-style-as-text",
+     .severity = Severity::Warning,
+     .language = CheckedLanguage::Description,
+     .message = "The stylesheet has no character style {0}, so this is shown as text.",
+     .explanation = R"(
+In the extended language a `<` that opens no style of the stylesheet is text. This one is almost the
+name of a style.
+)",
+     .wrong = R"(
+; quorvane 2
+(doc
+(r
+(c
+(p
+(pt=<stong=Total>)
+p)
+c)
+r)
+doc)
+)",
+     .right = R"(
+; quorvane 2
+(doc
+(r
+(c
+(p
+(pt=<strong=Total>)
+p)
+c)
+r)
+doc)
+)",
+     .companion = R"(
+; quorvane 2
+{name: normal; style-def: s; font: Arial}
+{name: strong; style-def: cs; bold}
+)"},
+
     {.id = DiagnosticId::SharedStyleNumber,
      .identifier = "shared-style-number",
      .severity = Severity::Warning,

@@ -32,7 +32,7 @@ void PageLines::renderHeader(const PageText& text, const LaidOutRows* heading) {
         // Space moves the heading down to where the table would begin. Word processors move the
         // table below a header that takes more room than its margin.
         const std::int32_t space = heading ? std::max(margin - distance - lineHeight, 0) : 0;
-        renderText(text, "header", space);
+        renderText(text, headerStyle, space);
     }
     if (heading) {
         heading->renderHeading(rendering_);
@@ -45,7 +45,7 @@ void PageLines::renderHeader(const PageText& text, const LaidOutRows* heading) {
 void PageLines::renderFooter(const PageText& text) {
     if (text != PageText()) {
         rendering_.out << "\r\n\\footery" << distanceIn(format_.BottomMargin()) << "\r\n{\\footer";
-        renderText(text, "footer", 0);
+        renderText(text, footerStyle, 0);
         rendering_.out << "}";
     }
 }

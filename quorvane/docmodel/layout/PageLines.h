@@ -10,6 +10,10 @@
 
 namespace quorvane {
 
+/// The paragraph styles of the texts in the page header and the page footer.
+inline constexpr std::string_view headerStyle = "header";
+inline constexpr std::string_view footerStyle = "footer";
+
 /// Writes what is in the margins of every page: the page header with the rows that repeat as a
 /// heading, and the page footer.
 class PageLines {

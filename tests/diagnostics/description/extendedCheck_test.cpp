@@ -24,10 +24,10 @@ std::string extended(std::string lines) {
 }
 
 /// The diagnostics as "LINE:COLUMN IDENTIFIER: HINT".
-std::vector<std::string> checked(const std::string& lines) {
+std::vector<std::string> checked(const std::string& lines, KnownStyles* styles = nullptr) {
     std::vector<std::string> all;
     for (const Diagnostic& diagnostic :
-         checkDescription(extended(lines), nullptr, TextEncoding::Utf8)) {
+         checkDescription(extended(lines), styles, TextEncoding::Utf8)) {
         all.push_back(std::to_string(diagnostic.place.line) + ":" +
                       std::to_string(diagnostic.place.column) + " " +
                       std::string(diagnosticRule(diagnostic.id).identifier) +
@@ -52,6 +52,53 @@ TEST(ExtendedCheck, ReportsEveryErrorAtItsPlace) {
 TEST(ExtendedCheck, ReportsTheFirstByteThatIsNotUtf8AsTheOnlyError) {
     EXPECT_THAT(checked("(doc|(pn=0)|(r|(c|(cmf=12)|(p|(pt=\xC3\xA9)|(pmf=\x80\xE9)|p)|c)|r)|doc)"),
                 ElementsAre("9:6 not-utf-8: save the file in UTF-8"));
+}
+
+TEST(ExtendedCheck, OffersADecimalPointForAComma) {
+    EXPECT_THAT(checked("(doc|(left-margin=3,5cm)|(r|(c|(p|(pt=a)|p)|c)|r)|doc)"),
+                ElementsAre("3:14 wrong-value: write the decimal sign as a point: 3.5cm"));
+}
+
+TEST(ExtendedCheck, ReportsStylesThatTheStyleSheetLacks) {
+    KnownStyles styles("; quorvane 2\n{name: normal; style-def: s; bold}");
+
+    EXPECT_THAT(checked("(doc|(r|(c|(cs=normal)|(p|(ps=Nrmal)|(pt=a)|p)|(p|(ps=NORMAL)|(pt=a)|p)|c)"
+                        "|r)|doc)",
+                        &styles),
+                ElementsAre("5:5 undefined-style: normal is a paragraph style",
+                            "7:5 undefined-style: did you mean normal?"));
+    EXPECT_TRUE(styles.isUsed(StyleKind::Paragraph, "normal"));
+}
+
+TEST(ExtendedCheck, CountsTheStylesOfTheHeaderAndTheFooterAsUsed) {
+    for (const bool isUsed : {false, true}) {
+        KnownStyles styles(
+            "; quorvane 2\n{name: header; style-def: s; bold}{name: footer; style-def: s; bold}");
+        checked(std::string("(doc|") + (isUsed ? "(header=a)|(footer=a)|" : "") +
+                    "(r|(c|(p|(pt=a)|p)|c)|r)|doc)",
+                &styles);
+        EXPECT_EQ(styles.isUsed(StyleKind::Paragraph, "header"), isUsed);
+        EXPECT_EQ(styles.isUsed(StyleKind::Paragraph, "footer"), isUsed);
+    }
+}
+
+TEST(ExtendedCheck, LooksUpNoStyleWithoutAStyleSheet) {
+    EXPECT_THAT(checked("(doc|(r|(c|(cs=a)|(p|(ps=b)|(pt=<c=d>)|p)|c)|r)|doc)"), IsEmpty());
+}
+
+TEST(ExtendedCheck, LeavesErrorsOfTheStyleSheetToItsOwnCheck) {
+    KnownStyles styles("; quorvane 2\n{name: normal; style-def: x; bold}");
+
+    EXPECT_THAT(checked("(doc|(r|(c|(p|(ps=normal)|(pt=a)|p)|c)|r)|doc)", &styles), IsEmpty());
+}
+
+TEST(ExtendedCheck, WarnsOfTextThatIsAlmostAnInlineStyle) {
+    KnownStyles styles("; quorvane 2\n{name: strong; style-def: cs; bold}");
+
+    EXPECT_THAT(
+        checked("(doc|(r|(c|(p|(pt=<stong=a> <b=c> <strong=d> <strong=)|p)|c)|r)|doc)", &styles),
+        ElementsAre("6:6 inline-style-as-text: did you mean strong?",
+                    testing::StartsWith("6:33 unclosed-inline-style: write a >")));
 }
 
 TEST(ExtendedCheck, ReportsAWrongPlaceholderOfAPageLineAsAValue) {

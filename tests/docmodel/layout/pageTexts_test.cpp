@@ -6,6 +6,22 @@
 namespace quorvane {
 namespace {
 
+TEST(EndsInSmallParagraph, WritesAParagraphOfOnePointAfterTheTable) {
+    const TextTable table;
+    table.addRow({"a"});
+    const std::string before = table.document->Contents();
+    EXPECT_FALSE(table.document->EndsInSmallParagraph());
+
+    table.document->setEndsInSmallParagraph(true);
+
+    EXPECT_TRUE(table.document->EndsInSmallParagraph());
+    EXPECT_TRUE(table.document->Changed());
+    EXPECT_EQ(table.document->Contents(),
+              before.substr(0, before.size() - 1) + "\\pard\\plain\\sl-20\\slmult0\\fs2\\par}");
+    table.document->ClearStructure();
+    EXPECT_FALSE(table.document->EndsInSmallParagraph());
+}
+
 class PageTexts : public testing::Test, protected TextTable {
 protected:
     /// The error that a text is refused with.
