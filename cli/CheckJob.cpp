@@ -13,6 +13,7 @@
 #include "cli/TemplateFiles.h"
 #include "cli/fileFailure.h"
 #include "cli/filesBelow.h"
+#include "cli/partialsBeside.h"
 #include "cli/process.h"
 #include "cli/ruleNamed.h"
 #include "cli/styleSheetName.h"
@@ -230,7 +231,7 @@ std::vector<Diagnostic> CheckJob::templateDiagnosticsOf(const std::string& file,
     const PictureSource pictures = picturesOf(file);
     std::vector<data::TemplateError> errors;
     const data::Template source =
-        data::compileTemplate(text, encoding, picturesBeside(file, platform_), errors);
+        data::compileTemplate(text, encoding, partialsBeside(file, platform_), errors);
     KnownStyles* const styles = styles_ ? &*styles_ : nullptr;
     std::vector<Diagnostic> diagnostics;
     if (errors.empty() && data_) {

@@ -6,6 +6,7 @@
 #include "cli/RenderOptions.h"
 #include "cli/TemplateFiles.h"
 #include "cli/fileFailure.h"
+#include "cli/partialsBeside.h"
 #include "cli/process.h"
 #include "data/Template.h"
 #include "data/TemplateFilling.h"
@@ -136,7 +137,7 @@ void DescriptionRendering::parse(const std::string& text) {
 void DescriptionRendering::parseTemplate(const std::string& text) {
     std::vector<data::TemplateError> errors;
     const data::Template source = data::compileTemplate(
-        text, encoding_, picturesBeside(assignment_.description, platform_), errors);
+        text, encoding_, partialsBeside(assignment_.description, platform_), errors);
     data::TemplateFilling filling(source, manner_.data->locale);
     const std::vector<SourceLine>* lines = nullptr;
     if (errors.empty()) {

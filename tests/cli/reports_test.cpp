@@ -929,8 +929,8 @@ const std::map<std::string, std::pair<std::string, std::string>>& reportsWithout
             "        ^~~~~~\n"};
         list["wrong-partial"] = {
             reportOfTemplate(templateOf("{{a}}") + "{{> ../no}}\n"),
-            "a.rtfspec:12:1: error: ../no.rtfpart: \"../no.rtfpart\" is not in the folder of the "
-            "description; move it there. [wrong-partial]\n"
+            "a.rtfspec:11:1: error: ../no.rtfpart: this is not a file in the folder of the "
+            "template; move it there. [wrong-partial]\n"
             "    {{> ../no}}\n"
             "    ^~~~~~~~~~~\n"};
         list["missing-name"] = {reportOfTemplate(templateOf("{{nmae}}"), R"({"name":"x"})"),

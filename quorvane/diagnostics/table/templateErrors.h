@@ -33,7 +33,7 @@ template or in a folder within it. A partial cannot take itself in, not even thr
      .identifier = "missing-name",
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
-     .message = "{0}",
+     .message = "{0} is not in the data.",
      .title = "A template asks for a name that the data lacks.",
      .explanation = R"(
 Nothing is shown for a name that is not in the data, or that is null there: it is an error. A name
@@ -56,7 +56,7 @@ value has no line breaks. The message names the value by its path in the data.
      .identifier = "wrong-json",
      .severity = Severity::Error,
      .language = CheckedLanguage::Description,
-     .message = "{0}",
+     .message = "This is not JSON: {0}.",
      .title = "The data for a template is not JSON.",
      .explanation = R"(
 The data is one JSON text in UTF-8. A name can be in an object only once, and lists and objects can
