@@ -5,10 +5,10 @@
 namespace quorvane::data {
 
 const DataValue* DataValue::find(std::string_view name) const {
-    const auto found = std::lower_bound(
-        members.begin(), members.end(), name,
-        [](const DataMember& member, std::string_view wanted) { return member.name < wanted; });
-    return found == members.end() || found->name != name ? nullptr : &found->value;
+    const auto found = std::lower_bound(names.begin(), names.end(), name);
+    return found == names.end() || *found != name
+               ? nullptr
+               : &items[static_cast<std::size_t>(found - names.begin())];
 }
 
 }  // namespace quorvane::data

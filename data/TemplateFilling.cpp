@@ -407,10 +407,7 @@ std::string TemplateFilling::missingHint(const TemplateQuery& query, const Found
         return found.in->isList() ? "a list has no names; write a section around the name"
                                   : "a single value has no names";
     }
-    std::vector<std::string_view> names;
-    for (const DataMember& member : found.in->members) {
-        names.emplace_back(member.name);
-    }
+    const std::vector<std::string_view> names(found.in->names.begin(), found.in->names.end());
     if (const std::string guess = didYouMean(found.name, names); !guess.empty()) {
         return guess;
     }

@@ -50,15 +50,19 @@ public:
         return true;
     }
     bool end_object() override {
-        std::vector<DataMember>& members = open_.back().value.members;
-        std::sort(members.begin(), members.end(),
-                  [](const DataMember& a, const DataMember& b) { return a.name < b.name; });
-        const auto twice = std::adjacent_find(
-            members.begin(), members.end(),
-            [](const DataMember& a, const DataMember& b) { return a.name == b.name; });
-        if (twice != members.end()) {
+        Open& object = open_.back();
+        std::sort(object.members.begin(), object.members.end(),
+                  [](const Member& a, const Member& b) { return a.name < b.name; });
+        const auto twice =
+            std::adjacent_find(object.members.begin(), object.members.end(),
+                               [](const Member& a, const Member& b) { return a.name == b.name; });
+        if (twice != object.members.end()) {
             error_.message = "The object that ends here has \"" + twice->name + "\" twice";
             return false;
+        }
+        for (Member& member : object.members) {
+            object.value.names.push_back(std::move(member.name));
+            object.value.items.push_back(std::move(member.value));
         }
         return close();
     }
@@ -72,10 +76,17 @@ public:
     }
 
 private:
+    struct Member {
+        std::string name;
+        DataValue value;
+    };
+
     struct Open {
         DataValue value;
         /// The name that was read last.
         std::string name = {};
+        /// Of an object.
+        std::vector<Member> members = {};
     };
 
     bool open(DataValue::Kind kind) {
@@ -100,7 +111,7 @@ private:
         } else if (Open& parent = open_.back(); parent.value.isList()) {
             parent.value.items.push_back(std::move(value));
         } else {
-            parent.value.members.push_back({std::move(parent.name), std::move(value)});
+            parent.members.push_back({std::move(parent.name), std::move(value)});
         }
         return true;
     }

@@ -56,7 +56,8 @@ private:
 
 DataValue recordOf(const std::string& text) {
     return {.kind = DataValue::Kind::Object,
-            .members = {{"a", {.kind = DataValue::Kind::String, .text = text}}}};
+            .items = {{.kind = DataValue::Kind::String, .text = text}},
+            .names = {"a"}};
 }
 
 constexpr const char* styles =

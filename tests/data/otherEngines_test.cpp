@@ -5,6 +5,7 @@
 #include <kainjow/mustache.hpp>
 #include <random>
 #include <string>
+#include <utility>
 
 #include "tests/data/FilledTemplate.h"
 
@@ -27,8 +28,8 @@ OtherData otherData(const DataValue& value) {
         }
         case DataValue::Kind::Object: {
             OtherData object(OtherData::type::object);
-            for (const DataMember& member : value.members) {
-                object.set(member.name, otherData(member.value));
+            for (std::size_t i = 0; i < value.names.size(); ++i) {
+                object.set(value.names[i], otherData(value.items[i]));
             }
             return object;
         }
@@ -45,16 +46,16 @@ public:
 
     DataValue object(int depth) {
         DataValue made{.kind = DataValue::Kind::Object};
-        made.members.push_back({"a", text()});
-        made.members.push_back({"b", text()});
-        made.members.push_back({"c", condition()});
+        made.names = {"a", "b", "c"};
+        made.items = {text(), text(), condition()};
         if (depth > 0) {
             DataValue list{.kind = DataValue::Kind::List};
             for (std::size_t items = below(4); items > 0; --items) {
                 list.items.push_back(object(depth - 1));
             }
-            made.members.push_back({"l", list});
-            made.members.push_back({"o", object(depth - 1)});
+            made.names.insert(made.names.end(), {"l", "o"});
+            made.items.push_back(std::move(list));
+            made.items.push_back(object(depth - 1));
         }
         return made;
     }

@@ -57,7 +57,7 @@ data::DataValue recordOf(const std::string& json) {
     using Kind = data::DataValue::Kind;
     const data::DataValue text{.kind = Kind::String, .text = json};
     const data::DataValue list{.kind = Kind::List, .items = {text, text}};
-    return {.kind = Kind::Object, .members = {{"a", text}, {"l", list}}};
+    return {.kind = Kind::Object, .items = {text, list}, .names = {"a", "l"}};
 }
 
 /// A partial takes in another text, and itself.
