@@ -11,6 +11,7 @@
 
 #include "cli/RenderOptions.h"
 #include "cli/utf8Path.h"
+#include "quorvane/base/text/hexadecimal.h"
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
 
 namespace quorvane::cli {
@@ -23,7 +24,6 @@ constexpr const char* rootName = "SRCROOT";
 
 /// A path with `/` between its parts, as the path of a URI.
 std::string uriPath(const std::filesystem::path& path) {
-    constexpr std::string_view digits = "0123456789ABCDEF";
     constexpr std::string_view kept =
         "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~/";
     const std::u8string name = path.generic_u8string();
@@ -33,9 +33,7 @@ std::string uriPath(const std::filesystem::path& path) {
         if (kept.find(static_cast<char>(byte)) != std::string_view::npos) {
             uri += static_cast<char>(byte);
         } else {
-            uri += '%';
-            uri += digits[byte / 16];
-            uri += digits[byte % 16];
+            uri += '%' + hexadecimal(byte, 2);
         }
     }
     return uri;
@@ -83,16 +81,11 @@ std::string ruleName(std::string_view identifier) {
 
 /// The hash FNV-1a of a text, in hexadecimal digits.
 std::string hashOf(std::string_view text) {
-    constexpr std::string_view digits = "0123456789abcdef";
     std::uint64_t hash = 0xcbf29ce484222325U;
     for (const char character : text) {
         hash = (hash ^ static_cast<unsigned char>(character)) * 0x100000001b3U;
     }
-    std::string shown;
-    for (int shift = 60; shift >= 0; shift -= 4) {
-        shown += digits[hash >> static_cast<unsigned>(shift) & 15U];
-    }
-    return shown;
+    return hexadecimal(hash, 16, lowerHexadecimalDigits);
 }
 
 /// The line of a place without its blanks, which change where only the form of a file does. Of a

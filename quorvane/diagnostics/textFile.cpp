@@ -8,6 +8,7 @@
 #include "quorvane/base/text/byteOrderMark.h"
 #include "quorvane/base/text/codePage1252.h"
 #include "quorvane/base/text/extendedMark.h"
+#include "quorvane/base/text/hexadecimal.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/diagnostics/KnownStyles.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
@@ -50,12 +51,6 @@ constexpr Signature signatures[] = {
 
 void report(DiagnosticEngine& engine, std::string_view what, std::string_view hint) {
     engine.report(DiagnosticId::NotATextFile, {}, {what, "a text file"}, std::string(hint));
-}
-
-std::string inHexadecimal(char character) {
-    constexpr std::string_view digits = "0123456789ABCDEF";
-    const auto byte = static_cast<unsigned char>(character);
-    return {digits[byte / 16], digits[byte % 16]};
 }
 
 /// True for a text in one of the languages, whatever bytes it holds.
@@ -102,7 +97,8 @@ std::optional<Diagnostic> findByteNotOfUtf8(const SourceText& source) {
         const Place place = source.place(*wrong, *wrong + 1);
         DiagnosticEngine engine([&](Diagnostic diagnostic) { found = std::move(diagnostic); });
         engine.report(DiagnosticId::NotUtf8, place,
-                      {inHexadecimal(bytes[*wrong]), std::to_string(place.column)},
+                      {hexadecimal(static_cast<unsigned char>(bytes[*wrong]), 2),
+                       std::to_string(place.column)},
                       isMarkedExtended(bytes)
                           ? "save the file in UTF-8"
                           : "save the file in UTF-8, or use --encoding windows-1252 if it is in "

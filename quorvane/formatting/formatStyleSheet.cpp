@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -167,6 +168,11 @@ std::string meaningOfExtended(std::string_view text) {
     }
     for (const std::string& font : tables.fonts().entries()) {
         meaning += font + "\n";
+    }
+    for (const RgbColor& color : tables.colors().list()) {
+        for (const std::uint8_t part : {color.red, color.green, color.blue}) {
+            meaning += std::to_string(part) + "\n";
+        }
     }
     return meaning;
 }

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <utility>
 
+#include "quorvane/base/text/hexadecimal.h"
 #include "quorvane/base/text/utf8.h"
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/rtf/unicodeWords.h"
@@ -11,15 +12,6 @@
 namespace quorvane {
 
 namespace {
-
-std::string hexadecimal(std::uint32_t number, int minDigits) {
-    constexpr std::string_view digits = "0123456789ABCDEF";
-    std::string text;
-    for (; number > 0 || minDigits > 0; number /= 16, --minDigits) {
-        text.insert(text.begin(), digits[number % 16]);
-    }
-    return text;
-}
 
 bool isSurrogate(char32_t code) {
     return code >= 0xD800 && code < 0xE000;

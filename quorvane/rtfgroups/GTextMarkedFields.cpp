@@ -2,6 +2,7 @@
 
 #include "quorvane/base/text/StringOutput.h"
 #include "quorvane/base/text/codePage1252.h"
+#include "quorvane/base/text/hexadecimal.h"
 #include "quorvane/base/values/RtfError.h"
 
 namespace quorvane::GTextMarkedFields {
@@ -18,16 +19,11 @@ std::string toStringRepr(const Value& value) {
 }
 
 std::string toHexString(std::string_view text) {
-    constexpr std::string_view digits = "0123456789ABCDEF";
-    std::string hexadecimal;
+    std::string digits;
     for (const char character : codePage1252FromUtf8(text)) {
-        const auto byte = static_cast<unsigned char>(character);
-        if (byte >= 16) {
-            hexadecimal += digits[byte / 16];
-        }
-        hexadecimal += digits[byte % 16];
+        digits += hexadecimal(static_cast<unsigned char>(character), 1);
     }
-    return hexadecimal;
+    return digits;
 }
 
 std::string fieldData(const Value& value) {

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "quorvane/base/text/codePage1252.h"
+#include "quorvane/base/text/hexadecimal.h"
 #include "quorvane/base/text/utf8.h"
 #include "quorvane/diagnostics/text/mojibake.h"
 #include "quorvane/rtf/unicodeWords.h"
@@ -12,12 +13,7 @@ namespace quorvane {
 namespace {
 
 std::string numberedCharacter(char32_t code) {
-    constexpr std::string_view digits = "0123456789ABCDEF";
-    std::string text = "U+";
-    for (int shift = code > 0xFFFF ? 20 : 12; shift >= 0; shift -= 4) {
-        text += digits[code >> shift & 15U];
-    }
-    return text;
+    return "U+" + hexadecimal(code, code > 0xFFFF ? 6 : 4);
 }
 
 /// True where a character can be written as a control word.
@@ -27,9 +23,8 @@ bool canHoldControls(TextUse use) {
 
 /// The escape of a character of Windows-1252.
 std::string escape(const std::string& character) {
-    constexpr std::string_view digits = "0123456789abcdef";
     const auto byte = static_cast<unsigned char>(codePage1252FromUtf8(character)[0]);
-    return std::string("\\'") + digits[byte / 16] + digits[byte % 16];
+    return "\\'" + hexadecimal(byte, 2, lowerHexadecimalDigits);
 }
 
 // The document says that nothing stands in for such a character, but not all readers respect that.

@@ -7,6 +7,7 @@
 #include <system_error>
 #include <vector>
 
+#include "quorvane/base/text/hexadecimal.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/trimming.h"
 
@@ -22,13 +23,12 @@ std::optional<int> wholeNumber(std::string_view text, int base) {
 }
 
 std::optional<RgbColor> hexadecimal(std::string_view text) {
-    constexpr std::string_view digits = "0123456789abcdef";
     const bool isShort = text.starts_with('#') && text.size() == 4;
     for (const std::string_view mark : {"#", "0x"}) {
         text.remove_prefix(text.starts_with(mark) ? mark.size() : 0);
     }
     if ((!isShort && text.size() != 6) ||
-        text.find_first_not_of(digits) != std::string_view::npos) {
+        text.find_first_not_of(lowerHexadecimalDigits) != std::string_view::npos) {
         return std::nullopt;
     }
     const auto component = [&](std::size_t index) {

@@ -1,5 +1,7 @@
 #include "quorvane/docmodel/picture/renderPicture.h"
 
+#include "quorvane/base/text/hexadecimal.h"
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -14,7 +16,7 @@ constexpr std::string_view lineEnd = "\r\n";
 
 /// Writes lines of hexadecimal digits, without memory for more than one.
 void renderHexadecimal(std::string_view bytes, TextOutput& out) {
-    constexpr std::string_view digits = "0123456789abcdef";
+    constexpr std::string_view digits = lowerHexadecimalDigits;
     std::array<char, lineEnd.size() + 2 * bytesOfALine> line;
     char* const begin = std::copy(lineEnd.begin(), lineEnd.end(), line.data());
     for (std::size_t at = 0; at < bytes.size(); at += bytesOfALine) {
