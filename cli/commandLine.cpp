@@ -370,9 +370,8 @@ void addCheckOptions(CLI::App* check, CheckOptions& options) {
     addEncoding(*check, options.encoding);
     addAllowPictures(*check, options.pictureFolders);
     addData(*check, options.data, options.locale);
-    check->add_flag("--fix", options.fixes, "Apply the fixes that are certain")->excludes("--data");
-    check->add_flag("--diff", options.showsDiff, "Only show what --fix would change")
-        ->excludes("--data");
+    check->add_flag("--fix", options.fixes, "Apply the fixes that are certain");
+    check->add_flag("--diff", options.showsDiff, "Only show what --fix would change");
     addIdentifiersOption(*check, "--ignore", options.ignored, "Do not report these diagnostics");
     addIdentifiersOption(*check, "--enable", options.enabled,
                          "Also report these, which are off by default");
@@ -608,6 +607,9 @@ parseCommandLine(const std::vector<std::string>& arguments) {
             requireOneTask(requests.check);
             requireStandardInput(requests.check.stdinName, requests.check.files);
             requireOneInput(requests.check.data, requests.check.files);
+            if (requests.check.data && (requests.check.fixes || requests.check.showsDiff)) {
+                throw UsageError("--data cannot be combined with --fix and --diff");
+            }
             return requests.check;
         }
         if (command == "format") {

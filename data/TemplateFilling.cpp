@@ -398,7 +398,7 @@ void TemplateFilling::reportMissing(const TemplateQuery& query, const Found& fou
 }
 
 std::string TemplateFilling::missingHint(const TemplateQuery& query, const Found& found) const {
-    const std::string optional =
+    std::string optional =
         "write {{" + std::string(query.query.written) + "|default:…}} for what can be missing";
     if (found.value || !found.in) {
         return optional;
@@ -408,7 +408,7 @@ std::string TemplateFilling::missingHint(const TemplateQuery& query, const Found
                                   : "a single value has no names";
     }
     const std::vector<std::string_view> names(found.in->names.begin(), found.in->names.end());
-    if (const std::string guess = didYouMean(found.name, names); !guess.empty()) {
+    if (std::string guess = didYouMean(found.name, names); !guess.empty()) {
         return guess;
     }
     const TagPath& path = query.query.path;
