@@ -10,13 +10,18 @@
 #include <utility>
 
 #include "cli/RenderOptions.h"
+#include "cli/TemplateFiles.h"
 #include "cli/fileFailure.h"
 #include "cli/filesBelow.h"
+#include "cli/partialsBeside.h"
 #include "cli/process.h"
 #include "cli/ruleNamed.h"
 #include "cli/styleSheetName.h"
 #include "cli/unifiedDiff.h"
 #include "cli/utf8Path.h"
+#include "data/Template.h"
+#include "data/TemplateFilling.h"
+#include "data/templateCheck.h"
 #include "quorvane/base/platform/fileReplacement.h"
 #include "quorvane/diagnostics/description/DescriptionCheck.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
@@ -87,6 +92,11 @@ ExitStatus CheckJob::run() {
         requireStyleSheetExtension(*options_.styleSheet, options_.files);
         checkStyles(*options_.styleSheet);
     }
+    if (!readData()) {
+        return hasFailed_                         ? ExitStatus::Failure
+               : options_.failOn == FailOn::Never ? ExitStatus::Success
+                                                  : ExitStatus::ContentErrors;
+    }
     for (const std::string& file : options_.files) {
         if (isFolder(file)) {
             checkFolder(file);
@@ -100,6 +110,21 @@ ExitStatus CheckJob::run() {
            : counts_.errors > 0 && options_.failOn != FailOn::Never ? ExitStatus::ContentErrors
            : counts_.warnings > 0 && isStrict                       ? ExitStatus::Warnings
                                                                     : ExitStatus::Success;
+}
+
+/// Reads the data for templates, if there is any; false where that is not possible.
+bool CheckJob::readData() {
+    if (!options_.data) {
+        return true;
+    }
+    try {
+        data_ = readTemplateData(*options_.data, options_.locale, platform_);
+    } catch (const RtfError& error) {
+        fail(unreadableFile(shownName(*options_.data), *options_.data, error));
+        return false;
+    }
+    reportAll(data_->shownName, data_->diagnostics, windowOf(data_->bytes, TextEncoding::Utf8));
+    return data_->data.has_value();
 }
 
 void CheckJob::checkStyles(const std::string& file) {
@@ -184,6 +209,52 @@ void CheckJob::checkText(const std::string& file, std::string_view bytes, bool i
     reportText(file, bytes, encoding, isStream, [&](std::string_view text) {
         return diagnosticsOf(file, text, language, encoding);
     });
+    reportPartials();
+}
+
+PictureSource CheckJob::picturesOf(const std::string& file) const {
+    return picturesBeside(file, systemPlatform(), options_.pictureFolders);
+}
+
+void CheckJob::reportPartials() {
+    for (const PartialDiagnostic& each : std::exchange(partialDiagnostics_, {})) {
+        if (isReported(each.diagnostic.id)) {
+            report(each.file, each.diagnostic, windowOf(each.bytes, each.encoding));
+        }
+    }
+}
+
+/// The diagnostics about a template itself; those about its partials are kept.
+std::vector<Diagnostic> CheckJob::templateDiagnosticsOf(const std::string& file,
+                                                        const std::string& text,
+                                                        TextEncoding encoding) {
+    const PictureSource pictures = picturesOf(file);
+    std::vector<data::TemplateError> errors;
+    const data::Template source =
+        data::compileTemplate(text, encoding, partialsBeside(file, platform_), errors);
+    KnownStyles* const styles = styles_ ? &*styles_ : nullptr;
+    std::vector<Diagnostic> diagnostics;
+    if (errors.empty() && data_) {
+        data::TemplateFilling filling(source, data_->data->locale);
+        const std::vector<SourceLine>& lines = filling.fill(data_->data->record, errors);
+        diagnostics = data::checkFilled(source, {lines, errors.empty()}, styles, pictures);
+    } else if (errors.empty()) {
+        diagnostics = data::checkUnfilled(source, styles, pictures);
+    }
+    partialDiagnostics_.clear();
+    for (auto& [index, diagnostic] : data::templateDiagnostics(source, errors)) {
+        if (index == 0) {
+            diagnostics.push_back(std::move(diagnostic));
+        } else {
+            const TemplateFiles all(source, file, file);
+            partialDiagnostics_.push_back(
+                {all.nameOf(index), std::move(diagnostic),
+                 encodedText(source.sources[index].text, source.sources[index].encoding),
+                 source.sources[index].encoding});
+        }
+    }
+    sortByPlace(diagnostics);
+    return diagnostics;
 }
 
 std::vector<Diagnostic> CheckJob::diagnosticsOf(const std::string& file, std::string_view bytes,
@@ -205,9 +276,10 @@ std::vector<Diagnostic> CheckJob::diagnosticsOf(const std::string& file, std::st
         case CheckedLanguage::Description:
             checkedDescriptions_ = true;
             text = decodedText(std::string(bytes), encoding);
-            diagnostics =
-                checkDescription(text, styles_ ? &*styles_ : nullptr, encoding,
-                                 picturesBeside(file, systemPlatform(), options_.pictureFolders));
+            diagnostics = data_ || data::looksLikeTemplate(text)
+                              ? templateDiagnosticsOf(file, text, encoding)
+                              : checkDescription(text, styles_ ? &*styles_ : nullptr, encoding,
+                                                 picturesOf(file));
             break;
     }
     std::move(diagnostics.begin(), diagnostics.end(), std::back_inserter(all));

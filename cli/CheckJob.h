@@ -13,12 +13,14 @@
 #include "cli/DiagnosticExcerpt.h"
 #include "cli/ExitStatus.h"
 #include "cli/ReportedError.h"
+#include "cli/TemplateData.h"
 #include "quorvane/base/platform/Platform.h"
 #include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/diagnostics/KnownStyles.h"
 #include "quorvane/diagnostics/engine/Diagnostic.h"
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
 #include "quorvane/diagnostics/engine/fixText.h"
+#include "quorvane/driver/PictureSource.h"
 
 namespace quorvane::cli {
 
@@ -65,6 +67,11 @@ private:
     void checkText(const std::string& file, std::string_view bytes, bool isStream);
     void checkRtfFile(const std::string& file, std::istream& stream, const std::string& beginning);
     void findUnused();
+    bool readData();
+    std::vector<Diagnostic> templateDiagnosticsOf(const std::string& file, const std::string& text,
+                                                  TextEncoding encoding);
+    PictureSource picturesOf(const std::string& file) const;
+    void reportPartials();
 
     bool isReported(DiagnosticId id) const;
     std::vector<Diagnostic> diagnosticsOf(const std::string& file, std::string_view bytes,
@@ -89,6 +96,15 @@ private:
     Platform& platform_;
     BytesSink write_;
     std::optional<KnownStyles> styles_;
+    std::optional<TemplateDataFile> data_;
+    // What is wrong with the partials of the template that was checked last.
+    struct PartialDiagnostic {
+        std::string file;
+        Diagnostic diagnostic;
+        std::string bytes;
+        TextEncoding encoding;
+    };
+    std::vector<PartialDiagnostic> partialDiagnostics_;
     CheckCounts counts_;
     bool checkedDescriptions_ = false;
     bool hasFailed_ = false;

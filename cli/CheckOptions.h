@@ -19,6 +19,10 @@ struct CheckOptions {
     std::optional<std::string> styleSheet;
     /// The encoding of descriptions and stylesheets.
     EncodingChoice encoding = EncodingChoice::Auto;
+    /// The JSON file that the descriptions, which are templates, are filled with.
+    std::optional<std::string> data;
+    /// The locale in which filters write numbers.
+    std::optional<std::string> locale;
     /// Folders whose pictures descriptions may name, besides their own.
     std::vector<std::string> pictureFolders;
     ReportForm form = ReportForm::Text;

@@ -4,10 +4,17 @@
 #include <utility>
 
 #include "cli/RenderOptions.h"
+#include "cli/TemplateFiles.h"
 #include "cli/fileFailure.h"
+#include "cli/partialsBeside.h"
 #include "cli/process.h"
+#include "data/Template.h"
+#include "data/TemplateFilling.h"
+#include "data/templateCheck.h"
+#include "quorvane/diagnostics/description/DescriptionCheck.h"
 #include "quorvane/docmodel/CRtfTableRows.h"
 #include "quorvane/driver/driverErrors.h"
+#include "quorvane/driver/parseFilled.h"
 #include "quorvane/driver/picturesBeside.h"
 
 namespace quorvane::cli {
@@ -51,7 +58,11 @@ ExitStatus DescriptionRendering::run() {
         status_ = ExitStatus::ContentErrors;
     }
     if (std::optional<std::string> text = readDescription()) {
-        parse(*text);
+        if (manner_.data) {
+            parseTemplate(*text);
+        } else {
+            parse(*text);
+        }
         text.reset();
         if (mayWrite()) {
             leaveDocumentBefore();
@@ -117,19 +128,54 @@ std::optional<std::string> DescriptionRendering::readDescription() {
 }
 
 void DescriptionRendering::parse(const std::string& text) {
-    const std::string name = inputName(assignment_.description);
+    const PictureSource pictures = prepareDriver();
+    driver_->ParseFromMemmory(text);
+    pass(text,
+         [&](KnownStyles* styles) { return checkDescription(text, styles, encoding_, pictures); });
+}
+
+void DescriptionRendering::parseTemplate(const std::string& text) {
+    std::vector<data::TemplateError> errors;
+    const data::Template source = data::compileTemplate(
+        text, encoding_, partialsBeside(assignment_.description, platform_), errors);
+    data::TemplateFilling filling(source, manner_.data->locale);
+    const std::vector<SourceLine>* lines = nullptr;
+    if (errors.empty()) {
+        lines = &filling.fill(manner_.data->record, errors);
+    }
+    if (!errors.empty()) {
+        status_ = std::max(status_, ExitStatus::ContentErrors);
+        const TemplateFiles files(source, assignment_.description,
+                                  inputName(assignment_.description));
+        for (const auto& [index, diagnostic] : data::templateDiagnostics(source, errors)) {
+            report_.refuse(files.nameOf(index), files.windowOf(index), {diagnostic});
+        }
+        return;
+    }
+    const PictureSource pictures = prepareDriver();
+    parseFilled(*driver_, *lines);
+    pass(text, [&](KnownStyles* styles) {
+        return data::checkFilled(source, {*lines}, styles, pictures);
+    });
+}
+
+PictureSource DescriptionRendering::prepareDriver() {
     driver_->setErroneousInput(manner_.check);
     driver_->setUnicodeTexts(isUtf8(encoding_));
     driver_->setReadsExtended(true);
-    const PictureSource pictures =
+    PictureSource pictures =
         picturesBeside(assignment_.description, platform_, manner_.pictureFolders);
     driver_->setPictureSource(pictures);
     driver_->setNotifyErrorHandler([&](CRtfDriver&, const RtfError& error) {
         status_ = std::max(status_, ExitStatus::ContentErrors);
-        report_.event(name, error);
+        report_.event(inputName(assignment_.description), error);
     });
-    driver_->ParseFromMemmory(text);
-    if (!report_.passDescription(name, assignment_.description, text, encoding_, pictures)) {
+    return pictures;
+}
+
+void DescriptionRendering::pass(const std::string& text, const CheckOfDescription& check) {
+    if (!report_.passDescription(inputName(assignment_.description), assignment_.description, text,
+                                 encoding_, check)) {
         status_ = std::max(status_, ExitStatus::ContentErrors);
     }
 }

@@ -7,24 +7,28 @@
 #include "cli/CommandPlatform.h"
 #include "cli/ExitStatus.h"
 #include "cli/RenderReport.h"
+#include "cli/TemplateData.h"
 #include "cli/outputPaths.h"
 #include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/driver/CRtfDriver.h"
+#include "quorvane/driver/PictureSource.h"
 
 namespace quorvane::cli {
 
 /// How a description is rendered.
 struct RenderingManner {
     /// Name of a stylesheet file that can be read.
-    std::optional<std::string> styleSheet;
+    std::optional<std::string> styleSheet = {};
     /// The check refuses the stylesheet.
     bool isStyleSheetRefused = false;
     bool check = false;
     bool keepGoing = false;
     /// The encoding of the descriptions.
     EncodingChoice encoding = EncodingChoice::Auto;
+    /// The descriptions are templates, and filled with it; null for what they are without.
+    const TemplateData* data = nullptr;
     /// Folders whose pictures the description may name, besides its own.
-    std::vector<std::string> pictureFolders;
+    std::vector<std::string> pictureFolders = {};
 };
 
 /// The rendering of one description. Several can go through the same driver, one after the other,
@@ -49,6 +53,9 @@ private:
     std::string readBytes(const std::string& path);
     std::optional<std::string> readDescription();
     void parse(const std::string& text);
+    void parseTemplate(const std::string& text);
+    PictureSource prepareDriver();
+    void pass(const std::string& text, const CheckOfDescription& check);
     bool mayWrite();
     void leaveDocumentBefore();
     void write();

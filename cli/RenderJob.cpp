@@ -25,12 +25,10 @@ std::size_t coreCount() {
 
 RenderJob::RenderJob(RenderOptions options, RenderReceivers receivers, Platform& platform)
     : options_(std::move(options)),
-      manner_{{},
-              false,
-              options_.check,
-              options_.keepGoing,
-              options_.encoding,
-              options_.pictureFolders},
+      manner_{.check = options_.check,
+              .keepGoing = options_.keepGoing,
+              .encoding = options_.encoding,
+              .pictureFolders = options_.pictureFolders},
       receivers_(std::move(receivers)),
       report_(options_, receivers_),
       platform_(platform) {}
@@ -48,6 +46,9 @@ ExitStatus RenderJob::run() {
     }
     if (!prepareOutputFolder()) {
         return ExitStatus::Failure;
+    }
+    if (const ExitStatus dataStatus = readData(); dataStatus != ExitStatus::Success) {
+        return dataStatus;
     }
     const ExitStatus status = readStyleSheet();
     if (status != ExitStatus::Success && !options_.keepGoing) {
@@ -100,6 +101,26 @@ ExitStatus RenderJob::readStyleSheet() {
     manner_.isStyleSheetRefused =
         !report_.passStyleSheet(*options_.styleSheet, platform_.styleSheetBytes());
     platform_.recodeStyleSheet(encodingOf(platform_.styleSheetBytes(), options_.encoding));
+    return ExitStatus::Success;
+}
+
+ExitStatus RenderJob::readData() {
+    if (!options_.data) {
+        return ExitStatus::Success;
+    }
+    const std::string& path = *options_.data;
+    try {
+        data_ = readTemplateData(path, options_.locale, platform_);
+    } catch (const RtfError& error) {
+        report_.fail(unreadableFile(path == standardStream ? "<stdin>" : path, path, error));
+        return ExitStatus::Failure;
+    }
+    if (!data_->data) {
+        report_.refuse(data_->shownName, windowOf(data_->bytes, TextEncoding::Utf8),
+                       data_->diagnostics);
+        return ExitStatus::ContentErrors;
+    }
+    manner_.data = &*data_->data;
     return ExitStatus::Success;
 }
 

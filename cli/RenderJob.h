@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 #include "cli/CommandPlatform.h"
@@ -8,6 +9,7 @@
 #include "cli/ExitStatus.h"
 #include "cli/RenderOptions.h"
 #include "cli/RenderReport.h"
+#include "cli/TemplateData.h"
 #include "cli/outputPaths.h"
 #include "quorvane/base/platform/Platform.h"
 
@@ -31,6 +33,7 @@ public:
 private:
     bool prepareOutputFolder();
     ExitStatus readStyleSheet();
+    ExitStatus readData();
     ExitStatus renderInTurn(const std::vector<Assignment>& assignments);
     ExitStatus renderSideBySide(const std::vector<Assignment>& assignments, std::size_t threads);
 
@@ -39,6 +42,7 @@ private:
     RenderReceivers receivers_;
     RenderReport report_;
     CommandPlatform platform_;
+    std::optional<TemplateDataFile> data_;
 };
 
 }  // namespace quorvane::cli

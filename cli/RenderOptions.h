@@ -22,6 +22,10 @@ struct RenderOptions {
     std::optional<std::string> styleSheet;
     /// The encoding of the descriptions and the stylesheet.
     EncodingChoice encoding = EncodingChoice::Auto;
+    /// The JSON file that the descriptions, which are templates, are filled with.
+    std::optional<std::string> data;
+    /// The locale in which filters write numbers.
+    std::optional<std::string> locale;
     /// Folders whose pictures descriptions may name, besides their own.
     std::vector<std::string> pictureFolders;
     /// The file that the one description goes to.

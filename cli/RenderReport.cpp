@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "cli/locatedErrors.h"
-#include "quorvane/diagnostics/description/DescriptionCheck.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
 #include "quorvane/diagnostics/engine/withoutIgnored.h"
@@ -136,6 +135,17 @@ void RenderReport::refuseUnreadable(const std::string& file, const Diagnostic& d
     }
 }
 
+void RenderReport::refuse(const std::string& file, const FileWindow& window,
+                          const Diagnostics& errors) {
+    for (const Diagnostic& error : errors) {
+        if (receivers_.locate) {
+            receivers_.locate(file, error, excerptAt(error.place, window));
+        } else {
+            receivers_.report({ErrorKind::Check, file, refusal({error})});
+        }
+    }
+}
+
 void RenderReport::refuseStyleSheet(const RtfError& error) {
     if (receivers_.refuseStyleSheet) {
         receivers_.refuseStyleSheet(error);
@@ -159,15 +169,14 @@ void RenderReport::event(const std::string& file, const RtfError& error) {
 
 bool RenderReport::passDescription(const std::string& name, const std::string& path,
                                    const std::string& text, TextEncoding encoding,
-                                   const PictureSource& pictures) {
+                                   const CheckOfDescription& check) {
     const std::vector<RtfError> errors = std::exchange(errors_, {});
     if (!isChecked() && (errors.empty() || !receivers_.locate)) {
         return true;
     }
     const std::string bytes = encodedText(text, encoding);
     Diagnostics diagnostics =
-        withoutIgnored(checkDescription(text, knownStyles(), encoding, pictures), text,
-                       CheckedLanguage::Description);
+        withoutIgnored(check(knownStyles()), text, CheckedLanguage::Description);
     if (options_.failOn == FailOn::Warning) {
         const Diagnostics named =
             findNameMismatch(bytes, CheckedLanguage::Description, path, encoding);

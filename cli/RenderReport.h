@@ -14,7 +14,6 @@
 #include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/diagnostics/KnownStyles.h"
 #include "quorvane/diagnostics/engine/Diagnostic.h"
-#include "quorvane/driver/PictureSource.h"
 
 namespace quorvane::cli {
 
@@ -34,6 +33,9 @@ struct RenderReceivers {
     /// about it.
     std::function<void(const RtfError&)> refuseStyleSheet{};
 };
+
+/// All diagnostics about a description; the styles may be null.
+using CheckOfDescription = std::function<std::vector<Diagnostic>(KnownStyles* styles)>;
 
 /// Reports the errors of a stylesheet and of one description after the other, and decides whether
 /// they pass. They are checked where that is needed only: when they have errors, or when the check
@@ -58,6 +60,10 @@ public:
     /// analysis.
     bool passBytes(const std::string& name, std::string_view bytes, TextEncoding encoding);
 
+    /// Reports errors because of which a file is not used at all.
+    void refuse(const std::string& file, const FileWindow& window,
+                const std::vector<Diagnostic>& errors);
+
     /// The library refuses the stylesheet.
     void refuseStyleSheet(const RtfError& error);
 
@@ -66,9 +72,9 @@ public:
 
     /// Ends with a description (UTF-8), which is named so, from a file in that encoding. Returns
     /// false when the check refuses it; the errors that were reported before are for the caller to
-    /// count. The pictures are those of the description.
+    /// count. The check is made where it is needed only.
     bool passDescription(const std::string& name, const std::string& path, const std::string& text,
-                         TextEncoding encoding, const PictureSource& pictures);
+                         TextEncoding encoding, const CheckOfDescription& check);
 
 private:
     struct StyleSheet {

@@ -32,6 +32,10 @@ Nothing is written for a description with errors unless --keep-going is given.
 A document appears whole or not at all, and never replaces a description or a
 stylesheet.
 
+With --data, the descriptions are templates: {{name}} stands for a value of the
+JSON file, or of standard input for -, and {{#lines}} ... {{/lines}} for what is
+repeated for each item of a list.
+
 Errors are reported on standard error as "quorvane check" reports them. With
 --check, texts that would corrupt the document are errors too.
 
@@ -59,6 +63,9 @@ comment leaves a diagnostic out of the report for the next line:
 Unless --encoding says which, a description or a stylesheet that begins with a
 byte order mark of UTF-8, or that is UTF-8 and not plain ASCII, is in UTF-8; any
 other is in Windows-1252. Columns count characters.
+
+With --data, descriptions are templates, and what is reported is wrong for this
+JSON file. Without it, a template is checked as far as that is possible.
 
 With --diff, the diff goes to standard output and the report to standard error.
 So do the fixed text of standard input and its report with --fix. On a terminal
@@ -344,6 +351,14 @@ void addEncoding(CLI::App& app, EncodingChoice& target) {
         ->check(CLI::IsMember(encodingChoices()).description(""));
 }
 
+void addData(CLI::App& app, std::optional<std::string>& data, std::optional<std::string>& locale) {
+    app.add_option("--data", storeIn(data), "Fill the descriptions with this JSON file")
+        ->type_name("FILE");
+    app.add_option("--locale", storeIn(locale), "Write numbers as in de-DE, fr-FR, 1.234,56, ...")
+        ->type_name("NAME")
+        ->needs("--data");
+}
+
 void addAllowPictures(CLI::App& app, std::vector<std::string>& folders) {
     app.add_option("--allow-pictures", storeIn(folders),
                    "Let descriptions name pictures in this folder too")
@@ -393,6 +408,7 @@ void addCheckOptions(CLI::App* check, CheckOptions& options) {
         ->check(CLI::IsMember(reportForms()).description(""));
     addEncoding(*check, options.encoding);
     addAllowPictures(*check, options.pictureFolders);
+    addData(*check, options.data, options.locale);
     check->add_flag("--fix", options.fixes, "Apply the fixes that are certain");
     check->add_flag("--diff", options.showsDiff, "Only show what --fix would change");
     addIdentifiersOption(*check, "--ignore", options.ignored, "Do not report these diagnostics");
@@ -479,6 +495,7 @@ void addRenderOptions(CLI::App* render, RenderOptions& options) {
         ->type_name("FILE");
     addEncoding(*render, options.encoding);
     addAllowPictures(*render, options.pictureFolders);
+    addData(*render, options.data, options.locale);
     render->add_option("-o,--output", storeIn(options.output), "Write the document to this file")
         ->type_name("FILE");
     render
@@ -663,6 +680,14 @@ void addCommands(CLI::App& app, const std::vector<std::string>& arguments, Reque
     }
 }
 
+void requireOneInput(const std::optional<std::string>& data,
+                     const std::vector<std::string>& files) {
+    if (data == standardStream &&
+        std::find(files.begin(), files.end(), standardStream) != files.end()) {
+        throw UsageError("standard input cannot be both the data and a file");
+    }
+}
+
 /// Throws a `UsageError` unless there are files to check, or something else to show.
 void requireOneTask(const CheckOptions& options) {
     const int tasks =
@@ -704,6 +729,10 @@ parseCommandLine(const std::vector<std::string>& arguments) {
         if (command == "check") {
             requireOneTask(requests.check);
             requireStandardInput(requests.check.stdinName, requests.check.files);
+            requireOneInput(requests.check.data, requests.check.files);
+            if (requests.check.data && (requests.check.fixes || requests.check.showsDiff)) {
+                throw UsageError("--data cannot be combined with --fix and --diff");
+            }
             return requests.check;
         }
         if (command == "format") {
@@ -723,6 +752,7 @@ parseCommandLine(const std::vector<std::string>& arguments) {
         if (command == "help") {
             return parseCommandLine(helpRequest(requests.help));
         }
+        requireOneInput(requests.render.data, requests.render.descriptions);
         return requests.render;
     } catch (const CLI::Success& request) {
         std::ostringstream text;

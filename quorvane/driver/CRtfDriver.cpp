@@ -24,6 +24,7 @@
 #include "quorvane/driver/Dialect.h"
 #include "quorvane/driver/DocumentBuilder.h"
 #include "quorvane/driver/driverErrors.h"
+#include "quorvane/driver/parseFilled.h"
 #include "quorvane/driver/picturesBeside.h"
 #include "quorvane/support/GFileSystem.h"
 #include "quorvane/support/published.h"
@@ -117,7 +118,7 @@ void CRtfDriver::AnalyseData(std::string_view text, const PictureSource& picture
     const Ref<CRtfDriver> self(this);
     document_->ClearStructure();
     if (readsExtended_ && isMarkedExtended(text)) {
-        analyzeExtended(text, pictures);
+        analyzeExtended([&] { buildExtended(afterByteOrderMark(text), pictures); });
         return;
     }
     const Dialect& dialect = unicodeTexts_ ? unicodeDialect() : originalDialect();
@@ -146,10 +147,11 @@ void CRtfDriver::AnalyseData(std::string_view text, const PictureSource& picture
 }
 
 /// The first error ends the analysis: nothing is built from a description that is wrong.
-void CRtfDriver::analyzeExtended(std::string_view text, const PictureSource& pictures) {
+template <class Build>
+void CRtfDriver::analyzeExtended(Build build) {
     step([&] {
         try {
-            buildExtended(afterByteOrderMark(text), pictures);
+            build();
         } catch (const RtfError&) {
             // Before the handler of the event, which may run another analysis.
             document_->ClearStructure();
@@ -170,11 +172,32 @@ void CRtfDriver::buildExtended(std::string_view text, const PictureSource& pictu
     for (const Violation& violation : frameViolations(frame, text, lines)) {
         raiseViolation(violation);
     }
+    buildLines(lines, pictures);
+}
+
+void CRtfDriver::buildLines(const std::vector<SourceLine>& lines, const PictureSource& pictures) {
+    const Dialect& dialect = extendedDialect();
     DescriptionTree tree(lines.size() / 2);
     DescriptionParser(dialect).treeWalkerBuild(tree, lines);
     DescriptionNode& doc = tree.root().child(documentNumber);
     DescriptionRules(dialect, raiseViolation).docWalkerSyntax(doc);
     DocumentBuilder(*document_, dialect, {}, pictures).build(doc);
+}
+
+void parseFilled(CRtfDriver& driver, const std::vector<SourceLine>& lines) {
+    published([&] {
+        // A handler of the event may release the driver.
+        const Ref<CRtfDriver> self(&driver);
+        driver.document_->ClearStructure();
+        driver.analyzeExtended([&] {
+            const DescriptionFrame frame = frameOf(lines, extendedDialect());
+            for (const Violation& violation : frameViolations(frame, {}, lines)) {
+                raiseViolation(violation);
+            }
+            driver.buildLines(lines,
+                              driver.pictures_ ? driver.pictures_ : PictureSource(noPictures));
+        });
+    });
 }
 
 template <class Body>

@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "quorvane/base/memory/Ref.h"
 #include "quorvane/base/platform/Platform.h"
@@ -17,6 +18,8 @@ namespace quorvane {
 class CRtfDriver;
 void retain(CRtfDriver* driver) noexcept;
 void release(CRtfDriver* driver) noexcept;
+struct SourceLine;
+void parseFilled(CRtfDriver& driver, const std::vector<SourceLine>& lines);
 
 /// Makes a document from a description and a stylesheet.
 ///
@@ -101,13 +104,16 @@ public:
 private:
     friend void retain(CRtfDriver* driver) noexcept;
     friend void release(CRtfDriver* driver) noexcept;
+    friend void parseFilled(CRtfDriver& driver, const std::vector<SourceLine>& lines);
 
     explicit CRtfDriver(Platform& platform);
     ~CRtfDriver() = default;
 
     void AnalyseData(std::string_view text, const PictureSource& pictures);
-    void analyzeExtended(std::string_view text, const PictureSource& pictures);
+    template <class Build>
+    void analyzeExtended(Build build);
     void buildExtended(std::string_view text, const PictureSource& pictures);
+    void buildLines(const std::vector<SourceLine>& lines, const PictureSource& pictures);
     template <class Body>
     void step(Body&& body);
     void report(const RtfError& error);

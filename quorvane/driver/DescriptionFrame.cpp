@@ -4,16 +4,33 @@
 
 namespace quorvane {
 
-DescriptionFrame frameOf(std::string_view text, const std::vector<SourceLine>& lines,
-                         const Dialect& dialect) {
-    const auto holds = [text](std::string_view part) {
-        return text.find(part) != std::string_view::npos;
-    };
+namespace {
+
+template <class Holds>
+DescriptionFrame frameOf(const std::vector<SourceLine>& lines, const Dialect& dialect,
+                         Holds holds) {
     const DescriptionFrameWords& words = dialect.frame;
     return {.hasOpener = holds(words.opener),
             .hasElements = std::any_of(words.elements.begin(), words.elements.end(), holds),
             .begins = !lines.empty() && lines.front().text.starts_with(words.opener),
             .ends = !lines.empty() && lines.back().text.starts_with(words.closer)};
+}
+
+}  // namespace
+
+DescriptionFrame frameOf(std::string_view text, const std::vector<SourceLine>& lines,
+                         const Dialect& dialect) {
+    return frameOf(lines, dialect, [text](std::string_view part) {
+        return text.find(part) != std::string_view::npos;
+    });
+}
+
+DescriptionFrame frameOf(const std::vector<SourceLine>& lines, const Dialect& dialect) {
+    return frameOf(lines, dialect, [&lines](std::string_view part) {
+        return std::any_of(lines.begin(), lines.end(), [part](const SourceLine& line) {
+            return line.text.find(part) != std::string_view::npos;
+        });
+    });
 }
 
 std::vector<Violation> frameViolations(const DescriptionFrame& frame, std::string_view text,

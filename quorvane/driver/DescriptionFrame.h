@@ -27,6 +27,9 @@ struct DescriptionFrame {
 DescriptionFrame frameOf(std::string_view text, const std::vector<SourceLine>& lines,
                          const Dialect& dialect);
 
+/// The same for lines that do not stand in one text.
+DescriptionFrame frameOf(const std::vector<SourceLine>& lines, const Dialect& dialect);
+
 /// What is wrong with the frame, in the order in which a driver reports it.
 std::vector<Violation> frameViolations(const DescriptionFrame& frame, std::string_view text,
                                        const std::vector<SourceLine>& lines);

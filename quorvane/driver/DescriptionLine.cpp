@@ -4,6 +4,7 @@
 #include <string>
 
 #include "quorvane/base/text/trimming.h"
+#include "quorvane/support/FilledValue.h"
 
 namespace quorvane {
 
@@ -76,6 +77,14 @@ DescriptionLine descriptionLine(std::string_view line, const Dialect& dialect) {
     DescriptionLine parts = leafIn(line, dialect);
     if (!parts.isReadable()) {
         parts = openerOrCloserIn(line, dialect);
+    }
+    return parts;
+}
+
+DescriptionLine descriptionLine(const SourceLine& line, const Dialect& dialect) {
+    DescriptionLine parts = descriptionLine(line.text, dialect);
+    if (line.filled) {
+        parts.value = line.filled->text;
     }
     return parts;
 }

@@ -5,6 +5,7 @@
 
 #include "quorvane/driver/Dialect.h"
 #include "quorvane/driver/NodeKind.h"
+#include "quorvane/support/SourceLine.h"
 
 namespace quorvane {
 
@@ -38,6 +39,9 @@ struct DescriptionLine {
 
 /// Takes a line apart. It is trimmed and holds more than a comment.
 DescriptionLine descriptionLine(std::string_view line, const Dialect& dialect);
+
+/// The same, with the value that the line is filled with.
+DescriptionLine descriptionLine(const SourceLine& line, const Dialect& dialect);
 
 /// The beginning of a line, up to its first blank or comment.
 std::string_view headOf(std::string_view line, const Dialect& dialect);

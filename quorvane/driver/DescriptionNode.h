@@ -2,7 +2,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <iterator>
+#include <span>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -11,6 +13,7 @@
 #include "quorvane/base/values/Value.h"
 #include "quorvane/driver/DescriptionKey.h"
 #include "quorvane/driver/NodeKind.h"
+#include "quorvane/support/FilledValue.h"
 
 namespace quorvane {
 
@@ -28,8 +31,10 @@ struct Leaf {
     LeafKey key = {};
     /// The key as it was written.
     std::string_view writtenKey = {};
-    /// The value as it was written.
+    /// The value as it was written, or as it was filled from data.
     std::string_view text = {};
+    /// What a value is filled with; null where the text is written.
+    const FilledValue* filled = nullptr;
     /// The value, when it is a number.
     double number = 0;
     LeafKind kind = LeafKind::Text;
@@ -45,6 +50,21 @@ struct Leaf {
     Value value() const { return isNumber() ? Value(number) : Value(text); }
     /// The value as text: a number in its shortest form.
     std::string valueText() const;
+
+    /// What of the text comes from data.
+    std::span<const TextRange> data() const {
+        return filled ? filled->data : std::span<const TextRange>();
+    }
+    /// True for a part of a text that is not written in the description.
+    bool isFilled(std::string_view part) const {
+        return filled && !std::less<>()(part.data(), text.data()) &&
+               !std::less<>()(text.data() + text.size(), part.data());
+    }
+    /// The part as it is written in the description: where the text is filled, the value of the
+    /// template.
+    std::string_view written(std::string_view part) const {
+        return isFilled(part) ? filled->written : part;
+    }
 };
 
 /// Elements of which each leads to the next.

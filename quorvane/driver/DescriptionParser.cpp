@@ -7,6 +7,7 @@
 #include "quorvane/base/text/numberText.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/driver/misplacedNode.h"
+#include "quorvane/support/FilledValue.h"
 
 namespace quorvane {
 
@@ -67,7 +68,7 @@ void DescriptionParser::treeWalkerBuild(DescriptionTree& tree,
 }
 
 void DescriptionParser::readLine(const SourceLine& line) {
-    const DescriptionLine parts = descriptionLine(line.text, dialect_);
+    const DescriptionLine parts = descriptionLine(line, dialect_);
     switch (parts.type) {
         case LineType::Leaf:
             ++next_;
@@ -116,7 +117,8 @@ void DescriptionParser::addLeaf(const SourceLine& line, const DescriptionLine& p
     if (!dialect_.values.areExtended && readNumber(parts.value, leaf->number)) {
         leaf->kind = LeafKind::Number;
     }
-    leaf->isFaulty = isFaulty;
+    leaf->filled = line.filled;
+    leaf->isFaulty = isFaulty || (line.filled && line.filled->isUnknown);
     leaf->line = line.number;
     if (recovery_) {
         recovery_->added(line, innermost());
@@ -321,9 +323,10 @@ void DescriptionParser::rejectUnclosed(const SourceLine& line, std::string_view 
             .part = firstLineOf(value)});
 }
 
-/// False for a value of several lines that does not end, or that its key cannot have.
+/// False for a value of several lines that does not end, or that its key cannot have. In a value
+/// that is filled, the marks are text.
 bool DescriptionParser::isSoundBlock(const SourceLine& line, const DescriptionLine& parts) {
-    if (!dialect_.marks.beginsBlock(parts.value)) {
+    if (line.filled || !dialect_.marks.beginsBlock(parts.value)) {
         return true;
     }
     if (!endsBlock(parts.value)) {

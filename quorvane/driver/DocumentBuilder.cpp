@@ -129,7 +129,7 @@ BuiltTable DocumentBuilder::build(DescriptionNode& doc) {
         requirePosition(*rows, ++position);
         applyRow(row);
     }
-    if (dialect_.values.areExtended && !apply_.hasFaults()) {
+    if (dialect_.values.areExtended && checksLayout_ && !apply_.hasFaults()) {
         checkLayout();
     }
     return std::move(table_);

@@ -47,6 +47,9 @@ public:
     /// rows are added.
     BuiltTable build(DescriptionNode& doc);
 
+    /// Leaves out whether spans, columns and headings fit together: not all cells are known.
+    void leaveLayoutUnchecked() { checksLayout_ = false; }
+
 private:
     // Calls `apply` for each leaf whose key nodes of that kind have, in ascending order of the
     // keys.
@@ -89,6 +92,7 @@ private:
     ExtendedColumns columns_;
     LiteralParagraphs literals_;
     BuiltTable table_;
+    bool checksLayout_ = true;
     // The names looked up last, which are in the stylesheet.
     std::string knownParagraphStyle_;
     std::string knownCellStyle_;

@@ -31,10 +31,11 @@ void LiteralParagraphs::setText(CRtfParagraph& paragraph, DescriptionNode& node)
 }
 
 void LiteralParagraphs::appendText(const Leaf& leaf) {
-    if (dialect_.marks.beginsBlock(leaf.text)) {
+    // In a value that is filled, the marks are text.
+    if (!leaf.filled && dialect_.marks.beginsBlock(leaf.text)) {
         appendLiteralText(blockText(leaf.text, dialect_.marks.block), wordsOf_, rtf_);
     } else {
-        appendLiteralText(leaf.text, wordsOf_, rtf_);
+        appendLiteralText(leaf.text, wordsOf_, rtf_, leaf.data());
     }
 }
 

@@ -1,5 +1,8 @@
 #include "quorvane/driver/extendedPage.h"
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -25,8 +28,41 @@ HeadingForm headingForm(std::string_view text) {
 
 using PageLineSetter = void (CRtfDoc::*)(std::string_view, std::string_view, std::string_view);
 
-void setPageLine(CRtfDoc& document, std::string_view text, PageLineSetter set) {
-    const auto [left, center, right] = pageLineParts(text);
+// They stand for a bar and a blank of data, which cannot hold them, until the parts are known.
+constexpr char dataBar = '\x1e';
+constexpr char dataBlank = '\x1f';
+
+/// The text of a page header or footer in which nothing of the data means anything.
+std::string withEscapedData(const Leaf& leaf) {
+    std::string text;
+    std::size_t begin = 0;
+    for (const TextRange& range : leaf.data()) {
+        text += leaf.text.substr(begin, range.begin - begin);
+        for (const char character : leaf.text.substr(range.begin, range.end - range.begin)) {
+            text.append(character == '{' || character == '}' ? 1U : 0U, character);
+            text += character == '|' ? dataBar : character == ' ' ? dataBlank : character;
+        }
+        begin = range.end;
+    }
+    return text.append(leaf.text.substr(begin));
+}
+
+void restoreData(std::string& part) {
+    std::replace(part.begin(), part.end(), dataBar, '|');
+    std::replace(part.begin(), part.end(), dataBlank, ' ');
+}
+
+std::array<std::string, 3> shownParts(const Leaf& leaf) {
+    if (!leaf.filled) {
+        return pageLineParts(leaf.text);
+    }
+    std::array<std::string, 3> parts = pageLineParts(withEscapedData(leaf));
+    std::for_each(parts.begin(), parts.end(), restoreData);
+    return parts;
+}
+
+void setPageLine(CRtfDoc& document, const Leaf& leaf, PageLineSetter set) {
+    const auto [left, center, right] = shownParts(leaf);
     try {
         (document.*set)(left, center, right);
     } catch (const RtfError& error) {
@@ -45,10 +81,10 @@ void applyPageLeaf(CRtfDoc& document, const Leaf& leaf) {
             break;
         }
         case DescriptionKey::Header:
-            setPageLine(document, leaf.text, &CRtfDoc::setPageHeader);
+            setPageLine(document, leaf, &CRtfDoc::setPageHeader);
             break;
         case DescriptionKey::Footer:
-            setPageLine(document, leaf.text, &CRtfDoc::setPageFooter);
+            setPageLine(document, leaf, &CRtfDoc::setPageFooter);
             break;
         case DescriptionKey::Heading:
             document.setHeadingForm(headingForm(leaf.text));

@@ -41,11 +41,35 @@ std::string_view nameAfter(std::string_view text, std::size_t opening) {
     return isName ? rest.substr(0, end) : std::string_view();
 }
 
+/// Finds out whether positions, none before the last one, are in a part that comes from data.
+class DataParts {
+public:
+    explicit DataParts(std::span<const TextRange> ranges) : ranges_(ranges) {}
+
+    bool contain(std::size_t position) { return beginBefore(position, position + 1); }
+
+    /// True where a part begins before `end` that does not end before the position.
+    bool beginBefore(std::size_t position, std::size_t end) {
+        while (!ranges_.empty() && ranges_.front().end <= position) {
+            ranges_ = ranges_.subspan(1);
+        }
+        return !ranges_.empty() && ranges_.front().begin < end;
+    }
+
+private:
+    std::span<const TextRange> ranges_;
+};
+
 /// The inline styles of a text that end, in the order of their openings.
-std::vector<StyledPart> styledParts(std::string_view text, const CharacterStyleWords& wordsOf) {
+std::vector<StyledPart> styledParts(std::string_view text, const CharacterStyleWords& wordsOf,
+                                    std::span<const TextRange> data) {
     std::vector<StyledPart> parts;
     std::vector<std::size_t> open;
+    DataParts dataParts(data);
     for (std::size_t at = 0; at < text.size(); ++at) {
+        if ((text[at] != '<' && text[at] != '>') || dataParts.contain(at)) {
+            continue;
+        }
         if (text[at] == '>' && !open.empty()) {
             parts[open.back()].closing = at;
             open.pop_back();
@@ -54,7 +78,8 @@ std::vector<StyledPart> styledParts(std::string_view text, const CharacterStyleW
             continue;
         }
         const std::string_view name = nameAfter(text, at);
-        const std::string_view words = name.empty() ? std::string_view() : wordsOf(name);
+        const bool isWritten = !name.empty() && !dataParts.beginBefore(at, at + 1 + name.size());
+        const std::string_view words = isWritten ? wordsOf(name) : std::string_view();
         if (!words.empty()) {
             open.push_back(parts.size());
             parts.push_back({at, at + 1 + name.size() + 1, words});
@@ -89,13 +114,13 @@ std::string_view withoutIndent(std::string_view line, std::size_t indent) {
 
 }  // namespace
 
-void appendLiteralText(std::string_view text, const CharacterStyleWords& wordsOf,
-                       std::string& rtf) {
+void appendLiteralText(std::string_view text, const CharacterStyleWords& wordsOf, std::string& rtf,
+                       std::span<const TextRange> data) {
     if (text.find('<') == nowhere) {
         appendRtfText(text, rtf);
         return;
     }
-    const std::vector<StyledPart> parts = styledParts(text, wordsOf);
+    const std::vector<StyledPart> parts = styledParts(text, wordsOf, data);
     std::vector<std::size_t> closings;
     std::size_t at = 0;
     const auto closeUpTo = [&](std::size_t end) {
@@ -128,6 +153,16 @@ std::vector<std::string_view> inlineStyleNames(std::string_view text) {
 }
 
 std::string blockText(std::string_view block, std::string_view mark) {
+    const std::vector<std::string_view> lines = blockLines(block, mark);
+    std::string joined(lines.front());
+    for (std::size_t i = 1; i < lines.size(); ++i) {
+        joined += '\n';
+        joined += lines[i];
+    }
+    return joined;
+}
+
+std::vector<std::string_view> blockLines(std::string_view block, std::string_view mark) {
     std::string_view text = block.substr(mark.size(), block.size() - 2 * mark.size());
     const std::size_t firstLineEnd = text.find_first_of("\r\n");
     if (firstLineEnd != nowhere && isBlank(text.substr(0, firstLineEnd))) {
@@ -142,14 +177,13 @@ std::string blockText(std::string_view block, std::string_view mark) {
         text = text.substr(0, lastLine);
         text.remove_suffix(text.ends_with("\r\n") ? 2 : text.empty() ? 0 : 1);
     }
-    std::string joined;
+    std::vector<std::string_view> lines;
     for (;;) {
         const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
-        joined += withoutIndent(text.substr(0, end), indent);
+        lines.push_back(withoutIndent(text.substr(0, end), indent));
         if (end == text.size()) {
-            return joined;
+            return lines;
         }
-        joined += '\n';
         text.remove_prefix(end + lineBreakAt(text, end));
     }
 }

@@ -1,9 +1,12 @@
 #pragma once
 
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "quorvane/support/FilledValue.h"
 
 namespace quorvane {
 
@@ -13,8 +16,10 @@ using CharacterStyleWords = std::function<std::string_view(std::string_view name
 /// Appends the RTF of a literal text: it shows what is written, and inline styles such as
 /// `<strong=Total>` become groups with the words of their styles. An inline style ends at the first
 /// ">" after it that does not end one within it. A "<" that opens no style, and a style that does
-/// not end, are text. Error 5 for a character that no document can show; see `findUnshowable`.
-void appendLiteralText(std::string_view text, const CharacterStyleWords& wordsOf, std::string& rtf);
+/// not end, are text, and so is every one in a part that comes from data. Error 5 for a character
+/// that no document can show; see `findUnshowable`.
+void appendLiteralText(std::string_view text, const CharacterStyleWords& wordsOf, std::string& rtf,
+                       std::span<const TextRange> data = {});
 
 /// The names after each "<" of a literal text that can open a style.
 std::vector<std::string_view> inlineStyleNames(std::string_view text);
@@ -23,5 +28,8 @@ std::vector<std::string_view> inlineStyleNames(std::string_view text);
 /// marks and without the blanks that the line of the last mark begins with, and LF between the
 /// lines. `block` begins and ends with the mark.
 std::string blockText(std::string_view block, std::string_view mark);
+
+/// The lines of that text: views of the block.
+std::vector<std::string_view> blockLines(std::string_view block, std::string_view mark);
 
 }  // namespace quorvane

@@ -1,21 +1,18 @@
 #include "quorvane/driver/picturesBeside.h"
 
 #include <algorithm>
-#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <string>
-#include <string_view>
 #include <system_error>
 #include <utility>
 
 #include "quorvane/base/values/RtfError.h"
+#include "quorvane/driver/staysWithinFolder.h"
 
 namespace quorvane {
 
 namespace {
-
-constexpr std::string_view separators = "/\\";
 
 std::filesystem::path pathOf(const std::string& utf8) {
     return {std::u8string(utf8.begin(), utf8.end())};
@@ -24,25 +21,6 @@ std::filesystem::path pathOf(const std::string& utf8) {
 std::string utf8Text(const std::filesystem::path& path) {
     const std::u8string text = path.u8string();
     return {text.begin(), text.end()};
-}
-
-/// True for a name that stays within the folder that it is looked up in.
-bool staysWithinFolder(const std::string& name) {
-    std::string_view rest = name;
-    if (rest.empty() || separators.find(rest.front()) != std::string_view::npos ||
-        rest.find(':') != std::string_view::npos) {
-        return false;
-    }
-    for (;;) {
-        const std::size_t end = rest.find_first_of(separators);
-        if (rest.substr(0, end) == "..") {
-            return false;
-        }
-        if (end == std::string_view::npos) {
-            return true;
-        }
-        rest.remove_prefix(end + 1);
-    }
 }
 
 /// True for a file in the folder or below it, wherever links lead.

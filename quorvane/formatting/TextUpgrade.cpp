@@ -67,7 +67,7 @@ std::optional<UpgradedText> TextUpgrade::literalForm(std::string_view text, std:
         upgraded.text = literal->empty() ? std::nullopt : upgraded.text;
         rtf = rawRtf(*upgraded.rtf);
     }
-    rtf += literalText(*literal, wordsOf);
+    appendLiteralText(*literal, wordsOf, rtf);
     return shown_.areAlike(styled, rtf) ? std::optional(upgraded) : std::nullopt;
 }
 

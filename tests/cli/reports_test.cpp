@@ -873,6 +873,22 @@ std::vector<Diagnostic> diagnosticsOfOtherSheet(const SourceText& source) {
     return diagnostics;
 }
 
+std::string templateOf(const std::string& text) {
+    return "; quorvane 2\n" + paragraphWith(text);
+}
+
+/// The report about a template with data, or without for an empty text.
+std::string reportOfTemplate(const std::string& text, const std::string& json = {}) {
+    CheckedFiles platform;
+    platform.files = {{"a.rtfspec", text}, {"a.json", json}};
+    CheckOptions options;
+    options.files = {"a.rtfspec"};
+    if (!json.empty()) {
+        options.data = "a.json";
+    }
+    return reportOf(platform, options);
+}
+
 /// Reports of diagnostics that no text is known for, as the check has names for all errors that the
 /// library raises today. One more depends on the name of the file, which an example does not have.
 const std::map<std::string, std::pair<std::string, std::string>>& reportsWithoutExample() {
@@ -906,6 +922,32 @@ const std::map<std::string, std::pair<std::string, std::string>>& reportsWithout
             "a.rtfspec:6:10: error: no.png: File not found. [wrong-picture]\n"
             "    (picture=no.png)\n"
             "             ^~~~~~\n"};
+        list["wrong-tag"] = {
+            reportOfTemplate(templateOf("{{#a}}")),
+            "a.rtfspec:6:5: error: The section that begins here does not end. [wrong-tag]\n"
+            "    (pt={{#a}})\n"
+            "        ^~~~~~\n"};
+        list["wrong-partial"] = {
+            reportOfTemplate(templateOf("{{a}}") + "{{> ../no}}\n"),
+            "a.rtfspec:11:1: error: ../no.rtfpart: this is not a file in the folder of the "
+            "template; move it there. [wrong-partial]\n"
+            "    {{> ../no}}\n"
+            "    ^~~~~~~~~~~\n"};
+        list["missing-name"] = {reportOfTemplate(templateOf("{{nmae}}"), R"({"name":"x"})"),
+                                "a.rtfspec:6:5: error: nmae is not in the data. [missing-name]\n"
+                                "    (pt={{nmae}})\n"
+                                "        ^~~~~~~~\n"
+                                "    hint: did you mean name?\n"};
+        list["wrong-data"] = {reportOfTemplate(templateOf("{{a|money}}"), R"({"a":"x"})"),
+                              "a.rtfspec:6:5: error: a: \"x\" is not a number. [wrong-data]\n"
+                              "    (pt={{a|money}})\n"
+                              "        ^~~~~~~~~~~\n"};
+        list["wrong-json"] = {
+            reportOfTemplate(templateOf("{{a}}"), R"({"a":})"),
+            "a.json:1:6: error: This is not JSON: unexpected '}'; expected '[', '{', or a literal. "
+            "[wrong-json]\n"
+            "    {\"a\":}\n"
+            "         ^\n"};
         list["bad-character"] = {
             reportOfFile("a.rtfss", "; quorvane 2\n; a\x07\n{ name: a; style-def: cell }\n"),
             "a.rtfss:2:4: error: No document can show the control character U+0007. "

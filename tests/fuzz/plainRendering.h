@@ -65,7 +65,7 @@ public:
                                                       "c.rtfspec", "style.rtfss"};
         return std::all_of(options.descriptions.begin(), options.descriptions.end(),
                            [](const auto& name) { return descriptions.contains(name); }) &&
-               options.styleSheet.value_or("style.rtfss") == "style.rtfss" &&
+               !options.data && options.styleSheet.value_or("style.rtfss") == "style.rtfss" &&
                (!options.output || outputs.contains(*options.output)) &&
                options.outputFolder.value_or("out") == "out" &&
                std::all_of(inputs.begin(), inputs.end(), [&](const auto& input) {

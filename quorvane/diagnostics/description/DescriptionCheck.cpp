@@ -8,6 +8,7 @@
 #include "quorvane/base/text/extendedMark.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/diagnostics/description/CheckRecovery.h"
+#include "quorvane/diagnostics/description/FilledDescriptionCheck.h"
 #include "quorvane/diagnostics/description/NullPlatform.h"
 #include "quorvane/diagnostics/description/StyleUses.h"
 #include "quorvane/diagnostics/description/ViolationReport.h"
@@ -44,6 +45,18 @@ public:
     void run() {
         std::vector<SourceLine> lines = PreProcessRawData(source_.text(), dialect_.marks.block);
         frame_ = frameOf(source_.text(), lines, dialect_);
+        run(std::move(lines));
+    }
+
+    void runOnFilled(const FilledLines& filled) {
+        const std::vector<SourceLine>& lines = filled.lines;
+        isComplete_ = filled.areComplete;
+        frame_ = frameOf(lines, dialect_);
+        run(lines);
+    }
+
+private:
+    void run(std::vector<SourceLine> lines) {
         const std::string_view firstLine =
             lines.empty() ? source_.text().substr(0, 0) : lines.front().text;
         checkFrame(lines);
@@ -68,7 +81,6 @@ public:
         }
     }
 
-private:
     void checkFrame(const std::vector<SourceLine>& lines) {
         for (const Violation& violation : frameViolations(frame_, source_.text(), lines)) {
             engine_.reportText(diagnosticOf(violation.fault), source_.placeOf(violation.part),
@@ -141,7 +153,11 @@ private:
             document->setExtendedStyleSheets(true);
             document->LoadStyleSheetFromMemmory(styles_->soundText());
         }
-        BuiltTable table = DocumentBuilder(*document, dialect_, report, pictures_).build(doc);
+        DocumentBuilder builder(*document, dialect_, report, pictures_);
+        if (!isComplete_) {
+            builder.leaveLayoutUnchecked();
+        }
+        BuiltTable table = builder.build(doc);
         if (!dialect_.texts.isLiteral) {
             findDescriptionWarnings(doc, *document, table, styles_, source_, engine_);
         } else if (uses) {
@@ -155,6 +171,7 @@ private:
     const PictureSource& pictures_;
     const Dialect& dialect_ = dialectOf(source_);
     DescriptionFrame frame_;
+    bool isComplete_ = true;
     CheckRecovery recovery_{source_, dialect_, engine_};
 };
 
@@ -176,6 +193,17 @@ std::vector<Diagnostic> checkDescription(std::string_view text, KnownStyles* sty
     findWrongIgnoreComments(source, CheckedLanguage::Description, engine);
     sortByPlace(diagnostics);
     keepFirstMojibake(diagnostics);
+    return diagnostics;
+}
+
+std::vector<Diagnostic> checkFilledDescription(const SourceText& source, const FilledLines& filled,
+                                               KnownStyles* styles, const PictureSource& pictures) {
+    std::vector<Diagnostic> diagnostics;
+    DiagnosticEngine engine(
+        [&](Diagnostic diagnostic) { diagnostics.push_back(std::move(diagnostic)); });
+    DescriptionCheck(source, styles, pictures, engine).runOnFilled(filled);
+    findWrongIgnoreComments(source, CheckedLanguage::Description, engine);
+    sortByPlace(diagnostics);
     return diagnostics;
 }
 

@@ -148,8 +148,14 @@ void ViolationReport::operator()(const Violation& violation) const {
         return;
     }
     if (!std::exchange(violation.leaf->isFaulty, true)) {
-        engine_.reportText(diagnosticOf(violation.fault), source_.placeOf(violation.part),
-                           violation.error.description, hintFor(violation));
+        Hint hint = hintFor(violation);
+        if (violation.leaf->isFilled(violation.part)) {
+            // The value is to be replaced in the data.
+            hint.replacement.reset();
+        }
+        engine_.reportText(diagnosticOf(violation.fault),
+                           source_.placeOf(violation.leaf->written(violation.part)),
+                           violation.error.description, std::move(hint));
     }
 }
 

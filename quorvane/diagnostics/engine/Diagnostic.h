@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -32,11 +33,19 @@ struct Place {
     /// Characters before it, from the beginning of the text.
     std::int64_t offset = 0;
     Bytes bytes{};
+
+    /// A line of a text that is put in at a place.
+    struct Included {
+        /// The number of the text, from 1; 0 for a place in the text itself.
+        std::size_t text = 0;
+        std::int64_t line = 0;
+    };
+    Included included{};
 };
 
 /// The place in a file where each character is a byte.
 inline Place placeInBytes(std::int64_t line, const Place::Bytes& bytes) {
-    return {line, bytes.column, bytes.length, bytes.offset, bytes};
+    return {line, bytes.column, bytes.length, bytes.offset, bytes, {}};
 }
 
 /// A replacement that certainly does what the author meant: a word spelled right, a brace escaped,

@@ -41,6 +41,13 @@ enum class DiagnosticId {
     WrongPicture,
     UndefinedStyle,
 
+    // templateErrors.h
+    WrongTag,
+    WrongPartial,
+    MissingName,
+    WrongData,
+    WrongJson,
+
     // nodeWarnings.h
     ClosedByOpener,
     RepeatedOpener,

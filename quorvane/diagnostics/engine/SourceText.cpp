@@ -1,6 +1,7 @@
 #include "quorvane/diagnostics/engine/SourceText.h"
 
 #include <algorithm>
+#include <functional>
 
 #include "quorvane/base/text/LineReader.h"
 #include "quorvane/base/text/utf8.h"
@@ -15,6 +16,11 @@ constexpr std::size_t bytesPerMark = 256;
 Place::Bytes extentOf(std::size_t lineStart, std::size_t start, std::size_t end) {
     return {static_cast<std::int64_t>(start - lineStart) + 1,
             static_cast<std::int64_t>(end - start), static_cast<std::int64_t>(start)};
+}
+
+bool isPartOf(std::string_view part, std::string_view text) {
+    return !std::less<>()(part.data(), text.data()) &&
+           !std::less<>()(text.data() + text.size(), part.data());
 }
 
 }  // namespace
@@ -46,6 +52,23 @@ std::size_t SourceText::charactersBefore(std::size_t position) const {
         [](std::size_t wanted, const Mark& mark) { return wanted < mark.position; });
     const Mark& mark = *(after - 1);
     return mark.characters + characterCount(text_.substr(mark.position, position - mark.position));
+}
+
+Place SourceText::placeOf(std::string_view part) const {
+    Place::Included inOther;
+    for (std::size_t i = 0; i < included_.size() && inOther.text == 0; ++i) {
+        const auto& [other, at] = included_[i];
+        if (isPartOf(part, other)) {
+            const auto before = static_cast<std::size_t>(part.data() - other.data());
+            const auto line = std::max<std::size_t>(lineCount(other.substr(0, before + 1)), 1);
+            inOther = {.text = i + 1, .line = static_cast<std::int64_t>(line)};
+            part = at;
+        }
+    }
+    const auto from = static_cast<std::size_t>(part.data() - text_.data());
+    Place found = place(from, from + part.size());
+    found.included = inOther;
+    return found;
 }
 
 Place SourceText::place(std::size_t from, std::size_t to) const {

@@ -30,17 +30,24 @@ public:
     /// `from`. It costs no more in a long line than in a short one.
     Place place(std::size_t from, std::size_t to) const;
 
-    /// The place of a part of the text: `part` must be a view into it.
-    Place placeOf(std::string_view part) const {
-        const auto from = static_cast<std::size_t>(part.data() - text_.data());
-        return place(from, from + part.size());
-    }
+    /// Makes parts of another text have the place of `at`, a part of this one: the other one is
+    /// put in there. Texts are numbered from 1. They must stay as long as this does.
+    void include(std::string_view other, std::string_view at) { included_.push_back({other, at}); }
+
+    /// The place of a part of the text: `part` must be a view into it, or into one that is
+    /// included.
+    Place placeOf(std::string_view part) const;
 
 private:
     // A character's beginning, and how many characters are before it.
     struct Mark {
         std::size_t position;
         std::size_t characters;
+    };
+
+    struct Included {
+        std::string_view text;
+        std::string_view at;
     };
 
     std::size_t charactersBefore(std::size_t position) const;
@@ -50,6 +57,7 @@ private:
     std::vector<Line> lines_;
     // One every so many bytes; none where all characters are one byte.
     std::vector<Mark> marks_;
+    std::vector<Included> included_;
 };
 
 }  // namespace quorvane

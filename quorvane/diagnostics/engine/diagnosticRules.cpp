@@ -17,6 +17,7 @@
 #include "quorvane/diagnostics/table/rtfDiagnostics.h"
 #include "quorvane/diagnostics/table/styleSheetDiagnostics.h"
 #include "quorvane/diagnostics/table/styleWarnings.h"
+#include "quorvane/diagnostics/table/templateErrors.h"
 #include "quorvane/diagnostics/table/textWarnings.h"
 
 namespace quorvane {
@@ -45,9 +46,9 @@ constexpr auto joined(const DiagnosticRule (&... tables)[sizes]) {
     return all;
 }
 
-constexpr auto table = joined(fileDiagnostics, descriptionErrors, extendedErrors, nodeWarnings,
-                              styleWarnings, textWarnings, pageWarnings, styleSheetDiagnostics,
-                              extendedStyleSheetDiagnostics, rtfDiagnostics);
+constexpr auto table = joined(fileDiagnostics, descriptionErrors, extendedErrors, templateErrors,
+                              nodeWarnings, styleWarnings, textWarnings, pageWarnings,
+                              styleSheetDiagnostics, extendedStyleSheetDiagnostics, rtfDiagnostics);
 
 constexpr bool isInOrderOfIds() {
     for (std::size_t i = 0; i < table.size(); ++i) {

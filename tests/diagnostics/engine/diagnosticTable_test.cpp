@@ -22,10 +22,12 @@ using testing::HasSubstr;
 
 std::string sourcesOfTheChecks() {
     std::string all;
-    for (const auto& entry :
-         fs::recursive_directory_iterator(fs::path(QUORVANE_SOURCE_FOLDER) / "quorvane")) {
-        if (entry.path().extension() == ".cpp") {
-            all += bytesOf(entry.path());
+    for (const char* const folder : {"quorvane", "data", "cli"}) {
+        for (const auto& entry :
+             fs::recursive_directory_iterator(fs::path(QUORVANE_SOURCE_FOLDER) / folder)) {
+            if (entry.path().extension() == ".cpp") {
+                all += bytesOf(entry.path());
+            }
         }
     }
     return all;

@@ -1,0 +1,52 @@
+#include "cli/TemplateData.h"
+
+#include <utility>
+
+#include "cli/RenderOptions.h"
+#include "cli/UsageError.h"
+#include "cli/process.h"
+#include "data/json.h"
+#include "quorvane/base/text/TextEncoding.h"
+#include "quorvane/diagnostics/engine/DiagnosticEngine.h"
+#include "quorvane/diagnostics/engine/SourceText.h"
+
+namespace quorvane::cli {
+
+namespace {
+
+data::Locale localeOf(const std::optional<std::string>& name) {
+    if (!name) {
+        return {};
+    }
+    std::string error;
+    data::Locale locale = data::localeNamed(*name, error);
+    if (!error.empty()) {
+        throw UsageError("--locale: " + error);
+    }
+    return locale;
+}
+
+}  // namespace
+
+TemplateDataFile readTemplateData(const std::string& path,
+                                  const std::optional<std::string>& localeName,
+                                  Platform& platform) {
+    data::Locale locale = localeOf(localeName);
+    const bool isStream = path == standardStream;
+    TemplateDataFile file{.shownName = isStream ? "<stdin>" : path,
+                          .bytes = isStream ? readStandardInput() : platform.readFile(path)};
+    data::JsonError error;
+    if (std::optional<data::DataValue> record = data::readJson(file.bytes, error)) {
+        file.data.emplace(TemplateData{*std::move(record), std::move(locale)});
+        return file;
+    }
+    DiagnosticEngine engine(
+        [&](Diagnostic diagnostic) { file.diagnostics.push_back(std::move(diagnostic)); });
+    engine.reportText(
+        DiagnosticId::WrongJson,
+        SourceText(file.bytes, TextEncoding::Utf8).place(error.position, error.position + 1),
+        error.message + ".");
+    return file;
+}
+
+}  // namespace quorvane::cli
