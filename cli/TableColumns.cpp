@@ -89,6 +89,7 @@ TableColumns::TableColumns(const TableOptions& options, const std::vector<std::s
       hasLocale_(options.locale.has_value()),
       locale_(localeOf(options.locale)),
       areNamed_(options.columns.has_value()),
+      signs_(columns_.size()),
       filtered_(columns_.size()),
       cells_(columns_.size()) {
     for (std::size_t i = 0; i < names.size() && !areNamed_; ++i) {
@@ -105,6 +106,7 @@ TableColumns::TableColumns(const TableOptions& options, const std::vector<std::s
 
 void TableColumns::fit(TableSetup& setup, const std::vector<TableRecord>& records,
                        bool choosesPage) {
+    findSigns(records);
     const std::vector<data::ColumnMeasure> measures = measured(records);
     if (choosesPage && needLandscape(measures, textAreaOf(setup))) {
         setup.page += "-landscape";
@@ -173,11 +175,38 @@ std::span<const std::string_view> TableColumns::cells(std::span<const std::strin
         if (columns_[i].filters.empty()) {
             cells_[i] = value;
         } else {
-            filtered_[i] = shown(i, value);
+            filtered_[i] = shown(i, plain(i, value));
             cells_[i] = filtered_[i];
         }
     }
     return cells_;
+}
+
+void TableColumns::findSigns(const std::vector<TableRecord>& records) {
+    for (std::size_t i = 0; i < columns_.size(); ++i) {
+        for (auto record = records.begin(); record != records.end() && !signs_[i]; ++record) {
+            if (fields_[i] < record->fields.size()) {
+                signs_[i] = data::shownSign(record->fields[fields_[i]]);
+            }
+        }
+    }
+}
+
+/// The value; if a filter reads numbers and it is one with groups or a decimal comma, as in JSON.
+std::string TableColumns::plain(std::size_t column, std::string_view value) const {
+    const data::FilterKind first = columns_[column].filters.front().kind;
+    const bool readsNumber = first == data::FilterKind::Number || first == data::FilterKind::Money;
+    const std::optional<data::WrittenNumber> number = data::writtenNumber(value);
+    if (!readsNumber || !signs_[column] || !number || !number->before.empty() ||
+        !number->after.empty()) {
+        return std::string(value);
+    }
+    const std::optional<std::string> plain = data::plainNumber(*number, *signs_[column]);
+    if (!plain && *signs_[column] == data::DecimalSign::Comma) {
+        refuse("\"" + columns_[column].name + "\": \"" + std::string(value) +
+               "\" is not a number with a decimal comma, which others before it have.");
+    }
+    return plain.value_or(std::string(value));
 }
 
 std::string TableColumns::shown(std::size_t column, std::string_view value) const {

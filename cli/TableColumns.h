@@ -46,7 +46,7 @@ public:
 
     /// The texts of the cells, good until the next call. Error 5 for a value that a filter refuses.
     std::span<const std::string_view> cells(std::span<const std::string_view> fields);
-    /// The text of a column's cell for this value.
+    /// The text of a column's cell for this value, in which a number is written as in JSON.
     std::string shown(std::size_t column, std::string_view value) const;
     /// The sign before decimals, if the options name a locale.
     std::optional<data::DecimalSign> decimalSign() const;
@@ -54,6 +54,8 @@ public:
     bool hasFilters(std::size_t column) const { return !columns_[column].filters.empty(); }
 
 private:
+    void findSigns(const std::vector<TableRecord>& records);
+    std::string plain(std::size_t column, std::string_view value) const;
     std::vector<data::ColumnMeasure> measured(const std::vector<TableRecord>& records);
 
     std::vector<data::ColumnRequest> columns_;
@@ -62,6 +64,8 @@ private:
     bool areNamed_;
     // The fields that the columns show, by position.
     std::vector<std::size_t> fields_;
+    // The decimal signs that the first numbers of the columns show.
+    std::vector<std::optional<data::DecimalSign>> signs_;
     std::vector<std::string> filtered_;
     std::vector<std::string_view> cells_;
 };

@@ -127,6 +127,16 @@ std::optional<std::string> plainNumber(const WrittenNumber& number, DecimalSign 
     return rest.empty() ? std::optional(plain) : std::nullopt;
 }
 
+std::optional<DecimalSign> shownSign(std::string_view text) {
+    const std::optional<WrittenNumber> number = writtenNumber(text);
+    const bool hasPoint = number && plainNumber(*number, DecimalSign::Point);
+    const bool hasComma = number && plainNumber(*number, DecimalSign::Comma);
+    if (hasPoint == hasComma) {
+        return std::nullopt;
+    }
+    return hasPoint ? DecimalSign::Point : DecimalSign::Comma;
+}
+
 bool looksLikeNumber(std::string_view text) {
     const std::optional<WrittenNumber> number = writtenNumber(text);
     if (!number ||

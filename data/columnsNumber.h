@@ -31,6 +31,9 @@ enum class DecimalSign : std::uint8_t { Point, Comma };
 /// The number as "-1250.00"; nothing if it cannot be read so.
 std::optional<std::string> plainNumber(const WrittenNumber& number, DecimalSign sign);
 
+/// The decimal sign of a number that can be read with one of the two only.
+std::optional<DecimalSign> shownSign(std::string_view text);
+
 /// True for a number that can be read in one way or the other. A number that begins with a zero,
 /// such as "0017", is a name.
 bool looksLikeNumber(std::string_view text);

@@ -125,6 +125,25 @@ TEST_F(TableTest, ShowsTheColumnsThatItIsAskedFor) {
     EXPECT_THAT(description, HasSubstr("(columns=20% 62.35% 3cm)\n"));
 }
 
+TEST_F(TableTest, FiltersNumbersAsOfficesWriteThem) {
+    folder.write("a.csv", "name;price\na;1.234\nb;1.234,5\nc;-3\nd;\n");
+    EXPECT_EQ(textsOf(described({"a.csv", "--columns", "name,price:money:2"})),
+              "name price/a 1,234.00/b 1,234.50/c -3.00/d -/");
+    EXPECT_EQ(textsOf(described({"a.csv", "--locale=de-DE", "--columns", "price:number:1"})),
+              "price/1234,0/1234,5/-3,0/-/");
+    folder.write("b.csv", "price\n\"1,234.50\"\n7\n");
+    EXPECT_EQ(textsOf(described({"b.csv", "--columns", "price:number"})), "price/1234.50/7/");
+}
+
+TEST_F(TableTest, RefusesANumberWithAnotherDecimalSignThanThoseBefore) {
+    folder.write("a.csv", "price\n\"12,50\"\n12.50\n");
+    const ProgramResult result = run({"a.csv", "--columns", "price:money"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors,
+              "a.csv:3: error: \"price\": \"12.50\" is not a number with a decimal comma, which "
+              "others before it have.\n");
+}
+
 TEST_F(TableTest, GroupsRowsAndAddsATotal) {
     folder.write("a.csv", "kind,name,price\nglass,vase,0.10\nglass,bowl,0.20\nwood,box,5\n");
     EXPECT_EQ(textsOf(described({"a.csv", "--group-by", "kind", "--total", "price"})),

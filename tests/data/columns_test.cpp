@@ -29,6 +29,18 @@ std::string errorOf(Action action) {
     return "no error";
 }
 
+TEST(ShownSign, IsThatOfNumbersThatCanBeReadInOneWayOnly) {
+    for (const char* text : {"12,5", "1.234,50", "12,50 \u20AC", "-0,5", "1 250,75"}) {
+        EXPECT_EQ(shownSign(text), DecimalSign::Comma) << text;
+    }
+    for (const char* text : {"12.5", "1,234.50", "$ 12.50", "1'250.7"}) {
+        EXPECT_EQ(shownSign(text), DecimalSign::Point) << text;
+    }
+    for (const char* text : {"1,234", "1.234", "12", "", "vase", "12,5,0"}) {
+        EXPECT_EQ(shownSign(text), std::nullopt) << text;
+    }
+}
+
 TEST(LooksLikeNumber, IsTrueForWhatPeopleWriteAsNumbers) {
     for (const char* text :
          {"0",        "12",      "-5",           "+5",       "1.50",      "1,50",      "1,250.00",
