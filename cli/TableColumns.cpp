@@ -106,7 +106,6 @@ TableColumns::TableColumns(const TableOptions& options, const std::vector<std::s
 
 void TableColumns::fit(TableSetup& setup, const std::vector<TableRecord>& records,
                        bool choosesPage) {
-    findSigns(records);
     const std::vector<data::ColumnMeasure> measures = measured(records);
     if (choosesPage && needLandscape(measures, textAreaOf(setup))) {
         setup.page += "-landscape";
@@ -153,13 +152,6 @@ std::vector<data::ColumnMeasure> TableColumns::measured(const std::vector<TableR
     return measures;
 }
 
-std::optional<data::DecimalSign> TableColumns::decimalSign() const {
-    if (!hasLocale_) {
-        return std::nullopt;
-    }
-    return locale_.decimal == "," ? data::DecimalSign::Comma : data::DecimalSign::Point;
-}
-
 std::size_t TableColumns::columnOf(std::string_view name) const {
     return static_cast<std::size_t>(
         std::find_if(columns_.begin(), columns_.end(),
@@ -182,29 +174,43 @@ std::span<const std::string_view> TableColumns::cells(std::span<const std::strin
     return cells_;
 }
 
-void TableColumns::findSigns(const std::vector<TableRecord>& records) {
+void TableColumns::findSigns(const std::vector<TableRecord>& records, bool areJson) {
+    using enum data::DecimalSign;
     for (std::size_t i = 0; i < columns_.size(); ++i) {
+        if (areJson) {
+            signs_[i] = Point;
+        }
         for (auto record = records.begin(); record != records.end() && !signs_[i]; ++record) {
             if (fields_[i] < record->fields.size()) {
                 signs_[i] = data::shownSign(record->fields[fields_[i]]);
             }
         }
+        if (!signs_[i] && hasLocale_) {
+            signs_[i] = locale_.decimal == "," ? Comma : Point;
+        }
+        if (!signs_[i] && readsNumbers(i)) {
+            signs_[i] = Point;
+        }
     }
 }
 
-/// The value; if a filter reads numbers and it is one with groups or a decimal comma, as in JSON.
+bool TableColumns::readsNumbers(std::size_t column) const {
+    const std::vector<data::Filter>& filters = columns_[column].filters;
+    return !filters.empty() && (filters.front().kind == data::FilterKind::Number ||
+                                filters.front().kind == data::FilterKind::Money);
+}
+
+/// The value; a number that a filter reads is written as in JSON.
 std::string TableColumns::plain(std::size_t column, std::string_view value) const {
-    const data::FilterKind first = columns_[column].filters.front().kind;
-    const bool readsNumber = first == data::FilterKind::Number || first == data::FilterKind::Money;
     const std::optional<data::WrittenNumber> number = data::writtenNumber(value);
-    if (!readsNumber || !signs_[column] || !number || !number->before.empty() ||
+    if (!readsNumbers(column) || !signs_[column] || !number || !number->before.empty() ||
         !number->after.empty()) {
         return std::string(value);
     }
     const std::optional<std::string> plain = data::plainNumber(*number, *signs_[column]);
     if (!plain && *signs_[column] == data::DecimalSign::Comma) {
         refuse("\"" + columns_[column].name + "\": \"" + std::string(value) +
-               "\" is not a number with a decimal comma, which others before it have.");
+               "\" is not a number with a decimal comma, as the column or the locale has it.");
     }
     return plain.value_or(std::string(value));
 }

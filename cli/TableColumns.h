@@ -34,6 +34,14 @@ public:
     /// that are wrong or name no field.
     TableColumns(const TableOptions& options, const std::vector<std::string>& names);
 
+    /// Finds out how numbers are written in the columns, by the first records. Those of JSON have a
+    /// decimal point. Where the numbers do not show their decimal sign, it is that of the locale.
+    void findSigns(const std::vector<TableRecord>& records, bool areJson);
+    /// The decimal sign of a column; nothing where it is not known.
+    std::optional<data::DecimalSign> decimalSign(std::size_t column) const {
+        return signs_[column];
+    }
+
     /// Adds the columns with widths and alignments that suit the first records. If it may choose
     /// the page, it turns it for wide tables.
     void fit(TableSetup& setup, const std::vector<TableRecord>& records, bool choosesPage);
@@ -48,13 +56,11 @@ public:
     std::span<const std::string_view> cells(std::span<const std::string_view> fields);
     /// The text of a column's cell for this value, in which a number is written as in JSON.
     std::string shown(std::size_t column, std::string_view value) const;
-    /// The sign before decimals, if the options name a locale.
-    std::optional<data::DecimalSign> decimalSign() const;
     /// True if the column shows values in another way.
     bool hasFilters(std::size_t column) const { return !columns_[column].filters.empty(); }
 
 private:
-    void findSigns(const std::vector<TableRecord>& records);
+    bool readsNumbers(std::size_t column) const;
     std::string plain(std::size_t column, std::string_view value) const;
     std::vector<data::ColumnMeasure> measured(const std::vector<TableRecord>& records);
 
@@ -64,7 +70,7 @@ private:
     bool areNamed_;
     // The fields that the columns show, by position.
     std::vector<std::size_t> fields_;
-    // The decimal signs that the first numbers of the columns show.
+    // The decimal signs of the columns.
     std::vector<std::optional<data::DecimalSign>> signs_;
     std::vector<std::string> filtered_;
     std::vector<std::string_view> cells_;

@@ -110,7 +110,7 @@ void TableJob::writeTable() {
                                 false);
     }
     const std::unique_ptr<TableTarget> target = asUsage([&] {
-        findFields(records.names());
+        findFields(records);
         return targetOf(setupOf(records));
     });
     addRecords(records, *target);
@@ -123,8 +123,10 @@ void TableJob::writeTable() {
     }
 }
 
-void TableJob::findFields(const std::vector<std::string>& names) {
+void TableJob::findFields(const TableRecords& records) {
+    const std::vector<std::string>& names = records.names();
     columns_.emplace(options_, names);
+    columns_->findSigns(records.first(), records.areJson());
     fieldCount_ = names.size();
     if (options_.groupBy) {
         groupField_ = fieldNamed(*options_.groupBy, names);
@@ -135,7 +137,7 @@ void TableJob::findFields(const std::vector<std::string>& names) {
             throw UsageError("the table has no column \"" + name + "\" for a total");
         }
         totals_.push_back(
-            {column, fieldNamed(name, names), data::ColumnTotal(columns_->decimalSign())});
+            {column, fieldNamed(name, names), data::ColumnTotal(columns_->decimalSign(column))});
     }
 }
 
@@ -219,7 +221,7 @@ void TableJob::addTotals(TableTarget& target) {
         return;
     }
     std::vector<std::string> texts(columns_->count());
-    texts.front() = "Total";
+    texts.front() = options_.totalLabel;
     for (const Total& total : totals_) {
         try {
             texts[total.column] = columns_->hasFilters(total.column)

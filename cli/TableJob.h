@@ -43,7 +43,7 @@ private:
     void writeTable();
     TableSetup setupOf(const TableRecords& records);
     std::unique_ptr<TableTarget> targetOf(const TableSetup& setup);
-    void findFields(const std::vector<std::string>& names);
+    void findFields(const TableRecords& records);
     void addRecords(TableRecords& records, TableTarget& target);
     void addRecord(std::span<const std::string_view> fields, TableTarget& target);
     void addTotals(TableTarget& target);

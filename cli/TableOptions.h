@@ -30,6 +30,8 @@ struct TableOptions {
     std::optional<std::string> border;
     std::optional<std::string> groupBy;
     std::vector<std::string> totals;
+    /// What stands in the first cell of the row with the sums.
+    std::string totalLabel = "Total";
     std::optional<std::size_t> limit;
     /// Leave rows out that cannot be read.
     bool keepGoing = false;

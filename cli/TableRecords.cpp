@@ -58,8 +58,9 @@ bool isJson(const TableOptions& options, data::RecordsText& text) {
            (text.view()[first] == '[' || text.view()[first] == '{');
 }
 
-std::unique_ptr<data::RecordSource> sourceOf(const TableOptions& options, data::RecordsText& text) {
-    if (isJson(options, text)) {
+std::unique_ptr<data::RecordSource> sourceOf(const TableOptions& options, data::RecordsText& text,
+                                             bool areJson) {
+    if (areJson) {
         return std::make_unique<data::JsonRecords>(text);
     }
     std::optional<char> delimiter;
@@ -75,7 +76,8 @@ TableRecords::TableRecords(const TableOptions& options, Report report)
     : options_(options),
       report_(std::move(report)),
       text_(open(options.input), options.encoding),
-      source_(sourceOf(options, text_)) {
+      areJson_(isJson(options, text_)),
+      source_(sourceOf(options, text_, areJson_)) {
     readFirst();
 }
 

@@ -33,6 +33,7 @@ public:
 
     const std::vector<std::string>& names() const noexcept { return source_->names(); }
     const std::vector<TableRecord>& first() const noexcept { return first_; }
+    bool areJson() const noexcept { return areJson_; }
 
     /// The next record from the first one on; false at the end. The fields are good until the next
     /// call.
@@ -46,6 +47,7 @@ private:
     const TableOptions& options_;
     Report report_;
     data::RecordsText text_;
+    bool areJson_;
     std::unique_ptr<data::RecordSource> source_;
     std::vector<TableRecord> first_;
     std::size_t taken_ = 0;

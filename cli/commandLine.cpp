@@ -584,10 +584,11 @@ void addTableOptions(CLI::App* table, TableOptions& options) {
     add("--group-by", options.groupBy, "FIELD", "A heading above the rows that share this field");
     table
         ->add_option("--total", storeIn(options.totals),
-                     "A row at the end with the sum of this column")
+                     "A row at the end with the sum of this column; can be repeated")
         ->type_name("FIELD")
         ->expected(1)
         ->take_all();
+    add("--total-label", options.totalLabel, "TEXT", "What that row begins with; Total by default");
     add("--limit", options.limit, "N", "Stop after so many rows")
         ->check(CLI::Validator(wrongCount, ""));
     table->add_flag("--keep-going", options.keepGoing, "Leave out rows that have errors");

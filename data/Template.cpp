@@ -242,28 +242,54 @@ private:
                 "No section is open here that {{/" + std::string(tag.content) + "}} could close.");
             return;
         }
-        const Open open = open_.back();
-        open_.pop_back();
-        std::string error;
-        if (tagQuery(open.tag.content, error).written != tag.content) {
-            report(DiagnosticId::WrongTag, tag.whole,
-                   "This closes another section than " + std::string(open.tag.whole) +
-                       ", which is open; write {{/" +
-                       std::string(tagQuery(open.tag.content, error).written) + "}}.");
+        if (!opens(open_.back().tag, tag.content) && isOpen(tag.content)) {
+            while (!opens(open_.back().tag, tag.content)) {
+                const std::string name(nameOf(open_.back().tag));
+                report(DiagnosticId::WrongTag, open_.back().tag.whole,
+                       "The section that begins here does not end; write {{/" + name +
+                           "}} before {{/" + std::string(tag.content) + "}}.");
+                endInnermost();
+            }
         }
-        result_.steps[open.step].other = result_.steps.size();
-        add({.kind = TemplateStep::Kind::SectionEnd, .other = open.step});
+        if (const TemplateTag& open = open_.back().tag; !opens(open, tag.content)) {
+            report(DiagnosticId::WrongTag, tag.whole,
+                   "This closes another section than " + std::string(open.whole) +
+                       ", which is open; give both the same name.");
+        }
+        endInnermost();
+    }
+
+    static std::string_view nameOf(const TemplateTag& opener) {
+        std::string error;
+        return tagQuery(opener.content, error).written;
+    }
+
+    static bool opens(const TemplateTag& opener, std::string_view name) {
+        return nameOf(opener) == name;
+    }
+
+    /// True for the name of one of the innermost sections of this text or value. Looking at all
+    /// would take too long where everything is wrong.
+    bool isOpen(std::string_view name) const {
+        constexpr std::size_t most = 32;
+        const std::size_t first = std::max(base_, open_.size() - std::min(open_.size(), most));
+        return std::any_of(open_.begin() + static_cast<std::ptrdiff_t>(first), open_.end(),
+                           [&](const Open& open) { return opens(open.tag, name); });
+    }
+
+    void endInnermost() {
+        const std::size_t step = open_.back().step;
+        open_.pop_back();
+        result_.steps[step].other = result_.steps.size();
+        add({.kind = TemplateStep::Kind::SectionEnd, .other = step});
     }
 
     /// Closes the sections that a text or a value leaves open, each of which is an error.
     void leaveUnclosed() {
         while (open_.size() > base_) {
-            const Open open = open_.back();
-            open_.pop_back();
-            report(DiagnosticId::WrongTag, open.tag.whole,
+            report(DiagnosticId::WrongTag, open_.back().tag.whole,
                    "The section that begins here does not end.");
-            result_.steps[open.step].other = result_.steps.size();
-            add({.kind = TemplateStep::Kind::SectionEnd, .other = open.step});
+            endInnermost();
         }
     }
 

@@ -398,8 +398,12 @@ void TemplateFilling::reportMissing(const TemplateQuery& query, const Found& fou
 }
 
 std::string TemplateFilling::missingHint(const TemplateQuery& query, const Found& found) const {
-    std::string optional =
-        "write {{" + std::string(query.query.written) + "|default:…}} for what can be missing";
+    const std::string written(query.query.written);
+    const bool isSection = query.tag.starts_with("{{#") || query.tag.starts_with("{{^");
+    std::string optional = isSection
+                               ? "write " + std::string(query.tag.substr(0, 3)) + written +
+                                     "|default:}} for a section whose name can be missing"
+                               : "write {{" + written + "|default:…}} for what can be missing";
     if (found.value || !found.in) {
         return optional;
     }
@@ -409,7 +413,17 @@ std::string TemplateFilling::missingHint(const TemplateQuery& query, const Found
     }
     const std::vector<std::string_view> names(found.in->names.begin(), found.in->names.end());
     if (std::string guess = didYouMean(found.name, names); !guess.empty()) {
-        return guess;
+        return isSection ? guess + " If not, " + optional : guess;
+    }
+    if (const std::size_t colon = written.find(':'); colon != std::string::npos) {
+        return "filters stand after |: {{" + written.substr(0, colon) + "|" +
+               written.substr(colon + 1) + "}}";
+    }
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const DataValue& inner = found.in->items[i];
+        if (inner.isObject() && inner.find(found.name)) {
+            return "did you mean " + std::string(names[i]) + "." + std::string(found.name) + "?";
+        }
     }
     const TagPath& path = query.query.path;
     for (std::size_t outward = path.outward + 1; path.names.size() == 1; ++outward) {

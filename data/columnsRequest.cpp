@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "quorvane/base/values/RtfError.h"
+#include "quorvane/diagnostics/engine/nearestWord.h"
 #include "quorvane/driver/extendedValues.h"
 
 namespace quorvane::data {
@@ -82,6 +83,19 @@ private:
     std::string_view rest_;
 };
 
+/// A width without the blank that some languages have before "%".
+std::string withoutBlank(std::string_view text) {
+    std::string width(text);
+    if (width.ends_with(" %")) {
+        width.erase(width.size() - 2, 1);
+    }
+    return width;
+}
+
+bool isBareNumber(std::string_view text) {
+    return !text.empty() && text.find_first_not_of("0123456789.") == std::string_view::npos;
+}
+
 bool looksLikeWidth(std::string_view text) {
     const std::size_t end = text.find_first_not_of("0123456789.");
     const std::string_view unit = end == std::string_view::npos ? "" : text.substr(end);
@@ -104,10 +118,16 @@ void takeProperty(Parts& parts, ColumnRequest& column) {
                      [&](const NamedAlignment& entry) { return entry.name == part.text; });
     if (!part.isQuoted && part.text == "auto") {
         column.width.clear();
-    } else if (!part.isQuoted && looksLikeWidth(part.text)) {
-        column.width = requiredWidth(part.text);
+    } else if (!part.isQuoted && looksLikeWidth(withoutBlank(part.text))) {
+        column.width = requiredWidth(withoutBlank(part.text));
     } else if (!part.isQuoted && alignment != std::end(alignments)) {
         column.align = alignment->align;
+    } else if (!part.isQuoted && isBareNumber(part.text)) {
+        const std::string guess = didYouMean(column.heading.value_or(std::string()), filterNames);
+        refuse("\"" + part.text + "\" after the column \"" + column.name + "\" is not a width; " +
+               (guess.empty() ? "write " + part.text + "% or " + part.text +
+                                    "mm, or put a heading into quotation marks."
+                              : guess));
     } else if (column.heading) {
         refuse("The column \"" + column.name + "\" has two headings, \"" + *column.heading +
                "\" and \"" + part.text +

@@ -142,10 +142,13 @@ void appendLiteralText(std::string_view text, const CharacterStyleWords& wordsOf
     appendRtfText(text.substr(at), rtf);
 }
 
-std::vector<std::string_view> inlineStyleNames(std::string_view text) {
+std::vector<std::string_view> inlineStyleNames(std::string_view text,
+                                               std::span<const TextRange> data) {
     std::vector<std::string_view> names;
+    DataParts dataParts(data);
     for (std::size_t at = text.find('<'); at != nowhere; at = text.find('<', at + 1)) {
-        if (const std::string_view name = nameAfter(text, at); !name.empty()) {
+        const std::string_view name = nameAfter(text, at);
+        if (!name.empty() && !dataParts.beginBefore(at, at + 1 + name.size())) {
             names.push_back(name);
         }
     }

@@ -21,8 +21,10 @@ using CharacterStyleWords = std::function<std::string_view(std::string_view name
 void appendLiteralText(std::string_view text, const CharacterStyleWords& wordsOf, std::string& rtf,
                        std::span<const TextRange> data = {});
 
-/// The names after each "<" of a literal text that can open a style.
-std::vector<std::string_view> inlineStyleNames(std::string_view text);
+/// The names after each "<" of a literal text that can open a style. None is in a part that comes
+/// from data.
+std::vector<std::string_view> inlineStyleNames(std::string_view text,
+                                               std::span<const TextRange> data = {});
 
 /// The text of a value between its marks: of lines between them, without the line breaks beside the
 /// marks and without the blanks that the line of the last mark begins with, and LF between the

@@ -140,8 +140,26 @@ TEST_F(TableTest, RefusesANumberWithAnotherDecimalSignThanThoseBefore) {
     const ProgramResult result = run({"a.csv", "--columns", "price:money"});
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.errors,
-              "a.csv:3: error: \"price\": \"12.50\" is not a number with a decimal comma, which "
-              "others before it have.\n");
+              "a.csv:3: error: \"price\": \"12.50\" is not a number with a decimal comma, as the "
+              "column or the locale has it.\n");
+}
+
+TEST_F(TableTest, ReadsTheNumbersOfAColumnInOneWay) {
+    folder.write("a.csv", "n,p\na,1.500\nb,10.255\n");
+    EXPECT_EQ(textsOf(described({"a.csv", "--columns", "p:number:3", "--total=p"})),
+              "p/1.500/10.255/11.755/");
+    EXPECT_EQ(
+        textsOf(described({"a.csv", "--columns", "n,p:number:1", "--total=p", "--locale=de-DE"})),
+        "n p/a 1500,0/b 10255,0/Total 11755,0/");
+    folder.write("a.json", R"([{"p":1249.5},{"p":1.125}])");
+    EXPECT_EQ(textsOf(described({"a.json", "--columns", "p:money", "--total=p", "--locale=de-DE"})),
+              "p/1.249,50/1,13/1.250,63/");
+}
+
+TEST_F(TableTest, NamesTheRowOfTotalsAsItIsAskedFor) {
+    folder.write("a.csv", "name,price\na,1\n");
+    EXPECT_EQ(textsOf(described({"a.csv", "--total=price", "--total-label=Summe"})),
+              "name price/a 1/Summe 1/");
 }
 
 TEST_F(TableTest, GroupsRowsAndAddsATotal) {

@@ -46,6 +46,18 @@ TEST_F(TemplateTest, IsADescriptionAsAnyOtherWithoutData) {
     EXPECT_THAT(result.output, HasSubstr("Dear \\{\\{name\\}\\},\\cell"));
 }
 
+TEST_F(TemplateTest, IsWarnedAboutWhereItsInlineStylesStand) {
+    folder.write("a.rtfspec", templateOf(paragraphOf("{{name}} <stong=x> <strong=y") + "\n" +
+                                         paragraphOf("{{name}}")));
+    folder.write("a.json", R"({"name":"<stong=data> <strong=open"})");
+    folder.write("a.rtfss", "; quorvane 2\n{name: strong; style-def: cs; bold}\n");
+    const ProgramResult result = run({"check", "-s", "a.rtfss", "--data", "a.json", "a.rtfspec"});
+    EXPECT_THAT(result.output, HasSubstr("a.rtfspec:6:5: warning: The stylesheet has no character "
+                                         "style stong, so this is shown as text."));
+    EXPECT_THAT(result.output, HasSubstr("a.rtfspec:6:5: warning: The inline style strong is not"));
+    EXPECT_THAT(result.output, HasSubstr("2 warnings in 2 files"));
+}
+
 TEST_F(TemplateTest, TakesDataFromStandardInput) {
     start.input = R"({"name":"x"})";
     const ProgramResult result = run({"render", "--data", "-", "letter.rtfspec", "-o", "-"});

@@ -41,6 +41,19 @@ TEST(ShownSign, IsThatOfNumbersThatCanBeReadInOneWayOnly) {
     }
 }
 
+TEST(ColumnRequests, TakeABlankBeforeAPercentSign) {
+    EXPECT_EQ(columnRequests("price:20 %").front().width, "20%");
+}
+
+TEST(ColumnRequests, TakeNoBareNumberForAHeading) {
+    EXPECT_EQ(errorOf([] { columnRequests("price:50"); }),
+              "\"50\" after the column \"price\" is not a width; write 50% or 50mm, or put a "
+              "heading into quotation marks.");
+    EXPECT_EQ(errorOf([] { columnRequests("price:monney:2"); }),
+              "\"2\" after the column \"price\" is not a width; did you mean money?");
+    EXPECT_EQ(columnRequests("price:\"50\"").front().heading, "50");
+}
+
 TEST(LooksLikeNumber, IsTrueForWhatPeopleWriteAsNumbers) {
     for (const char* text :
          {"0",        "12",      "-5",           "+5",       "1.50",      "1,50",      "1,250.00",

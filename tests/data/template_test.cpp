@@ -265,8 +265,18 @@ TEST(MissingNames, AreReportedOnceForEachTag) {
 
 TEST(MissingNames, AreErrorsInSectionsToo) {
     EXPECT_THAT(errorsIn("{{#lnes}}x{{/lnes}}{{^b}}{{/b}}", R"({"lines":[]})"),
-                ElementsAre("6:5: lnes is not in the data. (did you mean lines?)",
-                            HasSubstr("b is not in the data.")));
+                ElementsAre("6:5: lnes is not in the data. (did you mean lines? If not, write "
+                            "{{#lnes|default:}} for a section whose name can be missing)",
+                            "6:24: b is not in the data. (write {{^b|default:}} for a section "
+                            "whose name can be missing)"));
+}
+
+TEST(MissingNames, MayHoldAFilterOrStandInAnotherObject) {
+    EXPECT_THAT(errorsIn("{{sum:money}}", R"({"sum":1})"),
+                ElementsAre("6:5: sum:money is not in the data. (filters stand after |: "
+                            "{{sum|money}})"));
+    EXPECT_THAT(errorsIn("{{net}}", R"({"invoice":{"net":1}})"),
+                ElementsAre("6:5: net is not in the data. (did you mean invoice.net?)"));
 }
 
 TEST(MissingNames, IncludeNull) {
@@ -340,10 +350,12 @@ TEST(WrongTags, SayWhatToWrite) {
 
 TEST(WrongTags, AreEndsOfOtherSections) {
     EXPECT_THAT(errorsIn("{{#a}}{{#b}}{{/a}}{{/b}}", R"({"a":1,"b":1})"),
-                ElementsAre("6:17: This closes another section than {{#b}}, which is open; write "
-                            "{{/b}}.",
-                            "6:23: This closes another section than {{#a}}, which is open; write "
-                            "{{/a}}."));
+                ElementsAre("6:11: The section that begins here does not end; write {{/b}} before "
+                            "{{/a}}.",
+                            "6:23: No section is open here that {{/b}} could close."));
+    EXPECT_THAT(errorsIn("{{#a}}{{/b}}", R"({"a":1})"),
+                ElementsAre("6:11: This closes another section than {{#a}}, which is open; give "
+                            "both the same name."));
 }
 
 TEST(WrongTags, AreFiltersOfSections) {

@@ -21,8 +21,8 @@ void StyleUses::findCellStyle(const Leaf& leaf) {
     }
     styles_.markUsed(StyleKind::Cell, name);
     if (styles_.lacks(StyleKind::Cell, name)) {
-        engine_.report(DiagnosticId::UnknownCellStyle, source_.placeOf(leaf.text), {name},
-                       hintFor(StyleKind::Cell, name));
+        engine_.report(DiagnosticId::UnknownCellStyle, source_.placeOf(leaf.written(leaf.text)),
+                       {name}, hintFor(StyleKind::Cell, name));
     }
 }
 
@@ -35,29 +35,40 @@ void StyleUses::findParagraphStyle(const Leaf& leaf) {
     if (styles_.lacks(StyleKind::Paragraph, name)) {
         const StyleList& list = stylesOf(styles_, StyleKind::Paragraph);
         const int used = formOf(styles_).unknown;
-        engine_.report(DiagnosticId::UnknownParagraphStyle, source_.placeOf(leaf.text),
+        engine_.report(DiagnosticId::UnknownParagraphStyle,
+                       source_.placeOf(leaf.written(leaf.text)),
                        {name, used == 0 ? "the paragraph gets no format"
                                         : list.at(used).name + " is used instead"},
                        hintFor(StyleKind::Paragraph, name));
     }
 }
 
-void StyleUses::findLiteralInlineStyles(std::string_view text) {
-    findUnclosedInlineStyles(text);
-    for (const std::string_view name : inlineStyleNames(text)) {
+void StyleUses::findLiteralInlineStyles(const Leaf& leaf) {
+    const std::vector<std::string_view> names = inlineStyleNames(leaf.text, leaf.data());
+    for (const std::string_view name : unclosedInlineStyles(leaf.text)) {
+        const bool isWritten = std::any_of(names.begin(), names.end(), [=](std::string_view each) {
+            return each.data() == name.data();
+        });
+        if (isWritten) {
+            reportUnclosed(name, leaf.written(name));
+        }
+    }
+    for (const std::string_view name : names) {
         styles_.markUsed(StyleKind::Character, name);
         if (!styles_.lacks(StyleKind::Character, name)) {
             continue;
         }
         if (Hint hint = hintFor(StyleKind::Character, name); !hint.empty()) {
-            engine_.report(DiagnosticId::InlineStyleAsText, source_.placeOf(name), {name},
-                           std::move(hint));
+            engine_.report(DiagnosticId::InlineStyleAsText, source_.placeOf(leaf.written(name)),
+                           {name}, std::move(hint));
         }
     }
 }
 
 void StyleUses::findInlineStyles(std::string_view text) {
-    findUnclosedInlineStyles(text);
+    for (const std::string_view name : unclosedInlineStyles(text)) {
+        reportUnclosed(name, name);
+    }
     const InlineTokens tokens(text);
     for (std::size_t open = text.find('<'); open != std::string_view::npos;
          open = text.find('<', open + 1)) {
@@ -75,7 +86,7 @@ void StyleUses::findInlineStyles(std::string_view text) {
 }
 
 /// Without a ">" that ends it, an inline style is plain text.
-void StyleUses::findUnclosedInlineStyles(std::string_view text) {
+std::vector<std::string_view> StyleUses::unclosedInlineStyles(std::string_view text) const {
     std::vector<std::string_view> open;
     for (std::size_t at = text.find_first_of("<>"); at != std::string_view::npos;
          at = text.find_first_of("<>", at + 1)) {
@@ -90,11 +101,13 @@ void StyleUses::findUnclosedInlineStyles(std::string_view text) {
     }
     constexpr std::size_t maxReported = 10;
     open.resize(std::min(open.size(), maxReported));
-    for (const std::string_view name : open) {
-        styles_.markUsed(StyleKind::Character, name);
-        engine_.report(DiagnosticId::UnclosedInlineStyle, source_.placeOf(name), {name},
-                       "write a > after the text: <" + std::string(name) + "=Total>");
-    }
+    return open;
+}
+
+void StyleUses::reportUnclosed(std::string_view name, std::string_view place) {
+    styles_.markUsed(StyleKind::Character, name);
+    engine_.report(DiagnosticId::UnclosedInlineStyle, source_.placeOf(place), {name},
+                   "write a > after the text: <" + std::string(name) + "=Total>");
 }
 
 Hint StyleUses::hintFor(StyleKind kind, std::string_view name) {

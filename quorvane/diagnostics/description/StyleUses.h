@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "quorvane/diagnostics/KnownStyles.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
@@ -19,9 +20,9 @@ public:
 
     void findCellStyle(const Leaf& leaf);
     void findParagraphStyle(const Leaf& leaf);
-    /// The inline styles in a literal text, a view into the source. What opens no style is text
-    /// there; one that was most likely meant to open a style is reported.
-    void findLiteralInlineStyles(std::string_view text);
+    /// The inline styles in a literal text. What opens no style is text there; one that was most
+    /// likely meant to open a style is reported.
+    void findLiteralInlineStyles(const Leaf& leaf);
     /// The inline styles in the text of a paragraph, a view into the source.
     void findInlineStyles(std::string_view text);
 
@@ -31,7 +32,8 @@ public:
     Hint hintFor(StyleKind kind, std::string_view name);
 
 private:
-    void findUnclosedInlineStyles(std::string_view text);
+    std::vector<std::string_view> unclosedInlineStyles(std::string_view text) const;
+    void reportUnclosed(std::string_view name, std::string_view place);
 
     // Looking for the style that was meant takes a while.
     static constexpr int maxHints = 1000;

@@ -68,7 +68,7 @@ void findLiteralTextWarnings(const DescriptionNode& doc, StyleUses& uses) {
             uses.findParagraphStyle(*style);
         }
         if (const Leaf* const text = soundLeaf(node, DescriptionKey::ParaText)) {
-            uses.findLiteralInlineStyles(text->text);
+            uses.findLiteralInlineStyles(*text);
         }
     });
 }
