@@ -32,6 +32,8 @@ struct RenderOptions {
     std::optional<std::string> output;
     /// The folder that the documents go to, instead of beside their descriptions.
     std::optional<std::string> outputFolder;
+    /// The output may replace a description or a stylesheet that is not an input.
+    bool replacesSources = false;
     /// Create the folder that the documents go to.
     bool makesOutputFolder = false;
     /// Repair and check the descriptions before building.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <numeric>
 
 #include "data/columnsMeasure.h"
 #include "quorvane/base/values/RtfError.h"
@@ -50,6 +51,21 @@ std::string percent(double share) {
 
 double textAreaOf(const TableSetup& setup) {
     return pageSizeNamed(setup.page).width - 2.0 * lengthOf(setup.margin);
+}
+
+/// The widths, each at least as large as `least` if there is room for that.
+std::vector<double> withoutTooNarrow(std::vector<double> widths, double least) {
+    const double sum = std::accumulate(widths.begin(), widths.end(), 0.0);
+    const double rest = sum - static_cast<double>(widths.size()) * least;
+    const bool areWide =
+        std::all_of(widths.begin(), widths.end(), [=](double width) { return width >= least; });
+    if (areWide || rest <= 0) {
+        return widths;
+    }
+    for (double& width : widths) {
+        width = least + rest * width / sum;
+    }
+    return widths;
 }
 
 /// What a column with a width takes of a text area.
@@ -120,7 +136,8 @@ void TableColumns::fit(TableSetup& setup, const std::vector<TableRecord>& record
             left -= takenOf(columns_[i].width, area);
         }
     }
-    const std::vector<double> widths = data::fittedWidths(flexible, std::max(left, 1.0));
+    const std::vector<double> widths =
+        withoutTooNarrow(data::fittedWidths(flexible, std::max(left, 1.0)), area / 100);
     auto width = widths.begin();
     for (std::size_t i = 0; i < columns_.size(); ++i) {
         const data::ColumnRequest& column = columns_[i];
@@ -196,8 +213,11 @@ void TableColumns::findSigns(const std::vector<TableRecord>& records, bool areJs
 
 bool TableColumns::readsNumbers(std::size_t column) const {
     const std::vector<data::Filter>& filters = columns_[column].filters;
-    return !filters.empty() && (filters.front().kind == data::FilterKind::Number ||
-                                filters.front().kind == data::FilterKind::Money);
+    const auto first = std::find_if(filters.begin(), filters.end(), [](const data::Filter& filter) {
+        return filter.kind != data::FilterKind::Default;
+    });
+    return first != filters.end() &&
+           (first->kind == data::FilterKind::Number || first->kind == data::FilterKind::Money);
 }
 
 /// The value; a number that a filter reads is written as in JSON.

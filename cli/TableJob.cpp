@@ -22,6 +22,7 @@ Assignment assignmentOf(const TableOptions& options) {
     render.descriptions = {options.input.empty() ? standardStream : options.input};
     render.styleSheet = options.styleSheet;
     render.output = options.output;
+    render.replacesSources = !isDocument;
     if (!render.output && !isDocument) {
         render.output = standardStream;
     }

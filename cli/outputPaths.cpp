@@ -190,7 +190,9 @@ std::vector<Assignment> assignOutputs(const RenderOptions& options) {
             if (const std::string* input = linkedInput(output, *inputs)) {
                 throw wouldReplaceInput(description, *input);
             }
-            requireNoSource(description, output);
+            if (!options.replacesSources) {
+                requireNoSource(description, output);
+            }
         }
         const auto [other, isNew] = descriptionsByOutput.emplace(file, description);
         if (!isNew) {

@@ -25,6 +25,7 @@ constexpr std::size_t maxPartialDepth = 50;
 // Partials that take others in many times would take memory without end.
 constexpr std::size_t maxPartials = 10'000;
 constexpr std::size_t maxSteps = 1'000'000;
+constexpr std::size_t maxPartialBytes = std::size_t{64} * 1024 * 1024;
 
 bool isStructure(TagKind kind) {
     return kind != TagKind::Value && kind != TagKind::Raw;
@@ -280,7 +281,9 @@ private:
     void endInnermost() {
         const std::size_t step = open_.back().step;
         open_.pop_back();
-        result_.steps[step].other = result_.steps.size();
+        if (step < result_.steps.size()) {
+            result_.steps[step].other = result_.steps.size();
+        }
         add({.kind = TemplateStep::Kind::SectionEnd, .other = step});
     }
 
@@ -316,6 +319,12 @@ private:
         const TextEncoding encoding = encodingOf(text, EncodingChoice::Utf8);
         if (findNotUtf8(text)) {
             report(DiagnosticId::WrongPartial, tag.whole, name + " is not UTF-8.");
+            return;
+        }
+        partialBytes_ += text.size();
+        if (partialBytes_ > maxPartialBytes) {
+            report(DiagnosticId::WrongPartial, tag.whole,
+                   "The partials have more than 64 MB together; take in fewer.");
             return;
         }
         const std::string_view outermost = source_ == 0 ? tag.whole : result_.sources[source_].tag;
@@ -356,7 +365,8 @@ private:
             result_.steps.push_back(step);
         } else if (!std::exchange(isTooLong_, true)) {
             report(DiagnosticId::WrongPartial, result_.sources[source_].tag,
-                   "With all its partials, the template is too long.");
+                   "With all its partials, the template is longer than " +
+                       std::to_string(maxSteps) + " lines and tags; take in fewer.");
         }
     }
 
@@ -382,6 +392,7 @@ private:
     // Of the partials that are being read.
     std::vector<std::string> names_;
     bool isTooLong_ = false;
+    std::size_t partialBytes_ = 0;
 };
 
 }  // namespace

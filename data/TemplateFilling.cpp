@@ -210,8 +210,11 @@ void TemplateFilling::beginLeaf(const TemplateStep& step) {
 
 void TemplateFilling::endLeaf() {
     Pending& leaf = pending_.back();
-    // Each line of a value of several lines ends with a line break, the last one not.
-    if (leaf.isBlock && texts_.size() > leaf.text) {
+    // Each line of a value of several lines ends with a line break of the template, the last one
+    // not. A section can have left it out.
+    const std::size_t size = texts_.size() - leaf.text;
+    const bool endsInData = ranges_.size() > leaf.range && ranges_.back().end == size;
+    if (leaf.isBlock && size > 0 && texts_.back() == '\n' && !endsInData) {
         texts_.pop_back();
     }
     leaf.textEnd = texts_.size();

@@ -39,8 +39,17 @@ public:
     explicit Parts(std::string_view text) : rest_(text) {}
 
     Part take() { return rest_.starts_with('"') ? takeQuoted() : takeUpTo(":,"); }
-    /// All up to the next column.
-    Part takeColumn() { return takeUpTo(","); }
+    /// All up to the next column: a comma that is not in quotation marks.
+    Part takeColumn() {
+        bool isQuoted = false;
+        std::size_t end = 0;
+        for (; end < rest_.size() && (isQuoted || rest_[end] != ','); ++end) {
+            isQuoted = isQuoted != (rest_[end] == '"');
+        }
+        Part part{std::string(rest_.substr(0, end))};
+        rest_.remove_prefix(end);
+        return part;
+    }
 
     /// Takes the sign if it is the next character.
     bool takeSign(char sign) {

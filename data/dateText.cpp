@@ -134,6 +134,10 @@ bool readPattern(std::string_view pattern, OnField field, OnText literal) {
             const std::size_t end = std::min(pattern.find('\'', 1), pattern.size());
             literal(end == 1 ? pattern.substr(0, 1) : pattern.substr(1, end - 1));
             pattern.remove_prefix(std::min(end + 1, pattern.size()));
+            // Two apostrophes are one, between others too.
+            if (end > 1 && pattern.starts_with('\'')) {
+                literal(pattern.substr(0, 1));
+            }
         } else if (isLetter(pattern.front())) {
             const std::string_view run = runOf(pattern);
             if (!field(run)) {

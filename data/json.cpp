@@ -12,14 +12,6 @@ namespace quorvane::data {
 
 namespace {
 
-/// What the parser says without the names of its parts: "unexpected '}'; expected a value".
-std::string reasonIn(std::string_view text) {
-    constexpr std::string_view beforeReason = " - ";
-    const std::size_t begin = text.find(beforeReason);
-    return std::string(begin == std::string_view::npos ? text
-                                                       : text.substr(begin + beforeReason.size()));
-}
-
 /// Builds the value from what the parser reads, without a call for each level.
 class ValueBuilder : public nlohmann::json_sax<nlohmann::json> {
 public:
@@ -71,7 +63,7 @@ public:
     bool parse_error(std::size_t position, const std::string&,
                      const nlohmann::detail::exception& exception) override {
         error_.position = position == 0 ? 0 : position - 1;
-        error_.message = "This is not JSON: " + reasonIn(exception.what());
+        error_.message = "This is not JSON: " + jsonReason(exception.what());
         return false;
     }
 
@@ -145,6 +137,31 @@ private:
 };
 
 }  // namespace
+
+std::string jsonReason(std::string_view what) {
+    constexpr std::pair<std::string_view, std::string_view> advice[] = {
+        {"unexpected '}'; expected string literal", "remove the comma before it"},
+        {"unexpected ']'", "remove the comma before it, or the last value is missing"},
+        {"unexpected string literal; expected '}'", "a comma is missing before it"},
+        {"unexpected '{'; expected ']'", "a comma is missing before it"},
+    };
+    const auto skip = [&](std::string_view mark) {
+        const std::size_t at = what.find(mark);
+        what.remove_prefix(at == std::string_view::npos ? 0 : at + mark.size());
+    };
+    skip("] ");
+    if (what.starts_with("number overflow")) {
+        skip("parsing ");
+        return "the number " + std::string(what) + " is too large";
+    }
+    skip(" - ");
+    for (const auto& [reason, hint] : advice) {
+        if (what.starts_with(reason)) {
+            return std::string(what) + "; " + std::string(hint);
+        }
+    }
+    return std::string(what);
+}
 
 std::optional<DataValue> readJson(std::string_view text, JsonError& error) {
     error = {};

@@ -17,6 +17,10 @@ struct JsonError {
     std::string message = {};
 };
 
+/// What an exception of the JSON parser says, in words for people who write JSON: a sentence
+/// without a full stop, to stand after a colon.
+std::string jsonReason(std::string_view what);
+
 /// How deep objects and lists can be nested.
 inline constexpr std::size_t maxJsonDepth = 500;
 

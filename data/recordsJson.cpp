@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
+#include "data/json.h"
+
 namespace quorvane::data {
 
 namespace {
@@ -18,13 +20,6 @@ bool isBlank(char character) {
 
 std::int64_t linesIn(std::string_view text) {
     return std::count(text.begin(), text.end(), '\n');
-}
-
-/// What the parser says, without where it says it from.
-std::string reasonOf(const json::exception& error) {
-    const std::string_view text = error.what();
-    const std::size_t colon = text.find(": ");
-    return std::string(colon == std::string_view::npos ? text : text.substr(colon + 2));
 }
 
 }  // namespace
@@ -82,7 +77,7 @@ public:
 
     bool parse_error(std::size_t position, const std::string&, const json::exception& error) {
         errorPosition_ = position;
-        error_ = "This is not JSON: " + reasonOf(error);
+        error_ = "This is not JSON: " + jsonReason(error.what());
         return false;
     }
 

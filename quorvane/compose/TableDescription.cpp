@@ -5,8 +5,10 @@
 #include <utility>
 
 #include "quorvane/base/text/trimming.h"
+#include "quorvane/base/text/utf8.h"
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/driver/extendedValues.h"
+#include "quorvane/driver/literalText.h"
 #include "quorvane/rtf/escape.h"
 
 namespace quorvane {
@@ -24,6 +26,9 @@ constexpr std::string_view line = "thin";
 }
 
 std::string leaf(std::string_view key, std::string_view value) {
+    if (value.find_first_of("\r\n") != std::string_view::npos) {
+        refuse("A setting of a table has no line break; " + std::string(key) + " has one.");
+    }
     return "(" + std::string(key) + "=" + std::string(value) + ")\n";
 }
 
@@ -32,17 +37,50 @@ std::string leafUnlessNone(std::string_view key, std::string_view value) {
     return value.empty() || value == "none" ? std::string() : leaf(key, value);
 }
 
-/// A text as the value of a leaf: between marks if it would not be kept otherwise.
-std::string textLeaf(std::string_view text) {
-    const bool hasLines = text.find_first_of("\r\n") != std::string_view::npos;
-    if (!hasLines && trimWhitespace(text) == text && !text.starts_with(blockMark)) {
+/// The text with LF for each of its line breaks.
+std::string withLineFeeds(std::string_view text) {
+    std::string lines;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (text[at] != '\r') {
+            lines += text[at];
+        } else if (!text.substr(at).starts_with("\r\n")) {
+            lines += '\n';
+        }
+    }
+    return lines;
+}
+
+/// Raw RTF that shows the text. Characters beyond ASCII stand for themselves in it. Blanks at the
+/// ends of a value are lost, and quotation marks at its beginning can mean something.
+std::string rawForm(std::string_view text) {
+    std::string rtf = text.starts_with(' ') || text.starts_with('"') ? "{}" : "";
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t end = asciiRunEnd(text, at);
+        appendRtfText(text.substr(at, end - at), rtf);
+        at = end;
+        if (at < text.size()) {
+            const std::size_t length = utf8CharacterAt(text, at).length;
+            rtf += text.substr(at, length);
+            at += length;
+        }
+    }
+    return rtf + (text.ends_with(' ') ? "{}" : "");
+}
+
+/// A text as the value of a leaf: between marks or as raw RTF if it would not be kept otherwise.
+std::string textLeaf(std::string_view given, bool canHaveStyles) {
+    const std::string text = withLineFeeds(given);
+    const bool hasLines = text.find('\n') != std::string::npos;
+    const bool hasMark = text.find(blockMark) != std::string::npos;
+    if ((canHaveStyles && !inlineStyleNames(text).empty()) ||
+        (hasMark && (hasLines || text.starts_with(blockMark) || trimWhitespace(text) != text))) {
+        return leaf("rtf", rawForm(text));
+    }
+    if (!hasLines && trimWhitespace(text) == text) {
         return leaf("para-text", text);
     }
-    if (text.find(blockMark) != std::string_view::npos) {
-        refuse("A description cannot hold this text, because it has \"\"\" in it.");
-    }
     const std::string_view lineEnd = hasLines ? "\n" : "";
-    return "(para-text=" + std::string(blockMark) + std::string(lineEnd) + std::string(text) +
+    return "(para-text=" + std::string(blockMark) + std::string(lineEnd) + text +
            std::string(lineEnd) + std::string(blockMark) + ")\n";
 }
 
@@ -59,13 +97,6 @@ std::string_view alignmentName(tCellAlign align) {
         default:
             return "none";
     }
-}
-
-std::string cell(std::string_view style, std::string_view text, tCellAlign align,
-                 std::size_t columns = 1) {
-    return "(cell\n" + (columns > 1 ? leaf("span", std::to_string(columns)) : "") + "(para\n" +
-           leaf("para-style", style) + leafUnlessNone("para-alignment", alignmentName(align)) +
-           (text.empty() ? leaf("rtf", emptyText) : textLeaf(text)) + "para)\ncell)\n";
 }
 
 void requireWidth(std::string_view width) {
@@ -158,6 +189,14 @@ std::string TableDescription::row(TableRowKind kind, TableCells cells) const {
                      isGroup ? setup_.columns.size() : 1);
     }
     return text + "row)\n";
+}
+
+std::string TableDescription::cell(std::string_view style, std::string_view text, tCellAlign align,
+                                   std::size_t columns) const {
+    return "(cell\n" + (columns > 1 ? leaf("span", std::to_string(columns)) : "") + "(para\n" +
+           leaf("para-style", style) + leafUnlessNone("para-alignment", alignmentName(align)) +
+           (text.empty() ? leaf("rtf", emptyText) : textLeaf(text, !setup_.styleSheet.empty())) +
+           "para)\ncell)\n";
 }
 
 std::string TableDescription::titleRow() const {

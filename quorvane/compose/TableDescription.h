@@ -53,6 +53,8 @@ public:
     static std::string_view end() noexcept { return "doc)\n"; }
 
 private:
+    std::string cell(std::string_view style, std::string_view text, tCellAlign align,
+                     std::size_t columns = 1) const;
     std::string titleRow() const;
     std::string headingRow() const;
     std::string widths() const;

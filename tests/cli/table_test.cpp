@@ -162,6 +162,40 @@ TEST_F(TableTest, NamesTheRowOfTotalsAsItIsAskedFor) {
               "name price/a 1/Summe 1/");
 }
 
+TEST_F(TableTest, ShowsHeadingsTitlesAndCellsAsTheyAre) {
+    folder.write("a.rtfss", std::string(standardTableStyles()) +
+                                "{name: strong; style-def: character; bold}\n");
+    folder.write("a.csv", "<strong=Name>,\"\"\"\"\"\"\"\"\n\"a\r\",<strong=abc>\n");
+    const std::vector<std::string> options{"a.csv", "-s", "a.rtfss", "--title=<strong=T>"};
+    std::vector<std::string> arguments = options;
+    EXPECT_EQ(run(arguments).status, 0);
+    for (const char* text : {"\\'3Cstrong=Name\\'3E", "\"\"\"", "\\'3Cstrong=T\\'3E",
+                             "\\'3Cstrong=abc\\'3E", "a\\line "}) {
+        EXPECT_THAT(folder.read("a.rtf"), HasSubstr(text));
+    }
+    arguments.insert(arguments.end(), {"--as-description", "-o", "a.rtfspec"});
+    EXPECT_EQ(run(arguments).status, 0);
+    const std::string description = folder.read("a.rtfspec");
+    EXPECT_THAT(description, HasSubstr("(rtf=\\'3Cstrong=abc\\'3E)\n"));
+    EXPECT_THAT(description, HasSubstr("(para-text=\"\"\"\na\n\n\"\"\")\n"));
+    // A description that was written before may be replaced.
+    EXPECT_EQ(run(arguments).status, 0);
+}
+
+TEST_F(TableTest, FitsManyColumnsOfWhichSomeAreLong) {
+    std::string row;
+    for (int i = 0; i < 63; ++i) {
+        row += (i > 0 ? "," : "") + (i % 2 == 0 ? std::string(2000, 'x') : std::string("y"));
+    }
+    folder.write("a.csv", row + "\n" + row + "\n");
+    EXPECT_EQ(run({"a.csv", "-o", "-"}).errors, "");
+}
+
+TEST_F(TableTest, LetsFiltersHoldCommasInQuotationMarks) {
+    folder.write("a.csv", "n,p\na,\n");
+    EXPECT_EQ(textsOf(described({"a.csv", "--columns", "n,p:default:\"x, y\""})), "n p/a x, y/");
+}
+
 TEST_F(TableTest, GroupsRowsAndAddsATotal) {
     folder.write("a.csv", "kind,name,price\nglass,vase,0.10\nglass,bowl,0.20\nwood,box,5\n");
     EXPECT_EQ(textsOf(described({"a.csv", "--group-by", "kind", "--total", "price"})),

@@ -84,10 +84,23 @@ std::string errorOf(Action action) {
     return "no error";
 }
 
-TEST(TableDescription, RefusesATextThatNoValueCanHold) {
+TEST(TableDescription, WritesATextThatNoValueCanHoldAsRawRtf) {
+    TableSetup setup = prices();
+    setup.styleSheet = standardTableStyles();
+    const TableDescription description(setup);
+    const auto cellOf = [&](const char* text) {
+        const std::string row = description.row(TableRowKind::Plain, Row{text});
+        const std::size_t begin = row.find("(para-style=table-cell)\n") + 24;
+        return row.substr(begin, row.find("para)\n", begin) - begin);
+    };
+    EXPECT_EQ(cellOf("\"\"\" {quoted}"), "(rtf={}\"\"\" \\{quoted\\})\n");
+    EXPECT_EQ(cellOf(" \u0159 <b=1>"), "(rtf={} \u0159 \\'3Cb=1\\'3E)\n");
+    EXPECT_EQ(cellOf("a < b"), "(para-text=a < b)\n");
+    EXPECT_EQ(cellOf("a\r\nb\r"), "(para-text=\"\"\"\na\nb\n\n\"\"\")\n");
+}
+
+TEST(TableDescription, RefusesATextThatNoDocumentCanShow) {
     const TableDescription description(prices());
-    EXPECT_EQ(errorOf([&] { description.row(TableRowKind::Plain, Row{"\"\"\" quoted"}); }),
-              "A description cannot hold this text, because it has \"\"\" in it.");
     EXPECT_EQ(errorOf([&] {
                   description.row(TableRowKind::Plain, Row{"a", "b\x01"});
               }),

@@ -50,6 +50,14 @@ TEST(FilledTexts, ShowMarksOfSeveralLinesAndClosersOfNodes) {
               "\"\"\"\\line p)\\line c)\\line (doc");
 }
 
+TEST(FilledTexts, KeepTheLastCharacterOfAValueOfSeveralLines) {
+    const std::string end = "\n{{/a}}\n\"\"\")";
+    EXPECT_EQ(rtfOf("(pt=\"\"\"\nTotal 1,250{{#a}}" + end, R"({"a":false})"), "Total 1,250");
+    EXPECT_EQ(rtfOf("(pt=\"\"\"\nTotal 1,250{{#a}}" + end, R"({"a":true})"), "Total 1,250");
+    EXPECT_EQ(rtfOf("(pt=\"\"\"\n{{n}}{{#a}}" + end, R"({"a":false,"n":"x\n"})"), "x\\line ");
+    EXPECT_EQ(rtfOf("(pt=\"\"\"\n{{n}}\n\"\"\")", R"({"n":"x\n"})"), "x\\line ");
+}
+
 TEST(FilledTexts, ShowBlanksAtTheirEnds) {
     EXPECT_EQ(rtfOf("(pt={{a}})", R"({"a":" x "})"), " x ");
 }

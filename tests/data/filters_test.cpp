@@ -104,6 +104,7 @@ TEST(DateFilter, ShowsPartsOfADateByThePattern) {
     EXPECT_EQ(shown("2026-11-02T17:05:30+01:00", "date:HH:mm:ss"), "17:05:30");
     EXPECT_EQ(shown("2026-11-02 07:05", "date:H.mm 'Uhr'"), "7.05 Uhr");
     EXPECT_EQ(shown("2026-11-02T07:05:30.123Z", "date:yyyy'''y'"), "2026'y");
+    EXPECT_EQ(shown("2026-11-02", "date:d 'o''clock'"), "2 o'clock");
 }
 
 TEST(DateFilter, RefusesDaysThatAreNotInTheCalendar) {

@@ -32,6 +32,9 @@ TEST(Json, CanBeginWithAByteOrderMark) {
 
 TEST(Json, ThatIsWrongSaysWhere) {
     EXPECT_THAT(errorIn("{\"a\":}"), HasSubstr("5: This is not JSON: unexpected '}'"));
+    EXPECT_THAT(errorIn("{\"a\":1,}"), HasSubstr("; remove the comma before it"));
+    EXPECT_THAT(errorIn("{\"a\":1 \"b\":2}"), HasSubstr("; a comma is missing before it"));
+    EXPECT_THAT(errorIn("{\"a\":1e400}"), HasSubstr("the number '1e400' is too large"));
     EXPECT_THAT(errorIn("[1, 2"), HasSubstr("5: This is not JSON: unexpected end of input"));
     EXPECT_THAT(errorIn(""), HasSubstr("0: This is not JSON: "));
     EXPECT_THAT(errorIn("{} x"), HasSubstr("3: This is not JSON: "));
