@@ -241,6 +241,11 @@ SyntaxGuess guessLine(std::string_view line, const Dialect& dialect) {
             return *guess;
         }
     }
+    if (line.starts_with("{{") && dialect.values.areExtended) {
+        SyntaxGuess guess;
+        guess.hint = "this is a tag of a template; fill it with --data FILE";
+        return guess;
+    }
     for (const std::string_view mark : {"#", "//", "/*", "--", "<!--"}) {
         if (line.starts_with(mark)) {
             SyntaxGuess guess;

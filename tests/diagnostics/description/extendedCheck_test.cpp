@@ -82,6 +82,12 @@ TEST(ExtendedCheck, CountsTheStylesOfTheHeaderAndTheFooterAsUsed) {
     }
 }
 
+TEST(ExtendedCheck, SaysThatALineIsATagOfATemplate) {
+    EXPECT_THAT(checked("(doc|{{#a}}|(r|(c|(p|(pt=a)|p)|c)|r)|doc)"),
+                ElementsAre("3:1 wrong-syntax: this is a tag of a template; fill it with --data "
+                            "FILE"));
+}
+
 TEST(ExtendedCheck, LooksUpNoStyleWithoutAStyleSheet) {
     EXPECT_THAT(checked("(doc|(r|(c|(cs=a)|(p|(ps=b)|(pt=<c=d>)|p)|c)|r)|doc)"), IsEmpty());
 }
