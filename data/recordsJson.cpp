@@ -13,6 +13,8 @@ using nlohmann::json;
 
 // The names of fields grow with it.
 constexpr std::size_t deepest = 32;
+// Each record has a place for each of them.
+constexpr std::size_t mostNames = 4096;
 
 bool isBlank(char character) {
     return character == ' ' || character == '\t' || character == '\n' || character == '\r';
@@ -231,6 +233,11 @@ void JsonRecords::parse(std::string_view object) {
 bool JsonRecords::put(const std::string& name, std::string value, std::string& error) {
     if (expected_ >= names_.size() || names_[expected_] != name) {
         expected_ = indexOf(name);
+    }
+    if (names_.size() > mostNames) {
+        error = "The records have more than " + std::to_string(mostNames) +
+                " fields of different names.";
+        return false;
     }
     if (isThere_[expected_]) {
         error = "The record has \"" + name + "\" twice.";

@@ -115,6 +115,18 @@ TEST(JsonRecords, RefuseDeepAndLongRecords) {
               "1: The record has more than 4 MB.");
 }
 
+TEST(JsonRecords, RefuseNewFieldsWithoutEnd) {
+    std::string lines;
+    for (int i = 0; i < 4097; ++i) {
+        lines += "{\"k" + std::to_string(i) + "\":1}\n";
+    }
+    const Records records = read(lines).records;
+    ASSERT_EQ(records.size(), 4097U);
+    EXPECT_EQ(records[4095].size(), 4096U);
+    EXPECT_THAT(records[4096],
+                ElementsAre("4097", "The records have more than 4096 fields of different names."));
+}
+
 TEST(JsonRecords, ReadTheSameWhereverTheBlocksOfAFileEnd) {
     const std::string record = R"({"a":"\\\"}","b":{"c":[1,2]}})";
     for (std::size_t shift = 0; shift < record.size(); ++shift) {
