@@ -12,6 +12,7 @@
 #include "cli/sourceFile.h"
 #include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/base/text/codePage1252.h"
+#include "quorvane/base/text/extendedMark.h"
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/diagnostics/KnownStyles.h"
 #include "quorvane/diagnostics/description/DescriptionCheck.h"
@@ -70,8 +71,10 @@ public:
                options.outputFolder.value_or("out") == "out" &&
                std::all_of(inputs.begin(), inputs.end(), [&](const auto& input) {
                    const TextEncoding encoding = encodingOf(input.second, options.encoding);
-                   return !isUtf8(encoding) ||
-                          !findBeyondCodePage1252(decodedText(input.second, encoding));
+                   // Other rules hold for the extended language.
+                   return !isMarkedExtended(input.second) &&
+                          (!isUtf8(encoding) ||
+                           !findBeyondCodePage1252(decodedText(input.second, encoding)));
                });
     }
 
