@@ -375,6 +375,7 @@ void tableOf(benchmark::State& state) {
 template <Language language>
 void invoices(benchmark::State& state) {
     std::vector<std::string> descriptions;
+    descriptions.reserve(static_cast<std::size_t>(state.range(0)));
     for (std::int32_t number = 0; number < state.range(0); ++number) {
         descriptions.push_back(invoiceDescription(language, number));
     }

@@ -147,7 +147,7 @@ private:
 
     /// A file of so many rows; with none, one of two rows with "@" in each field.
     std::string makeTable(const std::string& name, std::int32_t rows) const {
-        const std::string path = (folder_ / (name + ".csv")).string();
+        std::string path = (folder_ / (name + ".csv")).string();
         std::ofstream file(path, std::ios::binary);
         file << "no,article,description,price,stock\n";
         if (rows == 0) {

@@ -40,9 +40,9 @@ struct TableSetup {
     PageText header{};
     PageText footer{{}, "{page} / {pages}", {}};
     /// A stylesheet in either language. Its paragraph styles "table-title", "table-heading",
-    /// "table-cell", "table-group" and "table-total" format the rows, and it must have them, but for
-    /// that of a title that is empty. "header" and "footer" format the page header and footer; its
-    /// first paragraph style does if it lacks them. Empty for `standardTableStyles`.
+    /// "table-cell", "table-group" and "table-total" format the rows, and it must have them, but
+    /// for that of a title that is empty. "header" and "footer" format the page header and footer;
+    /// its first paragraph style does if it lacks them. Empty for `standardTableStyles`.
     std::string styleSheet{};
 };
 
