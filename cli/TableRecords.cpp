@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <optional>
 #include <span>
 #include <utility>
 
@@ -12,6 +13,7 @@
 #include "data/recordsJson.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/values/RtfError.h"
+#include "quorvane/diagnostics/textFile.h"
 
 namespace quorvane::cli {
 
@@ -43,6 +45,15 @@ data::BlockReader open(const std::string& path) {
     return path == standardStream ? readInput : openFile(path);
 }
 
+/// The text, if its beginning is one: a spreadsheet in a format of its own is not.
+data::RecordsText& textOf(data::RecordsText& text) {
+    text.readMore();
+    if (const std::optional<Diagnostic> found = findNotATextFile(text.view())) {
+        throw data::RecordError(0, found->message + " Export the data as CSV or JSON.", false);
+    }
+    return text;
+}
+
 /// True for a file whose name or beginning says that it is JSON.
 bool isJson(const TableOptions& options, data::RecordsText& text) {
     const std::string extension = lowerCase(utf8FromPath(pathFromUtf8(options.input).extension()));
@@ -52,7 +63,6 @@ bool isJson(const TableOptions& options, data::RecordsText& text) {
     if (options.delimiter || extension == ".csv" || extension == ".tsv" || extension == ".txt") {
         return false;
     }
-    text.readMore();
     const std::size_t first = text.view().find_first_not_of(" \t\r\n");
     return first != std::string_view::npos &&
            (text.view()[first] == '[' || text.view()[first] == '{');
@@ -76,7 +86,7 @@ TableRecords::TableRecords(const TableOptions& options, Report report)
     : options_(options),
       report_(std::move(report)),
       text_(open(options.input), options.encoding),
-      areJson_(isJson(options, text_)),
+      areJson_(isJson(options, textOf(text_))),
       source_(sourceOf(options, text_, areJson_)) {
     readFirst();
 }

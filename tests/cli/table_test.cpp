@@ -191,6 +191,15 @@ TEST_F(TableTest, FitsManyColumnsOfWhichSomeAreLong) {
     EXPECT_EQ(run({"a.csv", "-o", "-"}).errors, "");
 }
 
+TEST_F(TableTest, SaysThatADocumentOfAnOfficeProgramIsNotData) {
+    folder.write("a.xlsx", std::string("PK\x03\x04\x14\0\x06\0", 8));
+    const ProgramResult result = run({"a.xlsx"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors,
+              "a.xlsx: error: This is a ZIP archive or the document of an office program, not a "
+              "text file. Export the data as CSV or JSON.\n");
+}
+
 TEST_F(TableTest, LetsFiltersHoldCommasInQuotationMarks) {
     folder.write("a.csv", "n,p\na,\n");
     EXPECT_EQ(textsOf(described({"a.csv", "--columns", "n,p:default:\"x, y\""})), "n p/a x, y/");
