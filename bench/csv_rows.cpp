@@ -54,7 +54,7 @@ private:
     }
 
     std::FILE* file_;
-    char buffer_[65536];
+    char buffer_[65536] = {};
     std::size_t used_ = 0;
 };
 

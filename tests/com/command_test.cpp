@@ -86,7 +86,8 @@ TEST_P(GoldenCommand, GivesTheExpectedBytes) {
 
     // Where nothing could be built in spite of errors, nothing is written.
     const std::string expected = bytesOfFile(folder + L"\\expected.rtf");
-    EXPECT_EQ(bytesOfFile(document), hasErrors && expected == "{}" ? "" : expected);
+    const bool hasRows = expected.find("\\trowd") != std::string::npos;
+    EXPECT_EQ(bytesOfFile(document), hasErrors && !hasRows ? "" : expected);
     EXPECT_EQ(result.status, hasErrors ? 1U : 0U);
     EXPECT_EQ(result.errors.empty(), !hasErrors) << result.errors;
     DeleteFileW(document.c_str());
