@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <numeric>
 
+#include "cli/localeOption.h"
 #include "data/columnsMeasure.h"
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/diagnostics/engine/nearestWord.h"
@@ -30,15 +31,6 @@ std::vector<data::ColumnRequest> requestsOf(const TableOptions& options,
         }
     }
     return columns;
-}
-
-data::Locale localeOf(const std::optional<std::string>& name) {
-    std::string error;
-    data::Locale locale = name ? data::localeNamed(*name, error) : data::Locale();
-    if (!error.empty()) {
-        refuse(error + ".");
-    }
-    return locale;
 }
 
 /// "12.34%", rounded down, so that the columns are never wider than the page.

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "cli/RenderOptions.h"
-#include "cli/UsageError.h"
+#include "cli/localeOption.h"
 #include "cli/process.h"
 #include "data/json.h"
 #include "quorvane/base/text/TextEncoding.h"
@@ -11,22 +11,6 @@
 #include "quorvane/diagnostics/engine/SourceText.h"
 
 namespace quorvane::cli {
-
-namespace {
-
-data::Locale localeOf(const std::optional<std::string>& name) {
-    if (!name) {
-        return {};
-    }
-    std::string error;
-    data::Locale locale = data::localeNamed(*name, error);
-    if (!error.empty()) {
-        throw UsageError("--locale: " + error);
-    }
-    return locale;
-}
-
-}  // namespace
 
 TemplateDataFile readTemplateData(const std::string& path,
                                   const std::optional<std::string>& localeName,

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "quorvane/base/text/asciiCharacters.h"
+
 namespace quorvane::data {
 
 namespace {
@@ -12,10 +14,6 @@ constexpr std::string_view blanks[] = {" ", "\xC2\xA0", "\xE2\x80\xAF"};
 constexpr std::string_view groupSigns[] = {" ", "\xC2\xA0", "\xE2\x80\xAF", "'", "\xE2\x80\x99"};
 constexpr std::string_view units[] = {"€", "$", "£", "¥", "%", "‰"};
 constexpr std::size_t currencyCode = 3;
-
-bool isDigit(char character) {
-    return character >= '0' && character <= '9';
-}
 
 bool isCapital(char character) {
     return character >= 'A' && character <= 'Z';
@@ -73,7 +71,7 @@ std::string_view groupSignAt(std::string_view text, char decimalSign) {
 }
 
 std::string_view takeDigits(std::string_view& text) {
-    const auto end = std::find_if_not(text.begin(), text.end(), isDigit);
+    const auto end = std::find_if_not(text.begin(), text.end(), isAsciiDigit);
     const std::string_view digits =
         text.substr(0, static_cast<std::size_t>(std::distance(text.begin(), end)));
     text.remove_prefix(digits.size());
@@ -83,11 +81,11 @@ std::string_view takeDigits(std::string_view& text) {
 }  // namespace
 
 std::optional<WrittenNumber> writtenNumber(std::string_view text) {
-    const auto first = std::find_if(text.begin(), text.end(), isDigit);
+    const auto first = std::find_if(text.begin(), text.end(), isAsciiDigit);
     if (first == text.end()) {
         return std::nullopt;
     }
-    const auto last = std::find_if(text.rbegin(), text.rend(), isDigit).base();
+    const auto last = std::find_if(text.rbegin(), text.rend(), isAsciiDigit).base();
     const auto begin = static_cast<std::size_t>(std::distance(text.begin(), first));
     const auto end = static_cast<std::size_t>(std::distance(text.begin(), last));
     WrittenNumber number;
@@ -139,8 +137,8 @@ std::optional<DecimalSign> shownSign(std::string_view text) {
 
 bool looksLikeNumber(std::string_view text) {
     const std::optional<WrittenNumber> number = writtenNumber(text);
-    if (!number ||
-        (number->digits.size() > 1 && number->digits[0] == '0' && isDigit(number->digits[1]))) {
+    if (!number || (number->digits.size() > 1 && number->digits[0] == '0' &&
+                    isAsciiDigit(number->digits[1]))) {
         return false;
     }
     return plainNumber(*number, DecimalSign::Point) || plainNumber(*number, DecimalSign::Comma);

@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <optional>
 
+#include "quorvane/base/text/asciiCharacters.h"
+
 namespace quorvane::data {
 
 namespace {
@@ -32,10 +34,6 @@ constexpr Field fields[] = {
     {"HH", &DateAndTime::hour, 2},   {"H", &DateAndTime::hour, 1},  {"mm", &DateAndTime::minute, 2},
     {"ss", &DateAndTime::second, 2},
 };
-
-bool isLetter(char character) {
-    return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z');
-}
 
 /// The letters that a text begins with and that are the same.
 std::string_view runOf(std::string_view text) {
@@ -138,7 +136,7 @@ bool readPattern(std::string_view pattern, OnField field, OnText literal) {
             if (end > 1 && pattern.starts_with('\'')) {
                 literal(pattern.substr(0, 1));
             }
-        } else if (isLetter(pattern.front())) {
+        } else if (isAsciiLetter(pattern.front())) {
             const std::string_view run = runOf(pattern);
             if (!field(run)) {
                 return false;

@@ -5,6 +5,7 @@
 #include <iterator>
 #include <optional>
 
+#include "quorvane/base/text/asciiCharacters.h"
 #include "quorvane/base/text/utf8.h"
 
 namespace quorvane::data {
@@ -87,10 +88,6 @@ bool isSameName(std::string_view a, std::string_view b) {
                       [](char x, char y) { return plainLetter(x) == plainLetter(y); });
 }
 
-bool isDigit(char character) {
-    return character >= '0' && character <= '9';
-}
-
 /// What stands between the digits of a sample, from left to right.
 std::optional<Locale> sampleLocale(std::string_view text) {
     if (!text.starts_with("1") || !text.ends_with("56")) {
@@ -104,8 +101,8 @@ std::optional<Locale> sampleLocale(std::string_view text) {
     const std::string_view group = rest.substr(0, digits);
     const std::string_view decimal = rest.substr(digits + 3);
     const bool isSign = characterCount(decimal) == 1 && characterCount(group) <= 1 &&
-                        group != decimal && !isDigit(decimal.front()) &&
-                        (group.empty() || !isDigit(group.front()));
+                        group != decimal && !isAsciiDigit(decimal.front()) &&
+                        (group.empty() || !isAsciiDigit(group.front()));
     return isSign ? std::optional(Locale{std::string(decimal), std::string(group)}) : std::nullopt;
 }
 
