@@ -31,7 +31,9 @@ std::unique_ptr<OutputFile> CommandPlatform::createFile(const std::string& path)
     if (path == standardStream) {
         return openStandardOutput();
     }
-    createMissingFolder();
+    if (createsFolders_) {
+        createFolderOf(path);
+    }
     return replaceFile(path);
 }
 
@@ -39,19 +41,20 @@ std::unique_ptr<OutputFile> CommandPlatform::replaceFile(const std::string& path
     return openReplacement(path, unfinishedFileWatch());
 }
 
-void CommandPlatform::createMissingFolder() {
-    const std::lock_guard lock(missingFolderMutex_);
-    if (!missingFolder_) {
+void CommandPlatform::createFolderOf(const std::string& path) {
+    const std::filesystem::path folder = pathFromUtf8(path).parent_path();
+    const std::lock_guard lock(lastFolderMutex_);
+    if (folder == lastFolder_) {
         return;
     }
     std::error_code failure;
-    std::filesystem::create_directories(pathFromUtf8(*missingFolder_), failure);
+    std::filesystem::create_directories(folder, failure);
     if (failure) {
         RtfError error(RunTimeError::PathNotFound);
         error.cause = std::make_shared<RtfError>(failure.value(), failure.message());
         raise(std::move(error));
     }
-    missingFolder_.reset();
+    lastFolder_ = folder;
 }
 
 const std::string& CommandPlatform::styleSheetBytes() const {

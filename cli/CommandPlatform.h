@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -22,9 +23,9 @@ public:
     /// Reads the stylesheet file, once for all descriptions. Raises what reading a file raises.
     void readStyleSheet(const std::string& path);
 
-    /// Creates the folder, and those that it is in, when the first file is created: a run without
-    /// documents leaves no folder.
-    void createFolderWithFirstFile(std::string folder) { missingFolder_ = std::move(folder); }
+    /// From now on, creating a file creates the folders that it is in, too: a run without documents
+    /// leaves no folder.
+    void createFoldersOfFiles() { createsFolders_ = true; }
 
     /// The bytes of the stylesheet, which was read.
     const std::string& styleSheetBytes() const;
@@ -59,12 +60,14 @@ private:
 
     std::string readOtherFile(const std::string& path);
     bool isStyleSheet(const std::string& path) const;
-    void createMissingFolder();
+    void createFolderOf(const std::string& path);
 
     Platform& files_;
     std::optional<StyleSheet> styleSheet_;
-    std::mutex missingFolderMutex_;
-    std::optional<std::string> missingFolder_;
+    bool createsFolders_ = false;
+    std::mutex lastFolderMutex_;
+    // The folder that was created, or was there, last.
+    std::filesystem::path lastFolder_;
 };
 
 }  // namespace quorvane::cli

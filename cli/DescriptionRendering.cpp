@@ -4,11 +4,8 @@
 #include <utility>
 
 #include "cli/RenderOptions.h"
-#include "cli/TemplateFiles.h"
 #include "cli/fileFailure.h"
-#include "cli/partialsBeside.h"
 #include "cli/process.h"
-#include "data/Template.h"
 #include "data/TemplateFilling.h"
 #include "data/templateCheck.h"
 #include "quorvane/diagnostics/description/DescriptionCheck.h"
@@ -20,10 +17,6 @@
 namespace quorvane::cli {
 
 namespace {
-
-std::string inputName(const std::string& description) {
-    return description == standardStream ? "<stdin>" : description;
-}
 
 std::string outputName(const std::string& output) {
     return output == standardStream ? "<stdout>" : output;
@@ -51,25 +44,42 @@ DescriptionRendering::~DescriptionRendering() {
 }
 
 ExitStatus DescriptionRendering::run() {
+    prepareStyleSheet();
+    if (std::optional<DescriptionText> description = readDescription(
+            assignment_.description, manner_.encoding, platform_, report_, status_)) {
+        if (manner_.data) {
+            parseTemplate(*std::move(description));
+        } else {
+            parse(*description);
+        }
+        description.reset();
+        writeUnlessRefused();
+    }
+    return status_;
+}
+
+ExitStatus DescriptionRendering::run(const LoadedTemplate& loaded, data::TemplateFilling& filling,
+                                     const NumberedRecord& record) {
+    prepareStyleSheet();
+    parseRecord(loaded, filling, record.value, record.number);
+    writeUnlessRefused();
+    return status_;
+}
+
+void DescriptionRendering::prepareStyleSheet() {
     if (manner_.styleSheet) {
         setStyleSheet(*manner_.styleSheet);
     }
     if (manner_.isStyleSheetRefused) {
         status_ = ExitStatus::ContentErrors;
     }
-    if (std::optional<std::string> text = readDescription()) {
-        if (manner_.data) {
-            parseTemplate(*text);
-        } else {
-            parse(*text);
-        }
-        text.reset();
-        if (mayWrite()) {
-            leaveDocumentBefore();
-            write();
-        }
+}
+
+void DescriptionRendering::writeUnlessRefused() {
+    if (mayWrite()) {
+        leaveDocumentBefore();
+        write();
     }
-    return status_;
 }
 
 /// A description that builds nothing does not change the document, which is then still rendered as
@@ -100,82 +110,61 @@ void DescriptionRendering::setStyleSheet(const std::string& name) {
     }
 }
 
-std::string DescriptionRendering::readBytes(const std::string& path) {
-    if (path == standardStream) {
-        return readStandardInput();
-    }
-    try {
-        return platform_.readFile(path);
-    } catch (const RtfError& error) {
-        raise(unreadableDescription(path, error));
-    }
-}
-
-std::optional<std::string> DescriptionRendering::readDescription() {
-    const std::string& path = assignment_.description;
-    try {
-        std::string bytes = readBytes(path);
-        encoding_ = encodingOf(bytes, manner_.encoding);
-        if (!report_.passBytes(inputName(path), bytes, encoding_)) {
-            status_ = std::max(status_, ExitStatus::ContentErrors);
-            return std::nullopt;
-        }
-        return decodedText(std::move(bytes), encoding_);
-    } catch (const RtfError& error) {
-        fail(unreadableFile(inputName(path), path, error));
-        return std::nullopt;
-    }
-}
-
-void DescriptionRendering::parse(const std::string& text) {
-    const PictureSource pictures = prepareDriver();
-    driver_->ParseFromMemmory(text);
-    pass(text,
-         [&](KnownStyles* styles) { return checkDescription(text, styles, encoding_, pictures); });
-}
-
-void DescriptionRendering::parseTemplate(const std::string& text) {
-    std::vector<data::TemplateError> errors;
-    const data::Template source = data::compileTemplate(
-        text, encoding_, partialsBeside(assignment_.description, platform_), errors);
-    data::TemplateFilling filling(source, manner_.data->locale);
-    const std::vector<SourceLine>* lines = nullptr;
-    if (errors.empty()) {
-        lines = &filling.fill(manner_.data->record, errors);
-    }
-    if (!errors.empty()) {
-        status_ = std::max(status_, ExitStatus::ContentErrors);
-        const TemplateFiles files(source, assignment_.description,
-                                  inputName(assignment_.description));
-        for (const auto& [index, diagnostic] : data::templateDiagnostics(source, errors)) {
-            report_.refuse(files.nameOf(index), files.windowOf(index), {diagnostic});
-        }
-        return;
-    }
-    const PictureSource pictures = prepareDriver();
-    parseFilled(*driver_, *lines);
-    pass(text, [&](KnownStyles* styles) {
-        return data::checkFilled(source, {*lines}, styles, pictures);
+void DescriptionRendering::parse(const DescriptionText& description) {
+    const PictureSource pictures = prepareDriver(description.encoding);
+    driver_->ParseFromMemmory(description.text);
+    pass(description, [&](KnownStyles* styles) {
+        return checkDescription(description.text, styles, description.encoding, pictures);
     });
 }
 
-PictureSource DescriptionRendering::prepareDriver() {
+void DescriptionRendering::parseTemplate(DescriptionText description) {
+    const std::optional<LoadedTemplate> loaded =
+        loadTemplate(assignment_.description, std::move(description), platform_, report_);
+    if (!loaded) {
+        status_ = std::max(status_, ExitStatus::ContentErrors);
+        isFilled_ = false;
+        return;
+    }
+    data::TemplateFilling filling(loaded->source, manner_.data->locale);
+    parseRecord(*loaded, filling, manner_.data->record, 0);
+}
+
+void DescriptionRendering::parseRecord(const LoadedTemplate& loaded, data::TemplateFilling& filling,
+                                       const data::DataValue& record, std::size_t number) {
+    std::vector<data::TemplateError> errors;
+    const std::vector<SourceLine>& lines = filling.fill(record, errors, number);
+    if (!errors.empty()) {
+        status_ = std::max(status_, ExitStatus::ContentErrors);
+        isFilled_ = false;
+        reportErrors(loaded, errors, report_);
+        return;
+    }
+    const PictureSource pictures = prepareDriver(loaded.description.encoding);
+    parseFilled(*driver_, lines);
+    pass(loaded.description, [&](KnownStyles* styles) {
+        return data::checkFilled(loaded.source, {lines}, styles, pictures);
+    });
+}
+
+PictureSource DescriptionRendering::prepareDriver(TextEncoding encoding) {
     driver_->setErroneousInput(manner_.check);
-    driver_->setUnicodeTexts(isUtf8(encoding_));
+    driver_->setUnicodeTexts(isUtf8(encoding));
     driver_->setReadsExtended(true);
     PictureSource pictures =
         picturesBeside(assignment_.description, platform_, manner_.pictureFolders);
     driver_->setPictureSource(pictures);
     driver_->setNotifyErrorHandler([&](CRtfDriver&, const RtfError& error) {
         status_ = std::max(status_, ExitStatus::ContentErrors);
-        report_.event(inputName(assignment_.description), error);
+        report_.event(shownDescription(assignment_.description), error);
     });
     return pictures;
 }
 
-void DescriptionRendering::pass(const std::string& text, const CheckOfDescription& check) {
-    if (!report_.passDescription(inputName(assignment_.description), assignment_.description, text,
-                                 encoding_, check)) {
+void DescriptionRendering::pass(const DescriptionText& description,
+                                const CheckOfDescription& check) {
+    if (!report_.passDescription(shownDescription(assignment_.description), assignment_.description,
+                                 description.text, description.encoding, check)) {
         status_ = std::max(status_, ExitStatus::ContentErrors);
     }
 }
@@ -186,10 +175,10 @@ bool DescriptionRendering::mayWrite() {
     if (status_ == ExitStatus::Success || !manner_.keepGoing) {
         return status_ == ExitStatus::Success;
     }
-    if (driver_->RtfObject()->TableRows()->Count() > 0) {
+    if (isFilled_ && driver_->RtfObject()->TableRows()->Count() > 0) {
         return true;
     }
-    report_.fail({ErrorKind::Raised, inputName(assignment_.description),
+    report_.fail({ErrorKind::Raised, shownDescription(assignment_.description),
                   RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
                            "Nothing could be built; " + outputName(assignment_.output) +
                                " was not written.")});
@@ -198,11 +187,15 @@ bool DescriptionRendering::mayWrite() {
 
 void DescriptionRendering::write() {
     const std::string name = outputName(assignment_.output);
-    driver_->setAbsorbedErrorObserver(
-        [&](const AbsorbedError& absorbed) { fail(fileFailure(name, absorbed.error)); });
+    hasWritten_ = true;
+    driver_->setAbsorbedErrorObserver([&](const AbsorbedError& absorbed) {
+        hasWritten_ = false;
+        fail(fileFailure(name, absorbed.error));
+    });
     try {
         driver_->Commit(assignment_.output);
     } catch (const RtfError& error) {
+        hasWritten_ = false;
         fail(fileFailure(name, error));
     } catch (const ClosedPipe&) {
         // Whoever read the document wanted no more of it.

@@ -1,14 +1,20 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "cli/CommandPlatform.h"
+#include "cli/DescriptionText.h"
 #include "cli/ExitStatus.h"
+#include "cli/LoadedTemplate.h"
+#include "cli/NumberedRecord.h"
 #include "cli/RenderReport.h"
 #include "cli/TemplateData.h"
 #include "cli/outputPaths.h"
+#include "data/DataValue.h"
+#include "data/TemplateFilling.h"
 #include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/driver/CRtfDriver.h"
 #include "quorvane/driver/PictureSource.h"
@@ -47,15 +53,24 @@ public:
     /// to keep going and the document has a row.
     ExitStatus run();
 
+    /// The same for a record in the place of the data. The filling is that of the template.
+    ExitStatus run(const LoadedTemplate& loaded, data::TemplateFilling& filling,
+                   const NumberedRecord& record);
+
+    /// True if the document was written.
+    bool hasWritten() const noexcept { return hasWritten_; }
+
 private:
     void makeDriver();
     void setStyleSheet(const std::string& name);
-    std::string readBytes(const std::string& path);
-    std::optional<std::string> readDescription();
-    void parse(const std::string& text);
-    void parseTemplate(const std::string& text);
-    PictureSource prepareDriver();
-    void pass(const std::string& text, const CheckOfDescription& check);
+    void prepareStyleSheet();
+    void parse(const DescriptionText& description);
+    void parseTemplate(DescriptionText description);
+    void parseRecord(const LoadedTemplate& loaded, data::TemplateFilling& filling,
+                     const data::DataValue& record, std::size_t number);
+    PictureSource prepareDriver(TextEncoding encoding);
+    void pass(const DescriptionText& description, const CheckOfDescription& check);
+    void writeUnlessRefused();
     bool mayWrite();
     void leaveDocumentBefore();
     void write();
@@ -66,9 +81,11 @@ private:
     CommandPlatform& platform_;
     Ref<CRtfDriver>& driver_;
     bool isDriverNew_;
-    TextEncoding encoding_ = TextEncoding::Windows1252;
     RenderReport& report_;
     ExitStatus status_ = ExitStatus::Success;
+    // False for a template that could not be filled: the driver has the document before it.
+    bool isFilled_ = true;
+    bool hasWritten_ = false;
 };
 
 }  // namespace quorvane::cli

@@ -7,6 +7,7 @@
 #include <thread>
 #include <utility>
 
+#include "cli/RecordsRendering.h"
 #include "cli/RenderWorker.h"
 #include "cli/SideBySideRendering.h"
 #include "cli/fileFailure.h"
@@ -17,8 +18,8 @@ namespace quorvane::cli {
 
 namespace {
 
-std::size_t coreCount() {
-    return std::max<std::size_t>(std::thread::hardware_concurrency(), 1);
+std::size_t threadCount(std::size_t jobs) {
+    return jobs == 0 ? std::max<std::size_t>(std::thread::hardware_concurrency(), 1) : jobs;
 }
 
 }  // namespace
@@ -37,6 +38,9 @@ ExitStatus RenderJob::run() {
     if (options_.styleSheet) {
         requireStyleSheetExtension(*options_.styleSheet, options_.descriptions);
     }
+    if (options_.dataUse == DataUse::Each) {
+        return renderRecords();
+    }
     std::vector<Assignment> assignments;
     try {
         assignments = assignOutputs(options_);
@@ -44,7 +48,7 @@ ExitStatus RenderJob::run() {
         report_.fail(fileFailure(options_.descriptions.front(), error));
         return ExitStatus::Failure;
     }
-    if (!prepareOutputFolder()) {
+    if (options_.outputFolder && !prepareFolder(*options_.outputFolder)) {
         return ExitStatus::Failure;
     }
     if (const ExitStatus dataStatus = readData(); dataStatus != ExitStatus::Success) {
@@ -54,36 +58,46 @@ ExitStatus RenderJob::run() {
     if (status != ExitStatus::Success && !options_.keepGoing) {
         return status;
     }
-    const std::size_t jobs = options_.jobs == 0 ? coreCount() : options_.jobs;
-    const std::size_t threads = std::min(jobs, assignments.size());
+    const std::size_t threads = std::min(threadCount(options_.jobs), assignments.size());
     return std::max(
         status, threads > 1 ? renderSideBySide(assignments, threads) : renderInTurn(assignments));
 }
 
-/// True if the folder of the documents exists or can be created with the first one; otherwise
-/// reports that it does not.
-bool RenderJob::prepareOutputFolder() {
-    if (!options_.outputFolder) {
-        return true;
+ExitStatus RenderJob::renderRecords() {
+    RecordsRendering rendering(options_, {manner_, platform_, report_, receivers_});
+    if (const std::string folder = rendering.commonFolder();
+        !folder.empty() && !prepareFolder(folder)) {
+        return ExitStatus::Failure;
     }
-    const std::filesystem::path folder = pathFromUtf8(*options_.outputFolder);
+    const ExitStatus status = readStyleSheet();
+    if (status != ExitStatus::Success && !options_.keepGoing) {
+        return status;
+    }
+    return std::max(status, rendering.run(threadCount(options_.jobs)));
+}
+
+/// True if a folder for documents exists or can be created with the first one; otherwise reports
+/// that it does not.
+bool RenderJob::prepareFolder(const std::string& name) {
+    if (options_.makesOutputFolder) {
+        platform_.createFoldersOfFiles();
+    }
+    const std::filesystem::path folder = pathFromUtf8(name);
     std::error_code failure;
     const std::filesystem::file_status status = std::filesystem::status(folder, failure);
-    if (std::filesystem::is_directory(status)) {
-        return true;
-    }
     const bool isMissing = failure == std::errc::no_such_file_or_directory;
-    if (options_.makesOutputFolder && isMissing) {
-        platform_.createFolderWithFirstFile(*options_.outputFolder);
+    if (std::filesystem::is_directory(status) || (options_.makesOutputFolder && isMissing)) {
         return true;
     }
     RtfError error(RunTimeError::PathNotFound);
-    error.cause = std::make_shared<RtfError>(error.number, "the folder of --output-dir must exist");
+    const std::string option = options_.outputFolder ? "--output-dir" : "--output";
+    error.cause =
+        std::make_shared<RtfError>(error.number, "the folder of " + option + " must exist");
     std::string reason = std::make_error_code(std::errc::not_a_directory).message();
     if (!std::filesystem::exists(status)) {
         reason = failure.message() + (isMissing ? "; --mkdir creates it" : "");
     }
-    report_.fail({ErrorKind::Raised, *options_.outputFolder, std::move(error), reason});
+    report_.fail({ErrorKind::Raised, name, std::move(error), reason});
     return false;
 }
 

@@ -31,7 +31,8 @@ public:
     ExitStatus run();
 
 private:
-    bool prepareOutputFolder();
+    ExitStatus renderRecords();
+    bool prepareFolder(const std::string& name);
     ExitStatus readStyleSheet();
     ExitStatus readData();
     ExitStatus renderInTurn(const std::vector<Assignment>& assignments);

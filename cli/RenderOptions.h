@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "cli/FailOn.h"
+#include "cli/RecordRange.h"
 #include "quorvane/base/text/TextEncoding.h"
 
 namespace quorvane::cli {
@@ -16,14 +17,27 @@ enum class ErrorForm { Text, Json };
 /// The name that stands for standard input or standard output.
 inline constexpr const char* standardStream = "-";
 
+/// What the data is.
+enum class DataUse {
+    /// One JSON text, which each description is filled with.
+    Whole,
+    /// Records, each of which gets a document.
+    Each,
+};
+
 /// The options of `quorvane render`. Paths are as given.
 struct RenderOptions {
     std::vector<std::string> descriptions;
     std::optional<std::string> styleSheet;
     /// The encoding of the descriptions and the stylesheet.
     EncodingChoice encoding = EncodingChoice::Auto;
-    /// The JSON file that the descriptions, which are templates, are filled with.
+    /// The file with the data that the descriptions, which are templates, are filled with.
     std::optional<std::string> data;
+    DataUse dataUse = DataUse::Whole;
+    /// Of the records, those that are used.
+    RecordRange records;
+    /// The file that says what became of each record.
+    std::optional<std::string> report;
     /// The locale in which filters write numbers.
     std::optional<std::string> locale;
     /// Folders whose pictures descriptions may name, besides their own.

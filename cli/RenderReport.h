@@ -17,7 +17,8 @@
 
 namespace quorvane::cli {
 
-/// Called before each description with its number, how many there are, and its name.
+/// Called before each description with its number, how many there are, and its name; after each
+/// record, with 0 for how many there are and the name of its document.
 using ProgressSink = std::function<void(std::size_t number, std::size_t count, const std::string&)>;
 
 /// Receives what a rendering reports.
@@ -29,6 +30,8 @@ struct RenderReceivers {
     std::function<void(const std::string& file, const Diagnostic&, const DiagnosticExcerpt&)>
         locate{};
     ProgressSink progress{};
+    /// Receives a line that is not about an error.
+    std::function<void(const std::string& text)> note{};
     /// Receives the error with which the library refuses the stylesheet, instead of the reports
     /// about it.
     std::function<void(const RtfError&)> refuseStyleSheet{};

@@ -20,12 +20,23 @@ public:
     /// Reports every error of the description.
     ExitStatus render(const Assignment& assignment);
 
+    /// The same for a record in the place of the data. The filling is that of the template.
+    ExitStatus render(const Assignment& assignment, const LoadedTemplate& loaded,
+                      data::TemplateFilling& filling, const NumberedRecord& record);
+
+    /// True if the last document was written.
+    bool hasWritten() const noexcept { return hasWritten_; }
+
 private:
+    template <class Run>
+    ExitStatus render(const Assignment& assignment, Run run);
+
     const RenderingManner& manner_;
     CommandPlatform& platform_;
     RenderReport& report_;
     // For one description after the other, so that the stylesheet is parsed once.
     Ref<CRtfDriver> driver_;
+    bool hasWritten_ = false;
 };
 
 }  // namespace quorvane::cli

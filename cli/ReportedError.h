@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <string>
 
@@ -26,6 +27,8 @@ struct ReportedError {
     /// Why a file cannot be read or written, in the system's words; empty for any other error. The
     /// text form shows it instead of the error.
     std::string reason{};
+    /// The number of the record that it is about; 0 for none.
+    std::size_t record = 0;
 };
 
 /// Receives the errors in the order in which they occur.

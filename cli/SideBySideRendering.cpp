@@ -8,19 +8,8 @@
 
 namespace quorvane::cli {
 
-namespace {
-
-constexpr std::size_t maxEventsOfShortReport = 100;
-
-}  // namespace
-
-SideBySideRendering::Thread::Thread(const Means& means)
-    : receivers(receiversInto(events, static_cast<bool>(means.receivers.locate))),
-      report(means.report, receivers),
-      worker(means.manner, means.platform, report) {}
-
 ExitStatus SideBySideRendering::run(std::size_t threads) {
-    std::deque<Thread> all;
+    std::deque<RenderThread> all;
     while (all.size() < threads) {
         all.emplace_back(means_);
     }
@@ -40,11 +29,11 @@ void SideBySideRendering::announce(std::size_t task) const {
 }
 
 /// Returns true if the report is long.
-bool SideBySideRendering::render(Thread& thread, std::size_t task) {
+bool SideBySideRendering::render(RenderThread& thread, std::size_t task) {
     Result& result = resultOf(task);
     result.status = thread.worker.render(assignments_[task]);
     result.events = std::exchange(thread.events, {});
-    return result.events.size() > maxEventsOfShortReport;
+    return areMany(result.events);
 }
 
 void SideBySideRendering::deliver(std::size_t task) {

@@ -3,11 +3,8 @@
 #include <cstddef>
 #include <vector>
 
-#include "cli/CommandPlatform.h"
-#include "cli/DescriptionRendering.h"
 #include "cli/ExitStatus.h"
-#include "cli/RenderReport.h"
-#include "cli/RenderWorker.h"
+#include "cli/RenderThread.h"
 #include "cli/outputPaths.h"
 #include "cli/renderEvents.h"
 
@@ -18,16 +15,7 @@ namespace quorvane::cli {
 /// descriptions more.
 class SideBySideRendering {
 public:
-    /// What all threads share; it must outlive the rendering.
-    struct Means {
-        const RenderingManner& manner;
-        CommandPlatform& platform;
-        /// Has taken the stylesheet.
-        RenderReport& report;
-        const RenderReceivers& receivers;
-    };
-
-    SideBySideRendering(const std::vector<Assignment>& assignments, const Means& means)
+    SideBySideRendering(const std::vector<Assignment>& assignments, const RenderMeans& means)
         : assignments_(assignments), means_(means) {}
     SideBySideRendering(const SideBySideRendering&) = delete;
     SideBySideRendering& operator=(const SideBySideRendering&) = delete;
@@ -40,23 +28,13 @@ private:
         RenderEvents events{};
     };
 
-    /// What one thread works with.
-    struct Thread {
-        explicit Thread(const Means& means);
-
-        RenderEvents events;
-        RenderReceivers receivers;
-        RenderReport report;
-        RenderWorker worker;
-    };
-
     Result& resultOf(std::size_t task) { return results_[task % results_.size()]; }
     void announce(std::size_t task) const;
-    bool render(Thread& thread, std::size_t task);
+    bool render(RenderThread& thread, std::size_t task);
     void deliver(std::size_t task);
 
     const std::vector<Assignment>& assignments_;
-    Means means_;
+    RenderMeans means_;
     std::vector<Result> results_;
     ExitStatus status_ = ExitStatus::Success;
 };

@@ -1,71 +1,18 @@
 #include "cli/TableRecords.h"
 
 #include <algorithm>
-#include <fstream>
 #include <optional>
-#include <span>
 #include <utility>
 
-#include "cli/RenderOptions.h"
-#include "cli/process.h"
-#include "cli/utf8Path.h"
 #include "data/csvRecords.h"
 #include "data/recordsJson.h"
-#include "quorvane/base/text/textCase.h"
-#include "quorvane/base/values/RtfError.h"
-#include "quorvane/diagnostics/textFile.h"
 
 namespace quorvane::cli {
 
 namespace {
 
-data::BlockReader openFile(const std::string& path) {
-    auto file = std::make_shared<std::ifstream>(pathFromUtf8(path), std::ios::binary);
-    if (!file->is_open()) {
-        throw UnreadableInput(RtfError(RunTimeError::PathFileAccessError));
-    }
-    return [file](std::span<char> block) {
-        file->read(block.data(), static_cast<std::streamsize>(block.size()));
-        if (file->bad()) {
-            throw UnreadableInput(RtfError(RunTimeError::PathFileAccessError));
-        }
-        return static_cast<std::size_t>(file->gcount());
-    };
-}
-
-std::size_t readInput(std::span<char> block) {
-    try {
-        return readStandardInput(block);
-    } catch (const RtfError& error) {
-        throw UnreadableInput(error);
-    }
-}
-
-data::BlockReader open(const std::string& path) {
-    return path == standardStream ? readInput : openFile(path);
-}
-
-/// The text, if its beginning is one: a spreadsheet in a format of its own is not.
-data::RecordsText& textOf(data::RecordsText& text) {
-    text.readMore();
-    if (const std::optional<Diagnostic> found = findNotATextFile(text.view())) {
-        throw data::RecordError(0, found->message + " Export the data as CSV or JSON.", false);
-    }
-    return text;
-}
-
-/// True for a file whose name or beginning says that it is JSON.
 bool isJson(const TableOptions& options, data::RecordsText& text) {
-    const std::string extension = lowerCase(utf8FromPath(pathFromUtf8(options.input).extension()));
-    if (extension == ".json" || extension == ".jsonl" || extension == ".ndjson") {
-        return true;
-    }
-    if (options.delimiter || extension == ".csv" || extension == ".tsv" || extension == ".txt") {
-        return false;
-    }
-    const std::size_t first = text.view().find_first_not_of(" \t\r\n");
-    return first != std::string_view::npos &&
-           (text.view()[first] == '[' || text.view()[first] == '{');
+    return areJsonRecords(options.input, text, options.delimiter.has_value());
 }
 
 std::unique_ptr<data::RecordSource> sourceOf(const TableOptions& options, data::RecordsText& text,
@@ -85,8 +32,8 @@ std::unique_ptr<data::RecordSource> sourceOf(const TableOptions& options, data::
 TableRecords::TableRecords(const TableOptions& options, Report report)
     : options_(options),
       report_(std::move(report)),
-      text_(open(options.input), options.encoding),
-      areJson_(isJson(options, textOf(text_))),
+      text_(openRecords(options.input), options.encoding),
+      areJson_(isJson(options, requireText(text_))),
       source_(sourceOf(options, text_, areJson_)) {
     readFirst();
 }

@@ -10,16 +10,11 @@
 
 #include "cli/TableColumns.h"
 #include "cli/TableOptions.h"
+#include "cli/recordsFile.h"
 #include "data/recordsSource.h"
 #include "data/recordsText.h"
 
 namespace quorvane::cli {
-
-/// Thrown for an input that cannot be read, whatever is in it.
-struct UnreadableInput : RtfError {
-    using RtfError::RtfError;
-    explicit UnreadableInput(const RtfError& error) : RtfError(error) {}
-};
 
 /// The records of a table: the first of them are read at once, the others one by one.
 class TableRecords {

@@ -345,6 +345,41 @@ std::string wrongJobs(const std::string& value) {
                : asGiven(value) + " is not a number from 0 to " + std::to_string(maxJobs);
 }
 
+/// The numbers of "1001-2000", "1001-" or "17"; nothing for any other text.
+std::optional<RecordRange> recordRange(const std::string& text) {
+    constexpr std::size_t mostDigits = 18;
+    const std::size_t sign = text.find('-');
+    const std::string first = text.substr(0, sign);
+    const std::string last = sign == std::string::npos ? first : text.substr(sign + 1);
+    const auto isNumber = [](const std::string& part) {
+        return part.size() <= mostDigits &&
+               part.find_first_not_of("0123456789") == std::string::npos;
+    };
+    if (first.empty() || !isNumber(first) || !isNumber(last)) {
+        return std::nullopt;
+    }
+    RecordRange range{.first = std::stoull(first)};
+    if (!last.empty()) {
+        range.last = std::stoull(last);
+    }
+    return range.first > 0 && range.first <= range.last ? std::optional(range) : std::nullopt;
+}
+
+/// What is wrong with the numbers of records; empty if they are a range.
+std::string wrongRange(const std::string& value) {
+    return recordRange(value) ? std::string()
+                              : asGiven(value) +
+                                    " is not a range of records; write 1001-2000, "
+                                    "or 1001- for all from there on";
+}
+
+CLI::callback_t storeIn(RecordRange& target) {
+    return [&target](const CLI::results_t& results) {
+        target = *recordRange(results.front());
+        return true;
+    };
+}
+
 void addEncoding(CLI::App& app, EncodingChoice& target) {
     app.add_option("--encoding", storeIn(target), "The encoding of the files; auto by default")
         ->type_name("auto|utf-8|windows-1252")
@@ -357,6 +392,15 @@ void addData(CLI::App& app, std::optional<std::string>& data, std::optional<std:
     app.add_option("--locale", storeIn(locale), "Write numbers as in de-DE, fr-FR, 1.234,56, ...")
         ->type_name("NAME")
         ->needs("--data");
+}
+
+void addRecordOptions(CLI::App& app, DataUse& use, RecordRange& records) {
+    app.add_flag_callback(
+           "--each", [&use] { use = DataUse::Each; }, "Make a document of each record of the data")
+        ->needs("--data");
+    app.add_option("--records", storeIn(records), "Take only these records, such as 1001-2000")
+        ->type_name("FIRST-LAST")
+        ->check(CLI::Validator(wrongRange, ""));
 }
 
 void addAllowPictures(CLI::App& app, std::vector<std::string>& folders) {
@@ -496,6 +540,11 @@ void addRenderOptions(CLI::App* render, RenderOptions& options) {
     addEncoding(*render, options.encoding);
     addAllowPictures(*render, options.pictureFolders);
     addData(*render, options.data, options.locale);
+    addRecordOptions(*render, options.dataUse, options.records);
+    render
+        ->add_option("--report", storeIn(options.report),
+                     "Write what became of each record to this file")
+        ->type_name("FILE");
     render->add_option("-o,--output", storeIn(options.output), "Write the document to this file")
         ->type_name("FILE");
     render
@@ -503,8 +552,7 @@ void addRenderOptions(CLI::App* render, RenderOptions& options) {
                      "Write the documents into this folder")
         ->type_name("DIR")
         ->excludes("--output");
-    render->add_flag("--mkdir", options.makesOutputFolder, "Create the folder of --output-dir")
-        ->needs("--output-dir");
+    render->add_flag("--mkdir", options.makesOutputFolder, "Create the folders of the documents");
     render
         ->add_option("-j,--jobs", storeIn(options.jobs),
                      "Render N descriptions at a time; 0 uses all cores")
@@ -689,6 +737,22 @@ void requireOneInput(const std::optional<std::string>& data,
     }
 }
 
+/// Throws a `UsageError` for options that do not suit each other.
+void requireUseOfData(const RenderOptions& options) {
+    const bool isEach = options.dataUse == DataUse::Each;
+    const RecordRange all;
+    if (!isEach && (options.report || options.records.first != all.first ||
+                    options.records.last != all.last)) {
+        throw UsageError("--report and --records are for records; add --each");
+    }
+    if (!isEach && options.makesOutputFolder && !options.outputFolder) {
+        throw UsageError("--mkdir requires --output-dir");
+    }
+    if (isEach && options.descriptions.size() > 1) {
+        throw UsageError("--each takes one description");
+    }
+}
+
 /// Throws a `UsageError` unless there are files to check, or something else to show.
 void requireOneTask(const CheckOptions& options) {
     const int tasks =
@@ -754,6 +818,7 @@ parseCommandLine(const std::vector<std::string>& arguments) {
             return parseCommandLine(helpRequest(requests.help));
         }
         requireOneInput(requests.render.data, requests.render.descriptions);
+        requireUseOfData(requests.render);
         return requests.render;
     } catch (const CLI::Success& request) {
         std::ostringstream text;

@@ -38,6 +38,9 @@ std::string errorJson(const ReportedError& reported) {
     Json object;
     object["file"] = textOrNull(reported.file);
     object["line"] = error.line > 0 ? Json(error.line) : Json(nullptr);
+    if (reported.record > 0) {
+        object["record"] = reported.record;
+    }
     object["number"] = error.number;
     object["level"] = levelOrNull(error.number);
     object["source"] = textOrNull(error.source);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include "cli/ReportedError.h"
@@ -11,5 +12,8 @@ namespace quorvane::cli {
 /// parentheses; or, for a file that cannot be read or written, the system's reason alone:
 /// "letter.rtfspec: No such file or directory".
 std::string errorText(const ReportedError& reported);
+
+/// What a message about a record begins with: "record 17: "; empty for 0.
+std::string recordText(std::size_t record);
 
 }  // namespace quorvane::cli

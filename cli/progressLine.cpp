@@ -25,7 +25,9 @@ void cut(std::string& text, std::size_t length) {
 
 std::string progressLine(std::size_t number, std::size_t count, std::string_view name,
                          std::size_t columns) {
-    std::string line = std::to_string(number) + "/" + std::to_string(count) + " " + oneLine(name);
+    std::string line = std::to_string(number) +
+                       (count > 0 ? "/" + std::to_string(count) : std::string()) + " " +
+                       oneLine(name);
     // The last column stays free: a terminal may go to the next line once it is filled.
     cut(line, columns > 0 ? columns - 1 : 0);
     return std::string(erasedLine) + line;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <variant>
 #include <vector>
@@ -25,6 +26,12 @@ struct StyleSheetRefusal {
 
 /// What a rendering reports, in its order.
 using RenderEvents = std::vector<std::variant<ReportedError, LocatedDiagnostic, StyleSheetRefusal>>;
+
+/// True for events that take much memory.
+inline bool areMany(const RenderEvents& events) noexcept {
+    constexpr std::size_t few = 100;
+    return events.size() > few;
+}
 
 /// Receivers that keep what they receive. They locate diagnostics if those do for which they stand
 /// in. The events must outlive them.

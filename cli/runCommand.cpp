@@ -65,7 +65,8 @@ ExitStatus show(const Information& information, ErrorForm form) {
 ExitStatus render(const RenderOptions& options) {
     const auto columns = static_cast<std::size_t>(standardErrorColumns());
     const bool showsProgress =
-        columns > 0 && options.descriptions.size() > 1 && options.diagnostics == ErrorForm::Text;
+        columns > 0 && options.diagnostics == ErrorForm::Text &&
+        (options.descriptions.size() > 1 || options.dataUse != DataUse::Whole);
     const auto eraseProgress = [showsProgress] {
         if (showsProgress) {
             writeToStandardError(erasedLine);
@@ -84,6 +85,12 @@ ExitStatus render(const RenderOptions& options) {
             writeToStandardError(diagnosticText(file, diagnostic, excerpt, colors));
         };
     }
+    receivers.note = [&](const std::string& text) {
+        eraseProgress();
+        if (options.diagnostics == ErrorForm::Text) {
+            writeToStandardError(text + "\n");
+        }
+    };
     receivers.progress = [&](std::size_t number, std::size_t count, const std::string& name) {
         if (showsProgress) {
             writeToStandardError(progressLine(number, count, name, columns));

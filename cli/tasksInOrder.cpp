@@ -18,8 +18,12 @@ public:
 
     /// What one thread does: tasks, and deliveries for which it is the time.
     void work(std::size_t thread) noexcept {
-        while (const std::optional<std::size_t> task = begin()) {
+        for (;;) {
             try {
+                const std::optional<std::size_t> task = begin();
+                if (!task) {
+                    return;
+                }
                 const bool isLarge = tasks_.work(thread, *task);
                 end(*task);
                 if (isLarge) {
@@ -40,12 +44,22 @@ public:
 private:
     /// The next task, as soon as it can be begun.
     std::optional<std::size_t> begin() {
+        // Preparing may take long; deliveries need not wait for it.
+        const std::lock_guard order(preparing_);
         std::unique_lock lock(mutex_);
         progress_.wait(lock, [this] { return isOver() || begun_ < delivered_ + isDone_.size(); });
+        if (isOver()) {
+            return std::nullopt;
+        }
+        if (tasks_.prepare) {
+            lock.unlock();
+            isEnded_ = !tasks_.prepare(begun_);
+            lock.lock();
+        }
         return isOver() ? std::nullopt : std::optional(begun_++);
     }
 
-    bool isOver() const { return failure_ || begun_ == tasks_.count; }
+    bool isOver() const { return failure_ || isEnded_ || begun_ == tasks_.count; }
 
     /// Delivers the task, and those that waited for it, unless one before it is still being done
     /// or another thread is delivering, which will come to it.
@@ -81,10 +95,13 @@ private:
     }
 
     const OrderedTasks& tasks_;
+    std::mutex preparing_;
     std::mutex mutex_;
     // Of the deliveries, or to a failure.
     std::condition_variable progress_;
+    // Changed by the thread that prepares only, as is the next one.
     std::size_t begun_ = 0;
+    bool isEnded_ = false;
     // All tasks before this one are delivered; only the thread that delivers changes it.
     std::size_t delivered_ = 0;
     bool isDelivering_ = false;

@@ -7,7 +7,7 @@ namespace quorvane::cli {
 
 /// Tasks that are done side by side and delivered one after the other.
 struct OrderedTasks {
-    /// The tasks are 0 to `count` - 1.
+    /// The tasks are 0 to `count` - 1, unless `prepare` ends them before.
     std::size_t count;
     /// At most so many tasks are done at a time; at least 1.
     std::size_t threads;
@@ -18,6 +18,9 @@ struct OrderedTasks {
     /// Called once for each task that is done, in the order of the tasks and one at a time, from
     /// any of the threads.
     std::function<void(std::size_t task)> deliver;
+    /// Called once for each task before its work, in the order of the tasks and one at a time, from
+    /// any of the threads. Returns false if there is no such task; then there are none after it.
+    std::function<bool(std::size_t task)> prepare = {};
 };
 
 /// So many tasks can be begun that are not delivered yet. A long task holds the delivery of those
@@ -26,9 +29,9 @@ constexpr std::size_t tasksUnderWay(std::size_t threads) {
     return 16 * threads;
 }
 
-/// Does the tasks: on this thread and on new ones, as many as the system allows. When `work` or
-/// `deliver` throws, no more tasks are begun, those that are begun are ended, and the exception is
-/// thrown.
+/// Does the tasks: on this thread and on new ones, as many as the system allows. When one of
+/// the functions throws, no more tasks are begun, those that are begun are ended, and the exception
+/// is thrown.
 void doInOrder(const OrderedTasks& tasks);
 
 }  // namespace quorvane::cli

@@ -68,6 +68,15 @@ public:
         compileSource(0);
     }
 
+    void compileFileName(std::string name) {
+        result_.sources.push_back({.text = std::move(name)});
+        const LeafContext leaf{"the name of a file", ValueUse::Name, true};
+        add({.kind = TemplateStep::Kind::LeafBegin, .text = textOf(0)});
+        compileText(textOf(0), leaf, false);
+        leaveUnclosed();
+        add({.kind = TemplateStep::Kind::LeafEnd});
+    }
+
 private:
     /// A section that is not closed yet.
     struct Open {
@@ -410,6 +419,12 @@ Template compileTemplate(std::string text, TextEncoding encoding, const PartialS
         return result;
     }
     Compiler(result, partials, errors).compile(std::move(text), encoding);
+    return result;
+}
+
+Template compileFileName(std::string name, std::vector<TemplateError>& errors) {
+    Template result;
+    Compiler(result, {}, errors).compileFileName(std::move(name));
     return result;
 }
 

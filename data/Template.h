@@ -23,6 +23,8 @@ enum class ValueUse : std::uint8_t {
     Rtf,
     /// Any other value, on one line.
     Word,
+    /// A part of the name of a file: any text, as it is.
+    Name,
 };
 
 /// A text that a template is made of: its own or that of a partial.
@@ -101,6 +103,10 @@ using PartialSource = std::function<std::string(const std::string& name)>;
 /// only.
 Template compileTemplate(std::string text, TextEncoding encoding, const PartialSource& partials,
                          std::vector<TemplateError>& errors);
+
+/// Reads the name of a file with tags. Filled, it is one line, whose value is the name with the
+/// values as they are.
+Template compileFileName(std::string name, std::vector<TemplateError>& errors);
 
 /// True for a description of the extended language that was most likely written as a template: a
 /// line is a tag, or a text holds one.

@@ -90,11 +90,17 @@ TemplateFilling::TemplateFilling(const Template& source, Locale locale)
     : template_(source), locale_(std::move(locale)), areReported_(source.queries.size()) {}
 
 const std::vector<SourceLine>& TemplateFilling::fill(const DataValue& record,
-                                                     std::vector<TemplateError>& errors) {
+                                                     std::vector<TemplateError>& errors,
+                                                     std::size_t number) {
+    static const DataValue records{.kind = DataValue::Kind::List};
     isDataKnown_ = true;
     errors_ = &errors;
     begin();
     contexts_.push_back({.value = &record});
+    if (number > 0) {
+        contexts_.back().list = &records;
+        contexts_.back().item = number - 1;
+    }
     run();
     return finish();
 }
@@ -232,17 +238,31 @@ void TemplateFilling::addValue(const TemplateStep& step) {
     }
 }
 
-void TemplateFilling::addText(std::string_view text, const TemplateStep& step,
+/// Reports a text that cannot stand there.
+bool TemplateFilling::refuses(std::string_view text, const TemplateStep& step,
                               const TemplateQuery& query) {
+    if (step.use == ValueUse::Name) {
+        return false;
+    }
     if (step.use == ValueUse::Word || query.isRaw) {
         const auto* const control = std::find_if(text.begin(), text.end(), isControl);
-        if (control != text.end()) {
-            reportWrong(query, shownPath(query) + " holds " + std::string(nameOfControl(*control)) +
-                                   ", which cannot stand in " + std::string(query.key) + ".");
-            return;
+        if (control == text.end()) {
+            return false;
         }
-    } else if (const std::optional<Unshowable> unshowable = findUnshowable(text)) {
+        reportWrong(query, shownPath(query) + " holds " + std::string(nameOfControl(*control)) +
+                               ", which cannot stand in " + std::string(query.key) + ".");
+        return true;
+    }
+    const std::optional<Unshowable> unshowable = findUnshowable(text);
+    if (unshowable) {
         reportWrong(query, shownPath(query) + " cannot be shown: " + unshowable->message + ".");
+    }
+    return unshowable.has_value();
+}
+
+void TemplateFilling::addText(std::string_view text, const TemplateStep& step,
+                              const TemplateQuery& query) {
+    if (refuses(text, step, query)) {
         return;
     }
     const std::size_t begin = texts_.size();
@@ -313,6 +333,9 @@ TemplateFilling::Found TemplateFilling::find(const TemplateQuery& query) {
         return outer ? Found{.value = outer->value} : Found{.reason = "No object is around this."};
     }
     const Context* const list = listContext(path.outward);
+    if (list && !list->section && path.kind == TagPath::Kind::Last) {
+        return {.reason = "Which record is the last one is not known before all are read."};
+    }
     return list ? Found{.value = itemValue(path, *list)}
                 : Found{.reason = std::string(query.query.written) +
                                   " stands outside a section for a list."};

@@ -24,9 +24,10 @@ public:
 
     /// The lines of the description that the template and the record make. They are valid until the
     /// template is filled again, and view the texts of the template. Every tag that cannot be
-    /// filled is reported, once; its key then has a value that is not known.
-    const std::vector<SourceLine>& fill(const DataValue& record,
-                                        std::vector<TemplateError>& errors);
+    /// filled is reported, once; its key then has a value that is not known. Outside lists,
+    /// `@index` is the number of the record among others, from 1, if it has one.
+    const std::vector<SourceLine>& fill(const DataValue& record, std::vector<TemplateError>& errors,
+                                        std::size_t number = 0);
 
     /// The lines without data: each section once, and values that are not known.
     const std::vector<SourceLine>& fillUnknown();
@@ -36,7 +37,8 @@ private:
     struct Context {
         const DataValue* value = nullptr;
         const TemplateStep* section = nullptr;
-        /// Of a list, the item; the value is its.
+        /// Of a list, the item; the value is its. A record with a number is an item of a list of
+        /// which nothing else is known.
         const DataValue* list = nullptr;
         std::size_t item = 0;
     };
@@ -72,6 +74,7 @@ private:
     void beginLeaf(const TemplateStep& step);
     void endLeaf();
     void addValue(const TemplateStep& step);
+    bool refuses(std::string_view text, const TemplateStep& step, const TemplateQuery& query);
     void addText(std::string_view text, const TemplateStep& step, const TemplateQuery& query);
     bool makeText(const TemplateQuery& query, std::string& text);
     bool applyFilters(const TemplateQuery& query, const DataValue* value, std::string& text);

@@ -16,10 +16,6 @@ constexpr std::size_t deepest = 32;
 // Each record has a place for each of them.
 constexpr std::size_t mostNames = 4096;
 
-bool isBlank(char character) {
-    return character == ' ' || character == '\t' || character == '\n' || character == '\r';
-}
-
 std::int64_t linesIn(std::string_view text) {
     return std::count(text.begin(), text.end(), '\n');
 }
@@ -114,109 +110,13 @@ private:
 
 bool JsonRecords::next(std::vector<std::string_view>& fields) {
     fields.clear();
-    if (form_ == Form::Unknown) {
-        takeBeginning();
-    }
-    if (form_ == Form::Ended || !takeSeparator()) {
+    std::string_view object;
+    if (!objects_.next(object)) {
         return false;
     }
-    line_ = nextLine_;
-    parse(takeObject());
+    parse(object);
     fields.assign(values_.begin(), values_.end());
     return true;
-}
-
-bool JsonRecords::isAtEnd() {
-    while (at_ >= text_.size()) {
-        if (!text_.readMore()) {
-            return true;
-        }
-    }
-    return false;
-}
-
-/// False at the end of the text.
-bool JsonRecords::skipBlanks() {
-    while (!isAtEnd() && isBlank(text_.data()[at_])) {
-        nextLine_ += text_.data()[at_] == '\n' ? 1 : 0;
-        ++at_;
-        text_.discardBefore(at_);
-    }
-    return !isAtEnd();
-}
-
-void JsonRecords::takeBeginning() {
-    form_ = Form::Objects;
-    if (skipBlanks() && text_.data()[at_] == '[') {
-        form_ = Form::Array;
-        ++at_;
-    }
-}
-
-/// Takes what stands before a record; false if there is none.
-bool JsonRecords::takeSeparator() {
-    const bool isThere = skipBlanks();
-    line_ = nextLine_;
-    if (form_ == Form::Objects) {
-        return isThere;
-    }
-    if (isThere && text_.data()[at_] == ']') {
-        endArray();
-        return false;
-    }
-    if (isThere && hasRecords_) {
-        if (text_.data()[at_] != ',') {
-            refuse("A comma is missing between two records.");
-        }
-        ++at_;
-    }
-    if (!isThere || !skipBlanks()) {
-        refuse("The list of records does not end; ] is missing.");
-    }
-    return true;
-}
-
-void JsonRecords::endArray() {
-    ++at_;
-    form_ = Form::Ended;
-    const bool goesOn = skipBlanks();
-    line_ = nextLine_;
-    if (goesOn) {
-        refuse("The list of records ends, but the file does not.");
-    }
-}
-
-/// Finds where an object ends, and takes it.
-std::string_view JsonRecords::takeObject() {
-    if (text_.data()[at_] != '{') {
-        refuse("A record must be an object, which begins with {.");
-    }
-    const std::size_t begin = at_;
-    std::size_t depth = 0;
-    bool isString = false;
-    do {
-        if (isAtEnd()) {
-            refuse("The record does not end; } is missing.");
-        }
-        const char character = text_.data()[at_++];
-        if (character == '"') {
-            isString = !isString;
-        } else if (isString) {
-            // What follows a backslash does not end the text.
-            at_ += character == '\\' ? 1 : 0;
-        } else if (character == '{') {
-            ++depth;
-        } else if (character == '}') {
-            --depth;
-        }
-        if (at_ - begin > longestRecord) {
-            refuse("The record has more than 4 MB.");
-        }
-    } while (depth > 0);
-    hasRecords_ = true;
-    const std::string_view object = text_.view().substr(begin, at_ - begin);
-    nextLine_ += linesIn(object);
-    return object;
 }
 
 void JsonRecords::parse(std::string_view object) {
@@ -226,7 +126,7 @@ void JsonRecords::parse(std::string_view object) {
     JsonFields fields(*this);
     if (!json::sax_parse(object, &fields)) {
         const std::string_view before = object.substr(0, fields.errorPosition());
-        throw RecordError(line_ + linesIn(before), fields.error(), true);
+        throw RecordError(objects_.line() + linesIn(before), fields.error(), true);
     }
 }
 
@@ -258,11 +158,6 @@ std::size_t JsonRecords::indexOf(const std::string& name) {
         isThere_.push_back(false);
     }
     return found->second;
-}
-
-void JsonRecords::refuse(const std::string& why) {
-    form_ = Form::Ended;
-    throw RecordError(line_, why, false);
 }
 
 }  // namespace quorvane::data

@@ -7,44 +7,31 @@
 #include <unordered_map>
 #include <vector>
 
+#include "data/jsonObjects.h"
 #include "data/recordsSource.h"
 #include "data/recordsText.h"
 
 namespace quorvane::data {
 
-/// The records of a JSON array of objects, or of objects one after the other (JSON Lines). A number
-/// is as it is written, `null` is empty, and a list of single values has commas between them. A
-/// field of an object in a record has the names of both: "customer.city".
+/// The records of a JSON array of objects or of JSON Lines, see `JsonObjects`. A number is as it is
+/// written, `null` is empty, and a list of single values has commas between them. A field of an
+/// object in a record has the names of both: "customer.city".
 class JsonRecords final : public RecordSource {
 public:
     /// The text must outlive the records.
-    explicit JsonRecords(RecordsText& text) : text_(text) {}
+    explicit JsonRecords(RecordsText& text) : objects_(text) {}
 
     bool next(std::vector<std::string_view>& fields) override;
-    std::int64_t line() const noexcept override { return line_; }
+    std::int64_t line() const noexcept override { return objects_.line(); }
 
 private:
-    enum class Form : std::uint8_t { Unknown, Array, Objects, Ended };
-
-    bool isAtEnd();
-    bool skipBlanks();
-    void takeBeginning();
-    bool takeSeparator();
-    void endArray();
-    std::string_view takeObject();
     void parse(std::string_view object);
     bool put(const std::string& name, std::string value, std::string& error);
     std::size_t indexOf(const std::string& name);
-    [[noreturn]] void refuse(const std::string& why);
 
     friend class JsonFields;
 
-    RecordsText& text_;
-    Form form_ = Form::Unknown;
-    std::size_t at_ = 0;
-    std::int64_t line_ = 1;
-    std::int64_t nextLine_ = 1;
-    bool hasRecords_ = false;
+    JsonObjects objects_;
     // By the names.
     std::vector<std::string> values_;
     std::vector<bool> isThere_;

@@ -54,7 +54,7 @@ TEST_F(NeverOverwrites, TheDescriptionThatFollowsAnOptionWithoutItsValue) {
 TEST_F(NeverOverwrites, AnyDescriptionOrStylesheetWhateverItsName) {
     folder.write("a.rtfspec", descriptionOf("Text"));
     const std::string text = descriptionOf("Other");
-    const std::string ending = "; name another file for the document, or move that one away";
+    const std::string ending = "; name another file, or move that one away";
     const std::vector<std::pair<std::string, std::string>> others = {
         {"b.rtfspec", text},
         {"b.rtf", "; mine\r\n\r\n" + text},

@@ -56,6 +56,43 @@ TEST(TasksInOrder, AreAllDoneAndDeliveredInTheirOrder) {
     }
 }
 
+TEST(TasksInOrder, ArePreparedInTheirOrderUntilThereAreNoMore) {
+    for (const std::size_t threads : {1, 2, 7}) {
+        std::vector<std::size_t> prepared;
+        std::vector<std::size_t> delivered;
+        doInOrder({.count = 1'000'000,
+                   .threads = threads,
+                   .work =
+                       [](std::size_t, std::size_t task) {
+                           takeTime(task);
+                           return false;
+                       },
+                   .deliver = [&](std::size_t task) { delivered.push_back(task); },
+                   .prepare =
+                       [&](std::size_t task) {
+                           prepared.push_back(task);
+                           return task < 100;
+                       }});
+        EXPECT_EQ(prepared, numbersBelow(101));
+        EXPECT_EQ(delivered, numbersBelow(100));
+    }
+}
+
+TEST(TasksInOrder, EndWithTheExceptionOfAPreparation) {
+    const auto prepare = [](std::size_t task) -> bool {
+        if (task == 3) {
+            throw std::runtime_error("no more");
+        }
+        return true;
+    };
+    EXPECT_THROW(doInOrder({.count = 10,
+                            .threads = 2,
+                            .work = [](std::size_t, std::size_t) { return false; },
+                            .deliver = [](std::size_t) {},
+                            .prepare = prepare}),
+                 std::runtime_error);
+}
+
 TEST(TasksInOrder, AreDeliveredOneAtATime) {
     std::atomic<int> delivering = 0;
     const auto deliver = [&](std::size_t task) {

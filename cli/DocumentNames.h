@@ -1,0 +1,49 @@
+#pragma once
+
+#include <string>
+
+#include "cli/NumberedRecord.h"
+#include "cli/OutputGuard.h"
+#include "cli/RenderOptions.h"
+#include "cli/RenderReport.h"
+#include "cli/SeenNames.h"
+#include "data/Template.h"
+#include "data/TemplateFilling.h"
+#include "data/locale.h"
+
+namespace quorvane::cli {
+
+/// The files that the documents of records go to: --output, filled with each record, or the name of
+/// the description with the number of the record.
+///
+/// No two records get one file, whether a system tells small letters from capitals or not.
+class DocumentNames {
+public:
+    /// Throws a `UsageError` for names with wrong tags, and for names that are the same for all
+    /// records.
+    DocumentNames(const RenderOptions& options, const data::Locale& locale);
+
+    /// The folder that is in the name of each document; empty for the current one.
+    std::string commonFolder() const;
+
+    /// The file for the document of a record. Empty for a record that gets none, which is reported.
+    std::string nameFor(const NumberedRecord& record, RenderReport& report);
+
+    /// No document gets this name, because something else is written to it. Throws a `UsageError`
+    /// if that would replace what is read.
+    void exclude(const std::string& name, const std::string& what);
+
+private:
+    std::string filledName(const NumberedRecord& record, RenderReport& report);
+    void require(const std::string& name);
+
+    std::string description_;
+    OutputGuard guard_;
+    data::Template pattern_;
+    data::TemplateFilling filling_;
+    // The number of the record makes each name another one.
+    bool areNumbered_ = false;
+    SeenNames seen_;
+};
+
+}  // namespace quorvane::cli

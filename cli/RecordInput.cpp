@@ -1,0 +1,58 @@
+#include "cli/RecordInput.h"
+
+#include "cli/recordsFile.h"
+
+namespace quorvane::cli {
+
+namespace {
+
+std::unique_ptr<data::RecordValues> valuesOf(const std::string& path, data::RecordsText& text) {
+    return areJsonRecords(path, requireText(text), false) ? data::jsonValues(text)
+                                                          : data::csvValues(text, std::nullopt);
+}
+
+}  // namespace
+
+RecordInput::RecordInput(const std::string& path, const RecordRange& range)
+    : range_(range),
+      text_(openRecords(path), EncodingChoice::Auto),
+      values_(valuesOf(path, text_)) {}
+
+/// Passes over the records before the range; false if there is none after them.
+bool RecordInput::passBefore() {
+    while (number_ + 1 < range_.first) {
+        try {
+            if (!values_->skip()) {
+                return false;
+            }
+        } catch (const data::RecordError& error) {
+            if (!error.canGoOn) {
+                throw;
+            }
+        }
+        ++number_;
+    }
+    return true;
+}
+
+bool RecordInput::next(NumberedRecord& record) {
+    if (isEnded_ || number_ == range_.last || !passBefore()) {
+        return false;
+    }
+    record.number = number_ + 1;
+    try {
+        if (!values_->next(record.value)) {
+            return false;
+        }
+    } catch (const data::RecordError& error) {
+        ++number_;
+        record.line = error.line;
+        isEnded_ = !error.canGoOn;
+        throw;
+    }
+    ++number_;
+    record.line = values_->line();
+    return true;
+}
+
+}  // namespace quorvane::cli

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <cstddef>
+#include <limits>
+
+namespace quorvane::cli {
+
+/// The records from one number to another, counted from 1.
+struct RecordRange {
+    std::size_t first = 1;
+    std::size_t last = std::numeric_limits<std::size_t>::max();
+};
+
+}  // namespace quorvane::cli

@@ -1,0 +1,204 @@
+#include "cli/RecordsRendering.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+#include <variant>
+
+#include "cli/UsageError.h"
+#include "cli/errorText.h"
+#include "cli/fileFailure.h"
+#include "cli/localeOption.h"
+#include "cli/recordsFile.h"
+#include "cli/tasksInOrder.h"
+
+namespace quorvane::cli {
+
+namespace {
+
+bool isDiskFull(const RtfError& error) {
+    const RtfError* each = &error;
+    while (each->cause && !each->is(RunTimeError::DiskFull)) {
+        each = each->cause.get();
+    }
+    return each->is(RunTimeError::DiskFull);
+}
+
+/// Says which record the events are about.
+void number(RenderEvents& events, std::size_t record) {
+    for (auto& event : events) {
+        if (auto* error = std::get_if<ReportedError>(&event)) {
+            error->record = record;
+        } else if (auto* located = std::get_if<LocatedDiagnostic>(&event)) {
+            located->diagnostic.message.insert(0, recordText(record));
+        }
+    }
+}
+
+std::string counted(std::size_t count, const std::string& what) {
+    return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
+}
+
+}  // namespace
+
+RecordsRendering::RecordsRendering(const RenderOptions& options, const RenderMeans& means)
+    : options_(options),
+      means_(means),
+      locale_(localeOf(options.locale)),
+      names_(options, locale_),
+      finding_(receiversInto(found_, static_cast<bool>(means.receivers.locate))) {}
+
+ExitStatus RecordsRendering::run(std::size_t threads) {
+    if (!load() || !open()) {
+        return status_;
+    }
+    findings_.emplace(means_.report, finding_);
+    try {
+        renderAll(threads);
+        summarize();
+        if (report_) {
+            report_->close();
+        }
+    } catch (const UnreadableInput& error) {
+        fail(unreadableFile(dataName(), *options_.data, error));
+    } catch (const RtfError& error) {
+        fail(fileFailure(*options_.report, error));
+    }
+    return status_;
+}
+
+bool RecordsRendering::load() {
+    const std::string& path = options_.descriptions.front();
+    if (std::optional<DescriptionText> description =
+            readDescription(path, options_.encoding, means_.platform, means_.report, status_)) {
+        template_ = loadTemplate(path, *std::move(description), means_.platform, means_.report);
+        status_ = std::max(status_, template_ ? ExitStatus::Success : ExitStatus::ContentErrors);
+    }
+    return template_.has_value();
+}
+
+/// Opens the data and the report.
+bool RecordsRendering::open() {
+    try {
+        input_.emplace(*options_.data, options_.records);
+    } catch (const UnreadableInput& error) {
+        fail(unreadableFile(dataName(), *options_.data, error));
+        return false;
+    } catch (const data::RecordError& error) {
+        means_.report.fail({ErrorKind::Raised, dataName(), error});
+        status_ = ExitStatus::ContentErrors;
+        return false;
+    }
+    if (!options_.report) {
+        return true;
+    }
+    try {
+        names_.exclude(*options_.report, "the report");
+        report_.emplace(means_.platform.createFile(*options_.report));
+    } catch (const RtfError& error) {
+        fail(fileFailure(*options_.report, error));
+    }
+    return report_.has_value();
+}
+
+void RecordsRendering::renderAll(std::size_t threads) {
+    std::deque<Thread> all;
+    while (all.size() < threads) {
+        all.emplace_back(means_, template_->source, locale_);
+    }
+    tasks_.resize(tasksUnderWay(threads));
+    doInOrder(
+        {.count = std::numeric_limits<std::size_t>::max(),
+         .threads = threads,
+         .work = [&](std::size_t thread, std::size_t task) { return work(all[thread], task); },
+         .deliver = [&](std::size_t task) { deliver(task); },
+         .prepare = [&](std::size_t task) { return prepare(task); }});
+}
+
+/// Reads the next record and names its document; false if there is none.
+bool RecordsRendering::prepare(std::size_t number) {
+    Task& task = taskAt(number);
+    if (isStopped_ || !read(task)) {
+        return false;
+    }
+    if (found_.empty()) {
+        task.result.file = names_.nameFor(task.record, *findings_);
+    }
+    task.status = found_.empty() ? ExitStatus::Success : ExitStatus::ContentErrors;
+    task.result.number = task.record.number;
+    task.result.line = task.record.line;
+    task.result.events = std::exchange(found_, {});
+    return true;
+}
+
+/// Reads a record; one that is wrong is reported.
+bool RecordsRendering::read(Task& task) {
+    try {
+        return input_->next(task.record);
+    } catch (const data::RecordError& error) {
+        findings_->fail({ErrorKind::Raised, dataName(), error});
+        return true;
+    }
+}
+
+/// Returns true if the report is long.
+bool RecordsRendering::work(Thread& thread, std::size_t number) {
+    Task& task = taskAt(number);
+    if (task.status == ExitStatus::Success) {
+        const Assignment assignment{template_->path, task.result.file};
+        task.status =
+            thread.rendering.worker.render(assignment, *template_, thread.filling, task.record);
+        task.result.isWritten = thread.rendering.worker.hasWritten();
+        task.result.events = std::exchange(thread.rendering.events, {});
+    }
+    return areMany(task.result.events);
+}
+
+void RecordsRendering::deliver(std::size_t number) {
+    Task& task = taskAt(number);
+    RecordResult result = std::exchange(task.result, {});
+    status_ = std::max(status_, task.status);
+    ++(result.isWritten ? written_ : failed_);
+    if (report_) {
+        report_->add(result);
+    }
+    stopAfter(result.events);
+    cli::number(result.events, result.number);
+    report(result.events, means_.report, means_.receivers);
+    if (means_.receivers.progress) {
+        means_.receivers.progress(written_ + failed_, 0, result.file);
+    }
+}
+
+/// A full disk and a stylesheet that cannot be used stop all documents.
+void RecordsRendering::stopAfter(const RenderEvents& events) {
+    for (const auto& event : events) {
+        const auto* const error = std::get_if<ReportedError>(&event);
+        if ((error && isDiskFull(error->error)) ||
+            (std::holds_alternative<StyleSheetRefusal>(event) && !options_.keepGoing)) {
+            isStopped_ = true;
+        }
+    }
+}
+
+void RecordsRendering::summarize() {
+    if (failed_ > 0) {
+        means_.report.fail(refusal(
+            dataName(), counted(failed_, "record") + " failed; " + counted(written_, "document") +
+                            (written_ == 1 ? " was" : " were") + " written"));
+    } else if (means_.receivers.note) {
+        means_.receivers.note(counted(written_, "document") + (written_ == 1 ? " was" : " were") +
+                              " written");
+    }
+}
+
+void RecordsRendering::fail(const ReportedError& failure) {
+    status_ = ExitStatus::Failure;
+    means_.report.fail(failure);
+}
+
+std::string RecordsRendering::dataName() const {
+    return options_.data == standardStream ? "<stdin>" : *options_.data;
+}
+
+}  // namespace quorvane::cli
