@@ -34,7 +34,10 @@ stylesheet.
 
 With --data, the descriptions are templates: {{name}} stands for a value of the
 JSON file, or of standard input for -, and {{#lines}} ... {{/lines}} for what is
-repeated for each item of a list.
+repeated for each item of a list. With --each, the data is a JSON array, JSON
+Lines or a CSV file, and each record gets a document; --output is a template
+then, such as 'out/{{number}}.rtf'. A record that fails is reported, and the
+others go on.
 
 Errors are reported on standard error as "quorvane check" reports them. With
 --check, texts that would corrupt the document are errors too.
