@@ -36,23 +36,22 @@ bool RecordInput::passBefore() {
 }
 
 bool RecordInput::next(NumberedRecord& record) {
-    if (isEnded_ || number_ == range_.last || !passBefore()) {
+    if (isEnded_ || number_ == range_.last) {
         return false;
     }
-    record.number = number_ + 1;
     try {
-        if (!values_->next(record.value)) {
-            return false;
-        }
+        const bool isThere = passBefore() && values_->next(record.value);
+        number_ += isThere ? 1 : 0;
+        record.number = number_;
+        record.line = values_->line();
+        return isThere;
     } catch (const data::RecordError& error) {
         ++number_;
+        record.number = number_;
         record.line = error.line;
         isEnded_ = !error.canGoOn;
         throw;
     }
-    ++number_;
-    record.line = values_->line();
-    return true;
 }
 
 }  // namespace quorvane::cli

@@ -55,16 +55,29 @@ ExitStatus RecordsRendering::run(std::size_t threads) {
     findings_.emplace(means_.report, finding_);
     try {
         renderAll(threads);
-        summarize();
-        if (report_) {
-            report_->close();
-        }
     } catch (const UnreadableInput& error) {
         fail(unreadableFile(dataName(), *options_.data, error));
     } catch (const RtfError& error) {
-        fail(fileFailure(*options_.report, error));
+        failReport(error);
     }
+    summarize();
+    closeReport();
     return status_;
+}
+
+void RecordsRendering::failReport(const RtfError& error) {
+    report_.reset();
+    fail(fileFailure(options_.report == standardStream ? "<stdout>" : *options_.report, error));
+}
+
+void RecordsRendering::closeReport() {
+    try {
+        if (report_) {
+            report_->close();
+        }
+    } catch (const RtfError& error) {
+        failReport(error);
+    }
 }
 
 bool RecordsRendering::load() {
@@ -96,7 +109,7 @@ bool RecordsRendering::open() {
         names_.exclude(*options_.report, "the report");
         report_.emplace(means_.platform.createFile(*options_.report));
     } catch (const RtfError& error) {
-        fail(fileFailure(*options_.report, error));
+        failReport(error);
     }
     return report_.has_value();
 }

@@ -19,6 +19,7 @@
 #include "cli/renderEvents.h"
 #include "data/TemplateFilling.h"
 #include "data/locale.h"
+#include "quorvane/base/values/RtfError.h"
 
 namespace quorvane::cli {
 
@@ -62,6 +63,8 @@ private:
     void deliver(std::size_t number);
     void stopAfter(const RenderEvents& events);
     void summarize();
+    void failReport(const RtfError& error);
+    void closeReport();
     void fail(const ReportedError& failure);
     std::string dataName() const;
 

@@ -7,8 +7,9 @@
 
 namespace quorvane::cli {
 
-/// Remembers names by a number of 64 bits each, so that a million take 16 MB. With as many, the
-/// chance that a new name is taken for one that was seen is one in 37 million.
+/// Remembers names by a number of 64 bits each, so that a million take 16 MB, and 24 MB while room
+/// is made for more. With as many, the chance that a new name is taken for one that was seen is one
+/// in 37 million.
 class SeenNames {
 public:
     /// Returns false for a name that was added before.

@@ -162,6 +162,16 @@ TEST_F(RecordsTest, CanBeARangeOfThem) {
               "0 documents were written\n");
 }
 
+TEST_F(RecordsTest, BeforeARangeAreNotLookedAtUnlessTheyEndTheData) {
+    folder.write("a.jsonl", "{wrong}\n\n{\"name\":\"Bob\"}\n");
+    EXPECT_EQ(run({"--data", "a.jsonl", "--each", "--records=2", "letter.rtfspec"}).errors,
+              "1 document was written\n");
+    folder.write("a.json", "[{},\n2,{}]");
+    EXPECT_EQ(run({"--data", "a.json", "--each", "--records=3", "letter.rtfspec"}).errors,
+              "a.json:2: error: record 2: A record must be an object, which begins with {.\n"
+              "a.json: 1 record failed; 0 documents were written\n");
+}
+
 TEST_F(RecordsTest, ComeFromStandardInput) {
     start.input = "name;n\r\nMüller;1\r\n";
     run({"--data", "-", "--each", "letter.rtfspec"});
@@ -186,6 +196,13 @@ TEST_F(RecordsTest, EndWithAFullDiskAndEarlierDocumentsAreWhole) {
     EXPECT_EQ(result.status, 2);
     EXPECT_TRUE(folder.has("letter-1.rtf"));
     EXPECT_FALSE(folder.has("letter-3.rtf"));
+}
+
+TEST_F(RecordsTest, EndWithAReportThatCannotBeWritten) {
+    const ProgramResult result =
+        run({"--data", "good.json", "--each", "--report", "/dev/full", "letter.rtfspec"});
+    EXPECT_EQ(result.errors, "3 documents were written\n/dev/full: No space left on device\n");
+    EXPECT_EQ(result.status, 2);
 }
 
 TEST_F(RecordsTest, AreNotReadForATemplateThatIsWrong) {
