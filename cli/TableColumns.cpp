@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <iterator>
 #include <numeric>
 
 #include "cli/localeOption.h"
@@ -23,9 +24,9 @@ namespace {
 std::vector<data::ColumnRequest> requestsOf(const std::vector<std::size_t>& fields,
                                             const std::vector<std::string>& names) {
     std::vector<data::ColumnRequest> columns;
-    for (const std::size_t field : fields) {
-        columns.push_back({.name = names[field]});
-    }
+    std::ranges::transform(fields, std::back_inserter(columns), [&](std::size_t field) {
+        return data::ColumnRequest{.name = names[field]};
+    });
     return columns;
 }
 

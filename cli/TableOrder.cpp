@@ -59,8 +59,9 @@ TableOrder::TableOrder(const TableOptions& options)
         locale_ = localeOf(options.locale);
     }
     // The field of the groups comes first.
-    std::ranges::stable_partition(
-        requests_, [&](const data::SortRequest& request) { return request.name == groupBy_; });
+    std::stable_partition(
+        requests_.begin(), requests_.end(),
+        [&](const data::SortRequest& request) { return request.name == groupBy_; });
 }
 
 void TableOrder::sort(data::KeptRows& rows, const std::vector<std::string>& names) const {
