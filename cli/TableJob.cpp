@@ -240,9 +240,9 @@ void TableJob::requireShown(const std::vector<std::string>& names,
                             std::span<const std::string_view> fields) {
     for (const std::size_t blank : blankFields_) {
         if (blank < fields.size() && !fields[blank].empty()) {
-            refuse("The " + std::to_string(blank + 1) +
-                   ". field has neither a heading nor a value in "
-                   "the first rows, so that the table has no column for it. Give it a heading.");
+            refuse("Field " + std::to_string(blank + 1) +
+                   " has neither a heading nor a value in the first rows, so that the table has no "
+                   "column for it. Give it a heading.");
         }
     }
     if (names.size() > fieldCount_ && !columns_->areNamed()) {

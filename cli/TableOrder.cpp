@@ -44,6 +44,7 @@ struct Column {
 std::vector<Column> columnsOf(const std::vector<data::SortRequest>& requests,
                               const std::vector<std::string>& names) {
     std::vector<Column> columns;
+    columns.reserve(requests.size());
     for (const data::SortRequest& request : requests) {
         columns.push_back(
             {fieldNamed(request.name, names), data::SortColumn(request.isDescending)});

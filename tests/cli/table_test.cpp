@@ -328,10 +328,9 @@ TEST_F(TableTest, ShowsNoBlankColumnsAndRowsOfSpreadsheets) {
         rows += "4;5;;\r\n";
     }
     folder.write("b.csv", rows + "6;7;;8\r\n");
-    EXPECT_EQ(
-        run({"b.csv"}).errors,
-        "b.csv:1006: error: The 4. field has neither a heading nor a value in the first rows, "
-        "so that the table has no column for it. Give it a heading.\n");
+    EXPECT_EQ(run({"b.csv"}).errors,
+              "b.csv:1006: error: Field 4 has neither a heading nor a value in the first rows, "
+              "so that the table has no column for it. Give it a heading.\n");
 }
 
 TEST_F(TableTest, ReadsNastyFilesOrSaysWhatToDo) {

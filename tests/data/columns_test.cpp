@@ -10,6 +10,7 @@
 #include "data/columnsRequest.h"
 #include "data/columnsTotal.h"
 #include "quorvane/base/values/RtfError.h"
+#include "tests/data/errorOf.h"
 
 namespace quorvane::data {
 namespace {
@@ -17,17 +18,6 @@ namespace {
 using testing::DoubleNear;
 using testing::ElementsAre;
 using testing::HasSubstr;
-
-template <class Action>
-std::string errorOf(Action action) {
-    try {
-        action();
-    } catch (const RtfError& error) {
-        EXPECT_EQ(error.number, 5);
-        return error.description;
-    }
-    return "no error";
-}
 
 TEST(ShownSign, IsThatOfNumbersThatCanBeReadInOneWayOnly) {
     for (const char* text : {"12,5", "1.234,50", "12,50 \u20AC", "-0,5", "1 250,75"}) {

@@ -11,23 +11,13 @@
 #include "data/sortKey.h"
 #include "data/sortRequest.h"
 #include "quorvane/base/values/RtfError.h"
+#include "tests/data/errorOf.h"
 
 namespace quorvane::data {
 namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
-
-template <class Action>
-std::string errorOf(Action action) {
-    try {
-        action();
-    } catch (const RtfError& error) {
-        EXPECT_EQ(error.number, 5);
-        return error.description;
-    }
-    return "no error";
-}
 
 std::vector<std::string> sorted(const std::vector<std::string>& values, bool isDescending = false,
                                 const Locale* locale = nullptr) {
