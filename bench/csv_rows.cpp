@@ -75,13 +75,15 @@ int main(int argc, char** argv) {
         return 2;
     }
     constexpr std::string_view rowBegin = "\r\n{\\intbl";
+    constexpr std::string_view rowEnd = "\\row}";
     const std::string pattern = readWhole(argv[2]);
     const std::string_view document = pattern;
     const std::size_t second = document.rfind(rowBegin);
     const std::size_t first = document.rfind(rowBegin, second - 1);
+    const std::size_t end = document.rfind(rowEnd) + rowEnd.size();
     const std::vector<std::string_view> rows[] = {
         pieces(document.substr(first, second - first)),
-        pieces(document.substr(second, document.size() - second - 1))};
+        pieces(document.substr(second, end - second))};
     Output out(argv[3]);
     out.add(document.substr(0, first));
     std::ifstream csv(argv[1], std::ios::binary);
@@ -90,6 +92,6 @@ int main(int argc, char** argv) {
     for (std::size_t number = 0; std::getline(csv, line); ++number) {
         writeRow(line, rows[number % 2], out);
     }
-    out.add("}");
+    out.add(document.substr(end));
     return 0;
 }

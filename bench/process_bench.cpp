@@ -1,5 +1,6 @@
-// Costs of whole processes beside plain programs: process_bench PROGRAMS EXAMPLES, the folders of
-// the built programs and of the examples. Every pair is run by turns, several times.
+// Costs of whole processes beside plain programs: process_bench PROGRAMS EXAMPLES PEERS, the
+// folders of the built programs, of the examples and of programs in other languages. Every pair is
+// run by turns, several times.
 
 #include <algorithm>
 #include <cstdint>
@@ -44,8 +45,11 @@ private:
 
 class ProcessBench {
 public:
-    ProcessBench(const fs::path& built, const fs::path& examples, fs::path folder)
-        : folder_(std::move(folder)), programs_(built, folder_), files_(folder_, examples) {}
+    ProcessBench(const fs::path& built, const fs::path& examples, fs::path peers, fs::path folder)
+        : folder_(std::move(folder)),
+          peers_(std::move(peers)),
+          programs_(built, folder_),
+          files_(folder_, examples) {}
 
     void compareSmallest() {
         const auto printLine = [&](const std::string&) { return Command{programs_("print_line")}; };
@@ -134,6 +138,8 @@ public:
                                       [&](const std::string& out) { return tableOf(small, out); });
         std::printf("- For each row: %.2f in processor time\n",
                     toSmall.ratio(&Run::work).value * fewRows / manyRows);
+        comparePeers(large, small);
+        compareSorted(large);
     }
 
     bool rendersSideBySide() const {
@@ -141,6 +147,40 @@ public:
     }
 
 private:
+    /// Programs that others would take for the same job. They are the first ones here.
+    void comparePeers(const std::string& large, const std::string& small) {
+        if (succeeds({"python3", "--version"})) {
+            compare(
+                "A program in Python that reads the same 1,000,000 rows with its csv module and "
+                "writes the same bytes, to quorvane table",
+                3, [&](const std::string& out) { return pythonTableOf(large, out); },
+                [&](const std::string& out) { return tableOf(large, out); });
+        }
+        if (succeeds({"pandoc", "--version"})) {
+            compare(
+                "pandoc, which makes an RTF file of 10,000 rows, to quorvane table", 3,
+                [&](const std::string& out) {
+                    return Command{"pandoc", "--standalone", "--from=csv",
+                                   small,    "--output",     out + "/pandoc.rtf"};
+                },
+                [&](const std::string& out) { return tableOf(small, out); });
+        }
+    }
+
+    void compareSorted(const std::string& large) {
+        const Turns toUnsorted = compare(
+            "quorvane table --sort of 1,000,000 rows, to the same without it", 3,
+            [&](const std::string& out) {
+                Command command = tableOf(large, out);
+                command.insert(command.end(), {"--sort", "price:desc,article"});
+                return command;
+            },
+            [&](const std::string& out) { return tableOf(large, out); });
+        std::printf("- Its peak memory: %.1f MB, for %.1f MB of data\n",
+                    toUnsorted.ours(&Run::peakMegabytes),
+                    static_cast<double>(fs::file_size(large)) / 1e6);
+    }
+
     static constexpr std::int32_t standardRows = 100000;
     static constexpr std::int32_t manyRows = 1000000;
     static constexpr std::int32_t fewRows = 10000;
@@ -175,9 +215,21 @@ private:
         return {programs_("csv_rows"), csv, (folder_ / "pattern.rtf").string(), out + "/plain.rtf"};
     }
 
+    Command pythonTableOf(const std::string& csv, const std::string& out) const {
+        return {"python3", (peers_ / "csv_rows.py").string(), csv,
+                (folder_ / "pattern.rtf").string(), out + "/plain.rtf"};
+    }
+
     void requireSameTables(const std::string& csv) const {
         timedRun(tableOf(csv, folder_.string()));
-        timedRun(plainTableOf(csv, folder_.string()));
+        requireSameTable(plainTableOf(csv, folder_.string()));
+        if (succeeds({"python3", "--version"})) {
+            requireSameTable(pythonTableOf(csv, folder_.string()));
+        }
+    }
+
+    void requireSameTable(const Command& plainTable) const {
+        timedRun(plainTable);
         if (!areEqual(folder_ / "small.rtf", folder_ / "plain.rtf")) {
             throw std::runtime_error("The programs do not write the same table");
         }
@@ -207,13 +259,14 @@ private:
     }
 
     fs::path folder_;
+    fs::path peers_;
     Programs programs_;
     BenchFiles files_;
 };
 
-void compareAll(const fs::path& programs, const fs::path& examples) {
+void compareAll(const fs::path& programs, const fs::path& examples, const fs::path& peers) {
     const TemporaryFolder onDisk(diskFolder());
-    ProcessBench disk(programs, examples, onDisk.path());
+    ProcessBench disk(programs, examples, peers, onDisk.path());
     disk.compareSmallest();
     disk.compareFull();
     disk.compareMany(
@@ -224,7 +277,7 @@ void compareAll(const fs::path& programs, const fs::path& examples) {
         return;
     }
     const TemporaryFolder inMemory(memoryFolder());
-    ProcessBench memory(programs, examples, inMemory.path());
+    ProcessBench memory(programs, examples, peers, inMemory.path());
     memory.compareMany("The 1,000 copies in a file system in memory (/dev/shm)");
     if (memory.rendersSideBySide()) {
         memory.compareManyOnTwoCores();
@@ -233,16 +286,25 @@ void compareAll(const fs::path& programs, const fs::path& examples) {
     memory.compareTable();
 }
 
+void compareTables(const fs::path& programs, const fs::path& examples, const fs::path& peers) {
+    const TemporaryFolder folder(memoryFolder().empty() ? diskFolder() : memoryFolder());
+    ProcessBench(programs, examples, peers, folder.path()).compareTable();
+}
+
 }  // namespace
 }  // namespace quorvane::bench
 
 int main(int argc, char** argv) {
-    if (argc != 3) {
-        static_cast<void>(std::fprintf(stderr, "usage: %s PROGRAMS EXAMPLES\n", argv[0]));
+    const bool isOfTables = argc == 5 && std::string(argv[4]) == "tables";
+    if (argc != 4 && !isOfTables) {
+        static_cast<void>(
+            std::fprintf(stderr, "usage: %s PROGRAMS EXAMPLES PEERS [tables]\n", argv[0]));
         return 2;
     }
     try {
-        quorvane::bench::compareAll(argv[1], argv[2]);
+        const auto compare =
+            isOfTables ? quorvane::bench::compareTables : quorvane::bench::compareAll;
+        compare(argv[1], argv[2], argv[3]);
     } catch (const std::exception& error) {
         static_cast<void>(std::fprintf(stderr, "%s\n", error.what()));
         return 1;

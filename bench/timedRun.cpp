@@ -34,7 +34,7 @@ pid_t start(const Command& command, bool keepsErrors) {
     }
     pid_t process = -1;
     const int failure =
-        ::posix_spawn(&process, arguments[0], &actions, nullptr, arguments.data(), environ);
+        ::posix_spawnp(&process, arguments[0], &actions, nullptr, arguments.data(), environ);
     ::posix_spawn_file_actions_destroy(&actions);
     return failure == 0 ? process : -1;
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <iterator>
 #include <numeric>
 
 #include "cli/localeOption.h"
@@ -19,18 +20,34 @@ namespace {
     raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), why));
 }
 
-std::vector<data::ColumnRequest> requestsOf(const TableOptions& options,
+/// The columns of all these fields.
+std::vector<data::ColumnRequest> requestsOf(const std::vector<std::size_t>& fields,
                                             const std::vector<std::string>& names) {
-    if (options.columns) {
-        return data::columnRequests(*options.columns);
-    }
     std::vector<data::ColumnRequest> columns;
-    for (const std::string& name : names) {
-        if (name != options.groupBy) {
-            columns.push_back({.name = name});
+    std::ranges::transform(fields, std::back_inserter(columns), [&](std::size_t field) {
+        return data::ColumnRequest{.name = names[field]};
+    });
+    return columns;
+}
+
+std::vector<std::size_t> shownFields(const TableOptions& options,
+                                     const std::vector<std::string>& names,
+                                     const std::vector<std::size_t>& blankFields) {
+    std::vector<std::size_t> fields;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (names[i] != options.groupBy && !std::ranges::binary_search(blankFields, i)) {
+            fields.push_back(i);
         }
     }
-    return columns;
+    return fields;
+}
+
+/// The kind of the filter that values come to first; `default` lets them pass.
+std::optional<data::FilterKind> firstFilter(const data::ColumnRequest& column) {
+    const auto first = std::ranges::find_if(column.filters, [](const data::Filter& filter) {
+        return filter.kind != data::FilterKind::Default;
+    });
+    return first == column.filters.end() ? std::nullopt : std::optional(first->kind);
 }
 
 /// "12.34%", rounded down, so that the columns are never wider than the page.
@@ -66,14 +83,35 @@ double takenOf(const std::string& width, double area) {
     return given.isShare ? given.amount * area / 100 : given.amount;
 }
 
+// More look bad, and take room from the rows of each page.
+constexpr std::size_t mostHeadingLines = 3;
+
 /// True if the columns ask for more than the page is wide, where long texts may break.
 bool needLandscape(const std::vector<data::ColumnMeasure>& measures, double area) {
     constexpr double wideEnough = 3600;
     double needed = 0;
     for (const data::ColumnMeasure& measure : measures) {
-        needed += std::min(measure.width(), wideEnough);
+        needed += std::min(measure.width(mostHeadingLines), wideEnough);
     }
     return needed > area;
+}
+
+/// The columns with their headings in as few lines as there is room for.
+std::vector<data::FlexibleColumn> columnsWithin(const std::vector<data::ColumnMeasure>& measures,
+                                                double area) {
+    std::vector<data::FlexibleColumn> columns;
+    for (std::size_t lines = 1; lines <= mostHeadingLines; ++lines) {
+        columns.clear();
+        double asked = 0;
+        for (const data::ColumnMeasure& measure : measures) {
+            columns.push_back({measure.width(lines), measure.stretches()});
+            asked += columns.back().width;
+        }
+        if (asked <= area) {
+            break;
+        }
+    }
+    return columns;
 }
 
 }  // namespace
@@ -92,24 +130,24 @@ std::size_t fieldNamed(std::string_view name, const std::vector<std::string>& na
     return static_cast<std::size_t>(found - names.begin());
 }
 
-TableColumns::TableColumns(const TableOptions& options, const std::vector<std::string>& names)
-    : columns_(requestsOf(options, names)),
-      hasLocale_(options.locale.has_value()),
+TableColumns::TableColumns(const TableOptions& options, const std::vector<std::string>& names,
+                           const std::vector<std::size_t>& blankFields)
+    : hasLocale_(options.locale.has_value()),
       locale_(localeOf(options.locale)),
-      areNamed_(options.columns.has_value()),
-      signs_(columns_.size()),
-      filtered_(columns_.size()),
-      cells_(columns_.size()) {
-    for (std::size_t i = 0; i < names.size() && !areNamed_; ++i) {
-        if (names[i] != options.groupBy) {
-            fields_.push_back(i);
-        }
-    }
-    for (const data::ColumnRequest& column : columns_) {
-        if (areNamed_) {
+      areNamed_(options.columns.has_value()) {
+    if (areNamed_) {
+        columns_ = data::columnRequests(*options.columns);
+        for (const data::ColumnRequest& column : columns_) {
             fields_.push_back(fieldNamed(column.name, names));
         }
+    } else {
+        fields_ = shownFields(options, names, blankFields);
+        columns_ = requestsOf(fields_, names);
     }
+    signs_.resize(columns_.size());
+    dateOrders_.resize(columns_.size());
+    filtered_.resize(columns_.size());
+    cells_.resize(columns_.size());
 }
 
 void TableColumns::fit(TableSetup& setup, const std::vector<TableRecord>& records,
@@ -120,16 +158,16 @@ void TableColumns::fit(TableSetup& setup, const std::vector<TableRecord>& record
     }
     const double area = textAreaOf(setup);
     double left = area;
-    std::vector<data::FlexibleColumn> flexible;
+    std::vector<data::ColumnMeasure> flexible;
     for (std::size_t i = 0; i < columns_.size(); ++i) {
         if (columns_[i].width.empty()) {
-            flexible.push_back({measures[i].width(), !measures[i].holdsNumbers()});
+            flexible.push_back(measures[i]);
         } else {
             left -= takenOf(columns_[i].width, area);
         }
     }
-    const std::vector<double> widths =
-        withoutTooNarrow(data::fittedWidths(flexible, std::max(left, 1.0)), area / 100);
+    const std::vector<double> widths = withoutTooNarrow(
+        data::fittedWidths(columnsWithin(flexible, left), std::max(left, 1.0)), area / 100);
     auto width = widths.begin();
     for (std::size_t i = 0; i < columns_.size(); ++i) {
         const data::ColumnRequest& column = columns_[i];
@@ -185,6 +223,7 @@ std::span<const std::string_view> TableColumns::cells(std::span<const std::strin
 
 void TableColumns::findSigns(const std::vector<TableRecord>& records, bool areJson) {
     using enum data::DecimalSign;
+    findDateOrders(records);
     for (std::size_t i = 0; i < columns_.size(); ++i) {
         if (areJson) {
             signs_[i] = Point;
@@ -195,7 +234,7 @@ void TableColumns::findSigns(const std::vector<TableRecord>& records, bool areJs
             }
         }
         if (!signs_[i] && hasLocale_) {
-            signs_[i] = locale_.decimal == "," ? Comma : Point;
+            signs_[i] = locale_.decimalSign();
         }
         if (!signs_[i] && readsNumbers(i)) {
             signs_[i] = Point;
@@ -203,17 +242,52 @@ void TableColumns::findSigns(const std::vector<TableRecord>& records, bool areJs
     }
 }
 
-bool TableColumns::readsNumbers(std::size_t column) const {
-    const std::vector<data::Filter>& filters = columns_[column].filters;
-    const auto first = std::find_if(filters.begin(), filters.end(), [](const data::Filter& filter) {
-        return filter.kind != data::FilterKind::Default;
-    });
-    return first != filters.end() &&
-           (first->kind == data::FilterKind::Number || first->kind == data::FilterKind::Money);
+void TableColumns::findDateOrders(const std::vector<TableRecord>& records) {
+    for (std::size_t i = 0; i < columns_.size(); ++i) {
+        std::optional<data::DateOrder>& order = dateOrders_[i];
+        for (auto record = records.begin(); record != records.end() && !order; ++record) {
+            if (readsDates(i) && fields_[i] < record->fields.size()) {
+                order = data::shownDateOrder(record->fields[fields_[i]]);
+            }
+        }
+        if (!order && hasLocale_) {
+            order = locale_.dateOrder;
+        }
+    }
 }
 
-/// The value; a number that a filter reads is written as in JSON.
+bool TableColumns::readsNumbers(std::size_t column) const {
+    const std::optional<data::FilterKind> first = firstFilter(columns_[column]);
+    return first == data::FilterKind::Number || first == data::FilterKind::Money;
+}
+
+bool TableColumns::readsDates(std::size_t column) const {
+    return firstFilter(columns_[column]) == data::FilterKind::Date;
+}
+
+/// The date as a filter reads it.
+std::string TableColumns::plainDate(std::size_t column, std::string_view value) const {
+    const std::optional<data::DateOrder> order = dateOrders_[column];
+    if (!order && data::isAmbiguousDate(value)) {
+        refuse("\"" + columns_[column].name + "\": \"" + std::string(value) +
+               "\" can begin with the day or the month. Choose one with --locale, such as en-GB or "
+               "en-US.");
+    }
+    const std::optional<std::string> iso =
+        data::isoDate(value, order.value_or(data::DateOrder::DayMonthYear));
+    if (!iso && order) {
+        refuse("\"" + columns_[column].name + "\": \"" + std::string(value) +
+               "\" is not a date of the form 2026-11-22 or " +
+               std::string(data::dateExample(*order)) + ".");
+    }
+    return iso.value_or(std::string(value));
+}
+
+/// The value; a number or a date that a filter reads is written as in JSON.
 std::string TableColumns::plain(std::size_t column, std::string_view value) const {
+    if (readsDates(column) && !value.empty()) {
+        return plainDate(column, value);
+    }
     const std::optional<data::WrittenNumber> number = data::writtenNumber(value);
     if (!readsNumbers(column) || !signs_[column] || !number || !number->before.empty() ||
         !number->after.empty()) {

@@ -12,6 +12,7 @@
 #include "data/columnsMeasure.h"
 #include "data/columnsNumber.h"
 #include "data/columnsRequest.h"
+#include "data/localDate.h"
 #include "data/locale.h"
 #include "quorvane/compose/TableSetup.h"
 
@@ -30,12 +31,14 @@ std::size_t fieldNamed(std::string_view name, const std::vector<std::string>& na
 /// Which fields of the records a table shows, and how.
 class TableColumns {
 public:
-    /// Takes the columns of the options, or all fields but that of the groups. Error 5 for columns
-    /// that are wrong or name no field.
-    TableColumns(const TableOptions& options, const std::vector<std::string>& names);
+    /// Takes the columns of the options, or all fields but that of the groups and the blank ones.
+    /// Error 5 for columns that are wrong or name no field.
+    TableColumns(const TableOptions& options, const std::vector<std::string>& names,
+                 const std::vector<std::size_t>& blankFields);
 
-    /// Finds out how numbers are written in the columns, by the first records. Those of JSON have a
-    /// decimal point. Where the numbers do not show their decimal sign, it is that of the locale.
+    /// Finds out how numbers and dates are written in the columns, by the first records. Numbers of
+    /// JSON have a decimal point. Where the values do not show their decimal sign or the order of
+    /// their parts, it is that of the locale.
     void findSigns(const std::vector<TableRecord>& records, bool areJson);
     /// The decimal sign of a column; nothing where it is not known.
     std::optional<data::DecimalSign> decimalSign(std::size_t column) const {
@@ -61,7 +64,10 @@ public:
 
 private:
     bool readsNumbers(std::size_t column) const;
+    bool readsDates(std::size_t column) const;
+    void findDateOrders(const std::vector<TableRecord>& records);
     std::string plain(std::size_t column, std::string_view value) const;
+    std::string plainDate(std::size_t column, std::string_view value) const;
     std::vector<data::ColumnMeasure> measured(const std::vector<TableRecord>& records);
 
     std::vector<data::ColumnRequest> columns_;
@@ -72,6 +78,8 @@ private:
     std::vector<std::size_t> fields_;
     // The decimal signs of the columns.
     std::vector<std::optional<data::DecimalSign>> signs_;
+    // The orders of the dates in them.
+    std::vector<std::optional<data::DateOrder>> dateOrders_;
     std::vector<std::string> filtered_;
     std::vector<std::string_view> cells_;
 };

@@ -1,12 +1,16 @@
 #include "cli/TableJob.h"
 
+#include <algorithm>
+#include <filesystem>
 #include <utility>
 
 #include "cli/RenderOptions.h"
 #include "cli/UsageError.h"
+#include "cli/asUsage.h"
 #include "cli/fileFailure.h"
 #include "cli/outputPaths.h"
 #include "cli/styleSheetName.h"
+#include "cli/utf8Path.h"
 #include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/docmodel/CRtfDoc.h"
@@ -29,24 +33,27 @@ Assignment assignmentOf(const TableOptions& options) {
     return assignOutputs(render).front();
 }
 
+[[noreturn]] void refuse(const std::string& why) {
+    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), why));
+}
+
+/// "prices-002.rtf" for the second part of "prices.rtf".
+std::string partPath(const std::string& path, std::size_t part) {
+    constexpr std::size_t digits = 3;
+    const std::string number = std::to_string(part);
+    const std::string padded = std::string(digits - std::min(digits, number.size()), '0') + number;
+    const std::filesystem::path whole = pathFromUtf8(path);
+    std::filesystem::path name = whole.stem();
+    name += "-" + padded;
+    name += whole.extension();
+    return utf8FromPath(whole.parent_path() / name);
+}
+
 /// Raises what is wrong with a stylesheet.
 void requireStyleSheet(const std::string& text) {
     const Ref<CRtfDoc> document = CRtfDoc::create();
     document->setExtendedStyleSheets(true);
     document->LoadStyleSheetFromMemmory(text);
-}
-
-/// Runs an action whose errors are those of the options.
-template <class Action>
-auto asUsage(Action action) {
-    try {
-        return action();
-    } catch (const RtfError& error) {
-        if (!error.is(RunTimeError::InvalidProcedureCall)) {
-            throw;
-        }
-        throw UsageError(error.description);
-    }
 }
 
 }  // namespace
@@ -110,13 +117,16 @@ void TableJob::writeTable() {
         throw data::RecordError(0, "There is no data. A table needs a row of names or a record.",
                                 false);
     }
-    const std::unique_ptr<TableTarget> target = asUsage([&] {
+    asUsage([&] {
         findFields(records);
-        return targetOf(setupOf(records));
+        setup_ = setupOf(records);
+        beginPart();
     });
-    addRecords(records, *target);
-    addTotals(*target);
-    target->finish();
+    addRecords(records);
+    // A part whose only rows were left out is no document.
+    if (rows_ > 0 || part_ == 1) {
+        endPart();
+    }
     if (leftOut_ > 0) {
         report_(refusal(
             inputName(),
@@ -126,9 +136,15 @@ void TableJob::writeTable() {
 
 void TableJob::findFields(const TableRecords& records) {
     const std::vector<std::string>& names = records.names();
-    columns_.emplace(options_, names);
+    columns_.emplace(options_, names, records.blankFields());
+    if (columns_->count() > mostTableColumns) {
+        refuse("The data has " + std::to_string(columns_->count()) +
+               " fields to show, and a table has at most " + std::to_string(mostTableColumns) +
+               " columns. Choose some with --columns.");
+    }
     columns_->findSigns(records.first(), records.areJson());
     fieldCount_ = names.size();
+    blankFields_ = columns_->areNamed() ? std::vector<std::size_t>() : records.blankFields();
     if (options_.groupBy) {
         groupField_ = fieldNamed(*options_.groupBy, names);
     }
@@ -152,29 +168,61 @@ TableSetup TableJob::setupOf(const TableRecords& records) {
     take(setup.stripe, options_.stripe);
     take(setup.border, options_.border);
     setup.styleSheet = styleSheet_;
+    setup.groupsStartPages = options_.groupPages;
     columns_->fit(setup, records.first(), !options_.page);
     return setup;
 }
 
-std::unique_ptr<TableTarget> TableJob::targetOf(const TableSetup& setup) {
-    // What is wrong with the setup shows before there is a file.
-    const TableWriter trial(setup, [](std::string_view) {});
-    std::unique_ptr<OutputFile> file = platform_.createFile(output_);
-    if (options_.form == TableForm::Description) {
-        return std::make_unique<TableDescriptionTarget>(setup, std::move(file));
+/// Opens the document, or the next one of several.
+void TableJob::beginPart() {
+    if (part_ == 0) {
+        // What is wrong with the setup shows before there is a file.
+        const TableWriter trial(setup_, [](std::string_view) {});
     }
-    return std::make_unique<TableDocumentTarget>(setup, std::move(file));
+    ++part_;
+    std::unique_ptr<OutputFile> file = platform_.createFile(partOutput());
+    if (options_.form == TableForm::Description) {
+        target_ = std::make_unique<TableDescriptionTarget>(setup_, std::move(file));
+    } else {
+        target_ = std::make_unique<TableDocumentTarget>(setup_, std::move(file));
+    }
+    rows_ = 0;
+    group_.reset();
+    for (Total& total : totals_) {
+        total.sum = data::ColumnTotal(columns_->decimalSign(total.column));
+    }
 }
 
-void TableJob::addRecords(TableRecords& records, TableTarget& target) {
+std::string TableJob::partOutput() const {
+    if (!options_.split) {
+        return output_;
+    }
+    if (output_ == standardStream) {
+        throw UsageError("--split writes several files; name them with --output");
+    }
+    TableOptions part = options_;
+    part.output = partPath(output_, part_);
+    return assignmentOf(part).output;
+}
+
+void TableJob::endPart() {
+    addTotals();
+    target_->finish();
+}
+
+void TableJob::addRecords(TableRecords& records) {
     std::vector<std::string_view> fields;
     for (std::size_t count = 0; !options_.limit || count < *options_.limit; ++count) {
         if (!records.next(fields)) {
             return;
         }
+        if (rows_ == options_.split) {
+            endPart();
+            beginPart();
+        }
         try {
-            requireKnown(records.names());
-            addRecord(fields, target);
+            requireShown(records.names(), fields);
+            addRecord(fields);
         } catch (const RtfError& error) {
             if (!error.is(RunTimeError::InvalidProcedureCall)) {
                 throw;
@@ -187,19 +235,25 @@ void TableJob::addRecords(TableRecords& records, TableTarget& target) {
     }
 }
 
-/// Fields that no column shows must not be lost without notice.
-void TableJob::requireKnown(const std::vector<std::string>& names) {
+/// Values that no column shows must not be lost without notice.
+void TableJob::requireShown(const std::vector<std::string>& names,
+                            std::span<const std::string_view> fields) {
+    for (const std::size_t blank : blankFields_) {
+        if (blank < fields.size() && !fields[blank].empty()) {
+            refuse("Field " + std::to_string(blank + 1) +
+                   " has neither a heading nor a value in the first rows, so that the table has no "
+                   "column for it. Give it a heading.");
+        }
+    }
     if (names.size() > fieldCount_ && !columns_->areNamed()) {
         const std::string& name = names[fieldCount_];
         fieldCount_ = names.size();
-        raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
-                       "The first records do not have the field \"" + name +
-                           "\", so that the table has no column for it. Name the columns with "
-                           "--columns."));
+        refuse("The first records do not have the field \"" + name +
+               "\", so that the table has no column for it. Name the columns with --columns.");
     }
 }
 
-void TableJob::addRecord(std::span<const std::string_view> fields, TableTarget& target) {
+void TableJob::addRecord(std::span<const std::string_view> fields) {
     const auto field = [&](std::size_t position) {
         return position < fields.size() ? fields[position] : std::string_view();
     };
@@ -208,16 +262,18 @@ void TableJob::addRecord(std::span<const std::string_view> fields, TableTarget& 
     }
     const std::span<const std::string_view> cells = columns_->cells(fields);
     if (groupField_ && group_ != field(*groupField_)) {
-        target.addGroup(field(*groupField_));
+        target_->addGroup(field(*groupField_), cells);
         group_ = field(*groupField_);
+    } else {
+        target_->addRow(cells);
     }
-    target.addRow(cells);
+    ++rows_;
     for (Total& total : totals_) {
         total.sum.add(field(total.field));
     }
 }
 
-void TableJob::addTotals(TableTarget& target) {
+void TableJob::addTotals() {
     if (totals_.empty()) {
         return;
     }
@@ -232,7 +288,7 @@ void TableJob::addTotals(TableTarget& target) {
             throw data::RecordError(0, error.description, false);
         }
     }
-    target.addTotal(std::vector<std::string_view>(texts.begin(), texts.end()));
+    target_->addTotal(std::vector<std::string_view>(texts.begin(), texts.end()));
 }
 
 void TableJob::leaveOut(const RtfError& error) {

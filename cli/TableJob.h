@@ -42,12 +42,15 @@ private:
     void writeStyleSheet();
     void writeTable();
     TableSetup setupOf(const TableRecords& records);
-    std::unique_ptr<TableTarget> targetOf(const TableSetup& setup);
     void findFields(const TableRecords& records);
-    void addRecords(TableRecords& records, TableTarget& target);
-    void addRecord(std::span<const std::string_view> fields, TableTarget& target);
-    void addTotals(TableTarget& target);
-    void requireKnown(const std::vector<std::string>& names);
+    void beginPart();
+    void endPart();
+    std::string partOutput() const;
+    void addRecords(TableRecords& records);
+    void addRecord(std::span<const std::string_view> fields);
+    void addTotals();
+    void requireShown(const std::vector<std::string>& names,
+                      std::span<const std::string_view> fields);
     void leaveOut(const RtfError& error);
     ExitStatus fail(const ReportedError& failure);
     std::string inputName() const;
@@ -59,7 +62,13 @@ private:
     std::string output_;
     std::string styleSheet_;
     std::optional<TableColumns> columns_;
+    TableSetup setup_;
+    std::unique_ptr<TableTarget> target_;
+    // The number of the document, and how many rows it has.
+    std::size_t part_ = 0;
+    std::size_t rows_ = 0;
     std::size_t fieldCount_ = 0;
+    std::vector<std::size_t> blankFields_;
     std::vector<Total> totals_;
     std::optional<std::size_t> groupField_;
     std::optional<std::string> group_;

@@ -29,6 +29,11 @@ struct TableOptions {
     std::optional<std::string> stripe;
     std::optional<std::string> border;
     std::optional<std::string> groupBy;
+    /// Whether each group begins a page.
+    bool groupPages = false;
+    std::optional<std::string> sort;
+    /// How many rows a document has at most.
+    std::optional<std::size_t> split;
     std::vector<std::string> totals;
     /// What stands in the first cell of the row with the sums.
     std::string totalLabel = "Total";

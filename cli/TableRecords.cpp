@@ -4,6 +4,8 @@
 #include <optional>
 #include <utility>
 
+#include "cli/TableOrder.h"
+#include "cli/asUsage.h"
 #include "data/csvRecords.h"
 #include "data/recordsJson.h"
 
@@ -35,7 +37,34 @@ TableRecords::TableRecords(const TableOptions& options, Report report)
       text_(openRecords(options.input), options.encoding),
       areJson_(isJson(options, requireText(text_))),
       source_(sourceOf(options, text_, areJson_)) {
+    if (options_.sort) {
+        sort();
+    }
     readFirst();
+}
+
+void TableRecords::sort() {
+    const TableOrder order = asUsage([&] { return TableOrder(options_); });
+    sorted_.emplace();
+    std::vector<std::string_view> fields;
+    while (readSource(fields)) {
+        sorted_->add(fields, source_->line());
+    }
+    asUsage([&] { order.sort(*sorted_, source_->names()); });
+}
+
+std::vector<std::size_t> TableRecords::blankFields() const {
+    std::vector<std::size_t> blank;
+    for (std::size_t i = 0; i < names().size(); ++i) {
+        const auto isBlank = [i](const TableRecord& record) {
+            return i >= record.fields.size() || record.fields[i].empty();
+        };
+        if (!source_->hasHeading(i) && std::ranges::all_of(first_, isBlank)) {
+            blank.push_back(i);
+        }
+    }
+    // A table has a column at least.
+    return blank.size() < names().size() ? blank : std::vector<std::size_t>();
 }
 
 /// So many that their widths are those of most records, and so few that they take little memory.
@@ -46,7 +75,7 @@ void TableRecords::readFirst() {
     std::size_t bytes = 0;
     std::vector<std::string_view> fields;
     while (first_.size() < most && bytes < enoughBytes && read(fields)) {
-        first_.push_back({{fields.begin(), fields.end()}, source_->line()});
+        first_.push_back({{fields.begin(), fields.end()}, line_});
         for (const std::string_view field : fields) {
             bytes += field.size();
         }
@@ -54,6 +83,21 @@ void TableRecords::readFirst() {
 }
 
 bool TableRecords::read(std::vector<std::string_view>& fields) {
+    if (!sorted_) {
+        const bool isThere = readSource(fields);
+        line_ = source_->line();
+        return isThere;
+    }
+    if (read_ == sorted_->size()) {
+        return false;
+    }
+    sorted_->read(read_, fields);
+    line_ = sorted_->line(read_);
+    ++read_;
+    return true;
+}
+
+bool TableRecords::readSource(std::vector<std::string_view>& fields) {
     for (;;) {
         try {
             return source_->next(fields);
@@ -68,9 +112,7 @@ bool TableRecords::read(std::vector<std::string_view>& fields) {
 
 bool TableRecords::next(std::vector<std::string_view>& fields) {
     if (taken_ >= first_.size()) {
-        const bool isThere = read(fields);
-        line_ = source_->line();
-        return isThere;
+        return read(fields);
     }
     const TableRecord& record = first_[taken_++];
     fields.assign(record.fields.begin(), record.fields.end());

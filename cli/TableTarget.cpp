@@ -15,9 +15,12 @@ void TableDescriptionTarget::addRow(std::span<const std::string_view> cells) {
     stripes_ = stripes;
 }
 
-void TableDescriptionTarget::addGroup(std::string_view heading) {
-    write(description_.row(TableRowKind::Group, {&heading, 1}));
-    stripes_.beginGroup();
+void TableDescriptionTarget::addGroup(std::string_view heading,
+                                      std::span<const std::string_view> cells) {
+    TableStripes stripes;
+    write(description_.row(TableRowKind::Group, {&heading, 1}) +
+          description_.row(stripes.next(), cells));
+    stripes_ = stripes;
 }
 
 void TableDescriptionTarget::addTotal(std::span<const std::string_view> cells) {

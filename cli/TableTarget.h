@@ -20,7 +20,8 @@ public:
     virtual ~TableTarget() = default;
 
     virtual void addRow(std::span<const std::string_view> cells) = 0;
-    virtual void addGroup(std::string_view heading) = 0;
+    /// Adds a heading and the first row below it.
+    virtual void addGroup(std::string_view heading, std::span<const std::string_view> cells) = 0;
     virtual void addTotal(std::span<const std::string_view> cells) = 0;
     /// Ends and closes the file.
     virtual void finish() = 0;
@@ -33,7 +34,9 @@ public:
         : writer_(setup, std::move(file)) {}
 
     void addRow(std::span<const std::string_view> cells) override { writer_.addRow(cells); }
-    void addGroup(std::string_view heading) override { writer_.addGroup(heading); }
+    void addGroup(std::string_view heading, std::span<const std::string_view> cells) override {
+        writer_.addGroup(heading, cells);
+    }
     void addTotal(std::span<const std::string_view> cells) override { writer_.addTotal(cells); }
     void finish() override { writer_.finish(); }
 
@@ -47,7 +50,7 @@ public:
     TableDescriptionTarget(const TableSetup& setup, std::unique_ptr<OutputFile> file);
 
     void addRow(std::span<const std::string_view> cells) override;
-    void addGroup(std::string_view heading) override;
+    void addGroup(std::string_view heading, std::span<const std::string_view> cells) override;
     void addTotal(std::span<const std::string_view> cells) override;
     void finish() override;
 

@@ -176,7 +176,12 @@ the heading is on every page. For other columns, name them in their order:
 After the name of a field come its heading, its width (in percent of the text
 area, as a length such as 3cm, or auto), its alignment (left, right, center or
 justified), and filters: number:2, money:2, date:dd.MM.yyyy, upper, lower,
-default:text. Quotation marks around a name or a heading let it hold : and , too.
+default:text. Quotation marks around a name or a heading let it hold : and , too; a
+heading that is one word in small letters needs them.
+
+--sort orders the rows: numbers and dates by their value, texts without regard to
+case and accents, empty values last. It keeps all rows in memory. The rows of a
+group stay together.
 
 A row that cannot be read is an error, and nothing is written. With --keep-going
 such rows are reported and left out.
@@ -593,6 +598,13 @@ std::string wrongCount(const std::string& value) {
     return isNumber ? std::string() : asGiven(value) + " is not a number of rows";
 }
 
+/// The same where a document must have a row.
+std::string wrongPartSize(const std::string& value) {
+    return value.find_first_not_of('0') == std::string::npos
+               ? asGiven(value) + " is not a number of rows from 1"
+               : wrongCount(value);
+}
+
 CLI::callback_t storeIn(std::optional<std::size_t>& target) {
     return [&target](const CLI::results_t& results) {
         target = std::stoull(results.front());
@@ -632,7 +644,11 @@ void addTableOptions(CLI::App* table, TableOptions& options) {
     add("--stripe", options.stripe, "COLOR", "The color of every second row, or none");
     add("--border", options.border, "BORDER",
         "The border of all cells: hair, thin, normal or thick");
-    add("--group-by", options.groupBy, "FIELD", "A heading above the rows that share this field");
+    add("--sort", options.sort, "FIELDS", "The order of the rows, such as price:desc,name");
+    CLI::Option* const groupBy = add("--group-by", options.groupBy, "FIELD",
+                                     "A heading above the rows that share this field");
+    table->add_flag("--group-pages", options.groupPages, "Begin a page with each group")
+        ->needs(groupBy);
     table
         ->add_option("--total", storeIn(options.totals),
                      "A row at the end with the sum of this column; can be repeated")
@@ -642,6 +658,9 @@ void addTableOptions(CLI::App* table, TableOptions& options) {
     add("--total-label", options.totalLabel, "TEXT", "What that row begins with; Total by default");
     add("--limit", options.limit, "N", "Stop after so many rows")
         ->check(CLI::Validator(wrongCount, ""));
+    add("--split", options.split, "N",
+        "Write documents of so many rows each, such as prices-001.rtf")
+        ->check(CLI::Validator(wrongPartSize, ""));
     table->add_flag("--keep-going", options.keepGoing, "Leave out rows that have errors");
     addTableForms(table, options);
     refuseEmptyValues(*table);

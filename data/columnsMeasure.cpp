@@ -1,10 +1,12 @@
 #include "data/columnsMeasure.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <numeric>
 
 #include "data/columnsNumber.h"
+#include "data/localDate.h"
 #include "quorvane/base/text/utf8.h"
 
 namespace quorvane::data {
@@ -39,8 +41,8 @@ double widthOf(char32_t character) {
                                                                                     : usualWidth;
 }
 
-/// The width of the widest line.
-double widthOf(std::string_view text) {
+/// The width of the widest line, in parts of the size.
+double widestLine(std::string_view text) {
     double widest = 0;
     double line = 0;
     for (std::size_t at = 0; at < text.size();) {
@@ -50,7 +52,54 @@ double widthOf(std::string_view text) {
             character.code == '\n' || character.code == '\r' ? 0 : line + widthOf(character.code);
         widest = std::max(widest, line);
     }
-    return widest * fontSize + padding;
+    return widest;
+}
+
+double widthOf(std::string_view text) {
+    return widestLine(text) * fontSize + padding;
+}
+
+/// The widths of the words of a text.
+std::vector<double> wordWidths(std::string_view text) {
+    std::vector<double> widths;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find_first_of(" \r\n"), text.size());
+        widths.push_back(widestLine(text.substr(0, end)));
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return widths;
+}
+
+std::size_t linesIn(const std::vector<double>& words, double width) {
+    std::size_t lines = 1;
+    double line = 0;
+    for (const double word : words) {
+        const bool isFirst = line == 0;
+        if (!isFirst && line + narrowWidth + word > width) {
+            ++lines;
+            line = word;
+        } else {
+            line += word + (isFirst ? 0 : narrowWidth);
+        }
+    }
+    return lines;
+}
+
+/// About the least width in which a text has no more lines.
+double wrappedWidth(std::string_view text, std::size_t lines) {
+    constexpr double step = 1.05;
+    const double whole = widestLine(text);
+    const std::vector<double> words = wordWidths(text);
+    double width = words.empty() ? 0 : *std::ranges::max_element(words);
+    while (lines > 1 && width < whole && linesIn(words, width) > lines) {
+        width *= step;
+    }
+    return (lines > 1 ? std::min(width, whole) : whole) * fontSize * boldFactor + padding;
+}
+
+bool isDate(std::string_view text) {
+    return isoDate(text, DateOrder::DayMonthYear) || isoDate(text, DateOrder::MonthDayYear) ||
+           isoDate(text, DateOrder::YearMonthDay);
 }
 
 /// The widths of columns for which there is more room than they ask for.
@@ -101,16 +150,23 @@ std::vector<double> squeezed(const std::vector<FlexibleColumn>& columns, double 
 }  // namespace
 
 void ColumnMeasure::addHeading(std::string_view text) {
-    width_ = std::max(width_, widthOf(text) * boldFactor);
+    heading_ = text;
+}
+
+double ColumnMeasure::width(std::size_t headingLines) const {
+    return std::max(cellWidth_, wrappedWidth(heading_, headingLines));
 }
 
 void ColumnMeasure::addCell(std::string_view text) {
     if (text.empty()) {
         return;
     }
-    width_ = std::max(width_, widthOf(text));
+    cellWidth_ = std::max(cellWidth_, widthOf(text));
     if (!hasOthers_) {
         (looksLikeNumber(text) ? hasNumbers_ : hasOthers_) = true;
+    }
+    if (!hasTexts_) {
+        (isDate(text) ? hasDates_ : hasTexts_) = true;
     }
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <algorithm>
-#include <cstdint>
+#include <cstddef>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -13,15 +13,22 @@ public:
     void addHeading(std::string_view text);
     void addCell(std::string_view text);
 
-    /// The width in twips in which no line of a cell breaks, in the usual font.
-    double width() const noexcept { return width_; }
+    /// The width in twips in which no line of a cell breaks, in the usual font. The heading may
+    /// break at its blanks into so many lines.
+    double width(std::size_t headingLines = 1) const;
     /// True if all cells with a text are numbers, and there is one.
     bool holdsNumbers() const noexcept { return hasNumbers_ && !hasOthers_; }
+    /// True for texts that use room that is left over: not for columns of numbers or dates.
+    bool stretches() const noexcept { return !holdsNumbers() && (!hasDates_ || hasTexts_); }
 
 private:
-    double width_ = 0;
+    std::string heading_;
+    double cellWidth_ = 0;
     bool hasNumbers_ = false;
+    // Cells that are not numbers, and those that are not dates.
     bool hasOthers_ = false;
+    bool hasDates_ = false;
+    bool hasTexts_ = false;
 };
 
 /// A column whose width suits its contents.

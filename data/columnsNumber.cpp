@@ -41,19 +41,19 @@ std::string_view withoutBlanks(std::string_view text) {
     return text;
 }
 
-/// Takes a sign off the end, and says whether it is a minus.
-bool takeSign(std::string_view& before) {
+/// Takes a sign off the beginning or the end, and returns it; empty if there is none.
+std::string_view takeSign(std::string_view& before) {
     for (const std::string_view sign : {std::string_view("-"), std::string_view("+"), minusSign}) {
         if (before.ends_with(sign)) {
             before.remove_suffix(sign.size());
-            return sign != "+";
+            return sign;
         }
         if (before.starts_with(sign)) {
             before.remove_prefix(sign.size());
-            return sign != "+";
+            return sign;
         }
     }
-    return false;
+    return {};
 }
 
 /// The sign with which a text goes on that can stand between groups; empty if it does not.
@@ -91,7 +91,8 @@ std::optional<WrittenNumber> writtenNumber(std::string_view text) {
     WrittenNumber number;
     number.digits = text.substr(begin, end - begin);
     number.before = text.substr(0, begin);
-    number.isNegative = takeSign(number.before);
+    number.sign = takeSign(number.before);
+    number.isNegative = !number.sign.empty() && number.sign != "+";
     number.after = text.substr(end);
     const bool isNumber =
         isUnit(withoutBlanks(number.before)) && isUnit(withoutBlanks(number.after));

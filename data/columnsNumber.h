@@ -13,6 +13,8 @@ struct WrittenNumber {
     std::string_view before;
     std::string_view after;
     bool isNegative = false;
+    /// "+", "-" or U+2212, if there is one of them.
+    std::string_view sign{};
     /// The digits, with the signs between their groups and before the decimals.
     std::string_view digits;
 };

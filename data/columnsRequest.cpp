@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "data/columnsParts.h"
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/diagnostics/engine/nearestWord.h"
 #include "quorvane/driver/extendedValues.h"
@@ -26,71 +27,21 @@ constexpr NamedAlignment alignments[] = {
 };
 
 constexpr std::string_view filterNames[] = {"number", "money", "date", "upper", "lower", "default"};
+// All words that can follow the name of a field.
+constexpr std::string_view words[] = {"auto",  "left", "right", "center", "justified", "number",
+                                      "money", "date", "upper", "lower",  "default"};
 
-/// A part between two signs, and whether it was written between quotation marks.
-struct Part {
-    std::string text;
-    bool isQuoted = false;
-};
+template <std::size_t count>
+bool isWord(const std::string_view (&known)[count], std::string_view text) {
+    return std::find(std::begin(known), std::end(known), text) != std::end(known);
+}
 
-/// Reads the parts of columns one after the other.
-class Parts {
-public:
-    explicit Parts(std::string_view text) : rest_(text) {}
-
-    Part take() { return rest_.starts_with('"') ? takeQuoted() : takeUpTo(":,"); }
-    /// All up to the next column: a comma that is not in quotation marks.
-    Part takeColumn() {
-        bool isQuoted = false;
-        std::size_t end = 0;
-        for (; end < rest_.size() && (isQuoted || rest_[end] != ','); ++end) {
-            isQuoted = isQuoted != (rest_[end] == '"');
-        }
-        Part part{std::string(rest_.substr(0, end))};
-        rest_.remove_prefix(end);
-        return part;
-    }
-
-    /// Takes the sign if it is the next character.
-    bool takeSign(char sign) {
-        const bool isThere = rest_.starts_with(sign);
-        rest_.remove_prefix(isThere ? 1 : 0);
-        return isThere;
-    }
-    bool isAtEnd() const { return rest_.empty(); }
-    std::string_view rest() const { return rest_; }
-    /// How a part began that was just looked at.
-    std::string_view untilSign() const {
-        return rest_.substr(0, std::min(rest_.find_first_of(":,|"), rest_.size()));
-    }
-
-private:
-    Part takeUpTo(std::string_view signs) {
-        const std::size_t end = std::min(rest_.find_first_of(signs), rest_.size());
-        Part part{std::string(rest_.substr(0, end))};
-        rest_.remove_prefix(end);
-        return part;
-    }
-
-    Part takeQuoted() {
-        Part part{{}, true};
-        for (;;) {
-            rest_.remove_prefix(1);
-            const std::size_t end = rest_.find('"');
-            if (end == std::string_view::npos) {
-                refuse("A quotation mark in the columns is not closed.");
-            }
-            part.text += rest_.substr(0, end);
-            rest_.remove_prefix(end + 1);
-            if (!rest_.starts_with('"')) {
-                return part;
-            }
-            part.text += '"';
-        }
-    }
-
-    std::string_view rest_;
-};
+/// True for "rigth" and the like: a heading in small letters is taken for a misspelled word.
+bool looksMisspelled(const ColumnsPart& part) {
+    return !part.isQuoted && !part.text.empty() &&
+           std::all_of(part.text.begin(), part.text.end(),
+                       [](char letter) { return letter >= 'a' && letter <= 'z'; });
+}
 
 /// A width without the blank that some languages have before "%".
 std::string withoutBlank(std::string_view text) {
@@ -120,8 +71,8 @@ std::string requiredWidth(const std::string& text) {
     return text;
 }
 
-void takeProperty(Parts& parts, ColumnRequest& column) {
-    const Part part = parts.take();
+void takeProperty(ColumnsParts& parts, ColumnRequest& column) {
+    const ColumnsPart part = parts.take();
     const auto* const alignment =
         std::find_if(std::begin(alignments), std::end(alignments),
                      [&](const NamedAlignment& entry) { return entry.name == part.text; });
@@ -132,31 +83,34 @@ void takeProperty(Parts& parts, ColumnRequest& column) {
     } else if (!part.isQuoted && alignment != std::end(alignments)) {
         column.align = alignment->align;
     } else if (!part.isQuoted && isBareNumber(part.text)) {
-        const std::string guess = didYouMean(column.heading.value_or(std::string()), filterNames);
-        refuse("\"" + part.text + "\" after the column \"" + column.name + "\" is not a width; " +
-               (guess.empty() ? "write " + part.text + "% or " + part.text +
-                                    "mm, or put a heading into quotation marks."
-                              : guess));
+        refuse("\"" + part.text + "\" after the column \"" + column.name +
+               "\" is not a width; write " + part.text + "% or " + part.text +
+               "mm, or put a heading into quotation marks.");
     } else if (column.heading) {
         refuse("The column \"" + column.name + "\" has two headings, \"" + *column.heading +
                "\" and \"" + part.text +
                "\". After its name, a column has a heading, a width such as 20% or 3cm, an "
                "alignment (left, right, center, justified) and filters.");
+    } else if (looksMisspelled(part)) {
+        const std::string guess = didYouMean(part.text, words);
+        refuse("\"" + part.text + "\" after the column \"" + column.name +
+               "\" is not a width, an alignment or a filter; " +
+               (guess.empty() ? "put a heading into quotation marks."
+                              : guess + " Put a heading into quotation marks."));
     } else {
         column.heading = part.text;
     }
 }
 
-ColumnRequest takeColumn(Parts& parts) {
+ColumnRequest takeColumn(ColumnsParts& parts) {
     ColumnRequest column;
     column.name = parts.take().text;
     if (column.name.empty()) {
         refuse("A column has no name. Write names with commas between them.");
     }
     while (parts.takeSign(':')) {
-        if (std::find(std::begin(filterNames), std::end(filterNames), parts.untilSign()) !=
-            std::end(filterNames)) {
-            const Part filters = parts.takeColumn();
+        if (isWord(filterNames, parts.untilSign())) {
+            const ColumnsPart filters = parts.takeColumn();
             std::string error;
             column.filters = filtersIn(filters.text, error);
             if (!error.empty()) {
@@ -173,15 +127,12 @@ ColumnRequest takeColumn(Parts& parts) {
 }  // namespace
 
 std::vector<ColumnRequest> columnRequests(std::string_view text) {
-    Parts parts(text);
+    ColumnsParts parts(text);
     std::vector<ColumnRequest> columns;
     do {
         columns.push_back(takeColumn(parts));
     } while (parts.takeSign(','));
-    if (!parts.isAtEnd()) {
-        refuse("\"" + std::string(parts.rest()) +
-               "\" cannot stand after a quotation mark; write a comma or a colon before it.");
-    }
+    parts.requireEnd();
     return columns;
 }
 

@@ -148,13 +148,17 @@ void ColumnTotal::add(std::string_view text) {
     if (first_.empty()) {
         first_ = text;
     }
+    const std::optional<WrittenNumber> number = writtenNumber(text);
+    if (number->isNegative && minus_.empty()) {
+        minus_ = number->sign;
+    }
     for (std::size_t i = 0; i < plain.size(); ++i) {
         Reading& reading = readings_[i];
         reading.isPossible = plain[i].has_value();
         if (reading.isPossible) {
             reading.sum.add(*plain[i]);
             if (reading.groupSign.empty()) {
-                reading.groupSign = groupSignOf(writtenNumber(text)->digits, decimalSigns[i]);
+                reading.groupSign = groupSignOf(number->digits, decimalSigns[i]);
             }
         }
     }
@@ -185,7 +189,7 @@ std::string ColumnTotal::text() const {
         plain.insert(point - groupSize, reading.groupSign);
     }
     const std::optional<WrittenNumber> first = writtenNumber(first_);
-    return (isNegative ? "-" : "") + (first ? std::string(first->before) : "") + plain +
+    return (isNegative ? minus_ : "") + (first ? std::string(first->before) : "") + plain +
            (first ? std::string(first->after) : "");
 }
 

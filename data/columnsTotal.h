@@ -65,6 +65,8 @@ private:
     std::array<Reading, 2> readings_;
     // The first number, for its unit.
     std::string first_;
+    // As the first negative number has it.
+    std::string minus_;
 };
 
 }  // namespace quorvane::data

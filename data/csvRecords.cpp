@@ -1,5 +1,6 @@
 #include "data/csvRecords.h"
 
+#include <algorithm>
 #include <string>
 
 #include "data/csvDelimiter.h"
@@ -21,6 +22,20 @@ std::optional<char> takeDelimiterLine(RecordsText& text) {
     return delimiter;
 }
 
+bool isBlank(const std::vector<std::string_view>& fields) {
+    return fields.size() > 1 && std::ranges::all_of(fields, &std::string_view::empty);
+}
+
+/// What a spreadsheet shows of a field: ="0012" is how it is told to leave digits as they are.
+std::string_view shownField(std::string_view field) {
+    constexpr std::string_view begin = "=\"";
+    const bool isFormula =
+        field.size() > begin.size() && field.starts_with(begin) && field.ends_with('"');
+    const std::string_view text =
+        isFormula ? field.substr(begin.size(), field.size() - begin.size() - 1) : field;
+    return text.find('"') == std::string_view::npos ? text : field;
+}
+
 CsvRows rowsOf(RecordsText& text, std::optional<char> delimiter) {
     text.readMore();
     const std::optional<char> named = takeDelimiterLine(text);
@@ -35,14 +50,30 @@ CsvRows rowsOf(RecordsText& text, std::optional<char> delimiter) {
 CsvRecords::CsvRecords(RecordsText& text, std::optional<char> delimiter)
     : rows_(rowsOf(text, delimiter)) {
     std::vector<std::string_view> fields;
-    rows_.next(fields);
+    nextRow(fields);
     for (const std::string_view field : fields) {
+        hasHeading_.push_back(!field.empty());
         names_.emplace_back(field.empty() ? "Column " + std::to_string(names_.size() + 1) : field);
     }
 }
 
+/// The next row that is not blank.
+bool CsvRecords::nextRow(std::vector<std::string_view>& fields) {
+    do {
+        if (!rows_.next(fields)) {
+            return false;
+        }
+    } while (isBlank(fields));
+    for (std::string_view& field : fields) {
+        if (field.starts_with('=')) {
+            field = shownField(field);
+        }
+    }
+    return true;
+}
+
 bool CsvRecords::next(std::vector<std::string_view>& fields) {
-    if (!rows_.next(fields)) {
+    if (!nextRow(fields)) {
         return false;
     }
     if (fields.size() != names_.size()) {

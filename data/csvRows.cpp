@@ -9,6 +9,9 @@ namespace quorvane::data {
 
 namespace {
 
+// Four times as many as spreadsheets have. Each takes memory of its own.
+constexpr std::size_t mostFields = 65'536;
+
 bool isLineEnd(char character) {
     return character == '\n' || character == '\r';
 }
@@ -62,6 +65,12 @@ void CsvRows::requireLength() {
     }
 }
 
+void CsvRows::requireFields() {
+    if (places_.size() > mostFields) {
+        refuse("The row has more than 65,536 fields.", false);
+    }
+}
+
 void CsvRows::skipLineEnds() {
     while (!isAtEnd() && isLineEnd(text_.data()[at_])) {
         takeLineEnd();
@@ -80,6 +89,7 @@ void CsvRows::takeLineEnd() {
 void CsvRows::readRow() {
     for (;;) {
         readField();
+        requireFields();
         if (isAtEnd()) {
             return;
         }

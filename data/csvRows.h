@@ -43,6 +43,7 @@ private:
     void takeLineEnd();
     void skipLine();
     void requireLength();
+    void requireFields();
     [[noreturn]] void refuse(const char* why, bool canGoOn);
 
     RecordsText& text_;

@@ -170,6 +170,10 @@ std::string wrongDatePattern(std::string_view pattern) {
     return hasField ? wrong : "date needs a pattern, such as date:dd.MM.yyyy";
 }
 
+bool isIsoDate(std::string_view text) {
+    return readIso(text).has_value();
+}
+
 bool dateText(std::string_view iso, std::string_view pattern, std::string& text) {
     const std::optional<DateAndTime> date = readIso(iso);
     if (!date) {

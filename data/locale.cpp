@@ -72,9 +72,23 @@ constexpr NamedLocale locales[] = {
     {"zh-CN", ".", ","},
 };
 
+// All others begin dates with the day.
+constexpr std::string_view monthFirst[] = {"en-US"};
+constexpr std::string_view yearFirst[] = {"en-CA", "en-ZA", "fr-CA", "hu-HU", "ja-JP",
+                                          "ko-KR", "lt-LT", "sv-SE", "zh-CN"};
+
+DateOrder orderOf(std::string_view name) {
+    const auto isAmong = [=](const auto& names) {
+        return std::find(std::begin(names), std::end(names), name) != std::end(names);
+    };
+    return isAmong(monthFirst)  ? DateOrder::MonthDayYear
+           : isAmong(yearFirst) ? DateOrder::YearMonthDay
+                                : DateOrder::DayMonthYear;
+}
+
 Locale localeOf(const NamedLocale& named) {
     return {std::string(named.decimal), std::string(named.group), named.isIndian,
-            named.leavesFourDigits};
+            named.leavesFourDigits, orderOf(named.name)};
 }
 
 char plainLetter(char letter) {
@@ -103,7 +117,10 @@ std::optional<Locale> sampleLocale(std::string_view text) {
     const bool isSign = characterCount(decimal) == 1 && characterCount(group) <= 1 &&
                         group != decimal && !isAsciiDigit(decimal.front()) &&
                         (group.empty() || !isAsciiDigit(group.front()));
-    return isSign ? std::optional(Locale{std::string(decimal), std::string(group)}) : std::nullopt;
+    return isSign ? std::optional(Locale{.decimal = std::string(decimal),
+                                         .group = std::string(group),
+                                         .dateOrder = std::nullopt})
+                  : std::nullopt;
 }
 
 }  // namespace

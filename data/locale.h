@@ -1,12 +1,16 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "data/columnsNumber.h"
+#include "data/localDate.h"
+
 namespace quorvane::data {
 
-/// How numbers are written. All texts are UTF-8.
+/// How numbers are written, and dates are read. All texts are UTF-8.
 struct Locale {
     /// Between the whole part and the decimals.
     std::string decimal = ".";
@@ -16,6 +20,13 @@ struct Locale {
     bool isIndian = false;
     /// A number of four digits has no group sign, as in Spain and Poland.
     bool leavesFourDigits = false;
+    /// Of the dates that offices write; nothing for a locale that a sample of a number shows.
+    std::optional<DateOrder> dateOrder = DateOrder::MonthDayYear;
+
+    /// How numbers in tables are read.
+    DecimalSign decimalSign() const {
+        return decimal == "," ? DecimalSign::Comma : DecimalSign::Point;
+    }
 
     bool operator==(const Locale&) const = default;
 };

@@ -32,6 +32,9 @@ public:
     /// The names of the fields that occurred up to now, in their order.
     const std::vector<std::string>& names() const noexcept { return names_; }
 
+    /// False for a field whose name was made for want of one.
+    virtual bool hasHeading(std::size_t) const { return true; }
+
     /// Reads the next record; false at the end. The texts are those of the names, good until the
     /// next call; a field that the record lacks is empty. A `RecordError` for a record that cannot
     /// be read; a call after it reads the next one.

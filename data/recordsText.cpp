@@ -3,6 +3,7 @@
 #include <optional>
 #include <utility>
 
+#include "data/recordsSource.h"
 #include "quorvane/base/text/codePage1252.h"
 #include "quorvane/base/text/utf16.h"
 #include "quorvane/base/text/utf8.h"
@@ -52,12 +53,23 @@ bool RecordsText::readMore() {
     block_.insert(0, rest_);
     rest_.clear();
     if (isAtEnd) {
+        requireWholeUtf16();
         // What is left is the first part of a character in UTF-8, or a whole one otherwise.
         text_ += form_ == Form::Unknown ? utf8FromCodePage1252(block_) : block_;
         return !block_.empty();
     }
     append(block_);
     return true;
+}
+
+void RecordsText::requireWholeUtf16() const {
+    const bool isUtf16 = form_ == Form::Utf16Little || form_ == Form::Utf16Big;
+    if (isUtf16 && !block_.empty()) {
+        throw RecordError(0,
+                          "The file ends in the middle of a character: it is not whole. Copy or "
+                          "export it again.",
+                          false);
+    }
 }
 
 /// A pipe has fewer bytes at a time, which would not show the encoding.

@@ -28,7 +28,8 @@ public:
     std::size_t size() const noexcept { return text_.size(); }
     std::string_view view() const noexcept { return text_; }
 
-    /// Appends the next block; false at the end of the file. Throws what the reader throws.
+    /// Appends the next block; false at the end of the file. Throws what the reader throws,
+    /// and a `RecordError` for a text in UTF-16 that ends in the middle of a character.
     bool readMore();
     /// Removes the beginning of the part.
     void discard(std::size_t length) { text_.erase(0, length); }
@@ -39,6 +40,7 @@ public:
 private:
     enum class Form : std::uint8_t { Unknown, Utf8, Windows1252, Utf16Little, Utf16Big };
 
+    void requireWholeUtf16() const;
     void readBlock();
     void findMark();
     void append(std::string_view block);

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "quorvane/docmodel/InnerRow.h"
+#include "quorvane/docmodel/layout/LaidOutRows.h"
 
 namespace quorvane {
 
@@ -12,9 +13,12 @@ RowForm::RowForm(Ref<CRtfTableRow> row) : row_(std::move(row)) {
     }
 }
 
-void RowForm::render(TableRendering& rendering, TableLayout& layout) const {
+void RowForm::render(TableRendering& rendering, TableLayout& layout, bool isFirst) const {
     InnerRow& row = inner(*row_);
     const RowSettings& settings = row.settings();
+    if (settings.startsPage && !isFirst) {
+        LaidOutRows::renderPageStart(rendering.out);
+    }
     row.render(rendering, settings, layout.place(row, settings), HeadingForm::PageHeader);
 }
 

@@ -21,7 +21,8 @@ public:
     std::size_t size() const noexcept { return texts_.size(); }
     /// Sets the text of a cell, from 0.
     void setText(std::size_t index, std::string_view rtf) { texts_[index]->setText(rtf); }
-    void render(TableRendering& rendering, TableLayout& layout) const;
+    /// Writes the row. If it starts a page and is not the first one, that stands before it.
+    void render(TableRendering& rendering, TableLayout& layout, bool isFirst) const;
 
 private:
     Ref<CRtfTableRow> row_;

@@ -15,8 +15,6 @@ namespace quorvane {
 
 namespace {
 
-// Word processors have no more.
-constexpr std::size_t mostColumns = 63;
 constexpr std::string_view blockMark = R"(""")";
 constexpr std::string_view headingColor = "#dce6f1";
 constexpr std::string_view line = "thin";
@@ -145,8 +143,8 @@ void requireCells(const TableSetup& setup, TableRowKind kind, std::size_t count)
 }
 
 TableDescription::TableDescription(TableSetup setup) : setup_(std::move(setup)) {
-    if (setup_.columns.empty() || setup_.columns.size() > mostColumns) {
-        refuse("A table has 1 to " + std::to_string(mostColumns) + " columns, not " +
+    if (setup_.columns.empty() || setup_.columns.size() > mostTableColumns) {
+        refuse("A table has 1 to " + std::to_string(mostTableColumns) + " columns, not " +
                std::to_string(setup_.columns.size()) + ".");
     }
     const auto hasWidth = [](const TableColumn& column) { return !column.width.empty(); };
@@ -178,6 +176,7 @@ std::string TableDescription::row(TableRowKind kind, TableCells cells) const {
     const bool isGroup = kind == TableRowKind::Group;
     std::string text = "(row\n(row-keep=yes)\n";
     text += isGroup ? "(row-keep-with-next=yes)\n" : "";
+    text += isGroup && setup_.groupsStartPages ? "(row-page-break=yes)\n" : "";
     text += leafUnlessNone("row-backcolor", kind == TableRowKind::Striped ? setup_.stripe : "none");
     text += setup_.border == "none" && kind == TableRowKind::Total ? leaf("row-top-border", line)
                                                                    : borders(setup_.border);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -8,6 +9,9 @@
 #include "quorvane/docmodel/enumerations.h"
 
 namespace quorvane {
+
+/// Word processors have no more columns in a table.
+inline constexpr std::size_t mostTableColumns = 63;
 
 /// A column of a table that `TableWriter` writes.
 struct TableColumn {
@@ -32,6 +36,8 @@ struct TableSetup {
     std::string page = "a4";
     /// The four margins, as a length.
     std::string margin = "2cm";
+    /// Whether each group but the first begins a page.
+    bool groupsStartPages = false;
     /// The background of every second row after a heading row; "none" for none.
     std::string stripe = "#f2f6fa";
     /// The border around all cells. With "none" there are lines only below the heading row and

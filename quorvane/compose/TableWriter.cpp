@@ -96,19 +96,16 @@ public:
         stripes_.beginGroup();
     }
 
-    void add(TableRowKind kind, TableCells cells) {
-        requireOpen();
-        requireCells(description_.setup(), kind, cells.size());
-        RowForm& form = forms_[static_cast<std::size_t>(kind)];
-        for (std::size_t i = 0; i < form.size(); ++i) {
-            const bool isEmpty = i >= cells.size() || cells[i].empty();
-            form.setText(i, isEmpty ? std::string(emptyText) : textOf(i, cells[i]));
-        }
-        // What fails from here on leaves a row in part.
-        isOpen_ = false;
-        form.render(rendering_, layout_);
-        isOpen_ = true;
+    void addGroup(std::string_view heading, TableCells cells) {
+        TableStripes stripes;
+        const RowForm& group = filled(TableRowKind::Group, {&heading, 1});
+        const RowForm& row = filled(stripes.next(), cells);
+        render(group);
+        render(row);
+        stripes_ = stripes;
     }
+
+    void add(TableRowKind kind, TableCells cells) { render(filled(kind, cells)); }
 
     void finish() {
         requireOpen();
@@ -128,6 +125,24 @@ private:
         }
     }
 
+    const RowForm& filled(TableRowKind kind, TableCells cells) {
+        requireOpen();
+        requireCells(description_.setup(), kind, cells.size());
+        RowForm& form = forms_[static_cast<std::size_t>(kind)];
+        for (std::size_t i = 0; i < form.size(); ++i) {
+            const bool isEmpty = i >= cells.size() || cells[i].empty();
+            form.setText(i, isEmpty ? std::string(emptyText) : textOf(i, cells[i]));
+        }
+        return form;
+    }
+
+    void render(const RowForm& form) {
+        // What fails from here on leaves a row in part.
+        isOpen_ = false;
+        form.render(rendering_, layout_, !hasRows_);
+        isOpen_ = hasRows_ = true;
+    }
+
     static std::string textOf(std::size_t index, std::string_view text) {
         try {
             return rtfText(text);
@@ -145,6 +160,7 @@ private:
     TableLayout layout_;
     std::vector<RowForm> forms_;
     TableStripes stripes_;
+    bool hasRows_ = false;
     bool isOpen_ = true;
 };
 
@@ -165,6 +181,10 @@ void TableWriter::addRow(std::span<const std::string_view> cells) {
 
 void TableWriter::addGroup(std::string_view heading) {
     inner_->addGroup(heading);
+}
+
+void TableWriter::addGroup(std::string_view heading, std::span<const std::string_view> cells) {
+    inner_->addGroup(heading, cells);
 }
 
 void TableWriter::addTotal(std::span<const std::string_view> cells) {

@@ -44,6 +44,8 @@ public:
     /// Adds a heading for the rows after it, in one cell as wide as the table. It stays on the page
     /// of the next row. Errors as for `addRow`.
     void addGroup(std::string_view heading);
+    /// Adds such a heading and the first row below it; neither of them if one is wrong.
+    void addGroup(std::string_view heading, std::span<const std::string_view> cells);
     /// Adds a row in the style of totals. Errors as for `addRow`.
     void addTotal(std::span<const std::string_view> cells);
 

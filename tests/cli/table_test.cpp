@@ -213,6 +213,161 @@ TEST_F(TableTest, GroupsRowsAndAddsATotal) {
               "kind price/glass 0.10/glass 0.20/wood 5.00/Total 5.30/");
 }
 
+TEST_F(TableTest, SortsRowsByFields) {
+    folder.write("a.csv",
+                 "name;price;day\nb;12,50;1.2.2027\nA;100,00;31.1.2027\n\u00E4;;\nc;3,00;\n");
+    EXPECT_EQ(textsOf(described({"a.csv", "--sort", "price", "--columns", "name,price"})),
+              "name price/c 3,00/b 12,50/A 100,00/\u00E4 -/");
+    EXPECT_EQ(textsOf(described({"a.csv", "--sort=price:desc", "--columns", "name,price"})),
+              "name price/A 100,00/b 12,50/c 3,00/\u00E4 -/");
+    EXPECT_EQ(textsOf(described({"a.csv", "--sort=day,name:desc", "--columns", "name"})),
+              "name/A/b/c/\u00E4/");
+    EXPECT_EQ(textsOf(described({"a.csv", "--sort=name", "--limit=2", "--columns", "name"})),
+              "name/A/\u00E4/");
+}
+
+TEST_F(TableTest, KeepsTheRowsOfAGroupTogetherWhenItSorts) {
+    folder.write("a.csv", "kind,name,price\nwood,box,5\nglass,vase,3\nwood,bowl,2\nglass,jar,4\n");
+    const auto sorted = [&](const char* fields) {
+        return textsOf(described({"a.csv", "--group-by=kind", "--columns=name", "--sort", fields}));
+    };
+    EXPECT_EQ(sorted("price"), "name/wood/bowl/box/glass/vase/jar/");
+    EXPECT_EQ(sorted("kind"), "name/glass/vase/jar/wood/box/bowl/");
+    EXPECT_EQ(sorted("price:desc,kind"), "name/glass/jar/vase/wood/box/bowl/");
+    folder.write("b.csv", "kind,n\nGlass,1\nglass,2\nGlass,3\n");
+    EXPECT_EQ(textsOf(described({"b.csv", "--group-by=kind", "--sort=kind"})),
+              "n/Glass/1/3/glass/2/");
+}
+
+TEST_F(TableTest, ReportsErrorsOfSortedRowsWithTheirLines) {
+    folder.write("a.csv", "a,b\n2,\x07\n1,x\n");
+    EXPECT_THAT(run({"a.csv", "--sort=a"}).errors, StartsWith("a.csv:2: error: Cell 2: "));
+    folder.write("b.csv", "a,b\n2,y\n3\n1,x\n");
+    EXPECT_THAT(run({"b.csv", "--sort=a"}).errors, StartsWith("b.csv:3: error: The row has 1"));
+    EXPECT_EQ(run({"b.csv", "--sort=a", "--keep-going", "-o", "b.rtf"}).status, 1);
+    EXPECT_THAT(checkRtf(folder.read("b.rtf")), IsEmpty());
+}
+
+TEST_F(TableTest, WritesDocumentsOfSoManyRows) {
+    folder.write("a.csv", "kind,n\nx,1\nx,2\nx,3\ny,4\ny,5\n");
+    EXPECT_EQ(run({"a.csv", "--split=2", "--group-by=kind", "--total=n", "--as-description", "-o",
+                   "p.rtfspec"})
+                  .errors,
+              "");
+    EXPECT_EQ(textsOf(folder.read("p-001.rtfspec")), "n/x/1/2/3/");
+    EXPECT_EQ(textsOf(folder.read("p-002.rtfspec")), "n/x/3/y/4/7/");
+    EXPECT_EQ(textsOf(folder.read("p-003.rtfspec")), "n/y/5/5/");
+    EXPECT_FALSE(folder.has("p.rtfspec"));
+    EXPECT_FALSE(folder.has("p-004.rtfspec"));
+    EXPECT_EQ(run({"a.csv", "--split=5"}).errors, "");
+    EXPECT_THAT(checkRtf(folder.read("a-001.rtf")), IsEmpty());
+    EXPECT_FALSE(folder.has("a-002.rtf"));
+    folder.write("empty.csv", "n\n");
+    EXPECT_EQ(run({"empty.csv", "--split=5"}).errors, "");
+    EXPECT_TRUE(folder.has("empty-001.rtf"));
+}
+
+TEST_F(TableTest, WritesNoDocumentForRowsThatAreAllLeftOut) {
+    folder.write("a.csv", "n\n1\n2\n\x07\n");
+    EXPECT_EQ(run({"a.csv", "--split=2", "--keep-going"}).status, 1);
+    EXPECT_TRUE(folder.has("a-001.rtf"));
+    EXPECT_FALSE(folder.has("a-002.rtf"));
+    EXPECT_EQ(run({"a.csv", "--split=1"}).status, 1);
+    EXPECT_TRUE(folder.has("a-002.rtf"));
+    EXPECT_FALSE(folder.has("a-003.rtf"));
+}
+
+TEST_F(TableTest, MakesACatalogOfTheListOfAnOffice) {
+    const std::string description = described(
+        {QUORVANE_EXAMPLES_FOLDER "/museum-shop.csv", "--group-by=Warengruppe", "--locale=de-DE",
+         "--sort=Warengruppe,Bezeichnung", "--limit=6", "--total=Preis",
+         "--columns=Artikel-Nr.:Nr.,Im Angebot seit:Neu:date:MM/yyyy|default:-,Preis:right"});
+    EXPECT_EQ(textsOf(description),
+              "Nr. Neu Preis/B\u00FCcher/01195 04/2024 0,00 \u20AC/01187 04/2024 12,80 \u20AC/"
+              "01210 06/2026 48,00 \u20AC/01203 09/2025 24,00 \u20AC/Glas/00102 06/2026 34,00 "
+              "\u20AC/00088 - 39,90 \u20AC/Total - 158,70 \u20AC/");
+}
+
+TEST_F(TableTest, BeginsPagesWithGroups) {
+    folder.write("a.csv", "kind,n\nx,1\ny,2\n");
+    const std::string description = described({"a.csv", "--group-by=kind", "--group-pages"});
+    EXPECT_THAT(description, HasSubstr("(row-page-break=yes)\n"));
+    run({"a.csv", "--group-by=kind", "--group-pages"});
+    EXPECT_THAT(folder.read("a.rtf"), HasSubstr("\\pagebb"));
+    EXPECT_EQ(run({"a.csv", "--group-pages"}).status, 2);
+}
+
+TEST_F(TableTest, ShowsNoHeadingOfAGroupWhoseRowsAreLeftOut) {
+    folder.write("a.csv", "kind,n\nx,\x07\ny,2\n");
+    run({"a.csv", "--group-by=kind", "--keep-going", "--as-description", "-o", "a.rtfspec"});
+    EXPECT_EQ(textsOf(folder.read("a.rtfspec")), "n/y/2/");
+}
+
+TEST_F(TableTest, ReadsDatesAsTheColumnOrTheLocaleHasThem) {
+    folder.write("a.csv", "day\n31.1.2027\n2027-02-03\n\n");
+    EXPECT_EQ(textsOf(described({"a.csv", "--columns=day:date:d/M/yy"})), "day/31/1/27/3/2/27/");
+    folder.write("b.csv", "day\n01/02/2027\n");
+    EXPECT_EQ(run({"b.csv", "--columns=day:date:d.M."}).errors,
+              "b.csv:2: error: \"day\": \"01/02/2027\" can begin with the day or the month. Choose "
+              "one with --locale, such as en-GB or en-US.\n");
+    EXPECT_EQ(textsOf(described({"b.csv", "--columns=day:date:d.M.", "--locale=en-GB"})),
+              "day/1.2./");
+    EXPECT_EQ(textsOf(described({"b.csv", "--columns=day:date:d.M.", "--locale=en-US"})),
+              "day/2.1./");
+    folder.write("c.csv", "day\n31.1.2027\nsoon\n");
+    EXPECT_EQ(run({"c.csv", "--columns=day:date:d.M."}).errors,
+              "c.csv:3: error: \"day\": \"soon\" is not a date of the form 2026-11-22 or "
+              "22.11.2026.\n");
+}
+
+TEST_F(TableTest, ShowsNoBlankColumnsAndRowsOfSpreadsheets) {
+    std::string rows = "a;b;;\r\n1;2;;\r\n;;;\r\n3;;;\r\n;;;\r\n";
+    folder.write("a.csv", rows);
+    EXPECT_EQ(textsOf(described({"a.csv"})), "a b/1 2/3 -/");
+    for (int i = 0; i < 1000; ++i) {
+        rows += "4;5;;\r\n";
+    }
+    folder.write("b.csv", rows + "6;7;;8\r\n");
+    EXPECT_EQ(run({"b.csv"}).errors,
+              "b.csv:1006: error: Field 4 has neither a heading nor a value in the first rows, "
+              "so that the table has no column for it. Give it a heading.\n");
+}
+
+TEST_F(TableTest, ReadsNastyFilesOrSaysWhatToDo) {
+    const auto shown = [&](const std::string& bytes) {
+        folder.write("a.csv", bytes);
+        return textsOf(described({"a.csv"}));
+    };
+    EXPECT_EQ(shown("\xEF\xBB\xBFsep=;\r\na;b\r\n=\"0012\";\"=\"\"7\"\"\"\r\n"), "a b/0012 7/");
+    EXPECT_EQ(shown("a,b\r1,2\r3,4\r"), "a b/1 2/3 4/");
+    EXPECT_EQ(shown("size\n5\"\n3 \"x\" 4\n"), "size/5\"/3 \"x\" 4/");
+    EXPECT_EQ(shown("a,a\n1,2\n"), "a a/1 2/");
+    const std::string commas(19'999, ',');
+    EXPECT_EQ(shown("a" + commas + "\n1" + commas + "\n"), "a/1/");
+    EXPECT_THAT(shown("\"two\nlines\",b\n1,2\n"), HasSubstr("b/1 2/"));
+    const auto errorOf = [&](const std::string& bytes) {
+        folder.write("a.csv", bytes);
+        const ProgramResult result = run({"a.csv", "-o", "nasty.rtf"});
+        EXPECT_FALSE(folder.has("nasty.rtf"));
+        return result.errors.substr(0, result.errors.find('\n'));
+    };
+    EXPECT_EQ(errorOf(std::string("\xFF\xFE\x61\0\n\0\x62", 7)),
+              "a.csv: error: The file ends in the middle of a character: it is not whole. Copy or "
+              "export it again.");
+    EXPECT_EQ(errorOf("a,b\n1,\"2\n"),
+              "a.csv:2: error: A quotation mark opens a field, and none closes it.");
+    std::string many = "a";
+    for (int i = 1; i < 20'000; ++i) {
+        many += ",b" + std::to_string(i);
+    }
+    EXPECT_EQ(errorOf(many + "\n"),
+              "quorvane: The data has 20000 fields to show, and a table has at most 63 columns. "
+              "Choose some with --columns.");
+    EXPECT_THAT(errorOf("a\n" + std::string(5'000'000, 'x')),
+                HasSubstr("a.csv:2: error: The row has more than 4 MB."));
+    EXPECT_THAT(errorOf(std::string("a,b\n1,x\0y\n", 11)), HasSubstr("a.csv"));
+}
+
 TEST_F(TableTest, StopsAfterTheRowsThatItIsLimitedTo) {
     folder.write("a.csv", "a,b\n1,2\n3,4\n\"broken");
     EXPECT_EQ(textsOf(described({"a.csv", "--limit", "2"})), "a b/1 2/3 4/");

@@ -126,6 +126,51 @@ TEST(TableWriter, WritesWhatTheDescriptionOfTheSameTableIsRenderedAs) {
     EXPECT_EQ(written(setup, rows), described(setup, rows));
 }
 
+TEST(TableWriter, BeginsAPageWithEachGroupButTheFirst) {
+    TableSetup setup = prices();
+    setup.groupsStartPages = true;
+    const std::vector<WrittenRow> rows = {
+        {WrittenRow::Kind::Group, {"Glass"}},
+        {.cells = {"jar", "1"}},
+        {.cells = {"vase", "1"}},
+        {WrittenRow::Kind::Group, {"Wood"}},
+        {.cells = {"box", "2"}},
+        {WrittenRow::Kind::Total, {"", "3"}},
+    };
+    const std::string document = written(setup, rows);
+    EXPECT_EQ(document, described(setup, rows));
+    const std::size_t page = document.find("\\pagebb");
+    EXPECT_GT(page, document.find("vase"));
+    EXPECT_LT(page, document.find("Wood"));
+    EXPECT_EQ(document.find("\\pagebb", page + 1), std::string::npos);
+}
+
+TEST(TableWriter, AddsAGroupOnlyWithItsFirstRow) {
+    const auto writtenWith = [](auto addGroup) {
+        std::ostringstream stream;
+        TableWriter writer(prices(), stream);
+        writer.addRow(Row{"a", "1"});
+        addGroup(writer);
+        writer.addRow(Row{"c", "3"});
+        writer.finish();
+        return stream.str();
+    };
+    EXPECT_EQ(writtenWith([](TableWriter& writer) {
+                  writer.addGroup("G", Row{"b", "2"});
+              }),
+              writtenWith([](TableWriter& writer) {
+                  writer.addGroup("G");
+                  writer.addRow(Row{"b", "2"});
+              }));
+    const auto nothing = [](TableWriter&) {};
+    EXPECT_EQ(writtenWith([](TableWriter& writer) {
+                  EXPECT_THROW(writer.addGroup("G", Row{"b\x01"}), RtfError);
+                  EXPECT_THROW(writer.addGroup("G\x01", Row{"b"}), RtfError);
+                  EXPECT_THROW(writer.addGroup("G", Row{"b", "2", "x"}), RtfError);
+              }),
+              writtenWith(nothing));
+}
+
 TEST(TableWriter, WritesTheSameWithBordersAndAStylesheetWithoutStripesAndHeading) {
     TableSetup setup = prices();
     setup.border = "hair";

@@ -10,6 +10,7 @@
 #include "data/columnsRequest.h"
 #include "data/columnsTotal.h"
 #include "quorvane/base/values/RtfError.h"
+#include "tests/data/errorOf.h"
 
 namespace quorvane::data {
 namespace {
@@ -17,17 +18,6 @@ namespace {
 using testing::DoubleNear;
 using testing::ElementsAre;
 using testing::HasSubstr;
-
-template <class Action>
-std::string errorOf(Action action) {
-    try {
-        action();
-    } catch (const RtfError& error) {
-        EXPECT_EQ(error.number, 5);
-        return error.description;
-    }
-    return "no error";
-}
 
 TEST(ShownSign, IsThatOfNumbersThatCanBeReadInOneWayOnly) {
     for (const char* text : {"12,5", "1.234,50", "12,50 \u20AC", "-0,5", "1 250,75"}) {
@@ -50,8 +40,22 @@ TEST(ColumnRequests, TakeNoBareNumberForAHeading) {
               "\"50\" after the column \"price\" is not a width; write 50% or 50mm, or put a "
               "heading into quotation marks.");
     EXPECT_EQ(errorOf([] { columnRequests("price:monney:2"); }),
-              "\"2\" after the column \"price\" is not a width; did you mean money?");
+              "\"monney\" after the column \"price\" is not a width, an alignment or a filter; did "
+              "you mean money? Put a heading into quotation marks.");
     EXPECT_EQ(columnRequests("price:\"50\"").front().heading, "50");
+}
+
+TEST(ColumnRequests, TakeAWordInSmallLettersForAMisspelledOne) {
+    EXPECT_EQ(errorOf([] { columnRequests("price:rigth"); }),
+              "\"rigth\" after the column \"price\" is not a width, an alignment or a filter; did "
+              "you mean right? Put a heading into quotation marks.");
+    EXPECT_EQ(
+        errorOf([] { columnRequests("price:rechts"); }),
+        "\"rechts\" after the column \"price\" is not a width, an alignment or a filter; put a "
+        "heading into quotation marks.");
+    for (const char* heading : {"Right", "on the right", "\"right\"", "pr. 1", "\u00E9t\u00E9"}) {
+        EXPECT_TRUE(columnRequests(std::string("price:") + heading).front().heading) << heading;
+    }
 }
 
 TEST(LooksLikeNumber, IsTrueForWhatPeopleWriteAsNumbers) {
@@ -99,6 +103,12 @@ TEST(ColumnTotal, IsWrittenAsTheNumbersAre) {
     EXPECT_EQ(totalOf({"900.50", "1,250.00", "1000000.00"}), "1,002,150.50");
     EXPECT_EQ(totalOf({"12,50 \u20AC", "-20,00 \u20AC"}), "-7,50 \u20AC");
     EXPECT_EQ(totalOf({"$5", "$1,000.00"}), "$1,005.00");
+}
+
+TEST(ColumnTotal, HasTheMinusOfTheNumbers) {
+    EXPECT_EQ(totalOf({"1", "\u22122"}), "\u22121");
+    EXPECT_EQ(totalOf({"\u221212,50 \u20AC", "2,00 \u20AC"}), "\u221210,50 \u20AC");
+    EXPECT_EQ(totalOf({"-1", "\u22122"}), "-3");
 }
 
 TEST(ColumnTotal, RefusesWhatHasNoSum) {
@@ -201,6 +211,33 @@ TEST(ColumnMeasure, KnowsTheWidestLineAndWhetherAllCellsAreNumbers) {
     ColumnMeasure longer;
     longer.addCell("abcdefg");
     EXPECT_GT(longer.width(), oneLine.width());
+}
+
+TEST(ColumnMeasure, LetsALongHeadingBreakAtItsBlanks) {
+    ColumnMeasure measure;
+    measure.addHeading("Price without tax in euro");
+    measure.addCell("12.50");
+    EXPECT_LT(measure.width(2), 0.65 * measure.width(1));
+    EXPECT_LT(measure.width(3), measure.width(2));
+    ColumnMeasure word;
+    word.addHeading("Mindestbestellmenge");
+    EXPECT_EQ(word.width(3), word.width(1));
+    measure.addCell("a text that is longer than the heading is");
+    EXPECT_EQ(measure.width(3), measure.width(1));
+}
+
+TEST(ColumnMeasure, GivesNoMoreRoomToNumbersAndDates) {
+    const auto stretches = [](const std::vector<std::string>& cells) {
+        ColumnMeasure measure;
+        for (const std::string& cell : cells) {
+            measure.addCell(cell);
+        }
+        return measure.stretches();
+    };
+    EXPECT_FALSE(stretches({"1", "2,5"}));
+    EXPECT_FALSE(stretches({"2027-01-31", "", "31.12.2027"}));
+    EXPECT_TRUE(stretches({"2027-01-31", "soon"}));
+    EXPECT_TRUE(stretches({}));
 }
 
 TEST(FittedWidths, GiveWhatIsLeftOverToTheColumnsThatStretch) {

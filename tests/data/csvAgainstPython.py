@@ -9,6 +9,7 @@ the command.
 import csv
 import io
 import random
+import re
 import subprocess
 import sys
 import tempfile
@@ -18,6 +19,7 @@ PIECES = [
     "a", "B c", "ř", "😀", "0", "-1,5", "1.5", " ", "  ", "x y ", ",", ",", ";", '"', '"', '""',
     '"a"', '","', '"\n"', '"\r\n"', '"\r"', '"a""b"', '"a,b"', "\n", "\r\n", "\r", "\n\n", "\t",
     "\\", "{", "}", "(", ")", "<b=1>", "(pt=x)", "'", "=", "|",
+    '="0012"', ",,",
 ]
 COUNT = 400
 
@@ -40,16 +42,27 @@ def regular(random_numbers):
     return out.getvalue()
 
 
+def unquoted(field):
+    """A formula ="0012" as the text that a spreadsheet shows."""
+    formula = re.fullmatch('="([^"]*)"', field)
+    return formula[1] if formula else field
+
+
 def by_python(text):
-    """The rows; None where they cannot be read or do not have the length of the first."""
+    """The rows that are not blank; None where they cannot be read or do not have the length of the
+    first."""
     try:
-        rows = [row for row in csv.reader(io.StringIO(text, newline=""), strict=True) if row]
+        rows = [[unquoted(field) for field in row]
+                for row in csv.reader(io.StringIO(text, newline=""), strict=True)
+                if len(row) == 1 or any(row)]
     except csv.Error:
         return None
     if not rows or any(len(row) != len(rows[0]) for row in rows) or len(rows[0]) > 63:
         return None
+    shown_columns = [i for i, name in enumerate(rows[0]) if name or any(row[i] for row in rows)]
+    shown_columns = shown_columns or list(range(len(rows[0])))
     rows[0] = [name or f"Column {i + 1}" for i, name in enumerate(rows[0])]
-    return rows
+    return [[row[i] for i in shown_columns] for row in rows]
 
 
 def shown(text):

@@ -74,6 +74,42 @@ TEST(CsvRecords, ReportARowWithMoreOrFewerFieldsAndReadOn) {
     EXPECT_THAT(fields, ElementsAre("1", "2"));
 }
 
+std::vector<std::string> nextOf(CsvRecords& records) {
+    std::vector<std::string_view> fields;
+    records.next(fields);
+    return {fields.begin(), fields.end()};
+}
+
+TEST(CsvRecords, LeaveOutRowsWhoseFieldsAreAllEmpty) {
+    RecordsText text(readerOf(";;\na;;c\n;;\n1;;2\n;\n;3;\n\"\";;\n"), EncodingChoice::Auto);
+    CsvRecords records(text, ';');
+    EXPECT_THAT(records.names(), ElementsAre("a", "Column 2", "c"));
+    EXPECT_TRUE(records.hasHeading(0));
+    EXPECT_FALSE(records.hasHeading(1));
+    EXPECT_THAT(nextOf(records), ElementsAre("1", "", "2"));
+    EXPECT_EQ(records.line(), 4);
+    EXPECT_THAT(nextOf(records), ElementsAre("", "3", ""));
+    EXPECT_THAT(nextOf(records), IsEmpty());
+    RecordsText oneColumn(readerOf("a\n\"\"\n"), EncodingChoice::Auto);
+    CsvRecords single(oneColumn, ';');
+    EXPECT_THAT(nextOf(single), ElementsAre(""));
+}
+
+TEST(CsvRecords, ReadTheFormulaThatKeepsDigitsAsTheyAre) {
+    RecordsText text(readerOf("=\"No.\",b,c,d\n=\"0012\",\"=\"\"07\"\"\",=1+1,=\"\"\n"),
+                     EncodingChoice::Auto);
+    CsvRecords records(text, ',');
+    EXPECT_EQ(records.names().front(), "No.");
+    EXPECT_THAT(nextOf(records), ElementsAre("0012", "07", "=1+1", ""));
+}
+
+TEST(CsvRecords, RefuseMoreFieldsThanAnySpreadsheetHas) {
+    RecordsText text(readerOf(std::string(65'536, ',') + "\n"), EncodingChoice::Auto);
+    EXPECT_THROW(CsvRecords(text, ','), RecordError);
+    RecordsText wide(readerOf("a" + std::string(65'535, ',') + "\n"), EncodingChoice::Auto);
+    EXPECT_EQ(CsvRecords(wide, ',').names().size(), 65'536U);
+}
+
 TEST(CsvRecords, HaveNoNamesInAnEmptyFile) {
     RecordsText text(readerOf("\n\n"), EncodingChoice::Auto);
     CsvRecords records(text, std::nullopt);

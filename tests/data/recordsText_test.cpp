@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "data/recordsSource.h"
 #include "tests/data/textReader.h"
 
 namespace quorvane::data {
@@ -58,6 +59,15 @@ TEST(RecordsText, CutsNoCharacterBetweenBlocks) {
         }
         wide += std::string("\x3D\xD8\x00\xDE", 4);
         EXPECT_EQ(textOf(wide), std::string(32768 - shift, 'x') + "\U0001F600");
+    }
+}
+
+TEST(RecordsText, RefusesATextInUtf16ThatEndsInTheMiddleOfACharacter) {
+    for (const std::string& bytes :
+         {std::string("\xFF\xFE\x61\0b", 5), std::string("\xFE\xFF\0\x61\0", 5),
+          std::string("\xFF\xFE\x61\0\x3D\xD8", 6)}) {
+        EXPECT_THROW(textOf(bytes), RecordError);
+        EXPECT_THROW(textOf(bytes, EncodingChoice::Auto, 1), RecordError);
     }
 }
 

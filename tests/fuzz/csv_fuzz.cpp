@@ -6,13 +6,16 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "data/columnsTotal.h"
 #include "data/csvRecords.h"
+#include "data/keptRows.h"
 #include "data/recordsJson.h"
+#include "data/sortKey.h"
 #include "quorvane/compose/TableDescription.h"
 #include "quorvane/compose/TableWriter.h"
 #include "quorvane/diagnostics/rtf/RtfCheck.h"
@@ -69,6 +72,36 @@ void addTotals(const Records& records) {
             require(error.is(RunTimeError::InvalidProcedureCall),
                     "a total is refused with error 5");
         }
+    }
+}
+
+/// Sorting by the first field loses no row, and keeps the order of what is sorted already.
+void sortRows(const Records& records, bool isDescending) {
+    const auto fieldOf = [](std::span<const std::string_view> fields) {
+        return fields.empty() ? std::string_view() : fields.front();
+    };
+    KeptRows rows;
+    SortColumn column(isDescending);
+    for (const std::vector<std::string>& row : records.rows) {
+        const std::vector<std::string_view> fields(row.begin(), row.end());
+        rows.add(fields, 1);
+        column.look(fieldOf(fields));
+    }
+    const Locale locale;
+    column.decide("first", &locale);
+    const auto appendKey = [&](std::span<const std::string_view> fields, std::string& key) {
+        column.append(fieldOf(fields), key);
+    };
+    rows.sort(appendKey);
+    require(rows.size() == records.rows.size(), "sorting loses no row");
+    std::string last;
+    std::vector<std::string_view> fields;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        rows.read(i, fields);
+        std::string key;
+        appendKey(fields, key);
+        require(last <= key, "rows are in the order of their keys");
+        last = std::move(key);
     }
 }
 
@@ -145,6 +178,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(records == read(bytes, isJson, choice, atATime),
             "a file is read in the same way piece by piece");
     addTotals(records);
+    sortRows(records, isJson);
     write(records);
     return 0;
 }

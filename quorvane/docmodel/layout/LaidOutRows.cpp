@@ -61,6 +61,12 @@ bool LaidOutRows::startsPage(const RowSettings& settings, std::size_t position) 
     return position > headings_ + 1 && settings.startsPage;
 }
 
+// LibreOffice starts a page before a paragraph, not within a table. So the table ends, and one of
+// the same columns follows.
+void LaidOutRows::renderPageStart(TextOutput& out) {
+    out << "\r\n\\pard\\plain\\pagebb\\fs2\\par";
+}
+
 void LaidOutRows::renderHeading(TableRendering& rendering) const {
     TableLayout layout(document_);
     std::size_t position = 0;
@@ -83,9 +89,7 @@ void LaidOutRows::renderBody(TableRendering& rendering) const {
         }
         const RowSettings& settings = row->settings();
         if (startsPage(settings, position)) {
-            // LibreOffice starts a page before a paragraph, not within a table. So the table ends,
-            // and one of the same columns follows.
-            rendering.out << "\r\n\\pard\\plain\\pagebb\\fs2\\par";
+            renderPageStart(rendering.out);
             if (form_ == HeadingForm::RowProperty) {
                 renderHeading(rendering);
             }

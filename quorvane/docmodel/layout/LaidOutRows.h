@@ -23,6 +23,8 @@ public:
         return headings_ > 0 && form_ == HeadingForm::PageHeader;
     }
     void renderHeading(TableRendering& rendering) const;
+    /// Ends the table, and begins a page for one of the same columns.
+    static void renderPageStart(TextOutput& out);
     /// Writes all rows that are not in the page header.
     void renderBody(TableRendering& rendering) const;
 

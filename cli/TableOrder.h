@@ -1,0 +1,30 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cli/TableOptions.h"
+#include "data/keptRows.h"
+#include "data/locale.h"
+#include "data/sortRequest.h"
+
+namespace quorvane::cli {
+
+/// The order that --sort asks for. The rows of a group stay together: the groups are in the order
+/// of their first rows, or in that of their own field if it is among those to sort by.
+class TableOrder {
+public:
+    /// The options have `sort`. Error 5 if it is wrong.
+    explicit TableOrder(const TableOptions& options);
+
+    /// Error 5 for a field that is not there, and for one whose values can be read in two ways.
+    void sort(data::KeptRows& rows, const std::vector<std::string>& names) const;
+
+private:
+    std::vector<data::SortRequest> requests_;
+    std::optional<std::string> groupBy_;
+    std::optional<data::Locale> locale_;
+};
+
+}  // namespace quorvane::cli
