@@ -62,9 +62,13 @@ Text rtf(std::string_view raw);
 /// paragraph, so set the stylesheet before.
 Text styled(std::string_view style, const Text& text);
 
-/// Return the text in bold, in italics, or underlined.
+/// Returns the text in bold.
 Text bold(const Text& text);
+
+/// Returns the text in italics.
 Text italic(const Text& text);
+
+/// Returns the text underlined.
 Text underlined(const Text& text);
 
 /// How functions take a text: as a literal text in UTF-8 or as a `Text`. It refers to the text and

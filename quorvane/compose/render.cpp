@@ -24,6 +24,11 @@ PictureSource picturesOf(const RenderOptions& options, Platform& platform) {
                                                     : picturesBeside(options.path, platform);
 }
 
+std::string styleSheetOf(const RenderOptions& options, Platform& platform) {
+    return options.styleSheetFile.empty() ? options.styleSheet
+                                          : readWholeText(options.styleSheetFile, platform);
+}
+
 /// What would break the document is an error where it is checked.
 void raiseCorruptions(std::vector<Diagnostic>& diagnostics) {
     for (Diagnostic& diagnostic : diagnostics) {
@@ -68,7 +73,9 @@ Rendering render(std::string_view description, const RenderOptions& options, Pla
     }
     const Ref<CRtfDriver> driver = CRtfDriver::create(platform);
     Rendering rendering{.document = Document(driver->RtfObject(), platform)};
-    if (!options.styleSheet.empty()) {
+    if (!options.styleSheetFile.empty()) {
+        rendering.document.setStyleSheetFile(options.styleSheetFile);
+    } else if (!options.styleSheet.empty()) {
         rendering.document.setStyleSheet(options.styleSheet);
     }
     const std::optional<RtfError> failure =
@@ -89,11 +96,9 @@ Rendering render(std::string_view description, const RenderOptions& options, Pla
 }
 
 Rendering renderFile(const std::string& path, const RenderOptions& options, Platform& platform) {
-    std::string bytes = readWholeFile(path, platform);
-    const TextEncoding encoding = encodingOf(bytes);
     RenderOptions own = options;
     own.path = path;
-    return render(decodedText(std::move(bytes), encoding), own, platform);
+    return render(readWholeText(path, platform), own, platform);
 }
 
 std::vector<Diagnostic> check(std::string_view description, const RenderOptions& options,
@@ -104,8 +109,8 @@ std::vector<Diagnostic> check(std::string_view description, const RenderOptions&
         return unreadable;
     }
     std::optional<KnownStyles> styles;
-    if (!options.styleSheet.empty()) {
-        styles.emplace(options.styleSheet, TextEncoding::Utf8);
+    if (std::string styleSheet = styleSheetOf(options, platform); !styleSheet.empty()) {
+        styles.emplace(styleSheet, TextEncoding::Utf8);
     }
     return composing([&] {
         return withoutIgnored(checkDescription(text, styles ? &*styles : nullptr,
