@@ -50,9 +50,9 @@ ExitStatus DescriptionRendering::run() {
         if (manner_.data) {
             parseTemplate(*std::move(description));
         } else {
-            parse(*description);
+            // The text takes no memory while the document is written.
+            parse(*std::exchange(description, std::nullopt));
         }
-        description.reset();
         writeUnlessRefused();
     }
     return status_;
