@@ -46,7 +46,7 @@ struct Margins {
 ///
 /// A document can be moved and not copied. One that was moved from throws an `Error` "wrong-call"
 /// when it is used, as do `rows()` of it. It belongs to one thread at a time, with all its handles.
-/// A call that throws leaves it as it was.
+/// A call that throws leaves its rows as they were.
 class Document {
 public:
     /// A document of A4 pages without rows and without a stylesheet. The platform must outlive it
