@@ -13,45 +13,18 @@
 #include <string>
 #include <vector>
 
+#include "bench/invoices.h"
 #include "data/Template.h"
 #include "data/TemplateFilling.h"
 #include "data/json.h"
 #include "quorvane/driver/CRtfDriver.h"
-#include "quorvane/driver/DescriptionLine.h"
-#include "quorvane/driver/Dialect.h"
 #include "quorvane/driver/parseFilled.h"
 
 namespace {
 
 using namespace quorvane;
+using namespace quorvane::bench;
 using Clock = std::chrono::steady_clock;
-
-constexpr int lineCountOfInvoice = 20;
-
-std::string cellOf(const std::string& lines) {
-    return "(cell\n(para\n" + lines + "\npara)\ncell)\n";
-}
-
-std::string invoiceTemplate() {
-    return "; quorvane 2\n(doc\n(page=a4)\n(columns=10 50 20 20)\n(footer=Invoice {{number}})\n"
-           "(row\n(cell\n(span=4)\n(para\n(pt=Invoice {{number}} for {{customer.name}}, "
-           "{{customer.city}})\npara)\ncell)\nrow)\n{{#lines}}\n(row\n(row-keep=yes)\n" +
-           cellOf("(pt={{@index}})") + cellOf("(pt={{article}})") +
-           cellOf("(pa=right)\n(pt={{quantity}})") + cellOf("(pa=right)\n(pt={{price|money}})") +
-           "row)\n{{/lines}}\ndoc)\n";
-}
-
-std::string invoiceData(std::size_t number) {
-    std::string lines;
-    for (int i = 0; i < lineCountOfInvoice; ++i) {
-        lines += std::string(i == 0 ? "" : ",") + R"({"article":"Article )" +
-                 std::to_string(number + static_cast<std::size_t>(i)) +
-                 R"( in oak, oiled","quantity":)" + std::to_string(i + 1) + R"(,"price":)" +
-                 std::to_string(i * 17) + ".5}";
-    }
-    return R"({"number":)" + std::to_string(number) +
-           R"(,"customer":{"name":"Novak & Sons","city":"Praha"},"lines":[)" + lines + "]}";
-}
 
 data::DataValue recordOf(const std::string& json) {
     data::JsonError error;
@@ -60,17 +33,6 @@ data::DataValue recordOf(const std::string& json) {
         throw std::runtime_error(error.message);
     }
     return *std::move(record);
-}
-
-std::string descriptionOf(const std::vector<SourceLine>& lines) {
-    std::string text = "; quorvane 2\n";
-    for (const SourceLine& line : lines) {
-        const DescriptionLine parts = descriptionLine(line, extendedDialect());
-        text += line.filled ? "(" + std::string(parts.key) + "=" + std::string(parts.value) + ")"
-                            : std::string(line.text);
-        text += '\n';
-    }
-    return text;
 }
 
 /// Adds the time that the work takes.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <nlohmann/json.hpp>
+#include <numeric>
 #include <utility>
 #include <vector>
 
@@ -19,47 +20,42 @@ public:
 
     DataValue takeRoot() { return std::move(root_); }
 
-    bool null() override { return add({}); }
+    bool null() override { return add(DataValue::Kind::Null, {}); }
     bool boolean(bool value) override {
-        return add({.kind = DataValue::Kind::Boolean, .text = value ? "true" : "false"});
+        return add(DataValue::Kind::Boolean, value ? "true" : "false");
     }
     bool number_integer(number_integer_t value) override {
-        return add({.kind = DataValue::Kind::Number, .text = std::to_string(value)});
+        return add(DataValue::Kind::Number, std::to_string(value));
     }
     bool number_unsigned(number_unsigned_t value) override {
-        return add({.kind = DataValue::Kind::Number, .text = std::to_string(value)});
+        return add(DataValue::Kind::Number, std::to_string(value));
     }
     bool number_float(number_float_t, const string_t& written) override {
-        return add({.kind = DataValue::Kind::Number, .text = written});
+        return add(DataValue::Kind::Number, written);
     }
-    bool string(string_t& value) override {
-        return add({.kind = DataValue::Kind::String, .text = std::move(value)});
-    }
+    bool string(string_t& value) override { return add(DataValue::Kind::String, std::move(value)); }
     bool binary(binary_t&) override { return false; }
     bool start_object(std::size_t) override { return open(DataValue::Kind::Object); }
     bool key(string_t& name) override {
-        open_.back().name = std::move(name);
+        open_.back()->names.push_back(std::move(name));
         return true;
     }
     bool end_object() override {
-        Open& object = open_.back();
-        std::sort(object.members.begin(), object.members.end(),
-                  [](const Member& a, const Member& b) { return a.name < b.name; });
-        const auto twice =
-            std::adjacent_find(object.members.begin(), object.members.end(),
-                               [](const Member& a, const Member& b) { return a.name == b.name; });
-        if (twice != object.members.end()) {
-            error_.message = "The object that ends here has \"" + twice->name + "\" twice";
+        DataValue& object = *open_.back();
+        open_.pop_back();
+        sortByName(object);
+        const auto twice = std::adjacent_find(object.names.begin(), object.names.end());
+        if (twice != object.names.end()) {
+            error_.message = "The object that ends here has \"" + *twice + "\" twice";
             return false;
         }
-        for (Member& member : object.members) {
-            object.value.names.push_back(std::move(member.name));
-            object.value.items.push_back(std::move(member.value));
-        }
-        return close();
+        return true;
     }
     bool start_array(std::size_t) override { return open(DataValue::Kind::List); }
-    bool end_array() override { return close(); }
+    bool end_array() override {
+        open_.pop_back();
+        return true;
+    }
     bool parse_error(std::size_t position, const std::string&,
                      const nlohmann::detail::exception& exception) override {
         error_.position = position == 0 ? 0 : position - 1;
@@ -68,49 +64,57 @@ public:
     }
 
 private:
-    struct Member {
-        std::string name;
-        DataValue value;
-    };
-
-    struct Open {
-        DataValue value;
-        /// The name that was read last.
-        std::string name = {};
-        /// Of an object.
-        std::vector<Member> members = {};
-    };
-
     bool open(DataValue::Kind kind) {
         if (open_.size() == maxJsonDepth) {
             error_.message = "Lists and objects are nested deeper than " +
                              std::to_string(maxJsonDepth) + " levels";
             return false;
         }
-        open_.push_back({.value = {.kind = kind}});
+        DataValue& value = next();
+        value.kind = kind;
+        open_.push_back(&value);
         return true;
     }
 
-    bool close() {
-        DataValue value = std::move(open_.back().value);
-        open_.pop_back();
-        return add(std::move(value));
+    bool add(DataValue::Kind kind, std::string text) {
+        DataValue& value = next();
+        value.kind = kind;
+        value.text = std::move(text);
+        return true;
     }
 
-    bool add(DataValue value) {
-        if (open_.empty()) {
-            root_ = std::move(value);
-        } else if (Open& parent = open_.back(); parent.value.isList()) {
-            parent.value.items.push_back(std::move(value));
-        } else {
-            parent.members.push_back({std::move(parent.name), std::move(value)});
+    DataValue& next() { return open_.empty() ? root_ : open_.back()->items.emplace_back(); }
+
+    /// Most objects have few names, and in any order.
+    void sortByName(DataValue& object) {
+        order_.resize(object.names.size());
+        std::iota(order_.begin(), order_.end(), std::size_t{0});
+        const auto isBefore = [&](std::size_t a, std::size_t b) {
+            return object.names[a] < object.names[b];
+        };
+        if (std::is_sorted(order_.begin(), order_.end(), isBefore)) {
+            return;
         }
-        return true;
+        std::sort(order_.begin(), order_.end(), isBefore);
+        object.names = inOrder(std::move(object.names));
+        object.items = inOrder(std::move(object.items));
+    }
+
+    template <class Value>
+    std::vector<Value> inOrder(std::vector<Value> values) const {
+        std::vector<Value> ordered;
+        ordered.reserve(values.size());
+        for (const std::size_t index : order_) {
+            ordered.push_back(std::move(values[index]));
+        }
+        return ordered;
     }
 
     JsonError& error_;
     DataValue root_;
-    std::vector<Open> open_;
+    // Those that are not closed. None of them moves: a value is added to the last one only.
+    std::vector<DataValue*> open_;
+    std::vector<std::size_t> order_;
 };
 
 /// A view of a text that counts how much of it was read.
@@ -135,6 +139,18 @@ private:
     const char* at_;
     const char** furthest_;
 };
+
+/// Where the builder refuses what it is given: at the byte that was read last, which the parser
+/// does not say.
+std::size_t positionOfRefusal(std::string_view json) {
+    JsonError ignored;
+    ValueBuilder builder(ignored);
+    const char* furthest = json.data();
+    static_cast<void>(nlohmann::json::sax_parse(
+        CountingIterator(json.data(), &furthest),
+        CountingIterator(json.data() + json.size(), &furthest), &builder));
+    return static_cast<std::size_t>(std::max(furthest - json.data(), std::ptrdiff_t{1})) - 1;
+}
 
 }  // namespace
 
@@ -170,17 +186,12 @@ std::optional<DataValue> readJson(std::string_view text, JsonError& error) {
         return std::nullopt;
     }
     const std::string_view json = afterByteOrderMark(text);
-    const char* furthest = json.data();
     ValueBuilder builder(error);
-    const char* const end = json.data() + json.size();
-    if (nlohmann::json::sax_parse(CountingIterator(json.data(), &furthest),
-                                  CountingIterator(end, &furthest), &builder)) {
+    if (nlohmann::json::sax_parse(json, &builder)) {
         return builder.takeRoot();
     }
     if (error.position == 0) {
-        // What the builder refuses ends at the byte that was read last.
-        error.position =
-            static_cast<std::size_t>(std::max(furthest - json.data(), std::ptrdiff_t{1})) - 1;
+        error.position = positionOfRefusal(json);
     }
     error.position = std::min(error.position, json.size()) + (text.size() - json.size());
     return std::nullopt;

@@ -206,8 +206,13 @@ std::string descriptionText(std::string_view utf8) {
 }
 
 std::optional<Unshowable> findUnshowable(std::string_view utf8) {
+    const auto isPlain = [](char byte) { return byte >= 0x20 && byte < 0x7F; };
     std::size_t at = 0;
     while (at < utf8.size()) {
+        if (isPlain(utf8[at])) {
+            ++at;
+            continue;
+        }
         const Utf8Character character = utf8CharacterAt(utf8, at);
         if (std::string message = messageAgainst(character.code); !message.empty()) {
             return Unshowable{at, std::move(message)};
