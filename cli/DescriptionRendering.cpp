@@ -6,10 +6,10 @@
 #include "cli/RenderOptions.h"
 #include "cli/TemplateFiles.h"
 #include "cli/fileFailure.h"
-#include "cli/partialsBeside.h"
 #include "cli/process.h"
 #include "data/Template.h"
 #include "data/TemplateFilling.h"
+#include "data/partialsBeside.h"
 #include "data/templateCheck.h"
 #include "quorvane/diagnostics/description/DescriptionCheck.h"
 #include "quorvane/docmodel/CRtfTableRows.h"
@@ -137,7 +137,7 @@ void DescriptionRendering::parse(const std::string& text) {
 void DescriptionRendering::parseTemplate(const std::string& text) {
     std::vector<data::TemplateError> errors;
     const data::Template source = data::compileTemplate(
-        text, encoding_, partialsBeside(assignment_.description, platform_), errors);
+        text, encoding_, data::partialsBeside(assignment_.description, platform_), errors);
     data::TemplateFilling filling(source, manner_.data->locale);
     const std::vector<SourceLine>* lines = nullptr;
     if (errors.empty()) {

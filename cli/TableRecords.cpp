@@ -8,9 +8,9 @@
 
 #include "cli/RenderOptions.h"
 #include "cli/process.h"
-#include "cli/utf8Path.h"
 #include "data/csvRecords.h"
 #include "data/recordsJson.h"
+#include "quorvane/base/platform/utf8Path.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/diagnostics/textFile.h"
