@@ -1,15 +1,16 @@
 #include "capi/HandleError.h"
 
-#include <algorithm>
 #include <exception>
-#include <iterator>
 #include <new>
 #include <stdexcept>
+#include <string_view>
 #include <utility>
 
 #include "capi/ContentError.h"
 #include "capi/callError.h"
 #include "quorvane/base/values/RtfError.h"
+#include "quorvane/base/values/deepestCause.h"
+#include "quorvane/compose/Error.h"
 
 namespace quorvane::capi {
 
@@ -20,14 +21,6 @@ constexpr quorvane_error outOfMemory{
 
 constexpr quorvane_error noHandle{
     QUORVANE_WRONG_CALL, 0, "wrong-call", "The handle is null.", "", 0, 0};
-
-const RtfError& deepestCause(const RtfError& error) {
-    const RtfError* deepest = &error;
-    while (deepest->cause) {
-        deepest = deepest->cause.get();
-    }
-    return *deepest;
-}
 
 ErrorText fromFile(const FileFailure& failure) {
     return {.status = QUORVANE_FILE_ERROR,
@@ -45,6 +38,22 @@ ErrorText fromContent(const RtfError& error) {
             .line = error.line};
 }
 
+quorvane_status statusOf(std::string_view identifier) {
+    const bool isFile = identifier == "unreadable-file" || identifier == "unwritable-file";
+    return isFile                       ? QUORVANE_FILE_ERROR
+           : identifier == "wrong-call" ? QUORVANE_WRONG_CALL
+                                        : QUORVANE_WRONG_CONTENT;
+}
+
+ErrorText fromError(const Error& error) {
+    return {.status = statusOf(error.identifier()),
+            .identifier = error.identifier(),
+            .message = error.message(),
+            .file = error.file(),
+            .line = error.line(),
+            .column = error.column()};
+}
+
 /// What the exception that is handled now reports.
 ErrorText handledError() {
     try {
@@ -53,6 +62,8 @@ ErrorText handledError() {
         return {.status = QUORVANE_WRONG_CALL, .identifier = "wrong-call", .message = error.what()};
     } catch (const ContentError& error) {
         return error.text;
+    } catch (const Error& error) {
+        return fromError(error);
     } catch (const FileFailure& failure) {
         return fromFile(failure);
     } catch (const Stopped&) {

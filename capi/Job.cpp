@@ -145,7 +145,7 @@ void Job::setReceiver(quorvane_diagnostic_callback callback, void* user) {
     receiverUser_ = user;
 }
 
-CRtfDoc& Job::render(std::string_view bytes) {
+Document Job::render(std::string_view bytes) {
     list_.clear();
     const Source source = sourceOf(bytes, pathOrName());
     if (data_) {
@@ -153,7 +153,7 @@ CRtfDoc& Job::render(std::string_view bytes) {
     } else {
         renderText(source);
     }
-    return *driver_->RtfObject();
+    return Document(driver_->RtfObject());
 }
 
 void Job::renderText(const Source& source) {
@@ -185,12 +185,13 @@ void Job::renderTemplate(const Source& source) {
         source, [&] { return data::checkFilled(compiled, {*lines}, knownStyles(), pictures()); });
 }
 
-/// A driver goes on to the next description if that changes its document: one that builds nothing
-/// would leave the document before.
+/// A driver goes on to the next description. One that builds nothing changes nothing, so that the
+/// document before would be left.
 void Job::prepareDriver(const Source& source) {
-    if (!driver_ || driver_->RtfObject()->Changed()) {
+    if (!driver_) {
         makeDriver();
     }
+    driver_->RtfObject()->setChanged(false);
     events_.clear();
     driver_->setErroneousInput(checks_);
     driver_->setUnicodeTexts(isUtf8(source.encoding));

@@ -17,6 +17,7 @@
 #include "data/TemplateError.h"
 #include "data/locale.h"
 #include "quorvane/base/text/TextEncoding.h"
+#include "quorvane/compose/Document.h"
 #include "quorvane/diagnostics/KnownStyles.h"
 #include "quorvane/diagnostics/engine/Diagnostic.h"
 #include "quorvane/diagnostics/languageOf.h"
@@ -41,8 +42,8 @@ public:
     void enable(std::string_view identifier);
     void setReceiver(quorvane_diagnostic_callback callback, void* user);
 
-    /// Renders a description. The document is valid until the next call.
-    CRtfDoc& render(std::string_view bytes);
+    /// Builds the document of a description, which is valid until the next call.
+    Document render(std::string_view bytes);
     /// Checks a text, whose language may be nothing to find out.
     void check(std::string_view bytes, std::optional<CheckedLanguage> language);
     std::string format(std::string_view bytes, std::optional<CheckedLanguage> language,

@@ -7,9 +7,8 @@
 #include "capi/Job.h"
 #include "capi/ReturnedText.h"
 #include "capi/arguments.h"
-#include "capi/documentBytes.h"
+#include "capi/documentOutput.h"
 #include "capi/guarded.h"
-#include "capi/writeCallback.h"
 
 struct quorvane_job {
     quorvane::capi::Job job{};
@@ -54,10 +53,6 @@ NameForm namesArgument(quorvane_names names) {
         default:
             return NameForm::Kept;
     }
-}
-
-std::string rendered(quorvane_job& job, const char* description, size_t length) {
-    return documentBytes(job.job.render(textArgument(description, length)));
 }
 
 }  // namespace
@@ -125,15 +120,16 @@ quorvane_status quorvane_job_render(quorvane_job* job, const char* description, 
                                     char** rtf, size_t* rtf_length) {
     return guarded(job, [&] {
         ReturnedText result(rtf, rtf_length);
-        result.set(rendered(*job, description, length));
+        result.set(job->job.render(textArgument(description, length)).rtf());
     });
 }
 
 quorvane_status quorvane_job_render_to(quorvane_job* job, const char* description, size_t length,
                                        quorvane_write_callback write, void* user) {
     return guarded(job, [&] {
-        const WriteCallback callback(write, user);
-        callback(rendered(*job, description, length));
+        requireArgument(write, "write");
+        Document document = job->job.render(textArgument(description, length));
+        writeDocument(document, write, user);
     });
 }
 
@@ -141,7 +137,7 @@ quorvane_status quorvane_job_render_file(quorvane_job* job, const char* descript
                                          const char* path, size_t path_length) {
     return guarded(job, [&] {
         const std::string file(textArgument(path, path_length));
-        saveBytes(file, rendered(*job, description, length));
+        job->job.render(textArgument(description, length)).save(file);
     });
 }
 
