@@ -101,8 +101,7 @@ quorvane_status quorvane_document_set_footer(quorvane_document* document, const 
     });
 }
 
-quorvane_status quorvane_document_set_heading_form(quorvane_document* document,
-                                                   quorvane_heading_form form) {
+quorvane_status quorvane_document_set_heading_form(quorvane_document* document, int form) {
     return guarded(document, [&] {
         document->document.setHeadingForm(enumArgument(form, QUORVANE_HEADING_IN_TABLE, "form") ==
                                                   QUORVANE_HEADING_IN_TABLE

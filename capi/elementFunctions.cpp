@@ -129,7 +129,7 @@ quorvane_status quorvane_cell_set_style(quorvane_document* document, size_t row,
 }
 
 quorvane_status quorvane_cell_set_align(quorvane_document* document, size_t row, size_t cell,
-                                        quorvane_align align) {
+                                        int align) {
     return onCell(document, row, cell,
                   [&](const Cell& element) { element.setAlign(alignArgument(align)); });
 }
@@ -244,7 +244,7 @@ quorvane_status quorvane_paragraph_set_color(quorvane_document* document, size_t
 }
 
 quorvane_status quorvane_paragraph_set_align(quorvane_document* document, size_t row, size_t cell,
-                                             size_t paragraph, quorvane_align align) {
+                                             size_t paragraph, int align) {
     return onParagraph(document, row, cell, paragraph,
                        [&](const Paragraph& element) { element.setAlign(alignArgument(align)); });
 }

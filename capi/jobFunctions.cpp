@@ -20,7 +20,7 @@ namespace {
 using namespace quorvane;
 using namespace quorvane::capi;
 
-std::optional<CheckedLanguage> languageArgument(quorvane_language language) {
+std::optional<CheckedLanguage> languageArgument(int language) {
     switch (enumArgument(language, QUORVANE_RTF, "language")) {
         case QUORVANE_DESCRIPTION:
             return CheckedLanguage::Description;
@@ -33,7 +33,7 @@ std::optional<CheckedLanguage> languageArgument(quorvane_language language) {
     }
 }
 
-EncodingChoice encodingArgument(quorvane_encoding encoding) {
+EncodingChoice encodingArgument(int encoding) {
     switch (enumArgument(encoding, QUORVANE_ANY_ENCODING, "encoding")) {
         case QUORVANE_WINDOWS_1252:
             return EncodingChoice::Windows1252;
@@ -44,7 +44,7 @@ EncodingChoice encodingArgument(quorvane_encoding encoding) {
     }
 }
 
-NameForm namesArgument(quorvane_names names) {
+NameForm namesArgument(int names) {
     switch (enumArgument(names, QUORVANE_NAMES_SHORT, "names")) {
         case QUORVANE_NAMES_LONG:
             return NameForm::Long;
@@ -100,7 +100,7 @@ quorvane_status quorvane_job_set_locale(quorvane_job* job, const char* name, siz
     return guarded(job, [&] { job->job.setLocale(textArgument(name, length)); });
 }
 
-quorvane_status quorvane_job_set_encoding(quorvane_job* job, quorvane_encoding encoding) {
+quorvane_status quorvane_job_set_encoding(quorvane_job* job, int encoding) {
     return guarded(job, [&] { job->job.setEncoding(encodingArgument(encoding)); });
 }
 
@@ -142,14 +142,14 @@ quorvane_status quorvane_job_render_file(quorvane_job* job, const char* descript
 }
 
 quorvane_status quorvane_job_check(quorvane_job* job, const char* text, size_t length,
-                                   quorvane_language language) {
+                                   int language) {
     return guarded(job,
                    [&] { job->job.check(textArgument(text, length), languageArgument(language)); });
 }
 
 quorvane_status quorvane_job_format(quorvane_job* job, const char* text, size_t length,
-                                    quorvane_language language, quorvane_names names,
-                                    char** formatted, size_t* formatted_length) {
+                                    int language, int names, char** formatted,
+                                    size_t* formatted_length) {
     return guarded(job, [&] {
         ReturnedText result(formatted, formatted_length);
         result.set(job->job.format(textArgument(text, length), languageArgument(language),
