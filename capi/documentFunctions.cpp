@@ -5,11 +5,11 @@
 #include <vector>
 
 #include "capi/HandleError.h"
-#include "capi/ReturnedText.h"
 #include "capi/arguments.h"
 #include "capi/documentHandle.h"
 #include "capi/documentOutput.h"
 #include "capi/guarded.h"
+#include "capi/guardedText.h"
 #include "capi/rowTexts.h"
 #include "capi/widths.h"
 
@@ -156,10 +156,7 @@ quorvane_status quorvane_document_count_rows(quorvane_document* document, size_t
 }
 
 quorvane_status quorvane_document_rtf(quorvane_document* document, char** rtf, size_t* length) {
-    return guarded(document, [&] {
-        ReturnedText result(rtf, length);
-        result.set(document->document.rtf());
-    });
+    return guardedText(document, rtf, length, [&] { return document->document.rtf(); });
 }
 
 quorvane_status quorvane_document_write(quorvane_document* document, quorvane_write_callback write,

@@ -5,10 +5,10 @@
 
 #include "capi/HandleError.h"
 #include "capi/Job.h"
-#include "capi/ReturnedText.h"
 #include "capi/arguments.h"
 #include "capi/documentOutput.h"
 #include "capi/guarded.h"
+#include "capi/guardedText.h"
 
 struct quorvane_job {
     quorvane::capi::Job job{};
@@ -118,10 +118,8 @@ quorvane_status quorvane_job_enable(quorvane_job* job, const char* identifier, s
 
 quorvane_status quorvane_job_render(quorvane_job* job, const char* description, size_t length,
                                     char** rtf, size_t* rtf_length) {
-    return guarded(job, [&] {
-        ReturnedText result(rtf, rtf_length);
-        result.set(job->job.render(textArgument(description, length)).rtf());
-    });
+    return guardedText(job, rtf, rtf_length,
+                       [&] { return job->job.render(textArgument(description, length)).rtf(); });
 }
 
 quorvane_status quorvane_job_render_to(quorvane_job* job, const char* description, size_t length,
@@ -150,10 +148,9 @@ quorvane_status quorvane_job_check(quorvane_job* job, const char* text, size_t l
 quorvane_status quorvane_job_format(quorvane_job* job, const char* text, size_t length,
                                     int language, int names, char** formatted,
                                     size_t* formatted_length) {
-    return guarded(job, [&] {
-        ReturnedText result(formatted, formatted_length);
-        result.set(job->job.format(textArgument(text, length), languageArgument(language),
-                                   namesArgument(names)));
+    return guardedText(job, formatted, formatted_length, [&] {
+        return job->job.format(textArgument(text, length), languageArgument(language),
+                               namesArgument(names));
     });
 }
 

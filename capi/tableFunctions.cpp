@@ -6,10 +6,10 @@
 #include <utility>
 #include <vector>
 
-#include "capi/ReturnedText.h"
 #include "capi/arguments.h"
 #include "capi/callError.h"
 #include "capi/guarded.h"
+#include "capi/guardedText.h"
 #include "capi/rowTexts.h"
 #include "capi/tableHandle.h"
 #include "capi/writeCallback.h"
@@ -226,12 +226,14 @@ quorvane_status quorvane_table_finish(quorvane_table* table) {
 }
 
 quorvane_status quorvane_table_take(quorvane_table* table, char** rtf, size_t* length) {
-    return guarded(table, [&] {
-        ReturnedText result(rtf, length);
+    const quorvane_status status = guardedText(table, rtf, length, [&]() -> std::string_view {
         if (!table->memory || !table->isFinished) {
             throw CallError("There is no finished table in memory to take.");
         }
-        result.set(*table->memory);
-        table->memory.reset();
+        return *table->memory;
     });
+    if (status == QUORVANE_OK) {
+        table->memory.reset();
+    }
+    return status;
 }

@@ -13,8 +13,8 @@
  *
  * Status and error. A function that can fail returns a `quorvane_status`. What went wrong is in the
  * error of the handle, such as `quorvane_job_error`. A call that fails changes nothing else, unless
- * it says so, and sets what it would have returned to null or 0. A null handle and a null pointer
- * where a result goes are `QUORVANE_WRONG_CALL`.
+ * it says so; a text that it would have returned is null. A null handle and a null pointer where a
+ * result goes are `QUORVANE_WRONG_CALL`.
  *
  * Texts. A text is a pointer and a length in bytes, or `QUORVANE_NUL_TERMINATED` for the length;
  * `QUORVANE_TEXT("…")` writes both. Null is an empty text. Texts are UTF-8 and are copied. What a

@@ -13,8 +13,10 @@ temporary=$(mktemp -d)
 trap 'rm -rf "$temporary"' EXIT
 
 "$folder/interfaceStub.py" "$header" > "$temporary/stub.c"
-"$compiler" -g -Og -w -fvisibility=hidden -shared -fPIC -I "$(dirname "$header")" \
-    -Wl,-soname,libquorvane.so.1 -o "$temporary/stub.so" "$temporary/stub.c"
+cp "$header" "$temporary"
+# From its folder, so that the description has no path of this machine.
+(cd "$temporary" && "$compiler" -g -Og -w -fvisibility=hidden -shared -fPIC -I . \
+    -Wl,-soname,libquorvane.so.1 -o stub.so stub.c)
 
 if [ -z "$library" ]; then
     abidw --no-show-locs --no-comp-dir-path --no-corpus-path --no-elf-needed \
