@@ -13,16 +13,16 @@
 #include "cli/TemplateFiles.h"
 #include "cli/fileFailure.h"
 #include "cli/filesBelow.h"
-#include "cli/partialsBeside.h"
 #include "cli/process.h"
 #include "cli/ruleNamed.h"
 #include "cli/styleSheetName.h"
 #include "cli/unifiedDiff.h"
-#include "cli/utf8Path.h"
 #include "data/Template.h"
 #include "data/TemplateFilling.h"
+#include "data/partialsBeside.h"
 #include "data/templateCheck.h"
 #include "quorvane/base/platform/fileReplacement.h"
+#include "quorvane/base/platform/utf8Path.h"
 #include "quorvane/diagnostics/description/DescriptionCheck.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
 #include "quorvane/diagnostics/engine/withoutIgnored.h"
@@ -231,7 +231,7 @@ std::vector<Diagnostic> CheckJob::templateDiagnosticsOf(const std::string& file,
     const PictureSource pictures = picturesOf(file);
     std::vector<data::TemplateError> errors;
     const data::Template source =
-        data::compileTemplate(text, encoding, partialsBeside(file, platform_), errors);
+        data::compileTemplate(text, encoding, data::partialsBeside(file, platform_), errors);
     KnownStyles* const styles = styles_ ? &*styles_ : nullptr;
     std::vector<Diagnostic> diagnostics;
     if (errors.empty() && data_) {

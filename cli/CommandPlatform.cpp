@@ -8,8 +8,8 @@
 #include "cli/RenderOptions.h"
 #include "cli/fileFailure.h"
 #include "cli/process.h"
-#include "cli/utf8Path.h"
 #include "quorvane/base/platform/fileReplacement.h"
+#include "quorvane/base/platform/utf8Path.h"
 #include "quorvane/base/text/extendedMark.h"
 #include "quorvane/base/values/RtfError.h"
 

@@ -7,10 +7,10 @@
 
 #include "cli/UsageError.h"
 #include "cli/fileFailure.h"
-#include "cli/utf8Path.h"
 #include "data/fileName.h"
 #include "data/letterCase.h"
 #include "data/templateCheck.h"
+#include "quorvane/base/platform/utf8Path.h"
 #include "quorvane/support/FilledValue.h"
 
 namespace quorvane::cli {

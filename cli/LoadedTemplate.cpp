@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "cli/TemplateFiles.h"
-#include "cli/partialsBeside.h"
+#include "data/partialsBeside.h"
 #include "data/templateCheck.h"
 
 namespace quorvane::cli {
@@ -12,7 +12,7 @@ std::optional<LoadedTemplate> loadTemplate(const std::string& path, DescriptionT
                                            CommandPlatform& platform, RenderReport& report) {
     std::vector<data::TemplateError> errors;
     data::Template source = data::compileTemplate(description.text, description.encoding,
-                                                  partialsBeside(path, platform), errors);
+                                                  data::partialsBeside(path, platform), errors);
     LoadedTemplate loaded{path, std::move(description), std::move(source)};
     if (!errors.empty()) {
         reportErrors(loaded, errors, report);

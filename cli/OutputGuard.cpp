@@ -6,9 +6,9 @@
 #include "cli/UsageError.h"
 #include "cli/process.h"
 #include "cli/sourceFile.h"
-#include "cli/utf8Path.h"
 #include "quorvane/base/platform/followLinks.h"
 #include "quorvane/base/platform/throwUnlessAbsent.h"
+#include "quorvane/base/platform/utf8Path.h"
 
 namespace quorvane::cli {
 

@@ -12,7 +12,7 @@
 #include "cli/SideBySideRendering.h"
 #include "cli/fileFailure.h"
 #include "cli/styleSheetName.h"
-#include "cli/utf8Path.h"
+#include "quorvane/base/platform/utf8Path.h"
 
 namespace quorvane::cli {
 

@@ -10,7 +10,7 @@
 #include <system_error>
 
 #include "cli/RenderOptions.h"
-#include "cli/utf8Path.h"
+#include "quorvane/base/platform/utf8Path.h"
 #include "quorvane/base/text/hexadecimal.h"
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
 

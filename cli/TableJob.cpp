@@ -10,7 +10,7 @@
 #include "cli/fileFailure.h"
 #include "cli/outputPaths.h"
 #include "cli/styleSheetName.h"
-#include "cli/utf8Path.h"
+#include "quorvane/base/platform/utf8Path.h"
 #include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/docmodel/CRtfDoc.h"

@@ -6,9 +6,7 @@
 #include "cli/localeOption.h"
 #include "cli/process.h"
 #include "data/json.h"
-#include "quorvane/base/text/TextEncoding.h"
-#include "quorvane/diagnostics/engine/DiagnosticEngine.h"
-#include "quorvane/diagnostics/engine/SourceText.h"
+#include "data/jsonDiagnostic.h"
 
 namespace quorvane::cli {
 
@@ -24,12 +22,7 @@ TemplateDataFile readTemplateData(const std::string& path,
         file.data.emplace(TemplateData{*std::move(record), std::move(locale)});
         return file;
     }
-    DiagnosticEngine engine(
-        [&](Diagnostic diagnostic) { file.diagnostics.push_back(std::move(diagnostic)); });
-    engine.reportText(
-        DiagnosticId::WrongJson,
-        SourceText(file.bytes, TextEncoding::Utf8).place(error.position, error.position + 1),
-        error.message + ".");
+    file.diagnostics.push_back(data::jsonDiagnostic(file.bytes, error));
     return file;
 }
 

@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "cli/utf8Path.h"
+#include "quorvane/base/platform/utf8Path.h"
 
 namespace quorvane::cli {
 

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "cli/RenderOptions.h"
-#include "cli/utf8Path.h"
+#include "quorvane/base/platform/utf8Path.h"
 #include "quorvane/base/values/deepestCause.h"
 
 namespace quorvane::cli {

@@ -5,7 +5,7 @@
 
 #include "cli/RenderOptions.h"
 #include "cli/fileFailure.h"
-#include "cli/utf8Path.h"
+#include "quorvane/base/platform/utf8Path.h"
 #include "quorvane/base/text/textCase.h"
 
 namespace quorvane::cli {

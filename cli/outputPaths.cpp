@@ -5,7 +5,7 @@
 
 #include "cli/OutputGuard.h"
 #include "cli/UsageError.h"
-#include "cli/utf8Path.h"
+#include "quorvane/base/platform/utf8Path.h"
 
 namespace quorvane::cli {
 

@@ -7,8 +7,8 @@
 
 #include "cli/RenderOptions.h"
 #include "cli/process.h"
-#include "cli/utf8Path.h"
 #include "data/recordsSource.h"
+#include "quorvane/base/platform/utf8Path.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/diagnostics/textFile.h"
 

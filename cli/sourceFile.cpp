@@ -9,8 +9,8 @@
 #include <system_error>
 #include <utility>
 
-#include "cli/utf8Path.h"
 #include "quorvane/base/platform/throwUnlessAbsent.h"
+#include "quorvane/base/platform/utf8Path.h"
 #include "quorvane/base/text/byteOrderMark.h"
 #include "quorvane/base/text/codePage1252.h"
 #include "quorvane/base/values/RtfError.h"

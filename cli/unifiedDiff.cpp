@@ -7,7 +7,7 @@
 
 #include "cli/lineChanges.h"
 #include "cli/oneLine.h"
-#include "cli/utf8Path.h"
+#include "quorvane/base/platform/utf8Path.h"
 #include "quorvane/base/text/codePage1252.h"
 
 namespace quorvane::cli {

@@ -7,21 +7,13 @@
 #include <system_error>
 #include <utility>
 
+#include "quorvane/base/platform/utf8Path.h"
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/driver/staysWithinFolder.h"
 
 namespace quorvane {
 
 namespace {
-
-std::filesystem::path pathOf(const std::string& utf8) {
-    return {std::u8string(utf8.begin(), utf8.end())};
-}
-
-std::string utf8Text(const std::filesystem::path& path) {
-    const std::u8string text = path.u8string();
-    return {text.begin(), text.end()};
-}
 
 /// True for a file in the folder or below it, wherever links lead.
 bool isBelow(const std::filesystem::path& folder, const std::filesystem::path& file) {
@@ -35,7 +27,8 @@ bool isBelowOneOf(const std::vector<std::string>& folders, const std::filesystem
     const std::filesystem::path file = std::filesystem::weakly_canonical(path, failure);
     return std::any_of(folders.begin(), folders.end(), [&](const std::string& name) {
         std::error_code missing;
-        const std::filesystem::path folder = std::filesystem::canonical(pathOf(name), missing);
+        const std::filesystem::path folder =
+            std::filesystem::canonical(pathFromUtf8(name), missing);
         return !missing && !failure && isBelow(folder, file);
     });
 }
@@ -53,9 +46,9 @@ bool isNeitherFileNorFolder(const std::filesystem::path& path) {
 
 PictureSource picturesBeside(const std::string& path, Platform& platform,
                              std::vector<std::string> allowedFolders) {
-    return [folder = pathOf(path).parent_path(), &platform,
+    return [folder = pathFromUtf8(path).parent_path(), &platform,
             allowed = std::move(allowedFolders)](const std::string& name) {
-        const std::filesystem::path file = folder / pathOf(name);
+        const std::filesystem::path file = folder / pathFromUtf8(name);
         if (!staysWithinFolder(name) && !isBelowOneOf(allowed, file)) {
             refuse(
                 "The picture is not in the folder of the description; move it there or allow its "
@@ -64,7 +57,7 @@ PictureSource picturesBeside(const std::string& path, Platform& platform,
         if (isNeitherFileNorFolder(file)) {
             refuse("The picture is a pipe or a device; name a file");
         }
-        return platform.readFile(utf8Text(file));
+        return platform.readFile(utf8FromPath(file));
     };
 }
 

@@ -5,10 +5,10 @@
 #include "data/Template.h"
 #include "quorvane/base/platform/Platform.h"
 
-namespace quorvane::cli {
+namespace quorvane::data {
 
 /// Returns a source that reads partials from the folder of a template and the folders in it. A name
 /// that leads outside is error 5. The platform must outlive the source.
-data::PartialSource partialsBeside(const std::string& templatePath, Platform& platform);
+PartialSource partialsBeside(const std::string& templatePath, Platform& platform);
 
-}  // namespace quorvane::cli
+}  // namespace quorvane::data

@@ -1,16 +1,16 @@
-#include "cli/partialsBeside.h"
+#include "data/partialsBeside.h"
 
 #include <cstdint>
 #include <filesystem>
 #include <system_error>
 
-#include "cli/utf8Path.h"
+#include "quorvane/base/platform/utf8Path.h"
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/driver/staysWithinFolder.h"
 
-namespace quorvane::cli {
+namespace quorvane::data {
 
-data::PartialSource partialsBeside(const std::string& templatePath, Platform& platform) {
+PartialSource partialsBeside(const std::string& templatePath, Platform& platform) {
     const std::filesystem::path folder = pathFromUtf8(templatePath).parent_path();
     return [folder, &platform](const std::string& name) {
         const std::filesystem::path file = folder / pathFromUtf8(name);
@@ -23,4 +23,4 @@ data::PartialSource partialsBeside(const std::string& templatePath, Platform& pl
     };
 }
 
-}  // namespace quorvane::cli
+}  // namespace quorvane::data

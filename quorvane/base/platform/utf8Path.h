@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace quorvane::cli {
+namespace quorvane {
 
 /// The path that a name in UTF-8 stands for.
 inline std::filesystem::path pathFromUtf8(std::string_view name) {
@@ -17,4 +17,4 @@ inline std::string utf8FromPath(const std::filesystem::path& path) {
     return {name.begin(), name.end()};
 }
 
-}  // namespace quorvane::cli
+}  // namespace quorvane

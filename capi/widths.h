@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "quorvane/compose/Width.h"
+
+namespace quorvane::capi {
+
+/// The widths that a text gives, with blanks or commas between them.
+std::vector<Width> widthsOf(std::string_view text);
+
+}  // namespace quorvane::capi
