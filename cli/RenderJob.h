@@ -9,6 +9,7 @@
 #include "cli/ExitStatus.h"
 #include "cli/RenderOptions.h"
 #include "cli/RenderReport.h"
+#include "cli/SchemaFile.h"
 #include "cli/TemplateData.h"
 #include "cli/outputPaths.h"
 #include "quorvane/base/platform/Platform.h"
@@ -34,6 +35,7 @@ private:
     bool prepareOutputFolder();
     ExitStatus readStyleSheet();
     ExitStatus readData();
+    ExitStatus readSchemaFile();
     ExitStatus renderInTurn(const std::vector<Assignment>& assignments);
     ExitStatus renderSideBySide(const std::vector<Assignment>& assignments, std::size_t threads);
 
@@ -42,6 +44,7 @@ private:
     RenderReceivers receivers_;
     RenderReport report_;
     CommandPlatform platform_;
+    std::optional<SchemaFile> schema_;
     std::optional<TemplateDataFile> data_;
 };
 

@@ -5,12 +5,22 @@
 #include "cli/RenderOptions.h"
 #include "cli/localeOption.h"
 #include "cli/process.h"
-#include "data/json.h"
 #include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
 #include "quorvane/diagnostics/engine/SourceText.h"
 
 namespace quorvane::cli {
+
+Diagnostic wrongJson(const std::string& bytes, const data::JsonError& error) {
+    std::vector<Diagnostic> diagnostics;
+    DiagnosticEngine engine(
+        [&](Diagnostic diagnostic) { diagnostics.push_back(std::move(diagnostic)); });
+    engine.reportText(
+        DiagnosticId::WrongJson,
+        SourceText(bytes, TextEncoding::Utf8).place(error.position, error.position + 1),
+        error.message + ".");
+    return diagnostics.front();
+}
 
 TemplateDataFile readTemplateData(const std::string& path,
                                   const std::optional<std::string>& localeName,
@@ -24,12 +34,7 @@ TemplateDataFile readTemplateData(const std::string& path,
         file.data.emplace(TemplateData{*std::move(record), std::move(locale)});
         return file;
     }
-    DiagnosticEngine engine(
-        [&](Diagnostic diagnostic) { file.diagnostics.push_back(std::move(diagnostic)); });
-    engine.reportText(
-        DiagnosticId::WrongJson,
-        SourceText(file.bytes, TextEncoding::Utf8).place(error.position, error.position + 1),
-        error.message + ".");
+    file.diagnostics.push_back(wrongJson(file.bytes, error));
     return file;
 }
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "data/DataValue.h"
+#include "data/json.h"
 #include "data/locale.h"
 #include "quorvane/base/platform/Platform.h"
 #include "quorvane/diagnostics/engine/Diagnostic.h"
@@ -25,6 +26,9 @@ struct TemplateDataFile {
     std::optional<TemplateData> data = {};
     std::vector<Diagnostic> diagnostics = {};
 };
+
+/// What is wrong with bytes that are not JSON.
+Diagnostic wrongJson(const std::string& bytes, const data::JsonError& error);
 
 /// Reads a JSON file, or standard input for "-". Raises an `RtfError` for one that cannot be read,
 /// and throws a `UsageError` for a locale that is not known.
