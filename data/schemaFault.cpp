@@ -206,7 +206,8 @@ private:
         for (const auto& [name, value] : schema->items()) {
             const Keyword* const keyword = keywordNamed(name);
             if (keyword && (!isReference || name == "definitions")) {
-                takeKeyword(*schema, *keyword, value, pointer + "/" + name);
+                takeKeyword(*schema, *keyword, value,
+                            std::string(pointer).append("/").append(name));
             }
         }
     }
