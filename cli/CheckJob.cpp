@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "cli/RenderOptions.h"
+#include "cli/SchemaFile.h"
 #include "cli/TemplateFiles.h"
 #include "cli/fileFailure.h"
 #include "cli/filesBelow.h"
@@ -117,11 +118,28 @@ bool CheckJob::readData() {
     if (!options_.data) {
         return true;
     }
+    std::optional<SchemaFile> schema;
+    try {
+        if (options_.schema) {
+            schema = readSchema(*options_.schema, platform_);
+        }
+    } catch (const RtfError& error) {
+        fail(unreadableFile(*options_.schema, *options_.schema, error));
+        return false;
+    }
+    if (schema && !schema->schema) {
+        reportAll(schema->shownName, schema->diagnostics,
+                  windowOf(schema->bytes, TextEncoding::Utf8));
+        return false;
+    }
     try {
         data_ = readTemplateData(*options_.data, options_.locale, platform_);
     } catch (const RtfError& error) {
         fail(unreadableFile(shownName(*options_.data), *options_.data, error));
         return false;
+    }
+    if (data_->data && schema) {
+        validate(*data_, *schema->schema);
     }
     reportAll(data_->shownName, data_->diagnostics, windowOf(data_->bytes, TextEncoding::Utf8));
     return data_->data.has_value();

@@ -21,6 +21,8 @@ struct CheckOptions {
     EncodingChoice encoding = EncodingChoice::Auto;
     /// The JSON file that the descriptions, which are templates, are filled with.
     std::optional<std::string> data;
+    /// The file with the JSON Schema that the data is validated with.
+    std::optional<std::string> schema;
     /// The locale in which filters write numbers.
     std::optional<std::string> locale;
     /// Folders whose pictures descriptions may name, besides their own.

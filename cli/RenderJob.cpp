@@ -122,6 +122,9 @@ ExitStatus RenderJob::readData() {
     if (!options_.data) {
         return ExitStatus::Success;
     }
+    if (const ExitStatus status = readSchemaFile(); status != ExitStatus::Success) {
+        return status;
+    }
     const std::string& path = *options_.data;
     try {
         data_ = readTemplateData(path, options_.locale, platform_);
@@ -129,12 +132,33 @@ ExitStatus RenderJob::readData() {
         report_.fail(unreadableFile(path == standardStream ? "<stdin>" : path, path, error));
         return ExitStatus::Failure;
     }
+    if (data_->data && schema_) {
+        validate(*data_, *schema_->schema);
+    }
     if (!data_->data) {
         report_.refuse(data_->shownName, windowOf(data_->bytes, TextEncoding::Utf8),
                        data_->diagnostics);
         return ExitStatus::ContentErrors;
     }
     manner_.data = &*data_->data;
+    return ExitStatus::Success;
+}
+
+ExitStatus RenderJob::readSchemaFile() {
+    if (!options_.schema) {
+        return ExitStatus::Success;
+    }
+    try {
+        schema_ = readSchema(*options_.schema, platform_);
+    } catch (const RtfError& error) {
+        report_.fail(unreadableFile(*options_.schema, *options_.schema, error));
+        return ExitStatus::Failure;
+    }
+    if (!schema_->schema) {
+        report_.refuse(schema_->shownName, windowOf(schema_->bytes, TextEncoding::Utf8),
+                       schema_->diagnostics);
+        return ExitStatus::ContentErrors;
+    }
     return ExitStatus::Success;
 }
 

@@ -9,6 +9,7 @@
 #include "cli/ExitStatus.h"
 #include "cli/RenderOptions.h"
 #include "cli/RenderReport.h"
+#include "cli/SchemaFile.h"
 #include "cli/TemplateData.h"
 #include "cli/outputPaths.h"
 #include "quorvane/base/platform/Platform.h"
@@ -35,6 +36,7 @@ private:
     bool prepareFolder(const std::string& name);
     ExitStatus readStyleSheet();
     ExitStatus readData();
+    ExitStatus readSchemaFile();
     ExitStatus renderInTurn(const std::vector<Assignment>& assignments);
     ExitStatus renderSideBySide(const std::vector<Assignment>& assignments, std::size_t threads);
 
@@ -43,6 +45,7 @@ private:
     RenderReceivers receivers_;
     RenderReport report_;
     CommandPlatform platform_;
+    std::optional<SchemaFile> schema_;
     std::optional<TemplateDataFile> data_;
 };
 

@@ -33,6 +33,8 @@ struct RenderOptions {
     EncodingChoice encoding = EncodingChoice::Auto;
     /// The file with the data that the descriptions, which are templates, are filled with.
     std::optional<std::string> data;
+    /// The file with the JSON Schema that the data is validated with.
+    std::optional<std::string> schema;
     DataUse dataUse = DataUse::Whole;
     /// Of the records, those that are used.
     RecordRange records;

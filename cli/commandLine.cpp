@@ -191,6 +191,17 @@ Exit status:
   1  the data or the stylesheet has errors
   2  wrong usage, or a file that cannot be read or written)";
 
+constexpr const char* dataSchemaFooter =
+    R"(The schema (JSON Schema, draft 7) says which names the template and its partials
+ask for, which of them can be missing, and which kinds of values they take. It
+goes to standard output unless --output is given. "quorvane render --data FILE
+--schema FILE" validates data with it.
+
+Exit status:
+  0  success
+  1  the template has errors
+  2  wrong usage, or a file that cannot be read or written)";
+
 const std::map<std::string, FailOn>& failingSeverities() {
     static const std::map<std::string, FailOn> severities = {
         {"error", FailOn::Error},
@@ -394,6 +405,12 @@ void addEncoding(CLI::App& app, EncodingChoice& target) {
         ->check(CLI::IsMember(encodingChoices()).description(""));
 }
 
+void addSchema(CLI::App& app, std::optional<std::string>& schema) {
+    app.add_option("--schema", storeIn(schema), "Validate the data with this JSON Schema first")
+        ->type_name("FILE")
+        ->needs("--data");
+}
+
 void addData(CLI::App& app, std::optional<std::string>& data, std::optional<std::string>& locale) {
     app.add_option("--data", storeIn(data), "Fill the descriptions with this JSON file")
         ->type_name("FILE");
@@ -461,6 +478,7 @@ void addCheckOptions(CLI::App* check, CheckOptions& options) {
     addEncoding(*check, options.encoding);
     addAllowPictures(*check, options.pictureFolders);
     addData(*check, options.data, options.locale);
+    addSchema(*check, options.schema);
     check->add_flag("--fix", options.fixes, "Apply the fixes that are certain");
     check->add_flag("--diff", options.showsDiff, "Only show what --fix would change");
     addIdentifiersOption(*check, "--ignore", options.ignored, "Do not report these diagnostics");
@@ -548,6 +566,7 @@ void addRenderOptions(CLI::App* render, RenderOptions& options) {
     addEncoding(*render, options.encoding);
     addAllowPictures(*render, options.pictureFolders);
     addData(*render, options.data, options.locale);
+    addSchema(*render, options.schema);
     addRecordOptions(*render, options.dataUse, options.records);
     render
         ->add_option("--report", storeIn(options.report),
@@ -672,7 +691,21 @@ void requireInput(const TableOptions& options) {
     }
 }
 
-constexpr std::string_view commands[] = {"render", "check", "format", "escape", "table", "help"};
+void addDataSchemaOptions(CLI::App* dataSchema, DataSchemaOptions& options) {
+    dataSchema->footer(dataSchemaFooter);
+    addStandardFlags(*dataSchema);
+    dataSchema
+        ->add_option("DESCRIPTION", storeIn(options.description),
+                     "The template; - is standard input")
+        ->type_name("")
+        ->required();
+    dataSchema->add_option("-o,--output", storeIn(options.output), "Write the schema to this file")
+        ->type_name("FILE");
+    refuseEmptyValues(*dataSchema);
+}
+
+constexpr std::string_view commands[] = {"render", "check",       "format", "escape",
+                                         "table",  "data-schema", "help"};
 
 bool isCommand(std::string_view name) {
     return std::find(std::begin(commands), std::end(commands), name) != std::end(commands);
@@ -681,7 +714,8 @@ bool isCommand(std::string_view name) {
 std::string unknownCommandText(const std::string& name) {
     const std::string guess = didYouMean(name, commands);
     return name + " is not a subcommand; " +
-           (guess.empty() ? "use render, check, format, escape, table or help" : guess);
+           (guess.empty() ? "use render, check, format, escape, table, data-schema or help"
+                          : guess);
 }
 
 std::string unknownOptionText(const CLI::App& app, const std::string& argument) {
@@ -712,8 +746,7 @@ std::vector<std::string> helpRequest(const std::vector<std::string>& commandsAsk
 
 void addHelpOptions(CLI::App* help, std::vector<std::string>& commandsAskedFor) {
     addStandardFlags(*help);
-    help->add_option("SUBCOMMAND", storeIn(commandsAskedFor),
-                     "render, check, format, escape, table or help")
+    help->add_option("SUBCOMMAND", storeIn(commandsAskedFor), "The subcommand, such as render")
         ->type_name("");
 }
 
@@ -724,6 +757,7 @@ struct Requests {
     FormatOptions format;
     EscapeOptions escape;
     TableOptions table;
+    DataSchemaOptions dataSchema;
     std::vector<std::string> help;
 };
 
@@ -742,6 +776,8 @@ void addCommands(CLI::App& app, const std::vector<std::string>& arguments, Reque
     add("escape", "Escape texts, so that they show as they are.", addEscapeOptions,
         requests.escape);
     add("table", "Make a table of a CSV or JSON file.", addTableOptions, requests.table);
+    add("data-schema", "Write the JSON Schema of the data for a template.", addDataSchemaOptions,
+        requests.dataSchema);
     add("help", "Show the help of a subcommand.", addHelpOptions, requests.help);
     if (!isKnown) {
         addStandardFlags(app);
@@ -802,7 +838,8 @@ std::string usageErrorText(const CLI::App& app, const CLI::ParseError& error) {
 
 }  // namespace
 
-std::variant<RenderOptions, CheckOptions, FormatOptions, EscapeOptions, TableOptions, Information>
+std::variant<RenderOptions, CheckOptions, FormatOptions, EscapeOptions, TableOptions,
+             DataSchemaOptions, Information>
 parseCommandLine(const std::vector<std::string>& arguments) {
     CLI::App app("Render descriptions as documents in Rich Text Format (RTF).", "quorvane");
     app.require_subcommand(1);
@@ -835,6 +872,9 @@ parseCommandLine(const std::vector<std::string>& arguments) {
         if (command == "table") {
             requireInput(requests.table);
             return requests.table;
+        }
+        if (command == "data-schema") {
+            return requests.dataSchema;
         }
         if (command == "help") {
             return parseCommandLine(helpRequest(requests.help));

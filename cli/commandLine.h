@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "cli/CheckOptions.h"
+#include "cli/DataSchemaOptions.h"
 #include "cli/EscapeOptions.h"
 #include "cli/FormatOptions.h"
 #include "cli/RenderOptions.h"
@@ -18,7 +19,8 @@ struct Information {
 };
 
 /// Returns what the arguments after the program's name ask for. Throws `UsageError`.
-std::variant<RenderOptions, CheckOptions, FormatOptions, EscapeOptions, TableOptions, Information>
+std::variant<RenderOptions, CheckOptions, FormatOptions, EscapeOptions, TableOptions,
+             DataSchemaOptions, Information>
 parseCommandLine(const std::vector<std::string>& arguments);
 
 /// The form in which an error in the arguments is reported: the one that they ask for, even if

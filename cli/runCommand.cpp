@@ -14,6 +14,7 @@
 #include "cli/checkCommand.h"
 #include "cli/colors.h"
 #include "cli/commandLine.h"
+#include "cli/dataSchemaCommand.h"
 #include "cli/diagnosticText.h"
 #include "cli/errorJson.h"
 #include "cli/errorText.h"
@@ -121,6 +122,9 @@ ExitStatus run(const std::vector<std::string>& arguments, ErrorForm form) {
                             writeToStandardError(lineOf(error, form));
                         })
             .run();
+    }
+    if (const auto* options = std::get_if<DataSchemaOptions>(&request)) {
+        return writeDataSchema(*options);
     }
     return render(std::get<RenderOptions>(request));
 }

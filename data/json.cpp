@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "data/CountingIterator.h"
 #include "quorvane/base/text/byteOrderMark.h"
 #include "quorvane/diagnostics/fileEncoding.h"
 
@@ -115,29 +116,6 @@ private:
     // Those that are not closed. None of them moves: a value is added to the last one only.
     std::vector<DataValue*> open_;
     std::vector<std::size_t> order_;
-};
-
-/// A view of a text that counts how much of it was read.
-class CountingIterator {
-public:
-    using iterator_category = std::input_iterator_tag;
-    using value_type = char;
-    using difference_type = std::ptrdiff_t;
-    using pointer = const char*;
-    using reference = const char&;
-
-    CountingIterator(const char* at, const char** furthest) : at_(at), furthest_(furthest) {}
-    const char& operator*() const { return *at_; }
-    CountingIterator& operator++() {
-        *furthest_ = ++at_;
-        return *this;
-    }
-    bool operator==(const CountingIterator& other) const { return at_ == other.at_; }
-    bool operator!=(const CountingIterator& other) const { return at_ != other.at_; }
-
-private:
-    const char* at_;
-    const char** furthest_;
 };
 
 /// Where the builder refuses what it is given: at the byte that was read last, which the parser

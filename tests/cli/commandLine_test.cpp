@@ -131,7 +131,7 @@ TEST(CommandLine, ShowsTheHelpOfRenderWithEveryOptionAndTheExitStatuses) {
 
 TEST(CommandLine, ShowsNoLongLinesOfHelp) {
     std::size_t length = 0;
-    for (const char* command : {"render", "check", "format", "help"}) {
+    for (const char* command : {"render", "check", "format", "data-schema", "help"}) {
         for (const char character : informationOf({command, "--help"})) {
             length = character == '\n' ? 0 : length + 1;
             ASSERT_LE(length, 80U);
@@ -150,10 +150,12 @@ TEST(CommandLine, ShowsTheVersionWithAndWithoutASubcommand) {
 
 TEST(CommandLine, NeedsASubcommand) {
     EXPECT_EQ(usageErrorOf({}), "A subcommand is required");
-    EXPECT_EQ(usageErrorOf({"draw", "a.rtfspec"}),
-              "draw is not a subcommand; use render, check, format, escape, table or help");
+    EXPECT_EQ(
+        usageErrorOf({"draw", "a.rtfspec"}),
+        "draw is not a subcommand; use render, check, format, escape, table, data-schema or help");
     EXPECT_EQ(usageErrorOf({"[a].rtfspec"}),
-              "[a].rtfspec is not a subcommand; use render, check, format, escape, table or help");
+              "[a].rtfspec is not a subcommand; use render, check, format, escape, table, "
+              "data-schema or help");
     EXPECT_EQ(usageErrorOf({"chekc", "x"}), "chekc is not a subcommand; did you mean check?");
     EXPECT_EQ(usageErrorOf({"Format", "x"}), "Format is not a subcommand; did you mean format?");
 }
@@ -250,8 +252,9 @@ TEST(CommandLine, ShowsTheHelpOfASubcommandByItsName) {
     }
     EXPECT_EQ(informationOf({"help"}), informationOf({"--help"}));
     EXPECT_EQ(usageErrorOf({"help", "rendre"}), "rendre is not a subcommand; did you mean render?");
-    EXPECT_EQ(usageErrorOf({"help", "draw"}),
-              "draw is not a subcommand; use render, check, format, escape, table or help");
+    EXPECT_EQ(
+        usageErrorOf({"help", "draw"}),
+        "draw is not a subcommand; use render, check, format, escape, table, data-schema or help");
 }
 
 TEST(CommandLine, RefusesAnOptionThatIsGivenTwice) {

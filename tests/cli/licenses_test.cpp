@@ -33,7 +33,7 @@ TEST(Licenses, NameWhatTheCommandContains) {
     EXPECT_THAT(sourceFile("LICENSE"), StartsWith("MIT License\n\nCopyright (c) "));
     const std::string notices = sourceFile("THIRD-PARTY-NOTICES");
     for (const char* name :
-         {"\nCLI11 - ", "\nJSON for Modern C++ - ", "\nmingw-w64 and winpthreads",
+         {"\nCLI11 - ", "\nJSON for Modern C++ - ", "\nValijson - ", "\nmingw-w64 and winpthreads",
           "\nGCC run-time libraries", "\nGNU C Library"}) {
         EXPECT_THAT(notices, HasSubstr(name));
     }

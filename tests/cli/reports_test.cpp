@@ -878,11 +878,15 @@ std::string templateOf(const std::string& text) {
 }
 
 /// The report about a template with data, or without for an empty text.
-std::string reportOfTemplate(const std::string& text, const std::string& json = {}) {
+std::string reportOfTemplate(const std::string& text, const std::string& json = {},
+                             const std::string& schema = {}) {
     CheckedFiles platform;
-    platform.files = {{"a.rtfspec", text}, {"a.json", json}};
+    platform.files = {{"a.rtfspec", text}, {"a.json", json}, {"a.schema.json", schema}};
     CheckOptions options;
     options.files = {"a.rtfspec"};
+    if (!schema.empty()) {
+        options.schema = "a.schema.json";
+    }
     if (!json.empty()) {
         options.data = "a.json";
     }
@@ -947,6 +951,18 @@ const std::map<std::string, std::pair<std::string, std::string>>& reportsWithout
             "a.json:1:6: error: This is not JSON: unexpected '}'; expected '[', '{', or a literal. "
             "[wrong-json]\n"
             "    {\"a\":}\n"
+            "         ^\n"};
+        list["wrong-schema"] = {
+            reportOfTemplate(templateOf("{{a}}"), R"({"a":1})", R"({"type":"txt"})"),
+            "a.schema.json:1:9: error: type takes array, boolean, integer, null, number, object "
+            "or string, or a list of them. [wrong-schema]\n"
+            "    {\"type\":\"txt\"}\n"
+            "            ^~~~~\n"};
+        list["schema-mismatch"] = {
+            reportOfTemplate(templateOf("{{a}}"), R"({"a":1})",
+                             R"({"properties":{"a":{"type":"string"}}})"),
+            "a.json:1:6: error: /a is a number; the schema asks for a text. [schema-mismatch]\n"
+            "    {\"a\":1}\n"
             "         ^\n"};
         list["bad-character"] = {
             reportOfFile("a.rtfss", "; quorvane 2\n; a\x07\n{ name: a; style-def: cell }\n"),

@@ -104,10 +104,11 @@ TEST(ExamplesOfTheTable, AreThereForAllButWhatFewLinesCannotShow) {
             without.emplace_back(rule.identifier);
         }
     }
-    EXPECT_THAT(without, testing::ElementsAre(
-                             "not-a-text-file", "not-utf-8", "wrong-extension", "rejected",
-                             "wrong-picture", "wrong-tag", "wrong-partial", "missing-name",
-                             "wrong-data", "wrong-json", "stylesheet-rejected", "bad-character"));
+    EXPECT_THAT(without,
+                testing::ElementsAre("not-a-text-file", "not-utf-8", "wrong-extension", "rejected",
+                                     "wrong-picture", "wrong-tag", "wrong-partial", "missing-name",
+                                     "wrong-data", "wrong-json", "wrong-schema", "schema-mismatch",
+                                     "stylesheet-rejected", "bad-character"));
 }
 
 }  // namespace

@@ -25,6 +25,7 @@
 #include "cli/TableJob.h"
 #include "cli/UsageError.h"
 #include "cli/commandLine.h"
+#include "cli/dataSchemaCommand.h"
 #include "cli/diagnosticJson.h"
 #include "cli/diagnosticText.h"
 #include "cli/errorJson.h"
@@ -255,6 +256,8 @@ std::string outcome(const std::vector<std::string>& arguments) {
             status = static_cast<int>(cli::FormatJob(*format, write, report).run());
         } else if (const auto* table = std::get_if<cli::TableOptions>(&request)) {
             status = static_cast<int>(cli::TableJob(*table, report).run());
+        } else if (const auto* schema = std::get_if<cli::DataSchemaOptions>(&request)) {
+            status = static_cast<int>(cli::writeDataSchema(*schema));
         } else {
             status = rendered(std::get<cli::RenderOptions>(request), report);
         }

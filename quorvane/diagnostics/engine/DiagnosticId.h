@@ -47,6 +47,8 @@ enum class DiagnosticId {
     MissingName,
     WrongData,
     WrongJson,
+    WrongSchema,
+    SchemaMismatch,
 
     // nodeWarnings.h
     ClosedByOpener,

@@ -62,6 +62,29 @@ value has no line breaks. The message names the value by its path in the data.
 The data is one JSON text in UTF-8. A name can be in an object only once, and lists and objects can
 be nested 500 levels deep.
 )"},
+
+    {.id = DiagnosticId::WrongSchema,
+     .identifier = "wrong-schema",
+     .severity = Severity::Error,
+     .language = CheckedLanguage::Description,
+     .message = "{0}",
+     .title = "The schema for the data is not a JSON Schema.",
+     .explanation = R"(
+The file of `--schema` holds a JSON Schema of draft 7. Its references lead to places in the same
+file, and no schema refers to itself without a value in between.
+)"},
+
+    {.id = DiagnosticId::SchemaMismatch,
+     .identifier = "schema-mismatch",
+     .severity = Severity::Error,
+     .language = CheckedLanguage::Description,
+     .message = "{0}",
+     .title = "The data does not meet its schema.",
+     .explanation = R"(
+The message names the value by its JSON Pointer: `/lines/1/price` is the price of the second line.
+Change the data, or the schema if it asks for too much. `quorvane data-schema` writes the schema
+that a template asks for.
+)"},
 };
 
 }  // namespace quorvane

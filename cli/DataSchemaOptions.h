@@ -1,0 +1,15 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace quorvane::cli {
+
+/// The options of `quorvane data-schema`. Paths are as given; "-" is a standard stream.
+struct DataSchemaOptions {
+    std::string description;
+    /// The file that the schema goes to; standard output when there is none.
+    std::optional<std::string> output;
+};
+
+}  // namespace quorvane::cli

@@ -1,0 +1,5 @@
+include(${CMAKE_CURRENT_LIST_DIR}/hostHeaders.cmake)
+if(NOT TARGET valijson)
+    addHostHeaders(valijson valijson/validator.hpp)
+endif()
+set(valijson_FOUND TRUE)

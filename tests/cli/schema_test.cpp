@@ -1,0 +1,127 @@
+// The built program with data-schema, and with --schema.
+
+#include <gmock/gmock.h>
+
+#include <nlohmann/json.hpp>
+#include <string>
+
+#include "tests/cli/ProgramTest.h"
+#include "tests/cli/runProgram.h"
+
+namespace quorvane::cli {
+namespace {
+
+using testing::Contains;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+class SchemaTest : public ProgramTest {
+protected:
+    SchemaTest() {
+        folder.write("a.rtfspec",
+                     "; quorvane 2\n(doc\n{{> head}}\n{{#lines}}\n(r\n(c\n(p\n(pt={{@index}} "
+                     "{{price|money}})\np)\nc)\nr)\n{{/lines}}\ndoc)\n");
+        folder.write("head.rtfpart", "(header={{title|default:Prices}})\n");
+        folder.write("right.json", R"({"lines":[{"price":1},{"price":"2.50"}]})");
+        folder.write("wrong.json", "{\n \"lines\": [{\"price\":1},\n  {\"prise\":2}]}\n");
+    }
+
+    std::string writeSchema() {
+        EXPECT_EQ(run({"data-schema", "a.rtfspec", "-o", "schema.json"}).status, 0);
+        return folder.read("schema.json");
+    }
+};
+
+TEST_F(SchemaTest, IsWrittenForATemplateWithItsPartials) {
+    const ProgramResult result = run({"data-schema", "a.rtfspec"});
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(result.status, 0);
+    const nlohmann::json schema = nlohmann::json::parse(result.output);
+    EXPECT_EQ(schema["required"], nlohmann::json::array({"lines"}));
+    EXPECT_EQ(schema["properties"]["title"]["description"],
+              "head.rtfpart, line 1: {{title|default:Prices}}.");
+    EXPECT_EQ(writeSchema(), result.output);
+}
+
+TEST_F(SchemaTest, IsWrittenForATemplateFromStandardInput) {
+    start.input = folder.read("a.rtfspec");
+    EXPECT_EQ(run({"data-schema", "-", "-o", "-"}).output, writeSchema());
+}
+
+TEST_F(SchemaTest, IsNotWrittenForATemplateWithErrors) {
+    folder.write("b.rtfspec", "; quorvane 2\n(doc\n{{#a}}\ndoc)\n");
+    const ProgramResult result = run({"data-schema", "b.rtfspec", "-o", "b.json"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors,
+              "b.rtfspec:3:1: error: The section that begins here does not end. [wrong-tag]\n"
+              "    {{#a}}\n"
+              "    ^~~~~~\n");
+    EXPECT_THAT(folder.names(), Not(Contains("b.json")));
+}
+
+TEST_F(SchemaTest, DoesNotTakeThePlaceOfASource) {
+    const std::string before = folder.read("a.rtfspec");
+    const ProgramResult result = run({"data-schema", "a.rtfspec", "-o", "a.rtfspec"});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_THAT(result.errors, HasSubstr("a.rtfspec is not a name for a schema"));
+    EXPECT_EQ(folder.read("a.rtfspec"), before);
+}
+
+TEST_F(SchemaTest, NeedsATemplateThatCanBeRead) {
+    const ProgramResult result = run({"data-schema", "no.rtfspec"});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_THAT(result.errors, HasSubstr("no.rtfspec"));
+    EXPECT_EQ(run({"data-schema"}).status, 2);
+}
+
+TEST_F(SchemaTest, LetsDataThroughThatMeetsIt) {
+    writeSchema();
+    EXPECT_EQ(
+        run({"render", "--data", "right.json", "--schema", "schema.json", "a.rtfspec"}).status, 0);
+    EXPECT_EQ(
+        run({"check", "-q", "--data", "right.json", "--schema", "schema.json", "a.rtfspec"}).output,
+        "");
+}
+
+TEST_F(SchemaTest, StopsOtherDataAtItsPlace) {
+    writeSchema();
+    const std::string report =
+        "wrong.json:3:3: error: /lines/1 has no price, which the schema requires (did you mean "
+        "prise?). [schema-mismatch]\n"
+        "      {\"prise\":2}]}\n"
+        "      ^\n";
+    const ProgramResult rendered =
+        run({"render", "--data", "wrong.json", "--schema", "schema.json", "a.rtfspec"});
+    EXPECT_EQ(rendered.status, 1);
+    EXPECT_EQ(rendered.errors, report);
+    EXPECT_THAT(folder.names(), Not(Contains("a.rtf")));
+    const ProgramResult checked =
+        run({"check", "--data", "wrong.json", "--schema", "schema.json", "a.rtfspec"});
+    EXPECT_EQ(checked.status, 1);
+    EXPECT_THAT(checked.output, StartsWith(report));
+}
+
+TEST_F(SchemaTest, IsReportedWhenItIsNotASchema) {
+    folder.write("schema.json", "{\n  \"required\": true\n}\n");
+    const ProgramResult result =
+        run({"render", "--data", "right.json", "--schema", "schema.json", "a.rtfspec"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.errors,
+                StartsWith("schema.json:2:15: error: required takes a list of names."));
+    folder.write("schema.json", "{");
+    EXPECT_THAT(
+        run({"check", "--data", "right.json", "--schema", "schema.json", "a.rtfspec"}).output,
+        HasSubstr("schema.json:1:2: error: This is not JSON"));
+}
+
+TEST_F(SchemaTest, GoesWithDataOnly) {
+    const ProgramResult result = run({"render", "--schema", "schema.json", "a.rtfspec"});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_THAT(result.errors, HasSubstr("--data"));
+    EXPECT_EQ(run({"render", "--data", "right.json", "--schema", "no.json", "a.rtfspec"}).status,
+              2);
+}
+
+}  // namespace
+}  // namespace quorvane::cli
