@@ -147,12 +147,16 @@ void Job::setReceiver(quorvane_diagnostic_callback callback, void* user) {
 
 Document Job::render(std::string_view bytes) {
     list_.clear();
+    if (!std::exchange(isDriverSound_, false)) {
+        driver_ = {};
+    }
     const Source source = sourceOf(bytes, pathOrName());
     if (data_) {
         renderTemplate(source);
     } else {
         renderText(source);
     }
+    isDriverSound_ = true;
     return Document(driver_->RtfObject());
 }
 
@@ -235,7 +239,6 @@ void Job::finishRendering(const Source& source,
                        diagnosticOf);
     }
     if (firstError(diagnostics)) {
-        driver_ = {};
         refuse(pathOrName(), diagnostics, events_.empty() ? 0 : events_.front().number);
     }
     report(pathOrName(), std::move(diagnostics));

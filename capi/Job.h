@@ -95,6 +95,8 @@ private:
     void* receiverUser_ = nullptr;
 
     Ref<CRtfDriver> driver_;
+    // The last rendering ended without an error.
+    bool isDriverSound_ = false;
     std::vector<RtfError> events_;
     DiagnosticList list_;
 };

@@ -3,6 +3,7 @@
 #include <quorvane.h>
 
 #include <cstring>
+#include <string>
 #include <string_view>
 
 #include "capi/callError.h"
@@ -29,10 +30,9 @@ Type& requireArgument(Type* pointer, const char* name) {
     return *pointer;
 }
 
-/// An enumeration whose values are 0 to `last`, or an error.
-template <class Enumeration>
-Enumeration enumArgument(Enumeration value, Enumeration last, const char* name) {
-    if (static_cast<int>(value) < 0 || value > last) {
+/// A constant of an enumeration, whose last one is `last`.
+inline int enumArgument(int value, int last, const char* name) {
+    if (value < 0 || value > last) {
         throw CallError(std::string("The argument ") + name + " is not one of its constants.");
     }
     return value;

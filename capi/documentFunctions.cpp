@@ -5,11 +5,11 @@
 #include <vector>
 
 #include "capi/HandleError.h"
-#include "capi/ReturnedText.h"
 #include "capi/arguments.h"
 #include "capi/documentHandle.h"
 #include "capi/documentOutput.h"
 #include "capi/guarded.h"
+#include "capi/guardedText.h"
 #include "capi/rowTexts.h"
 #include "capi/widths.h"
 
@@ -101,8 +101,7 @@ quorvane_status quorvane_document_set_footer(quorvane_document* document, const 
     });
 }
 
-quorvane_status quorvane_document_set_heading_form(quorvane_document* document,
-                                                   quorvane_heading_form form) {
+quorvane_status quorvane_document_set_heading_form(quorvane_document* document, int form) {
     return guarded(document, [&] {
         document->document.setHeadingForm(enumArgument(form, QUORVANE_HEADING_IN_TABLE, "form") ==
                                                   QUORVANE_HEADING_IN_TABLE
@@ -157,10 +156,7 @@ quorvane_status quorvane_document_count_rows(quorvane_document* document, size_t
 }
 
 quorvane_status quorvane_document_rtf(quorvane_document* document, char** rtf, size_t* length) {
-    return guarded(document, [&] {
-        ReturnedText result(rtf, length);
-        result.set(document->document.rtf());
-    });
+    return guardedText(document, rtf, length, [&] { return document->document.rtf(); });
 }
 
 quorvane_status quorvane_document_write(quorvane_document* document, quorvane_write_callback write,

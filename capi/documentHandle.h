@@ -46,7 +46,7 @@ void setBorders(const Element& element, int sides, int width) {
 }
 
 /// The alignment of an argument.
-inline tCellAlign alignArgument(quorvane_align align) {
+inline tCellAlign alignArgument(int align) {
     return static_cast<tCellAlign>(enumArgument(align, QUORVANE_ALIGN_JUSTIFIED, "align"));
 }
 

@@ -4,10 +4,10 @@
 #include <string>
 #include <string_view>
 
-#include "capi/ReturnedText.h"
 #include "capi/arguments.h"
 #include "capi/documentHandle.h"
 #include "capi/guarded.h"
+#include "capi/guardedText.h"
 #include "capi/widths.h"
 #include "quorvane/compose/Picture.h"
 #include "quorvane/compose/Text.h"
@@ -129,7 +129,7 @@ quorvane_status quorvane_cell_set_style(quorvane_document* document, size_t row,
 }
 
 quorvane_status quorvane_cell_set_align(quorvane_document* document, size_t row, size_t cell,
-                                        quorvane_align align) {
+                                        int align) {
     return onCell(document, row, cell,
                   [&](const Cell& element) { element.setAlign(alignArgument(align)); });
 }
@@ -223,10 +223,8 @@ quorvane_status quorvane_paragraph_add_rtf(quorvane_document* document, size_t r
 
 quorvane_status quorvane_paragraph_rtf(quorvane_document* document, size_t row, size_t cell,
                                        size_t paragraph, char** rtf, size_t* length) {
-    return onParagraph(document, row, cell, paragraph, [&](const Paragraph& element) {
-        ReturnedText result(rtf, length);
-        result.set(element.rtf());
-    });
+    return guardedText(document, rtf, length,
+                       [&] { return document->document[row][cell][paragraph].rtf(); });
 }
 
 quorvane_status quorvane_paragraph_set_style(quorvane_document* document, size_t row, size_t cell,
@@ -244,7 +242,7 @@ quorvane_status quorvane_paragraph_set_color(quorvane_document* document, size_t
 }
 
 quorvane_status quorvane_paragraph_set_align(quorvane_document* document, size_t row, size_t cell,
-                                             size_t paragraph, quorvane_align align) {
+                                             size_t paragraph, int align) {
     return onParagraph(document, row, cell, paragraph,
                        [&](const Paragraph& element) { element.setAlign(alignArgument(align)); });
 }

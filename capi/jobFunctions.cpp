@@ -5,10 +5,10 @@
 
 #include "capi/HandleError.h"
 #include "capi/Job.h"
-#include "capi/ReturnedText.h"
 #include "capi/arguments.h"
 #include "capi/documentOutput.h"
 #include "capi/guarded.h"
+#include "capi/guardedText.h"
 
 struct quorvane_job {
     quorvane::capi::Job job{};
@@ -20,7 +20,7 @@ namespace {
 using namespace quorvane;
 using namespace quorvane::capi;
 
-std::optional<CheckedLanguage> languageArgument(quorvane_language language) {
+std::optional<CheckedLanguage> languageArgument(int language) {
     switch (enumArgument(language, QUORVANE_RTF, "language")) {
         case QUORVANE_DESCRIPTION:
             return CheckedLanguage::Description;
@@ -33,7 +33,7 @@ std::optional<CheckedLanguage> languageArgument(quorvane_language language) {
     }
 }
 
-EncodingChoice encodingArgument(quorvane_encoding encoding) {
+EncodingChoice encodingArgument(int encoding) {
     switch (enumArgument(encoding, QUORVANE_ANY_ENCODING, "encoding")) {
         case QUORVANE_WINDOWS_1252:
             return EncodingChoice::Windows1252;
@@ -44,7 +44,7 @@ EncodingChoice encodingArgument(quorvane_encoding encoding) {
     }
 }
 
-NameForm namesArgument(quorvane_names names) {
+NameForm namesArgument(int names) {
     switch (enumArgument(names, QUORVANE_NAMES_SHORT, "names")) {
         case QUORVANE_NAMES_LONG:
             return NameForm::Long;
@@ -100,7 +100,7 @@ quorvane_status quorvane_job_set_locale(quorvane_job* job, const char* name, siz
     return guarded(job, [&] { job->job.setLocale(textArgument(name, length)); });
 }
 
-quorvane_status quorvane_job_set_encoding(quorvane_job* job, quorvane_encoding encoding) {
+quorvane_status quorvane_job_set_encoding(quorvane_job* job, int encoding) {
     return guarded(job, [&] { job->job.setEncoding(encodingArgument(encoding)); });
 }
 
@@ -118,10 +118,8 @@ quorvane_status quorvane_job_enable(quorvane_job* job, const char* identifier, s
 
 quorvane_status quorvane_job_render(quorvane_job* job, const char* description, size_t length,
                                     char** rtf, size_t* rtf_length) {
-    return guarded(job, [&] {
-        ReturnedText result(rtf, rtf_length);
-        result.set(job->job.render(textArgument(description, length)).rtf());
-    });
+    return guardedText(job, rtf, rtf_length,
+                       [&] { return job->job.render(textArgument(description, length)).rtf(); });
 }
 
 quorvane_status quorvane_job_render_to(quorvane_job* job, const char* description, size_t length,
@@ -142,18 +140,17 @@ quorvane_status quorvane_job_render_file(quorvane_job* job, const char* descript
 }
 
 quorvane_status quorvane_job_check(quorvane_job* job, const char* text, size_t length,
-                                   quorvane_language language) {
+                                   int language) {
     return guarded(job,
                    [&] { job->job.check(textArgument(text, length), languageArgument(language)); });
 }
 
 quorvane_status quorvane_job_format(quorvane_job* job, const char* text, size_t length,
-                                    quorvane_language language, quorvane_names names,
-                                    char** formatted, size_t* formatted_length) {
-    return guarded(job, [&] {
-        ReturnedText result(formatted, formatted_length);
-        result.set(job->job.format(textArgument(text, length), languageArgument(language),
-                                   namesArgument(names)));
+                                    int language, int names, char** formatted,
+                                    size_t* formatted_length) {
+    return guardedText(job, formatted, formatted_length, [&] {
+        return job->job.format(textArgument(text, length), languageArgument(language),
+                               namesArgument(names));
     });
 }
 

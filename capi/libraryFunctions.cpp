@@ -35,7 +35,7 @@ int quorvane_has_feature(const char* name, size_t length) {
                                                                                              : 0;
 }
 
-const char* quorvane_status_name(quorvane_status status) {
+const char* quorvane_status_name(int status) {
     const auto number = static_cast<std::size_t>(status);
     return number < std::size(statusNames) ? statusNames[number] : "unknown";
 }

@@ -6,10 +6,10 @@
 #include <utility>
 #include <vector>
 
-#include "capi/ReturnedText.h"
 #include "capi/arguments.h"
 #include "capi/callError.h"
 #include "capi/guarded.h"
+#include "capi/guardedText.h"
 #include "capi/rowTexts.h"
 #include "capi/tableHandle.h"
 #include "capi/writeCallback.h"
@@ -42,7 +42,7 @@ bool choiceOf(std::string_view value) {
 }
 
 /// The setting of an option; null for the one that is not a text.
-std::string* settingOf(TableSetup& setup, quorvane_table_option option) {
+std::string* settingOf(TableSetup& setup, int option) {
     switch (option) {
         case QUORVANE_TABLE_TITLE:
             return &setup.title;
@@ -70,8 +70,9 @@ std::string* settingOf(TableSetup& setup, quorvane_table_option option) {
             return &setup.footer.right;
         case QUORVANE_TABLE_HEADING:
             return nullptr;
+        default:
+            throw CallError("The argument option is not one of its constants.");
     }
-    throw CallError("The option is not one of its constants.");
 }
 
 /// Runs what writes bytes. After any error but that of a wrong row the document is not whole.
@@ -124,7 +125,7 @@ const quorvane_error* quorvane_table_error(const quorvane_table* table) {
 
 quorvane_status quorvane_table_add_column(quorvane_table* table, const char* heading,
                                           size_t heading_length, const char* width,
-                                          size_t width_length, quorvane_align align) {
+                                          size_t width_length, int align) {
     return guarded(table, [&] {
         requireUnbegun(*table);
         table->setup.columns.push_back(
@@ -134,8 +135,8 @@ quorvane_status quorvane_table_add_column(quorvane_table* table, const char* hea
     });
 }
 
-quorvane_status quorvane_table_set(quorvane_table* table, quorvane_table_option option,
-                                   const char* value, size_t length) {
+quorvane_status quorvane_table_set(quorvane_table* table, int option, const char* value,
+                                   size_t length) {
     return guarded(table, [&] {
         requireUnbegun(*table);
         const std::string_view text = textArgument(value, length);
@@ -225,12 +226,14 @@ quorvane_status quorvane_table_finish(quorvane_table* table) {
 }
 
 quorvane_status quorvane_table_take(quorvane_table* table, char** rtf, size_t* length) {
-    return guarded(table, [&] {
-        ReturnedText result(rtf, length);
+    const quorvane_status status = guardedText(table, rtf, length, [&]() -> std::string_view {
         if (!table->memory || !table->isFinished) {
             throw CallError("There is no finished table in memory to take.");
         }
-        result.set(*table->memory);
-        table->memory.reset();
+        return *table->memory;
     });
+    if (status == QUORVANE_OK) {
+        table->memory.reset();
+    }
+    return status;
 }

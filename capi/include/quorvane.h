@@ -13,12 +13,15 @@
  *
  * Status and error. A function that can fail returns a `quorvane_status`. What went wrong is in the
  * error of the handle, such as `quorvane_job_error`. A call that fails changes nothing else, unless
- * it says so, and sets what it would have returned to null or 0. A null handle and a null pointer
- * where a result goes are `QUORVANE_WRONG_CALL`.
+ * it says so; a text that it would have returned is null. A null handle and a null pointer where a
+ * result goes are `QUORVANE_WRONG_CALL`.
  *
  * Texts. A text is a pointer and a length in bytes, or `QUORVANE_NUL_TERMINATED` for the length;
  * `QUORVANE_TEXT("…")` writes both. Null is an empty text. Texts are UTF-8 and are copied. What a
  * document shows is literal: control words, braces and any other character show themselves.
+ *
+ * Constants. Where a function takes an `int` that is named after an enumeration, such as `align`,
+ * it takes one of its constants; any other number is `QUORVANE_WRONG_CALL`.
  *
  * Memory. What a function returns as `char**` is yours: pass it to `quorvane_free`. What it returns
  * as a pointer to const belongs to the handle. A zero byte, which does not count, follows every
@@ -163,7 +166,7 @@ QUORVANE_API const char* quorvane_version(void);
 QUORVANE_API int quorvane_has_feature(const char* name, size_t length);
 
 /** Returns the name of a status, such as "wrong content"; never null. */
-QUORVANE_API const char* quorvane_status_name(quorvane_status status);
+QUORVANE_API const char* quorvane_status_name(int status);
 
 /** Releases what a function returned as `char**`. Does nothing with null. */
 QUORVANE_API void quorvane_free(void* memory);
@@ -245,8 +248,7 @@ QUORVANE_API quorvane_status quorvane_job_set_data(quorvane_job* job, const char
 QUORVANE_API quorvane_status quorvane_job_set_locale(quorvane_job* job, const char* name,
                                                      size_t length);
 /** Sets the encoding of descriptions and stylesheets from then on; `QUORVANE_UTF8` by default. */
-QUORVANE_API quorvane_status quorvane_job_set_encoding(quorvane_job* job,
-                                                       quorvane_encoding encoding);
+QUORVANE_API quorvane_status quorvane_job_set_encoding(quorvane_job* job, int encoding);
 /**
  * With a number other than 0, descriptions are checked before they are rendered, as by
  * `quorvane_job_check`: their warnings are among the diagnostics, and one with errors is not
@@ -283,14 +285,14 @@ QUORVANE_API quorvane_status quorvane_job_render_file(quorvane_job* job, const c
                                                       size_t path_length);
 /** Checks a text. It returns `QUORVANE_OK` whatever is wrong with it: see the diagnostics. */
 QUORVANE_API quorvane_status quorvane_job_check(quorvane_job* job, const char* text, size_t length,
-                                                quorvane_language language);
+                                                int language);
 /**
  * Returns a description or a stylesheet in its canonical form, in the encoding that it has.
  * `QUORVANE_WRONG_CONTENT` for RTF, and for bytes that are not a text of that encoding.
  */
 QUORVANE_API quorvane_status quorvane_job_format(quorvane_job* job, const char* text, size_t length,
-                                                 quorvane_language language, quorvane_names names,
-                                                 char** formatted, size_t* formatted_length);
+                                                 int language, int names, char** formatted,
+                                                 size_t* formatted_length);
 
 /** Returns how many diagnostics the last call had that loads, renders or checks a text. */
 QUORVANE_API size_t quorvane_job_diagnostic_count(const quorvane_job* job);
@@ -371,9 +373,9 @@ QUORVANE_API const quorvane_error* quorvane_table_error(const quorvane_table* ta
  */
 QUORVANE_API quorvane_status quorvane_table_add_column(quorvane_table* table, const char* heading,
                                                        size_t heading_length, const char* width,
-                                                       size_t width_length, quorvane_align align);
+                                                       size_t width_length, int align);
 /** Sets an option. `QUORVANE_WRONG_CALL` after the table was begun. */
-QUORVANE_API quorvane_status quorvane_table_set(quorvane_table* table, quorvane_table_option option,
+QUORVANE_API quorvane_status quorvane_table_set(quorvane_table* table, int option,
                                                 const char* value, size_t length);
 
 /**
@@ -509,7 +511,7 @@ QUORVANE_API quorvane_status quorvane_document_set_footer(quorvane_document* doc
                                                           const char* right, size_t right_length);
 /** Sets how the rows of the heading are written. */
 QUORVANE_API quorvane_status quorvane_document_set_heading_form(quorvane_document* document,
-                                                                quorvane_heading_form form);
+                                                                int form);
 /**
  * Sets the stylesheet, in either language, in place of the one that is there.
  * `QUORVANE_WRONG_CONTENT` for a wrong one; the one that is there stays then.
@@ -596,7 +598,7 @@ QUORVANE_API quorvane_status quorvane_cell_set_style(quorvane_document* document
                                                      size_t cell, const char* name, size_t length);
 /** Sets the alignment of all paragraphs. */
 QUORVANE_API quorvane_status quorvane_cell_set_align(quorvane_document* document, size_t row,
-                                                     size_t cell, quorvane_align align);
+                                                     size_t cell, int align);
 /** Sets the background; "none" leaves it to the style. On a dark color, texts become white. */
 QUORVANE_API quorvane_status quorvane_cell_set_background(quorvane_document* document, size_t row,
                                                           size_t cell, const char* color,
@@ -663,8 +665,7 @@ QUORVANE_API quorvane_status quorvane_paragraph_set_color(quorvane_document* doc
                                                           const char* color, size_t length);
 /** Sets the alignment. That of the cell, if it has one, comes before it. */
 QUORVANE_API quorvane_status quorvane_paragraph_set_align(quorvane_document* document, size_t row,
-                                                          size_t cell, size_t paragraph,
-                                                          quorvane_align align);
+                                                          size_t cell, size_t paragraph, int align);
 /** Makes a paragraph a marked field; see `quorvane_cell_set_marked_field`. */
 QUORVANE_API quorvane_status quorvane_paragraph_set_marked_field(quorvane_document* document,
                                                                  size_t row, size_t cell,

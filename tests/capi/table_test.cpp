@@ -1,0 +1,267 @@
+#include <gtest/gtest.h>
+#include <quorvane.h>
+
+#include <cstdint>
+#include <filesystem>
+#include <sstream>
+#include <string>
+
+#include "quorvane/compose/TableWriter.h"
+#include "tests/capi/support.h"
+
+namespace quorvane::capi {
+namespace {
+
+TableHandle tableOfTwo() {
+    TableHandle table = newTable();
+    quorvane_table_add_column(table.get(), QUORVANE_TEXT("Article"), nullptr, 0,
+                              QUORVANE_ALIGN_DEFAULT);
+    quorvane_table_add_column(table.get(), QUORVANE_TEXT("Price"), nullptr, 0,
+                              QUORVANE_ALIGN_RIGHT);
+    return table;
+}
+
+std::string taken(const TableHandle& table) {
+    return textOf([&](char** bytes, size_t* length) {
+        return quorvane_table_take(table.get(), bytes, length);
+    });
+}
+
+std::string errorOf(const TableHandle& table) {
+    return errorText(quorvane_table_error(table.get()));
+}
+
+quorvane_status addRow(const TableHandle& table, const char* first, const char* second) {
+    const char* const texts[] = {first, second};
+    return quorvane_table_add_row(table.get(), texts, nullptr, 2);
+}
+
+/// The same table by the class of the C++ library.
+template <class Add>
+std::string written(const TableSetup& setup, Add add) {
+    std::ostringstream stream;
+    TableWriter writer(setup, stream);
+    add(writer);
+    writer.finish();
+    return stream.str();
+}
+
+const TableSetup twoColumns{.columns = {{"Article"}, {.heading = "Price", .align = eRight}}};
+
+TEST(Table, WritesTheBytesOfTheCppLibrary) {
+    const TableHandle table = tableOfTwo();
+    EXPECT_EQ(quorvane_table_begin(table.get()), QUORVANE_OK);
+    const char* const texts[] = {"Vase {blue}", "12.50 euros"};
+    const size_t lengths[] = {QUORVANE_NUL_TERMINATED, 5};
+    EXPECT_EQ(quorvane_table_add_group(table.get(), QUORVANE_TEXT("Glass")), QUORVANE_OK);
+    EXPECT_EQ(quorvane_table_add_row(table.get(), texts, lengths, 2), QUORVANE_OK);
+    EXPECT_EQ(quorvane_table_add_total(table.get(), texts, lengths, 1), QUORVANE_OK);
+    EXPECT_EQ(quorvane_table_finish(table.get()), QUORVANE_OK);
+    EXPECT_EQ(taken(table), written(twoColumns, [](TableWriter& writer) {
+                  writer.addGroup("Glass");
+                  writer.addRow({{"Vase {blue}", "12.50"}});
+                  writer.addTotal({{"Vase {blue}"}});
+              }));
+}
+
+TEST(Table, TakesEveryOption) {
+    const TableHandle table = newTable();
+    quorvane_table_add_column(table.get(), QUORVANE_TEXT("A"), QUORVANE_TEXT("3cm"),
+                              QUORVANE_ALIGN_CENTER);
+    const auto set = [&](quorvane_table_option option, const char* value) {
+        EXPECT_EQ(quorvane_table_set(table.get(), option, QUORVANE_TEXT(value)), QUORVANE_OK);
+    };
+    set(QUORVANE_TABLE_TITLE, "Prices");
+    set(QUORVANE_TABLE_HEADING, "no");
+    set(QUORVANE_TABLE_PAGE, "a5-landscape");
+    set(QUORVANE_TABLE_MARGIN, "1cm");
+    set(QUORVANE_TABLE_STRIPE, "silver");
+    set(QUORVANE_TABLE_BORDER, "thin");
+    set(QUORVANE_TABLE_STYLESHEET, std::string(standardTableStyles()).c_str());
+    set(QUORVANE_TABLE_HEADER_LEFT, "hl");
+    set(QUORVANE_TABLE_HEADER_CENTER, "hc");
+    set(QUORVANE_TABLE_HEADER_RIGHT, "hr");
+    set(QUORVANE_TABLE_FOOTER_LEFT, "fl");
+    set(QUORVANE_TABLE_FOOTER_CENTER, "fc");
+    set(QUORVANE_TABLE_FOOTER_RIGHT, "fr");
+    quorvane_table_begin(table.get());
+    quorvane_table_finish(table.get());
+    const TableSetup setup{.columns = {{"A", "3cm", eCentered}},
+                           .title = "Prices",
+                           .hasHeading = false,
+                           .page = "a5-landscape",
+                           .margin = "1cm",
+                           .stripe = "silver",
+                           .border = "thin",
+                           .header = {"hl", "hc", "hr"},
+                           .footer = {"fl", "fc", "fr"},
+                           .styleSheet = std::string(standardTableStyles())};
+    EXPECT_EQ(taken(table), written(setup, [](TableWriter&) {}));
+}
+
+TEST(Table, AddsManyRowsInOneCall) {
+    const TableHandle table = tableOfTwo();
+    quorvane_table_begin(table.get());
+    const std::string texts("a\0b\0\0d\0", 7);
+    size_t added = 9;
+    EXPECT_EQ(quorvane_table_add_rows(table.get(), texts.data(), texts.size(), 2, 2, &added),
+              QUORVANE_OK);
+    EXPECT_EQ(added, 2U);
+    EXPECT_EQ(quorvane_table_add_rows(table.get(), nullptr, 0, 2, 0, nullptr), QUORVANE_OK);
+    quorvane_table_finish(table.get());
+    EXPECT_EQ(taken(table), written(twoColumns, [](TableWriter& writer) {
+                  writer.addRow({{"a", "b"}});
+                  writer.addRow({{"", "d"}});
+              }));
+}
+
+TEST(Table, AddsNoRowOfTextsThatDoNotFit) {
+    const TableHandle table = tableOfTwo();
+    quorvane_table_begin(table.get());
+    size_t added = 9;
+    const auto add = [&](const std::string& texts, size_t cells, size_t rows) {
+        return quorvane_table_add_rows(table.get(), texts.data(), texts.size(), cells, rows,
+                                       &added);
+    };
+    EXPECT_EQ(add(std::string("a\0b\0c\0", 6), 2, 2), QUORVANE_WRONG_CALL);
+    EXPECT_EQ(errorOf(table),
+              "wrong-call: There are 3 texts that end with a zero byte, and not 2 rows of 2.");
+    EXPECT_EQ(add(std::string("a\0b\0c", 5), 2, 1), QUORVANE_WRONG_CALL);
+    EXPECT_EQ(add("", 0, SIZE_MAX), QUORVANE_WRONG_CALL);
+    EXPECT_EQ(add(std::string("a\0b\0", 4), 2, SIZE_MAX), QUORVANE_WRONG_CALL);
+    EXPECT_EQ(added, 0U);
+    quorvane_table_finish(table.get());
+    EXPECT_EQ(taken(table), written(twoColumns, [](TableWriter&) {}));
+}
+
+TEST(Table, LeavesOutAWrongRowAlone) {
+    const TableHandle table = tableOfTwo();
+    quorvane_table_begin(table.get());
+    EXPECT_EQ(addRow(table, "a\x01", "b"), QUORVANE_WRONG_CONTENT);
+    EXPECT_STREQ(quorvane_table_error(table.get())->identifier, "wrong-value");
+    EXPECT_EQ(addRow(table, "caf\xE9", "b"), QUORVANE_WRONG_CONTENT);
+    const char* const three[] = {"a", "b", "c"};
+    EXPECT_EQ(quorvane_table_add_row(table.get(), three, nullptr, 3), QUORVANE_WRONG_CONTENT);
+    const std::string texts("a\0b\0c\0\x01\0", 8);
+    size_t added = 9;
+    EXPECT_EQ(quorvane_table_add_rows(table.get(), texts.data(), texts.size(), 2, 2, &added),
+              QUORVANE_WRONG_CONTENT);
+    EXPECT_EQ(added, 1U);
+    EXPECT_EQ(addRow(table, "e", "f"), QUORVANE_OK);
+    quorvane_table_finish(table.get());
+    EXPECT_EQ(taken(table), written(twoColumns, [](TableWriter& writer) {
+                  writer.addRow({{"a", "b"}});
+                  writer.addRow({{"e", "f"}});
+              }));
+}
+
+TEST(Table, BeginsAgainAfterOptionsThatDoNotFit) {
+    const TableHandle table = tableOfTwo();
+    quorvane_table_set(table.get(), QUORVANE_TABLE_PAGE, QUORVANE_TEXT("a44"));
+    EXPECT_EQ(quorvane_table_begin(table.get()), QUORVANE_WRONG_CONTENT);
+    const std::string path = ::testing::TempDir() + "/quorvane-unbegun.rtf";
+    EXPECT_EQ(quorvane_table_begin_file(table.get(), path.data(), path.size()),
+              QUORVANE_WRONG_CONTENT);
+    EXPECT_FALSE(std::filesystem::exists(path));
+    quorvane_table_set(table.get(), QUORVANE_TABLE_PAGE, QUORVANE_TEXT("a4"));
+    EXPECT_EQ(quorvane_table_begin(table.get()), QUORVANE_OK);
+}
+
+TEST(Table, WritesThroughACallback) {
+    const TableHandle table = tableOfTwo();
+    Received received;
+    EXPECT_EQ(quorvane_table_begin_to(table.get(), Received::write, &received), QUORVANE_OK);
+    addRow(table, "a", "b");
+    EXPECT_EQ(quorvane_table_finish(table.get()), QUORVANE_OK);
+    EXPECT_EQ(received.bytes, written(twoColumns, [](TableWriter& writer) {
+                  writer.addRow({{"a", "b"}});
+              }));
+    EXPECT_EQ(taken(table), "<none>");
+}
+
+TEST(Table, StopsWhenTheCallbackSaysSo) {
+    const TableHandle table = tableOfTwo();
+    Received received;
+    received.result = 1;
+    quorvane_table_begin_to(table.get(), Received::write, &received);
+    EXPECT_EQ(quorvane_table_finish(table.get()), QUORVANE_STOPPED);
+    EXPECT_EQ(received.calls, 1);
+    EXPECT_EQ(quorvane_table_finish(table.get()), QUORVANE_WRONG_CALL);
+    EXPECT_EQ(received.calls, 1);
+}
+
+TEST(Table, AppearsAsAFileWhenItIsFinished) {
+    const std::string path = ::testing::TempDir() + "/quorvane-finished.rtf";
+    TableHandle table = tableOfTwo();
+    EXPECT_EQ(quorvane_table_begin_file(table.get(), path.data(), path.size()), QUORVANE_OK);
+    addRow(table, "a", "b");
+    EXPECT_FALSE(std::filesystem::exists(path));
+    EXPECT_EQ(quorvane_table_finish(table.get()), QUORVANE_OK);
+    EXPECT_TRUE(std::filesystem::exists(path));
+    std::filesystem::remove(path);
+}
+
+TEST(Table, LeavesNoFileIfItIsNotFinished) {
+    const std::string path = ::testing::TempDir() + "/quorvane-unfinished.rtf";
+    TableHandle table = tableOfTwo();
+    quorvane_table_begin_file(table.get(), path.data(), path.size());
+    addRow(table, "a", "b");
+    table.reset();
+    EXPECT_FALSE(std::filesystem::exists(path));
+}
+
+TEST(Table, ReportsAFileThatCannotBeWritten) {
+    const TableHandle table = tableOfTwo();
+    EXPECT_EQ(quorvane_table_begin_file(table.get(), QUORVANE_TEXT("/missing/folder/a.rtf")),
+              QUORVANE_FILE_ERROR);
+    EXPECT_EQ(errorOf(table), "/missing/folder/a.rtf: unwritable-file: No such file or directory");
+    EXPECT_EQ(quorvane_table_begin(table.get()), QUORVANE_OK);
+}
+
+TEST(Table, ReportsAFullDisk) {
+    if (!std::filesystem::exists("/dev/full")) {
+        GTEST_SKIP() << "this system has no /dev/full";
+    }
+    const TableHandle table = tableOfTwo();
+    EXPECT_EQ(quorvane_table_begin_file(table.get(), QUORVANE_TEXT("/dev/full")), QUORVANE_OK);
+    EXPECT_EQ(quorvane_table_finish(table.get()), QUORVANE_FILE_ERROR);
+    EXPECT_EQ(errorOf(table), "/dev/full: unwritable-file: No space left on device");
+    EXPECT_EQ(addRow(table, "a", "b"), QUORVANE_WRONG_CALL);
+}
+
+TEST(Table, KeepsTheOrderOfItsCalls) {
+    const TableHandle table = tableOfTwo();
+    EXPECT_EQ(addRow(table, "a", "b"), QUORVANE_WRONG_CALL);
+    EXPECT_EQ(errorOf(table), "wrong-call: Begin the table first.");
+    EXPECT_EQ(quorvane_table_add_group(table.get(), QUORVANE_TEXT("a")), QUORVANE_WRONG_CALL);
+    EXPECT_EQ(quorvane_table_add_total(table.get(), nullptr, nullptr, 0), QUORVANE_WRONG_CALL);
+    EXPECT_EQ(quorvane_table_add_rows(table.get(), nullptr, 0, 2, 0, nullptr), QUORVANE_WRONG_CALL);
+    EXPECT_EQ(quorvane_table_finish(table.get()), QUORVANE_WRONG_CALL);
+    quorvane_table_begin(table.get());
+    EXPECT_EQ(quorvane_table_begin(table.get()), QUORVANE_WRONG_CALL);
+    EXPECT_EQ(quorvane_table_set(table.get(), QUORVANE_TABLE_TITLE, QUORVANE_TEXT("late")),
+              QUORVANE_WRONG_CALL);
+    EXPECT_EQ(taken(table), "<none>");
+    quorvane_table_finish(table.get());
+    EXPECT_EQ(addRow(table, "a", "b"), QUORVANE_WRONG_CALL);
+    EXPECT_NE(taken(table), "<none>");
+    EXPECT_EQ(taken(table), "<none>");
+}
+
+TEST(Table, RefusesWrongArguments) {
+    const TableHandle table = tableOfTwo();
+    EXPECT_EQ(quorvane_table_add_column(table.get(), nullptr, 0, nullptr, 0, 5),
+              QUORVANE_WRONG_CALL);
+    EXPECT_EQ(quorvane_table_set(table.get(), 13, QUORVANE_TEXT("a")), QUORVANE_WRONG_CALL);
+    EXPECT_EQ(quorvane_table_set(table.get(), QUORVANE_TABLE_HEADING, QUORVANE_TEXT("perhaps")),
+              QUORVANE_WRONG_CALL);
+    EXPECT_EQ(quorvane_table_begin_to(table.get(), nullptr, nullptr), QUORVANE_WRONG_CALL);
+    quorvane_table_begin(table.get());
+    EXPECT_EQ(quorvane_table_add_row(table.get(), nullptr, nullptr, 1), QUORVANE_WRONG_CALL);
+    quorvane_table_finish(table.get());
+    EXPECT_EQ(quorvane_table_take(table.get(), nullptr, nullptr), QUORVANE_WRONG_CALL);
+    EXPECT_EQ(quorvane_table_new(nullptr), QUORVANE_WRONG_CALL);
+}
+
+}  // namespace
+}  // namespace quorvane::capi
