@@ -9,6 +9,8 @@ from typing import Any, Iterable, Iterator, List, Sequence, Tuple
 # Rows that go to the library in one call. A call costs about as much as a row.
 ROWS_IN_CALL = 500
 
+ONLY_TEXTS = {str}
+
 
 def is_missing(value: Any) -> bool:
     """True for None and for what data frames put in the place of missing values."""
@@ -46,11 +48,16 @@ def joined(rows: Sequence[Sequence[str]]) -> bytes:
     return ("\0".join(chain.from_iterable(rows)) + "\0").encode()
 
 
-def batches(rows: Iterable[Iterable[Any]]) -> Iterator[List[List[str]]]:
-    """The texts of rows, as many rows at a time as a call takes."""
+def batches(rows: Iterable[Iterable[Any]]) -> Iterator[List[Any]]:
+    """Rows, as many at a time as a call takes."""
     remaining = iter(rows)
-    while True:
-        batch = [texts_of_row(row) for row in islice(remaining, ROWS_IN_CALL)]
-        if not batch:
-            return
+    batch = list(islice(remaining, ROWS_IN_CALL))
+    while batch:
         yield batch
+        batch = list(islice(remaining, ROWS_IN_CALL))
+
+
+def are_texts(rows: Iterable[Any], count: int) -> bool:
+    """True if all rows are sequences of so many texts, which need no conversion."""
+    return all((type(row) is list or type(row) is tuple) and len(row) == count
+               and set(map(type, row)) == ONLY_TEXTS for row in rows)

@@ -108,7 +108,8 @@ class Document(DocumentHandle):
 
     def add_rows(self, rows: Iterable[Iterable[Any]], style: str = "") -> None:
         """Adds rows, many in one call. An error leaves the rows before it."""
-        for batch in batches(rows):
+        for values in batches(rows):
+            batch = [texts_of_row(row) for row in values]
             count = len(batch[0])
             texts = joined(batch)
             if any(len(row) != count for row in batch) or texts.count(0) != count * len(batch):

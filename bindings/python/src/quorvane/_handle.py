@@ -5,6 +5,7 @@ from __future__ import annotations
 import os
 import threading
 from ctypes import byref, c_size_t, c_void_p
+from threading import get_ident
 from typing import Any, Callable, List, Optional, Sequence, Tuple, Type, Union
 
 from ._errors import Diagnostic, Error, FileError
@@ -59,11 +60,13 @@ class Handle:
                 self._free(pointer)
 
     def _call(self, function: Callable[..., int], *arguments: Any) -> None:
-        self._require_outside()
+        thread = get_ident()
+        if self._caller == thread:
+            self._require_outside()
         with self._lock:
             if self._pointer is None:
                 raise Error(f"The {self._KIND} is closed.")
-            self._caller = threading.get_ident()
+            self._caller = thread
             try:
                 status = function(self._pointer, *arguments)
             finally:
@@ -75,7 +78,7 @@ class Handle:
 
     def _require_outside(self) -> None:
         """A file object, and what else a call calls, cannot call again: it would wait forever."""
-        if self._caller is not None and self._caller == threading.get_ident():
+        if self._caller == get_ident():
             raise Error(f"The {self._KIND} cannot be used while it calls.")
 
     def _bytes(self, function: Callable[..., int], *arguments: Any) -> bytes:

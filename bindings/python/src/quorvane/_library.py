@@ -1,6 +1,6 @@
 """The C library that this package carries: its functions, structures and constants.
 
-The header quorvane.h explains them.
+docs/c.md and the header quorvane.h explain them.
 """
 
 from __future__ import annotations

@@ -5,7 +5,7 @@ from __future__ import annotations
 from ctypes import byref, c_size_t
 from typing import Any, Callable, Iterable, List, Optional, Sequence, Tuple
 
-from ._cells import batches, cell_arguments, joined, texts_of_row
+from ._cells import are_texts, batches, cell_arguments, joined, texts_of_row
 from ._columns import ALIGNMENTS, AnyColumn, column_of
 from ._errors import Error, FileError
 from ._handle import Handle, argument, path_argument
@@ -126,13 +126,16 @@ class TableWriter(Handle):
     def _add(self, function: Callable[..., int], texts: List[str]) -> None:
         self._call(function, *cell_arguments(texts))
 
-    def _add_batch(self, batch: List[List[str]]) -> None:
+    def _add_batch(self, rows: List[Any]) -> None:
         count = len(self._columns)
-        if any(len(row) > count for row in batch):
-            self._add_singly(batch)
-            return
-        for row in batch:
-            row.extend([""] * (count - len(row)))
+        batch: List[List[str]] = rows
+        if not are_texts(rows, count):
+            batch = [texts_of_row(row) for row in rows]
+            if any(len(row) > count for row in batch):
+                self._add_singly(batch)
+                return
+            for row in batch:
+                row.extend([""] * (count - len(row)))
         texts = joined(batch)
         if texts.count(0) != count * len(batch):
             self._add_singly(batch)
