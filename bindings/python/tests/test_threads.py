@@ -1,0 +1,76 @@
+"""Several threads."""
+
+import threading
+from concurrent.futures import ThreadPoolExecutor
+
+import quorvane
+
+ORDER = "; quorvane 2\n(doc\n(r\n(c\n(p\n(pt=Order {{number}})\np)\nc)\nr)\ndoc)\n"
+
+
+def holds_its_order(rtf: bytes, number: int) -> bool:
+    return f" Order {number}\\cell".encode() in rtf
+
+
+def test_threads_render_side_by_side() -> None:
+    def render(number: int) -> bool:
+        return holds_its_order(quorvane.render(ORDER, data={"number": number}), number)
+
+    with ThreadPoolExecutor(4) as pool:
+        assert all(pool.map(render, range(400)))
+
+
+def test_threads_share_a_job() -> None:
+    job = quorvane.Job()
+
+    def render(number: int) -> bool:
+        return holds_its_order(job.render(ORDER, data={"number": number}), number)
+
+    with ThreadPoolExecutor(4) as pool:
+        assert all(pool.map(render, range(400)))
+
+
+def test_threads_add_rows_to_one_document() -> None:
+    doc = quorvane.Document()
+    with ThreadPoolExecutor(4) as pool:
+        list(pool.map(lambda number: doc.add_row([number]), range(1000)))
+    assert sorted(int(row.cells[0].paragraphs[0].rtf) for row in doc.rows) == list(range(1000))
+
+
+def test_other_threads_run_while_a_document_is_rendered() -> None:
+    """A file object waits for another thread, which could not run if the GIL were held."""
+    reached, went_on = threading.Event(), threading.Event()
+
+    class Waiting:
+        def write(self, data: bytes) -> int:
+            reached.set()
+            assert went_on.wait(60)
+            return len(data)
+
+    def other() -> None:
+        assert reached.wait(60)
+        assert quorvane.render(ORDER, data={"number": 1})
+        went_on.set()
+
+    thread = threading.Thread(target=other)
+    thread.start()
+    quorvane.render_to(Waiting(), ORDER, data={"number": 2})
+    thread.join()
+
+
+def test_a_thread_closes_what_another_one_uses() -> None:
+    doc = quorvane.Document()
+    errors = []
+
+    def add_rows() -> None:
+        try:
+            while True:
+                doc.add_row(["Vase"])
+        except quorvane.Error as error:
+            errors.append(str(error))
+
+    thread = threading.Thread(target=add_rows)
+    thread.start()
+    doc.close()
+    thread.join()
+    assert errors == ["The document is closed."]
