@@ -15,7 +15,7 @@
 #include "cli/diagnosticText.h"
 #include "cli/errorText.h"
 #include "cli/fileFailure.h"
-#include "cli/partialsBeside.h"
+#include "data/partialsBeside.h"
 #include "cli/process.h"
 #include "cli/utf8Path.h"
 #include "data/Template.h"
@@ -59,7 +59,7 @@ std::string schemaOf(const std::string& path, const std::string& shownName, std:
     std::vector<data::TemplateError> errors;
     const data::Template source =
         data::compileTemplate(decodedText(std::move(bytes), encoding), encoding,
-                              partialsBeside(path, systemPlatform()), errors);
+                              data::partialsBeside(path, systemPlatform()), errors);
     if (!errors.empty()) {
         const TemplateFiles files(source, path, shownName);
         for (const auto& [index, diagnostic] : data::templateDiagnostics(source, errors)) {

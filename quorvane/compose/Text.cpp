@@ -47,11 +47,6 @@ Text Text::within(char kind, std::string_view name, const Text& text) {
     return whole;
 }
 
-Text operator+(Text first, const Text& second) {
-    first += second;
-    return first;
-}
-
 Text rtf(std::string_view raw) {
     Text text;
     appendName(textMarks::raw, raw, text.marked_);

@@ -26,6 +26,11 @@ public:
         marked_ += other.marked_;
         return *this;
     }
+    /// Returns both texts, one after the other.
+    friend Text operator+(Text first, const Text& second) {
+        first += second;
+        return first;
+    }
 
 private:
     friend class TextView;
@@ -41,9 +46,6 @@ private:
     // The literal parts, with marks between them that no text in UTF-8 has; see `textMarks.h`.
     std::string marked_;
 };
-
-/// Returns both texts, one after the other.
-Text operator+(Text first, const Text& second);
 
 /// Returns a text that goes into the document as it is, with control words: `rtf("\\b\\fs28 ")`.
 /// It may have words that format characters and paragraphs, words for characters, and fields, as
