@@ -127,6 +127,12 @@ void TableJob::writeTable() {
     if (rows_ > 0 || part_ == 1) {
         endPart();
     }
+    if (groups_.areScattered()) {
+        report_(refusal(inputName(),
+                        "Some groups begin several times, since their rows do not "
+                        "follow each other. Sort the rows: --sort \"" +
+                            *options_.groupBy + "\""));
+    }
     if (leftOut_ > 0) {
         report_(refusal(
             inputName(),
@@ -262,6 +268,7 @@ void TableJob::addRecord(std::span<const std::string_view> fields) {
     }
     const std::span<const std::string_view> cells = columns_->cells(fields);
     if (groupField_ && group_ != field(*groupField_)) {
+        groups_.begin(field(*groupField_));
         target_->addGroup(field(*groupField_), cells);
         group_ = field(*groupField_);
     } else {

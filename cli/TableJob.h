@@ -17,6 +17,7 @@
 #include "cli/TableOptions.h"
 #include "cli/TableRecords.h"
 #include "cli/TableTarget.h"
+#include "data/GroupWatch.h"
 #include "data/columnsTotal.h"
 
 namespace quorvane::cli {
@@ -72,6 +73,8 @@ private:
     std::vector<Total> totals_;
     std::optional<std::size_t> groupField_;
     std::optional<std::string> group_;
+    // In all documents.
+    data::GroupWatch groups_;
     std::size_t leftOut_ = 0;
 };
 

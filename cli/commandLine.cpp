@@ -664,8 +664,9 @@ void addTableOptions(CLI::App* table, TableOptions& options) {
     add("--border", options.border, "BORDER",
         "The border of all cells: hair, thin, normal or thick");
     add("--sort", options.sort, "FIELDS", "The order of the rows, such as price:desc,name");
-    CLI::Option* const groupBy = add("--group-by", options.groupBy, "FIELD",
-                                     "A heading above the rows that share this field");
+    CLI::Option* const groupBy =
+        add("--group-by", options.groupBy, "FIELD",
+            "A heading above rows that follow each other and share this field");
     table->add_flag("--group-pages", options.groupPages, "Begin a page with each group")
         ->needs(groupBy);
     table

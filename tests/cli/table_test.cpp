@@ -233,6 +233,17 @@ TEST_F(TableTest, GroupsRowsAndAddsATotal) {
               "kind price/glass 0.10/glass 0.20/wood 5.00/Total 5.30/");
 }
 
+TEST_F(TableTest, SaysThatTheRowsOfGroupsDoNotFollowEachOther) {
+    folder.write("a.csv", "kind,n\nx,1\ny,2\nx,3\n");
+    const ProgramResult result = run({"a.csv", "--group-by=kind"});
+    EXPECT_EQ(result.errors,
+              "a.csv: Some groups begin several times, since their rows do not follow each other. "
+              "Sort the rows: --sort \"kind\"\n");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(run({"a.csv", "--group-by=kind", "--sort=kind"}).errors, "");
+    EXPECT_EQ(run({"a.csv", "--group-by=kind", "--sort=kind", "--split=1"}).errors, "");
+}
+
 TEST_F(TableTest, SortsRowsByFields) {
     folder.write("a.csv",
                  "name;price;day\nb;12,50;1.2.2027\nA;100,00;31.1.2027\n\u00E4;;\nc;3,00;\n");
