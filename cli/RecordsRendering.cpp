@@ -5,6 +5,7 @@
 #include <utility>
 #include <variant>
 
+#include "cli/SchemaFile.h"
 #include "cli/UsageError.h"
 #include "cli/errorText.h"
 #include "cli/fileFailure.h"
@@ -41,9 +42,11 @@ std::string counted(std::size_t count, const std::string& what) {
 
 }  // namespace
 
-RecordsRendering::RecordsRendering(const RenderOptions& options, const RenderMeans& means)
+RecordsRendering::RecordsRendering(const RenderOptions& options, const RenderMeans& means,
+                                   const data::DataSchema* schema)
     : options_(options),
       means_(means),
+      schema_(schema),
       locale_(localeOf(options.locale)),
       names_(options, locale_),
       finding_(receiversInto(found_, static_cast<bool>(means.receivers.locate))) {}
@@ -147,10 +150,22 @@ bool RecordsRendering::prepare(std::size_t number) {
 /// Reads a record; one that is wrong is reported.
 bool RecordsRendering::read(Task& task) {
     try {
-        return input_->next(task.record);
+        if (!input_->next(task.record)) {
+            return false;
+        }
+        validate(task.record);
     } catch (const data::RecordError& error) {
         findings_->fail({ErrorKind::Raised, dataName(), error});
-        return true;
+    }
+    return true;
+}
+
+void RecordsRendering::validate(const NumberedRecord& record) {
+    if (!schema_) {
+        return;
+    }
+    for (const data::JsonFault& fault : schema_->faultsIn(record.value)) {
+        findings_->fail({ErrorKind::Check, dataName(), schemaMismatch(fault, record.line)});
     }
 }
 

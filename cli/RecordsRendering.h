@@ -17,6 +17,7 @@
 #include "cli/RenderOptions.h"
 #include "cli/RenderThread.h"
 #include "cli/renderEvents.h"
+#include "data/DataSchema.h"
 #include "data/TemplateFilling.h"
 #include "data/locale.h"
 #include "quorvane/base/values/RtfError.h"
@@ -27,8 +28,10 @@ namespace quorvane::cli {
 /// go on, unless the disk is full. Memory holds a few records and documents for each thread.
 class RecordsRendering {
 public:
-    /// Throws a `UsageError` for options that make no sense.
-    RecordsRendering(const RenderOptions& options, const RenderMeans& means);
+    /// Throws a `UsageError` for options that make no sense. A record that the schema does not
+    /// accept fails; null for none.
+    RecordsRendering(const RenderOptions& options, const RenderMeans& means,
+                     const data::DataSchema* schema);
     RecordsRendering(const RecordsRendering&) = delete;
     RecordsRendering& operator=(const RecordsRendering&) = delete;
 
@@ -59,6 +62,7 @@ private:
     Task& taskAt(std::size_t task) { return tasks_[task % tasks_.size()]; }
     bool prepare(std::size_t number);
     bool read(Task& task);
+    void validate(const NumberedRecord& record);
     bool work(Thread& thread, std::size_t number);
     void deliver(std::size_t number);
     void stopAfter(const RenderEvents& events);
@@ -70,6 +74,7 @@ private:
 
     const RenderOptions& options_;
     RenderMeans means_;
+    const data::DataSchema* schema_;
     data::Locale locale_;
     DocumentNames names_;
     // What is found while records are read and documents named.

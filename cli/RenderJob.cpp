@@ -64,7 +64,11 @@ ExitStatus RenderJob::run() {
 }
 
 ExitStatus RenderJob::renderRecords() {
-    RecordsRendering rendering(options_, {manner_, platform_, report_, receivers_});
+    if (const ExitStatus status = readSchemaFile(); status != ExitStatus::Success) {
+        return status;
+    }
+    RecordsRendering rendering(options_, {manner_, platform_, report_, receivers_},
+                               schema_ ? &*schema_->schema : nullptr);
     if (const std::string folder = rendering.commonFolder();
         !folder.empty() && !prepareFolder(folder)) {
         return ExitStatus::Failure;
