@@ -5,6 +5,7 @@
 #include <utility>
 #include <variant>
 
+#include "cli/OutputGuard.h"
 #include "cli/SchemaFile.h"
 #include "cli/UsageError.h"
 #include "cli/errorText.h"
@@ -12,6 +13,7 @@
 #include "cli/localeOption.h"
 #include "cli/recordsFile.h"
 #include "cli/tasksInOrder.h"
+#include "quorvane/base/platform/utf8Path.h"
 
 namespace quorvane::cli {
 
@@ -48,8 +50,17 @@ RecordsRendering::RecordsRendering(const RenderOptions& options, const RenderMea
       means_(means),
       schema_(schema),
       locale_(localeOf(options.locale)),
-      names_(options, locale_),
-      finding_(receiversInto(found_, static_cast<bool>(means.receivers.locate))) {}
+      joined_(means.manner.joined),
+      finding_(receiversInto(found_, static_cast<bool>(means.receivers.locate))) {
+    if (!joined_) {
+        names_.emplace(options, locale_);
+    }
+}
+
+std::string RecordsRendering::commonFolder() const {
+    return joined_ ? utf8FromPath(pathFromUtf8(joined_->path()).parent_path())
+                   : names_->commonFolder();
+}
 
 ExitStatus RecordsRendering::run(std::size_t threads) {
     if (!load() || !open()) {
@@ -58,6 +69,7 @@ ExitStatus RecordsRendering::run(std::size_t threads) {
     findings_.emplace(means_.report, finding_);
     try {
         renderAll(threads);
+        finishJoined();
     } catch (const UnreadableInput& error) {
         fail(unreadableFile(dataName(), *options_.data, error));
     } catch (const RtfError& error) {
@@ -66,6 +78,21 @@ ExitStatus RecordsRendering::run(std::size_t threads) {
     summarize();
     closeReport();
     return status_;
+}
+
+/// Writes the document of all records, unless something stopped them.
+void RecordsRendering::finishJoined() {
+    if (!joined_ || written_ == 0 || isStopped_) {
+        return;
+    }
+    try {
+        joined_->finish();
+        isJoinedWritten_ = true;
+    } catch (const RtfError& error) {
+        // No record is in a document.
+        report_.reset();
+        fail(fileFailure(joinedName(), error));
+    }
 }
 
 void RecordsRendering::failReport(const RtfError& error) {
@@ -109,12 +136,26 @@ bool RecordsRendering::open() {
         return true;
     }
     try {
-        names_.exclude(*options_.report, "the report");
+        requireReport();
         report_.emplace(means_.platform.createFile(*options_.report));
     } catch (const RtfError& error) {
         failReport(error);
     }
     return report_.has_value();
+}
+
+/// Throws a `UsageError` if the report would replace what is read, or a document.
+void RecordsRendering::requireReport() {
+    if (names_) {
+        names_->exclude(*options_.report, "the report");
+        return;
+    }
+    OutputGuard guard(options_);
+    if (guard.require(*options_.report, "the report") ==
+        guard.require(joined_->path(), "the document")) {
+        throw UsageError("the report and the document would both be written to " +
+                         *options_.report);
+    }
 }
 
 void RecordsRendering::renderAll(std::size_t threads) {
@@ -138,7 +179,7 @@ bool RecordsRendering::prepare(std::size_t number) {
         return false;
     }
     if (found_.empty()) {
-        task.result.file = names_.nameFor(task.record, *findings_);
+        task.result.file = joined_ ? joined_->path() : names_->nameFor(task.record, *findings_);
     }
     task.status = found_.empty() ? ExitStatus::Success : ExitStatus::ContentErrors;
     task.result.number = task.record.number;
@@ -191,6 +232,7 @@ void RecordsRendering::deliver(std::size_t number) {
         report_->add(result);
     }
     stopAfter(result.events);
+    isStopped_ = isStopped_ || (joined_ && joined_->isBroken());
     cli::number(result.events, result.number);
     report(result.events, means_.report, means_.receivers);
     if (means_.receivers.progress) {
@@ -209,20 +251,34 @@ void RecordsRendering::stopAfter(const RenderEvents& events) {
     }
 }
 
+/// What became of the records that did not fail.
+std::string RecordsRendering::written() const {
+    if (!joined_) {
+        return counted(written_, "document") + (written_ == 1 ? " was" : " were") + " written";
+    }
+    return isJoinedWritten_ ? joinedName() + " has " + counted(written_, "record")
+                            : "nothing was written";
+}
+
 void RecordsRendering::summarize() {
     if (failed_ > 0) {
-        means_.report.fail(refusal(
-            dataName(), counted(failed_, "record") + " failed; " + counted(written_, "document") +
-                            (written_ == 1 ? " was" : " were") + " written"));
+        means_.report.fail(
+            refusal(dataName(), counted(failed_, "record") + " failed; " + written()));
+    } else if (joined_ && written_ == 0) {
+        status_ = std::max(status_, ExitStatus::ContentErrors);
+        means_.report.fail(refusal(dataName(), "there are no records; nothing was written"));
     } else if (means_.receivers.note) {
-        means_.receivers.note(counted(written_, "document") + (written_ == 1 ? " was" : " were") +
-                              " written");
+        means_.receivers.note(written());
     }
 }
 
 void RecordsRendering::fail(const ReportedError& failure) {
     status_ = ExitStatus::Failure;
     means_.report.fail(failure);
+}
+
+std::string RecordsRendering::joinedName() const {
+    return joined_->path() == standardStream ? "<stdout>" : joined_->path();
 }
 
 std::string RecordsRendering::dataName() const {
