@@ -255,7 +255,10 @@ std::vector<Diagnostic> CheckJob::templateDiagnosticsOf(const std::string& file,
     if (errors.empty() && data_) {
         data::TemplateFilling filling(source, data_->data->locale);
         const std::vector<SourceLine>& lines = filling.fill(data_->data->record, errors);
-        diagnostics = data::checkFilled(source, {lines, errors.empty()}, styles, pictures);
+        // Data that makes too much leaves no lines.
+        if (errors.empty() || !lines.empty()) {
+            diagnostics = data::checkFilled(source, {lines, errors.empty()}, styles, pictures);
+        }
     } else if (errors.empty()) {
         diagnostics = data::checkUnfilled(source, styles, pictures);
     }

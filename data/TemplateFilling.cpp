@@ -13,6 +13,9 @@ namespace quorvane::data {
 
 namespace {
 
+constexpr std::size_t maxRepeatedSteps = 10'000'000;
+constexpr std::size_t maxTextBytes = std::size_t{256} * 1024 * 1024;
+
 const DataValue& booleanValue(bool value) {
     static const DataValue yes{.kind = DataValue::Kind::Boolean, .text = "true"};
     static const DataValue no{.kind = DataValue::Kind::Boolean, .text = "false"};
@@ -119,6 +122,7 @@ void TemplateFilling::begin() {
     pending_.clear();
     texts_.clear();
     ranges_.clear();
+    repeatedSteps_ = 0;
 }
 
 void TemplateFilling::run() {
@@ -185,12 +189,27 @@ std::size_t TemplateFilling::enter(std::size_t index, const TemplateStep& step) 
 std::size_t TemplateFilling::leave(std::size_t index, const TemplateStep& step) {
     Context& context = contexts_.back();
     if (context.list && context.item + 1 < context.list->items.size()) {
+        repeatedSteps_ += index - step.other;
+        if (repeatedSteps_ > maxRepeatedSteps || texts_.size() > maxTextBytes) {
+            return refuseSize(template_.queries[step.query]);
+        }
         ++context.item;
         context.value = &context.list->items[context.item];
         return step.other + 1;
     }
     contexts_.pop_back();
     return index + 1;
+}
+
+/// Ends a filling that would take memory without end, as lists within themselves do.
+std::size_t TemplateFilling::refuseSize(const TemplateQuery& query) {
+    reportWrong(query,
+                "The lists of the data make more than " + std::to_string(maxRepeatedSteps) +
+                    " lines, texts and values, or more than " +
+                    std::to_string(maxTextBytes / (1024 * 1024)) + " MB of text.",
+                "make several documents of them");
+    begin();
+    return template_.steps.size();
 }
 
 /// Without data it is not known which columns count.

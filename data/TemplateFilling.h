@@ -70,6 +70,7 @@ private:
     std::size_t runStep(std::size_t index);
     std::size_t enter(std::size_t index, const TemplateStep& step);
     std::size_t leave(std::size_t index, const TemplateStep& step);
+    std::size_t refuseSize(const TemplateQuery& query);
     void addLine(const TemplateStep& step);
     void beginLeaf(const TemplateStep& step);
     void endLeaf();
@@ -101,6 +102,8 @@ private:
     std::vector<Pending> pending_;
     std::string texts_;
     std::vector<TextRange> ranges_;
+    // How many steps the repetitions of sections were.
+    std::size_t repeatedSteps_ = 0;
     std::vector<FilledValue> values_;
     std::string text_;
 };

@@ -14,7 +14,7 @@ int main(int argc, char** argv) {
     try {
         Document document = renderFile(argv[1], {.styleSheetFile = argv[2]}).document;
         // The first row has the key 1001.
-        document.row("1001")[0][0].setColor("steel-blue");
+        document.row("1001")[0][0].setColor(eSteelBlue);
         document.save(argv[3]);
     } catch (const Error& error) {
         std::cerr << error.what() << '\n';

@@ -1,11 +1,17 @@
-// Where all names exist, a template shows what another implementation of Mustache shows.
+// Where all names exist, a template shows what other implementations of Mustache show.
 
 #include <gmock/gmock.h>
+#include <unistd.h>
 
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
 #include <kainjow/mustache.hpp>
+#include <nlohmann/json.hpp>
 #include <random>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "tests/data/FilledTemplate.h"
 
@@ -107,25 +113,94 @@ private:
     std::mt19937 random_;
 };
 
-TEST(OtherEngines, ShowTheSameForNamesThatExist) {
-    Generator generator(1);
-    for (int i = 0; i < 3000; ++i) {
-        const std::string content = "[" + generator.content(3) + "]";
-        const DataValue record = generator.object(3);
-        std::vector<TemplateError> errors;
-        const Template source =
-            compileTemplate(inParagraph("(pt=" + content + ")"), TextEncoding::Utf8, {}, errors);
-        TemplateFilling filling(source, {});
-        const std::vector<SourceLine>& lines = filling.fill(record, errors);
-        ASSERT_TRUE(errors.empty()) << content << errors.front().message;
-        const std::string_view shown =
-            lines[4].filled ? lines[4].filled->text : lines[4].text.substr(4);
+struct Case {
+    std::string content;
+    DataValue record;
+};
 
-        mustache other(content);
+std::vector<Case> cases() {
+    Generator generator(1);
+    std::vector<Case> made;
+    for (int i = 0; i < 3000; ++i) {
+        std::string content = "[" + generator.content(3) + "]";
+        made.push_back({std::move(content), generator.object(3)});
+    }
+    return made;
+}
+
+/// The text of a paragraph that a template with the content shows.
+std::string shown(const Case& made) {
+    std::vector<TemplateError> errors;
+    const Template source =
+        compileTemplate(inParagraph("(pt=" + made.content + ")"), TextEncoding::Utf8, {}, errors);
+    TemplateFilling filling(source, {});
+    const SourceLine& line = filling.fill(made.record, errors)[4];
+    EXPECT_TRUE(errors.empty()) << made.content << errors.front().message;
+    // A line without tags stands as it is written: "(pt=[...])".
+    return std::string(line.filled ? line.filled->text : line.text.substr(4, line.text.size() - 5));
+}
+
+nlohmann::json json(const DataValue& value) {
+    switch (value.kind) {
+        case DataValue::Kind::Boolean:
+            return value.text == "true";
+        case DataValue::Kind::List: {
+            nlohmann::json list = nlohmann::json::array();
+            for (const DataValue& item : value.items) {
+                list.push_back(json(item));
+            }
+            return list;
+        }
+        case DataValue::Kind::Object: {
+            nlohmann::json object = nlohmann::json::object();
+            for (std::size_t i = 0; i < value.names.size(); ++i) {
+                object[value.names[i]] = json(value.items[i]);
+            }
+            return object;
+        }
+        default:
+            return value.text;
+    }
+}
+
+/// What mustache.js makes of all cases, in one run of Node.
+nlohmann::json shownByMustacheJs(const std::vector<Case>& all) {
+    namespace fs = std::filesystem;
+    const fs::path file =
+        fs::path(testing::TempDir()) / ("quorvane-mustache-" + std::to_string(::getpid()));
+    nlohmann::json asked = nlohmann::json::array();
+    for (const Case& each : all) {
+        asked.push_back({{"content", each.content}, {"record", json(each.record)}});
+    }
+    std::ofstream(file) << asked;
+    const std::string command =
+        "NODE_PATH=/usr/share/nodejs node " QUORVANE_MUSTACHE_JS " " + file.string();
+    std::string output;
+    if (std::FILE* const pipe = ::popen(command.c_str(), "r")) {
+        char block[4096];
+        while (const std::size_t size = std::fread(block, 1, sizeof block, pipe)) {
+            output.append(block, size);
+        }
+        EXPECT_EQ(::pclose(pipe), 0);
+    }
+    fs::remove(file);
+    return nlohmann::json::parse(output, nullptr, false);
+}
+
+TEST(OtherEngines, ShowTheSameForNamesThatExist) {
+    for (const Case& each : cases()) {
+        mustache other(each.content);
         other.set_custom_escape([](const std::string& text) { return text; });
-        const std::string expected = other.render(otherData(record));
-        EXPECT_EQ(std::string(shown.substr(0, expected.size())), expected) << content;
-        EXPECT_EQ(shown.size(), expected.size() + (lines[4].filled ? 0 : 1)) << content;
+        EXPECT_EQ(shown(each), other.render(otherData(each.record))) << each.content;
+    }
+}
+
+TEST(OtherEngines, OnNodeShowTheSameForNamesThatExist) {
+    const std::vector<Case> all = cases();
+    const nlohmann::json others = shownByMustacheJs(all);
+    ASSERT_EQ(others.size(), all.size());
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        EXPECT_EQ(shown(all[i]), others[i].get<std::string>()) << all[i].content;
     }
 }
 

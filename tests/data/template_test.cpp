@@ -328,6 +328,24 @@ TEST(Positions, StandInSectionsForLists) {
     EXPECT_THAT(errorsIn("{{../a}}", "{}"), ElementsAre("6:5: No object is around this one."));
 }
 
+TEST(WrongData, AreListsInListsThatMakeTooMuch) {
+    std::string items = "1";
+    for (int i = 1; i < 400; ++i) {
+        items += ",1";
+    }
+    EXPECT_THAT(errorsIn("{{#l}}{{#l}}{{#l}}x{{/l}}{{/l}}{{/l}}", R"({"l":[)" + items + "]}"),
+                ElementsAre(HasSubstr("The lists of the data make more than 10000000 lines, texts "
+                                      "and values, or more than 256 MB of text. (make several "
+                                      "documents of them)")));
+}
+
+TEST(WrongData, AreTextsThatAreTooLongTogether) {
+    const std::string text(16 * 1024 * 1024, 'x');
+    EXPECT_THAT(errorsIn("{{#l}}{{t}}{{/l}}",
+                         R"({"t":")" + text + R"(","l":[1,2,3,4,5,6,7,8,9,0,1,2,3,4,5,6,7,8,9]})"),
+                ElementsAre(HasSubstr("more than 256 MB of text")));
+}
+
 TEST(WrongTags, SayWhatToWrite) {
     const std::vector<std::pair<const char*, const char*>> cases = {
         {"{{a", "6:5: The tag that begins here does not end; write }} after it."},
