@@ -21,7 +21,7 @@ public:
 
 private:
     struct Closing {
-        void operator()(std::FILE* file) const noexcept { std::fclose(file); }
+        void operator()(std::FILE* file) const noexcept { static_cast<void>(std::fclose(file)); }
     };
 
     [[noreturn]] void fail(int systemError) const;
