@@ -98,6 +98,9 @@ void DescriptionRendering::leaveDocumentBefore() {
 void DescriptionRendering::makeDriver() {
     driver_ = CRtfDriver::create(platform_);
     driver_->RtfObject()->setExtendedStyleSheets(true);
+    if (manner_.joined) {
+        manner_.joined->prepare(*driver_->RtfObject());
+    }
 }
 
 void DescriptionRendering::setStyleSheet(const std::string& name) {
@@ -193,7 +196,11 @@ void DescriptionRendering::write() {
         fail(fileFailure(name, absorbed.error));
     });
     try {
-        driver_->Commit(assignment_.output);
+        if (manner_.joined) {
+            manner_.joined->add(*driver_->RtfObject());
+        } else {
+            driver_->Commit(assignment_.output);
+        }
     } catch (const RtfError& error) {
         hasWritten_ = false;
         fail(fileFailure(name, error));

@@ -8,6 +8,7 @@
 #include "cli/CommandPlatform.h"
 #include "cli/DescriptionText.h"
 #include "cli/ExitStatus.h"
+#include "cli/JoinedDocument.h"
 #include "cli/LoadedTemplate.h"
 #include "cli/NumberedRecord.h"
 #include "cli/RenderReport.h"
@@ -35,6 +36,8 @@ struct RenderingManner {
     const TemplateData* data = nullptr;
     /// Folders whose pictures the description may name, besides its own.
     std::vector<std::string> pictureFolders = {};
+    /// What the documents are added to; null for files of their own.
+    JoinedDocument* joined = nullptr;
 };
 
 /// The rendering of one description. Several can go through the same driver, one after the other,

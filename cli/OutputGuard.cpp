@@ -150,7 +150,8 @@ void OutputGuard::findInputs() {
     for (const std::string& description : options_.descriptions) {
         add(description);
     }
-    for (const std::optional<std::string>& input : {options_.styleSheet, options_.data}) {
+    for (const std::optional<std::string>& input :
+         {options_.styleSheet, options_.data, options_.schema}) {
         if (input) {
             add(*input);
         }

@@ -5,12 +5,15 @@
 #include <utility>
 #include <variant>
 
+#include "cli/OutputGuard.h"
+#include "cli/SchemaFile.h"
 #include "cli/UsageError.h"
 #include "cli/errorText.h"
 #include "cli/fileFailure.h"
 #include "cli/localeOption.h"
 #include "cli/recordsFile.h"
 #include "cli/tasksInOrder.h"
+#include "quorvane/base/platform/utf8Path.h"
 
 namespace quorvane::cli {
 
@@ -41,12 +44,23 @@ std::string counted(std::size_t count, const std::string& what) {
 
 }  // namespace
 
-RecordsRendering::RecordsRendering(const RenderOptions& options, const RenderMeans& means)
+RecordsRendering::RecordsRendering(const RenderOptions& options, const RenderMeans& means,
+                                   const data::DataSchema* schema)
     : options_(options),
       means_(means),
+      schema_(schema),
       locale_(localeOf(options.locale)),
-      names_(options, locale_),
-      finding_(receiversInto(found_, static_cast<bool>(means.receivers.locate))) {}
+      joined_(means.manner.joined),
+      finding_(receiversInto(found_, static_cast<bool>(means.receivers.locate))) {
+    if (!joined_) {
+        names_.emplace(options, locale_);
+    }
+}
+
+std::string RecordsRendering::commonFolder() const {
+    return joined_ ? utf8FromPath(pathFromUtf8(joined_->path()).parent_path())
+                   : names_->commonFolder();
+}
 
 ExitStatus RecordsRendering::run(std::size_t threads) {
     if (!load() || !open()) {
@@ -55,6 +69,7 @@ ExitStatus RecordsRendering::run(std::size_t threads) {
     findings_.emplace(means_.report, finding_);
     try {
         renderAll(threads);
+        finishJoined();
     } catch (const UnreadableInput& error) {
         fail(unreadableFile(dataName(), *options_.data, error));
     } catch (const RtfError& error) {
@@ -63,6 +78,21 @@ ExitStatus RecordsRendering::run(std::size_t threads) {
     summarize();
     closeReport();
     return status_;
+}
+
+/// Writes the document of all records, unless something stopped them.
+void RecordsRendering::finishJoined() {
+    if (!joined_ || written_ == 0 || isStopped_) {
+        return;
+    }
+    try {
+        joined_->finish();
+        isJoinedWritten_ = true;
+    } catch (const RtfError& error) {
+        // No record is in a document.
+        report_.reset();
+        fail(fileFailure(joinedName(), error));
+    }
 }
 
 void RecordsRendering::failReport(const RtfError& error) {
@@ -107,12 +137,26 @@ bool RecordsRendering::open() {
         return true;
     }
     try {
-        names_.exclude(*options_.report, "the report");
+        requireReport();
         report_.emplace(means_.platform.createFile(*options_.report));
     } catch (const RtfError& error) {
         failReport(error);
     }
     return report_.has_value();
+}
+
+/// Throws a `UsageError` if the report would replace what is read, or a document.
+void RecordsRendering::requireReport() {
+    if (names_) {
+        names_->exclude(*options_.report, "the report");
+        return;
+    }
+    OutputGuard guard(options_);
+    if (guard.require(*options_.report, "the report") ==
+        guard.require(joined_->path(), "the document")) {
+        throw UsageError("the report and the document would both be written to " +
+                         *options_.report);
+    }
 }
 
 void RecordsRendering::renderAll(std::size_t threads) {
@@ -136,7 +180,7 @@ bool RecordsRendering::prepare(std::size_t number) {
         return false;
     }
     if (found_.empty()) {
-        task.result.file = names_.nameFor(task.record, *findings_);
+        task.result.file = joined_ ? joined_->path() : names_->nameFor(task.record, *findings_);
     }
     task.status = found_.empty() ? ExitStatus::Success : ExitStatus::ContentErrors;
     task.result.number = task.record.number;
@@ -148,10 +192,22 @@ bool RecordsRendering::prepare(std::size_t number) {
 /// Reads a record; one that is wrong is reported.
 bool RecordsRendering::read(Task& task) {
     try {
-        return input_->next(task.record);
+        if (!input_->next(task.record)) {
+            return false;
+        }
+        validate(task.record);
     } catch (const data::RecordError& error) {
         findings_->fail({ErrorKind::Raised, dataName(), error});
-        return true;
+    }
+    return true;
+}
+
+void RecordsRendering::validate(const NumberedRecord& record) {
+    if (!schema_) {
+        return;
+    }
+    for (const data::JsonFault& fault : schema_->faultsIn(record.value)) {
+        findings_->fail({ErrorKind::Check, dataName(), schemaMismatch(fault, record.line)});
     }
 }
 
@@ -177,6 +233,7 @@ void RecordsRendering::deliver(std::size_t number) {
         report_->add(result);
     }
     stopAfter(result.events);
+    isStopped_ = isStopped_ || (joined_ && joined_->isBroken());
     cli::number(result.events, result.number);
     report(result.events, means_.report, means_.receivers);
     if (means_.receivers.progress) {
@@ -195,20 +252,34 @@ void RecordsRendering::stopAfter(const RenderEvents& events) {
     }
 }
 
+/// What became of the records that did not fail.
+std::string RecordsRendering::written() const {
+    if (!joined_) {
+        return counted(written_, "document") + (written_ == 1 ? " was" : " were") + " written";
+    }
+    return isJoinedWritten_ ? joinedName() + " has " + counted(written_, "record")
+                            : "nothing was written";
+}
+
 void RecordsRendering::summarize() {
     if (failed_ > 0) {
-        means_.report.fail(refusal(
-            dataName(), counted(failed_, "record") + " failed; " + counted(written_, "document") +
-                            (written_ == 1 ? " was" : " were") + " written"));
+        means_.report.fail(
+            refusal(dataName(), counted(failed_, "record") + " failed; " + written()));
+    } else if (joined_ && written_ == 0) {
+        status_ = std::max(status_, ExitStatus::ContentErrors);
+        means_.report.fail(refusal(dataName(), "there are no records; nothing was written"));
     } else if (means_.receivers.note) {
-        means_.receivers.note(counted(written_, "document") + (written_ == 1 ? " was" : " were") +
-                              " written");
+        means_.receivers.note(written());
     }
 }
 
 void RecordsRendering::fail(const ReportedError& failure) {
     status_ = ExitStatus::Failure;
     means_.report.fail(failure);
+}
+
+std::string RecordsRendering::joinedName() const {
+    return joined_->path() == standardStream ? "<stdout>" : joined_->path();
 }
 
 std::string RecordsRendering::dataName() const {

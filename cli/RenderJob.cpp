@@ -38,7 +38,7 @@ ExitStatus RenderJob::run() {
     if (options_.styleSheet) {
         requireStyleSheetExtension(*options_.styleSheet, options_.descriptions);
     }
-    if (options_.dataUse == DataUse::Each) {
+    if (options_.dataUse != DataUse::Whole) {
         return renderRecords();
     }
     std::vector<Assignment> assignments;
@@ -64,7 +64,14 @@ ExitStatus RenderJob::run() {
 }
 
 ExitStatus RenderJob::renderRecords() {
-    RecordsRendering rendering(options_, {manner_, platform_, report_, receivers_});
+    if (const ExitStatus status = readSchemaFile(); status != ExitStatus::Success) {
+        return status;
+    }
+    if (options_.dataUse == DataUse::Join && !openJoined()) {
+        return ExitStatus::Failure;
+    }
+    RecordsRendering rendering(options_, {manner_, platform_, report_, receivers_},
+                               schema_ ? &*schema_->schema : nullptr);
     if (const std::string folder = rendering.commonFolder();
         !folder.empty() && !prepareFolder(folder)) {
         return ExitStatus::Failure;
@@ -74,6 +81,21 @@ ExitStatus RenderJob::renderRecords() {
         return status;
     }
     return std::max(status, rendering.run(threadCount(options_.jobs)));
+}
+
+/// Prepares the document of all records.
+bool RenderJob::openJoined() {
+    std::string name = shownDescription(options_.descriptions.front());
+    try {
+        const std::string path = assignOutputs(options_).front().output;
+        name = path;
+        joined_.emplace(path, platform_);
+        manner_.joined = &*joined_;
+        return true;
+    } catch (const RtfError& error) {
+        report_.fail(fileFailure(name, error));
+        return false;
+    }
 }
 
 /// True if a folder for documents exists or can be created with the first one; otherwise reports

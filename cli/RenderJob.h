@@ -7,6 +7,7 @@
 #include "cli/CommandPlatform.h"
 #include "cli/DescriptionRendering.h"
 #include "cli/ExitStatus.h"
+#include "cli/JoinedDocument.h"
 #include "cli/RenderOptions.h"
 #include "cli/RenderReport.h"
 #include "cli/SchemaFile.h"
@@ -33,6 +34,7 @@ public:
 
 private:
     ExitStatus renderRecords();
+    bool openJoined();
     bool prepareFolder(const std::string& name);
     ExitStatus readStyleSheet();
     ExitStatus readData();
@@ -47,6 +49,7 @@ private:
     CommandPlatform platform_;
     std::optional<SchemaFile> schema_;
     std::optional<TemplateDataFile> data_;
+    std::optional<JoinedDocument> joined_;
 };
 
 }  // namespace quorvane::cli

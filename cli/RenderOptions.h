@@ -23,6 +23,8 @@ enum class DataUse {
     Whole,
     /// Records, each of which gets a document.
     Each,
+    /// Records, all of which get one document.
+    Join,
 };
 
 /// The options of `quorvane render`. Paths are as given.

@@ -1,13 +1,14 @@
 #include "cli/SchemaFile.h"
 
+#include <string_view>
 #include <utility>
 
-#include "data/JsonFault.h"
 #include "data/json.h"
 #include "data/jsonDiagnostic.h"
 #include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/diagnostics/engine/DiagnosticEngine.h"
 #include "quorvane/diagnostics/engine/SourceText.h"
+#include "quorvane/diagnostics/engine/diagnosticRules.h"
 
 namespace quorvane::cli {
 
@@ -51,6 +52,14 @@ void validate(TemplateDataFile& file, const data::DataSchema& schema) {
         reportFaults(DiagnosticId::SchemaMismatch, file.bytes, faults, file.diagnostics);
         file.data.reset();
     }
+}
+
+RtfError schemaMismatch(const data::JsonFault& fault, std::int64_t line) {
+    const std::string_view identifier = diagnosticRule(DiagnosticId::SchemaMismatch).identifier;
+    RtfError error(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
+                   fault.message + " [" + std::string(identifier) + "]");
+    error.line = static_cast<int>(line);
+    return error;
 }
 
 }  // namespace quorvane::cli

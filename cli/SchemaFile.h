@@ -1,12 +1,15 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "cli/TemplateData.h"
 #include "data/DataSchema.h"
+#include "data/JsonFault.h"
 #include "quorvane/base/platform/Platform.h"
+#include "quorvane/base/values/RtfError.h"
 #include "quorvane/diagnostics/engine/Diagnostic.h"
 
 namespace quorvane::cli {
@@ -26,5 +29,8 @@ SchemaFile readSchema(const std::string& path, Platform& platform);
 /// Validates data that was read, and takes it away if the schema does not accept it: the
 /// diagnostics then say why.
 void validate(TemplateDataFile& file, const data::DataSchema& schema);
+
+/// The error for a fault of a record that begins on a line.
+RtfError schemaMismatch(const data::JsonFault& fault, std::int64_t line);
 
 }  // namespace quorvane::cli

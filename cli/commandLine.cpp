@@ -36,8 +36,8 @@ With --data, the descriptions are templates: {{name}} stands for a value of the
 JSON file, or of standard input for -, and {{#lines}} ... {{/lines}} for what is
 repeated for each item of a list. With --each, the data is a JSON array, JSON
 Lines or a CSV file, and each record gets a document; --output is a template
-then, such as 'out/{{number}}.rtf'. A record that fails is reported, and the
-others go on.
+then, such as 'out/{{number}}.rtf'. With --join, all records get one document,
+each on a new page. A record that fails is reported, and the others go on.
 
 Errors are reported on standard error as "quorvane check" reports them. With
 --check, texts that would corrupt the document are errors too.
@@ -421,7 +421,12 @@ void addData(CLI::App& app, std::optional<std::string>& data, std::optional<std:
 
 void addRecordOptions(CLI::App& app, DataUse& use, RecordRange& records) {
     app.add_flag_callback(
-           "--each", [&use] { use = DataUse::Each; }, "Make a document of each record of the data")
+           "--each", [&use] { use = std::max(use, DataUse::Each); },
+           "Make a document of each record of the data")
+        ->needs("--data");
+    app.add_flag_callback(
+           "--join", [&use] { use = DataUse::Join; },
+           "Make one document of all records, a page for each")
         ->needs("--data");
     app.add_option("--records", storeIn(records), "Take only these records, such as 1001-2000")
         ->type_name("FIRST-LAST")
@@ -798,17 +803,24 @@ void requireOneInput(const std::optional<std::string>& data,
 
 /// Throws a `UsageError` for options that do not suit each other.
 void requireUseOfData(const RenderOptions& options) {
-    const bool isEach = options.dataUse == DataUse::Each;
+    const bool isEach = options.dataUse != DataUse::Whole;
+    const bool isJoined = options.dataUse == DataUse::Join;
     const RecordRange all;
     if (!isEach && (options.report || options.records.first != all.first ||
                     options.records.last != all.last)) {
-        throw UsageError("--report and --records are for records; add --each");
+        throw UsageError("--report and --records are for records; add --each or --join");
     }
     if (!isEach && options.makesOutputFolder && !options.outputFolder) {
         throw UsageError("--mkdir requires --output-dir");
     }
     if (isEach && options.descriptions.size() > 1) {
-        throw UsageError("--each takes one description");
+        throw UsageError(std::string(isJoined ? "--join" : "--each") + " takes one description");
+    }
+    if (isJoined && options.jobs != 1) {
+        throw UsageError("--join takes one record after the other; leave --jobs out");
+    }
+    if (isJoined && options.output && options.output->find("{{") != std::string::npos) {
+        throw UsageError("--join writes one document; --output takes no tags then");
     }
 }
 

@@ -11,7 +11,9 @@
 #include <cerrno>
 #include <cstddef>
 #include <cstdio>
+#include <cstdlib>
 #include <optional>
+#include <string>
 #include <system_error>
 #include <utility>
 
@@ -152,6 +154,20 @@ std::size_t readStandardInput(std::span<char> block) {
         raiseSystemError(errno);
     }
     return static_cast<std::size_t>(count);
+}
+
+std::FILE* openTemporaryFile(const std::filesystem::path& folder) {
+    std::string name = (folder / "quorvane-XXXXXX").native();
+    const int descriptor = ::mkostemp(name.data(), O_CLOEXEC);
+    if (descriptor == -1) {
+        return nullptr;
+    }
+    ::unlink(name.c_str());
+    std::FILE* const file = ::fdopen(descriptor, "w+b");
+    if (!file) {
+        ::close(descriptor);
+    }
+    return file;
 }
 
 std::unique_ptr<OutputFile> openStandardOutput() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdio>
 #include <filesystem>
 #include <memory>
 #include <span>
@@ -42,6 +43,10 @@ class ClosedPipe {};
 /// Standard output, for bytes as they are. Its members throw `ClosedPipe` where it is a pipe that
 /// nobody reads.
 std::unique_ptr<OutputFile> openStandardOutput();
+
+/// Opens a file in the folder for temporary files, for bytes that are written and read again. It
+/// goes with the process, however that ends, and with the stream. Null and `errno` if that fails.
+std::FILE* openTemporaryFile(const std::filesystem::path& folder);
 
 /// Lets the end of the process take unfinished files along (see `openReplacement`).
 UnfinishedFileWatch& unfinishedFileWatch();

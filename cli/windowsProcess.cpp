@@ -1,6 +1,7 @@
 #include <windows.h>
 
 #include <cstddef>
+#include <cstdio>
 #include <new>
 #include <string>
 
@@ -115,6 +116,12 @@ std::size_t readStandardInput(std::span<char> block) {
         count = 0;
     }
     return count;
+}
+
+std::FILE* openTemporaryFile(const std::filesystem::path& folder) {
+    const std::wstring name = L"quorvane-" + std::to_wstring(GetCurrentProcessId()) + L".tmp";
+    // D: the system removes the file when it is closed. N: no program started later inherits it.
+    return ::_wfopen((folder / name).c_str(), L"w+bDN");
 }
 
 std::unique_ptr<OutputFile> openStandardOutput() {

@@ -10,6 +10,7 @@
 #include "quorvane/docmodel/layout/LaidOutRows.h"
 #include "quorvane/docmodel/layout/PageLines.h"
 #include "quorvane/docmodel/measures.h"
+#include "quorvane/docmodel/smallParagraph.h"
 #include "quorvane/support/GFileSystem.h"
 #include "quorvane/support/published.h"
 
@@ -134,31 +135,88 @@ void InnerDocument::renderOnce(TextOutput& out) {
 
 void InnerDocument::render(TableRendering& rendering) {
     renderBeginning(rendering);
+    renderBody(rendering);
+    renderEnd(rendering.out);
+}
+
+void InnerDocument::renderBody(TableRendering& rendering) {
     if (hasLayout()) {
         LaidOutRows(inner(*body_.TableRows()), *this).renderBody(rendering);
     } else {
         body_.render(rendering);
     }
-    renderEnd(rendering.out);
 }
 
-void InnerDocument::renderBeginning(TableRendering& rendering) {
-    TextOutput& out = rendering.out;
+void InnerDocument::renderTables(TextOutput& out) const {
     out << "{";
     header_.render(out);
     const DocumentAdditions* additions = memory().additions.get();
     fontTable_.render(out, additions ? additions->fonts.entries() : std::span<const std::string>());
     colorTable_.render(out, additions ? additions->colors.list() : std::span<const RgbColor>());
     styleSheet_->render(out);
-    format_->render(out);
+}
+
+void InnerDocument::renderBeginning(TableRendering& rendering) {
+    renderTables(rendering.out);
+    format_->render(rendering.out);
     if (hasLayout()) {
         renderPageLines(rendering);
     }
 }
 
+void InnerDocument::renderSection(TextOutput& out, const SectionsBefore& before) {
+    refuseWhileWriting();
+    checkLayout();
+    const BeingWritten here(textState_);
+    TableRendering rendering(*this, out);
+    format_->renderSection(out);
+    if (hasLayout()) {
+        renderPageLines(rendering);
+    }
+    if (before.haveHeader && !hasPageHeader()) {
+        out << R"(\headery0{\header\pard\plain\fs2\par})";
+    }
+    if (before.haveFooter && !hasPageFooter()) {
+        out << R"(\footery0{\footer\pard\plain\fs2\par})";
+    }
+    // LibreOffice begins a section with a paragraph, not with a table.
+    if (before.areThere) {
+        out << smallParagraph << R"(\par)";
+    }
+    renderBody(rendering);
+}
+
+std::string InnerDocument::pageFormat() const {
+    std::string words;
+    StringOutput out(words);
+    format_->render(out);
+    out.flush();
+    return words;
+}
+
+bool InnerDocument::hasPageHeader() {
+    return page().header != PageText() ||
+           (hasLayout() && LaidOutRows(inner(*body_.TableRows()), *this).hasPageHeading());
+}
+
+void InnerDocument::keepNumbers() {
+    if (memory().additions) {
+        memory().additions->colors.useAll(TableUser::Sections);
+        memory().additions->fonts.useAll(TableUser::Sections);
+    }
+}
+
+void InnerDocument::takeNumbers(const InnerDocument& other) {
+    if (other.memory().additions) {
+        DocumentAdditions& own = memory().makeAdditions();
+        own.colors = other.memory().additions->colors;
+        own.fonts = other.memory().additions->fonts;
+    }
+}
+
 void InnerDocument::renderEnd(TextOutput& out) const {
     if (page().endsInSmallParagraph) {
-        out << R"(\pard\plain\sl-20\slmult0\fs2\par)";
+        out << smallParagraph << R"(\par)";
     }
     out << "}";
 }

@@ -12,6 +12,7 @@
 #include "quorvane/base/platform/Platform.h"
 #include "quorvane/docmodel/CRtfDoc.h"
 #include "quorvane/docmodel/InnerRows.h"
+#include "quorvane/docmodel/SectionsBefore.h"
 #include "quorvane/docmodel/TableDocument.h"
 #include "quorvane/rtfgroups/CRtfGrpBody.h"
 #include "quorvane/rtfgroups/CRtfGrpColorTable.h"
@@ -46,10 +47,23 @@ public:
     // Renders the document as it is now, and keeps no text. Cannot be interrupted by a change: that
     // is error 5.
     void renderOnce(TextOutput& out);
+    // Writes what comes before the format of the page.
+    void renderTables(TextOutput& out) const;
     // Writes all that comes before the rows of the table that are not in the page header.
     void renderBeginning(TableRendering& rendering);
     // Writes all that comes after them.
     void renderEnd(TextOutput& out) const;
+    // Writes the document as a section of another one, from the format of the page to the last row.
+    // Errors as `renderOnce`.
+    void renderSection(TextOutput& out, const SectionsBefore& before);
+    // The words for the page of a whole document.
+    std::string pageFormat() const;
+    bool hasPageHeader();
+    bool hasPageFooter() const { return page().footer != PageText(); }
+    // Keeps the colors and fonts that the document has now for the text of a section.
+    void keepNumbers();
+    // Gives the document, which has none yet, the colors and fonts that another one keeps.
+    void takeNumbers(const InnerDocument& other);
     // True when the document has a stylesheet, but that no style of the kind and name.
     bool lacksStyle(StyleKind kind, std::string_view name) const;
     // True when the document has a short text, and has it in memory.
@@ -93,6 +107,7 @@ private:
     void renderInto(std::string& rtf);
     void render(TableRendering& rendering);
     void renderPageLines(TableRendering& rendering);
+    void renderBody(TableRendering& rendering);
     bool streams() const noexcept;
     std::optional<RtfError> stream(const std::string& path);
     void keepText() override;

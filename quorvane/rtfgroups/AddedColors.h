@@ -25,6 +25,8 @@ public:
 
     /// Notes that a user has the number of a color.
     void use(TableUser user, std::int32_t number) noexcept;
+    /// Notes that a user has all numbers that there are.
+    void useAll(TableUser user) noexcept { users_.needs(user, colors_.size()); }
     /// Removes the colors that nobody but this user had, from the end on: numbers stay as they are.
     void release(TableUser user) noexcept;
 

@@ -52,6 +52,12 @@ void CRtfGrpDocumentFormat::render(TextOutput& rtf) const {
         << "\\pgnstart" << pageNumberStart_ << "\\widowctrl\r\n";
 }
 
+void CRtfGrpDocumentFormat::renderSection(TextOutput& rtf) const {
+    rtf << "\r\n\\sectd\\sbkpage\\pgwsxn" << paperWidth_ << "\\pghsxn" << paperHeight_
+        << "\\marglsxn" << leftMargin_ << "\\margrsxn" << rightMargin_ << "\\margtsxn" << topMargin_
+        << "\\margbsxn" << bottomMargin_ << "\\pgnrestart\\pgnstarts" << pageNumberStart_ << "\r\n";
+}
+
 void CRtfGrpDocumentFormat::change(std::int32_t& setting, std::int32_t value) {
     if (setting != value) {
         owner_.beforeChange();

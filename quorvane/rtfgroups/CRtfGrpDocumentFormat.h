@@ -46,6 +46,9 @@ public:
     /// Writes the group's text.
     void render(TextOutput& rtf) const;
 
+    /// Writes the words for a section that begins with a page and numbers its pages anew.
+    void renderSection(TextOutput& rtf) const;
+
 private:
     void change(std::int32_t& setting, std::int32_t value);
 

@@ -7,7 +7,12 @@
 namespace quorvane {
 
 /// Whose formats hold numbers of entries that were added to a table.
-enum class TableUser { Document, StyleSheet };
+enum class TableUser {
+    Document,
+    StyleSheet,
+    /// Texts that were rendered, and are kept elsewhere.
+    Sections
+};
 
 /// How many of the first entries each user needs.
 class TableUsers {
@@ -19,11 +24,11 @@ public:
     /// Forgets what a user needs; returns how many entries are needed still.
     std::size_t release(TableUser user) noexcept {
         counts_[static_cast<std::size_t>(user)] = 0;
-        return std::max(counts_[0], counts_[1]);
+        return *std::ranges::max_element(counts_);
     }
 
 private:
-    std::array<std::size_t, 2> counts_{};
+    std::array<std::size_t, 3> counts_{};
 };
 
 }  // namespace quorvane

@@ -273,7 +273,7 @@ TEST_F(RecordsTest, HaveOptionsThatSuitThem) {
     EXPECT_EQ(errorOf({"--each", "letter.rtfspec", "letter.rtfspec"}),
               "quorvane: --each takes one description");
     EXPECT_EQ(errorOf({"--records=1-2", "letter.rtfspec"}),
-              "quorvane: --report and --records are for records; add --each");
+              "quorvane: --report and --records are for records; add --each or --join");
     EXPECT_THAT(errorOf({"--each", "--records=0-2", "letter.rtfspec"}),
                 HasSubstr("0-2 is not a range of records"));
     EXPECT_THAT(errorOf({"--each", "--records=3-2", "letter.rtfspec"}),

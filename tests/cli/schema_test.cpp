@@ -12,6 +12,7 @@ namespace quorvane::cli {
 namespace {
 
 using testing::Contains;
+using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
@@ -113,6 +114,59 @@ TEST_F(SchemaTest, IsReportedWhenItIsNotASchema) {
     EXPECT_THAT(
         run({"check", "--data", "right.json", "--schema", "schema.json", "a.rtfspec"}).output,
         HasSubstr("schema.json:1:2: error: This is not JSON"));
+}
+
+TEST_F(SchemaTest, StopsTheRecordsThatItRefuses) {
+    writeSchema();
+    folder.write("data.jsonl",
+                 "{\"lines\":[{\"price\":1}]}\n"
+                 "{\"lines\":[{\"price\":1},{\"price\":\"free\"}],\"title\":{}}\n"
+                 "{\"lines\":[{\"price\":3}]}\n");
+    const ProgramResult result = run({"render", "--data", "data.jsonl", "--schema", "schema.json",
+                                      "--each", "--report", "report.jsonl", "a.rtfspec"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors,
+              "data.jsonl:2: error: record 2: /lines/1/price is \"free\"; the schema asks for a "
+              "number. [schema-mismatch]\n"
+              "data.jsonl:2: error: record 2: /title is an object; the schema asks for a number, a "
+              "text, null or true or false. [schema-mismatch]\n"
+              "data.jsonl: 1 record failed; 2 documents were written\n");
+    EXPECT_THAT(folder.names(),
+                ElementsAre("a-1.rtf", "a-3.rtf", "a.rtfspec", "data.jsonl", "head.rtfpart",
+                            "report.jsonl", "right.json", "schema.json", "wrong.json"));
+    EXPECT_THAT(
+        folder.read("report.jsonl"),
+        HasSubstr(R"({"record":2,"line":2,"status":"failed","file":null,"diagnostics":[{"file":)"
+                  R"("data.jsonl","line":2,"number":5,"level":null,"source":null,"message":)"
+                  R"("/lines/1/price is \"free\"; the schema asks for a number. )"
+                  R"([schema-mismatch]","kind":"check"},)"));
+}
+
+TEST_F(SchemaTest, TellsProgramsWhichRecordItRefuses) {
+    writeSchema();
+    folder.write("data.csv", "title\nPrices\n");
+    const ProgramResult result =
+        run({"render", "--data", "data.csv", "--schema", "schema.json", "--each", "--diagnostics",
+             "json", "-o", "{{none}}.rtf", "a.rtfspec"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors,
+              R"({"file":"data.csv","line":2,"record":1,"number":5,"level":null,"source":null,)"
+              R"("message":"The data has no lines, which the schema requires. [schema-mismatch]",)"
+              R"("kind":"check"})"
+              "\n"
+              R"({"file":"data.csv","line":null,"number":5,"level":null,"source":null,)"
+              R"("message":"1 record failed; 0 documents were written","kind":"raised"})"
+              "\n");
+}
+
+TEST_F(SchemaTest, IsNotReplacedByADocument) {
+    writeSchema();
+    const std::string before = folder.read("schema.json");
+    folder.write("data.csv", "title,lines\nschema,\n");
+    const ProgramResult result = run({"render", "--data", "data.csv", "--schema", "schema.json",
+                                      "--each", "-o", "{{title}}.json", "a.rtfspec"});
+    EXPECT_THAT(result.errors, HasSubstr("the document would replace schema.json"));
+    EXPECT_EQ(folder.read("schema.json"), before);
 }
 
 TEST_F(SchemaTest, GoesWithDataOnly) {
