@@ -194,11 +194,21 @@ void RecordsRendering::stopAfter(const RenderEvents& events) {
     }
 }
 
+/// No record is in the range that was asked for.
+bool RecordsRendering::isBeyondData() const {
+    const std::optional<std::size_t> count = input_->count();
+    return options_.records != RecordRange() && count && *count < options_.records.first;
+}
+
 void RecordsRendering::summarize() {
     if (failed_ > 0) {
         means_.report.fail(refusal(
             dataName(), counted(failed_, "record") + " failed; " + counted(written_, "document") +
                             (written_ == 1 ? " was" : " were") + " written"));
+    } else if (isBeyondData()) {
+        fail(refusal(dataName(), "the data has " + counted(*input_->count(), "record") +
+                                     "; --records begins with " +
+                                     std::to_string(options_.records.first)));
     } else if (means_.receivers.note) {
         means_.receivers.note(counted(written_, "document") + (written_ == 1 ? " was" : " were") +
                               " written");

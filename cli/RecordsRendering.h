@@ -62,6 +62,7 @@ private:
     bool work(Thread& thread, std::size_t number);
     void deliver(std::size_t number);
     void stopAfter(const RenderEvents& events);
+    bool isBeyondData() const;
     void summarize();
     void failReport(const RtfError& error);
     void closeReport();

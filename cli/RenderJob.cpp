@@ -65,8 +65,7 @@ ExitStatus RenderJob::run() {
 
 ExitStatus RenderJob::renderRecords() {
     RecordsRendering rendering(options_, {manner_, platform_, report_, receivers_});
-    if (const std::string folder = rendering.commonFolder();
-        !folder.empty() && !prepareFolder(folder)) {
+    if (!prepareFolder(rendering.commonFolder())) {
         return ExitStatus::Failure;
     }
     const ExitStatus status = readStyleSheet();

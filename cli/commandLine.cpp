@@ -798,9 +798,7 @@ void requireOneInput(const std::optional<std::string>& data,
 /// Throws a `UsageError` for options that do not suit each other.
 void requireUseOfData(const RenderOptions& options) {
     const bool isEach = options.dataUse == DataUse::Each;
-    const RecordRange all;
-    if (!isEach && (options.report || options.records.first != all.first ||
-                    options.records.last != all.last)) {
+    if (!isEach && (options.report || options.records != RecordRange())) {
         throw UsageError("--report and --records are for records; add --each");
     }
     if (!isEach && options.makesOutputFolder && !options.outputFolder) {
