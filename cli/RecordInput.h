@@ -26,11 +26,15 @@ public:
     /// How many records the data has; no value while its end has not been read.
     std::optional<std::size_t> count() const;
 
+    /// False for CSV, whose values are as offices write them.
+    bool areJson() const noexcept { return areJson_; }
+
 private:
     bool passBefore();
 
     RecordRange range_;
     data::RecordsText text_;
+    bool areJson_;
     std::unique_ptr<data::RecordValues> values_;
     // Of the record that was read last.
     std::size_t number_ = 0;
