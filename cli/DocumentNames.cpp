@@ -1,13 +1,14 @@
 #include "cli/DocumentNames.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
 #include <filesystem>
-#include <optional>
+#include <limits>
 #include <utility>
 
 #include "cli/UsageError.h"
 #include "cli/fileFailure.h"
-#include "data/fileName.h"
 #include "data/letterCase.h"
 #include "data/templateCheck.h"
 #include "quorvane/base/platform/utf8Path.h"
@@ -50,48 +51,47 @@ data::Template patternOf(const RenderOptions& options) {
     return pattern;
 }
 
-/// True for a name whose only tag is the number of the record.
-bool isNumbered(const data::Template& pattern) {
-    const data::TemplateQuery& query = pattern.queries.front();
-    return pattern.queries.size() == 1 && query.query.filters.empty() &&
-           query.query.path.kind == data::TagPath::Kind::Index &&
-           std::ranges::none_of(pattern.steps, [](const data::TemplateStep& step) {
-               return step.kind == data::TemplateStep::Kind::Section;
-           });
+// The number of a file that no record gets, and that of records whose own is too large.
+constexpr std::uint32_t excluded = 0;
+constexpr std::uint32_t later = std::numeric_limits<std::uint32_t>::max();
+
+std::uint32_t ownerOf(const NumberedRecord& record) {
+    return static_cast<std::uint32_t>(std::min<std::size_t>(record.number, later));
+}
+
+std::string ownerText(std::uint32_t owner) {
+    return owner == later ? "an earlier record" : "record " + std::to_string(owner);
 }
 
 }  // namespace
 
 DocumentNames::DocumentNames(const RenderOptions& options, const data::Locale& locale)
-    : description_(options.descriptions.front()),
-      guard_(options),
-      pattern_(patternOf(options)),
-      filling_(pattern_, locale),
-      areNumbered_(isNumbered(pattern_)) {}
+    : guard_(options), pattern_(patternOf(options)), filling_(pattern_, locale) {}
 
 std::string DocumentNames::commonFolder() const {
     const std::string& pattern = pattern_.sources.front().text;
     const std::string fixed = pattern.substr(0, pattern.find(opening));
-    return utf8FromPath(pathFromUtf8(fixed).parent_path());
+    const std::string folder = utf8FromPath(pathFromUtf8(fixed).parent_path());
+    return folder.empty() ? "." : folder;
 }
 
 std::string DocumentNames::nameFor(const NumberedRecord& record, RenderReport& report) {
-    std::string name;
+    data::SafeFileName name;
     try {
         name = filledName(record, report);
-        if (!name.empty()) {
-            require(name);
+        if (!name.path.empty()) {
+            require(name, record);
         }
-        return name;
+        return name.path;
     } catch (const UsageError& error) {
-        report.fail(refusal(name, error.what()));
+        report.fail(refusal(name.path, error.what()));
     } catch (const RtfError& error) {
-        report.fail(fileFailure(name, error));
+        report.fail(fileFailure(name.path, error));
     }
     return {};
 }
 
-std::string DocumentNames::filledName(const NumberedRecord& record, RenderReport& report) {
+data::SafeFileName DocumentNames::filledName(const NumberedRecord& record, RenderReport& report) {
     std::vector<data::TemplateError> errors;
     const std::vector<SourceLine>& lines = filling_.fill(record.value, errors, record.number);
     if (errors.empty()) {
@@ -104,17 +104,19 @@ std::string DocumentNames::filledName(const NumberedRecord& record, RenderReport
     return {};
 }
 
-void DocumentNames::require(const std::string& name) {
-    guard_.require(name, "the document");
-    if (!areNumbered_ && !seen_.add(data::lowerCaseText(name))) {
-        throw UsageError("another record has a document of this name");
+void DocumentNames::require(const data::SafeFileName& name, const NumberedRecord& record) {
+    const std::string file = guard_.require(name.path, "the document");
+    if (const auto owner = seen_.add(data::lowerCaseText(file), ownerOf(record))) {
+        const std::string what =
+            *owner == excluded ? excludedUse_ : "the document of " + ownerText(*owner);
+        throw UsageError(what + " already goes to this file" +
+                         (name.isShortened ? "; a value was shortened for its name" : ""));
     }
 }
 
 void DocumentNames::exclude(const std::string& name, const std::string& what) {
-    guard_.require(name, what);
-    areNumbered_ = false;
-    seen_.add(data::lowerCaseText(name));
+    excludedUse_ = what;
+    seen_.add(data::lowerCaseText(guard_.require(name, what)), excluded);
 }
 
 }  // namespace quorvane::cli

@@ -9,6 +9,7 @@
 #include "cli/SeenNames.h"
 #include "data/Template.h"
 #include "data/TemplateFilling.h"
+#include "data/fileName.h"
 #include "data/locale.h"
 
 namespace quorvane::cli {
@@ -16,14 +17,15 @@ namespace quorvane::cli {
 /// The files that the documents of records go to: --output, filled with each record, or the name of
 /// the description with the number of the record.
 ///
-/// No two records get one file, whether a system tells small letters from capitals or not.
+/// No two records get one file, whether through a link or where a system does not tell small
+/// letters from capitals.
 class DocumentNames {
 public:
     /// Throws a `UsageError` for names with wrong tags, and for names that are the same for all
     /// records.
     DocumentNames(const RenderOptions& options, const data::Locale& locale);
 
-    /// The folder that is in the name of each document; empty for the current one.
+    /// The folder that is in the name of each document; "." for the current one.
     std::string commonFolder() const;
 
     /// The file for the document of a record. Empty for a record that gets none, which is reported.
@@ -34,16 +36,15 @@ public:
     void exclude(const std::string& name, const std::string& what);
 
 private:
-    std::string filledName(const NumberedRecord& record, RenderReport& report);
-    void require(const std::string& name);
+    data::SafeFileName filledName(const NumberedRecord& record, RenderReport& report);
+    void require(const data::SafeFileName& name, const NumberedRecord& record);
 
-    std::string description_;
     OutputGuard guard_;
     data::Template pattern_;
     data::TemplateFilling filling_;
-    // The number of the record makes each name another one.
-    bool areNumbered_ = false;
+    // The files, with the numbers of their records.
     SeenNames seen_;
+    std::string excludedUse_;
 };
 
 }  // namespace quorvane::cli

@@ -6,9 +6,11 @@
 #include "cli/UsageError.h"
 #include "cli/process.h"
 #include "cli/sourceFile.h"
+#include "data/Template.h"
 #include "quorvane/base/platform/followLinks.h"
 #include "quorvane/base/platform/throwUnlessAbsent.h"
 #include "quorvane/base/platform/utf8Path.h"
+#include "quorvane/base/text/textCase.h"
 
 namespace quorvane::cli {
 
@@ -42,7 +44,7 @@ Target targetOf(const std::string& name) {
     return {followLinks(path), status};
 }
 
-/// The description or the stylesheet whose file has another name, which no path shows.
+/// The input whose file has another name, which no path shows.
 const std::string* linkedInput(const std::string& output,
                                const std::map<std::string, std::string>& inputs) {
     std::error_code failure;
@@ -62,10 +64,22 @@ const std::string* linkedInput(const std::string& output,
     return nullptr;
 }
 
+/// What the file is if it is a source; empty otherwise.
+std::string sourceKindOf(const std::string& file) {
+    // The beginning of a partial can be any line.
+    if (lowerCase(utf8FromPath(pathFromUtf8(file).extension())) == data::partialExtension) {
+        return "partial";
+    }
+    const std::optional<CheckedLanguage> language = languageOfSourceFile(file);
+    if (!language) {
+        return {};
+    }
+    return *language == CheckedLanguage::StyleSheet ? "stylesheet" : "description";
+}
+
 void requireNoSource(const std::string& output, const std::string& what) {
-    if (const std::optional<CheckedLanguage> language = languageOfSourceFile(output)) {
-        throw UsageError(what + " would replace " + output + ", which is a " +
-                         (*language == CheckedLanguage::StyleSheet ? "stylesheet" : "description") +
+    if (const std::string kind = sourceKindOf(output); !kind.empty()) {
+        throw UsageError(what + " would replace " + output + ", which is a " + kind +
                          "; name another file, or move that one away");
     }
 }

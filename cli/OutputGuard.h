@@ -31,9 +31,9 @@ public:
     explicit OutputGuard(const RenderOptions& options) : options_(options) {}
 
     /// Throws a `UsageError` when the file is one of those that the options name to be read or,
-    /// unless they allow that, any other description or stylesheet. `what` would be written to it.
-    /// Returns one name for all ways in which the file can be named. Raises an error when it cannot
-    /// be seen what stands there.
+    /// unless they allow that, any other description, stylesheet or partial. `what` would be
+    /// written to it. Returns one name for all ways in which the file can be named. Raises an error
+    /// when it cannot be seen what stands there.
     std::string require(const std::string& output, const std::string& what);
 
 private:

@@ -34,6 +34,7 @@ bool RecordInput::next(NumberedRecord& record) {
     try {
         const bool isThere = passBefore() && values_->next(record.value);
         number_ += isThere ? 1 : 0;
+        isEnded_ = !isThere;
         record.number = number_;
         record.line = values_->line();
         return isThere;
@@ -44,6 +45,10 @@ bool RecordInput::next(NumberedRecord& record) {
         isEnded_ = !error.canGoOn;
         throw;
     }
+}
+
+std::optional<std::size_t> RecordInput::count() const {
+    return isEnded_ ? std::optional(number_) : std::nullopt;
 }
 
 }  // namespace quorvane::cli

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "cli/NumberedRecord.h"
@@ -21,6 +22,9 @@ public:
     /// Reads the next record of the range; false at its end. A `RecordError` for a record that
     /// cannot be read; `record` has its number and its line then. Throws `UnreadableInput`.
     bool next(NumberedRecord& record);
+
+    /// How many records the data has; no value while its end has not been read.
+    std::optional<std::size_t> count() const;
 
     /// False for CSV, whose values are as offices write them.
     bool areJson() const noexcept { return areJson_; }

@@ -9,6 +9,8 @@ namespace quorvane::cli {
 struct RecordRange {
     std::size_t first = 1;
     std::size_t last = std::numeric_limits<std::size_t>::max();
+
+    bool operator==(const RecordRange&) const = default;
 };
 
 }  // namespace quorvane::cli

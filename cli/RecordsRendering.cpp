@@ -261,10 +261,20 @@ std::string RecordsRendering::written() const {
                             : "nothing was written";
 }
 
+/// No record is in the range that was asked for.
+bool RecordsRendering::isBeyondData() const {
+    const std::optional<std::size_t> count = input_->count();
+    return options_.records != RecordRange() && count && *count < options_.records.first;
+}
+
 void RecordsRendering::summarize() {
     if (failed_ > 0) {
         means_.report.fail(
             refusal(dataName(), counted(failed_, "record") + " failed; " + written()));
+    } else if (isBeyondData()) {
+        fail(refusal(dataName(), "the data has " + counted(*input_->count(), "record") +
+                                     "; --records begins with " +
+                                     std::to_string(options_.records.first)));
     } else if (joined_ && written_ == 0) {
         status_ = std::max(status_, ExitStatus::ContentErrors);
         means_.report.fail(refusal(dataName(), "there are no records; nothing was written"));

@@ -70,6 +70,7 @@ private:
     void finishJoined();
     void requireReport();
     std::string written() const;
+    bool isBeyondData() const;
     void summarize();
     void failReport(const RtfError& error);
     void closeReport();

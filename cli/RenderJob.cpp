@@ -72,8 +72,7 @@ ExitStatus RenderJob::renderRecords() {
     }
     RecordsRendering rendering(options_, {manner_, platform_, report_, receivers_},
                                schema_ ? &*schema_->schema : nullptr);
-    if (const std::string folder = rendering.commonFolder();
-        !folder.empty() && !prepareFolder(folder)) {
+    if (!prepareFolder(rendering.commonFolder())) {
         return ExitStatus::Failure;
     }
     const ExitStatus status = readStyleSheet();

@@ -23,34 +23,39 @@ std::uint64_t hashOf(std::string_view name) {
 
 }  // namespace
 
-bool SeenNames::add(std::string_view name) {
-    constexpr std::size_t fullness = 8;
-    if (count_ > slots_.size() - slots_.size() / fullness) {
-        grow();
+std::size_t SeenNames::Slots::find(std::uint64_t hash) const {
+    const std::size_t mask = hashes.size() - 1;
+    std::size_t slot = static_cast<std::size_t>(hash) & mask;
+    while (hashes[slot] != 0 && hashes[slot] != hash) {
+        slot = (slot + 1) & mask;
     }
-    const bool isNew = put(hashOf(name));
-    count_ += isNew ? 1 : 0;
-    return isNew;
+    return slot;
 }
 
-bool SeenNames::put(std::uint64_t hash) {
-    std::size_t slot = hash & (slots_.size() - 1);
-    while (slots_[slot] != 0) {
-        if (slots_[slot] == hash) {
-            return false;
-        }
-        slot = (slot + 1) & (slots_.size() - 1);
+std::optional<std::uint32_t> SeenNames::add(std::string_view name, std::uint32_t number) {
+    constexpr std::size_t fullness = 8;
+    const std::size_t size = slots_.hashes.size();
+    if (count_ > size - size / fullness) {
+        grow();
     }
-    slots_[slot] = hash;
-    return true;
+    const std::uint64_t hash = hashOf(name);
+    const std::size_t slot = slots_.find(hash);
+    if (slots_.hashes[slot] == hash) {
+        return slots_.numbers[slot];
+    }
+    slots_.hashes[slot] = hash;
+    slots_.numbers[slot] = number;
+    ++count_;
+    return std::nullopt;
 }
 
 void SeenNames::grow() {
-    const std::vector<std::uint64_t> before =
-        std::exchange(slots_, std::vector<std::uint64_t>(2 * slots_.size()));
-    for (const std::uint64_t hash : before) {
-        if (hash != 0) {
-            put(hash);
+    const Slots before = std::exchange(slots_, Slots(2 * slots_.hashes.size()));
+    for (std::size_t i = 0; i < before.hashes.size(); ++i) {
+        if (before.hashes[i] != 0) {
+            const std::size_t slot = slots_.find(before.hashes[i]);
+            slots_.hashes[slot] = before.hashes[i];
+            slots_.numbers[slot] = before.numbers[i];
         }
     }
 }

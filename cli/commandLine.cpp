@@ -805,9 +805,7 @@ void requireOneInput(const std::optional<std::string>& data,
 void requireUseOfData(const RenderOptions& options) {
     const bool isEach = options.dataUse != DataUse::Whole;
     const bool isJoined = options.dataUse == DataUse::Join;
-    const RecordRange all;
-    if (!isEach && (options.report || options.records.first != all.first ||
-                    options.records.last != all.last)) {
+    if (!isEach && (options.report || options.records != RecordRange())) {
         throw UsageError("--report and --records are for records; add --each or --join");
     }
     if (!isEach && options.makesOutputFolder && !options.outputFolder) {

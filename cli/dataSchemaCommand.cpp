@@ -1,16 +1,14 @@
 #include "cli/dataSchemaCommand.h"
 
-#include <algorithm>
-#include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "cli/DiagnosticExcerpt.h"
+#include "cli/OutputGuard.h"
 #include "cli/RenderOptions.h"
 #include "cli/TemplateFiles.h"
-#include "cli/UsageError.h"
 #include "cli/colors.h"
 #include "cli/diagnosticText.h"
 #include "cli/errorText.h"
@@ -22,7 +20,6 @@
 #include "data/templateSchema.h"
 #include "quorvane/base/platform/Platform.h"
 #include "quorvane/base/platform/fileReplacement.h"
-#include "quorvane/base/platform/utf8Path.h"
 #include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/diagnostics/textFile.h"
 
@@ -39,14 +36,11 @@ void report(const std::string& file, const Diagnostic& diagnostic, const FileWin
                                         wantedColors(standardErrorColumns() > 0)));
 }
 
-void requireNewOutput(const std::optional<std::string>& output) {
-    constexpr std::string_view sources[] = {".rtfspec", ".rtfpart", ".rtfss"};
-    if (output &&
-        std::any_of(std::begin(sources), std::end(sources),
-                    [&](std::string_view extension) { return output->ends_with(extension); })) {
-        throw UsageError(*output +
-                         " is not a name for a schema; write one such as data.schema.json");
-    }
+/// Throws a `UsageError` for an output that would replace the template or another source.
+void requireNewOutput(const std::string& description, const std::string& output) {
+    RenderOptions files;
+    files.descriptions = {description};
+    OutputGuard(files).require(output, "the schema");
 }
 
 /// The schema of the template with these bytes; empty where something is wrong, which is reported.
@@ -75,10 +69,10 @@ std::string schemaOf(const std::string& path, const std::string& shownName, std:
     return schema;
 }
 
-void write(const std::string& text, const std::optional<std::string>& path) {
-    const std::unique_ptr<OutputFile> output = path && *path != standardStream
-                                                   ? openReplacement(*path, unfinishedFileWatch())
-                                                   : openStandardOutput();
+void write(const std::string& text, const std::string& path) {
+    const std::unique_ptr<OutputFile> output = path == standardStream
+                                                   ? openStandardOutput()
+                                                   : openReplacement(path, unfinishedFileWatch());
     output->write(text);
     output->close();
 }
@@ -86,7 +80,16 @@ void write(const std::string& text, const std::optional<std::string>& path) {
 }  // namespace
 
 ExitStatus writeDataSchema(const DataSchemaOptions& options) {
-    requireNewOutput(options.output);
+    const std::string output = options.output.value_or(standardStream);
+    const auto reportOutput = [&](const RtfError& error) {
+        report(fileFailure(output == standardStream ? "<stdout>" : output, error));
+        return ExitStatus::Failure;
+    };
+    try {
+        requireNewOutput(options.description, output);
+    } catch (const RtfError& error) {
+        return reportOutput(error);
+    }
     const std::string& path = options.description;
     const bool isStream = path == standardStream;
     const std::string shownName = isStream ? "<stdin>" : path;
@@ -102,12 +105,9 @@ ExitStatus writeDataSchema(const DataSchemaOptions& options) {
         return ExitStatus::ContentErrors;
     }
     try {
-        write(schema, options.output);
+        write(schema, output);
     } catch (const RtfError& error) {
-        report(fileFailure(
-            !options.output || *options.output == standardStream ? "<stdout>" : *options.output,
-            error));
-        return ExitStatus::Failure;
+        return reportOutput(error);
     }
     return ExitStatus::Success;
 }

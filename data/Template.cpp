@@ -349,8 +349,8 @@ private:
     }
 
     static std::string fileNameOf(std::string_view name) {
-        constexpr std::string_view extension = ".rtfpart";
-        return std::string(name) + (name.ends_with(extension) ? "" : std::string(extension));
+        return std::string(name) +
+               (name.ends_with(partialExtension) ? "" : std::string(partialExtension));
     }
 
     std::optional<std::size_t> addQuery(const TemplateTag& tag, const LeafContext& leaf) {

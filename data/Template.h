@@ -15,6 +15,9 @@
 
 namespace quorvane::data {
 
+/// Of the files of partials.
+inline constexpr std::string_view partialExtension = ".rtfpart";
+
 /// What a value is put into, which decides what it can hold.
 enum class ValueUse : std::uint8_t {
     /// A text that is shown: anything that a document can show.

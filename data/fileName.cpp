@@ -77,9 +77,10 @@ bool isDevice(std::string_view stem) {
 /// Puts the names of the path together, one after the other.
 class SafeName {
 public:
-    explicit SafeName(const FilledValue& filled) : filled_(filled) {}
+    explicit SafeName(const FilledValue& filled)
+        : filled_(filled), firstTag_(filled.written.find("{{")) {}
 
-    std::string make() {
+    SafeFileName make() {
         std::size_t at = 0;
         for (const TextRange& range : filled_.data) {
             addWritten(filled_.text.substr(at, range.begin - at));
@@ -88,7 +89,10 @@ public:
         }
         addWritten(filled_.text.substr(at));
         endName();
-        return std::move(path_);
+        if (path_ == "-") {
+            path_ = "_";
+        }
+        return {std::move(path_), isShortened_};
     }
 
 private:
@@ -106,7 +110,9 @@ private:
     }
 
     void addValue(const TextRange& range) {
-        std::string value = safeValue(filled_.text.substr(range.begin, range.end - range.begin));
+        const std::string_view whole = filled_.text.substr(range.begin, range.end - range.begin);
+        isShortened_ = isShortened_ || whole.size() > longestValue;
+        std::string value = safeValue(whole);
         const bool begins = path_.size() == begin_;
         const bool ends = range.end == filled_.text.size() || isSeparator(filled_.text[range.end]);
         if (begins && value.empty()) {
@@ -122,7 +128,18 @@ private:
         holdsValue_ = true;
     }
 
+    /// Values or sections can have made the name one that leads into another folder, or no name in
+    /// front of all others, which is the folder of all folders.
+    bool leadsAway() const {
+        const std::string_view name = std::string_view(path_).substr(begin_);
+        return path_.size() >= firstTag_ && std::ranges::all_of(name, isBlankOrDot) &&
+               (!name.empty() || std::ranges::all_of(path_, isSeparator));
+    }
+
     void endName() {
+        if (leadsAway()) {
+            path_ += '_';
+        }
         if (!holdsValue_) {
             return;
         }
@@ -143,11 +160,14 @@ private:
     // Where the name begins that is being put together.
     std::size_t begin_ = 0;
     bool holdsValue_ = false;
+    // Before it, the path is as it is written.
+    std::size_t firstTag_;
+    bool isShortened_ = false;
 };
 
 }  // namespace
 
-std::string safeFileName(const FilledValue& filled) {
+SafeFileName safeFileName(const FilledValue& filled) {
     return SafeName(filled).make();
 }
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <optional>
 #include <string>
 
 namespace quorvane::cli {
@@ -9,21 +11,21 @@ namespace {
 
 TEST(SeenNames, AreKnownTheSecondTime) {
     SeenNames names;
-    EXPECT_TRUE(names.add("a"));
-    EXPECT_TRUE(names.add(""));
-    EXPECT_TRUE(names.add("b"));
-    EXPECT_FALSE(names.add("a"));
-    EXPECT_FALSE(names.add(""));
+    EXPECT_EQ(names.add("a", 1), std::nullopt);
+    EXPECT_EQ(names.add("", 2), std::nullopt);
+    EXPECT_EQ(names.add("b", 3), std::nullopt);
+    EXPECT_EQ(names.add("a", 4), 1U);
+    EXPECT_EQ(names.add("", 5), 2U);
 }
 
 TEST(SeenNames, AreKnownAmongMany) {
     SeenNames names;
-    constexpr int count = 100'000;
-    for (int i = 0; i < count; ++i) {
-        ASSERT_TRUE(names.add("out/" + std::to_string(i) + ".rtf")) << i;
+    constexpr std::uint32_t count = 100'000;
+    for (std::uint32_t i = 0; i < count; ++i) {
+        ASSERT_EQ(names.add("out/" + std::to_string(i) + ".rtf", i), std::nullopt);
     }
-    for (int i = 0; i < count; ++i) {
-        ASSERT_FALSE(names.add("out/" + std::to_string(i) + ".rtf")) << i;
+    for (std::uint32_t i = 0; i < count; ++i) {
+        ASSERT_EQ(names.add("out/" + std::to_string(i) + ".rtf", count), i);
     }
 }
 

@@ -133,11 +133,67 @@ TEST_F(RecordsTest, WithOneNameAreAnErrorAndNothingIsOverwritten) {
     const ProgramResult result =
         run({"--data", "a.csv", "--each", "-o", "{{name}}.rtf", "letter.rtfspec"});
     EXPECT_EQ(result.errors,
-              "X_Y.rtf: record 2: another record has a document of this name\n"
+              "X_Y.rtf: record 2: the document of record 1 already goes to this file\n"
               "a.csv: 1 record failed; 1 document was written\n");
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(folder.read("x_y.rtf"), HasSubstr("1: Dear x:y,"));
     EXPECT_FALSE(folder.has("X_Y.rtf"));
+}
+
+TEST_F(RecordsTest, WithOneShortenedNameAreAnError) {
+    const std::string name(120, 'a');
+    folder.write("a.csv", "name\n" + name + "b\n" + name + "c\n");
+    EXPECT_EQ(run({"--data", "a.csv", "--each", "-o", "{{name}}.rtf", "letter.rtfspec"}).errors,
+              name +
+                  ".rtf: record 2: the document of record 1 already goes to this file; a value "
+                  "was shortened for its name\n"
+                  "a.csv: 1 record failed; 1 document was written\n");
+}
+
+TEST_F(RecordsTest, WithOneFileThroughALinkAreAnError) {
+    std::filesystem::create_symlink("letter-2.rtf", folder.path() / "letter-1.rtf");
+    EXPECT_EQ(run({"--data", "good.json", "--each", "letter.rtfspec"}).errors,
+              "letter-2.rtf: record 2: the document of record 1 already goes to this file\n"
+              "good.json: 1 record failed; 2 documents were written\n");
+    EXPECT_THAT(folder.read("letter-2.rtf"), HasSubstr("1: Dear Ann,"));
+}
+
+TEST_F(RecordsTest, WithOneFolderThroughALinkAreAnError) {
+    std::filesystem::create_directory(folder.path() / "Ann");
+    std::filesystem::create_directory_symlink("Ann", folder.path() / "Bob");
+    EXPECT_EQ(
+        run({"--data", "good.json", "--each", "--mkdir", "-o", "{{name}}/a.rtf", "letter.rtfspec"})
+            .errors,
+        "Bob/a.rtf: record 2: the document of record 1 already goes to this file\n"
+        "good.json: 1 record failed; 2 documents were written\n");
+    EXPECT_THAT(folder.read("Ann/a.rtf"), HasSubstr("1: Dear Ann,"));
+}
+
+TEST_F(RecordsTest, DoNotReplaceTheReport) {
+    std::filesystem::create_directory(folder.path() / "out");
+    for (const std::string report : {"out/Ann.rtf", "out/./ANN.rtf", "out/../out//Ann.rtf"}) {
+        const ProgramResult result = run({"--data", "good.json", "--each", "-o", "out/{{name}}.rtf",
+                                          "--report", report, "letter.rtfspec"});
+        EXPECT_EQ(result.errors,
+                  "out/Ann.rtf: record 1: the report already goes to this file\n"
+                  "good.json: 1 record failed; 2 documents were written\n");
+        EXPECT_THAT(folder.read(report), HasSubstr(R"({"record":1,"line":1,"status":"failed")"));
+    }
+}
+
+TEST_F(RecordsTest, StayInTheFolderThatIsWritten) {
+    folder.write("a.csv", "name,x\n-,\n");
+    const auto write = [&](const std::string& name) {
+        const ProgramResult result =
+            run({"--data", "a.csv", "--each", "--mkdir", "-o", name, "letter.rtfspec"});
+        EXPECT_EQ(result.output, "");
+        EXPECT_EQ(result.errors, "1 document was written\n");
+    };
+    write("{{name}}");
+    EXPECT_THAT(folder.read("_"), HasSubstr("1: Dear -,"));
+    write("out/..{{x}}/a.rtf");
+    EXPECT_THAT(folder.read("out/.._/a.rtf"), HasSubstr("1: Dear -,"));
+    EXPECT_FALSE(folder.has("a.rtf"));
 }
 
 TEST_F(RecordsTest, ReplaceTheDocumentsOfAnEarlierRun) {
@@ -174,8 +230,23 @@ TEST_F(RecordsTest, CanBeARangeOfThem) {
     EXPECT_THAT(folder.names(), Not(testing::Contains("letter-1.rtf")));
     EXPECT_THAT(folder.read("letter-2.rtf"), HasSubstr("2: Dear Bob,"));
     EXPECT_THAT(folder.read("letter-3.rtf"), HasSubstr("3: Dear Cleo,"));
-    EXPECT_EQ(run({"--data", "good.json", "--each", "--records=4-9", "letter.rtfspec"}).errors,
-              "0 documents were written\n");
+}
+
+TEST_F(RecordsTest, BeyondTheDataAreAnError) {
+    const ProgramResult result =
+        run({"--data", "good.json", "--each", "--records=4-9", "letter.rtfspec"});
+    EXPECT_EQ(result.errors, "good.json: the data has 3 records; --records begins with 4\n");
+    EXPECT_EQ(result.status, 2);
+    folder.write("none.jsonl", "");
+    EXPECT_EQ(run({"--data", "none.jsonl", "--each", "--records=1-9", "letter.rtfspec"}).errors,
+              "none.jsonl: the data has 0 records; --records begins with 1\n");
+}
+
+TEST_F(RecordsTest, CanBeNone) {
+    folder.write("none.jsonl", "");
+    const ProgramResult result = run({"--data", "none.jsonl", "--each", "letter.rtfspec"});
+    EXPECT_EQ(result.errors, "0 documents were written\n");
+    EXPECT_EQ(result.status, 0);
 }
 
 TEST_F(RecordsTest, BeforeARangeAreNotLookedAtUnlessTheyEndTheData) {

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <filesystem>
 #include <nlohmann/json.hpp>
 #include <string>
 
@@ -62,11 +63,36 @@ TEST_F(SchemaTest, IsNotWrittenForATemplateWithErrors) {
 }
 
 TEST_F(SchemaTest, DoesNotTakeThePlaceOfASource) {
-    const std::string before = folder.read("a.rtfspec");
-    const ProgramResult result = run({"data-schema", "a.rtfspec", "-o", "a.rtfspec"});
+    const std::string source = folder.read("a.rtfspec");
+    folder.write("letter.txt", source);
+    folder.write("names.RTFPART", "{{#names}}\n{{/names}}\n");
+    std::filesystem::create_symlink("letter.txt", folder.path() / "link.json");
+    const auto errorFor = [&](const std::string& output) {
+        const ProgramResult result = run({"data-schema", "letter.txt", "-o", output});
+        EXPECT_EQ(result.status, 2);
+        return result.errors.substr(0, result.errors.find('\n'));
+    };
+    EXPECT_EQ(errorFor("letter.txt"), "quorvane: the schema would replace letter.txt");
+    EXPECT_EQ(errorFor("./letter.txt"), "quorvane: the schema would replace letter.txt");
+    EXPECT_EQ(errorFor("link.json"), "quorvane: the schema would replace letter.txt");
+    EXPECT_EQ(errorFor("a.rtfspec"),
+              "quorvane: the schema would replace a.rtfspec, which is a description; name another "
+              "file, or move that one away");
+    EXPECT_EQ(errorFor("names.RTFPART"),
+              "quorvane: the schema would replace names.RTFPART, which is a partial; name another "
+              "file, or move that one away");
+    EXPECT_EQ(folder.read("letter.txt"), source);
+    EXPECT_EQ(folder.read("a.rtfspec"), source);
+}
+
+TEST_F(SchemaTest, IsNotReplacedByADocumentOfItsData) {
+    const std::string schema = writeSchema();
+    const ProgramResult result = run({"render", "--data", "right.json", "--schema", "schema.json",
+                                      "-o", "schema.json", "a.rtfspec"});
     EXPECT_EQ(result.status, 2);
-    EXPECT_THAT(result.errors, HasSubstr("a.rtfspec is not a name for a schema"));
-    EXPECT_EQ(folder.read("a.rtfspec"), before);
+    EXPECT_THAT(result.errors,
+                StartsWith("quorvane: the document of a.rtfspec would replace schema.json\n"));
+    EXPECT_EQ(folder.read("schema.json"), schema);
 }
 
 TEST_F(SchemaTest, NeedsATemplateThatCanBeRead) {

@@ -27,7 +27,7 @@ std::string nameOf(const std::string& pattern, const std::string& x, std::size_t
     if (errors.empty()) {
         lines = &filling.fill(record, errors, number);
     }
-    return errors.empty() ? safeFileName(*lines->front().filled) : errors.front().message;
+    return errors.empty() ? safeFileName(*lines->front().filled).path : errors.front().message;
 }
 
 TEST(FileName, IsFilledWithValues) {
@@ -45,6 +45,31 @@ TEST(FileName, HasNothingOfAValueThatNamesAFolder) {
     EXPECT_EQ(nameOf("out/{{x}}/a.rtf", ""), "out/_/a.rtf");
     EXPECT_EQ(nameOf("{{x}}/a.rtf", "/"), "_/a.rtf");
     EXPECT_EQ(nameOf("{{x}}.rtf", "C:\\a"), "C__a.rtf");
+}
+
+TEST(FileName, DoesNotBecomeAFolderAboveThroughAValue) {
+    EXPECT_EQ(nameOf("out/..{{x}}/a.rtf", ""), "out/.._/a.rtf");
+    EXPECT_EQ(nameOf("out/.{{x}}./a.rtf", ""), "out/.._/a.rtf");
+    EXPECT_EQ(nameOf("out/.{{x}}/a.rtf", ""), "out/._/a.rtf");
+    EXPECT_EQ(nameOf("out\\.. {{x}}\\a.rtf", ""), "out\\.. _\\a.rtf");
+    EXPECT_EQ(nameOf("..{{x}}", ""), ".._");
+    EXPECT_EQ(nameOf("..{{x}}/a.rtf", "b"), "..b/a.rtf");
+}
+
+TEST(FileName, DoesNotLeadAwayThroughASection) {
+    EXPECT_EQ(nameOf("out/..{{#x}}b{{/x}}/a.rtf", ""), "out/.._/a.rtf");
+    EXPECT_EQ(nameOf("{{#x}}out{{/x}}/a.rtf", ""), "_/a.rtf");
+    EXPECT_EQ(nameOf("{{#x}}out{{/x}}//a.rtf", ""), "_//a.rtf");
+    EXPECT_EQ(nameOf("/{{#x}}out{{/x}}/a.rtf", ""), "/_/a.rtf");
+    EXPECT_EQ(nameOf("{{#x}}a.rtf{{/x}}", ""), "_");
+    EXPECT_EQ(nameOf("out/{{#x}}b/{{/x}}/a.rtf", ""), "out//a.rtf");
+}
+
+TEST(FileName, IsNotThatOfStandardOutput) {
+    EXPECT_EQ(nameOf("{{x}}", "-"), "_");
+    EXPECT_EQ(nameOf("-{{x}}", ""), "_");
+    EXPECT_EQ(nameOf("out/{{x}}", "-"), "out/-");
+    EXPECT_EQ(nameOf("{{x}}.rtf", "-"), "-.rtf");
 }
 
 TEST(FileName, HasNoCharactersThatASystemRefuses) {
@@ -72,6 +97,8 @@ TEST(FileName, IsNotThatOfADevice) {
 
 TEST(FileName, KeepsWhatIsWrittenOutsideTheTags) {
     EXPECT_EQ(nameOf("../a:b/.{{x}}.", "1"), "../a:b/.1.");
+    EXPECT_EQ(nameOf("./../{{x}}", "1"), "./../1");
+    EXPECT_EQ(nameOf("/{{x}}", "1"), "/1");
     EXPECT_EQ(nameOf("con/{{x}}", "1"), "con/1");
 }
 
