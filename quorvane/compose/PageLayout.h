@@ -54,7 +54,6 @@ private:
     void applyPage();
     void applyColumns();
     void apply(const RowColumns& columns);
-    std::vector<std::int32_t> twipsOf(const Widths& widths) const;
     void spreadRows();
 
     CRtfDoc& document_;
