@@ -218,6 +218,14 @@ TEST(Table, ReportsAFileThatCannotBeWritten) {
     EXPECT_EQ(quorvane_table_begin(table.get()), QUORVANE_OK);
 }
 
+TEST(Table, RefusesAnEmptyPathBeforeThereAreRows) {
+    const TableHandle table = tableOfTwo();
+    EXPECT_EQ(quorvane_table_begin_file(table.get(), QUORVANE_TEXT("")), QUORVANE_FILE_ERROR);
+    EXPECT_EQ(errorOf(table), "unwritable-file: No such file or directory");
+    EXPECT_EQ(quorvane_table_begin_file(table.get(), nullptr, 0), QUORVANE_FILE_ERROR);
+    EXPECT_EQ(quorvane_table_begin(table.get()), QUORVANE_OK);
+}
+
 TEST(Table, ReportsAFullDisk) {
     if (!std::filesystem::exists("/dev/full")) {
         GTEST_SKIP() << "this system has no /dev/full";
