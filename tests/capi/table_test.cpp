@@ -115,6 +115,18 @@ TEST(Table, AddsManyRowsInOneCall) {
               }));
 }
 
+TEST(Table, AddsNoRowsOfAnyNumberOfCells) {
+    const TableHandle table = tableOfTwo();
+    quorvane_table_begin(table.get());
+    size_t added = 9;
+    EXPECT_EQ(quorvane_table_add_rows(table.get(), nullptr, 0, SIZE_MAX / 16, 0, &added),
+              QUORVANE_OK);
+    EXPECT_EQ(quorvane_table_add_rows(table.get(), nullptr, 0, SIZE_MAX, 0, &added), QUORVANE_OK);
+    EXPECT_EQ(added, 0U);
+    quorvane_table_finish(table.get());
+    EXPECT_EQ(taken(table), written(twoColumns, [](TableWriter&) {}));
+}
+
 TEST(Table, AddsNoRowOfTextsThatDoNotFit) {
     const TableHandle table = tableOfTwo();
     quorvane_table_begin(table.get());
