@@ -51,6 +51,7 @@ private:
     Page& page();
     Page documentPage() const;
     void setPage(const Page& page);
+    void requireKnownColumns() const;
     void applyPage();
     void applyColumns();
     void apply(const RowColumns& columns);
