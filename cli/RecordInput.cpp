@@ -4,19 +4,11 @@
 
 namespace quorvane::cli {
 
-namespace {
-
-std::unique_ptr<data::RecordValues> valuesOf(const std::string& path, data::RecordsText& text) {
-    return areJsonRecords(path, requireText(text), false) ? data::jsonValues(text)
-                                                          : data::csvValues(text, std::nullopt);
-}
-
-}  // namespace
-
 RecordInput::RecordInput(const std::string& path, const RecordRange& range)
     : range_(range),
       text_(openRecords(path), EncodingChoice::Auto),
-      values_(valuesOf(path, text_)) {}
+      areJson_(areJsonRecords(path, requireText(text_), false)),
+      values_(areJson_ ? data::jsonValues(text_) : data::csvValues(text_, std::nullopt)) {}
 
 /// Passes over the records before the range; false if there is none after them.
 bool RecordInput::passBefore() {

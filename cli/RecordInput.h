@@ -22,11 +22,15 @@ public:
     /// cannot be read; `record` has its number and its line then. Throws `UnreadableInput`.
     bool next(NumberedRecord& record);
 
+    /// False for CSV, whose values are as offices write them.
+    bool areJson() const noexcept { return areJson_; }
+
 private:
     bool passBefore();
 
     RecordRange range_;
     data::RecordsText text_;
+    bool areJson_;
     std::unique_ptr<data::RecordValues> values_;
     // Of the record that was read last.
     std::size_t number_ = 0;

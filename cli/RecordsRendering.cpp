@@ -94,6 +94,7 @@ bool RecordsRendering::load() {
 bool RecordsRendering::open() {
     try {
         input_.emplace(*options_.data, options_.records);
+        locale_.readsWritten = !input_->areJson();
     } catch (const UnreadableInput& error) {
         fail(unreadableFile(dataName(), *options_.data, error));
         return false;

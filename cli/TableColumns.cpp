@@ -134,7 +134,8 @@ TableColumns::TableColumns(const TableOptions& options, const std::vector<std::s
                            const std::vector<std::size_t>& blankFields)
     : hasLocale_(options.locale.has_value()),
       locale_(localeOf(options.locale)),
-      areNamed_(options.columns.has_value()) {
+      areNamed_(options.columns.has_value()),
+      totals_(options.totals) {
     if (areNamed_) {
         columns_ = data::columnRequests(*options.columns);
         for (const data::ColumnRequest& column : columns_) {
@@ -145,6 +146,7 @@ TableColumns::TableColumns(const TableOptions& options, const std::vector<std::s
         columns_ = requestsOf(fields_, names);
     }
     signs_.resize(columns_.size());
+    areGuessed_.resize(columns_.size());
     dateOrders_.resize(columns_.size());
     filtered_.resize(columns_.size());
     cells_.resize(columns_.size());
@@ -183,6 +185,9 @@ std::vector<data::ColumnMeasure> TableColumns::measured(const std::vector<TableR
     std::vector<data::ColumnMeasure> measures(columns_.size());
     for (std::size_t i = 0; i < columns_.size(); ++i) {
         measures[i].addHeading(columns_[i].heading.value_or(columns_[i].name));
+        if (std::ranges::count(totals_, columns_[i].name) > 0) {
+            measures[i].addTotal();
+        }
     }
     std::vector<std::string_view> fields;
     for (const TableRecord& record : records) {
@@ -238,6 +243,7 @@ void TableColumns::findSigns(const std::vector<TableRecord>& records, bool areJs
         }
         if (!signs_[i] && readsNumbers(i)) {
             signs_[i] = Point;
+            areGuessed_[i] = true;
         }
     }
 }
@@ -292,6 +298,10 @@ std::string TableColumns::plain(std::size_t column, std::string_view value) cons
     if (!readsNumbers(column) || !signs_[column] || !number || !number->before.empty() ||
         !number->after.empty()) {
         return std::string(value);
+    }
+    if (areGuessed_[column] && data::isAmbiguousNumber(value)) {
+        refuse("\"" + columns_[column].name + "\": \"" + std::string(value) +
+               "\" can be read in two ways. Choose one with --locale, such as en-US or de-DE.");
     }
     const std::optional<std::string> plain = data::plainNumber(*number, *signs_[column]);
     if (!plain && *signs_[column] == data::DecimalSign::Comma) {

@@ -74,10 +74,14 @@ private:
     bool hasLocale_;
     data::Locale locale_;
     bool areNamed_;
+    // The names of the fields that have a total.
+    std::vector<std::string> totals_;
     // The fields that the columns show, by position.
     std::vector<std::size_t> fields_;
     // The decimal signs of the columns.
     std::vector<std::optional<data::DecimalSign>> signs_;
+    // Those that neither the first values nor the locale show.
+    std::vector<bool> areGuessed_;
     // The orders of the dates in them.
     std::vector<std::optional<data::DateOrder>> dateOrders_;
     std::vector<std::string> filtered_;

@@ -42,12 +42,12 @@ struct Column {
 };
 
 std::vector<Column> columnsOf(const std::vector<data::SortRequest>& requests,
-                              const std::vector<std::string>& names) {
+                              const std::vector<std::string>& names, bool areJson) {
     std::vector<Column> columns;
     columns.reserve(requests.size());
     for (const data::SortRequest& request : requests) {
         columns.push_back(
-            {fieldNamed(request.name, names), data::SortColumn(request.isDescending)});
+            {fieldNamed(request.name, names), data::SortColumn(request.isDescending, areJson)});
     }
     return columns;
 }
@@ -65,8 +65,9 @@ TableOrder::TableOrder(const TableOptions& options)
         [&](const data::SortRequest& request) { return request.name == groupBy_; });
 }
 
-void TableOrder::sort(data::KeptRows& rows, const std::vector<std::string>& names) const {
-    std::vector<Column> columns = columnsOf(requests_, names);
+void TableOrder::sort(data::KeptRows& rows, const std::vector<std::string>& names,
+                      bool areJson) const {
+    std::vector<Column> columns = columnsOf(requests_, names, areJson);
     std::vector<std::string_view> fields;
     for (std::size_t i = 0; i < rows.size(); ++i) {
         rows.read(i, fields);

@@ -19,7 +19,7 @@ public:
     explicit TableOrder(const TableOptions& options);
 
     /// Error 5 for a field that is not there, and for one whose values can be read in two ways.
-    void sort(data::KeptRows& rows, const std::vector<std::string>& names) const;
+    void sort(data::KeptRows& rows, const std::vector<std::string>& names, bool areJson) const;
 
 private:
     std::vector<data::SortRequest> requests_;

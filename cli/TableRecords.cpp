@@ -50,7 +50,7 @@ void TableRecords::sort() {
     while (readSource(fields)) {
         sorted_->add(fields, source_->line());
     }
-    asUsage([&] { order.sort(*sorted_, source_->names()); });
+    asUsage([&] { order.sort(*sorted_, source_->names(), areJson_); });
 }
 
 std::vector<std::size_t> TableRecords::blankFields() const {

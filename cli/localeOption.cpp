@@ -13,6 +13,7 @@ data::Locale localeOf(const std::optional<std::string>& option) {
     if (!error.empty()) {
         throw UsageError("--locale: " + error);
     }
+    locale.isChosen = true;
     return locale;
 }
 

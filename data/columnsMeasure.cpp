@@ -154,7 +154,10 @@ void ColumnMeasure::addHeading(std::string_view text) {
 }
 
 double ColumnMeasure::width(std::size_t headingLines) const {
-    return std::max(cellWidth_, wrappedWidth(heading_, headingLines));
+    // A thousand times as much as a cell, and a little more.
+    constexpr double moreDigits = 4 * usualWidth + narrowWidth;
+    const double total = (cellWidth_ - padding + moreDigits * fontSize) * boldFactor + padding;
+    return std::max(hasTotal_ ? total : cellWidth_, wrappedWidth(heading_, headingLines));
 }
 
 void ColumnMeasure::addCell(std::string_view text) {

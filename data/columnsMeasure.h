@@ -12,6 +12,8 @@ class ColumnMeasure {
 public:
     void addHeading(std::string_view text);
     void addCell(std::string_view text);
+    /// The column ends in a total, which is bold and can have more digits than its cells.
+    void addTotal() { hasTotal_ = true; }
 
     /// The width in twips in which no line of a cell breaks, in the usual font. The heading may
     /// break at its blanks into so many lines.
@@ -24,6 +26,7 @@ public:
 private:
     std::string heading_;
     double cellWidth_ = 0;
+    bool hasTotal_ = false;
     bool hasNumbers_ = false;
     // Cells that are not numbers, and those that are not dates.
     bool hasOthers_ = false;

@@ -136,6 +136,12 @@ std::optional<DecimalSign> shownSign(std::string_view text) {
     return hasPoint ? DecimalSign::Point : DecimalSign::Comma;
 }
 
+bool isAmbiguousNumber(std::string_view text) {
+    const std::optional<WrittenNumber> number = writtenNumber(text);
+    return number && looksLikeNumber(text) && !shownSign(text) &&
+           plainNumber(*number, DecimalSign::Point) != plainNumber(*number, DecimalSign::Comma);
+}
+
 bool looksLikeNumber(std::string_view text) {
     const std::optional<WrittenNumber> number = writtenNumber(text);
     if (!number || (number->digits.size() > 1 && number->digits[0] == '0' &&

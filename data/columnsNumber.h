@@ -36,6 +36,9 @@ std::optional<std::string> plainNumber(const WrittenNumber& number, DecimalSign 
 /// The decimal sign of a number that can be read with one of the two only.
 std::optional<DecimalSign> shownSign(std::string_view text);
 
+/// True for a number that is another one with the other decimal sign, such as 1.250.
+bool isAmbiguousNumber(std::string_view text);
+
 /// True for a number that can be read in one way or the other. A number that begins with a zero,
 /// such as "0017", is a name.
 bool looksLikeNumber(std::string_view text);

@@ -65,8 +65,47 @@ std::string grouped(const std::string& whole, const Locale& locale) {
     return text;
 }
 
+std::string readInTwoWays(std::string_view value, const char* locales) {
+    return quoted(value) + " can be read in two ways; choose one with --locale, such as " + locales;
+}
+
+/// A number as JSON has it.
+FilterResult readNumber(std::string_view value, const Locale& locale) {
+    const std::optional<WrittenNumber> written =
+        locale.readsWritten ? writtenNumber(value) : std::nullopt;
+    const bool hasExponent = value.find_first_of("eE") != std::string_view::npos;
+    if (!written || !written->before.empty() || !written->after.empty() || hasExponent) {
+        return {.text = std::string(value)};
+    }
+    if (!locale.isChosen && isAmbiguousNumber(value)) {
+        return {.error = readInTwoWays(value, "en-US or de-DE")};
+    }
+    const DecimalSign sign =
+        locale.isChosen ? locale.decimalSign() : shownSign(value).value_or(DecimalSign::Point);
+    return {.text = plainNumber(*written, sign).value_or(std::string())};
+}
+
+/// A date as ISO 8601 has it.
+FilterResult readDate(std::string_view value, const Locale& locale) {
+    if (!locale.readsWritten) {
+        return {.text = std::string(value)};
+    }
+    if (!locale.isChosen && isAmbiguousDate(value)) {
+        return {.error = readInTwoWays(value, "en-GB or en-US")};
+    }
+    const std::optional<DateOrder> order =
+        locale.isChosen ? locale.dateOrder : shownDateOrder(value);
+    return {
+        .text =
+            isoDate(value, order.value_or(DateOrder::YearMonthDay)).value_or(std::string(value))};
+}
+
 FilterResult shownNumber(const Filter& filter, std::string_view value, const Locale& locale) {
-    const std::optional<DecimalNumber> number = decimalNumber(value);
+    const FilterResult read = readNumber(value, locale);
+    if (!read.error.empty()) {
+        return read;
+    }
+    const std::optional<DecimalNumber> number = decimalNumber(read.text);
     if (!number) {
         return {.error = quoted(value) + " is not a number"};
     }
@@ -147,11 +186,12 @@ FilterResult Filter::apply(std::string_view value, const Locale& locale) const {
         case FilterKind::Money:
             return shownNumber(*this, value, locale);
         case FilterKind::Date: {
+            const FilterResult read = readDate(value, locale);
             FilterResult result;
-            if (!dateText(value, argument, result.text)) {
+            if (read.error.empty() && !dateText(read.text, argument, result.text)) {
                 return {.error = quoted(value) + " is not a date of the form 2026-11-22"};
             }
-            return result;
+            return read.error.empty() ? result : read;
         }
         case FilterKind::Upper:
             return {.text = upperCaseText(value)};

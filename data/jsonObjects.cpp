@@ -1,6 +1,7 @@
 #include "data/jsonObjects.h"
 
 #include <algorithm>
+
 namespace quorvane::data {
 
 namespace {
@@ -12,6 +13,7 @@ bool isBlank(char character) {
 }  // namespace
 
 bool JsonObjects::next(std::string_view& object) {
+    text_.discardBefore(at_);
     if (form_ == Form::Unknown) {
         takeBeginning();
     }
@@ -66,6 +68,9 @@ bool JsonObjects::takeSeparator() {
             refuse("A comma is missing between two records.");
         }
         ++at_;
+        if (skipBlanks() && text_.data()[at_] == ']') {
+            refuse("The list of records ends after a comma; remove the comma.");
+        }
     }
     if (!isThere || !skipBlanks()) {
         refuse("The list of records does not end; ] is missing.");
@@ -85,10 +90,10 @@ void JsonObjects::endArray() {
 
 /// Finds where an object ends, and takes it.
 std::string_view JsonObjects::takeObject() {
+    begin_ = at_;
     if (text_.data()[at_] != '{') {
         refuse("A record must be an object, which begins with {.");
     }
-    const std::size_t begin = at_;
     depth_ = 0;
     isString_ = false;
     do {
@@ -96,13 +101,15 @@ std::string_view JsonObjects::takeObject() {
             refuse(isString_ ? "The record has a text that does not end; \" is missing."
                              : "The record does not end; } is missing.");
         }
-        if (at_ - begin > longestRecord) {
+        if (at_ - begin_ > longestRecord) {
             refuse("The record has more than 4 MB.");
         }
     } while (depth_ > 0);
     hasObjects_ = true;
-    const std::string_view object = text_.view().substr(begin, at_ - begin);
-    nextLine_ += std::count(object.begin(), object.end(), '\n');
+    const std::string_view object = text_.view().substr(begin_, at_ - begin_);
+    const auto lineEnds = std::count(object.begin(), object.end(), '\n');
+    isLine_ = lineEnds == 0;
+    nextLine_ += lineEnds;
     return object;
 }
 
@@ -129,11 +136,12 @@ bool JsonObjects::takeCharacter() {
     return true;
 }
 
-/// True if the object cannot go on after the line end that comes next: a text does not, and no
-/// object begins a line but after an opening bracket, a comma or a colon.
+/// True if the object cannot go on after the line end that comes next: where the one before was a
+/// line, this one is. A text does not go on, and no object begins a line but after an opening
+/// bracket, a comma or a colon.
 bool JsonObjects::isBroken() {
     constexpr std::string_view openEnds = "{[,:";
-    if (isString_) {
+    if (isString_ || isLine_) {
         return true;
     }
     while (at_ + 1 == text_.size()) {
@@ -162,6 +170,8 @@ void JsonObjects::skipLine() {
 void JsonObjects::refuse(const std::string& why) {
     const bool canGoOn = form_ == Form::Objects;
     if (canGoOn) {
+        const std::string_view passed = text_.view().substr(begin_, at_ - begin_);
+        nextLine_ += std::count(passed.begin(), passed.end(), '\n');
         skipLine();
     } else {
         form_ = Form::Ended;

@@ -12,8 +12,8 @@ namespace quorvane::data {
 
 /// The objects of a JSON array, or objects one after the other, each as its text.
 ///
-/// An object can go on over several lines. In JSON Lines, what is wrong with one line leaves the
-/// lines after it as they are.
+/// An object can go on over several lines, unless the one before it was a line: then each line is
+/// a record (JSON Lines), and what is wrong with one leaves the lines after it as they are.
 class JsonObjects {
 public:
     /// The text must outlive the objects.
@@ -46,7 +46,10 @@ private:
     std::int64_t line_ = 1;
     std::int64_t nextLine_ = 1;
     bool hasObjects_ = false;
+    // The object before began and ended on one line.
+    bool isLine_ = false;
     // Of the object that is being taken.
+    std::size_t begin_ = 0;
     std::size_t depth_ = 0;
     bool isString_ = false;
 };

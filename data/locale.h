@@ -23,6 +23,12 @@ struct Locale {
     /// Of the dates that offices write; nothing for a locale that a sample of a number shows.
     std::optional<DateOrder> dateOrder = DateOrder::MonthDayYear;
 
+    /// The data is as offices write it (CSV): numbers and dates are read as the locale writes them.
+    /// Otherwise they are those of JSON.
+    bool readsWritten = false;
+    /// The locale was chosen. Otherwise `readsWritten` takes only what can be read in one way.
+    bool isChosen = false;
+
     /// How numbers in tables are read.
     DecimalSign decimalSign() const {
         return decimal == "," ? DecimalSign::Comma : DecimalSign::Point;

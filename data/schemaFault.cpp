@@ -343,10 +343,15 @@ private:
                 }
             }
         }
-        const auto left = std::find_if(waiting.begin(), waiting.end(),
-                                       [](const auto& each) { return each.second > 0; });
-        if (left != waiting.end()) {
-            fail(schemas_[left->first], "This schema refers to itself without a value in between.");
+        // The addresses of schemas differ from run to run, their places do not.
+        std::set<std::string> left;
+        for (const auto& [schema, count] : waiting) {
+            if (count > 0) {
+                left.insert(schemas_[schema]);
+            }
+        }
+        if (!left.empty()) {
+            fail(*left.begin(), "This schema refers to itself without a value in between.");
         }
     }
 

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "data/decimalNumber.h"
 #include "data/foldedText.h"
 #include "quorvane/base/values/RtfError.h"
 
@@ -19,12 +20,6 @@ constexpr char emptyKind = '\xFF';
 
 [[noreturn]] void refuse(const std::string& why) {
     raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), why));
-}
-
-bool isAmbiguousNumber(std::string_view text) {
-    const std::optional<WrittenNumber> number = writtenNumber(text);
-    return number && looksLikeNumber(text) && !shownSign(text) &&
-           plainNumber(*number, DecimalSign::Point) != plainNumber(*number, DecimalSign::Comma);
 }
 
 void complement(std::string& key, std::size_t begin) {
@@ -107,15 +102,24 @@ void SortColumn::append(std::string_view value, std::string& key) const {
     }
 }
 
-void SortColumn::appendAscending(std::string_view value, std::string& key) const {
+/// The number as "-1250.00"; nothing for another text.
+std::optional<std::string> SortColumn::plain(std::string_view value) const {
     if (looksLikeNumber(value)) {
-        const std::optional<std::string> plain =
-            plainNumber(*writtenNumber(value), sign_.value_or(DecimalSign::Point));
-        if (plain) {
-            key += numberKind;
-            appendNumber(*plain, key);
-            return;
-        }
+        return plainNumber(*writtenNumber(value), sign_.value_or(DecimalSign::Point));
+    }
+    const bool hasExponent = areJson_ && value.find_first_of("eE") != std::string_view::npos;
+    const std::optional<DecimalNumber> number =
+        hasExponent ? decimalNumber(value) : std::optional<DecimalNumber>();
+    return number ? std::optional((number->isNegative ? "-" : "") + number->whole + "." +
+                                  number->decimals)
+                  : std::nullopt;
+}
+
+void SortColumn::appendAscending(std::string_view value, std::string& key) const {
+    if (const std::optional<std::string> number = plain(value)) {
+        key += numberKind;
+        appendNumber(*number, key);
+        return;
     }
     if (std::optional<std::string> date =
             isoDate(value, order_.value_or(DateOrder::YearMonthDay))) {

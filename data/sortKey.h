@@ -18,7 +18,12 @@ namespace quorvane::data {
 /// The values show their decimal sign and the order of their dates, or the locale has them.
 class SortColumn {
 public:
-    explicit SortColumn(bool isDescending) : isDescending_(isDescending) {}
+    /// Numbers of JSON have a decimal point and can have an exponent.
+    SortColumn(bool isDescending, bool areJson) : isDescending_(isDescending), areJson_(areJson) {
+        if (areJson) {
+            sign_ = DecimalSign::Point;
+        }
+    }
 
     /// Looks at how a value is written; at all of them before the first key is made.
     void look(std::string_view value);
@@ -30,9 +35,11 @@ public:
     void append(std::string_view value, std::string& key) const;
 
 private:
+    std::optional<std::string> plain(std::string_view value) const;
     void appendAscending(std::string_view value, std::string& key) const;
 
     bool isDescending_;
+    bool areJson_;
     std::optional<DecimalSign> sign_;
     std::optional<DateOrder> order_;
     // The first value that can be read in two ways, of each kind.

@@ -59,6 +59,22 @@ TEST_F(RecordsTest, ThatFailAreReportedAndTheOthersGoOn) {
                 ElementsAre("A_1.rtf", "A_4.rtf", "data.jsonl", "good.json", "letter.rtfspec"));
 }
 
+TEST_F(RecordsTest, OfCsvHaveNumbersAndDatesAsTheLocaleWritesThem) {
+    folder.write("sum.rtfspec",
+                 "; quorvane 2\n(doc\n(r\n(c\n(p\n(pt={{sum|money}} {{day|date:yyyy-MM-dd}})\np)\n"
+                 "c)\nr)\ndoc)\n");
+    folder.write("a.csv", "sum;day\n1.250;31.10.2026\n12,5;1.2.2027\n");
+    EXPECT_EQ(
+        run({"--data", "a.csv", "--each", "--locale=de-DE", "-o", "{{@index}}.rtf", "sum.rtfspec"})
+            .errors,
+        "2 documents were written\n");
+    EXPECT_THAT(folder.read("1.rtf"), HasSubstr("1.250,00 2026-10-31\\cell"));
+    EXPECT_THAT(folder.read("2.rtf"), HasSubstr("12,50 2027-02-01\\cell"));
+    EXPECT_THAT(run({"--data", "a.csv", "--each", "-o", "{{@index}}.rtf", "sum.rtfspec"}).errors,
+                HasSubstr("sum: \"1.250\" can be read in two ways; choose one with --locale, such "
+                          "as en-US or de-DE."));
+}
+
 TEST_F(RecordsTest, AreInAReport) {
     run({"--data", "data.jsonl", "--each", "-o", "{{number}}.rtf", "--report", "report.jsonl",
          "letter.rtfspec"});

@@ -144,10 +144,30 @@ TEST_F(TableTest, RefusesANumberWithAnotherDecimalSignThanThoseBefore) {
               "column or the locale has it.\n");
 }
 
+TEST_F(TableTest, RefusesToFilterANumberThatCanBeReadInTwoWays) {
+    folder.write("a.csv", "article;price\na;1.299\n");
+    EXPECT_EQ(run({"a.csv", "--columns", "price:money"}).errors,
+              "a.csv:2: error: \"price\": \"1.299\" can be read in two ways. Choose one with "
+              "--locale, such as en-US or de-DE.\n");
+    EXPECT_EQ(textsOf(described({"a.csv", "--columns", "price:money", "--locale=de-DE"})),
+              "price/1.299,00/");
+}
+
+TEST_F(TableTest, LeavesRoomForTheTotalOfAColumn) {
+    folder.write("a.csv", "article;price\na;900.000,00\nb;900.000,00\n");
+    const auto widthOfPrice = [&](std::vector<std::string> arguments) {
+        const std::string text = described(std::move(arguments));
+        const std::string columns = text.substr(text.find("(columns=") + 9);
+        return std::stod(columns.substr(columns.find(' ') + 1));
+    };
+    EXPECT_GT(widthOfPrice({"a.csv", "--total=price"}), 1.3 * widthOfPrice({"a.csv"}));
+}
+
 TEST_F(TableTest, ReadsTheNumbersOfAColumnInOneWay) {
     folder.write("a.csv", "n,p\na,1.500\nb,10.255\n");
-    EXPECT_EQ(textsOf(described({"a.csv", "--columns", "p:number:3", "--total=p"})),
-              "p/1.500/10.255/11.755/");
+    EXPECT_EQ(
+        textsOf(described({"a.csv", "--columns", "p:number:3", "--total=p", "--locale=en-US"})),
+        "p/1.500/10.255/11.755/");
     EXPECT_EQ(
         textsOf(described({"a.csv", "--columns", "n,p:number:1", "--total=p", "--locale=de-DE"})),
         "n p/a 1500,0/b 10255,0/Total 11755,0/");

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -79,15 +80,44 @@ TEST(JsonRecords, HaveNewNamesAfterThoseBefore) {
 }
 
 TEST(JsonRecords, ReportARecordThatIsWrongAndReadOn) {
-    EXPECT_EQ(read("{\"a\":1}\n{\"a\":\n tru}\n{\"a\":3}").records.size(), 3U);
-    EXPECT_THAT(read("{\"a\":1}\n{\"a\":\n tru}\n{\"a\":3}").records[1],
-                ElementsAre("3", HasSubstr("This is not JSON: ")));
+    EXPECT_EQ(read("{\n\"a\":1}\n{\"a\":\n tru}\n{\"a\":3}").records.size(), 3U);
+    EXPECT_THAT(read("{\n\"a\":1}\n{\"a\":\n tru}\n{\"a\":3}").records[1],
+                ElementsAre("4", HasSubstr("This is not JSON: ")));
     EXPECT_EQ(read("[{\"a\":1,\"a\":2},{\"a\":3}]").records,
               (Records{{"1", "The record has \"a\" twice."}, {"3"}}));
     EXPECT_EQ(read("[{\"a\":[[1]]},{\"a\":[{}]},{\"a\":3}]").records,
               (Records{{"1", "\"a\" is a list of lists or objects, which a cell cannot show."},
                        {"1", "\"a\" is a list of lists or objects, which a cell cannot show."},
                        {"3"}}));
+}
+
+TEST(JsonRecords, LoseNothingToALineBeforeThatIsWrong) {
+    const std::string unended = "The record does not end; } is missing.";
+    const std::string noObject = "A record must be an object, which begins with {.";
+    EXPECT_EQ(read("{\"n\":1}\n{\"n\":2\n[1,2]\n\nnull\n{\"n\":6}\n{\"n\":7}").records,
+              (Records{{"1"}, {"2", unended}, {"3", noObject}, {"5", noObject}, {"6"}, {"7"}}));
+    EXPECT_EQ(read("{\"n\":1}\n{\"n\":2\n {\"n\":3}\n\t{\"n\":4}").records,
+              (Records{{"1"}, {"2", unended}, {"3"}, {"4"}}));
+    EXPECT_EQ(read("{\"n\":1}\n{\"n\":2,\"x\":\n{\"n\":3}\n{\"n\":4}").records,
+              (Records{{"1"}, {"2", unended}, {"3"}, {"4"}}));
+    EXPECT_EQ(read("{\n\"n\":1\n}\n{\"n\":2,\n\"x\":1\n{\"n\":3}\n{\"n\":4 \n").records,
+              (Records{{"1"}, {"4", unended}, {"3"}, {"7", unended}}));
+}
+
+TEST(JsonRecords, KeepLittleOfAListWithoutBlanks) {
+    std::string json = "[{\"a\":0}";
+    for (int i = 1; i < 100'000; ++i) {
+        json += ",{\"a\":" + std::to_string(i) + "}";
+    }
+    RecordsText text(readerOf(json + "]"), EncodingChoice::Auto);
+    JsonRecords source(text);
+    std::vector<std::string_view> fields;
+    std::size_t most = 0;
+    while (source.next(fields)) {
+        most = std::max(most, text.size());
+    }
+    EXPECT_GT(json.size(), 1'000'000U);
+    EXPECT_LT(most, 300'000U);
 }
 
 TEST(JsonRecords, ReportWhatIsNoListOfRecords) {
@@ -98,7 +128,8 @@ TEST(JsonRecords, ReportWhatIsNoListOfRecords) {
     EXPECT_EQ(read("[{}{}]").records[1],
               (std::vector<std::string>{"1", "A comma is missing between two records."}));
     EXPECT_EQ(read("[{},]").records[1],
-              (std::vector<std::string>{"1", "A record must be an object, which begins with {."}));
+              (std::vector<std::string>{
+                  "1", "The list of records ends after a comma; remove the comma."}));
     EXPECT_EQ(read("[{}]\n[").records[1],
               (std::vector<std::string>{"2", "The list of records ends, but the file does not."}));
 }

@@ -20,9 +20,9 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 
 std::vector<std::string> sorted(const std::vector<std::string>& values, bool isDescending = false,
-                                const Locale* locale = nullptr) {
+                                const Locale* locale = nullptr, bool areJson = false) {
     KeptRows rows;
-    SortColumn column(isDescending);
+    SortColumn column(isDescending, areJson);
     for (const std::string& value : values) {
         const std::string_view field = value;
         rows.add({&field, 1}, 1);
@@ -66,6 +66,15 @@ TEST(SortColumn, SortsNumbersByTheirValue) {
                 ElementsAre("\u22121,00 \u20AC", "999,00 \u20AC", "1.000,50 \u20AC"));
     EXPECT_THAT(sorted({"100000000000000000000000.2", "100000000000000000000000.1"}),
                 ElementsAre("100000000000000000000000.1", "100000000000000000000000.2"));
+}
+
+TEST(SortColumn, ReadsNumbersOfJsonWithAPointAndWithExponents) {
+    const Locale german = *[] {
+        std::string error;
+        return std::optional(localeNamed("de-DE", error));
+    }();
+    EXPECT_THAT(sorted({"20.500", "1e3", "1.234", "-1.5e-7", "2.5"}, false, &german, true),
+                ElementsAre("-1.5e-7", "1.234", "2.5", "20.500", "1e3"));
 }
 
 TEST(SortColumn, SortsRandomNumbersAsTheirValuesAre) {

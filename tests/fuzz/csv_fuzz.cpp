@@ -81,7 +81,7 @@ void sortRows(const Records& records, bool isDescending) {
         return fields.empty() ? std::string_view() : fields.front();
     };
     KeptRows rows;
-    SortColumn column(isDescending);
+    SortColumn column(isDescending, false);
     for (const std::vector<std::string>& row : records.rows) {
         const std::vector<std::string_view> fields(row.begin(), row.end());
         rows.add(fields, 1);
