@@ -28,7 +28,8 @@ JoinedRows::JoinedRows(std::string_view texts, std::size_t cellsInRow, std::size
                         " texts that end with a zero byte, and not " + std::to_string(rows) +
                         " rows of " + std::to_string(cellsInRow) + ".");
     }
-    cells_.resize(cellsInRow);
+    // Without rows nothing limits how many cells they would have.
+    cells_.resize(rows == 0 ? 0 : cellsInRow);
 }
 
 bool JoinedRows::next() {

@@ -42,7 +42,10 @@ struct Margins {
 /// Texts are UTF-8 and are shown exactly as they are; `rtf("…")` marks control words. The order of
 /// calls does not matter, except that a stylesheet comes before the texts that use its styles. Page
 /// and columns are fitted together when the document is rendered: by `rtf`, `write`, `save` and
-/// `native`.
+/// `native`. Columns that come with the document, from a description or the object model, are
+/// lengths: if page and margins get another width, set the columns again, otherwise rendering is an
+/// error "wrong-value". As soon as page or margins are set, cells without columns share the text
+/// area evenly.
 ///
 /// A document can be moved and not copied. One that was moved from throws an `Error` "wrong-call"
 /// when it is used, as do `rows()` of it. It belongs to one thread at a time, with all its handles.

@@ -36,7 +36,7 @@ struct ErrorDetails {
 /// `TableWriter` and the classes that `native` returns throw `RtfError`.
 class Error : public std::runtime_error {
 public:
-    /// makes an error of its details.
+    /// Makes an error with these details.
     explicit Error(ErrorDetails details);
     Error(const Error&) noexcept = default;
     Error& operator=(const Error&) noexcept = default;

@@ -81,12 +81,34 @@ void PageLayout::forget(const CRtfTableRow& row) {
 
 void PageLayout::apply() {
     if (page_) {
+        requireKnownColumns();
         applyPage();
     }
     applyColumns();
     page_.reset();
     hasNewColumns_ = false;
     newRows_.clear();
+}
+
+/// Columns that a description or the object model gave are lengths only: whether they were shares
+/// is not known.
+void PageLayout::requireKnownColumns() const {
+    if (page_->size.width == document_.PageWidth() && page_->left == document_.LeftMargin() &&
+        page_->right == document_.RightMargin()) {
+        return;
+    }
+    if (!columns_ && !document_.ColumnWidths().empty()) {
+        throw LeafError(DriverFault::WrongValue,
+                        "The columns fit the width of the page before; set them again with "
+                        "setColumns");
+    }
+    for (const InnerRow* row : inner(*document_.TableRows()).list()) {
+        if (!row->ColumnWidths().empty() && !rows_.contains(row)) {
+            throw LeafError(DriverFault::WrongValue,
+                            "The columns of a row fit the width of the page before; set them "
+                            "again with setColumns of the row");
+        }
+    }
 }
 
 void PageLayout::applyPage() {

@@ -51,10 +51,10 @@ private:
     Page& page();
     Page documentPage() const;
     void setPage(const Page& page);
+    void requireKnownColumns() const;
     void applyPage();
     void applyColumns();
     void apply(const RowColumns& columns);
-    std::vector<std::int32_t> twipsOf(const Widths& widths) const;
     void spreadRows();
 
     CRtfDoc& document_;

@@ -115,6 +115,18 @@ TEST(Table, AddsManyRowsInOneCall) {
               }));
 }
 
+TEST(Table, AddsNoRowsOfAnyNumberOfCells) {
+    const TableHandle table = tableOfTwo();
+    quorvane_table_begin(table.get());
+    size_t added = 9;
+    EXPECT_EQ(quorvane_table_add_rows(table.get(), nullptr, 0, SIZE_MAX / 16, 0, &added),
+              QUORVANE_OK);
+    EXPECT_EQ(quorvane_table_add_rows(table.get(), nullptr, 0, SIZE_MAX, 0, &added), QUORVANE_OK);
+    EXPECT_EQ(added, 0U);
+    quorvane_table_finish(table.get());
+    EXPECT_EQ(taken(table), written(twoColumns, [](TableWriter&) {}));
+}
+
 TEST(Table, AddsNoRowOfTextsThatDoNotFit) {
     const TableHandle table = tableOfTwo();
     quorvane_table_begin(table.get());
@@ -215,6 +227,14 @@ TEST(Table, ReportsAFileThatCannotBeWritten) {
     EXPECT_EQ(quorvane_table_begin_file(table.get(), QUORVANE_TEXT("/missing/folder/a.rtf")),
               QUORVANE_FILE_ERROR);
     EXPECT_EQ(errorOf(table), "/missing/folder/a.rtf: unwritable-file: No such file or directory");
+    EXPECT_EQ(quorvane_table_begin(table.get()), QUORVANE_OK);
+}
+
+TEST(Table, RefusesAnEmptyPathBeforeThereAreRows) {
+    const TableHandle table = tableOfTwo();
+    EXPECT_EQ(quorvane_table_begin_file(table.get(), QUORVANE_TEXT("")), QUORVANE_FILE_ERROR);
+    EXPECT_EQ(errorOf(table), "unwritable-file: No such file or directory");
+    EXPECT_EQ(quorvane_table_begin_file(table.get(), nullptr, 0), QUORVANE_FILE_ERROR);
     EXPECT_EQ(quorvane_table_begin(table.get()), QUORVANE_OK);
 }
 

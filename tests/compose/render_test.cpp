@@ -3,7 +3,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <string>
+#include <vector>
 
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
 #include "tests/compose/described.h"
@@ -52,6 +54,46 @@ TEST(Render, MakesADocumentThatCanBeChanged) {
     rendering.document.row("10000001")[0].addParagraph("b");
     EXPECT_EQ(rendering.document.rtf(),
               described("(row\n(cell\n(para\n(pt=a)\npara)\n(para\n(pt=b)\npara)\ncell)\nrow)\n"));
+}
+
+TEST(Render, AsksForTheColumnsOfAnotherWidth) {
+    Rendering rendering = render(extended("(columns=20 80)\n" + row("(pt=a)\n(ps=normal)\n")),
+                                 {.styleSheet = std::string(sheet), .check = false});
+    Document& document = rendering.document;
+    document[0].addCell("b");
+    document.setPage("a6");
+    const Error error = errorOf([&] { document.rtf(); });
+    EXPECT_EQ(error.identifier(), "wrong-value");
+    EXPECT_EQ(error.message(),
+              "The columns fit the width of the page before; set them again with setColumns.");
+    document.setColumns({20, 80});
+    Document same;
+    same.setPage("a6");
+    same.setColumns({20, 80});
+    EXPECT_EQ(document.native()->ColumnWidths(), same.native()->ColumnWidths());
+}
+
+TEST(Render, AsksForTheColumnsOfARowOfAnotherWidth) {
+    Rendering rendering =
+        render(extended("(row\n(columns=100)\n(cell\n(para\n(pt=a)\npara)\ncell)\nrow)\n"));
+    Document& document = rendering.document;
+    document.setMargins({.left = "5cm"});
+    EXPECT_EQ(errorOf([&] { document.rtf(); }).message(),
+              "The columns of a row fit the width of the page before; set them again with "
+              "setColumns of the row.");
+    document[0].setColumns({100});
+    const Ref<CRtfDoc> native = document.native();
+    EXPECT_EQ(native->TableRows()->Item(1)->ColumnWidths(),
+              std::vector<std::int32_t>{native->TextAreaWidth()});
+}
+
+TEST(Render, KeepsColumnsOnAPageOfTheSameWidth) {
+    Rendering rendering =
+        render(extended("(columns=40)\n(row\n(cell\n(para\n(pt=a)\npara)\ncell)\nrow)\n"));
+    const std::vector<std::int32_t> before = rendering.document.native()->ColumnWidths();
+    rendering.document.setPage(rendering.document.native()->PageWidth(), "10cm");
+    EXPECT_THAT(rendering.document.rtf(), HasSubstr("\\paperh5669"));
+    EXPECT_EQ(rendering.document.native()->ColumnWidths(), before);
 }
 
 TEST(Render, ReturnsWarnings) {

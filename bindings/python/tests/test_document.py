@@ -76,6 +76,29 @@ def test_elements_are_removed_and_inserted() -> None:
                                      [["above", "below"]]]
 
 
+@pytest.mark.parametrize("index", [-9, -3, -2, -1, 0, 1, 2, 3, 9])
+def test_elements_are_inserted_where_a_list_inserts_them(index: int) -> None:
+    expected = ["a", "b"]
+    expected.insert(index, "new")
+    doc = Document()
+    doc.add_rows([["a"], ["b"]])
+    row = doc.insert_row(index, ["new"])
+    assert [each.cells[0].paragraphs[0].rtf for each in doc.rows] == expected
+    assert row.cells[0].paragraphs[0].rtf == "new"
+
+    doc = Document()
+    doc.add_row(["a", "b"])
+    cell = doc.rows[0].insert_cell(index, "new")
+    assert [each.paragraphs[0].rtf for each in doc.rows[0].cells] == expected
+    assert cell.paragraphs[0].rtf == "new"
+
+    cell = doc.add_row(["a"]).cells[0]
+    cell.add_paragraph("b")
+    paragraph = cell.insert_paragraph(index, "new")
+    assert [each.rtf for each in doc.rows[1].cells[0].paragraphs] == expected
+    assert paragraph.rtf == "new"
+
+
 def test_an_element_that_may_have_moved_is_not_used() -> None:
     doc = Document()
     doc.add_rows([["a"], ["b"]])
@@ -165,6 +188,28 @@ def test_a_wrong_value_is_an_error(change: Callable[[Document], Any], message: s
     doc.add_row(["Vase"])
     before = doc.rtf
     with pytest.raises(quorvane.Error, match=message):
+        change(doc)
+    assert doc.rtf == before
+
+
+@pytest.mark.parametrize("change, name", [
+    (lambda doc: doc.set(first_page=2**32 + 5), "first_page"),
+    (lambda doc: doc.set(heading_in_table=2**32), "heading_in_table"),
+    (lambda doc: doc.insert_row(2**64 + 1), "index"),
+    (lambda doc: doc.insert_row(-2**64), "index"),
+    (lambda doc: doc.rows[0].insert_cell(2**64), "index"),
+    (lambda doc: doc.rows[0].set(border=2**32 + 5), "border"),
+    (lambda doc: doc.rows[0].set(keep=2**32 + 1), "keep"),
+    (lambda doc: doc.rows[0].cells[0].insert_paragraph(2**64), "index"),
+    (lambda doc: doc.rows[0].cells[0].set(border=-2**32 + 5), "border"),
+    (lambda doc: doc.rows[0].cells[0].set(span=(2**32 + 2, 1)), "span"),
+    (lambda doc: doc.rows[0].cells[0].set(span=(1, 2**32 + 2)), "span"),
+])
+def test_a_number_is_not_cut(change: Callable[[Document], Any], name: str) -> None:
+    doc = Document()
+    doc.add_row(["Vase"])
+    before = doc.rtf
+    with pytest.raises(quorvane.Error, match=f"^{name} is out of range: -?[0-9]+.$"):
         change(doc)
     assert doc.rtf == before
 

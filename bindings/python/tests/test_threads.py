@@ -2,7 +2,9 @@
 
 import threading
 from concurrent.futures import ThreadPoolExecutor
+from typing import Sequence
 
+import pytest
 import quorvane
 
 ORDER = "; quorvane 2\n(doc\n(r\n(c\n(p\n(pt=Order {{number}})\np)\nc)\nr)\ndoc)\n"
@@ -74,3 +76,18 @@ def test_a_thread_closes_what_another_one_uses() -> None:
     doc.close()
     thread.join()
     assert errors == ["The document is closed."]
+
+
+def test_a_job_is_closed_after_its_diagnostics_are_read() -> None:
+    class Job(quorvane.Job):
+        def _found(self) -> Sequence[quorvane.Diagnostic]:
+            closing.start()
+            closing.join(0.2)
+            return super()._found()
+
+    job = Job()
+    closing = threading.Thread(target=job.close)
+    assert [each.identifier for each in job.check("(doc\n(r\nr)\ndoc)\n")] == ["no-cell"]
+    closing.join()
+    with pytest.raises(quorvane.Error, match="^The job is closed.$"):
+        job.check("(doc\ndoc)\n")

@@ -90,6 +90,10 @@ private:
 }  // namespace
 
 std::unique_ptr<OutputFile> openReplacement(const std::string& path, UnfinishedFileWatch& watch) {
+    if (path.empty()) {
+        // There would be a file beside it, which could not take its name.
+        raiseSystemError(RunTimeError::PathNotFound, ENOENT);
+    }
     struct stat own {};
     if (::lstat(path.c_str(), &own) == -1 && errno == ENOENT) {
         return std::make_unique<ReplacementFile>(path, std::nullopt, watch);

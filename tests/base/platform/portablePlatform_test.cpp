@@ -393,6 +393,10 @@ TEST_F(PortablePlatformTest, AReplacementThatIsNotClosedLeavesTheFileAsItIs) {
     EXPECT_EQ(std::distance(fs::directory_iterator(folder), fs::directory_iterator()), 1);
 }
 
+TEST_F(PortablePlatformTest, ReplacingAnEmptyPathIsError76) {
+    EXPECT_EQ(errorOf([&] { platform.replaceFile(""); }), 76);
+}
+
 TEST_F(PortablePlatformTest, ReplacingAPathWithANulIsError57) {
     EXPECT_EQ(errorOf([&] { platform.replaceFile(withNul); }), 57);
 }

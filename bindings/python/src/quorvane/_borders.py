@@ -4,6 +4,7 @@ from __future__ import annotations
 
 from typing import Iterable, Tuple, Union
 
+from ._handle import number_argument
 from ._job import choice
 
 BORDERS = {"none": -1, "hair": 5, "thin": 10, "normal": 20, "thick": 30}
@@ -18,7 +19,8 @@ Sides = Union[str, Iterable[str]]
 
 def border_arguments(border: Border, sides: Sides) -> Tuple[int, int]:
     """A border as two arguments."""
-    width = choice(border, BORDERS, "border") if isinstance(border, str) else border
+    width = (choice(border, BORDERS, "border") if isinstance(border, str)
+             else number_argument(border, "border"))
     return sides_argument(sides), width
 
 

@@ -8,7 +8,7 @@ from typing import Any, Iterable, Optional, Tuple, Union
 from ._borders import SIDES
 from ._cells import batches, cell_arguments, joined, texts_of_row
 from ._elements import DocumentHandle, Elements, Row, Widths, widths_text
-from ._handle import argument, path_argument
+from ._handle import argument, number_argument, path_argument
 from ._library import lib
 from ._lines import Line, texts_of_line
 from ._sources import Source, read_source
@@ -86,9 +86,11 @@ class Document(DocumentHandle):
                 self._call(function, *(each for text in texts_of_line(line)
                                        for each in argument(text)))
         if first_page is not None:
-            self._call(lib.quorvane_document_set_first_page, first_page)
+            self._call(lib.quorvane_document_set_first_page,
+                       number_argument(first_page, "first_page"))
         if heading_in_table is not None:
-            self._call(lib.quorvane_document_set_heading_form, heading_in_table)
+            self._call(lib.quorvane_document_set_heading_form,
+                       number_argument(heading_in_table, "heading_in_table"))
         return self
 
     @property
@@ -120,8 +122,8 @@ class Document(DocumentHandle):
                            *argument(style))
 
     def insert_row(self, index: int, cells: Iterable[Any] = (), style: str = "") -> Row:
-        """Inserts a row before the one with an index, and returns it."""
-        place = self._index(lib.quorvane_document_insert_row, index)
+        """Inserts a row before the one with an index, as ``list.insert``, and returns it."""
+        place = self._index(lib.quorvane_document_insert_row, self.rows._insertion_place(index))
         self._moves += 1
         row = Row(self, (place,))
         for text in texts_of_row(cells):

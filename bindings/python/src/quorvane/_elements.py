@@ -10,7 +10,7 @@ from typing import (Any, Callable, Generic, Iterator, List, Optional, Sequence, 
 from ._borders import Border, Sides, border_arguments
 from ._columns import ALIGNMENTS
 from ._errors import Error
-from ._handle import Handle, argument, path_argument
+from ._handle import Handle, argument, number_argument, path_argument
 from ._job import choice
 from ._library import AT_END, lib
 
@@ -117,6 +117,11 @@ class Elements(Sequence[AnyElement], Generic[AnyElement]):
         except IndexError:
             raise IndexError(f"There is no index {index}; the length is {len(places)}.") from None
 
+    def _insertion_place(self, index: int) -> int:
+        """The place that an element is inserted at, as with ``list.insert``."""
+        number, count = number_argument(index, "index"), len(self)
+        return max(number + count, 0) if number < 0 else min(number, count)
+
     def _require_here(self) -> None:
         if self._owner is not None:
             self._owner._require_here()
@@ -217,8 +222,9 @@ class Cell(Element):
         return Paragraph(self._document, (*self._place, place))
 
     def insert_paragraph(self, index: int, text: str = "", style: str = "") -> Paragraph:
-        """Inserts a paragraph before the one with an index, and returns it."""
-        place = self._index(lib.quorvane_cell_insert_paragraph, index, *argument(text),
+        """Inserts a paragraph before the one with an index, as ``list.insert``, and returns it."""
+        place = self._index(lib.quorvane_cell_insert_paragraph,
+                            self.paragraphs._insertion_place(index), *argument(text),
                             *argument(style))
         self._document._moves += 1
         return Paragraph(self._document, (*self._place, place))
@@ -252,7 +258,9 @@ class Cell(Element):
         if border is not None:
             self._call(lib.quorvane_cell_set_border, *border_arguments(border, sides))
         if span is not None:
-            self._call(lib.quorvane_cell_set_span, *span)
+            columns, rows = span
+            self._call(lib.quorvane_cell_set_span, number_argument(columns, "span"),
+                       number_argument(rows, "span"))
         if marked_field is not None:
             self._call(lib.quorvane_cell_set_marked_field, *argument(marked_field))
         return self
@@ -278,18 +286,18 @@ class Row(Element):
 
         It has one paragraph with this text and style; with None for the text it has none.
         """
-        return self._inserted(AT_END, text, style)
+        place = self._inserted(AT_END, text, style)
+        return Cell(self._document, (*self._place, place))
 
     def insert_cell(self, index: int, text: Optional[str] = "", style: str = "") -> Cell:
-        """Inserts a cell before the one with an index, and returns it."""
-        self._inserted(index, text, style)
+        """Inserts a cell before the one with an index, as ``list.insert``, and returns it."""
+        place = self._inserted(self.cells._insertion_place(index), text, style)
         self._document._moves += 1
-        return Cell(self._document, (*self._place, index))
-
-    def _inserted(self, index: int, text: Optional[str], style: str) -> Cell:
-        content = (None, 0) if text is None else argument(text)
-        place = self._index(lib.quorvane_row_insert_cell, index, *content, *argument(style))
         return Cell(self._document, (*self._place, place))
+
+    def _inserted(self, index: int, text: Optional[str], style: str) -> int:
+        content = (None, 0) if text is None else argument(text)
+        return self._index(lib.quorvane_row_insert_cell, index, *content, *argument(style))
 
     def set(self, *, columns: Optional[Widths] = None, background: Optional[str] = None,
             border: Optional[Border] = None, sides: Sides = "all",
@@ -316,12 +324,10 @@ class Row(Element):
             self._call(lib.quorvane_row_set_background, *argument(background))
         if border is not None:
             self._call(lib.quorvane_row_set_border, *border_arguments(border, sides))
-        for function, value in ((lib.quorvane_row_set_heading, heading),
-                                (lib.quorvane_row_set_keep, keep),
-                                (lib.quorvane_row_set_keep_with_next, keep_with_next),
-                                (lib.quorvane_row_set_page_break, page_break)):
+        for name, value in (("heading", heading), ("keep", keep),
+                            ("keep_with_next", keep_with_next), ("page_break", page_break)):
             if value is not None:
-                self._call(function, value)
+                self._call(getattr(lib, f"quorvane_row_set_{name}"), number_argument(value, name))
         return self
 
     def __repr__(self) -> str:

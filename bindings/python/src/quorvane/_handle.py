@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+import operator
 import os
 import threading
 from ctypes import byref, c_size_t, c_void_p
@@ -28,6 +29,17 @@ def path_argument(path: Union[str, "os.PathLike[str]"]) -> Tuple[bytes, int]:
     text = os.fspath(path)
     encoded = text.encode("utf-8", "surrogateescape")
     return encoded, len(encoded)
+
+
+_LIMIT = 1 << 31
+
+
+def number_argument(number: int, name: str) -> int:
+    """A number as an argument. One of more than 32 bits would silently become another one."""
+    value = operator.index(number)
+    if not -_LIMIT <= value < _LIMIT:
+        raise Error(f"{name} is out of range: {value}.", "wrong-value")
+    return value
 
 
 class Handle:

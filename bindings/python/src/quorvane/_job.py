@@ -11,7 +11,7 @@ import uuid
 from typing import Any, Iterable, List, Mapping, Optional, Sequence, Tuple, TypeVar, Union
 
 from ._errors import Diagnostic, Error
-from ._handle import Handle, argument, path_argument, text_of
+from ._handle import Handle, argument, number_argument, path_argument, text_of
 from ._library import CDiagnostic, FileCallback, bytes_at, lib
 from ._sources import ENCODINGS, ReadSource, Source, read_source
 from ._target import BinaryWriter, Destination, Target, is_path, write_all
@@ -110,8 +110,9 @@ class Job(Handle):
                  encoding: str = "auto", check: bool = False, ignore: Iterable[str] = (),
                  enable: Iterable[str] = ()) -> None:
         self._encoding = choice(encoding, ENCODINGS, "encoding")
-        super().__init__()
+        # What a call leaves in the job is read before another thread calls or closes it.
         self._together = threading.RLock()
+        super().__init__()
         self._path = path
         self._files = files
         self._has_data = False
@@ -126,9 +127,15 @@ class Job(Handle):
         for identifier in enable:
             self._call(lib.quorvane_job_enable, *argument(identifier))
         self._call(lib.quorvane_job_set_locale, *argument(locale))
-        self._call(lib.quorvane_job_set_checks, check)
+        self._call(lib.quorvane_job_set_checks, number_argument(check, "check"))
         if stylesheet is not None:
             self._set_stylesheet(read_source(stylesheet))
+
+    def close(self) -> None:
+        """Releases the memory, after what other threads do with the job now."""
+        self._require_outside()
+        with self._together:
+            super().close()
 
     def render(self, description: Source, *, data: Any = None) -> Rendered:
         """Renders a description and returns the bytes of the document.
