@@ -58,8 +58,11 @@ RecordsRendering::RecordsRendering(const RenderOptions& options, const RenderMea
 }
 
 std::string RecordsRendering::commonFolder() const {
-    return joined_ ? utf8FromPath(pathFromUtf8(joined_->path()).parent_path())
-                   : names_->commonFolder();
+    if (!joined_) {
+        return names_->commonFolder();
+    }
+    const std::string folder = utf8FromPath(pathFromUtf8(joined_->path()).parent_path());
+    return folder.empty() ? "." : folder;
 }
 
 ExitStatus RecordsRendering::run(std::size_t threads) {
