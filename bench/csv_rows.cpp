@@ -81,9 +81,8 @@ int main(int argc, char** argv) {
     const std::size_t second = document.rfind(rowBegin);
     const std::size_t first = document.rfind(rowBegin, second - 1);
     const std::size_t end = document.rfind(rowEnd) + rowEnd.size();
-    const std::vector<std::string_view> rows[] = {
-        pieces(document.substr(first, second - first)),
-        pieces(document.substr(second, end - second))};
+    const std::vector<std::string_view> rows[] = {pieces(document.substr(first, second - first)),
+                                                  pieces(document.substr(second, end - second))};
     Output out(argv[3]);
     out.add(document.substr(0, first));
     std::ifstream csv(argv[1], std::ios::binary);
