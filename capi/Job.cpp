@@ -86,6 +86,11 @@ std::string nameOr(std::string_view name, std::string_view fallback) {
                    "The description has no path, so there is no folder to look in"));
 }
 
+ContentError numbered(ContentError error, std::int32_t number) {
+    error.text.number = number;
+    return error;
+}
+
 }  // namespace
 
 void Job::setStyleSheet(std::string_view bytes, std::string_view name) {
@@ -387,9 +392,7 @@ void Job::refuse(const std::string& name, const std::vector<Diagnostic>& diagnos
                  std::int32_t number) {
     report(name, diagnostics);
     deliver();
-    ContentError error = contentError(name, *firstError(diagnostics));
-    error.text.number = number;
-    throw error;
+    throw numbered(contentError(name, *firstError(diagnostics)), number);
 }
 
 void Job::deliver() const {

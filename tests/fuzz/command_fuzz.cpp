@@ -218,7 +218,8 @@ void requireSameWhenLocated(const std::vector<std::string>& arguments, int expec
     // The report of records has what is reported, in its form.
     const auto withoutReport = [&](plain::Files files) {
         if (options->report) {
-            files.erase(fs::path(*options->report).lexically_normal().generic_string());
+            files.erase(
+                std::filesystem::path(*options->report).lexically_normal().generic_string());
         }
         return files;
     };
