@@ -2,8 +2,10 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <charconv>
 #include <map>
 #include <sstream>
+#include <system_error>
 
 #include "cli/UsageError.h"
 #include "cli/licenses.h"
@@ -364,24 +366,24 @@ std::string wrongJobs(const std::string& value) {
                : asGiven(value) + " is not a number from 0 to " + std::to_string(maxJobs);
 }
 
+/// The number that digits are; nothing for any other text, and for one that is too large.
+std::optional<std::size_t> numberOf(const std::string& digits) {
+    std::size_t number = 0;
+    const char* const end = digits.data() + digits.size();
+    const auto [read, failure] = std::from_chars(digits.data(), end, number);
+    return failure == std::errc() && read == end ? std::optional(number) : std::nullopt;
+}
+
 /// The numbers of "1001-2000", "1001-" or "17"; nothing for any other text.
 std::optional<RecordRange> recordRange(const std::string& text) {
-    constexpr std::size_t mostDigits = 18;
     const std::size_t sign = text.find('-');
-    const std::string first = text.substr(0, sign);
-    const std::string last = sign == std::string::npos ? first : text.substr(sign + 1);
-    const auto isNumber = [](const std::string& part) {
-        return part.size() <= mostDigits &&
-               part.find_first_not_of("0123456789") == std::string::npos;
-    };
-    if (first.empty() || !isNumber(first) || !isNumber(last)) {
+    const std::string last = sign == std::string::npos ? text : text.substr(sign + 1);
+    const std::optional<std::size_t> first = numberOf(text.substr(0, sign));
+    const std::optional<std::size_t> end = last.empty() ? RecordRange().last : numberOf(last);
+    if (!first || !end || *first == 0 || *first > *end) {
         return std::nullopt;
     }
-    RecordRange range{.first = std::stoull(first)};
-    if (!last.empty()) {
-        range.last = std::stoull(last);
-    }
-    return range.first > 0 && range.first <= range.last ? std::optional(range) : std::nullopt;
+    return RecordRange{.first = *first, .last = *end};
 }
 
 /// What is wrong with the numbers of records; empty if they are a range.
