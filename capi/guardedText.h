@@ -21,8 +21,7 @@ inline char* copiedText(std::string_view text) {
 
 /// Runs the body of a function that returns a text. If it fails, the text is null.
 template <class Handle, class Body>
-quorvane_status guardedText(Handle* handle, char** text, std::size_t* length,
-                            Body&& body) noexcept {
+quorvane_status guardedText(Handle* handle, char** text, std::size_t* length, Body&& body) {
     if (text) {
         *text = nullptr;
     }

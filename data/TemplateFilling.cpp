@@ -14,7 +14,8 @@ namespace quorvane::data {
 namespace {
 
 constexpr std::size_t maxRepeatedSteps = 10'000'000;
-constexpr std::size_t maxTextBytes = std::size_t{256} * 1024 * 1024;
+constexpr std::size_t megabyte = std::size_t{1024} * 1024;
+constexpr std::size_t maxTextBytes = 256 * megabyte;
 
 const DataValue& booleanValue(bool value) {
     static const DataValue yes{.kind = DataValue::Kind::Boolean, .text = "true"};
@@ -206,7 +207,7 @@ std::size_t TemplateFilling::refuseSize(const TemplateQuery& query) {
     reportWrong(query,
                 "The lists of the data make more than " + std::to_string(maxRepeatedSteps) +
                     " lines, texts and values, or more than " +
-                    std::to_string(maxTextBytes / (1024 * 1024)) + " MB of text.",
+                    std::to_string(maxTextBytes / megabyte) + " MB of text.",
                 "make several documents of them");
     begin();
     return template_.steps.size();

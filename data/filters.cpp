@@ -101,7 +101,7 @@ FilterResult readDate(std::string_view value, const Locale& locale) {
 }
 
 FilterResult shownNumber(const Filter& filter, std::string_view value, const Locale& locale) {
-    const FilterResult read = readNumber(value, locale);
+    FilterResult read = readNumber(value, locale);
     if (!read.error.empty()) {
         return read;
     }
@@ -186,7 +186,7 @@ FilterResult Filter::apply(std::string_view value, const Locale& locale) const {
         case FilterKind::Money:
             return shownNumber(*this, value, locale);
         case FilterKind::Date: {
-            const FilterResult read = readDate(value, locale);
+            FilterResult read = readDate(value, locale);
             FilterResult result;
             if (read.error.empty() && !dateText(read.text, argument, result.text)) {
                 return {.error = quoted(value) + " is not a date of the form 2026-11-22"};

@@ -226,10 +226,10 @@ private:
             return;
         }
         try {
-            const json& found = root_.at(json::json_pointer(target.substr(1)));
-            same_[schema].push_back(&found);
-            if (followed_.insert(&found).second) {
-                open_.back().inner.push_back({&found, target.substr(1)});
+            const json* const found = &root_.at(json::json_pointer(target.substr(1)));
+            same_[schema].push_back(found);
+            if (followed_.insert(found).second) {
+                open_.back().inner.push_back({found, target.substr(1)});
             }
         } catch (const json::exception&) {
             fail(pointer, target + " is not in this file.");
