@@ -12,7 +12,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-/// The object with which a program is told of an event; see `check` and `render`.
+/// The object that reports an event to a program; see `check` and `render`.
 struct EventJson {
     std::string operator()(const ReportedError& error) const { return errorJson(error); }
     std::string operator()(const LocatedDiagnostic& located) const {
