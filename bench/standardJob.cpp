@@ -28,6 +28,22 @@ void setText(CRtfParagraph& paragraph, std::int32_t row, std::int32_t cell, std:
     paragraph.setText(text);
 }
 
+// The same as a cell of the modern interface.
+void addCell(const Row& tableRow, std::int32_t row, std::int32_t cell, std::string& text) {
+    const std::string_view style = styleNames[static_cast<std::size_t>(row % 3)];
+    text = "Article ";
+    if (cell != 1) {
+        appendPadded(row, text);
+        text += " in box ";
+        text += static_cast<char>('0' + cell);
+        tableRow.addCell(text, style);
+        return;
+    }
+    std::string number;
+    appendPadded(row, number);
+    tableRow.addCell(text + styled("bold", number) + " in box 1", style);
+}
+
 // What stands before the first row.
 std::string_view emittedHead() {
     static const std::string head = [] {
@@ -139,10 +155,31 @@ void buildStandardRows(CRtfDoc& document, std::int32_t rows) {
     }
 }
 
+void buildStandardRows(Document& document, std::int32_t rows) {
+    std::string text;
+    for (std::int32_t row = 0; row < rows; ++row) {
+        const Row tableRow = document.addRow();
+        for (std::int32_t cell = 0; cell < cellsPerRow; ++cell) {
+            addCell(tableRow, row, cell, text);
+        }
+        tableRow.setBorders(eThin);
+        if (row % 2 == 1) {
+            tableRow.setBackColor(eSilver);
+        }
+    }
+}
+
 Ref<CRtfDoc> standardDocument(std::int32_t rows) {
     Ref<CRtfDoc> document = CRtfDoc::create();
     document->LoadStyleSheetFromMemmory(standardStyleSheet());
     buildStandardRows(*document, rows);
+    return document;
+}
+
+Document modernStandardDocument(std::int32_t rows) {
+    Document document(CRtfDoc::create());
+    document.setStyleSheet(standardStyleSheet());
+    buildStandardRows(document, rows);
     return document;
 }
 

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "quorvane/compose/Document.h"
 #include "quorvane/docmodel/CRtfDoc.h"
 
 namespace quorvane::bench {
@@ -25,8 +26,14 @@ std::string fullDescription();
 /// Builds the rows of the standard job through the object model.
 void buildStandardRows(CRtfDoc& document, std::int32_t rows);
 
+/// Builds the same rows through the modern interface.
+void buildStandardRows(Document& document, std::int32_t rows);
+
 /// A document of the standard job, not rendered yet.
 Ref<CRtfDoc> standardDocument(std::int32_t rows);
+
+/// The same document, built through the modern interface.
+Document modernStandardDocument(std::int32_t rows);
 
 /// The yardstick: writes the standard job's document by a program that knows it beforehand, into
 /// one buffer.

@@ -7,20 +7,13 @@
 
 #include "cli/RenderOptions.h"
 #include "cli/utf8Path.h"
+#include "quorvane/base/values/deepestCause.h"
 
 namespace quorvane::cli {
 
 namespace {
 
 namespace fs = std::filesystem;
-
-const RtfError& deepestCause(const RtfError& error) {
-    const RtfError* deepest = &error;
-    while (deepest->cause) {
-        deepest = deepest->cause.get();
-    }
-    return *deepest;
-}
 
 /// True for an error that is no more than the number of a run-time error.
 bool isBare(const RtfError& error) {

@@ -124,6 +124,14 @@ void InnerDocument::renderInto(std::string& rtf) {
     out.flush();
 }
 
+void InnerDocument::renderOnce(TextOutput& out) {
+    refuseWhileWriting();
+    checkLayout();
+    const BeingWritten here(textState_);
+    TableRendering rendering(*this, out);
+    render(rendering);
+}
+
 void InnerDocument::render(TableRendering& rendering) {
     renderBeginning(rendering);
     if (hasLayout()) {

@@ -43,6 +43,9 @@ public:
     void checkLayout();
     tColorIndex addColor(RgbColor color);
     std::int32_t addFont(std::string_view name);
+    // Renders the document as it is now, and keeps no text. Cannot be interrupted by a change: that
+    // is error 5.
+    void renderOnce(TextOutput& out);
     // Writes all that comes before the rows of the table that are not in the page header.
     void renderBeginning(TableRendering& rendering);
     // Writes all that comes after them.

@@ -88,6 +88,11 @@ void InnerRow::takeOver(InnerRow& old) {
     cells().takeFrom(old.cells());
 }
 
+void InnerRow::passOn(InnerCell& cell) const {
+    cell.takeBorders(borders_);
+    cell.applyBackColor(parent_.get(), static_cast<tColorIndex>(backColor_));
+}
+
 void InnerRow::setBorder(BorderSide side, tBorderWidth width) {
     if (borders_[side] == width) {
         return;

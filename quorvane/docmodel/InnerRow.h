@@ -25,6 +25,8 @@ public:
     InnerCells& cells() noexcept { return *this; }
     void takeOver(InnerRow& old);
     const RowSettings& settings() const noexcept;
+    /// Gives a cell the borders and the background of the row.
+    void passOn(InnerCell& cell) const;
     void render(TableRendering& rendering);
     /// Writes the row with its settings, which the caller has looked up, and its cells at these
     /// places.

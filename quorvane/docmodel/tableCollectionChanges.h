@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 
 #include "quorvane/docmodel/TableDocument.h"
 #include "quorvane/support/published.h"
@@ -17,6 +18,23 @@ template <class Inner>
 void insertInto(Inner& collection, const Value& key, const Value& before, const Value& after) {
     TableDocument& document = changing(collection.document());
     collection.insertNew(collection.list().placeFor(key, before, after), document);
+    document.markChanged();
+}
+
+/// Adds an element without a key at a position, from 1 to one after the last, and returns it.
+template <class Inner>
+auto& insertAt(Inner& collection, std::size_t position) {
+    TableDocument& document = changing(collection.document());
+    collection.insertNew({position, std::nullopt}, document);
+    document.markChanged();
+    return collection.list().at(position);
+}
+
+/// Removes the element at a position, which must be there.
+template <class Inner>
+void removeFrom(Inner& collection, std::size_t position) {
+    TableDocument& document = changing(collection.document());
+    collection.removeAt(position);
     document.markChanged();
 }
 

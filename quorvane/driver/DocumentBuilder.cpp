@@ -62,8 +62,6 @@ Enumeration required(std::optional<Enumeration> value, const Leaf& leaf) {
     return *value;
 }
 
-constexpr std::int32_t maxSpan = 63;
-
 /// A host that is shown an absorbed error may remove elements that are not finished.
 template <class Collection>
 void requirePosition(const Collection& collection, std::int32_t position) {
@@ -273,8 +271,7 @@ std::int32_t DocumentBuilder::length(const Leaf& leaf) const {
 }
 
 std::int32_t DocumentBuilder::pageNumber(const Leaf& leaf) const {
-    constexpr std::int32_t last = 32767;
-    return dialect_.values.areExtended ? wholeNumber(leaf.text, 1, last) : number(leaf);
+    return dialect_.values.areExtended ? wholeNumber(leaf.text, 1, lastPageNumber) : number(leaf);
 }
 
 template <class Collection, class Built>
@@ -454,13 +451,8 @@ void DocumentBuilder::setText(CRtfParagraph& paragraph, const Leaf& leaf) const 
 /// The name of a style, which must be in the stylesheet where the dialect says so.
 std::string DocumentBuilder::styleName(const Leaf& leaf, StyleKind kind) {
     std::string name = leaf.valueText();
-    std::string& known = kind == StyleKind::Cell ? knownCellStyle_ : knownParagraphStyle_;
-    if (dialect_.values.areExtended && name != known && !name.empty()) {
-        if (inner(document_).lacksStyle(kind, name)) {
-            throw LeafError(DriverFault::UndefinedStyle,
-                            std::string(styleKindName(kind)) + " style " + name);
-        }
-        known = name;
+    if (dialect_.values.areExtended) {
+        styleNames_.require(kind, name);
     }
     return name;
 }

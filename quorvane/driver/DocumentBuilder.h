@@ -12,6 +12,7 @@
 #include "quorvane/driver/LeafApplication.h"
 #include "quorvane/driver/LiteralParagraphs.h"
 #include "quorvane/driver/PictureSource.h"
+#include "quorvane/driver/StyleNames.h"
 #include "quorvane/driver/driverFaults.h"
 #include "quorvane/stylesheet/StyleKind.h"
 
@@ -30,7 +31,8 @@ public:
           dialect_(dialect),
           apply_(std::move(receiver)),
           columns_(document, apply_),
-          literals_(document, dialect, std::move(pictures), apply_) {}
+          literals_(document, dialect, std::move(pictures), apply_),
+          styleNames_(document) {}
     DocumentBuilder(const DocumentBuilder&) = delete;
     DocumentBuilder& operator=(const DocumentBuilder&) = delete;
 
@@ -93,9 +95,7 @@ private:
     LiteralParagraphs literals_;
     BuiltTable table_;
     bool checksLayout_ = true;
-    // The names looked up last, which are in the stylesheet.
-    std::string knownParagraphStyle_;
-    std::string knownCellStyle_;
+    StyleNames styleNames_;
 };
 
 }  // namespace quorvane

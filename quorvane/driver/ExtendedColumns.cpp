@@ -21,11 +21,7 @@ bool hasSpan(const BuiltTable::Cell& cell) {
 
 std::vector<std::int32_t> ExtendedColumns::columnsOf(const Leaf& leaf) const {
     const std::vector<ColumnWidth> widths = columnWidths(leaf.text);
-    return columnLayout({widths.begin(), widths.end()}, space());
-}
-
-ColumnSpace ExtendedColumns::space() const {
-    return {document_.TextAreaWidth(), document_.PageWidth() - document_.LeftMargin()};
+    return columnLayout({widths.begin(), widths.end()}, columnSpaceOf(document_));
 }
 
 void ExtendedColumns::applyWidths(BuiltTable::Row& row, std::span<const BuiltTable::Cell> cells) {
@@ -46,7 +42,7 @@ void ExtendedColumns::applyWidths(BuiltTable::Row& row, std::span<const BuiltTab
 /// fit.
 void ExtendedColumns::setWidths(BuiltTable::Row& row, std::span<const BuiltTable::Cell> cells) {
     if (widths_ != knownWidths_) {
-        knownTwips_ = columnLayout(widths_, space());
+        knownTwips_ = columnLayout(widths_, columnSpaceOf(document_));
         knownWidths_ = widths_;
     }
     if (inner(document_).hasSpans() || std::ranges::any_of(cells, hasSpan)) {

@@ -30,7 +30,6 @@ public:
 private:
     ColumnWidth widthOf(const BuiltTable::Row& row, const BuiltTable::Cell& cell,
                         const Leaf& leaf) const;
-    ColumnSpace space() const;
     void setWidths(BuiltTable::Row& row, std::span<const BuiltTable::Cell> cells);
 
     CRtfDoc& document_;

@@ -51,6 +51,10 @@ double takenBy(const std::vector<std::optional<ColumnWidth>>& columns, const Col
 
 }  // namespace
 
+ColumnSpace columnSpaceOf(const CRtfDoc& document) {
+    return {document.TextAreaWidth(), document.PageWidth() - document.LeftMargin()};
+}
+
 std::vector<std::int32_t> columnLayout(const std::vector<std::optional<ColumnWidth>>& columns,
                                        const ColumnSpace& space) {
     const double rest = space.textArea - takenBy(columns, space);

@@ -4,6 +4,7 @@
 #include <optional>
 #include <vector>
 
+#include "quorvane/docmodel/CRtfDoc.h"
 #include "quorvane/driver/extendedValues.h"
 
 namespace quorvane {
@@ -15,6 +16,9 @@ struct ColumnSpace {
     /// From the left margin to the edge of the paper.
     std::int32_t paper = 0;
 };
+
+/// Where the columns of a document are.
+ColumnSpace columnSpaceOf(const CRtfDoc& document);
 
 /// The widths of columns in twips. Those without a width share what the others leave of the text
 /// area. The right edges are exact to a twip. A `LeafError` of the fault `WrongValue` if the shares

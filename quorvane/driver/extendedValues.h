@@ -23,6 +23,10 @@ std::int32_t lengthFrom(std::int32_t min, std::string_view text);
 /// A whole number from `min` to `max`.
 std::int32_t wholeNumber(std::string_view text, std::int32_t min, std::int32_t max);
 
+/// The most columns that a cell takes, and the largest number of the first page.
+inline constexpr std::int32_t maxSpan = 63;
+inline constexpr std::int32_t lastPageNumber = 32767;
+
 /// "yes" or "no".
 bool yesOrNo(std::string_view text);
 

@@ -89,14 +89,6 @@ std::vector<StyledPart> styledParts(std::string_view text, const CharacterStyleW
     return parts;
 }
 
-void appendWords(std::string_view words, std::string& rtf) {
-    rtf += '{';
-    rtf += words;
-    if (rtf.back() != ' ' && rtf.back() != '{') {
-        rtf += ' ';
-    }
-}
-
 bool isBlank(std::string_view text) {
     return text.find_first_not_of(" \t") == nowhere;
 }
@@ -113,6 +105,14 @@ std::string_view withoutIndent(std::string_view line, std::size_t indent) {
 }
 
 }  // namespace
+
+void beginStyledText(std::string_view words, std::string& rtf) {
+    rtf += '{';
+    rtf += words;
+    if (rtf.back() != ' ' && rtf.back() != '{') {
+        rtf += ' ';
+    }
+}
 
 void appendLiteralText(std::string_view text, const CharacterStyleWords& wordsOf, std::string& rtf,
                        std::span<const TextRange> data) {
@@ -134,7 +134,7 @@ void appendLiteralText(std::string_view text, const CharacterStyleWords& wordsOf
     for (const StyledPart& part : parts) {
         closeUpTo(part.opening);
         appendRtfText(text.substr(at, part.opening - at), rtf);
-        appendWords(part.words, rtf);
+        beginStyledText(part.words, rtf);
         at = part.textBegin;
         closings.push_back(part.closing);
     }

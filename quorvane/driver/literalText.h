@@ -21,6 +21,9 @@ using CharacterStyleWords = std::function<std::string_view(std::string_view name
 void appendLiteralText(std::string_view text, const CharacterStyleWords& wordsOf, std::string& rtf,
                        std::span<const TextRange> data = {});
 
+/// Begins the group of an inline style with these words; "}" ends it.
+void beginStyledText(std::string_view words, std::string& rtf);
+
 /// The names after each "<" of a literal text that can open a style. None is in a part that comes
 /// from data.
 std::vector<std::string_view> inlineStyleNames(std::string_view text,

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+
+#include "quorvane/base/platform/Platform.h"
+
+namespace quorvane {
+
+/// The bytes of a file. Error "unreadable-file" with the reason of the system.
+std::string readWholeFile(const std::string& path, Platform& platform);
+
+}  // namespace quorvane
