@@ -114,6 +114,8 @@ public:
         const Turns toOneBuffer =
             compare((job + ", to the one-buffer emitter").c_str(), 11, run({}), run({"emitter"}));
         compare((job + ", to the streaming emitter").c_str(), 11, run({}), run({"streaming"}));
+        compare((job + " through the modern interface, to the object model").c_str(), 11,
+                run({"modern"}), run({}));
         std::printf("- Its peak memory: %.1f MB; that of the one-buffer emitter: %.1f MB\n",
                     toOneBuffer.ours(&Run::peakMegabytes), toOneBuffer.theirs(&Run::peakMegabytes));
     }

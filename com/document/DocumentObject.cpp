@@ -9,7 +9,6 @@
 #include "com/hostText.h"
 #include "data/renderTemplate.h"
 #include "quorvane/base/text/TextEncoding.h"
-#include "quorvane/compose/readWholeFile.h"
 #include "quorvane/compose/render.h"
 #include "quorvane/diagnostics/engine/withoutIgnored.h"
 #include "quorvane/diagnostics/stylesheet/StyleSheetCheck.h"
@@ -44,12 +43,6 @@ void addRows(Document& document, const std::vector<std::vector<std::string>>& ro
 PageText pageText(const std::string& text) {
     const auto [left, center, right] = pageLineParts(text);
     return {left, center, right};
-}
-
-std::string textOfFile(const std::string& path) {
-    std::string bytes = readWholeFile(path, systemPlatform());
-    const TextEncoding encoding = encodingOf(bytes);
-    return decodedText(std::move(bytes), encoding);
 }
 
 }  // namespace
@@ -209,11 +202,8 @@ STDMETHODIMP DocumentObject::Render(BSTR description, VARIANT* styleSheet) {
 
 STDMETHODIMP DocumentObject::RenderFile(BSTR path, VARIANT* styleSheetPath) {
     return perform([&] {
-        replaceBy([&] {
-            const std::string sheet = textOf(styleSheetPath);
-            return renderFile(textOf(path),
-                              {.styleSheet = sheet.empty() ? std::string() : textOfFile(sheet)});
-        });
+        replaceBy(
+            [&] { return renderFile(textOf(path), {.styleSheetFile = textOf(styleSheetPath)}); });
     });
 }
 

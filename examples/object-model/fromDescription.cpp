@@ -1,9 +1,9 @@
 // Makes a document from a description and a stylesheet, and works on it:
 // fromDescription DESCRIPTION STYLESHEET FILE
 
-#include <iostream>
+#include <quorvane/quorvane.h>
 
-#include "quorvane/driver/CRtfDriver.h"
+#include <iostream>
 
 int main(int argc, char** argv) {
     using namespace quorvane;
@@ -11,25 +11,16 @@ int main(int argc, char** argv) {
         std::cerr << "usage: fromDescription DESCRIPTION STYLESHEET FILE\n";
         return 2;
     }
-    const auto driver = CRtfDriver::create();
-    driver->setErroneousInput(true);
-    int errors = 0;
-    driver->setNotifyErrorHandler([&errors](CRtfDriver&, const RtfError& error) {
-        ++errors;
-        std::cerr << "line " << error.line << ": " << error.description << '\n';
-    });
     try {
-        driver->setStyleSheetFile(argv[2]);
-        driver->ParseFile(argv[1]);
-        if (errors > 0) {
-            return 1;
-        }
+        Document document = renderFile(argv[1], {.styleSheetFile = argv[2]}).document;
         // The first row has the key 1001.
-        const auto row = driver->RtfObject()->TableRows()->Item("1001");
-        row->TableCells()->Item(1)->Paragraphs()->Item(1)->setForeColor(eSteelBlue);
-        driver->Commit(argv[3]);
-    } catch (const RtfError& error) {
-        std::cerr << error.description << '\n';
+        document.row("1001")[0][0].setColor("steel-blue");
+        document.save(argv[3]);
+    } catch (const Error& error) {
+        std::cerr << error.what() << '\n';
+        for (const Diagnostic& diagnostic : error.diagnostics()) {
+            std::cerr << diagnostic.place.line << ": " << diagnostic.message << '\n';
+        }
         return 1;
     }
 }

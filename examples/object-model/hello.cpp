@@ -1,8 +1,8 @@
 // Builds a document of one row with two cells: hello FILE
 
-#include <iostream>
+#include <quorvane/quorvane.h>
 
-#include "quorvane/docmodel/CRtfDoc.h"
+#include <iostream>
 
 int main(int argc, char** argv) {
     using namespace quorvane;
@@ -11,24 +11,13 @@ int main(int argc, char** argv) {
         return 2;
     }
     try {
-        const auto document = CRtfDoc::create();
-        document->LoadStyleSheetFromMemmory("{ name: normal; style-def: s; format: \\f0\\fs24 }");
-
-        document->TableRows()->AddTail();
-        const auto row = document->TableRows()->PeekTail();
-        row->TableCells()->AddTail();
-        row->TableCells()->AddTail();
-        row->TableCells()->Item(1)->setWidth(ePercent, 30);
-        row->setBottomBorder(eThin);
-
-        const auto cell = row->TableCells()->Item(2);
-        cell->Paragraphs()->AddTail();
-        cell->Paragraphs()->PeekTail()->setText("Good morning.");
-        cell->Paragraphs()->PeekTail()->setStyle("normal");
-
-        document->Commit(argv[1]);
-    } catch (const RtfError& error) {
-        std::cerr << error.description << '\n';
+        Document document;
+        document.setStyleSheet("{ name: normal; style-def: s; format: \\f0\\fs24 }");
+        document.setColumns({30, 70});
+        document.addRow({"", "Good morning."}, "normal").setBottomBorder(eThin);
+        document.save(argv[1]);
+    } catch (const Error& error) {
+        std::cerr << error.what() << '\n';
         return 1;
     }
 }

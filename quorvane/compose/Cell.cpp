@@ -36,7 +36,7 @@ Cell Cell::set(void (CRtfTableCell::*setter)(Value), Value value) const {
 }
 
 Paragraph Cell::addParagraph(TextView text, std::string_view style) const {
-    return insertParagraph(size(), text, style);
+    return insertParagraph(Paragraph::countIn(*this), text, style);
 }
 
 Paragraph Cell::addParagraph(const Picture& picture, std::string_view style) const {

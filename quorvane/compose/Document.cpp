@@ -2,7 +2,6 @@
 
 #include <ostream>
 
-#include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/compose/ComposedDocument.h"
 #include "quorvane/compose/Insertion.h"
 #include "quorvane/compose/readWholeFile.h"
@@ -139,11 +138,7 @@ void Document::setStyleSheet(std::string_view text) {
 }
 
 void Document::setStyleSheetFile(const std::string& path) {
-    composing([&] {
-        std::string bytes = readWholeFile(path, composed().platform());
-        const TextEncoding encoding = encodingOf(bytes);
-        composed().setStyleSheet(decodedText(std::move(bytes), encoding), path);
-    });
+    composing([&] { composed().setStyleSheet(readWholeText(path, composed().platform()), path); });
 }
 
 std::int32_t Document::addFont(std::string_view name) {

@@ -93,8 +93,9 @@ public:
     /// The elements of an owner.
     explicit ElementRange(Owner owner) : owner_(std::move(owner)) {}
 
-    /// Return the position of the first element and the one after the last.
+    /// Returns the position of the first element.
     iterator begin() const { return {owner_, 0}; }
+    /// Returns the position after the last element.
     iterator end() const { return {owner_, static_cast<std::ptrdiff_t>(size())}; }
 
     /// Returns the number of elements.
@@ -102,9 +103,11 @@ public:
     /// Returns whether there is no element.
     bool empty() const { return size() == 0; }
 
-    /// Return an element. Error "wrong-call" if there is none at this index.
+    /// Returns an element. Error "wrong-call" if there is none at this index.
     Element operator[](std::size_t index) const { return Element::at(owner_, index); }
+    /// Returns the first element. Error "wrong-call" if there is none.
     Element front() const { return (*this)[0]; }
+    /// Returns the last element. Error "wrong-call" if there is none.
     Element back() const { return (*this)[size() - 1]; }
 
 private:

@@ -31,11 +31,11 @@ Row Row::set(void (CRtfTableRow::*setter)(Value), Value value) const {
 }
 
 Cell Row::addCell() const {
-    return insertCell(size());
+    return insertCell(Cell::countIn(*this));
 }
 
 Cell Row::addCell(TextView text, std::string_view style) const {
-    return insertCell(size(), text, style);
+    return insertCell(Cell::countIn(*this), text, style);
 }
 
 Cell Row::insertCell(std::size_t index) const {

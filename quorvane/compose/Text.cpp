@@ -1,36 +1,49 @@
 #include "quorvane/compose/Text.h"
 
-#include <iterator>
-#include <utility>
+#include <cstddef>
+
+#include "quorvane/compose/textMarks.h"
 
 namespace quorvane {
 
+namespace {
+
+void appendMark(char kind, std::string& marked) {
+    marked += textMarks::mark;
+    marked += kind;
+}
+
+/// A byte that is a mark stays itself, so that the text is refused and not taken for another one.
+void appendUnmarked(std::string_view text, std::string& marked) {
+    std::size_t at = text.find(textMarks::mark);
+    while (at != std::string_view::npos) {
+        marked += text.substr(0, at);
+        appendMark(textMarks::byte, marked);
+        text.remove_prefix(at + 1);
+        at = text.find(textMarks::mark);
+    }
+    marked += text;
+}
+
+void appendName(char kind, std::string_view name, std::string& marked) {
+    appendMark(kind, marked);
+    appendUnmarked(name, marked);
+    appendMark(textMarks::endOfName, marked);
+}
+
+}  // namespace
+
 Text::Text(std::string_view utf8) {
-    if (!utf8.empty()) {
-        parts_.push_back({Part::Kind::Literal, std::string(utf8)});
-    }
+    appendUnmarked(utf8, marked_);
 }
 
-Text& Text::operator+=(const Text& other) {
-    // It can be this text.
-    const std::vector<Part> appended = other.parts_;
-    auto next = appended.begin();
-    // Blanks in a row are one text, wherever its parts meet.
-    if (!parts_.empty() && next != appended.end() && parts_.back().kind == Part::Kind::Literal &&
-        next->kind == Part::Kind::Literal) {
-        parts_.back().text += next->text;
-        ++next;
-    }
-    parts_.insert(parts_.end(), next, appended.end());
-    return *this;
-}
-
-Text Text::within(Part begin, const Text& text) {
+Text Text::within(char kind, std::string_view name, const Text& text) {
+    constexpr std::size_t marks = 6;
     Text whole;
-    whole.parts_.reserve(text.parts_.size() + 2);
-    whole.parts_.push_back(std::move(begin));
-    whole.parts_.insert(whole.parts_.end(), text.parts_.begin(), text.parts_.end());
-    whole.parts_.push_back({Part::Kind::End});
+    whole.marked_.reserve(name.size() + text.marked_.size() + marks);
+    appendName(kind, name, whole.marked_);
+    whole.marked_ += text.marked_;
+    appendMark(textMarks::end, whole.marked_);
     return whole;
 }
 
@@ -41,24 +54,24 @@ Text operator+(Text first, const Text& second) {
 
 Text rtf(std::string_view raw) {
     Text text;
-    text.parts_.push_back({Text::Part::Kind::Raw, std::string(raw)});
+    appendName(textMarks::raw, raw, text.marked_);
     return text;
 }
 
 Text styled(std::string_view style, const Text& text) {
-    return Text::within({Text::Part::Kind::Style, std::string(style)}, text);
+    return Text::within(textMarks::style, style, text);
 }
 
 Text bold(const Text& text) {
-    return Text::within({Text::Part::Kind::Words, "\\b"}, text);
+    return Text::within(textMarks::words, "\\b", text);
 }
 
 Text italic(const Text& text) {
-    return Text::within({Text::Part::Kind::Words, "\\i"}, text);
+    return Text::within(textMarks::words, "\\i", text);
 }
 
 Text underlined(const Text& text) {
-    return Text::within({Text::Part::Kind::Words, "\\ul"}, text);
+    return Text::within(textMarks::words, "\\ul", text);
 }
 
 }  // namespace quorvane

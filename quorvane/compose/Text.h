@@ -1,9 +1,7 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace quorvane {
 
@@ -24,7 +22,10 @@ public:
     Text(const char* utf8) : Text(std::string_view(utf8 ? utf8 : "")) {}
 
     /// Appends another text.
-    Text& operator+=(const Text& other);
+    Text& operator+=(const Text& other) {
+        marked_ += other.marked_;
+        return *this;
+    }
 
 private:
     friend class TextView;
@@ -35,16 +36,10 @@ private:
     friend Text underlined(const Text& text);
     friend class TextRendering;
 
-    struct Part {
-        enum class Kind : std::uint8_t { Literal, Raw, Style, Words, End };
+    static Text within(char kind, std::string_view name, const Text& text);
 
-        Kind kind;
-        std::string text{};
-    };
-
-    static Text within(Part begin, const Text& text);
-
-    std::vector<Part> parts_;
+    // The literal parts, with marks between them that no text in UTF-8 has; see `textMarks.h`.
+    std::string marked_;
 };
 
 /// Returns both texts, one after the other.
@@ -62,9 +57,13 @@ Text rtf(std::string_view raw);
 /// paragraph, so set the stylesheet before.
 Text styled(std::string_view style, const Text& text);
 
-/// Return the text in bold, in italics, or underlined.
+/// Returns the text in bold.
 Text bold(const Text& text);
+
+/// Returns the text in italics.
 Text italic(const Text& text);
+
+/// Returns the text underlined.
 Text underlined(const Text& text);
 
 /// How functions take a text: as a literal text in UTF-8 or as a `Text`. It refers to the text and

@@ -1,5 +1,9 @@
 #include "quorvane/compose/TextRendering.h"
 
+#include <algorithm>
+#include <cstddef>
+
+#include "quorvane/compose/textMarks.h"
 #include "quorvane/driver/LeafError.h"
 #include "quorvane/driver/literalText.h"
 #include "quorvane/driver/rawRtf.h"
@@ -7,43 +11,77 @@
 
 namespace quorvane {
 
+namespace {
+
+/// A name without the marks of bytes that are marks.
+std::string nameOf(std::string_view marked) {
+    std::string name(marked);
+    for (std::size_t at = name.find(textMarks::mark); at != std::string::npos;
+         at = name.find(textMarks::mark, at + 1)) {
+        name.erase(at + 1, 1);
+    }
+    return name;
+}
+
+/// The end of a name, words or raw RTF that begins there.
+std::size_t endOfName(std::string_view marked, std::size_t from) {
+    constexpr char end[] = {textMarks::mark, textMarks::endOfName};
+    return marked.find(std::string_view(end, sizeof end), from);
+}
+
+}  // namespace
+
 std::string_view TextRendering::rtfOf(const TextView& view) {
     rtf_.clear();
     if (view.text_) {
-        append(*view.text_);
+        append(view.text_->marked_);
     } else {
         appendRtfText(view.literal_, rtf_);
     }
     return rtf_;
 }
 
-void TextRendering::append(const Text& text) {
-    using Kind = Text::Part::Kind;
-    for (const Text::Part& part : text.parts_) {
-        switch (part.kind) {
-            case Kind::Literal:
-                appendRtfText(part.text, rtf_);
-                break;
-            case Kind::Raw:
-                rtf_ += rawRtf(part.text);
-                break;
-            case Kind::Style:
-                beginStyledText(wordsOf(part.text), rtf_);
-                break;
-            case Kind::Words:
-                beginStyledText(part.text, rtf_);
-                break;
-            case Kind::End:
-                rtf_ += '}';
-                break;
+void TextRendering::append(std::string_view marked) {
+    std::size_t at = 0;
+    for (;;) {
+        const std::size_t mark = std::min(marked.find(textMarks::mark, at), marked.size());
+        appendRtfText(marked.substr(at, mark - at), rtf_);
+        if (mark == marked.size()) {
+            return;
+        }
+        const char kind = marked[mark + 1];
+        at = mark + 2;
+        if (kind == textMarks::end) {
+            rtf_ += '}';
+        } else if (kind == textMarks::byte) {
+            // Not UTF-8: an error.
+            appendRtfText(marked.substr(mark, 1), rtf_);
+        } else {
+            const std::size_t end = endOfName(marked, at);
+            appendNamed(kind, marked.substr(at, end - at));
+            at = end + 2;
         }
     }
 }
 
-std::string_view TextRendering::wordsOf(const std::string& style) const {
+void TextRendering::appendNamed(char kind, std::string_view name) {
+    switch (kind) {
+        case textMarks::raw:
+            rtf_ += rawRtf(nameOf(name));
+            break;
+        case textMarks::style:
+            beginStyledText(wordsOf(name), rtf_);
+            break;
+        default:
+            beginStyledText(name, rtf_);
+            break;
+    }
+}
+
+std::string_view TextRendering::wordsOf(std::string_view style) const {
     const std::string_view words = document_.GetCharacterStyle(style);
     if (words.empty()) {
-        throw LeafError(DriverFault::UndefinedStyle, "character style " + style);
+        throw LeafError(DriverFault::UndefinedStyle, "character style " + nameOf(style));
     }
     return words;
 }

@@ -18,8 +18,9 @@ public:
     std::string_view rtfOf(const TextView& view);
 
 private:
-    void append(const Text& text);
-    std::string_view wordsOf(const std::string& style) const;
+    void append(std::string_view marked);
+    void appendNamed(char kind, std::string_view name);
+    std::string_view wordsOf(std::string_view style) const;
 
     const InnerDocument& document_;
     // It keeps its memory for the next text.

@@ -36,11 +36,9 @@ Rendering render(std::string_view description, const RenderOptions& options, Pla
 }
 
 Rendering renderFile(const std::string& path, const RenderOptions& options, Platform& platform) {
-    std::string bytes = readWholeFile(path, platform);
-    const TextEncoding encoding = encodingOf(bytes);
     RenderOptions own = options;
     own.path = path;
-    return render(decodedText(std::move(bytes), encoding), own, platform);
+    return render(readWholeText(path, platform), own, platform);
 }
 
 std::vector<Diagnostic> check(std::string_view description, const RenderOptions& options,

@@ -15,6 +15,8 @@ namespace quorvane {
 struct RenderOptions {
     /// A stylesheet, in either language; none if it is empty.
     std::string styleSheet{};
+    /// The path of a stylesheet file, in UTF-8 or Windows-1252, instead of the text.
+    std::string styleSheetFile{};
     /// The path of the description, which need not exist: errors name it, and pictures are in its
     /// folder and the folders in that. Without it and `pictures`, a picture is an error.
     std::string path{};
@@ -35,7 +37,8 @@ struct Rendering {
 
 /// Makes a document of a description (UTF-8) in either language. The document writes the same bytes
 /// as `quorvane render`. If the description or the stylesheet has an error, this is an `Error` with
-/// all diagnostics, and there is no document. The platform must outlive the document.
+/// all diagnostics, and there is no document; error "unreadable-file" for a stylesheet file that
+/// cannot be read. The platform must outlive the document.
 Rendering render(std::string_view description, const RenderOptions& options = {},
                  Platform& platform = systemPlatform());
 

@@ -1,10 +1,12 @@
 #include "quorvane/compose/renderRead.h"
 
 #include <optional>
+#include <string>
 #include <utility>
 
 #include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/compose/composing.h"
+#include "quorvane/compose/readWholeFile.h"
 #include "quorvane/compose/textChecks.h"
 #include "quorvane/diagnostics/engine/diagnosticRules.h"
 #include "quorvane/diagnostics/engine/withoutIgnored.h"
@@ -17,6 +19,11 @@ namespace {
 PictureSource picturesOf(const RenderOptions& options, Platform& platform) {
     return options.pictures || options.path.empty() ? options.pictures
                                                     : picturesBeside(options.path, platform);
+}
+
+std::string styleSheetOf(const RenderOptions& options, Platform& platform) {
+    return options.styleSheetFile.empty() ? options.styleSheet
+                                          : readWholeText(options.styleSheetFile, platform);
 }
 
 /// What would break the document is an error where it is checked.
@@ -60,7 +67,9 @@ Rendering renderRead(std::string_view text, const DescriptionReading& reading,
                      const RenderOptions& options, Platform& platform) {
     const Ref<CRtfDriver> driver = CRtfDriver::create(platform);
     Rendering rendering{.document = Document(driver->RtfObject(), platform)};
-    if (!options.styleSheet.empty()) {
+    if (!options.styleSheetFile.empty()) {
+        rendering.document.setStyleSheetFile(options.styleSheetFile);
+    } else if (!options.styleSheet.empty()) {
         rendering.document.setStyleSheet(options.styleSheet);
     }
     const std::optional<RtfError> failure =
@@ -83,8 +92,8 @@ Rendering renderRead(std::string_view text, const DescriptionReading& reading,
 std::vector<Diagnostic> checkRead(std::string_view text, const DescriptionReading& reading,
                                   const RenderOptions& options, Platform& platform) {
     std::optional<KnownStyles> styles;
-    if (!options.styleSheet.empty()) {
-        styles.emplace(options.styleSheet, TextEncoding::Utf8);
+    if (std::string styleSheet = styleSheetOf(options, platform); !styleSheet.empty()) {
+        styles.emplace(styleSheet, TextEncoding::Utf8);
     }
     return composing([&] {
         return withoutIgnored(

@@ -21,7 +21,7 @@ TEST(Text, IsJoined) {
     EXPECT_EQ(rtfOf("a " + Text(" b")), rtfOf("a  b"));
     text += text;
     EXPECT_EQ(rtfOf(text), "a {} ba {} b");
-    EXPECT_EQ(rtfOf(Text() + "" + Text(nullptr)), "");
+    EXPECT_EQ(rtfOf(Text() + "" + Text(static_cast<const char*>(nullptr))), "");
 }
 
 TEST(Text, HasPartsWithinParts) {
@@ -31,6 +31,16 @@ TEST(Text, HasPartsWithinParts) {
 
 TEST(Text, KeepsRawRtfAndEscapesTheRest) {
     EXPECT_EQ(rtfOf(rtf("\\fs28") + "{1}" + rtf("{\\i <x>}")), "\\fs28 \\{1\\}{\\i \\'3Cx\\'3E}");
+}
+
+TEST(Text, WithBytesThatAreNotUtf8IsRefusedWhereverTheyStand) {
+    for (const Text& text : {Text("a\xFF"
+                                  "e"),
+                             "a" + bold("\xFF"
+                                        "e"),
+                             rtf("\xFFn"), styled("a\xFFn", "b")}) {
+        EXPECT_THROW(rtfOf(text), Error);
+    }
 }
 
 TEST(Text, CanBeNestedDeeply) {

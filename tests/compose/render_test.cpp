@@ -119,6 +119,14 @@ TEST(Render, ReadsFilesInEitherEncoding) {
     platform.files["b.rtfspec"] = "(doc\n(r\n(c\n(p\n(pt=caf\xC3\xA9)\np)\nc)\nr)\ndoc)\n";
     EXPECT_EQ(renderFile("a.rtfspec", {}, platform).document.rtf(),
               renderFile("b.rtfspec", {}, platform).document.rtf());
+    platform.files["a.rtfss"] = std::string(sheet);
+    const std::string body = row("(pt=a)\n(ps=normal)\n");
+    EXPECT_EQ(render(extended(body), {.styleSheetFile = "a.rtfss"}, platform).document.rtf(),
+              described(body, sheet));
+    EXPECT_EQ(errorOf([&] {
+                  check(extended(body), {.styleSheetFile = "b.rtfss"}, platform);
+              }).identifier(),
+              "unreadable-file");
     const Error error = errorOf([&] { renderFile("c.rtfspec", {}, platform); });
     EXPECT_EQ(error.identifier(), "unreadable-file");
     EXPECT_EQ(error.file(), "c.rtfspec");

@@ -18,6 +18,7 @@
 #include "cli/FormatJob.h"
 #include "cli/RenderJob.h"
 #include "cli/UsageError.h"
+#include "quorvane/compose/Document.h"
 #include "quorvane/driver/CRtfDriver.h"
 #include "quorvane/driver/driverErrors.h"
 #include "tests/cli/TemporaryFolder.h"
@@ -434,6 +435,54 @@ TEST_F(FailingCommits, GoOnWhereTheSystemMovesOneByteAtATime) {
     EXPECT_EQ(reported, 0);
     EXPECT_EQ(folder.read("a.rtf"), whole);
     EXPECT_GT(calls.size(), whole.size());
+}
+
+class FailingSaves : public FailingCalls {
+protected:
+    FailingSaves() { document.addRow({std::string(100'000, 'x')}); }
+
+    void save() {
+        error.reset();
+        try {
+            document.save(folder / "a.rtf");
+        } catch (const Error& thrown) {
+            error = thrown;
+        }
+    }
+
+    Document document;
+    std::optional<Error> error;
+};
+
+TEST_F(FailingSaves, LeaveTheOlderFileOrTheWholeNewOneAndSayWhy) {
+    const std::string bytes = document.rtf();
+    failEachCall([&] { folder.write("a.rtf", "older"); }, [&] { save(); },
+                 [&](const std::vector<std::string>&, Fault fault) {
+                     ASSERT_EQ(bytesOf("a.rtf"), error ? "older" : bytes);
+                     if (error) {
+                         EXPECT_EQ(error->identifier(), "unwritable-file");
+                         EXPECT_EQ(error->file(), folder / "a.rtf");
+                         EXPECT_THAT(error->message(), Not(IsEmpty()));
+                     }
+                     if (fault == Fault::Once) {
+                         EXPECT_THAT(folder.names(), SizeIs(3));
+                     }
+                     for (const std::string& file : folder.names()) {
+                         if (!file.starts_with("a.rtf") || file.ends_with(".tmp")) {
+                             std::filesystem::remove(folder / file);
+                         }
+                     }
+                     save();
+                     EXPECT_FALSE(error);
+                     EXPECT_EQ(folder.read("a.rtf"), bytes);
+                 });
+    EXPECT_GE(runs, 20);
+}
+
+TEST_F(FailingSaves, GoOnWhereTheSystemMovesOneByteAtATime) {
+    withFailingCall(0, Fault::ShortTransfers, 0, [&] { save(); });
+    EXPECT_FALSE(error);
+    EXPECT_EQ(folder.read("a.rtf"), document.rtf());
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 // Uses the installed library from its lowest to its highest folder. Ends with 0 when it works.
 
+#include <quorvane/quorvane.h>
+
 #include <cstdio>
 #include <string>
 
@@ -16,6 +18,12 @@ int main() {
     const bool hasStyle = bytes.find("\\f0\\fs24") != std::string::npos;
     if (!hasText || !hasStyle || driver->RtfObject()->TableRows()->Count() != 1) {
         std::fputs(bytes.c_str(), stderr);
+        return 1;
+    }
+    quorvane::Document document;
+    document.addRow({"Good", "evening."}).setKeep();
+    if (document.rtf().find("evening.\\cell") == std::string::npos) {
+        std::fputs("the modern interface writes no text", stderr);
         return 1;
     }
     return 0;
