@@ -4,6 +4,7 @@
 #include "com/CRtfDriverObject.h"
 #include "com/ComPtr.h"
 #include "com/WrapperRegistry.h"
+#include "com/document/DocumentObject.h"
 #include "com/hostErrors.h"
 
 namespace quorvane::com {
@@ -66,6 +67,9 @@ ClassFactory* newClassFactory(REFCLSID classId) {
     }
     if (IsEqualCLSID(classId, CLSID_CRtfDriver)) {
         return new ClassFactory(create<CRtfDriverObject>);
+    }
+    if (IsEqualCLSID(classId, CLSID_Document)) {
+        return new ClassFactory(create<DocumentObject>);
     }
     return nullptr;
 }

@@ -22,8 +22,10 @@ class WrapperRegistry {
 public:
     using Native = typename Wrapper::Native;
 
-    /// The wrapper of an object; it is made when there is none. Null for null.
-    static ComPtr<Wrapper> wrapperOf(Ref<Native> object) {
+    /// The wrapper of an object; it is made when there is none, with what else it needs. Null for
+    /// null.
+    template <class... Others>
+    static ComPtr<Wrapper> wrapperOf(Ref<Native> object, const Others&... others) {
         if (!object) {
             return nullptr;
         }
@@ -34,7 +36,7 @@ public:
         if (known != part.wrappers.end() && known->second->addRefUnlessReleased()) {
             return ComPtr<Wrapper>::adopt(known->second);
         }
-        auto made = std::make_unique<Wrapper>(std::move(object));
+        auto made = std::make_unique<Wrapper>(std::move(object), others...);
         part.wrappers.insert_or_assign(key, made.get());
         return ComPtr<Wrapper>(made.release());
     }

@@ -3,6 +3,7 @@
 #include <memory>
 #include <new>
 
+#include "com/OwnedVariant.h"
 #include "com/hostText.h"
 #include "quorvane/base/values/Object.h"
 
@@ -13,22 +14,8 @@ namespace {
 /// Stands for any object of the host: the library takes none where it takes a value.
 class HostObject : public Object {};
 
-/// A copy of a value, freed at its end.
-class Copy {
-public:
-    Copy() { VariantInit(&value_); }
-    Copy(const Copy&) = delete;
-    Copy& operator=(const Copy&) = delete;
-    ~Copy() { VariantClear(&value_); }
-
-    VARIANT* get() noexcept { return &value_; }
-
-private:
-    VARIANT value_;
-};
-
 Value doubleOf(const VARIANT& value) {
-    Copy number;
+    OwnedVariant number;
     if (FAILED(VariantChangeType(number.get(), const_cast<VARIANT*>(&value), 0, VT_R8))) {
         return Null{};
     }
@@ -44,7 +31,7 @@ Value pointedTo(const VARIANT& reference) {
         const VARIANT& value = *V_VARIANTREF(&reference);
         return V_VT(&value) == (VT_BYREF | VT_VARIANT) ? Value(Null{}) : valueOf(value);
     }
-    Copy value;
+    OwnedVariant value;
     const HRESULT result = VariantCopyInd(value.get(), const_cast<VARIANT*>(&reference));
     if (result == E_OUTOFMEMORY) {
         throw std::bad_alloc();

@@ -31,6 +31,7 @@ struct CreatableClass {
 const CreatableClass creatableClasses[] = {
     {CLSID_CRtfDoc, L"Quorvane.CRtfDoc", L"Quorvane document"},
     {CLSID_CRtfDriver, L"Quorvane.CRtfDriver", L"Quorvane driver"},
+    {CLSID_Document, L"Quorvane.Document", L"Quorvane document for scripts"},
 };
 
 constexpr const wchar_t* programIdVersion = L".1";

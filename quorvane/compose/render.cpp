@@ -1,67 +1,28 @@
 #include "quorvane/compose/render.h"
 
-#include <optional>
 #include <utility>
 
 #include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/base/text/byteOrderMark.h"
 #include "quorvane/compose/composing.h"
 #include "quorvane/compose/readWholeFile.h"
+#include "quorvane/compose/renderRead.h"
 #include "quorvane/compose/textChecks.h"
-#include "quorvane/diagnostics/KnownStyles.h"
 #include "quorvane/diagnostics/description/DescriptionCheck.h"
-#include "quorvane/diagnostics/engine/diagnosticRules.h"
-#include "quorvane/diagnostics/engine/withoutIgnored.h"
-#include "quorvane/driver/CRtfDriver.h"
-#include "quorvane/driver/picturesBeside.h"
 
 namespace quorvane {
 
 namespace {
 
-PictureSource picturesOf(const RenderOptions& options, Platform& platform) {
-    return options.pictures || options.path.empty() ? options.pictures
-                                                    : picturesBeside(options.path, platform);
-}
-
-std::string styleSheetOf(const RenderOptions& options, Platform& platform) {
-    return options.styleSheetFile.empty() ? options.styleSheet
-                                          : readWholeText(options.styleSheetFile, platform);
-}
-
-/// What would break the document is an error where it is checked.
-void raiseCorruptions(std::vector<Diagnostic>& diagnostics) {
-    for (Diagnostic& diagnostic : diagnostics) {
-        if (diagnosticRule(diagnostic.id).corruptsDocument) {
-            diagnostic.severity = Severity::Error;
-        }
-    }
-}
-
-/// An error that the driver reports and the check does not find.
-Error errorOfDriver(const RtfError& error, const std::string& file) {
-    const Error composed = composedError(error);
-    return Error({.message = composed.message(),
-                  .identifier = composed.identifier(),
-                  .file = file,
-                  .line = error.line});
-}
-
-/// Builds the document of a driver. Returns the first error.
-std::optional<RtfError> parse(CRtfDriver& driver, std::string_view text,
-                              const RenderOptions& options, const PictureSource& pictures) {
-    std::optional<RtfError> failure;
-    driver.setErroneousInput(options.check);
-    driver.setUnicodeTexts(true);
-    driver.setReadsExtended(true);
-    driver.setPictureSource(pictures);
-    driver.setNotifyErrorHandler([&failure](CRtfDriver&, const RtfError& error) {
-        if (!failure) {
-            failure = error;
-        }
-    });
-    driver.ParseFromMemmory(text);
-    return failure;
+/// A description that is read as it stands. The text must outlive the reading.
+DescriptionReading readAsItStands(std::string_view text) {
+    return {
+        .parse = [text](CRtfDriver& driver) { driver.ParseFromMemmory(text); },
+        .check =
+            [text](KnownStyles* styles, const PictureSource& pictures) {
+                return checkDescription(text, styles, TextEncoding::Utf8, pictures);
+            },
+    };
 }
 
 }  // namespace
@@ -71,28 +32,7 @@ Rendering render(std::string_view description, const RenderOptions& options, Pla
     if (std::vector<Diagnostic> unreadable = findUnreadable(text); !unreadable.empty()) {
         throw contentError(options.path, std::move(unreadable));
     }
-    const Ref<CRtfDriver> driver = CRtfDriver::create(platform);
-    Rendering rendering{.document = Document(driver->RtfObject(), platform)};
-    if (!options.styleSheetFile.empty()) {
-        rendering.document.setStyleSheetFile(options.styleSheetFile);
-    } else if (!options.styleSheet.empty()) {
-        rendering.document.setStyleSheet(options.styleSheet);
-    }
-    const std::optional<RtfError> failure =
-        composing([&] { return parse(*driver, text, options, picturesOf(options, platform)); });
-    if (options.check || failure) {
-        rendering.diagnostics = check(text, options, platform);
-        if (options.check) {
-            raiseCorruptions(rendering.diagnostics);
-        }
-    }
-    if (haveError(rendering.diagnostics)) {
-        throw contentError(options.path, std::move(rendering.diagnostics));
-    }
-    if (failure) {
-        throw errorOfDriver(*failure, options.path);
-    }
-    return rendering;
+    return renderRead(text, readAsItStands(text), options, platform);
 }
 
 Rendering renderFile(const std::string& path, const RenderOptions& options, Platform& platform) {
@@ -108,15 +48,7 @@ std::vector<Diagnostic> check(std::string_view description, const RenderOptions&
     if (!unreadable.empty()) {
         return unreadable;
     }
-    std::optional<KnownStyles> styles;
-    if (std::string styleSheet = styleSheetOf(options, platform); !styleSheet.empty()) {
-        styles.emplace(styleSheet, TextEncoding::Utf8);
-    }
-    return composing([&] {
-        return withoutIgnored(checkDescription(text, styles ? &*styles : nullptr,
-                                               TextEncoding::Utf8, picturesOf(options, platform)),
-                              text, CheckedLanguage::Description);
-    });
+    return checkRead(text, readAsItStands(text), options, platform);
 }
 
 }  // namespace quorvane

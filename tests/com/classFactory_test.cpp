@@ -50,7 +50,10 @@ TEST_F(Factory, MakesADocumentOfItsOwnEveryTime) {
 TEST_F(Factory, IsNotThereForClassesThatOnlyTheLibraryMakes) {
     for (const GUID& id :
          {__uuidof(::CRtfTableRows), __uuidof(::CRtfTableRow), __uuidof(::CRtfTableCells),
-          __uuidof(::CRtfTableCell), __uuidof(::CRtfParagraphs), __uuidof(::CRtfParagraph)}) {
+          __uuidof(::CRtfTableCell), __uuidof(::CRtfParagraphs), __uuidof(::CRtfParagraph),
+          __uuidof(::DocumentRows), __uuidof(::DocumentRow), __uuidof(::DocumentCells),
+          __uuidof(::DocumentCell), __uuidof(::DocumentParagraphs), __uuidof(::DocumentParagraph),
+          __uuidof(::DocumentDiagnostics), __uuidof(::DocumentDiagnostic)}) {
         void* object = this;
         EXPECT_EQ(component_.classObject(id, IID_IUnknown, &object), CLASS_E_CLASSNOTAVAILABLE);
         EXPECT_EQ(object, nullptr);
@@ -87,7 +90,7 @@ TEST_F(Factory, MakesNothingWithoutTheInterface) {
 
 TEST_F(Factory, RefusesAggregation) {
     const auto outer = makeCom<Outer>();
-    for (const GUID& id : {__uuidof(::CRtfDoc), __uuidof(::CRtfDriver)}) {
+    for (const GUID& id : {__uuidof(::CRtfDoc), __uuidof(::CRtfDriver), __uuidof(::Document)}) {
         void* object = this;
         EXPECT_EQ(factoryOf(id)->CreateInstance(outer.get(), IID_IUnknown, &object),
                   CLASS_E_NOAGGREGATION);

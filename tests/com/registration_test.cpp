@@ -67,8 +67,9 @@ std::set<std::string> agreedEntries(const std::wstring& file) {
 /// Entries but for the interfaces for 32-bit programs, which Wine registers for the machine when
 /// they are to be registered for the user.
 std::set<std::string> withoutInterfacesFor32Bits(std::set<std::string> entries) {
-    std::erase_if(entries, [](const std::string& entry) {
-        return entry.starts_with(classesFor32Bits + "Interface\\{1811CD");
+    const std::set<std::string> ours = agreedEntries(componentFile());
+    std::erase_if(entries, [&ours](const std::string& entry) {
+        return entry.starts_with(classesFor32Bits + "Interface\\") && ours.contains(entry);
     });
     return entries;
 }
@@ -239,6 +240,10 @@ TEST_F(Registration, LetsHostsMakeObjectsByName) {
         EXPECT_EQ(createByName(name, object), S_OK);
         EXPECT_EQ(LateBound(object).get("Contents").value.text(), "{}");
     }
+    for (const wchar_t* name : {L"Quorvane.Document", L"Quorvane.Document.1"}) {
+        EXPECT_EQ(createByName(name, object), S_OK);
+        EXPECT_EQ(LateBound(object).object("Rows").get("Count").value.number(), 0);
+    }
     EXPECT_EQ(createByName(L"Quorvane.CRtfTableRow", object), CO_E_CLASSSTRING);
 
     EXPECT_EQ(component_.call("DllUnregisterServer"), S_OK);
@@ -250,6 +255,7 @@ TEST_F(Registration, NamesTheClasses) {
 
     EXPECT_EQ(nameOf(__uuidof(::CRtfDoc)), "Quorvane.CRtfDoc.1");
     EXPECT_EQ(nameOf(__uuidof(::CRtfDriver)), "Quorvane.CRtfDriver.1");
+    EXPECT_EQ(nameOf(__uuidof(::Document)), "Quorvane.Document.1");
 
     EXPECT_EQ(component_.call("DllUnregisterServer"), S_OK);
 }
@@ -438,7 +444,7 @@ private:
 
 TEST_F(Registration, WithoutRightsIsRefusedAndChangesNothing) {
     // Of the part of the registry and of the 13 entries of each class.
-    for (const int allowed : {0, 1, 7, 15, 26}) {
+    for (const int allowed : {0, 1, 7, 15, 26, 39}) {
         {
             const RefusedCalls refused(component_, "advapi32.dll", "RegCreateKeyExW",
                                        reinterpret_cast<void*>(&RefusedCalls::createKey), allowed);
@@ -512,6 +518,10 @@ TEST_F(Registration, IsNotNeededWithTheManifestOfTheComponent) {
         }
         EXPECT_EQ(nameOf(__uuidof(::CRtfDoc)), "Quorvane.CRtfDoc.1");
         EXPECT_EQ(nameOf(__uuidof(::CRtfDriver)), "Quorvane.CRtfDriver.1");
+        EXPECT_EQ(nameOf(__uuidof(::Document)), "Quorvane.Document.1");
+        ComPtr<IDispatch> document;
+        EXPECT_EQ(createByName(L"Quorvane.Document", document), S_OK);
+        EXPECT_EQ(LateBound(document).call("AddRow", {"x"}).value.type(), VT_DISPATCH);
     }
     EXPECT_EQ(LateBound(object).get("Contents").value.text(), "{}");
     EXPECT_EQ(LateBound(object).object("RtfObject").object("TableRows").get("Count").value.number(),
