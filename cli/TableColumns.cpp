@@ -1,16 +1,14 @@
 #include "cli/TableColumns.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstdint>
 #include <iterator>
-#include <numeric>
 
 #include "cli/localeOption.h"
+#include "data/columnsFit.h"
 #include "data/columnsMeasure.h"
+#include "data/fieldNamed.h"
 #include "quorvane/base/values/RtfError.h"
-#include "quorvane/diagnostics/engine/nearestWord.h"
-#include "quorvane/driver/extendedValues.h"
 
 namespace quorvane::cli {
 
@@ -50,85 +48,7 @@ std::optional<data::FilterKind> firstFilter(const data::ColumnRequest& column) {
     return first == column.filters.end() ? std::nullopt : std::optional(first->kind);
 }
 
-/// "12.34%", rounded down, so that the columns are never wider than the page.
-std::string percent(double share) {
-    constexpr double hundredths = 10'000;
-    const auto count = std::max(std::int64_t{100}, std::int64_t(std::floor(share * hundredths)));
-    const std::string decimals = std::to_string(count % 100);
-    return std::to_string(count / 100) + "." + (decimals.size() < 2 ? "0" : "") + decimals + "%";
-}
-
-double textAreaOf(const TableSetup& setup) {
-    return pageSizeNamed(setup.page).width - 2.0 * lengthOf(setup.margin);
-}
-
-/// The widths, each at least as large as `least` if there is room for that.
-std::vector<double> withoutTooNarrow(std::vector<double> widths, double least) {
-    const double sum = std::accumulate(widths.begin(), widths.end(), 0.0);
-    const double rest = sum - static_cast<double>(widths.size()) * least;
-    const bool areWide =
-        std::all_of(widths.begin(), widths.end(), [=](double width) { return width >= least; });
-    if (areWide || rest <= 0) {
-        return widths;
-    }
-    for (double& width : widths) {
-        width = least + rest * width / sum;
-    }
-    return widths;
-}
-
-/// What a column with a width takes of a text area.
-double takenOf(const std::string& width, double area) {
-    const ColumnWidth given = columnWidth(width);
-    return given.isShare ? given.amount * area / 100 : given.amount;
-}
-
-// More look bad, and take room from the rows of each page.
-constexpr std::size_t mostHeadingLines = 3;
-
-/// True if the columns ask for more than the page is wide, where long texts may break.
-bool needLandscape(const std::vector<data::ColumnMeasure>& measures, double area) {
-    constexpr double wideEnough = 3600;
-    double needed = 0;
-    for (const data::ColumnMeasure& measure : measures) {
-        needed += std::min(measure.width(mostHeadingLines), wideEnough);
-    }
-    return needed > area;
-}
-
-/// The columns with their headings in as few lines as there is room for.
-std::vector<data::FlexibleColumn> columnsWithin(const std::vector<data::ColumnMeasure>& measures,
-                                                double area) {
-    std::vector<data::FlexibleColumn> columns;
-    for (std::size_t lines = 1; lines <= mostHeadingLines; ++lines) {
-        columns.clear();
-        double asked = 0;
-        for (const data::ColumnMeasure& measure : measures) {
-            columns.push_back({measure.width(lines), measure.stretches()});
-            asked += columns.back().width;
-        }
-        if (asked <= area) {
-            break;
-        }
-    }
-    return columns;
-}
-
 }  // namespace
-
-std::size_t fieldNamed(std::string_view name, const std::vector<std::string>& names) {
-    const auto found = std::find(names.begin(), names.end(), name);
-    if (found == names.end()) {
-        const std::vector<std::string_view> candidates(names.begin(), names.end());
-        const std::string guess = didYouMean(name, candidates);
-        refuse("The data has no field \"" + std::string(name) + "\"" +
-               (guess.empty() ? "." : "; " + guess));
-    }
-    if (std::find(found + 1, names.end(), name) != names.end()) {
-        refuse("The data has several fields \"" + std::string(name) + "\".");
-    }
-    return static_cast<std::size_t>(found - names.begin());
-}
 
 TableColumns::TableColumns(const TableOptions& options, const std::vector<std::string>& names,
                            const std::vector<std::size_t>& blankFields)
@@ -139,7 +59,7 @@ TableColumns::TableColumns(const TableOptions& options, const std::vector<std::s
     if (areNamed_) {
         columns_ = data::columnRequests(*options.columns);
         for (const data::ColumnRequest& column : columns_) {
-            fields_.push_back(fieldNamed(column.name, names));
+            fields_.push_back(data::fieldNamed(column.name, names));
         }
     } else {
         fields_ = shownFields(options, names, blankFields);
@@ -154,31 +74,7 @@ TableColumns::TableColumns(const TableOptions& options, const std::vector<std::s
 
 void TableColumns::fit(TableSetup& setup, const std::vector<TableRecord>& records,
                        bool choosesPage) {
-    const std::vector<data::ColumnMeasure> measures = measured(records);
-    if (choosesPage && needLandscape(measures, textAreaOf(setup))) {
-        setup.page += "-landscape";
-    }
-    const double area = textAreaOf(setup);
-    double left = area;
-    std::vector<data::ColumnMeasure> flexible;
-    for (std::size_t i = 0; i < columns_.size(); ++i) {
-        if (columns_[i].width.empty()) {
-            flexible.push_back(measures[i]);
-        } else {
-            left -= takenOf(columns_[i].width, area);
-        }
-    }
-    const std::vector<double> widths = withoutTooNarrow(
-        data::fittedWidths(columnsWithin(flexible, left), std::max(left, 1.0)), area / 100);
-    auto width = widths.begin();
-    for (std::size_t i = 0; i < columns_.size(); ++i) {
-        const data::ColumnRequest& column = columns_[i];
-        const tCellAlign usual = measures[i].holdsNumbers() ? eRight : eNoDefault;
-        setup.columns.push_back(
-            {.heading = column.heading.value_or(column.name),
-             .width = column.width.empty() ? percent(*width++ / area) : column.width,
-             .align = column.align.value_or(usual)});
-    }
+    data::fitColumns(setup, columns_, measured(records), choosesPage);
 }
 
 std::vector<data::ColumnMeasure> TableColumns::measured(const std::vector<TableRecord>& records) {

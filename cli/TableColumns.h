@@ -25,9 +25,6 @@ struct TableRecord {
     std::int64_t line;
 };
 
-/// The position of the field of that name. Error 5 if there is none, or more than one.
-std::size_t fieldNamed(std::string_view name, const std::vector<std::string>& names);
-
 /// Which fields of the records a table shows, and how.
 class TableColumns {
 public:

@@ -10,6 +10,7 @@
 #include "cli/fileFailure.h"
 #include "cli/outputPaths.h"
 #include "cli/styleSheetName.h"
+#include "data/fieldNamed.h"
 #include "quorvane/base/platform/utf8Path.h"
 #include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/base/values/RtfError.h"
@@ -152,15 +153,15 @@ void TableJob::findFields(const TableRecords& records) {
     fieldCount_ = names.size();
     blankFields_ = columns_->areNamed() ? std::vector<std::size_t>() : records.blankFields();
     if (options_.groupBy) {
-        groupField_ = fieldNamed(*options_.groupBy, names);
+        groupField_ = data::fieldNamed(*options_.groupBy, names);
     }
     for (const std::string& name : options_.totals) {
         const std::size_t column = columns_->columnOf(name);
         if (column == columns_->count()) {
             throw UsageError("the table has no column \"" + name + "\" for a total");
         }
-        totals_.push_back(
-            {column, fieldNamed(name, names), data::ColumnTotal(columns_->decimalSign(column))});
+        totals_.push_back({column, data::fieldNamed(name, names),
+                           data::ColumnTotal(columns_->decimalSign(column))});
     }
 }
 

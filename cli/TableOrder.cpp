@@ -7,8 +7,8 @@
 #include <string_view>
 #include <unordered_map>
 
-#include "cli/TableColumns.h"
 #include "cli/localeOption.h"
+#include "data/fieldNamed.h"
 #include "data/sortKey.h"
 
 namespace quorvane::cli {
@@ -46,8 +46,8 @@ std::vector<Column> columnsOf(const std::vector<data::SortRequest>& requests,
     std::vector<Column> columns;
     columns.reserve(requests.size());
     for (const data::SortRequest& request : requests) {
-        columns.push_back(
-            {fieldNamed(request.name, names), data::SortColumn(request.isDescending, areJson)});
+        columns.push_back({data::fieldNamed(request.name, names),
+                           data::SortColumn(request.isDescending, areJson)});
     }
     return columns;
 }
@@ -79,7 +79,7 @@ void TableOrder::sort(data::KeptRows& rows, const std::vector<std::string>& name
         column.order.decide(names[column.field], locale_ ? &*locale_ : nullptr);
     }
     const std::optional<std::size_t> group =
-        groupBy_ ? std::optional(fieldNamed(*groupBy_, names)) : std::nullopt;
+        groupBy_ ? std::optional(data::fieldNamed(*groupBy_, names)) : std::nullopt;
     const bool sortsGroups = group && columns.front().field == *group;
     GroupNumbers numbers;
     rows.sort([&](std::span<const std::string_view> row, std::string& key) {

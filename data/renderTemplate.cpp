@@ -7,13 +7,12 @@
 
 #include "data/TemplateFilling.h"
 #include "data/json.h"
+#include "data/jsonDiagnostic.h"
 #include "data/templateCheck.h"
 #include "quorvane/base/text/byteOrderMark.h"
 #include "quorvane/compose/composing.h"
 #include "quorvane/compose/renderRead.h"
 #include "quorvane/compose/textChecks.h"
-#include "quorvane/diagnostics/engine/DiagnosticEngine.h"
-#include "quorvane/diagnostics/engine/SourceText.h"
 #include "quorvane/driver/parseFilled.h"
 
 namespace quorvane::data {
@@ -25,14 +24,7 @@ DataValue recordOf(std::string_view json) {
     if (std::optional<DataValue> record = readJson(json, error)) {
         return *std::move(record);
     }
-    std::vector<Diagnostic> diagnostics;
-    DiagnosticEngine engine(
-        [&](Diagnostic diagnostic) { diagnostics.push_back(std::move(diagnostic)); });
-    engine.reportText(
-        DiagnosticId::WrongJson,
-        SourceText(json, TextEncoding::Utf8).place(error.position, error.position + 1),
-        error.message + ".");
-    throw contentError({}, std::move(diagnostics));
+    throw contentError({}, {jsonDiagnostic(json, error)});
 }
 
 std::string refusePartial(const std::string&) {

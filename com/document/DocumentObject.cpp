@@ -7,6 +7,7 @@
 
 #include "com/document/scriptValues.h"
 #include "com/hostText.h"
+#include "data/renderTable.h"
 #include "data/renderTemplate.h"
 #include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/compose/render.h"
@@ -75,6 +76,7 @@ std::span<const Member> DocumentObject::members() {
         getter<&::_Document::get_Rtf>(22),
         procedure<&::_Document::Save>(23),
         procedure<&::_Document::Clear>(24),
+        procedure<&::_Document::Table>(25),
     };
     return all;
 }
@@ -249,6 +251,17 @@ STDMETHODIMP DocumentObject::Clear() {
         Document empty;
         native().diagnostics = reported({}, {});
         native().document = std::move(empty);
+    });
+}
+
+STDMETHODIMP DocumentObject::Table(VARIANT data, VARIANT* columns, VARIANT* title,
+                                   VARIANT* styleSheet) {
+    return perform([&] {
+        replaceBy([&] {
+            return data::renderTable(textTableOf(data), {.columns = textOf(columns),
+                                                         .title = textOf(title),
+                                                         .styleSheet = textOf(styleSheet)});
+        });
     });
 }
 

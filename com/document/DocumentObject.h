@@ -43,6 +43,8 @@ public:
     STDMETHODIMP get_Rtf(BSTR* result) override;
     STDMETHODIMP Save(BSTR path) override;
     STDMETHODIMP Clear() override;
+    STDMETHODIMP Table(VARIANT data, VARIANT* columns, VARIANT* title,
+                       VARIANT* styleSheet) override;
 
 private:
     /// Takes what a description is rendered to in the place of the document.

@@ -112,11 +112,14 @@ std::optional<HostValues> elementsOf(IDispatch& object) {
 
 }  // namespace
 
-const VARIANT& referredValue(const VARIANT& value) {
-    if (refersToNothing(value)) {
-        refuseValue("The argument refers to nothing.");
+const VARIANT& referredValue(const VARIANT& given) {
+    // Automation has no references to references, and they could lead in a circle.
+    const bool isReference = V_VT(&given) == (VT_BYREF | VT_VARIANT) && !refersToNothing(given);
+    const VARIANT& value = isReference ? *V_VARIANTREF(&given) : given;
+    if (refersToNothing(value) || V_VT(&value) == (VT_BYREF | VT_VARIANT)) {
+        refuseValue("The argument refers to nothing. Give a value.");
     }
-    return V_VT(&value) == (VT_BYREF | VT_VARIANT) ? *V_VARIANTREF(&value) : value;
+    return value;
 }
 
 std::optional<HostValues> elementsOf(const VARIANT& given) {

@@ -8,6 +8,7 @@
 #include "com/document/scriptArrays.h"
 #include "com/hostText.h"
 #include "com/hostValue.h"
+#include "data/csvTable.h"
 
 namespace quorvane::com {
 
@@ -121,6 +122,11 @@ std::vector<std::vector<std::string>> textRowsOf(const VARIANT& value) {
         texts.push_back(textsOf(&*row));
     }
     return texts;
+}
+
+std::vector<std::vector<std::string>> textTableOf(const VARIANT& value) {
+    const VARIANT& referred = referredValue(value);
+    return isText(referred) ? data::csvTable(textOf(referred)) : textRowsOf(value);
 }
 
 std::vector<Width> widthsOf(const VARIANT& value) {

@@ -31,6 +31,10 @@ std::vector<std::string> textsOf(const VARIANT* value);
 /// The texts of the rows of an array with two dimensions, or of an array of arrays.
 std::vector<std::vector<std::string>> textRowsOf(const VARIANT& value);
 
+/// The same for a table, which can also be a text of fields with delimiters between them. Its first
+/// row is that of the names.
+std::vector<std::vector<std::string>> textTableOf(const VARIANT& value);
+
 /// The widths of columns: a text with blanks or commas between them, or an array of texts and of
 /// percentages.
 std::vector<Width> widthsOf(const VARIANT& value);

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -64,6 +65,17 @@ private:
     SAFEARRAY* array_;
     VARTYPE type_;
 };
+
+/// The bytes of a PNG picture.
+std::string onePixel() {
+    constexpr unsigned char bytes[] = {
+        0x89, 0x50, 0x4E, 0x47, 0x0D, 0x0A, 0x1A, 0x0A, 0x00, 0x00, 0x00, 0x0D, 0x49, 0x48,
+        0x44, 0x52, 0x00, 0x00, 0x00, 0x01, 0x00, 0x00, 0x00, 0x01, 0x08, 0x02, 0x00, 0x00,
+        0x00, 0x90, 0x77, 0x53, 0xDE, 0x00, 0x00, 0x00, 0x0C, 0x49, 0x44, 0x41, 0x54, 0x78,
+        0x9C, 0x63, 0x60, 0x60, 0x60, 0x00, 0x00, 0x00, 0x04, 0x00, 0x01, 0xF6, 0x17, 0x38,
+        0x55, 0x00, 0x00, 0x00, 0x00, 0x49, 0x45, 0x4E, 0x44, 0xAE, 0x42, 0x60, 0x82};
+    return {std::begin(bytes), std::end(bytes)};
+}
 
 class ComDocument : public testing::Test {
 protected:
@@ -294,6 +306,98 @@ TEST_F(ComDocument, LeavesPartsUsableThatOutliveIt) {
     cells.reset();
     row.reset();
     EXPECT_EQ(component_.canUnloadNow(), S_OK);
+}
+
+TEST_F(ComDocument, IsReplacedByATableOfCsv) {
+    late_.call("AddRow", {"before"});
+
+    const Outcome made = late_.call("Table", {"Name;Price\r\nVase {b};12\r\nBowl;3\r\n"});
+
+    EXPECT_TRUE(made.succeeded()) << made.error;
+    EXPECT_EQ(rowCount(), 3);
+    EXPECT_THAT(rtf(), HasSubstr("Vase \\{b\\}"));
+    EXPECT_THAT(rtf(), Not(HasSubstr("before")));
+}
+
+TEST_F(ComDocument, MakesTheSameTableOfCsvAndOfAnArrayEarlyAndLateBound) {
+    Array rows(VT_VARIANT, {{2, 1}, {2, 1}});
+    const std::vector<std::vector<std::string>> texts{{"Name", "Price"}, {"Vase", "12"}};
+    for (LONG row = 1; row <= 2; ++row) {
+        for (LONG column = 1; column <= 2; ++column) {
+            const Variant text(
+                texts[static_cast<std::size_t>(row - 1)][static_cast<std::size_t>(column - 1)]);
+            rows.put({row, column}, &text.get());
+        }
+    }
+    Variant columns("Price:right,Name:60%");
+    Variant title("Prices");
+
+    ASSERT_EQ(document_->Table(rows.value().get(), columns.reference(), title.reference(), nullptr),
+              S_OK);
+    const std::string early = rtf();
+    EXPECT_TRUE(late_.call("Table", {"Name,Price\nVase,12\n", "Price:right,Name:60%", "Prices"})
+                    .succeeded());
+
+    EXPECT_EQ(rtf(), early);
+    EXPECT_EQ(rowCount(), 3);
+}
+
+TEST_F(ComDocument, StaysWhenATableIsWrong) {
+    late_.call("AddRow", {"before"});
+
+    const HostError error = late_.call("Table", {"Name,Price\nVase,12,9\n"}).error;
+
+    EXPECT_EQ(error.number, wrongValue);
+    EXPECT_EQ(error.source, "Quorvane.Document");
+    EXPECT_EQ(late_.call("Table", {""}).error.number, wrongValue);
+    EXPECT_EQ(late_.call("Table", {12}).error.number, wrongValue);
+    EXPECT_EQ(late_.call("Table", {"Name\nVase\n", "Nome"}).error.number, wrongValue);
+    EXPECT_EQ(rowCount(), 1);
+}
+
+TEST_F(ComDocument, ShowsAPicture) {
+    const std::wstring path = temporaryFile(L"dot.png");
+    writeFile(path, onePixel());
+    const LateBound cell(late_.call("AddRow", {"x"}).value.object());
+
+    const Outcome added = cell.object("Cells", {1}).call("AddPicture", {path, "2cm"});
+
+    ASSERT_TRUE(added.succeeded()) << added.error;
+    const LateBound paragraph(added.value.object());
+    EXPECT_TRUE(paragraph.get("HasPicture").value.truth());
+    EXPECT_THAT(rtf(), HasSubstr("\\pngblip"));
+    EXPECT_TRUE(paragraph.call("RemovePicture").succeeded());
+    EXPECT_THAT(rtf(), Not(HasSubstr("\\pngblip")));
+    DeleteFileW(path.c_str());
+}
+
+TEST_F(ComDocument, RaisesTheReasonOfTheSystemWhenAFileCannotBeSaved) {
+    const std::wstring path = temporaryFile(L"held.rtf");
+    writeFile(path, "held open");
+    const HANDLE held = CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+    ASSERT_NE(held, INVALID_HANDLE_VALUE);
+
+    const HostError error = late_.call("Save", {path}).error;
+    CloseHandle(held);
+
+    EXPECT_EQ(error.number, unwritableFile);
+    EXPECT_EQ(error.source, "Quorvane.Document");
+    EXPECT_THAT(error.description, HasSubstr(utf8Text(path)));
+    EXPECT_EQ(bytesOfFile(path), "held open");
+    DeleteFileW(path.c_str());
+}
+
+TEST_F(ComDocument, TakesNullPointersForEmptyTexts) {
+    EXPECT_EQ(document_->Save(nullptr), unwritableFile);
+    EXPECT_EQ(document_->LoadStyleSheet(nullptr), unreadableFile);
+    EXPECT_EQ(document_->RenderFile(nullptr, nullptr), unreadableFile);
+    EXPECT_EQ(document_->RenderData(nullptr, nullptr, nullptr), refusedText);
+    EXPECT_EQ(document_->put_Page(nullptr), wrongValue);
+    EXPECT_EQ(document_->put_Header(nullptr), S_OK);
+    EXPECT_EQ(document_->put_Locale(nullptr), S_OK);
+    EXPECT_EQ(document_->SetMargins(nullptr, nullptr, nullptr, nullptr), S_OK);
+    EXPECT_EQ(document_->Table(VARIANT{}, nullptr, nullptr, nullptr), wrongValue);
 }
 
 TEST_F(ComDocument, RefusesAPictureThatIsNone) {

@@ -131,6 +131,90 @@ TEST_F(HostileHost, GivesValuesOfEveryTypeThatHoldNothing) {
     EXPECT_TRUE(rows_.get("Item", {"still there"}).succeeded());
 }
 
+/// What a document for scripts and its parts offer to hosts.
+struct ScriptMember {
+    DISPID id;
+    WORD kind;
+    UINT arguments;
+};
+
+/// All members but those that remove a part, start a new document, or write a file whose name is
+/// what a value becomes as a text.
+std::vector<ScriptMember> membersToTry(const LateBound& object) {
+    ComPtr<ITypeInfo> info;
+    TYPEATTR* attributes = nullptr;
+    EXPECT_EQ(object.get()->GetTypeInfo(0, LOCALE_USER_DEFAULT, info.out()), S_OK);
+    EXPECT_EQ(info->GetTypeAttr(&attributes), S_OK);
+    const std::vector<DISPID> left{object.idOf("Remove"), object.idOf("Clear"),
+                                   object.idOf("Save")};
+    std::vector<ScriptMember> members;
+    for (UINT i = 0; i < attributes->cFuncs; ++i) {
+        FUNCDESC* function = nullptr;
+        EXPECT_EQ(info->GetFuncDesc(i, &function), S_OK);
+        const bool isOfAutomation = (function->wFuncFlags & FUNCFLAG_FRESTRICTED) != 0;
+        if (!isOfAutomation && std::find(left.begin(), left.end(), function->memid) == left.end()) {
+            members.push_back({function->memid, static_cast<WORD>(function->invkind),
+                               static_cast<UINT>(function->cParams)});
+        }
+        info->ReleaseFuncDesc(function);
+    }
+    info->ReleaseTypeAttr(attributes);
+    return members;
+}
+
+void tryMember(const LateBound& object, const ScriptMember& member, const VARIANT& value) {
+    // Not as Variants of the tests, which would copy the value.
+    std::vector<VARIANT> values(member.arguments, value);
+    DISPID put = DISPID_PROPERTYPUT;
+    const bool isPut = member.kind == DISPATCH_PROPERTYPUT;
+    DISPPARAMS parameters{values.data(), isPut ? &put : nullptr, member.arguments, isPut ? 1U : 0U};
+    Variant out;
+    object.get()->Invoke(member.id, IID_NULL, LOCALE_USER_DEFAULT, member.kind, &parameters,
+                         out.out(), nullptr, nullptr);
+}
+
+TEST_F(HostileHost, GivesADocumentForScriptsValuesOfEveryTypeThatHoldNothing) {
+    const LateBound document(component_.create<IDispatch>(__uuidof(::Document)));
+    document.call("AddRow", {"x"});
+    const LateBound row = document.object("Rows", {1});
+    const LateBound cell = row.object("Cells", {1});
+    const std::vector<LateBound> objects{document,
+                                         document.object("Rows"),
+                                         row,
+                                         row.object("Cells"),
+                                         cell,
+                                         cell.object("Paragraphs"),
+                                         cell.object("Paragraphs", {1}),
+                                         document.object("Diagnostics")};
+    VARIANT self{};
+    self.vt = VT_BYREF | VT_VARIANT;
+    self.pvarVal = &self;
+    std::size_t tried = 0;
+    for (const LateBound& object : objects) {
+        for (const ScriptMember& member : membersToTry(object)) {
+            constexpr VARTYPE mostTypes = 75;
+            for (VARTYPE base = 0; base < mostTypes; ++base) {
+                for (const int flags : {0, int{VT_BYREF}, int{VT_ARRAY}, VT_BYREF | VT_ARRAY}) {
+                    VARIANT value{};
+                    value.vt = static_cast<VARTYPE>(base | flags);
+                    tryMember(object, member, value);
+                    VARIANT reference{};
+                    reference.vt = VT_BYREF | VT_VARIANT;
+                    reference.pvarVal = &value;
+                    tryMember(object, member, reference);
+                }
+            }
+            tryMember(object, member, self);
+            ++tried;
+        }
+    }
+
+    EXPECT_GT(tried, 90U);
+    EXPECT_TRUE(document.call("Clear").succeeded());
+    EXPECT_TRUE(document.call("AddRow", {"still there"}).succeeded());
+    EXPECT_NE(document.get("Rtf").value.text().find("still there"), std::string::npos);
+}
+
 TEST_F(HostileHost, GivesReferencesToNothing) {
     for (const VARTYPE type : {VT_I2, VT_I4, VT_R8, VT_BSTR, VT_VARIANT, VT_DISPATCH}) {
         VARIANT value{};

@@ -1,12 +1,11 @@
 #include <gmock/gmock.h>
 #include <windows.h>
 
-#include <algorithm>
 #include <ostream>
 #include <string>
 
 #include "tests/com/examples/libraryDocuments.h"
-#include "tests/com/host/Component.h"
+#include "tests/com/examples/runExample.h"
 #include "tests/com/host/Process.h"
 #include "tests/com/host/text.h"
 
@@ -31,24 +30,6 @@ void PrintTo(const Example& example, std::ostream* stream) {
     *stream << example.name;
 }
 
-std::wstring windowsPath(const std::string& file) {
-    std::wstring path = wideText(file);
-    std::replace(path.begin(), path.end(), L'/', L'\\');
-    return path;
-}
-
-std::wstring inQuotes(const std::wstring& text) {
-    return L"\"" + text + L"\"";
-}
-
-std::wstring script(const std::string& file) {
-    return L"cscript.exe //nologo " + inQuotes(windowsPath(QUORVANE_EXAMPLES "/" + file));
-}
-
-std::wstring builtProgram(const std::string& file) {
-    return inQuotes(windowsPath(QUORVANE_BUILT_EXAMPLES "/" + file));
-}
-
 // Wine's script host does not connect events. JScript does not show the source of an error.
 const Example examples[] = {
     {"VBScript", script("invoice.vbs"), "This script host does not connect events.\n",
@@ -64,33 +45,6 @@ const Example examples[] = {
      "error 0x80040003 (Error: eWrongPath, CRtfDriver.ParseFile): ", "error 0x800A004B (): "},
 };
 
-void registerComponent(const std::wstring& arguments) {
-    const ProcessResult result =
-        Process(L"regsvr32.exe " + arguments + L" " + inQuotes(componentFile()), L".").wait();
-    ASSERT_EQ(result.status, 0U);
-}
-
-/// A file that an example writes, in the folder of temporary files.
-class Document {
-public:
-    explicit Document(const std::wstring& name) : path_(temporaryFile(name)) {}
-    Document(const Document&) = delete;
-    Document& operator=(const Document&) = delete;
-    ~Document() { DeleteFileW(path_.c_str()); }
-
-    const std::wstring& path() const { return path_; }
-    std::string bytes() const { return bytesOfFile(path_); }
-
-private:
-    std::wstring path_;
-};
-
-ProcessResult run(const std::wstring& program, const std::wstring& arguments) {
-    ProcessResult result = Process(program + L" " + arguments, L".").wait();
-    std::erase(result.output, '\r');
-    return result;
-}
-
 class RunExample : public testing::TestWithParam<Example> {
 protected:
     static void SetUpTestSuite() { registerComponent(L"/s"); }
@@ -103,8 +57,8 @@ protected:
         return runWith(inQuotes(invoice_.path()) + L" " + inQuotes(reminder_.path()));
     }
 
-    Document invoice_{L"invoice.rtf"};
-    Document reminder_{L"reminder.rtf"};
+    WrittenFile invoice_{L"invoice.rtf"};
+    WrittenFile reminder_{L"reminder.rtf"};
 };
 
 TEST_P(RunExample, CommitsTheBytesOfTheLibrary) {
@@ -184,7 +138,7 @@ INSTANTIATE_TEST_SUITE_P(Examples, RunExample, testing::ValuesIn(examples),
                          });
 
 TEST(CompiledExample, NeedsTheComponentRegistered) {
-    const Document invoice(L"invoice.rtf");
+    const WrittenFile invoice(L"invoice.rtf");
 
     const ProcessResult result = run(builtProgram("invoice.exe"), inQuotes(invoice.path()));
 
@@ -193,8 +147,8 @@ TEST(CompiledExample, NeedsTheComponentRegistered) {
 }
 
 TEST(CompiledExample, RunsWithoutRegistrationBesideItsManifest) {
-    const Document invoice(L"invoice.rtf");
-    const Document reminder(L"reminder.rtf");
+    const WrittenFile invoice(L"invoice.rtf");
+    const WrittenFile reminder(L"reminder.rtf");
 
     const ProcessResult result = run(builtProgram("withoutRegistration/invoice.exe"),
                                      inQuotes(invoice.path()) + L" " + inQuotes(reminder.path()));

@@ -1,0 +1,42 @@
+#include "data/csvTable.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <optional>
+#include <span>
+
+#include "data/csvRecords.h"
+#include "data/recordsText.h"
+#include "quorvane/compose/Error.h"
+
+namespace quorvane::data {
+
+namespace {
+
+BlockReader readerOf(std::string_view text) {
+    return [text](std::span<char> block) mutable {
+        const std::size_t count = text.copy(block.data(), block.size());
+        text.remove_prefix(count);
+        return count;
+    };
+}
+
+}  // namespace
+
+std::vector<std::vector<std::string>> csvTable(std::string_view text) {
+    try {
+        RecordsText records(readerOf(text), EncodingChoice::Utf8);
+        CsvRecords source(records, std::nullopt);
+        std::vector<std::vector<std::string>> rows{source.names()};
+        std::vector<std::string_view> fields;
+        while (source.next(fields)) {
+            rows.emplace_back(fields.begin(), fields.end());
+        }
+        return rows;
+    } catch (const RecordError& error) {
+        throw Error(
+            {.message = error.description, .identifier = "wrong-value", .line = error.line});
+    }
+}
+
+}  // namespace quorvane::data
