@@ -54,7 +54,7 @@ Sub ShowWhatIsWrong()
     Dim document, diagnostic
     Set document = CreateObject("Quorvane.Document")
     On Error Resume Next
-    document.Render Join(Array("; quorvane 2", "(doc", "(page=a44)", "(row", "row)", "doc)"), vbLf)
+    document.Render Lines(Array("; quorvane 2", "(doc", "(page=a44)", "(row", "row)", "doc)"))
     WScript.Echo ErrorText()
     On Error GoTo 0
     For Each diagnostic In document.Diagnostics
@@ -66,7 +66,7 @@ End Sub
 Sub MakePrices(path)
     Dim document
     Set document = CreateObject("Quorvane.Document")
-    document.Table Join(Array("Article,Price", "Pillar candle,4.80", "Tea lights,12.50"), vbLf), _
+    document.Table Lines(Array("Article,Price", "Pillar candle,4.80", "Tea lights,12.50")), _
         "Article:70%,Price:Price in pounds:30%", "Prices"
     document.Save path
     WScript.Echo path & " was written."
@@ -84,8 +84,16 @@ Function Items()
 End Function
 
 Function StyleSheet()
-    StyleSheet = Join(Array( _
+    StyleSheet = Lines(Array( _
         "{ name: normal; style-def: s; format: \f0\fs20\sb60\sa60 }", _
         "{ name: column; style-def: s; format: \f0\fs18\b\sb60\sa60 }", _
-        "{ name: total; style-def: s; format: \f0\fs22\b\sb80\sa80 }"), vbLf)
+        "{ name: total; style-def: s; format: \f0\fs22\b\sb80\sa80 }"))
+End Function
+
+' A text with these lines.
+Function Lines(all)
+    Dim line
+    For Each line In all
+        Lines = Lines & line & vbLf
+    Next
 End Function

@@ -89,9 +89,14 @@ TEST_P(RunDocumentExample, SavesTheBytesOfTheLibrary) {
 
     EXPECT_EQ(order_.bytes(), libraryOrder());
     EXPECT_EQ(prices_.bytes(), libraryPrices());
-    EXPECT_EQ(result.output, utf8Text(order_.path()) + " was written.\n" + GetParam().error +
-                                 "3: \"a44\" is not a page.\n" + "line 3: error wrong-value\n" +
-                                 utf8Text(prices_.path()) + " was written.\n");
+    EXPECT_EQ(result.output,
+              utf8Text(order_.path()) + " was written.\n" + GetParam().error +
+                  "line 3:7: \"a44\" is not a page; write one of a3, a4, a5, a6, b5, letter, "
+                  "legal, tabloid, executive, each also with -landscape, or use paper-width and "
+                  "paper-height.\n"
+                  "line 3: error wrong-value\n"
+                  "line 4: error no-cell\n" +
+                  utf8Text(prices_.path()) + " was written.\n");
     EXPECT_EQ(result.errors, "");
     EXPECT_EQ(result.status, 0U);
 }
