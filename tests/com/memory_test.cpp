@@ -63,6 +63,21 @@ void driveLateBound(const Component& component) {
     ASSERT_GT(events, 0);
 }
 
+/// Documents for scripts, late bound and with errors.
+void buildForScripts(const Component& component) {
+    const LateBound document(component.create<IDispatch>(__uuidof(::Document)));
+    const LateBound row(document.call("AddRow", {"a text that takes memory"}).value.object());
+    row.object("Cells", {1}).set("Align", {"right"});
+    row.object("Cells").get("Item", {2});
+    document.get("Rtf");
+    document.call("Table", {"Name,Price\nVase,12\n"});
+    document.call("Table", {"Name,Price\nVase\n"});
+    document.call("Render", {"; quorvane 2\n(doc\n(page=a44)\ndoc)\n"});
+    document.object("Diagnostics", {1}).get("Message");
+    document.call("RenderData", {"; quorvane 2\n(doc\ndoc)\n", "", "{}"});
+    row.call("Remove");
+}
+
 /// What a host holds longer than what it belonged to.
 void holdLonger(const Component& component) {
     auto document = component.create<_CRtfDoc>(__uuidof(::CRtfDoc));
@@ -130,6 +145,10 @@ TEST(Memory, OfObjectsThatOutliveTheirOwnersIsFreed) {
 
 TEST(Memory, OfDriversIsFreed) {
     expectNoLeak(driveLateBound, 3000);
+}
+
+TEST(Memory, OfDocumentsForScriptsIsFreed) {
+    expectNoLeak(buildForScripts, 1000);
 }
 
 TEST(Memory, IsMeasured) {

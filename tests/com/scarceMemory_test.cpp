@@ -251,6 +251,44 @@ Work driving(std::string& read, int& events) {
     };
 }
 
+/// Builds documents for scripts in every way. `read` becomes all that was read.
+Work buildingForScripts(std::string& read) {
+    return [&read](const Component& component) {
+        Variant widths("40 60");
+        Variant given("a text that takes memory of its own");
+        const Variant table("Name,Price\nVase with a long name,12\n");
+        const Bstr description(std::string(
+            "; quorvane 2\n(doc\n(row\n(cell\n(para\n(pt={{name}})\npara)\ncell)\nrow)\ndoc)\n"));
+        const Bstr json(std::string(R"({"name": "a name that takes memory of its own"})"));
+        const Bstr color(std::string("#f2f6fa"));
+        Bstr value;
+        ComPtr<_Document> document;
+        ComPtr<_DocumentRow> row;
+        ComPtr<_DocumentCells> cells;
+        ComPtr<_DocumentCell> cell;
+        ComPtr<_DocumentDiagnostics> diagnostics;
+        Calls calls;
+        read.clear();
+        const auto reading = [&](auto&& call) {
+            calls(call);
+            read += value.utf8() + "\n";
+        };
+        calls([&] { return create(component, __uuidof(::Document), document); });
+        calls([&] { return document->put_Columns(widths.get()); });
+        calls([&] { return document->AddRow(given.reference(), nullptr, row.out()); });
+        calls([&] { return row->put_BackColor(color.get()); });
+        calls([&] { return row->get_Cells(cells.out()); });
+        calls([&] { return cells->get_Item(1, cell.out()); });
+        reading([&] { return document->get_Rtf(value.out()); });
+        calls([&] { return document->Table(table.get(), nullptr, nullptr, nullptr); });
+        reading([&] { return document->get_Rtf(value.out()); });
+        calls([&] { return document->RenderData(description.get(), nullptr, json.get()); });
+        reading([&] { return document->get_Rtf(value.out()); });
+        calls([&] { return document->get_Diagnostics(diagnostics.out()); });
+        return calls.result();
+    };
+}
+
 /// Calls a member by its name.
 HRESULT callByName(IDispatch& object, const wchar_t* name, WORD kind, DISPPARAMS& arguments,
                    VARIANT* result) {
@@ -357,6 +395,15 @@ TEST(ScarceMemory, LeavesADescribedDocumentWholeOrReportsTheShortage) {
         EXPECT_EQ(contents, expected);
         EXPECT_EQ(events, expectedEvents);
     });
+}
+
+TEST(ScarceMemory, LeavesDocumentsForScriptsWholeOrReportsTheShortage) {
+    std::string contents;
+    ASSERT_EQ(buildingForScripts(contents)(Component()), S_OK);
+    const std::string expected = contents;
+
+    expectOnlyOutOfMemory(buildingForScripts(contents), S_OK,
+                          [&] { EXPECT_EQ(contents, expected); });
 }
 
 TEST(ScarceMemory, IsReportedToLateBoundHosts) {
