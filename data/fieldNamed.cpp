@@ -1,18 +1,13 @@
 #include "data/fieldNamed.h"
 
 #include <algorithm>
-#include <cstdint>
 
-#include "quorvane/base/values/RtfError.h"
+#include "data/refuse.h"
 #include "quorvane/diagnostics/engine/nearestWord.h"
 
 namespace quorvane::data {
 
 namespace {
-
-[[noreturn]] void refuse(const std::string& why) {
-    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), why));
-}
 
 /// "; its fields are: No., Name." Of many fields, the first ones.
 std::string listOf(const std::vector<std::string>& names) {

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdint>
 #include <iterator>
 #include <string_view>
 #include <utility>
@@ -11,6 +10,7 @@
 #include "data/columnsMeasure.h"
 #include "data/columnsRequest.h"
 #include "data/fieldNamed.h"
+#include "data/refuse.h"
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/compose/TableDescription.h"
 #include "quorvane/compose/TableWriter.h"
@@ -21,10 +21,6 @@ namespace quorvane::data {
 namespace {
 
 using Rows = std::vector<std::vector<std::string>>;
-
-[[noreturn]] void refuse(const std::string& why) {
-    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), why));
-}
 
 /// The columns that a table shows, and the positions of their fields.
 struct ShownColumns {

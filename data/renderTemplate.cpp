@@ -28,8 +28,8 @@ DataValue recordOf(std::string_view json) {
 }
 
 std::string refusePartial(const std::string&) {
-    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
-                   "a text has no folder with partials; write its lines here"));
+    raise(RunTimeError::InvalidProcedureCall,
+          "a text has no folder with partials; write its lines here");
 }
 
 void requireNone(const Template& source, const std::vector<TemplateError>& errors,
