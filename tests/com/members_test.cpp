@@ -21,12 +21,16 @@
 namespace quorvane::host {
 namespace {
 
+/// The members of the classes that the library has too.
 std::vector<std::string> members() {
     ComPtr<ITypeLib> library;
     if (FAILED(LoadTypeLibEx(componentFile().c_str(), REGKIND_NONE, library.out()))) {
         throw std::runtime_error("the component has no type library");
     }
-    return publishedMembers(*library.get());
+    std::vector<std::string> members = publishedMembers(*library.get());
+    std::erase_if(members,
+                  [](const std::string& member) { return member.starts_with("_Document"); });
+    return members;
 }
 
 struct Operation {
