@@ -87,6 +87,15 @@ def check_code(page):
             report(page, number, f"the code differs from {block[1]}")
 
 
+def check_programs(page, folder):
+    """A page shows every program of a folder."""
+    text = page.read_text(encoding="utf-8")
+    for file in sorted(folder.iterdir()):
+        name = file.relative_to(project).as_posix()
+        if not re.search(rf"^```\w+ {re.escape(name)}$", text, re.MULTILINE):
+            report(page, 1, f"{name} is not shown")
+
+
 def check_sources(page, sources):
     """The sources that a page names exist, by their names or by the ends of their paths."""
     for number, line, is_code in lines_of(page):
@@ -164,6 +173,7 @@ for page in pages():
     check_spelling(page)
 for name in ("CONTRIBUTING.md", "docs/internals.md", "docs/promises.md"):
     check_sources(project / name, source_files())
+check_programs(project / "docs" / "languages.md", project / "examples" / "languages")
 Promises().check()
 if problems:
     sys.exit("\n".join(problems))
