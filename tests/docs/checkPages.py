@@ -27,7 +27,7 @@ def report(page, line, text):
 
 
 def pages():
-    return [page for folder in (".", "docs", "examples", "bindings/python")
+    return [page for folder in (".", "docs", "examples", "bindings/python", "bindings/npm")
             for page in sorted((project / folder).glob("*.md"))]
 
 

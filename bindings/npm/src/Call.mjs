@@ -3,6 +3,7 @@ import { instantiate } from './instantiate.mjs';
 const readsUtf8 = 0;
 const readsEither = 2;
 const fileKinds = ['pictures', 'partials'];
+const partial = 1;
 const severities = ['error', 'warning'];
 const pointerSize = 4;
 
@@ -19,7 +20,8 @@ export class QuorvaneError extends Error {
 }
 
 let loading;
-let files = {};
+// Those of the call that is being made; all of its work is done before another begins.
+let files;
 
 /** The functions of the module, which is made with the first call. */
 function load() {
@@ -30,7 +32,8 @@ function load() {
 /** Hands a file to the module, in memory that it can use until the call ends. */
 function readFile(kind, name, nameLength, lengthPlace) {
   const { call } = files;
-  const content = files[fileKinds[kind]][call.textAt(name, nameLength)];
+  const file = call.textAt(name, nameLength).replace(kind === partial ? /\.rtfpart$/ : '', '');
+  const content = files[fileKinds[kind]][file];
   if (content === undefined) {
     return 0;
   }
@@ -77,6 +80,7 @@ export class Call {
     try {
       return work(this);
     } finally {
+      files = undefined;
       this.#function('free')(this.#handle);
     }
   }

@@ -12,10 +12,8 @@ function systemFor(compiled) {
 
 /** The functions of the module with these functions for it. */
 export async function instantiate(functions) {
-  // Apart from the interface, so that both of its forms share it and only a first call loads it.
-  const { moduleText } = await import('./moduleText.mjs');
-  const bytes = Uint8Array.from(atob(moduleText), (character) => character.charCodeAt(0));
-  const compiled = await WebAssembly.compile(bytes);
+  const { moduleBytes } = await import('./moduleBytes.mjs');
+  const compiled = await WebAssembly.compile(moduleBytes());
   const { exports } = await WebAssembly.instantiate(compiled, {
     ...systemFor(compiled),
     quorvane: functions,

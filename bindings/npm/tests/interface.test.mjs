@@ -1,7 +1,8 @@
 import assert from 'node:assert/strict';
+import { readFileSync } from 'node:fs';
 import { test } from 'node:test';
 
-import { check, format, QuorvaneError, render, table, version } from '../../build/npm/package/quorvane.mjs';
+import { check, format, QuorvaneError, render, table, version } from '../../package/quorvane.mjs';
 
 const lines = (...all) => `${all.join('\n')}\n`;
 const cell = (...within) => lines('(doc', '(r', '(c', '(p', ...within, 'p)', 'c)', 'r)', 'doc)');
@@ -39,6 +40,43 @@ test('fills a template with data in a locale', async () => {
 test('takes data as a text in JSON', async () => {
   const description = extended('(pt={{name}})');
   assert.match(textOf(await render({ description, data: '{"name": "Desk"}' })), /Desk/);
+});
+
+test('takes partials by the names in their tags', async () => {
+  const description = lines('; quorvane 2', '(doc', '{{> heading}}', 'doc)');
+  const heading = lines('(row', '(cell', '(para', '(pt=For {{name}})', 'para)', 'cell)', 'row)');
+  const rendered = await render({ description, data: { name: 'Anna' }, partials: { heading } });
+  assert.match(textOf(rendered), /For Anna/);
+});
+
+test('refuses a partial that was not given', async () => {
+  const description = lines('; quorvane 2', '(doc', '{{> heading}}', 'doc)');
+  const error = await refusal(render({ description, data: {}, partials: {} }));
+  assert.match(error.message, /heading/);
+  assert.equal(error.line, 3);
+});
+
+test('shows the pictures that were given', async () => {
+  const picture = readFileSync(new URL('../../../../examples/parts-logo.png', import.meta.url));
+  const description = extended('(picture=logo.png)');
+  for (const bytes of [picture, Uint8Array.from(picture).buffer]) {
+    const rendered = await render({ description, pictures: { 'logo.png': bytes } });
+    assert.match(textOf(rendered), /pngblip/);
+  }
+});
+
+test('reports the diagnostics that are enabled and leaves out those that are ignored', async () => {
+  const description = cell('(pt=a|b)', '(pt=c)');
+  const found = await check({ description });
+  assert.notDeepEqual(found, []);
+  const ignore = found.map(({ identifier }) => identifier);
+  assert.deepEqual(await check({ description, ignore }), []);
+});
+
+test('runs calls that are made at once', async () => {
+  const texts = ['first', 'second', 'third'];
+  const all = await Promise.all(texts.map((text) => render({ description: cell(`(pt=${text})`) })));
+  assert.deepEqual(all.map((each) => /first|second|third/.exec(textOf(each))[0]), texts);
 });
 
 test('reports the place of a mistake', async () => {
