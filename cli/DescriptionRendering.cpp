@@ -114,6 +114,11 @@ void DescriptionRendering::setStyleSheet(const std::string& name) {
 }
 
 void DescriptionRendering::parse(const DescriptionText& description) {
+    if (data::looksLikeTemplate(description.text)) {
+        report_.note(shownDescription(assignment_.description) +
+                     ": note: Tags such as {{name}} are shown as they are written; fill them with "
+                     "--data.");
+    }
     const PictureSource pictures = prepareDriver(description.encoding);
     driver_->ParseFromMemmory(description.text);
     pass(description, [&](KnownStyles* styles) {

@@ -21,6 +21,9 @@ struct EventJson {
     std::string operator()(const StyleSheetRefusal& refusal) const {
         return errorJson({ErrorKind::Raised, {}, refusal.error});
     }
+    std::string operator()(const RenderNote& note) const {
+        return Json({{"severity", "note"}, {"message", note.text}}).dump();
+    }
 };
 
 }  // namespace

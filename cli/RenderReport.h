@@ -55,6 +55,13 @@ public:
     /// A file that cannot be read or written, or a document that cannot be made.
     void fail(const ReportedError& failure) { receivers_.report(failure); }
 
+    /// A line that is not about an error.
+    void note(const std::string& text) {
+        if (receivers_.note) {
+            receivers_.note(text);
+        }
+    }
+
     /// Takes the bytes of the stylesheet. Returns false when the check refuses it.
     bool passStyleSheet(const std::string& name, const std::string& bytes);
 

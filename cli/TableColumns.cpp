@@ -114,6 +114,16 @@ std::vector<data::FlexibleColumn> columnsWithin(const std::vector<data::ColumnMe
     return columns;
 }
 
+/// "; its fields are: No., Name." Of many fields, the first ones.
+std::string listOf(const std::vector<std::string>& names) {
+    constexpr std::size_t most = 12;
+    std::string list;
+    for (std::size_t i = 0; i < std::min(names.size(), most); ++i) {
+        list += (list.empty() ? "; its fields are: " : ", ") + names[i];
+    }
+    return list + (names.size() > most ? ", …" : ".");
+}
+
 }  // namespace
 
 std::size_t fieldNamed(std::string_view name, const std::vector<std::string>& names) {
@@ -122,7 +132,7 @@ std::size_t fieldNamed(std::string_view name, const std::vector<std::string>& na
         const std::vector<std::string_view> candidates(names.begin(), names.end());
         const std::string guess = didYouMean(name, candidates);
         refuse("The data has no field \"" + std::string(name) + "\"" +
-               (guess.empty() ? "." : "; " + guess));
+               (guess.empty() ? listOf(names) : "; " + guess));
     }
     if (std::find(found + 1, names.end(), name) != names.end()) {
         refuse("The data has several fields \"" + std::string(name) + "\".");

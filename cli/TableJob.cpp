@@ -8,6 +8,7 @@
 #include "cli/UsageError.h"
 #include "cli/asUsage.h"
 #include "cli/fileFailure.h"
+#include "cli/filesBelow.h"
 #include "cli/outputPaths.h"
 #include "cli/styleSheetName.h"
 #include "quorvane/base/platform/utf8Path.h"
@@ -205,6 +206,12 @@ std::string TableJob::partOutput() const {
     }
     if (output_ == standardStream) {
         throw UsageError("--split writes several files; name them with --output");
+    }
+    if (output_.ends_with('/') || isFolder(output_)) {
+        throw UsageError(
+            "--output names a folder; write the name that the files of --split begin "
+            "with after it, such as " +
+            output_ + (output_.ends_with('/') ? "" : "/") + "list.rtf");
     }
     TableOptions part = options_;
     part.output = partPath(output_, part_);

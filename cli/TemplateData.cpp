@@ -1,5 +1,6 @@
 #include "cli/TemplateData.h"
 
+#include <string_view>
 #include <utility>
 
 #include "cli/RenderOptions.h"
@@ -9,6 +10,16 @@
 #include "data/jsonDiagnostic.h"
 
 namespace quorvane::cli {
+
+namespace {
+
+/// True for JSON Lines: where one object ends, the next one begins.
+bool isAnotherObject(std::string_view bytes, const data::JsonError& error) {
+    return error.position > 0 && bytes.substr(error.position).starts_with('{') &&
+           error.message.find("expected end of input") != std::string::npos;
+}
+
+}  // namespace
 
 TemplateDataFile readTemplateData(const std::string& path,
                                   const std::optional<std::string>& localeName,
@@ -23,6 +34,9 @@ TemplateDataFile readTemplateData(const std::string& path,
         return file;
     }
     file.diagnostics.push_back(data::jsonDiagnostic(file.bytes, error));
+    if (isAnotherObject(file.bytes, error)) {
+        file.diagnostics.back().hint = "write --each for a document of each record";
+    }
     return file;
 }
 

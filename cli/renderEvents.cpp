@@ -17,6 +17,7 @@ public:
     void operator()(const StyleSheetRefusal& refusal) const {
         report_.refuseStyleSheet(refusal.error);
     }
+    void operator()(const RenderNote& note) const { report_.note(note.text); }
 
 private:
     RenderReport& report_;
@@ -31,6 +32,7 @@ RenderReceivers receiversInto(RenderEvents& events, bool locate) {
     receivers.refuseStyleSheet = [&events](const RtfError& error) {
         events.emplace_back(StyleSheetRefusal{error});
     };
+    receivers.note = [&events](const std::string& text) { events.emplace_back(RenderNote{text}); };
     if (locate) {
         receivers.locate = [&events](const std::string& file, const Diagnostic& diagnostic,
                                      const DiagnosticExcerpt& excerpt) {

@@ -24,8 +24,14 @@ struct StyleSheetRefusal {
     RtfError error;
 };
 
+/// A line that is not about an error.
+struct RenderNote {
+    std::string text;
+};
+
 /// What a rendering reports, in its order.
-using RenderEvents = std::vector<std::variant<ReportedError, LocatedDiagnostic, StyleSheetRefusal>>;
+using RenderEvents =
+    std::vector<std::variant<ReportedError, LocatedDiagnostic, StyleSheetRefusal, RenderNote>>;
 
 /// True for events that take much memory.
 inline bool areMany(const RenderEvents& events) noexcept {

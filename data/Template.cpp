@@ -11,8 +11,10 @@
 #include "quorvane/base/text/extendedMark.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/base/values/RtfError.h"
+#include "quorvane/diagnostics/description/unclosedValueHint.h"
 #include "quorvane/driver/DescriptionLine.h"
 #include "quorvane/driver/Dialect.h"
+#include "quorvane/driver/driverErrorTable.h"
 #include "quorvane/driver/literalText.h"
 #include "quorvane/driver/withoutFullStop.h"
 #include "quorvane/support/recordStrings.h"
@@ -99,6 +101,9 @@ private:
         const std::vector<SourceLine> lines =
             PreProcessRawData(text, extendedDialect().marks.block);
         for (auto line = lines.begin(); line != lines.end(); ++line) {
+            if (reportsUnclosedValue(*line)) {
+                break;
+            }
             const std::vector<TemplateTag> tags = tagsIn(line->text);
             if (isUnendedComment(line->text, tags)) {
                 const auto end = std::find_if(line, lines.end(), [](const SourceLine& each) {
@@ -114,6 +119,25 @@ private:
             compileLine(*line, tags);
         }
         leaveUnclosed();
+    }
+
+    /// True for a value of several lines that does not end. What its lines hold is not what it
+    /// seems.
+    bool reportsUnclosedValue(const SourceLine& line) {
+        const Dialect& dialect = extendedDialect();
+        if (line.text.find(dialect.marks.block) == std::string_view::npos) {
+            return false;
+        }
+        const DescriptionLine parts = unclosedLeaf(line.text, dialect);
+        if (!parts.isReadable() || descriptionLine(line.text, dialect).isReadable()) {
+            return false;
+        }
+        errors_.push_back({.id = DiagnosticId::UnclosedValue,
+                           .source = source_,
+                           .part = parts.value.substr(0, dialect.marks.block.size()),
+                           .message = std::string(driverErrorText(DriverFault::UnclosedValue)),
+                           .hint = unclosedValueHint(dialect)});
+        return true;
     }
 
     void compileLine(SourceLine line, std::span<const TemplateTag> tags) {
@@ -145,9 +169,9 @@ private:
             return;
         }
         const DescriptionKey key = dialect.vocabulary.leafKey(parts.key).known;
-        const std::string_view mark = dialect.marks.block;
-        const bool isBlock = key == DescriptionKey::ParaText && parts.value.starts_with(mark) &&
-                             parts.value.size() >= 2 * mark.size() && parts.value.ends_with(mark);
+        const bool isBlock = key == DescriptionKey::ParaText &&
+                             dialect.marks.beginsBlock(parts.value) &&
+                             dialect.marks.endsBlock(parts.value);
         const std::size_t base = std::exchange(base_, open_.size());
         add({.kind = TemplateStep::Kind::LeafBegin,
              .isBlock = isBlock,
@@ -155,7 +179,7 @@ private:
              .text = parts.value});
         const LeafContext leaf{parts.key, useIn(key), true};
         if (isBlock) {
-            for (const std::string_view each : blockLines(parts.value, mark)) {
+            for (const std::string_view each : blockLines(parts.value, dialect.marks.block)) {
                 compileBlockLine(each, leaf);
             }
         } else {
@@ -429,7 +453,7 @@ Template compileFileName(std::string name, std::vector<TemplateError>& errors) {
 }
 
 bool looksLikeTemplate(std::string_view text) {
-    if (!isMarkedExtended(text)) {
+    if (text.find("{{") == std::string_view::npos || !isMarkedExtended(text)) {
         return false;
     }
     const Dialect& dialect = extendedDialect();

@@ -55,6 +55,14 @@ bool counts(std::vector<Filter>::const_iterator& filter, std::vector<Filter>::co
     return filter != end && filter->kind == FilterKind::Count;
 }
 
+std::string joinedByDots(const std::vector<std::string>& names) {
+    std::string joined;
+    for (const std::string& name : names) {
+        joined += (joined.empty() ? "" : ".") + name;
+    }
+    return joined;
+}
+
 bool isControl(char character) {
     constexpr char firstPrintable = ' ';
     constexpr char del = 0x7F;
@@ -457,8 +465,13 @@ std::string TemplateFilling::missingHint(const TemplateQuery& query, const Found
         return found.in->isList() ? "a list has no names; write a section around the name"
                                   : "a single value has no names";
     }
+    const TagPath& path = query.query.path;
+    if (const std::string dotted = joinedByDots(path.names); found.in->find(dotted)) {
+        return "a name in the data has the dot in it; write " + writtenName(dotted);
+    }
     const std::vector<std::string_view> names(found.in->names.begin(), found.in->names.end());
-    if (std::string guess = didYouMean(found.name, names); !guess.empty()) {
+    if (const std::string_view nearest = nearestWord(found.name, names); !nearest.empty()) {
+        const std::string guess = "did you mean " + writtenName(nearest) + "?";
         return isSection ? guess + " If not, " + optional : guess;
     }
     if (const std::size_t colon = written.find(':'); colon != std::string::npos) {
@@ -468,10 +481,9 @@ std::string TemplateFilling::missingHint(const TemplateQuery& query, const Found
     for (std::size_t i = 0; i < names.size(); ++i) {
         const DataValue& inner = found.in->items[i];
         if (inner.isObject() && inner.find(found.name)) {
-            return "did you mean " + std::string(names[i]) + "." + std::string(found.name) + "?";
+            return "did you mean " + writtenName(names[i]) + "." + writtenName(found.name) + "?";
         }
     }
-    const TagPath& path = query.query.path;
     for (std::size_t outward = path.outward + 1; path.names.size() == 1; ++outward) {
         const Context* const context = objectContext(outward);
         if (!context) {
@@ -483,7 +495,7 @@ std::string TemplateFilling::missingHint(const TemplateQuery& query, const Found
                 out += "../";
             }
             return "an object around this one has the name; write {{" + out +
-                   std::string(found.name) + "}} if you mean that";
+                   writtenName(found.name) + "}} if you mean that";
         }
     }
     return optional;

@@ -57,11 +57,48 @@ TagPath::Kind kindNamed(std::string_view name) {
 }
 
 std::string wrongName(std::string_view written) {
-    return written.empty() ? "A name is missing in this tag"
-           : written.front() == '@'
-               ? std::string(written) + " is not known; write @index, @first or @last"
-               : "\"" + std::string(written) +
-                     "\" is not the name of a value; write names with a dot between them";
+    if (written.empty()) {
+        return "A name is missing in this tag";
+    }
+    if (written.front() == '@') {
+        return std::string(written) + " is not known; write @index, @first or @last";
+    }
+    const std::string example(written.find_first_of("[]") == nowhere ? written : "Nr.");
+    return "\"" + std::string(written) +
+           "\" is not the name of a value; write names with a dot between them, and a name that "
+           "has a dot itself in brackets: [" +
+           example + "]";
+}
+
+/// Takes a name off the beginning of a path, and the dot after it; empty where there is none.
+std::string_view takeName(std::string_view& path, bool& isLast) {
+    const bool isBracketed = path.starts_with('[');
+    const std::size_t bracket = isBracketed ? path.find(']') : 0;
+    if (bracket == nowhere) {
+        return {};
+    }
+    const std::size_t end = std::min(path.find('.', bracket), path.size());
+    const std::string_view written = trimmed(path.substr(0, end));
+    isLast = end == path.size();
+    path.remove_prefix(isLast ? end : end + 1);
+    if (isBracketed) {
+        return written.size() == bracket + 1 ? written.substr(1, bracket - 1) : std::string_view();
+    }
+    const bool isName =
+        !written.empty() && written.front() != '@' && written.find_first_of("{}") == nowhere;
+    return isName ? written : std::string_view();
+}
+
+/// Where the filters of a tag begin: the first bar that is not in brackets.
+std::size_t endOfPath(std::string_view content) {
+    bool isBracketed = false;
+    for (std::size_t at = 0; at < content.size(); ++at) {
+        if (content[at] == '|' && !isBracketed) {
+            return at;
+        }
+        isBracketed = content[at] == '[' || (isBracketed && content[at] != ']');
+    }
+    return std::min(content.find('|'), content.size());
 }
 
 TagPath tagPath(std::string_view written, std::string& error) {
@@ -74,19 +111,17 @@ TagPath tagPath(std::string_view written, std::string& error) {
     if (path.kind != TagPath::Kind::Names) {
         return path;
     }
-    for (std::string_view rest = written;;) {
-        const std::size_t end = std::min(rest.find('.'), rest.size());
-        const std::string_view name = trimmed(rest.substr(0, end));
-        if (name.empty() || name.front() == '@' || name.find_first_of("{}") != nowhere) {
+    bool isLast = false;
+    for (std::string_view rest = written; !isLast;) {
+        rest.remove_prefix(std::min(rest.find_first_not_of(" \t"), rest.size()));
+        const std::string_view name = takeName(rest, isLast);
+        if (name.empty()) {
             error = wrongName(written);
             return path;
         }
         path.names.emplace_back(name);
-        if (end == rest.size()) {
-            return path;
-        }
-        rest.remove_prefix(end + 1);
     }
+    return path;
 }
 
 }  // namespace
@@ -100,9 +135,15 @@ std::vector<TemplateTag> tagsIn(std::string_view line) {
     return tags;
 }
 
+std::string writtenName(std::string_view name) {
+    const bool isPlain = !name.empty() && name.find_first_of(".|[{}") == nowhere &&
+                         std::string_view("#^/>!&@ ").find(name.front()) == nowhere;
+    return isPlain ? std::string(name) : "[" + std::string(name) + "]";
+}
+
 TagQuery tagQuery(std::string_view content, std::string& error) {
     error.clear();
-    const std::size_t bar = std::min(content.find('|'), content.size());
+    const std::size_t bar = endOfPath(content);
     TagQuery query;
     query.written = trimmed(content.substr(0, bar));
     query.path = tagPath(query.written, error);

@@ -68,8 +68,11 @@ struct TagQuery {
     std::string_view written = {};
 };
 
-/// Reads what a tag names: "../customer.name|upper". `error` is what is wrong with it, a sentence
-/// without a full stop, and empty where nothing is.
+/// The name as it is written in a tag: "[Nr.]" where it has characters that mean something there.
+std::string writtenName(std::string_view name);
+
+/// Reads what a tag names: "../customer.name|upper", "customer.[Nr.]". `error` is what is wrong
+/// with it, a sentence without a full stop, and empty where nothing is.
 TagQuery tagQuery(std::string_view content, std::string& error);
 
 }  // namespace quorvane::data

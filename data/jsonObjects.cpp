@@ -167,7 +167,7 @@ void JsonObjects::skipLine() {
 }
 
 /// Outside a list, what is wrong ends with its line.
-void JsonObjects::refuse(const std::string& why) {
+void JsonObjects::refuse(std::string why) {
     const bool canGoOn = form_ == Form::Objects;
     if (canGoOn) {
         const std::string_view passed = text_.view().substr(begin_, at_ - begin_);
@@ -175,6 +175,7 @@ void JsonObjects::refuse(const std::string& why) {
         skipLine();
     } else {
         form_ = Form::Ended;
+        why += isAtEnd() || text_.data()[at_] == ']' ? "" : " What follows is not read.";
     }
     throw RecordError(line_, why, canGoOn);
 }

@@ -38,7 +38,7 @@ private:
     bool takeCharacter();
     bool isBroken();
     void skipLine();
-    [[noreturn]] void refuse(const std::string& why);
+    [[noreturn]] void refuse(std::string why);
 
     RecordsText& text_;
     Form form_ = Form::Unknown;

@@ -89,6 +89,18 @@ DescriptionLine descriptionLine(const SourceLine& line, const Dialect& dialect) 
     return parts;
 }
 
+DescriptionLine unclosedLeaf(std::string_view line, const Dialect& dialect) {
+    const std::size_t equals = line.find(dialect.marks.equals);
+    if (line.front() != dialect.marks.open || equals == std::string_view::npos) {
+        return {};
+    }
+    const std::string_view value = trimBlanks(line.substr(equals + 1));
+    if (!dialect.marks.beginsBlock(value)) {
+        return {};
+    }
+    return {.type = LineType::Leaf, .key = trimBlanks(line.substr(1, equals - 1)), .value = value};
+}
+
 std::string_view headOf(std::string_view line, const Dialect& dialect) {
     const char comment = dialect.marks.comment;
     std::size_t end = 0;

@@ -43,6 +43,10 @@ DescriptionLine descriptionLine(std::string_view line, const Dialect& dialect);
 /// The same, with the value that the line is filled with.
 DescriptionLine descriptionLine(const SourceLine& line, const Dialect& dialect);
 
+/// An unreadable line as the leaf that it begins, whose value of several lines does not end; still
+/// unreadable where it does not begin one.
+DescriptionLine unclosedLeaf(std::string_view line, const Dialect& dialect);
+
 /// The beginning of a line, up to its first blank or comment.
 std::string_view headOf(std::string_view line, const Dialect& dialect);
 

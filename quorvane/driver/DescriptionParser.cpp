@@ -217,19 +217,11 @@ void DescriptionParser::close(const SourceLine& line, const DescriptionLine& par
 }
 
 void DescriptionParser::readUnreadable(const SourceLine& line) {
-    const std::size_t equals = line.text.find(dialect_.marks.equals);
-    if (line.text.front() == dialect_.marks.open && equals != std::string_view::npos) {
-        const std::string_view value = trimBlanks(line.text.substr(equals + 1));
-        if (dialect_.marks.beginsBlock(value)) {
-            rejectUnclosed(line, value);
-            addLeaf(line,
-                    {.type = LineType::Leaf,
-                     .key = trimBlanks(line.text.substr(1, equals - 1)),
-                     .value = value},
-                    true);
-            passOverUnreadableLines();
-            return;
-        }
+    if (const DescriptionLine parts = unclosedLeaf(line.text, dialect_); parts.isReadable()) {
+        rejectUnclosed(line, parts.value);
+        addLeaf(line, parts, true);
+        passOverUnreadableLines();
+        return;
     }
     const Violation violation{
         .fault = DriverFault::WrongSyntax,
@@ -329,7 +321,7 @@ bool DescriptionParser::isSoundBlock(const SourceLine& line, const DescriptionLi
     if (line.filled || !dialect_.marks.beginsBlock(parts.value)) {
         return true;
     }
-    if (!endsBlock(parts.value)) {
+    if (!dialect_.marks.endsBlock(parts.value)) {
         rejectUnclosed(line, parts.value);
         return false;
     }
@@ -343,10 +335,6 @@ bool DescriptionParser::isSoundBlock(const SourceLine& line, const DescriptionLi
         return false;
     }
     return true;
-}
-
-bool DescriptionParser::endsBlock(std::string_view value) const {
-    return value.size() >= 2 * dialect_.marks.block.size() && value.ends_with(dialect_.marks.block);
 }
 
 bool DescriptionParser::keepsRootOpen() const {

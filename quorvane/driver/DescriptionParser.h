@@ -61,7 +61,6 @@ private:
     bool rejectsMisplaced() const;
     bool canStandHere(NodeKind kind) const;
     bool isSoundBlock(const SourceLine& line, const DescriptionLine& parts);
-    bool endsBlock(std::string_view value) const;
 
     DescriptionNode& innermost() const { return *nodes_.back(); }
     std::size_t depth() const { return nodes_.size() - 1; }

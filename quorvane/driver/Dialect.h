@@ -27,6 +27,11 @@ struct LineMarks {
     bool beginsBlock(std::string_view value) const {
         return !block.empty() && value.starts_with(block.front()) && value.starts_with(block);
     }
+
+    /// True for a value that begins so and ends.
+    bool endsBlock(std::string_view value) const {
+        return value.size() >= 2 * block.size() && value.ends_with(block);
+    }
 };
 
 /// The numbers that nodes of one kind get, in the order of the description.

@@ -255,7 +255,8 @@ TEST_F(RecordsTest, BeforeARangeAreNotLookedAtUnlessTheyEndTheData) {
               "1 document was written\n");
     folder.write("a.json", "[{},\n2,{}]");
     EXPECT_EQ(run({"--data", "a.json", "--each", "--records=3", "letter.rtfspec"}).errors,
-              "a.json:2: error: record 2: A record must be an object, which begins with {.\n"
+              "a.json:2: error: record 2: A record must be an object, which begins with {. "
+              "What follows is not read.\n"
               "a.json: 1 record failed; 0 documents were written\n");
 }
 

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <filesystem>
 #include <string>
 
 #include "quorvane/compose/TableSetup.h"
@@ -298,6 +299,19 @@ TEST_F(TableTest, WritesDocumentsOfSoManyRows) {
     EXPECT_TRUE(folder.has("empty-001.rtf"));
 }
 
+TEST_F(TableTest, NeedsANameForTheDocumentsOfItsParts) {
+    folder.write("a.csv", "n\n1\n2\n");
+    std::filesystem::create_directory(folder.path() / "parts");
+    for (const std::string output : {"parts", "parts/", "none/"}) {
+        const ProgramResult result = run({"a.csv", "--split=1", "-o", output});
+        EXPECT_EQ(result.status, 2) << output;
+        EXPECT_THAT(result.errors, HasSubstr("--output names a folder; write the name that the "
+                                             "files of --split begin with after it, such as "))
+            << output;
+    }
+    EXPECT_FALSE(folder.has("parts-001"));
+}
+
 TEST_F(TableTest, WritesNoDocumentForRowsThatAreAllLeftOut) {
     folder.write("a.csv", "n\n1\n2\n\x07\n");
     EXPECT_EQ(run({"a.csv", "--split=2", "--keep-going"}).status, 1);
@@ -497,7 +511,8 @@ TEST_F(TableTest, RefusesOptionsThatDoNotSuitTheData) {
     EXPECT_EQ(errorOf({"--columns", "nmae"}),
               "quorvane: The data has no field \"nmae\"; did you mean name?");
     EXPECT_EQ(errorOf({"--columns", "price"}), "quorvane: The data has several fields \"price\".");
-    EXPECT_EQ(errorOf({"--group-by", "kind"}), "quorvane: The data has no field \"kind\".");
+    EXPECT_EQ(errorOf({"--group-by", "kind"}),
+              "quorvane: The data has no field \"kind\"; its fields are: name, price, price.");
     EXPECT_EQ(errorOf({"--total", "sum"}), "quorvane: the table has no column \"sum\" for a total");
     EXPECT_THAT(errorOf({"--page", "a44"}), HasSubstr("\"a44\" is not a page"));
     EXPECT_THAT(errorOf({"--stripe", "crimsno"}), HasSubstr("crimsno"));

@@ -16,6 +16,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
+using testing::StartsWith;
 
 std::string templateOf(const std::string& paragraphLines) {
     return "; quorvane 2\n(doc\n(r\n(c\n" + paragraphLines + "\nc)\nr)\ndoc)\n";
@@ -44,6 +45,28 @@ TEST_F(TemplateTest, IsFilledWithTheData) {
 TEST_F(TemplateTest, IsADescriptionAsAnyOtherWithoutData) {
     const ProgramResult result = run({"render", "letter.rtfspec", "-o", "-"});
     EXPECT_THAT(result.output, HasSubstr("Dear \\{\\{name\\}\\},\\cell"));
+    EXPECT_EQ(
+        result.errors,
+        "letter.rtfspec: note: Tags such as {{name}} are shown as they are written; fill them "
+        "with --data.\n");
+    EXPECT_EQ(result.status, 0);
+}
+
+TEST_F(TemplateTest, IsNotedInItsPlaceAmongOthers) {
+    folder.write("a.rtfspec", "(doc\n(r\n(c\n(x=1)\nc)\nr)\ndoc)\n");
+    const auto errorsOf = [&](const char* jobs) {
+        return run({"render", "--keep-going", "-j", jobs, "letter.rtfspec", "a.rtfspec"}).errors;
+    };
+    EXPECT_THAT(errorsOf("1"), StartsWith("letter.rtfspec: note: "));
+    EXPECT_EQ(errorsOf("2"), errorsOf("1"));
+}
+
+TEST_F(TemplateTest, IsFilledWithOneRecordUnlessThereIsOneForEach) {
+    folder.write("a.jsonl", "{\"name\":\"x\"}\n{\"name\":\"y\"}\n");
+    const ProgramResult result = run({"render", "--data", "a.jsonl", "letter.rtfspec"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.errors, HasSubstr("a.jsonl:2:1: error: This is not JSON: unexpected '{'"));
+    EXPECT_THAT(result.errors, HasSubstr("hint: write --each for a document of each record"));
 }
 
 TEST_F(TemplateTest, IsWarnedAboutWhereItsInlineStylesStand) {

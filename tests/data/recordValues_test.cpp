@@ -87,7 +87,9 @@ TEST(RecordValues, AreWrongForOneLineOfJsonLinesAlone) {
 
 TEST(RecordValues, EndWithAListThatIsWrong) {
     EXPECT_THAT(json("[{\"a\":1},\n2,{\"a\":3}]"),
-                ElementsAre("1: {a:1}", "2: A record must be an object, which begins with {."));
+                ElementsAre("1: {a:1}",
+                            "2: A record must be an object, which begins with {. "
+                            "What follows is not read."));
     EXPECT_THAT(json("[{\"a\":1,}\n,{\"a\":3}]"),
                 ElementsAre(HasSubstr("1: This is not JSON"), "2: {a:3}"));
 }

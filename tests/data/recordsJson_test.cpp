@@ -121,17 +121,21 @@ TEST(JsonRecords, KeepLittleOfAListWithoutBlanks) {
 }
 
 TEST(JsonRecords, ReportWhatIsNoListOfRecords) {
-    EXPECT_EQ(errorOf("[1]"), "1: A record must be an object, which begins with {.");
+    EXPECT_EQ(errorOf("[1]"),
+              "1: A record must be an object, which begins with {. What follows is not read.");
     EXPECT_EQ(errorOf("\n\"a\""), "2: A record must be an object, which begins with {.");
     EXPECT_EQ(errorOf("[{\"a\":1"), "1: The record does not end; } is missing.");
     EXPECT_EQ(errorOf("[\n"), "2: The list of records does not end; ] is missing.");
     EXPECT_EQ(read("[{}{}]").records[1],
-              (std::vector<std::string>{"1", "A comma is missing between two records."}));
+              (std::vector<std::string>{
+                  "1", "A comma is missing between two records. What follows is not read."}));
     EXPECT_EQ(read("[{},]").records[1],
               (std::vector<std::string>{
                   "1", "The list of records ends after a comma; remove the comma."}));
-    EXPECT_EQ(read("[{}]\n[").records[1],
-              (std::vector<std::string>{"2", "The list of records ends, but the file does not."}));
+    EXPECT_EQ(
+        read("[{}]\n[").records[1],
+        (std::vector<std::string>{
+            "2", "The list of records ends, but the file does not. What follows is not read."}));
 }
 
 TEST(JsonRecords, RefuseDeepAndLongRecords) {

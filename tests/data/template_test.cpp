@@ -95,6 +95,17 @@ constexpr Case sections[] = {
     {"MissingAsFalse", "[{{#a|default:}}x{{/a}}]", "{}", "[]"},
 };
 
+constexpr Case bracketed[] = {
+    {"Dot", "{{[Nr.]}}", R"({"Nr.":7})", "7"},
+    {"Inner", "{{a.[b.c].d}}", R"({"a":{"b.c":{"d":1}}})", "1"},
+    {"Blanks", "{{ a . [ b ] |upper}}", R"({"a":{" b ":"x"}})", "X"},
+    {"Bar", "{{[a|b]|number:1}}", R"({"a|b":2})", "2.0"},
+    {"Signs", "{{[#]}}{{[@index]}}{{[.]}}{{#[^]}}!{{/[^]}}", R"({"#":1,"@index":2,".":3,"^":true})",
+     "123!"},
+    {"Outward", "{{#a}}{{../[Nr.]}}{{/a}}", R"({"Nr.":1,"a":{}})", "1"},
+    {"WithinAName", "{{a[1]}}", R"({"a[1]":"x"})", "x"},
+};
+
 constexpr Case inverted[] = {
     {"True", "[{{^b}}shown{{/b}}]", R"({"b":true})", "[]"},
     {"False", "{{^b}}shown{{/b}}", R"({"b":false})", "shown"},
@@ -143,6 +154,7 @@ std::string nameOf(const testing::TestParamInfo<Case>& info) {
 
 INSTANTIATE_TEST_SUITE_P(Values, Tags, testing::ValuesIn(interpolations), nameOf);
 INSTANTIATE_TEST_SUITE_P(Sections, Tags, testing::ValuesIn(sections), nameOf);
+INSTANTIATE_TEST_SUITE_P(Bracketed, Tags, testing::ValuesIn(bracketed), nameOf);
 INSTANTIATE_TEST_SUITE_P(Inverted, Tags, testing::ValuesIn(inverted), nameOf);
 INSTANTIATE_TEST_SUITE_P(Positions, Tags, testing::ValuesIn(positions), nameOf);
 INSTANTIATE_TEST_SUITE_P(Filters, Tags, testing::ValuesIn(filters), nameOf);
@@ -279,6 +291,17 @@ TEST(MissingNames, MayHoldAFilterOrStandInAnotherObject) {
                 ElementsAre("6:5: net is not in the data. (did you mean invoice.net?)"));
 }
 
+TEST(MissingNames, MayHaveADotInTheData) {
+    EXPECT_THAT(errorsIn("{{customer.city}}", R"({"customer.city":"Brno"})"),
+                ElementsAre("6:5: customer.city is not in the data. (a name in the data has the "
+                            "dot in it; write [customer.city])"));
+    EXPECT_THAT(errorsIn("{{Mwst.-Satz}}", R"({"MwSt.-Satz":7})"),
+                ElementsAre("6:5: Mwst.-Satz is not in the data. "
+                            "(write {{Mwst.-Satz|default:…}} for what can be missing)"));
+    EXPECT_THAT(errorsIn("{{[Mwst.-Satz]}}", R"({"MwSt.-Satz":7})"),
+                ElementsAre("6:5: Mwst.-Satz is not in the data. (did you mean [MwSt.-Satz]?)"));
+}
+
 TEST(MissingNames, IncludeNull) {
     EXPECT_THAT(errorsIn("{{a}}", R"({"a":null})"),
                 ElementsAre("6:5: a is null in the data. "
@@ -354,7 +377,10 @@ TEST(WrongTags, SayWhatToWrite) {
         {"{{/a}}", "6:5: No section is open here that {{/a}} could close."},
         {"{{a..b}}",
          "6:5: \"a..b\" is not the name of a value; write names with a dot between "
-         "them."},
+         "them, and a name that has a dot itself in brackets: [a..b]."},
+        {"{{[a}}",
+         "6:5: \"[a\" is not the name of a value; write names with a dot between "
+         "them, and a name that has a dot itself in brackets: [Nr.]."},
         {"{{@key}}", "6:5: @key is not known; write @index, @first or @last."},
         {"{{a|uper}}", "6:5: \"uper\" is not a filter; did you mean upper?"},
         {"{{{a}}}", "6:5: Only (rtf=…) takes a value as it is; write {{a}}."},
@@ -364,6 +390,12 @@ TEST(WrongTags, SayWhatToWrite) {
     for (const auto& [text, error] : cases) {
         EXPECT_THAT(errorsIn(text, R"({"a":1})"), ElementsAre(error)) << text;
     }
+}
+
+TEST(ValuesOfSeveralLines, ThatDoNotEndAreTheOnlyError) {
+    EXPECT_THAT(errorsIn("\"\"\"\n{{#l}}\n{{a}}\n", R"({"a":1})"),
+                ElementsAre("6:5: The value that begins here does not end. "
+                            "(write \"\"\") at the end of its last line)"));
 }
 
 TEST(WrongTags, AreEndsOfOtherSections) {

@@ -8,6 +8,7 @@
 #include "quorvane/diagnostics/description/ViolationReport.h"
 #include "quorvane/diagnostics/description/nodeNouns.h"
 #include "quorvane/diagnostics/description/syntaxGuess.h"
+#include "quorvane/diagnostics/description/unclosedValueHint.h"
 
 namespace quorvane {
 
@@ -65,7 +66,7 @@ Hint CheckRecovery::hintFor(const Violation& violation) const {
                              std::to_string(violation.node->line) + " is not closed"
                        : "no " + std::string(nodeNoun(violation.kind)) + " is open";
         case DriverFault::UnclosedValue:
-            return "write " + std::string(dialect_.marks.block) + ") at the end of its last line";
+            return unclosedValueHint(dialect_);
         default:
             return {};
     }
