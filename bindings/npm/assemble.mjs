@@ -51,8 +51,8 @@ for (const [format, suffix] of [['esm', 'mjs'], ['cjs', 'cjs']]) {
   });
 }
 
-for (const name of ['quorvane.d.ts', 'package.json', 'README.md']) {
+for (const name of ['quorvane.d.cts', 'package.json', 'README.md']) {
   copyFileSync(join(here, name), join(folder, name));
 }
-// The same types for CommonJS modules.
-copyFileSync(join(here, 'quorvane.d.ts'), join(folder, 'quorvane.d.cts'));
+// ES modules can have the types of a CommonJS module, but not the other way round.
+writeFileSync(join(folder, 'quorvane.d.ts'), "export * from './quorvane.cjs';\n");

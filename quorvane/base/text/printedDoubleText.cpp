@@ -50,7 +50,7 @@ std::string plainDouble(double number) {
     const auto digits = static_cast<int>(
         std::count_if(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(mark),
                       [](char character) { return character >= '0' && character <= '9'; }));
-    const int exponent = std::atoi(text.c_str() + mark + 1);
+    const auto exponent = static_cast<int>(std::strtol(text.c_str() + mark + 1, nullptr, 10));
     return printed("%.*f", std::max(digits - 1 - exponent, 0), number);
 }
 
