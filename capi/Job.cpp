@@ -82,8 +82,8 @@ std::string nameOr(std::string_view name, std::string_view fallback) {
 }
 
 [[noreturn]] void refuseFile() {
-    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
-                   "The description has no path, so there is no folder to look in"));
+    raise(RunTimeError::InvalidProcedureCall,
+          "The description has no path, so there is no folder to look in");
 }
 
 ContentError numbered(ContentError error, std::int32_t number) {

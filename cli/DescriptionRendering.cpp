@@ -187,9 +187,9 @@ bool DescriptionRendering::mayWrite() {
         return true;
     }
     report_.fail({ErrorKind::Raised, shownDescription(assignment_.description),
-                  RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
-                           "Nothing could be built; " + outputName(assignment_.output) +
-                               " was not written.")});
+                  RtfError(RunTimeError::InvalidProcedureCall, "Nothing could be built; " +
+                                                                   outputName(assignment_.output) +
+                                                                   " was not written.")});
     return false;
 }
 

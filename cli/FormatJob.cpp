@@ -31,7 +31,7 @@ struct StandardOutputFailure {
 };
 
 [[noreturn]] void refuse(std::string why, std::int64_t line = 0) {
-    RtfError error(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), std::move(why));
+    RtfError error(RunTimeError::InvalidProcedureCall, std::move(why));
     error.line = static_cast<int>(line);
     raise(std::move(error));
 }

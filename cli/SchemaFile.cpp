@@ -56,7 +56,7 @@ void validate(TemplateDataFile& file, const data::DataSchema& schema) {
 
 RtfError schemaMismatch(const data::JsonFault& fault, std::int64_t line) {
     const std::string_view identifier = diagnosticRule(DiagnosticId::SchemaMismatch).identifier;
-    RtfError error(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
+    RtfError error(RunTimeError::InvalidProcedureCall,
                    fault.message + " [" + std::string(identifier) + "]");
     error.line = static_cast<int>(line);
     return error;

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
 #include <iterator>
 #include <numeric>
 
 #include "cli/localeOption.h"
 #include "data/columnsMeasure.h"
+#include "data/refuse.h"
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/diagnostics/engine/nearestWord.h"
 #include "quorvane/driver/extendedValues.h"
@@ -15,10 +15,6 @@
 namespace quorvane::cli {
 
 namespace {
-
-[[noreturn]] void refuse(const std::string& why) {
-    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), why));
-}
 
 /// The columns of all these fields.
 std::vector<data::ColumnRequest> requestsOf(const std::vector<std::size_t>& fields,
@@ -131,11 +127,11 @@ std::size_t fieldNamed(std::string_view name, const std::vector<std::string>& na
     if (found == names.end()) {
         const std::vector<std::string_view> candidates(names.begin(), names.end());
         const std::string guess = didYouMean(name, candidates);
-        refuse("The data has no field \"" + std::string(name) + "\"" +
-               (guess.empty() ? listOf(names) : "; " + guess));
+        data::refuse("The data has no field \"" + std::string(name) + "\"" +
+                     (guess.empty() ? listOf(names) : "; " + guess));
     }
     if (std::find(found + 1, names.end(), name) != names.end()) {
-        refuse("The data has several fields \"" + std::string(name) + "\".");
+        data::refuse("The data has several fields \"" + std::string(name) + "\".");
     }
     return static_cast<std::size_t>(found - names.begin());
 }
@@ -285,16 +281,17 @@ bool TableColumns::readsDates(std::size_t column) const {
 std::string TableColumns::plainDate(std::size_t column, std::string_view value) const {
     const std::optional<data::DateOrder> order = dateOrders_[column];
     if (!order && data::isAmbiguousDate(value)) {
-        refuse("\"" + columns_[column].name + "\": \"" + std::string(value) +
-               "\" can begin with the day or the month. Choose one with --locale, such as en-GB or "
-               "en-US.");
+        data::refuse(
+            "\"" + columns_[column].name + "\": \"" + std::string(value) +
+            "\" can begin with the day or the month. Choose one with --locale, such as en-GB or "
+            "en-US.");
     }
     const std::optional<std::string> iso =
         data::isoDate(value, order.value_or(data::DateOrder::DayMonthYear));
     if (!iso && order) {
-        refuse("\"" + columns_[column].name + "\": \"" + std::string(value) +
-               "\" is not a date of the form 2026-11-22 or " +
-               std::string(data::dateExample(*order)) + ".");
+        data::refuse("\"" + columns_[column].name + "\": \"" + std::string(value) +
+                     "\" is not a date of the form 2026-11-22 or " +
+                     std::string(data::dateExample(*order)) + ".");
     }
     return iso.value_or(std::string(value));
 }
@@ -310,13 +307,15 @@ std::string TableColumns::plain(std::size_t column, std::string_view value) cons
         return std::string(value);
     }
     if (areGuessed_[column] && data::isAmbiguousNumber(value)) {
-        refuse("\"" + columns_[column].name + "\": \"" + std::string(value) +
-               "\" can be read in two ways. Choose one with --locale, such as en-US or de-DE.");
+        data::refuse(
+            "\"" + columns_[column].name + "\": \"" + std::string(value) +
+            "\" can be read in two ways. Choose one with --locale, such as en-US or de-DE.");
     }
     const std::optional<std::string> plain = data::plainNumber(*number, *signs_[column]);
     if (!plain && *signs_[column] == data::DecimalSign::Comma) {
-        refuse("\"" + columns_[column].name + "\": \"" + std::string(value) +
-               "\" is not a number with a decimal comma, as the column or the locale has it.");
+        data::refuse(
+            "\"" + columns_[column].name + "\": \"" + std::string(value) +
+            "\" is not a number with a decimal comma, as the column or the locale has it.");
     }
     return plain.value_or(std::string(value));
 }
@@ -329,7 +328,7 @@ std::string TableColumns::shown(std::size_t column, std::string_view value) cons
         } else if (!text.empty()) {
             data::FilterResult result = filter.apply(text, locale_);
             if (!result.error.empty()) {
-                refuse("\"" + columns_[column].name + "\": " + result.error + ".");
+                data::refuse("\"" + columns_[column].name + "\": " + result.error + ".");
             }
             text = std::move(result.text);
         }

@@ -11,6 +11,7 @@
 #include "cli/filesBelow.h"
 #include "cli/outputPaths.h"
 #include "cli/styleSheetName.h"
+#include "data/refuse.h"
 #include "quorvane/base/platform/utf8Path.h"
 #include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/base/values/RtfError.h"
@@ -32,10 +33,6 @@ Assignment assignmentOf(const TableOptions& options) {
         render.output = standardStream;
     }
     return assignOutputs(render).front();
-}
-
-[[noreturn]] void refuse(const std::string& why) {
-    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), why));
 }
 
 /// "prices-002.rtf" for the second part of "prices.rtf".
@@ -145,9 +142,9 @@ void TableJob::findFields(const TableRecords& records) {
     const std::vector<std::string>& names = records.names();
     columns_.emplace(options_, names, records.blankFields());
     if (columns_->count() > mostTableColumns) {
-        refuse("The data has " + std::to_string(columns_->count()) +
-               " fields to show, and a table has at most " + std::to_string(mostTableColumns) +
-               " columns. Choose some with --columns.");
+        data::refuse("The data has " + std::to_string(columns_->count()) +
+                     " fields to show, and a table has at most " +
+                     std::to_string(mostTableColumns) + " columns. Choose some with --columns.");
     }
     columns_->findSigns(records.first(), records.areJson());
     fieldCount_ = names.size();
@@ -253,16 +250,18 @@ void TableJob::requireShown(const std::vector<std::string>& names,
                             std::span<const std::string_view> fields) {
     for (const std::size_t blank : blankFields_) {
         if (blank < fields.size() && !fields[blank].empty()) {
-            refuse("Field " + std::to_string(blank + 1) +
-                   " has neither a heading nor a value in the first rows, so that the table has no "
-                   "column for it. Give it a heading.");
+            data::refuse(
+                "Field " + std::to_string(blank + 1) +
+                " has neither a heading nor a value in the first rows, so that the table has no "
+                "column for it. Give it a heading.");
         }
     }
     if (names.size() > fieldCount_ && !columns_->areNamed()) {
         const std::string& name = names[fieldCount_];
         fieldCount_ = names.size();
-        refuse("The first records do not have the field \"" + name +
-               "\", so that the table has no column for it. Name the columns with --columns.");
+        data::refuse(
+            "The first records do not have the field \"" + name +
+            "\", so that the table has no column for it. Name the columns with --columns.");
     }
 }
 

@@ -2,19 +2,11 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdint>
 
+#include "data/refuse.h"
 #include "quorvane/base/values/RtfError.h"
 
 namespace quorvane::data {
-
-namespace {
-
-[[noreturn]] void refuse(const std::string& why) {
-    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), why));
-}
-
-}  // namespace
 
 ColumnsPart ColumnsParts::takeColumn() {
     bool isQuoted = false;

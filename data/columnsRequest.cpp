@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "data/columnsParts.h"
+#include "data/refuse.h"
 #include "quorvane/base/values/RtfError.h"
 #include "quorvane/diagnostics/engine/nearestWord.h"
 #include "quorvane/driver/extendedValues.h"
@@ -11,10 +12,6 @@
 namespace quorvane::data {
 
 namespace {
-
-[[noreturn]] void refuse(const std::string& why) {
-    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), why));
-}
 
 struct NamedAlignment {
     std::string_view name;

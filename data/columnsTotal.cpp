@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <charconv>
 
-#include "quorvane/base/values/RtfError.h"
+#include "data/refuse.h"
 
 namespace quorvane::data {
 
@@ -13,10 +13,6 @@ constexpr std::size_t limbDigits = 9;
 // Of the readings.
 constexpr char decimalSigns[] = {'.', ','};
 constexpr std::int64_t limbBase = 1'000'000'000;
-
-[[noreturn]] void refuse(const std::string& why) {
-    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), why));
-}
 
 std::int64_t numberOf(std::string_view digits) {
     std::int64_t number = 0;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdint>
 #include <iterator>
 #include <optional>
 #include <string_view>
@@ -150,9 +149,8 @@ private:
             path_.insert(begin_ + stem, "_");
         }
         if (path_.size() - begin_ > longestName) {
-            raise(RtfError(
-                static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
-                "The name of the file has more than " + std::to_string(longestName) + " bytes."));
+            raise(RunTimeError::InvalidProcedureCall,
+                  "The name of the file has more than " + std::to_string(longestName) + " bytes.");
         }
     }
 

@@ -1,6 +1,5 @@
 #include "data/partialsBeside.h"
 
-#include <cstdint>
 #include <filesystem>
 #include <system_error>
 
@@ -16,8 +15,8 @@ PartialSource partialsBeside(const std::string& templatePath, Platform& platform
         const std::filesystem::path file = folder / pathFromUtf8(name);
         std::error_code failure;
         if (!staysWithinFolder(name) || std::filesystem::is_other(file, failure)) {
-            raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
-                           "this is not a file in the folder of the template; move it there"));
+            raise(RunTimeError::InvalidProcedureCall,
+                  "this is not a file in the folder of the template; move it there");
         }
         return platform.readFile(utf8FromPath(file));
     };

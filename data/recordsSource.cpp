@@ -6,8 +6,7 @@
 namespace quorvane::data {
 
 RecordError::RecordError(std::int64_t recordLine, const std::string& why, bool canContinue)
-    : RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), why),
-      canGoOn(canContinue) {
+    : RtfError(RunTimeError::InvalidProcedureCall, why), canGoOn(canContinue) {
     line = static_cast<int>(std::min<std::int64_t>(recordLine, std::numeric_limits<int>::max()));
 }
 

@@ -2,11 +2,10 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdint>
 
 #include "data/decimalNumber.h"
 #include "data/foldedText.h"
-#include "quorvane/base/values/RtfError.h"
+#include "data/refuse.h"
 
 namespace quorvane::data {
 
@@ -17,10 +16,6 @@ constexpr char numberKind = '\1';
 constexpr char dateKind = '\2';
 constexpr char textKind = '\3';
 constexpr char emptyKind = '\xFF';
-
-[[noreturn]] void refuse(const std::string& why) {
-    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), why));
-}
 
 void complement(std::string& key, std::size_t begin) {
     std::transform(key.begin() + static_cast<std::ptrdiff_t>(begin), key.end(),

@@ -1,17 +1,11 @@
 #include "data/sortRequest.h"
 
-#include <cstdint>
-
 #include "data/columnsParts.h"
-#include "quorvane/base/values/RtfError.h"
+#include "data/refuse.h"
 
 namespace quorvane::data {
 
 namespace {
-
-[[noreturn]] void refuse(const std::string& why) {
-    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), why));
-}
 
 SortRequest takeRequest(ColumnsParts& parts) {
     SortRequest request;

@@ -20,7 +20,7 @@ constexpr std::string_view headingColor = "#dce6f1";
 constexpr std::string_view line = "thin";
 
 [[noreturn]] void refuse(const std::string& why) {
-    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), why));
+    raise(RunTimeError::InvalidProcedureCall, why);
 }
 
 std::string leaf(std::string_view key, std::string_view value) {

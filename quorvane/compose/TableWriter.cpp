@@ -60,8 +60,7 @@ Ref<CRtfDoc> documentOf(const TableDescription& description) {
     });
     driver->ParseFromMemmory(text);
     if (failure) {
-        raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
-                       failure->description));
+        raise(RunTimeError::InvalidProcedureCall, failure->description);
     }
     return document;
 }
@@ -120,8 +119,8 @@ public:
 private:
     void requireOpen() const {
         if (!isOpen_) {
-            raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
-                           "The document has ended, or could not be written."));
+            raise(RunTimeError::InvalidProcedureCall,
+                  "The document has ended, or could not be written.");
         }
     }
 

@@ -12,9 +12,8 @@ namespace {
 
 std::uint8_t colorPart(std::int32_t part) {
     if (part < 0 || part > UINT8_MAX) {
-        raise(RtfError(
-            static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
-            "A part of a color is a number from 0 to 255, not " + std::to_string(part) + "."));
+        raise(RunTimeError::InvalidProcedureCall,
+              "A part of a color is a number from 0 to 255, not " + std::to_string(part) + ".");
     }
     return static_cast<std::uint8_t>(part);
 }

@@ -15,8 +15,7 @@ Ref<CRtfTableCell> CRtfParagraphs::Parent() const {
 std::int32_t CRtfParagraphs::indexOf(const CRtfParagraph* paragraph) const {
     return published([&] {
         if (!paragraph) {
-            raise(RtfError(static_cast<std::int32_t>(RunTimeError::ObjectNotSet),
-                           "The paragraph object is set to Nothing"));
+            raise(RunTimeError::ObjectNotSet, "The paragraph object is set to Nothing");
         }
         return static_cast<std::int32_t>(inner(*this).list().requiredPositionOf(inner(*paragraph)));
     });

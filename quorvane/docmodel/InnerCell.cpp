@@ -152,9 +152,9 @@ CellSpan InnerCell::rareSpan() const {
 
 void InnerCell::setSpan(std::int32_t CellSpan::*direction, std::int32_t count) {
     if (count < 1) {
-        raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
-                       "A cell cannot span " + std::to_string(count) +
-                           (direction == &CellSpan::rows ? " rows." : " columns.")));
+        raise(RunTimeError::InvalidProcedureCall,
+              "A cell cannot span " + std::to_string(count) +
+                  (direction == &CellSpan::rows ? " rows." : " columns."));
     }
     if (span().*direction == count) {
         return;

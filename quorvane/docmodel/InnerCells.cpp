@@ -38,8 +38,7 @@ void InnerCells::spreadEvenly() {
 
 std::int32_t InnerCells::indexOf(const CRtfTableCell* cell) const {
     if (!cell) {
-        raise(RtfError(static_cast<std::int32_t>(RunTimeError::ObjectNotSet),
-                       "The Cell object is set to Nothing"));
+        raise(RunTimeError::ObjectNotSet, "The Cell object is set to Nothing");
     }
     return static_cast<std::int32_t>(list_.requiredPositionOf(inner(*cell)));
 }

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -35,9 +34,9 @@ namespace quorvane {
 namespace {
 
 std::string noPictures(const std::string&) {
-    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
-                   "a text that is not read from a file has no pictures beside it; set a source of "
-                   "pictures"));
+    raise(RunTimeError::InvalidProcedureCall,
+          "a text that is not read from a file has no pictures beside it; set a source of "
+          "pictures");
 }
 
 }  // namespace

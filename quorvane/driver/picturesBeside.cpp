@@ -1,7 +1,6 @@
 #include "quorvane/driver/picturesBeside.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <system_error>
@@ -39,7 +38,7 @@ bool isNeitherFileNorFolder(const std::filesystem::path& path) {
 }
 
 [[noreturn]] void refuse(const char* why) {
-    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), why));
+    raise(RunTimeError::InvalidProcedureCall, why);
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <cstdint>
 #include <utility>
 
 #include "quorvane/base/text/hexadecimal.h"
@@ -117,8 +116,8 @@ private:
     void takeCharacter() {
         const Utf8Character character = utf8CharacterAt(utf8_, at_);
         if (const std::string message = messageAgainst(character.code); !message.empty()) {
-            raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
-                           message + " (byte " + std::to_string(at_ + 1) + ")"));
+            raise(RunTimeError::InvalidProcedureCall,
+                  message + " (byte " + std::to_string(at_ + 1) + ")");
         }
         if (character.code < 0x100) {
             endUnicode();

@@ -29,9 +29,8 @@ std::int32_t AddedColors::add(RgbColor color) {
     const auto number =
         CRtfGrpColorTable::colorCount + static_cast<std::int32_t>(colors_.size()) + 1;
     if (number > largestNumber) {
-        raise(
-            RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
-                     "A document has no more than " + std::to_string(largestNumber) + " colors."));
+        raise(RunTimeError::InvalidProcedureCall,
+              "A document has no more than " + std::to_string(largestNumber) + " colors.");
     }
     const auto entry = numbers_.emplace(packed(color), number).first;
     try {

@@ -16,7 +16,7 @@ namespace quorvane {
 namespace {
 
 [[noreturn]] void refuse(const std::string& message) {
-    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), message));
+    raise(RunTimeError::InvalidProcedureCall, message);
 }
 
 /// The name as the font table holds it: each character is escaped by itself, and none is in a group

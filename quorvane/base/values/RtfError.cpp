@@ -13,12 +13,19 @@ RtfError::RtfError(std::int32_t number_, std::string description_, std::string s
 RtfError::RtfError(RunTimeError number_)
     : RtfError(static_cast<std::int32_t>(number_), std::string(runTimeErrorText(number_))) {}
 
+RtfError::RtfError(RunTimeError number_, std::string description_)
+    : RtfError(static_cast<std::int32_t>(number_), std::move(description_)) {}
+
 void raise(RtfError error) {
     throw error;
 }
 
 void raise(RunTimeError number) {
     raise(RtfError(number));
+}
+
+void raise(RunTimeError number, std::string description) {
+    raise(RtfError(number, std::move(description)));
 }
 
 }  // namespace quorvane

@@ -36,6 +36,9 @@ public:
     /// The run-time error with its standard description and no source.
     explicit RtfError(RunTimeError number);
 
+    /// The run-time error with a description of its own.
+    RtfError(RunTimeError number, std::string description);
+
     /// Returns the description.
     const char* what() const noexcept override { return description.c_str(); }
 
@@ -63,5 +66,8 @@ public:
 
 /// Throws the run-time error with its standard description.
 [[noreturn]] void raise(RunTimeError number);
+
+/// Throws the run-time error with a description of its own.
+[[noreturn]] void raise(RunTimeError number, std::string description);
 
 }  // namespace quorvane

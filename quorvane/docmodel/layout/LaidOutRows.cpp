@@ -36,10 +36,9 @@ void LaidOutRows::checkRows(std::size_t& position) const {
         ++position;
         const RowSettings& settings = row->settings();
         if (position > headings_ && settings.repeatsAsHeading) {
-            raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
-                           "Row " + std::to_string(position) +
-                               " cannot repeat as a heading, because row " +
-                               std::to_string(position - 1) + " does not."));
+            raise(RunTimeError::InvalidProcedureCall,
+                  "Row " + std::to_string(position) + " cannot repeat as a heading, because row " +
+                      std::to_string(position - 1) + " does not.");
         }
         if (const std::string_view end = endsBefore(settings, position); !end.empty()) {
             layout.endPart(end);

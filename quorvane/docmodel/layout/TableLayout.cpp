@@ -37,10 +37,10 @@ std::span<const PlacedCell> TableLayout::place(const InnerRow& row, const RowSet
 void TableLayout::endPart(std::string_view whatEnds) const {
     if (!open_.empty()) {
         const OpenSpan& span = open_.front();
-        raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
-                       "A cell of row " + std::to_string(span.row) + " spans " +
-                           std::to_string(row_ - span.row + 1 + span.rowsToCome) + " rows, but " +
-                           std::string(whatEnds) + " ends with row " + std::to_string(row_) + "."));
+        raise(RunTimeError::InvalidProcedureCall,
+              "A cell of row " + std::to_string(span.row) + " spans " +
+                  std::to_string(row_ - span.row + 1 + span.rowsToCome) + " rows, but " +
+                  std::string(whatEnds) + " ends with row " + std::to_string(row_) + ".");
     }
 }
 
@@ -140,7 +140,7 @@ void TableLayout::placePart(OpenSpan span) {
 }
 
 void TableLayout::fail(const std::string& message) const {
-    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), message));
+    raise(RunTimeError::InvalidProcedureCall, message);
 }
 
 std::string TableLayout::cellName() const {

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdint>
 #include <optional>
 
 #include "quorvane/base/values/RtfError.h"
@@ -25,8 +24,8 @@ constexpr Marker markers[] = {
 };
 
 [[noreturn]] void refuse(const std::string& message, std::size_t position) {
-    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall),
-                   message + " (byte " + std::to_string(position + 1) + ")"));
+    raise(RunTimeError::InvalidProcedureCall,
+          message + " (byte " + std::to_string(position + 1) + ")");
 }
 
 /// The marker at a brace.

@@ -8,7 +8,7 @@ namespace quorvane {
 
 /// Error 5 with this description.
 [[noreturn]] inline void refusePicture(const std::string& description) {
-    raise(RtfError(static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall), description));
+    raise(RunTimeError::InvalidProcedureCall, description);
 }
 
 }  // namespace quorvane
