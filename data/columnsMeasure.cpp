@@ -90,7 +90,7 @@ double wrappedWidth(std::string_view text, std::size_t lines) {
     constexpr double step = 1.05;
     const double whole = widestLine(text);
     const std::vector<double> words = wordWidths(text);
-    double width = words.empty() ? 0 : *std::ranges::max_element(words);
+    double width = words.empty() ? 0 : *std::max_element(words.begin(), words.end());
     while (lines > 1 && width < whole && linesIn(words, width) > lines) {
         width *= step;
     }

@@ -40,7 +40,9 @@ std::int64_t carry(std::vector<std::int64_t>& limbs, std::int64_t carried) {
 }
 
 void negate(std::vector<std::int64_t>& limbs) {
-    std::ranges::transform(limbs, limbs.begin(), [](std::int64_t limb) { return -limb; });
+    for (std::int64_t& limb : limbs) {
+        limb = -limb;
+    }
 }
 
 /// The first sign that stands between groups of digits.

@@ -23,7 +23,8 @@ std::optional<char> takeDelimiterLine(RecordsText& text) {
 }
 
 bool isBlank(const std::vector<std::string_view>& fields) {
-    return fields.size() > 1 && std::ranges::all_of(fields, &std::string_view::empty);
+    return fields.size() > 1 &&
+           std::all_of(fields.begin(), fields.end(), [](auto field) { return field.empty(); });
 }
 
 /// What a spreadsheet shows of a field: ="0012" is how it is told to leave digits as they are.

@@ -67,10 +67,11 @@ bool isDevice(std::string_view stem) {
     const std::string name = lowerCase(stem.substr(0, stem.find_last_not_of(' ') + 1));
     const std::string_view view = name;
     const std::size_t letters = numbered[0].size();
-    return std::ranges::find(names, view) != std::end(names) ||
-           (std::ranges::find(numbered, view.substr(0, letters)) != std::end(numbered) &&
-            std::ranges::find(numbers, view.substr(std::min(letters, view.size()))) !=
-                std::end(numbers));
+    const auto isIn = [](const auto& all, std::string_view part) {
+        return std::find(std::begin(all), std::end(all), part) != std::end(all);
+    };
+    return isIn(names, view) || (isIn(numbered, view.substr(0, letters)) &&
+                                 isIn(numbers, view.substr(std::min(letters, view.size()))));
 }
 
 /// Puts the names of the path together, one after the other.
@@ -131,8 +132,8 @@ private:
     /// front of all others, which is the folder of all folders.
     bool leadsAway() const {
         const std::string_view name = std::string_view(path_).substr(begin_);
-        return path_.size() >= firstTag_ && std::ranges::all_of(name, isBlankOrDot) &&
-               (!name.empty() || std::ranges::all_of(path_, isSeparator));
+        return path_.size() >= firstTag_ && std::all_of(name.begin(), name.end(), isBlankOrDot) &&
+               (!name.empty() || std::all_of(path_.begin(), path_.end(), isSeparator));
     }
 
     void endName() {

@@ -73,7 +73,7 @@ void KeptRows::sort(const AppendKey& appendKey) {
         rows_[i].keySize = static_cast<std::uint32_t>(key.size());
     }
     // Not stable_sort, which would need more memory.
-    std::ranges::sort(rows_, [](const Row& a, const Row& b) {
+    std::sort(rows_.begin(), rows_.end(), [](const Row& a, const Row& b) {
         const int order = a.keyText().compare(b.keyText());
         return order != 0 ? order < 0 : a.number < b.number;
     });
@@ -83,7 +83,7 @@ void KeptRows::sort(const AppendKey& appendKey) {
 char* KeptRows::allocate(std::size_t size) {
     if (size > left_) {
         left_ = std::max(size, blockSize);
-        blocks_.push_back(std::make_unique_for_overwrite<char[]>(left_));
+        blocks_.push_back(std::unique_ptr<char[]>(new char[left_]));
         free_ = blocks_.back().get();
     }
     char* const place = free_;

@@ -118,7 +118,7 @@ void SortColumn::appendAscending(std::string_view value, std::string& key) const
     }
     if (std::optional<std::string> date =
             isoDate(value, order_.value_or(DateOrder::YearMonthDay))) {
-        std::ranges::replace(*date, 'T', ' ');
+        std::replace(date->begin(), date->end(), 'T', ' ');
         key += dateKind + *date + '\0';
         return;
     }

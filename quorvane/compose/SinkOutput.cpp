@@ -13,8 +13,7 @@ constexpr std::size_t bufferSize = std::size_t{64} * 1024;
 
 }  // namespace
 
-SinkOutput::SinkOutput(Sink sink)
-    : sink_(std::move(sink)), buffer_(std::make_unique_for_overwrite<char[]>(bufferSize)) {
+SinkOutput::SinkOutput(Sink sink) : sink_(std::move(sink)), buffer_(new char[bufferSize]) {
     setBuffer(buffer_.get(), bufferSize);
 }
 

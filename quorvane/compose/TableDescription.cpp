@@ -148,7 +148,7 @@ TableDescription::TableDescription(TableSetup setup) : setup_(std::move(setup)) 
                std::to_string(setup_.columns.size()) + ".");
     }
     const auto hasWidth = [](const TableColumn& column) { return !column.width.empty(); };
-    const auto widths = std::ranges::count_if(setup_.columns, hasWidth);
+    const auto widths = std::count_if(setup_.columns.begin(), setup_.columns.end(), hasWidth);
     if (widths == 0) {
         return;
     }

@@ -3,8 +3,7 @@
 namespace quorvane {
 
 StreamedText::StreamedText(Files& files, GError& errors, const std::string& path)
-    : saving_(files, errors, path),
-      buffer_(std::make_unique_for_overwrite<char[]>(longestWholeText)) {
+    : saving_(files, errors, path), buffer_(new char[longestWholeText]) {
     setBuffer(buffer_.get(), longestWholeText);
 }
 

@@ -115,11 +115,12 @@ void DescriptionRules::checkChildren(const Visit& visit) const {
 void DescriptionRules::checkKeys(const Visit& visit) const {
     const KeySet known = dialect_.vocabulary.keySetOf(visit.kind);
     const auto isKnown = [known](const Leaf& leaf) { return contains(known, leaf.key.known); };
-    if (std::ranges::all_of(visit.node->leaves(), isKnown)) {
+    const auto leaves = visit.node->leaves();
+    if (std::all_of(leaves.begin(), leaves.end(), isKnown)) {
         return;
     }
     std::vector<Leaf*> unknown;
-    for (Leaf& leaf : visit.node->leaves()) {
+    for (Leaf& leaf : leaves) {
         if (!isKnown(leaf)) {
             unknown.push_back(&leaf);
         }

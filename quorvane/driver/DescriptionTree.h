@@ -3,10 +3,11 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
-#include <memory_resource>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 
+#include "quorvane/base/memory/Arena.h"
 #include "quorvane/driver/DescriptionNode.h"
 
 namespace quorvane {
@@ -53,10 +54,14 @@ private:
         }
     };
 
-    std::pmr::monotonic_buffer_resource memory_;
+    using LeafOfKey = std::pair<const KeyOfNode, Leaf*>;
+
+    Arena memory_;
     DescriptionNode root_;
     // Those of unknown keys, and of known ones that were looked for.
-    std::pmr::unordered_map<KeyOfNode, Leaf*, KeyOfNodeHash> leaves_{&memory_};
+    std::unordered_map<KeyOfNode, Leaf*, KeyOfNodeHash, std::equal_to<KeyOfNode>,
+                       ArenaAllocator<LeafOfKey>>
+        leaves_{memory_};
 };
 
 }  // namespace quorvane

@@ -45,7 +45,7 @@ void ExtendedColumns::setWidths(BuiltTable::Row& row, std::span<const BuiltTable
         knownTwips_ = columnLayout(widths_, columnSpaceOf(document_));
         knownWidths_ = widths_;
     }
-    if (inner(document_).hasSpans() || std::ranges::any_of(cells, hasSpan)) {
+    if (inner(document_).hasSpans() || std::any_of(cells.begin(), cells.end(), hasSpan)) {
         row.element->setColumnWidths(knownTwips_);
     } else {
         inner(*row.element).cells().setWidths(knownTwips_);

@@ -58,21 +58,24 @@ std::int32_t CRtfGrpFontTable::GetFontIndex(std::string_view sName) const {
     if (matchesWildcards(opening, sName)) {
         return -1;
     }
-    const auto* const found = std::ranges::find_if(
-        fonts, [sName](const Font& font) { return matchesWildcards(font.entry, sName); });
+    const auto* const found =
+        std::find_if(std::begin(fonts), std::end(fonts),
+                     [sName](const Font& font) { return matchesWildcards(font.entry, sName); });
     return found == std::end(fonts) ? 0 : static_cast<std::int32_t>(found - fonts);
 }
 
 std::optional<std::int32_t> CRtfGrpFontTable::fontNumber(std::string_view key) {
-    const auto* const found = std::ranges::find_if(
-        fonts, [&](const Font& font) { return lowerCase(font.key) == lowerCase(key); });
+    const auto* const found =
+        std::find_if(std::begin(fonts), std::end(fonts),
+                     [&](const Font& font) { return lowerCase(font.key) == lowerCase(key); });
     return found == std::end(fonts) ? std::nullopt
                                     : std::optional(static_cast<std::int32_t>(found - fonts));
 }
 
 std::optional<std::int32_t> CRtfGrpFontTable::fontNumberOfName(std::string_view name) {
-    const auto* const found = std::ranges::find_if(
-        fonts, [&](const Font& font) { return equalIgnoringCase(nameIn(font.entry), name); });
+    const auto* const found =
+        std::find_if(std::begin(fonts), std::end(fonts),
+                     [&](const Font& font) { return equalIgnoringCase(nameIn(font.entry), name); });
     return found == std::end(fonts) ? std::nullopt
                                     : std::optional(static_cast<std::int32_t>(found - fonts));
 }

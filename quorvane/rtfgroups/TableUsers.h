@@ -24,7 +24,7 @@ public:
     /// Forgets what a user needs; returns how many entries are needed still.
     std::size_t release(TableUser user) noexcept {
         counts_[static_cast<std::size_t>(user)] = 0;
-        return *std::ranges::max_element(counts_);
+        return *std::max_element(counts_.begin(), counts_.end());
     }
 
 private:

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <bit>
+#include <cstddef>
+#include <iterator>
 #include <utility>
 
 #include "quorvane/base/values/RtfError.h"
@@ -85,7 +87,8 @@ void CMap::RemoveAll() {
 }
 
 void CMap::Remove(const Value& Key) {
-    entries_.erase(entries_.begin() + published([&] { return requiredPositionOf(Key); }));
+    const std::uint32_t position = published([&] { return requiredPositionOf(Key); });
+    entries_.erase(std::next(entries_.begin(), static_cast<std::ptrdiff_t>(position)));
     fillSlots();
 }
 

@@ -35,7 +35,9 @@ std::int32_t CStringList::Index(std::string_view Key) const {
     if (!keyed) {
         return notFound;
     }
-    const auto first = std::ranges::find(entries_, entries_[*keyed].text, &Entry::text);
+    const auto first = std::find_if(
+        entries_.begin(), entries_.end(),
+        [&text = entries_[*keyed].text](const Entry& entry) { return entry.text == text; });
     return static_cast<std::int32_t>(first - entries_.begin()) + 1;
 }
 
@@ -130,8 +132,8 @@ std::string CStringList::ConCat(std::string_view Separator) const {
 std::int32_t CStringList::Find(std::string_view Pattern) const {
     const auto found = published([&] {
         const WildcardPattern pattern(Pattern);
-        return std::ranges::find_if(
-            entries_, [&pattern](const Entry& entry) { return pattern.matches(entry.text); });
+        return std::find_if(entries_.begin(), entries_.end(),
+                            [&pattern](const Entry& entry) { return pattern.matches(entry.text); });
     });
     if (found == entries_.end()) {
         return notFound;

@@ -27,7 +27,7 @@ def report(page, line, text):
 
 
 def pages():
-    return [page for folder in (".", "docs", "examples", "bindings/python")
+    return [page for folder in (".", "docs", "examples", "bindings/python", "bindings/npm")
             for page in sorted((project / folder).glob("*.md"))]
 
 
@@ -106,7 +106,8 @@ def check_sources(page, sources):
 
 def source_files():
     generated = ["quorvaneInterfaces.h"]
-    folders = ["quorvane", "com", "cli", "tests", "cmake", "bench", "scripts", "examples"]
+    folders = ["quorvane", "com", "cli", "tests", "cmake", "bench", "scripts", "examples",
+               "bindings/npm"]
     return generated + [file.relative_to(project).as_posix()
                         for folder in folders for file in (project / folder).rglob("*.*")]
 

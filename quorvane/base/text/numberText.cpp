@@ -1,7 +1,6 @@
 #include "quorvane/base/text/numberText.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstddef>
@@ -9,6 +8,7 @@
 #include <system_error>
 
 #include "quorvane/base/text/asciiCharacters.h"
+#include "quorvane/base/text/doubleText.h"
 
 namespace quorvane {
 
@@ -115,9 +115,8 @@ bool readNumber(std::string_view text, double& number) {
         return false;
     }
     double magnitude = 0;
-    const auto [end, problem] =
-        std::from_chars(parts->mantissa.data(), text.data() + text.size(), magnitude);
-    if (problem == std::errc::result_out_of_range) {
+    const auto sign = static_cast<std::size_t>(parts->mantissa.data() - text.data());
+    if (!readDouble(text.substr(sign), magnitude)) {
         if (!isTooSmall(*parts)) {
             return false;
         }
@@ -132,12 +131,7 @@ std::string numberText(double number) {
         return "0";
     }
     const double magnitude = std::fabs(number);
-    const auto format = magnitude >= 1e-5 && magnitude < 1e15 ? std::chars_format::fixed
-                                                              : std::chars_format::scientific;
-    std::array<char, 32> buffer{};
-    const auto [end, problem] =
-        std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, format);
-    return std::string(buffer.data(), end);
+    return magnitude >= 1e-5 && magnitude < 1e15 ? plainDouble(number) : doubleWithExponent(number);
 }
 
 }  // namespace quorvane

@@ -75,7 +75,7 @@ int repetitions(std::string_view line) {
     if (line.starts_with(begin)) {
         const char* end = line.data() + line.size();
         const auto number = std::from_chars(line.data() + begin.size(), end, times);
-        if (std::string_view(number.ptr, end) != " times:\n") {
+        if (line.substr(static_cast<std::size_t>(number.ptr - line.data())) != " times:\n") {
             return 0;
         }
     }

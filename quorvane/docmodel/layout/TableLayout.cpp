@@ -52,9 +52,10 @@ bool TableLayout::useColumns(const InnerRow& row, const RowSettings& settings) {
         columns_.setWidths(widths);
         return true;
     }
-    const bool hasSpans = !above_.empty() || std::ranges::any_of(row.list(), [](auto* cell) {
-        return cell->hasSpan();
-    });
+    const auto& cells = row.list();
+    const bool hasSpans =
+        !above_.empty() ||
+        std::any_of(cells.begin(), cells.end(), [](auto* cell) { return cell->hasSpan(); });
     if (hasSpans) {
         const std::int64_t count = columnsTaken(row);
         columns_.setEven(count, evenWidth(document_, count));

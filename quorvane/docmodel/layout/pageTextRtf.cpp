@@ -30,8 +30,9 @@ constexpr Marker markers[] = {
 
 /// The marker at a brace.
 const Marker& markerAt(std::string_view text, std::size_t brace) {
-    const auto* const found = std::ranges::find_if(
-        markers, [&](const Marker& marker) { return text.substr(brace).starts_with(marker.text); });
+    const auto* const found = std::find_if(
+        std::begin(markers), std::end(markers),
+        [&](const Marker& marker) { return text.substr(brace).starts_with(marker.text); });
     if (found == std::end(markers)) {
         refuse(text[brace] == '{' ? "Write {page}, {pages}, or {{ for a brace"
                                   : "Write }} for a brace",

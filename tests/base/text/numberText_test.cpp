@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <cstring>
@@ -137,6 +139,19 @@ TEST(NumberText, WritesGreatNumbersWithAnExponent) {
     EXPECT_EQ(numberText(-1.5e15), "-1.5e+15");
     EXPECT_EQ(numberText(std::numeric_limits<double>::max()), "1.7976931348623157e+308");
     EXPECT_EQ(numberText(-std::numeric_limits<double>::denorm_min()), "-5e-324");
+}
+
+TEST(NumberText, WritesEveryPowerOfTwoAsTheStandardLibraryDoes) {
+    for (int exponent = -1074; exponent < 1024; ++exponent) {
+        const double number = std::ldexp(1.0, exponent);
+        const bool isPlain = number >= 1e-5 && number < 1e15;
+        std::array<char, 32> buffer{};
+        const auto end =
+            std::to_chars(buffer.begin(), buffer.end(), number,
+                          isPlain ? std::chars_format::fixed : std::chars_format::scientific)
+                .ptr;
+        EXPECT_EQ(numberText(number), std::string(buffer.data(), end));
+    }
 }
 
 TEST(NumberText, WritesBothZerosAsZero) {
