@@ -8,6 +8,7 @@
 #include "data/TemplateFilling.h"
 #include "data/json.h"
 #include "data/jsonDiagnostic.h"
+#include "data/refuse.h"
 #include "data/templateCheck.h"
 #include "quorvane/base/text/byteOrderMark.h"
 #include "quorvane/compose/composing.h"
@@ -28,8 +29,7 @@ DataValue recordOf(std::string_view json) {
 }
 
 std::string refusePartial(const std::string&) {
-    raise(RunTimeError::InvalidProcedureCall,
-          "a text has no folder with partials; write its lines here");
+    refuse("a text has no folder with partials; write its lines here");
 }
 
 void requireNone(const Template& source, const std::vector<TemplateError>& errors,
