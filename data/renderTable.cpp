@@ -54,9 +54,10 @@ ShownColumns namedColumns(const std::string& text, const std::vector<std::string
 std::vector<std::string_view> cellsOf(const std::vector<std::string>& row,
                                       const std::vector<std::size_t>& fields) {
     std::vector<std::string_view> cells;
-    std::ranges::transform(fields, std::back_inserter(cells), [&row](std::size_t field) {
-        return field < row.size() ? std::string_view(row[field]) : std::string_view();
-    });
+    std::transform(
+        fields.begin(), fields.end(), std::back_inserter(cells), [&row](std::size_t field) {
+            return field < row.size() ? std::string_view(row[field]) : std::string_view();
+        });
     return cells;
 }
 
