@@ -3,7 +3,8 @@
 - Links lead to files and headings that exist.
 - The table of contents of a page lists its sections, in their order.
 - A block of code that names a file of the project repeats that file.
-- The tests that docs/promises.md names exist, and the sources that the pages for developers name.
+- The tests that docs/promises.md and docs/conformance.md name exist, and the sources that the
+  pages for developers name.
 - Words are spelled as in American English.
 """
 
@@ -167,6 +168,36 @@ class Promises:
                     report(self.page, number, f"{proof}: there is no such test or file")
 
 
+def package_tests():
+    """The names of the tests of the packages for Python and JavaScript."""
+    names = set()
+    for file in (project / "bindings").rglob("test*/*"):
+        if file.suffix == ".py":
+            names.update(re.findall(r"^def (test_\w+)", file.read_text(encoding="utf-8"),
+                                    re.MULTILINE))
+        elif file.suffix == ".mjs":
+            names.update(re.findall(r"^test\('([^']+)'", file.read_text(encoding="utf-8"),
+                                    re.MULTILINE))
+    return names
+
+
+def check_conformance():
+    """Each cell of docs/conformance.md names tests that exist, or says no."""
+    page = project / "docs" / "conformance.md"
+    tests = test_names() | package_tests()
+    for number, line, _ in lines_of(page):
+        if not line.startswith("|") or line.startswith(("|---", "| capability |")):
+            continue
+        cells = [cell.strip() for cell in line.strip("|").split("|")]
+        for cell in cells[1:]:
+            proofs = re.findall(r"`([^`]+)`", cell)
+            if not proofs and not re.match(r"no\b", cell):
+                report(page, number, f"\"{cell}\" names no test")
+            for proof in proofs:
+                if proof not in tests and not ("/" in proof and (project / proof).exists()):
+                    report(page, number, f"{proof}: there is no such test or file")
+
+
 for page in pages():
     check_links(page)
     check_contents(page)
@@ -176,6 +207,7 @@ for name in ("CONTRIBUTING.md", "docs/internals.md", "docs/promises.md"):
     check_sources(project / name, source_files())
 check_programs(project / "docs" / "languages.md", project / "examples" / "languages")
 Promises().check()
+check_conformance()
 if problems:
     sys.exit("\n".join(problems))
 print(f"{len(pages())} pages are sound.")
