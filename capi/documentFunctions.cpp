@@ -11,7 +11,7 @@
 #include "capi/guarded.h"
 #include "capi/guardedText.h"
 #include "capi/rowTexts.h"
-#include "capi/widths.h"
+#include "quorvane/compose/widthsIn.h"
 
 namespace {
 
@@ -76,7 +76,7 @@ quorvane_status quorvane_document_set_first_page(quorvane_document* document, in
 quorvane_status quorvane_document_set_columns(quorvane_document* document, const char* widths,
                                               size_t length) {
     return guarded(document,
-                   [&] { document->document.setColumns(widthsOf(textArgument(widths, length))); });
+                   [&] { document->document.setColumns(widthsIn(textArgument(widths, length))); });
 }
 
 quorvane_status quorvane_document_set_header(quorvane_document* document, const char* left,

@@ -8,9 +8,9 @@
 #include "capi/documentHandle.h"
 #include "capi/guarded.h"
 #include "capi/guardedText.h"
-#include "capi/widths.h"
 #include "quorvane/compose/Picture.h"
 #include "quorvane/compose/Text.h"
+#include "quorvane/compose/widthsIn.h"
 
 // Rows, cells and paragraphs of documents.
 
@@ -65,7 +65,7 @@ Text emphasized(Text text, int emphasis) {
 quorvane_status quorvane_row_set_columns(quorvane_document* document, size_t row,
                                          const char* widths, size_t length) {
     return onRow(document, row, [&](const Row& element) {
-        element.setColumns(widthsOf(textArgument(widths, length)));
+        element.setColumns(widthsIn(textArgument(widths, length)));
     });
 }
 

@@ -9,12 +9,11 @@
 #include "com/hostText.h"
 #include "com/hostValue.h"
 #include "data/csvTable.h"
+#include "quorvane/compose/widthsIn.h"
 
 namespace quorvane::com {
 
 namespace {
-
-constexpr std::string_view widthSeparators = " ,\t";
 
 /// A value as one of another type; error "wrong-value" if it cannot be one.
 OwnedVariant converted(const VARIANT& value, VARTYPE type, const char* refusal) {
@@ -53,17 +52,6 @@ Width widthOf(const VARIANT& given) {
         return Width(textOf(value));
     }
     return Width(V_R8(converted(value, VT_R8, "A width is a number of percent or a text.").get()));
-}
-
-std::vector<Width> widthsIn(std::string_view text) {
-    std::vector<Width> widths;
-    for (std::size_t at = 0;
-         (at = text.find_first_not_of(widthSeparators, at)) != std::string_view::npos;) {
-        const std::size_t end = std::min(text.find_first_of(widthSeparators, at), text.size());
-        widths.emplace_back(text.substr(at, end - at));
-        at = end;
-    }
-    return widths;
 }
 
 }  // namespace

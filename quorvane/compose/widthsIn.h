@@ -5,9 +5,9 @@
 
 #include "quorvane/compose/Width.h"
 
-namespace quorvane::capi {
+namespace quorvane {
 
 /// The widths that a text gives, with blanks or commas between them.
-std::vector<Width> widthsOf(std::string_view text);
+std::vector<Width> widthsIn(std::string_view text);
 
-}  // namespace quorvane::capi
+}  // namespace quorvane

@@ -1,10 +1,10 @@
-#include "capi/widths.h"
+#include "quorvane/compose/widthsIn.h"
 
 #include <algorithm>
 
-namespace quorvane::capi {
+namespace quorvane {
 
-std::vector<Width> widthsOf(std::string_view text) {
+std::vector<Width> widthsIn(std::string_view text) {
     constexpr std::string_view separators = " \t,";
     std::vector<Width> widths;
     while (true) {
@@ -18,4 +18,4 @@ std::vector<Width> widthsOf(std::string_view text) {
     }
 }
 
-}  // namespace quorvane::capi
+}  // namespace quorvane
