@@ -32,7 +32,7 @@ class Programs {
 public:
     Programs(const fs::path& built, const fs::path& folder) : folder_(folder) {
         for (const char* name :
-             {"quorvane", "print_line", "copy_files", "csv_rows", "table_bench"}) {
+             {"quorvane", "print_line", "copy_files", "csv_rows", "table_bench", "c_table"}) {
             fs::copy_file(built / name, folder_ / name);
         }
     }
@@ -120,6 +120,12 @@ public:
         compare((job + ", to the streaming emitter").c_str(), 11, run({}), run({"streaming"}));
         compare((job + " through the modern interface, to the object model").c_str(), 11,
                 run({"modern"}), run({}));
+        const auto fromC = [&](const std::string& out) {
+            return Command{programs_("c_table"), rows, out + "/standard.rtf"};
+        };
+        requireSameJob(fromC, run({"own"}));
+        compare((job + " through the library for C, to the modern interface").c_str(), 11, fromC,
+                run({"own"}));
         std::printf("- Its peak memory: %.1f MB; that of the one-buffer emitter: %.1f MB\n",
                     toOneBuffer.ours(&Run::peakMegabytes), toOneBuffer.theirs(&Run::peakMegabytes));
     }
@@ -227,6 +233,21 @@ private:
         requireSameTable(plainTableOf(csv, folder_.string()));
         if (succeeds({"python3", "--version"})) {
             requireSameTable(pythonTableOf(csv, folder_.string()));
+        }
+    }
+
+    /// Both commands write standard.rtf into the folder that they are made for.
+    void requireSameJob(const MakeCommand& first, const MakeCommand& second) const {
+        const fs::path kept = folder_ / "first.rtf";
+        const fs::path written = folder_ / "standard.rtf";
+        timedRun(first(folder_.string()));
+        fs::rename(written, kept);
+        timedRun(second(folder_.string()));
+        const bool isSame = areEqual(kept, written);
+        fs::remove(kept);
+        fs::remove(written);
+        if (!isSame) {
+            throw std::runtime_error("The interfaces do not write the same document");
         }
     }
 

@@ -183,6 +183,13 @@ Document modernStandardDocument(std::int32_t rows) {
     return document;
 }
 
+Document ownStandardDocument(std::int32_t rows) {
+    Document document;
+    document.setStyleSheet(standardStyleSheet());
+    buildStandardRows(document, rows);
+    return document;
+}
+
 std::string emitStandardJob(std::int32_t rows) {
     constexpr std::size_t longestRow = 960;
     std::string rtf;

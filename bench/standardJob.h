@@ -35,6 +35,9 @@ Ref<CRtfDoc> standardDocument(std::int32_t rows);
 /// The same document, built through the modern interface.
 Document modernStandardDocument(std::int32_t rows);
 
+/// The job in a document that the modern interface makes, which is checked and escaped.
+Document ownStandardDocument(std::int32_t rows);
+
 /// The yardstick: writes the standard job's document by a program that knows it beforehand, into
 /// one buffer.
 std::string emitStandardJob(std::int32_t rows);

@@ -1,7 +1,7 @@
 // The standard job once, as a whole process: table_bench R OUT builds R rows through the object
 // model, renders and commits them. With "modern" as a third argument the modern interface does so,
-// with "emitter" the hand-written emitter writes the same bytes from one buffer, with "streaming"
-// through a buffer of 64 KB.
+// with "own" in a document of its own, in the extended language, with "emitter" the hand-written
+// emitter writes the same bytes from one buffer, with "streaming" through a buffer of 64 KB.
 
 #include <cstdint>
 #include <cstdio>
@@ -37,6 +37,10 @@ void run(std::int32_t rows, const std::string& path, std::string_view how) {
         modernStandardDocument(rows).save(path);
         return;
     }
+    if (how == "own") {
+        ownStandardDocument(rows).save(path);
+        return;
+    }
     std::ofstream file(path, std::ios::binary);
     (how == "streaming" ? writeStreaming : writeFromOneBuffer)(rows, file);
 }
@@ -46,7 +50,7 @@ void run(std::int32_t rows, const std::string& path, std::string_view how) {
 int main(int argc, char** argv) {
     if (argc < 3) {
         static_cast<void>(
-            std::fprintf(stderr, "usage: %s ROWS FILE [modern|emitter|streaming]\n", argv[0]));
+            std::fprintf(stderr, "usage: %s ROWS FILE [modern|own|emitter|streaming]\n", argv[0]));
         return 2;
     }
     const auto rows = static_cast<std::int32_t>(std::strtol(argv[1], nullptr, 10));
