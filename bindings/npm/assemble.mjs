@@ -19,9 +19,11 @@ function packed(file) {
   return target;
 }
 
+// With names, line breaks and comments as they are written: an error that nothing catches shows the
+// line that it was thrown on.
 const settings = {
+  absWorkingDir: here,
   bundle: true,
-  minify: true,
   platform: 'neutral',
   target: 'es2022',
   legalComments: 'none',
@@ -31,7 +33,9 @@ mkdirSync(folder, { recursive: true });
 await build({
   ...settings,
   entryPoints: [join(here, 'src/moduleBytes.mjs')],
-  outfile: join(folder, 'moduleBytes.mjs'),
+  outfile: join(resolve(folder), 'moduleBytes.mjs'),
+  minifyIdentifiers: true,
+  minifySyntax: true,
   // The package of the decoder offers it only together with the encoder.
   alias: {
     'lzma1/decoder': join(decoder, 'decoder.js'),
@@ -40,14 +44,17 @@ await build({
   },
   loader: { '.lzma': 'binary' },
 });
-for (const [format, suffix] of [['esm', 'mjs'], ['cjs', 'cjs']]) {
+for (const [format, source, name] of [
+  ['esm', 'quorvane', 'quorvane.mjs'],
+  ['cjs', 'required', 'quorvane.cjs'],
+]) {
   await build({
     ...settings,
     format,
-    entryPoints: [join(here, 'src/quorvane.mjs')],
-    outfile: join(folder, `quorvane.${suffix}`),
-    // Apart, so that both forms share it and only a first call loads it.
-    external: ['./moduleBytes.mjs'],
+    entryPoints: [join(here, `src/${source}.mjs`)],
+    outfile: join(resolve(folder), name),
+    // Apart, so that both forms share them and only a first call loads the module.
+    external: ['./moduleBytes.mjs', './quorvane.mjs'],
   });
 }
 

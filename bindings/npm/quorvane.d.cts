@@ -28,13 +28,16 @@ export class QuorvaneError extends Error {
   name: 'QuorvaneError';
   /** The kind of error, such as "wrong-color". */
   identifier: string;
-  /** The number of the system's error; 0 or undefined if there is none. */
-  number?: number;
-  /** The text that the error is about, and the place in it, from 1; 0 if it is not about a place. */
-  file?: string;
-  line?: number;
-  column?: number;
-  /** Everything that is wrong, the error among it. */
+  /** The number of the system's error; 0 if there is none. */
+  number: number;
+  /**
+   * The text that the error is about, and the place in it, from 1. An error about no text, such as each
+   * of `table`, has "" and 0.
+   */
+  file: string;
+  line: number;
+  column: number;
+  /** Everything that is wrong, the error among it. Empty if the error is about no text. */
   diagnostics: Diagnostic[];
 }
 
@@ -43,12 +46,12 @@ export interface JobOptions {
   styleSheet?: Text;
   /**
    * Makes the description a template that is filled with it. A string is a text in JSON; every other
-   * value is one that `JSON.stringify` takes.
+   * value is one that `JSON.stringify` takes. Without data, tags such as {{name}} are texts.
    */
   data?: unknown;
   /** How templates write numbers: "de-DE", "de", or a sample such as "1.234,56". */
   locale?: string;
-  /** The parts that templates name, by their names. */
+  /** The parts that templates name, by their names, with ".rtfpart" or without it. */
   partials?: Record<string, Text>;
   /** The pictures, PNG or JPEG, by the names that the description gives them. */
   pictures?: Record<string, Uint8Array | ArrayBuffer>;
@@ -82,7 +85,10 @@ export interface CheckOptions extends JobOptions {
   rtf?: Text;
 }
 
-/** Finds what is wrong in a text. */
+/**
+ * Finds what is wrong in a text. Rejects with a `QuorvaneError` if the stylesheet of a description has
+ * errors, which `check({ styleSheet })` finds, or if the data is not JSON.
+ */
 export function check(options: CheckOptions): Promise<Diagnostic[]>;
 
 export interface FormatOptions<Kind extends Text> {
@@ -100,14 +106,17 @@ export function format(options: FormatOptions<Uint8Array>): Promise<Uint8Array>;
 export interface Column {
   /** The text in the heading row; the key if there is none. */
   heading?: string;
-  /** The property of the records; the heading if there is none. */
+  /** The property of the records, which one of them must have; the heading if there is none. */
   key?: string;
   /** A percentage ("20%") or a length ("3cm"). Either all columns have a width or none has. */
   width?: string;
   align?: 'default' | 'left' | 'center' | 'right' | 'justified';
 }
 
-/** Texts of a page header or footer, with {page} and {pages}. */
+/**
+ * Texts of a page header or footer, with {page} and {pages}. A part that is not given stays as it is:
+ * the center of a footer is "{page} / {pages}".
+ */
 export interface PageTexts {
   left?: string;
   center?: string;
@@ -115,9 +124,12 @@ export interface PageTexts {
 }
 
 export interface TableOptions {
-  /** Arrays of values, or objects. Null and undefined are empty cells. */
+  /**
+   * Arrays of values, or objects. Null and undefined are empty cells; a Date is its time in UTC, without
+   * the hours at midnight. Numbers are shown as `String` has them, and other objects are refused.
+   */
   records: Iterable<readonly unknown[] | object>;
-  /** The keys of the first object by default. */
+  /** By default the keys of the first object; it must have those of all others then. */
   columns?: (string | Column)[];
   /** A row above the heading, on every page. */
   title?: string;
@@ -136,7 +148,9 @@ export interface TableOptions {
   footer?: PageTexts;
 }
 
-/** Makes a document of records. Rejects with a `QuorvaneError` if a value is wrong. */
+/**
+ * Makes a document of records. Rejects with a `QuorvaneError` without diagnostics if a value is wrong.
+ */
 export function table(options: TableOptions): Promise<Rendered>;
 
 /** The version of the library, such as "1.0.0". */

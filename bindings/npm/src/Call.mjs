@@ -1,43 +1,35 @@
 import { instantiate } from './instantiate.mjs';
+import { QuorvaneError } from './QuorvaneError.mjs';
 
 const readsUtf8 = 0;
 const readsEither = 2;
-const fileKinds = ['pictures', 'partials'];
-const partial = 1;
 const severities = ['error', 'warning'];
 const pointerSize = 4;
 
 const encoder = new TextEncoder();
 const decoder = new TextDecoder();
 
-/** What Quorvane refuses. */
-export class QuorvaneError extends Error {
-  constructor(message, details) {
-    super(message);
-    this.name = 'QuorvaneError';
-    Object.assign(this, details);
-  }
-}
-
 let loading;
-// Those of the call that is being made; all of its work is done before another begins.
-let files;
+// The call that is being made, and its files; all of its work is done before another begins.
+let current;
 
-/** The functions of the module, which is made with the first call. */
+/** The functions of the module, which is made with the first call, or the next one if that fails. */
 function load() {
-  loading ??= instantiate({ readFile });
+  loading ??= instantiate({ readFile }).catch((error) => {
+    loading = undefined;
+    throw error;
+  });
   return loading;
 }
 
 /** Hands a file to the module, in memory that it can use until the call ends. */
 function readFile(kind, name, nameLength, lengthPlace) {
-  const { call } = files;
-  const file = call.textAt(name, nameLength).replace(kind === partial ? /\.rtfpart$/ : '', '');
-  const content = files[fileKinds[kind]][file];
+  const { call, files } = current;
+  const content = files.find(kind, call.textAt(name, nameLength));
   if (content === undefined) {
     return 0;
   }
-  const [bytes, length] = call.text(content instanceof ArrayBuffer ? new Uint8Array(content) : content);
+  const [bytes, length] = call.text(content);
   call.view().setUint32(lengthPlace, length, true);
   return bytes;
 }
@@ -80,7 +72,7 @@ export class Call {
     try {
       return work(this);
     } finally {
-      files = undefined;
+      current = undefined;
       this.#function('free')(this.#handle);
     }
   }
@@ -130,9 +122,9 @@ export class Call {
     };
   }
 
-  /** Takes pictures and partials from these objects. */
-  takeFiles(named) {
-    files = { ...named, call: this };
+  /** Takes pictures and partials from these files. */
+  takeFiles(files) {
+    current = { call: this, files };
     this.#require(this.#exports.quorvaneTakeFiles(this.#handle));
   }
 
@@ -172,8 +164,10 @@ export class Call {
   #error() {
     const [, number, identifier, message, file, line, column] =
       this.#words(this.#function('error')(this.#handle), 7);
-    return new QuorvaneError(this.#textFrom(message), {
-      identifier: this.#textFrom(identifier),
+    const said = { identifier: this.#textFrom(identifier), message: this.#textFrom(message) };
+    const names = current?.files.hintFor(said);
+    return new QuorvaneError(names ? `${said.message} (${names})` : said.message, {
+      identifier: said.identifier,
       number: number | 0,
       file: this.#textFrom(file),
       line,
@@ -196,8 +190,9 @@ export class Call {
       byteOffset,
       byteLength,
     };
-    if (this.#textFrom(hint) !== '') {
-      diagnostic.hint = this.#textFrom(hint);
+    const said = this.#textFrom(hint) || current?.files.hintFor(diagnostic);
+    if (said) {
+      diagnostic.hint = said;
     }
     if (fix !== 0) {
       diagnostic.fix = this.#textFrom(fix);

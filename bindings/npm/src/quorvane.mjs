@@ -1,67 +1,51 @@
-import { Call, QuorvaneError } from './Call.mjs';
+import { constant, onlyOption, requireKind, requireOptions } from './arguments.mjs';
+import { Call } from './Call.mjs';
+import { GivenFiles } from './GivenFiles.mjs';
+import * as kinds from './kinds.mjs';
+import { QuorvaneError } from './QuorvaneError.mjs';
+import { cellsOf, columnsOf, recordsOf } from './records.mjs';
 
 // The constants of quorvane.h.
 const anyLanguage = 0;
 const languages = { description: 1, styleSheet: 2, rtf: 3 };
 const names = { kept: 0, long: 1, short: 2 };
-const alignments = { default: 0, center: 1, left: 2, right: 3, justified: 4 };
 const tableOptions = { title: 0, page: 2, margin: 3, stripe: 4, border: 5, styleSheet: 6 };
 const heading = 1;
 const pageTexts = { header: 7, footer: 10 };
 const pageTextPlaces = ['left', 'center', 'right'];
 const rowsInOneCall = 4096;
 
-const jobOptions = [
-  'styleSheet', 'data', 'locale', 'partials', 'pictures', 'ignore', 'enable',
-];
-
-function requireOptions(functionName, options, known) {
-  if (typeof options !== 'object' || options === null) {
-    throw new TypeError(`${functionName} takes an object with options.`);
-  }
-  for (const name of Object.keys(options)) {
-    if (!known.includes(name)) {
-      throw new TypeError(
-        `${functionName} has no option "${name}". Its options are ${known.join(', ')}.`);
-    }
-  }
-}
-
-function requireText(functionName, name, value) {
-  if (typeof value !== 'string' && !(value instanceof Uint8Array)) {
-    throw new TypeError(`${functionName} takes ${name} as a string or a Uint8Array.`);
-  }
-}
-
-/** The one of these options that is given, with its text. */
-function onlyOption(functionName, options, known) {
-  const given = known.filter((name) => options[name] !== undefined);
-  if (given.length !== 1) {
-    throw new TypeError(`${functionName} takes one of ${known.join(', ')}.`);
-  }
-  requireText(functionName, given[0], options[given[0]]);
-  return [given[0], options[given[0]]];
-}
-
-function constant(functionName, option, value, constants) {
-  if (!Object.hasOwn(constants, value)) {
-    throw new TypeError(`${functionName} has no ${option} "${value}". ` +
-      `There are ${Object.keys(constants).join(', ')}.`);
-  }
-  return constants[value];
-}
+const jobOptions = {
+  styleSheet: kinds.text,
+  data: kinds.anything,
+  locale: kinds.string,
+  partials: kinds.namedTexts,
+  pictures: kinds.namedBytes,
+  ignore: kinds.strings,
+  enable: kinds.strings,
+};
+const tableOptionKinds = {
+  records: kinds.anything,
+  columns: kinds.anything,
+  heading: kinds.boolean,
+  ...Object.fromEntries(Object.keys(tableOptions).map((name) => [name, kinds.string])),
+  ...Object.fromEntries(Object.keys(pageTexts).map((name) => [name, kinds.anything])),
+};
+const pageTextKinds = Object.fromEntries(pageTextPlaces.map((place) => [place, kinds.string]));
 
 function jsonText(data) {
-  const text = typeof data === 'string' ? data : JSON.stringify(data);
-  if (text === undefined) {
-    throw new TypeError('data is a value that JSON can hold, or a text in JSON.');
+  const json = typeof data === 'string' ? data : JSON.stringify(data);
+  if (json === undefined) {
+    throw new TypeError(data === undefined
+      ? 'data is undefined; leave the option out, or give the data.'
+      : 'data is a value that JSON can hold, or a text in JSON.');
   }
-  return text;
+  return json;
 }
 
 function inJob(options, work) {
   return Call.make('job', (job) => {
-    job.takeFiles({ pictures: options.pictures ?? {}, partials: options.partials ?? {} });
+    job.takeFiles(new GivenFiles(options));
     for (const action of ['ignore', 'enable']) {
       for (const identifier of options[action] ?? []) {
         job.run(action, ...job.text(identifier));
@@ -70,7 +54,7 @@ function inJob(options, work) {
     if (options.locale !== undefined) {
       job.run('set_locale', ...job.text(options.locale));
     }
-    if (options.data !== undefined) {
+    if ('data' in options) {
       job.run('set_data', ...job.text(jsonText(options.data)), 0, 0);
     }
     return work(job);
@@ -91,8 +75,10 @@ function runWithText(job, functionName, text, ...more) {
 }
 
 export async function render(options) {
-  requireOptions('render', options, ['description', ...jobOptions, 'checks']);
-  requireText('render', 'description', options.description);
+  requireOptions('render', options, {
+    description: kinds.text, ...jobOptions, checks: kinds.boolean,
+  });
+  requireKind('render', 'description', options.description, kinds.text);
   return inJob(options, (job) => {
     setStyleSheet(job, options.styleSheet);
     job.run('set_checks', options.checks ? 1 : 0);
@@ -103,7 +89,9 @@ export async function render(options) {
 }
 
 export async function check(options) {
-  requireOptions('check', options, ['description', 'rtf', ...jobOptions]);
+  requireOptions('check', options, {
+    description: kinds.text, rtf: kinds.text, ...jobOptions,
+  });
   const isStyleSheet = options.description === undefined && options.rtf === undefined;
   const [kind, text] = onlyOption(
     'check', options, isStyleSheet ? Object.keys(languages) : ['description', 'rtf']);
@@ -117,7 +105,9 @@ export async function check(options) {
 }
 
 export async function format(options) {
-  requireOptions('format', options, ['description', 'styleSheet', 'names']);
+  requireOptions('format', options, {
+    description: kinds.text, styleSheet: kinds.text, names: kinds.anything,
+  });
   const [kind, text] = onlyOption('format', options, ['description', 'styleSheet']);
   const form = constant('format', 'form of names', options.names ?? 'kept', names);
   return inJob({}, (job) => {
@@ -127,46 +117,13 @@ export async function format(options) {
   });
 }
 
-function columnOf(column) {
-  const { heading: text, key, width, align } = typeof column === 'string' ? { heading: column } : column;
-  return {
-    heading: text ?? key ?? '',
-    key: key ?? text,
-    width: width ?? '',
-    align: constant('table', 'alignment', align ?? 'default', alignments),
-  };
-}
-
-function columnsOf({ columns, records }) {
-  if (columns !== undefined) {
-    return columns.map(columnOf);
+function requireTableOptions(options) {
+  requireOptions('table', options, tableOptionKinds);
+  for (const name of Object.keys(pageTexts)) {
+    if (options[name] !== undefined) {
+      requireOptions(`${name} of table`, options[name], pageTextKinds);
+    }
   }
-  const [first] = records;
-  if (first === undefined || Array.isArray(first)) {
-    throw new TypeError('table takes columns where the first record does not name them.');
-  }
-  return Object.keys(first).map(columnOf);
-}
-
-function cellText(value, row, column) {
-  const text = value === undefined || value === null ? '' : String(value);
-  if (text.includes('\0')) {
-    throw new QuorvaneError(
-      `Record ${row + 1}, "${column.heading}": no document can show a zero character.`,
-      { identifier: 'wrong-value', diagnostics: [] });
-  }
-  return text;
-}
-
-/** The texts of a record, one for each column. */
-function cellsOf(record, row, columns) {
-  if (Array.isArray(record) && record.length > columns.length) {
-    throw new QuorvaneError(
-      `Record ${row + 1} has ${record.length} values for ${columns.length} columns.`,
-      { identifier: 'wrong-value', diagnostics: [] });
-  }
-  return columns.map((column, index) =>
-    cellText(record[Array.isArray(record) ? index : column.key], row, column));
 }
 
 function setTableOptions(table, options) {
@@ -200,11 +157,9 @@ function addRecords(table, records, columns) {
 }
 
 export async function table(options) {
-  requireOptions('table', options, [
-    'records', 'columns', 'heading', ...Object.keys(tableOptions), ...Object.keys(pageTexts),
-  ]);
-  const records = Array.from(options.records ?? []);
-  const columns = columnsOf({ columns: options.columns, records });
+  requireTableOptions(options);
+  const records = recordsOf(options.records);
+  const columns = columnsOf(options.columns, records);
   return Call.make('table', (call) => {
     setTableOptions(call, options);
     for (const { heading: text, width, align } of columns) {

@@ -31,6 +31,10 @@ export function placeOf(error: unknown): string {
     : '';
 }
 
+export function lineBelow(error: QuorvaneError): number {
+  return error.line + 1;
+}
+
 export const wrong = [
   // @ts-expect-error A description is required.
   () => render({ styleSheet: '' }),
@@ -38,6 +42,14 @@ export const wrong = [
   () => render({ description, stylesheet: '' }),
   // @ts-expect-error There is no such alignment.
   () => table({ records: [], columns: [{ key: 'name', align: 'middle' }] }),
+  // @ts-expect-error A column has a width.
+  () => table({ records: [], columns: [{ key: 'name', widht: '50%' }] }),
+  // @ts-expect-error There is no such part of a page footer.
+  () => table({ records: [], footer: { middle: '' } }),
+  // @ts-expect-error The texts of a page footer have places.
+  () => table({ records: [], footer: '{page}' }),
+  // @ts-expect-error A picture is its bytes.
+  () => render({ description, pictures: { 'logo.png': 'logo.png' } }),
   // @ts-expect-error A text is formatted to a text.
   async (): Promise<Uint8Array> => format({ description }),
   // @ts-expect-error The version is a text.
