@@ -73,8 +73,7 @@ TEST(NumberFilter, HasNoSignForZero) {
 }
 
 TEST(NumberFilter, RefusesWhatIsNotANumber) {
-    for (const char* value :
-         {"", "abc", "1,5", "1.2.3", "0x10", "1e", "1e999999999", "--1", " 1"}) {
+    for (const char* value : {"abc", "1,5", "1.2.3", "0x10", "1e", "1e999999999", "--1", " 1"}) {
         EXPECT_THAT(shown(value, "number:2"), HasSubstr("is not a number")) << value;
     }
 }
