@@ -136,6 +136,10 @@ void DescriptionRendering::parseTemplate(DescriptionText description) {
     }
     data::TemplateFilling filling(loaded->source, manner_.data->locale);
     parseRecord(*loaded, filling, manner_.data->record, 0);
+    if (!isFilled_ && manner_.data->record.isList()) {
+        report_.note(shownDescription(assignment_.description) +
+                     ": note: The data is a list; --each renders a document of each of its items.");
+    }
 }
 
 void DescriptionRendering::parseRecord(const LoadedTemplate& loaded, data::TemplateFilling& filling,

@@ -65,8 +65,8 @@ std::string ownerText(std::uint32_t owner) {
 
 }  // namespace
 
-DocumentNames::DocumentNames(const RenderOptions& options, const data::Locale& locale)
-    : guard_(options), pattern_(patternOf(options)), filling_(pattern_, locale) {}
+DocumentNames::DocumentNames(const RenderOptions& options)
+    : guard_(options), pattern_(patternOf(options)) {}
 
 std::string DocumentNames::commonFolder() const {
     const std::string& pattern = pattern_.sources.front().text;
@@ -93,7 +93,7 @@ std::string DocumentNames::nameFor(const NumberedRecord& record, RenderReport& r
 
 data::SafeFileName DocumentNames::filledName(const NumberedRecord& record, RenderReport& report) {
     std::vector<data::TemplateError> errors;
-    const std::vector<SourceLine>& lines = filling_.fill(record.value, errors, record.number);
+    const std::vector<SourceLine>& lines = filling_->fill(record.value, errors, record.number);
     if (errors.empty()) {
         return data::safeFileName(*lines.front().filled);
     }

@@ -23,7 +23,10 @@ class DocumentNames {
 public:
     /// Throws a `UsageError` for names with wrong tags, and for names that are the same for all
     /// records.
-    DocumentNames(const RenderOptions& options, const data::Locale& locale);
+    explicit DocumentNames(const RenderOptions& options);
+
+    /// Sets how values are read and written. To be called before the first name.
+    void setLocale(const data::Locale& locale) { filling_.emplace(pattern_, locale); }
 
     /// The folder that is in the name of each document; "." for the current one.
     std::string commonFolder() const;
@@ -41,7 +44,7 @@ private:
 
     OutputGuard guard_;
     data::Template pattern_;
-    data::TemplateFilling filling_;
+    std::optional<data::TemplateFilling> filling_;
     // The files, with the numbers of their records.
     SeenNames seen_;
     std::string excludedUse_;

@@ -53,7 +53,7 @@ RecordsRendering::RecordsRendering(const RenderOptions& options, const RenderMea
       joined_(means.manner.joined),
       finding_(receiversInto(found_, static_cast<bool>(means.receivers.locate))) {
     if (!joined_) {
-        names_.emplace(options, locale_);
+        names_.emplace(options);
     }
 }
 
@@ -128,6 +128,9 @@ bool RecordsRendering::open() {
     try {
         input_.emplace(*options_.data, options_.records);
         locale_.readsWritten = !input_->areJson();
+        if (names_) {
+            names_->setLocale(locale_);
+        }
     } catch (const UnreadableInput& error) {
         fail(unreadableFile(dataName(), *options_.data, error));
         return false;

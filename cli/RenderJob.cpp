@@ -10,6 +10,7 @@
 #include "cli/RecordsRendering.h"
 #include "cli/RenderWorker.h"
 #include "cli/SideBySideRendering.h"
+#include "cli/UsageError.h"
 #include "cli/fileFailure.h"
 #include "cli/styleSheetName.h"
 #include "quorvane/base/platform/utf8Path.h"
@@ -40,6 +41,10 @@ ExitStatus RenderJob::run() {
     }
     if (options_.dataUse != DataUse::Whole) {
         return renderRecords();
+    }
+    if (options_.data && options_.output && options_.output->find("{{") != std::string::npos) {
+        throw UsageError("--output has a tag, which is filled only with --each: " +
+                         *options_.output);
     }
     std::vector<Assignment> assignments;
     try {

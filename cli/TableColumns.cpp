@@ -176,7 +176,7 @@ std::string TableColumns::plainDate(std::size_t column, std::string_view value) 
         data::isoDate(value, order.value_or(data::DateOrder::DayMonthYear));
     if (!iso && order) {
         data::refuse("\"" + columns_[column].name + "\": \"" + std::string(value) +
-                     "\" is not a date of the form 2026-11-22 or " +
+                     "\" is not an existing date of the form 2026-11-22 or " +
                      std::string(data::dateExample(*order)) + ".");
     }
     return iso.value_or(std::string(value));

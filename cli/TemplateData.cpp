@@ -8,15 +8,19 @@
 #include "cli/process.h"
 #include "data/json.h"
 #include "data/jsonDiagnostic.h"
+#include "data/letterCase.h"
 
 namespace quorvane::cli {
 
 namespace {
 
-/// True for JSON Lines: where one object ends, the next one begins.
-bool isAnotherObject(std::string_view bytes, const data::JsonError& error) {
-    return error.position > 0 && bytes.substr(error.position).starts_with('{') &&
-           error.message.find("expected end of input") != std::string::npos;
+/// True for JSON Lines, where an object begins after another one has ended, and for CSV.
+bool areRecords(const std::string& path, std::string_view bytes, const data::JsonError& error) {
+    const std::string name = data::lowerCaseText(path);
+    const bool isAnotherObject = error.position > 0 &&
+                                 bytes.substr(error.position).starts_with('{') &&
+                                 error.message.find("expected end of input") != std::string::npos;
+    return isAnotherObject || name.ends_with(".csv") || name.ends_with(".tsv");
 }
 
 }  // namespace
@@ -34,8 +38,10 @@ TemplateDataFile readTemplateData(const std::string& path,
         return file;
     }
     file.diagnostics.push_back(data::jsonDiagnostic(file.bytes, error));
-    if (isAnotherObject(file.bytes, error)) {
-        file.diagnostics.back().hint = "write --each for a document of each record";
+    if (areRecords(path, file.bytes, error)) {
+        file.diagnostics.back().hint =
+            "render it with --each for a document of each record, or with --each and --join for "
+            "one document of all";
     }
     return file;
 }

@@ -63,6 +63,16 @@ std::string joinedByDots(const std::vector<std::string>& names) {
     return joined;
 }
 
+/// "; the data has: Name, [Nr.]". Of many names, the first ones.
+std::string namesThere(const std::vector<std::string_view>& names) {
+    constexpr std::size_t most = 8;
+    std::string list;
+    for (std::size_t i = 0; i < std::min(names.size(), most); ++i) {
+        list += (list.empty() ? "; the data has: " : ", ") + writtenName(names[i]);
+    }
+    return list + (names.size() > most ? ", …" : "");
+}
+
 bool isControl(char character) {
     constexpr char firstPrintable = ' ';
     constexpr char del = 0x7F;
@@ -498,7 +508,7 @@ std::string TemplateFilling::missingHint(const TemplateQuery& query, const Found
                    writtenName(found.name) + "}} if you mean that";
         }
     }
-    return optional;
+    return optional + namesThere(names);
 }
 
 void TemplateFilling::reportWrong(const TemplateQuery& query, std::string message,

@@ -136,8 +136,8 @@ std::vector<TemplateTag> tagsIn(std::string_view line) {
 }
 
 std::string writtenName(std::string_view name) {
-    const bool isPlain = !name.empty() && name.find_first_of(".|[{}") == nowhere &&
-                         std::string_view("#^/>!&@ ").find(name.front()) == nowhere;
+    const bool isPlain = name.find_first_of(".|[{}") == nowhere && trimmed(name) == name &&
+                         !name.empty() && std::string_view("#^/>!&@").find(name.front()) == nowhere;
     return isPlain ? std::string(name) : "[" + std::string(name) + "]";
 }
 

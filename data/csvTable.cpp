@@ -28,6 +28,11 @@ std::vector<std::vector<std::string>> csvTable(std::string_view text) {
         RecordsText records(readerOf(text), EncodingChoice::Utf8);
         CsvRecords source(records, std::nullopt);
         std::vector<std::vector<std::string>> rows{source.names()};
+        for (std::size_t i = 0; i < rows.front().size(); ++i) {
+            if (!source.hasHeading(i)) {
+                rows.front()[i].clear();
+            }
+        }
         std::vector<std::string_view> fields;
         while (source.next(fields)) {
             rows.emplace_back(fields.begin(), fields.end());

@@ -100,6 +100,17 @@ FilterResult readDate(std::string_view value, const Locale& locale) {
             isoDate(value, order.value_or(DateOrder::YearMonthDay)).value_or(std::string(value))};
 }
 
+std::string notADate(std::string_view value, const Locale& locale) {
+    if (value.empty()) {
+        return "the value is empty, and not a date; write a section around what can be empty";
+    }
+    std::string forms = "2026-11-22";
+    if (locale.readsWritten && locale.isChosen && locale.dateOrder) {
+        forms += " or " + std::string(dateExample(*locale.dateOrder));
+    }
+    return quoted(value) + " is not an existing date of the form " + forms;
+}
+
 FilterResult shownNumber(const Filter& filter, std::string_view value, const Locale& locale) {
     FilterResult read = readNumber(value, locale);
     if (!read.error.empty()) {
@@ -107,7 +118,9 @@ FilterResult shownNumber(const Filter& filter, std::string_view value, const Loc
     }
     const std::optional<DecimalNumber> number = decimalNumber(read.text);
     if (!number) {
-        return {.error = quoted(value) + " is not a number"};
+        return {.error = value.empty() ? "the value is empty, and not a number; write a section "
+                                         "around what can be empty"
+                                       : quoted(value) + " is not a number"};
     }
     const DecimalNumber shown =
         rounded(*number, filter.keepsDecimals ? number->decimals.size() : filter.decimals);
@@ -189,7 +202,7 @@ FilterResult Filter::apply(std::string_view value, const Locale& locale) const {
             FilterResult read = readDate(value, locale);
             FilterResult result;
             if (read.error.empty() && !dateText(read.text, argument, result.text)) {
-                return {.error = quoted(value) + " is not a date of the form 2026-11-22"};
+                return {.error = notADate(value, locale)};
             }
             return read.error.empty() ? result : read;
         }

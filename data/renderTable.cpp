@@ -28,11 +28,33 @@ struct ShownColumns {
     std::vector<std::size_t> fields;
 };
 
+bool isEmpty(const std::vector<std::string>& row) {
+    return std::all_of(row.begin(), row.end(),
+                       [](const std::string& text) { return text.empty(); });
+}
+
+/// The names of the fields. One without a name has its position, if there is a value in it, and
+/// otherwise none.
+std::vector<std::string> namesOf(const Rows& rows) {
+    std::vector<std::string> names = rows.empty() ? std::vector<std::string>() : rows.front();
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const bool hasValue = std::any_of(rows.begin(), rows.end(), [i](const auto& row) {
+            return i < row.size() && !row[i].empty();
+        });
+        if (names[i].empty() && hasValue) {
+            names[i] = "Column " + std::to_string(i + 1);
+        }
+    }
+    return names;
+}
+
 ShownColumns allColumns(const std::vector<std::string>& names) {
     ShownColumns columns;
     for (std::size_t i = 0; i < names.size(); ++i) {
-        columns.requests.push_back({.name = names[i]});
-        columns.fields.push_back(i);
+        if (!names[i].empty()) {
+            columns.requests.push_back({.name = names[i]});
+            columns.fields.push_back(i);
+        }
     }
     return columns;
 }
@@ -106,7 +128,9 @@ std::string descriptionOf(const TableSetup& setup, const Rows& rows, const Shown
     TableStripes stripes;
     std::string text = table.beginning();
     for (std::size_t i = 1; i < rows.size(); ++i) {
-        text += rowOf(table, stripes.next(), rows, i, columns);
+        if (!isEmpty(rows[i])) {
+            text += rowOf(table, stripes.next(), rows, i, columns);
+        }
     }
     return text.append(TableDescription::end());
 }
@@ -120,12 +144,12 @@ void requireSetup(const TableSetup& setup) {
 
 Rendering renderTable(const Rows& rows, const TableChoices& choices, Platform& platform) {
     return composing([&] {
-        if (rows.empty() || rows.front().empty()) {
+        const std::vector<std::string> names = namesOf(rows);
+        if (isEmpty(names)) {
             refuse("There is no data. A table needs a row of names.");
         }
-        const ShownColumns columns = choices.columns.empty()
-                                         ? allColumns(rows.front())
-                                         : namedColumns(choices.columns, rows.front());
+        const ShownColumns columns =
+            choices.columns.empty() ? allColumns(names) : namedColumns(choices.columns, names);
         const TableSetup setup = setupOf(columns, rows, choices);
         requireSetup(setup);
         return render(descriptionOf(setup, rows, columns), {.styleSheet = setup.styleSheet},

@@ -82,10 +82,10 @@ std::span<const Member> DocumentObject::members() {
 }
 
 template <class Make>
-void DocumentObject::replaceBy(Make&& make) {
+void DocumentObject::replaceBy(Make&& make, std::string file) {
     reporting([&] {
         Rendering rendering = std::forward<Make>(make)();
-        native().diagnostics = reported({}, rendering.diagnostics);
+        native().diagnostics = reported(std::move(file), rendering.diagnostics);
         native().document = std::move(rendering.document);
     });
 }
@@ -98,6 +98,13 @@ void DocumentObject::reporting(Body&& body) {
         native().diagnostics = reported(error.file(), error.diagnostics());
         throw;
     }
+}
+
+template <class Set>
+void DocumentObject::setStyles(Set&& set) {
+    auto none = reported({}, {});
+    reporting(std::forward<Set>(set));
+    native().diagnostics = std::move(none);
 }
 
 RenderOptions DocumentObject::options(std::string styleSheet) const {
@@ -164,11 +171,11 @@ STDMETHODIMP DocumentObject::put_Footer(BSTR text) {
 }
 
 STDMETHODIMP DocumentObject::put_StyleSheet(BSTR text) {
-    return perform([&] { reporting([&] { native().document.setStyleSheet(textOf(text)); }); });
+    return perform([&] { setStyles([&] { native().document.setStyleSheet(textOf(text)); }); });
 }
 
 STDMETHODIMP DocumentObject::LoadStyleSheet(BSTR path) {
-    return perform([&] { reporting([&] { native().document.setStyleSheetFile(textOf(path)); }); });
+    return perform([&] { setStyles([&] { native().document.setStyleSheetFile(textOf(path)); }); });
 }
 
 STDMETHODIMP DocumentObject::get_PictureFolder(BSTR* result) {
@@ -204,8 +211,9 @@ STDMETHODIMP DocumentObject::Render(BSTR description, VARIANT* styleSheet) {
 
 STDMETHODIMP DocumentObject::RenderFile(BSTR path, VARIANT* styleSheetPath) {
     return perform([&] {
-        replaceBy(
-            [&] { return renderFile(textOf(path), {.styleSheetFile = textOf(styleSheetPath)}); });
+        std::string file = textOf(path);
+        replaceBy([&] { return renderFile(file, {.styleSheetFile = textOf(styleSheetPath)}); },
+                  file);
     });
 }
 

@@ -47,12 +47,16 @@ public:
                        VARIANT* styleSheet) override;
 
 private:
-    /// Takes what a description is rendered to in the place of the document.
+    /// Takes what a description is rendered to in the place of the document. The file is that of
+    /// the description; empty without one.
     template <class Make>
-    void replaceBy(Make&& make);
+    void replaceBy(Make&& make, std::string file = {});
     /// Keeps the diagnostics of an error.
     template <class Body>
     void reporting(Body&& body);
+    /// Sets the stylesheet, and forgets the diagnostics of the one before.
+    template <class Set>
+    void setStyles(Set&& set);
     RenderOptions options(std::string styleSheet) const;
 };
 

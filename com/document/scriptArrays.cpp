@@ -82,7 +82,11 @@ HostValues elementsOf(SAFEARRAY* array, std::span<LONG> indices) {
 std::optional<OwnedVariant> propertyOf(IDispatch& object, std::wstring name) {
     LPOLESTR names = name.data();
     DISPID id = DISPID_UNKNOWN;
-    if (FAILED(object.GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &id))) {
+    const HRESULT found = object.GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &id);
+    if (found == E_OUTOFMEMORY) {
+        throw std::bad_alloc();
+    }
+    if (FAILED(found)) {
         return std::nullopt;
     }
     OwnedVariant value;

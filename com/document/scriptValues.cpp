@@ -67,8 +67,7 @@ std::string textOf(const VARIANT& given) {
         default:
             constexpr const char* refusal =
                 "This is neither a text nor a number. Give a text, a number, a date, or an array "
-                "of "
-                "them.";
+                "of them.";
             if (isArray(value)) {
                 refuseValue(refusal);
             }

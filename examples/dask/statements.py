@@ -25,6 +25,10 @@ import distributed
 import quorvane
 
 TEMPLATES = pathlib.Path(__file__).resolve().parent.parent / "templates"
+# LibreOffice takes about 250 arguments, and says nothing about the documents after them.
+CONVERTED_AT_A_START = 200
+# Two processes of this machine, and any free port for Dask's own pages.
+LOCAL_CLUSTER = {"n_workers": 2, "threads_per_worker": 1, "dashboard_address": "localhost:0"}
 
 
 @dataclasses.dataclass(frozen=True)
@@ -58,6 +62,11 @@ def load_template(folder=TEMPLATES):
                     (folder / "statement.rtfss").read_text("utf-8"))
 
 
+def is_record(line):
+    """Blank lines are no records, as for `quorvane render --each`."""
+    return bool(line.strip(b" \t\r\n"))
+
+
 def ranges(folder, size):
     """The ranges of all partitions. A task goes straight to its first byte."""
     for file in sorted(pathlib.Path(folder).resolve().glob("*.jsonl")):
@@ -65,7 +74,7 @@ def ranges(folder, size):
         with file.open("rb") as lines:
             for line in lines:
                 offset += len(line)
-                records += 1
+                records += is_record(line)
                 if records == size:
                     yield Range(str(file), start, first + 1, records)
                     first, start, records = first + records, offset, 0
@@ -76,9 +85,9 @@ def ranges(folder, size):
 def name_of(record):
     """The name of a document. A number that is not a plain one leads nowhere else."""
     number = record["customer"]["number"]
-    if not re.fullmatch(r"[\w-]+", number):
+    if type(number) not in (str, int) or not re.fullmatch(r"[\w-]{1,60}", str(number)):
         raise ValueError(f"{number!r} cannot be the name of a file")
-    return number
+    return str(number)
 
 
 def render(part, template, output):
@@ -87,31 +96,49 @@ def render(part, template, output):
     done = Done([], [])
     with quorvane.Job(template.stylesheet) as job, open(part.file, "rb") as lines:
         lines.seek(part.offset)
-        for number, line in zip(range(part.first, part.first + part.records), lines):
+        for number, line in zip(range(part.first, part.first + part.records),
+                                filter(is_record, lines)):
             try:
                 name = name_of(json.loads(line))
                 job.render_to(os.path.join(output, name + ".rtf"), template.description, data=line)
                 done.names.append(name)
             except quorvane.FileError:
                 raise
-            except (quorvane.Error, ValueError, KeyError, TypeError) as error:
+            except (quorvane.Error, ValueError, KeyError, TypeError,
+                    RecursionError) as error:
                 done.failures.append(f"{part.file}: record {number}: {error}")
     return done
 
 
 def convert(done, output):
-    """Converts the documents of a range to PDF, with one start of LibreOffice."""
-    if not done.names:
-        return done
-    with tempfile.TemporaryDirectory(dir=output, prefix=".pdf-") as folder:
-        subprocess.run(
-            ["soffice", "--headless", f"-env:UserInstallation=file://{folder}/profile",
-             "--convert-to", "pdf", "--outdir", folder,
-             *(os.path.join(output, name + ".rtf") for name in done.names)],
-            check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        for name in done.names:
-            os.replace(os.path.join(folder, name + ".pdf"), os.path.join(output, name + ".pdf"))
+    """Converts the documents of a range to PDF."""
+    names = list(dict.fromkeys(done.names))
+    with tempfile.TemporaryDirectory() as profile:
+        for begin in range(0, len(names), CONVERTED_AT_A_START):
+            convert_documents(names[begin:begin + CONVERTED_AT_A_START], output, profile)
     return done
+
+
+def convert_documents(names, output, profile):
+    """Converts documents with one start of LibreOffice. The PDF files appear whole."""
+    with tempfile.TemporaryDirectory(dir=output, prefix=".pdf-") as folder:
+        status = subprocess.run(
+            ["soffice", "--headless", f"-env:UserInstallation={pathlib.Path(profile).as_uri()}",
+             "--convert-to", "pdf", "--outdir", folder,
+             *(os.path.join(output, name + ".rtf") for name in names)],
+            check=False, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL).returncode
+        made = len(os.listdir(folder))
+        if status != 0 or made < len(names):
+            raise OSError(f"LibreOffice converted {made} of {len(names)} documents beginning with "
+                          f"{names[0]}.rtf, and ended with status {status}")
+        for name in names:
+            os.replace(os.path.join(folder, name + ".pdf"), os.path.join(output, name + ".pdf"))
+
+
+def failed_range(part, error):
+    last = part.first + part.records - 1
+    return (f"A range failed: {part.file}, records {part.first} to {last}: "
+            f"{type(error).__name__}: {error}")
 
 
 def write_statements(client, folder, output, *, size=500, pdf=False, task=render):
@@ -120,15 +147,22 @@ def write_statements(client, folder, output, *, size=500, pdf=False, task=render
     os.makedirs(output, exist_ok=True)
     # Dask gives a range whose worker died to another one. The retries are for errors, such as those
     # of a network folder.
-    futures = client.map(task, list(ranges(folder, size)), template=load_template(), output=output,
-                         retries=2, pure=False)
+    parts = list(ranges(folder, size))
+    futures = client.map(task, parts, template=load_template(), output=output, retries=2,
+                         pure=False)
     if pdf:
         futures = client.map(convert, futures, output=output, retries=2, pure=False)
     names = collections.Counter()
     failures = []
-    for _, done in distributed.as_completed(futures, with_results=True):
-        names.update(done.names)
-        failures += done.failures
+    part_of = {future.key: part for future, part in zip(futures, parts)}
+    for future in distributed.as_completed(futures):
+        try:
+            done = future.result()
+        except Exception as error:  # Whatever it is, the other ranges go on.
+            failures.append(failed_range(part_of[future.key], error))
+        else:
+            names.update(done.names)
+            failures += done.failures
     failures += [f"{name}: {count} records have this number"
                  for name, count in names.items() if count > 1]
     return Done(sorted(names), sorted(failures))
@@ -142,8 +176,8 @@ def main():
     parser.add_argument("--scheduler", help="address of a Dask scheduler")
     parser.add_argument("--range", type=int, default=500, help="records of a task")
     arguments = parser.parse_args()
-    with distributed.Client(arguments.scheduler, **(
-            {} if arguments.scheduler else {"n_workers": 2, "threads_per_worker": 1})) as client:
+    with distributed.Client(arguments.scheduler,
+                            **({} if arguments.scheduler else LOCAL_CLUSTER)) as client:
         done = write_statements(client, arguments.data, arguments.output, size=arguments.range,
                                 pdf=arguments.pdf)
     for failure in done.failures:

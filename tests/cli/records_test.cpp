@@ -128,6 +128,15 @@ TEST_F(RecordsTest, GiveTheSameSideBySide) {
     }
 }
 
+TEST_F(RecordsTest, ReadNumbersAndDatesForNamesAsTheTemplateDoes) {
+    folder.write("a.csv", "name;n;Datum\nx;1.249,50;31.12.2027\n");
+    const ProgramResult result =
+        run({"--data", "a.csv", "--each", "--locale=de-DE", "--mkdir", "-o",
+             "{{Datum|date:yyyy}}/{{n|money}}.rtf", "letter.rtfspec"});
+    EXPECT_EQ(result.errors, "1 document was written\n");
+    EXPECT_TRUE(folder.has("2027/1.249,50.rtf"));
+}
+
 TEST_F(RecordsTest, WithOneNameAreAnErrorAndNothingIsOverwritten) {
     folder.write("a.csv", "name,n\nx:y,1\nX/Y,2\n");
     const ProgramResult result =

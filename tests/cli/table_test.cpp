@@ -361,7 +361,7 @@ TEST_F(TableTest, ReadsDatesAsTheColumnOrTheLocaleHasThem) {
               "day/2.1./");
     folder.write("c.csv", "day\n31.1.2027\nsoon\n");
     EXPECT_EQ(run({"c.csv", "--columns=day:date:d.M."}).errors,
-              "c.csv:3: error: \"day\": \"soon\" is not a date of the form 2026-11-22 or "
+              "c.csv:3: error: \"day\": \"soon\" is not an existing date of the form 2026-11-22 or "
               "22.11.2026.\n");
 }
 

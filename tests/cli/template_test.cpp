@@ -66,7 +66,23 @@ TEST_F(TemplateTest, IsFilledWithOneRecordUnlessThereIsOneForEach) {
     const ProgramResult result = run({"render", "--data", "a.jsonl", "letter.rtfspec"});
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.errors, HasSubstr("a.jsonl:2:1: error: This is not JSON: unexpected '{'"));
-    EXPECT_THAT(result.errors, HasSubstr("hint: write --each for a document of each record"));
+    EXPECT_THAT(result.errors, HasSubstr("hint: render it with --each for a document of each"));
+    folder.write("a.CSV", "name\nx\n");
+    EXPECT_THAT(run({"render", "--data", "a.CSV", "letter.rtfspec"}).errors,
+                HasSubstr("hint: render it with --each for a document of each"));
+    folder.write("a.json", "[{\"name\":\"x\"}]");
+    EXPECT_THAT(run({"render", "--data", "a.json", "letter.rtfspec"}).errors,
+                HasSubstr("letter.rtfspec: note: The data is a list; --each renders a document of "
+                          "each of its items.\n"));
+}
+
+TEST_F(TemplateTest, HasNoTagsInTheNameOfItsOnlyDocument) {
+    const ProgramResult result =
+        run({"render", "--data", "data.json", "letter.rtfspec", "-o", "{{name}}.rtf"});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_THAT(result.errors,
+                HasSubstr("--output has a tag, which is filled only with --each: {{name}}.rtf"));
+    EXPECT_FALSE(folder.has("{{name}}.rtf"));
 }
 
 TEST_F(TemplateTest, IsWarnedAboutWhereItsInlineStylesStand) {

@@ -20,6 +20,7 @@
 namespace quorvane::host {
 namespace {
 
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::Not;
 
@@ -251,6 +252,29 @@ TEST_F(ComDocument, StaysWhenADescriptionIsWrongAndSaysWhy) {
     EXPECT_EQ(
         LateBound(late_.call("Check", {description}).value.object()).get("Count").value.number(),
         0);
+}
+
+TEST_F(ComDocument, ForgetsTheDiagnosticsOfAStylesheetThatWasReplaced) {
+    EXPECT_FALSE(late_.set("StyleSheet", {"{ nmae: a; style-def: s }"}).succeeded());
+    EXPECT_GT(late_.object("Diagnostics").get("Count").value.number(), 0);
+
+    const Outcome right = late_.set("StyleSheet", {"{ name: a; style-def: s; format: \\f0 }"});
+
+    ASSERT_TRUE(right.succeeded()) << right.error;
+    EXPECT_EQ(late_.object("Diagnostics").get("Count").value.number(), 0);
+}
+
+TEST_F(ComDocument, NamesTheFileOfItsWarnings) {
+    const std::wstring path = temporaryFile(L"warned.rtfspec");
+    writeFile(path, "; quorvane 2\n(doc\n(r\n(c\n(p\n(pt=a <strong=b>)\np)\nc)\nr)\ndoc)\n");
+
+    const Outcome rendered = late_.call("RenderFile", {path});
+
+    ASSERT_TRUE(rendered.succeeded()) << rendered.error;
+    ASSERT_GT(late_.object("Diagnostics").get("Count").value.number(), 0);
+    EXPECT_THAT(late_.object("Diagnostics").object("Item", {1}).get("File").value.text(),
+                EndsWith("warned.rtfspec"));
+    DeleteFileW(path.c_str());
 }
 
 TEST_F(ComDocument, FillsTemplatesInTheLocale) {

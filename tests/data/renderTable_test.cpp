@@ -58,6 +58,19 @@ TEST(RenderTable, ShowsAllFieldsInWidthsThatSuitThem) {
     EXPECT_NE(rendering.document.rtf().find("\\qr"), std::string::npos);
 }
 
+TEST(RenderTable, LeavesOutRowsAndColumnsWithoutTexts) {
+    Rendering rendering = renderTable({{"A", "", "B", ""}, {}, {"1", "", "2", "x"}, {"", ""}});
+
+    ASSERT_EQ(rendering.document.size(), 2U);
+    EXPECT_EQ(rendering.document[0].size(), 3U);
+    EXPECT_NE(rendering.document.rtf().find("Column 4\\cell"), std::string::npos);
+}
+
+TEST(RenderTable, TakesTheBlankColumnsOfCsvAsThoseOfRows) {
+    EXPECT_EQ(renderTable(csvTable("A;;B\n1;;2\n")).document.rtf(),
+              renderTable({{"A", "B"}, {"1", "2"}}).document.rtf());
+}
+
 TEST(RenderTable, LeavesCellsEmptyThatARowLacks) {
     EXPECT_EQ(renderTable({{"A", "B"}, {"1"}}).document[1].size(), 2U);
 }
@@ -73,6 +86,7 @@ TEST(RenderTable, NeedsNames) {
 
     EXPECT_EQ(errorOfTable({}), error);
     EXPECT_EQ(errorOfTable({{}}), error);
+    EXPECT_EQ(errorOfTable({{"", ""}, {"", ""}}), error);
 }
 
 TEST(RenderTable, RefusesColumnsThatAreNoFields) {

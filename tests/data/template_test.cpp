@@ -250,7 +250,7 @@ TEST(Partials, CloseTheirOwnSections) {
 TEST(Partials, HaveErrorsInTheirOwnFile) {
     EXPECT_THAT(errorsOf("\n{{> p}}\n", R"({"a":1})", {{"p.rtfpart", "\n(pt=x {{b}})"}}),
                 ElementsAre("p.rtfpart:2:7: b is not in the data. "
-                            "(write {{b|default:…}} for what can be missing)"));
+                            "(write {{b|default:…}} for what can be missing; the data has: a)"));
 }
 
 TEST(MissingNames, AreErrorsWithTheNearestName) {
@@ -280,7 +280,7 @@ TEST(MissingNames, AreErrorsInSectionsToo) {
                 ElementsAre("6:5: lnes is not in the data. (did you mean lines? If not, write "
                             "{{#lnes|default:}} for a section whose name can be missing)",
                             "6:24: b is not in the data. (write {{^b|default:}} for a section "
-                            "whose name can be missing)"));
+                            "whose name can be missing; the data has: lines)"));
 }
 
 TEST(MissingNames, MayHoldAFilterOrStandInAnotherObject) {
@@ -297,9 +297,12 @@ TEST(MissingNames, MayHaveADotInTheData) {
                             "dot in it; write [customer.city])"));
     EXPECT_THAT(errorsIn("{{Mwst.-Satz}}", R"({"MwSt.-Satz":7})"),
                 ElementsAre("6:5: Mwst.-Satz is not in the data. "
-                            "(write {{Mwst.-Satz|default:…}} for what can be missing)"));
+                            "(write {{Mwst.-Satz|default:…}} for what can be missing; "
+                            "the data has: [MwSt.-Satz])"));
     EXPECT_THAT(errorsIn("{{[Mwst.-Satz]}}", R"({"MwSt.-Satz":7})"),
                 ElementsAre("6:5: Mwst.-Satz is not in the data. (did you mean [MwSt.-Satz]?)"));
+    EXPECT_THAT(errorsIn("{{Preis}}", R"({"Preis ":7})"),
+                ElementsAre("6:5: Preis is not in the data. (did you mean [Preis ]?)"));
 }
 
 TEST(MissingNames, IncludeNull) {
@@ -329,7 +332,7 @@ TEST(WrongData, IsAValueThatAFilterCannotTake) {
     EXPECT_THAT(
         errorsIn("{{a|money}}{{#l}}{{.|date:d}}{{/l}}", R"({"a":"x","l":["2026-01-01",7]})"),
         ElementsAre("6:5: a: \"x\" is not a number.",
-                    "6:22: l[2]: \"7\" is not a date of the form 2026-11-22."));
+                    "6:22: l[2]: \"7\" is not an existing date of the form 2026-11-22."));
     EXPECT_THAT(errorsIn("{{a|count}}", R"({"a":"x"})"),
                 ElementsAre("6:5: a: Only a list has a count."));
 }
