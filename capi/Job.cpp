@@ -110,6 +110,7 @@ void Job::setStyleSheet(std::string_view bytes, std::string_view name) {
         throw contentError(shownName, *error);
     }
     styles_ = KnownStyles(source.text, source.encoding);
+    styleSheetName_ = shownName;
     styleSheet_ = std::move(source.text);
     driver_ = {};
 }
@@ -272,8 +273,17 @@ void Job::check(std::string_view bytes, std::optional<CheckedLanguage> wanted) {
         report(name, withoutIgnored(checkStyleSheet(source.text, encoding), source.text, language));
     } else {
         checkDescriptionOrTemplate(source);
+        reportUnusedStyles();
     }
     deliver();
+}
+
+/// Reports the styles that no description uses which the job has checked with this stylesheet.
+void Job::reportUnusedStyles() {
+    if (styles_ && enabled_.contains(DiagnosticId::UnusedStyle)) {
+        report(styleSheetName_, withoutIgnored(findUnusedStyles(*styles_), styles_->text(),
+                                               CheckedLanguage::StyleSheet));
+    }
 }
 
 void Job::checkDescriptionOrTemplate(const Source& source) {

@@ -71,6 +71,7 @@ private:
     void finishRendering(const Source& source,
                          const std::function<std::vector<Diagnostic>()>& check);
     void checkDescriptionOrTemplate(const Source& source);
+    void reportUnusedStyles();
     void checkTemplate(const Source& source);
     bool isReported(const Diagnostic& diagnostic) const;
     void report(const std::string& name, std::vector<Diagnostic> diagnostics);
@@ -85,6 +86,7 @@ private:
     FileCallback files_;
     std::string styleSheet_;
     std::optional<KnownStyles> styles_;
+    std::string styleSheetName_;
     std::optional<data::DataValue> data_;
     data::Locale locale_;
     EncodingChoice encoding_ = EncodingChoice::Utf8;

@@ -368,6 +368,26 @@ TEST(Job, LeavesOutDiagnosticsAndReportsOthers) {
     EXPECT_EQ(quorvane_job_enable(job.get(), QUORVANE_TEXT("wrong-value")), QUORVANE_OK);
 }
 
+TEST(Job, ReportsTheStylesThatNoCheckedDescriptionUses) {
+    const JobHandle job = newJob();
+    const std::string sheet =
+        "{ name: a; style-def: s; format: \\f0 }\n{ name: b; style-def: s; format: \\f0 }\n";
+    const auto checked = [&](const char* style) {
+        const std::string text =
+            std::string("(doc\n(r\n(c\n(p\n(pt=x)\n(ps=") + style + ")\np)\nc)\nr)\ndoc)\n";
+        EXPECT_EQ(quorvane_job_check(job.get(), QUORVANE_TEXT(text.c_str()), QUORVANE_DESCRIPTION),
+                  QUORVANE_OK);
+        return diagnosticsOf(job).size();
+    };
+    EXPECT_EQ(quorvane_job_set_stylesheet(job.get(), QUORVANE_TEXT(sheet.c_str()), nullptr, 0),
+              QUORVANE_OK);
+    EXPECT_EQ(checked("a"), 0U);
+    EXPECT_EQ(quorvane_job_enable(job.get(), QUORVANE_TEXT("unused-style")), QUORVANE_OK);
+    EXPECT_EQ(checked("a"), 1U);
+    EXPECT_STREQ(quorvane_job_diagnostic(job.get(), 0)->identifier, "unused-style");
+    EXPECT_EQ(checked("b"), 0U);
+}
+
 int countDiagnostic(void* user, const quorvane_diagnostic* diagnostic) {
     ++*static_cast<int*>(user);
     return diagnostic->severity == QUORVANE_WARNING ? 1 : 0;

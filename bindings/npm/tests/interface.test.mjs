@@ -110,6 +110,16 @@ test('leaves out the diagnostics that are ignored', async () => {
   assert.deepEqual(await check({ description, ignore }), []);
 });
 
+test('reports the styles that are not used if that is enabled', async () => {
+  const description = extended('(pt=Hello)');
+  const styleSheet = lines('; quorvane 2', '{ name: normal; style-def: paragraph }',
+    '{ name: sum; style-def: paragraph; bold }');
+  assert.deepEqual(await check({ description, styleSheet }), []);
+  const [found, ...others] = await check({ description, styleSheet, enable: ['unused-style'] });
+  assert.deepEqual(others, []);
+  assert.deepEqual([found.identifier, found.file, found.line], ['unused-style', 'stylesheet', 3]);
+});
+
 test('takes identifiers of diagnostics to report, and refuses others', async () => {
   const description = cell('(pt=Hello)');
   assert.deepEqual(await check({ description, enable: ['unused-style'] }), []);
