@@ -266,15 +266,18 @@ TEST_F(ComDocument, ForgetsTheDiagnosticsOfAStylesheetThatWasReplaced) {
 
 TEST_F(ComDocument, NamesTheFileOfItsWarnings) {
     const std::wstring path = temporaryFile(L"warned.rtfspec");
-    writeFile(path, "; quorvane 2\n(doc\n(r\n(c\n(p\n(pt=a <strong=b>)\np)\nc)\nr)\ndoc)\n");
+    writeFile(path, "; quorvane 2\n(doc\n(r\n(c\n(p\n(pt=a <stong=b>)\np)\nc)\nr)\ndoc)\n");
+    const std::wstring sheet = temporaryFile(L"warned.rtfss");
+    writeFile(sheet, "; quorvane 2\n{ name: strong; style-def: character; bold }\n");
 
-    const Outcome rendered = late_.call("RenderFile", {path});
+    const Outcome rendered = late_.call("RenderFile", {path, sheet});
 
     ASSERT_TRUE(rendered.succeeded()) << rendered.error;
     ASSERT_GT(late_.object("Diagnostics").get("Count").value.number(), 0);
     EXPECT_THAT(late_.object("Diagnostics").object("Item", {1}).get("File").value.text(),
                 EndsWith("warned.rtfspec"));
     DeleteFileW(path.c_str());
+    DeleteFileW(sheet.c_str());
 }
 
 TEST_F(ComDocument, FillsTemplatesInTheLocale) {
