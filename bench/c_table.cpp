@@ -6,11 +6,14 @@
 #include <cstddef>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 
 namespace {
 
 constexpr std::size_t cellsPerRow = 5;
-constexpr std::size_t longestText = 32;
+constexpr std::size_t beginLength = 8;
+constexpr std::size_t digitCount = 7;
+constexpr std::size_t textLength = 24;
 
 constexpr char styleSheet[] =
     "{ name: normal; style-def: s; format: \\f0\\fs20 }\r\n"
@@ -18,25 +21,34 @@ constexpr char styleSheet[] =
     "{ name: remark; style-def: s; format: \\f9\\fs16\\i; based-on: normal }\r\n"
     "{ name: bold; style-def: cs; format: \\b }\r\n";
 
+/// The number with seven digits.
+void putPadded(std::size_t number, char* digits) {
+    for (std::size_t i = digitCount; i-- > 0; number /= 10) {
+        digits[i] = static_cast<char>('0' + number % 10);
+    }
+}
+
+/// "Article 0012345 in box 3"
+void putText(std::size_t row, std::size_t cell, char* text) {
+    std::memcpy(text, "Article 0000000 in box 0", textLength);
+    putPadded(row, text + beginLength);
+    text[textLength - 1] = static_cast<char>('0' + cell);
+}
+
 bool addRow(quorvane_document* document, std::size_t row) {
     constexpr const char* styles[] = {"normal", "entry", "remark"};
-    char texts[cellsPerRow][longestText];
+    char texts[cellsPerRow][textLength];
     const char* pointers[cellsPerRow];
     std::size_t lengths[cellsPerRow];
     for (std::size_t cell = 0; cell < cellsPerRow; ++cell) {
-        const int length = cell == 1 ? std::snprintf(texts[cell], longestText, "Article ")
-                                     : std::snprintf(texts[cell], longestText,
-                                                     "Article %07zu in box %zu", row, cell);
+        putText(row, cell, texts[cell]);
         pointers[cell] = texts[cell];
-        lengths[cell] = static_cast<std::size_t>(length);
+        lengths[cell] = cell == 1 ? beginLength : textLength;
     }
-    char number[longestText];
-    const int digits = std::snprintf(number, longestText, "%07zu", row);
-    const auto digitCount = static_cast<std::size_t>(digits);
     return quorvane_document_add_row(document, pointers, lengths, cellsPerRow,
                                      QUORVANE_TEXT(styles[row % 3]), nullptr) == QUORVANE_OK &&
-           quorvane_paragraph_add_styled_text(document, row, 1, 0, number, digitCount,
-                                              QUORVANE_TEXT("bold")) == QUORVANE_OK &&
+           quorvane_paragraph_add_styled_text(document, row, 1, 0, texts[1] + beginLength,
+                                              digitCount, QUORVANE_TEXT("bold")) == QUORVANE_OK &&
            quorvane_paragraph_add_text(document, row, 1, 0, QUORVANE_TEXT(" in box 1"), 0) ==
                QUORVANE_OK &&
            quorvane_row_set_border(document, row, QUORVANE_ALL_SIDES, QUORVANE_BORDER_THIN) ==
