@@ -82,10 +82,10 @@ std::span<const Member> DocumentObject::members() {
 }
 
 template <class Make>
-void DocumentObject::replaceBy(Make&& make, std::string file) {
+void DocumentObject::replaceBy(Make&& make, const std::string& file) {
     reporting([&] {
         Rendering rendering = std::forward<Make>(make)();
-        native().diagnostics = reported(std::move(file), rendering.diagnostics);
+        native().diagnostics = reported(file, rendering.diagnostics);
         native().document = std::move(rendering.document);
     });
 }

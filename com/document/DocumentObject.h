@@ -50,7 +50,7 @@ private:
     /// Takes what a description is rendered to in the place of the document. The file is that of
     /// the description; empty without one.
     template <class Make>
-    void replaceBy(Make&& make, std::string file = {});
+    void replaceBy(Make&& make, const std::string& file = {});
     /// Keeps the diagnostics of an error.
     template <class Body>
     void reporting(Body&& body);
