@@ -15,6 +15,7 @@ namespace quorvane::cli {
 
 TemporaryFile::TemporaryFile() {
     std::error_code failure;
+    // cppcheck-suppress useInitializationList ; an error names the member
     folder_ = std::filesystem::temp_directory_path(failure);
     if (failure) {
         fail(failure.value());

@@ -35,6 +35,7 @@ Cell Cell::set(void (CRtfTableCell::*setter)(Value), Value value) const {
     });
 }
 
+// cppcheck-suppress passedByValue ; a view, of three words
 Paragraph Cell::addParagraph(TextView text, std::string_view style) const {
     return insertParagraph(Paragraph::countIn(*this), text, style);
 }
@@ -49,6 +50,7 @@ Paragraph Cell::addParagraph(const Picture& picture, std::string_view style) con
     }
 }
 
+// cppcheck-suppress passedByValue ; a view, of three words
 Paragraph Cell::insertParagraph(std::size_t index, TextView text, std::string_view style) const {
     return composing([&]() -> Paragraph {
         const ParagraphContent content = contentOf(referred(document_), text, style);
