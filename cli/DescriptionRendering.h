@@ -44,7 +44,7 @@ struct RenderingManner {
 /// which then parses the stylesheet once.
 class DescriptionRendering {
 public:
-    /// Creates the driver if there is none, and creates it again if it cannot be reused. All that
+    /// Creates the driver if it is null, and creates it again if it cannot be reused. All that
     /// is given must outlive the rendering.
     DescriptionRendering(const Assignment& assignment, const RenderingManner& manner,
                          CommandPlatform& platform, Ref<CRtfDriver>& driver, RenderReport& report);

@@ -10,7 +10,7 @@ enum class EscapeUse { Description, Model };
 
 /// The options of `quorvane escape`. Paths are as given.
 struct EscapeOptions {
-    /// Standard input when there is none.
+    /// Standard input is read if it is not given.
     std::vector<std::string> files;
     EscapeUse use = EscapeUse::Description;
 };

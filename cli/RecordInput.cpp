@@ -10,7 +10,7 @@ RecordInput::RecordInput(const std::string& path, const RecordRange& range)
       areJson_(areJsonRecords(path, requireText(text_), false)),
       values_(areJson_ ? data::jsonValues(text_) : data::csvValues(text_, std::nullopt)) {}
 
-/// Passes over the records before the range; false if there is none after them.
+/// Passes over the records before the range; false if the data ends with them.
 bool RecordInput::passBefore() {
     while (number_ + 1 < range_.first) {
         try {

@@ -179,7 +179,7 @@ void RecordsRendering::renderAll(std::size_t threads) {
          .prepare = [&](std::size_t task) { return prepare(task); }});
 }
 
-/// Reads the next record and names its document; false if there is none.
+/// Reads the next record and names its document; false at the end of the data.
 bool RecordsRendering::prepare(std::size_t number) {
     Task& task = taskAt(number);
     if (isStopped_ || !read(task)) {

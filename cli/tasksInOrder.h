@@ -19,7 +19,7 @@ struct OrderedTasks {
     /// any of the threads.
     std::function<void(std::size_t task)> deliver;
     /// Called once for each task before its work, in the order of the tasks and one at a time, from
-    /// any of the threads. Returns false if there is no such task; then there are none after it.
+    /// any of the threads. Returns false after the last task.
     std::function<bool(std::size_t task)> prepare = {};
 };
 

@@ -25,8 +25,8 @@ public:
     Paragraph addParagraph(TextView text = {}, std::string_view style = {}) const;
     /// Does the same with a picture, which stands before the text of the paragraph.
     Paragraph addParagraph(const Picture& picture, std::string_view style = {}) const;
-    /// Inserts a paragraph before the one with this index; at the end if there is none. Error
-    /// "wrong-call" for a larger index; others as for `addParagraph`.
+    /// Inserts a paragraph before the one with this index, or at the end for the index after the
+    /// last. Error "wrong-call" for a larger index; others as for `addParagraph`.
     Paragraph insertParagraph(std::size_t index, TextView text = {},
                               std::string_view style = {}) const;
 
@@ -37,7 +37,7 @@ public:
     /// Returns a paragraph. Error "wrong-call" if there is none with this index.
     Paragraph operator[](std::size_t index) const { return paragraphs()[index]; }
     /// Returns the paragraph with this key, which a description gave it (`para-key`). Error
-    /// "wrong-call" if there is none.
+    /// "wrong-call" if no paragraph has it.
     Paragraph paragraph(std::string_view key) const;
 
     /// Sets the cell style, which gives the background unless `setBackColor` does. Error

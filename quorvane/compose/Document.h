@@ -70,8 +70,8 @@ public:
     Row addRow(std::span<const Text> texts, std::string_view style = {});
     Row addRow(std::span<const std::string> texts, std::string_view style = {});
     Row addRow(std::span<const std::string_view> texts, std::string_view style = {});
-    /// Inserts a row without cells before the one with this index; at the end if there is none.
-    /// Error "wrong-call" for a larger index.
+    /// Inserts a row without cells before the one with this index, or at the end for the index
+    /// after the last. Error "wrong-call" for a larger index.
     Row insertRow(std::size_t index);
 
     /// Returns the rows.
@@ -81,7 +81,7 @@ public:
     /// Returns a row. Error "wrong-call" if there is none with this index.
     Row operator[](std::size_t index) const { return rows()[index]; }
     /// Returns the row with this key, which a description gave it (`row-key`, or the number of its
-    /// node). Error "wrong-call" if there is none.
+    /// node). Error "wrong-call" if no row has it.
     Row row(std::string_view key) const;
 
     /// Sets the page by its name: "a3", "a4", "a5", "a6", "b5", "letter", "legal", "tabloid" or

@@ -36,8 +36,8 @@ public:
     /// Adds a cell with one paragraph of this text and paragraph style. Errors as for
     /// `Paragraph::setText` and `Paragraph::setStyle`; nothing is added then.
     Cell addCell(TextView text, std::string_view style = {}) const;
-    /// Inserts a cell before the one with this index; at the end if there is none. Error
-    /// "wrong-call" for a larger index; others as for `addCell`.
+    /// Inserts a cell before the one with this index, or at the end for the index after the last.
+    /// Error "wrong-call" for a larger index; others as for `addCell`.
     Cell insertCell(std::size_t index) const;
     Cell insertCell(std::size_t index, TextView text, std::string_view style = {}) const;
     /// Adds a cell for each text at the end. Errors as for `addCell`; no cell is added then.
@@ -53,7 +53,7 @@ public:
     /// Returns a cell. Error "wrong-call" if there is none with this index.
     Cell operator[](std::size_t index) const { return cells()[index]; }
     /// Returns the cell with this key, which a description gave it (`cell-key`, or the number of
-    /// its node). Error "wrong-call" if there is none.
+    /// its node). Error "wrong-call" if no cell has it.
     Cell cell(std::string_view key) const;
 
     /// Sets the columns of this row; see `Document::setColumns`. No columns go back to those of the

@@ -479,8 +479,8 @@ doc)
      .message = "{0} is not in Windows-1252; it will appear as {1}.",
      .explanation = R"(
 Documents are written in Windows-1252. If a file in UTF-8 is read in Windows-1252, a character
-outside of it becomes two or more others; only the first of these is reported. Read the file in
-UTF-8, as the command does unless it is told otherwise, or write such a character in a text as RTF
+that Windows-1252 lacks becomes two or more others; only the first of these is reported. Read the
+file in UTF-8, as the command does unless it is told otherwise, or write such a character in a text as RTF
 does: `{\uc1\u8594?}` is an arrow, with a question mark for readers that do not know it. The data of
 a marked field and the names of styles cannot hold such characters.
 )",
