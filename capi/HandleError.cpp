@@ -87,11 +87,21 @@ ErrorText handledError() {
     }
 }
 
+std::string wholeMessageOf(const ErrorText& text) {
+    return Error({.message = text.message,
+                  .identifier = text.identifier,
+                  .file = text.file,
+                  .line = text.line,
+                  .column = text.column})
+        .what();
+}
+
 }  // namespace
 
 quorvane_status HandleError::take() noexcept {
     try {
         text_ = handledError();
+        whole_ = wholeMessageOf(text_);
     } catch (...) {
         return lackMemory();
     }
@@ -101,6 +111,7 @@ quorvane_status HandleError::take() noexcept {
 
 quorvane_status HandleError::lackMemory() noexcept {
     seen_ = outOfMemory;
+    seenWhole_ = outOfMemory.message;
     return QUORVANE_OUT_OF_MEMORY;
 }
 
@@ -112,6 +123,7 @@ void HandleError::view() noexcept {
              text_.file.c_str(),
              static_cast<std::size_t>(text_.line),
              static_cast<std::size_t>(text_.column)};
+    seenWhole_ = whole_.c_str();
 }
 
 const quorvane_error& errorWithoutHandle() noexcept {

@@ -31,12 +31,17 @@ public:
 
     const quorvane_error& get() const noexcept { return seen_; }
 
+    /// The message with the file and the place before it; empty if there is no error.
+    const char* wholeMessage() const noexcept { return seenWhole_; }
+
 private:
     void view() noexcept;
     quorvane_status lackMemory() noexcept;
 
     ErrorText text_;
+    std::string whole_;
     quorvane_error seen_{};
+    const char* seenWhole_ = "";
 };
 
 /// The error of a handle that is null.

@@ -40,6 +40,10 @@ const quorvane_error* quorvane_document_error(const quorvane_document* document)
     return errorOf(document);
 }
 
+const char* quorvane_document_error_text(const quorvane_document* document) {
+    return errorTextOf(document);
+}
+
 quorvane_status quorvane_document_set_page(quorvane_document* document, const char* name,
                                            size_t length) {
     return guarded(document, [&] { document->document.setPage(textArgument(name, length)); });

@@ -47,4 +47,10 @@ const quorvane_error* errorOf(const Handle* handle) noexcept {
     return handle ? &handle->error.get() : &errorWithoutHandle();
 }
 
+/// The whole message of the error of a handle, which can be null.
+template <class Handle>
+const char* errorTextOf(const Handle* handle) noexcept {
+    return handle ? handle->error.wholeMessage() : errorWithoutHandle().message;
+}
+
 }  // namespace quorvane::capi

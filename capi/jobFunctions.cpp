@@ -69,6 +69,10 @@ const quorvane_error* quorvane_job_error(const quorvane_job* job) {
     return errorOf(job);
 }
 
+const char* quorvane_job_error_text(const quorvane_job* job) {
+    return errorTextOf(job);
+}
+
 quorvane_status quorvane_job_set_path(quorvane_job* job, const char* path, size_t length) {
     return guarded(job, [&] { job->job.setPath(textArgument(path, length)); });
 }

@@ -123,6 +123,10 @@ const quorvane_error* quorvane_table_error(const quorvane_table* table) {
     return errorOf(table);
 }
 
+const char* quorvane_table_error_text(const quorvane_table* table) {
+    return errorTextOf(table);
+}
+
 quorvane_status quorvane_table_add_column(quorvane_table* table, const char* heading,
                                           size_t heading_length, const char* width,
                                           size_t width_length, int align) {

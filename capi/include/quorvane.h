@@ -210,6 +210,12 @@ QUORVANE_API void quorvane_job_free(quorvane_job* job);
  * until the next call on the job.
  */
 QUORVANE_API const quorvane_error* quorvane_job_error(const quorvane_job* job);
+/**
+ * Returns the message of that error with the file and the place before it, for people:
+ * "order.rtfspec:12:5: …". Empty if no call has failed. Never null; valid until the next call on
+ * the job.
+ */
+QUORVANE_API const char* quorvane_job_error_text(const quorvane_job* job);
 
 /**
  * Sets the path of the descriptions, which need not exist: diagnostics name it, and pictures and
@@ -365,6 +371,8 @@ QUORVANE_API void quorvane_table_free(quorvane_table* table);
  * until the next call on the table.
  */
 QUORVANE_API const quorvane_error* quorvane_table_error(const quorvane_table* table);
+/** Returns the message of that error as `quorvane_job_error_text` does. */
+QUORVANE_API const char* quorvane_table_error_text(const quorvane_table* table);
 
 /**
  * Adds a column: the text in the heading row, its width as percent ("20%") or a length ("3cm") or
@@ -472,6 +480,8 @@ QUORVANE_API void quorvane_document_free(quorvane_document* document);
  * until the next call on the document.
  */
 QUORVANE_API const quorvane_error* quorvane_document_error(const quorvane_document* document);
+/** Returns the message of that error as `quorvane_job_error_text` does. */
+QUORVANE_API const char* quorvane_document_error_text(const quorvane_document* document);
 
 /** Sets the page: "a3", "a4", "a5", "a6", "b5", "letter", "legal", "tabloid" or "executive", each
  *  also with "-landscape". */

@@ -250,6 +250,8 @@ TEST(Document, SavesAFile) {
     EXPECT_EQ(quorvane_document_save(document.get(), QUORVANE_TEXT("/missing/a.rtf")),
               QUORVANE_FILE_ERROR);
     EXPECT_EQ(errorOf(document), "/missing/a.rtf: unwritable-file: No such file or directory");
+    EXPECT_STREQ(quorvane_document_error_text(document.get()),
+                 "/missing/a.rtf: No such file or directory");
 }
 
 TEST(Document, ReportsValuesThatAreNone) {

@@ -167,6 +167,26 @@ TEST(Job, HasTheNumberOfTheSystemsError) {
     EXPECT_EQ(quorvane_job_error(job.get())->number, -2147221504 + 8);
 }
 
+TEST(Job, HasTheMessageWithThePlaceBeforeIt) {
+    const JobHandle job = newJob();
+    EXPECT_STREQ(quorvane_job_error_text(job.get()), "");
+    quorvane_job_set_path(job.get(), QUORVANE_TEXT("order.rtfspec"));
+    EXPECT_EQ(rendered(job, wrongDescription), "<none>");
+    EXPECT_STREQ(quorvane_job_error_text(job.get()),
+                 "order.rtfspec:3:7: \"a44\" is not a page; write one of a3, a4, a5, a6, b5, "
+                 "letter, legal, tabloid, executive, each also with -landscape, or use "
+                 "paper-width and paper-height.");
+    EXPECT_EQ(quorvane_job_render_file(job.get(), QUORVANE_TEXT(description),
+                                       QUORVANE_TEXT("/missing/order.rtf")),
+              QUORVANE_FILE_ERROR);
+    EXPECT_STREQ(quorvane_job_error_text(job.get()),
+                 "/missing/order.rtf: No such file or directory");
+    EXPECT_EQ(quorvane_job_ignore(job.get(), QUORVANE_TEXT("wrong-colour")),
+              QUORVANE_WRONG_CONTENT);
+    EXPECT_STREQ(quorvane_job_error_text(job.get()),
+                 "\"wrong-colour\" is not the name of a diagnostic.");
+}
+
 TEST(Job, NamesItsPath) {
     const JobHandle job = newJob();
     quorvane_job_set_path(job.get(), QUORVANE_TEXT("folder/order.rtfspec"));

@@ -101,6 +101,9 @@ TEST(NullHandles, HaveAnError) {
         EXPECT_STREQ(error->identifier, "wrong-call");
         EXPECT_STREQ(error->message, "The handle is null.");
     }
+    EXPECT_STREQ(quorvane_job_error_text(nullptr), "The handle is null.");
+    EXPECT_STREQ(quorvane_table_error_text(nullptr), "The handle is null.");
+    EXPECT_STREQ(quorvane_document_error_text(nullptr), "The handle is null.");
     EXPECT_EQ(quorvane_job_diagnostic(nullptr, 0), nullptr);
 }
 

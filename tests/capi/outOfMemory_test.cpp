@@ -109,6 +109,7 @@ TEST(OutOfMemory, IsTheErrorOfTheHandle) {
     EXPECT_EQ(status, QUORVANE_OUT_OF_MEMORY);
     EXPECT_EQ(errorText(quorvane_job_error(job.get())),
               "out-of-memory: There is not enough memory.");
+    EXPECT_STREQ(quorvane_job_error_text(job.get()), "There is not enough memory.");
 }
 
 TEST(OutOfMemory, EndsATableWithoutHarm) {

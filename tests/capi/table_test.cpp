@@ -227,6 +227,8 @@ TEST(Table, ReportsAFileThatCannotBeWritten) {
     EXPECT_EQ(quorvane_table_begin_file(table.get(), QUORVANE_TEXT("/missing/folder/a.rtf")),
               QUORVANE_FILE_ERROR);
     EXPECT_EQ(errorOf(table), "/missing/folder/a.rtf: unwritable-file: No such file or directory");
+    EXPECT_STREQ(quorvane_table_error_text(table.get()),
+                 "/missing/folder/a.rtf: No such file or directory");
     EXPECT_EQ(quorvane_table_begin(table.get()), QUORVANE_OK);
 }
 
