@@ -1,120 +1,46 @@
-// Writes an invoice with a logo: java Invoice LOGO FILE
+// Writes an invoice: java Invoice [FILE]
 
-import com.sun.jna.Function;
-import com.sun.jna.Native;
-import com.sun.jna.NativeLibrary;
-import com.sun.jna.NativeLong;
-import com.sun.jna.Pointer;
+import com.google.gson.Gson;
+import com.sun.jna.*;
 import com.sun.jna.ptr.PointerByReference;
-import java.nio.charset.StandardCharsets;
-import java.util.ArrayList;
-import java.util.List;
+import java.nio.file.*;
+import java.util.*;
 
-public class Invoice implements AutoCloseable {
-    static final String STYLES = """
-; quorvane 2
-{ name: normal; style-def: paragraph; font: Arial; size: 10pt; space-before: 2pt; space-after: 2pt }
-{ name: title; style-def: paragraph; based-on: normal; size: 20pt; color: #1f4e79 }
-{ name: column; style-def: paragraph; based-on: normal; bold; color: white }
-{ name: total; style-def: paragraph; based-on: normal; bold }
-""";
-
-    record Item(String article, int quantity, int cents) {
-        int amount() { return quantity * cents; }
+public class Invoice {
+    interface Quorvane extends Library {
+        int quorvane_job_new(PointerByReference job);
+        void quorvane_job_free(Pointer job);
+        String quorvane_job_error_text(Pointer job);
+        int quorvane_job_set_path(Pointer job, String path, long length);
+        int quorvane_job_set_stylesheet(Pointer job, String text, long n, String name, long m);
+        int quorvane_job_set_data(Pointer job, String json, long n, String name, long m);
+        int quorvane_job_render_file(Pointer job, String text, long n, String path, long m);
     }
 
-    static final List<Item> ITEMS = List.of(new Item("Espresso machine", 1, 64900),
-            new Item("Café crème, 1 kg", 12, 1890), new Item("Mug {large}", 6, 950));
-    static final int RIGHT = 3;
-    static final NativeLibrary LIBRARY = NativeLibrary.getInstance("libquorvane.so.1");
+    static final long END = -1; // The text ends with a zero byte.
 
-    private final Pointer document;
-    private long rows = 0;
+    public static void main(String[] arguments) throws Exception {
+        String file = arguments.length > 0 ? arguments[0] : "invoice.rtf";
+        String description = Files.readString(Path.of("invoice.rtfspec"));
+        String styles = Files.readString(Path.of("invoice.rtfss"));
+        String data = new Gson().toJson(Map.of("number", "2027-0042", "date", "2027-03-01",
+                "customer", "Dvořák & Søn", "total", 932.80, "lines", List.of(
+                        Map.of("article", "Espresso machine", "quantity", 1, "amount", 649.00),
+                        Map.of("article", "Café crème, 1 kg", "quantity", 12, "amount", 226.80),
+                        Map.of("article", "Mug {large}", "quantity", 6, "amount", 57.00))));
 
-    Invoice() {
+        System.setProperty("jna.encoding", "UTF-8");
+        Quorvane quorvane = Native.load("libquorvane.so.1", Quorvane.class);
         var made = new PointerByReference();
-        function("document_new").invokeInt(new Object[] {made});
-        document = made.getValue();
-    }
-
-    static Function function(String name) {
-        return LIBRARY.getFunction("quorvane_" + name);
-    }
-
-    /** Calls a function: a string is a text with its length, a long a size_t, an integer an int. */
-    void call(String name, Object... arguments) {
-        var values = new ArrayList<Object>();
-        values.add(document);
-        for (Object argument : arguments) {
-            if (argument instanceof String text) {
-                byte[] bytes = text.getBytes(StandardCharsets.UTF_8);
-                values.add(bytes);
-                values.add(new NativeLong(bytes.length));
-            } else {
-                values.add(argument instanceof Long number ? new NativeLong(number) : argument);
-            }
-        }
-        if (function(name).invokeInt(values.toArray()) != 0) {
-            throw new IllegalStateException(errorText(2) + ": " + errorText(1));
-        }
-    }
-
-    /** A text of quorvane_error, which begins with two numbers: identifier, message, file. */
-    private String errorText(int index) {
-        Pointer error = function("document_error").invokePointer(new Object[] {document});
-        int place = 2 * Integer.BYTES + index * Native.POINTER_SIZE;
-        return error.getPointer(place).getString(0, "UTF-8");
-    }
-
-    long addRow(String style, String... texts) {
-        String joined = String.join("\0", texts) + "\0";
-        call("document_add_rows", joined, (long) texts.length, 1L, style);
-        for (long cell = 1; cell < texts.length; ++cell) {
-            call("cell_set_align", rows, cell, RIGHT);
-        }
-        return rows++;
-    }
-
-    @Override
-    public void close() {
-        function("document_free").invokeVoid(new Object[] {document});
-    }
-
-    static String money(int cents) {
-        return String.format("%d.%02d", cents / 100, cents % 100);
-    }
-
-    static void write(String logo, String file) {
-        try (var invoice = new Invoice()) {
-            invoice.call("document_set_stylesheet", STYLES);
-            invoice.call("document_set_columns", "60 15 25");
-            invoice.call("document_set_header", "Northmoor Coffee", "", "");
-            invoice.call("document_set_footer", "", "{page} / {pages}", "");
-            long letterhead = invoice.addRow("title", "Invoice 2027-0042", "", "");
-            invoice.call("paragraph_set_picture_file", letterhead, 2L, 0L, logo, "", "15mm");
-            long heading = invoice.addRow("column", "Article", "Quantity", "Amount");
-            invoice.call("row_set_background", heading, "#1f4e79");
-            for (Item item : ITEMS) {
-                String quantity = String.valueOf(item.quantity());
-                invoice.addRow("normal", item.article(), quantity, money(item.amount()));
-            }
-            int total = ITEMS.stream().mapToInt(Item::amount).sum();
-            long last = invoice.addRow("total", "Total", "", money(total));
-            invoice.call("row_set_background", last, "#dde7f0");
-            invoice.call("document_save", file);
-        }
-    }
-
-    public static void main(String[] arguments) {
-        if (arguments.length != 2) {
-            System.err.println("usage: java Invoice LOGO FILE");
-            System.exit(2);
-        }
-        try {
-            write(arguments[0], arguments[1]);
-        } catch (IllegalStateException error) {
-            System.err.println(error.getMessage());
+        quorvane.quorvane_job_new(made);
+        Pointer job = made.getValue();
+        if (quorvane.quorvane_job_set_path(job, "invoice.rtfspec", END) != 0
+                || quorvane.quorvane_job_set_stylesheet(job, styles, END, "invoice.rtfss", END) != 0
+                || quorvane.quorvane_job_set_data(job, data, END, null, 0) != 0
+                || quorvane.quorvane_job_render_file(job, description, END, file, END) != 0) {
+            System.err.println(quorvane.quorvane_job_error_text(job));
             System.exit(1);
         }
+        quorvane.quorvane_job_free(job);
     }
 }

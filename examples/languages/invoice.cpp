@@ -1,63 +1,38 @@
-// Writes an invoice with a logo: invoice LOGO FILE
+// Writes an invoice: invoice [FILE]
 
 #include <quorvane/quorvane.h>
 
 #include <iostream>
-#include <string>
-#include <string_view>
+#include <ranges>
 
 using namespace quorvane;
 
-constexpr std::string_view styles = R"(; quorvane 2
-{ name: normal; style-def: paragraph; font: Arial; size: 10pt; space-before: 2pt; space-after: 2pt }
-{ name: title; style-def: paragraph; based-on: normal; size: 20pt; color: #1f4e79 }
-{ name: column; style-def: paragraph; based-on: normal; bold; color: white }
-{ name: total; style-def: paragraph; based-on: normal; bold }
-)";
-
-struct Item {
-    const char* article;
-    int quantity;
-    int cents;
-};
-
-constexpr Item items[] = {
-    {"Espresso machine", 1, 64900}, {"Café crème, 1 kg", 12, 1890}, {"Mug {large}", 6, 950}};
-
-std::string money(int cents) {
-    return std::to_string(cents / 100) + "." + std::to_string(100 + cents % 100).substr(1);
-}
-
-Document invoice(const char* logo) {
-    Document document;
-    document.setStyleSheet(styles);
-    document.setColumns({60, 15, 25});
-    document.setHeader({.left = "Northmoor Coffee"});
-    document.setFooter({.center = "{page} / {pages}"});
-
-    const Row letterhead = document.addRow({"Invoice 2027-0042", "", ""}, "title");
-    letterhead[2][0].setPicture(Picture::fromFile(logo, {.height = "15mm"}));
-    document.addRow({"Article", "Quantity", "Amount"}, "column").setBackColor("#1f4e79");
-    int total = 0;
-    for (const auto& [article, quantity, cents] : items) {
-        document.addRow({article, std::to_string(quantity), money(quantity * cents)}, "normal");
-        total += quantity * cents;
-    }
-    document.addRow({"Total", "", money(total)}, "total").setBackColor("#dde7f0");
-    for (const Row row : document.rows()) {
-        row[1].setAlign(eRight);
-        row[2].setAlign(eRight);
-    }
-    return document;
-}
-
 int main(int argc, char** argv) {
-    if (argc != 3) {
-        std::cerr << "usage: invoice LOGO FILE\n";
-        return 2;
-    }
     try {
-        invoice(argv[1]).save(argv[2]);
+        Document document;
+        document.setStyleSheetFile("invoice.rtfss");
+        document.setColumns({55, 15, 30});
+        document.setHeader({.left = "Northmoor Coffee"});
+        document.setFooter({.left = "Invoice 2027-0042", .right = "{page} / {pages}"});
+
+        const Row top = document.addRow();
+        const Cell title = top.addCell("Invoice 2027-0042", "title").setSpan(2);
+        title.addParagraph("1.3.2027 for Dvořák & Søn", "details");
+        top.addCell().addParagraph(Picture::fromFile("logo.png", {.height = "15mm"}));
+        document.addRow({"Article", "Quantity", "Amount"}, "column").setBackColor("#1f4e79");
+        document.addRow({"Espresso machine", "1", "649.00"});
+        document.addRow({"Café crème, 1 kg", "12", "226.80"});
+        document.addRow({"Mug {large}", "6", "57.00"});
+        const Row total = document.addRow().setBackColor("#dde7f0");
+        total.addCell("Total in euros", "total").setSpan(2);
+        total.addCell("932.80", "total");
+
+        for (const Row row : document.rows()) {
+            for (const Cell cell : row.cells() | std::views::drop(1)) {
+                cell.setAlign(eRight);
+            }
+        }
+        document.save(argc > 1 ? argv[1] : "invoice.rtf");
     } catch (const Error& error) {
         std::cerr << error.what() << '\n';
         return 1;

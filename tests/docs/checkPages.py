@@ -8,6 +8,7 @@
 - Words are spelled as in American English.
 """
 
+import collections
 import pathlib
 import re
 import sys
@@ -47,10 +48,15 @@ def anchor(heading):
 
 
 def headings(page):
-    """The level and the anchor of each heading."""
-    return [(len(match[1]), anchor(match[2]))
-            for _, line, is_code in lines_of(page)
-            if not is_code and (match := re.match(r"(#+) (.*)", line))]
+    """The level and the anchor of each heading. An anchor that is there already gets a number."""
+    found = []
+    counts = collections.Counter()
+    for _, line, is_code in lines_of(page):
+        if not is_code and (match := re.match(r"(#+) (.*)", line)):
+            name = anchor(match[2])
+            found.append((len(match[1]), f"{name}-{counts[name]}" if counts[name] else name))
+            counts[name] += 1
+    return found
 
 
 def check_links(page):
@@ -92,6 +98,8 @@ def check_programs(page, folder):
     """A page shows every program of a folder."""
     text = page.read_text(encoding="utf-8")
     for file in sorted(folder.iterdir()):
+        if file.suffix in {".rtfspec", ".rtfss", ".png"}:
+            continue
         name = file.relative_to(project).as_posix()
         if not re.search(rf"^```\w+ {re.escape(name)}$", text, re.MULTILINE):
             report(page, 1, f"{name} is not shown")
