@@ -14,24 +14,6 @@ using namespace quorvane::com;
 
 // The functions that the system calls.
 
-/// Where the compiler's run-time code is entered: it calls DllMain.
-extern "C" BOOL WINAPI DllMainCRTStartup(HINSTANCE, DWORD reason, void* processEnds);
-
-/// Where the system enters the DLL. When the process ends, the other threads have been stopped
-/// wherever they were, and may hold locks of the run-time code for good: that must not be entered
-/// then. There is nothing to clean up.
-extern "C" BOOL WINAPI enterComponent(HINSTANCE module, DWORD reason, void* processEnds) {
-    const bool isOver = reason == DLL_PROCESS_DETACH && processEnds;
-    return isOver ? TRUE : DllMainCRTStartup(module, reason, processEnds);
-}
-
-extern "C" BOOL WINAPI DllMain(HINSTANCE, DWORD reason, void*) {
-    if (reason == DLL_PROCESS_ATTACH) {
-        pinModule();
-    }
-    return TRUE;
-}
-
 STDAPI DllGetClassObject(REFCLSID classId, REFIID interfaceId, void** object) {
     if (!object) {
         return E_POINTER;

@@ -8,10 +8,11 @@ namespace {
 
 std::atomic<long> uses = 0;
 
-HMODULE ownModule(DWORD flags) noexcept {
+HMODULE ownModule() noexcept {
     HMODULE module = nullptr;
-    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | flags,
-                       reinterpret_cast<const wchar_t*>(&uses), &module);
+    GetModuleHandleExW(
+        GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+        reinterpret_cast<const wchar_t*>(&uses), &module);
     return module;
 }
 
@@ -33,16 +34,11 @@ bool moduleIsUnused() noexcept {
     return uses == 0;
 }
 
-void pinModule() noexcept {
-    ownModule(GET_MODULE_HANDLE_EX_FLAG_PIN);
-}
-
 std::wstring modulePath() {
     std::wstring path(MAX_PATH, L'\0');
     while (true) {
         const DWORD length =
-            GetModuleFileNameW(ownModule(GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT), path.data(),
-                               static_cast<DWORD>(path.size()));
+            GetModuleFileNameW(ownModule(), path.data(), static_cast<DWORD>(path.size()));
         if (length < path.size()) {
             path.resize(length);
             return path;

@@ -23,10 +23,6 @@ void lockModule(bool lock) noexcept;
 /// True when no object lives and no lock is held.
 bool moduleIsUnused() noexcept;
 
-/// Keeps the DLL loaded until the process ends. The compiler's run-time code takes one of the
-/// process's thread-local slots every time that it is loaded and gives none back.
-void pinModule() noexcept;
-
 /// Path of the DLL; empty when the system does not know it.
 std::wstring modulePath();
 

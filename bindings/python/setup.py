@@ -40,6 +40,8 @@ def built_library(folder):
                     "-DQUORVANE_BUILD_C=ON", "-DQUORVANE_BUILD_CLI=OFF",
                     "-DQUORVANE_BUILD_TESTS=OFF"], check=True)
     subprocess.run(["cmake", "--build", folder, "--parallel", "--target", "quorvaneC"], check=True)
+    if sys.platform == "win32":
+        return folder / FILE_NAMES["win32"]
     return folder / "capi" / FILE_NAMES.get(sys.platform, "libquorvane.so.1")
 
 

@@ -34,6 +34,9 @@
  * Threads. A handle belongs to one thread at a time. Different handles can be used at the same
  * time. Nothing is shared between them, and nothing depends on the locale of the program.
  *
+ * Windows. The library is "quorvane-1.dll". Functions and callbacks are `cdecl`. Paths are UTF-8
+ * there too.
+ *
  * Versions. Functions, constants and fields at the end of structures are added; those that are here
  * stay as long as `QUORVANE_VERSION_MAJOR` is the same. The library makes all structures itself.
  */

@@ -226,7 +226,7 @@ TEST(Document, ReportsAPictureThatIsNone) {
     EXPECT_EQ(quorvane_paragraph_set_picture_file(
                   document.get(), 0, 0, 0, QUORVANE_TEXT("missing.png"), nullptr, 0, nullptr, 0),
               QUORVANE_FILE_ERROR);
-    EXPECT_EQ(errorOf(document), "missing.png: unreadable-file: No such file or directory");
+    EXPECT_EQ(errorOf(document), "missing.png: unreadable-file: " + noFile);
 }
 
 TEST(Document, WritesThroughACallbackThatCanStop) {
@@ -249,9 +249,8 @@ TEST(Document, SavesAFile) {
     std::filesystem::remove(path);
     EXPECT_EQ(quorvane_document_save(document.get(), QUORVANE_TEXT("/missing/a.rtf")),
               QUORVANE_FILE_ERROR);
-    EXPECT_EQ(errorOf(document), "/missing/a.rtf: unwritable-file: No such file or directory");
-    EXPECT_STREQ(quorvane_document_error_text(document.get()),
-                 "/missing/a.rtf: No such file or directory");
+    EXPECT_EQ(errorOf(document), "/missing/a.rtf: unwritable-file: " + noFolder);
+    EXPECT_EQ(quorvane_document_error_text(document.get()), "/missing/a.rtf: " + noFolder);
 }
 
 TEST(Document, ReportsValuesThatAreNone) {

@@ -4,8 +4,18 @@
 
 #include <memory>
 #include <string>
+#include <system_error>
 
 namespace quorvane::capi {
+
+/// The reasons of the system for a file that does not exist, and for one in a folder that does not.
+#ifdef _WIN32
+inline const std::string noFile = std::system_category().message(2);
+inline const std::string noFolder = std::system_category().message(3);
+#else
+inline const std::string noFile = "No such file or directory";
+inline const std::string noFolder = noFile;
+#endif
 
 struct Release {
     void operator()(quorvane_job* job) const { quorvane_job_free(job); }

@@ -226,16 +226,15 @@ TEST(Table, ReportsAFileThatCannotBeWritten) {
     const TableHandle table = tableOfTwo();
     EXPECT_EQ(quorvane_table_begin_file(table.get(), QUORVANE_TEXT("/missing/folder/a.rtf")),
               QUORVANE_FILE_ERROR);
-    EXPECT_EQ(errorOf(table), "/missing/folder/a.rtf: unwritable-file: No such file or directory");
-    EXPECT_STREQ(quorvane_table_error_text(table.get()),
-                 "/missing/folder/a.rtf: No such file or directory");
+    EXPECT_EQ(errorOf(table), "/missing/folder/a.rtf: unwritable-file: " + noFolder);
+    EXPECT_EQ(quorvane_table_error_text(table.get()), "/missing/folder/a.rtf: " + noFolder);
     EXPECT_EQ(quorvane_table_begin(table.get()), QUORVANE_OK);
 }
 
 TEST(Table, RefusesAnEmptyPathBeforeThereAreRows) {
     const TableHandle table = tableOfTwo();
     EXPECT_EQ(quorvane_table_begin_file(table.get(), QUORVANE_TEXT("")), QUORVANE_FILE_ERROR);
-    EXPECT_EQ(errorOf(table), "unwritable-file: No such file or directory");
+    EXPECT_EQ(errorOf(table), "unwritable-file: " + noFolder);
     EXPECT_EQ(quorvane_table_begin_file(table.get(), nullptr, 0), QUORVANE_FILE_ERROR);
     EXPECT_EQ(quorvane_table_begin(table.get()), QUORVANE_OK);
 }

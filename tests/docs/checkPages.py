@@ -116,7 +116,7 @@ def check_sources(page, sources):
 def source_files():
     generated = ["quorvaneInterfaces.h"]
     folders = ["quorvane", "com", "cli", "tests", "cmake", "bench", "scripts", "examples",
-               "bindings/npm"]
+               "packaging", "bindings/npm"]
     return generated + [file.relative_to(project).as_posix()
                         for folder in folders for file in (project / folder).rglob("*.*")]
 

@@ -7,10 +7,13 @@ here=$(dirname "$0")
 failed=0
 headers=$(objdump -p "$file")
 resources=$("$windres" -i "$file" -O rc) || exit 1
-case $(printf '%s\n' "$headers" | grep '^	DLL$') in
-    *DLL) isLibrary=yes ;;
-    *) isLibrary=no ;;
-esac
+
+# has TEXT PATTERN: "yes" if the pattern is in the text.
+has() {
+    if printf '%s\n' "$1" | grep -q "$2"; then echo yes; else echo no; fi
+}
+isLibrary=$(has "$headers" '^	DLL$')
+isComponent=$(has "$headers" ' DllRegisterServer$')
 
 lacks() {
     echo "$file lacks $1" >&2
@@ -51,9 +54,10 @@ for name in CompanyName FileDescription FileVersion InternalName LegalCopyright 
     ProductName ProductVersion; do
     holds "$name" "$resources" "VALUE \"$name\", L*\"[^\"]"
 done
-if [ "$isLibrary" = yes ]; then
+if [ "$isComponent" = yes ]; then
     holds OLESelfRegister "$resources" 'VALUE "OLESelfRegister", ""'
-else
+fi
+if [ "$isLibrary" = no ]; then
     holds manifest "$resources" '^1 24 '
     holds asInvoker "$resources" 'requestedExecutionLevel level=""asInvoker""'
     holds longPathAware "$resources" '<longPathAware [^>]*>true</longPathAware>'

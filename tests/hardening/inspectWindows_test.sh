@@ -119,9 +119,14 @@ change 's/>true</>false</' longPathAware
 change '/1f676c76/d' 1f676c76-80e1-4239-95bb-83d0f6d0da78
 
 # shellcheck disable=SC2086 # several texts
+describe none $all
+expect "" -shared
+# A component.
+cat >"$folder/program.cpp" <<'SOURCE'
+extern "C" __attribute__((dllexport)) long DllRegisterServer() { return 0; }
+SOURCE
+expect OLESelfRegister -shared
+# shellcheck disable=SC2086 # several texts
 describe none OLESelfRegister= $all
 expect "" -shared
-# shellcheck disable=SC2086 # several texts
-describe none $all
-expect OLESelfRegister -shared
 exit $failed
