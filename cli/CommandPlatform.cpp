@@ -6,8 +6,8 @@
 #include <utility>
 
 #include "cli/RenderOptions.h"
-#include "cli/fileFailure.h"
 #include "cli/process.h"
+#include "data/whyUnreadable.h"
 #include "quorvane/base/platform/fileReplacement.h"
 #include "quorvane/base/platform/utf8Path.h"
 #include "quorvane/base/text/extendedMark.h"
@@ -75,7 +75,7 @@ std::string CommandPlatform::readOtherFile(const std::string& path) {
         // This number alone stands for several obstacles; any other says enough by itself.
         if (!error.is(RunTimeError::PathFileAccessError)) {
             error.cause = nullptr;
-        } else if (const std::error_code why = whyUnreadable(path)) {
+        } else if (const std::error_code why = data::whyUnreadable(path)) {
             error.cause = std::make_shared<RtfError>(why.value(), why.message());
         }
         raise(std::move(error));

@@ -1,13 +1,14 @@
 #include "cli/RecordInput.h"
 
 #include "cli/recordsFile.h"
+#include "data/recordsFile.h"
 
 namespace quorvane::cli {
 
 RecordInput::RecordInput(const std::string& path, const RecordRange& range)
     : range_(range),
       text_(openRecords(path), EncodingChoice::Auto),
-      areJson_(areJsonRecords(path, requireText(text_), false)),
+      areJson_(data::areJsonRecords(path, data::requireText(text_), false)),
       values_(areJson_ ? data::jsonValues(text_) : data::csvValues(text_, std::nullopt)) {}
 
 /// Passes over the records before the range; false if the data ends with them.

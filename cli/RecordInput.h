@@ -15,12 +15,12 @@ namespace quorvane::cli {
 /// The records of a file with data, of which only one is in memory.
 class RecordInput {
 public:
-    /// Opens the file, or standard input for "-". Throws `UnreadableInput`, and a `RecordError` for
-    /// data without records.
+    /// Opens the file, or standard input for "-". Throws `data::UnreadableInput`, and a
+    /// `RecordError` for data without records.
     RecordInput(const std::string& path, const RecordRange& range);
 
     /// Reads the next record of the range; false at its end. A `RecordError` for a record that
-    /// cannot be read; `record` has its number and its line then. Throws `UnreadableInput`.
+    /// cannot be read; `record` has its number and its line then. Throws `data::UnreadableInput`.
     bool next(NumberedRecord& record);
 
     /// How many records the data has; no value while its end has not been read.

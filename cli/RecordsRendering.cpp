@@ -11,8 +11,8 @@
 #include "cli/errorText.h"
 #include "cli/fileFailure.h"
 #include "cli/localeOption.h"
-#include "cli/recordsFile.h"
 #include "cli/tasksInOrder.h"
+#include "data/recordsFile.h"
 #include "quorvane/base/platform/utf8Path.h"
 
 namespace quorvane::cli {
@@ -73,7 +73,7 @@ ExitStatus RecordsRendering::run(std::size_t threads) {
     try {
         renderAll(threads);
         finishJoined();
-    } catch (const UnreadableInput& error) {
+    } catch (const data::UnreadableInput& error) {
         fail(unreadableFile(dataName(), *options_.data, error));
     } catch (const RtfError& error) {
         failReport(error);
@@ -131,7 +131,7 @@ bool RecordsRendering::open() {
         if (names_) {
             names_->setLocale(locale_);
         }
-    } catch (const UnreadableInput& error) {
+    } catch (const data::UnreadableInput& error) {
         fail(unreadableFile(dataName(), *options_.data, error));
         return false;
     } catch (const data::RecordError& error) {

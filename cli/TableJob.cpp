@@ -5,17 +5,20 @@
 #include <utility>
 
 #include "cli/RenderOptions.h"
+#include "cli/TableDescriptionTarget.h"
 #include "cli/UsageError.h"
-#include "cli/asUsage.h"
 #include "cli/fileFailure.h"
 #include "cli/filesBelow.h"
 #include "cli/outputPaths.h"
+#include "cli/recordsFile.h"
 #include "cli/styleSheetName.h"
-#include "data/fieldNamed.h"
-#include "data/refuse.h"
+#include "data/OptionError.h"
+#include "data/RecordsTable.h"
+#include "data/recordsFile.h"
 #include "quorvane/base/platform/utf8Path.h"
 #include "quorvane/base/text/TextEncoding.h"
 #include "quorvane/base/values/RtfError.h"
+#include "quorvane/compose/TableWriter.h"
 #include "quorvane/docmodel/CRtfDoc.h"
 
 namespace quorvane::cli {
@@ -71,8 +74,11 @@ ExitStatus TableJob::run() {
     }
     try {
         return write();
-    } catch (const UnreadableInput& error) {
+    } catch (const data::UnreadableInput& error) {
         return fail(unreadableFile(inputName(), options_.input, error));
+    } catch (const data::OptionError& error) {
+        throw UsageError((error.option.empty() ? "" : "--" + error.option + ": ") +
+                         error.description);
     } catch (const data::RecordError& error) {
         report_({ErrorKind::Raised, inputName(), error});
         return ExitStatus::ContentErrors;
@@ -111,22 +117,12 @@ void TableJob::writeStyleSheet() {
 }
 
 void TableJob::writeTable() {
-    TableRecords records(options_, [this](const RtfError& error) { leaveOut(error); });
-    if (records.names().empty()) {
-        throw data::RecordError(0, "There is no data. A table needs a row of names or a record.",
-                                false);
-    }
-    asUsage([&] {
-        findFields(records);
-        setup_ = setupOf(records);
-        beginPart();
-    });
-    addRecords(records);
-    // A part whose only rows were left out is no document.
-    if (rows_ > 0 || part_ == 1) {
-        endPart();
-    }
-    if (groups_.areScattered()) {
+    data::RecordsTable table({openRecords(options_.input), options_.input}, options_,
+                             [this](const RtfError& error) { leaveOut(error); });
+    table.begin(setup(), options_.page.has_value(),
+                [this](const TableSetup& setup, std::size_t part) { return target(setup, part); });
+    table.finish();
+    if (table.areGroupsScattered()) {
         report_(refusal(inputName(),
                         "Some groups begin several times, since their rows do not "
                         "follow each other. Sort the rows: --sort \"" +
@@ -139,31 +135,7 @@ void TableJob::writeTable() {
     }
 }
 
-void TableJob::findFields(const TableRecords& records) {
-    const std::vector<std::string>& names = records.names();
-    columns_.emplace(options_, names, records.blankFields());
-    if (columns_->count() > mostTableColumns) {
-        data::refuse("The data has " + std::to_string(columns_->count()) +
-                     " fields to show, and a table has at most " +
-                     std::to_string(mostTableColumns) + " columns. Choose some with --columns.");
-    }
-    columns_->findSigns(records.first(), records.areJson());
-    fieldCount_ = names.size();
-    blankFields_ = columns_->areNamed() ? std::vector<std::size_t>() : records.blankFields();
-    if (options_.groupBy) {
-        groupField_ = data::fieldNamed(*options_.groupBy, names);
-    }
-    for (const std::string& name : options_.totals) {
-        const std::size_t column = columns_->columnOf(name);
-        if (column == columns_->count()) {
-            throw UsageError("the table has no column \"" + name + "\" for a total");
-        }
-        totals_.push_back({column, data::fieldNamed(name, names),
-                           data::ColumnTotal(columns_->decimalSign(column))});
-    }
-}
-
-TableSetup TableJob::setupOf(const TableRecords& records) {
+TableSetup TableJob::setup() const {
     TableSetup setup;
     const auto take = [](std::string& setting, const std::optional<std::string>& option) {
         setting = option.value_or(setting);
@@ -174,31 +146,20 @@ TableSetup TableJob::setupOf(const TableRecords& records) {
     take(setup.border, options_.border);
     setup.styleSheet = styleSheet_;
     setup.groupsStartPages = options_.groupPages;
-    columns_->fit(setup, records.first(), !options_.page);
     return setup;
 }
 
-/// Opens the document, or the next one of several.
-void TableJob::beginPart() {
-    if (part_ == 0) {
-        // What is wrong with the setup shows before there is a file.
-        const TableWriter trial(setup_, [](std::string_view) {});
-    }
-    ++part_;
-    std::unique_ptr<OutputFile> file = platform_.createFile(partOutput());
+/// Opens a document, the only one or one of several.
+std::unique_ptr<data::TableTarget> TableJob::target(const TableSetup& setup, std::size_t part) {
+    std::unique_ptr<OutputFile> file = platform_.createFile(partOutput(part));
     if (options_.form == TableForm::Description) {
-        target_ = std::make_unique<TableDescriptionTarget>(setup_, std::move(file));
-    } else {
-        target_ = std::make_unique<TableDocumentTarget>(setup_, std::move(file));
+        return std::make_unique<TableDescriptionTarget>(setup, std::move(file));
     }
-    rows_ = 0;
-    group_.reset();
-    for (Total& total : totals_) {
-        total.sum = data::ColumnTotal(columns_->decimalSign(total.column));
-    }
+    return std::make_unique<data::TableDocumentTarget>(
+        std::make_unique<TableWriter>(setup, std::move(file)));
 }
 
-std::string TableJob::partOutput() const {
+std::string TableJob::partOutput(std::size_t number) const {
     if (!options_.split) {
         return output_;
     }
@@ -212,97 +173,8 @@ std::string TableJob::partOutput() const {
             output_ + (output_.ends_with('/') ? "" : "/") + "list.rtf");
     }
     TableOptions part = options_;
-    part.output = partPath(output_, part_);
+    part.output = partPath(output_, number);
     return assignmentOf(part).output;
-}
-
-void TableJob::endPart() {
-    addTotals();
-    target_->finish();
-}
-
-void TableJob::addRecords(TableRecords& records) {
-    std::vector<std::string_view> fields;
-    for (std::size_t count = 0; !options_.limit || count < *options_.limit; ++count) {
-        if (!records.next(fields)) {
-            return;
-        }
-        if (rows_ == options_.split) {
-            endPart();
-            beginPart();
-        }
-        try {
-            requireShown(records.names(), fields);
-            addRecord(fields);
-        } catch (const RtfError& error) {
-            if (!error.is(RunTimeError::InvalidProcedureCall)) {
-                throw;
-            }
-            if (!options_.keepGoing) {
-                throw data::RecordError(records.line(), error.description, true);
-            }
-            leaveOut(data::RecordError(records.line(), error.description, true));
-        }
-    }
-}
-
-/// Values that no column shows must not be lost without notice.
-void TableJob::requireShown(const std::vector<std::string>& names,
-                            std::span<const std::string_view> fields) {
-    for (const std::size_t blank : blankFields_) {
-        if (blank < fields.size() && !fields[blank].empty()) {
-            data::refuse(
-                "Field " + std::to_string(blank + 1) +
-                " has neither a heading nor a value in the first rows, so that the table has no "
-                "column for it. Give it a heading.");
-        }
-    }
-    if (names.size() > fieldCount_ && !columns_->areNamed()) {
-        const std::string& name = names[fieldCount_];
-        fieldCount_ = names.size();
-        data::refuse(
-            "The first records do not have the field \"" + name +
-            "\", so that the table has no column for it. Name the columns with --columns.");
-    }
-}
-
-void TableJob::addRecord(std::span<const std::string_view> fields) {
-    const auto field = [&](std::size_t position) {
-        return position < fields.size() ? fields[position] : std::string_view();
-    };
-    for (const Total& total : totals_) {
-        total.sum.require(field(total.field));
-    }
-    const std::span<const std::string_view> cells = columns_->cells(fields);
-    if (groupField_ && group_ != field(*groupField_)) {
-        groups_.begin(field(*groupField_));
-        target_->addGroup(field(*groupField_), cells);
-        group_ = field(*groupField_);
-    } else {
-        target_->addRow(cells);
-    }
-    ++rows_;
-    for (Total& total : totals_) {
-        total.sum.add(field(total.field));
-    }
-}
-
-void TableJob::addTotals() {
-    if (totals_.empty()) {
-        return;
-    }
-    std::vector<std::string> texts(columns_->count());
-    texts.front() = options_.totalLabel;
-    for (const Total& total : totals_) {
-        try {
-            texts[total.column] = columns_->hasFilters(total.column)
-                                      ? columns_->shown(total.column, total.sum.plainText())
-                                      : total.sum.text();
-        } catch (const RtfError& error) {
-            throw data::RecordError(0, error.description, false);
-        }
-    }
-    target_->addTotal(std::vector<std::string_view>(texts.begin(), texts.end()));
 }
 
 void TableJob::leaveOut(const RtfError& error) {

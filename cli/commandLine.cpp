@@ -10,6 +10,8 @@
 #include "cli/UsageError.h"
 #include "cli/licenses.h"
 #include "cli/styleSheetName.h"
+#include "data/encodingNames.h"
+#include "data/tableOptionTexts.h"
 #include "quorvane/diagnostics/engine/nearestWord.h"
 
 namespace quorvane::cli {
@@ -121,11 +123,13 @@ Exit status:
   2  wrong usage, or a file that cannot be read, formatted or written)";
 
 const std::map<std::string, EncodingChoice>& encodingChoices() {
-    static const std::map<std::string, EncodingChoice> choices = {
-        {"auto", EncodingChoice::Auto},
-        {"utf-8", EncodingChoice::Utf8},
-        {"windows-1252", EncodingChoice::Windows1252},
-    };
+    static const std::map<std::string, EncodingChoice> choices = [] {
+        std::map<std::string, EncodingChoice> byName;
+        for (const data::NamedEncoding& named : data::encodingNames) {
+            byName.emplace(named.name, named.choice);
+        }
+        return byName;
+    }();
     return choices;
 }
 
@@ -611,17 +615,13 @@ void addRenderOptions(CLI::App* render, RenderOptions& options) {
 /// What is wrong with a delimiter; empty if it is one.
 std::string wrongDelimiter(const std::string& value) {
     const std::string text = asGiven(value);
-    const bool isOne = text == "tab" || (text.size() == 1 && text[0] != '"' && text[0] != '\n' &&
-                                         text[0] != '\r' && (text[0] & 0x80) == 0);
-    return isOne ? std::string() : text + " is not a delimiter; write one character, or tab";
+    return data::isDelimiter(text) ? std::string()
+                                   : text + " is not a delimiter; write one character, or tab";
 }
 
 /// What is wrong with a number of rows; empty if it is one.
 std::string wrongCount(const std::string& value) {
-    constexpr std::size_t mostDigits = 18;
-    const bool isNumber =
-        value.size() <= mostDigits && value.find_first_not_of("0123456789") == std::string::npos;
-    return isNumber ? std::string() : asGiven(value) + " is not a number of rows";
+    return data::isRowCount(value) ? std::string() : asGiven(value) + " is not a number of rows";
 }
 
 /// The same where a document must have a row.

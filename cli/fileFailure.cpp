@@ -1,11 +1,10 @@
 #include "cli/fileFailure.h"
 
-#include <cerrno>
 #include <filesystem>
-#include <fstream>
 #include <utility>
 
 #include "cli/RenderOptions.h"
+#include "data/whyUnreadable.h"
 #include "quorvane/base/platform/utf8Path.h"
 #include "quorvane/base/values/deepestCause.h"
 
@@ -28,7 +27,7 @@ bool isDevice(const std::string& path) {
 
 /// The reason why a file of that path cannot be read, where this error does not name one.
 std::string reasonOf(const RtfError& error, const std::string& path) {
-    if (const std::error_code why = whyUnreadable(path)) {
+    if (const std::error_code why = data::whyUnreadable(path)) {
         return why.message();
     }
     return isDevice(path) ? "Is a device" : error.description;
@@ -58,21 +57,6 @@ ReportedError unreadableFile(std::string shownName, const std::string& path, Rtf
 ReportedError refusal(const std::string& file, const std::string& why) {
     const auto number = static_cast<std::int32_t>(RunTimeError::InvalidProcedureCall);
     return {ErrorKind::Raised, file, RtfError(number, why), why};
-}
-
-std::error_code whyUnreadable(const std::string& path) {
-    const fs::path file = pathFromUtf8(path);
-    std::error_code failure;
-    switch (fs::status(file, failure).type()) {
-        case fs::file_type::directory:
-            return std::make_error_code(std::errc::is_a_directory);
-        case fs::file_type::regular: {
-            const bool opens = std::ifstream(file).is_open();
-            return opens ? std::error_code() : std::error_code(errno, std::generic_category());
-        }
-        default:
-            return failure;
-    }
 }
 
 }  // namespace quorvane::cli

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <system_error>
 
 #include "cli/ReportedError.h"
 
@@ -17,8 +16,5 @@ ReportedError unreadableFile(std::string shownName, const std::string& path, Rtf
 
 /// A file that cannot be handled as requested, for a reason that is not the system's.
 ReportedError refusal(const std::string& file, const std::string& why);
-
-/// Why the system does not let a file be read; no error when it is not the system that does not.
-std::error_code whyUnreadable(const std::string& path);
 
 }  // namespace quorvane::cli

@@ -5,15 +5,11 @@
 namespace quorvane::cli {
 
 data::Locale localeOf(const std::optional<std::string>& option) {
-    if (!option) {
-        return {};
-    }
     std::string error;
-    data::Locale locale = data::localeNamed(*option, error);
+    data::Locale locale = data::chosenLocale(option, error);
     if (!error.empty()) {
         throw UsageError("--locale: " + error);
     }
-    locale.isChosen = true;
     return locale;
 }
 

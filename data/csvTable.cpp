@@ -1,27 +1,14 @@
 #include "data/csvTable.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <optional>
-#include <span>
 
 #include "data/csvRecords.h"
+#include "data/recordsFile.h"
 #include "data/recordsText.h"
 #include "quorvane/compose/Error.h"
 
 namespace quorvane::data {
-
-namespace {
-
-BlockReader readerOf(std::string_view text) {
-    return [text](std::span<char> block) mutable {
-        const std::size_t count = text.copy(block.data(), block.size());
-        text.remove_prefix(count);
-        return count;
-    };
-}
-
-}  // namespace
 
 std::vector<std::vector<std::string>> csvTable(std::string_view text) {
     try {

@@ -142,6 +142,16 @@ Locale localeNamed(std::string_view name, std::string& error) {
     return {};
 }
 
+Locale chosenLocale(const std::optional<std::string>& name, std::string& error) {
+    error.clear();
+    if (!name) {
+        return {};
+    }
+    Locale locale = localeNamed(*name, error);
+    locale.isChosen = error.empty();
+    return locale;
+}
+
 std::vector<std::string_view> localeNames() {
     std::vector<std::string_view> names;
     std::transform(std::begin(locales), std::end(locales), std::back_inserter(names),

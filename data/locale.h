@@ -42,6 +42,9 @@ struct Locale {
 /// wrong with any other name, and empty for a locale.
 Locale localeNamed(std::string_view name, std::string& error);
 
+/// The locale of the name that a user chose; the usual one without a name. `error` as above.
+Locale chosenLocale(const std::optional<std::string>& name, std::string& error);
+
 /// The names of the locales, in ascending order.
 std::vector<std::string_view> localeNames();
 

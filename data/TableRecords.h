@@ -9,14 +9,25 @@
 #include <string_view>
 #include <vector>
 
-#include "cli/TableColumns.h"
-#include "cli/TableOptions.h"
-#include "cli/recordsFile.h"
+#include "data/RecordsTableOptions.h"
+#include "data/TableColumns.h"
 #include "data/keptRows.h"
 #include "data/recordsSource.h"
 #include "data/recordsText.h"
 
-namespace quorvane::cli {
+namespace quorvane::data {
+
+/// What kind of text records are in.
+enum class RecordsForm : std::uint8_t { Any, Csv, Json };
+
+/// Where records come from.
+struct RecordsInput {
+    BlockReader read;
+    /// The name of the file; its extension says what the file is.
+    std::string path{};
+    /// `Any` is as `areJsonRecords` has it.
+    RecordsForm form = RecordsForm::Any;
+};
 
 /// The records of a table: the first of them are read at once, the others one by one. Sorted ones
 /// are all kept in memory.
@@ -25,10 +36,10 @@ public:
     /// Reports a record that is left out.
     using Report = std::function<void(const RtfError& error)>;
 
-    /// Opens the file and reads the first records. A record that cannot be read is reported and
-    /// left out if the options say so, and raised otherwise. Throws `UnreadableInput`, and
-    /// `UsageError` for fields that cannot be sorted by.
-    TableRecords(const TableOptions& options, Report report);
+    /// Reads the first records. A record that cannot be read is reported and left out if the
+    /// options say so, and raised otherwise. Throws `UnreadableInput`, and `OptionError` for fields
+    /// that cannot be sorted by. The options must outlive the records.
+    TableRecords(const RecordsInput& input, const RecordsTableOptions& options, Report report);
 
     const std::vector<std::string>& names() const noexcept { return source_->names(); }
     const std::vector<TableRecord>& first() const noexcept { return first_; }
@@ -48,16 +59,16 @@ private:
     void sort();
     void readFirst();
 
-    const TableOptions& options_;
+    const RecordsTableOptions& options_;
     Report report_;
-    data::RecordsText text_;
+    RecordsText text_;
     bool areJson_;
-    std::unique_ptr<data::RecordSource> source_;
-    std::optional<data::KeptRows> sorted_;
+    std::unique_ptr<RecordSource> source_;
+    std::optional<KeptRows> sorted_;
     std::size_t read_ = 0;
     std::vector<TableRecord> first_;
     std::size_t taken_ = 0;
     std::int64_t line_ = 0;
 };
 
-}  // namespace quorvane::cli
+}  // namespace quorvane::data

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "cli/TableOptions.h"
+#include "data/RecordsTableOptions.h"
 #include "data/columnsMeasure.h"
 #include "data/columnsNumber.h"
 #include "data/columnsRequest.h"
@@ -16,7 +16,7 @@
 #include "data/locale.h"
 #include "quorvane/compose/TableSetup.h"
 
-namespace quorvane::cli {
+namespace quorvane::data {
 
 /// A record that is kept.
 struct TableRecord {
@@ -29,8 +29,8 @@ struct TableRecord {
 class TableColumns {
 public:
     /// Takes the columns of the options, or all fields but that of the groups and the blank ones.
-    /// Error 5 for columns that are wrong or name no field.
-    TableColumns(const TableOptions& options, const std::vector<std::string>& names,
+    /// Error 5 for columns that are wrong or name no field; an `OptionError` for a wrong locale.
+    TableColumns(const RecordsTableOptions& options, const std::vector<std::string>& names,
                  const std::vector<std::size_t>& blankFields);
 
     /// Finds out how numbers and dates are written in the columns, by the first records. Numbers of
@@ -38,9 +38,7 @@ public:
     /// their parts, it is that of the locale.
     void findSigns(const std::vector<TableRecord>& records, bool areJson);
     /// The decimal sign of a column; nothing where it is not known.
-    std::optional<data::DecimalSign> decimalSign(std::size_t column) const {
-        return signs_[column];
-    }
+    std::optional<DecimalSign> decimalSign(std::size_t column) const { return signs_[column]; }
 
     /// Adds the columns with widths and alignments that suit the first records. If it may choose
     /// the page, it turns it for wide tables.
@@ -65,24 +63,26 @@ private:
     void findDateOrders(const std::vector<TableRecord>& records);
     std::string plain(std::size_t column, std::string_view value) const;
     std::string plainDate(std::size_t column, std::string_view value) const;
-    std::vector<data::ColumnMeasure> measured(const std::vector<TableRecord>& records);
+    std::vector<ColumnMeasure> measured(const std::vector<TableRecord>& records);
 
-    std::vector<data::ColumnRequest> columns_;
+    std::vector<ColumnRequest> columns_;
     bool hasLocale_;
-    data::Locale locale_;
+    Locale locale_;
     bool areNamed_;
     // The names of the fields that have a total.
     std::vector<std::string> totals_;
+    // What stands before the name of an option in messages.
+    std::string optionMark_;
     // The fields that the columns show, by position.
     std::vector<std::size_t> fields_;
     // The decimal signs of the columns.
-    std::vector<std::optional<data::DecimalSign>> signs_;
+    std::vector<std::optional<DecimalSign>> signs_;
     // Those that neither the first values nor the locale show.
     std::vector<bool> areGuessed_;
     // The orders of the dates in them.
-    std::vector<std::optional<data::DateOrder>> dateOrders_;
+    std::vector<std::optional<DateOrder>> dateOrders_;
     std::vector<std::string> filtered_;
     std::vector<std::string_view> cells_;
 };
 
-}  // namespace quorvane::cli
+}  // namespace quorvane::data

@@ -1,4 +1,4 @@
-#include "cli/TableOrder.h"
+#include "data/TableOrder.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -7,11 +7,11 @@
 #include <string_view>
 #include <unordered_map>
 
-#include "cli/localeOption.h"
 #include "data/fieldNamed.h"
+#include "data/optionLocale.h"
 #include "data/sortKey.h"
 
-namespace quorvane::cli {
+namespace quorvane::data {
 
 namespace {
 
@@ -38,35 +38,33 @@ private:
 
 struct Column {
     std::size_t field;
-    data::SortColumn order;
+    SortColumn order;
 };
 
-std::vector<Column> columnsOf(const std::vector<data::SortRequest>& requests,
+std::vector<Column> columnsOf(const std::vector<SortRequest>& requests,
                               const std::vector<std::string>& names, bool areJson) {
     std::vector<Column> columns;
     columns.reserve(requests.size());
-    for (const data::SortRequest& request : requests) {
-        columns.push_back({data::fieldNamed(request.name, names),
-                           data::SortColumn(request.isDescending, areJson)});
+    for (const SortRequest& request : requests) {
+        columns.push_back(
+            {fieldNamed(request.name, names), SortColumn(request.isDescending, areJson)});
     }
     return columns;
 }
 
 }  // namespace
 
-TableOrder::TableOrder(const TableOptions& options)
-    : requests_(data::sortRequests(*options.sort)), groupBy_(options.groupBy) {
+TableOrder::TableOrder(const RecordsTableOptions& options)
+    : requests_(sortRequests(*options.sort)), groupBy_(options.groupBy) {
     if (options.locale) {
-        locale_ = localeOf(options.locale);
+        locale_ = optionLocale(options.locale);
     }
     // The field of the groups comes first.
-    std::stable_partition(
-        requests_.begin(), requests_.end(),
-        [&](const data::SortRequest& request) { return request.name == groupBy_; });
+    std::stable_partition(requests_.begin(), requests_.end(),
+                          [&](const SortRequest& request) { return request.name == groupBy_; });
 }
 
-void TableOrder::sort(data::KeptRows& rows, const std::vector<std::string>& names,
-                      bool areJson) const {
+void TableOrder::sort(KeptRows& rows, const std::vector<std::string>& names, bool areJson) const {
     std::vector<Column> columns = columnsOf(requests_, names, areJson);
     std::vector<std::string_view> fields;
     for (std::size_t i = 0; i < rows.size(); ++i) {
@@ -79,7 +77,7 @@ void TableOrder::sort(data::KeptRows& rows, const std::vector<std::string>& name
         column.order.decide(names[column.field], locale_ ? &*locale_ : nullptr);
     }
     const std::optional<std::size_t> group =
-        groupBy_ ? std::optional(data::fieldNamed(*groupBy_, names)) : std::nullopt;
+        groupBy_ ? std::optional(fieldNamed(*groupBy_, names)) : std::nullopt;
     const bool sortsGroups = group && columns.front().field == *group;
     GroupNumbers numbers;
     rows.sort([&](std::span<const std::string_view> row, std::string& key) {
@@ -96,4 +94,4 @@ void TableOrder::sort(data::KeptRows& rows, const std::vector<std::string>& name
     });
 }
 
-}  // namespace quorvane::cli
+}  // namespace quorvane::data

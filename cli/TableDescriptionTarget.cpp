@@ -1,4 +1,4 @@
-#include "cli/TableTarget.h"
+#include "cli/TableDescriptionTarget.h"
 
 #include <cstddef>
 #include <utility>

@@ -1,35 +1,35 @@
-#include "cli/TableColumns.h"
+#include "data/TableColumns.h"
 
 #include <algorithm>
 #include <iterator>
 
-#include "cli/localeOption.h"
 #include "data/columnsFit.h"
 #include "data/columnsMeasure.h"
 #include "data/fieldNamed.h"
+#include "data/optionLocale.h"
 #include "data/refuse.h"
 #include "quorvane/base/values/RtfError.h"
 
-namespace quorvane::cli {
+namespace quorvane::data {
 
 namespace {
 
 /// The columns of all these fields.
-std::vector<data::ColumnRequest> requestsOf(const std::vector<std::size_t>& fields,
-                                            const std::vector<std::string>& names) {
-    std::vector<data::ColumnRequest> columns;
-    std::ranges::transform(fields, std::back_inserter(columns), [&](std::size_t field) {
-        return data::ColumnRequest{.name = names[field]};
-    });
+std::vector<ColumnRequest> requestsOf(const std::vector<std::size_t>& fields,
+                                      const std::vector<std::string>& names) {
+    std::vector<ColumnRequest> columns;
+    std::transform(fields.begin(), fields.end(), std::back_inserter(columns),
+                   [&](std::size_t field) { return ColumnRequest{.name = names[field]}; });
     return columns;
 }
 
-std::vector<std::size_t> shownFields(const TableOptions& options,
+std::vector<std::size_t> shownFields(const RecordsTableOptions& options,
                                      const std::vector<std::string>& names,
                                      const std::vector<std::size_t>& blankFields) {
     std::vector<std::size_t> fields;
     for (std::size_t i = 0; i < names.size(); ++i) {
-        if (names[i] != options.groupBy && !std::ranges::binary_search(blankFields, i)) {
+        if (names[i] != options.groupBy &&
+            !std::binary_search(blankFields.begin(), blankFields.end(), i)) {
             fields.push_back(i);
         }
     }
@@ -37,25 +37,27 @@ std::vector<std::size_t> shownFields(const TableOptions& options,
 }
 
 /// The kind of the filter that values come to first; `default` lets them pass.
-std::optional<data::FilterKind> firstFilter(const data::ColumnRequest& column) {
-    const auto first = std::ranges::find_if(column.filters, [](const data::Filter& filter) {
-        return filter.kind != data::FilterKind::Default;
-    });
+std::optional<FilterKind> firstFilter(const ColumnRequest& column) {
+    const auto first =
+        std::find_if(column.filters.begin(), column.filters.end(),
+                     [](const Filter& filter) { return filter.kind != FilterKind::Default; });
     return first == column.filters.end() ? std::nullopt : std::optional(first->kind);
 }
 
 }  // namespace
 
-TableColumns::TableColumns(const TableOptions& options, const std::vector<std::string>& names,
+TableColumns::TableColumns(const RecordsTableOptions& options,
+                           const std::vector<std::string>& names,
                            const std::vector<std::size_t>& blankFields)
     : hasLocale_(options.locale.has_value()),
-      locale_(localeOf(options.locale)),
+      locale_(optionLocale(options.locale)),
       areNamed_(options.columns.has_value()),
-      totals_(options.totals) {
+      totals_(options.totals),
+      optionMark_(options.optionMark) {
     if (areNamed_) {
-        columns_ = data::columnRequests(*options.columns);
-        for (const data::ColumnRequest& column : columns_) {
-            fields_.push_back(data::fieldNamed(column.name, names));
+        columns_ = columnRequests(*options.columns);
+        for (const ColumnRequest& column : columns_) {
+            fields_.push_back(fieldNamed(column.name, names));
         }
     } else {
         fields_ = shownFields(options, names, blankFields);
@@ -70,14 +72,14 @@ TableColumns::TableColumns(const TableOptions& options, const std::vector<std::s
 
 void TableColumns::fit(TableSetup& setup, const std::vector<TableRecord>& records,
                        bool choosesPage) {
-    data::fitColumns(setup, columns_, measured(records), choosesPage);
+    fitColumns(setup, columns_, measured(records), choosesPage);
 }
 
-std::vector<data::ColumnMeasure> TableColumns::measured(const std::vector<TableRecord>& records) {
-    std::vector<data::ColumnMeasure> measures(columns_.size());
+std::vector<ColumnMeasure> TableColumns::measured(const std::vector<TableRecord>& records) {
+    std::vector<ColumnMeasure> measures(columns_.size());
     for (std::size_t i = 0; i < columns_.size(); ++i) {
         measures[i].addHeading(columns_[i].heading.value_or(columns_[i].name));
-        if (std::ranges::count(totals_, columns_[i].name) > 0) {
+        if (std::count(totals_.begin(), totals_.end(), columns_[i].name) > 0) {
             measures[i].addTotal();
         }
     }
@@ -99,7 +101,7 @@ std::vector<data::ColumnMeasure> TableColumns::measured(const std::vector<TableR
 std::size_t TableColumns::columnOf(std::string_view name) const {
     return static_cast<std::size_t>(
         std::find_if(columns_.begin(), columns_.end(),
-                     [&](const data::ColumnRequest& column) { return column.name == name; }) -
+                     [&](const ColumnRequest& column) { return column.name == name; }) -
         columns_.begin());
 }
 
@@ -119,7 +121,7 @@ std::span<const std::string_view> TableColumns::cells(std::span<const std::strin
 }
 
 void TableColumns::findSigns(const std::vector<TableRecord>& records, bool areJson) {
-    using enum data::DecimalSign;
+    using enum DecimalSign;
     findDateOrders(records);
     for (std::size_t i = 0; i < columns_.size(); ++i) {
         if (areJson) {
@@ -127,7 +129,7 @@ void TableColumns::findSigns(const std::vector<TableRecord>& records, bool areJs
         }
         for (auto record = records.begin(); record != records.end() && !signs_[i]; ++record) {
             if (fields_[i] < record->fields.size()) {
-                signs_[i] = data::shownSign(record->fields[fields_[i]]);
+                signs_[i] = shownSign(record->fields[fields_[i]]);
             }
         }
         if (!signs_[i] && hasLocale_) {
@@ -142,10 +144,10 @@ void TableColumns::findSigns(const std::vector<TableRecord>& records, bool areJs
 
 void TableColumns::findDateOrders(const std::vector<TableRecord>& records) {
     for (std::size_t i = 0; i < columns_.size(); ++i) {
-        std::optional<data::DateOrder>& order = dateOrders_[i];
+        std::optional<DateOrder>& order = dateOrders_[i];
         for (auto record = records.begin(); record != records.end() && !order; ++record) {
             if (readsDates(i) && fields_[i] < record->fields.size()) {
-                order = data::shownDateOrder(record->fields[fields_[i]]);
+                order = shownDateOrder(record->fields[fields_[i]]);
             }
         }
         if (!order && hasLocale_) {
@@ -155,29 +157,27 @@ void TableColumns::findDateOrders(const std::vector<TableRecord>& records) {
 }
 
 bool TableColumns::readsNumbers(std::size_t column) const {
-    const std::optional<data::FilterKind> first = firstFilter(columns_[column]);
-    return first == data::FilterKind::Number || first == data::FilterKind::Money;
+    const std::optional<FilterKind> first = firstFilter(columns_[column]);
+    return first == FilterKind::Number || first == FilterKind::Money;
 }
 
 bool TableColumns::readsDates(std::size_t column) const {
-    return firstFilter(columns_[column]) == data::FilterKind::Date;
+    return firstFilter(columns_[column]) == FilterKind::Date;
 }
 
 /// The date as a filter reads it.
 std::string TableColumns::plainDate(std::size_t column, std::string_view value) const {
-    const std::optional<data::DateOrder> order = dateOrders_[column];
-    if (!order && data::isAmbiguousDate(value)) {
-        data::refuse(
-            "\"" + columns_[column].name + "\": \"" + std::string(value) +
-            "\" can begin with the day or the month. Choose one with --locale, such as en-GB or "
-            "en-US.");
+    const std::optional<DateOrder> order = dateOrders_[column];
+    if (!order && isAmbiguousDate(value)) {
+        refuse("\"" + columns_[column].name + "\": \"" + std::string(value) +
+               "\" can begin with the day or the month. Choose one with " + optionMark_ +
+               "locale, such as en-GB or en-US.");
     }
-    const std::optional<std::string> iso =
-        data::isoDate(value, order.value_or(data::DateOrder::DayMonthYear));
+    const std::optional<std::string> iso = isoDate(value, order.value_or(DateOrder::DayMonthYear));
     if (!iso && order) {
-        data::refuse("\"" + columns_[column].name + "\": \"" + std::string(value) +
-                     "\" is not an existing date of the form 2026-11-22 or " +
-                     std::string(data::dateExample(*order)) + ".");
+        refuse("\"" + columns_[column].name + "\": \"" + std::string(value) +
+               "\" is not an existing date of the form 2026-11-22 or " +
+               std::string(dateExample(*order)) + ".");
     }
     return iso.value_or(std::string(value));
 }
@@ -187,34 +187,33 @@ std::string TableColumns::plain(std::size_t column, std::string_view value) cons
     if (readsDates(column) && !value.empty()) {
         return plainDate(column, value);
     }
-    const std::optional<data::WrittenNumber> number = data::writtenNumber(value);
+    const std::optional<WrittenNumber> number = writtenNumber(value);
     if (!readsNumbers(column) || !signs_[column] || !number || !number->before.empty() ||
         !number->after.empty()) {
         return std::string(value);
     }
-    if (areGuessed_[column] && data::isAmbiguousNumber(value)) {
-        data::refuse(
-            "\"" + columns_[column].name + "\": \"" + std::string(value) +
-            "\" can be read in two ways. Choose one with --locale, such as en-US or de-DE.");
+    if (areGuessed_[column] && isAmbiguousNumber(value)) {
+        refuse("\"" + columns_[column].name + "\": \"" + std::string(value) +
+               "\" can be read in two ways. Choose one with " + optionMark_ +
+               "locale, such as en-US or de-DE.");
     }
-    const std::optional<std::string> plain = data::plainNumber(*number, *signs_[column]);
-    if (!plain && *signs_[column] == data::DecimalSign::Comma) {
-        data::refuse(
-            "\"" + columns_[column].name + "\": \"" + std::string(value) +
-            "\" is not a number with a decimal comma, as the column or the locale has it.");
+    const std::optional<std::string> plain = plainNumber(*number, *signs_[column]);
+    if (!plain && *signs_[column] == DecimalSign::Comma) {
+        refuse("\"" + columns_[column].name + "\": \"" + std::string(value) +
+               "\" is not a number with a decimal comma, as the column or the locale has it.");
     }
     return plain.value_or(std::string(value));
 }
 
 std::string TableColumns::shown(std::size_t column, std::string_view value) const {
     std::string text(value);
-    for (const data::Filter& filter : columns_[column].filters) {
-        if (filter.kind == data::FilterKind::Default) {
+    for (const Filter& filter : columns_[column].filters) {
+        if (filter.kind == FilterKind::Default) {
             text = text.empty() ? filter.argument : text;
         } else if (!text.empty()) {
-            data::FilterResult result = filter.apply(text, locale_);
+            FilterResult result = filter.apply(text, locale_);
             if (!result.error.empty()) {
-                data::refuse("\"" + columns_[column].name + "\": " + result.error + ".");
+                refuse("\"" + columns_[column].name + "\": " + result.error + ".");
             }
             text = std::move(result.text);
         }
@@ -222,4 +221,4 @@ std::string TableColumns::shown(std::size_t column, std::string_view value) cons
     return text;
 }
 
-}  // namespace quorvane::cli
+}  // namespace quorvane::data

@@ -1,41 +1,44 @@
-#include "cli/TableRecords.h"
+#include "data/TableRecords.h"
 
 #include <algorithm>
 #include <optional>
 #include <utility>
 
-#include "cli/TableOrder.h"
-#include "cli/asUsage.h"
+#include "data/OptionError.h"
+#include "data/TableOrder.h"
 #include "data/csvRecords.h"
+#include "data/recordsFile.h"
 #include "data/recordsJson.h"
 
-namespace quorvane::cli {
+namespace quorvane::data {
 
 namespace {
 
-bool isJson(const TableOptions& options, data::RecordsText& text) {
-    return areJsonRecords(options.input, text, options.delimiter.has_value());
+bool isJson(const RecordsInput& input, RecordsText& text, bool hasDelimiter) {
+    return input.form == RecordsForm::Any ? areJsonRecords(input.path, text, hasDelimiter)
+                                          : input.form == RecordsForm::Json;
 }
 
-std::unique_ptr<data::RecordSource> sourceOf(const TableOptions& options, data::RecordsText& text,
-                                             bool areJson) {
+std::unique_ptr<RecordSource> sourceOf(const RecordsTableOptions& options, RecordsText& text,
+                                       bool areJson) {
     if (areJson) {
-        return std::make_unique<data::JsonRecords>(text);
+        return std::make_unique<JsonRecords>(text);
     }
     std::optional<char> delimiter;
     if (options.delimiter) {
         delimiter = *options.delimiter == "tab" ? '\t' : options.delimiter->front();
     }
-    return std::make_unique<data::CsvRecords>(text, delimiter);
+    return std::make_unique<CsvRecords>(text, delimiter);
 }
 
 }  // namespace
 
-TableRecords::TableRecords(const TableOptions& options, Report report)
+TableRecords::TableRecords(const RecordsInput& input, const RecordsTableOptions& options,
+                           Report report)
     : options_(options),
       report_(std::move(report)),
-      text_(openRecords(options.input), options.encoding),
-      areJson_(isJson(options, requireText(text_))),
+      text_(input.read, options.encoding),
+      areJson_(isJson(input, requireText(text_), options.delimiter.has_value())),
       source_(sourceOf(options, text_, areJson_)) {
     if (options_.sort) {
         sort();
@@ -44,13 +47,13 @@ TableRecords::TableRecords(const TableOptions& options, Report report)
 }
 
 void TableRecords::sort() {
-    const TableOrder order = asUsage([&] { return TableOrder(options_); });
+    const TableOrder order = asOptionError([&] { return TableOrder(options_); });
     sorted_.emplace();
     std::vector<std::string_view> fields;
     while (readSource(fields)) {
         sorted_->add(fields, source_->line());
     }
-    asUsage([&] { order.sort(*sorted_, source_->names(), areJson_); });
+    asOptionError([&] { order.sort(*sorted_, source_->names(), areJson_); });
 }
 
 std::vector<std::size_t> TableRecords::blankFields() const {
@@ -59,7 +62,7 @@ std::vector<std::size_t> TableRecords::blankFields() const {
         const auto isBlank = [i](const TableRecord& record) {
             return i >= record.fields.size() || record.fields[i].empty();
         };
-        if (!source_->hasHeading(i) && std::ranges::all_of(first_, isBlank)) {
+        if (!source_->hasHeading(i) && std::all_of(first_.begin(), first_.end(), isBlank)) {
             blank.push_back(i);
         }
     }
@@ -101,7 +104,7 @@ bool TableRecords::readSource(std::vector<std::string_view>& fields) {
     for (;;) {
         try {
             return source_->next(fields);
-        } catch (const data::RecordError& error) {
+        } catch (const RecordError& error) {
             if (!options_.keepGoing || !error.canGoOn) {
                 throw;
             }
@@ -120,4 +123,4 @@ bool TableRecords::next(std::vector<std::string_view>& fields) {
     return true;
 }
 
-}  // namespace quorvane::cli
+}  // namespace quorvane::data
