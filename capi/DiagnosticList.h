@@ -17,6 +17,8 @@ public:
     void clear() noexcept;
     /// Appends diagnostics about a file.
     void add(const std::string& file, const std::vector<Diagnostic>& diagnostics);
+    /// Appends one with an identifier of its own, a literal.
+    void add(const std::string& file, const char* identifier, const Diagnostic& diagnostic);
 
     std::size_t size() const noexcept { return seen_.size(); }
     const quorvane_diagnostic& operator[](std::size_t index) const { return seen_[index]; }

@@ -30,6 +30,14 @@ Type& requireArgument(Type* pointer, const char* name) {
     return *pointer;
 }
 
+/// "yes" or "no".
+inline bool choiceArgument(std::string_view value, const char* name) {
+    if (value != "yes" && value != "no") {
+        throw CallError(std::string("The ") + name + " is \"yes\" or \"no\".");
+    }
+    return value == "yes";
+}
+
 /// A constant of an enumeration, whose last one is `last`.
 inline int enumArgument(int value, int last, const char* name) {
     if (value < 0 || value > last) {

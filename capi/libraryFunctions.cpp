@@ -11,7 +11,8 @@
 
 namespace {
 
-constexpr std::string_view features[] = {"documents", "extended-language", "tables", "templates"};
+constexpr std::string_view features[] = {"data-tables", "documents", "extended-language", "tables",
+                                         "templates"};
 
 constexpr const char* statusNames[] = {"ok",         "wrong call", "out of memory", "wrong content",
                                        "file error", "stopped",    "internal error"};

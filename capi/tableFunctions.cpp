@@ -6,6 +6,9 @@
 #include <utility>
 #include <vector>
 
+#include "capi/FittedTable.h"
+#include "capi/RecordsData.h"
+#include "capi/TableData.h"
 #include "capi/arguments.h"
 #include "capi/callError.h"
 #include "capi/guarded.h"
@@ -13,6 +16,7 @@
 #include "capi/rowTexts.h"
 #include "capi/tableHandle.h"
 #include "capi/writeCallback.h"
+#include "data/recordsFile.h"
 #include "quorvane/base/platform/Platform.h"
 
 namespace {
@@ -21,27 +25,26 @@ using namespace quorvane;
 using namespace quorvane::capi;
 
 void requireUnbegun(const quorvane_table& table) {
-    if (table.writer) {
+    if (table.isBegun) {
         throw CallError("The table was begun; add columns and set options before.");
     }
 }
 
-TableWriter& requireBegun(const quorvane_table& table) {
-    if (!table.writer || table.isEnded) {
-        throw CallError(table.writer ? "The table is finished, or could not be written."
-                                     : "Begin the table first.");
+void requireNotEnded(const quorvane_table& table) {
+    if (!table.isBegun || table.isEnded) {
+        throw CallError(table.isBegun ? "The table is finished, or could not be written."
+                                      : "Begin the table first.");
     }
-    return *table.writer;
 }
 
-bool choiceOf(std::string_view value) {
-    if (value != "yes" && value != "no") {
-        throw CallError("The heading is \"yes\" or \"no\".");
+void requireRows(const quorvane_table& table) {
+    requireNotEnded(table);
+    if (table.data) {
+        throw CallError("The rows of this table come from its data.");
     }
-    return value == "yes";
 }
 
-/// The setting of an option; null for the one that is not a text.
+/// The setting of an option; null for one that is not a text of the setup.
 std::string* settingOf(TableSetup& setup, int option) {
     switch (option) {
         case QUORVANE_TABLE_TITLE:
@@ -68,11 +71,36 @@ std::string* settingOf(TableSetup& setup, int option) {
             return &setup.footer.center;
         case QUORVANE_TABLE_FOOTER_RIGHT:
             return &setup.footer.right;
-        case QUORVANE_TABLE_HEADING:
-            return nullptr;
         default:
-            throw CallError("The argument option is not one of its constants.");
+            return nullptr;
     }
+}
+
+void setOption(quorvane_table& table, int option, std::string_view value) {
+    if (std::string* const setting = settingOf(table.setup, option)) {
+        *setting = value;
+        table.isPageChosen = table.isPageChosen || option == QUORVANE_TABLE_PAGE;
+    } else if (option == QUORVANE_TABLE_HEADING) {
+        table.setup.hasHeading = choiceArgument(value, "heading");
+    } else if (option == QUORVANE_TABLE_GROUP_PAGES) {
+        table.setup.groupsStartPages = choiceArgument(value, "option for pages of groups");
+    } else if (table.data) {
+        table.data->setOption(option, value);
+    } else {
+        enumArgument(option, QUORVANE_TABLE_KEEP_GOING, "option");
+        throw CallError("This option is for tables of data; set the data before.");
+    }
+}
+
+/// Makes the table one of data.
+void setData(quorvane_table& table, RecordsData::Open open, std::string name, int format) {
+    requireUnbegun(table);
+    if (!table.setup.columns.empty()) {
+        throw CallError(
+            "The table has columns, and those of data come from it; set QUORVANE_TABLE_COLUMNS.");
+    }
+    const auto form = static_cast<data::RecordsForm>(enumArgument(format, QUORVANE_JSON, "format"));
+    table.data = std::make_unique<RecordsData>(std::move(open), std::move(name), form);
 }
 
 /// Runs what writes bytes. After any error but that of a wrong row the document is not whole.
@@ -91,22 +119,80 @@ void writing(quorvane_table& table, Action&& action) {
     table.isEnded = false;
 }
 
-void begin(quorvane_table& table, TableWriter::Sink sink) {
-    table.writer = std::make_unique<TableWriter>(table.setup, std::move(sink));
+void begin(quorvane_table& table, const OpenTable& open) {
+    if (table.data) {
+        table.data->begin(table.setup, table.isPageChosen, open);
+    } else if (table.kept) {
+        table.kept->begin(table.setup, table.isPageChosen, open);
+    } else {
+        table.writer = open(table.setup);
+    }
+}
+
+void beginWith(quorvane_table& table, const TableWriter::Sink& sink) {
+    begin(table,
+          [sink](const TableSetup& setup) { return std::make_unique<TableWriter>(setup, sink); });
 }
 
 void beginInMemory(quorvane_table& table) {
     table.memory.emplace();
-    begin(table, [&table](std::string_view bytes) { *table.memory += bytes; });
+    beginWith(table, [&table](std::string_view bytes) { *table.memory += bytes; });
+}
+
+/// Opens the file now, and not when there are enough rows.
+void beginKeptFile(quorvane_table& table, const std::string& path) {
+    const auto file = std::make_shared<std::unique_ptr<OutputFile>>();
+    begin(table, [file](const TableSetup& setup) {
+        return std::make_unique<TableWriter>(setup, std::move(*file));
+    });
+    *file = writingFile(path, [&] { return systemPlatform().replaceFile(path); });
 }
 
 void beginFile(quorvane_table& table, std::string path) {
-    // What is wrong with the setup shows before there is a file.
-    const TableWriter trial(table.setup, [](std::string_view) {});
-    table.writer = writingFile(path, [&] {
-        return std::make_unique<TableWriter>(table.setup, systemPlatform().replaceFile(path));
-    });
+    if (table.kept && !table.data) {
+        beginKeptFile(table, path);
+    } else {
+        begin(table, [path](const TableSetup& setup) {
+            // What is wrong with the setup shows before there is a file.
+            const TableWriter trial(setup, [](std::string_view) {});
+            return writingFile(path, [&] {
+                return std::make_unique<TableWriter>(setup, systemPlatform().replaceFile(path));
+            });
+        });
+    }
     table.path = std::move(path);
+}
+
+/// Adds a row to what is written, or to what is kept.
+void add(quorvane_table& table, RowKind kind, std::span<const std::string_view> cells) {
+    if (table.writer) {
+        addRow(*table.writer, kind, cells);
+        return;
+    }
+    table.writer = table.kept->add(kind, cells);
+    if (table.writer) {
+        table.kept.reset();
+    }
+}
+
+void finishRows(quorvane_table& table) {
+    if (!table.writer) {
+        table.writer = table.kept->write();
+    }
+    table.writer->finish();
+}
+
+/// Writes the rows of the data. After any error the document is not whole.
+void finishData(quorvane_table& table) {
+    table.isEnded = true;
+    try {
+        table.data->finish();
+    } catch (const RtfError& error) {
+        if (!error.is(RunTimeError::InvalidProcedureCall)) {
+            throw FileFailure{table.path, error};
+        }
+        throw;
+    }
 }
 
 }  // namespace
@@ -132,6 +218,9 @@ quorvane_status quorvane_table_add_column(quorvane_table* table, const char* hea
                                           size_t width_length, int align) {
     return guarded(table, [&] {
         requireUnbegun(*table);
+        if (table->data) {
+            throw CallError("The columns come from the data; set QUORVANE_TABLE_COLUMNS.");
+        }
         table->setup.columns.push_back(
             {std::string(textArgument(heading, heading_length)),
              std::string(textArgument(width, width_length)),
@@ -143,12 +232,34 @@ quorvane_status quorvane_table_set(quorvane_table* table, int option, const char
                                    size_t length) {
     return guarded(table, [&] {
         requireUnbegun(*table);
-        const std::string_view text = textArgument(value, length);
-        if (std::string* const setting = settingOf(table->setup, option)) {
-            *setting = text;
-        } else {
-            table->setup.hasHeading = choiceOf(text);
-        }
+        setOption(*table, option, textArgument(value, length));
+    });
+}
+
+quorvane_status quorvane_table_fit_columns(quorvane_table* table) {
+    return guarded(table, [&] {
+        requireUnbegun(*table);
+        table->kept = std::make_unique<FittedTable>();
+    });
+}
+
+quorvane_status quorvane_table_set_data(quorvane_table* table, const char* bytes, size_t length,
+                                        int format, const char* name, size_t name_length) {
+    return guarded(table, [&] {
+        const std::string_view text = textArgument(bytes, length);
+        const std::string_view given = textArgument(name, name_length);
+        setData(
+            *table, [text] { return data::readerOf(text); },
+            std::string(given.empty() ? "data" : given), format);
+    });
+}
+
+quorvane_status quorvane_table_set_data_file(quorvane_table* table, const char* path, size_t length,
+                                             int format) {
+    return guarded(table, [&] {
+        std::string file(textArgument(path, length));
+        setData(
+            *table, [file] { return data::openRecordsFile(file); }, file, format);
     });
 }
 
@@ -156,6 +267,7 @@ quorvane_status quorvane_table_begin(quorvane_table* table) {
     return guarded(table, [&] {
         requireUnbegun(*table);
         beginInMemory(*table);
+        table->isBegun = true;
     });
 }
 
@@ -163,7 +275,8 @@ quorvane_status quorvane_table_begin_to(quorvane_table* table, quorvane_write_ca
                                         void* user) {
     return guarded(table, [&] {
         requireUnbegun(*table);
-        begin(*table, WriteCallback(write, user));
+        beginWith(*table, WriteCallback(write, user));
+        table->isBegun = true;
     });
 }
 
@@ -171,15 +284,16 @@ quorvane_status quorvane_table_begin_file(quorvane_table* table, const char* pat
     return guarded(table, [&] {
         requireUnbegun(*table);
         beginFile(*table, std::string(textArgument(path, length)));
+        table->isBegun = true;
     });
 }
 
 quorvane_status quorvane_table_add_row(quorvane_table* table, const char* const texts[],
                                        const size_t lengths[], size_t count) {
     return guarded(table, [&] {
-        TableWriter& writer = requireBegun(*table);
+        requireRows(*table);
         const RowTexts row(texts, lengths, count);
-        writing(*table, [&] { writer.addRow(row.cells()); });
+        writing(*table, [&] { add(*table, RowKind::Row, row.cells()); });
     });
 }
 
@@ -189,11 +303,11 @@ quorvane_status quorvane_table_add_rows(quorvane_table* table, const char* texts
         *added = 0;
     }
     return guarded(table, [&] {
-        TableWriter& writer = requireBegun(*table);
+        requireRows(*table);
         JoinedRows joined(textArgument(texts, length), cells_in_row, rows);
         writing(*table, [&] {
             while (joined.next()) {
-                writer.addRow(joined.cells());
+                add(*table, RowKind::Row, joined.cells());
                 if (added) {
                     ++*added;
                 }
@@ -205,25 +319,29 @@ quorvane_status quorvane_table_add_rows(quorvane_table* table, const char* texts
 quorvane_status quorvane_table_add_group(quorvane_table* table, const char* heading,
                                          size_t length) {
     return guarded(table, [&] {
-        TableWriter& writer = requireBegun(*table);
+        requireRows(*table);
         const std::string_view text = textArgument(heading, length);
-        writing(*table, [&] { writer.addGroup(text); });
+        writing(*table, [&] { add(*table, RowKind::Group, {&text, 1}); });
     });
 }
 
 quorvane_status quorvane_table_add_total(quorvane_table* table, const char* const texts[],
                                          const size_t lengths[], size_t count) {
     return guarded(table, [&] {
-        TableWriter& writer = requireBegun(*table);
+        requireRows(*table);
         const RowTexts row(texts, lengths, count);
-        writing(*table, [&] { writer.addTotal(row.cells()); });
+        writing(*table, [&] { add(*table, RowKind::Total, row.cells()); });
     });
 }
 
 quorvane_status quorvane_table_finish(quorvane_table* table) {
     return guarded(table, [&] {
-        TableWriter& writer = requireBegun(*table);
-        writing(*table, [&] { writer.finish(); });
+        requireNotEnded(*table);
+        if (table->data) {
+            finishData(*table);
+        } else {
+            writing(*table, [&] { finishRows(*table); });
+        }
         table->isEnded = true;
         table->isFinished = true;
     });
@@ -240,4 +358,13 @@ quorvane_status quorvane_table_take(quorvane_table* table, char** rtf, size_t* l
         table->memory.reset();
     }
     return status;
+}
+
+size_t quorvane_table_diagnostic_count(const quorvane_table* table) {
+    return table && table->data ? table->data->diagnostics().size() : 0;
+}
+
+const quorvane_diagnostic* quorvane_table_diagnostic(const quorvane_table* table, size_t index) {
+    return index < quorvane_table_diagnostic_count(table) ? &table->data->diagnostics()[index]
+                                                          : nullptr;
 }

@@ -7,6 +7,7 @@
 #include "data/OptionError.h"
 #include "data/TableOrder.h"
 #include "data/csvRecords.h"
+#include "data/firstRecords.h"
 #include "data/recordsFile.h"
 #include "data/recordsJson.h"
 
@@ -70,18 +71,12 @@ std::vector<std::size_t> TableRecords::blankFields() const {
     return blank.size() < names().size() ? blank : std::vector<std::size_t>();
 }
 
-/// So many that their widths are those of most records, and so few that they take little memory.
 void TableRecords::readFirst() {
-    constexpr std::size_t enoughRecords = 1000;
-    constexpr std::size_t enoughBytes = std::size_t{1024} * 1024;
-    const std::size_t most = std::min(enoughRecords, options_.limit.value_or(enoughRecords));
-    std::size_t bytes = 0;
+    FirstRecords first;
     std::vector<std::string_view> fields;
-    while (first_.size() < most && bytes < enoughBytes && read(fields)) {
+    while (first.needsMore() && first_.size() != options_.limit && read(fields)) {
         first_.push_back({{fields.begin(), fields.end()}, line_});
-        for (const std::string_view field : fields) {
-            bytes += field.size();
-        }
+        first.add(fields);
     }
 }
 

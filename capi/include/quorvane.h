@@ -8,7 +8,7 @@
  * table. There are three ways to a document, each with its handle:
  *
  *  - a `quorvane_job` renders, checks and formats descriptions and stylesheets,
- *  - a `quorvane_table` writes the rows of a long table as they come,
+ *  - a `quorvane_table` writes the rows of a long table as they come, or those of a data file,
  *  - a `quorvane_document` is built from rows, cells and paragraphs.
  *
  * Status and error. A function that can fail returns a `quorvane_status`. What went wrong is in the
@@ -164,7 +164,7 @@ QUORVANE_API const char* quorvane_version(void);
 
 /**
  * Returns 1 if the library has a feature, 0 otherwise: "extended-language", "templates", "tables",
- * "documents".
+ * "documents", "data-tables".
  */
 QUORVANE_API int quorvane_has_feature(const char* name, size_t length);
 
@@ -362,8 +362,45 @@ typedef enum quorvane_table_option {
     QUORVANE_TABLE_HEADER_RIGHT = 9,
     QUORVANE_TABLE_FOOTER_LEFT = 10,
     QUORVANE_TABLE_FOOTER_CENTER = 11,
-    QUORVANE_TABLE_FOOTER_RIGHT = 12
+    QUORVANE_TABLE_FOOTER_RIGHT = 12,
+    /** "yes" begins a page with each group but the first; "no" by default. */
+    QUORVANE_TABLE_GROUP_PAGES = 13,
+    /**
+     * The options from here on are for tables of data, which is set before them, and are those of
+     * `quorvane table` in docs/command.md. An empty text goes back to the default. The columns in
+     * their order, with headings, widths, alignments and filters, such as
+     * "sku:12%,price:Price:right:money:2"; all fields by default.
+     */
+    QUORVANE_TABLE_COLUMNS = 14,
+    /** How filters write numbers, and how the data has them: "de-DE", or a sample. */
+    QUORVANE_TABLE_LOCALE = 15,
+    /** What stands between the fields of CSV: one character, or "tab"; found by default. */
+    QUORVANE_TABLE_DELIMITER = 16,
+    /** "auto", the default, "utf-8" or "windows-1252". */
+    QUORVANE_TABLE_ENCODING = 17,
+    /** The order of the rows, such as "price:desc,name"; that of the data by default. */
+    QUORVANE_TABLE_SORT = 18,
+    /** A field whose values are headings above the rows that share them. */
+    QUORVANE_TABLE_GROUP_BY = 19,
+    /** A field whose column ends in its sum. Each call adds one; an empty text removes all. */
+    QUORVANE_TABLE_TOTAL = 20,
+    /** What the row of totals begins with; "Total" by default. */
+    QUORVANE_TABLE_TOTAL_LABEL = 21,
+    /** How many rows are shown at most, a number; all by default. */
+    QUORVANE_TABLE_LIMIT = 22,
+    /** "yes" leaves out the rows that are wrong, with a diagnostic for each; "no" by default. */
+    QUORVANE_TABLE_KEEP_GOING = 23
 } quorvane_table_option;
+
+/** What kind of text data is in. */
+typedef enum quorvane_data_format {
+    /** The extension of its name says it, or its beginning. */
+    QUORVANE_ANY_DATA = 0,
+    /** Rows with a delimiter between the fields, of which the first has the names. */
+    QUORVANE_CSV = 1,
+    /** A JSON array of objects, or JSON Lines. */
+    QUORVANE_JSON = 2
+} quorvane_data_format;
 
 /** Makes a table without columns. */
 QUORVANE_API quorvane_status quorvane_table_new(quorvane_table** table);
@@ -379,8 +416,8 @@ QUORVANE_API const char* quorvane_table_error_text(const quorvane_table* table);
 
 /**
  * Adds a column: the text in the heading row, its width as percent ("20%") or a length ("3cm") or
- * empty, and the alignment. Either all columns have a width or none has. `QUORVANE_WRONG_CALL`
- * after the table was begun.
+ * empty, and the alignment. Either all columns have a width or none has, unless
+ * `quorvane_table_fit_columns` fits the others. `QUORVANE_WRONG_CALL` after the table was begun.
  */
 QUORVANE_API quorvane_status quorvane_table_add_column(quorvane_table* table, const char* heading,
                                                        size_t heading_length, const char* width,
@@ -390,10 +427,37 @@ QUORVANE_API quorvane_status quorvane_table_set(quorvane_table* table, int optio
                                                 const char* value, size_t length);
 
 /**
+ * Makes columns as wide as the first 1,000 rows ask for, where they have no width. Columns of
+ * numbers without an alignment are at the right, and a wide table gets a page in landscape unless
+ * `QUORVANE_TABLE_PAGE` was set. These rows, or the first megabyte of them, are kept and then
+ * written; those after them are not kept. The columns of data are always as wide as that.
+ */
+QUORVANE_API quorvane_status quorvane_table_fit_columns(quorvane_table* table);
+/**
+ * Makes the table one of data: it shows the records of a CSV, JSON or JSON Lines text as `quorvane
+ * table` does, byte for byte, in columns as wide as their contents ask for. Then begin and finish
+ * the table; adding columns or rows is `QUORVANE_WRONG_CALL`. All rows are in memory only with
+ * `QUORVANE_TABLE_SORT`.
+ *
+ * The bytes are not copied: they must stay until the table is finished or released. Errors and
+ * diagnostics give them the name ("data" if it is empty), whose extension can say what they are.
+ * `format` is a `quorvane_data_format`.
+ */
+QUORVANE_API quorvane_status quorvane_table_set_data(quorvane_table* table, const char* bytes,
+                                                     size_t length, int format, const char* name,
+                                                     size_t name_length);
+/**
+ * Does the same with a file, which `quorvane_table_begin` opens: `QUORVANE_FILE_ERROR` if it cannot
+ * be read.
+ */
+QUORVANE_API quorvane_status quorvane_table_set_data_file(quorvane_table* table, const char* path,
+                                                          size_t length, int format);
+
+/**
  * Begin the document: in memory, for `quorvane_table_take`; through a callback; or in a file, which
  * appears whole with `quorvane_table_finish`, in the place of one that was there.
  * `QUORVANE_WRONG_CONTENT` for options that do not fit together, such as columns wider than the
- * page; change them and begin again.
+ * page, and for those that do not suit the data; change them and begin again.
  */
 QUORVANE_API quorvane_status quorvane_table_begin(quorvane_table* table);
 QUORVANE_API quorvane_status quorvane_table_begin_to(quorvane_table* table,
@@ -425,8 +489,24 @@ QUORVANE_API quorvane_status quorvane_table_add_group(quorvane_table* table, con
 QUORVANE_API quorvane_status quorvane_table_add_total(quorvane_table* table,
                                                       const char* const texts[],
                                                       const size_t lengths[], size_t count);
-/** Ends the document. Without it the document is not whole. */
+/**
+ * Ends the document. Without it the document is not whole. The rows of data are written now:
+ * `QUORVANE_WRONG_CONTENT`, with its line, for a record that cannot be shown, after which the
+ * document cannot be continued.
+ */
 QUORVANE_API quorvane_status quorvane_table_finish(quorvane_table* table);
+/**
+ * Returns how many diagnostics there are about the data of a table that was begun: an error
+ * "wrong-value" for each row that was left out, and a warning "scattered-groups" after the end if a
+ * group has several headings because its rows do not follow each other.
+ */
+QUORVANE_API size_t quorvane_table_diagnostic_count(const quorvane_table* table);
+/**
+ * Returns a diagnostic; null if there is none with this index. Valid until the next call on the
+ * table.
+ */
+QUORVANE_API const quorvane_diagnostic* quorvane_table_diagnostic(const quorvane_table* table,
+                                                                  size_t index);
 /** Returns a document that was begun in memory and is finished. It can be taken once. */
 QUORVANE_API quorvane_status quorvane_table_take(quorvane_table* table, char** rtf, size_t* length);
 

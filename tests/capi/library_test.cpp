@@ -15,6 +15,7 @@ TEST(Library, KnowsItsFeatures) {
     EXPECT_EQ(quorvane_has_feature(QUORVANE_TEXT("templates")), 1);
     EXPECT_EQ(quorvane_has_feature(QUORVANE_TEXT("tables")), 1);
     EXPECT_EQ(quorvane_has_feature(QUORVANE_TEXT("documents")), 1);
+    EXPECT_EQ(quorvane_has_feature(QUORVANE_TEXT("data-tables")), 1);
 }
 
 TEST(Library, HasNoOtherFeature) {

@@ -23,6 +23,9 @@ TEST(NullHandles, AreWrongCalls) {
     EXPECT_EQ(quorvane_job_set_diagnostic_callback(nullptr, nullptr, nullptr), QUORVANE_WRONG_CALL);
     EXPECT_EQ(quorvane_table_add_column(nullptr, nullptr, 0, nullptr, 0, 0), QUORVANE_WRONG_CALL);
     EXPECT_EQ(quorvane_table_set(nullptr, 0, nullptr, 0), QUORVANE_WRONG_CALL);
+    EXPECT_EQ(quorvane_table_fit_columns(nullptr), QUORVANE_WRONG_CALL);
+    EXPECT_EQ(quorvane_table_set_data(nullptr, nullptr, 0, 0, nullptr, 0), QUORVANE_WRONG_CALL);
+    EXPECT_EQ(quorvane_table_set_data_file(nullptr, nullptr, 0, 0), QUORVANE_WRONG_CALL);
     EXPECT_EQ(quorvane_table_begin(nullptr), QUORVANE_WRONG_CALL);
     EXPECT_EQ(quorvane_table_begin_to(nullptr, nullptr, nullptr), QUORVANE_WRONG_CALL);
     EXPECT_EQ(quorvane_table_begin_file(nullptr, nullptr, 0), QUORVANE_WRONG_CALL);
@@ -105,6 +108,8 @@ TEST(NullHandles, HaveAnError) {
     EXPECT_STREQ(quorvane_table_error_text(nullptr), "The handle is null.");
     EXPECT_STREQ(quorvane_document_error_text(nullptr), "The handle is null.");
     EXPECT_EQ(quorvane_job_diagnostic(nullptr, 0), nullptr);
+    EXPECT_EQ(quorvane_table_diagnostic_count(nullptr), 0U);
+    EXPECT_EQ(quorvane_table_diagnostic(nullptr, 0), nullptr);
 }
 
 }  // namespace

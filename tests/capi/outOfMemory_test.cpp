@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 #include <quorvane.h>
 
+#include <filesystem>
+#include <fstream>
 #include <string>
+#include <utility>
 
 #include "tests/capi/support.h"
 #include "tests/support/failingAllocations.h"
@@ -112,15 +115,19 @@ TEST(OutOfMemory, IsTheErrorOfTheHandle) {
     EXPECT_STREQ(quorvane_job_error_text(job.get()), "There is not enough memory.");
 }
 
-TEST(OutOfMemory, EndsATableWithoutHarm) {
+/// Makes a table with its allocations failing one after the other. `prepare` is the first call.
+template <class Prepare>
+void expectTableWithoutHarm(Prepare prepare) {
     for (long successes = 0;; ++successes) {
         TableHandle table = newTable();
         char* bytes = nullptr;
         size_t length = 0;
         const char* const texts[] = {"a text that is too long to be kept without an allocation"};
         failingAllocations::successesLeft = successes;
-        quorvane_status status = quorvane_table_add_column(table.get(), QUORVANE_TEXT("Heading"),
-                                                           nullptr, 0, QUORVANE_ALIGN_DEFAULT);
+        quorvane_status status = prepare(table.get());
+        status = status ? status
+                        : quorvane_table_add_column(table.get(), QUORVANE_TEXT("Heading"), nullptr,
+                                                    0, QUORVANE_ALIGN_DEFAULT);
         status = status ? status : quorvane_table_begin(table.get());
         status = status ? status : quorvane_table_add_row(table.get(), texts, nullptr, 1);
         status = status ? status : quorvane_table_finish(table.get());
@@ -133,6 +140,62 @@ TEST(OutOfMemory, EndsATableWithoutHarm) {
         }
         ASSERT_EQ(status, QUORVANE_OUT_OF_MEMORY);
     }
+}
+
+TEST(OutOfMemory, EndsATableWithoutHarm) {
+    expectTableWithoutHarm([](quorvane_table*) { return QUORVANE_OK; });
+}
+
+TEST(OutOfMemory, EndsATableWithFittedColumnsWithoutHarm) {
+    expectTableWithoutHarm(quorvane_table_fit_columns);
+}
+
+/// Makes a table of data in memory, or of a file if there is a path, with its allocations failing
+/// one after the other.
+void expectDataTableWithoutHarm(const char* data, const std::string& path) {
+    for (long successes = 0;; ++successes) {
+        TableHandle table = newTable();
+        char* bytes = nullptr;
+        size_t length = 0;
+        failingAllocations::successesLeft = successes;
+        quorvane_status status = path.empty()
+                                     ? quorvane_table_set_data(table.get(), QUORVANE_TEXT(data),
+                                                               QUORVANE_ANY_DATA, nullptr, 0)
+                                     : quorvane_table_set_data_file(table.get(), path.data(),
+                                                                    path.size(), QUORVANE_ANY_DATA);
+        for (const auto& [option, value] :
+             {std::pair(QUORVANE_TABLE_SORT, "a name that is not short:desc"),
+              std::pair(QUORVANE_TABLE_KEEP_GOING, "yes"),
+              std::pair(QUORVANE_TABLE_TOTAL, "price")}) {
+            status =
+                status ? status : quorvane_table_set(table.get(), option, QUORVANE_TEXT(value));
+        }
+        status = status ? status : quorvane_table_begin(table.get());
+        status = status ? status : quorvane_table_finish(table.get());
+        status = status ? status : quorvane_table_take(table.get(), &bytes, &length);
+        failingAllocations::successesLeft = -1;
+        if (status == QUORVANE_OK) {
+            EXPECT_GT(successes, 100);
+            EXPECT_EQ(quorvane_table_diagnostic_count(table.get()), 1U);
+            quorvane_free(bytes);
+            return;
+        }
+        ASSERT_EQ(status, QUORVANE_OUT_OF_MEMORY);
+    }
+}
+
+TEST(OutOfMemory, EndsATableOfDataWithoutHarm) {
+    const char* const csv =
+        "a name that is not short,price\na text that is too long to be kept so,1\nb,2\nc\n";
+    expectDataTableWithoutHarm(csv, {});
+    expectDataTableWithoutHarm(
+        "{\"a name that is not short\": \"a text\", \"price\": 1}\n{\"a name that is not "
+        "short\": \"\\u0001\", \"price\": 2}\n",
+        {});
+    const std::string path = ::testing::TempDir() + "/quorvane-scarce.csv";
+    std::ofstream(path) << csv;
+    expectDataTableWithoutHarm(nullptr, path);
+    std::filesystem::remove(path);
 }
 
 TEST(OutOfMemory, LeavesADocumentAsItWas) {

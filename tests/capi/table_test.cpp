@@ -99,6 +99,22 @@ TEST(Table, TakesEveryOption) {
     EXPECT_EQ(taken(table), written(setup, [](TableWriter&) {}));
 }
 
+TEST(Table, BeginsAPageWithEachGroup) {
+    const TableHandle table = tableOfTwo();
+    EXPECT_EQ(quorvane_table_set(table.get(), QUORVANE_TABLE_GROUP_PAGES, QUORVANE_TEXT("yes")),
+              QUORVANE_OK);
+    quorvane_table_begin(table.get());
+    quorvane_table_add_group(table.get(), QUORVANE_TEXT("Glass"));
+    quorvane_table_add_group(table.get(), QUORVANE_TEXT("Wood"));
+    quorvane_table_finish(table.get());
+    TableSetup setup = twoColumns;
+    setup.groupsStartPages = true;
+    EXPECT_EQ(taken(table), written(setup, [](TableWriter& writer) {
+                  writer.addGroup("Glass");
+                  writer.addGroup("Wood");
+              }));
+}
+
 TEST(Table, AddsManyRowsInOneCall) {
     const TableHandle table = tableOfTwo();
     quorvane_table_begin(table.get());
@@ -250,6 +266,175 @@ TEST(Table, ReportsAFullDisk) {
     EXPECT_EQ(addRow(table, "a", "b"), QUORVANE_WRONG_CALL);
 }
 
+/// With the widths that a vase for 12.50 asks for.
+const TableSetup fittedColumns{
+    .columns = {{"Article", "93.14%"}, {.heading = "Price", .width = "6.85%", .align = eRight}}};
+
+TableHandle fittedTable() {
+    TableHandle table = newTable();
+    EXPECT_EQ(quorvane_table_fit_columns(table.get()), QUORVANE_OK);
+    quorvane_table_add_column(table.get(), QUORVANE_TEXT("Article"), nullptr, 0,
+                              QUORVANE_ALIGN_DEFAULT);
+    quorvane_table_add_column(table.get(), QUORVANE_TEXT("Price"), nullptr, 0,
+                              QUORVANE_ALIGN_DEFAULT);
+    return table;
+}
+
+TEST(FittedTable, HasColumnsAsWideAsTheirContentsAskFor) {
+    const TableHandle table = fittedTable();
+    EXPECT_EQ(quorvane_table_begin(table.get()), QUORVANE_OK);
+    EXPECT_EQ(addRow(table, "Vase", "12.50"), QUORVANE_OK);
+    EXPECT_EQ(addRow(table, "Bowl", "7.00"), QUORVANE_OK);
+    EXPECT_EQ(quorvane_table_finish(table.get()), QUORVANE_OK);
+    EXPECT_EQ(taken(table), written(fittedColumns, [](TableWriter& writer) {
+                  writer.addRow({{"Vase", "12.50"}});
+                  writer.addRow({{"Bowl", "7.00"}});
+              }));
+}
+
+TEST(FittedTable, HasTheBytesOfATableOfData) {
+    std::string csv = "Kind,Article,Price\n";
+    const TableHandle table = fittedTable();
+    quorvane_table_begin(table.get());
+    quorvane_table_add_group(table.get(), QUORVANE_TEXT("A group that is long"));
+    for (int i = 0; i < 3000; ++i) {
+        // From the 1001st row on they are longer than the columns ask for.
+        const std::string article = "Article " + std::string(i < 1000 ? 10 : 90, 'x');
+        const std::string price = std::to_string(i) + ".50";
+        csv += "A group that is long," + article + "," + price + "\n";
+        ASSERT_EQ(addRow(table, article.c_str(), price.c_str()), QUORVANE_OK);
+    }
+    EXPECT_EQ(quorvane_table_finish(table.get()), QUORVANE_OK);
+    const TableHandle ofData = newTable();
+    quorvane_table_set_data(ofData.get(), csv.data(), csv.size(), QUORVANE_CSV, nullptr, 0);
+    quorvane_table_set(ofData.get(), QUORVANE_TABLE_GROUP_BY, QUORVANE_TEXT("Kind"));
+    quorvane_table_begin(ofData.get());
+    quorvane_table_finish(ofData.get());
+    EXPECT_EQ(taken(table), taken(ofData));
+}
+
+TEST(FittedTable, HasRoomForTotals) {
+    const TableHandle table = fittedTable();
+    quorvane_table_begin(table.get());
+    addRow(table, "Vase", "12.50");
+    const char* const total[] = {"Total", "12.50"};
+    EXPECT_EQ(quorvane_table_add_total(table.get(), total, nullptr, 2), QUORVANE_OK);
+    quorvane_table_finish(table.get());
+    const std::string csv = "Article,Price\nVase,12.50\n";
+    const TableHandle ofData = newTable();
+    quorvane_table_set_data(ofData.get(), csv.data(), csv.size(), QUORVANE_CSV, nullptr, 0);
+    quorvane_table_set(ofData.get(), QUORVANE_TABLE_TOTAL, QUORVANE_TEXT("Price"));
+    quorvane_table_begin(ofData.get());
+    quorvane_table_finish(ofData.get());
+    EXPECT_EQ(taken(table), taken(ofData));
+}
+
+TEST(FittedTable, KeepsWidthsAndAlignmentsThatAreGiven) {
+    const TableHandle table = newTable();
+    quorvane_table_fit_columns(table.get());
+    quorvane_table_add_column(table.get(), QUORVANE_TEXT("Article"), QUORVANE_TEXT("30%"),
+                              QUORVANE_ALIGN_CENTER);
+    quorvane_table_add_column(table.get(), QUORVANE_TEXT("Price"), nullptr, 0, QUORVANE_ALIGN_LEFT);
+    quorvane_table_set(table.get(), QUORVANE_TABLE_PAGE, QUORVANE_TEXT("a5"));
+    quorvane_table_begin(table.get());
+    addRow(table, "Vase", "12.50");
+    quorvane_table_finish(table.get());
+    const TableSetup setup{.columns = {{"Article", "30%", eCentered}, {"Price", "70%", eLeft}},
+                           .page = "a5"};
+    EXPECT_EQ(taken(table), written(setup, [](TableWriter& writer) {
+                  writer.addRow({{"Vase", "12.50"}});
+              }));
+}
+
+TEST(FittedTable, LeavesOutAWrongRowAlone) {
+    const TableHandle table = fittedTable();
+    quorvane_table_begin(table.get());
+    EXPECT_EQ(addRow(table, "a\x01", "a price that is long"), QUORVANE_WRONG_CONTENT);
+    EXPECT_EQ(errorOf(table),
+              "wrong-value: Cell 1: No document can show the control character U+0001 (byte 2)");
+    const char* const three[] = {"a", "b", "c"};
+    EXPECT_EQ(quorvane_table_add_row(table.get(), three, nullptr, 3), QUORVANE_WRONG_CONTENT);
+    const std::string texts(
+        "Vase\0"
+        "12.50\0"
+        "a\0\x01\0",
+        15);
+    size_t added = 9;
+    EXPECT_EQ(quorvane_table_add_rows(table.get(), texts.data(), texts.size(), 2, 2, &added),
+              QUORVANE_WRONG_CONTENT);
+    EXPECT_EQ(added, 1U);
+    EXPECT_EQ(quorvane_table_finish(table.get()), QUORVANE_OK);
+    EXPECT_EQ(taken(table), written(fittedColumns, [](TableWriter& writer) {
+                  writer.addRow({{"Vase", "12.50"}});
+              }));
+}
+
+TEST(FittedTable, CanHaveNoRows) {
+    const TableHandle table = fittedTable();
+    Received received;
+    EXPECT_EQ(quorvane_table_begin_to(table.get(), Received::write, &received), QUORVANE_OK);
+    EXPECT_EQ(received.bytes, "");
+    EXPECT_EQ(quorvane_table_finish(table.get()), QUORVANE_OK);
+    EXPECT_NE(received.bytes.find(" Price\\cell"), std::string::npos);
+}
+
+TEST(FittedTable, NeedsColumns) {
+    const TableHandle fitted = newTable();
+    quorvane_table_fit_columns(fitted.get());
+    EXPECT_EQ(quorvane_table_begin(fitted.get()), QUORVANE_WRONG_CONTENT);
+    const TableHandle even = newTable();
+    EXPECT_EQ(quorvane_table_begin(even.get()), QUORVANE_WRONG_CONTENT);
+    EXPECT_EQ(errorOf(fitted), errorOf(even));
+}
+
+TEST(FittedTable, BeginsAgainAfterWhatDoesNotFit) {
+    const TableHandle table = fittedTable();
+    quorvane_table_set(table.get(), QUORVANE_TABLE_PAGE, QUORVANE_TEXT("a44"));
+    EXPECT_EQ(quorvane_table_begin(table.get()), QUORVANE_WRONG_CONTENT);
+    quorvane_table_set(table.get(), QUORVANE_TABLE_PAGE, QUORVANE_TEXT("a4"));
+    EXPECT_EQ(quorvane_table_begin_file(table.get(), QUORVANE_TEXT("/missing/folder/a.rtf")),
+              QUORVANE_FILE_ERROR);
+    EXPECT_EQ(errorOf(table), "/missing/folder/a.rtf: unwritable-file: " + noFolder);
+    EXPECT_EQ(addRow(table, "Vase", "12.50"), QUORVANE_WRONG_CALL);
+    EXPECT_EQ(quorvane_table_begin(table.get()), QUORVANE_OK);
+    EXPECT_EQ(quorvane_table_fit_columns(table.get()), QUORVANE_WRONG_CALL);
+    addRow(table, "Vase", "12.50");
+    quorvane_table_finish(table.get());
+    EXPECT_EQ(taken(table), written(fittedColumns, [](TableWriter& writer) {
+                  writer.addRow({{"Vase", "12.50"}});
+              }));
+}
+
+TEST(FittedTable, AppearsAsAFileWhenItIsFinished) {
+    const std::string path = ::testing::TempDir() + "/quorvane-fitted.rtf";
+    std::filesystem::remove(path);
+    TableHandle table = fittedTable();
+    EXPECT_EQ(quorvane_table_begin_file(table.get(), path.data(), path.size()), QUORVANE_OK);
+    addRow(table, "Vase", "12.50");
+    EXPECT_FALSE(std::filesystem::exists(path));
+    EXPECT_EQ(quorvane_table_finish(table.get()), QUORVANE_OK);
+    EXPECT_TRUE(std::filesystem::exists(path));
+    std::filesystem::remove(path);
+
+    table = fittedTable();
+    quorvane_table_begin_file(table.get(), path.data(), path.size());
+    addRow(table, "Vase", "12.50");
+    table.reset();
+    EXPECT_FALSE(std::filesystem::exists(path));
+}
+
+TEST(FittedTable, ReportsAFullDisk) {
+    if (!std::filesystem::exists("/dev/full")) {
+        GTEST_SKIP() << "this system has no /dev/full";
+    }
+    const TableHandle table = fittedTable();
+    EXPECT_EQ(quorvane_table_begin_file(table.get(), QUORVANE_TEXT("/dev/full")), QUORVANE_OK);
+    EXPECT_EQ(addRow(table, "Vase", "12.50"), QUORVANE_OK);
+    EXPECT_EQ(quorvane_table_finish(table.get()), QUORVANE_FILE_ERROR);
+    EXPECT_EQ(errorOf(table), "/dev/full: unwritable-file: No space left on device");
+    EXPECT_EQ(addRow(table, "a", "b"), QUORVANE_WRONG_CALL);
+}
+
 TEST(Table, KeepsTheOrderOfItsCalls) {
     const TableHandle table = tableOfTwo();
     EXPECT_EQ(addRow(table, "a", "b"), QUORVANE_WRONG_CALL);
@@ -273,7 +458,7 @@ TEST(Table, RefusesWrongArguments) {
     const TableHandle table = tableOfTwo();
     EXPECT_EQ(quorvane_table_add_column(table.get(), nullptr, 0, nullptr, 0, 5),
               QUORVANE_WRONG_CALL);
-    EXPECT_EQ(quorvane_table_set(table.get(), 13, QUORVANE_TEXT("a")), QUORVANE_WRONG_CALL);
+    EXPECT_EQ(quorvane_table_set(table.get(), 24, QUORVANE_TEXT("a")), QUORVANE_WRONG_CALL);
     EXPECT_EQ(quorvane_table_set(table.get(), QUORVANE_TABLE_HEADING, QUORVANE_TEXT("perhaps")),
               QUORVANE_WRONG_CALL);
     EXPECT_EQ(quorvane_table_begin_to(table.get(), nullptr, nullptr), QUORVANE_WRONG_CALL);
