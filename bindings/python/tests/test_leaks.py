@@ -37,9 +37,18 @@ def write_a_table() -> None:
         writer.add_row(["Vase"])
 
 
+def write_a_table_of_data() -> None:
+    quorvane.table_of_file(b"Article,Price\nVase,12.50\n", sort="Price", total="Price")
+
+
+def fail_to_write_a_table_of_data() -> None:
+    with pytest.raises(quorvane.Error):
+        quorvane.table_of_file(b"Article,Price\nVase\n")
+
+
 @pytest.mark.parametrize("make, count", [
     (render_with_a_job, 60000), (fail_to_render, 10000), (build_a_document, 20000),
-    (write_a_table, 10000)])
+    (write_a_table, 10000), (write_a_table_of_data, 10000), (fail_to_write_a_table_of_data, 20000)])
 def test_memory_does_not_grow(make: Callable[[], None], count: int) -> None:
     """A leak of 100 bytes for each document is a megabyte or more here."""
     for _ in range(1000):

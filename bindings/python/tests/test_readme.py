@@ -18,6 +18,7 @@ EXAMPLES: Dict[str, str] = dict(re.findall(
 # What an example prints.
 PRINTED = {
     "invoice.py": "0 diagnostics\n",
+    "articles.py": "2 vases, 0 diagnostics\n",
     "check.py": ("description:3:5: error: lightyellow isn't a recognized color. [wrong-color]\n"
                  "did you mean light-yellow?\n"),
     "errors.py": ("description:3:5: lightyellow isn't a recognized color.\n"
@@ -27,6 +28,7 @@ PRINTED = {
 # The documents that an example writes, each with a text in it.
 WRITTEN = {
     "prices.py": {"prices.rtf": b" Vase, smoky gray\\cell"},
+    "articles.py": {"articles.rtf": b" \\qr 89,50\\cell"},
     "stock.py": {"stock.rtf": b" \\qr 39.99 {\\uc1\\u8364?}\\cell"},
     "order_form.py": {"order_form.rtf": b" Vase \\{amber\\}\\cell"},
     "statements.py": {"statement0.rtf": b": 1.250,50\\cell", "statement1.rtf": b": 80,00\\cell"},

@@ -226,6 +226,56 @@ def test_a_full_file_object_raises_its_own_error() -> None:
     assert raised.value.errno == 28
 
 
+def test_columns_are_as_wide_as_their_contents_ask_for() -> None:
+    rows = [{"Article": "Vase", "Price": "12,50"}, {"Article": "Bowl", "Price": "7,00"}]
+    expected = quorvane.table(rows, [quorvane.Column("Article", "93.14%"),
+                                     quorvane.Column("Price", "6.85%", "right")])
+    assert quorvane.table(rows, widths="fit") == expected
+    assert quorvane.table(rows, widths="fit") == quorvane.table_of_file(
+        "Article;Price\nVase;12,50\nBowl;7,00\n".encode())
+    file = io.BytesIO()
+    assert quorvane.table_to(file, rows, widths="fit") == 2
+    assert file.getvalue() == expected
+
+
+def test_columns_with_a_width_keep_it() -> None:
+    rtf = quorvane.table([("Vase", 1)], [quorvane.Column("Article", "30%"), "Number"], widths="fit")
+    assert rtf == quorvane.table([("Vase", 1)], [
+        quorvane.Column("Article", "30%"), quorvane.Column("Number", "70%", "right")])
+
+
+def test_only_wide_tables_with_fitted_columns_are_in_landscape() -> None:
+    wide = [["x" * 30] * 9]
+    assert b"\\paperw16838" in quorvane.table(wide, widths="fit")
+    assert b"\\paperw11906" in quorvane.table(wide)
+    assert b"\\paperw11906" in quorvane.table(wide, widths="fit", page="a4")
+
+
+def test_rows_after_the_first_ones_are_written_as_they_come() -> None:
+    written: List[bytes] = []
+
+    class Noting:
+        def write(self, data: bytes) -> None:
+            written.append(data)
+
+    with quorvane.TableWriter(Noting(), ["Number"], widths="fit") as writer:
+        writer.add_rows((number,) for number in range(900))
+        assert not written
+        writer.add_rows((number,) for number in range(900, 5000))
+        assert written
+    assert b" 4999\\cell" in b"".join(written)
+
+
+def test_a_wrong_row_of_a_table_with_fitted_columns_is_an_error_with_its_number() -> None:
+    with pytest.raises(quorvane.Error, match="Row 3: Cell 1: No document can show"):
+        quorvane.table([("a",), ("b",), ("\1",)], widths="fit")
+
+
+def test_unknown_widths_are_a_value_error() -> None:
+    with pytest.raises(ValueError, match="The choice of widths is one of 'even', 'fit', not 'wi"):
+        quorvane.table(MAPPINGS, widths="wide")
+
+
 def test_a_writer_writes_rows_groups_and_totals() -> None:
     with quorvane.TableWriter(None, ["Article", "Price"]) as writer:
         writer.add_group("Glass")

@@ -84,4 +84,4 @@ class Error(Exception):
 
 
 class FileError(Error, OSError):
-    """A file that cannot be written, with the reason of the system."""
+    """A file that cannot be read or written, with the reason of the system."""

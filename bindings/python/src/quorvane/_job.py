@@ -10,9 +10,10 @@ import threading
 import uuid
 from typing import Any, Iterable, List, Mapping, Optional, Sequence, Tuple, TypeVar, Union
 
+from ._diagnostics import diagnostics_of
 from ._errors import Diagnostic, Error
-from ._handle import Handle, argument, number_argument, path_argument, text_of
-from ._library import CDiagnostic, FileCallback, bytes_at, lib
+from ._handle import Handle, argument, number_argument, path_argument
+from ._library import FileCallback, bytes_at, lib
 from ._sources import ENCODINGS, ReadSource, Source, read_source
 from ._target import BinaryWriter, Destination, Target, is_path, write_all
 
@@ -63,13 +64,6 @@ def _plain(value: Any) -> Any:
     if isinstance(value, (datetime.date, datetime.time)):
         return value.isoformat()
     raise TypeError(f"{type(value).__name__} cannot be data of a template: {value!r}")
-
-
-def _diagnostic(found: CDiagnostic) -> Diagnostic:
-    return Diagnostic(
-        "warning" if found.severity else "error", text_of(found.identifier), text_of(found.message),
-        text_of(found.hint), text_of(found.file), found.line, found.column, found.length,
-        found.byte_offset, found.byte_length, None if found.fix is None else text_of(found.fix))
 
 
 class Job(Handle):
@@ -220,9 +214,7 @@ class Job(Handle):
         self._has_data = data is not None
 
     def _found(self) -> Sequence[Diagnostic]:
-        count = lib.quorvane_job_diagnostic_count(self._pointer)
-        return tuple(_diagnostic(lib.quorvane_job_diagnostic(self._pointer, index).contents)
-                     for index in range(count))
+        return diagnostics_of("job", self._pointer)
 
     def _read_file(self, _user: object, _kind: int, name: int, length: int, content: Any,
                    content_length: Any) -> int:

@@ -82,6 +82,9 @@ _FUNCTIONS: Dict[str, List[Any]] = {
     "job_format": _TEXT + [c_int, c_int] + _RESULT,
     "table_add_column": _TEXT + _TEXT + [c_int],
     "table_set": [c_int] + _TEXT,
+    "table_fit_columns": [],
+    "table_set_data": _TEXT + [c_int] + _TEXT,
+    "table_set_data_file": _TEXT + [c_int],
     "table_begin": [],
     "table_begin_to": [WriteCallback, c_void_p],
     "table_begin_file": _TEXT,
@@ -155,10 +158,11 @@ lib = _load()
 lib.quorvane_version.restype = c_char_p
 lib.quorvane_free.argtypes = [c_void_p]
 lib.quorvane_free.restype = None
-lib.quorvane_job_diagnostic_count.argtypes = [c_void_p]
-lib.quorvane_job_diagnostic_count.restype = c_size_t
-lib.quorvane_job_diagnostic.argtypes = [c_void_p, c_size_t]
-lib.quorvane_job_diagnostic.restype = POINTER(CDiagnostic)
+for _kind in ("job", "table"):
+    getattr(lib, f"quorvane_{_kind}_diagnostic_count").argtypes = [c_void_p]
+    getattr(lib, f"quorvane_{_kind}_diagnostic_count").restype = c_size_t
+    getattr(lib, f"quorvane_{_kind}_diagnostic").argtypes = [c_void_p, c_size_t]
+    getattr(lib, f"quorvane_{_kind}_diagnostic").restype = POINTER(CDiagnostic)
 for _kind in sorted({name.split("_")[0] for name in _FUNCTIONS
                      if name.startswith(("job_", "table_", "document_"))}):
     getattr(lib, f"quorvane_{_kind}_new").argtypes = [POINTER(c_void_p)]

@@ -16,7 +16,7 @@ def table(rows: Any, columns: Optional[Sequence[AnyColumn]] = None, *, title: st
           heading: bool = True, page: Optional[str] = None, margin: Optional[str] = None,
           stripe: Optional[str] = None, border: Optional[str] = None,
           stylesheet: Optional[Source] = None, header: Optional[Line] = None,
-          footer: Optional[Line] = None) -> bytes:
+          footer: Optional[Line] = None, widths: str = "even") -> bytes:
     """Returns a document with one table of these rows.
 
     >>> rtf = quorvane.table([{"Article": "Vase", "Price": 12.5}], title="Prices")
@@ -26,10 +26,11 @@ def table(rows: Any, columns: Optional[Sequence[AnyColumn]] = None, *, title: st
     headings. ``columns`` selects fields, in this order, by their names or with `Column`. Columns of
     numbers are at the right. Missing values are empty cells; all others show as ``str`` has them.
 
-    `TableWriter` explains the options.
+    `TableWriter` explains the options; with ``widths="fit"`` the columns are as wide as their
+    contents ask for.
     """
     writer = _written(None, rows, columns, title, heading, page, margin, stripe, border,
-                      stylesheet, header, footer)
+                      stylesheet, header, footer, widths)
     return writer.rtf
 
 
@@ -37,14 +38,15 @@ def table_to(destination: Destination, rows: Any, columns: Optional[Sequence[Any
              title: str = "", heading: bool = True, page: Optional[str] = None,
              margin: Optional[str] = None, stripe: Optional[str] = None,
              border: Optional[str] = None, stylesheet: Optional[Source] = None,
-             header: Optional[Line] = None, footer: Optional[Line] = None) -> int:
+             header: Optional[Line] = None, footer: Optional[Line] = None,
+             widths: str = "even") -> int:
     """Writes a document with one table of these rows to a path or a binary file object.
 
     It returns the number of rows. Rows are written and forgotten: a generator of any length takes
     the same memory. A file appears whole, in the place of one that was there. See `table`.
     """
     writer = _written(destination, rows, columns, title, heading, page, margin, stripe, border,
-                      stylesheet, header, footer)
+                      stylesheet, header, footer, widths)
     return writer.rows
 
 
@@ -52,11 +54,11 @@ def _written(destination: Optional[Destination], rows: Any,
              columns: Optional[Sequence[AnyColumn]], title: str, heading: bool,
              page: Optional[str], margin: Optional[str], stripe: Optional[str],
              border: Optional[str], stylesheet: Optional[Source], header: Optional[Line],
-             footer: Optional[Line]) -> TableWriter:
+             footer: Optional[Line], widths: str) -> TableWriter:
     content = with_alignments(table_of(rows, columns))
     with TableWriter(destination, content.columns, title=title,
                      heading=heading and content.has_heading, page=page, margin=margin,
                      stripe=stripe, border=border, stylesheet=stylesheet, header=header,
-                     footer=footer) as writer:
+                     footer=footer, widths=widths) as writer:
         writer.add_rows(formatted_rows(content))
     return writer

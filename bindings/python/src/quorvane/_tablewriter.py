@@ -3,7 +3,7 @@
 from __future__ import annotations
 
 from ctypes import byref, c_size_t
-from typing import Any, Callable, Iterable, List, Optional, Sequence, Tuple
+from typing import Any, Callable, Iterable, List, Optional, Sequence
 
 from ._cells import are_texts, batches, cell_arguments, joined, texts_of_row
 from ._columns import ALIGNMENTS, AnyColumn, column_of
@@ -11,12 +11,13 @@ from ._errors import Error, FileError
 from ._handle import Handle, argument, path_argument
 from ._job import choice
 from ._library import lib
-from ._lines import Line, texts_of_line
-from ._sources import Source, read_source
+from ._lines import Line
+from ._sources import Source
+from ._tableoptions import settings_of
 from ._target import Destination, Target, is_path
 
-_TITLE, _HEADING, _PAGE, _MARGIN, _STRIPE, _BORDER, _STYLESHEET, _HEADER, _FOOTER = (
-    0, 1, 2, 3, 4, 5, 6, 7, 10)
+
+WIDTHS = {"even": 0, "fit": 1}
 
 
 class TableWriter(Handle):
@@ -43,6 +44,10 @@ class TableWriter(Handle):
     header, footer
         the lines at the top and at the bottom of each page: the text in the center, or three texts
         for left, center and right. {page} and {pages} are numbers.
+    widths
+        of the columns that have none: "even", or "fit" for columns as wide as the first 1,000 rows
+        ask for, which are kept until then. With "fit", texts that are numbers are at the right too,
+        and a wide table gets a page in landscape unless there is a page.
 
     What is None is as the command has it. A row that is wrong changes nothing; the next one can be
     added.
@@ -54,7 +59,8 @@ class TableWriter(Handle):
                  title: str = "", heading: bool = True, page: Optional[str] = None,
                  margin: Optional[str] = None, stripe: Optional[str] = None,
                  border: Optional[str] = None, stylesheet: Optional[Source] = None,
-                 header: Optional[Line] = None, footer: Optional[Line] = None) -> None:
+                 header: Optional[Line] = None, footer: Optional[Line] = None,
+                 widths: str = "even") -> None:
         super().__init__()
         self._columns = [column_of(column) for column in columns]
         self._rows = 0
@@ -62,17 +68,14 @@ class TableWriter(Handle):
         self._rtf: Optional[bytes] = None
         self._in_memory = destination is None
         self._target: Optional[Target] = None
+        if choice(widths, WIDTHS, "choice of widths"):
+            self._call(lib.quorvane_table_fit_columns)
         for column in self._columns:
             self._call(lib.quorvane_table_add_column, *argument(column.heading),
                        *argument(column.width), choice(column.align, ALIGNMENTS, "alignment"))
-        settings = [(_TITLE, title), (_HEADING, "yes" if heading else "no"), (_PAGE, page),
-                    (_MARGIN, margin), (_STRIPE, stripe), (_BORDER, border)]
-        for option, value in settings + _lines(_HEADER, header) + _lines(_FOOTER, footer):
-            if value is not None:
-                self._call(lib.quorvane_table_set, option, *argument(value))
-        if stylesheet is not None:
-            text = read_source(stylesheet).text
-            self._call(lib.quorvane_table_set, _STYLESHEET, text, len(text))
+        for setting in settings_of(title, heading, page, margin, stripe, border, stylesheet, header,
+                                   footer):
+            self._call(lib.quorvane_table_set, *setting)
         self._begin(destination)
 
     def _begin(self, destination: Optional[Destination]) -> None:
@@ -177,8 +180,3 @@ class TableWriter(Handle):
         state = ("finished" if self._is_finished else
                  "closed" if self._pointer is None else "open")
         return f"<quorvane.TableWriter: {len(self._columns)} columns, {self._rows} rows, {state}>"
-
-
-def _lines(first: int, line: Optional[Line]) -> List[Tuple[int, Optional[str]]]:
-    """The options of a header or a footer, of which the first is that of its left."""
-    return [] if line is None else list(enumerate(texts_of_line(line), first))
