@@ -49,6 +49,7 @@ public:
         : folder_(std::move(folder)),
           peers_(std::move(peers)),
           programs_(built, folder_),
+          packages_(installPackage(built, examples, folder_)),
           files_(folder_, examples) {}
 
     void compareSmallest() {
@@ -147,6 +148,7 @@ public:
         std::printf("- For each row: %.2f in processor time\n",
                     toSmall.ratio(&Run::work).value * fewRows / manyRows);
         comparePeers(large, small);
+        comparePackage(pattern);
         compareSorted(large);
     }
 
@@ -175,6 +177,35 @@ private:
         }
     }
 
+    /// The package needs the library for C.
+    void comparePackage(const std::string& pattern) {
+        if (!succeeds({"python3", "--version"})) {
+            return;
+        }
+        const std::string table = makeTable("package", packageRows);
+        const auto ofCommand = [&](const std::string& out) { return tableOf(table, out); };
+        const auto ofPackage = [&](const std::string& csv) {
+            return [&, csv](const std::string& out) {
+                return Command{"python3",
+                               (peers_ / "table_of_file.py").string(),
+                               packages_,
+                               csv,
+                               out + "/package.rtf",
+                               tableColumns};
+            };
+        };
+        requireSameJob(ofPackage(table), ofCommand, "package.rtf");
+        const Turns whole = compare(
+            "table_of_file_to of the Python package for 100,000 rows and 5 columns, as a process, "
+            "to quorvane table",
+            11, ofPackage(table), ofCommand);
+        const Turns start =
+            compare("The same for two rows, which is the start of Python and the package", 11,
+                    ofPackage(pattern), ofCommand);
+        std::printf("- Without that start: %.2f in processor time\n",
+                    whole.ratio(&Run::work).value - start.ratio(&Run::work).value);
+    }
+
     void compareSorted(const std::string& large) {
         const Turns toUnsorted = compare(
             "quorvane table --sort of 1,000,000 rows, to the same without it", 3,
@@ -192,6 +223,10 @@ private:
     static constexpr std::int32_t standardRows = 100000;
     static constexpr std::int32_t manyRows = 1000000;
     static constexpr std::int32_t fewRows = 10000;
+    static constexpr std::int32_t packageRows = 100000;
+    // They do not depend on the contents.
+    static constexpr const char* tableColumns =
+        "no:10%:right,article:20%,description:40%,price:15%:right,stock:15%:right";
 
     /// A file of so many rows; with none, one of two rows with "@" in each field.
     std::string makeTable(const std::string& name, std::int32_t rows) const {
@@ -208,7 +243,6 @@ private:
         return path;
     }
 
-    /// With columns that do not depend on the contents.
     Command tableOf(const std::string& csv, const std::string& out) const {
         return {programs_("quorvane"),
                 "table",
@@ -216,7 +250,7 @@ private:
                 "-o",
                 (fs::path(out) / fs::path(csv).stem()).string() + ".rtf",
                 "--columns",
-                "no:10%:right,article:20%,description:40%,price:15%:right,stock:15%:right"};
+                tableColumns};
     }
 
     Command plainTableOf(const std::string& csv, const std::string& out) const {
@@ -236,10 +270,11 @@ private:
         }
     }
 
-    /// Both commands write standard.rtf into the folder that they are made for.
-    void requireSameJob(const MakeCommand& first, const MakeCommand& second) const {
+    /// Both commands write a file of this name into the folder that they are made for.
+    void requireSameJob(const MakeCommand& first, const MakeCommand& second,
+                        const char* name = "standard.rtf") const {
         const fs::path kept = folder_ / "first.rtf";
-        const fs::path written = folder_ / "standard.rtf";
+        const fs::path written = folder_ / name;
         timedRun(first(folder_.string()));
         fs::rename(written, kept);
         timedRun(second(folder_.string()));
@@ -281,9 +316,25 @@ private:
         return result;
     }
 
+    /// The Python package with its library, as it is installed, in a folder of its own.
+    static std::string installPackage(const fs::path& built, const fs::path& examples,
+                                      const fs::path& folder) {
+        const fs::path package = folder / "packages" / "quorvane";
+        fs::create_directories(package);
+        for (const auto& file :
+             fs::directory_iterator(examples / "../bindings/python/src/quorvane")) {
+            if (file.path().extension() == ".py") {
+                fs::copy_file(file.path(), package / file.path().filename());
+            }
+        }
+        fs::copy_file(built / "capi/libquorvane.so.1", package / "libquorvane.so.1");
+        return package.parent_path().string();
+    }
+
     fs::path folder_;
     fs::path peers_;
     Programs programs_;
+    std::string packages_;
     BenchFiles files_;
 };
 
