@@ -33,14 +33,16 @@ def texts_of_row(row: Iterable[Any]) -> List[str]:
     """The texts of the cells of a row."""
     if isinstance(row, (str, bytes)):
         raise TypeError(f"A row is a sequence of cells, not a text: {row!r}")
-    return [text_of_cell(value) for value in row]
+    return [value if type(value) is str else text_of_cell(value) for value in row]
 
 
 def cell_arguments(texts: Sequence[str]) -> Tuple[Any, Any, int]:
     """The texts of the cells of one row as three arguments."""
     encoded = [text.encode() for text in texts]
     count = len(encoded)
-    return (c_char_p * count)(*encoded), (c_size_t * count)(*map(len, encoded)), count
+    # A text ends before its first zero byte, unless its length is given.
+    lengths = (c_size_t * count)(*map(len, encoded)) if "\0" in "".join(texts) else None
+    return (c_char_p * count)(*encoded), lengths, count
 
 
 def joined(rows: Sequence[Sequence[str]]) -> bytes:

@@ -9,7 +9,7 @@ from ._borders import SIDES
 from ._cells import batches, cell_arguments, joined, texts_of_row
 from ._elements import DocumentHandle, Elements, Row, Widths, widths_text
 from ._handle import argument, number_argument, path_argument
-from ._library import lib
+from ._library import lib, short_lib
 from ._lines import Line, texts_of_line
 from ._sources import Source, read_source
 from ._target import BinaryWriter, Target
@@ -97,15 +97,15 @@ class Document(DocumentHandle):
     def rows(self) -> Elements[Row]:
         """The rows, as a sequence: ``for row in doc.rows``, ``doc.rows[-1]``, ``del doc.rows[0]``.
         """
-        return Elements(self, (), Row, lib.quorvane_document_count_rows,
-                        lib.quorvane_document_remove_row)
+        return Elements(self, (), Row, short_lib.quorvane_document_count_rows,
+                        short_lib.quorvane_document_remove_row)
 
     def add_row(self, cells: Iterable[Any] = (), style: str = "") -> Row:
         """Adds a row with a cell for each value, whose paragraphs have this style; returns it.
 
         A value shows as ``str`` has it; None and NaN are empty cells.
         """
-        return Row(self, (self._index(lib.quorvane_document_add_row,
+        return Row(self, (self._index(short_lib.quorvane_document_add_row,
                                       *cell_arguments(texts_of_row(cells)), *argument(style)),))
 
     def add_rows(self, rows: Iterable[Iterable[Any]], style: str = "") -> None:
@@ -123,7 +123,7 @@ class Document(DocumentHandle):
 
     def insert_row(self, index: int, cells: Iterable[Any] = (), style: str = "") -> Row:
         """Inserts a row before the one with an index, as ``list.insert``, and returns it."""
-        place = self._index(lib.quorvane_document_insert_row, self.rows._insertion_place(index))
+        place = self._index(short_lib.quorvane_document_insert_row, self.rows._insertion_place(index))
         self._moves += 1
         row = Row(self, (place,))
         for text in texts_of_row(cells):

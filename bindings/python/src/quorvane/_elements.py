@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+import operator
 import os
 from ctypes import byref, c_size_t
 from typing import (Any, Callable, Generic, Iterator, List, Optional, Sequence, Tuple, TypeVar,
@@ -12,7 +13,7 @@ from ._columns import ALIGNMENTS
 from ._errors import Error
 from ._handle import Handle, argument, number_argument, path_argument
 from ._job import choice
-from ._library import AT_END, lib
+from ._library import AT_END, lib, short_lib
 
 Widths = Union[str, Sequence[Union[str, float]]]
 """Widths of columns: "20 auto 3cm" or [20, "auto", "3cm"]. A number is percent."""
@@ -30,7 +31,7 @@ class DocumentHandle(Handle):
     def _index(self, function: Callable[..., int], *arguments: Any) -> int:
         """What a function returns as a number."""
         number = c_size_t()
-        self._call(function, *arguments, byref(number))
+        self._call_shortly(function, *arguments, byref(number))
         return number.value
 
 
@@ -50,8 +51,10 @@ class Element:
                         "inserted or removed. Take it from the document again.")
 
     def _call(self, function: Callable[..., int], *arguments: Any) -> None:
-        self._require_here()
-        self._document._call(function, *self._place, *arguments)
+        document = self._document
+        if self._moves != document._moves:
+            self._require_here()
+        document._call_shortly(function, *self._place, *arguments)
 
     def _index(self, function: Callable[..., int], *arguments: Any) -> int:
         self._require_here()
@@ -84,7 +87,8 @@ class Elements(Sequence[AnyElement], Generic[AnyElement]):
         self._owner = owner
 
     def __len__(self) -> int:
-        self._require_here()
+        if self._owner is not None:
+            self._owner._require_here()
         return self._document._index(self._count, *self._place)
 
     @overload
@@ -94,14 +98,13 @@ class Elements(Sequence[AnyElement], Generic[AnyElement]):
     def __getitem__(self, index: slice) -> List[AnyElement]: ...
 
     def __getitem__(self, index: Union[int, slice]) -> Union[AnyElement, List[AnyElement]]:
-        places = range(len(self))
         if isinstance(index, slice):
-            return [self._element(place) for place in places[index]]
-        return self._element(self._existing(places, index))
+            return [self._element(place) for place in range(len(self))[index]]
+        return self._make(self._document, (*self._place, self._existing(index)))
 
     def __delitem__(self, index: int) -> None:
-        place = self._existing(range(len(self)), index)
-        self._document._call(self._remove, *self._place, place)
+        place = self._existing(index)
+        self._document._call_shortly(self._remove, *self._place, place)
         self._document._moves += 1
 
     def __iter__(self) -> Iterator[AnyElement]:
@@ -111,20 +114,17 @@ class Elements(Sequence[AnyElement], Generic[AnyElement]):
     def _element(self, place: int) -> AnyElement:
         return self._make(self._document, (*self._place, place))
 
-    def _existing(self, places: range, index: int) -> int:
-        try:
-            return places[index]
-        except IndexError:
-            raise IndexError(f"There is no index {index}; the length is {len(places)}.") from None
+    def _existing(self, index: int) -> int:
+        count = len(self)
+        place = index + count if index < 0 else index
+        if not 0 <= place < count:
+            raise IndexError(f"There is no index {index}; the length is {count}.")
+        return operator.index(place)
 
     def _insertion_place(self, index: int) -> int:
         """The place that an element is inserted at, as with ``list.insert``."""
         number, count = number_argument(index, "index"), len(self)
         return max(number + count, 0) if number < 0 else min(number, count)
-
-    def _require_here(self) -> None:
-        if self._owner is not None:
-            self._owner._require_here()
 
     def __repr__(self) -> str:
         return f"<quorvane: {len(self)} of {self._make.__name__}>"
@@ -152,32 +152,32 @@ class Paragraph(Element):
             makes the paragraph a marked field with this data, which readers do not show
         """
         if text is not None:
-            self._call(lib.quorvane_paragraph_set_text, *argument(text))
+            self._call(short_lib.quorvane_paragraph_set_text, *argument(text))
         if style is not None:
-            self._call(lib.quorvane_paragraph_set_style, *argument(style))
+            self._call(short_lib.quorvane_paragraph_set_style, *argument(style))
         if color is not None:
-            self._call(lib.quorvane_paragraph_set_color, *argument(color))
+            self._call(short_lib.quorvane_paragraph_set_color, *argument(color))
         if align is not None:
-            self._call(lib.quorvane_paragraph_set_align, choice(align, ALIGNMENTS, "alignment"))
+            self._call(short_lib.quorvane_paragraph_set_align, choice(align, ALIGNMENTS, "alignment"))
         if marked_field is not None:
-            self._call(lib.quorvane_paragraph_set_marked_field, *argument(marked_field))
+            self._call(short_lib.quorvane_paragraph_set_marked_field, *argument(marked_field))
         return self
 
     def add_text(self, text: str, *, bold: bool = False, italic: bool = False,
                  underlined: bool = False) -> Paragraph:
         """Appends a text, which shows as it is."""
         emphasis = bold * 1 + italic * 2 + underlined * 4
-        self._call(lib.quorvane_paragraph_add_text, *argument(text), emphasis)
+        self._call(short_lib.quorvane_paragraph_add_text, *argument(text), emphasis)
         return self
 
     def add_styled_text(self, text: str, style: str) -> Paragraph:
         """Appends a text in a character style of the stylesheet."""
-        self._call(lib.quorvane_paragraph_add_styled_text, *argument(text), *argument(style))
+        self._call(short_lib.quorvane_paragraph_add_styled_text, *argument(text), *argument(style))
         return self
 
     def add_rtf(self, rtf: str) -> Paragraph:
         """Appends control words as they are."""
-        self._call(lib.quorvane_paragraph_add_rtf, *argument(rtf))
+        self._call(short_lib.quorvane_paragraph_add_rtf, *argument(rtf))
         return self
 
     def set_picture(self, picture: Union[bytes, str, os.PathLike[str]], *, width: str = "",
@@ -187,7 +187,7 @@ class Paragraph(Element):
         Width and height are lengths such as "3cm". With one of them the picture keeps its
         proportions, with none it has the size of its file. Empty bytes remove the picture.
         """
-        function = (lib.quorvane_paragraph_set_picture if isinstance(picture, bytes)
+        function = (short_lib.quorvane_paragraph_set_picture if isinstance(picture, bytes)
                     else lib.quorvane_paragraph_set_picture_file)
         content = (picture, len(picture)) if isinstance(picture, bytes) else path_argument(picture)
         self._call(function, *content, *argument(width), *argument(height))
@@ -212,18 +212,18 @@ class Cell(Element):
     @property
     def paragraphs(self) -> Elements[Paragraph]:
         """The paragraphs, as a sequence."""
-        return Elements(self._document, self._place, Paragraph, lib.quorvane_cell_count_paragraphs,
-                        lib.quorvane_cell_remove_paragraph, self)
+        return Elements(self._document, self._place, Paragraph, short_lib.quorvane_cell_count_paragraphs,
+                        short_lib.quorvane_cell_remove_paragraph, self)
 
     def add_paragraph(self, text: str = "", style: str = "") -> Paragraph:
         """Adds a paragraph after the others, and returns it."""
-        place = self._index(lib.quorvane_cell_insert_paragraph, AT_END, *argument(text),
+        place = self._index(short_lib.quorvane_cell_insert_paragraph, AT_END, *argument(text),
                             *argument(style))
         return Paragraph(self._document, (*self._place, place))
 
     def insert_paragraph(self, index: int, text: str = "", style: str = "") -> Paragraph:
         """Inserts a paragraph before the one with an index, as ``list.insert``, and returns it."""
-        place = self._index(lib.quorvane_cell_insert_paragraph,
+        place = self._index(short_lib.quorvane_cell_insert_paragraph,
                             self.paragraphs._insertion_place(index), *argument(text),
                             *argument(style))
         self._document._moves += 1
@@ -250,19 +250,19 @@ class Cell(Element):
             makes the cell a marked field with this data, which readers do not show
         """
         if style is not None:
-            self._call(lib.quorvane_cell_set_style, *argument(style))
+            self._call(short_lib.quorvane_cell_set_style, *argument(style))
         if align is not None:
-            self._call(lib.quorvane_cell_set_align, choice(align, ALIGNMENTS, "alignment"))
+            self._call(short_lib.quorvane_cell_set_align, choice(align, ALIGNMENTS, "alignment"))
         if background is not None:
-            self._call(lib.quorvane_cell_set_background, *argument(background))
+            self._call(short_lib.quorvane_cell_set_background, *argument(background))
         if border is not None:
-            self._call(lib.quorvane_cell_set_border, *border_arguments(border, sides))
+            self._call(short_lib.quorvane_cell_set_border, *border_arguments(border, sides))
         if span is not None:
             columns, rows = span
-            self._call(lib.quorvane_cell_set_span, number_argument(columns, "span"),
+            self._call(short_lib.quorvane_cell_set_span, number_argument(columns, "span"),
                        number_argument(rows, "span"))
         if marked_field is not None:
-            self._call(lib.quorvane_cell_set_marked_field, *argument(marked_field))
+            self._call(short_lib.quorvane_cell_set_marked_field, *argument(marked_field))
         return self
 
     def __repr__(self) -> str:
@@ -278,8 +278,8 @@ class Row(Element):
     @property
     def cells(self) -> Elements[Cell]:
         """The cells, as a sequence."""
-        return Elements(self._document, self._place, Cell, lib.quorvane_row_count_cells,
-                        lib.quorvane_row_remove_cell, self)
+        return Elements(self._document, self._place, Cell, short_lib.quorvane_row_count_cells,
+                        short_lib.quorvane_row_remove_cell, self)
 
     def add_cell(self, text: Optional[str] = "", style: str = "") -> Cell:
         """Adds a cell after the others, and returns it.
@@ -297,7 +297,7 @@ class Row(Element):
 
     def _inserted(self, index: int, text: Optional[str], style: str) -> int:
         content = (None, 0) if text is None else argument(text)
-        return self._index(lib.quorvane_row_insert_cell, index, *content, *argument(style))
+        return self._index(short_lib.quorvane_row_insert_cell, index, *content, *argument(style))
 
     def set(self, *, columns: Optional[Widths] = None, background: Optional[str] = None,
             border: Optional[Border] = None, sides: Sides = "all",
@@ -319,15 +319,21 @@ class Row(Element):
             with it
         """
         if columns is not None:
-            self._call(lib.quorvane_row_set_columns, *argument(widths_text(columns)))
+            self._call(short_lib.quorvane_row_set_columns, *argument(widths_text(columns)))
         if background is not None:
-            self._call(lib.quorvane_row_set_background, *argument(background))
+            self._call(short_lib.quorvane_row_set_background, *argument(background))
         if border is not None:
-            self._call(lib.quorvane_row_set_border, *border_arguments(border, sides))
-        for name, value in (("heading", heading), ("keep", keep),
-                            ("keep_with_next", keep_with_next), ("page_break", page_break)):
-            if value is not None:
-                self._call(getattr(lib, f"quorvane_row_set_{name}"), number_argument(value, name))
+            self._call(short_lib.quorvane_row_set_border, *border_arguments(border, sides))
+        if heading is not None:
+            self._call(short_lib.quorvane_row_set_heading, number_argument(heading, "heading"))
+        if keep is not None:
+            self._call(short_lib.quorvane_row_set_keep, number_argument(keep, "keep"))
+        if keep_with_next is not None:
+            self._call(short_lib.quorvane_row_set_keep_with_next,
+                       number_argument(keep_with_next, "keep_with_next"))
+        if page_break is not None:
+            self._call(short_lib.quorvane_row_set_page_break,
+                       number_argument(page_break, "page_break"))
         return self
 
     def __repr__(self) -> str:

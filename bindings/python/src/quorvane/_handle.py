@@ -76,8 +76,7 @@ class Handle:
         if self._caller == thread:
             self._require_outside()
         with self._lock:
-            if self._pointer is None:
-                raise Error(f"The {self._KIND} is closed.")
+            self._require_open()
             self._caller = thread
             try:
                 status = function(self._pointer, *arguments)
@@ -87,6 +86,20 @@ class Handle:
                 raise self._raised_error()
             if status:
                 raise self._error(status)
+
+    def _call_shortly(self, function: Callable[..., int], *arguments: Any) -> None:
+        """A call that neither waits nor calls back: one of `short_lib`, which keeps the GIL."""
+        if self._caller is not None:
+            self._require_outside()
+        with self._lock:
+            status = function(self._pointer, *arguments)
+            if status:
+                self._require_open()
+                raise self._error(status)
+
+    def _require_open(self) -> None:
+        if self._pointer is None:
+            raise Error(f"The {self._KIND} is closed.")
 
     def _require_outside(self) -> None:
         """A file object, and what else a call calls, cannot call again: it would wait forever."""

@@ -9,9 +9,11 @@ import ctypes
 import pathlib
 import sys
 from ctypes import POINTER, Structure, c_char_p, c_int, c_size_t, c_void_p
-from typing import Any, Dict, List
+from typing import Any, Dict, List, Type, TypeVar
 
 _FILE_NAMES = {"win32": "quorvane-1.dll", "darwin": "libquorvane.1.dylib"}
+
+AnyLibrary = TypeVar("AnyLibrary", bound=ctypes.CDLL)
 
 AT_END = ctypes.c_size_t(-1).value
 
@@ -144,17 +146,20 @@ _FUNCTIONS: Dict[str, List[Any]] = {
 }
 
 
-def _load() -> ctypes.CDLL:
+def _load(kind: Type[AnyLibrary]) -> AnyLibrary:
     file = pathlib.Path(__file__).parent / _FILE_NAMES.get(sys.platform, "libquorvane.so.1")
     try:
-        return ctypes.CDLL(str(file))
+        return kind(str(file))
     except OSError as error:
         raise ImportError(
             f"The library of Quorvane cannot be loaded: {error}. Install a wheel of quorvane for "
             f"this system and this processor.") from error
 
 
-lib = _load()
+# Its calls release the GIL.
+lib = _load(ctypes.CDLL)
+# Its calls keep the GIL, which takes less time than releasing it where the call does little.
+short_lib = _load(ctypes.PyDLL)
 lib.quorvane_version.restype = c_char_p
 lib.quorvane_free.argtypes = [c_void_p]
 lib.quorvane_free.restype = None
@@ -171,7 +176,8 @@ for _kind in sorted({name.split("_")[0] for name in _FUNCTIONS
     getattr(lib, f"quorvane_{_kind}_error").argtypes = [c_void_p]
     getattr(lib, f"quorvane_{_kind}_error").restype = POINTER(CError)
 for _name, _arguments in _FUNCTIONS.items():
-    getattr(lib, f"quorvane_{_name}").argtypes = [c_void_p, *_arguments]
+    for _library in (lib, short_lib):
+        getattr(_library, f"quorvane_{_name}").argtypes = [c_void_p, *_arguments]
 
 
 def version() -> str:
