@@ -15,16 +15,16 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string written(const fs::path& path, std::string_view text) {
-    std::ofstream(path, std::ios::binary) << text;
-    return path.string();
-}
-
 std::string folderName() {
     return "quorvane-bench-" + std::to_string(::getpid());
 }
 
 }  // namespace
+
+std::string writtenFile(const fs::path& path, std::string_view text) {
+    std::ofstream(path, std::ios::binary) << text;
+    return path.string();
+}
 
 TemporaryFolder::TemporaryFolder(fs::path path) : path_(std::move(path)) {
     fs::create_directory(path_);
@@ -45,9 +45,10 @@ fs::path memoryFolder() {
 }
 
 BenchFiles::BenchFiles(const fs::path& folder, const fs::path& examples)
-    : minimal(written(folder / "minimal.rtfspec", "(doc\n(r\n(c\n(p\n(pt=a)\np)\nc)\nr)\ndoc)\n")),
-      full(written(folder / "full.rtfspec", fullDescription())),
-      fullSheet(written(folder / "full.rtfss", standardStyleSheet())),
+    : minimal(
+          writtenFile(folder / "minimal.rtfspec", "(doc\n(r\n(c\n(p\n(pt=a)\np)\nc)\nr)\ndoc)\n")),
+      full(writtenFile(folder / "full.rtfspec", fullDescription())),
+      fullSheet(writtenFile(folder / "full.rtfss", standardStyleSheet())),
       invoiceSheet((examples / "invoice.rtfss").string()) {
     constexpr int copies = 1000;
     for (int i = 0; i < copies; ++i) {

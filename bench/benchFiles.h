@@ -2,9 +2,13 @@
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace quorvane::bench {
+
+/// Writes a file and returns its path.
+std::string writtenFile(const std::filesystem::path& path, std::string_view text);
 
 /// A new folder, which goes with all that is in it.
 class TemporaryFolder {

@@ -34,11 +34,6 @@ namespace fs = std::filesystem;
 constexpr std::size_t manyInvoices = 10000;
 constexpr std::size_t fewInvoices = 500;
 
-std::string written(const fs::path& path, std::string_view text) {
-    std::ofstream(path, std::ios::binary) << text;
-    return path.string();
-}
-
 std::string contents(const fs::path& path) {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
@@ -67,8 +62,8 @@ std::vector<std::string> readyDescriptions(const fs::path& folder) {
     for (std::size_t number = 0; number < manyInvoices; ++number) {
         data::JsonError error;
         const std::optional<data::DataValue> invoice = data::readJson(invoiceData(number), error);
-        files.push_back(written(folder / name(number, ".rtfspec"),
-                                descriptionOf(filling.fill(invoice.value(), errors))));
+        files.push_back(writtenFile(folder / name(number, ".rtfspec"),
+                                    descriptionOf(filling.fill(invoice.value(), errors))));
     }
     return files;
 }
@@ -79,11 +74,11 @@ public:
         : quorvane_((programs / "quorvane").string()),
           peers_(std::move(peers)),
           folder_(folder),
-          template_(written(folder / "invoice.rtfspec", invoiceTemplate())),
-          many_(written(folder / "many.jsonl", invoicesUpTo(manyInvoices))),
-          few_(written(folder / "few.jsonl", invoicesUpTo(fewInvoices))),
+          template_(writtenFile(folder / "invoice.rtfspec", invoiceTemplate())),
+          many_(writtenFile(folder / "many.jsonl", invoicesUpTo(manyInvoices))),
+          few_(writtenFile(folder / "few.jsonl", invoicesUpTo(fewInvoices))),
           pattern_((folder / "pattern.rtf").string()) {
-        const std::string data = written(folder / "pattern.json", invoicePattern());
+        const std::string data = writtenFile(folder / "pattern.json", invoicePattern());
         timedRun({quorvane_, "render", "--data", data, template_, "-o", pattern_});
     }
 

@@ -7,7 +7,7 @@ namespace quorvane::cli {
 namespace {
 
 /// FNV-1a, with the bits mixed at the end. Never 0, which a free slot has.
-std::uint64_t hashOf(std::string_view name) {
+std::uint64_t slotHash(std::string_view name) {
     constexpr std::uint64_t basis = 0xCBF29CE484222325U;
     constexpr std::uint64_t prime = 0x100000001B3U;
     constexpr std::uint64_t mixer = 0xFF51AFD7ED558CCDU;
@@ -38,7 +38,7 @@ std::optional<std::uint32_t> SeenNames::add(std::string_view name, std::uint32_t
     if (count_ > size - size / fullness) {
         grow();
     }
-    const std::uint64_t hash = hashOf(name);
+    const std::uint64_t hash = slotHash(name);
     const std::size_t slot = slots_.find(hash);
     if (slots_.hashes[slot] == hash) {
         return slots_.numbers[slot];

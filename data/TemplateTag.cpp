@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "quorvane/base/text/nowhere.h"
 #include "quorvane/base/text/trimming.h"
 
 namespace quorvane::data {
 
 namespace {
 
-constexpr std::size_t nowhere = std::string_view::npos;
 constexpr std::string_view opening = "{{";
 constexpr std::string_view closing = "}}";
 

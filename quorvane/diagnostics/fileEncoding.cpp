@@ -17,7 +17,7 @@ bool isUtf16(std::string_view text) {
     }
     const bool isMarked =
         std::any_of(std::begin(utf16Marks), std::end(utf16Marks),
-                    [&](std::string_view mark) { return text.starts_with(mark); });
+                    [&](std::string_view bytes) { return text.starts_with(bytes); });
     if (isMarked) {
         return text.find('\0') != std::string_view::npos;
     }

@@ -3,14 +3,13 @@
 #include <cstddef>
 #include <string>
 
+#include "quorvane/base/text/nowhere.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/support/FilledValue.h"
 
 namespace quorvane {
 
 namespace {
-
-constexpr std::size_t nowhere = std::string_view::npos;
 
 /// `find`, compiled into its callers: lines are short.
 std::size_t positionIn(std::string_view text, char character, std::size_t start = 0) {

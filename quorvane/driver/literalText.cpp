@@ -4,14 +4,13 @@
 #include <cstddef>
 #include <vector>
 
+#include "quorvane/base/text/nowhere.h"
 #include "quorvane/docmodel/inline/inlineToken.h"
 #include "quorvane/rtf/escape.h"
 
 namespace quorvane {
 
 namespace {
-
-constexpr std::size_t nowhere = std::string_view::npos;
 
 /// An inline style: where it is in the text, and the words that it stands for.
 struct StyledPart {

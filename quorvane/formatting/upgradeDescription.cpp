@@ -34,7 +34,7 @@ bool isAmbiguous(const Diagnostic& diagnostic) {
            diagnostic.id == DiagnosticId::OutsideDocument;
 }
 
-std::vector<UpgradeRemark> errorsBefore(std::string_view text) {
+std::vector<UpgradeRemark> descriptionErrors(std::string_view text) {
     std::vector<UpgradeRemark> errors;
     for (const Diagnostic& diagnostic : checkDescription(text, nullptr, TextEncoding::Utf8)) {
         if (diagnostic.severity == Severity::Error || isAmbiguous(diagnostic)) {
@@ -246,7 +246,7 @@ Upgrade upgradedDescription(std::string_view text, const std::optional<std::stri
     if (isMarkedExtended(text)) {
         return {.text = std::string(text)};
     }
-    if (std::vector<UpgradeRemark> errors = errorsBefore(text); !errors.empty()) {
+    if (std::vector<UpgradeRemark> errors = descriptionErrors(text); !errors.empty()) {
         return {.errors = std::move(errors)};
     }
     try {

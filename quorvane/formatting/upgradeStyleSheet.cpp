@@ -30,7 +30,7 @@ namespace quorvane {
 
 namespace {
 
-std::vector<UpgradeRemark> errorsBefore(std::string_view text) {
+std::vector<UpgradeRemark> styleSheetErrors(std::string_view text) {
     std::vector<UpgradeRemark> errors;
     for (const Diagnostic& diagnostic : checkStyleSheet(text, TextEncoding::Utf8)) {
         if (diagnostic.severity == Severity::Error) {
@@ -297,7 +297,7 @@ Upgrade upgradedStyleSheet(std::string_view text) {
     if (isMarkedExtended(text)) {
         return {.text = std::string(text)};
     }
-    if (std::vector<UpgradeRemark> errors = errorsBefore(text); !errors.empty()) {
+    if (std::vector<UpgradeRemark> errors = styleSheetErrors(text); !errors.empty()) {
         return {.errors = std::move(errors)};
     }
     return StyleSheetUpgrade(text).run();

@@ -4,14 +4,13 @@
 #include <array>
 #include <iterator>
 
+#include "quorvane/base/text/nowhere.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/trimming.h"
 
 namespace quorvane {
 
 namespace {
-
-constexpr std::size_t nowhere = std::string_view::npos;
 
 constexpr const StyleKeyword* keywords[] = {&kindKeyword, &formatKeyword, &basedOnKeyword,
                                             &nextKeyword, &additiveKeyword};

@@ -16,12 +16,12 @@ namespace {
 constexpr std::size_t searchedOneByOne = 8;
 constexpr std::size_t usualEntryCount = 4;
 // What an empty slot holds, and the position of an absent key.
-constexpr std::uint32_t nowhere = UINT32_MAX;
+constexpr std::uint32_t noEntry = UINT32_MAX;
 
 }  // namespace
 
 bool CMap::Exists(const Value& Key) const {
-    return positionOf(Key) != nowhere;
+    return positionOf(Key) != noEntry;
 }
 
 CMap::List CMap::Items() const {
@@ -52,7 +52,7 @@ void CMap::Key(const Value& Old, Value New) {
     const std::uint32_t position = published([&] {
         const std::uint32_t renamed = requiredPositionOf(Old);
         const std::uint32_t taken = positionOf(New);
-        if (taken != nowhere && taken != renamed) {
+        if (taken != noEntry && taken != renamed) {
             raise(RunTimeError::DuplicateKey);
         }
         return renamed;
@@ -74,7 +74,7 @@ const Value& CMap::Item(const Value& Key) const {
 void CMap::setItem(const Value& Key, Value value) {
     const std::size_t hash = ValueHash{}(Key);
     const std::uint32_t position = positionOf(Key, hash);
-    if (position == nowhere) {
+    if (position == noEntry) {
         append(Key, std::move(value), hash);
     } else {
         entries_[position].value = std::move(value);
@@ -95,7 +95,7 @@ void CMap::Remove(const Value& Key) {
 void CMap::add(Value Key, Value value) {
     const std::size_t hash = ValueHash{}(Key);
     published([&] {
-        if (positionOf(Key, hash) != nowhere) {
+        if (positionOf(Key, hash) != noEntry) {
             raise(RunTimeError::DuplicateKey);
         }
     });
@@ -126,7 +126,7 @@ std::shared_ptr<CMap> CMap::subMap(const List& vKeys) const {
     auto map = std::make_shared<CMap>();
     for (const Value& key : *vKeys) {
         const std::uint32_t position = positionOf(key);
-        if (position != nowhere) {
+        if (position != noEntry) {
             map->setItem(key, entries_[position].value);
         }
     }
@@ -141,7 +141,7 @@ std::size_t CMap::firstSlot(std::size_t hash) const {
 }
 
 std::uint32_t CMap::positionOf(const Value& key) const {
-    return entries_.empty() ? nowhere : positionOf(key, ValueHash{}(key));
+    return entries_.empty() ? noEntry : positionOf(key, ValueHash{}(key));
 }
 
 std::uint32_t CMap::positionOf(const Value& key, std::size_t hash) const {
@@ -151,20 +151,20 @@ std::uint32_t CMap::positionOf(const Value& key, std::size_t hash) const {
                 return position;
             }
         }
-        return nowhere;
+        return noEntry;
     }
-    for (std::size_t slot = firstSlot(hash); slots_[slot] != nowhere; slot = nextSlot(slot)) {
+    for (std::size_t slot = firstSlot(hash); slots_[slot] != noEntry; slot = nextSlot(slot)) {
         const Entry& entry = entries_[slots_[slot]];
         if (entry.hash == hash && entry.key == key) {
             return slots_[slot];
         }
     }
-    return nowhere;
+    return noEntry;
 }
 
 std::uint32_t CMap::requiredPositionOf(const Value& key) const {
     const std::uint32_t position = positionOf(key);
-    if (position == nowhere) {
+    if (position == noEntry) {
         raise(RunTimeError::InvalidProcedureCall);
     }
     return position;
@@ -189,7 +189,7 @@ void CMap::fillSlots() {
     if (slots_.empty()) {
         return;
     }
-    std::fill(slots_.begin(), slots_.end(), nowhere);
+    std::fill(slots_.begin(), slots_.end(), noEntry);
     for (std::size_t position = 0; position < entries_.size(); ++position) {
         takeSlot(position);
     }
@@ -197,7 +197,7 @@ void CMap::fillSlots() {
 
 void CMap::takeSlot(std::size_t position) {
     std::size_t slot = firstSlot(entries_[position].hash);
-    while (slots_[slot] != nowhere) {
+    while (slots_[slot] != noEntry) {
         slot = nextSlot(slot);
     }
     slots_[slot] = static_cast<std::uint32_t>(position);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "quorvane/base/text/LineReader.h"
+#include "quorvane/base/text/nowhere.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/textSearch.h"
 #include "quorvane/base/text/trimming.h"
@@ -63,8 +64,6 @@ public:
     }
 
 private:
-    static constexpr std::size_t nowhere = std::string_view::npos;
-
     /// Where the mark stands in a line of the form `(key=MARK`.
     std::size_t valueAfter(std::string_view line) const {
         if (!line.starts_with('(')) {

@@ -46,6 +46,7 @@ public:
     ArenaAllocator(const ArenaAllocator<Other>& other) noexcept : arena_(&other.arena()) {}
 
     Element* allocate(std::size_t count) {
+        // An element can be a pointer: NOLINTNEXTLINE(bugprone-sizeof-expression)
         return static_cast<Element*>(arena_->allocate(count * sizeof(Element), alignof(Element)));
     }
     void deallocate(Element*, std::size_t) noexcept {}

@@ -21,7 +21,7 @@ namespace quorvane {
 namespace {
 
 /// Words that people write for names of this language that look quite different.
-constexpr std::pair<std::string_view, std::string_view> otherWords[] = {
+constexpr std::pair<std::string_view, std::string_view> otherValueWords[] = {
     {"crimson", "dark-red"},  {"maroon", "dark-red"},   {"scarlet", "red"},
     {"navy", "navy-blue"},    {"grey", "gray"},         {"dark-grey", "dark-gray"},
     {"light-gray", "silver"}, {"light-grey", "silver"}, {"lightgray", "silver"},
@@ -81,7 +81,7 @@ Hint nameHint(const std::string& value, const std::vector<std::string_view>& nam
         return spellingHint(lowerCase(bare), names);
     }
     const std::string word = lowerCase(value);
-    for (const auto& [other, meant] : otherWords) {
+    for (const auto& [other, meant] : otherValueWords) {
         if (word == other) {
             for (const std::string_view name : names) {
                 if (name == meant) {

@@ -13,7 +13,7 @@ namespace quorvane {
 namespace {
 
 /// Words of other languages for words of the keys.
-constexpr std::pair<std::string_view, std::string_view> otherWords[] = {
+constexpr std::pair<std::string_view, std::string_view> otherKeyWords[] = {
     {"background", "backcolor"}, {"bg", "backcolor"},     {"bgcolor", "backcolor"},
     {"color", "backcolor"},      {"colour", "backcolor"}, {"fill", "backcolor"},
     {"shading", "backcolor"},    {"align", "alignment"},  {"justify", "alignment"},
@@ -68,7 +68,7 @@ std::vector<std::string> meaningOf(std::string_view key, NodeKind kind) {
         const std::size_t end = std::min(key.find_first_of("-_. ", start), key.size());
         std::string part = lowerCase(key.substr(start, end - start));
         start = end + 1;
-        for (const auto& [other, meant] : otherWords) {
+        for (const auto& [other, meant] : otherKeyWords) {
             part = part == other ? std::string(meant) : part;
         }
         if (!part.empty() && part != node) {

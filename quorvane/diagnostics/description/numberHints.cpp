@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 
+#include "quorvane/base/text/nowhere.h"
 #include "quorvane/base/text/numberText.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/values/units.h"
@@ -16,8 +17,6 @@
 namespace quorvane {
 
 namespace {
-
-constexpr std::size_t nowhere = std::string_view::npos;
 
 /// True for the measures of the page.
 bool isInTwips(std::string_view key) {

@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include "quorvane/base/text/nowhere.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/diagnostics/engine/nearestWord.h"
@@ -14,7 +15,6 @@ namespace quorvane {
 
 namespace {
 
-constexpr std::size_t nowhere = std::string_view::npos;
 constexpr std::string_view nodeNames[] = {nodeName(NodeKind::Doc), nodeName(NodeKind::Row),
                                           nodeName(NodeKind::Cell), nodeName(NodeKind::Para)};
 

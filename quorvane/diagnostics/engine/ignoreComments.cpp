@@ -13,6 +13,7 @@
 
 #include "quorvane/base/text/LineReader.h"
 #include "quorvane/base/text/extendedMark.h"
+#include "quorvane/base/text/nowhere.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/diagnostics/engine/nearestWord.h"
@@ -27,7 +28,6 @@ namespace quorvane {
 
 namespace {
 
-constexpr std::size_t nowhere = std::string_view::npos;
 constexpr std::string_view mark = "quorvane:";
 constexpr std::string_view separators = " \t,";
 

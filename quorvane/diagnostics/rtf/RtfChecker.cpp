@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::size_t deepestGroups = 1000;
 // So many different unknown words are reported.
-constexpr std::size_t maxReported = 1000;
+constexpr std::size_t maxReportedWords = 1000;
 
 bool isBlank(char byte) {
     return byte == ' ' || byte == '\t';
@@ -339,7 +339,7 @@ void RtfChecker::takeFirstWord() {
 
 /// True for an unknown word that was not reported yet.
 bool RtfChecker::isNewWord(std::string_view word) {
-    return reportedWords_.size() < maxReported && !reportedWords_.contains(word) &&
+    return reportedWords_.size() < maxReportedWords && !reportedWords_.contains(word) &&
            reportedWords_.emplace(word).second;
 }
 

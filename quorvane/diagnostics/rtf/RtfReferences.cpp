@@ -9,7 +9,7 @@ namespace quorvane {
 namespace {
 
 // So many different missing numbers of each kind are reported.
-constexpr std::size_t maxReported = 1000;
+constexpr std::size_t maxReportedNumbers = 1000;
 
 /// Position of a style's role among the roles that name a style.
 std::size_t styleKind(RtfRole role) {
@@ -109,7 +109,7 @@ void RtfReferences::reportMissing(Kind kind, DiagnosticId id, const RtfControl& 
                                   const Place& place) {
     const std::int64_t number = control.number.value_or(0);
     std::unordered_set<std::int64_t>& reported = reported_[kind];
-    if (reported.size() >= maxReported || !reported.insert(number).second) {
+    if (reported.size() >= maxReportedNumbers || !reported.insert(number).second) {
         return;
     }
     const std::string name = kind >= FirstStyleKind ? std::string(control.word) : "";

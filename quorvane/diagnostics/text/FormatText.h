@@ -4,6 +4,7 @@
 #include <optional>
 #include <string_view>
 
+#include "quorvane/base/text/nowhere.h"
 #include "quorvane/diagnostics/text/TextReporter.h"
 #include "quorvane/rtf/RtfControl.h"
 
@@ -28,8 +29,6 @@ public:
     void end();
 
 private:
-    static constexpr std::size_t nowhere = std::string_view::npos;
-
     bool isPrinted(std::size_t at) const;
 
     std::string_view format_;

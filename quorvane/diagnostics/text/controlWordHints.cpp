@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "quorvane/base/text/asciiCharacters.h"
+#include "quorvane/base/text/nowhere.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/diagnostics/engine/nearestWord.h"
 #include "quorvane/rtf/RtfWord.h"
@@ -13,8 +14,6 @@
 namespace quorvane {
 
 namespace {
-
-constexpr std::size_t nowhere = std::string_view::npos;
 
 /// A control word that stands in a format without its backslash, with one in front; empty for any
 /// other word.

@@ -6,6 +6,7 @@
 #include <iterator>
 #include <utility>
 
+#include "quorvane/base/text/nowhere.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/trimming.h"
 
@@ -13,7 +14,6 @@ namespace quorvane {
 
 namespace {
 
-constexpr std::size_t nowhere = std::string_view::npos;
 // Words of this length are repeated in a hint.
 constexpr std::size_t longestShown = 30;
 

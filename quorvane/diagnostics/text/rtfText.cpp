@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "quorvane/base/text/asciiCharacters.h"
+#include "quorvane/base/text/nowhere.h"
 #include "quorvane/base/text/textCase.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/base/text/utf8.h"
@@ -28,8 +29,6 @@
 namespace quorvane {
 
 namespace {
-
-constexpr std::size_t nowhere = std::string_view::npos;
 
 /// Control words that end a cell, a row or the page that the table stands on.
 bool endsCell(RtfRole role) {

@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "quorvane/base/text/nowhere.h"
 #include "quorvane/base/text/trimming.h"
 #include "quorvane/base/text/utf16Units.h"
 #include "quorvane/base/text/utf8.h"
@@ -20,8 +21,6 @@
 namespace quorvane {
 
 namespace {
-
-constexpr std::size_t nowhere = std::string_view::npos;
 
 /// What decides how the inline styles of a text are replaced.
 struct TextForm {
