@@ -4,9 +4,9 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
 option(QUORVANE_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" ${PROJECT_IS_TOP_LEVEL})
-option(QUORVANE_SANITIZE "Build with the address and undefined-behavior sanitizers" OFF)
+option(QUORVANE_SANITIZE
+    "Build with the address and undefined-behavior sanitizers, with clang the fuzzers too" OFF)
 option(QUORVANE_SANITIZE_THREADS "Build with the thread sanitizer" OFF)
-option(QUORVANE_FUZZ "Build the fuzzers, which take clang, and nothing else to run" OFF)
 option(QUORVANE_COVERAGE "Build so that the tests' coverage can be measured" OFF)
 
 # GCC 12 writes wrong unwinding tables for what it splits off as rarely used: an exception that
@@ -35,15 +35,14 @@ if(QUORVANE_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
                         -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
+    # What the fuzzers learn from. It does not concern the tests.
+    if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+        add_compile_options(-fsanitize=fuzzer-no-link)
+    endif()
 endif()
 if(QUORVANE_SANITIZE_THREADS)
     add_compile_options(-fsanitize=thread -fno-omit-frame-pointer)
     add_link_options(-fsanitize=thread)
-endif()
-if(QUORVANE_FUZZ)
-    add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all
-                        -fno-omit-frame-pointer)
-    add_link_options(-fsanitize=address,undefined)
 endif()
 if(QUORVANE_COVERAGE)
     add_compile_options(--coverage -fprofile-update=atomic)

@@ -11,7 +11,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
     add_link_options(-Wl,-z,relro,-z,now)
 
     # It takes an optimized build, and the sanitizers watch over the same functions themselves.
-    if(NOT QUORVANE_SANITIZE AND NOT QUORVANE_SANITIZE_THREADS AND NOT QUORVANE_FUZZ)
+    if(NOT QUORVANE_SANITIZE AND NOT QUORVANE_SANITIZE_THREADS)
         add_compile_options($<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-U_FORTIFY_SOURCE>
                             $<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-D_FORTIFY_SOURCE=2>)
     endif()
