@@ -27,6 +27,8 @@ import quorvane
 TEMPLATES = pathlib.Path(__file__).resolve().parent.parent / "templates"
 # LibreOffice takes about 250 arguments, and says nothing about the documents after them.
 CONVERTED_AT_A_START = 200
+# It needs some 0.1 seconds for a document. Seconds after which it will not come to an end.
+LONGEST_START = 600
 # Two processes of this machine, and any free port for Dask's own pages.
 LOCAL_CLUSTER = {"n_workers": 2, "threads_per_worker": 1, "dashboard_address": "localhost:0"}
 
@@ -122,11 +124,16 @@ def convert(done, output):
 def convert_documents(names, output, profile):
     """Converts documents with one start of LibreOffice. The PDF files appear whole."""
     with tempfile.TemporaryDirectory(dir=output, prefix=".pdf-") as folder:
-        status = subprocess.run(
-            ["soffice", "--headless", f"-env:UserInstallation={pathlib.Path(profile).as_uri()}",
-             "--convert-to", "pdf", "--outdir", folder,
-             *(os.path.join(output, name + ".rtf") for name in names)],
-            check=False, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL).returncode
+        try:
+            status = subprocess.run(
+                ["soffice", "--headless", f"-env:UserInstallation={pathlib.Path(profile).as_uri()}",
+                 "--convert-to", "pdf", "--outdir", folder,
+                 *(os.path.join(output, name + ".rtf") for name in names)],
+                check=False, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                timeout=LONGEST_START).returncode
+        except subprocess.TimeoutExpired:
+            raise OSError(f"LibreOffice did not convert {len(names)} documents beginning with "
+                          f"{names[0]}.rtf within {LONGEST_START} seconds") from None
         made = len(os.listdir(folder))
         if status != 0 or made < len(names):
             raise OSError(f"LibreOffice converted {made} of {len(names)} documents beginning with "

@@ -14,6 +14,7 @@ import signal
 import subprocess
 import sys
 import tempfile
+import unittest.mock
 
 import distributed
 
@@ -200,6 +201,22 @@ def failing_ranges_cost_no_other(client, folder, starts):
     assert sorted(file.name for file in output.glob("*.pdf")) == ["K-0-0000.pdf", "K-0-0001.pdf"]
 
 
+def a_start_that_does_not_end_is_ended(folder):
+    folder.mkdir()
+    program = folder / "soffice"
+    program.write_text("#!/bin/sh\nexec sleep 60\n", "utf-8")
+    program.chmod(0o755)
+    with unittest.mock.patch.dict(os.environ, PATH=f"{folder}:{os.environ['PATH']}"), \
+            unittest.mock.patch.object(statements, "LONGEST_START", 1):
+        try:
+            statements.convert_documents(["K-0-0001", "K-0-0002"], str(folder), str(folder))
+        except OSError as error:
+            assert str(error) == ("LibreOffice did not convert 2 documents beginning with "
+                                  "K-0-0001.rtf within 1 seconds"), error
+        else:
+            raise AssertionError("It did not fail")
+
+
 def main():
     command = pathlib.Path(sys.argv[1]).resolve()
     with tempfile.TemporaryDirectory(prefix="with blanks ") as name, \
@@ -208,6 +225,7 @@ def main():
             distributed.Client(cluster) as client:
         folder = pathlib.Path(name) / "test"
         folder.mkdir()
+        a_start_that_does_not_end_is_ended(folder / "endless")
         nothing_is_lost_or_doubled(client, command, folder)
         wrong_records_are_reported(client, folder)
         blank_lines_are_no_records(client, command, folder)
