@@ -127,6 +127,15 @@ public:
         requireSameJob(fromC, run({"own"}));
         compare((job + " through the library for C, to the modern interface").c_str(), 11, fromC,
                 run({"own"}));
+        if (succeeds({"python3", "--version"})) {
+            const auto fromPython = [&](const std::string& out) {
+                return Command{"python3", (peers_ / "standard_job.py").string(), packages_, rows,
+                               out + "/standard.rtf"};
+            };
+            requireSameJob(fromPython, fromC);
+            compare((job + " through the Python package, to the library for C").c_str(), 3,
+                    fromPython, fromC);
+        }
         std::printf("- Its peak memory: %.1f MB; that of the one-buffer emitter: %.1f MB\n",
                     toOneBuffer.ours(&Run::peakMegabytes), toOneBuffer.theirs(&Run::peakMegabytes));
     }

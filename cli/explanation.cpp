@@ -13,7 +13,7 @@ namespace quorvane::cli {
 
 namespace {
 
-std::string_view languageName(CheckedLanguage language) {
+std::string_view textsOf(CheckedLanguage language) {
     switch (language) {
         case CheckedLanguage::Description:
             return "descriptions";
@@ -59,7 +59,7 @@ using Json = nlohmann::ordered_json;
 std::string explanation(const DiagnosticRule& rule) {
     const bool isSheet = rule.language == CheckedLanguage::StyleSheet;
     return std::string(rule.identifier) + ": " + std::string(severityName(rule.severity)) + " in " +
-           std::string(languageName(rule.language)) +
+           std::string(textsOf(rule.language)) +
            (isOffByDefault(rule.id) ? ", off by default" : "") + "\n    " + exampleMessage(rule) +
            "\n\n" + wrapped(rule.explanation) +
            example(isSheet ? "With this description:" : "With this stylesheet:", rule.companion) +

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "data/takeDigits.h"
 #include "quorvane/base/text/asciiCharacters.h"
 
 namespace quorvane::data {
@@ -68,14 +69,6 @@ std::string_view groupSignAt(std::string_view text, char decimalSign) {
         }
     }
     return {};
-}
-
-std::string_view takeDigits(std::string_view& text) {
-    const auto end = std::find_if_not(text.begin(), text.end(), isAsciiDigit);
-    const std::string_view digits =
-        text.substr(0, static_cast<std::size_t>(std::distance(text.begin(), end)));
-    text.remove_prefix(digits.size());
-    return digits;
 }
 
 }  // namespace

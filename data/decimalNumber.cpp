@@ -5,18 +5,13 @@
 #include <cstdlib>
 #include <system_error>
 
+#include "data/takeDigits.h"
+
 namespace quorvane::data {
 
 namespace {
 
 constexpr std::size_t maxDigits = 400;
-
-std::string_view takeDigits(std::string_view& text) {
-    const std::size_t end = std::min(text.find_first_not_of("0123456789"), text.size());
-    const std::string_view digits = text.substr(0, end);
-    text.remove_prefix(end);
-    return digits;
-}
 
 bool takeOneOf(std::string_view& text, std::string_view characters) {
     const bool isThere = !text.empty() && characters.find(text.front()) != std::string_view::npos;

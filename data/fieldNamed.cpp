@@ -24,8 +24,8 @@ std::string listOf(const std::vector<std::string>& names) {
 std::size_t fieldNamed(std::string_view name, const std::vector<std::string>& names) {
     const auto found = std::find(names.begin(), names.end(), name);
     if (found == names.end()) {
-        const std::vector<std::string_view> candidates(names.begin(), names.end());
-        const std::string guess = didYouMean(name, candidates);
+        const std::vector<std::string_view> known(names.begin(), names.end());
+        const std::string guess = didYouMean(name, known);
         refuse("The data has no field \"" + std::string(name) + "\"" +
                (guess.empty() ? listOf(names) : "; " + guess));
     }

@@ -188,8 +188,8 @@ private:
     }
 
     void addText(const Leaf& leaf, std::size_t depth) {
-        constexpr std::size_t indentation = 2;
-        UpgradedText values = texts_.upgraded(leaf.text, (depth + 1) * indentation);
+        constexpr std::size_t indentationOfLevel = 2;
+        UpgradedText values = texts_.upgraded(leaf.text, (depth + 1) * indentationOfLevel);
         if (!values.error.empty()) {
             errors_.push_back({leaf.line, std::move(values.error)});
             values.text.emplace();

@@ -73,7 +73,7 @@ std::string errors() {
 
 TEST(Threads, FillTemplatesWithJobsOfTheirOwn) {
     const std::string alone = filledTemplates();
-    EXPECT_NE(alone.find("Dvo\\u345?\\'e1k 49"), std::string::npos);
+    EXPECT_NE(alone.find("Dvo{\\uc1\\u345?}\\'E1k 49"), std::string::npos);
     for (const std::string& made : madeByThreads(filledTemplates)) {
         EXPECT_EQ(made, alone);
     }
