@@ -18,7 +18,15 @@ configure() {
     if command -v ccache >/dev/null; then
         options+=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
     fi
-    cmake --preset "$preset" "${options[@]}"
+    local output status=0
+    output=$(cmake --preset "$preset" "${options[@]}" 2>&1) || status=$?
+    # A folder of another compiler keeps nothing of the preset but the compiler.
+    if [[ $output == *"require your cache to be deleted"* ]]; then
+        cmake --fresh --preset "$preset" "${options[@]}"
+        return
+    fi
+    printf '%s\n' "$output"
+    return "$status"
 }
 
 # build PRESET [OPTION...]: configures and builds a preset.

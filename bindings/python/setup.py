@@ -23,7 +23,7 @@ PROJECT = COPY if COPY.exists() else pathlib.Path(
     os.environ.get("QUORVANE_PROJECT", HERE.parent.parent))
 
 # What the library for C is built from.
-SOURCES = ["CMakeLists.txt", "CMakePresets.json", "LICENSE", "THIRD-PARTY-NOTICES", "capi", "cmake",
+SOURCES = ["CMakeLists.txt", "CMakePresets.json", "LICENSE", "THIRD-PARTY-NOTICES", "capi", "cmake", "com",
            "data", "packaging", "quorvane"]
 
 FILE_NAMES = {"win32": "quorvane-1.dll", "darwin": "libquorvane.1.dylib"}

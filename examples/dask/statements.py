@@ -16,6 +16,7 @@ import json
 import os
 import pathlib
 import re
+import signal
 import subprocess
 import sys
 import tempfile
@@ -125,12 +126,10 @@ def convert_documents(names, output, profile):
     """Converts documents with one start of LibreOffice. The PDF files appear whole."""
     with tempfile.TemporaryDirectory(dir=output, prefix=".pdf-") as folder:
         try:
-            status = subprocess.run(
+            status = status_of(
                 ["soffice", "--headless", f"-env:UserInstallation={pathlib.Path(profile).as_uri()}",
                  "--convert-to", "pdf", "--outdir", folder,
-                 *(os.path.join(output, name + ".rtf") for name in names)],
-                check=False, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-                timeout=LONGEST_START).returncode
+                 *(os.path.join(output, name + ".rtf") for name in names)])
         except subprocess.TimeoutExpired:
             raise OSError(f"LibreOffice did not convert {len(names)} documents beginning with "
                           f"{names[0]}.rtf within {LONGEST_START} seconds") from None
@@ -140,6 +139,17 @@ def convert_documents(names, output, profile):
                           f"{names[0]}.rtf, and ended with status {status}")
         for name in names:
             os.replace(os.path.join(folder, name + ".pdf"), os.path.join(output, name + ".pdf"))
+
+
+def status_of(command):
+    """Runs a program to its end, or ends it, with the programs that it started."""
+    with subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                          start_new_session=True) as process:
+        try:
+            return process.wait(LONGEST_START)
+        finally:
+            if process.returncode is None:
+                os.killpg(process.pid, signal.SIGKILL)
 
 
 def failed_range(part, error):

@@ -38,7 +38,7 @@ static class Invoice
             && quorvane_job_render_file(job, TextOf("invoice.rtfspec"), End, Text(file), End) == 0;
         if (!done)
         {
-            Console.Error.WriteLine(Marshal.PtrToStringAnsi(quorvane_job_error_text(job)));
+            Console.Error.WriteLine(Marshal.PtrToStringUTF8(quorvane_job_error_text(job)));
         }
         quorvane_job_free(job);
         return done ? 0 : 1;

@@ -1,4 +1,4 @@
-// Handles of different threads know nothing of each other. The thread sanitizer runs this (preset
+// Handles of different threads share nothing. The thread sanitizer runs this (preset
 // "threads").
 
 #include <gtest/gtest.h>
@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstddef>
+#include <sstream>
 #include <string>
 #include <thread>
 
@@ -60,15 +61,38 @@ std::string builtDocuments() {
     return all;
 }
 
-std::string errors() {
-    const DocumentHandle document = newDocument();
+std::string writtenTables() {
     std::string all;
     for (int i = 0; i < 50; ++i) {
-        const std::string color = "color " + std::to_string(i);
-        quorvane_row_set_background(document.get(), 0, color.data(), color.size());
-        all += quorvane_document_error(document.get())->message;
+        const TableHandle table = newTable();
+        quorvane_table_add_column(table.get(), QUORVANE_TEXT("Article"), nullptr, 0,
+                                  QUORVANE_ALIGN_DEFAULT);
+        quorvane_table_begin(table.get());
+        const char* const texts[] = {"Mug {large}"};
+        quorvane_table_add_row(table.get(), texts, nullptr, 1);
+        quorvane_table_finish(table.get());
+        all += textOf([&](char** rtf, std::size_t* length) {
+            return quorvane_table_take(table.get(), rtf, length);
+        });
     }
     return all;
+}
+
+/// How many of the errors of wrong colors name the color of the thread.
+std::string ownErrors() {
+    std::ostringstream name;
+    name << "color of " << std::this_thread::get_id();
+    const std::string color = name.str();
+    const DocumentHandle document = newDocument();
+    const char* const texts[] = {"Mug"};
+    quorvane_document_add_row(document.get(), texts, nullptr, 1, nullptr, 0, nullptr);
+    int own = 0;
+    for (int i = 0; i < 50; ++i) {
+        quorvane_row_set_background(document.get(), 0, color.data(), color.size());
+        const std::string message = quorvane_document_error(document.get())->message;
+        own += message.find(color) != std::string::npos ? 1 : 0;
+    }
+    return std::to_string(own);
 }
 
 TEST(Threads, FillTemplatesWithJobsOfTheirOwn) {
@@ -87,11 +111,17 @@ TEST(Threads, BuildDocumentsOfTheirOwn) {
     }
 }
 
-TEST(Threads, HaveTheErrorsOfTheirOwnHandles) {
-    const std::string alone = errors();
-    EXPECT_FALSE(alone.empty());
-    for (const std::string& made : madeByThreads(errors)) {
+TEST(Threads, WriteTablesOfTheirOwn) {
+    const std::string alone = writtenTables();
+    EXPECT_NE(alone.find("Mug \\{large\\}"), std::string::npos);
+    for (const std::string& made : madeByThreads(writtenTables)) {
         EXPECT_EQ(made, alone);
+    }
+}
+
+TEST(Threads, HaveTheErrorsOfTheirOwnHandles) {
+    for (const std::string& own : madeByThreads(ownErrors)) {
+        EXPECT_EQ(own, "50");
     }
 }
 

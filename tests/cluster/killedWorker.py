@@ -10,10 +10,12 @@ import json
 import logging
 import os
 import pathlib
+import shlex
 import signal
 import subprocess
 import sys
 import tempfile
+import time
 import unittest.mock
 
 import distributed
@@ -204,7 +206,8 @@ def failing_ranges_cost_no_other(client, folder, starts):
 def a_start_that_does_not_end_is_ended(folder):
     folder.mkdir()
     program = folder / "soffice"
-    program.write_text("#!/bin/sh\nexec sleep 60\n", "utf-8")
+    program.write_text(f"#!/bin/sh\nsleep 60 &\necho $! >{shlex.quote(str(folder))}/child\nwait\n",
+                       "utf-8")
     program.chmod(0o755)
     with unittest.mock.patch.dict(os.environ, PATH=f"{folder}:{os.environ['PATH']}"), \
             unittest.mock.patch.object(statements, "LONGEST_START", 1):
@@ -215,6 +218,13 @@ def a_start_that_does_not_end_is_ended(folder):
                                   "K-0-0001.rtf within 1 seconds"), error
         else:
             raise AssertionError("It did not fail")
+    child = pathlib.Path("/proc") / (folder / "child").read_text("utf-8").strip() / "stat"
+    for _ in range(100):
+        # A process that has ended is there until its parent takes note of it.
+        if not child.exists() or child.read_text("utf-8").rpartition(")")[2].split()[0] in "ZX":
+            return
+        time.sleep(0.1)
+    raise AssertionError("What LibreOffice started goes on")
 
 
 def main():

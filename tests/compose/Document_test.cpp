@@ -553,13 +553,22 @@ TEST(Handles, ToNothingAreErrors) {
               error);  // NOLINT(bugprone-use-after-move)
 }
 
-TEST(Ranges, CanBeFilteredSearchedAndReversed) {
+// Before version 16, clang cannot compile the views of this standard library.
+#if !defined(__clang__) || __clang_major__ >= 16
+TEST(Ranges, CanBeFilteredAndReversed) {
     Document document;
     document.addRow({"a", "b", "c", "d"});
     for (const Cell cell : document[0].cells() | std::views::drop(1) | std::views::reverse) {
         cell.addParagraph("x");
     }
     EXPECT_THAT(textsOf(document[0]), ElementsAre("a", "b", "x", "c", "x", "d", "x"));
+}
+#endif
+
+TEST(Ranges, CanBeSearched) {
+    Document document;
+    document.addRow({"a", "b", "c", "d"});
+    document[0].cells()[1].addParagraph("x");
     const Cells cells = document[0].cells();
     const auto found =
         std::ranges::find_if(cells, [](const Cell& cell) { return cell.size() > 1; });

@@ -1,7 +1,9 @@
 """Errors."""
 
+import pathlib
 import pickle
 import re
+from typing import Callable, List
 
 import pytest
 import quorvane
@@ -14,6 +16,21 @@ def error_of(description: str) -> quorvane.Error:
     with pytest.raises(quorvane.Error) as raised:
         quorvane.render(description)
     return raised.value
+
+
+def test_a_zero_byte_cuts_no_path(tmp_path: pathlib.Path) -> None:
+    with pytest.raises(ValueError, match="^A path has no zero byte: "):
+        quorvane.Document().save(str(tmp_path / "a") + "\0b.rtf")
+    assert list(tmp_path.iterdir()) == []
+
+
+def test_the_name_of_a_file_is_no_text() -> None:
+    calls: List[Callable[[], object]] = [
+        lambda: quorvane.render("invoice.rtfspec"),
+        lambda: quorvane.Document(stylesheet="house.rtfss")]
+    for call in calls:
+        with pytest.raises(ValueError, match="looks like the name of a file; use pathlib.Path"):
+            call()
 
 
 def test_an_error_has_the_place_and_all_diagnostics() -> None:

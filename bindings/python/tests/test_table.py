@@ -62,6 +62,37 @@ def text_of(cell: bytes) -> str:
     return re.sub(r"^(\\[a-z]+-?\d* ?|\s)*", "", cell.split(b"\\cell")[0].decode())
 
 
+def test_a_row_with_names_is_refused_where_cells_have_places() -> None:
+    row = {"Price": 12.5, "Article": "Vase"}
+    message = "A row is a sequence of cells, not a dict: {'Price': 12.5, 'Article': 'Vase'}. " \
+        "Rows with names of fields are for table and table_to."
+    doc = quorvane.Document()
+    with quorvane.TableWriter(None, ["Article", "Price"]) as writer:
+        for add in (writer.add_row, lambda row: writer.add_rows([row]), writer.add_total,
+                    doc.add_row, lambda row: doc.add_rows([row])):
+            with pytest.raises(TypeError, match=f"^{re.escape(message)}$"):
+                add(row)  # type: ignore[operator]
+            with pytest.raises(TypeError, match="not a set"):
+                add({"Vase"})  # type: ignore[operator]
+        writer.add_row(row.values())
+        assert writer.rows == 1
+    assert len(doc.rows) == 0
+
+
+def test_a_line_has_at_most_three_texts() -> None:
+    assert b" left\\tab center\\tab" in quorvane.table([["a"]], header=("left", "center", ""))
+    for line in (("a", "b", "c", "d"), (1, 2, 3)):
+        with pytest.raises(TypeError, match="^A line is a text, or three texts for left, center"):
+            quorvane.table([["a"]], footer=line)  # type: ignore[arg-type]
+        with pytest.raises(TypeError, match="^A line is a text, or three texts for left, center"):
+            quorvane.Document(header=line)  # type: ignore[arg-type]
+
+
+def test_a_text_of_another_type_is_named() -> None:
+    with pytest.raises(TypeError, match="^A text is a str, not int: 2027$"):
+        quorvane.table([["a"]], title=2027)  # type: ignore[arg-type]
+
+
 def test_mappings_become_a_table_with_a_heading() -> None:
     rtf = quorvane.table(MAPPINGS)
     assert body(rtf) == VASE_ROW

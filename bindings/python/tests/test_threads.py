@@ -1,8 +1,9 @@
 """Several threads."""
 
+import signal
 import threading
 from concurrent.futures import ThreadPoolExecutor
-from typing import Sequence
+from typing import List, Sequence
 
 import pytest
 import quorvane
@@ -37,6 +38,25 @@ def test_threads_add_rows_to_one_document() -> None:
     with ThreadPoolExecutor(4) as pool:
         list(pool.map(lambda number: doc.add_row([number]), range(1000)))
     assert sorted(int(row.cells[0].paragraphs[0].rtf) for row in doc.rows) == list(range(1000))
+
+
+def test_a_signal_handler_uses_the_document_that_is_being_built() -> None:
+    doc = quorvane.Document()
+    seen: List[int] = []
+
+    def look(*_: object) -> None:
+        seen.append(len(doc.rows))
+
+    before = signal.signal(signal.SIGALRM, look)
+    signal.setitimer(signal.ITIMER_REAL, 0.0005, 0.0005)
+    try:
+        for number in range(20000):
+            doc.add_row([number])
+    finally:
+        signal.setitimer(signal.ITIMER_REAL, 0)
+        signal.signal(signal.SIGALRM, before)
+    assert len(doc.rows) == 20000
+    assert seen and seen == sorted(seen)
 
 
 def test_other_threads_run_while_a_document_is_rendered() -> None:

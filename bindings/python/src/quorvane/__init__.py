@@ -6,7 +6,8 @@ reports what is wrong with them, `format` puts them into their canonical form. `
 one of rows, cells and paragraphs.
 
 Nothing that a function is given is changed, nothing depends on the locale, and all functions may be
-used by several threads at a time, which run side by side while the library works.
+used by several threads at a time, which run side by side while the library renders, checks or
+writes.
 """
 
 from ._columns import AnyColumn, Column

@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+from collections.abc import Mapping
 from ctypes import c_char_p, c_size_t
 from itertools import chain, islice
 from typing import Any, Iterable, Iterator, List, Sequence, Tuple
@@ -31,9 +32,18 @@ def text_of_cell(value: Any) -> str:
 
 def texts_of_row(row: Iterable[Any]) -> List[str]:
     """The texts of the cells of a row."""
+    if type(row) is not list and type(row) is not tuple:
+        _require_cells(row)
+    return [value if type(value) is str else text_of_cell(value) for value in row]
+
+
+def _require_cells(row: Iterable[Any]) -> None:
+    """Refuses what has its values in no order, or has names for them."""
     if isinstance(row, (str, bytes)):
         raise TypeError(f"A row is a sequence of cells, not a text: {row!r}")
-    return [value if type(value) is str else text_of_cell(value) for value in row]
+    if isinstance(row, (Mapping, set, frozenset)):
+        raise TypeError(f"A row is a sequence of cells, not a {type(row).__name__}: {row!r}. "
+                        "Rows with names of fields are for table and table_to.")
 
 
 def cell_arguments(texts: Sequence[str]) -> Tuple[Any, Any, int]:

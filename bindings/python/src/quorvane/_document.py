@@ -123,7 +123,8 @@ class Document(DocumentHandle):
 
     def insert_row(self, index: int, cells: Iterable[Any] = (), style: str = "") -> Row:
         """Inserts a row before the one with an index, as ``list.insert``, and returns it."""
-        place = self._index(short_lib.quorvane_document_insert_row, self.rows._insertion_place(index))
+        place = self._index(short_lib.quorvane_document_insert_row,
+                            self.rows._insertion_place(index))
         self._moves += 1
         row = Row(self, (place,))
         for text in texts_of_row(cells):

@@ -115,11 +115,11 @@ class Elements(Sequence[AnyElement], Generic[AnyElement]):
         return self._make(self._document, (*self._place, place))
 
     def _existing(self, index: int) -> int:
-        count = len(self)
-        place = index + count if index < 0 else index
+        number, count = operator.index(index), len(self)
+        place = number + count if number < 0 else number
         if not 0 <= place < count:
-            raise IndexError(f"There is no index {index}; the length is {count}.")
-        return operator.index(place)
+            raise IndexError(f"There is no index {number}; the length is {count}.")
+        return place
 
     def _insertion_place(self, index: int) -> int:
         """The place that an element is inserted at, as with ``list.insert``."""
@@ -158,7 +158,8 @@ class Paragraph(Element):
         if color is not None:
             self._call(short_lib.quorvane_paragraph_set_color, *argument(color))
         if align is not None:
-            self._call(short_lib.quorvane_paragraph_set_align, choice(align, ALIGNMENTS, "alignment"))
+            self._call(short_lib.quorvane_paragraph_set_align,
+                       choice(align, ALIGNMENTS, "alignment"))
         if marked_field is not None:
             self._call(short_lib.quorvane_paragraph_set_marked_field, *argument(marked_field))
         return self
@@ -187,10 +188,11 @@ class Paragraph(Element):
         Width and height are lengths such as "3cm". With one of them the picture keeps its
         proportions, with none it has the size of its file. Empty bytes remove the picture.
         """
-        function = (short_lib.quorvane_paragraph_set_picture if isinstance(picture, bytes)
+        function = (lib.quorvane_paragraph_set_picture if isinstance(picture, bytes)
                     else lib.quorvane_paragraph_set_picture_file)
         content = (picture, len(picture)) if isinstance(picture, bytes) else path_argument(picture)
-        self._call(function, *content, *argument(width), *argument(height))
+        self._require_here()
+        self._document._call(function, *self._place, *content, *argument(width), *argument(height))
         return self
 
     @property
@@ -212,7 +214,8 @@ class Cell(Element):
     @property
     def paragraphs(self) -> Elements[Paragraph]:
         """The paragraphs, as a sequence."""
-        return Elements(self._document, self._place, Paragraph, short_lib.quorvane_cell_count_paragraphs,
+        return Elements(self._document, self._place, Paragraph,
+                        short_lib.quorvane_cell_count_paragraphs,
                         short_lib.quorvane_cell_remove_paragraph, self)
 
     def add_paragraph(self, text: str = "", style: str = "") -> Paragraph:

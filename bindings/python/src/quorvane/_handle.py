@@ -20,13 +20,18 @@ def text_of(text: Optional[bytes]) -> str:
 
 def argument(text: str) -> Tuple[bytes, int]:
     """A text as two arguments."""
-    encoded = text.encode()
+    try:
+        encoded = text.encode()
+    except AttributeError:
+        raise TypeError(f"A text is a str, not {type(text).__name__}: {text!r}") from None
     return encoded, len(encoded)
 
 
 def path_argument(path: Union[str, "os.PathLike[str]"]) -> Tuple[bytes, int]:
     """A path as two arguments."""
     text = os.fspath(path)
+    if "\0" in text:
+        raise ValueError(f"A path has no zero byte: {text!r}")
     encoded = text.encode("utf-8", "surrogateescape")
     return encoded, len(encoded)
 
@@ -48,7 +53,8 @@ class Handle:
     _KIND = ""
 
     def __init__(self) -> None:
-        self._lock = threading.Lock()
+        # A signal handler can use the handle while its thread is here.
+        self._lock = threading.RLock()
         self._caller: Optional[int] = None
         self._raised: List[BaseException] = []
         self._pointer: Optional[c_void_p] = None
@@ -88,7 +94,10 @@ class Handle:
                 raise self._error(status)
 
     def _call_shortly(self, function: Callable[..., int], *arguments: Any) -> None:
-        """A call that neither waits nor calls back: one of `short_lib`, which keeps the GIL."""
+        """A call that neither waits nor calls back: one of `short_lib`, which keeps the GIL.
+
+        Nothing else runs meanwhile, neither another thread nor a signal handler.
+        """
         if self._caller is not None:
             self._require_outside()
         with self._lock:

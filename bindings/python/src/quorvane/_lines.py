@@ -11,4 +11,10 @@ the number of the page, {pages} the number of pages, and {{ and }} are braces.""
 
 def texts_of_line(line: Line) -> Tuple[str, str, str]:
     """What is at the left, in the center and at the right."""
-    return ("", line, "") if isinstance(line, str) else line
+    if isinstance(line, str):
+        return "", line, ""
+    left, center, right = (*line, "", "", "")[:3]
+    if len(line) > 3 or not all(isinstance(text, str) for text in (left, center, right)):
+        raise TypeError("A line is a text, or three texts for left, center and right, not "
+                        f"{line!r}.")
+    return left, center, right

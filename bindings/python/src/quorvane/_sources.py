@@ -24,6 +24,9 @@ class ReadSource(NamedTuple):
 def read_source(source: Source) -> ReadSource:
     """Reads a text."""
     if isinstance(source, str):
+        if source.endswith((".rtfspec", ".rtfss")) and "\n" not in source:
+            raise ValueError(f"{source!r} is a text and looks like the name of a file; use "
+                             "pathlib.Path for a path.")
         return ReadSource(source.encode(), None, True)
     if isinstance(source, bytes):
         return ReadSource(source, None, False)
