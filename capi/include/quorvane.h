@@ -354,7 +354,10 @@ typedef enum quorvane_table_option {
     QUORVANE_TABLE_STRIPE = 4,
     /** The border around all cells; "none" by default. */
     QUORVANE_TABLE_BORDER = 5,
-    /** A stylesheet; see `TableSetup::styleSheet` in docs/tables.md. */
+    /**
+     * A stylesheet, in either language, with the paragraph styles table-cell, table-heading,
+     * table-title, table-group, table-total and footer.
+     */
     QUORVANE_TABLE_STYLESHEET = 6,
     /** Page header and page footer, with {page} and {pages}; by default only FOOTER_CENTER. */
     QUORVANE_TABLE_HEADER_LEFT = 7,
