@@ -87,7 +87,7 @@ TEST_F(SideBySideJobs, ComesToTheSameAsOneAfterTheOther) {
     for (unsigned seed = 0; seed < 25; ++seed) {
         const Outcome inTurn = outcomeOf(seed, 1);
         ++results[inTurn.result];
-        for (const std::size_t jobs : {2, 7}) {
+        for (const std::size_t jobs : {2U, 7U}) {
             const Outcome sideBySide = outcomeOf(seed, jobs);
             EXPECT_EQ(sideBySide.result, inTurn.result) << "seed " << seed;
             EXPECT_EQ(sideBySide.reported, inTurn.reported) << "seed " << seed;

@@ -35,8 +35,8 @@ void takeTime(std::size_t task) {
 }
 
 TEST(TasksInOrder, AreAllDoneAndDeliveredInTheirOrder) {
-    for (const std::size_t threads : {1, 2, 7}) {
-        for (const std::size_t count : {0, 1, 2, 100}) {
+    for (const std::size_t threads : {1U, 2U, 7U}) {
+        for (const std::size_t count : {0U, 1U, 2U, 100U}) {
             std::vector<int> done(count);
             std::vector<std::size_t> delivered;
             const auto work = [&](std::size_t, std::size_t task) {
@@ -57,7 +57,7 @@ TEST(TasksInOrder, AreAllDoneAndDeliveredInTheirOrder) {
 }
 
 TEST(TasksInOrder, ArePreparedInTheirOrderUntilThereAreNoMore) {
-    for (const std::size_t threads : {1, 2, 7}) {
+    for (const std::size_t threads : {1U, 2U, 7U}) {
         std::vector<std::size_t> prepared;
         std::vector<std::size_t> delivered;
         doInOrder({.count = 1'000'000,
@@ -161,7 +161,7 @@ TEST(TasksInOrder, WaitForTheDeliveryOfALargeResult) {
 }
 
 TEST(TasksInOrder, EndWithTheExceptionOfOneAfterThoseBeforeItAreDelivered) {
-    for (const std::size_t threads : {1, 2, 7}) {
+    for (const std::size_t threads : {1U, 2U, 7U}) {
         std::atomic<std::size_t> begun = 0;
         std::vector<std::size_t> delivered;
         const auto work = [&](std::size_t, std::size_t task) {
@@ -185,7 +185,7 @@ TEST(TasksInOrder, EndWithTheExceptionOfOneAfterThoseBeforeItAreDelivered) {
 }
 
 TEST(TasksInOrder, EndWithTheExceptionOfADelivery) {
-    for (const std::size_t threads : {1, 2, 7}) {
+    for (const std::size_t threads : {1U, 2U, 7U}) {
         std::vector<std::size_t> delivered;
         const auto deliver = [&](std::size_t task) {
             if (task == 2) {
