@@ -9,6 +9,7 @@
 #include "data/columnsFit.h"
 #include "data/columnsNumber.h"
 #include "data/columnsRequest.h"
+#include "quorvane/base/values/RtfError.h"
 
 namespace quorvane::capi {
 
@@ -18,6 +19,11 @@ data::ColumnRequest requestOf(const TableColumn& column) {
     return {.name = column.heading,
             .width = column.width,
             .align = column.align == eNoDefault ? std::nullopt : std::optional(column.align)};
+}
+
+/// A document for nobody, which shows what is wrong with a setup or a row.
+std::unique_ptr<TableWriter> trialOf(const TableSetup& setup) {
+    return std::make_unique<TableWriter>(setup, [](std::string_view) {});
 }
 
 }  // namespace
@@ -32,19 +38,19 @@ void FittedTable::begin(const TableSetup& setup, bool isPageChosen, OpenTable op
             measures_[i].addHeading(setup.columns[i].heading);
         }
     }
-    trial_ = std::make_unique<TableWriter>(fitted(), [](std::string_view) {});
+    accepted_ = fitted();
+    trial_ = trialOf(accepted_);
 }
 
-std::unique_ptr<TableWriter> FittedTable::add(RowKind kind,
-                                              std::span<const std::string_view> cells) {
+bool FittedTable::add(RowKind kind, std::span<const std::string_view> cells) {
     addRow(*trial_, kind, cells);
     rows_.add(cells, static_cast<std::int64_t>(kind));
     measure(kind, cells);
-    return first_.needsMore() ? nullptr : write();
+    return !first_.needsMore();
 }
 
 std::unique_ptr<TableWriter> FittedTable::write() {
-    std::unique_ptr<TableWriter> writer = open_(fitted());
+    std::unique_ptr<TableWriter> writer = open_(fittedOrAccepted());
     std::vector<std::string_view> cells;
     for (std::size_t i = 0; i < rows_.size(); ++i) {
         rows_.read(i, cells);
@@ -61,6 +67,24 @@ TableSetup FittedTable::fitted() const {
                    requestOf);
     data::fitColumns(setup, columns, measures_, !isPageChosen_);
     return setup;
+}
+
+/// In a narrow rest of the page, the least widths of the columns can together take more than it.
+TableSetup FittedTable::fittedOrAccepted() const {
+    TableSetup setup = fitted();
+    try {
+        trialOf(setup);
+        return setup;
+    } catch (const RtfError& error) {
+        if (!error.is(RunTimeError::InvalidProcedureCall)) {
+            throw;
+        }
+    }
+    TableSetup accepted = accepted_;
+    for (std::size_t i = 0; i < accepted.columns.size(); ++i) {
+        accepted.columns[i].align = setup.columns[i].align;
+    }
+    return accepted;
 }
 
 void FittedTable::measure(RowKind kind, std::span<const std::string_view> cells) {

@@ -16,17 +16,19 @@ namespace quorvane::capi {
 class FittedTable final : public KeptTable {
 public:
     void begin(const TableSetup& setup, bool isPageChosen, OpenTable open) override;
-    std::unique_ptr<TableWriter> add(RowKind kind,
-                                     std::span<const std::string_view> cells) override;
+    bool add(RowKind kind, std::span<const std::string_view> cells) override;
     std::unique_ptr<TableWriter> write() override;
 
 private:
     TableSetup fitted() const;
+    TableSetup fittedOrAccepted() const;
     void measure(RowKind kind, std::span<const std::string_view> cells);
 
     TableSetup setup_;
     bool isPageChosen_ = false;
     OpenTable open_;
+    // Fits together, with widths that suit the headings alone.
+    TableSetup accepted_;
     // Refuses rows that are wrong.
     std::unique_ptr<TableWriter> trial_;
     std::vector<data::ColumnMeasure> measures_;

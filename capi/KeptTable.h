@@ -22,11 +22,9 @@ public:
 
     /// Begins anew. Refuses a setup that does not fit together.
     virtual void begin(const TableSetup& setup, bool isPageChosen, OpenTable open) = 0;
-    /// Adds a row, or refuses it as a writer does. When there are enough rows, it opens the
-    /// document and returns it with all of them; otherwise null.
-    virtual std::unique_ptr<TableWriter> add(RowKind kind,
-                                             std::span<const std::string_view> cells) = 0;
-    /// Opens the document and returns it with all rows.
+    /// Adds a row, or refuses it as a writer does. True when there are enough rows to write them.
+    virtual bool add(RowKind kind, std::span<const std::string_view> cells) = 0;
+    /// Opens the document and returns it with all rows, once. What `begin` accepted fits together.
     virtual std::unique_ptr<TableWriter> write() = 0;
 };
 

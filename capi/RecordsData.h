@@ -1,7 +1,7 @@
 #pragma once
 
 #include <functional>
-#include <optional>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -22,7 +22,9 @@ public:
 
     /// Errors name the text.
     RecordsData(Open open, std::string name, data::RecordsForm form);
+    RecordsData(std::string path, data::RecordsForm form);
 
+    bool isFromFile(const std::string& path) const override;
     void setOption(int option, std::string_view value) override {
         setDataOption(options_, option, value);
     }
@@ -34,13 +36,16 @@ private:
     template <class Action>
     void located(Action action) const;
     void leaveOut(const RtfError& error);
+    void warnOfScatteredGroups();
 
     Open open_;
     std::string name_;
     data::RecordsForm form_;
+    // Empty if the data is not a file.
+    std::string path_;
     data::RecordsTableOptions options_;
     DiagnosticList diagnostics_;
-    std::optional<data::RecordsTable> table_;
+    std::unique_ptr<data::RecordsTable> table_;
 };
 
 }  // namespace quorvane::capi

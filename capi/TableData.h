@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 #include <string_view>
 
 #include "capi/DiagnosticList.h"
@@ -22,6 +23,8 @@ public:
     TableData& operator=(const TableData&) = delete;
     virtual ~TableData() = default;
 
+    /// True if the data comes from this file, whatever the spelling of its path.
+    virtual bool isFromFile(const std::string& path) const = 0;
     /// Sets one of the options from `QUORVANE_TABLE_COLUMNS` on.
     virtual void setOption(int option, std::string_view value) = 0;
     /// Finds the columns, and opens the document; again after a failure. If the page is not chosen,

@@ -1,6 +1,6 @@
 #include <quorvane.h>
 
-#include <iterator>
+#include <memory>
 #include <span>
 #include <string>
 #include <utility>
@@ -92,28 +92,39 @@ void setOption(quorvane_table& table, int option, std::string_view value) {
     }
 }
 
-/// Makes the table one of data.
-void setData(quorvane_table& table, RecordsData::Open open, std::string name, int format) {
+/// Makes the table one of data, which the arguments give.
+template <class... Arguments>
+void setData(quorvane_table& table, int format, Arguments&&... arguments) {
     requireUnbegun(table);
     if (!table.setup.columns.empty()) {
         throw CallError(
             "The table has columns, and those of data come from it; set QUORVANE_TABLE_COLUMNS.");
     }
     const auto form = static_cast<data::RecordsForm>(enumArgument(format, QUORVANE_JSON, "format"));
-    table.data = std::make_unique<RecordsData>(std::move(open), std::move(name), form);
+    table.data = std::make_unique<RecordsData>(std::forward<Arguments>(arguments)..., form);
 }
 
-/// Runs what writes bytes. After any error but that of a wrong row the document is not whole.
+/// Runs what writes bytes. After an error the document is not whole.
 template <class Action>
 void writing(quorvane_table& table, Action&& action) {
     table.isEnded = true;
     try {
         action();
     } catch (const RtfError& error) {
-        table.isEnded = !error.is(RunTimeError::InvalidProcedureCall);
-        if (table.isEnded) {
+        if (!error.is(RunTimeError::InvalidProcedureCall)) {
             throw FileFailure{table.path, error};
         }
+        throw;
+    }
+}
+
+/// Runs what adds rows. After the error of a wrong row, others can be added.
+template <class Action>
+void adding(quorvane_table& table, Action&& action) {
+    try {
+        writing(table, std::forward<Action>(action));
+    } catch (const RtfError&) {
+        table.isEnded = !table.writer && !table.kept;
         throw;
     }
     table.isEnded = false;
@@ -149,6 +160,10 @@ void beginKeptFile(quorvane_table& table, const std::string& path) {
 }
 
 void beginFile(quorvane_table& table, std::string path) {
+    if (table.data && table.data->isFromFile(path)) {
+        throw CallError("The document would replace " + path +
+                        ", which has the data; name another file.");
+    }
     if (table.kept && !table.data) {
         beginKeptFile(table, path);
     } else {
@@ -163,36 +178,30 @@ void beginFile(quorvane_table& table, std::string path) {
     table.path = std::move(path);
 }
 
+/// Writes what is kept. After an error, there is nothing to add rows to.
+void writeKept(quorvane_table& table) {
+    const std::unique_ptr<KeptTable> kept = std::move(table.kept);
+    table.writer = kept->write();
+}
+
 /// Adds a row to what is written, or to what is kept.
 void add(quorvane_table& table, RowKind kind, std::span<const std::string_view> cells) {
     if (table.writer) {
         addRow(*table.writer, kind, cells);
+    } else if (table.kept->add(kind, cells)) {
+        writeKept(table);
+    }
+}
+
+void finish(quorvane_table& table) {
+    if (table.data) {
+        table.data->finish();
         return;
     }
-    table.writer = table.kept->add(kind, cells);
-    if (table.writer) {
-        table.kept.reset();
-    }
-}
-
-void finishRows(quorvane_table& table) {
-    if (!table.writer) {
-        table.writer = table.kept->write();
+    if (table.kept) {
+        writeKept(table);
     }
     table.writer->finish();
-}
-
-/// Writes the rows of the data. After any error the document is not whole.
-void finishData(quorvane_table& table) {
-    table.isEnded = true;
-    try {
-        table.data->finish();
-    } catch (const RtfError& error) {
-        if (!error.is(RunTimeError::InvalidProcedureCall)) {
-            throw FileFailure{table.path, error};
-        }
-        throw;
-    }
 }
 
 }  // namespace
@@ -249,18 +258,15 @@ quorvane_status quorvane_table_set_data(quorvane_table* table, const char* bytes
         const std::string_view text = textArgument(bytes, length);
         const std::string_view given = textArgument(name, name_length);
         setData(
-            *table, [text] { return data::readerOf(text); },
-            std::string(given.empty() ? "data" : given), format);
+            *table, format, [text] { return data::readerOf(text); },
+            std::string(given.empty() ? "data" : given));
     });
 }
 
 quorvane_status quorvane_table_set_data_file(quorvane_table* table, const char* path, size_t length,
                                              int format) {
-    return guarded(table, [&] {
-        std::string file(textArgument(path, length));
-        setData(
-            *table, [file] { return data::openRecordsFile(file); }, file, format);
-    });
+    return guarded(table,
+                   [&] { setData(*table, format, std::string(textArgument(path, length))); });
 }
 
 quorvane_status quorvane_table_begin(quorvane_table* table) {
@@ -293,7 +299,7 @@ quorvane_status quorvane_table_add_row(quorvane_table* table, const char* const 
     return guarded(table, [&] {
         requireRows(*table);
         const RowTexts row(texts, lengths, count);
-        writing(*table, [&] { add(*table, RowKind::Row, row.cells()); });
+        adding(*table, [&] { add(*table, RowKind::Row, row.cells()); });
     });
 }
 
@@ -305,7 +311,7 @@ quorvane_status quorvane_table_add_rows(quorvane_table* table, const char* texts
     return guarded(table, [&] {
         requireRows(*table);
         JoinedRows joined(textArgument(texts, length), cells_in_row, rows);
-        writing(*table, [&] {
+        adding(*table, [&] {
             while (joined.next()) {
                 add(*table, RowKind::Row, joined.cells());
                 if (added) {
@@ -321,7 +327,7 @@ quorvane_status quorvane_table_add_group(quorvane_table* table, const char* head
     return guarded(table, [&] {
         requireRows(*table);
         const std::string_view text = textArgument(heading, length);
-        writing(*table, [&] { add(*table, RowKind::Group, {&text, 1}); });
+        adding(*table, [&] { add(*table, RowKind::Group, {&text, 1}); });
     });
 }
 
@@ -330,19 +336,14 @@ quorvane_status quorvane_table_add_total(quorvane_table* table, const char* cons
     return guarded(table, [&] {
         requireRows(*table);
         const RowTexts row(texts, lengths, count);
-        writing(*table, [&] { add(*table, RowKind::Total, row.cells()); });
+        adding(*table, [&] { add(*table, RowKind::Total, row.cells()); });
     });
 }
 
 quorvane_status quorvane_table_finish(quorvane_table* table) {
     return guarded(table, [&] {
         requireNotEnded(*table);
-        if (table->data) {
-            finishData(*table);
-        } else {
-            writing(*table, [&] { finishRows(*table); });
-        }
-        table->isEnded = true;
+        writing(*table, [&] { finish(*table); });
         table->isFinished = true;
     });
 }

@@ -17,6 +17,15 @@ struct OptionError : RtfError {
     std::string option;
 };
 
+/// A total was asked for in a column that the table does not have.
+struct NoColumnForTotal : OptionError {
+    explicit NoColumnForTotal(std::string name)
+        : OptionError("the table has no column \"" + name + "\" for a total"),
+          column(std::move(name)) {}
+
+    std::string column;
+};
+
 /// Runs an action whose errors 5 are those of the options; those of the data stay what they are.
 template <class Action>
 auto asOptionError(Action action) {

@@ -59,7 +59,7 @@ void RecordsTable::findTotals() {
     for (const std::string& name : options_.totals) {
         const std::size_t column = columns_->columnOf(name);
         if (column == columns_->count()) {
-            throw OptionError("the table has no column \"" + name + "\" for a total");
+            throw NoColumnForTotal(name);
         }
         totals_.push_back({column, fieldNamed(name, records_.names()),
                            ColumnTotal(columns_->decimalSign(column))});

@@ -72,13 +72,16 @@ TableColumns::TableColumns(const RecordsTableOptions& options,
 
 void TableColumns::fit(TableSetup& setup, const std::vector<TableRecord>& records,
                        bool choosesPage) {
-    fitColumns(setup, columns_, measured(records), choosesPage);
+    fitColumns(setup, columns_, measured(records, setup.hasHeading), choosesPage);
 }
 
-std::vector<ColumnMeasure> TableColumns::measured(const std::vector<TableRecord>& records) {
+std::vector<ColumnMeasure> TableColumns::measured(const std::vector<TableRecord>& records,
+                                                  bool hasHeading) {
     std::vector<ColumnMeasure> measures(columns_.size());
     for (std::size_t i = 0; i < columns_.size(); ++i) {
-        measures[i].addHeading(columns_[i].heading.value_or(columns_[i].name));
+        if (hasHeading) {
+            measures[i].addHeading(columns_[i].heading.value_or(columns_[i].name));
+        }
         if (std::count(totals_.begin(), totals_.end(), columns_[i].name) > 0) {
             measures[i].addTotal();
         }

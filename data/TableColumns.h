@@ -63,7 +63,7 @@ private:
     void findDateOrders(const std::vector<TableRecord>& records);
     std::string plain(std::size_t column, std::string_view value) const;
     std::string plainDate(std::size_t column, std::string_view value) const;
-    std::vector<ColumnMeasure> measured(const std::vector<TableRecord>& records);
+    std::vector<ColumnMeasure> measured(const std::vector<TableRecord>& records, bool hasHeading);
 
     std::vector<ColumnRequest> columns_;
     bool hasLocale_;

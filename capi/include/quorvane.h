@@ -460,7 +460,8 @@ QUORVANE_API quorvane_status quorvane_table_set_data_file(quorvane_table* table,
  * Begin the document: in memory, for `quorvane_table_take`; through a callback; or in a file, which
  * appears whole with `quorvane_table_finish`, in the place of one that was there.
  * `QUORVANE_WRONG_CONTENT` for options that do not fit together, such as columns wider than the
- * page, and for those that do not suit the data; change them and begin again.
+ * page, and for those that do not suit the data; change them and begin again. `QUORVANE_WRONG_CALL`
+ * for a file that has the data of the table, also if its path is another one, such as a link.
  */
 QUORVANE_API quorvane_status quorvane_table_begin(quorvane_table* table);
 QUORVANE_API quorvane_status quorvane_table_begin_to(quorvane_table* table,

@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 #include <quorvane.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <string>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -121,6 +123,18 @@ TEST(DataTable, KeepsTheOptionsOfOtherTables) {
     EXPECT_EQ(taken(table), written(setup, {{"Vase", "12,50"}, {"Bowl", "7,00"}}));
 }
 
+TEST(DataTable, LeavesNoRoomForNamesThatItDoesNotShow) {
+    const auto without = [](const char* text) {
+        const TableHandle table = tableOf(text);
+        set(table, QUORVANE_TABLE_HEADING, "no");
+        begin(table);
+        finish(table);
+        return taken(table);
+    };
+    EXPECT_EQ(without("Article,The number of pieces in the warehouse\nVase,7\n"),
+              without("a,b\nVase,7\n"));
+}
+
 TEST(DataTable, StaysOnThePageThatWasChosen) {
     std::string wide;
     for (int row = 0; row < 2; ++row) {
@@ -222,7 +236,7 @@ TEST(DataTable, BeginsAgainAfterOptionsThatDoNotSuitTheData) {
     EXPECT_EQ(messageWith(QUORVANE_TABLE_GROUP_BY, "Kind"),
               "wrong-value: The data has no field \"Kind\"; its fields are: Article, Price.");
     EXPECT_EQ(messageWith(QUORVANE_TABLE_TOTAL, "Kind"),
-              "wrong-value: the table has no column \"Kind\" for a total");
+              "wrong-value: The table has no column \"Kind\" for a total.");
     EXPECT_EQ(messageWith(QUORVANE_TABLE_LOCALE, "xx").substr(0, 33),
               "wrong-value: xx is not a locale; ");
     set(table, QUORVANE_TABLE_PAGE, "a44");
@@ -243,7 +257,7 @@ TEST(DataTable, SpeaksOfOptionsInItsOwnTerms) {
               "with the option locale, such as en-US or de-DE.");
 }
 
-TEST(DataTable, ReportsDataThatIsNone) {
+TEST(DataTable, ReportsDataWithoutRecords) {
     EXPECT_EQ(begin(tableOf("")), QUORVANE_WRONG_CONTENT);
     const TableHandle empty = tableOf("");
     begin(empty);
@@ -284,6 +298,75 @@ TEST(DataTable, ReportsADocumentThatCannotBeWritten) {
               QUORVANE_FILE_ERROR);
     EXPECT_EQ(errorOf(table), "/missing/folder/a.rtf: unwritable-file: " + noFolder);
     EXPECT_EQ(quorvane_table_begin(table.get()), QUORVANE_OK);
+}
+
+TEST(DataTable, DoesNotReplaceItsData) {
+    namespace fs = std::filesystem;
+    const fs::path folder = fs::path(::testing::TempDir()) / "quorvane-own-data";
+    fs::remove_all(folder);
+    fs::create_directory(folder);
+    const std::string data = (folder / "prices.csv").string();
+    std::ofstream(data, std::ios::binary) << prices;
+    const std::string hardLink = (folder / "hard.rtf").string();
+    fs::create_hard_link(data, hardLink);
+    std::vector<std::string> paths{data, (folder / "." / "prices.csv").string(), hardLink};
+    std::error_code failure;
+    fs::create_symlink("prices.csv", folder / "soft.rtf", failure);
+    if (!failure) {
+        paths.push_back((folder / "soft.rtf").string());
+    }
+    const TableHandle table = newTable();
+    quorvane_table_set_data_file(table.get(), data.data(), data.size(), QUORVANE_ANY_DATA);
+    for (const std::string& path : paths) {
+        EXPECT_EQ(quorvane_table_begin_file(table.get(), path.data(), path.size()),
+                  QUORVANE_WRONG_CALL);
+        EXPECT_EQ(errorOf(table), "wrong-call: The document would replace " + path +
+                                      ", which has the data; name another file.");
+    }
+    EXPECT_EQ(fs::file_size(data), std::string(prices).size());
+    const std::string document = (folder / "prices.rtf").string();
+    EXPECT_EQ(quorvane_table_begin_file(table.get(), document.data(), document.size()),
+              QUORVANE_OK);
+    EXPECT_EQ(finish(table), QUORVANE_OK);
+    EXPECT_EQ(fs::file_size(document),
+              written(priceSetup, {{"Vase", "12,50"}, {"Bowl", "7,00"}}).size());
+
+    const TableHandle again = newTable();
+    quorvane_table_set_data_file(again.get(), data.data(), data.size(), QUORVANE_ANY_DATA);
+    EXPECT_EQ(quorvane_table_begin_file(again.get(), document.data(), document.size()),
+              QUORVANE_OK);
+    EXPECT_EQ(finish(again), QUORVANE_OK);
+    fs::remove_all(folder);
+}
+
+/// True if this process has a file open.
+bool isOpen(const std::filesystem::path& file) {
+    namespace fs = std::filesystem;
+    const fs::path whole = fs::canonical(file);
+    const fs::directory_iterator all("/proc/self/fd");
+    return std::any_of(begin(all), end(all), [&](const fs::directory_entry& entry) {
+        std::error_code failure;
+        return fs::read_symlink(entry, failure) == whole;
+    });
+}
+
+TEST(DataTable, ClosesItsDataWhenItIsFinished) {
+    if (!std::filesystem::exists("/proc/self/fd")) {
+        GTEST_SKIP() << "this system has no /proc/self/fd";
+    }
+    const std::string path = ::testing::TempDir() + "/quorvane-closed.csv";
+    const auto endsWith = [&](const std::string& text, quorvane_status status) {
+        std::ofstream(path, std::ios::binary) << text;
+        const TableHandle table = newTable();
+        quorvane_table_set_data_file(table.get(), path.data(), path.size(), QUORVANE_CSV);
+        EXPECT_EQ(begin(table), QUORVANE_OK);
+        EXPECT_TRUE(isOpen(path));
+        EXPECT_EQ(finish(table), status);
+        EXPECT_FALSE(isOpen(path));
+    };
+    endsWith(prices, QUORVANE_OK);
+    endsWith("name\nBowl\x01\n", QUORVANE_WRONG_CONTENT);
+    std::filesystem::remove(path);
 }
 
 TEST(DataTable, ReportsAFullDisk) {

@@ -3,6 +3,8 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <sstream>
 #include <string>
 
@@ -367,6 +369,59 @@ TEST(FittedTable, LeavesOutAWrongRowAlone) {
     EXPECT_EQ(taken(table), written(fittedColumns, [](TableWriter& writer) {
                   writer.addRow({{"Vase", "12.50"}});
               }));
+}
+
+TEST(FittedTable, HasEvenColumnsWhereThereIsNoRoomForOthers) {
+    const TableHandle table = newTable();
+    quorvane_table_fit_columns(table.get());
+    quorvane_table_add_column(table.get(), QUORVANE_TEXT("Article"), QUORVANE_TEXT("97%"),
+                              QUORVANE_ALIGN_DEFAULT);
+    for (const char* const heading : {"a", "b", "c"}) {
+        quorvane_table_add_column(table.get(), QUORVANE_TEXT(heading), nullptr, 0,
+                                  QUORVANE_ALIGN_DEFAULT);
+    }
+    quorvane_table_set(table.get(), QUORVANE_TABLE_PAGE, QUORVANE_TEXT("letter"));
+    const std::string path = ::testing::TempDir() + "/quorvane-narrow.rtf";
+    EXPECT_EQ(quorvane_table_begin_file(table.get(), path.data(), path.size()), QUORVANE_OK);
+    const std::string texts(
+        "Vase\0"
+        "12\0"
+        "a text that is longer than the others\0"
+        "\0",
+        47);
+    size_t added = 0;
+    for (int i = 0; i < 1001; ++i) {
+        ASSERT_EQ(quorvane_table_add_rows(table.get(), texts.data(), texts.size(), 4, 1, &added),
+                  QUORVANE_OK)
+            << errorOf(table);
+    }
+    EXPECT_EQ(quorvane_table_finish(table.get()), QUORVANE_OK) << errorOf(table);
+    std::ifstream file(path, std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+    const TableSetup setup{
+        .columns = {{"Article", "97%"}, {"a", "1%", eRight}, {"b", "1%"}, {"c", "1%"}},
+        .page = "letter"};
+    EXPECT_EQ(bytes, written(setup, [](TableWriter& writer) {
+                  for (int i = 0; i < 1001; ++i) {
+                      writer.addRow({{"Vase", "12", "a text that is longer than the others", ""}});
+                  }
+              }));
+    std::filesystem::remove(path);
+}
+
+TEST(FittedTable, EndsWhenTheCallbackStopsItsFirstRows) {
+    const TableHandle table = fittedTable();
+    Received received;
+    received.result = 1;
+    quorvane_table_begin_to(table.get(), Received::write, &received);
+    for (int i = 0; i < 999; ++i) {
+        ASSERT_EQ(addRow(table, "Vase", "12.50"), QUORVANE_OK);
+    }
+    EXPECT_EQ(addRow(table, "Vase", "12.50"), QUORVANE_STOPPED);
+    EXPECT_EQ(addRow(table, "Vase", "12.50"), QUORVANE_WRONG_CALL);
+    EXPECT_EQ(errorOf(table), "wrong-call: The table is finished, or could not be written.");
+    EXPECT_EQ(quorvane_table_finish(table.get()), QUORVANE_WRONG_CALL);
+    EXPECT_EQ(received.calls, 1);
 }
 
 TEST(FittedTable, CanHaveNoRows) {
