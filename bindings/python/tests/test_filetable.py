@@ -116,6 +116,64 @@ def test_rows_that_are_left_out_are_diagnostics() -> None:
     assert rtf == quorvane.table_of_file(b"name,price\nVase,12\nCandle,3\n")
 
 
+def test_an_error_has_the_rows_that_were_left_out_before_it() -> None:
+    with pytest.raises(quorvane.Error) as raised:
+        quorvane.table_of_file(b'n,p\nVase,1\nBowl,7,50\nJug,1,2\n"Dish,3\n', keep_going=True)
+    assert [str(each) for each in raised.value.diagnostics] == [
+        "data:3:1: error: The row has 3 fields, and the heading has 2. [wrong-value]",
+        "data:4:1: error: The row has 3 fields, and the heading has 2. [wrong-value]"]
+    assert raised.value.line == 5
+    assert str(raised.value).endswith(" (2 more in diagnostics)")
+
+
+@pytest.mark.parametrize("column, message", [
+    (Column("Price", width="number"), "'number' is not the width of a column"),
+    (Column("Price", width="10%,Article"), "'10%,Article' is not the width of a column"),
+    (Column("Price", width="10"), "'10' is not the width of a column; write a number with %, mm"),
+    (Column("Price", width="0%"), '"0%" is not the width of a column'),
+])
+def test_a_wrong_width_is_an_error(column: Column, message: str) -> None:
+    with pytest.raises(quorvane.Error, match=message):
+        quorvane.table_of_file(PRICES, [column])
+
+
+@pytest.mark.parametrize("align", ["middle", "auto", "centered", "number"])
+def test_an_unknown_alignment_is_a_value_error(align: str) -> None:
+    with pytest.raises(ValueError, match=f"The alignment is one of .*, not '{align}'"):
+        quorvane.table_of_file(PRICES, [Column("Price", "20%", align)])
+
+
+@pytest.mark.parametrize("width", ["100%", "3cm", "30.5mm", ".5in", "40pt"])
+def test_a_width_is_a_number_with_a_unit(width: str) -> None:
+    assert quorvane.table_of_file(PRICES, [Column("Price", width, "left")]) == quorvane.table(
+        [("12,50",), ("7,00",)], [Column("Price", width, "left")])
+
+
+def test_a_width_may_have_a_blank_before_percent() -> None:
+    assert quorvane.table_of_file(PRICES, [Column("Article", "70 %"), Column("Price", "30 %")]) == (
+        quorvane.table_of_file(PRICES, "Article:70%,Price:30%"))
+
+
+def test_a_total_without_a_name_is_an_error() -> None:
+    for total in ["Price", ""], [""]:
+        with pytest.raises(quorvane.Error, match="A field in total has no name."):
+            quorvane.table_of_file(PRICES, total=total)
+    assert quorvane.table_of_file(PRICES, total="") == EXPECTED
+    with pytest.raises(quorvane.Error, match='^The table has no column "c" for a total[.]$'):
+        quorvane.table_of_file(PRICES, total="c")
+
+
+def test_a_document_does_not_replace_its_data(tmp_path: pathlib.Path) -> None:
+    path = tmp_path / "prices.csv"
+    path.write_bytes(PRICES)
+    (tmp_path / "link.rtf").symlink_to(path)
+    for same in path, tmp_path / "link.rtf":
+        with pytest.raises(quorvane.Error, match="The document would replace ") as raised:
+            quorvane.table_of_file_to(same, path)
+        assert raised.value.identifier == "wrong-call"
+    assert path.read_bytes() == PRICES
+
+
 def test_groups_that_begin_again_are_a_warning() -> None:
     found = quorvane.table_of_file_to(io.BytesIO(), b"k,n\na,x\nb,y\na,z\n", group_by="k")
     assert [(each.severity, each.identifier) for each in found] == [("warning", "scattered-groups")]

@@ -13,7 +13,9 @@ class Column(NamedTuple):
     heading: str
     """What the heading row shows."""
     width: str = ""
-    """Percent of the table ("20%") or a length ("3cm"). Either all columns have one or none."""
+    """Percent of the table ("20%") or a length ("3cm"). Either all columns have one or none,
+    but with ``widths="fit"`` and in a table of a file, those without one are as wide as their
+    contents ask for."""
     align: str = ""
     """"left", "right", "center" or "justified". Without it, `table` puts numbers at the right."""
     field: Optional[str] = None

@@ -57,7 +57,8 @@ class Error(Exception):
     number: int
     """The number of the system's error, 0 if there is none."""
     diagnostics: Tuple[Diagnostic, ...]
-    """Everything that was found in a text; the error itself is the first error among it."""
+    """Everything that was found in a text; the error itself is the first error among it. For a
+    table of a file, the rows that were left out before the error."""
 
     def __init__(self, message: str, identifier: str = "wrong-call", file: Optional[str] = None,
                  line: Optional[int] = None, column: Optional[int] = None, number: int = 0,
@@ -74,7 +75,10 @@ class Error(Exception):
     def __str__(self) -> str:
         parts = (self.file, self.line, self.column) if self.file else ()
         place = ":".join(str(part) for part in parts if part)
-        more = sum(each.is_error for each in self.diagnostics) - 1
+        errors = [each for each in self.diagnostics if each.is_error]
+        is_among = any((each.message, each.line, each.column) ==
+                       (self.message, self.line or 0, self.column or 0) for each in errors)
+        more = len(errors) - is_among
         return ((f"{place}: " if place else "") + self.message +
                 (f" ({more} more in diagnostics)" if more > 0 else ""))
 

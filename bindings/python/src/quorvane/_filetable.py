@@ -3,10 +3,11 @@
 from __future__ import annotations
 
 import os
+import re
 from ctypes import c_void_p
 from typing import List, Optional, Sequence, Tuple, Union
 
-from ._columns import AnyColumn, Column, column_of
+from ._columns import ALIGNMENTS, AnyColumn, Column, column_of
 from ._diagnostics import diagnostics_of
 from ._errors import Diagnostic, Error
 from ._handle import Handle, argument, number_argument, path_argument
@@ -91,7 +92,8 @@ def table_of_file_to(destination: Destination, file: DataFile,
     """Writes a table of a data file to a path or a binary file object; returns the diagnostics.
 
     Rows are written and forgotten, unless they are sorted: a file of any length takes the same
-    memory. A document appears whole, in the place of one that was there. See `table_of_file`.
+    memory. A document appears whole, in the place of one that was there, but never in that of
+    the data: a path that leads to its file is an `Error`. See `table_of_file`.
     """
     settings = settings_of(title, heading, page, margin, stripe, border, stylesheet, header, footer)
     settings += _settings(columns, sort, group_by, group_pages, total, total_label, locale,
@@ -122,7 +124,7 @@ class FileTable(Handle):
         self._call(lib.quorvane_table_begin)
         self._call(lib.quorvane_table_finish)
         rendered = Rendered(self._bytes(lib.quorvane_table_take))
-        rendered.diagnostics = diagnostics_of("table", self._pointer)
+        rendered.diagnostics = self._found()
         return rendered
 
     def write_to(self, destination: Destination) -> Tuple[Diagnostic, ...]:
@@ -135,6 +137,9 @@ class FileTable(Handle):
             target = Target(destination, self._raised)  # type: ignore[arg-type]
             self._call(lib.quorvane_table_begin_to, target.callback, c_void_p())
             self._call(lib.quorvane_table_finish)
+        return self._found()
+
+    def _found(self) -> Tuple[Diagnostic, ...]:
         return diagnostics_of("table", self._pointer)
 
     def __enter__(self) -> FileTable:
@@ -149,6 +154,9 @@ def _settings(columns: Optional[FileColumns], sort: str, group_by: str, group_pa
               encoding: str, limit: Optional[int], keep_going: bool) -> List[Setting]:
     """The options of data. An empty text is the default."""
     totals = [total] if isinstance(total, str) else list(total)
+    if "" in totals and total != "":
+        # The library would remove the others.
+        raise Error("A field in total has no name.", "wrong-value")
     texts = [(_GROUP_PAGES, yes_or_no(group_pages)), (_COLUMNS, _columns_text(columns)),
              (_LOCALE, locale), (_DELIMITER, delimiter), (_ENCODING, encoding), (_SORT, sort),
              (_GROUP_BY, group_by), *((_TOTAL, name) for name in totals),
@@ -168,11 +176,19 @@ def _columns_text(columns: Optional[FileColumns]) -> str:
     return ",".join(texts)
 
 
+# In a list of columns, another text would be a heading, a filter or a column.
+_WIDTH = re.compile(r"([0-9]+\.?[0-9]*|\.[0-9]+)( ?%|mm|cm|in|pt)")
+
+
 def _column_text(column: Column) -> str:
     if column.format is not None:
         raise Error(f"The column {column.name!r} has a format, which is for rows of Python. Write "
                     "the columns as a text with filters, such as \"Price:money:2\".",
                     "wrong-column")
+    if column.width and not _WIDTH.fullmatch(column.width):
+        raise Error(f"{column.width!r} is not the width of a column; write a number with %, mm, "
+                    "cm, in or pt.", "wrong-column")
+    choice(column.align, ALIGNMENTS, "alignment")
     parts = [_quoted(column.name), _quoted(column.heading), column.width, column.align]
     return ":".join(part for part in parts if part)
 
