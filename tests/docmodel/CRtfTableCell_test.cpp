@@ -139,9 +139,9 @@ TEST_F(TableCell, WritesAnyColorAsItsNumber) {
 TEST_F(TableCell, KeepsAnyColorAndAlignment) {
     for (const std::int32_t number : {127, 128, -127, -128, -129, INT32_MAX, INT32_MIN, 0}) {
         first()->setBackColor(color(number));
-        first()->setAlign(static_cast<tCellAlign>(-(number + 1)));
+        first()->setAlign(static_cast<tCellAlign>(~number));
         EXPECT_EQ(first()->BackColor(), number);
-        EXPECT_EQ(first()->Align(), -(number + 1));
+        EXPECT_EQ(first()->Align(), ~number);
     }
 }
 
