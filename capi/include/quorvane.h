@@ -101,8 +101,8 @@ typedef struct quorvane_error {
     /** What the call returned. */
     quorvane_status status;
     /**
-     * The number of the system's error (see `RunTimeError` and `tErrorLevel` of the C++ library);
-     * 0 if there is none.
+     * The number of this error in the C++ library (see `RunTimeError` and `tErrorLevel` there); 0
+     * if it has none.
      */
     int number;
     /** The kind of error, such as "wrong-value": see docs/c.md. */
@@ -339,7 +339,10 @@ typedef enum quorvane_align {
     QUORVANE_ALIGN_JUSTIFIED = 4
 } quorvane_align;
 
-/** The options of a table. Lengths, colors and borders are as in docs/extended-language.md. */
+/**
+ * The options of a table. Lengths, colors and borders are as in docs/extended-language.md; a length
+ * without a unit is in twips.
+ */
 typedef enum quorvane_table_option {
     /** A row above the heading, on every page; empty by default for none. */
     QUORVANE_TABLE_TITLE = 0,
@@ -348,7 +351,7 @@ typedef enum quorvane_table_option {
     QUORVANE_TABLE_HEADING = 1,
     /** A page such as "letter" or "a4-landscape"; "a4" by default. */
     QUORVANE_TABLE_PAGE = 2,
-    /** The four margins, a length; "2cm" by default. */
+    /** The four margins, as a length; "2cm" by default. */
     QUORVANE_TABLE_MARGIN = 3,
     /** The background of every second row, a color; "#f2f6fa" by default, "none" for none. */
     QUORVANE_TABLE_STRIPE = 4,
@@ -377,7 +380,7 @@ typedef enum quorvane_table_option {
     QUORVANE_TABLE_COLUMNS = 14,
     /** How filters write numbers, and how the data has them: "de-DE", or a sample. */
     QUORVANE_TABLE_LOCALE = 15,
-    /** What stands between the fields of CSV: one character, or "tab"; found by default. */
+    /** What is between the fields of CSV: one character, or "tab"; detected by default. */
     QUORVANE_TABLE_DELIMITER = 16,
     /** "auto", the default, "utf-8" or "windows-1252". */
     QUORVANE_TABLE_ENCODING = 17,
@@ -397,9 +400,9 @@ typedef enum quorvane_table_option {
 
 /** What kind of text data is in. */
 typedef enum quorvane_data_format {
-    /** The extension of its name says it, or its beginning. */
+    /** The extension of its name decides, or its beginning. */
     QUORVANE_ANY_DATA = 0,
-    /** Rows with a delimiter between the fields, of which the first has the names. */
+    /** Rows with a delimiter between the fields; the first row has the names. */
     QUORVANE_CSV = 1,
     /** A JSON array of objects, or JSON Lines. */
     QUORVANE_JSON = 2
@@ -420,7 +423,8 @@ QUORVANE_API const char* quorvane_table_error_text(const quorvane_table* table);
 /**
  * Adds a column: the text in the heading row, its width as percent ("20%") or a length ("3cm") or
  * empty, and the alignment. Either all columns have a width or none has, unless
- * `quorvane_table_fit_columns` fits the others. `QUORVANE_WRONG_CALL` after the table was begun.
+ * `quorvane_table_fit_columns` fits the others. A table has 1 to 63 columns.
+ * `QUORVANE_WRONG_CALL` after the table was begun.
  */
 QUORVANE_API quorvane_status quorvane_table_add_column(quorvane_table* table, const char* heading,
                                                        size_t heading_length, const char* width,
@@ -431,9 +435,9 @@ QUORVANE_API quorvane_status quorvane_table_set(quorvane_table* table, int optio
 
 /**
  * Makes columns as wide as the first 1,000 rows ask for, where they have no width. Columns of
- * numbers without an alignment are at the right, and a wide table gets a page in landscape unless
+ * numbers without an alignment are right-aligned, and a wide table gets a page in landscape unless
  * `QUORVANE_TABLE_PAGE` was set. These rows, or the first megabyte of them, are kept and then
- * written; those after them are not kept. The columns of data are always as wide as that.
+ * written; those after them are not kept. The columns of data are always fitted.
  */
 QUORVANE_API quorvane_status quorvane_table_fit_columns(quorvane_table* table);
 /**
