@@ -55,7 +55,7 @@ class Error(Exception):
     column: Optional[int]
     """The column in characters, from 1."""
     number: int
-    """The number of the system's error, 0 if there is none."""
+    """The number of this error in the C++ library, 0 if it has none."""
     diagnostics: Tuple[Diagnostic, ...]
     """Everything that was found in a text; the error itself is the first error among it. For a
     table of a file, the rows that were left out before the error."""
