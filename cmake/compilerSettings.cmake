@@ -37,7 +37,8 @@ if(QUORVANE_SANITIZE)
     add_link_options(-fsanitize=address,undefined)
     # What the fuzzers learn from. It does not concern the tests.
     if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
-        add_compile_options(-fsanitize=fuzzer-no-link)
+        # GCC defines the macro itself.
+        add_compile_options(-fsanitize=fuzzer-no-link -D__SANITIZE_ADDRESS__)
     endif()
 endif()
 if(QUORVANE_SANITIZE_THREADS)
