@@ -342,18 +342,26 @@ TEST(DataTable, DoesNotReplaceItsData) {
 /// True if this process has a file open.
 bool isOpen(const std::filesystem::path& file) {
     namespace fs = std::filesystem;
+#ifdef _WIN32
+    // Windows renames no file that a program reads.
+    const fs::path other = file.string() + ".renamed";
+    std::error_code failure;
+    fs::rename(file, other, failure);
+    if (!failure) {
+        fs::rename(other, file);
+    }
+    return static_cast<bool>(failure);
+#else
     const fs::path whole = fs::canonical(file);
     const fs::directory_iterator all("/proc/self/fd");
     return std::any_of(begin(all), end(all), [&](const fs::directory_entry& entry) {
         std::error_code failure;
         return fs::read_symlink(entry, failure) == whole;
     });
+#endif
 }
 
 TEST(DataTable, ClosesItsDataWhenItIsFinished) {
-    if (!std::filesystem::exists("/proc/self/fd")) {
-        GTEST_SKIP() << "this system has no /proc/self/fd";
-    }
     const std::string path = ::testing::TempDir() + "/quorvane-closed.csv";
     const auto endsWith = [&](const std::string& text, quorvane_status status) {
         std::ofstream(path, std::ios::binary) << text;

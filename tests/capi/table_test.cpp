@@ -398,6 +398,7 @@ TEST(FittedTable, HasEvenColumnsWhereThereIsNoRoomForOthers) {
     EXPECT_EQ(quorvane_table_finish(table.get()), QUORVANE_OK) << errorOf(table);
     std::ifstream file(path, std::ios::binary);
     const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+    file.close();
     const TableSetup setup{
         .columns = {{"Article", "97%"}, {"a", "1%", eRight}, {"b", "1%"}, {"c", "1%"}},
         .page = "letter"};
