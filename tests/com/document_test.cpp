@@ -427,6 +427,18 @@ TEST_F(ComDocument, TakesNullPointersForEmptyTexts) {
     EXPECT_EQ(document_->Table(VARIANT{}, nullptr, nullptr, nullptr), wrongValue);
 }
 
+TEST_F(ComDocument, AppendsRtfAsItIsAndRefusesWhatWouldBreakTheDocument) {
+    const LateBound row(late_.call("AddRow", {"{x}"}).value.object());
+    const LateBound paragraph = row.object("Cells", {1}).object("Paragraphs", {1});
+
+    EXPECT_TRUE(paragraph.call("AddRtf", {"{\\b y}"}).succeeded());
+    EXPECT_EQ(paragraph.call("AddRtf", {"}"}).error.number, wrongValue);
+    EXPECT_EQ(paragraph.call("AddRtf", {"\\row"}).error.number, wrongValue);
+
+    EXPECT_EQ(paragraph.get("Rtf").value.text(), "\\{x\\}{\\b y}");
+    EXPECT_THAT(rtf(), HasSubstr("\\{x\\}{\\b y}\\cell"));
+}
+
 TEST_F(ComDocument, RefusesAPictureThatIsNone) {
     const LateBound row(late_.call("AddRow", {"x"}).value.object());
 
